@@ -1,0 +1,20 @@
+# Warnings are errors, in every file of the house, with both compilers.
+add_library(corvelle_options INTERFACE)
+target_compile_options(corvelle_options INTERFACE
+  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wno-sign-conversion -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wimplicit-fallthrough
+  # Twips are compared exactly in places, so the compiler may not fuse or reorder float arithmetic.
+  -ffp-contract=off)
+# A struct whose fields all have defaults is meant to be filled by naming only some of them.
+target_compile_options(corvelle_options INTERFACE -Wno-missing-field-initializers)
+if(CORVELLE_SANITIZE)
+  target_compile_options(corvelle_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(corvelle_options INTERFACE -fsanitize=address,undefined)
+  # The optimiser sees paths through instrumented code that do not exist.
+  target_compile_options(corvelle_options INTERFACE -Wno-null-dereference)
+endif()
+if(WIN32)
+  target_compile_definitions(corvelle_options INTERFACE
+    UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
+endif()

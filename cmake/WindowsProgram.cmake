@@ -1,0 +1,13 @@
+# corvelle.exe itself.
+if(EXISTS ${PROJECT_SOURCE_DIR}/src/main.cpp)
+  add_executable(corvelle WIN32 src/main.cpp)
+  file(GLOB resources CONFIGURE_DEPENDS src/win32/*.rc)
+  target_sources(corvelle PRIVATE ${resources})
+  target_link_libraries(corvelle PRIVATE corvelle_options corvelle_win32 corvelle_toolbar
+    corvelle_menus gdi32 user32 shell32 comctl32 ole32 advapi32 uuid)
+  set_target_properties(corvelle PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+  target_link_options(corvelle PRIVATE $<$<NOT:$<CONFIG:Debug>>:-s>)
+endif()
+
+include(${CMAKE_CURRENT_LIST_DIR}/PackageIcons.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/PackageFolder.cmake)
