@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace corvelle {
+
+/// Sorts texts in ascending order without regard to case; those that differ in case only stand in
+/// the order of their bytes, so that the result never depends on the order before.
+void SortTexts(std::vector<std::string>& texts);
+
+}  // namespace corvelle

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace corvelle {
+
+/// One step through UTF-8 text.
+struct Utf8Step {
+  char32_t Character = 0;  // U+FFFD when the bytes are no character
+  std::size_t Length = 0;  // bytes taken; 1 when they are no character, 0 at the end
+  bool Valid = false;
+};
+
+/// The character at byte `at`.
+[[nodiscard]] Utf8Step NextCharacter(std::string_view text, std::size_t at) noexcept;
+
+/// True for well-formed UTF-8: shortest forms only, no surrogates, nothing above U+10FFFF.
+[[nodiscard]] bool IsValidUtf8(std::string_view text) noexcept;
+
+/// Appends a character; what is none (a surrogate, a value above U+10FFFF) as U+FFFD.
+void AppendUtf8(std::string& text, char32_t character);
+
+/// UTF-16 of the text; each byte that is part of no character becomes U+FFFD.
+[[nodiscard]] std::u16string ToWide(std::string_view text);
+
+/// UTF-8 of UTF-16 text; a surrogate without its partner becomes U+FFFD.
+[[nodiscard]] std::string FromWide(std::u16string_view text);
+
+/// The text with every byte that is part of no character replaced by U+FFFD.
+[[nodiscard]] std::string RepairUtf8(std::string_view text);
+
+/// At most `bytes` bytes of the text, never a part of a character.
+[[nodiscard]] std::string CutUtf8(std::string_view text, std::size_t bytes);
+
+/// The text without its first `count` characters; a byte that is part of none counts as one.
+[[nodiscard]] std::string_view SkipCharacters(std::string_view text, std::size_t count) noexcept;
+
+}  // namespace corvelle

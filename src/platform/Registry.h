@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace corvelle {
+
+enum class RegistryRoot { ClassesRoot, CurrentUser, LocalMachine };
+
+/// The registry, which the program only reads.
+class Registry {
+ public:
+  virtual ~Registry() = default;
+
+  /// A text value, its environment variables expanded where it asks for it; `name` empty is the
+  /// key's default value. Nothing when the key or the value is missing or is no text.
+  [[nodiscard]] virtual std::optional<std::string> Text(RegistryRoot root, std::string_view key,
+                                                        std::string_view name) const = 0;
+};
+
+}  // namespace corvelle
