@@ -1,0 +1,114 @@
+#include "forms/Form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/PictureBox.h"
+
+namespace corvelle::forms {
+
+Form::Form(WindowSystem& windows, std::string name, BorderStyle border, bool inTaskbar)
+    : Surface(windows, std::move(name)), border_(border), inTaskbar_(inTaskbar) {
+  AdoptVisible(false);
+}
+
+Form::~Form() { DestroyWindows(); }
+
+bool Form::CreateWindows() {
+  if (!CreatePeer(PeerKind::Form, nullptr, inTaskbar_)) return false;
+  if (!caption_.empty()) Peer()->SetCaption(caption_);
+  for (PictureBox* box : boxes_) {
+    if (!box->CreatePeer(PeerKind::PictureBox, Peer(), false)) return false;
+    if (box->Visible()) box->Peer()->Show(ShowKind::NoActivate);
+  }
+  return true;
+}
+
+void Form::DestroyWindows() {
+  for (PictureBox* box : boxes_) box->DestroyPeer();
+  DestroyPeer();
+}
+
+bool Form::Load() {
+  if (loaded_) return true;
+  if (!CreateWindows()) {
+    DestroyWindows();
+    return false;
+  }
+  loaded_ = true;
+  const Alive::Watch watch = MakeWatch();
+  Form_Load();
+  return !watch.Gone() && loaded_;
+}
+
+void Form::Unload() {
+  if (!loaded_ || unloading_) return;
+  unloading_ = true;
+  const Alive::Watch watch = MakeWatch();
+  Form_Unload();
+  if (watch.Gone()) return;
+  loaded_ = false;
+  AdoptVisible(false);
+  DestroyWindows();
+  unloading_ = false;
+}
+
+void Form::SetCaption(std::string caption) {
+  if (caption == caption_) return;
+  caption_ = std::move(caption);
+  if (Peer() != nullptr) Peer()->SetCaption(caption_);
+}
+
+void Form::ShowAs(ShowKind kind) {
+  if (!Load()) return;
+  AdoptVisible(true);
+  Peer()->Show(kind);
+}
+
+void Form::Show() { ShowAs(ShowKind::Normal); }
+void Form::ShowNoActivate() { ShowAs(ShowKind::NoActivate); }
+void Form::Minimize() { ShowAs(ShowKind::Minimized); }
+void Form::RestoreWindow() { ShowAs(ShowKind::Restored); }
+
+bool Form::IsMinimized() const { return Peer() != nullptr && Peer()->IsMinimized(); }
+
+void Form::SetForeground() {
+  if (Peer() != nullptr) Peer()->SetForeground();
+}
+
+void Form::SetWindowPos(InsertAfter after, unsigned flags) {
+  if (Peer() == nullptr) return;
+  if ((flags & swp::ShowBit) != 0) AdoptVisible(true);
+  if ((flags & swp::HideBit) != 0) AdoptVisible(false);
+  Peer()->SetWindowPos(after, flags);
+}
+
+void Form::VisibleChanged() {
+  if (Visible()) {
+    // Visible only once the window stands.
+    AdoptVisible(false);
+    Show();
+  } else if (Peer() != nullptr) {
+    Peer()->Show(ShowKind::Hidden);
+  }
+}
+
+void Form::Resized() {
+  Surface::Resized();
+  Form_Resize();
+}
+
+void Form::OnActivated(bool active) {
+  if (active) {
+    Form_Activate();
+  } else {
+    Form_Deactivate();
+  }
+}
+
+std::optional<std::intptr_t> Form::OnMessage(std::uint32_t message, std::uintptr_t wParam,
+                                             std::intptr_t lParam) {
+  return WindowProc(message, wParam, lParam);
+}
+
+}  // namespace corvelle::forms

@@ -1,0 +1,22 @@
+#include "forms/Scale.h"
+
+#include "base/Numbers.h"
+
+namespace corvelle::forms {
+
+int ToPixels(float twips, float twipsPerPixel) noexcept {
+  return RoundToInt(static_cast<double>(twips) / static_cast<double>(twipsPerPixel));
+}
+
+PixelPoint ToPixels(float x, float y, const ScreenInfo& screen) noexcept {
+  return {ToPixels(x, screen.TwipsPerPixelX), ToPixels(y, screen.TwipsPerPixelY)};
+}
+
+PixelRect ToPixels(float left, float top, float width, float height,
+                   const ScreenInfo& screen) noexcept {
+  const PixelPoint topLeft = ToPixels(left, top, screen);
+  const PixelPoint bottomRight = ToPixels(left + width, top + height, screen);
+  return {topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
+}
+
+}  // namespace corvelle::forms

@@ -1,0 +1,230 @@
+#include "forms/Surface.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/Scale.h"
+
+namespace corvelle::forms {
+
+namespace {
+
+PixelSize AtLeastOne(PixelSize size) noexcept {
+  return {std::max(size.width, 1), std::max(size.height, 1)};
+}
+
+PixelRect Whole(PixelSize size) noexcept { return {0, 0, size.width, size.height}; }
+
+/// Around a line of some width, whichever way it goes.
+PixelRect AroundLine(PixelPoint from, PixelPoint to, int width) noexcept {
+  return {std::min(from.x, to.x) - width, std::min(from.y, to.y) - width,
+          std::max(from.x, to.x) + width + 1, std::max(from.y, to.y) + width + 1};
+}
+
+}  // namespace
+
+Surface::Surface(WindowSystem& windows, std::string name) : Window(windows, std::move(name)) {}
+
+Surface::~Surface() = default;
+
+PixelSize Surface::InsideSize() const {
+  const PixelRect bounds = PixelBounds();
+  const int border = BorderPixels();
+  return {std::max(bounds.Width() - 2 * border, 0), std::max(bounds.Height() - 2 * border, 0)};
+}
+
+float Surface::ScaleWidth() const noexcept {
+  const float border = static_cast<float>(2 * BorderPixels()) * Windows().Screen().TwipsPerPixelX;
+  return std::max(Width() - border, 0.0F);
+}
+
+float Surface::ScaleHeight() const noexcept {
+  const float border = static_cast<float>(2 * BorderPixels()) * Windows().Screen().TwipsPerPixelY;
+  return std::max(Height() - border, 0.0F);
+}
+
+void Surface::Invalidate(const PixelRect& part) {
+  if (Peer() == nullptr || !Visible()) return;
+  const PixelRect inside = Intersect(part, Whole(InsideSize()));
+  if (inside.IsEmpty()) return;
+  const int border = BorderPixels();
+  Peer()->Invalidate(
+      {inside.left + border, inside.top + border, inside.right + border, inside.bottom + border});
+}
+
+void Surface::InvalidateAll() {
+  if (Peer() != nullptr && Visible()) Peer()->Invalidate(Whole(PixelBounds().Size()));
+}
+
+// What was drawn.
+
+void Surface::DropDrawing() {
+  persistent_.reset();
+  InvalidateAll();
+}
+
+void Surface::SetBackColor(OleColor colour) {
+  if (colour == backColor_) return;
+  backColor_ = colour;
+  DropDrawing();
+}
+
+void Surface::SetBackground(Picture picture) {
+  background_ = std::move(picture);
+  DropDrawing();
+}
+
+void Surface::Cls() { DropDrawing(); }
+
+void Surface::PaintGround(Canvas& canvas, PixelSize size) const {
+  canvas.FillBox(Whole(size), Resolve(Windows(), backColor_));
+  if (background_) canvas.DrawCanvas(*background_, Whole(background_->Size()), {0, 0});
+}
+
+std::shared_ptr<Canvas> Surface::MakeImage() const {
+  const PixelSize size = AtLeastOne(InsideSize());
+  std::shared_ptr<Canvas> image = Windows().CreateCanvas(size);
+  PaintGround(*image, size);
+  if (persistent_) image->DrawCanvas(*persistent_, Whole(persistent_->Size()), {0, 0});
+  return image;
+}
+
+Canvas& Surface::PersistentToWrite() {
+  const PixelSize size = InsideSize();
+  const bool tooSmall = persistent_ && (persistent_->Size().width < size.width ||
+                                        persistent_->Size().height < size.height);
+  if (!persistent_ || tooSmall) {
+    persistent_ = MakeImage();
+  } else if (persistent_.use_count() > 1) {
+    // Snapshots of the image never change.
+    const PixelSize kept = persistent_->Size();
+    std::shared_ptr<Canvas> copy = Windows().CreateCanvas(kept);
+    copy->DrawCanvas(*persistent_, Whole(kept), {0, 0});
+    persistent_ = std::move(copy);
+  }
+  return *persistent_;
+}
+
+Picture Surface::Image() const {
+  if (persistent_ && persistent_->Size() == AtLeastOne(InsideSize())) return persistent_;
+  return MakeImage();
+}
+
+void Surface::DrawOn(const PixelRect& touched, const std::function<void(Canvas&)>& draw) {
+  if (painting_ != nullptr) {
+    draw(*painting_);
+    return;
+  }
+  if (autoRedraw_) {
+    draw(PersistentToWrite());
+    Invalidate(touched);
+    return;
+  }
+  if (Peer() == nullptr) return;
+  const std::unique_ptr<Canvas> screen = Peer()->ScreenCanvas();
+  if (!screen) return;
+  screen->SetOrigin({BorderPixels(), BorderPixels()});
+  draw(*screen);
+}
+
+void Surface::DrawLine(float x1, float y1, float x2, float y2, OleColor colour, int drawWidth) {
+  const PixelPoint from = ToPixels(x1, y1, Windows().Screen());
+  const PixelPoint to = ToPixels(x2, y2, Windows().Screen());
+  const Rgb rgb = Resolve(Windows(), colour);
+  DrawOn(AroundLine(from, to, drawWidth),
+         [&](Canvas& canvas) { canvas.DrawLine(from, to, rgb, drawWidth); });
+}
+
+void Surface::FillBox(float x1, float y1, float x2, float y2, OleColor colour) {
+  const PixelPoint a = ToPixels(x1, y1, Windows().Screen());
+  const PixelPoint b = ToPixels(x2, y2, Windows().Screen());
+  const PixelRect box{std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x) + 1,
+                      std::max(a.y, b.y) + 1};
+  const Rgb rgb = Resolve(Windows(), colour);
+  DrawOn(box, [&](Canvas& canvas) { canvas.FillBox(box, rgb); });
+}
+
+void Surface::Print(float x, float y, std::string_view text, OleColor colour) {
+  const PixelPoint at = ToPixels(x, y, Windows().Screen());
+  const Rgb rgb = Resolve(Windows(), colour);
+  DrawOn(RectAt(at, Windows().MeasureText(text, font_)),
+         [&](Canvas& canvas) { canvas.DrawString(at, text, font_, rgb); });
+}
+
+void Surface::PaintPicture(const Picture& picture, float x, float y) {
+  if (!picture) return;
+  const PixelPoint at = ToPixels(x, y, Windows().Screen());
+  const PixelRect part = Whole(picture->Size());
+  DrawOn(RectAt(at, part.Size()), [&](Canvas& canvas) { canvas.DrawCanvas(*picture, part, at); });
+}
+
+void Surface::PaintPicture(const Picture& picture, float x, float y, float width, float height) {
+  if (!picture) return;
+  const PixelPoint at = ToPixels(x, y, Windows().Screen());
+  const PixelRect wanted = ToPixels(0, 0, width, height, Windows().Screen());
+  const PixelRect part = Intersect(wanted, Whole(picture->Size()));
+  if (part.IsEmpty()) return;
+  DrawOn(RectAt(at, part.Size()), [&](Canvas& canvas) { canvas.DrawCanvas(*picture, part, at); });
+}
+
+void Surface::DrawPixels(const PixelRect& touched, const std::function<void(Canvas&)>& draw) {
+  DrawOn(touched, draw);
+}
+
+// Painting.
+
+void Surface::OnPaint(Canvas& canvas, const PixelRect& dirty) {
+  const int border = BorderPixels();
+  const PixelSize window = PixelBounds().Size();
+  if (border > 0) PaintBorder(canvas, window);
+  const PixelRect shifted{dirty.left - border, dirty.top - border, dirty.right - border,
+                          dirty.bottom - border};
+  const PixelRect inside = Intersect(shifted, Whole(InsideSize()));
+  if (inside.IsEmpty()) return;
+  // All is put together out of sight, so that nothing flickers and nothing reaches into the border.
+  const std::unique_ptr<Canvas> buffer = Windows().CreateCanvas(inside.Size());
+  buffer->SetOrigin({-inside.left, -inside.top});
+  const Alive::Watch watch = MakeWatch();
+  PaintInside(*buffer, inside);
+  if (watch.Gone() || Peer() == nullptr) return;
+  buffer->SetOrigin({0, 0});
+  canvas.DrawCanvas(*buffer, Whole(inside.Size()), {inside.left + border, inside.top + border});
+}
+
+void Surface::PaintInside(Canvas& canvas, const PixelRect& dirty) {
+  PaintGround(canvas, InsideSize());
+  if (persistent_) canvas.DrawCanvas(*persistent_, Whole(persistent_->Size()), {0, 0});
+  if (Paint) {
+    const std::function<void()> handler = Paint;
+    const Alive::Watch watch = MakeWatch();
+    // The handler may let events through, and with them another paint.
+    Canvas* const before = std::exchange(painting_, &canvas);
+    handler();
+    if (watch.Gone()) return;
+    painting_ = before;
+  }
+  for (const Graphic* graphic : graphics_) {
+    if (graphic->Visible() && !Intersect(graphic->PaintBounds(), dirty).IsEmpty()) {
+      graphic->Paint(canvas);
+    }
+  }
+}
+
+void Surface::PaintBorder(Canvas& canvas, PixelSize window) const {
+  constexpr OleColor kLight3D = 0x80000016;
+  const auto frame = [&](int inset, OleColor leftTop, OleColor rightBottom) {
+    const PixelRect box{inset, inset, window.width - inset, window.height - inset};
+    if (box.IsEmpty()) return;
+    const Rgb light = Resolve(Windows(), leftTop);
+    const Rgb dark = Resolve(Windows(), rightBottom);
+    canvas.FillBox({box.left, box.top, box.right - 1, box.top + 1}, light);
+    canvas.FillBox({box.left, box.top, box.left + 1, box.bottom - 1}, light);
+    canvas.FillBox({box.left, box.bottom - 1, box.right, box.bottom}, dark);
+    canvas.FillBox({box.right - 1, box.top, box.right, box.bottom}, dark);
+  };
+  frame(0, kLight3D, color::DarkShadow3D);
+  frame(1, color::Highlight3D, color::ButtonShadow);
+  frame(2, color::ButtonFace, color::ButtonFace);
+}
+
+}  // namespace corvelle::forms

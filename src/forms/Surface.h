@@ -1,0 +1,124 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/Graphic.h"
+#include "forms/Window.h"
+
+namespace corvelle::forms {
+
+/// A window that can be drawn on and that holds controls. What is drawn while AutoRedraw is on goes
+/// into a persistent image that every repaint brings back; what is drawn while it is off goes to
+/// the screen and lasts until the next paint. From back to front a paint shows the back colour, the
+/// Picture, the persistent image, what the paint handler draws, and the controls without a window.
+/// Measures are twips inside the border.
+class Surface : public Window {
+ public:
+  ~Surface() override;
+
+  OleColor BackColor() const noexcept { return backColor_; }
+  /// Wipes out what was drawn.
+  void SetBackColor(OleColor colour);
+  bool AutoRedraw() const noexcept { return autoRedraw_; }
+  void SetAutoRedraw(bool autoRedraw) noexcept { autoRedraw_ = autoRedraw; }
+  const FontSpec& Font() const noexcept { return font_; }
+  void SetFont(FontSpec font) { font_ = std::move(font); }
+
+  /// Wipes out all that was drawn; the Picture stays.
+  void Cls();
+  /// From one point to another, the last pixel left out; `drawWidth` in pixels.
+  void DrawLine(float x1, float y1, float x2, float y2, OleColor colour, int drawWidth = 1);
+  /// A filled box, both corners included.
+  void FillBox(float x1, float y1, float x2, float y2, OleColor colour);
+  /// One line of text in the surface's font, "&" as it stands.
+  void Print(float x, float y, std::string_view text, OleColor colour);
+  void PaintPicture(const Picture& picture, float x, float y);
+  /// The part of `picture` that is `width` by `height` from its upper left corner.
+  void PaintPicture(const Picture& picture, float x, float y, float width, float height);
+
+  /// Draws by pixels on whatever the surface draws on now: `draw` gets a canvas in the surface's
+  /// own pixel coordinates (for icons), or is not called when there is nothing to draw on.
+  void DrawPixels(const PixelRect& touched, const std::function<void(Canvas&)>& draw);
+
+  /// A copy of the persistent image, of the size of the window's inside.
+  [[nodiscard]] Picture Image() const;
+  /// A background under the persistent image; empty for none. Setting it clears what was drawn.
+  void SetBackground(Picture picture);
+  const Picture& Background() const noexcept { return background_; }
+
+  /// The inside of the window, in twips.
+  [[nodiscard]] float ScaleWidth() const noexcept;
+  [[nodiscard]] float ScaleHeight() const noexcept;
+
+  /// Repaints a part at the next paint. Pixels of the inside.
+  void Invalidate(const PixelRect& part);
+  void InvalidateAll();
+
+  /// Mouse events in twips of the inside. Whoever was pressed gets the moves and the release.
+  std::function<void(MouseButton, ShiftState, float, float)> MouseDown;
+  std::function<void(MouseButton, ShiftState, float, float)> MouseMove;
+  std::function<void(MouseButton, ShiftState, float, float)> MouseUp;
+  std::function<void()> DblClick;
+  /// Asked to draw what is not in the persistent image.
+  std::function<void()> Paint;
+
+  /// Controls without a window, from the back to the front.
+  const std::vector<Graphic*>& Graphics() const noexcept { return graphics_; }
+
+ protected:
+  Surface(WindowSystem& windows, std::string name);
+
+  /// Pixels of border on each side that the surface paints itself; 0 for most.
+  [[nodiscard]] virtual int BorderPixels() const noexcept { return 0; }
+
+  void OnMouseDown(MouseButton button, ShiftState shift, PixelPoint at) override;
+  void OnMouseMove(MouseButton down, ShiftState shift, PixelPoint at) override;
+  void OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) override;
+  void OnDoubleClick(PixelPoint at) override;
+  void OnPaint(Canvas& canvas, const PixelRect& dirty) override;
+  void Resized() override { InvalidateAll(); }
+
+ private:
+  friend class Graphic;
+  using MouseHandler = std::function<void(MouseButton, ShiftState, float, float)>;
+
+  void Add(Graphic& graphic);
+  void Remove(Graphic& graphic);
+  void Restack(Graphic& graphic, ZPlace place);
+  /// The graphic will get no more of the press that is going on.
+  void DropCapture(const Graphic& graphic) noexcept;
+
+  [[nodiscard]] PixelSize InsideSize() const;
+  [[nodiscard]] Graphic* GraphicAt(PixelPoint inside) const;
+  /// Who gets a mouse event at a point of the window: a graphic, or null for the surface itself.
+  [[nodiscard]] Graphic* TargetAt(PixelPoint at) const;
+  void StartPress(MouseButton button, Graphic* target) noexcept;
+  void CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
+                 MouseHandler Surface::*ofSurface, MouseButton button, ShiftState shift,
+                 PixelPoint at);
+
+  void DrawOn(const PixelRect& touched, const std::function<void(Canvas&)>& draw);
+  /// A canvas of the inside's size that shows the ground and what was drawn.
+  [[nodiscard]] std::shared_ptr<Canvas> MakeImage() const;
+  Canvas& PersistentToWrite();
+  void DropDrawing();
+  void PaintGround(Canvas& canvas, PixelSize size) const;
+  void PaintInside(Canvas& canvas, const PixelRect& dirty);
+  void PaintBorder(Canvas& canvas, PixelSize window) const;
+
+  std::vector<Graphic*> graphics_;
+  Graphic* captured_ = nullptr;           // the graphic that was pressed
+  MouseButton down_ = MouseButton::None;  // buttons down since a press on whom it concerns
+  OleColor backColor_ = color::ButtonFace;
+  FontSpec font_;
+  bool autoRedraw_ = false;
+  Picture background_;
+  std::shared_ptr<Canvas> persistent_;  // null until something is drawn; shared with its snapshots
+  Canvas* painting_ = nullptr;          // set while the paint handler runs
+};
+
+}  // namespace corvelle::forms

@@ -1,0 +1,77 @@
+#include "forms/Window.h"
+
+#include "forms/Scale.h"
+
+namespace corvelle::forms {
+
+Window::~Window() { DestroyPeer(); }
+
+WindowId Window::hWnd() const noexcept { return peer_ ? peer_->Id() : kNoWindow; }
+
+void Window::Refresh() {
+  if (peer_) peer_->PaintNow();
+}
+
+void Window::SetFocus() {
+  if (peer_) peer_->SetFocus();
+}
+
+void Window::ZOrder(ZPlace place) {
+  if (peer_) peer_->SetZOrder(place);
+}
+
+PixelRect Window::PixelBounds() const {
+  const PixelRect bounds = ToPixels(Left(), Top(), Width(), Height(), windows_.Screen());
+  const PixelPoint origin = ContainerOrigin();
+  return RectAt({bounds.left + origin.x, bounds.top + origin.y}, bounds.Size());
+}
+
+bool Window::CreatePeer(PeerKind kind, WindowPeer* parent, bool inTaskbar) {
+  shownBounds_ = PixelBounds();
+  peer_ = windows_.CreatePeer({.Kind = kind,
+                               .ClassName = Name(),
+                               .Parent = parent,
+                               .Bounds = shownBounds_,
+                               .InTaskbar = inTaskbar},
+                              *this);
+  if (!peer_) return false;
+  if (!Enabled()) peer_->SetEnabled(false);
+  return true;
+}
+
+void Window::DestroyPeer() {
+  // What the destruction brings about finds the window without a peer already.
+  const std::unique_ptr<WindowPeer> dying = std::move(peer_);
+}
+
+void Window::VisibleChanged() {
+  if (peer_) peer_->Show(Visible() ? ShowKind::NoActivate : ShowKind::Hidden);
+}
+
+void Window::EnabledChanged() {
+  if (peer_) peer_->SetEnabled(Enabled());
+}
+
+void Window::BoundsChanged(float /*oldLeft*/, float /*oldTop*/, float /*oldWidth*/,
+                           float /*oldHeight*/) {
+  if (!peer_) return;
+  const PixelRect wanted = PixelBounds();
+  if (wanted != shownBounds_) peer_->SetBounds(wanted);
+}
+
+void Window::OnMoved(const PixelRect& bounds) {
+  const PixelSize oldSize = shownBounds_.Size();
+  shownBounds_ = bounds;
+  // Twips finer than a pixel survive the report of what was asked for.
+  if (bounds != PixelBounds()) {
+    const ScreenInfo screen = windows_.Screen();
+    const PixelPoint origin = ContainerOrigin();
+    AdoptBounds(static_cast<float>(bounds.left - origin.x) * screen.TwipsPerPixelX,
+                static_cast<float>(bounds.top - origin.y) * screen.TwipsPerPixelY,
+                static_cast<float>(bounds.Width()) * screen.TwipsPerPixelX,
+                static_cast<float>(bounds.Height()) * screen.TwipsPerPixelY);
+  }
+  if (bounds.Size() != oldSize) Resized();
+}
+
+}  // namespace corvelle::forms

@@ -1,0 +1,160 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/Geometry.h"
+#include "forms/Types.h"
+#include "platform/Canvas.h"
+#include "platform/WindowId.h"
+
+namespace corvelle::forms {
+
+/// What a backend tells the portable object that stands behind a window. Points are pixels from the
+/// upper left corner of the window.
+///
+/// Any of these calls may destroy the peer that makes it, and other peers with it: the backend
+/// keeps the call's arguments (the canvas too) until the call returns, and touches neither peer nor
+/// events afterwards without asking whether they still stand. A peer whose destructor has begun
+/// tells its events nothing more.
+///
+/// Mouse: the window that is pressed gets all moves and releases until every button is up, outside
+/// its bounds too; hiding or destroying it ends that. A press first makes the window active. The
+/// second press of a double click of the left button comes as OnDoubleClick instead of OnMouseDown,
+/// its release as OnMouseUp; the other buttons know no double click.
+class WindowEvents {
+ public:
+  virtual ~WindowEvents() = default;
+
+  virtual void OnMouseDown(MouseButton button, ShiftState shift, PixelPoint at) = 0;
+  virtual void OnMouseMove(MouseButton down, ShiftState shift, PixelPoint at) = 0;
+  virtual void OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) = 0;
+  virtual void OnDoubleClick(PixelPoint at) = 0;
+  virtual void OnKeyDown(int keyCode, ShiftState shift) = 0;
+  /// A typed character; control characters (Enter 13, Esc 27) come here too.
+  virtual void OnKeyPress(char32_t character) = 0;
+
+  /// Paints `dirty` (pixels of the window) onto `canvas`, whose origin is set so that the window's
+  /// own coordinates can be used and is left as it is. All of `dirty` is painted over, the inside
+  /// by one DrawCanvas, so that the backend needs no buffer against flicker.
+  virtual void OnPaint(Canvas& canvas, const PixelRect& dirty) = 0;
+
+  /// The window has another place (relative to its parent or the screen) or size, whoever moved it.
+  virtual void OnMoved(const PixelRect& bounds) = 0;
+  virtual void OnActivated(bool active) = 0;
+  /// The user or another program asks the window to close; the form decides.
+  virtual void OnClose() = 0;
+  /// The session of Windows ends now; all must be saved when this returns.
+  virtual void OnSessionEnd() = 0;
+
+  /// Any message before the backend deals with it, for top-level windows. An answer ends the
+  /// message there.
+  virtual std::optional<std::intptr_t> OnMessage(std::uint32_t message, std::uintptr_t wParam,
+                                                 std::intptr_t lParam) = 0;
+};
+
+/// The backend's side of one window: shows what the portable object says. Made hidden, destroyed
+/// with its owner. All measures are pixels. SetBounds reports the new bounds through OnMoved before
+/// it returns; so do Show, SetForeground and SetWindowPos a change of activation through
+/// OnActivated.
+class WindowPeer {
+ public:
+  virtual ~WindowPeer() = default;
+
+  [[nodiscard]] virtual WindowId Id() const noexcept = 0;
+
+  virtual void SetBounds(const PixelRect& bounds) = 0;
+  /// Coming up puts a top-level window before the others of its band. Normal, and Restored, make it
+  /// active as well; for a child window all kinds but Hidden are one.
+  virtual void Show(ShowKind kind) = 0;
+  [[nodiscard]] virtual bool IsMinimized() const = 0;
+  virtual void SetCaption(std::string_view caption) = 0;
+  virtual void SetEnabled(bool enabled) = 0;
+
+  /// Notes that `part` must be painted; it is, once, at the next paint. Nothing is noted for a
+  /// window that is not visible; coming up, it is painted whole.
+  virtual void Invalidate(const PixelRect& part) = 0;
+  /// Paints now what is noted, if the window is visible.
+  virtual void PaintNow() = 0;
+
+  virtual void SetFocus() = 0;
+  /// Makes the window the foreground window of the whole desktop, if the system lets it.
+  virtual void SetForeground() = 0;
+  virtual void SetZOrder(ZPlace place) = 0;
+  virtual void SetWindowPos(InsertAfter after, unsigned flags) = 0;
+
+  /// A canvas on the window's pixels on the screen, for drawing that the next paint wipes out;
+  /// null while the window is not visible.
+  virtual std::unique_ptr<Canvas> ScreenCanvas() = 0;
+};
+
+enum class PeerKind {
+  Form,        // a top-level window without a frame of the system
+  PictureBox,  // a child window
+};
+
+/// What a backend needs to make a window. On Windows the class of the window bears `ClassName`, so
+/// that other programs can find it.
+struct PeerSpec {
+  PeerKind Kind = PeerKind::Form;
+  std::string ClassName;
+  WindowPeer* Parent = nullptr;  // of a PictureBox
+  PixelRect Bounds;
+  bool InTaskbar = false;  // a form that shows a button in the task bar when it is visible
+};
+
+using TimerId = std::uint32_t;
+
+/// A home for forms: the real Windows or the simulated desktop. One thread.
+class WindowSystem {
+ public:
+  virtual ~WindowSystem() = default;
+
+  /// Makes a hidden window that reports to `events`, which outlives the peer. Null when the system
+  /// refuses.
+  virtual std::unique_ptr<WindowPeer> CreatePeer(const PeerSpec& spec, WindowEvents& events) = 0;
+
+  /// A bitmap of this size in pixels (at least 1 by 1), all black.
+  virtual std::unique_ptr<Canvas> CreateCanvas(PixelSize size) = 0;
+
+  /// Size in pixels of one line of text as DrawString draws it. The height does not depend on the
+  /// text.
+  [[nodiscard]] virtual PixelSize MeasureText(std::string_view text, const FontSpec& font) = 0;
+
+  /// The colour `index` of GetSysColor.
+  [[nodiscard]] virtual Rgb SystemColor(int index) const = 0;
+
+  [[nodiscard]] virtual ScreenInfo Screen() const = 0;
+
+  /// The pointer's shape over all windows of the program, until it is set again.
+  virtual void SetMousePointer(MousePointer shape) = 0;
+  [[nodiscard]] virtual MousePointer CurrentMousePointer() const = 0;
+
+  /// Runs the events that are waiting, timers that are due included, and returns.
+  virtual void DoEvents() = 0;
+  /// Runs events until Quit. Returns at once if Quit was called before.
+  virtual void Run() = 0;
+  virtual void Quit() = 0;
+
+  /// Calls `tick` each `milliseconds` (at least 1) until stopped. A timer that is late does not
+  /// catch up. `tick` may stop its own timer.
+  virtual TimerId StartTimer(int milliseconds, std::function<void()> tick) = 0;
+  virtual void StopTimer(TimerId timer) = 0;
+
+  /// Milliseconds since some moment before the program started; never goes back.
+  [[nodiscard]] virtual std::int64_t Now() const = 0;
+
+  /// A message box with the buttons and icon of `flags` (see msgbox), for `owner` (none: the
+  /// desktop). Events run while it is up. Returns the button's number.
+  virtual int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
+                          unsigned flags) = 0;
+};
+
+/// The colour to paint with now.
+[[nodiscard]] Rgb Resolve(const WindowSystem& windows, OleColor colour);
+
+}  // namespace corvelle::forms

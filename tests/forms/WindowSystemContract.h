@@ -1,0 +1,708 @@
+#pragma once
+
+// What every home for forms must do, the simulated desktop and Windows alike. A test program
+// includes this header once and instantiates the suites with its own homes.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/WindowSystem.h"
+#include "platform/DesktopWindows.h"
+
+namespace corvelle::forms {
+
+/// A home for forms under test.
+class ContractHome {
+ public:
+  virtual ~ContractHome() = default;
+  virtual WindowSystem& Windows() = 0;
+  virtual DesktopWindows& Desktop() = 0;
+  /// Lets time pass, with events running. The home may take longer.
+  virtual void Wait(int milliseconds) = 0;
+};
+
+using ContractHomeFactory = std::function<std::unique_ptr<ContractHome>()>;
+
+/// Notes what a window is told, and does in it what a test wants.
+class EventNotes final : public WindowEvents {
+ public:
+  std::vector<std::string> Seen;
+  int Paints = 0;
+  PixelRect LastDirty;
+  std::vector<PixelRect> Moves;
+  std::function<void(Canvas&)> WhenPainted;
+  std::function<void()> WhenPressed;
+  std::function<void()> WhenMoved;
+  std::function<void()> WhenClosed;
+  std::function<std::optional<std::intptr_t>(std::uint32_t, std::uintptr_t, std::intptr_t)>
+      Procedure;
+
+  void OnMouseDown(MouseButton button, ShiftState, PixelPoint at) override {
+    Note("down " + std::to_string(static_cast<unsigned>(button)), at);
+    if (WhenPressed) WhenPressed();
+  }
+  void OnMouseMove(MouseButton down, ShiftState, PixelPoint at) override {
+    Note("move " + std::to_string(static_cast<unsigned>(down)), at);
+  }
+  void OnMouseUp(MouseButton button, ShiftState, PixelPoint at) override {
+    Note("up " + std::to_string(static_cast<unsigned>(button)), at);
+  }
+  void OnDoubleClick(PixelPoint at) override { Note("double", at); }
+  void OnKeyDown(int keyCode, ShiftState) override {
+    Seen.push_back("key " + std::to_string(keyCode));
+  }
+  void OnKeyPress(char32_t character) override {
+    Seen.push_back("char " + std::to_string(static_cast<unsigned>(character)));
+  }
+  void OnPaint(Canvas& canvas, const PixelRect& dirty) override {
+    ++Paints;
+    LastDirty = dirty;
+    canvas.FillBox(dirty, 0x00C0C0C0);
+    if (WhenPainted) WhenPainted(canvas);
+  }
+  void OnMoved(const PixelRect& bounds) override {
+    Moves.push_back(bounds);
+    if (WhenMoved) WhenMoved();
+  }
+  void OnActivated(bool active) override { Seen.emplace_back(active ? "active" : "inactive"); }
+  void OnClose() override {
+    Seen.emplace_back("close");
+    if (WhenClosed) WhenClosed();
+  }
+  void OnSessionEnd() override { Seen.emplace_back("session end"); }
+  std::optional<std::intptr_t> OnMessage(std::uint32_t message, std::uintptr_t wParam,
+                                         std::intptr_t lParam) override {
+    return Procedure ? Procedure(message, wParam, lParam) : std::nullopt;
+  }
+
+  [[nodiscard]] bool Saw(const std::string& what) const {
+    return std::find(Seen.begin(), Seen.end(), what) != Seen.end();
+  }
+
+ private:
+  void Note(const std::string& what, PixelPoint at) {
+    Seen.push_back(what + " " + std::to_string(at.x) + "," + std::to_string(at.y));
+  }
+};
+
+class WindowSystemContract : public testing::TestWithParam<ContractHomeFactory> {
+ protected:
+  static constexpr PixelRect kPlace{200, 150, 400, 250};
+
+  std::unique_ptr<ContractHome> home_ = GetParam()();
+  EventNotes notes_;
+  EventNotes childNotes_;
+
+  [[nodiscard]] WindowSystem& Windows() { return home_->Windows(); }
+  [[nodiscard]] DesktopWindows& Desktop() { return home_->Desktop(); }
+  std::unique_ptr<WindowPeer> Make(WindowEvents& events, const char* name = "CorvelleContract") {
+    return Windows().CreatePeer({.Kind = PeerKind::Form, .ClassName = name, .Bounds = kPlace},
+                                events);
+  }
+  std::unique_ptr<WindowPeer> MakeChild(WindowPeer& parent, const PixelRect& bounds) {
+    return Windows().CreatePeer({.Kind = PeerKind::PictureBox,
+                                 .ClassName = "CorvelleContractBox",
+                                 .Parent = &parent,
+                                 .Bounds = bounds},
+                                childNotes_);
+  }
+  /// Until all that comes of a change has come.
+  void Settle() { home_->Wait(100); }
+  void ShowAndSettle(WindowPeer& peer) {
+    peer.Show(ShowKind::Normal);
+    Settle();
+  }
+};
+
+// Windows.
+
+TEST_P(WindowSystemContract, AWindowIsMadeHiddenWithItsClassAndTellsNothing) {
+  const auto peer = Make(notes_);
+  ASSERT_NE(peer, nullptr);
+  Settle();
+  EXPECT_NE(peer->Id(), kNoWindow);
+  EXPECT_EQ(Desktop().ClassName(peer->Id()), "CorvelleContract");
+  EXPECT_FALSE(Desktop().IsVisible(peer->Id()));
+  EXPECT_FALSE(peer->IsMinimized());
+  EXPECT_EQ(notes_.Paints, 0);
+  EXPECT_FALSE(notes_.Saw("active"));
+}
+
+TEST_P(WindowSystemContract, TheCaptionIsTheWindowsText) {
+  const auto peer = Make(notes_);
+  peer->SetCaption("Caption \xC3\xA4");
+  EXPECT_EQ(Desktop().Text(peer->Id()), "Caption \xC3\xA4");
+}
+
+TEST_P(WindowSystemContract, ShowMakesVisibleActiveAndPaintedAndHideUndoesIt) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  EXPECT_TRUE(Desktop().IsVisible(peer->Id()));
+  EXPECT_TRUE(notes_.Saw("active"));
+  EXPECT_EQ(Desktop().ActiveWindow(), peer->Id());
+  EXPECT_GE(notes_.Paints, 1);
+  peer->Show(ShowKind::Hidden);
+  Settle();
+  EXPECT_FALSE(Desktop().IsVisible(peer->Id()));
+  EXPECT_NE(Desktop().ActiveWindow(), peer->Id());
+}
+
+TEST_P(WindowSystemContract, ShowNoActivateLeavesTheActiveWindow) {
+  const auto first = Make(notes_);
+  ShowAndSettle(*first);
+  EventNotes others;
+  const auto second = Make(others, "CorvelleContract2");
+  second->Show(ShowKind::NoActivate);
+  Settle();
+  EXPECT_TRUE(Desktop().IsVisible(second->Id()));
+  EXPECT_EQ(Desktop().ActiveWindow(), first->Id());
+  EXPECT_FALSE(others.Saw("active"));
+}
+
+TEST_P(WindowSystemContract, AnotherFormThatBecomesActiveMakesTheFirstInactive) {
+  const auto first = Make(notes_);
+  ShowAndSettle(*first);
+  EventNotes others;
+  const auto second = Make(others, "CorvelleContract2");
+  ShowAndSettle(*second);
+  EXPECT_TRUE(notes_.Saw("inactive"));
+  EXPECT_TRUE(others.Saw("active"));
+  first->SetForeground();
+  Settle();
+  EXPECT_EQ(Desktop().ActiveWindow(), first->Id());
+}
+
+TEST_P(WindowSystemContract, SetBoundsTellsTheNewBoundsBeforeItReturnsAndOnlyOnce) {
+  const auto peer = Make(notes_);
+  const PixelRect wanted{50, 60, 350, 180};
+  peer->SetBounds(wanted);
+  EXPECT_EQ(notes_.Moves, std::vector<PixelRect>{wanted});
+  peer->SetBounds(wanted);
+  Settle();
+  EXPECT_EQ(notes_.Moves.size(), 1U);
+}
+
+TEST_P(WindowSystemContract, AWindowMayBeAsSmallAsOnePixel) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  const PixelRect line{10, 10, 310, 11};
+  peer->SetBounds(line);
+  EXPECT_EQ(notes_.Moves.back(), line);
+  const PixelRect dot{10, 10, 11, 11};
+  peer->SetBounds(dot);
+  EXPECT_EQ(notes_.Moves.back(), dot);
+}
+
+TEST_P(WindowSystemContract, AWindowMayStandOutsideTheScreen) {
+  const auto peer = Make(notes_);
+  const PixelRect above{-40, -7, 160, 20};
+  peer->SetBounds(above);
+  EXPECT_EQ(notes_.Moves.back(), above);
+}
+
+TEST_P(WindowSystemContract, TheBoundsOfAChildAreRelativeToItsParent) {
+  const auto peer = Make(notes_);
+  const auto child = MakeChild(*peer, {10, 10, 60, 60});
+  ASSERT_NE(child, nullptr);
+  child->Show(ShowKind::NoActivate);
+  peer->SetWindowPos(InsertAfter::Topmost, swp::KeepActivation);
+  ShowAndSettle(*peer);
+  EXPECT_TRUE(Desktop().IsVisible(child->Id()));
+  EXPECT_EQ(Desktop().WindowAt({kPlace.left + 15, kPlace.top + 15}), child->Id());
+  EXPECT_EQ(Desktop().WindowAt({kPlace.left + 5, kPlace.top + 5}), peer->Id());
+  child->SetBounds({100, 20, 150, 70});
+  EXPECT_EQ(childNotes_.Moves, (std::vector<PixelRect>{{100, 20, 150, 70}}));
+  Settle();
+  EXPECT_EQ(Desktop().WindowAt({kPlace.left + 110, kPlace.top + 30}), child->Id());
+}
+
+TEST_P(WindowSystemContract, AChildIsNotVisibleWhileItsParentIsHidden) {
+  const auto peer = Make(notes_);
+  const auto child = MakeChild(*peer, {10, 10, 60, 60});
+  child->Show(ShowKind::NoActivate);
+  Settle();
+  EXPECT_FALSE(Desktop().IsVisible(child->Id()));
+  EXPECT_EQ(childNotes_.Paints, 0);
+}
+
+TEST_P(WindowSystemContract, MinimizeAndRestore) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  peer->Show(ShowKind::Minimized);
+  Settle();
+  EXPECT_TRUE(peer->IsMinimized());
+  EXPECT_TRUE(Desktop().IsMinimized(peer->Id()));
+  peer->Show(ShowKind::Restored);
+  Settle();
+  EXPECT_FALSE(peer->IsMinimized());
+}
+
+TEST_P(WindowSystemContract, SetWindowPosShowsAndHides) {
+  const auto peer = Make(notes_);
+  peer->SetWindowPos(InsertAfter::Topmost, swp::Show);
+  Settle();
+  EXPECT_TRUE(Desktop().IsVisible(peer->Id()));
+  peer->SetWindowPos(InsertAfter::Topmost, swp::Hide);
+  Settle();
+  EXPECT_FALSE(Desktop().IsVisible(peer->Id()));
+  EXPECT_EQ(notes_.Moves, std::vector<PixelRect>{});
+}
+
+TEST_P(WindowSystemContract, ATopmostWindowComesBeforeOthersInTheList) {
+  const auto first = Make(notes_);
+  EventNotes others;
+  const auto second = Make(others, "CorvelleContract2");
+  first->SetWindowPos(InsertAfter::Topmost, swp::KeepActivation);
+  first->Show(ShowKind::NoActivate);
+  ShowAndSettle(*second);
+  const auto place = [&](WindowId id) {
+    const std::vector<WindowId> all = Desktop().TopLevel();
+    return std::find(all.begin(), all.end(), id) - all.begin();
+  };
+  EXPECT_LT(place(first->Id()), place(second->Id()));
+  first->SetWindowPos(InsertAfter::NotTopmost, swp::KeepActivation);
+  second->SetWindowPos(InsertAfter::Top, swp::KeepActivation);
+  Settle();
+  EXPECT_GT(place(first->Id()), place(second->Id()));
+}
+
+TEST_P(WindowSystemContract, ADestroyedWindowIsGoneAndTellsNothingMore) {
+  auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  const WindowId id = peer->Id();
+  notes_.Seen.clear();
+  peer.reset();
+  Settle();
+  EXPECT_EQ(notes_.Seen, std::vector<std::string>{});
+  EXPECT_EQ(Desktop().ClassName(id), "");
+  EXPECT_FALSE(Desktop().IsVisible(id));
+  const std::vector<WindowId> all = Desktop().TopLevel();
+  EXPECT_EQ(std::count(all.begin(), all.end(), id), 0);
+}
+
+TEST_P(WindowSystemContract, TwoWindowsMayHaveOneClass) {
+  const auto first = Make(notes_);
+  EventNotes others;
+  const auto second = Make(others);
+  ASSERT_NE(second, nullptr);
+  EXPECT_NE(first->Id(), second->Id());
+  EXPECT_EQ(Desktop().ClassName(second->Id()), "CorvelleContract");
+}
+
+// Painting.
+
+TEST_P(WindowSystemContract, WhatIsInvalidIsPaintedOnceWhenEventsAreLetThrough) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  notes_.Paints = 0;
+  peer->Invalidate({10, 10, 20, 20});
+  peer->Invalidate({30, 15, 40, 30});
+  EXPECT_EQ(notes_.Paints, 0);
+  Settle();
+  EXPECT_EQ(notes_.Paints, 1);
+  EXPECT_EQ(notes_.LastDirty, (PixelRect{10, 10, 40, 30}));
+}
+
+TEST_P(WindowSystemContract, PaintNowPaintsAtOnceWhatIsOwed) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  notes_.Paints = 0;
+  peer->PaintNow();
+  EXPECT_EQ(notes_.Paints, 0);
+  peer->Invalidate({0, 0, 5, 5});
+  peer->PaintNow();
+  EXPECT_EQ(notes_.Paints, 1);
+  Settle();
+  EXPECT_EQ(notes_.Paints, 1);
+}
+
+TEST_P(WindowSystemContract, AHiddenWindowOwesNothing) {
+  const auto peer = Make(notes_);
+  peer->Invalidate({0, 0, 50, 50});
+  peer->PaintNow();
+  Settle();
+  EXPECT_EQ(notes_.Paints, 0);
+  EXPECT_EQ(peer->ScreenCanvas(), nullptr);
+}
+
+TEST_P(WindowSystemContract, ThePaintersCanvasHasTheWindowsOwnCoordinates) {
+  const auto peer = Make(notes_);
+  peer->SetWindowPos(InsertAfter::Topmost, swp::KeepActivation);
+  ShowAndSettle(*peer);
+  notes_.WhenPainted = [](Canvas& canvas) { canvas.FillBox({50, 40, 52, 42}, 0x000000FF); };
+  peer->Invalidate({45, 35, 60, 50});
+  peer->PaintNow();
+  const auto screen = peer->ScreenCanvas();
+  ASSERT_NE(screen, nullptr);
+  EXPECT_EQ(screen->PixelAt({50, 40}), 0x000000FFU);
+  EXPECT_EQ(screen->PixelAt({51, 41}), 0x000000FFU);
+  EXPECT_EQ(screen->PixelAt({49, 40}), 0x00C0C0C0U);
+  EXPECT_EQ(screen->PixelAt({52, 42}), 0x00C0C0C0U);
+}
+
+TEST_P(WindowSystemContract, DrawingOnTheScreenIsSeenWithoutAPaint) {
+  const auto peer = Make(notes_);
+  peer->SetWindowPos(InsertAfter::Topmost, swp::KeepActivation);
+  ShowAndSettle(*peer);
+  notes_.Paints = 0;
+  peer->ScreenCanvas()->FillBox({5, 5, 15, 15}, 0x0000FF00);
+  Settle();
+  EXPECT_EQ(notes_.Paints, 0);
+  EXPECT_EQ(peer->ScreenCanvas()->PixelAt({6, 6}), 0x0000FF00U);
+  peer->Invalidate({0, 0, 20, 20});
+  peer->PaintNow();
+  EXPECT_EQ(peer->ScreenCanvas()->PixelAt({6, 6}), 0x00C0C0C0U);
+}
+
+TEST_P(WindowSystemContract, PaintVisibleWindowsSettlesWhatIsOwed) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  notes_.Paints = 0;
+  peer->Invalidate({0, 0, 5, 5});
+  Desktop().PaintVisibleWindows();
+  EXPECT_EQ(notes_.Paints, 1);
+}
+
+// Windows that go away inside what they are told.
+
+TEST_P(WindowSystemContract, AWindowMayBeDestroyedInItsPainting) {
+  auto peer = Make(notes_);
+  notes_.WhenPainted = [&](Canvas& canvas) {
+    peer.reset();
+    canvas.FillBox({0, 0, 5, 5}, 0);
+  };
+  peer->Show(ShowKind::Normal);
+  Settle();
+  EXPECT_EQ(peer, nullptr);
+  EXPECT_EQ(notes_.Paints, 1);
+}
+
+TEST_P(WindowSystemContract, AWindowMayBeDestroyedWhenItIsMoved) {
+  auto peer = Make(notes_);
+  const auto child = MakeChild(*peer, {0, 0, 10, 10});
+  notes_.WhenMoved = [&] { peer.reset(); };
+  peer->SetBounds({0, 0, 10, 10});
+  Settle();
+  EXPECT_EQ(peer, nullptr);
+}
+
+TEST_P(WindowSystemContract, AWindowMayBeDestroyedByAMessage) {
+  auto peer = Make(notes_);
+  const WindowId id = peer->Id();
+  notes_.WhenClosed = [&] { peer.reset(); };
+  Desktop().Send(id, message::Close, 0, 0);
+  Settle();
+  EXPECT_EQ(peer, nullptr);
+}
+
+TEST_P(WindowSystemContract, AWindowMayBeDestroyedInItsWindowProcedure) {
+  auto peer = Make(notes_);
+  const WindowId id = peer->Id();
+  notes_.Procedure = [&](std::uint32_t message, std::uintptr_t,
+                         std::intptr_t) -> std::optional<std::intptr_t> {
+    if (message == message::AppBarCallback) peer.reset();
+    return std::nullopt;
+  };
+  Desktop().Send(id, message::AppBarCallback, 0, 0);
+  Settle();
+  EXPECT_EQ(peer, nullptr);
+}
+
+// Messages.
+
+TEST_P(WindowSystemContract, AMessageIsAnsweredByTheWindowProcedure) {
+  const auto peer = Make(notes_);
+  notes_.Procedure = [](std::uint32_t message, std::uintptr_t wParam,
+                        std::intptr_t lParam) -> std::optional<std::intptr_t> {
+    if (message != message::AppBarCallback) return std::nullopt;
+    return static_cast<std::intptr_t>(wParam) + lParam;
+  };
+  EXPECT_EQ(Desktop().Send(peer->Id(), message::AppBarCallback, 40, 2), 42);
+}
+
+TEST_P(WindowSystemContract, ACloseMessageAsksTheForm) {
+  const auto peer = Make(notes_);
+  Desktop().Send(peer->Id(), message::Close, 0, 0);
+  EXPECT_TRUE(notes_.Saw("close"));
+  EXPECT_EQ(Desktop().ClassName(peer->Id()), "CorvelleContract");
+}
+
+TEST_P(WindowSystemContract, ACloseMessageThatWasAnsweredAsksNobody) {
+  const auto peer = Make(notes_);
+  notes_.Procedure = [](std::uint32_t message, std::uintptr_t,
+                        std::intptr_t) -> std::optional<std::intptr_t> {
+    if (message == message::Close) return 1;
+    return std::nullopt;
+  };
+  EXPECT_EQ(Desktop().Send(peer->Id(), message::Close, 0, 0), 1);
+  EXPECT_FALSE(notes_.Saw("close"));
+}
+
+TEST_P(WindowSystemContract, AMouseMessageFromOutsideIsAMoveAtItsPoint) {
+  const auto peer = Make(notes_);
+  Desktop().Send(peer->Id(), message::MouseMove, 0, (7 << 16) | 513);
+  EXPECT_TRUE(notes_.Saw("move 0 513,7"));
+}
+
+// Time.
+
+TEST_P(WindowSystemContract, ATimerTicksUntilItIsStopped) {
+  int ticks = 0;
+  const TimerId timer = Windows().StartTimer(20, [&] { ++ticks; });
+  home_->Wait(300);
+  EXPECT_GE(ticks, 3);
+  EXPECT_LE(ticks, 15);
+  Windows().StopTimer(timer);
+  const int before = ticks;
+  home_->Wait(100);
+  EXPECT_EQ(ticks, before);
+}
+
+TEST_P(WindowSystemContract, ATimerMayStopItselfInItsTick) {
+  int ticks = 0;
+  TimerId timer = 0;
+  const auto held = std::make_shared<int>(7);
+  timer = Windows().StartTimer(10, [&, held] {
+    Windows().StopTimer(timer);
+    ticks += *held;
+  });
+  home_->Wait(200);
+  EXPECT_EQ(ticks, 7);
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_P(WindowSystemContract, TimersOfOneMillisecondTick) {
+  int ticks = 0;
+  const TimerId timer = Windows().StartTimer(1, [&] { ++ticks; });
+  home_->Wait(200);
+  Windows().StopTimer(timer);
+  EXPECT_GE(ticks, 5);
+}
+
+TEST_P(WindowSystemContract, ATimerTicksWhileEventsAreLetThroughInAnother) {
+  int inner = 0;
+  int outer = 0;
+  const TimerId second = Windows().StartTimer(10, [&] { ++inner; });
+  TimerId first = 0;
+  first = Windows().StartTimer(15, [&] {
+    Windows().StopTimer(first);
+    inner = 0;
+    home_->Wait(100);
+    outer = inner;
+  });
+  home_->Wait(300);
+  Windows().StopTimer(second);
+  EXPECT_GE(outer, 2);
+}
+
+TEST_P(WindowSystemContract, TheClockGoesOnWithTime) {
+  const std::int64_t before = Windows().Now();
+  home_->Wait(50);
+  EXPECT_GE(Windows().Now() - before, 45);
+}
+
+TEST_P(WindowSystemContract, RunReturnsWhenATimerQuits) {
+  TimerId timer = 0;
+  timer = Windows().StartTimer(10, [&] {
+    Windows().StopTimer(timer);
+    Windows().Quit();
+  });
+  Windows().Run();
+  Windows().Run();  // once it was told to end, it returns at once
+  EXPECT_GT(timer, 0U);
+}
+
+// Facts.
+
+TEST_P(WindowSystemContract, ThePointersShapeIsWhatWasSet) {
+  EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::Default);
+  Windows().SetMousePointer(MousePointer::Hourglass);
+  EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::Hourglass);
+  Windows().SetMousePointer(MousePointer::Default);
+}
+
+TEST_P(WindowSystemContract, TheScreenHasASizeAndAScale) {
+  const ScreenInfo screen = Windows().Screen();
+  EXPECT_GE(screen.TwipsPerPixelX, 5.0F);
+  EXPECT_LE(screen.TwipsPerPixelX, 15.0F);
+  EXPECT_EQ(screen.TwipsPerPixelX, screen.TwipsPerPixelY);
+  EXPECT_GE(screen.Width / screen.TwipsPerPixelX, 640.0F);
+  EXPECT_GE(screen.Height / screen.TwipsPerPixelY, 480.0F);
+}
+
+TEST_P(WindowSystemContract, SystemColoursAreColours) {
+  for (const int index : {13, 14, 15, 16, 17, 18, 20, 21, 22, 24}) {
+    EXPECT_EQ(Windows().SystemColor(index) & 0xFF000000U, 0U) << index;
+  }
+  EXPECT_NE(Windows().SystemColor(15), Windows().SystemColor(18));
+}
+
+TEST_P(WindowSystemContract, TextIsWiderWithMoreCharactersAndAlwaysAsHigh) {
+  const FontSpec font;
+  const PixelSize none = Windows().MeasureText("", font);
+  const PixelSize one = Windows().MeasureText("W", font);
+  const PixelSize five = Windows().MeasureText("WWWWW", font);
+  EXPECT_EQ(none.width, 0);
+  EXPECT_GT(one.width, 0);
+  EXPECT_GT(five.width, 3 * one.width);
+  EXPECT_GT(none.height, 5);
+  EXPECT_EQ(one.height, none.height);
+  EXPECT_EQ(five.height, none.height);
+  EXPECT_GT(Windows().MeasureText("W", {.Points = 24}).height, none.height);
+}
+
+// Canvases.
+
+class CanvasContract : public WindowSystemContract {
+ protected:
+  static constexpr Rgb kRed = 0x000000FF;
+  static constexpr Rgb kGreen = 0x0000FF00;
+
+  std::unique_ptr<Canvas> Sheet(int width = 40, int height = 30) {
+    return Windows().CreateCanvas({width, height});
+  }
+  /// Pixels of a colour in a part.
+  static int Count(const Canvas& canvas, Rgb colour, const PixelRect& part) {
+    int count = 0;
+    for (int y = part.top; y < part.bottom; ++y) {
+      for (int x = part.left; x < part.right; ++x) {
+        if (canvas.PixelAt({x, y}) == colour) ++count;
+      }
+    }
+    return count;
+  }
+};
+
+TEST_P(CanvasContract, StartsAllBlackAndOfItsSize) {
+  const auto sheet = Sheet();
+  EXPECT_EQ(sheet->Size(), (PixelSize{40, 30}));
+  EXPECT_EQ(Count(*sheet, 0, {0, 0, 40, 30}), 1200);
+}
+
+TEST_P(CanvasContract, ABoxLeavesOutItsRightAndBottomSide) {
+  const auto sheet = Sheet();
+  sheet->FillBox({5, 6, 15, 16}, kRed);
+  EXPECT_EQ(Count(*sheet, kRed, {0, 0, 40, 30}), 100);
+  EXPECT_EQ(Count(*sheet, kRed, {5, 6, 15, 16}), 100);
+}
+
+TEST_P(CanvasContract, AnEmptyBoxFillsNothing) {
+  const auto sheet = Sheet();
+  sheet->FillBox({5, 5, 5, 15}, kRed);
+  sheet->FillBox({15, 15, 5, 5}, kRed);
+  EXPECT_EQ(Count(*sheet, kRed, {0, 0, 40, 30}), 0);
+}
+
+TEST_P(CanvasContract, WhatFallsOutsideIsCutOff) {
+  const auto sheet = Sheet();
+  sheet->FillBox({-10, -10, 5, 5}, kRed);
+  sheet->FillBox({35, 25, 400, 300}, kRed);
+  sheet->DrawLine({-100, 10}, {100, 10}, kGreen, 1);
+  sheet->DrawString({-500, -500}, "text", {}, kRed);
+  EXPECT_EQ(Count(*sheet, kRed, {0, 0, 40, 30}), 50);
+  EXPECT_EQ(Count(*sheet, kGreen, {0, 0, 40, 30}), 40);
+  EXPECT_EQ(sheet->PixelAt({-1, 0}), 0U);
+  EXPECT_EQ(sheet->PixelAt({40, 0}), 0U);
+  EXPECT_EQ(sheet->PixelAt({0, 30}), 0U);
+}
+
+TEST_P(CanvasContract, ALineLeavesOutItsLastPoint) {
+  struct Row {
+    const char* name;
+    PixelPoint from;
+    PixelPoint to;
+    int pixels;
+  };
+  const Row rows[] = {{"right", {5, 5}, {15, 5}, 10},     {"left", {15, 5}, {5, 5}, 10},
+                      {"down", {5, 5}, {5, 15}, 10},      {"up", {5, 15}, {5, 5}, 10},
+                      {"slanting", {5, 5}, {15, 15}, 10}, {"no length", {5, 5}, {5, 5}, 0}};
+  for (const Row& row : rows) {
+    const auto sheet = Sheet();
+    sheet->DrawLine(row.from, row.to, kRed, 1);
+    EXPECT_EQ(Count(*sheet, kRed, {0, 0, 40, 30}), row.pixels) << row.name;
+    EXPECT_EQ(sheet->PixelAt(row.from), row.pixels > 0 ? kRed : 0U) << row.name;
+    EXPECT_EQ(sheet->PixelAt(row.to), 0U) << row.name;
+  }
+}
+
+TEST_P(CanvasContract, AWideLineIsAsWideAsItSays) {
+  const auto sheet = Sheet();
+  sheet->DrawLine({5, 10}, {25, 10}, kRed, 3);
+  EXPECT_EQ(Count(*sheet, kRed, {15, 0, 16, 30}), 3);
+  EXPECT_EQ(sheet->PixelAt({15, 10}), kRed);
+}
+
+TEST_P(CanvasContract, TheOriginShiftsAllDrawing) {
+  const auto sheet = Sheet();
+  sheet->SetOrigin({10, 5});
+  sheet->FillBox({0, 0, 2, 2}, kRed);
+  sheet->DrawLine({0, 10}, {5, 10}, kGreen, 1);
+  EXPECT_EQ(Count(*sheet, kRed, {10, 5, 12, 7}), 4);
+  EXPECT_EQ(Count(*sheet, kGreen, {10, 15, 15, 16}), 5);
+  sheet->SetOrigin({-10, 0});
+  sheet->FillBox({10, 20, 12, 22}, kRed);
+  EXPECT_EQ(Count(*sheet, kRed, {0, 20, 2, 22}), 4);
+}
+
+TEST_P(CanvasContract, APartOfAnotherCanvasIsCopied) {
+  const auto source = Sheet(10, 10);
+  source->FillBox({0, 0, 10, 10}, kGreen);
+  source->FillBox({2, 2, 5, 5}, kRed);
+  const auto sheet = Sheet();
+  sheet->DrawCanvas(*source, {2, 2, 6, 6}, {20, 20});
+  EXPECT_EQ(Count(*sheet, kRed, {20, 20, 23, 23}), 9);
+  EXPECT_EQ(Count(*sheet, kGreen, {20, 20, 24, 24}), 7);
+  EXPECT_EQ(Count(*sheet, 0, {0, 0, 40, 30}), 1200 - 16);
+}
+
+TEST_P(CanvasContract, TheOriginOfACopiedCanvasDoesNotCount) {
+  const auto source = Sheet(10, 10);
+  source->FillBox({0, 0, 1, 1}, kRed);
+  source->SetOrigin({5, 5});
+  const auto sheet = Sheet();
+  sheet->SetOrigin({1, 2});
+  sheet->DrawCanvas(*source, {0, 0, 10, 10}, {10, 10});
+  EXPECT_EQ(sheet->PixelAt({11, 12}), kRed);
+  EXPECT_EQ(Count(*sheet, kRed, {0, 0, 40, 30}), 1);
+}
+
+TEST_P(CanvasContract, PartsOutsideTheSourceAreLeftOut) {
+  const auto source = Sheet(10, 10);
+  source->FillBox({0, 0, 10, 10}, kRed);
+  const auto sheet = Sheet();
+  sheet->FillBox({0, 0, 40, 30}, kGreen);
+  sheet->DrawCanvas(*source, {-5, -5, 20, 20}, {0, 0});
+  EXPECT_EQ(Count(*sheet, kRed, {0, 0, 40, 30}), 100);
+  EXPECT_EQ(Count(*sheet, kRed, {5, 5, 15, 15}), 100);
+  EXPECT_EQ(Count(*sheet, kGreen, {0, 0, 40, 30}), 1100);
+}
+
+TEST_P(CanvasContract, TextIsDrawnWithinItsMeasureOnTheGroundThatIsThere) {
+  const auto sheet = Sheet(200, 60);
+  constexpr Rgb kWhite = 0x00FFFFFF;
+  sheet->FillBox({0, 0, 200, 60}, kWhite);
+  const FontSpec font;
+  const PixelSize size = Windows().MeasureText("Text", font);
+  sheet->DrawString({20, 20}, "Text", font, 0);
+  const int touched = size.width * size.height - Count(*sheet, kWhite, RectAt({20, 20}, size));
+  EXPECT_GT(touched, 10);
+  EXPECT_LT(touched, size.width * size.height);
+  // Smoothed edges may reach over by a pixel or two.
+  EXPECT_EQ(Count(*sheet, kWhite, {0, 0, 200, 20}), 200 * 20);
+  EXPECT_EQ(Count(*sheet, kWhite, {20 + size.width + 2, 0, 200, 60}), (200 - 22 - size.width) * 60);
+  EXPECT_EQ(Count(*sheet, kWhite, {0, 20 + size.height, 200, 60}), 200 * (40 - size.height));
+}
+
+TEST_P(CanvasContract, AnAmpersandIsACharacterLikeOthers) {
+  const FontSpec font;
+  EXPECT_GT(Windows().MeasureText("a&b", font).width, Windows().MeasureText("ab", font).width);
+}
+
+}  // namespace corvelle::forms

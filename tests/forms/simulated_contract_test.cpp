@@ -1,0 +1,34 @@
+#include <gtest/gtest.h>
+
+#include "forms/InputContract.h"
+#include "forms/WindowSystemContract.h"
+#include "sim/World.h"
+
+namespace corvelle::forms {
+namespace {
+
+class SimulatedHome final : public InputHome {
+ public:
+  WindowSystem& Windows() override { return world_.Desktop; }
+  DesktopWindows& Desktop() override { return world_.Desktop; }
+  Input& Pointer() override { return world_.Desktop; }
+  void Wait(int milliseconds) override { world_.Desktop.Advance(milliseconds); }
+  void MovePointer(PixelPoint at) override { world_.Desktop.MovePointer(at.x, at.y); }
+  void Press(MouseButton button) override { world_.Desktop.Press(button); }
+  void Release(MouseButton button) override { world_.Desktop.Release(button); }
+  void DoubleClick() override { world_.Desktop.DoubleClick(); }
+  void PressKey(int virtualKey) override { world_.Desktop.PressKey(virtualKey); }
+
+ private:
+  sim::World world_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Simulated, WindowSystemContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, CanvasContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, InputContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+
+}  // namespace
+}  // namespace corvelle::forms

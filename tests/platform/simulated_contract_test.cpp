@@ -1,0 +1,62 @@
+#include <gtest/gtest.h>
+
+#include "platform/DesktopContract.h"
+#include "platform/ShellContract.h"
+#include "sim/World.h"
+
+namespace corvelle {
+namespace {
+
+class SimulatedDesktop final : public ContractDesktop {
+ public:
+  DesktopWindows& Windows() override { return world_.Desktop; }
+  WindowId Other() override { return other_; }
+  void CloseOther() override { world_.Desktop.CloseOther(other_); }
+  void MinimizeOther() override { world_.Desktop.MinimizeOther(other_); }
+  void Settle() override { world_.Desktop.Advance(100); }
+
+ private:
+  sim::World world_;
+  WindowId other_ =
+      world_.Desktop.AddOtherWindow({.Title = "Contract other", .Bounds = {100, 100, 300, 250}});
+};
+
+class SimulatedShell final : public ContractShell {
+ public:
+  SimulatedShell() {
+    world_.Files.Put("C:\\Tools\\run.exe", "");
+    world_.Files.Put("C:\\Contract\\Contract.qzx", "text");
+    world_.Icons.SetIconCount("C:\\Tools\\run.exe", 2);
+  }
+  ShellExec& Exec() override { return world_.Shell; }
+  ShellIcons& Icons() override { return world_.Icons; }
+  Registry& Keys() override { return world_.Keys; }
+  SystemInfo& System() override { return world_.System; }
+  std::unique_ptr<Canvas> MakeCanvas(PixelSize size) override {
+    return world_.Desktop.CreateCanvas(size);
+  }
+  std::string Program() override { return "C:\\Tools\\run.exe"; }
+  std::string UnknownDocument() override { return "C:\\Contract\\Contract.qzx"; }
+  std::string Folder() override { return "C:\\Contract\\"; }
+  std::string IconFile() override { return "C:\\Tools\\run.exe"; }
+  int IconCount() override { return 2; }
+  void SetValue(const std::string& name, const std::string& text) override {
+    world_.Keys.Set(RegistryRoot::CurrentUser, "Software\\CorvelleContract", name, text);
+  }
+
+ private:
+  sim::World world_;
+};
+
+template <class Base, class Made>
+std::unique_ptr<Base> Make() {
+  return std::make_unique<Made>();
+}
+
+INSTANTIATE_TEST_SUITE_P(Simulated, DesktopContract,
+                         testing::Values(&Make<ContractDesktop, SimulatedDesktop>));
+INSTANTIATE_TEST_SUITE_P(Simulated, ShellContract,
+                         testing::Values(&Make<ContractShell, SimulatedShell>));
+
+}  // namespace
+}  // namespace corvelle

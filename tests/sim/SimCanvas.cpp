@@ -1,0 +1,119 @@
+#include "sim/SimCanvas.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "base/Utf8.h"
+
+namespace corvelle::sim {
+
+namespace {
+
+constexpr PixelSize kBaseCharacter{6, 13};  // of 8.25 points at 96 dpi
+
+}  // namespace
+
+PixelSize CharacterSize(const FontSpec& font, float twipsPerPixel) {
+  const float scale = font.Points / 8.25F * 15.0F / twipsPerPixel;
+  const int width = static_cast<int>(static_cast<float>(kBaseCharacter.width) * scale);
+  const int height = static_cast<int>(static_cast<float>(kBaseCharacter.height) * scale);
+  return {std::max(width + (font.Bold ? 1 : 0), 1), std::max(height, 1)};
+}
+
+PixelSize TextSize(std::string_view text, const FontSpec& font, float twipsPerPixel) {
+  const PixelSize character = CharacterSize(font, twipsPerPixel);
+  int count = 0;
+  for (std::size_t at = 0; at < text.size(); at += NextCharacter(text, at).Length) ++count;
+  return {character.width * count, character.height};
+}
+
+SimCanvas::SimCanvas(PixelSize size, float twipsPerPixel)
+    : size_{std::max(size.width, 1), std::max(size.height, 1)},
+      twipsPerPixel_(twipsPerPixel),
+      pixels_(static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(size_.height)) {}
+
+void SimCanvas::Set(PixelPoint at, Rgb colour) {
+  const PixelPoint p{at.x + origin_.x, at.y + origin_.y};
+  if (p.x < 0 || p.y < 0 || p.x >= size_.width || p.y >= size_.height) return;
+  pixels_[static_cast<std::size_t>(p.y) * static_cast<std::size_t>(size_.width) +
+          static_cast<std::size_t>(p.x)] = colour;
+}
+
+void SimCanvas::FillBox(const PixelRect& box, Rgb colour) {
+  const PixelRect shifted{box.left + origin_.x, box.top + origin_.y, box.right + origin_.x,
+                          box.bottom + origin_.y};
+  const PixelRect inside = Intersect(shifted, {0, 0, size_.width, size_.height});
+  const auto row = static_cast<std::size_t>(size_.width);
+  for (int y = inside.top; y < inside.bottom; ++y) {
+    const auto start =
+        pixels_.begin() + static_cast<std::ptrdiff_t>(static_cast<std::size_t>(y) * row);
+    std::fill(start + inside.left, start + inside.right, colour);
+  }
+}
+
+void SimCanvas::DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) {
+  // Each point becomes a square of the line's width; the last point is left out.
+  const int dx = std::abs(to.x - from.x);
+  const int dy = std::abs(to.y - from.y);
+  const int steps = std::max(dx, dy);
+  const int reach = (width - 1) / 2;
+  for (int step = 0; step < steps; ++step) {
+    const auto part = [&](int a, int b) {
+      const long long way = static_cast<long long>(b - a) * step * 2;
+      return a + static_cast<int>((way + (b > a ? steps : -steps)) / (2LL * steps));
+    };
+    const PixelPoint at{part(from.x, to.x), part(from.y, to.y)};
+    FillBox(RectAt({at.x - reach, at.y - reach}, {width, width}), colour);
+  }
+}
+
+void SimCanvas::DrawGlyph(const PixelRect& cell, char32_t character, Rgb colour) {
+  if (character <= U' ') return;
+  FillBox({cell.left, cell.top + 3, cell.right - 1, cell.bottom - 3}, colour);
+}
+
+void SimCanvas::DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) {
+  const PixelSize character = CharacterSize(font, twipsPerPixel_);
+  PixelPoint place = at;
+  for (std::size_t i = 0; i < text.size();) {
+    const Utf8Step step = NextCharacter(text, i);
+    DrawGlyph(RectAt(place, character), step.Character, colour);
+    place.x += character.width;
+    i += step.Length;
+  }
+}
+
+void SimCanvas::DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) {
+  const PixelSize size = source.Size();
+  const PixelRect inside = Intersect(part, {0, 0, size.width, size.height});
+  for (int y = inside.top; y < inside.bottom; ++y) {
+    for (int x = inside.left; x < inside.right; ++x) {
+      Set({at.x + x - part.left, at.y + y - part.top}, source.PixelAt({x, y}));
+    }
+  }
+}
+
+Rgb SimCanvas::PixelAt(PixelPoint at) const {
+  if (at.x < 0 || at.y < 0 || at.x >= size_.width || at.y >= size_.height) return 0;
+  return pixels_[static_cast<std::size_t>(at.y) * static_cast<std::size_t>(size_.width) +
+                 static_cast<std::size_t>(at.x)];
+}
+
+void SimCanvas::Resize(PixelSize size) {
+  SimCanvas other(size, twipsPerPixel_);
+  other.DrawCanvas(*this, {0, 0, size_.width, size_.height}, {0, 0});
+  size_ = other.size_;
+  pixels_ = std::move(other.pixels_);
+}
+
+bool SimCanvas::Shows(Rgb colour, const PixelRect& part) const {
+  const PixelRect inside = Intersect(part, {0, 0, size_.width, size_.height});
+  for (int y = inside.top; y < inside.bottom; ++y) {
+    for (int x = inside.left; x < inside.right; ++x) {
+      if (PixelAt({x, y}) == colour) return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace corvelle::sim

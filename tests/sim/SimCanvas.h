@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Canvas.h"
+
+namespace corvelle::sim {
+
+/// A bitmap in memory. Its text is of one built-in fixed-width font.
+class SimCanvas final : public Canvas {
+ public:
+  /// At least 1 by 1, all black. `twipsPerPixel` sizes the text.
+  explicit SimCanvas(PixelSize size, float twipsPerPixel = 15);
+
+  PixelSize Size() const override { return size_; }
+  void SetOrigin(PixelPoint origin) override { origin_ = origin; }
+  void FillBox(const PixelRect& box, Rgb colour) override;
+  void DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) override;
+  void DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) override;
+  void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) override;
+  Rgb PixelAt(PixelPoint at) const override;
+
+  /// Another size; what fits stays, the rest is black.
+  void Resize(PixelSize size);
+
+  /// True if a pixel of `part` (without regard to the origin) has this colour.
+  [[nodiscard]] bool Shows(Rgb colour, const PixelRect& part) const;
+
+ private:
+  void Set(PixelPoint at, Rgb colour);
+  void DrawGlyph(const PixelRect& cell, char32_t character, Rgb colour);
+
+  PixelSize size_;
+  PixelPoint origin_;
+  float twipsPerPixel_;
+  std::vector<Rgb> pixels_;
+};
+
+/// Size of one character of the built-in font.
+[[nodiscard]] PixelSize CharacterSize(const FontSpec& font, float twipsPerPixel);
+
+/// Size of a line of text in the built-in font.
+[[nodiscard]] PixelSize TextSize(std::string_view text, const FontSpec& font, float twipsPerPixel);
+
+}  // namespace corvelle::sim

@@ -1,0 +1,279 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "forms/WindowSystem.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "sim/SimClock.h"
+#include "sim/SimWindow.h"
+
+namespace corvelle::sim {
+
+struct DesktopOptions {
+  float TwipsPerPixel = 15;  // 15 at 96 dpi, 12 at 120 dpi
+  PixelSize Screen{1024, 768};
+};
+
+/// A desktop without a screen: windows of this program and of others, a Z order, a pointer, a
+/// keyboard and a clock, all of which a test moves and asks. As on Windows what is not visible is
+/// not painted; what was covered needs no painting when it is uncovered.
+///
+/// User actions go through an event queue. In a test's own lines they are carried out at once;
+/// inside a handler they arrive when the program next lets events through. When another window
+/// comes under the pointer that stands still, it gets a mouse move, as on Windows. All points are
+/// pixels of the screen; the pointer starts in the middle of it.
+class SimDesktop final : public forms::WindowSystem, public Input, public DesktopWindows {
+ public:
+  explicit SimDesktop(const DesktopOptions& options = {});
+  ~SimDesktop() override;
+
+  // Time.
+  /// Lets time pass; what falls due runs in its order.
+  void Advance(int milliseconds);
+  /// Moves the clock and runs nothing, as if the machine had slept.
+  void Jump(int milliseconds);
+  /// Runs what waits: posted events, paints, timers that are due. Moves no time.
+  void Pump();
+  SimClock& Clock() noexcept { return clock_; }
+
+  // The user.
+  void MovePointer(int x, int y);
+  void Press(forms::MouseButton button = forms::MouseButton::Left);
+  void Release(forms::MouseButton button = forms::MouseButton::Left);
+  /// Press and release. Two clicks are never taken for a double click.
+  void Click(forms::MouseButton button = forms::MouseButton::Left);
+  void ClickAt(int x, int y, forms::MouseButton button = forms::MouseButton::Left);
+  void DoubleClick();
+  /// A key goes down, or up again. Enter and Esc bring their characters with them.
+  void KeyDown(int virtualKey);
+  void KeyUp(int virtualKey);
+  /// Down and up.
+  void PressKey(int virtualKey);
+  /// Types characters: the key of each (letters and digits) and the character.
+  void Type(std::string_view text);
+
+  // Other programs.
+  WindowId AddOtherWindow(const OtherWindow& window);
+  void MoveOther(WindowId window, const PixelRect& bounds);
+  void ShowOther(WindowId window, bool visible);
+  void MinimizeOther(WindowId window);
+  void CloseOther(WindowId window);
+  /// Another program's window, or one of ours, comes to the foreground, as if the user had chosen
+  /// it in the task bar.
+  void TakeForeground(WindowId window);
+  void SetAnswer(WindowId window,
+                 std::function<std::intptr_t(std::uint32_t, std::uintptr_t, std::intptr_t)> answer);
+  /// What other programs' windows were sent.
+  const std::vector<SentMessage>& Sent() const noexcept { return sent_; }
+  /// While it is locked, no window of ours that is not active yet takes the foreground by itself.
+  void LockForeground(bool locked) noexcept { foregroundLocked_ = locked; }
+  /// The desktop's own window, behind all others.
+  WindowId DesktopWindow() const noexcept { return desktopWindow_; }
+
+  // Messages from outside to our windows.
+  /// Arrives when events are let through.
+  void Post(WindowId window, std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam);
+  /// To every top-level window of ours, now.
+  void Broadcast(std::uint32_t message, std::uintptr_t wParam = 0, std::intptr_t lParam = 0);
+  /// The session of Windows ends: every top-level window of ours is told.
+  void EndSession();
+  /// Another resolution; windows are told by a display change message.
+  void SetScreen(PixelSize size);
+  /// Another system colour; windows are told by a message.
+  void SetSystemColor(int index, Rgb colour);
+
+  // Message boxes.
+  /// The answer to the next box, whatever it says.
+  void Answer(int button) { answers_.push_back({std::nullopt, button}); }
+  /// The answer to the next box, which must have this text.
+  void Answer(std::string text, int button) { answers_.push_back({std::move(text), button}); }
+  /// Runs while each box is up, with the box.
+  void WhileBoxIsUp(std::function<void(const MessageBox&)> action) {
+    boxAction_ = std::move(action);
+  }
+  const std::vector<MessageBox>& Boxes() const noexcept { return boxes_; }
+  /// Boxes that no answer was given for.
+  int UnexpectedBoxes() const noexcept { return unexpectedBoxes_; }
+  int AnswersLeft() const noexcept { return static_cast<int>(answers_.size()); }
+
+  /// What the user does while the program is in Run; it must end the program. Without it, Run lets
+  /// time pass until a timer has ended the program.
+  void WhileRunning(std::function<void()> script) { runScript_ = std::move(script); }
+  bool QuitCalled() const noexcept { return quit_; }
+
+  // Asking.
+  /// The first window of ours with this class, which is the name of its form or box; none if there
+  /// is none.
+  WindowId Find(std::string_view className) const;
+  /// Null when there is no such window.
+  const SimWindow* Look(WindowId window) const;
+  /// True if it and its parents are visible and not minimized.
+  bool IsShown(WindowId window) const;
+  /// On the screen.
+  PixelRect BoundsOf(WindowId window) const;
+  int PaintCount(WindowId window) const;
+  /// All that is painted by now, of all windows.
+  int PaintCount() const noexcept { return paints_; }
+  WindowId FocusWindow() const noexcept { return focus_; }
+  WindowId CaptureWindow() const noexcept { return capture_; }
+  bool IsTopmost(WindowId window) const;
+  int Beeps() const noexcept { return beeps_; }
+  /// The calls that made, showed, moved or ordered windows, one line each: "show frmX Normal",
+  /// "hide frmX", "setwindowpos frmX -1 19", "bounds frmX 0,0,10,10", "caption frmX text",
+  /// "foreground frmX", "create frmX", "destroy frmX", "zorder frmX Front", "focus frmX".
+  const std::vector<std::string>& Log() const noexcept { return log_; }
+  void ClearLog() { log_.clear(); }
+  /// A picture of the whole screen as the user sees it now.
+  SimCanvas Picture() const;
+
+  // forms::WindowSystem
+  std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& spec,
+                                                forms::WindowEvents& events) override;
+  std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
+  PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
+  Rgb SystemColor(int index) const override;
+  forms::ScreenInfo Screen() const override;
+  void SetMousePointer(forms::MousePointer shape) override { pointerShape_ = shape; }
+  forms::MousePointer CurrentMousePointer() const override { return pointerShape_; }
+  void DoEvents() override { Pump(); }
+  void Run() override;
+  void Quit() override { quit_ = true; }
+  forms::TimerId StartTimer(int milliseconds, std::function<void()> tick) override;
+  void StopTimer(forms::TimerId timer) override { clock_.Stop(timer); }
+  std::int64_t Now() const override { return clock_.Now(); }
+  int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
+                  unsigned flags) override;
+  /// The system refuses the next window that is asked for.
+  void RefuseNextWindow() noexcept { refuseWindow_ = true; }
+
+  // Input
+  PixelPoint PointerPosition() const noexcept override { return pointer_; }
+  void SetPointerPosition(PixelPoint at) override;
+  bool IsKeyDown(int virtualKey) const noexcept override { return keys_.contains(virtualKey); }
+  void Beep() override { ++beeps_; }
+
+  // DesktopWindows
+  std::vector<WindowId> TopLevel() const override { return order_; }
+  std::string Text(WindowId window) const override;
+  std::string ClassName(WindowId window) const override;
+  bool IsVisible(WindowId window) const override;
+  bool IsMinimized(WindowId window) const override;
+  bool RestoresMaximized(WindowId window) const override;
+  void RestoreMinimized(WindowId window) override;
+  void ShowMaximized(WindowId window) override;
+  std::intptr_t Send(WindowId window, std::uint32_t message, std::uintptr_t wParam,
+                     std::intptr_t lParam) override;
+  void BringForward(WindowId window) override;
+  WindowId WindowAt(PixelPoint at) const noexcept override;
+  WindowId ActiveWindow() const noexcept override;
+  WindowId ForegroundWindow() const noexcept override { return foreground_; }
+  void PaintVisibleWindows() override;
+
+ private:
+  friend class SimPeer;
+
+  struct ScriptedAnswer {
+    std::optional<std::string> Text;
+    int Button = 0;
+  };
+
+  // Windows
+  SimWindow* Get(WindowId window);
+  WindowId TopOf(WindowId window) const;
+  WindowId Add(SimWindow window);
+  void Destroy(WindowId window);
+  void SetBounds(WindowId window, const PixelRect& bounds);
+  void Show(WindowId window, forms::ShowKind kind);
+  void HideWindow(WindowId window);
+  void SetWindowPos(WindowId window, forms::InsertAfter after, unsigned flags);
+  void SetZOrder(WindowId window, forms::ZPlace place);
+  void SetFocusTo(WindowId window);
+  void RequestForeground(WindowId window);
+  void Raise(WindowId window);
+  void Lower(WindowId window);
+  void Activate(WindowId window);
+  void TellActivation(WindowId window, bool active);
+  void ActivateAnother(WindowId than);
+  WindowId FocusOf(const SimWindow& form) const;
+  void WindowGone(WindowId window);
+  void Note(std::string_view verb, const SimWindow& window, std::string_view rest = {});
+  WindowId ChildAt(WindowId window, PixelPoint at) const;
+  WindowId TopLevelAt(PixelPoint at) const;
+  std::intptr_t Dispatch(WindowId window, std::uint32_t message, std::uintptr_t wParam,
+                         std::intptr_t lParam);
+  bool FirstToProcedure(WindowId window, std::uint32_t message, std::uintptr_t wParam,
+                        std::intptr_t lParam, std::intptr_t& answer);
+
+  // Painting
+  void Invalidate(WindowId window, const PixelRect& part);
+  void InvalidateTree(WindowId window);
+  void PaintNow(WindowId window);
+  bool PaintOne(WindowId window);
+  bool PaintSomething();
+  void Compose(SimCanvas& screen, const SimWindow& window) const;
+
+  // Events
+  void UserEvent(std::function<void()> event);
+  /// The pointer and what is held down at the moment of a user's action.
+  struct Mouse {
+    PixelPoint At;
+    forms::MouseButton Down = forms::MouseButton::None;
+    forms::ShiftState Shift;
+  };
+  Mouse MouseNow() const { return {pointer_, ButtonsDown(), Shift()}; }
+  WindowId MouseTarget(PixelPoint at) const;
+  PixelPoint InWindow(WindowId window, PixelPoint at) const;
+  forms::ShiftState Shift() const;
+  forms::MouseButton ButtonsDown() const;
+  /// True if the pointer, though it stands still, is at another place of a window now.
+  bool PointerUnsettled();
+  void DeliverMove(const Mouse& mouse);
+  void DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second);
+  void DeliverRelease(const Mouse& mouse, forms::MouseButton button);
+  void DeliverKey(int virtualKey, forms::ShiftState shift);
+  void DeliverCharacter(char32_t character);
+
+  DesktopOptions options_;
+  SimClock clock_;
+  std::map<int, Rgb> colours_;
+  std::map<WindowId, SimWindow> windows_;
+  std::vector<WindowId> order_;  // top-level windows, from the top down
+  WindowId lastId_ = 0x10000;
+  WindowId desktopWindow_ = kNoWindow;
+  WindowId foreground_ = kNoWindow;
+  WindowId focus_ = kNoWindow;
+  WindowId capture_ = kNoWindow;
+  bool foregroundLocked_ = false;
+  bool refuseWindow_ = false;
+  PixelPoint pointer_;
+  bool windowsMoved_ = false;        // since the pointer was last looked at
+  WindowId moveWindow_ = kNoWindow;  // who got the last mouse move, and where
+  PixelPoint movePoint_;
+  std::set<int> keys_;
+  forms::MousePointer pointerShape_ = forms::MousePointer::Default;
+  std::deque<std::function<void()>> events_;
+  int depth_ = 0;  // handlers that are running
+  std::function<void()> runScript_;
+  bool quit_ = false;
+  std::deque<ScriptedAnswer> answers_;
+  std::function<void(const MessageBox&)> boxAction_;
+  std::vector<MessageBox> boxes_;
+  int unexpectedBoxes_ = 0;
+  std::vector<SentMessage> sent_;
+  int paints_ = 0;
+  int beeps_ = 0;
+  std::vector<std::string> log_;
+};
+
+}  // namespace corvelle::sim

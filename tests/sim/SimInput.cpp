@@ -1,0 +1,196 @@
+// The pointer and the keyboard, and how their events reach windows.
+
+#include <string_view>
+#include <utility>
+
+#include "base/Text.h"
+#include "base/Utf8.h"
+#include "sim/SimDesktop.h"
+
+namespace corvelle::sim {
+
+namespace {
+
+constexpr int kShiftKey = 16;
+constexpr int kControlKey = 17;
+constexpr int kAltKey = 18;
+
+int KeyOf(forms::MouseButton button) {
+  switch (button) {
+    case forms::MouseButton::Right:
+      return 2;
+    case forms::MouseButton::Middle:
+      return 4;
+    default:
+      return 1;
+  }
+}
+
+/// The key that types a character; 0 for characters whose key depends on the keyboard.
+int KeyThatTypes(char32_t character) {
+  const char32_t capital = UpperCharacter(character);
+  const bool plain = (capital >= U'A' && capital <= U'Z') || (capital >= U'0' && capital <= U'9') ||
+                     capital == U' ' || capital == 13 || capital == 27 || capital == 8;
+  return plain ? static_cast<int>(capital) : 0;
+}
+
+}  // namespace
+
+// User actions.
+
+void SimDesktop::UserEvent(std::function<void()> event) {
+  events_.push_back(std::move(event));
+  if (depth_ == 0) Pump();
+}
+
+void SimDesktop::MovePointer(int x, int y) {
+  pointer_ = {x, y};
+  UserEvent([this, mouse = MouseNow()] { DeliverMove(mouse); });
+}
+
+void SimDesktop::SetPointerPosition(PixelPoint at) {
+  pointer_ = at;
+  events_.emplace_back([this, mouse = MouseNow()] { DeliverMove(mouse); });
+}
+
+void SimDesktop::Press(forms::MouseButton button) {
+  keys_.insert(KeyOf(button));
+  UserEvent([this, button, mouse = MouseNow()] { DeliverPress(mouse, button, false); });
+}
+
+void SimDesktop::Release(forms::MouseButton button) {
+  keys_.erase(KeyOf(button));
+  UserEvent([this, button, mouse = MouseNow()] { DeliverRelease(mouse, button); });
+}
+
+void SimDesktop::Click(forms::MouseButton button) {
+  Press(button);
+  Release(button);
+}
+
+void SimDesktop::ClickAt(int x, int y, forms::MouseButton button) {
+  MovePointer(x, y);
+  Click(button);
+}
+
+void SimDesktop::DoubleClick() {
+  Click();
+  keys_.insert(KeyOf(forms::MouseButton::Left));
+  UserEvent([this, mouse = MouseNow()] { DeliverPress(mouse, forms::MouseButton::Left, true); });
+  Release();
+}
+
+void SimDesktop::KeyDown(int virtualKey) {
+  keys_.insert(virtualKey);
+  UserEvent([this, virtualKey, shift = Shift()] {
+    DeliverKey(virtualKey, shift);
+    if (virtualKey == forms::key::Enter || virtualKey == forms::key::Escape) {
+      DeliverCharacter(static_cast<char32_t>(virtualKey));
+    }
+  });
+}
+
+void SimDesktop::KeyUp(int virtualKey) { keys_.erase(virtualKey); }
+
+void SimDesktop::PressKey(int virtualKey) {
+  KeyDown(virtualKey);
+  KeyUp(virtualKey);
+}
+
+void SimDesktop::Type(std::string_view text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const Utf8Step step = NextCharacter(text, at);
+    at += step.Length;
+    UserEvent([this, character = step.Character, shift = Shift()] {
+      if (const int key = KeyThatTypes(character)) DeliverKey(key, shift);
+      DeliverCharacter(character);
+    });
+  }
+}
+
+forms::ShiftState SimDesktop::Shift() const {
+  return {.Shift = IsKeyDown(kShiftKey), .Ctrl = IsKeyDown(kControlKey), .Alt = IsKeyDown(kAltKey)};
+}
+
+forms::MouseButton SimDesktop::ButtonsDown() const {
+  auto down = forms::MouseButton::None;
+  for (const auto button :
+       {forms::MouseButton::Left, forms::MouseButton::Right, forms::MouseButton::Middle}) {
+    if (IsKeyDown(KeyOf(button))) down = down | button;
+  }
+  return down;
+}
+
+// Delivery.
+
+WindowId SimDesktop::MouseTarget(PixelPoint at) const {
+  if (capture_ != kNoWindow) return capture_;
+  WindowId target = WindowAt(at);
+  // A disabled child hands the mouse to its parent; a disabled form swallows it.
+  while (target != kNoWindow && !Look(target)->Enabled) target = Look(target)->Parent;
+  const WindowId top = TopOf(target);
+  return top != kNoWindow && Look(top)->Enabled ? target : kNoWindow;
+}
+
+PixelPoint SimDesktop::InWindow(WindowId window, PixelPoint at) const {
+  const PixelRect bounds = BoundsOf(window);
+  return {at.x - bounds.left, at.y - bounds.top};
+}
+
+bool SimDesktop::PointerUnsettled() {
+  if (!std::exchange(windowsMoved_, false)) return false;
+  const WindowId target = MouseTarget(pointer_);
+  return target != moveWindow_ || InWindow(target, pointer_) != movePoint_;
+}
+
+void SimDesktop::DeliverMove(const Mouse& mouse) {
+  const WindowId target = MouseTarget(mouse.At);
+  const SimWindow* at = Look(target);
+  moveWindow_ = target;
+  movePoint_ = InWindow(target, mouse.At);
+  if (at == nullptr || at->Events == nullptr) return;
+  const PixelPoint inside = movePoint_;
+  const auto place = static_cast<std::intptr_t>((static_cast<std::uint32_t>(inside.y) << 16) |
+                                                (static_cast<std::uint32_t>(inside.x) & 0xFFFF));
+  std::intptr_t answer = 0;
+  if (FirstToProcedure(target, forms::message::MouseMove, 0, place, answer)) return;
+  at = Look(target);
+  if (at != nullptr && at->Events != nullptr) {
+    at->Events->OnMouseMove(mouse.Down, mouse.Shift, inside);
+  }
+}
+
+void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second) {
+  const WindowId target = MouseTarget(mouse.At);
+  if (target == kNoWindow) return;
+  if (capture_ == kNoWindow) Activate(TopOf(target));
+  const SimWindow* at = Look(target);
+  if (at == nullptr || at->Events == nullptr || !IsShown(target)) return;
+  capture_ = target;
+  const PixelPoint inside = InWindow(target, mouse.At);
+  if (second) {
+    at->Events->OnDoubleClick(inside);
+  } else {
+    at->Events->OnMouseDown(button, mouse.Shift, inside);
+  }
+}
+
+void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
+  const WindowId target = MouseTarget(mouse.At);
+  if (mouse.Down == forms::MouseButton::None) capture_ = kNoWindow;
+  const SimWindow* at = Look(target);
+  if (at == nullptr || at->Events == nullptr) return;
+  at->Events->OnMouseUp(button, mouse.Shift, InWindow(target, mouse.At));
+}
+
+void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
+  const SimWindow* at = Look(focus_);
+  if (at != nullptr && at->Events != nullptr) at->Events->OnKeyDown(virtualKey, shift);
+}
+
+void SimDesktop::DeliverCharacter(char32_t character) {
+  const SimWindow* at = Look(focus_);
+  if (at != nullptr && at->Events != nullptr) at->Events->OnKeyPress(character);
+}
+
+}  // namespace corvelle::sim

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <tuple>
+
+#include "platform/Registry.h"
+
+namespace corvelle::sim {
+
+/// A registry of text values; names of keys and values without regard to case.
+class SimRegistry final : public Registry {
+ public:
+  /// Sets a value; `name` empty is the key's default value.
+  void Set(RegistryRoot root, std::string_view key, std::string_view name, std::string value);
+  void Remove(RegistryRoot root, std::string_view key, std::string_view name);
+
+  std::optional<std::string> Text(RegistryRoot root, std::string_view key,
+                                  std::string_view name) const override;
+
+ private:
+  std::map<std::tuple<RegistryRoot, std::string, std::string>, std::string> values_;
+};
+
+}  // namespace corvelle::sim

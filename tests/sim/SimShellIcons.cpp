@@ -1,0 +1,93 @@
+#include "sim/SimShellIcons.h"
+
+#include <utility>
+
+#include "base/Text.h"
+
+namespace corvelle::sim {
+
+namespace {
+
+/// What all files of a kind share: the extension with its dot, or a word for folders.
+std::string KindOf(std::string_view path, bool folder) {
+  if (folder) return "<FOLDER>";
+  const std::size_t dot = path.rfind('.');
+  const std::size_t slash = path.rfind('\\');
+  if (dot == std::string_view::npos || (slash != std::string_view::npos && dot < slash)) return ".";
+  return UpperCase(path.substr(dot));
+}
+
+std::string NameOf(std::string_view path) {
+  const std::string whole = DropBackslash(path);
+  const std::size_t slash = whole.rfind('\\');
+  return slash == std::string::npos ? whole : whole.substr(slash + 1);
+}
+
+Rgb Half(Rgb colour, Rgb with) noexcept {
+  return ((colour >> 1) & 0x007F7F7FU) + ((with >> 1) & 0x007F7F7FU);
+}
+
+}  // namespace
+
+void SimShellIcons::SetIndex(std::string_view pathOrExtension, int index) {
+  indexes_[UpperCase(pathOrExtension)] = index;
+}
+
+void SimShellIcons::SetTypeName(std::string_view extension, std::string name) {
+  typeNames_[UpperCase(extension)] = std::move(name);
+}
+
+void SimShellIcons::SetIconCount(std::string_view file, int count) {
+  iconCounts_[UpperCase(file)] = count;
+}
+
+Rgb SimShellIcons::ColourOf(int index) noexcept {
+  // Blue is never 0xC0 or 0, so that no icon has the colour of a face, a line or a text.
+  return 0x00400000U | ((static_cast<Rgb>(index) * 37U + 1U) & 0xFFFFU);
+}
+
+Rgb SimShellIcons::ColourOf(std::string_view file, int index) {
+  Rgb sum = static_cast<Rgb>(index) * 101U + 7U;
+  for (const char c : UpperCase(file)) sum = sum * 31U + static_cast<unsigned char>(c);
+  return 0x00600000U | (sum & 0xFFFFU);
+}
+
+std::optional<ShellFileInfo> SimShellIcons::FileInfo(std::string_view path, IconList /*list*/) {
+  ++lookups_;
+  if (path.empty() || path.find_first_of("<>|?*\"") != std::string_view::npos) return std::nullopt;
+  if (!files_.Has(path)) return std::nullopt;
+  const bool folder = !files_.Get(path).has_value();
+  const std::string kind = KindOf(path, folder);
+  ShellFileInfo info{.DisplayName = NameOf(path), .TypeName = kind};
+  if (const auto name = typeNames_.find(kind); name != typeNames_.end())
+    info.TypeName = name->second;
+  auto found = indexes_.find(UpperCase(path));
+  if (found == indexes_.end()) found = indexes_.find(kind);
+  if (found == indexes_.end()) found = indexes_.emplace(kind, nextIndex_++).first;
+  info.SystemIndex = found->second;
+  return info;
+}
+
+int SimShellIcons::IconWidth(IconList list) { return list == IconList::Small ? 16 : large_; }
+
+bool SimShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
+                                   IconStyle style) {
+  ++draws_;
+  if (index < 0) return false;
+  const int size = list == IconList::Small ? 16 : (large_ > 0 ? large_ : 32);
+  const Rgb colour = ColourOf(index);
+  const bool blended = style == IconStyle::Blend25;
+  canvas.FillBox(RectAt(at, {size, size}), blended ? Half(colour, 0x00800000) : colour);
+  return true;
+}
+
+bool SimShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
+                                 int size) {
+  ++draws_;
+  const auto count = iconCounts_.find(UpperCase(file));
+  if (count == iconCounts_.end() || index < 0 || index >= count->second) return false;
+  canvas.FillBox(RectAt(at, {size, size}), ColourOf(file, index));
+  return true;
+}
+
+}  // namespace corvelle::sim

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "platform/ShellIcons.h"
+#include "sim/SimFiles.h"
+
+namespace corvelle::sim {
+
+/// A shell that shows each kind of file by an icon of its own: a square of one colour, which tells
+/// which icon it is.
+class SimShellIcons final : public ShellIcons {
+ public:
+  explicit SimShellIcons(SimFiles& files) : files_(files) {}
+
+  /// Index of this file's icon, or of all files with an extension (".txt"). Files without either
+  /// have the index of their extension, in the order in which extensions were asked for.
+  void SetIndex(std::string_view pathOrExtension, int index);
+  void SetTypeName(std::string_view extension, std::string name);
+  /// This file holds so many icons of its own; none at first.
+  void SetIconCount(std::string_view file, int count);
+  /// The shell's large size, 32 at first; 0: it does not tell.
+  void SetLargeSize(int pixels) noexcept { large_ = pixels; }
+
+  /// The colour of system icon `index`, and of icon `index` of a file. Never that of the ground.
+  [[nodiscard]] static Rgb ColourOf(int index) noexcept;
+  [[nodiscard]] static Rgb ColourOf(std::string_view file, int index);
+
+  [[nodiscard]] int Lookups() const noexcept { return lookups_; }
+  [[nodiscard]] int Draws() const noexcept { return draws_; }
+  void ClearCounts() noexcept { lookups_ = draws_ = 0; }
+
+  std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList list) override;
+  int IconWidth(IconList list) override;
+  bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
+                      IconStyle style) override;
+  bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
+                    int size) override;
+
+ private:
+  SimFiles& files_;
+  std::map<std::string, int> indexes_;
+  std::map<std::string, std::string> typeNames_;
+  std::map<std::string, int> iconCounts_;
+  int nextIndex_ = 100;
+  int large_ = 32;
+  int lookups_ = 0;
+  int draws_ = 0;
+};
+
+}  // namespace corvelle::sim

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/SystemInfo.h"
+
+namespace corvelle::sim {
+
+/// A machine of which a test sets every fact.
+class SimSystemInfo final : public SystemInfo {
+ public:
+  struct HelpCall {
+    WindowId Window = kNoWindow;
+    std::string File;
+    int Topic = 0;
+
+    friend bool operator==(const HelpCall&, const HelpCall&) = default;
+  };
+
+  std::string Folder = "C:\\Corvelle";
+  std::string WorkFolder = "C:\\";
+  bool OtherInstance = false;
+  int Caption = 19;
+  int CaptionButton = 18;
+  int Depth = 32;
+  bool HasHelpViewer = true;
+  std::vector<HelpCall> HelpCalls;
+
+  std::string ApplicationFolder() const override { return Folder; }
+  std::string CurrentFolder() const override { return WorkFolder; }
+  bool AnotherInstanceRuns() override { return OtherInstance; }
+  int CaptionHeight() const override { return Caption; }
+  int CaptionButtonWidth() const override { return CaptionButton; }
+  int ColourDepth() const override { return Depth; }
+  bool ShowHelpTopic(WindowId window, const std::string& file, int topic) override {
+    HelpCalls.push_back({window, file, topic});
+    return HasHelpViewer;
+  }
+};
+
+}  // namespace corvelle::sim

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/Geometry.h"
+#include "forms/WindowSystem.h"
+#include "platform/WindowId.h"
+#include "sim/SimCanvas.h"
+
+namespace corvelle::sim {
+
+/// A window of the simulated desktop, of this or of another program.
+struct SimWindow {
+  WindowId Id = kNoWindow;
+  WindowId Parent = kNoWindow;            // none: a top-level window
+  forms::WindowEvents* Events = nullptr;  // null for other programs' windows and message boxes
+  bool Own = false;
+  std::string ClassName;
+  std::string Text;
+  PixelRect Bounds;  // relative to the parent, or the screen
+  bool Visible = false;
+  bool Enabled = true;
+  bool Topmost = false;
+  bool Minimized = false;
+  bool Maximized = false;
+  bool RestoresMaximized = false;
+  bool InTaskbar = false;
+  std::vector<WindowId> Children;  // from the front to the back
+  WindowId Focus = kNoWindow;      // which of its windows had the focus last
+
+  PixelRect Dirty;     // what it owes to paint
+  int PaintCount = 0;  // times that it was asked to paint
+  std::shared_ptr<SimCanvas> Content;
+
+  /// How another program's window answers messages; none: with 0.
+  std::function<std::intptr_t(std::uint32_t, std::uintptr_t, std::intptr_t)> Answer;
+};
+
+/// What a test says of another program's window.
+struct OtherWindow {
+  std::string Title;
+  std::string ClassName = "OtherWindow";
+  PixelRect Bounds{100, 100, 500, 400};
+  bool Visible = true;
+  bool Topmost = false;
+  bool Minimized = false;
+  bool Maximized = false;
+  bool RestoresMaximized = false;
+  WindowId Parent = kNoWindow;  // of a child window
+};
+
+/// A message that a window of another program got.
+struct SentMessage {
+  WindowId Window = kNoWindow;
+  std::uint32_t Message = 0;
+  std::uintptr_t WParam = 0;
+  std::intptr_t LParam = 0;
+
+  friend bool operator==(const SentMessage&, const SentMessage&) = default;
+};
+
+/// A message box that was shown.
+struct MessageBox {
+  WindowId Owner = kNoWindow;
+  std::string Text;
+  std::string Title;
+  unsigned Flags = 0;
+  int Answer = 0;
+};
+
+}  // namespace corvelle::sim

@@ -1,0 +1,44 @@
+#include "sim/World.h"
+
+#include <cstddef>
+#include <fstream>
+
+namespace corvelle::sim {
+
+World::World(const WorldOptions& options)
+    : Shell(Files),
+      Icons(Files),
+      Desktop({.TwipsPerPixel = options.TwipsPerPixel, .Screen = options.Screen}) {
+  System.Caption = options.CaptionHeight;
+  System.CaptionButton = options.CaptionButtonWidth;
+}
+
+Platform World::Services() {
+  return {.Files = Files,
+          .Ansi = Ansi,
+          .Keys = Keys,
+          .Shell = Shell,
+          .Icons = Icons,
+          .Pointer = Desktop,
+          .Desktop = Desktop,
+          .System = System};
+}
+
+bool World::SavePicture(const std::string& hostPath) const {
+  const SimCanvas screen = Desktop.Picture();
+  const PixelSize size = screen.Size();
+  std::string bytes =
+      "P6\n" + std::to_string(size.width) + " " + std::to_string(size.height) + "\n255\n";
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) {
+      const Rgb colour = screen.PixelAt({x, y});
+      for (const unsigned shift : {0U, 8U, 16U})
+        bytes += static_cast<char>((colour >> shift) & 0xFF);
+    }
+  }
+  std::ofstream file(hostPath, std::ios::binary);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  return file.good();
+}
+
+}  // namespace corvelle::sim

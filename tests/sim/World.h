@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+
+#include "base/CodePage.h"
+#include "platform/Platform.h"
+#include "sim/SimDesktop.h"
+#include "sim/SimFiles.h"
+#include "sim/SimRegistry.h"
+#include "sim/SimShellExec.h"
+#include "sim/SimShellIcons.h"
+#include "sim/SimSystemInfo.h"
+
+namespace corvelle::sim {
+
+struct WorldOptions {
+  float TwipsPerPixel = 15;  // 15 at 96 dpi, 12 at 120 dpi
+  PixelSize Screen{1024, 768};
+  int CaptionHeight = 19;
+  int CaptionButtonWidth = 18;
+};
+
+/// All that a program runs on, made afresh for one test: the disk with drive C:, the desktop with
+/// its user, the shell, the registry and the machine. The running test fails when a message box
+/// came up that no answer was given for.
+class World {
+ public:
+  explicit World(const WorldOptions& options = {});
+
+  SimFiles Files;
+  Windows1252 Ansi;
+  SimRegistry Keys;
+  SimShellExec Shell;
+  SimShellIcons Icons;
+  SimSystemInfo System;
+  SimDesktop Desktop;
+
+  /// The services, as the program takes them.
+  Platform Services();
+  forms::WindowSystem& Windows() noexcept { return Desktop; }
+
+  /// Writes what the screen shows to a file of the host, as a PPM picture. False when it cannot.
+  [[nodiscard]] bool SavePicture(const std::string& hostPath) const;
+};
+
+}  // namespace corvelle::sim
