@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace corvelle {
+
+/// The commands that are words of the program rather than files.
+class BuiltInCommandsPort {
+ public:
+  virtual ~BuiltInCommandsPort() = default;
+
+  virtual void ShowNetSearch() = 0;
+  virtual void FindComputer() = 0;
+  virtual void MinimizeAllWindows() = 0;
+  virtual void UndoMinimizeAll() = 0;
+  virtual void ClearRecentDocs() = 0;
+  virtual void ClearTempFolder() = 0;
+  virtual void FileFind() = 0;
+};
+
+/// The user's browser and mail program. Each shows its own failures.
+class BrowserPort {
+ public:
+  virtual ~BrowserPort() = default;
+
+  /// Opens one web address.
+  virtual void OpenUrl(std::string_view url) = 0;
+  /// Opens one "mailto:" address.
+  virtual void OpenMail(std::string_view address) = 0;
+};
+
+/// Reading of shell links.
+class ShellLinksPort {
+ public:
+  virtual ~ShellLinksPort() = default;
+
+  /// Path of the file that a link stands for; empty when it stands for none or cannot be read.
+  [[nodiscard]] virtual std::string TargetOf(std::string_view linkPath) = 0;
+};
+
+}  // namespace corvelle

@@ -1,0 +1,106 @@
+#include "core/EntryCommands.h"
+
+#include "core/Program.h"
+#include "core/RecordEdits.h"
+
+namespace corvelle {
+namespace {
+
+float FreeWidth(const Program& program) {
+  return program.Ports.Toolbar != nullptr ? program.Ports.Toolbar->FreeWidth() : 0;
+}
+
+void ResizeStrip(Program& program, float freeWidth) {
+  if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->ResizeAfterEdit(freeWidth);
+}
+
+bool ConfirmsButtonDelete(Program& program) {
+  return program.Say(kNoWindow,
+                     "If you delete a button, you cannot Undo Delete. Do you want to continue ?",
+                     forms::msgbox::YesNo | forms::msgbox::OnTop) == forms::msgbox::AnswerYes;
+}
+
+// The row of single buttons is rewritten as a whole, by whoever owns it.
+template <class Edit>
+void EditSingles(Program& program, const Edit& edit) {
+  const float freeWidth = FreeWidth(program);
+  if (program.Ports.SingleButtons != nullptr) edit(*program.Ports.SingleButtons);
+  if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->DoSingleButtons();
+  ResizeStrip(program, freeWidth);
+}
+
+void DeleteButton(Program& program) {
+  const float freeWidth = FreeWidth(program);
+  // A file that cannot be deleted leaves its button on the strip, where the user sees it.
+  static_cast<void>(DeleteButtonFile(program.Services.Files, program.Entry));
+  if (program.Ports.Toolbar != nullptr) {
+    program.Ports.Toolbar->ResetCollections();
+    program.Ports.Toolbar->DoToolbarButtons();
+  }
+  ResizeStrip(program, freeWidth);
+}
+
+// A drag rereads the menu itself when it ends; until then only the built menu is stale.
+void RefreshAfterEdit(Program& program) {
+  if (program.Ports.Toolbar == nullptr) return;
+  if (program.Entry.ItemDragging) {
+    program.Ports.Toolbar->RemoveQMenu(program.Entry.CurMenuTag);
+  } else {
+    program.Ports.Toolbar->RefreshMenu(program.Entry.CurMenuTag);
+  }
+}
+
+void DeleteMenuItem(Program& program) {
+  const EditOutcome outcome = DeleteMenuEntry(program.Services.Files, program.Services.Ansi,
+                                              program.MenusPath, program.Entry);
+  if (outcome == EditOutcome::Edited) RefreshAfterEdit(program);
+  if (outcome == EditOutcome::RecordMismatch && !program.Entry.ItemDragging) {
+    program.Say(kNoWindow, "Cannot delete/cut this item. Record mismatch.",
+                forms::msgbox::IconInformation | forms::msgbox::OnTop);
+  }
+}
+
+}  // namespace
+
+void DeleteItem(Program& program, bool skipConfirm) {
+  const std::string& tag = program.Entry.CurMenuTag;
+  const bool ask = !program.Entry.ItemDragging && !skipConfirm && IsButtonTag(tag);
+  if (ask && !ConfirmsButtonDelete(program)) return;
+  if (IsSinglesTag(tag)) {
+    EditSingles(program, [&](SingleButtonsPort& row) { row.DeleteSingle(program.Entry.CurFile); });
+  } else if (IsButtonTag(tag)) {
+    DeleteButton(program);
+  } else if (IsMenuTag(tag)) {
+    DeleteMenuItem(program);
+  }
+}
+
+void PasteItem(Program& program) {
+  program.Entry.UndoMenuTag.clear();
+  if (IsSinglesTag(program.Entry.CurMenuTag)) {
+    EditSingles(program, [&](SingleButtonsPort& row) { row.PasteSingle(program.Entry.CurFile); });
+    return;
+  }
+  const EditOutcome outcome = PasteMenuEntry(program.Services.Files, program.Services.Ansi,
+                                             program.MenusPath, program.Entry);
+  if (outcome == EditOutcome::Edited) RefreshAfterEdit(program);
+}
+
+void UndoDeleteItem(Program& program) {
+  if (IsSinglesTag(program.Entry.UndoMenuTag)) {
+    EditSingles(program, [&](SingleButtonsPort& row) { row.UndoDeleteSB(program.Entry.UndoFile); });
+    if (program.Ports.Toolbar != nullptr) {
+      program.Ports.Toolbar->RefreshMenu(program.Entry.UndoMenuTag);
+    }
+    program.Entry.UndoMenuTag.clear();
+    return;
+  }
+  const EditOutcome outcome = UndoDeleteMenuEntry(program.Services.Files, program.Services.Ansi,
+                                                  program.MenusPath, program.Entry);
+  // A disk that refuses now may take it a moment later: the entry is not given up.
+  if (outcome == EditOutcome::Failed) return;
+  if (outcome == EditOutcome::Edited) RefreshAfterEdit(program);
+  program.Entry.UndoMenuTag.clear();
+}
+
+}  // namespace corvelle

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace corvelle {
+
+class Program;
+
+// The editing commands of the popup, of drags and of keys, on the entry that Program::Entry names.
+// Each settles its failures itself: it says what the user must know and leaves the file as it was.
+
+/// Deletes or cuts the entry. A whole toolbar button is deleted only after a question, unless
+/// `skipConfirm` or during a drag, and cannot be brought back.
+void DeleteItem(Program& program, bool skipConfirm);
+
+/// Puts the clipboard's entry before the current one. Ends the chance of an undo.
+void PasteItem(Program& program);
+
+/// Puts the last deleted entry back at its place.
+void UndoDeleteItem(Program& program);
+
+}  // namespace corvelle

@@ -1,0 +1,116 @@
+#include "core/Main.h"
+
+#include <string>
+
+#include "core/AppFolder.h"
+#include "core/Instance.h"
+#include "core/Program.h"
+#include "core/SettingsFiles.h"
+#include "core/Upgrade.h"
+#include "platform/FileSystem.h"
+#include "platform/SystemInfo.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kWelcomeTopic = 1002;
+
+void LoadWindows(Program& program) {
+  if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->LoadWindow();
+  if (program.Ports.Minimize != nullptr) program.Ports.Minimize->LoadWindow();
+}
+
+bool HasEnded(const Program& program) {
+  return program.Ports.Minimize != nullptr && !program.Ports.Minimize->WindowLoaded();
+}
+
+void CloseStartupWindow(Program& program) {
+  if (program.OptionFlags.Is(9) || program.Ports.Startup == nullptr) return;
+  program.Ports.Startup->HideWindow();
+  program.DoEvents();
+  program.Ports.Startup->UnloadWindow();
+}
+
+void ShowWelcome(Program& program) {
+  const std::string help = program.AppPath + "corvelle.hlp";
+  if (!program.Services.Files.FileExists(help)) return;
+  SystemInfo& system = program.Services.System;
+  if (!system.ShowHelpTopic(kNoWindow, help, kWelcomeTopic)) {
+    system.ShowHelpTopic(program.ToolbarWindow(), help, kWelcomeTopic);
+  }
+}
+
+// The link of an earlier copy is made anew, so that it points to this one.
+void OfferStartupLink(Program& program, StartupLinkPort& link) {
+  const std::string executable = program.AppPath + "corvelle.exe";
+  if (link.Exists()) {
+    link.Remove();
+    link.Create(executable);
+    return;
+  }
+  const int answer = program.Say(
+      kNoWindow,
+      "Would you like to set Corvelle as a startup program?\r\n"
+      "If you choose No, you can set it later from the Customize window under the Options menu.",
+      forms::msgbox::YesNo | forms::msgbox::IconQuestion | forms::msgbox::OnTop);
+  if (answer == forms::msgbox::AnswerYes) link.Create(executable);
+}
+
+// Without shell links the question cannot be kept, so it waits, and position 1 with it.
+void DoFirstRun(Program& program) {
+  if (program.OptionFlags.Is(1) || program.Ports.StartupLink == nullptr) return;
+  program.DoEvents();
+  OfferStartupLink(program, *program.Ports.StartupLink);
+  program.OptionFlags.Set(1, '1');
+  program.SaveOptionFlags();
+  ShowWelcome(program);
+}
+
+// A flag file that another program holds at this moment is no new installation: nothing is cleaned
+// away, and the run goes on with an installed version's flags.
+void ReadOptions(Program& program) {
+  const auto flags = ReadFlagsAtStart(program.Services.Files, program.AppPath);
+  if (flags) {
+    program.OptionFlags = *flags;
+    return;
+  }
+  program.OptionFlags = FlagsAfterUpgrade();
+  program.OptionFlags.Set(1, true);
+  program.OptionFlags.Set(2, true);
+}
+
+void Upgrade(Program& program) {
+  if (program.OptionFlags.Is(32)) return;
+  CleanInstallation(program.Services.Files, program.AppPath);
+  program.OptionFlags = FlagsAfterUpgrade();
+  program.SaveOptionFlags();
+}
+
+}  // namespace
+
+bool Main(Program& program) {
+  if (!ClaimSession(program)) return false;
+  program.AppPath = FindAppPath(program.Services);
+  ReadOptions(program);
+  program.StartingUp = true;
+  program.ShowStartupProgress();
+  program.DoEvents();
+  Upgrade(program);
+  program.WebLinkIcon = LoadWebLinkIcon(program.Services.Files, program.Services.Ansi,
+                                        program.AppPath, program.OptionFlags);
+  if (program.Ports.IconRule != nullptr) program.Ports.IconRule->DetectShellIcons();
+  program.NotOnTop = program.OptionFlags.Is(23);
+  LoadWindows(program);
+  CloseStartupWindow(program);
+  // Events ran: the companion may have been closed, and the program with it.
+  if (HasEnded(program)) return false;
+  DoFirstRun(program);
+  if (HasEnded(program)) return false;
+  if (program.NotOnTop && program.Ports.Minimize != nullptr) {
+    program.Ports.Minimize->ShowInSysTray();
+  }
+  program.StartingUp = false;
+  return true;
+}
+
+}  // namespace corvelle

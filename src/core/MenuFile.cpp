@@ -1,0 +1,188 @@
+#include "core/MenuFile.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include "base/CodePage.h"
+#include "core/MenuFolder.h"
+
+namespace corvelle {
+
+namespace {
+
+// More than record numbers reach, so that the count of a longer file still rounds as it should.
+constexpr std::size_t kReadLimit = (static_cast<std::size_t>(kMaxRecords) + 1) * kRecordLength;
+
+// A menu file larger than this is none, and is not taken into memory to be rewritten.
+constexpr std::uint64_t kRewriteLimit = 256ULL << 20U;
+
+std::size_t OffsetOf(int number) noexcept {
+  return (static_cast<std::size_t>(number) - 1) * kRecordLength;
+}
+
+/// Reads, and creates a missing file empty.
+FileResult<std::string> ReadOrCreate(FileSystem& files, std::string_view path, std::uint64_t offset,
+                                     std::size_t count) {
+  FileResult<std::string> bytes = files.Read(path, offset, count);
+  if (bytes || bytes.Error() != FileError::NotFound) return bytes;
+  const FileStatus created = files.WriteAt(path, 0, {});
+  if (!created) return created.Error();
+  return std::string();
+}
+
+FileResult<std::uint64_t> LengthOrCreate(FileSystem& files, std::string_view path) {
+  FileResult<std::uint64_t> length = files.Length(path);
+  if (length || length.Error() != FileError::NotFound) return length;
+  const FileStatus created = files.WriteAt(path, 0, {});
+  if (!created) return created.Error();
+  return std::uint64_t{0};
+}
+
+std::string FormatRecords(const std::vector<MenuRecord>& records, const CodePage& ansi) {
+  std::string bytes;
+  bytes.reserve(records.size() * kRecordLength);
+  for (const MenuRecord& record : records) bytes += FormatRecord(record, ansi);
+  return bytes;
+}
+
+/// All bytes of a file that is to be rewritten.
+FileResult<std::string> ReadWhole(FileSystem& files, std::string_view path) {
+  const FileResult<std::uint64_t> length = files.Length(path);
+  if (!length) return length.Error();
+  if (*length > kRewriteLimit) return FileError::Failed;
+  return files.Read(path, 0, static_cast<std::size_t>(*length));
+}
+
+/// Gives the old file its name back. Should a broken new file keep hold of the name, the old
+/// content goes into it.
+void PutBack(FileSystem& files, const std::string& temporary, std::string_view path,
+             const std::string* oldBytes) {
+  static_cast<void>(files.Remove(path));
+  if (files.Rename(temporary, path) || oldBytes == nullptr) return;
+  if (files.Replace(path, *oldBytes)) static_cast<void>(files.Remove(temporary));
+}
+
+}  // namespace
+
+FileResult<std::vector<MenuRecord>> ReadAllRecords(FileSystem& files, const CodePage& ansi,
+                                                   std::string_view path) {
+  const FileResult<std::string> bytes = ReadOrCreate(files, path, 0, kReadLimit);
+  if (!bytes) return bytes.Error();
+  const std::string_view all = *bytes;
+  std::vector<MenuRecord> records;
+  const int count = RecordCount(all.size());
+  records.reserve(static_cast<std::size_t>(count));
+  for (int number = 1; number <= count; ++number) {
+    records.push_back(ParseRecord(all.substr(OffsetOf(number), kRecordLength), ansi));
+  }
+  return records;
+}
+
+FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi, std::string_view path,
+                                  int number) {
+  if (number < 1 || number > kMaxRecords) return FileError::Failed;
+  const FileResult<std::string> bytes = ReadOrCreate(files, path, OffsetOf(number), kRecordLength);
+  if (!bytes) return bytes.Error();
+  return ParseRecord(*bytes, ansi);
+}
+
+FileResult<int> CountRecords(FileSystem& files, std::string_view path) {
+  const FileResult<std::uint64_t> length = LengthOrCreate(files, path);
+  if (!length) return length.Error();
+  return RecordCount(*length);
+}
+
+FileStatus WriteRecord(FileSystem& files, const CodePage& ansi, std::string_view path, int number,
+                       const MenuRecord& record) {
+  if (number < 1 || number > kMaxRecords) return FileError::Failed;
+  const FileResult<std::uint64_t> length = LengthOrCreate(files, path);
+  if (!length) return length.Error();
+  // A gap before the record would be filled with NULs, which are no blanks.
+  const std::uint64_t offset = std::min<std::uint64_t>(OffsetOf(number), *length);
+  std::string bytes(OffsetOf(number) - static_cast<std::size_t>(offset), ' ');
+  bytes += FormatRecord(record, ansi);
+  return files.WriteAt(path, offset, bytes);
+}
+
+FileStatus AppendRecords(FileSystem& files, const CodePage& ansi, std::string_view path,
+                         const std::vector<MenuRecord>& records) {
+  FileResult<std::string> old = ReadWhole(files, path);
+  if (!old && old.Error() != FileError::NotFound) return old.Error();
+  return files.Replace(path,
+                       WholeRecords(std::move(old).ValueOr({})) + FormatRecords(records, ansi));
+}
+
+FileStatus WriteRecords(FileSystem& files, const CodePage& ansi, std::string_view path,
+                        const std::vector<MenuRecord>& records) {
+  return files.Replace(path, FormatRecords(records, ansi));
+}
+
+std::string WholeRecords(std::string bytes) {
+  const std::size_t rest = bytes.size() % kRecordLength;
+  const auto restCount = static_cast<std::size_t>(RecordCount(rest));
+  // Halves round to even, so that a tail of half a record counts behind an odd number of records.
+  const bool half = rest * 2 == kRecordLength && (bytes.size() / kRecordLength) % 2 == 1;
+  const std::size_t whole = bytes.size() / kRecordLength + (half ? 1 : restCount);
+  bytes.resize(whole * kRecordLength, ' ');
+  return bytes;
+}
+
+std::string WithoutRecord(std::string records, int number) {
+  if (number < 1 || OffsetOf(number) >= records.size()) return records;
+  return records.erase(OffsetOf(number), kRecordLength);
+}
+
+std::string InsertRecord(std::string records, int before, std::string_view record) {
+  if (before < 1 || OffsetOf(before) >= records.size()) return records;
+  return records.insert(OffsetOf(before), record);
+}
+
+std::string InsertOrAppendRecord(std::string records, int before, std::string_view record) {
+  if (before < 1) return records;
+  return records.insert(std::min(OffsetOf(before), records.size()), record);
+}
+
+FileStatus RewriteMenuFile(FileSystem& files, std::string_view menusPath, std::string_view path,
+                           const RecordsEdit& edit) {
+  const std::string temporary = std::string(menusPath) + std::string(kRewriteFileName);
+  if (files.FileExists(temporary)) {
+    const FileStatus removed = files.Remove(temporary);
+    if (!removed) return removed;
+  }
+  const FileStatus renamed = files.Rename(path, temporary);
+  if (!renamed) return renamed;
+
+  const FileResult<std::string> old = ReadWhole(files, temporary);
+  if (!old) {
+    PutBack(files, temporary, path, nullptr);
+    return old.Error();
+  }
+  FileStatus done = files.Write(path, edit(WholeRecords(*old)));
+  if (done) done = files.Remove(temporary);
+  if (!done) PutBack(files, temporary, path, &*old);
+  return done;
+}
+
+FileResult<std::string> CreateButtonFile(FileSystem& files, const CodePage& ansi,
+                                         std::string_view menusPath) {
+  const FileResult<std::vector<std::string>> names = ListMenuFiles(files, menusPath);
+  if (!names) return names.Error();
+  int number = static_cast<int>(names->size()) + 1;
+  std::string path = std::string(menusPath) + MenuFileName(number);
+  // With a gap in the numbering the next number can be taken, and its menu must not be lost.
+  while (files.FileExists(path)) path = std::string(menusPath) + MenuFileName(++number);
+  const FileStatus written = WriteRecords(files, ansi, path, {NewButtonRecord(), NewItemRecord()});
+  if (!written) return written.Error();
+  return path;
+}
+
+FileResult<std::string> WriteMainMenuFile(FileSystem& files, const CodePage& ansi,
+                                          std::string_view appPath) {
+  std::string path = std::string(appPath) + std::string(kMainMenuFileName);
+  const FileStatus written = WriteRecords(files, ansi, path, MainMenuRecords());
+  if (!written) return written.Error();
+  return path;
+}
+
+}  // namespace corvelle

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/MenuRecord.h"
+#include "platform/FileSystem.h"
+
+namespace corvelle {
+
+class CodePage;
+
+/// Name of the menu file while it is rewritten, in the folder of the menu files.
+inline constexpr std::string_view kRewriteFileName = "TTTTTTTT";
+
+/// All records of a file, read at once. A missing file is created empty, as opening it for records
+/// does; the error is that of a file that can neither be read nor created.
+[[nodiscard]] FileResult<std::vector<MenuRecord>> ReadAllRecords(FileSystem& files,
+                                                                 const CodePage& ansi,
+                                                                 std::string_view path);
+
+/// Record `number` (from 1) of a file; blank past the file's end, Failed below 1. A missing file is
+/// created empty.
+[[nodiscard]] FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi,
+                                                std::string_view path, int number);
+
+/// How many records a file has. A missing file is created empty.
+[[nodiscard]] FileResult<int> CountRecords(FileSystem& files, std::string_view path);
+
+/// Overwrites record `number` of a file, which grows as far as it must; no other record changes.
+FileStatus WriteRecord(FileSystem& files, const CodePage& ansi, std::string_view path, int number,
+                       const MenuRecord& record);
+
+/// Adds records to the end of a file, which is created when missing. After a failure the file is
+/// what it was.
+FileStatus AppendRecords(FileSystem& files, const CodePage& ansi, std::string_view path,
+                         const std::vector<MenuRecord>& records);
+
+/// Makes the records the whole content of a file. After a failure the file is what it was.
+FileStatus WriteRecords(FileSystem& files, const CodePage& ansi, std::string_view path,
+                        const std::vector<MenuRecord>& records);
+
+/// An edit of a menu file: from whole records of 570 bytes each to whole records.
+using RecordsEdit = std::function<std::string(std::string records)>;
+
+/// The bytes of a file as whole records: a short last one is filled up with blanks, and what does
+/// not amount to half a record is dropped.
+[[nodiscard]] std::string WholeRecords(std::string bytes);
+
+/// Edits on whole records. A place that the file does not have changes nothing, but for the append.
+[[nodiscard]] std::string WithoutRecord(std::string records, int number);
+[[nodiscard]] std::string InsertRecord(std::string records, int before, std::string_view record);
+[[nodiscard]] std::string InsertOrAppendRecord(std::string records, int before,
+                                               std::string_view record);
+
+/// Rewrites a menu file: it takes the name kRewriteFileName in `menusPath` (with its trailing
+/// backslash), its edited content goes to a new file at `path`, and the old one is deleted. When a
+/// step fails the old file gets its name back and the error is returned.
+FileStatus RewriteMenuFile(FileSystem& files, std::string_view menusPath, std::string_view path,
+                           const RecordsEdit& edit);
+
+/// Creates the file of a new menu button with one item, behind those there are, and gives its path.
+[[nodiscard]] FileResult<std::string> CreateButtonFile(FileSystem& files, const CodePage& ansi,
+                                                       std::string_view menusPath);
+
+/// Writes the file of the program's own menu anew and gives its path.
+[[nodiscard]] FileResult<std::string> WriteMainMenuFile(FileSystem& files, const CodePage& ansi,
+                                                        std::string_view appPath);
+
+}  // namespace corvelle

@@ -1,0 +1,121 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/OptionFlags.h"
+#include "core/RecordEdits.h"
+#include "core/WindowPorts.h"
+#include "forms/WindowSystem.h"
+#include "platform/Platform.h"
+
+namespace corvelle {
+
+/// One running program: the state that its windows share and the way to its windows and services.
+/// It is passed to whoever needs it; a test makes as many as it likes.
+class Program {
+ public:
+  Program(const Platform& services, forms::WindowSystem& windows)
+      : Services(services), Windows(windows) {}
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  Platform Services;
+  forms::WindowSystem& Windows;
+  WindowPorts Ports;
+
+  /// Title of the application, which its message boxes bear.
+  std::string Title = "Corvelle";
+
+  // Folders, each with a trailing backslash.
+  std::string AppPath;
+  std::string MenusPath;
+  std::string IconsPath;
+  std::string ShellLinkPath;
+
+  corvelle::OptionFlags OptionFlags;
+
+  /// From the moment the flags are read until Main ends.
+  bool StartingUp = false;
+  /// Option 23: other windows may cover the strip.
+  bool NotOnTop = false;
+  /// The strip's window procedure may act on its messages.
+  bool ToolbarReady = false;
+  /// Option 3 in force.
+  bool AutoHide = false;
+
+  // Placement of the strip. "TOP", "BOTTOM", "LEFT" or "RIGHT".
+  bool AppBarDocked = false;
+  bool AppBarRequested = false;
+  bool ToolbarVertical = false;
+  std::string ToolbarEdge = "TOP";
+  /// The strip has stepped out of its edge for the moment and belongs back there.
+  bool WasDocked = false;
+  bool ToolbarMinimized = false;
+  /// The options ask for an edge that cannot be given in this run: the strip hugs the top meanwhile
+  /// and the options keep the request.
+  bool EdgePending = false;
+
+  // Guards against what arrives while a rebuild lets events through.
+  bool AppBarBusy = false;
+  bool PosChangeRunning = false;
+  bool RestoreBusy = false;
+  bool HideBusy = false;
+  bool MenuBuilding = false;
+  bool ChangingMode = false;
+  bool IconsLoading = false;
+
+  /// A full-screen program was last reported.
+  bool FullScreenApp = false;
+
+  /// 16, or the shell's large icon size. Pixels.
+  int IconSize = 16;
+  /// Index of the button under the pointer, 0 for none.
+  int CurButton = 0;
+  /// A menu is up, or a press on the strip is to open one.
+  bool MenuOpen = false;
+  /// Index of the menu item under selection, 0 for none.
+  int SelectedItem = 0;
+  /// The keyboard drives the strip rather than a menu.
+  bool KeyboardOnToolbar = false;
+  /// The pointer stands in the menu, but below the last item.
+  bool PointerBelowItems = false;
+  /// The current item follows a separator.
+  bool ItemHasSeparator = false;
+
+  /// The entry that a menu or popup acted on last, the entry clipboard, the last deleted entry, and
+  /// whether a menu item is being moved with the mouse.
+  EntryEdit Entry;
+
+  /// The Icon Library has built its lists in this run.
+  bool LibraryBuilt = false;
+
+  // Icons (web links, and whether the shell shows each icon file by its own picture).
+  std::string WebLinkIcon;
+  bool ShellDrawsIcons = false;
+
+  /// Lets waiting events run. Whoever calls it must be ready for anything to have happened.
+  void DoEvents() { Windows.DoEvents(); }
+
+  /// Shows the hint, or closes it when the text is empty.
+  void SetHint(std::string_view text);
+
+  /// One more dot in the startup window, while the program starts and unless option 9 is "1".
+  void ShowStartupProgress();
+
+  /// Writes the flags to their file. A failure is quiet: the flags stay in force for this run, and
+  /// the old file stays as it was.
+  void SaveOptionFlags();
+
+  /// Option 14 to 16 from the placement, and back. See core/OptionFlags.h.
+  void SaveEdgeFlags();
+  void ReadEdgeFlags();
+
+  /// Message box with the application's title. `owner` may be none, for the desktop.
+  int Say(WindowId owner, std::string_view text, unsigned flags);
+
+  /// The strip's window, none before it is loaded.
+  [[nodiscard]] WindowId ToolbarWindow() const;
+};
+
+}  // namespace corvelle

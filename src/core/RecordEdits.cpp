@@ -1,0 +1,137 @@
+#include "core/RecordEdits.h"
+
+#include <cstdint>
+#include <utility>
+
+#include "base/Text.h"
+#include "core/MenuFile.h"
+
+namespace corvelle {
+
+namespace {
+
+MenuRecord ClipboardRecord(const EntryEdit& edit) {
+  return {edit.ClipTitle, edit.ClipIcon, edit.ClipCommand};
+}
+
+MenuRecord UndoStoreRecord(const EntryEdit& edit) {
+  return {edit.UndoTitle, edit.UndoIcon, edit.UndoCommand};
+}
+
+bool IsCurrentEntry(const EntryEdit& edit, const MenuRecord& record) {
+  return EqualNoCase(record.FTitle, edit.CurTitle) && EqualNoCase(record.FIcon, edit.CurIcon) &&
+         EqualNoCase(record.FName, edit.CurCommand);
+}
+
+EditOutcome OutcomeOf(const FileStatus& status) {
+  return status ? EditOutcome::Edited : EditOutcome::Failed;
+}
+
+/// Writes record `number` of the current file back with another command.
+EditOutcome ChangeCommand(FileSystem& files, const CodePage& ansi, const EntryEdit& edit,
+                          int number, std::string (*change)(std::string_view)) {
+  const FileResult<int> count = CountRecords(files, edit.CurFile);
+  if (!count) return EditOutcome::Failed;
+  if (number < 1 || number > *count) return EditOutcome::NothingToDo;
+  FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, number);
+  if (!record) return EditOutcome::Failed;
+  record->FName = change(record->FName);
+  return OutcomeOf(WriteRecord(files, ansi, edit.CurFile, number, *record));
+}
+
+}  // namespace
+
+bool IsButtonTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "B"); }
+
+bool IsMenuTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "F"); }
+
+bool IsSinglesTag(std::string_view tag) noexcept { return EqualNoCase(tag, "SingleButtons"); }
+
+EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                            const EntryEdit& edit) {
+  if (!IsMenuTag(edit.CurMenuTag)) return EditOutcome::NothingToDo;
+  if (IsGenerated(edit.CurRecord)) {
+    return edit.ItemDragging ? EditOutcome::NothingToDo : EditOutcome::RecordMismatch;
+  }
+  const FileResult<int> count = CountRecords(files, edit.CurFile);
+  if (!count) return EditOutcome::Failed;
+  // A place that the file does not have reads as a blank entry, which is not the one meant.
+  if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
+  const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
+  if (!record) return EditOutcome::Failed;
+  if (!IsCurrentEntry(edit, *record)) return EditOutcome::RecordMismatch;
+  return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
+    return WithoutRecord(std::move(records), edit.CurRecord);
+  }));
+}
+
+EditOutcome DeleteButtonFile(FileSystem& files, const EntryEdit& edit) {
+  return OutcomeOf(files.Remove(edit.CurFile));
+}
+
+EditOutcome PasteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                           const EntryEdit& edit) {
+  const FileResult<std::uint64_t> length = files.Length(edit.CurFile);
+  if (!length) return EditOutcome::Failed;
+  const int place = RealRecord(edit.CurRecord);
+  if (place < 1 || place > RecordCount(*length)) return EditOutcome::NothingToDo;
+  const std::string record = FormatRecord(ClipboardRecord(edit), ansi);
+  return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
+    return InsertRecord(std::move(records), place, record);
+  }));
+}
+
+EditOutcome UndoDeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                                const EntryEdit& edit) {
+  // A generated entry was never deleted, so there is nothing to bring back.
+  if (edit.UndoRecord < 1 || IsGenerated(edit.UndoRecord)) return EditOutcome::NothingToDo;
+  const std::string record = FormatRecord(UndoStoreRecord(edit), ansi);
+  return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
+    return InsertOrAppendRecord(std::move(records), edit.UndoRecord, record);
+  }));
+}
+
+EditOutcome CloseFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
+  return ChangeCommand(files, ansi, edit, RealRecord(edit.CurRecord), CloseFolderText);
+}
+
+EditOutcome OpenFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
+  return ChangeCommand(files, ansi, edit, edit.CurRecord, OpenFolderText);
+}
+
+void CopyEntry(EntryEdit& edit) {
+  SetClipboard(edit, {edit.CurTitle, edit.CurIcon, edit.CurCommand});
+}
+
+void SetClipboard(EntryEdit& edit, const MenuRecord& record) {
+  edit.ClipTitle = record.FTitle;
+  edit.ClipIcon = record.FIcon;
+  edit.ClipCommand = record.FName;
+}
+
+void RememberForUndo(EntryEdit& edit) {
+  edit.UndoTitle = edit.CurTitle;
+  edit.UndoIcon = edit.CurIcon;
+  edit.UndoCommand = edit.CurCommand;
+  edit.UndoMenuTag = IsButtonTag(edit.CurMenuTag) ? std::string() : edit.CurMenuTag;
+  edit.UndoFile = edit.CurFile;
+  edit.UndoRecord = edit.CurRecord;
+}
+
+EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit) {
+  const int place = RealRecord(edit.CurRecord) - 1;
+  if (place < 1) return EditOutcome::RecordMismatch;
+  const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, place);
+  if (!record) return EditOutcome::Failed;
+  // The rule above a generated entry can be a generated one too, and what stands in the file before
+  // its folder item is then no separator.
+  if (!IsSeparatorIcon(record->FIcon)) return EditOutcome::RecordMismatch;
+  edit.CurRecord = place;
+  edit.CurTitle = record->FTitle;
+  edit.CurIcon = record->FIcon;
+  edit.CurCommand = record->FName;
+  RememberForUndo(edit);
+  return EditOutcome::Edited;
+}
+
+}  // namespace corvelle

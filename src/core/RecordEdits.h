@@ -1,0 +1,88 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/MenuRecord.h"
+#include "platform/FileSystem.h"
+
+namespace corvelle {
+
+class CodePage;
+
+/// The entry that a menu or popup acted on last, the entry clipboard and the last deleted entry.
+struct EntryEdit {
+  std::string CurTitle;
+  std::string CurIcon;
+  std::string CurCommand;
+  std::string CurMenuTag;  // "B" or "F" and an index, "Q1", "SingleButtons" or "Toolbar"
+  std::string CurFile;     // full path
+  int CurRecord = 0;       // above kGeneratedBase for a generated entry
+
+  std::string ClipTitle;
+  std::string ClipIcon;
+  std::string ClipCommand;
+
+  std::string UndoTitle;
+  std::string UndoIcon;
+  std::string UndoCommand;
+  std::string UndoMenuTag;  // empty: there is nothing to undo
+  std::string UndoFile;
+  int UndoRecord = 0;
+
+  bool ItemDragging = false;  // a menu item is being moved with the mouse
+
+  friend bool operator==(const EntryEdit&, const EntryEdit&) = default;
+};
+
+/// What an edit came to.
+enum class EditOutcome {
+  Edited,          // the file is changed
+  NothingToDo,     // there is no such place, or no edit for such an entry; the file is untouched
+  RecordMismatch,  // the file does not hold the entry any more; the file is untouched
+  Failed,          // the disk refused; the file is what it was
+};
+
+/// What the popup's texts call a tag.
+[[nodiscard]] bool IsButtonTag(std::string_view tag) noexcept;   // "B" and an index
+[[nodiscard]] bool IsMenuTag(std::string_view tag) noexcept;     // "F" and an index
+[[nodiscard]] bool IsSinglesTag(std::string_view tag) noexcept;  // "SingleButtons"
+
+/// Takes record CurRecord out of CurFile if it still is the current entry. Only for an entry of a
+/// menu; a generated one never leaves, silently so during a drag.
+EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                            const EntryEdit& edit);
+
+/// Deletes the file of a toolbar button. There is no way back.
+EditOutcome DeleteButtonFile(FileSystem& files, const EntryEdit& edit);
+
+/// Puts the clipboard's record before record CurRecord of CurFile; for a generated entry before its
+/// folder item. Past the end nothing is put.
+EditOutcome PasteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                           const EntryEdit& edit);
+
+/// Puts the last deleted record back to its place in CurFile, or to the end when the file has
+/// become shorter.
+EditOutcome UndoDeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                                const EntryEdit& edit);
+
+/// Keeps a folder item from being expanded: edits the command of the item that a generated entry
+/// came from.
+EditOutcome CloseFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit);
+/// Lets the folder item at CurRecord be expanded again.
+EditOutcome OpenFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit);
+
+/// Clipboard = current entry.
+void CopyEntry(EntryEdit& edit);
+/// Clipboard = a record; three empty texts by default.
+void SetClipboard(EntryEdit& edit, const MenuRecord& record = {});
+
+/// Undo store = current entry. A deleted toolbar button cannot be brought back, so that its tag
+/// leaves nothing to undo.
+void RememberForUndo(EntryEdit& edit);
+
+/// Makes the separator above the current entry the current entry and remembers it for undoing.
+/// RecordMismatch, and nothing changed, when there is none.
+EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit);
+
+}  // namespace corvelle

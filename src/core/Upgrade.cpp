@@ -1,0 +1,67 @@
+#include "core/Upgrade.h"
+
+#include <string>
+#include <vector>
+
+#include "base/Sort.h"
+
+namespace corvelle {
+namespace {
+
+constexpr std::string_view kOlderFlagFiles = "tmenu4*.dat";
+
+// The names of the older versions' flag files, sorted, so that the choice does not hang on the
+// disk.
+std::vector<std::string> OlderFlagFiles(FileSystem& files, const std::string& folder) {
+  std::vector<std::string> names;
+  // A folder that cannot be listed holds no older flags to take over.
+  for (const FileEntry& entry : files.List(folder, kOlderFlagFiles).ValueOr({})) {
+    if (!entry.IsFolder) names.push_back(entry.Name);
+  }
+  SortTexts(names);
+  return names;
+}
+
+void DeleteDataFiles(FileSystem& files, const std::string& folder) {
+  const auto entries = files.List(folder, "*.dat");
+  if (!entries) return;
+  for (const FileEntry& entry : *entries) {
+    // A locked file is left for the next time.
+    if (!entry.IsFolder) static_cast<void>(files.Remove(folder + entry.Name));
+  }
+}
+
+}  // namespace
+
+FileResult<OptionFlags> ReadFlagsAtStart(FileSystem& files, std::string_view appPath) {
+  const std::string folder(appPath);
+  const std::string current = folder + std::string(kOptionFlagsFileName);
+  if (files.FileExists(current)) {
+    const FileResult<std::string> bytes = files.Read(current, 0, OptionFlags::kLength);
+    if (!bytes) return bytes.Error();
+    return OptionFlags::Clean(*bytes);
+  }
+  const std::vector<std::string> older = OlderFlagFiles(files, folder);
+  if (older.empty()) return OptionFlags();
+  const FileResult<std::string> bytes = files.Read(folder + older.front(), 0, OptionFlags::kLength);
+  if (!bytes) return bytes.Error();
+  OptionFlags flags = OptionFlags::Clean(*bytes);
+  flags.Set(1, false);
+  flags.Set(2, false);
+  // Should the old file stay, this version's file outweighs it from its first save on.
+  static_cast<void>(files.Remove(folder + older.front()));
+  return flags;
+}
+
+void CleanInstallation(FileSystem& files, std::string_view appPath) {
+  const std::string folder(appPath);
+  DeleteDataFiles(files, folder);
+  const std::string icons = folder + "ICONS\\";
+  if (files.FolderExists(icons)) DeleteDataFiles(files, icons);
+  // A folder that came without the factory list stays without a list.
+  if (!files.FileExists(folder + "netsrch.ini")) {
+    static_cast<void>(files.Copy(folder + "anetsrch.org", folder + "netsrch.ini"));
+  }
+}
+
+}  // namespace corvelle

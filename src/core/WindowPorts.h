@@ -1,0 +1,284 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/CommandPorts.h"
+#include "forms/Types.h"
+#include "platform/WindowId.h"
+
+namespace corvelle {
+
+// What the windows of the program may ask of one another. Each port lists what others need and no
+// more; the windows behind them stand on higher floors.
+
+/// Loading and unloading, the same for every window that the program ends with.
+class LoadedWindow {
+ public:
+  virtual ~LoadedWindow() = default;
+
+  virtual void LoadWindow() = 0;
+  /// Does nothing when not loaded.
+  virtual void UnloadWindow() = 0;
+  [[nodiscard]] virtual bool WindowLoaded() const = 0;
+};
+
+/// The strip.
+class ToolbarPort : public LoadedWindow {
+ public:
+  [[nodiscard]] virtual WindowId WindowHandle() const = 0;
+  [[nodiscard]] virtual WindowId ButtonBoxHandle() const = 0;  // picToolbar
+  [[nodiscard]] virtual WindowId SingleBoxHandle() const = 0;  // picSingleButton
+
+  /// Top edge of the window, twips.
+  [[nodiscard]] virtual float WindowTop() const = 0;
+
+  /// Closes any open menu and restores the look of the buttons.
+  virtual void ResetMenu() = 0;
+  /// Reads a menu that is up anew, after its file changed. An empty tag takes the last one.
+  virtual void RefreshMenu(std::string_view tag) = 0;
+  /// Opens a menu again from its tag.
+  virtual void OpenMenu(std::string_view tag) = 0;
+  /// Drops a built menu from the cache.
+  virtual void RemoveQMenu(std::string_view tag) = 0;
+  /// Places the menu window against the strip.
+  virtual void SetMenuPosition() = 0;
+  /// A key of the menu that moves along the strip.
+  virtual void ActivateKeyDown(int keyCode) = 0;
+
+  /// Saves the options and rebuilds the strip after a change in the menus or the options.
+  virtual void InitNewButtons() = 0;
+  /// Reads the menu buttons anew and draws them, without sizing the strip.
+  virtual void DoToolbarButtons() = 0;
+  /// Reads the single buttons anew and draws them.
+  virtual void DoSingleButtons() = 0;
+  /// Empties the icon collections kept for menus.
+  virtual void ResetCollections() = 0;
+  /// Room between the strip's right end and the screen's, twips.
+  [[nodiscard]] virtual float FreeWidth() const = 0;
+  /// Sizes the strip after its buttons changed in number; a floating strip keeps its right end, so
+  /// that `freeWidth` (as it was before) stays free.
+  virtual void ResizeAfterEdit(float freeWidth) = 0;
+
+  /// Brings the strip to the foreground from another program's turn.
+  virtual void BringToForeground() = 0;
+  /// Puts a floating strip where it belongs, or keeps its hidden line.
+  virtual void CheckToolbarMove() = 0;
+  /// Shows the window without making it active and paints it.
+  virtual void ShowAndRefresh() = 0;
+};
+
+/// The one menu window.
+class QMenuPort : public LoadedWindow {
+ public:
+  [[nodiscard]] virtual WindowId WindowHandle() const = 0;
+  [[nodiscard]] virtual bool MenuVisible() const = 0;
+
+  /// Index of the button that owns the menu, as decimal text; "0" when none, empty before the
+  /// first.
+  [[nodiscard]] virtual const std::string& OwnerTag() const = 0;
+  virtual void SetOwnerTag(std::string tag) = 0;
+  /// Key of the menu on show or last on show.
+  [[nodiscard]] virtual const std::string& CurrentKey() const = 0;
+
+  /// Shows the menu of that key, from the cache or built from its file.
+  virtual void ShowMenu(std::string_view menuKey, std::string_view menuFile) = 0;
+  virtual void HideMenu() = 0;
+  /// Empties the window for another menu.
+  virtual void ResetQMenu() = 0;
+  /// Drops a key from the cache of built menus; no matter if it is not there.
+  virtual void ForgetMenu(std::string_view menuKey) = 0;
+  [[nodiscard]] virtual bool HasBuiltMenu(std::string_view menuKey) const = 0;
+
+  /// The poll that closes the menu when the user leaves it.
+  virtual void SetPoll(bool enabled) = 0;
+  virtual void SetPollInterval(int milliseconds) = 0;
+
+  /// Twips.
+  [[nodiscard]] virtual float MenuWidth() const = 0;
+  [[nodiscard]] virtual float MenuHeight() const = 0;
+  virtual void MoveMenu(float left, float top) = 0;
+
+  /// A key, a character, a move or a release that the strip got while the menu is up. Points are
+  /// twips of the menu's inside.
+  virtual void ActivateKeyDown(int keyCode) = 0;
+  virtual void xKeyPress(char32_t character) = 0;
+  virtual void xMouseMove(float y) = 0;
+  virtual void xMouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y) = 0;
+
+  /// Back to the page that was up before a rebuild.
+  virtual void GetCurMenu() = 0;
+
+  virtual void InitIcons() = 0;
+  virtual void ResetPicIcons() = 0;
+  virtual void SetWindowPos(forms::InsertAfter after, unsigned flags) = 0;
+};
+
+/// The hidden companion, whose end is the program's end.
+class MinimizePort : public LoadedWindow {
+ public:
+  /// Puts the icon into the tray.
+  virtual void ShowInSysTray() = 0;
+};
+
+/// The small window that counts dots while the program starts.
+class StartupPort : public LoadedWindow {
+ public:
+  /// One more dot; loads the window and makes it visible if it is not.
+  virtual void AddDot() = 0;
+  virtual void HideWindow() = 0;
+};
+
+/// Hints over buttons and items.
+class HintPort {
+ public:
+  virtual ~HintPort() = default;
+
+  /// Shows the text, or closes the hint when it is empty.
+  virtual void SetHint(std::string_view text) = 0;
+  [[nodiscard]] virtual WindowId WindowHandle() const = 0;
+};
+
+/// Placement of the strip at a screen edge.
+class DockingPort {
+ public:
+  virtual ~DockingPort() = default;
+
+  virtual void RegisterAppBar() = 0;
+  /// Gives up the edge and registers anew, empty.
+  virtual void RemoveAppBar() = 0;
+  /// Gives up the edge for good.
+  virtual void EndAppBar() = 0;
+  /// True if no other window hides at that edge.
+  [[nodiscard]] virtual bool AutoHideFree(std::string_view edge) = 0;
+  /// Puts the strip at the edge, or anew at its edge when `edge` is empty.
+  virtual void SetAppBar(std::string_view edge, bool rebuild) = 0;
+  virtual void RevealToolbar() = 0;
+};
+
+/// The entry for the program in the user's Startup folder.
+class StartupLinkPort {
+ public:
+  virtual ~StartupLinkPort() = default;
+
+  [[nodiscard]] virtual bool Exists() = 0;
+  virtual void Remove() = 0;
+  /// A link to this executable.
+  virtual void Create(std::string_view executable) = 0;
+};
+
+/// Sample entries for a new user.
+class DefaultEntriesPort {
+ public:
+  virtual ~DefaultEntriesPort() = default;
+  virtual void IncludeCommonFiles() = 0;
+};
+
+/// Rewriting of the row of single buttons.
+class SingleButtonsPort {
+ public:
+  virtual ~SingleButtonsPort() = default;
+
+  /// Rewrites the files without the button of `file`.
+  virtual void DeleteSingle(std::string_view file) = 0;
+  /// Rewrites the files with the clipboard's entry before the button of `file`.
+  virtual void PasteSingle(std::string_view file) = 0;
+  /// Rewrites the files with the undo entry back in its place.
+  virtual void UndoDeleteSB(std::string_view file) = 0;
+};
+
+/// Looks once, at start, how the shell shows icon files.
+class IconRulePort {
+ public:
+  virtual ~IconRulePort() = default;
+  virtual void DetectShellIcons() = 0;
+};
+
+/// The store of the icons that come with the program.
+class IconLibraryPort {
+ public:
+  virtual ~IconLibraryPort() = default;
+  virtual void ExtractIconLibrary() = 0;
+};
+
+/// The still picture that covers a window while it is rebuilt.
+class CapturePort {
+ public:
+  virtual ~CapturePort() = default;
+  virtual void CaptureMenu() = 0;
+  virtual void ReleaseMenu() = 0;
+  [[nodiscard]] virtual bool MenuCaptured() const = 0;
+};
+
+/// Folder items, which expand into a generated file when their menu opens.
+class FolderMenusPort {
+ public:
+  virtual ~FolderMenusPort() = default;
+
+  /// The file to build the menu from: the generated one when `menuFile` has open folder items, else
+  /// `menuFile` itself.
+  virtual std::string Expand(std::string_view menuKey, std::string_view menuFile) = 0;
+  /// True if the folders of a built menu changed since.
+  virtual bool UpdateMenu(std::string_view menuKey) = 0;
+};
+
+/// Special folders of the shell.
+class SpecialFoldersPort {
+ public:
+  virtual ~SpecialFoldersPort() = default;
+
+  /// Index of the folder's icon in the system's list; negative when the name is not known.
+  virtual int SpecialFolderIconIndex(std::string_view name) = 0;
+  /// Opens the folder, or an entry of it; `argument` may be empty.
+  virtual void OpenSpecialFolder(std::string_view name, std::string_view argument) = 0;
+};
+
+/// The program's own menu.
+class MainMenuPort {
+ public:
+  virtual ~MainMenuPort() = default;
+  /// Carries out a choice by its caption.
+  virtual void xMainMenu(int index, std::string_view text) = 0;
+  /// The state marks of its items.
+  virtual void CheckLabels() = 0;
+};
+
+/// The popup of right clicks.
+class PopupPort {
+ public:
+  virtual ~PopupPort() = default;
+  /// Fills the popup for the current item and shows it at the pointer.
+  virtual void ShowToolbarPopup() = 0;
+};
+
+/// All windows and services that may be asked for. Those that a build of the program does not have
+/// are null, and whoever asks goes on without them.
+struct WindowPorts {
+  ToolbarPort* Toolbar = nullptr;
+  QMenuPort* QMenu = nullptr;
+  MinimizePort* Minimize = nullptr;
+  StartupPort* Startup = nullptr;
+  HintPort* Hint = nullptr;
+  DockingPort* Docking = nullptr;
+  StartupLinkPort* StartupLink = nullptr;
+  DefaultEntriesPort* DefaultEntries = nullptr;
+  SingleButtonsPort* SingleButtons = nullptr;
+  IconRulePort* IconRule = nullptr;
+  IconLibraryPort* IconLibrary = nullptr;
+  CapturePort* Capture = nullptr;
+  FolderMenusPort* FolderMenus = nullptr;
+  SpecialFoldersPort* SpecialFolders = nullptr;
+  MainMenuPort* MainMenu = nullptr;
+  PopupPort* Popup = nullptr;
+  BuiltInCommandsPort* BuiltInCommands = nullptr;
+  BrowserPort* Browser = nullptr;
+  ShellLinksPort* ShellLinks = nullptr;
+  // Windows that are loaded on demand and closed at the end.
+  LoadedWindow* NetSearch = nullptr;
+  LoadedWindow* Properties = nullptr;
+  LoadedWindow* Customize = nullptr;
+  LoadedWindow* ImageWindow = nullptr;
+  LoadedWindow* Library = nullptr;
+};
+
+}  // namespace corvelle

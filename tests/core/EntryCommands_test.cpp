@@ -1,0 +1,223 @@
+#include "core/EntryCommands.h"
+
+#include <gtest/gtest.h>
+
+#include "core/CoreDoubles.h"
+#include "core/MenuFile.h"
+#include "core/Program.h"
+#include "sim/World.h"
+
+namespace corvelle {
+namespace {
+
+constexpr char kFile[] = "C:\\Corvelle\\Menus\\BMENU001.MNU";
+constexpr char kMismatch[] = "Cannot delete/cut this item. Record mismatch.";
+constexpr char kButtonQuestion[] =
+    "If you delete a button, you cannot Undo Delete. Do you want to continue ?";
+
+class EntryCommandsTest : public testing::Test {
+ protected:
+  EntryCommandsTest() {
+    program.MenusPath = "C:\\Corvelle\\Menus\\";
+    program.Ports.Toolbar = &toolbar;
+    program.Ports.SingleButtons = &singles;
+    world.Files.MakeFolders("C:\\Corvelle\\Menus");
+    Write({{"Button", "", ""}, {"One", "i1", "c1"}, {"Two", "i2", "c2"}, {"Three", "i3", "c3"}});
+    program.Entry.CurMenuTag = "F1";
+    program.Entry.CurFile = kFile;
+  }
+
+  void Write(const std::vector<MenuRecord>& records) {
+    std::string bytes;
+    for (const MenuRecord& record : records) bytes += FormatRecord(record, world.Ansi);
+    world.Files.Put(kFile, bytes);
+  }
+  void PointAt(int record, std::string title, std::string icon, std::string command) {
+    program.Entry.CurRecord = record;
+    program.Entry.CurTitle = std::move(title);
+    program.Entry.CurIcon = std::move(icon);
+    program.Entry.CurCommand = std::move(command);
+  }
+  std::string Titles() {
+    std::string all;
+    const std::string bytes = world.Files.Get(kFile).value_or("");
+    for (std::size_t at = 0; at < bytes.size(); at += kRecordLength) {
+      all += ParseRecord(std::string_view(bytes).substr(at), world.Ansi).FTitle + " ";
+    }
+    return all;
+  }
+
+  sim::World world;
+  CallLog log;
+  LoggingToolbar toolbar{log};
+  LoggingSingles singles{log};
+  Program program{world.Services(), world.Windows()};
+};
+
+TEST_F(EntryCommandsTest, DeletingAnItemRewritesTheFileAndRefreshesItsMenu) {
+  PointAt(3, "TWO", "I2", "C2");
+  DeleteItem(program, false);
+  EXPECT_EQ(Titles(), "Button One Three ");
+  EXPECT_EQ(log, (CallLog{"RefreshMenu F1"}));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(EntryCommandsTest, AnItemThatIsNoLongerThereIsRefusedAndTheFileStays) {
+  PointAt(3, "Two", "i2", "other");
+  world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
+  DeleteItem(program, true);
+  EXPECT_EQ(Titles(), "Button One Two Three ");
+  ASSERT_EQ(world.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 0x40040U);
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(EntryCommandsTest, DuringADragAMismatchIsSilent) {
+  PointAt(3, "Two", "i2", "other");
+  program.Entry.ItemDragging = true;
+  DeleteItem(program, false);
+  EXPECT_EQ(Titles(), "Button One Two Three ");
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(EntryCommandsTest, TheEndOfADragOnlyDropsTheBuiltMenu) {
+  PointAt(2, "One", "i1", "c1");
+  program.Entry.ItemDragging = true;
+  DeleteItem(program, false);
+  EXPECT_EQ(Titles(), "Button Two Three ");
+  EXPECT_EQ(log, (CallLog{"RemoveQMenu F1"}));
+}
+
+TEST_F(EntryCommandsTest, AGeneratedEntryCannotBeMovedAway) {
+  PointAt(5001, "x", "y", "z");
+  program.Entry.ItemDragging = true;
+  DeleteItem(program, false);
+  EXPECT_EQ(Titles(), "Button One Two Three ");
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(EntryCommandsTest, DeletingAWholeButtonAsksFirstAndNoKeepsIt) {
+  program.Entry.CurMenuTag = "B1";
+  world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerNo);
+  DeleteItem(program, false);
+  EXPECT_TRUE(world.Files.Has(kFile));
+  EXPECT_TRUE(log.empty());
+  EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 4U + 0x40000U);
+}
+
+TEST_F(EntryCommandsTest, DeletingAWholeButtonRebuildsAndResizesTheStrip) {
+  program.Entry.CurMenuTag = "B1";
+  world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
+  DeleteItem(program, false);
+  EXPECT_FALSE(world.Files.Has(kFile));
+  EXPECT_EQ(log, (CallLog{"ResetCollections", "DoToolbarButtons", "resize, free 1230"}));
+}
+
+TEST_F(EntryCommandsTest, SkippingTheConfirmationAsksNothing) {
+  program.Entry.CurMenuTag = "B1";
+  DeleteItem(program, true);
+  EXPECT_FALSE(world.Files.Has(kFile));
+}
+
+TEST_F(EntryCommandsTest, NothingIsDeletedFromTheMainMenuOrTheBareStrip) {
+  for (const char* tag : {"Q1", "Toolbar", ""}) {
+    program.Entry.CurMenuTag = tag;
+    PointAt(2, "One", "i1", "c1");
+    DeleteItem(program, false);
+    EXPECT_EQ(Titles(), "Button One Two Three ") << tag;
+  }
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(EntryCommandsTest, ASingleButtonIsDeletedByItsRow) {
+  program.Entry.CurMenuTag = "SingleButtons";
+  program.Entry.CurFile = "C:\\Corvelle\\Menus\\BMENU002.BTN";
+  DeleteItem(program, false);
+  EXPECT_EQ(log, (CallLog{"delete single C:\\Corvelle\\Menus\\BMENU002.BTN", "DoSingleButtons",
+                          "resize, free 1230"}));
+}
+
+TEST_F(EntryCommandsTest, PastingPutsTheClipboardBeforeTheItemAndEndsTheUndo) {
+  PointAt(3, "Two", "i2", "c2");
+  program.Entry.ClipTitle = "New";
+  program.Entry.UndoMenuTag = "F1";
+  PasteItem(program);
+  EXPECT_EQ(Titles(), "Button One New Two Three ");
+  EXPECT_EQ(program.Entry.UndoMenuTag, "");
+  EXPECT_EQ(log, (CallLog{"RefreshMenu F1"}));
+}
+
+TEST_F(EntryCommandsTest, PastingOnAGeneratedEntryGoesBeforeItsFolderItem) {
+  PointAt(5003, "x", "y", "z");
+  program.Entry.ClipTitle = "New";
+  PasteItem(program);
+  EXPECT_EQ(Titles(), "Button One New Two Three ");
+}
+
+TEST_F(EntryCommandsTest, PastingPastTheEndInsertsNothing) {
+  PointAt(5, "", "", "");
+  program.Entry.ClipTitle = "New";
+  PasteItem(program);
+  EXPECT_EQ(Titles(), "Button One Two Three ");
+}
+
+TEST_F(EntryCommandsTest, PastingDuringADragLeavesTheMenuOnTheScreenAlone) {
+  PointAt(2, "One", "i1", "c1");
+  program.Entry.ClipTitle = "New";
+  program.Entry.ItemDragging = true;
+  PasteItem(program);
+  EXPECT_EQ(Titles(), "Button New One Two Three ");
+  EXPECT_EQ(log, (CallLog{"RemoveQMenu F1"}));
+}
+
+TEST_F(EntryCommandsTest, DeletingTheLastItemAndUndoingRestoresItAtTheEnd) {
+  PointAt(4, "Three", "i3", "c3");
+  RememberForUndo(program.Entry);
+  DeleteItem(program, false);
+  EXPECT_EQ(Titles(), "Button One Two ");
+  UndoDeleteItem(program);
+  EXPECT_EQ(Titles(), "Button One Two Three ");
+  EXPECT_EQ(program.Entry.UndoMenuTag, "");
+  EXPECT_EQ(log, (CallLog{"RefreshMenu F1", "RefreshMenu F1"}));
+}
+
+TEST_F(EntryCommandsTest, AnUndoThatTheDiskRefusesCanBeTriedAgain) {
+  PointAt(4, "Three", "i3", "c3");
+  RememberForUndo(program.Entry);
+  DeleteItem(program, false);
+  world.Files.FillDisk(0);
+  UndoDeleteItem(program);
+  EXPECT_EQ(Titles(), "Button One Two ");
+  world.Files.FreeDisk();
+  UndoDeleteItem(program);
+  EXPECT_EQ(Titles(), "Button One Two Three ");
+}
+
+TEST_F(EntryCommandsTest, UndoingASingleButtonGoesToItsRow) {
+  program.Entry.UndoMenuTag = "SingleButtons";
+  program.Entry.UndoFile = "C:\\Corvelle\\Menus\\BMENU004.BTN";
+  UndoDeleteItem(program);
+  EXPECT_EQ(log, (CallLog{"undo single C:\\Corvelle\\Menus\\BMENU004.BTN", "DoSingleButtons",
+                          "resize, free 1230", "RefreshMenu SingleButtons"}));
+  EXPECT_EQ(program.Entry.UndoMenuTag, "");
+}
+
+TEST_F(EntryCommandsTest, AnyOneFailureWhileDeletingLeavesTheOldFileOrTheNew) {
+  const std::string old = Titles();
+  for (int n = 1; n < 100; ++n) {
+    Write({{"Button", "", ""}, {"One", "i1", "c1"}, {"Two", "i2", "c2"}, {"Three", "i3", "c3"}});
+    PointAt(3, "Two", "i2", "c2");
+    world.Desktop.Answer(forms::msgbox::AnswerOk);
+    world.Files.FailCall(n, FileError::DiskFull);
+    DeleteItem(program, false);
+    const bool hit = world.Files.Hit();
+    world.Files.StopFailing();
+    const std::string now = Titles();
+    EXPECT_TRUE(now == old || now == "Button One Three ") << "failing call " << n << ": " << now;
+    if (!hit) return;
+  }
+  FAIL() << "the fault never stopped hitting";
+}
+
+}  // namespace
+}  // namespace corvelle

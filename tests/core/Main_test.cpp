@@ -1,0 +1,263 @@
+#include "core/Main.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "core/CoreDoubles.h"
+#include "core/Program.h"
+#include "sim/World.h"
+
+namespace corvelle {
+namespace {
+
+constexpr std::string_view kStartupQuestion =
+    "Would you like to set Corvelle as a startup program?\r\n"
+    "If you choose No, you can set it later from the Customize window under the Options menu.";
+constexpr std::string_view kRunning =
+    "Corvelle is already running. If you have minimized it to the taskbar, click its icon on the "
+    "taskbar to activate it. If you have set it to Auto Hide, point your mouse to its previous "
+    "position.";
+
+/// An installation with windows that only write down what happens to them.
+class MainTest : public testing::Test {
+ protected:
+  MainTest() {
+    world.Files.Put("C:\\Corvelle\\corvelle.exe", "program");
+    program.Ports.Toolbar = &toolbar;
+    program.Ports.Minimize = &companion;
+    program.Ports.Startup = &startup;
+    program.Ports.IconRule = &iconRule;
+    program.Ports.StartupLink = &link;
+  }
+
+  std::string Flags() { return world.Files.Get("C:\\Corvelle\\tmenu425.dat").value_or("none"); }
+  void PutFlags(std::string_view flags) { world.Files.Put("C:\\Corvelle\\tmenu425.dat", flags); }
+  bool Happened(std::string_view what) const {
+    return std::find(log.begin(), log.end(), what) != log.end();
+  }
+  int Dots() const { return static_cast<int>(std::count(log.begin(), log.end(), "dot")); }
+
+  sim::World world;
+  CallLog log;
+  LoggingToolbar toolbar{log};
+  LoggingMinimize companion{log};
+  LoggingStartup startup{log};
+  LoggingIconRule iconRule{log};
+  LoggingStartupLink link{log};
+  Program program{world.Services(), world.Windows()};
+};
+
+// Flags by position:          12345678901234567890123456789012
+constexpr char kInstalled[] = "11000000000000000010000100000001";
+
+TEST_F(MainTest, StartsInItsGivenOrder) {
+  PutFlags(kInstalled);
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(log, (CallLog{"dot", "icons detected", "toolbar loads", "companion loads",
+                          "startup window hides", "startup window unloads"}));
+  EXPECT_FALSE(program.StartingUp);
+  EXPECT_EQ(program.Title, "Corvelle");
+}
+
+TEST_F(MainTest, OptionNineKeepsTheStartupWindowAway) {
+  std::string flags = kInstalled;
+  flags[8] = '1';
+  PutFlags(flags);
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(Dots(), 0);
+  EXPECT_FALSE(Happened("startup window hides"));
+}
+
+TEST_F(MainTest, NotOnTopPutsTheIconIntoTheTray) {
+  std::string flags = kInstalled;
+  flags[22] = '1';
+  PutFlags(flags);
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(program.NotOnTop);
+  EXPECT_EQ(log.back(), "into the tray");
+}
+
+TEST_F(MainTest, AFreshInstallationEndsWithTheDefaultFlagsButForTheEntries) {
+  world.Desktop.Answer(std::string(kStartupQuestion), forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  // Position 2 is set where the default entries are made.
+  EXPECT_EQ(Flags(), "10000000000001110010000101000001");
+}
+
+TEST_F(MainTest, YesMakesTheStartupLinkAndNoDoesNot) {
+  world.Desktop.Answer(std::string(kStartupQuestion), forms::msgbox::AnswerYes);
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(Happened("link to C:\\Corvelle\\corvelle.exe"));
+  ASSERT_EQ(world.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 36U + 262144U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Title, "Corvelle");
+}
+
+TEST_F(MainTest, NoLeavesTheStartupFolderAlone) {
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_FALSE(link.There);
+  EXPECT_EQ(Flags()[0], '1');
+}
+
+TEST_F(MainTest, AnEarlierCopysLinkIsMadeAnewWithoutAQuestion) {
+  link.There = true;
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(Happened("link removed"));
+  EXPECT_TRUE(Happened("link to C:\\Corvelle\\corvelle.exe"));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(MainTest, WithPositionOneSetNothingIsAskedAndTheLinkStays) {
+  PutFlags(kInstalled);
+  link.There = true;
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+  EXPECT_FALSE(Happened("link removed"));
+}
+
+TEST_F(MainTest, WithoutShellLinksTheQuestionWaits) {
+  program.Ports.StartupLink = nullptr;
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(Flags()[0], '0');
+}
+
+TEST_F(MainTest, TheFirstRunOpensTheHelpOnTheDesktop) {
+  world.Files.Put("C:\\Corvelle\\corvelle.hlp", "help");
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  using Calls = std::vector<sim::SimSystemInfo::HelpCall>;
+  EXPECT_EQ(world.System.HelpCalls, (Calls{{kNoWindow, "C:\\Corvelle\\corvelle.hlp", 1002}}));
+}
+
+TEST_F(MainTest, HelpThatTheDesktopCannotShowIsTriedOnceMoreOnTheStrip) {
+  world.Files.Put("C:\\Corvelle\\corvelle.hlp", "help");
+  world.System.HasHelpViewer = false;
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  using Calls = std::vector<sim::SimSystemInfo::HelpCall>;
+  EXPECT_EQ(world.System.HelpCalls, (Calls{{kNoWindow, "C:\\Corvelle\\corvelle.hlp", 1002},
+                                           {WindowId{77}, "C:\\Corvelle\\corvelle.hlp", 1002}}));
+}
+
+TEST_F(MainTest, ADamagedFlagFileReadsAsZeroWhereItIsNotOne) {
+  PutFlags("1x 2" + std::string(27, '\xFF') + "1");
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(program.OptionFlags.Text(), "1" + std::string(30, '0') + "1");
+}
+
+TEST_F(MainTest, FlagsOfAnOlderVersionStayButAskForTheFirstRunAgain) {
+  world.Files.Put("C:\\Corvelle\\tmenu421.dat", "11100000100000000000000000000001");
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_FALSE(world.Files.Has("C:\\Corvelle\\tmenu421.dat"));
+  // Position 1 was cleared, the question came, and it is set again; position 2 stays clear.
+  EXPECT_EQ(program.OptionFlags.Text(), "10100000100000000000000000000001");
+  EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
+}
+
+TEST_F(MainTest, FlagsOfAnOlderVersionWithoutTheUpgradeMarkAreReset) {
+  world.Files.Put("C:\\Corvelle\\tmenu421.dat", "11111111111111111111111111111110");
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(program.OptionFlags.Text(), "10000000000001110010000101000001");
+}
+
+TEST_F(MainTest, TheUpgradeCleansDataFilesAndNothingElse) {
+  PutFlags(std::string(32, '0'));
+  for (const char* name : {"toolbarp.dat", "OTHERS.DAT", "netsrch.ini", "notes.txt"}) {
+    world.Files.Put(std::string("C:\\Corvelle\\") + name, "x");
+  }
+  world.Files.Put("C:\\Corvelle\\Icons\\old.dat", "x");
+  world.Files.Put("C:\\Corvelle\\Icons\\keep.ico", "x");
+  world.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", "x");
+  world.Files.HoldOpen("C:\\Corvelle\\OTHERS.DAT");
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_FALSE(world.Files.Has("C:\\Corvelle\\toolbarp.dat"));
+  EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\OTHERS.DAT")) << "a locked file is skipped";
+  EXPECT_FALSE(world.Files.Has("C:\\Corvelle\\Icons\\old.dat"));
+  for (const char* name : {"notes.txt", "netsrch.ini", "Icons\\keep.ico", "Menus\\BMENU001.MNU"}) {
+    EXPECT_TRUE(world.Files.Has(std::string("C:\\Corvelle\\") + name)) << name;
+  }
+}
+
+TEST_F(MainTest, TheUpgradeCopiesTheFactoryListOfEnginesWhenThereIsNone) {
+  world.Files.Put("C:\\Corvelle\\anetsrch.org", "engines");
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(world.Files.Get("C:\\Corvelle\\netsrch.ini"), "engines");
+}
+
+TEST_F(MainTest, TheUpgradeKeepsAListOfEnginesThatIsThere) {
+  world.Files.Put("C:\\Corvelle\\anetsrch.org", "engines");
+  world.Files.Put("C:\\Corvelle\\netsrch.ini", "mine");
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(world.Files.Get("C:\\Corvelle\\netsrch.ini"), "mine");
+}
+
+TEST_F(MainTest, AFlagFileThatIsHeldForTheMomentCleansNothingAway) {
+  PutFlags(kInstalled);
+  world.Files.Put("C:\\Corvelle\\toolbarp.dat", "1234");
+  world.Files.HoldOpen("C:\\Corvelle\\tmenu425.dat");
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\toolbarp.dat"));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(MainTest, AFullDiskDoesNotStopTheStart) {
+  world.Files.FillDisk(0);
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(program.OptionFlags.Is(32));
+  EXPECT_TRUE(toolbar.WindowLoaded());
+}
+
+TEST_F(MainTest, ASecondInstanceWakesTheFirstAndEnds) {
+  world.System.OtherInstance = true;
+  const WindowId first = world.Desktop.AddOtherWindow(
+      {.Title = "CORVELLE", .ClassName = "frmMinimize", .Visible = false});
+  EXPECT_FALSE(Main(program));
+  using Sent = std::vector<sim::SentMessage>;
+  EXPECT_EQ(world.Desktop.Sent(), (Sent{{first, forms::message::Size, 0, 0}}));
+  EXPECT_TRUE(log.empty());
+  EXPECT_FALSE(world.Files.Has("C:\\Corvelle\\tmenu425.dat"));
+}
+
+TEST_F(MainTest, AMinimizedFirstInstanceIsBroughtBack) {
+  world.System.OtherInstance = true;
+  const WindowId first = world.Desktop.AddOtherWindow(
+      {.Title = "Corvelle", .ClassName = "frmMinimize", .Minimized = true});
+  EXPECT_FALSE(Main(program));
+  EXPECT_FALSE(world.Desktop.IsMinimized(first));
+  EXPECT_TRUE(world.Desktop.Sent().empty());
+}
+
+TEST_F(MainTest, AFolderWindowOfTheSameNameIsNotTheFirstInstance) {
+  world.System.OtherInstance = true;
+  world.Desktop.AddOtherWindow({.Title = "Corvelle", .ClassName = "CabinetWClass"});
+  world.Desktop.Answer(std::string(kRunning), forms::msgbox::AnswerOk);
+  EXPECT_FALSE(Main(program));
+  EXPECT_TRUE(world.Desktop.Sent().empty());
+}
+
+TEST_F(MainTest, AFirstInstanceThatCannotBeWokenIsToldOf) {
+  world.System.OtherInstance = true;
+  world.Desktop.Answer(std::string(kRunning), forms::msgbox::AnswerOk);
+  EXPECT_FALSE(Main(program));
+  ASSERT_EQ(world.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Owner, kNoWindow);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 262208U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Title, "Corvelle");
+}
+
+TEST_F(MainTest, ACompanionClosedWhileTheQuestionIsUpEndsTheStart) {
+  world.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { companion.UnloadWindow(); });
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_FALSE(Main(program));
+}
+
+}  // namespace
+}  // namespace corvelle

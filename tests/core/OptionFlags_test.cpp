@@ -1,0 +1,183 @@
+#include "core/OptionFlags.h"
+
+#include <gtest/gtest.h>
+
+#include "sim/SimFiles.h"
+
+namespace corvelle {
+namespace {
+
+using sim::SimFiles;
+
+const std::string kApp = "C:\\Corvelle\\";
+const std::string kFlagFile = kApp + "tmenu425.dat";
+
+TEST(OptionFlags, StartAsThirtyTwoZeros) { EXPECT_EQ(OptionFlags().Text(), std::string(32, '0')); }
+
+TEST(OptionFlags, PositionsCountFromOne) {
+  OptionFlags flags;
+  flags.Set(1, '1');
+  flags.Set(32, '1');
+  EXPECT_EQ(flags.Text(), "1" + std::string(30, '0') + "1");
+  EXPECT_TRUE(flags.Is(32));
+  EXPECT_EQ(flags.At(32), '1');
+  EXPECT_EQ(flags.At(31), '0');
+}
+
+TEST(OptionFlags, OutsideOfTheirPositionsNothingHappens) {
+  OptionFlags flags;
+  for (const int position : {0, -1, 33, 1000}) {
+    flags.Set(position, '1');
+    flags.Flip(position);
+    EXPECT_EQ(flags.At(position), '0') << position;
+  }
+  EXPECT_EQ(flags, OptionFlags());
+}
+
+TEST(OptionFlags, HoldZerosAndOnesOnly) {
+  OptionFlags flags;
+  flags.Set(3, 'x');
+  EXPECT_EQ(flags.At(3), '0');
+  flags.Set(3, true);
+  flags.Flip(4);
+  EXPECT_EQ(flags.Text().substr(2, 2), "11");
+  flags.Flip(4);
+  flags.Set(3, false);
+  EXPECT_EQ(flags, OptionFlags());
+}
+
+TEST(OptionFlags, WhatIsStoredIsCleanedOnReading) {
+  struct Row {
+    const char* name;
+    std::string bytes;
+    std::string expected;
+  };
+  const std::string zeros(32, '0');
+  const Row rows[] = {
+      {"as written", "10101010101010101010101010101010", "10101010101010101010101010101010"},
+      {"anything but 1 reads as 0",
+       "1x1 1\t1\xFF"
+       "12131415161718191a1b1c1d1",
+       "10101010101111111111111010101010"},
+      {"short", "11", "11" + std::string(30, '0')},
+      {"empty", "", zeros},
+      {"long", std::string(40, '1'), std::string(32, '1')},
+      {"NULs", std::string(32, '\0'), zeros},
+  };
+  for (const Row& row : rows) {
+    const std::string text = OptionFlags::Clean(row.bytes).Text();
+    ASSERT_EQ(text.size(), 32U) << row.name;
+    for (std::size_t i = 0; i < 32; ++i) {
+      const char stored = i < row.bytes.size() ? row.bytes[i] : '0';
+      EXPECT_EQ(text[i], stored == '1' ? '1' : '0') << row.name << " at " << i;
+    }
+  }
+  EXPECT_EQ(OptionFlags::Clean("11").Text(), "11" + std::string(30, '0'));
+  EXPECT_EQ(OptionFlags::Clean("1x0 21").Text(), "100001" + std::string(26, '0'));
+}
+
+TEST(SaveOptionFlags, StoresThirtyTwoBytesAndNothingElse) {
+  SimFiles disk;
+  disk.Put(kFlagFile, std::string(100, 'x'));
+  OptionFlags flags;
+  flags.Set(2, '1');
+  ASSERT_TRUE(SaveOptionFlags(disk, kApp, flags));
+  EXPECT_EQ(disk.Get(kFlagFile), "01" + std::string(30, '0'));
+}
+
+TEST(SaveOptionFlags, AFailureLeavesTheOldFile) {
+  SimFiles disk;
+  disk.Put(kFlagFile, std::string(32, '1'));
+  disk.FillDisk(10);
+  EXPECT_FALSE(SaveOptionFlags(disk, kApp, OptionFlags()));
+  EXPECT_EQ(disk.Get(kFlagFile), std::string(32, '1'));
+  disk.FreeDisk();
+  disk.SetReadOnly(kFlagFile, true);
+  EXPECT_FALSE(SaveOptionFlags(disk, kApp, OptionFlags()));
+  EXPECT_EQ(disk.Get(kFlagFile), std::string(32, '1'));
+  disk.SetReadOnly(kFlagFile, false);
+  for (int n = 1;; ++n) {
+    disk.Put(kFlagFile, std::string(32, '1'));
+    disk.FailCall(n, FileError::DiskFull);
+    const FileStatus status = SaveOptionFlags(disk, kApp, OptionFlags());
+    EXPECT_EQ(disk.Get(kFlagFile), std::string(32, status ? '0' : '1'));
+    if (!disk.Hit()) break;
+  }
+}
+
+TEST(FlagsAfterUpgrade, AreTheDefaults) {
+  //                                              1234567890123456789012345678901234567890
+  EXPECT_EQ(FlagsAfterUpgrade().Text(), "00000000000001110010000101000001");
+}
+
+TEST(FlagsAfterUpgrade, OnceTheFirstRunIsDoneTheRestIsZero) {
+  OptionFlags flags = FlagsAfterUpgrade();
+  flags.Set(1, '1');
+  flags.Set(2, '1');
+  for (int position = 1; position <= 32; ++position) {
+    bool expected = false;
+    for (const int set : {1, 2, 14, 15, 16, 19, 24, 26, 32}) expected = expected || set == position;
+    EXPECT_EQ(flags.Is(position), expected) << position;
+  }
+}
+
+TEST(ResetHelpTips, ShowsTheFiveTipsAgainAndChangesNothingElse) {
+  OptionFlags flags = OptionFlags::Clean(std::string(32, '1'));
+  ResetHelpTips(flags);
+  for (int position = 1; position <= 32; ++position) {
+    const bool tip = (position >= 5 && position <= 8) || position == 29;
+    EXPECT_EQ(flags.Is(position), !tip) << position;
+  }
+}
+
+struct EdgeRow {
+  const char* code;
+  const char* edge;
+  bool vertical;
+};
+
+constexpr EdgeRow kEdges[] = {
+    {"00", "TOP", false}, {"01", "BOTTOM", false}, {"10", "LEFT", true}, {"11", "RIGHT", true}};
+
+TEST(EdgeFlags, SaveTheEdgeAndReadItBack) {
+  for (const EdgeRow& row : kEdges) {
+    EXPECT_EQ(EdgeCode(row.edge), row.code);
+    OptionFlags flags;
+    SaveEdgeFlags(flags, true, row.edge);
+    EXPECT_EQ(flags.Text().substr(13, 3), "1" + std::string(row.code)) << row.edge;
+    EdgePlacement placement;
+    ReadEdgeFlags(flags, placement);
+    EXPECT_EQ(placement, (EdgePlacement{true, row.vertical, row.edge})) << row.edge;
+  }
+}
+
+TEST(EdgeFlags, AnUnknownEdgeIsSavedAsTheTop) {
+  EXPECT_EQ(EdgeCode("MIDDLE"), "00");
+  EXPECT_EQ(EdgeCode(""), "00");
+  EXPECT_EQ(EdgeCode("right"), "11");
+}
+
+TEST(EdgeFlags, AFloatingStripLeavesTheSavedEdgeAlone) {
+  OptionFlags flags = FlagsAfterUpgrade();
+  SaveEdgeFlags(flags, false, "BOTTOM");
+  EXPECT_EQ(flags.Text().substr(13, 3), "011");
+}
+
+TEST(EdgeFlags, WithoutPosition14NoEdgeIsAskedFor) {
+  OptionFlags flags;
+  flags.Set(15, '1');
+  EdgePlacement placement{true, false, "BOTTOM"};
+  ReadEdgeFlags(flags, placement);
+  EXPECT_EQ(placement, (EdgePlacement{false, false, "BOTTOM"}));
+}
+
+TEST(EdgeFlags, AnyOtherCodeLeavesTheEdge) {
+  for (const char* code : {"", "0", "2", "0x", "111", "  "}) {
+    EdgePlacement placement{false, true, "LEFT"};
+    ApplyEdgeCode('1', code, placement);
+    EXPECT_EQ(placement, (EdgePlacement{true, true, "LEFT"})) << code;
+  }
+}
+
+}  // namespace
+}  // namespace corvelle

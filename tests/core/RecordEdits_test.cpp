@@ -1,0 +1,430 @@
+#include "core/RecordEdits.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "base/CodePage.h"
+#include "core/MenuFile.h"
+#include "sim/SimFiles.h"
+
+namespace corvelle {
+namespace {
+
+using namespace std::string_literals;
+using sim::SimFiles;
+
+const Windows1252 kAnsi;
+const std::string kMenus = "C:\\Corvelle\\Menus\\";
+const std::string kFile = kMenus + "BMENU001.MNU";
+const std::string kOther = kMenus + "BMENU002.MNU";
+
+using Titles = std::vector<std::string>;
+
+std::string Record(const std::string& title) {
+  return FormatRecord({title, "icon of " + title, "C:\\" + title + ".exe"}, kAnsi);
+}
+
+const std::string kFour = Record("Button") + Record("One") + Record("Two") + Record("Three");
+
+/// The menu of four records, and an edit whose current entry is one of its items.
+struct Bench {
+  SimFiles disk;
+  EntryEdit edit;
+
+  explicit Bench(int record = 3) {
+    disk.Put(kFile, kFour);
+    disk.Put(kOther, "untouched");
+    edit.CurMenuTag = "F2";
+    edit.CurFile = kFile;
+    Select(record);
+    disk.ClearLog();
+  }
+
+  void Select(int record) {
+    edit.CurRecord = record;
+    const MenuRecord here = ReadRecord(disk, kAnsi, kFile, record).ValueOr({});
+    edit.CurTitle = here.FTitle;
+    edit.CurIcon = here.FIcon;
+    edit.CurCommand = here.FName;
+  }
+
+  EditOutcome Delete() { return DeleteMenuEntry(disk, kAnsi, kMenus, edit); }
+  EditOutcome Paste() { return PasteMenuEntry(disk, kAnsi, kMenus, edit); }
+  EditOutcome Undo() { return UndoDeleteMenuEntry(disk, kAnsi, kMenus, edit); }
+
+  [[nodiscard]] std::string Bytes() const { return disk.Get(kFile).value_or("(none)"); }
+
+  Titles TitlesNow() {
+    Titles titles;
+    for (const MenuRecord& record : ReadAllRecords(disk, kAnsi, kFile).ValueOr({})) {
+      titles.push_back(record.FTitle);
+    }
+    return titles;
+  }
+};
+
+TEST(Tags, TellWhatAnEditActsOn) {
+  EXPECT_TRUE(IsButtonTag("B3"));
+  EXPECT_TRUE(IsMenuTag("F3"));
+  EXPECT_TRUE(IsSinglesTag("SingleButtons"));
+  for (const char* tag : {"Q1", "Toolbar", ""}) {
+    EXPECT_FALSE(IsButtonTag(tag) || IsMenuTag(tag) || IsSinglesTag(tag)) << tag;
+  }
+}
+
+TEST(DeleteMenuEntry, TakesTheEntryOutAndLeavesTheOthersByteForByte) {
+  Bench bench;
+  EXPECT_EQ(bench.Delete(), EditOutcome::Edited);
+  EXPECT_EQ(bench.Bytes(), Record("Button") + Record("One") + Record("Three"));
+  EXPECT_EQ(bench.disk.Get(kOther), "untouched");
+}
+
+TEST(DeleteMenuEntry, ComparesTheEntryWithoutRegardToCase) {
+  Bench bench;
+  bench.edit.CurTitle = "TWO";
+  bench.edit.CurIcon = "ICON OF two";
+  bench.edit.CurCommand = "c:\\TWO.EXE";
+  EXPECT_EQ(bench.Delete(), EditOutcome::Edited);
+}
+
+TEST(DeleteMenuEntry, RefusesAnEntryThatIsAnotherNow) {
+  const std::function<void(EntryEdit&)> changes[] = {
+      [](EntryEdit& edit) { edit.CurTitle += "x"; },
+      [](EntryEdit& edit) { edit.CurIcon = ""; },
+      [](EntryEdit& edit) { edit.CurCommand += " "; },
+      [](EntryEdit& edit) { edit.CurRecord = 2; },
+      [](EntryEdit& edit) { edit.CurRecord = 0; },
+      [](EntryEdit& edit) { edit.CurRecord = -1; },
+      [](EntryEdit& edit) { edit.CurRecord = 5; },
+      [](EntryEdit& edit) { edit.CurRecord = 5000; },
+      [](EntryEdit& edit) { edit.CurRecord = 5003; },
+  };
+  for (const auto& change : changes) {
+    Bench bench;
+    change(bench.edit);
+    EXPECT_EQ(bench.Delete(), EditOutcome::RecordMismatch) << bench.edit.CurRecord;
+    EXPECT_EQ(bench.Bytes(), kFour);
+    EXPECT_EQ(bench.disk.Count("Rename"), 0);
+  }
+}
+
+TEST(DeleteMenuEntry, ABlankEntryPastTheEndIsNoEntry) {
+  Bench bench;
+  bench.edit.CurTitle = bench.edit.CurIcon = bench.edit.CurCommand = "";
+  bench.edit.CurRecord = 9;
+  EXPECT_EQ(bench.Delete(), EditOutcome::RecordMismatch);
+  EXPECT_EQ(bench.Bytes(), kFour);
+}
+
+TEST(DeleteMenuEntry, AGeneratedEntryCannotBeDraggedAway) {
+  Bench bench;
+  bench.edit.CurRecord = 5001;
+  bench.edit.ItemDragging = true;
+  EXPECT_EQ(bench.Delete(), EditOutcome::NothingToDo);
+  EXPECT_EQ(bench.Bytes(), kFour);
+  EXPECT_TRUE(bench.disk.Log().empty());
+}
+
+TEST(DeleteMenuEntry, FiveThousandIsARealRecord) {
+  SimFiles disk;
+  std::string bytes;
+  for (int i = 1; i <= 5000; ++i) bytes += Record("R" + std::to_string(i));
+  disk.Put(kFile, bytes);
+  EntryEdit edit;
+  edit.CurMenuTag = "F1";
+  edit.CurFile = kFile;
+  edit.CurRecord = 5000;
+  edit.CurTitle = "R5000";
+  edit.CurIcon = "icon of R5000";
+  edit.CurCommand = "C:\\R5000.exe";
+  edit.ItemDragging = true;
+  EXPECT_EQ(DeleteMenuEntry(disk, kAnsi, kMenus, edit), EditOutcome::Edited);
+  EXPECT_EQ(disk.Get(kFile), bytes.substr(0, bytes.size() - 570));
+}
+
+TEST(DeleteMenuEntry, ActsOnMenusOnly) {
+  for (const char* tag : {"Q1", "Toolbar", "", "SingleButtons", "B2"}) {
+    Bench bench;
+    bench.edit.CurMenuTag = tag;
+    EXPECT_EQ(bench.Delete(), EditOutcome::NothingToDo) << tag;
+    EXPECT_EQ(bench.Bytes(), kFour) << tag;
+  }
+}
+
+TEST(DeleteMenuEntry, WorksOnAFileWithAShortLastRecord) {
+  Bench bench;
+  bench.disk.Put(kFile, kFour.substr(0, 4 * 570 - 200));
+  EXPECT_EQ(bench.Delete(), EditOutcome::Edited);
+  EXPECT_EQ(bench.TitlesNow(), (Titles{"Button", "One", "Three"}));
+}
+
+TEST(DeleteButtonFile, RemovesTheWholeFile) {
+  Bench bench;
+  bench.edit.CurMenuTag = "B2";
+  EXPECT_EQ(DeleteButtonFile(bench.disk, bench.edit), EditOutcome::Edited);
+  EXPECT_FALSE(bench.disk.Has(kFile));
+  EXPECT_EQ(DeleteButtonFile(bench.disk, bench.edit), EditOutcome::Failed);
+  bench.edit.CurFile = kOther;
+  bench.disk.SetReadOnly(kOther, true);
+  EXPECT_EQ(DeleteButtonFile(bench.disk, bench.edit), EditOutcome::Failed);
+  EXPECT_TRUE(bench.disk.Has(kOther));
+}
+
+TEST(PasteMenuEntry, PutsTheClipboardBeforeTheEntry) {
+  struct Row {
+    const char* name;
+    int record;
+    Titles expected;
+    EditOutcome outcome = EditOutcome::Edited;
+  };
+  const Row rows[] = {
+      {"before the first item", 2, {"Button", "New", "One", "Two", "Three"}},
+      {"before the last", 4, {"Button", "One", "Two", "New", "Three"}},
+      {"before the folder item of a generated entry",
+       5003,
+       {"Button", "One", "New", "Two", "Three"}},
+      {"past the end", 5, {"Button", "One", "Two", "Three"}, EditOutcome::NothingToDo},
+      {"at 5000", 5000, {"Button", "One", "Two", "Three"}, EditOutcome::NothingToDo},
+      {"nowhere", 0, {"Button", "One", "Two", "Three"}, EditOutcome::NothingToDo},
+  };
+  for (const Row& row : rows) {
+    Bench bench;
+    SetClipboard(bench.edit, {"New", "icon", "name"});
+    bench.edit.CurRecord = row.record;
+    EXPECT_EQ(bench.Paste(), row.outcome) << row.name;
+    EXPECT_EQ(bench.TitlesNow(), row.expected) << row.name;
+  }
+}
+
+TEST(PasteMenuEntry, DoesNotTouchTheFileWhereItPutsNothing) {
+  Bench bench;
+  bench.edit.CurRecord = 5;
+  EXPECT_EQ(bench.Paste(), EditOutcome::NothingToDo);
+  EXPECT_EQ(bench.disk.Count("Rename"), 0);
+}
+
+TEST(PasteMenuEntry, NewItemsAndSeparatorsAreStoredAsGiven) {
+  Bench bench;
+  SetClipboard(bench.edit, NewSeparatorRecord());
+  EXPECT_EQ(bench.Paste(), EditOutcome::Edited);
+  SetClipboard(bench.edit);
+  EXPECT_EQ(bench.edit.ClipTitle + bench.edit.ClipIcon + bench.edit.ClipCommand, "");
+  EXPECT_EQ(bench.Bytes().substr(2 * 570, 570),
+            FormatRecord({"Separator", "MenuLineSeparator", ""}, kAnsi));
+}
+
+TEST(PasteMenuEntry, AMissingFileIsAFailureAndIsNotMade) {
+  Bench bench;
+  bench.edit.CurFile = kMenus + "BMENU009.MNU";
+  EXPECT_EQ(bench.Paste(), EditOutcome::Failed);
+  EXPECT_FALSE(bench.disk.Has(bench.edit.CurFile));
+}
+
+TEST(UndoDelete, BringsADeletedEntryBackToItsPlace) {
+  for (int record = 1; record <= 4; ++record) {
+    Bench bench(record);
+    RememberForUndo(bench.edit);
+    ASSERT_EQ(bench.Delete(), EditOutcome::Edited) << record;
+    EXPECT_EQ(bench.Undo(), EditOutcome::Edited) << record;
+    EXPECT_EQ(bench.Bytes(), kFour) << record;
+  }
+}
+
+TEST(UndoDelete, TheLastEntryComesBackAtTheEnd) {
+  Bench bench(4);
+  RememberForUndo(bench.edit);
+  ASSERT_EQ(bench.Delete(), EditOutcome::Edited);
+  EXPECT_EQ(bench.TitlesNow(), (Titles{"Button", "One", "Two"}));
+  EXPECT_EQ(bench.Undo(), EditOutcome::Edited);
+  EXPECT_EQ(bench.TitlesNow(), (Titles{"Button", "One", "Two", "Three"}));
+}
+
+TEST(UndoDelete, AppendsWhereTheFileHasBecomeShorter) {
+  Bench bench(4);
+  RememberForUndo(bench.edit);
+  bench.disk.Put(kFile, Record("Button"));
+  EXPECT_EQ(bench.Undo(), EditOutcome::Edited);
+  EXPECT_EQ(bench.TitlesNow(), (Titles{"Button", "Three"}));
+}
+
+TEST(UndoDelete, AGeneratedOrNoRecordIsNeverBroughtBack) {
+  for (const int record : {0, -1, 5001, 5003}) {
+    Bench bench;
+    bench.edit.UndoRecord = record;
+    EXPECT_EQ(bench.Undo(), EditOutcome::NothingToDo) << record;
+    EXPECT_EQ(bench.Bytes(), kFour) << record;
+  }
+}
+
+TEST(RememberForUndo, TakesTheCurrentEntryAndNothingForAButton) {
+  EntryEdit edit;
+  edit.CurTitle = "t";
+  edit.CurIcon = "i";
+  edit.CurCommand = "c";
+  edit.CurMenuTag = "F3";
+  edit.CurFile = kFile;
+  edit.CurRecord = 7;
+  RememberForUndo(edit);
+  EXPECT_EQ(edit.UndoTitle, "t");
+  EXPECT_EQ(edit.UndoIcon, "i");
+  EXPECT_EQ(edit.UndoCommand, "c");
+  EXPECT_EQ(edit.UndoMenuTag, "F3");
+  EXPECT_EQ(edit.UndoFile, kFile);
+  EXPECT_EQ(edit.UndoRecord, 7);
+  edit.CurMenuTag = "B3";
+  RememberForUndo(edit);
+  EXPECT_EQ(edit.UndoMenuTag, "");
+}
+
+TEST(CopyEntry, FillsTheClipboardFromTheCurrentEntry) {
+  Bench bench(2);
+  CopyEntry(bench.edit);
+  EXPECT_EQ(bench.edit.ClipTitle, "One");
+  EXPECT_EQ(bench.edit.ClipIcon, "icon of One");
+  EXPECT_EQ(bench.edit.ClipCommand, "C:\\One.exe");
+}
+
+TEST(Cutting, AndPastingMovesAnEntry) {
+  Bench bench(2);
+  CopyEntry(bench.edit);
+  ASSERT_EQ(bench.Delete(), EditOutcome::Edited);
+  bench.edit.CurRecord = 3;
+  ASSERT_EQ(bench.Paste(), EditOutcome::Edited);
+  EXPECT_EQ(bench.Bytes(), Record("Button") + Record("Two") + Record("One") + Record("Three"));
+}
+
+TEST(DeleteSeparator, TakesTheLineAboveTheEntryAndCanBeUndone) {
+  for (const int record : {3, 5003}) {
+    Bench bench;
+    const std::string line = FormatRecord(NewSeparatorRecord(), kAnsi);
+    const std::string bytes = Record("Button") + line + Record("Two");
+    bench.disk.Put(kFile, bytes);
+    bench.edit.CurRecord = record;
+    ASSERT_EQ(SelectSeparatorAbove(bench.disk, kAnsi, bench.edit), EditOutcome::Edited);
+    EXPECT_EQ(bench.edit.CurRecord, 2);
+    EXPECT_EQ(bench.edit.CurIcon, "MenuLineSeparator");
+    EXPECT_EQ(bench.edit.UndoRecord, 2);
+    ASSERT_EQ(bench.Delete(), EditOutcome::Edited);
+    EXPECT_EQ(bench.Bytes(), Record("Button") + Record("Two"));
+    ASSERT_EQ(bench.Undo(), EditOutcome::Edited);
+    EXPECT_EQ(bench.Bytes(), bytes);
+  }
+}
+
+TEST(DeleteSeparator, NeverTakesAnEntryThatIsNoLine) {
+  for (const int record : {3, 1, 0, 5001}) {
+    Bench bench;
+    bench.edit.CurRecord = record;
+    const EntryEdit before = bench.edit;
+    EXPECT_EQ(SelectSeparatorAbove(bench.disk, kAnsi, bench.edit), EditOutcome::RecordMismatch);
+    EXPECT_EQ(bench.edit, before) << record;
+  }
+}
+
+TEST(FolderItem, IsClosedFromOneOfItsEntriesAndOpenedAgain) {
+  Bench bench;
+  const std::string open = FormatRecord({"Docs", "icon", "C:\\Docs\\*.*/u"}, kAnsi);
+  const std::string closed = FormatRecord({"Docs", "icon", "C:\\Docs\\*.*/u X"}, kAnsi);
+  bench.disk.Put(kFile, Record("Button") + open + Record("Two"));
+  bench.edit.CurRecord = 5002;
+  EXPECT_EQ(CloseFolderItem(bench.disk, kAnsi, bench.edit), EditOutcome::Edited);
+  EXPECT_EQ(bench.Bytes(), Record("Button") + closed + Record("Two"));
+  bench.edit.CurRecord = 2;
+  EXPECT_EQ(OpenFolderItem(bench.disk, kAnsi, bench.edit), EditOutcome::Edited);
+  EXPECT_EQ(bench.Bytes(), Record("Button") + open + Record("Two"));
+}
+
+TEST(FolderItem, PastTheEndIsNotMade) {
+  Bench bench;
+  bench.edit.CurRecord = 5009;
+  EXPECT_EQ(CloseFolderItem(bench.disk, kAnsi, bench.edit), EditOutcome::NothingToDo);
+  bench.edit.CurRecord = 9;
+  EXPECT_EQ(OpenFolderItem(bench.disk, kAnsi, bench.edit), EditOutcome::NothingToDo);
+  EXPECT_EQ(bench.Bytes(), kFour);
+}
+
+struct Writer {
+  const char* name;
+  EditOutcome (*run)(Bench&);
+};
+
+const Writer kWriters[] = {
+    {"delete", [](Bench& bench) { return bench.Delete(); }},
+    {"paste", [](Bench& bench) { return bench.Paste(); }},
+    {"undo", [](Bench& bench) { return bench.Undo(); }},
+    {"close folder", [](Bench& bench) { return CloseFolderItem(bench.disk, kAnsi, bench.edit); }},
+    {"open folder", [](Bench& bench) { return OpenFolderItem(bench.disk, kAnsi, bench.edit); }},
+};
+
+TEST(RecordEdits, AnyOneFailureLeavesTheOldFileOrTheNew) {
+  for (const Writer& writer : kWriters) {
+    Bench reference;
+    RememberForUndo(reference.edit);
+    ASSERT_EQ(writer.run(reference), EditOutcome::Edited) << writer.name;
+    const std::string edited = reference.Bytes();
+    int failures = 0;
+    for (int n = 1;; ++n) {
+      Bench bench;
+      RememberForUndo(bench.edit);
+      bench.disk.FailCall(n);
+      const EditOutcome outcome = writer.run(bench);
+      if (!bench.disk.Hit()) break;
+      ++failures;
+      const std::string expected = outcome == EditOutcome::Edited ? edited : kFour;
+      EXPECT_EQ(bench.Bytes(), expected) << writer.name << ", failing call " << n;
+      EXPECT_EQ(bench.disk.Get(kOther), "untouched") << writer.name;
+    }
+    EXPECT_GT(failures, 1) << writer.name;
+  }
+}
+
+TEST(RecordEdits, AFullDiskCostsNoEntry) {
+  for (const Writer& writer : kWriters) {
+    Bench bench;
+    RememberForUndo(bench.edit);
+    bench.disk.FillDisk(0);
+    const std::string before = bench.Bytes();
+    const EditOutcome outcome = writer.run(bench);
+    if (outcome == EditOutcome::Failed) {
+      EXPECT_EQ(bench.Bytes(), before) << writer.name;
+    } else {
+      // An edit in place needs no room.
+      EXPECT_EQ(bench.Bytes().size(), before.size()) << writer.name;
+    }
+  }
+}
+
+TEST(RecordEdits, AReadOnlyMenuStaysAsItIs) {
+  for (const Writer& writer : kWriters) {
+    Bench bench;
+    RememberForUndo(bench.edit);
+    bench.disk.SetReadOnly(kFile, true);
+    EXPECT_EQ(writer.run(bench), EditOutcome::Failed) << writer.name;
+    EXPECT_EQ(bench.Bytes(), kFour) << writer.name;
+  }
+}
+
+TEST(RecordEdits, AMenuThatAnotherProgramHoldsStaysAsItIs) {
+  for (const Writer& writer : kWriters) {
+    Bench bench;
+    RememberForUndo(bench.edit);
+    bench.disk.HoldOpen(kFile, SimFiles::Hold::ForReading);
+    EXPECT_EQ(writer.run(bench), EditOutcome::Failed) << writer.name;
+    bench.disk.LetGo(kFile);
+    EXPECT_EQ(bench.Bytes(), kFour) << writer.name;
+  }
+}
+
+TEST(RecordEdits, AMissingFolderIsAFailure) {
+  for (const Writer& writer : kWriters) {
+    Bench bench;
+    RememberForUndo(bench.edit);
+    bench.disk.Vanish("C:\\Corvelle");
+    EXPECT_EQ(writer.run(bench), EditOutcome::Failed) << writer.name;
+    EXPECT_FALSE(bench.disk.Has("C:\\Corvelle")) << writer.name;
+  }
+}
+
+}  // namespace
+}  // namespace corvelle
