@@ -7,6 +7,10 @@ target_compile_options(corvelle_options INTERFACE
   -ffp-contract=off)
 # A struct whose fields all have defaults is meant to be filled by naming only some of them.
 target_compile_options(corvelle_options INTERFACE -Wno-missing-field-initializers)
+# GCC 12 sees copies of impossible lengths in the concatenation of strings (its bug 105651).
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(corvelle_options INTERFACE -Wno-restrict)
+endif()
 if(CORVELLE_SANITIZE)
   target_compile_options(corvelle_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -10,9 +10,8 @@ struct CaseRun {
   char32_t Step;      // 1, or 2 when capitals and small letters alternate
 };
 
-/// Small letters whose capital lies below them at a fixed distance.
+/// Small letters beyond ASCII whose capital lies below them at a fixed distance.
 inline constexpr CaseRun kCaseRuns[] = {
-    {0x0061, 0x007A, 32, 1},  // Basic Latin
     {0x00E0, 0x00F6, 32, 1},  // Latin-1, before the division sign
     {0x00F8, 0x00FE, 32, 1},  // Latin-1, after it
     {0x0101, 0x012F, 1, 2},   // Latin Extended-A, up to the dotted and dotless i

@@ -151,6 +151,7 @@ std::string UpperCase(std::string_view text) { return MapCharacters(text, UpperC
 std::string LowerCase(std::string_view text) { return MapCharacters(text, LowerCharacter); }
 
 char32_t UpperCharacter(char32_t character) noexcept {
+  if (character < 0x80) return character >= U'a' && character <= U'z' ? character - 32 : character;
   for (const CaseRun& run : kCaseRuns) {
     if (character < run.First) break;
     if (character <= run.Last && (character - run.First) % run.Step == 0) {
@@ -164,6 +165,7 @@ char32_t UpperCharacter(char32_t character) noexcept {
 }
 
 char32_t LowerCharacter(char32_t character) noexcept {
+  if (character < 0x80) return character >= U'A' && character <= U'Z' ? character + 32 : character;
   for (const CaseRun& run : kCaseRuns) {
     const char32_t small = character + run.Distance;
     if (small >= run.First && small <= run.Last && (small - run.First) % run.Step == 0) {

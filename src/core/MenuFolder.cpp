@@ -14,10 +14,7 @@ FileResult<std::vector<std::string>> ListByEnding(FileSystem& files, std::string
   if (!entries) return entries.Error();
   std::vector<std::string> names;
   for (const FileEntry& entry : *entries) {
-    // A pattern also fits short names that a folder keeps beside longer ones.
-    if (!entry.IsFolder && EndsWithNoCase(entry.Name, ending)) {
-      names.push_back(UpperCase(entry.Name));
-    }
+    if (!entry.IsFolder) names.push_back(UpperCase(entry.Name));
   }
   SortTexts(names);
   return names;

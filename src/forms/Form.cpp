@@ -1,6 +1,5 @@
 #include "forms/Form.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "forms/PictureBox.h"

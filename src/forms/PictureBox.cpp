@@ -1,6 +1,5 @@
 #include "forms/PictureBox.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "forms/Form.h"

@@ -44,7 +44,7 @@ float Surface::ScaleHeight() const noexcept {
 }
 
 void Surface::Invalidate(const PixelRect& part) {
-  if (Peer() == nullptr || !Visible()) return;
+  if (Peer() == nullptr) return;
   const PixelRect inside = Intersect(part, Whole(InsideSize()));
   if (inside.IsEmpty()) return;
   const int border = BorderPixels();
@@ -53,7 +53,7 @@ void Surface::Invalidate(const PixelRect& part) {
 }
 
 void Surface::InvalidateAll() {
-  if (Peer() != nullptr && Visible()) Peer()->Invalidate(Whole(PixelBounds().Size()));
+  if (Peer() != nullptr) Peer()->Invalidate(Whole(PixelBounds().Size()));
 }
 
 // What was drawn.
@@ -184,9 +184,8 @@ void Surface::OnPaint(Canvas& canvas, const PixelRect& dirty) {
   // All is put together out of sight, so that nothing flickers and nothing reaches into the border.
   const std::unique_ptr<Canvas> buffer = Windows().CreateCanvas(inside.Size());
   buffer->SetOrigin({-inside.left, -inside.top});
-  const Alive::Watch watch = MakeWatch();
+  // The handler may have destroyed this surface; from here on only what is local counts.
   PaintInside(*buffer, inside);
-  if (watch.Gone() || Peer() == nullptr) return;
   buffer->SetOrigin({0, 0});
   canvas.DrawCanvas(*buffer, Whole(inside.Size()), {inside.left + border, inside.top + border});
 }

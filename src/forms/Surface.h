@@ -96,6 +96,8 @@ class Surface : public Window {
   [[nodiscard]] Graphic* GraphicAt(PixelPoint inside) const;
   /// Who gets a mouse event at a point of the window: a graphic, or null for the surface itself.
   [[nodiscard]] Graphic* TargetAt(PixelPoint at) const;
+  /// A button that is pressed anew was released where nobody told of it.
+  void ForgetLostRelease(MouseButton pressed) noexcept;
   void StartPress(MouseButton button, Graphic* target) noexcept;
   void CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
                  MouseHandler Surface::*ofSurface, MouseButton button, ShiftState shift,

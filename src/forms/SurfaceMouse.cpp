@@ -45,6 +45,12 @@ Graphic* Surface::TargetAt(PixelPoint at) const {
   return GraphicAt({at.x - BorderPixels(), at.y - BorderPixels()});
 }
 
+void Surface::ForgetLostRelease(MouseButton pressed) noexcept {
+  if (!Has(down_, pressed)) return;
+  down_ = MouseButton::None;
+  captured_ = nullptr;
+}
+
 void Surface::StartPress(MouseButton button, Graphic* target) noexcept {
   if (down_ == MouseButton::None) captured_ = target;
   down_ = down_ | button;
@@ -67,6 +73,7 @@ void Surface::CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
 }
 
 void Surface::OnMouseDown(MouseButton button, ShiftState shift, PixelPoint at) {
+  ForgetLostRelease(button);
   Graphic* const target = TargetAt(at);
   StartPress(button, target);
   CallMouse(target, &Graphic::MouseDown, &Surface::MouseDown, button, shift, at);
@@ -89,6 +96,7 @@ void Surface::OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) {
 }
 
 void Surface::OnDoubleClick(PixelPoint at) {
+  ForgetLostRelease(MouseButton::Left);
   Graphic* const target = TargetAt(at);
   StartPress(MouseButton::Left, target);
   const std::function<void()> handler = target != nullptr ? target->DblClick : DblClick;

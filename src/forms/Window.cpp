@@ -39,10 +39,7 @@ bool Window::CreatePeer(PeerKind kind, WindowPeer* parent, bool inTaskbar) {
   return true;
 }
 
-void Window::DestroyPeer() {
-  // What the destruction brings about finds the window without a peer already.
-  const std::unique_ptr<WindowPeer> dying = std::move(peer_);
-}
+void Window::DestroyPeer() { peer_.reset(); }
 
 void Window::VisibleChanged() {
   if (peer_) peer_->Show(Visible() ? ShowKind::NoActivate : ShowKind::Hidden);

@@ -47,9 +47,9 @@ class FileSystem {
   /// True for a folder or a drive's root.
   [[nodiscard]] virtual bool FolderExists(std::string_view path) = 0;
 
-  /// Files and folders of `folder` whose name fits `pattern` ("*", "?" as the shell takes them,
-  /// "*.*" fits every name), without "." and "..", in no particular order. NotFound when the folder
-  /// is missing; an empty list when nothing fits.
+  /// Files and folders of `folder` whose name fits `pattern` (see base/Wildcard.h; short names of
+  /// old do not count), without "." and "..", in no particular order. NotFound when the folder is
+  /// missing; an empty list when nothing fits.
   virtual FileResult<std::vector<FileEntry>> List(std::string_view folder,
                                                   std::string_view pattern) = 0;
 
@@ -78,8 +78,8 @@ class FileSystem {
   virtual FileStatus Remove(std::string_view path) = 0;
 
   /// Gives the file or folder another name on the same drive; read-only files can be renamed.
-  /// AlreadyExists when the new name is taken, unless only its case changes; nothing is ever
-  /// replaced.
+  /// AlreadyExists when the new name is taken; nothing is ever replaced. What becomes of a name
+  /// that changes its case only is the disk's affair.
   virtual FileStatus Rename(std::string_view from, std::string_view to) = 0;
 
   /// Copies a file with its attributes; AlreadyExists when `to` is there. After a failure there is

@@ -207,7 +207,7 @@ TEST_F(EntryCommandsTest, AnyOneFailureWhileDeletingLeavesTheOldFileOrTheNew) {
   for (int n = 1; n < 100; ++n) {
     Write({{"Button", "", ""}, {"One", "i1", "c1"}, {"Two", "i2", "c2"}, {"Three", "i3", "c3"}});
     PointAt(3, "Two", "i2", "c2");
-    world.Desktop.Answer(forms::msgbox::AnswerOk);
+    world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
     world.Files.FailCall(n, FileError::DiskFull);
     DeleteItem(program, false);
     const bool hit = world.Files.Hit();

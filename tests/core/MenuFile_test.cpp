@@ -102,6 +102,19 @@ TEST(ReadAllRecords, SaysWhyAFileCannotBeRead) {
   EXPECT_EQ(held.Error(), FileError::InUse);
 }
 
+TEST(ReadAllRecords, InAProtectedFolderReadsButMakesNothing) {
+  SimFiles disk;
+  disk.Put(kFile, Plain("One"));
+  disk.Protect(kMenus);
+  EXPECT_EQ(ReadAllRecords(disk, kAnsi, kFile).ValueOr({}).size(), 1U);
+  const auto missing = ReadAllRecords(disk, kAnsi, kMenus + "BMENU002.MNU");
+  ASSERT_FALSE(missing);
+  EXPECT_EQ(missing.Error(), FileError::AccessDenied);
+  EXPECT_FALSE(CreateButtonFile(disk, kAnsi, kMenus));
+  EXPECT_FALSE(AppendRecords(disk, kAnsi, kFile, {{"Two", "", ""}}));
+  EXPECT_EQ(disk.Get(kFile), Plain("One"));
+}
+
 TEST(ReadRecord, ReadsThatRecordOnly) {
   SimFiles disk;
   disk.Put(kFile, Plain("One") + Plain("Two") + Plain("Three").substr(0, 20));

@@ -121,6 +121,15 @@ TEST(OrderedMenuFiles, BehindAFileHeldOpenNoneTakesALowerNumber) {
   EXPECT_EQ(disk.Get(kMenus + "BMENU002.MNU"), "BMENU004.MNU");
 }
 
+TEST(OrderedMenuFiles, InAProtectedFolderAllNamesStay) {
+  SimFiles disk;
+  PutEach(disk, {"BMENU002.MNU", "BMENU005.MNU", "stray.txt"});
+  disk.Protect(kMenus);
+  EXPECT_TRUE(PurgeMenus(disk, kMenus));
+  EXPECT_EQ(Ordered(disk), (Names{"BMENU002.MNU", "BMENU005.MNU"}));
+  EXPECT_EQ(disk.Names(kMenus).size(), 3U);
+}
+
 TEST(OrderedMenuFiles, ThreeHundredFilesKeepTheirOrder) {
   SimFiles disk;
   Names names;

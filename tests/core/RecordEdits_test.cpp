@@ -416,6 +416,16 @@ TEST(RecordEdits, AMenuThatAnotherProgramHoldsStaysAsItIs) {
   }
 }
 
+TEST(RecordEdits, AFolderWithoutTheRightToWriteKeepsItsMenus) {
+  for (const Writer& writer : kWriters) {
+    Bench bench;
+    RememberForUndo(bench.edit);
+    bench.disk.Protect(kMenus);
+    EXPECT_EQ(writer.run(bench), EditOutcome::Failed) << writer.name;
+    EXPECT_EQ(bench.Bytes(), kFour) << writer.name;
+  }
+}
+
 TEST(RecordEdits, AMissingFolderIsAFailure) {
   for (const Writer& writer : kWriters) {
     Bench bench;

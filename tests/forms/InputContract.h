@@ -3,7 +3,7 @@
 // What every home for forms must do with the mouse and the keyboard. A test program includes this
 // header once and instantiates the suite with its own homes.
 
-#include "forms/WindowSystemContract.h"
+#include "forms/ContractHome.h"
 #include "platform/Input.h"
 
 namespace corvelle::forms {

@@ -186,6 +186,11 @@ TEST_F(GraphicTest, ContainersKnowTheirControlsFromBackToFront) {
     EXPECT_EQ(Form.Graphics(), (std::vector<Graphic*>{&b, &a}));
     b.ZOrder(ZPlace::Front);
     EXPECT_EQ(Form.Graphics(), (std::vector<Graphic*>{&a, &b}));
+    Label c(Form, "C");
+    a.ZOrder(ZPlace::Front);
+    EXPECT_EQ(Form.Graphics(), (std::vector<Graphic*>{&b, &c, &a}));
+    a.ZOrder(ZPlace::Back);
+    EXPECT_EQ(Form.Graphics(), (std::vector<Graphic*>{&a, &b, &c}));
   }
   EXPECT_EQ(Form.Graphics(), (std::vector<Graphic*>{&a}));
 }

@@ -203,6 +203,18 @@ TEST_F(MouseTest, AReleaseThatGotLostIsMadeUpForByTheNextMove) {
   EXPECT_EQ(Seen, Texts{"second move 0 0,0"});
 }
 
+TEST_F(MouseTest, AReleaseThatGotLostIsMadeUpForByTheNextPress) {
+  Desktop().MovePointer(110, 110);
+  Desktop().Press();
+  Form.Hide();
+  Desktop().MovePointer(110, 140);
+  Desktop().Release();
+  Form.Show();
+  Seen.clear();
+  Desktop().Press();
+  EXPECT_EQ(Seen.front(), "second down 1 0,0");
+}
+
 TEST_F(MouseTest, PointsAreRelativeToTheInsideOfABorderedForm) {
   TestForm bordered(World.Windows(), BorderStyle::Raised, "Bordered");
   bordered.Box.SetVisible(false);

@@ -130,7 +130,9 @@ TEST_F(PaintingTest, AMoveFinerThanAPixelPaintsNothing) {
   shape.Move(0, 0, 300, 300);
   ShowAndPaint();
   EXPECT_EQ(PaintsAfter([&] { shape.SetLeft(3); }), 0);
+  Desktop().ClearLog();
   EXPECT_EQ(PaintsAfter([&] { Form.SetLeft(1503); }), 0);
+  EXPECT_EQ(Desktop().Log(), Texts{});
 }
 
 TEST_F(PaintingTest, HidingAndMovingAControlPaintsWhereItWas) {
@@ -154,9 +156,15 @@ TEST_F(PaintingTest, ADestroyedControlLeavesNothingBehind) {
     line.SetBorderWidth(5);
     line.SetPoints(0, 150, 1500, 150);
     Desktop().Pump();
+    Shape shape(Form, "Shape");
+    shape.SetFillColor(kRed);
+    shape.Move(0, 600, 150, 150);
+    Desktop().Pump();
     EXPECT_EQ(At(50, 12), kRed);
+    EXPECT_EQ(At(5, 45), kRed);
   }
   Desktop().Pump();
+  EXPECT_EQ(At(5, 45), Face());
   EXPECT_EQ(At(50, 12), Face());
   EXPECT_EQ(At(50, 8), Face());
 }

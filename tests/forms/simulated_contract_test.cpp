@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "forms/CanvasContract.h"
 #include "forms/InputContract.h"
 #include "forms/WindowSystemContract.h"
 #include "sim/World.h"

@@ -290,12 +290,6 @@ TEST_P(FileSystemContract, RenameMovesAFileAndNeverReplacesOne) {
   EXPECT_FALSE(files.FileExists(root + "a.txt"));
 }
 
-TEST_P(FileSystemContract, RenameCanChangeTheCaseOfANameAlone) {
-  Put("name.txt", "x");
-  ASSERT_TRUE(files.Rename(root + "name.txt", root + "NAME.TXT"));
-  EXPECT_EQ(Names(), Strings{"NAME.TXT"});
-}
-
 TEST_P(FileSystemContract, RenameMovesAFolderWithItsFiles) {
   ASSERT_TRUE(files.MakeFolder(root + "old"));
   Put("old\\a.txt", "a");

@@ -65,31 +65,6 @@ TEST(SimPaths, RefuseWhatWindowsRefuses) {
   for (const Row& row : rows) EXPECT_EQ(ParsePath(row.path, "C:\\").Fault, row.fault) << row.name;
 }
 
-TEST(SimPaths, PatternsFitShortNamesToo) {
-  struct Row {
-    const char* name;
-    const char* pattern;
-    bool fits;
-  };
-  const Row rows[] = {
-      {"a.mnu", "*.mnu", true},
-      {"a.mnux", "*.mnu", true},  // by A~1.MNU
-      {"a.mn", "*.mnu", false},
-      {"a", "*.", true},
-      {"a.b", "*.", false},
-      {"a", "a?", true},
-      {"ab.c", "a?.c", true},
-      {"a.c", "a?.c", true},
-      {"abc.c", "a?.c", false},
-      {"a b.txt", "*~1.txt", true},
-      {"tmenu424.dat", "tmenu4*.dat", true},
-      {"tmenu3.dat", "tmenu4*.dat", false},
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(FitsPattern(row.name, row.pattern), row.fits) << row.name << " " << row.pattern;
-  }
-}
-
 TEST(SimFiles, FailsTheCallThatItWasToldToAndNoOther) {
   SimFiles disk;
   disk.Put("C:\\a.txt", "x");
@@ -185,6 +160,34 @@ TEST(SimFiles, AFileHeldForReadingCanBeReadOnly) {
   EXPECT_FALSE(disk.Rename("C:\\Folder", "C:\\Other"));
   disk.LetGo("C:\\Folder\\a.txt");
   EXPECT_TRUE(disk.Rename("C:\\Folder", "C:\\Other"));
+}
+
+TEST(SimFiles, InAProtectedFolderNothingChanges) {
+  SimFiles disk;
+  disk.Put("C:\\Folder\\a.txt", "x");
+  disk.Put("C:\\b.txt", "y");
+  disk.Protect("C:\\Folder");
+  const std::string file = "C:\\Folder\\a.txt";
+  EXPECT_TRUE(disk.Read(file, 0, 1));
+  const auto denied = [](const FileStatus& status) {
+    return !status && status.Error() == FileError::AccessDenied;
+  };
+  EXPECT_TRUE(denied(disk.Write(file, "z")));
+  EXPECT_TRUE(denied(disk.Replace("C:\\Folder\\new.txt", "z")));
+  EXPECT_TRUE(denied(disk.Remove(file)));
+  EXPECT_TRUE(denied(disk.Rename(file, "C:\\c.txt")));
+  EXPECT_TRUE(denied(disk.Rename("C:\\b.txt", "C:\\Folder\\b.txt")));
+  EXPECT_TRUE(denied(disk.Copy("C:\\b.txt", "C:\\Folder\\b.txt")));
+  EXPECT_TRUE(denied(disk.MakeFolder("C:\\Folder\\deeper")));
+  disk.Protect("C:\\Folder", false);
+  EXPECT_TRUE(disk.Remove(file));
+}
+
+TEST(SimFiles, ANameCanChangeItsCaseAlone) {
+  SimFiles disk;
+  disk.Put("C:\\name.txt", "x");
+  ASSERT_TRUE(disk.Rename("C:\\name.txt", "C:\\NAME.TXT"));
+  EXPECT_EQ(disk.Names("C:\\"), Strings{"NAME.TXT"});
 }
 
 TEST(SimFiles, AttributesGoWithTheFile) {

@@ -4,6 +4,8 @@
 #include <cstdlib>
 
 #include "base/Utf8.h"
+#include "sim/Complain.h"
+#include "sim/SimFont.h"
 
 namespace corvelle::sim {
 
@@ -32,22 +34,20 @@ SimCanvas::SimCanvas(PixelSize size, float twipsPerPixel)
       twipsPerPixel_(twipsPerPixel),
       pixels_(static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(size_.height)) {}
 
-void SimCanvas::Set(PixelPoint at, Rgb colour) {
-  const PixelPoint p{at.x + origin_.x, at.y + origin_.y};
-  if (p.x < 0 || p.y < 0 || p.x >= size_.width || p.y >= size_.height) return;
-  pixels_[static_cast<std::size_t>(p.y) * static_cast<std::size_t>(size_.width) +
-          static_cast<std::size_t>(p.x)] = colour;
+Rgb* SimCanvas::Row(int y) {
+  return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width);
+}
+
+const Rgb* SimCanvas::Row(int y) const {
+  return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width);
 }
 
 void SimCanvas::FillBox(const PixelRect& box, Rgb colour) {
   const PixelRect shifted{box.left + origin_.x, box.top + origin_.y, box.right + origin_.x,
                           box.bottom + origin_.y};
   const PixelRect inside = Intersect(shifted, {0, 0, size_.width, size_.height});
-  const auto row = static_cast<std::size_t>(size_.width);
   for (int y = inside.top; y < inside.bottom; ++y) {
-    const auto start =
-        pixels_.begin() + static_cast<std::ptrdiff_t>(static_cast<std::size_t>(y) * row);
-    std::fill(start + inside.left, start + inside.right, colour);
+    std::fill(Row(y) + inside.left, Row(y) + inside.right, colour);
   }
 }
 
@@ -68,8 +68,22 @@ void SimCanvas::DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) 
 }
 
 void SimCanvas::DrawGlyph(const PixelRect& cell, char32_t character, Rgb colour) {
+  constexpr int kRows = 9;
+  constexpr int kColumns = 5;
   if (character <= U' ') return;
-  FillBox({cell.left, cell.top + 3, cell.right - 1, cell.bottom - 3}, colour);
+  if (character > U'~') {
+    // A box stands for what the font lacks.
+    FillBox({cell.left, cell.top + 3, cell.right - 1, cell.bottom - 3}, colour);
+    return;
+  }
+  const Glyph& glyph = kGlyphs[character - U'!'];
+  const int top = cell.top + (cell.Height() - kRows) / 2;
+  for (int y = 0; y < kRows; ++y) {
+    for (int x = 0; x < kColumns; ++x) {
+      if ((glyph.Rows[y] >> (kColumns - 1 - x) & 1) == 0) continue;
+      FillBox(RectAt({cell.left + x, top + y}, {1, 1}), colour);
+    }
+  }
 }
 
 void SimCanvas::DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) {
@@ -84,19 +98,26 @@ void SimCanvas::DrawString(PixelPoint at, std::string_view text, const FontSpec&
 }
 
 void SimCanvas::DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) {
-  const PixelSize size = source.Size();
-  const PixelRect inside = Intersect(part, {0, 0, size.width, size.height});
-  for (int y = inside.top; y < inside.bottom; ++y) {
-    for (int x = inside.left; x < inside.right; ++x) {
-      Set({at.x + x - part.left, at.y + y - part.top}, source.PixelAt({x, y}));
-    }
+  const auto* other = dynamic_cast<const SimCanvas*>(&source);
+  if (other == nullptr || other == this) {
+    Complain("a canvas can be copied from another bitmap only");
+    return;
+  }
+  // From here on in pixels of this bitmap.
+  const PixelPoint shift{at.x - part.left + origin_.x, at.y - part.top + origin_.y};
+  const PixelRect inside = Intersect(part, {0, 0, other->size_.width, other->size_.height});
+  const PixelRect target = Intersect({inside.left + shift.x, inside.top + shift.y,
+                                      inside.right + shift.x, inside.bottom + shift.y},
+                                     {0, 0, size_.width, size_.height});
+  for (int y = target.top; y < target.bottom; ++y) {
+    const Rgb* from = other->Row(y - shift.y) + (target.left - shift.x);
+    std::copy(from, from + target.Width(), Row(y) + target.left);
   }
 }
 
 Rgb SimCanvas::PixelAt(PixelPoint at) const {
   if (at.x < 0 || at.y < 0 || at.x >= size_.width || at.y >= size_.height) return 0;
-  return pixels_[static_cast<std::size_t>(at.y) * static_cast<std::size_t>(size_.width) +
-                 static_cast<std::size_t>(at.x)];
+  return Row(at.y)[at.x];
 }
 
 void SimCanvas::Resize(PixelSize size) {

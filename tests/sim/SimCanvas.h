@@ -29,7 +29,8 @@ class SimCanvas final : public Canvas {
   [[nodiscard]] bool Shows(Rgb colour, const PixelRect& part) const;
 
  private:
-  void Set(PixelPoint at, Rgb colour);
+  [[nodiscard]] Rgb* Row(int y);
+  [[nodiscard]] const Rgb* Row(int y) const;
   void DrawGlyph(const PixelRect& cell, char32_t character, Rgb colour);
 
   PixelSize size_;

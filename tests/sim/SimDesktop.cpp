@@ -154,7 +154,10 @@ bool SimDesktop::RestoresMaximized(WindowId window) const {
 }
 
 void SimDesktop::RestoreMinimized(WindowId window) {
-  if (Get(window) != nullptr) Show(window, forms::ShowKind::Restored);
+  SimWindow* at = Get(window);
+  if (at == nullptr) return;
+  at->Maximized = false;
+  Show(window, forms::ShowKind::Restored);
 }
 
 void SimDesktop::ShowMaximized(WindowId window) {
@@ -178,7 +181,9 @@ WindowId SimDesktop::TopLevelAt(PixelPoint at) const {
 }
 
 WindowId SimDesktop::ChildAt(WindowId window, PixelPoint at) const {
-  for (const WindowId child : Look(window)->Children) {
+  const SimWindow* parent = Look(window);
+  if (parent == nullptr) return kNoWindow;
+  for (const WindowId child : parent->Children) {
     if (IsShown(child) && BoundsOf(child).Contains(at)) return ChildAt(child, at);
   }
   return window;

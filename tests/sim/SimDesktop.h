@@ -98,6 +98,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Answer(int button) { answers_.push_back({std::nullopt, button}); }
   /// The answer to the next box, which must have this text.
   void Answer(std::string text, int button) { answers_.push_back({std::move(text), button}); }
+  /// The answer to every box that has none of its own, for runs in which boxes may come or not.
+  void AnswerAnyOther(int button) { standingAnswer_ = button; }
   /// Runs while each box is up, with the box.
   void WhileBoxIsUp(std::function<void(const MessageBox&)> action) {
     boxAction_ = std::move(action);
@@ -194,6 +196,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId Add(SimWindow window);
   void Destroy(WindowId window);
   void SetBounds(WindowId window, const PixelRect& bounds);
+  void TellBounds(WindowId window);
   void Show(WindowId window, forms::ShowKind kind);
   void HideWindow(WindowId window);
   void SetWindowPos(WindowId window, forms::InsertAfter after, unsigned flags);
@@ -267,6 +270,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::function<void()> runScript_;
   bool quit_ = false;
   std::deque<ScriptedAnswer> answers_;
+  std::optional<int> standingAnswer_;
   std::function<void(const MessageBox&)> boxAction_;
   std::vector<MessageBox> boxes_;
   int unexpectedBoxes_ = 0;

@@ -152,6 +152,8 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   if (!answers_.empty()) {
     answer = std::move(answers_.front());
     answers_.pop_front();
+  } else if (standingAnswer_) {
+    answer = ScriptedAnswer{std::nullopt, *standingAnswer_};
   }
   if (!answer || (answer->Text && *answer->Text != box.Text)) {
     ++unexpectedBoxes_;

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "base/Text.h"
+#include "base/Wildcard.h"
 
 namespace corvelle::sim {
 
@@ -104,7 +105,11 @@ std::optional<std::string> SimFiles::Get(std::string_view path) const {
   return ReadHost(place.Host, 0, static_cast<std::size_t>(HostLength(place.Host)));
 }
 
-bool SimFiles::Has(std::string_view path) const { return MustFind(path).Exists; }
+bool SimFiles::Has(std::string_view path) const {
+  // A name that the disk cannot hold names nothing.
+  const FileResult<Place> place = Find(path);
+  return place && place->Exists;
+}
 
 std::vector<std::string> SimFiles::Names(std::string_view folder) const {
   const Place place = MustFind(folder);
@@ -132,6 +137,16 @@ void SimFiles::HoldOpen(std::string_view path, Hold hold) {
 }
 
 void SimFiles::LetGo(std::string_view path) { held_.erase(MustFind(path).Key); }
+
+void SimFiles::Protect(std::string_view folder, bool isProtected) {
+  const Place place = MustFind(folder);
+  if (!place.IsFolder) EndTest("is no folder", folder);
+  if (isProtected) {
+    protected_.insert(place.Key);
+  } else {
+    protected_.erase(place.Key);
+  }
+}
 
 void SimFiles::Vanish(std::string_view path) {
   const Place place = MustFind(path);
@@ -215,6 +230,7 @@ FileResult<SimFiles::Place> SimFiles::FindWritable(std::string_view path) const 
   if (place->IsFolder) return FileError::AccessDenied;
   if (place->Path.EndsInBackslash) return FileError::NotFound;
   if (AttributesOf(place->Key).ReadOnly && place->Exists) return FileError::AccessDenied;
+  if (IsProtected(place->Key)) return FileError::AccessDenied;
   if (IsHeld(place->Key)) return FileError::InUse;
   return place;
 }
@@ -231,6 +247,12 @@ std::optional<FileError> SimFiles::Enter(std::string_view operation, std::string
 SimFiles::Attributes SimFiles::AttributesOf(const std::string& key) const {
   const auto found = attributes_.find(key);
   return found == attributes_.end() ? Attributes{} : found->second;
+}
+
+bool SimFiles::IsProtected(const std::string& key) const {
+  return std::any_of(protected_.begin(), protected_.end(), [&](const std::string& folder) {
+    return key.starts_with(folder.ends_with('\\') ? folder : folder + "\\");
+  });
 }
 
 bool SimFiles::HoldsSomethingIn(const std::string& folderKey) const {
@@ -363,9 +385,10 @@ FileStatus SimFiles::Replace(std::string_view path, std::string_view bytes) {
 
 FileStatus SimFiles::Remove(std::string_view path) {
   if (const auto error = Enter("Remove", path)) return *error;
+  const FileResult<Place> there = Find(path);
+  if (there && !there->Exists) return FileError::NotFound;
   const FileResult<Place> place = FindWritable(path);
   if (!place) return place.Error();
-  if (!place->Exists) return FileError::NotFound;
   if (bytesLeft_) *bytesLeft_ += HostLength(place->Host);
   fs::remove(place->Host);
   attributes_.erase(place->Key);
@@ -381,6 +404,7 @@ FileStatus SimFiles::Rename(std::string_view from, std::string_view to) {
   if (!target) return target.Error();
   if (!target->ParentExists) return FileError::NotFound;
   if (source->Path.Drive != target->Path.Drive || source->Path.IsRoot()) return FileError::Failed;
+  if (IsProtected(source->Key) || IsProtected(target->Key)) return FileError::AccessDenied;
   if (IsHeld(source->Key)) return FileError::InUse;
   if (HoldsSomethingIn(source->Key)) return FileError::AccessDenied;
   if (target->Exists && target->Key != source->Key) return FileError::AlreadyExists;
@@ -401,6 +425,7 @@ FileStatus SimFiles::Copy(std::string_view from, std::string_view to) {
   if (target->IsFolder) return FileError::AccessDenied;
   if (target->Exists) return FileError::AlreadyExists;
   if (!target->ParentExists) return FileError::NotFound;
+  if (IsProtected(target->Key)) return FileError::AccessDenied;
   const std::string content = ReadHost(source->Host, 0, HostLength(source->Host));
   if (bytesLeft_ && content.size() > *bytesLeft_) return FileError::DiskFull;
   attributes_[target->Key] = AttributesOf(source->Key);
@@ -413,6 +438,7 @@ FileStatus SimFiles::MakeFolder(std::string_view path) {
   if (!place) return place.Error();
   if (place->Exists) return FileError::AlreadyExists;
   if (!place->ParentExists) return FileError::NotFound;
+  if (IsProtected(place->Key)) return FileError::AccessDenied;
   fs::create_directory(place->Host);
   return Done();
 }

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +48,7 @@ class SimFiles final : public FileSystem {
   void Put(std::string_view path, std::string_view bytes);
   /// The content of a file; nothing when it is missing.
   [[nodiscard]] std::optional<std::string> Get(std::string_view path) const;
+  /// Of a path that the disk cannot hold there is nothing.
   [[nodiscard]] bool Has(std::string_view path) const;
   /// Names in a folder in the order of their bytes, in the disk's case.
   [[nodiscard]] std::vector<std::string> Names(std::string_view folder) const;
@@ -54,6 +56,8 @@ class SimFiles final : public FileSystem {
   void SetHidden(std::string_view path, bool hidden);
   void HoldOpen(std::string_view path, Hold hold = Hold::Exclusively);
   void LetGo(std::string_view path);
+  /// Takes the right to change anything in a folder and below it, or gives it back.
+  void Protect(std::string_view folder, bool isProtected = true);
   /// Takes a file or folder with all that is in it away, as another program would.
   void Vanish(std::string_view path);
 
@@ -124,6 +128,7 @@ class SimFiles final : public FileSystem {
                                  std::string_view other = {});
   [[nodiscard]] Attributes AttributesOf(const std::string& key) const;
   [[nodiscard]] bool IsHeld(const std::string& key) const { return held_.contains(key); }
+  [[nodiscard]] bool IsProtected(const std::string& key) const;
   [[nodiscard]] bool HoldsSomethingIn(const std::string& folderKey) const;
   void MoveAttributes(const std::string& from, const std::string& to);
 
@@ -136,6 +141,7 @@ class SimFiles final : public FileSystem {
   std::string currentFolder_ = "C:\\";
   std::map<std::string, Attributes> attributes_;
   std::map<std::string, Hold> held_;
+  std::set<std::string> protected_;  // folders
   std::optional<std::uint64_t> bytesLeft_;
   int failIn_ = 0;
   bool failOn_ = false;

@@ -31,35 +31,6 @@ bool IsGoodName(std::string_view name) {
          ToWide(name).size() <= kLongestName;
 }
 
-// "*" takes any run of characters, "?" one, or none at the end of a name or before its point.
-bool Fits(std::u16string_view name, std::u16string_view pattern) {
-  if (pattern.empty()) return name.empty();
-  if (pattern.front() == u'*') {
-    for (std::size_t skip = 0; skip <= name.size(); ++skip) {
-      if (Fits(name.substr(skip), pattern.substr(1))) return true;
-    }
-    return false;
-  }
-  if (pattern.front() == u'?') {
-    if (name.empty() || name.front() == u'.') return Fits(name, pattern.substr(1));
-    return Fits(name.substr(1), pattern.substr(1));
-  }
-  return !name.empty() && name.front() == pattern.front() &&
-         Fits(name.substr(1), pattern.substr(1));
-}
-
-bool FitsOneName(std::string_view name, std::string_view pattern) {
-  std::u16string wide = ToWide(UpperCase(name));
-  std::u16string form = ToWide(UpperCase(pattern));
-  if (form == u"*.*") return true;
-  // A pattern that ends in a point asks for names without an extension.
-  if (form.ends_with(u'.')) {
-    if (wide.find(u'.') != std::u16string::npos) return false;
-    form.pop_back();
-  }
-  return Fits(wide, form);
-}
-
 }  // namespace
 
 ParsedPath ParsePath(std::string_view path, std::string_view currentFolder) {
@@ -108,27 +79,6 @@ bool IsDeviceName(std::string_view name) {
   if (base == "CON" || base == "PRN" || base == "AUX" || base == "NUL") return true;
   return base.size() == 4 && (base.starts_with("COM") || base.starts_with("LPT")) &&
          base[3] >= '1' && base[3] <= '9';
-}
-
-bool FitsPattern(std::string_view name, std::string_view pattern) {
-  if (FitsOneName(name, pattern)) return true;
-  const std::optional<std::string> shortName = ShortName(name);
-  return shortName && FitsOneName(*shortName, pattern);
-}
-
-std::optional<std::string> ShortName(std::string_view name) {
-  const std::size_t point = name.rfind('.');
-  const std::string_view base = name.substr(0, point);
-  const std::string_view extension =
-      point == std::string_view::npos ? std::string_view() : name.substr(point + 1);
-  const bool plain =
-      name.find(' ') == std::string_view::npos && base.find('.') == std::string_view::npos;
-  if (plain && base.size() <= 8 && extension.size() <= 3) return std::nullopt;
-  std::string shortBase = UpperCase(base);
-  std::erase_if(shortBase, [](char c) { return c == ' ' || c == '.'; });
-  std::string result = CutUtf8(shortBase, 6) + "~1";
-  if (!extension.empty()) result += "." + CutUtf8(UpperCase(extension), 3);
-  return result;
 }
 
 }  // namespace corvelle::sim

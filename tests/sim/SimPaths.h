@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,13 +36,5 @@ struct ParsedPath {
 
 /// True for the names that stand for devices in every folder, with whatever extension.
 [[nodiscard]] bool IsDeviceName(std::string_view name);
-
-/// True if a name fits a pattern of "*" and "?", case apart, as a folder's listing takes it: also
-/// by the short name that the disk keeps beside a long one.
-[[nodiscard]] bool FitsPattern(std::string_view name, std::string_view pattern);
-
-/// The name of at most eight characters and three of extension that the disk keeps beside a longer
-/// one; nothing for a name that is short itself.
-[[nodiscard]] std::optional<std::string> ShortName(std::string_view name);
 
 }  // namespace corvelle::sim

@@ -9,6 +9,8 @@ namespace corvelle::sim {
 namespace {
 
 constexpr std::string_view kPrograms[] = {".EXE", ".COM", ".BAT", ".CMD", ".PIF", ".SCR", ".LNK"};
+constexpr std::string_view kSchemeCharacters =
+    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.";
 constexpr std::string_view kRunnable[] = {".EXE", ".COM", ".BAT", ".CMD", ".SCR"};
 
 /// The extension in capitals with its dot; empty without one.
@@ -27,11 +29,12 @@ bool IsOneOf(const std::string& extension, const std::string_view (&all)[N]) {
 /// "http:", "mailto:"... but no drive letter.
 bool IsAddress(std::string_view file) {
   const std::size_t colon = file.find(':');
-  return colon != std::string_view::npos && colon > 1;
+  if (colon == std::string_view::npos || colon < 2) return false;
+  return file.substr(0, colon).find_first_not_of(kSchemeCharacters) == std::string_view::npos;
 }
 
 bool HasBadCharacter(std::string_view file) {
-  return file.empty() || file.find_first_of("<>|?*") != std::string_view::npos;
+  return file.empty() || file.find_first_of("\"<>|?*") != std::string_view::npos;
 }
 
 }  // namespace

@@ -22,6 +22,7 @@ struct SimWindow {
   std::string ClassName;
   std::string Text;
   PixelRect Bounds;  // relative to the parent, or the screen
+  PixelRect Told;    // the bounds that its events know
   bool Visible = false;
   bool Enabled = true;
   bool Topmost = false;

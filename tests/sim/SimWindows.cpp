@@ -38,6 +38,7 @@ std::string Numbers(const PixelRect& r) {
 WindowId SimDesktop::Add(SimWindow window) {
   const WindowId id = ++lastId_;
   window.Id = id;
+  window.Told = window.Bounds;
   if (window.Own) window.Content = std::make_shared<SimCanvas>(window.Bounds.Size());
   const WindowId parent = window.Parent;
   windows_.emplace(id, std::move(window));
@@ -95,14 +96,23 @@ void SimDesktop::WindowGone(WindowId window) {
 
 void SimDesktop::SetBounds(WindowId window, const PixelRect& bounds) {
   SimWindow* at = Get(window);
-  if (at == nullptr || at->Bounds == bounds) return;
-  const bool sized = at->Bounds.Size() != bounds.Size();
-  const bool moved = at->Bounds.TopLeft() != bounds.TopLeft();
+  if (at == nullptr) return;
+  Note("bounds", *at, Numbers(bounds));
+  if (at->Bounds == bounds) return;
   at->Bounds = bounds;
   windowsMoved_ = true;
-  Note("bounds", *at, Numbers(bounds));
-  if (at->Content && sized) at->Content->Resize(bounds.Size());
-  if (at->Events == nullptr) return;
+  if (at->Content && at->Content->Size() != bounds.Size()) at->Content->Resize(bounds.Size());
+  // A window in the task bar tells where it is when it comes back.
+  if (!at->Minimized) TellBounds(window);
+}
+
+void SimDesktop::TellBounds(WindowId window) {
+  SimWindow* at = Get(window);
+  if (at->Events == nullptr || at->Told == at->Bounds) return;
+  const PixelRect bounds = at->Bounds;
+  const bool sized = at->Told.Size() != bounds.Size();
+  const bool moved = at->Told.TopLeft() != bounds.TopLeft();
+  at->Told = bounds;
   std::intptr_t answer = 0;
   if (moved) {
     const auto place =
@@ -151,6 +161,7 @@ void SimDesktop::Show(WindowId window, forms::ShowKind kind) {
   }
   Raise(window);
   if (!wasShown) InvalidateTree(window);
+  if (!at->Minimized) TellBounds(window);
   if (kind == ShowKind::Normal || kind == ShowKind::Restored) RequestForeground(window);
 }
 

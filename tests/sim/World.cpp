@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <fstream>
 
+#include "sim/Complain.h"
+
 namespace corvelle::sim {
 
 World::World(const WorldOptions& options)
@@ -11,6 +13,10 @@ World::World(const WorldOptions& options)
       Desktop({.TwipsPerPixel = options.TwipsPerPixel, .Screen = options.Screen}) {
   System.Caption = options.CaptionHeight;
   System.CaptionButton = options.CaptionButtonWidth;
+}
+
+World::~World() {
+  if (Desktop.AnswersLeft() > 0) Complain("a message box that was expected did not come");
 }
 
 Platform World::Services() {

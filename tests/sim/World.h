@@ -26,6 +26,9 @@ struct WorldOptions {
 class World {
  public:
   explicit World(const WorldOptions& options = {});
+  World(const World&) = delete;
+  World& operator=(const World&) = delete;
+  ~World();
 
   SimFiles Files;
   Windows1252 Ansi;
