@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string_view>
+
+#include "base/Geometry.h"
+#include "icons/IconForm.h"
+#include "platform/ShellIcons.h"
+
+namespace corvelle {
+
+class Canvas;
+class Program;
+
+// Drawing of icons. Points and sizes are pixels. Nothing here shows a message or keeps an icon:
+// each draw asks the shell anew, and what cannot be drawn is left as it was.
+
+/// Looks once how the shell shows icon files and sets Program::ShellDrawsIcons: true when each
+/// shows its own picture, false when all of them show the same one.
+void DetectShellIcons(Program& program);
+
+/// The shell's list for icons of this size: small ones at 16, large ones otherwise.
+[[nodiscard]] IconList IconListOf(int size) noexcept;
+
+/// Draws what an icon text means, or the icon of a blank document when it means nothing that can be
+/// drawn. Words that the caller has a picture for draw nothing. False when nothing was drawn.
+bool ResolveAndDraw(Program& program, Canvas& canvas, std::string_view text, PixelPoint at,
+                    int size, IconCaller caller = IconCaller::Toolbar);
+
+/// The icon of a blank document. False when that is missing too.
+bool DrawFallbackIcon(Program& program, Canvas& canvas, PixelPoint at, int size);
+
+/// Draws the first icon of a file by itself, and only where the shell would show a generic one;
+/// false at once where it shows the right one.
+bool DrawIconFile(Program& program, Canvas& canvas, std::string_view file, PixelPoint at, int size);
+
+/// Draws icon `index` of a file. False when the file has none.
+bool DrawIconIndex(Program& program, Canvas& canvas, std::string_view file, PixelPoint at, int size,
+                   int index);
+
+}  // namespace corvelle

@@ -1,0 +1,82 @@
+#include "launch/CommandForm.h"
+
+#include "base/FieldText.h"
+#include "base/Text.h"
+#include "base/Utf8.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr std::string_view kSpecialStart = "CSIDL_";
+constexpr std::string_view kWebStart = "http://";
+constexpr std::string_view kMailStart = "mailto:";
+constexpr std::string_view kUrlEnd = ".url";
+constexpr std::string_view kLinkEnd = ".lnk";
+constexpr char kRawMarker = '?';
+
+struct BuiltInWord {
+  std::string_view Word;
+  CommandKind Kind;
+};
+
+constexpr BuiltInWord kBuiltIns[] = {
+    {"netsearch", CommandKind::NetSearch},
+    {"findcomputer", CommandKind::FindComputer},
+    {"MinimizeAllWindows", CommandKind::MinimizeAllWindows},
+    {"UndoMinimizeAll", CommandKind::UndoMinimizeAll},
+    {"ClearRecentDocs", CommandKind::ClearRecentDocs},
+    {"ClearTempFolder", CommandKind::ClearTempFolder},
+    {"filefind", CommandKind::FileFind},
+};
+
+/// The meaning of a text that is neither empty nor a special folder, or raw.
+CommandKind ClassifyRest(std::string_view text) noexcept {
+  for (const BuiltInWord& word : kBuiltIns) {
+    if (EqualNoCase(text, word.Word)) return word.Kind;
+  }
+  if (EndsWithNoCase(text, kUrlEnd)) return CommandKind::UrlFile;
+  return ClassifyAddress(text);
+}
+
+}  // namespace
+
+CommandForm ClassifyCommand(std::string_view command) {
+  std::string text = Trim(command);
+  if (text.empty()) return {};
+  if (StartsWithNoCase(text, kSpecialStart)) return {CommandKind::SpecialFolder, std::move(text)};
+  if (text.front() == kRawMarker) text = Trim(std::string_view(text).substr(1));
+  const CommandKind kind = ClassifyRest(text);
+  return {kind, std::move(text)};
+}
+
+CommandKind ClassifyAddress(std::string_view text) noexcept {
+  if (StartsWithNoCase(text, kWebStart)) return CommandKind::WebAddress;
+  if (StartsWithNoCase(text, kMailStart)) return CommandKind::MailAddress;
+  if (EndsWithNoCase(text, kLinkEnd)) return CommandKind::ShellLink;
+  return CommandKind::Other;
+}
+
+std::optional<std::string> ParseUrlFile(std::string_view bytes, const CodePage& ansi) {
+  for (const std::string& line : SplitLines(bytes)) {
+    if (!ContainsNoCase(line, "url=")) continue;
+    const std::size_t start = FindNoCase(line, kWebStart);
+    if (start == std::string::npos) continue;
+    return StripAtNull(DecodeText(std::string_view(line).substr(start), ansi));
+  }
+  return std::nullopt;
+}
+
+std::string GetItemWorkDir(std::string_view path) {
+  if (!SkipCharacters(path, 1).starts_with(":\\")) return {};
+  return std::string(path.substr(0, path.rfind('\\') + 1));
+}
+
+std::string LinkFolder(std::string_view target) {
+  const std::string path = StripAtNull(target);
+  return path.substr(0, path.rfind('\\') + 1);
+}
+
+std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+}  // namespace corvelle

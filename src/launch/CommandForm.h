@@ -1,0 +1,57 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace corvelle {
+
+class CodePage;
+
+/// What the command of an entry means.
+enum class CommandKind {
+  Empty,
+  SpecialFolder,
+  NetSearch,
+  FindComputer,
+  MinimizeAllWindows,
+  UndoMinimizeAll,
+  ClearRecentDocs,
+  ClearTempFolder,
+  FileFind,
+  UrlFile,  // a file that holds a web address
+  WebAddress,
+  MailAddress,
+  ShellLink,
+  Other,  // a file, a folder, or a program with arguments
+};
+
+struct CommandForm {
+  CommandKind Kind = CommandKind::Empty;
+  /// The command without blanks at its ends and without the raw marker.
+  std::string Text;
+
+  friend bool operator==(const CommandForm&, const CommandForm&) = default;
+};
+
+/// The meaning of a command. A "?" in front marks raw text: it is taken off, and what follows it is
+/// neither empty nor a special folder whatever it says.
+[[nodiscard]] CommandForm ClassifyCommand(std::string_view command);
+
+/// The meaning of what a .url file led to: an address, a link or a file, never another .url file.
+[[nodiscard]] CommandKind ClassifyAddress(std::string_view text) noexcept;
+
+/// The web address that the bytes of a .url file hold, if any.
+[[nodiscard]] std::optional<std::string> ParseUrlFile(std::string_view bytes, const CodePage& ansi);
+
+/// The folder in which a command starts: up to and with its last "\" when it begins with a drive;
+/// else none, which is an empty text.
+[[nodiscard]] std::string GetItemWorkDir(std::string_view path);
+
+/// The folder of a link's target: up to and with its last "\"; empty without one.
+[[nodiscard]] std::string LinkFolder(std::string_view target);
+
+/// The text in double quotes.
+[[nodiscard]] std::string Quoted(std::string_view text);
+
+}  // namespace corvelle

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace corvelle {
+
+class Program;
+
+// What is chosen is started here. Events run meanwhile, so whoever calls must be ready for anything
+// to have happened.
+
+/// Carries out the command of an entry, whatever its form. Failures that the user should know of
+/// are shown. Returns the command as it was run: trimmed and without its raw marker.
+std::string LaunchItem(Program& program, std::string_view command);
+
+/// Opens a file that was dropped on an entry with the entry's command, and gives the pointer its
+/// normal shape.
+void OpenWithItem(Program& program, std::string_view droppedFile, std::string_view target);
+
+/// The web address that a .url file holds, or the path itself when it holds none.
+[[nodiscard]] std::string ReadUrlFile(Program& program, std::string_view path);
+
+/// The folder of a shell link's target; sets `target` to the target. Both are empty when the link
+/// cannot be read.
+[[nodiscard]] std::string GetLinkWorkDir(Program& program, std::string_view linkPath,
+                                         std::string& target);
+
+}  // namespace corvelle

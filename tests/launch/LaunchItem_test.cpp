@@ -1,0 +1,460 @@
+#include "launch/LaunchItem.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/Program.h"
+#include "launch/CommandDoubles.h"
+#include "sim/World.h"
+
+namespace corvelle {
+
+namespace {
+
+using sim::Launch;
+
+constexpr char kUnavailable[] = "File/Device unavailable.";
+constexpr char kEmpty[] =
+    "Empty string in the File Field. Check your entries in the Customize window.";
+
+Launch Opened(std::string file, std::optional<std::string> folder = {}) {
+  return {.How = Launch::Kind::Open,
+          .File = std::move(file),
+          .Folder = std::move(folder),
+          .Started = true};
+}
+
+Launch NotOpened(std::string file, std::optional<std::string> folder = {}) {
+  Launch launch = Opened(std::move(file), std::move(folder));
+  launch.Started = false;
+  return launch;
+}
+
+Launch Ran(std::string line) {
+  return {.How = Launch::Kind::Run, .File = std::move(line), .Started = true};
+}
+
+Launch NotRun(std::string line) {
+  Launch launch = Ran(std::move(line));
+  launch.Started = false;
+  return launch;
+}
+
+/// A shell that takes its time to find out that it cannot open a thing.
+class SlowShell final : public ShellExec {
+ public:
+  SlowShell(sim::SimDesktop& desktop, CallLog& log) : desktop_(desktop), log_(log) {}
+
+  bool Open(std::string_view, std::optional<std::string_view>,
+            std::optional<std::string_view>) override {
+    log_.emplace_back("Open");
+    desktop_.Jump(10);
+    return false;
+  }
+  Result<Done, RunError> Run(std::string_view) override {
+    log_.emplace_back("Run");
+    return Done{};
+  }
+
+ private:
+  sim::SimDesktop& desktop_;
+  CallLog& log_;
+};
+
+/// A machine with a few files, and a program that has none of the later services.
+class LaunchDesk : public ::testing::Test {
+ protected:
+  LaunchDesk() {
+    world.Files.Put("C:\\Tools\\tool.exe", "x");
+    world.Files.Put("C:\\root.exe", "x");
+    world.Files.Put("C:\\Docs\\plan.txt", "x");
+    world.Files.Put("C:\\Docs\\odd.xyz", "x");
+    world.Files.Put("C:\\Links\\tool.lnk", "x");
+    world.Shell.Associate(".txt", "notepad.exe");
+    world.Shell.AddToPath("explorer.exe");
+    world.Shell.AddToPath("rundll32.exe");
+  }
+
+  /// Gives the program all services.
+  void AddServices() {
+    program.Ports.BuiltInCommands = &builtIns;
+    program.Ports.Browser = &browser;
+    program.Ports.ShellLinks = &links;
+    program.Ports.SpecialFolders = &folders;
+  }
+
+  [[nodiscard]] const std::vector<Launch>& Launches() const { return world.Shell.Log(); }
+  [[nodiscard]] std::size_t Boxes() const { return world.Desktop.Boxes().size(); }
+  void ExpectUnavailable() { world.Desktop.Answer(kUnavailable, forms::msgbox::AnswerOk); }
+
+  sim::World world;
+  Program program{world.Services(), world.Windows()};
+  CallLog log;
+  LoggingBuiltIns builtIns{log};
+  LoggingBrowser browser{log};
+  KnownLinks links;
+  LoggingFolders folders{log};
+};
+
+using LaunchItemTest = LaunchDesk;
+using OpenWithItemTest = LaunchDesk;
+
+}  // namespace
+
+TEST_F(LaunchItemTest, AProgramStartsInItsOwnFolder) {
+  LaunchItem(program, "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\Tools\\tool.exe", "C:\\Tools\\")});
+}
+
+TEST_F(LaunchItemTest, AFileInTheDrivesRootRunsThere) {
+  LaunchItem(program, "C:\\root.exe");
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\root.exe", "C:\\")});
+}
+
+TEST_F(LaunchItemTest, ARelativeNameRunsWithoutAFolder) {
+  LaunchItem(program, "explorer.exe");
+  EXPECT_EQ(Launches(), std::vector{Opened("explorer.exe")});
+}
+
+TEST_F(LaunchItemTest, ANetworkPathRunsWithoutAFolder) {
+  ExpectUnavailable();
+  LaunchItem(program, "\\\\server\\share\\tool.exe");
+  ASSERT_FALSE(Launches().empty());
+  EXPECT_EQ(Launches().front(), NotOpened("\\\\server\\share\\tool.exe"));
+}
+
+TEST_F(LaunchItemTest, BlanksAtTheEndsAreNoPartOfTheCommand) {
+  EXPECT_EQ(LaunchItem(program, "   C:\\Tools\\tool.exe  "), "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\Tools\\tool.exe", "C:\\Tools\\")});
+}
+
+TEST_F(LaunchItemTest, ADocumentOpensWithItsProgram) {
+  LaunchItem(program, "C:\\Docs\\plan.txt");
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\Docs\\plan.txt", "C:\\Docs\\")});
+}
+
+TEST_F(LaunchItemTest, ATextWithBlanksIsFirstTriedWholeAsAFile) {
+  world.Files.Put("C:\\Tools\\tool.exe second.txt", "x");
+  LaunchItem(program, "C:\\Tools\\tool.exe second.txt");
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\Tools\\tool.exe second.txt", "C:\\Tools\\")});
+}
+
+TEST_F(LaunchItemTest, AProgramWithArgumentsRunsAsACommandLine) {
+  const std::string line = "explorer.exe /e,/root,,::{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
+  LaunchItem(program, line);
+  EXPECT_EQ(Launches(), (std::vector{NotOpened(line), Ran(line)}));
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(LaunchItemTest, TheRawMarkerIsTakenOff) {
+  EXPECT_EQ(LaunchItem(program, "? C:\\Tools\\tool.exe /x"), "C:\\Tools\\tool.exe /x");
+  ASSERT_EQ(Launches().size(), 2U);
+  EXPECT_EQ(Launches().back(), Ran("C:\\Tools\\tool.exe /x"));
+}
+
+TEST_F(LaunchItemTest, AMissingFileIsUnavailable) {
+  ExpectUnavailable();
+  LaunchItem(program, "C:\\Tools\\gone.exe");
+  EXPECT_EQ(Launches(), (std::vector{NotOpened("C:\\Tools\\gone.exe", "C:\\Tools\\"),
+                                     NotRun("C:\\Tools\\gone.exe")}));
+  ASSERT_EQ(Boxes(), 1U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 262160U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Title, "Corvelle");
+}
+
+TEST_F(LaunchItemTest, ABadFileNameIsUnavailable) {
+  ExpectUnavailable();
+  LaunchItem(program, "<not a name>");
+  EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LaunchItemTest, AWordThatNoTestKnowsIsUnavailable) {
+  AddServices();
+  ExpectUnavailable();
+  LaunchItem(program, "RunDialog");
+  EXPECT_EQ(log, CallLog());
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LaunchItemTest, TheMarkerAloneIsUnavailableAndNotEmpty) {
+  ExpectUnavailable();
+  EXPECT_EQ(LaunchItem(program, "?"), "");
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LaunchItemTest, TheUnavailableMessageBelongsToTheStrip) {
+  LoggingToolbar toolbar(log);
+  toolbar.LoadWindow();
+  program.Ports.Toolbar = &toolbar;
+  ExpectUnavailable();
+  LaunchItem(program, "C:\\gone.exe");
+  ASSERT_EQ(Boxes(), 1U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Owner, toolbar.WindowHandle());
+}
+
+TEST_F(LaunchItemTest, ADocumentWithoutAProgramBringsTheOpenWithDialog) {
+  LaunchItem(program, "C:\\Docs\\odd.xyz");
+  EXPECT_EQ(Launches(),
+            (std::vector{NotOpened("C:\\Docs\\odd.xyz", "C:\\Docs\\"), NotRun("C:\\Docs\\odd.xyz"),
+                         Ran("rundll32.exe shell32.dll,OpenAs_RunDLL C:\\Docs\\odd.xyz")}));
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(LaunchItemTest, AnotherFailureWithoutAFileIsQuiet) {
+  world.Shell.Fail("C:\\Tools\\tool.exe /x", RunError::Other);
+  LaunchItem(program, "C:\\Tools\\tool.exe /x");
+  EXPECT_EQ(Launches(), (std::vector{NotOpened("C:\\Tools\\tool.exe /x", "C:\\Tools\\"),
+                                     NotRun("C:\\Tools\\tool.exe /x")}));
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(LaunchItemTest, AnotherFailureOfAFolderIsQuiet) {
+  world.Shell.Fail("C:\\Docs", RunError::Other);
+  LaunchItem(program, "C:\\Docs");
+  EXPECT_EQ(Launches(), (std::vector{NotOpened("C:\\Docs", "C:\\"), NotRun("C:\\Docs")}));
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(LaunchItemTest, AMissingOpenWithDialogIsQuiet) {
+  world.Shell.Fail("rundll32.exe shell32.dll,OpenAs_RunDLL C:\\Docs\\odd.xyz",
+                   RunError::FileNotFound);
+  LaunchItem(program, "C:\\Docs\\odd.xyz");
+  EXPECT_EQ(Launches().size(), 3U);
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(LaunchItemTest, NothingButBlanksGivesTheEmptyMessage) {
+  for (const char* command : {"", "     "}) {
+    world.Desktop.Answer(kEmpty, forms::msgbox::AnswerOk);
+    EXPECT_EQ(LaunchItem(program, command), "");
+    const sim::MessageBox& box = world.Desktop.Boxes().back();
+    EXPECT_EQ(box.Flags, 262208U);
+    EXPECT_EQ(box.Title, "Corvelle");
+  }
+  EXPECT_TRUE(Launches().empty());
+  EXPECT_EQ(Boxes(), 2U);
+}
+
+TEST_F(LaunchItemTest, BuiltInWordsAreCarriedOut) {
+  AddServices();
+  for (const char* word :
+       {"NETSEARCH", "NetSearch", "?netsearch", "FindComputer", "minimizeallwindows",
+        "UndoMinimizeAll", "ClearRecentDocs", "ClearTempFolder", "FileFind"}) {
+    LaunchItem(program, word);
+  }
+  EXPECT_EQ(log, (CallLog{"ShowNetSearch", "ShowNetSearch", "ShowNetSearch", "FindComputer",
+                          "MinimizeAllWindows", "UndoMinimizeAll", "ClearRecentDocs",
+                          "ClearTempFolder", "FileFind"}));
+  EXPECT_TRUE(Launches().empty());
+}
+
+TEST_F(LaunchItemTest, AddressesGoToTheBrowserAndTheMailProgram) {
+  AddServices();
+  LaunchItem(program, "HTTP://A.EXAMPLE");
+  LaunchItem(program, " mailto:a@b.example ");
+  EXPECT_EQ(log, (CallLog{"OpenUrl HTTP://A.EXAMPLE", "OpenMail mailto:a@b.example"}));
+  EXPECT_TRUE(Launches().empty());
+}
+
+TEST_F(LaunchItemTest, WithoutABrowserOfItsOwnTheSystemOpensAddresses) {
+  LaunchItem(program, "http://a.example");
+  LaunchItem(program, "mailto:a@b.example");
+  EXPECT_EQ(Launches(), (std::vector{Opened("http://a.example"), Opened("mailto:a@b.example")}));
+}
+
+TEST_F(LaunchItemTest, ASecureAddressIsTheSystemsBusiness) {
+  AddServices();
+  LaunchItem(program, "https://a.example");
+  EXPECT_EQ(log, CallLog());
+  EXPECT_EQ(Launches(), std::vector{Opened("https://a.example")});
+}
+
+TEST_F(LaunchItemTest, AUrlFileOpensItsAddress) {
+  AddServices();
+  world.Files.Put("C:\\Docs\\site.URL", "[InternetShortcut]\r\nURL=http://a.example\r\n");
+  EXPECT_EQ(LaunchItem(program, "C:\\Docs\\site.URL"), "C:\\Docs\\site.URL");
+  EXPECT_EQ(log, CallLog{"OpenUrl http://a.example"});
+  EXPECT_TRUE(Launches().empty());
+}
+
+TEST_F(LaunchItemTest, AUrlFileWithoutAnAddressGoesOnAsAFile) {
+  AddServices();
+  world.Shell.Associate(".url", "browser.exe");
+  world.Files.Put("C:\\Docs\\site.url", "[InternetShortcut]\r\nURL=https://a.example\r\n");
+  LaunchItem(program, "C:\\Docs\\site.url");
+  EXPECT_EQ(log, CallLog());
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\Docs\\site.url", "C:\\Docs\\")});
+}
+
+TEST_F(LaunchItemTest, AMissingUrlFileIsUnavailable) {
+  AddServices();
+  ExpectUnavailable();
+  LaunchItem(program, "C:\\Docs\\gone.url");
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LaunchItemTest, ALinkOpensInTheFolderOfItsTarget) {
+  AddServices();
+  links.Set("C:\\Links\\tool.lnk", "C:\\Tools\\tool.exe");
+  LaunchItem(program, "C:\\Links\\tool.lnk");
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\Links\\tool.lnk", "C:\\Tools\\")});
+}
+
+TEST_F(LaunchItemTest, ALinkWithoutATargetOpensWithoutAFolder) {
+  AddServices();
+  LaunchItem(program, "C:\\Links\\tool.LNK");
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\Links\\tool.LNK")});
+}
+
+TEST_F(LaunchItemTest, WithoutAReaderOfLinksTheSystemOpensThem) {
+  LaunchItem(program, "C:\\Links\\tool.lnk");
+  EXPECT_EQ(Launches(), std::vector{Opened("C:\\Links\\tool.lnk")});
+}
+
+TEST_F(LaunchItemTest, AFailingLinkIsNotTriedAgainAndQuiet) {
+  AddServices();
+  LaunchItem(program, "C:\\Links\\gone.lnk");
+  EXPECT_EQ(Launches(), std::vector{NotOpened("C:\\Links\\gone.lnk")});
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(LaunchItemTest, ASpecialFolderIsHandedOnAsItIs) {
+  AddServices();
+  LaunchItem(program, "csidl_Drives");
+  LaunchItem(program, "CSIDL_NOSUCHTHING");
+  EXPECT_EQ(log, (CallLog{"OpenSpecialFolder csidl_Drives with ",
+                          "OpenSpecialFolder CSIDL_NOSUCHTHING with "}));
+  EXPECT_TRUE(Launches().empty());
+}
+
+TEST_F(LaunchItemTest, WithoutSpecialFoldersTheirNamesAreUnavailable) {
+  ExpectUnavailable();
+  LaunchItem(program, "CSIDL_DRIVES");
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LaunchItemTest, TheHintClosesAndEventsRunBeforeAnythingStarts) {
+  AddServices();
+  LoggingHint hint(log);
+  program.Ports.Hint = &hint;
+  const forms::TimerId timer =
+      world.Desktop.StartTimer(1, [this] { log.emplace_back("events run"); });
+  world.Desktop.Jump(1);
+  LaunchItem(program, "netsearch");
+  world.Desktop.StopTimer(timer);
+  EXPECT_EQ(log, (CallLog{"hint ", "events run", "ShowNetSearch"}));
+}
+
+TEST_F(LaunchItemTest, EventsRunBeforeTheCommandLineIsTried) {
+  SlowShell shell(world.Desktop, log);
+  Platform services = world.Services();
+  Program slow({services.Files, services.Ansi, services.Keys, shell, services.Icons,
+                services.Pointer, services.Desktop, services.System},
+               world.Windows());
+  const forms::TimerId timer =
+      world.Desktop.StartTimer(10, [this] { log.emplace_back("events run"); });
+  LaunchItem(slow, "tool.exe /x");
+  world.Desktop.StopTimer(timer);
+  EXPECT_EQ(log, (CallLog{"Open", "events run", "Run"}));
+}
+
+TEST_F(LaunchItemTest, TheCommandMayVanishWhileEventsRun) {
+  auto command = std::make_unique<std::string>("C:\\Tools\\tool.exe of a window that goes away");
+  const std::string kept = *command;
+  world.Shell.AddToPath(kept);
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] { command.reset(); });
+  world.Desktop.Jump(1);
+  LaunchItem(program, *command);
+  world.Desktop.StopTimer(timer);
+  EXPECT_EQ(command, nullptr);
+  ASSERT_FALSE(Launches().empty());
+  EXPECT_EQ(Launches().front().File, kept);
+}
+
+TEST_F(OpenWithItemTest, ADroppedFileIsTheProgramsParameter) {
+  OpenWithItem(program, " C:\\Docs\\plan.txt ", " C:\\Tools\\tool.exe ");
+  Launch expected = Opened("C:\\Tools\\tool.exe");
+  expected.Parameters = "\"C:\\Docs\\plan.txt\"";
+  EXPECT_EQ(Launches(), std::vector{expected});
+}
+
+TEST_F(OpenWithItemTest, ASpecialFolderTakesTheDroppedFile) {
+  AddServices();
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "csidl_bitbucket");
+  EXPECT_EQ(log, CallLog{"OpenSpecialFolder csidl_bitbucket with \"C:\\Docs\\plan.txt\""});
+  EXPECT_TRUE(Launches().empty());
+}
+
+TEST_F(OpenWithItemTest, AFailureIsTriedAsACommandLine) {
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "explorer.exe /e");
+  ASSERT_EQ(Launches().size(), 2U);
+  EXPECT_EQ(Launches().back(), Ran("explorer.exe /e \"C:\\Docs\\plan.txt\""));
+}
+
+TEST_F(OpenWithItemTest, AFailingLinkIsTriedByItsTarget) {
+  AddServices();
+  links.Set("C:\\Links\\tool.lnk", "C:\\Tools\\tool.exe");
+  world.Shell.Fail("C:\\Links\\tool.lnk");
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Links\\tool.LNK");
+  ASSERT_EQ(Launches().size(), 2U);
+  EXPECT_EQ(Launches().back(), Ran("C:\\Tools\\tool.exe \"C:\\Docs\\plan.txt\""));
+}
+
+TEST_F(OpenWithItemTest, WithoutAReaderOfLinksAFailingLinkIsTriedItself) {
+  world.Shell.Fail("C:\\Links\\tool.lnk");
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Links\\tool.lnk");
+  ASSERT_FALSE(Launches().empty());
+  EXPECT_EQ(Launches()[1].File, "C:\\Links\\tool.lnk \"C:\\Docs\\plan.txt\"");
+}
+
+TEST_F(OpenWithItemTest, AMissingProgramIsUnavailable) {
+  ExpectUnavailable();
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\gone.exe");
+  EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(OpenWithItemTest, ADocumentWithoutAProgramBringsTheOpenWithDialog) {
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Docs\\odd.xyz");
+  ASSERT_EQ(Launches().size(), 3U);
+  EXPECT_EQ(Launches().back(), Ran("rundll32.exe shell32.dll,OpenAs_RunDLL C:\\Docs\\odd.xyz"));
+}
+
+TEST_F(OpenWithItemTest, ThePointerIsNormalAgainHoweverItEnds) {
+  AddServices();
+  const char* targets[] = {"C:\\Tools\\tool.exe", "CSIDL_DRIVES", "explorer.exe /e",
+                           "C:\\Tools\\gone.exe"};
+  ExpectUnavailable();
+  for (const char* target : targets) {
+    world.Desktop.SetMousePointer(forms::MousePointer::Hourglass);
+    OpenWithItem(program, "C:\\Docs\\plan.txt", target);
+    EXPECT_EQ(world.Desktop.CurrentMousePointer(), forms::MousePointer::Default) << target;
+  }
+}
+
+TEST_F(LaunchItemTest, ReadUrlFileGivesThePathWhereThereIsNoAddress) {
+  world.Files.Put("C:\\a.url", "URL=http://a.example");
+  world.Files.Put("C:\\b.url", "");
+  EXPECT_EQ(ReadUrlFile(program, "C:\\a.url"), "http://a.example");
+  EXPECT_EQ(ReadUrlFile(program, "C:\\b.url"), "C:\\b.url");
+  EXPECT_EQ(ReadUrlFile(program, "C:\\gone.url"), "C:\\gone.url");
+  world.Files.FailCall(1);
+  EXPECT_EQ(ReadUrlFile(program, "C:\\a.url"), "C:\\a.url");
+}
+
+TEST_F(LaunchItemTest, GetLinkWorkDirGivesTargetAndFolder) {
+  AddServices();
+  links.Set("C:\\a.lnk", "C:\\Tools\\tool.exe");
+  std::string target = "before";
+  EXPECT_EQ(GetLinkWorkDir(program, "C:\\a.lnk", target), "C:\\Tools\\");
+  EXPECT_EQ(target, "C:\\Tools\\tool.exe");
+  EXPECT_EQ(GetLinkWorkDir(program, "C:\\damaged.lnk", target), "");
+  EXPECT_EQ(target, "");
+}
+
+}  // namespace corvelle
