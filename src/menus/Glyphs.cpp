@@ -1,0 +1,205 @@
+#include "menus/Glyphs.h"
+
+#include <array>
+#include <span>
+#include <string_view>
+
+#include "base/Text.h"
+#include "forms/Graphic.h"
+#include "forms/WindowSystem.h"
+
+namespace corvelle {
+
+namespace {
+
+// One character a pixel: "." nothing, "#" button text, "g" grey text, "w" highlight edge, "s"
+// shadow edge, "h" highlight.
+using Rows = std::span<const std::string_view>;
+
+constexpr std::array<std::string_view, 5> kUp = {
+    "....#....",  //
+    "...###...",  //
+    "..#####..",  //
+    ".#######.",  //
+    "#########",
+};
+
+constexpr std::array<std::string_view, 5> kDown = {
+    "#########",  //
+    ".#######.",  //
+    "..#####..",  //
+    "...###...",  //
+    "....#....",
+};
+
+constexpr std::array<std::string_view, 6> kUp2 = {
+    "....g.....",  //
+    "...gggw...",  //
+    "..gggggw..",  //
+    ".gggggggw.",  //
+    "gggggggggw",  //
+    ".wwwwwwwww",
+};
+
+constexpr std::array<std::string_view, 6> kDown2 = {
+    "ggggggggg.",  //
+    ".gggggggww",  //
+    "..gggggww.",  //
+    "...gggww..",  //
+    "....gww...",  //
+    ".....w....",
+};
+
+constexpr std::array<std::string_view, 16> kCircle = {
+    "................",  //
+    "................",  //
+    "................",  //
+    "................",  //
+    ".....sssss......",  //
+    "....s#####w.....",  //
+    "...s#######w....",  //
+    "...s#######w....",  //
+    "...s#######w....",  //
+    "...s#######w....",  //
+    "...s#######w....",  //
+    "....s#####w.....",  //
+    ".....wwwww......",  //
+    "................",  //
+    "................",  //
+    "................",
+};
+
+constexpr std::array<std::string_view, 16> kNew = {
+    "................",  //
+    "..sssssssss.....",  //
+    "..swwwwwwwss....",  //
+    "..swwwwwwwsws...",  //
+    "..swwwwwwwssss..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwhwwwww#..",  //
+    "..swwwwhwwwww#..",  //
+    "..swwhhhhhwww#..",  //
+    "..swwwwhwwwww#..",  //
+    "..swwwwhwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..############..",  //
+    "................",
+};
+
+constexpr std::array<std::string_view, 16> kCust = {
+    "................",  //
+    ".ssssssssssssss.",  //
+    ".shhhhhhhhhhhhs.",  //
+    ".shhhhhhhhhhhhs.",  //
+    ".swwwwwwwwwwwws.",  //
+    ".sw###wwwwwwwws.",  //
+    ".sw#w#w#####wws.",  //
+    ".sw###wwwwwwwws.",  //
+    ".swwwwwwwwwwwws.",  //
+    ".sw###wwwwwwwws.",  //
+    ".sw#w#w#####wws.",  //
+    ".sw###wwwwwwwws.",  //
+    ".swwwwwwwwwwwws.",  //
+    ".ssssssssssssss.",  //
+    "................",  //
+    "................",
+};
+
+constexpr std::array<std::string_view, 16> kHelp = {
+    "................",  //
+    ".....hhhhh......",  //
+    "....hhhhhhh.....",  //
+    "...hhh...hhh....",  //
+    "...hhh...hhh....",  //
+    ".........hhh....",  //
+    "........hhh.....",  //
+    ".......hhh......",  //
+    "......hhh.......",  //
+    "......hhh.......",  //
+    "......hhh.......",  //
+    "................",  //
+    "......hhh.......",  //
+    "......hhh.......",  //
+    "................",  //
+    "................",
+};
+
+struct Glyph {
+  std::string_view Key;
+  Rows Pixels;
+};
+
+constexpr std::array<Glyph, 8> kGlyphs = {{{"up", kUp},
+                                           {"up2", kUp2},
+                                           {"down", kDown},
+                                           {"down2", kDown2},
+                                           {"circle", kCircle},
+                                           {"new", kNew},
+                                           {"cust", kCust},
+                                           {"help", kHelp}}};
+
+const Glyph* FindGlyph(std::string_view key) noexcept {
+  for (const Glyph& glyph : kGlyphs) {
+    if (EqualNoCase(glyph.Key, key)) return &glyph;
+  }
+  return nullptr;
+}
+
+PixelSize SizeOf(const Glyph& glyph) noexcept {
+  return {static_cast<int>(glyph.Pixels.front().size()), static_cast<int>(glyph.Pixels.size())};
+}
+
+forms::OleColor ColourOf(char pixel) noexcept {
+  switch (pixel) {
+    case 'g':
+      return forms::color::GrayText;
+    case 'w':
+      return forms::color::Highlight3D;
+    case 's':
+      return forms::color::ButtonShadow;
+    case 'h':
+      return forms::color::Highlight;
+    default:
+      return forms::color::ButtonText;
+  }
+}
+
+}  // namespace
+
+PixelSize GlyphSize(std::string_view key) noexcept {
+  const Glyph* const glyph = FindGlyph(key);
+  return glyph != nullptr ? SizeOf(*glyph) : PixelSize{};
+}
+
+bool DrawGlyph(Canvas& canvas, const forms::WindowSystem& windows, std::string_view key,
+               PixelPoint at) {
+  const Glyph* const glyph = FindGlyph(key);
+  if (glyph == nullptr) return false;
+  int y = at.y;
+  for (const std::string_view row : glyph->Pixels) {
+    for (std::size_t start = 0; start < row.size();) {
+      std::size_t end = start + 1;
+      while (end < row.size() && row[end] == row[start]) ++end;
+      if (row[start] != '.') {
+        const PixelRect run{at.x + static_cast<int>(start), y, at.x + static_cast<int>(end), y + 1};
+        canvas.FillBox(run, forms::Resolve(windows, ColourOf(row[start])));
+      }
+      start = end;
+    }
+    ++y;
+  }
+  return true;
+}
+
+Picture MakeGlyph(forms::WindowSystem& windows, std::string_view key) {
+  const PixelSize size = GlyphSize(key);
+  if (size == PixelSize{}) return nullptr;
+  std::shared_ptr<Canvas> picture = windows.CreateCanvas(size);
+  picture->FillBox({0, 0, size.width, size.height}, forms::Image::kMask);
+  DrawGlyph(*picture, windows, key, {0, 0});
+  return picture;
+}
+
+}  // namespace corvelle

@@ -1,0 +1,126 @@
+#include "menus/MenuIcons.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Text.h"
+#include "core/MenuRecord.h"
+#include "core/Program.h"
+#include "icons/IconResolution.h"
+#include "menus/Glyphs.h"
+#include "platform/ShellIcons.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr int kFirstRoom = 16;
+/// Under which the fallback icon is kept; no icon text is like it.
+const std::string kFallbackKey(1, '\0');
+
+}  // namespace
+
+MenuIcons::MenuIcons(Program& program) : program_(program) {}
+
+MenuIcons::~MenuIcons() = default;
+
+void MenuIcons::ResetPicIcons() {
+  colIconFile_.clear();
+  colIconIndex_.clear();
+  picIcons_.reset();
+  cells_ = 0;
+  room_ = 0;
+}
+
+IconForm MenuIcons::Classify(std::string_view text) const {
+  return ClassifyIcon(text,
+                      {.AppPath = program_.AppPath,
+                       .IconsPath = program_.IconsPath,
+                       .WebLinkIcon = program_.WebLinkIcon},
+                      IconCaller::Menu);
+}
+
+void MenuIcons::DrawMenuIcon(Canvas& canvas, PixelPoint at, std::string_view iconText) {
+  // Nothing of an earlier icon may shine through.
+  canvas.FillBox(RectAt(at, {kCell, kCell}),
+                 forms::Resolve(program_.Windows, forms::color::ButtonFace));
+  const std::string text = Trim(iconText);
+  const IconForm form = Classify(text);
+  if (form.Kind == IconKind::BuiltIn) {
+    DrawGlyph(canvas, program_.Windows, form.Text, at);
+    return;
+  }
+  const int cell = LoadFileIcon(text, form);
+  if (cell == kNoCell) return;
+  canvas.DrawCanvas(*picIcons_, RectAt({cell * kCell, 0}, {kCell, kCell}), at);
+}
+
+void MenuIcons::LoadSmallIcon(std::string_view iconText) {
+  const std::string text = Trim(iconText);
+  LoadFileIcon(text, Classify(text));
+}
+
+int MenuIcons::LoadFileIcon(const std::string& text, const IconForm& form) {
+  if (form.Kind == IconKind::Empty || form.Kind == IconKind::BuiltIn || IsSeparatorIcon(text)) {
+    return kNoCell;
+  }
+  std::string key = LowerCase(text);
+  const auto known = colIconFile_.find(key);
+  if (known != colIconFile_.end()) return known->second;
+  const int cell = LoadFile(text, form);
+  colIconFile_.emplace(std::move(key), cell);
+  return cell;
+}
+
+int MenuIcons::LoadFile(const std::string& text, const IconForm& form) {
+  if (form.Kind == IconKind::SystemIndex) return LoadSystemIcon(form.Index);
+  if (form.Kind == IconKind::File && (!form.OwnIcon || program_.ShellDrawsIcons)) {
+    const auto info = program_.Services.Icons.FileInfo(form.Text, IconList::Small);
+    return info ? LoadSystemIcon(info->SystemIndex) : LoadFallback();
+  }
+  return AddCell([&](Canvas& strip, PixelPoint at) {
+    return ResolveAndDraw(program_, strip, text, at, kCell, IconCaller::Menu);
+  });
+}
+
+int MenuIcons::LoadSystemIcon(int index) {
+  const std::string key = "i" + std::to_string(index);
+  const auto known = colIconIndex_.find(key);
+  if (known != colIconIndex_.end()) return known->second;
+  const int cell = AddCell([&](Canvas& strip, PixelPoint at) {
+    return program_.Services.Icons.DrawSystemIcon(strip, IconList::Small, index, at,
+                                                  IconStyle::Normal);
+  });
+  colIconIndex_.emplace(key, cell);
+  return cell;
+}
+
+int MenuIcons::LoadFallback() {
+  const auto known = colIconFile_.find(kFallbackKey);
+  if (known != colIconFile_.end()) return known->second;
+  const int cell = AddCell(
+      [&](Canvas& strip, PixelPoint at) { return DrawFallbackIcon(program_, strip, at, kCell); });
+  colIconFile_.emplace(kFallbackKey, cell);
+  return cell;
+}
+
+int MenuIcons::AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw) {
+  MakeRoom();
+  const PixelPoint at{cells_ * kCell, 0};
+  picIcons_->FillBox(RectAt(at, {kCell, kCell}),
+                     forms::Resolve(program_.Windows, forms::color::ButtonFace));
+  // What has no icon at all keeps its empty cell, and is not asked for again.
+  draw(*picIcons_, at);
+  return cells_++;
+}
+
+void MenuIcons::MakeRoom() {
+  if (cells_ < room_) return;
+  const int room = std::max(kFirstRoom, 2 * room_);
+  std::unique_ptr<Canvas> wider = program_.Windows.CreateCanvas({room * kCell, kCell});
+  if (picIcons_) wider->DrawCanvas(*picIcons_, {0, 0, cells_ * kCell, kCell}, {0, 0});
+  picIcons_ = std::move(wider);
+  room_ = room;
+}
+
+}  // namespace corvelle

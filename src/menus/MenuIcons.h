@@ -1,0 +1,63 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "base/Geometry.h"
+#include "icons/IconForm.h"
+#include "platform/Canvas.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The small icons of menus: each text is asked for once and then copied from a strip of icons that
+/// stand side by side. Nothing here fails visibly: what has no icon keeps an empty cell.
+class MenuIcons {
+ public:
+  /// Width and height of a cell, pixels.
+  static constexpr int kCell = 16;
+
+  explicit MenuIcons(Program& program);
+  ~MenuIcons();
+  MenuIcons(const MenuIcons&) = delete;
+  MenuIcons& operator=(const MenuIcons&) = delete;
+
+  /// Draws what an icon text means into the cell at `at`.
+  void DrawMenuIcon(Canvas& canvas, PixelPoint at, std::string_view iconText);
+
+  /// Fetches an icon into the strip without drawing it.
+  void LoadSmallIcon(std::string_view iconText);
+
+  /// Forgets all icons, so that each is asked for again.
+  void ResetPicIcons();
+
+  /// How many icons the strip holds.
+  [[nodiscard]] int Count() const noexcept { return cells_; }
+
+ private:
+  static constexpr int kNoCell = -1;
+
+  [[nodiscard]] IconForm Classify(std::string_view text) const;
+  /// The cell of an icon text; loads the icon the first time. kNoCell for texts without one.
+  int LoadFileIcon(const std::string& text, const IconForm& form);
+  int LoadFile(const std::string& text, const IconForm& form);
+  /// The cell of an icon of the system's list, which all texts that mean it share.
+  int LoadSystemIcon(int index);
+  int LoadFallback();
+  /// Widens the strip by one cell of the menu's ground and draws into it.
+  int AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw);
+  void MakeRoom();
+
+  Program& program_;
+  std::unique_ptr<Canvas> picIcons_;
+  int cells_ = 0;
+  int room_ = 0;
+  std::unordered_map<std::string, int> colIconFile_;   // by the text in lower case
+  std::unordered_map<std::string, int> colIconIndex_;  // by "i" and the index in the system's list
+};
+
+}  // namespace corvelle

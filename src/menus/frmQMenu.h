@@ -1,0 +1,275 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/WindowPorts.h"
+#include "forms/ControlArray.h"
+#include "forms/Form.h"
+#include "forms/Graphic.h"
+#include "forms/Timer.h"
+#include "menus/MenuCache.h"
+#include "menus/MenuIcons.h"
+#include "menus/MenuLayout.h"
+#include "menus/MenuRules.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The one menu window, which is filled anew for each menu. A menu that is taller than the screen
+/// has pages, turned by two arrow buttons at its foot. All measures are twips.
+class frmQMenu final : public forms::Form, public QMenuPort {
+ public:
+  explicit frmQMenu(Program& program);
+  ~frmQMenu() override;
+
+  // ---- loading, showing, emptying (frmQMenu.cpp) ----
+
+  void LoadWindow() override;
+  void UnloadWindow() override;
+  [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
+  [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
+  [[nodiscard]] bool MenuVisible() const override { return IsLoaded() && Visible(); }
+  [[nodiscard]] const std::string& OwnerTag() const override { return Tag; }
+  void SetOwnerTag(std::string tag) override { Tag = std::move(tag); }
+  [[nodiscard]] const std::string& CurrentKey() const override { return MenuKey; }
+
+  void ShowMenu(std::string_view menuKey, std::string_view menuFile) override;
+  void HideMenu() override;
+  void ResetQMenu() override;
+  void ForgetMenu(std::string_view menuKey) override { cache_.Remove(menuKey); }
+  [[nodiscard]] bool HasBuiltMenu(std::string_view menuKey) const override {
+    return cache_.Find(menuKey) != nullptr;
+  }
+  void SetPoll(bool enabled) override { Timer1.SetEnabled(enabled); }
+  void SetPollInterval(int milliseconds) override { Timer1.SetInterval(milliseconds); }
+  [[nodiscard]] float MenuWidth() const override { return Width(); }
+  [[nodiscard]] float MenuHeight() const override { return Height(); }
+  void MoveMenu(float left, float top) override { Move(left, top, Width(), Height()); }
+  void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
+    Form::SetWindowPos(after, flags);
+  }
+  /// Shows the state marks of the program's own menu.
+  void CheckLabels();
+
+  // ---- building (frmQMenuBuild.cpp) ----
+
+  /// Builds the menu whose key is in MenuKey, and puts it into the cache.
+  void InitQMenu(std::string_view menuFile);
+
+  // ---- painting (frmQMenuPaint.cpp) ----
+
+  /// Lays out and enables the arrow buttons for CurMenu. Does nothing for a single page.
+  void UpDownArrows();
+  /// Brings the page CurMenu on the screen.
+  void ShowSlide();
+  void InitIcons() override;
+  /// Fetches the icons of one menu file.
+  void InitMenuIcons(std::string_view menuFile);
+  void ResetPicIcons() override;
+
+  // ---- items and the selection (frmQMenuItems.cpp) ----
+
+  /// The command of an item; tells whether it follows a separator.
+  [[nodiscard]] std::string GetExeName(int index);
+  [[nodiscard]] std::string GetIconName(int index) const;
+  [[nodiscard]] int GetRecordNum(int index) const;
+  /// Gives an item its disabled look, and takes that of all items away.
+  void DisableLabel(int index);
+  void EnableLabel(int index);
+  /// Reads the menu on show and its icons anew.
+  void RefreshQMenu();
+
+  // ---- pointer (frmQMenuPointer.cpp) ----
+
+  void Form_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x, float y);
+  void Form_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  void xMouseMove(float y) override;
+  /// Twips of the screen.
+  void mMouseMove(float x, float y);
+  void xMouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y) override;
+
+  // ---- arrow buttons and pages (frmQMenuPages.cpp) ----
+
+  void LblButton_MouseDown(int index, forms::MouseButton button);
+  void LblButton_MouseMove(int index, forms::MouseButton down);
+  void LblButton_MouseUp(int index, forms::MouseButton button, float x, float y);
+  void LblButton_DblClick(int index);
+  void GetCurMenu() override;
+
+  // ---- keys (frmQMenuKeys.cpp) ----
+
+  void Form_KeyDown(int keyCode, forms::ShiftState shift) override;
+  void Form_KeyPress(char32_t character) override;
+  void ActivateKeyDown(int keyCode) override;
+  void xKeyPress(char32_t character) override;
+
+  // ---- controls, from the back to the front ----
+
+  forms::Shape Shape1;
+  forms::Label Label1;
+  forms::ControlArray<forms::Label> LblButton;
+  forms::ControlArray<forms::Image> imgButton;
+  forms::Line Line1;
+  forms::Line Line2;
+  /// One label for each item; element 0 is the template, never shown, whose Left and Height are the
+  /// measures of all.
+  forms::ControlArray<forms::Label> Lbl;
+  forms::Line mLineTop;
+  forms::Line mLineRight;
+  forms::Line mLineDown;
+  forms::Line mLineLeft;
+  forms::Line LineLeft;
+  forms::Line LineTop;
+  forms::Line LineRight;
+  forms::Line LineDown;
+  forms::Timer Timer1;
+
+  // ---- state ----
+
+  /// Value of ActiveArrow for no arrow button.
+  static constexpr int kNoArrow = 100;
+
+  std::string MenuKey;
+  std::string MenuFile;
+  int Labels = 0;
+  int Slides = 0;
+  int CurMenu = 0;
+  int PrevPage = 0;
+  int FirstLabel = 0;
+  int LastLabel = 0;
+  float ItemGap = 105;
+  float TwipsX = 15;
+  float TwipsY = 15;
+  float SmallIconW = 0;
+  float SmallIconH = 0;
+  /// The selection bar's resting Left.
+  float ShapeLeft = 0;
+  /// False while the window's contents are not valid.
+  bool MenuReady = false;
+  Picture PagePicture;
+  /// The highest index of Lbl that was loaded so far.
+  [[nodiscard]] int LoadedLabels() const noexcept { return Lbl.Last(); }
+
+  /// The item last reached by key or pointer.
+  int CurItem = 0;
+  /// SelectedItem before the current event.
+  int PrevItem = 0;
+  /// The page to return to after a refresh, from 1 on; 0 for none.
+  int SavedPage = 0;
+  /// The arrow button under the pointer.
+  int ActiveArrow = kNoArrow;
+  /// The last act was a key or a right click: the selection stays though the pointer is away.
+  bool KeyboardActive = false;
+  /// The pointer is off the window.
+  bool PointerAway = false;
+  /// Labels that draw the engraved look of disabled items.
+  int ShadowCount = 0;
+  /// Key of the menu in which the last popup acted.
+  std::string SavedMenuKey;
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Form_Deactivate() override;
+  // The menu closes by the strip's will; nobody else ends it.
+  void Form_QueryClose() override;
+  void Form_SessionEnd() override {}
+  std::optional<std::intptr_t> WindowProc(std::uint32_t message, std::uintptr_t wParam,
+                                          std::intptr_t lParam) override;
+
+ private:
+  // Loading, showing (frmQMenu.cpp).
+  [[nodiscard]] std::unique_ptr<forms::Label> MakeItemLabel(int index);
+  void WireEvents();
+  void WireArrow(forms::Graphic& control, int index);
+  void InitElements();
+  void TakeScale();
+  /// False for a menu that was laid out for another place.
+  [[nodiscard]] bool RestoreMenu(const std::shared_ptr<BuiltMenu>& built);
+  void PresentMenu();
+  void BringUp();
+  void PlaceMenu();
+  void CloseMenu();
+  void HideArrows();
+  [[nodiscard]] bool IsCaptured() const;
+  /// The greatest height for the window where the strip puts it.
+  [[nodiscard]] float PlaceForRoom();
+
+  // Building (frmQMenuBuild.cpp).
+  /// The file to read, with its folder items expanded where there is a service for that.
+  [[nodiscard]] std::string ExpandFolders(std::string_view menuFile);
+  void TakeLayout(const MenuLayout& layout);
+  void DisplayFirstPage();
+
+  // Painting (frmQMenuPaint.cpp).
+  [[nodiscard]] clsMenu& CurPage();
+  /// Gives the labels of the page on show their texts and places, hidden or not as they are.
+  void FillPage();
+  void ShowPage();
+  /// Draws the page on show; `watched`: the captions come first and then one icon after the other.
+  void DrawPage(bool watched);
+  void DrawItemIcon(int index);
+  void DrawRules();
+  void PrintCaptions();
+  void WipeCaptions();
+  void KeepPage();
+  void CenterGlyph(int index, std::string_view glyph);
+  void ColoursChanged();
+  void Form_Paint();
+  void LoadIconsOf(const std::string& menuFile);
+
+  // Items (frmQMenuItems.cpp).
+  [[nodiscard]] PageScene Page() const;
+  [[nodiscard]] ItemBox BoxOf(int index) const;
+  void SetNormal(int index);
+  void SelectItem(int index);
+  void DropSelection();
+  void DrawBox(int index);
+  void HideBox();
+  static void SetLine(forms::Line& line, const TwipLine& at);
+  void FillCurrentItem(int index);
+
+  // Pointer (frmQMenuPointer.cpp).
+  [[nodiscard]] bool PointerOver() const;
+  /// True while label events are to be ignored.
+  [[nodiscard]] bool StillAway();
+  void TakeFocus();
+  void ChooseItem(float x, float y);
+  void RunItem(bool mainMenu, int index, const std::string& command);
+  void OfferItem();
+  [[nodiscard]] WindowId HintWindow() const;
+  void Timer1_Timer();
+
+  // Arrow buttons and pages (frmQMenuPages.cpp).
+  void TurnTo(int page);
+  void HideUpDownButton();
+  void picMouseMove(int index);
+  void picMouseDown(int index);
+  void picMouseUp(int index);
+  void DrawArrowFrame(int index, bool sunken);
+
+  // Keys (frmQMenuKeys.cpp).
+  void KeyActs();
+  void MoveCursor(int step);
+  void MovePage(int keyCode);
+  void TypeAheadTo(char32_t character);
+  void ReloadOnScreen();
+
+  Program& program_;
+  MenuCache cache_;
+  MenuIcons icons_;
+  /// The menu on show with its pages; never null.
+  std::shared_ptr<BuiltMenu> menu_ = std::make_shared<BuiltMenu>();
+  /// The items of the page on show, from top to bottom.
+  std::vector<ItemBox> pageBoxes_;
+  std::map<std::string, Picture, std::less<>> glyphs_;
+};
+
+}  // namespace corvelle

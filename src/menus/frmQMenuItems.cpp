@@ -1,0 +1,142 @@
+// Items: what their labels carry, the selection, the disabled look.
+
+#include "base/Text.h"
+#include "core/MenuRecord.h"
+#include "core/Program.h"
+#include "menus/MenuTag.h"
+#include "menus/frmQMenu.h"
+
+namespace corvelle {
+
+std::string frmQMenu::GetExeName(int index) {
+  if (!Lbl.Has(index)) return {};
+  program_.ItemHasSeparator = TagFollowsSeparator(Lbl[index].Tag);
+  return TagCommand(Lbl[index].Tag);
+}
+
+std::string frmQMenu::GetIconName(int index) const {
+  return Lbl.Has(index) ? TagIcon(Lbl[index].Tag) : std::string();
+}
+
+int frmQMenu::GetRecordNum(int index) const {
+  return Lbl.Has(index) ? TagRecordNumber(Lbl[index].Tag) : 0;
+}
+
+ItemBox frmQMenu::BoxOf(int index) const {
+  return {.Top = Lbl[index].Top(), .Height = Lbl[index].Height()};
+}
+
+PageScene frmQMenu::Page() const {
+  return {.Items = pageBoxes_, .FirstLabel = FirstLabel, .ItemGap = ItemGap, .TwipsY = TwipsY};
+}
+
+// ---- the selection ----
+
+void frmQMenu::SetNormal(int index) {
+  if (!Lbl.Has(index)) return;
+  forms::Label& label = Lbl[index];
+  label.SetForeColor(label.Enabled() ? forms::color::ButtonText : forms::color::GrayText);
+}
+
+void frmQMenu::SelectItem(int index) {
+  if (!Lbl.Has(index)) return;
+  SetNormal(program_.SelectedItem);
+  program_.SelectedItem = index;
+  CurItem = index;
+  Lbl[index].SetForeColor(forms::color::HighlightText);
+  // A disabled item takes the selection without a bar.
+  if (Lbl[index].Enabled()) {
+    DrawBox(index);
+  } else {
+    Shape1.SetVisible(false);
+    HideBox();
+  }
+}
+
+void frmQMenu::DropSelection() {
+  SetNormal(program_.SelectedItem);
+  program_.SelectedItem = 0;
+  Shape1.SetVisible(false);
+  HideBox();
+}
+
+void frmQMenu::DrawBox(int index) {
+  HideBox();
+  const SelectionBox box = DrawBoxRule(BoxOf(index), ItemGap, Shape1.Height(), TwipsX, TwipsY);
+  Shape1.SetTop(box.BarTop);
+  Shape1.ZOrder(forms::ZPlace::Back);
+  Shape1.SetVisible(true);
+  if (GetIconName(index).empty()) return;
+  SetLine(mLineLeft, box.mLineLeft);
+  SetLine(mLineRight, box.mLineRight);
+  SetLine(mLineTop, box.mLineTop);
+  SetLine(mLineDown, box.mLineDown);
+}
+
+void frmQMenu::SetLine(forms::Line& line, const TwipLine& at) {
+  line.SetPoints(at.X1, at.Y1, at.X2, at.Y2);
+  line.SetVisible(true);
+}
+
+void frmQMenu::HideBox() {
+  for (forms::Line* line : {&mLineLeft, &mLineTop, &mLineRight, &mLineDown}) {
+    line->SetVisible(false);
+  }
+}
+
+// ---- the disabled look ----
+
+void frmQMenu::DisableLabel(int index) {
+  if (!Lbl.Has(index)) return;
+  Lbl[index].SetForeColor(forms::color::GrayText);
+  Lbl[index].SetEnabled(false);
+  const int number = LastLabel + ShadowCount + 1;
+  while (LoadedLabels() < number) Lbl.Load();
+  forms::Label& shadow = Lbl[number];
+  shadow.SetCaption(Lbl[index].Caption());
+  shadow.Tag.clear();
+  shadow.Move(Lbl[index].Left() + TwipsX, Lbl[index].Top() + TwipsY, Lbl[index].Width(),
+              Lbl[index].Height());
+  shadow.SetForeColor(forms::color::Highlight3D);
+  shadow.SetEnabled(false);
+  shadow.ZOrder(forms::ZPlace::Back);
+  shadow.SetVisible(true);
+  ++ShadowCount;
+}
+
+void frmQMenu::EnableLabel(int index) {
+  if (!Lbl.Has(index)) return;
+  Lbl[index].SetEnabled(true);
+  for (int i = LastLabel + 1; i <= LastLabel + ShadowCount && Lbl.Has(i); ++i) {
+    Lbl[i].SetVisible(false);
+    Lbl[i].ZOrder(forms::ZPlace::Front);
+  }
+  ShadowCount = 0;
+}
+
+// ---- the current item ----
+
+void frmQMenu::FillCurrentItem(int index) {
+  EntryEdit& entry = program_.Entry;
+  entry.CurIcon = GetIconName(index);
+  entry.CurTitle = SingleAmpersands(Lbl[index].Caption());
+  entry.CurCommand = GetExeName(index);
+  entry.CurRecord = GetRecordNum(index);
+  entry.CurFile = MenuFile;
+  entry.CurMenuTag = MenuKey;
+  // An entry that a shell's folder was expanded to is named by its title in that folder.
+  if (StartsWithNoCase(entry.CurCommand, kSpecialFolderStart) && ParseNumber(entry.CurIcon)) {
+    entry.CurCommand = entry.CurTitle + "\\" + entry.CurCommand;
+    entry.CurIcon = entry.CurCommand;
+  }
+}
+
+void frmQMenu::RefreshQMenu() {
+  SetNormal(CurItem);
+  DropSelection();
+  icons_.ResetPicIcons();
+  InitMenuIcons(MenuFile);
+  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->RefreshMenu(MenuKey);
+}
+
+}  // namespace corvelle

@@ -1,0 +1,230 @@
+// The window's picture: pages, icons, rules, arrow glyphs.
+
+#include <utility>
+
+#include "base/Text.h"
+#include "core/MenuFile.h"
+#include "core/Program.h"
+#include "forms/Scale.h"
+#include "forms/Scopes.h"
+#include "menus/Glyphs.h"
+#include "menus/frmQMenu.h"
+#include "platform/FileSystem.h"
+
+namespace corvelle {
+
+namespace {
+
+/// Pictures of pages that a menu keeps besides its first page and the one on show.
+constexpr int kKeptPictures = 32;
+
+}  // namespace
+
+clsMenu& frmQMenu::CurPage() { return menu_->SlideList[static_cast<std::size_t>(CurMenu)]; }
+
+void frmQMenu::FillPage() {
+  while (LoadedLabels() < LastLabel) Lbl.Load();
+  pageBoxes_.clear();
+  for (int i = FirstLabel; i <= LastLabel; ++i) {
+    const clsLabel& item = menu_->LabelList[static_cast<std::size_t>(i) - 1];
+    forms::Label& label = Lbl[i];
+    label.SetLeft(Lbl[0].Left());
+    label.SetTop(item.Top);
+    label.SetCaption(item.Title);
+    label.Tag = item.Tag;
+    label.SetEnabled(true);
+    label.SetForeColor(forms::color::ButtonText);
+    pageBoxes_.push_back(BoxOf(i));
+  }
+}
+
+void frmQMenu::ShowPage() {
+  for (int i = FirstLabel; i <= LastLabel; ++i) Lbl[i].SetVisible(true);
+}
+
+void frmQMenu::ShowSlide() {
+  SavedPage = CurMenu;
+  HideBox();
+  const clsMenu& old = menu_->SlideList[static_cast<std::size_t>(PrevPage)];
+  for (int i = old.FirstLabel; i <= old.LastLabel; ++i) Lbl[i].SetVisible(false);
+  UpDownArrows();
+  const clsMenu& page = CurPage();
+  FirstLabel = page.FirstLabel;
+  LastLabel = page.LastLabel;
+  if (page.Init == 0) {
+    DrawPage(true);
+  } else {
+    PagePicture = page.MenuPicture;
+    FillPage();
+    ShowPage();
+    InvalidateAll();
+  }
+  LimitPictures(*menu_, CurMenu, kKeptPictures);
+}
+
+void frmQMenu::DrawPage(bool watched) {
+  // What is painted meanwhile shows what is drawn here, and nothing of another page.
+  MenuReady = false;
+  SetAutoRedraw(true);
+  Cls();
+  FillPage();
+  DrawRules();
+  if (watched) {
+    PrintCaptions();
+    BringUp();
+    Refresh();
+  }
+  for (int i = FirstLabel; i <= LastLabel; ++i) {
+    DrawItemIcon(i);
+    if (watched) Refresh();
+  }
+  if (watched) WipeCaptions();
+  ShowPage();
+  KeepPage();
+  Cls();
+  SetAutoRedraw(false);
+  PagePicture = CurPage().MenuPicture;
+  MenuReady = true;
+  InvalidateAll();
+}
+
+void frmQMenu::PrintCaptions() {
+  for (int i = FirstLabel; i <= LastLabel; ++i) {
+    Print(Lbl[i].Left(), Lbl[i].Top(), SingleAmpersands(Lbl[i].Caption()),
+          forms::color::ButtonText);
+  }
+}
+
+void frmQMenu::WipeCaptions() {
+  for (int i = FirstLabel; i <= LastLabel; ++i) {
+    FillBox(Lbl[i].Left(), Lbl[i].Top(), Width(), Lbl[i].Bottom(), forms::color::ButtonFace);
+  }
+}
+
+void frmQMenu::KeepPage() {
+  if (Slides > 0) {
+    FillBox(0, LblButton[0].Top(), program_.Windows.Screen().Width, Height(),
+            forms::color::ButtonFace);
+  }
+  clsMenu& page = CurPage();
+  page.MenuPicture = Image();
+  page.Init = 1;
+}
+
+void frmQMenu::DrawItemIcon(int index) {
+  const PixelPoint at = forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH),
+                                        program_.Windows.Screen());
+  DrawPixels(RectAt(at, {MenuIcons::kCell, MenuIcons::kCell}),
+             [&](Canvas& canvas) { icons_.DrawMenuIcon(canvas, at, GetIconName(index)); });
+}
+
+void frmQMenu::DrawRules() {
+  const float right = program_.Windows.Screen().Width;
+  for (std::size_t i = 1; i < pageBoxes_.size(); ++i) {
+    const ItemBox& above = pageBoxes_[i - 1];
+    if (!HasRuleBetween(above, pageBoxes_[i], ItemGap)) continue;
+    const float y = RuleBelow(above, ItemGap, TwipsY);
+    DrawLine(0, y, right, y, forms::color::ButtonShadow);
+    DrawLine(0, y + TwipsY, right, y + TwipsY, forms::color::Highlight3D);
+  }
+}
+
+void frmQMenu::Form_Paint() {
+  if (!MenuReady) return;
+  if (LastLabel > 0 && Lbl[FirstLabel].Visible()) {
+    PaintPicture(PagePicture, 0, 0, Lbl[0].Left(), Height());
+  } else {
+    PaintPicture(PagePicture, 0, 0);
+  }
+  // No rest of the bar that was there may stay. Only an item of this page had its bar here.
+  if (PrevItem >= FirstLabel && PrevItem <= LastLabel && PrevItem > 0 &&
+      PrevItem != program_.SelectedItem) {
+    const float top = DrawBoxRule(BoxOf(PrevItem), ItemGap, Shape1.Height(), TwipsX, TwipsY).BarTop;
+    FillBox(19 * TwipsX, top, Shape1.Width(), top + Shape1.Height() - TwipsY,
+            forms::color::ButtonFace);
+  }
+  DrawRules();
+}
+
+void frmQMenu::UpDownArrows() {
+  if (Slides == 0) return;
+  const ArrowLayout arrows = LayOutArrows({.WindowWidth = Width(),
+                                           .MenuHeight = menu_->MenuInfo.MenuHeight,
+                                           .TwipsX = TwipsX,
+                                           .TwipsY = TwipsY,
+                                           .CurMenu = CurMenu,
+                                           .Slides = Slides});
+  Line1.SetPoints(0, arrows.RuleY, Width(), arrows.RuleY);
+  Line2.SetPoints(0, arrows.LightRuleY, Width(), arrows.LightRuleY);
+  Line1.SetVisible(true);
+  Line2.SetVisible(true);
+  for (int i = 0; i <= 1; ++i) {
+    const ArrowButton& arrow = i == 0 ? arrows.Up : arrows.Down;
+    forms::Label& button = LblButton[i];
+    button.Move(arrow.Bounds.Left, arrow.Bounds.Top, arrow.Bounds.Width, arrow.Bounds.Height);
+    button.SetEnabled(arrow.Enabled);
+    button.SetVisible(true);
+    CenterGlyph(i, arrow.Glyph);
+  }
+}
+
+void frmQMenu::CenterGlyph(int index, std::string_view glyph) {
+  auto found = glyphs_.find(glyph);
+  if (found == glyphs_.end()) {
+    found = glyphs_.emplace(std::string(glyph), MakeGlyph(program_.Windows, glyph)).first;
+  }
+  const forms::Label& button = LblButton[index];
+  forms::Image& image = imgButton[index];
+  image.SetPicture(found->second);
+  const TwipPoint place = GlyphPlace({button.Left(), button.Top(), button.Width(), button.Height()},
+                                     {image.Width(), image.Height()});
+  image.SetLeft(place.X);
+  image.SetTop(place.Y);
+  image.SetEnabled(button.Enabled());
+  image.SetVisible(true);
+}
+
+void frmQMenu::ColoursChanged() {
+  // Pictures hold the colours that they were drawn in.
+  glyphs_.clear();
+  icons_.ResetPicIcons();
+  cache_.DropPictures();
+  if (!MenuReady || Labels == 0) return;
+  UpDownArrows();
+  const int selected = program_.SelectedItem;
+  DrawPage(false);
+  if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
+  if (selected > 0) SelectItem(selected);
+}
+
+void frmQMenu::InitIcons() {
+  FileSystem& files = program_.Services.Files;
+  if (program_.MenuBuilding) return;
+  const forms::FlagScope loading(program_.IconsLoading);
+  const forms::HourglassScope hourglass(program_.Windows);
+  icons_.LoadSmallIcon(program_.AppPath + "corvelle.exe");
+  // A folder that cannot be listed has no icons to fetch.
+  const auto menus = files.List(program_.MenusPath, "*.mnu");
+  if (menus) {
+    for (const FileEntry& entry : *menus) LoadIconsOf(program_.MenusPath + entry.Name);
+  }
+  const auto links = files.List(program_.ShellLinkPath, "*.lnk");
+  if (links) {
+    for (const FileEntry& entry : *links) icons_.LoadSmallIcon(program_.ShellLinkPath + entry.Name);
+  }
+}
+
+void frmQMenu::LoadIconsOf(const std::string& menuFile) {
+  const auto records = ReadAllRecords(program_.Services.Files, program_.Services.Ansi, menuFile);
+  if (!records) return;
+  for (const MenuRecord& record : *records) icons_.LoadSmallIcon(record.FIcon);
+}
+
+void frmQMenu::InitMenuIcons(std::string_view menuFile) {
+  const forms::FlagScope loading(program_.IconsLoading);
+  LoadIconsOf(std::string(menuFile));
+}
+
+void frmQMenu::ResetPicIcons() { icons_.ResetPicIcons(); }
+
+}  // namespace corvelle

@@ -1,0 +1,165 @@
+// The pointer: selection, choice, right click, and what the strip hands on.
+
+#include "base/Text.h"
+#include "core/Program.h"
+#include "launch/LaunchItem.h"
+#include "menus/frmQMenu.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+
+namespace corvelle {
+
+using forms::MouseButton;
+using forms::ShiftState;
+
+bool frmQMenu::PointerOver() const {
+  const WindowId under =
+      program_.Services.Desktop.WindowAt(program_.Services.Pointer.PointerPosition());
+  return under != kNoWindow && under == hWnd();
+}
+
+bool frmQMenu::StillAway() {
+  if (PointerAway && PointerOver()) PointerAway = false;
+  return PointerAway;
+}
+
+void frmQMenu::TakeFocus() {
+  program_.KeyboardOnToolbar = false;
+  SetFocus();
+}
+
+// ---- moves ----
+
+void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*/, float y) {
+  PrevItem = program_.SelectedItem;
+  if (program_.MenuBuilding) return;
+  const bool dragging = program_.Entry.ItemDragging;
+  if (down == MouseButton::None && !dragging &&
+      program_.Services.Desktop.ActiveWindow() != hWnd()) {
+    SetFocus();
+  }
+  if (LineLeft.Visible()) {
+    HideUpDownButton();
+    ActiveArrow = kNoArrow;
+  }
+  if (!PointerOver()) {
+    DropSelection();
+    CurItem = 0;
+    ActiveArrow = kNoArrow;
+    PointerAway = true;
+    return;
+  }
+  PointerAway = false;
+  KeyboardActive = false;
+  if (IsBelowItems(Page(), y)) {
+    DropSelection();
+    CurItem = 0;
+    program_.PointerBelowItems = true;
+    return;
+  }
+  const int hit = ItemUnder(Page(), y, dragging);
+  if (hit == 0) {
+    DropSelection();
+    return;
+  }
+  if (hit != program_.SelectedItem) SelectItem(hit);
+  program_.PointerBelowItems = false;
+}
+
+void frmQMenu::xMouseMove(float y) { Form_MouseMove(MouseButton::Left, {}, 0, y); }
+
+void frmQMenu::mMouseMove(float x, float y) {
+  // 50 twips are the window's own frame.
+  Form_MouseMove(MouseButton::Left, {}, x - Left(), y - Top() - 50);
+}
+
+// ---- releases ----
+
+void frmQMenu::Form_MouseUp(MouseButton button, ShiftState /*shift*/, float x, float y) {
+  if (program_.Entry.ItemDragging || program_.MenuBuilding) return;
+  if (button == MouseButton::Left && !PointerAway) ChooseItem(x, y);
+  if (button == MouseButton::Right) OfferItem();
+}
+
+void frmQMenu::xMouseUp(MouseButton button, ShiftState shift, float x, float y) {
+  TakeFocus();
+  Form_MouseUp(button, shift, x, y);
+}
+
+void frmQMenu::ChooseItem(float x, float y) {
+  if (!EqualNoCase(SavedMenuKey, MenuKey)) SavedMenuKey.clear();
+  if (!Shape1.Visible()) return;
+  if (x < 0 || y < 0 || x >= Width() || y >= Height()) return;
+  const int hit = IsOutsideItems(Page(), y) ? 0 : HitItem(Page(), y);
+  if (hit == 0 || !Lbl[hit].Enabled()) {
+    DropSelection();
+    return;
+  }
+  const std::string command = GetExeName(hit);
+  const bool mainMenu = EqualNoCase(MenuKey, kMainMenuKey);
+  DropSelection();
+  // The menu is gone before the item starts.
+  CloseMenu();
+  program_.DoEvents();
+  RunItem(mainMenu, hit, command);
+}
+
+void frmQMenu::RunItem(bool mainMenu, int index, const std::string& command) {
+  if (mainMenu) {
+    if (program_.Ports.MainMenu != nullptr) program_.Ports.MainMenu->xMainMenu(index, "");
+    return;
+  }
+  if (command.empty()) {
+    program_.Say(program_.ToolbarWindow(),
+                 "Empty string in the File Field. Check your entries in the Customize window.",
+                 forms::msgbox::IconStop | forms::msgbox::OnTop);
+    return;
+  }
+  // A folder that is not expanded opens as itself.
+  LaunchItem(program_, Trim(command.substr(0, command.find('*'))));
+}
+
+void frmQMenu::OfferItem() {
+  const int index = program_.SelectedItem;
+  if (index == 0 || !Lbl[index].Enabled()) return;
+  KeyboardActive = true;
+  FillCurrentItem(index);
+  SavedMenuKey = MenuKey;
+  if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup();
+}
+
+// ---- leaving ----
+
+void frmQMenu::Timer1_Timer() {
+  if (program_.MenuBuilding) return;
+  const WindowId active = program_.Services.Desktop.ActiveWindow();
+  const bool over = PointerOver();
+  const bool ours =
+      active != kNoWindow &&
+      (active == hWnd() || active == program_.ToolbarWindow() || active == HintWindow());
+  if (!ours || !Visible()) {
+    // The user has gone to another program.
+    if (!over) CloseMenu();
+    return;
+  }
+  PointerAway = !over && !KeyboardActive;
+  if (PointerAway) {
+    DropSelection();
+    CurItem = 0;
+  }
+  if (Slides > 0 && !over) {
+    HideUpDownButton();
+    ActiveArrow = kNoArrow;
+  }
+}
+
+void frmQMenu::Form_Deactivate() {
+  SetNormal(CurItem);
+  DropSelection();
+}
+
+WindowId frmQMenu::HintWindow() const {
+  return program_.Ports.Hint != nullptr ? program_.Ports.Hint->WindowHandle() : kNoWindow;
+}
+
+}  // namespace corvelle

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "core/WindowPorts.h"
+#include "forms/Form.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The hidden companion of the strip. It carries the program's title, hears what the task bar, the
+/// tray and a second start have to say, and its end is the program's end.
+class frmMinimize final : public forms::Form, public MinimizePort {
+ public:
+  explicit frmMinimize(Program& program);
+
+  void LoadWindow() override { static_cast<void>(Load()); }
+  void UnloadWindow() override { Unload(); }
+  [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
+  /// A strip that other windows may cover is brought forward by the task bar's button.
+  void ShowInSysTray() override;
+  /// Brings the strip to the foreground from another program's turn.
+  void subShowToolbar();
+
+ protected:
+  void Form_Load() override;
+  /// Ends the program: every other window first, in a fixed order.
+  void Form_Unload() override;
+  void Form_Resize() override;
+  std::optional<std::intptr_t> WindowProc(std::uint32_t message, std::uintptr_t wParam,
+                                          std::intptr_t lParam) override;
+
+ private:
+  void Form_MouseMove(float x);
+  void WakeToolbar();
+
+  Program& program_;
+  bool wasMinimized_ = false;
+};
+
+}  // namespace corvelle

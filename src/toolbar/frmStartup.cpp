@@ -1,0 +1,70 @@
+#include "toolbar/frmStartup.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "core/Program.h"
+#include "platform/ShellIcons.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kPictureSize = 32;         // pixels
+constexpr Rgb kMaskColour = 0x00FF00FF;  // pixels that the picture leaves out
+constexpr std::size_t kMostDots = 50;
+constexpr float kWidth = 5000;
+constexpr float kPictureTop = 600;  // before the window has its height
+constexpr float kRoomBelow = 360;
+constexpr float kGap = 120;
+
+// The program's own icon; empty when the executable has none to show.
+Picture ProgramPicture(Program& program) {
+  std::unique_ptr<Canvas> canvas = program.Windows.CreateCanvas({kPictureSize, kPictureSize});
+  canvas->FillBox({0, 0, kPictureSize, kPictureSize}, kMaskColour);
+  const std::string executable = program.AppPath + "corvelle.exe";
+  if (!program.Services.Icons.DrawFileIcon(*canvas, executable, 0, {0, 0}, kPictureSize)) return {};
+  return Picture(std::move(canvas));
+}
+
+}  // namespace
+
+frmStartup::frmStartup(Program& program)
+    : Form(program.Windows, "frmStartup"),
+      Label2(*this, "Label2"),
+      Image1(*this, "Image1"),
+      Label1(*this, "Label1"),
+      program_(program) {
+  Label1.SetAutoSize(true);
+  Label2.SetAutoSize(true);
+}
+
+void frmStartup::Form_Load() {
+  SetCaption("");
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const float picture = static_cast<float>(kPictureSize);
+  const float height = kPictureTop + kRoomBelow;
+  Move((screen.Width - kWidth) / 2, screen.Height / 2 - height, kWidth, height);
+
+  Image1.Move(kGap, (height - picture * screen.TwipsPerPixelY) / 2, picture * screen.TwipsPerPixelX,
+              picture * screen.TwipsPerPixelY);
+  Image1.SetPicture(ProgramPicture(program_));
+  Label2.SetCaption("Initializing ");
+  Label2.Move(Image1.Right() + kGap, Image1.Bottom() - Label2.Height(), Label2.Width(),
+              Label2.Height());
+  Label1.Move(Label2.Right(), Label2.Top(), Label1.Width(), Label1.Height());
+
+  SetAutoRedraw(true);
+  Print(Label2.Left(), Image1.Top(), "Corvelle 4.25", forms::color::ButtonText);
+}
+
+void frmStartup::AddDot() {
+  if (!Load()) return;
+  std::string dots = Label1.Caption() + ".";
+  if (dots.size() > kMostDots) dots = ".";
+  Label1.SetCaption(std::move(dots));
+  if (!Visible()) ShowNoActivate();
+  Refresh();
+}
+
+}  // namespace corvelle

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/WindowPorts.h"
+#include "forms/Form.h"
+#include "forms/Graphic.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The small window that counts dots while the program starts.
+class frmStartup final : public forms::Form, public StartupPort {
+ public:
+  explicit frmStartup(Program& program);
+
+  void LoadWindow() override { static_cast<void>(Load()); }
+  void UnloadWindow() override { Unload(); }
+  [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
+  void AddDot() override;
+  void HideWindow() override { Hide(); }
+
+  forms::Label Label2;  // name and version, and what goes on
+  forms::Image Image1;
+  forms::Label Label1;  // the dots
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  Program& program_;
+};
+
+}  // namespace corvelle

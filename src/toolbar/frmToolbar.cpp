@@ -1,0 +1,343 @@
+#include "toolbar/frmToolbar.h"
+
+#include <memory>
+
+#include "base/Text.h"
+#include "core/MenuFolder.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "platform/FileSystem.h"
+#include "platform/ShellIcons.h"
+#include "platform/SystemInfo.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kAutoHidePoll = 250;  // milliseconds
+constexpr int kPointerPoll = 1;
+constexpr int kDragPoll = 100;
+constexpr int kSmallIcon = 16;  // pixels
+constexpr int kLargeIcon = 32;
+
+// True if the folder was not there before. One that cannot be made is met again as a folder that
+// cannot be listed.
+bool MakeMissingFolder(FileSystem& files, const std::string& path) {
+  if (files.FolderExists(path)) return false;
+  static_cast<void>(files.MakeFolder(path));
+  return true;
+}
+
+// A folder that is there but cannot be listed now is no empty one.
+bool HoldsAny(FileSystem& files, const std::string& folder, std::string_view pattern) {
+  const auto found = files.List(folder, pattern);
+  return found ? !found->empty() : found.Error() != FileError::NotFound;
+}
+
+}  // namespace
+
+frmToolbar::frmToolbar(Program& program)
+    : Form(program.Windows, "frmToolbar"),
+      tmrDragDrop(program.Windows),
+      picSingleButton(*this, "picSingleButton"),
+      lblDate(picSingleButton, "lblDate"),
+      LineLeft(picSingleButton, "LineLeft"),
+      Timer2(program.Windows),
+      Timer1(program.Windows),
+      picToolbar(*this, "picToolbar"),
+      lblSep([this](int index) { return MakeSeparator(index); }),
+      LinTB1([this](int) { return std::make_unique<forms::Line>(picToolbar, "LinTB1"); }),
+      LinTB2([this](int) { return std::make_unique<forms::Line>(picToolbar, "LinTB2"); }),
+      bLineXY(*this, "bLineXY"),
+      bLine4(*this, "bLine4"),
+      bLine2(*this, "bLine2"),
+      bLine3(*this, "bLine3"),
+      bLine1(*this, "bLine1"),
+      ToolbarButtons(1),
+      program_(program),
+      records_(1) {
+  WireEvents();
+}
+
+frmToolbar::~frmToolbar() = default;
+
+// The grip lies on the window, between its boxes; the other separators between the buttons.
+std::unique_ptr<forms::Label> frmToolbar::MakeSeparator(int index) {
+  forms::Surface& container = index == 0 ? static_cast<forms::Surface&>(*this) : picToolbar;
+  auto label = std::make_unique<forms::Label>(container, "lblSep");
+  using forms::MouseButton;
+  using forms::ShiftState;
+  label->MouseDown = [this, index](MouseButton button, ShiftState shift, float x, float y) {
+    lblSep_MouseDown(index, button, shift, x, y);
+  };
+  label->MouseMove = [this, index](MouseButton down, ShiftState shift, float x, float y) {
+    lblSep_MouseMove(index, down, shift, x, y);
+  };
+  label->MouseUp = [this, index](MouseButton button, ShiftState shift, float x, float y) {
+    lblSep_MouseUp(index, button, shift, x, y);
+  };
+  return label;
+}
+
+void frmToolbar::WireEvents() {
+  using forms::MouseButton;
+  using forms::ShiftState;
+  using Handler = void (frmToolbar::*)(MouseButton, ShiftState, float, float);
+  const auto to = [this](Handler handler) {
+    return [this, handler](MouseButton button, ShiftState shift, float x, float y) {
+      (this->*handler)(button, shift, x, y);
+    };
+  };
+  MouseDown = to(&frmToolbar::Form_MouseDown);
+  MouseMove = to(&frmToolbar::Form_MouseMove);
+  MouseUp = to(&frmToolbar::Form_MouseUp);
+  picToolbar.MouseDown = to(&frmToolbar::picToolbar_MouseDown);
+  picToolbar.MouseMove = to(&frmToolbar::picToolbar_MouseMove);
+  picToolbar.MouseUp = to(&frmToolbar::picToolbar_MouseUp);
+  // The second press of a quick pair closes what the first opened, like any other second press.
+  picToolbar.DblClick = [this] { picToolbar_MouseDown(MouseButton::Left, {}, 1, 1); };
+  picSingleButton.MouseDown = to(&frmToolbar::picSingleButton_MouseDown);
+  picSingleButton.MouseMove = to(&frmToolbar::picSingleButton_MouseMove);
+  picSingleButton.MouseUp = to(&frmToolbar::picSingleButton_MouseUp);
+  Timer1.Tick = [this] { Timer1_Timer(); };
+  Timer2.Tick = [this] { Timer2_Timer(); };
+  tmrDragDrop.SetInterval(kDragPoll);
+}
+
+void frmToolbar::LoadWindow() { static_cast<void>(Load()); }
+
+void frmToolbar::UnloadWindow() { Unload(); }
+
+void frmToolbar::Form_Load() {
+  program_.FullScreenApp = false;
+  program_.ToolbarReady = true;
+  program_.Title = "Corvelle";
+  SetVisible(false);
+  SetCaption("");
+  Tag = "ToolbarWindow";
+  MakeFolders();
+  SetBackColor(forms::color::ButtonFace);
+  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->LoadWindow();
+  if (!program_.NotOnTop) SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
+  SetLeft(program_.Windows.Screen().Width);
+  picToolbar.SetAutoRedraw(true);
+  picSingleButton.SetAutoRedraw(true);
+  ReadPlacement();
+  PlaceFirst();
+  if (!IsLoaded()) return;
+  CacheDisplayMetrics();
+  subclassed_ = true;
+  Timer1.SetEnabled(true);
+}
+
+void frmToolbar::MakeFolders() {
+  FileSystem& files = program_.Services.Files;
+  program_.MenusPath = program_.AppPath + "Menus\\";
+  program_.IconsPath = program_.AppPath + "Icons\\";
+  program_.ShellLinkPath = program_.AppPath + "ShellLink\\";
+  MakeMissingFolder(files, program_.MenusPath);
+  const bool newIcons = MakeMissingFolder(files, program_.IconsPath);
+  MakeMissingFolder(files, program_.ShellLinkPath);
+  program_.ShellLinkPath = EnsureBackslash(files.LongPath(program_.ShellLinkPath));
+  if ((newIcons || !program_.OptionFlags.Is(2)) && program_.Ports.IconLibrary != nullptr) {
+    program_.Ports.IconLibrary->ExtractIconLibrary();
+  }
+}
+
+void frmToolbar::ReadPlacement() {
+  program_.AppBarDocked = false;
+  program_.ToolbarEdge = "TOP";
+  program_.AppBarBusy = false;
+  if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RegisterAppBar();
+  program_.ReadEdgeFlags();
+  program_.AutoHide = program_.OptionFlags.Is(3);
+  if (!program_.AppBarRequested || program_.Ports.Docking != nullptr) return;
+  // No edge can be given in this run. The strip hugs the top, and the options keep the wish.
+  program_.EdgePending = true;
+  program_.AppBarRequested = false;
+  program_.ToolbarVertical = false;
+  program_.ToolbarEdge = "TOP";
+}
+
+void frmToolbar::PlaceFirst() {
+  if (!program_.AppBarRequested) {
+    InitButtons();
+    return;
+  }
+  DockingPort& docking = *program_.Ports.Docking;
+  if (program_.AutoHide && !docking.AutoHideFree(program_.ToolbarEdge)) program_.AutoHide = false;
+  docking.SetAppBar(program_.ToolbarEdge, true);
+  program_.AppBarRequested = false;
+}
+
+void frmToolbar::Form_Unload() {
+  program_.ToolbarReady = false;
+  subclassed_ = false;
+  Timer1.SetEnabled(false);
+  program_.SaveEdgeFlags();
+  program_.SaveOptionFlags();
+  UpdateToolbarPosition();
+  if (program_.Ports.Docking != nullptr) program_.Ports.Docking->EndAppBar();
+  UnloadItems();
+  program_.DoEvents();
+}
+
+void frmToolbar::UnloadItems() {
+  ResetMenu();
+  if (CollectionsMarked) ResetCollections();
+  CollectionsMarked = false;
+  UnloadButtons();
+  SingleCount = 0;
+}
+
+void frmToolbar::ResetCollections() {
+  QMenuPort* const menu = program_.Ports.QMenu;
+  if (menu == nullptr) return;
+  ForgetMenus();
+  menu->ResetPicIcons();
+}
+
+// Menus are kept by the number of their button, and a rebuild may give a number to another file.
+void frmToolbar::ForgetMenus() {
+  for (int button = 1; button <= ButtonCount; ++button) RemoveQMenu("F" + std::to_string(button));
+}
+
+void frmToolbar::InitButtons() {
+  const forms::HourglassScope hourglass(program_.Windows);
+  SetVisible(false);
+  // What cannot be deleted is deleted another time.
+  static_cast<void>(PurgeMenus(program_.Services.Files, program_.MenusPath));
+  StopTimers();
+  program_.CurButton = 0;
+  ReadTwips();
+  lblDate.SetVisible(false);
+  ChooseIconSize();
+  MakeTemplates();
+  OfferDefaultEntries();
+  if (!IsLoaded()) return;
+  DoToolbarButtons();
+  DoSingleButtons();
+  SetToolbar();
+  if (!program_.AppBarBusy && !program_.AppBarRequested) ShowInFront();
+  if (!program_.AppBarRequested && program_.Ports.QMenu != nullptr) {
+    program_.Ports.QMenu->InitIcons();
+  }
+  StopTimers();
+  Timer1.SetInterval(kAutoHidePoll);
+  Timer1.SetEnabled(true);
+  Timer2.SetInterval(kPointerPoll);
+}
+
+void frmToolbar::ShowInFront() {
+  Show();
+  ZOrder(forms::ZPlace::Front);
+  Refresh();
+  SetFocus();
+}
+
+void frmToolbar::StopTimers() {
+  Timer2.SetEnabled(false);
+  Timer1.SetEnabled(false);
+  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
+}
+
+void frmToolbar::ReadTwips() {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  TwipsX = screen.TwipsPerPixelX;
+  TwipsY = screen.TwipsPerPixelY;
+}
+
+void frmToolbar::ChooseIconSize() {
+  program_.IconSize = kSmallIcon;
+  if (!program_.OptionFlags.Is(26)) return;
+  const int large = program_.Services.Icons.IconWidth(IconList::Large);
+  program_.IconSize = large != 0 ? large : kLargeIcon;
+}
+
+// The first use brings the default entries without a question. The question is for a user who has
+// deleted everything since.
+void frmToolbar::OfferDefaultEntries() {
+  DefaultEntriesPort* const entries = program_.Ports.DefaultEntries;
+  FileSystem& files = program_.Services.Files;
+  const bool firstUse = !program_.OptionFlags.Is(2);
+  if (firstUse) {
+    // A program without default entries leaves the first use to one that has them.
+    if (entries == nullptr) return;
+    SetVisible(false);
+    entries->IncludeCommonFiles();
+    program_.OptionFlags.Set(2, true);
+    program_.SaveOptionFlags();
+    SetLeft(program_.Windows.Screen().Width);
+    return;
+  }
+  if (HoldsAny(files, program_.MenusPath, "*.MNU") ||
+      HoldsAny(files, program_.MenusPath, "*.BTN")) {
+    return;
+  }
+  const int answer =
+      program_.Say(kNoWindow,
+                   "Corvelle doesn't contain any entries. Would you like to add the default "
+                   "entries to Corvelle?",
+                   forms::msgbox::YesNo | forms::msgbox::IconQuestion | forms::msgbox::OnTop);
+  if (!IsLoaded() || answer != forms::msgbox::AnswerYes) return;
+  program_.DoEvents();
+  if (!IsLoaded()) return;
+  SetVisible(false);
+  if (entries != nullptr) entries->IncludeCommonFiles();
+}
+
+void frmToolbar::InitNewButtons() {
+  // One rebuild at a time: the one that runs reads the files as they are by then.
+  if (!IsLoaded() || program_.AppBarBusy) return;
+  const forms::HourglassScope hourglass(program_.Windows);
+  program_.DoEvents();
+  if (!IsLoaded()) return;
+  program_.SaveEdgeFlags();
+  program_.SaveOptionFlags();
+  UpdateToolbarPosition();
+  EmptyCurrentItem();
+  if (program_.AppBarDocked && program_.Ports.Docking != nullptr) {
+    program_.Ports.Docking->SetAppBar(program_.ToolbarEdge, true);
+  } else {
+    RebuildAtTop();
+  }
+  if (!IsLoaded()) return;
+  if (program_.AutoHide && program_.Ports.Docking != nullptr) {
+    program_.Ports.Docking->RevealToolbar();
+  }
+  SetFocus();
+  picToolbar.Refresh();
+  picSingleButton.Refresh();
+  Refresh();
+  program_.ToolbarReady = true;
+}
+
+void frmToolbar::RebuildAtTop() {
+  program_.ToolbarReady = false;
+  program_.AppBarBusy = true;
+  UnloadItems();
+  if (IsLoaded()) InitButtons();
+  if (IsLoaded()) Show();
+  program_.AppBarBusy = false;
+}
+
+void frmToolbar::RestoreToolbar() {
+  program_.RestoreBusy = true;
+  if (program_.AppBarDocked) {
+    program_.SaveEdgeFlags();
+    if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RemoveAppBar();
+  }
+  program_.AppBarRequested = false;
+  program_.AppBarDocked = false;
+  program_.ToolbarVertical = false;
+  program_.ToolbarEdge = "TOP";
+  program_.EdgePending = false;
+  InitNewButtons();
+  program_.RestoreBusy = false;
+  if (!IsLoaded()) return;
+  ShowInFront();
+  picToolbar.Refresh();
+  picSingleButton.Refresh();
+  if (program_.AutoHide) Timer1.SetEnabled(true);
+}
+
+}  // namespace corvelle

@@ -1,0 +1,305 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/MenuRecord.h"
+#include "core/WindowPorts.h"
+#include "forms/ControlArray.h"
+#include "forms/Form.h"
+#include "forms/Graphic.h"
+#include "forms/PictureBox.h"
+#include "forms/Timer.h"
+#include "toolbar/StripLayout.h"
+#include "toolbar/StripLook.h"
+#include "toolbar/StripPointer.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The strip: the menu buttons, the grip and the single buttons. It is the program's face and lives
+/// for the whole run. All measures are twips.
+class frmToolbar final : public forms::Form, public ToolbarPort {
+ public:
+  explicit frmToolbar(Program& program);
+  ~frmToolbar() override;
+
+  // ---- loading, building, unloading (frmToolbar.cpp) ----
+
+  void LoadWindow() override;
+  void UnloadWindow() override;
+  [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
+  [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
+  [[nodiscard]] WindowId ButtonBoxHandle() const override { return picToolbar.hWnd(); }
+  [[nodiscard]] WindowId SingleBoxHandle() const override { return picSingleButton.hWnd(); }
+  [[nodiscard]] float WindowTop() const override { return Top(); }
+
+  /// Builds the window's contents from the files and shows it, unless a repositioning runs.
+  void InitButtons();
+  /// Saves the options and rebuilds the strip after a change in the menus or the options.
+  void InitNewButtons() override;
+  /// Leaves an edge for the place at the top.
+  void RestoreToolbar();
+  /// Unloads all that was made for the buttons and closes the menu. Between this and InitButtons
+  /// nothing may draw a button.
+  void UnloadItems();
+  /// Empties the icon collections kept for menus.
+  void ResetCollections() override;
+
+  // ---- buttons (frmToolbarButtons.cpp) ----
+
+  /// Reads the menu files in their order and makes every button anew.
+  void DoToolbarButtons() override;
+  /// The same on a strip that keeps its size.
+  void RefreshToolbarButtons();
+  /// Empties the row of single buttons.
+  void DoSingleButtons() override;
+  /// Draws the buttons anew without moving anything, after a change of the system's colours.
+  void RefreshToolbar();
+
+  // ---- sizes and places (frmToolbarLayout.cpp) ----
+
+  /// Sizes and places everything; a strip at no edge is placed as well.
+  void SetToolbar();
+  /// Sizes both boxes, the grip and the window.
+  void SetControls();
+  /// Places a strip at no edge by its saved position.
+  void SetToolbarPosition();
+  /// Saves the position of a strip at no edge. A failure leaves the old position on the disk.
+  void UpdateToolbarPosition();
+  /// Places the lines of the window's border in their resting colours.
+  void DrawBorders();
+  /// Screen width less the strip's right end.
+  [[nodiscard]] float FreeWidth() const override;
+  void ResizeAfterEdit(float freeWidth) override;
+
+  // ---- menus (frmToolbarMenu.cpp) ----
+
+  /// Opens the menu of a button, or closes it when it is up.
+  void ShowMenu(int button);
+  void OpenMenu(std::string_view tag) override;
+  void RefreshMenu(std::string_view tag) override;
+  void ResetMenu() override;
+  void SetMenuPosition() override;
+  void RemoveQMenu(std::string_view tag) override;
+
+  // ---- pointer (frmToolbarPointer.cpp, frmToolbarFrame.cpp) ----
+
+  /// Sets CurButton by the pointer's place on the screen.
+  void GetCurButton();
+  /// Shows CurButton pressed and all others at rest.
+  void SetButtonBorders();
+  void picToolbar_MouseDown(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  void picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x, float y);
+  void picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  void picSingleButton_MouseDown(forms::MouseButton button, forms::ShiftState shift, float x,
+                                 float y);
+  void picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x,
+                                 float y);
+  void picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x,
+                               float y);
+  void lblSep_MouseDown(int index, forms::MouseButton button, forms::ShiftState shift, float x,
+                        float y);
+  void lblSep_MouseMove(int index, forms::MouseButton down, forms::ShiftState shift, float x,
+                        float y);
+  void lblSep_MouseUp(int index, forms::MouseButton button, forms::ShiftState shift, float x,
+                      float y);
+  void Form_MouseDown(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  void Form_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x, float y);
+  void Form_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  /// Follows the pointer while a menu or a hint is up.
+  void Timer2_Timer();
+  /// Carries out a pending focus request, and stops itself when nothing hides.
+  void Timer1_Timer();
+
+  // ---- keys (frmToolbarKeys.cpp) ----
+
+  void Form_KeyDown(int keyCode, forms::ShiftState shift) override;
+  void Form_KeyPress(char32_t character) override;
+  void ActivateKeyDown(int keyCode) override;
+
+  // ---- messages and the desktop (frmToolbarMessages.cpp) ----
+
+  /// Every message of the strip's window before the system's treatment; an answer ends it.
+  std::optional<std::intptr_t> ToolbarWndProc(std::uint32_t message, std::uintptr_t wParam,
+                                              std::intptr_t lParam);
+  void FullScreenNotify(std::intptr_t entering);
+  void CheckToolbarMove() override;
+  void CacheDisplayMetrics();
+  /// Shows the window in front, without making it active, if it is hidden.
+  void ShowToolbar();
+  void BringToForeground() override;
+  void ShowAndRefresh() override;
+
+  // ---- controls, from the back to the front ----
+
+  forms::Timer tmrDragDrop;
+  forms::PictureBox picSingleButton;
+  forms::Label lblDate;
+  forms::Line LineLeft;
+  forms::Timer Timer2;
+  forms::Timer Timer1;
+  forms::PictureBox picToolbar;
+  /// Element 0 is the grip between the boxes, the others are separators between buttons.
+  forms::ControlArray<forms::Label> lblSep;
+  /// The two lines at the sides of each button; element 0 is the template.
+  forms::ControlArray<forms::Line> LinTB1;
+  forms::ControlArray<forms::Line> LinTB2;
+  forms::Line bLineXY;
+  forms::Line bLine4;
+  forms::Line bLine2;
+  forms::Line bLine3;
+  forms::Line bLine1;
+
+  // ---- state ----
+
+  /// Set by whoever wants the icon collections emptied by the next UnloadItems.
+  bool CollectionsMarked = false;
+  /// The next hover changes the menu: one was opened by hand.
+  bool MenuOpening = false;
+  /// A press has just closed the menu of this button.
+  bool LastOpenFlag = false;
+  int LastOpenButton = 0;
+  /// Pointer tracking has started.
+  bool WasHovering = false;
+  bool MenuRefreshing = false;
+  /// The pointer at the press on the frame, and the same less the size of the button box.
+  float DownX = 0;
+  float DownY = 0;
+  float GrabX = 0;
+  float GrabY = 0;
+  /// The pointer went more than 3 pixels from the press on the frame.
+  bool FrameMoved = false;
+  bool FrameDragging = false;
+
+  /// Entry 0 is the template, 1 the program's own menu.
+  std::vector<ButtonRect> ToolbarButtons;
+  int ButtonCount = 0;
+  int SepCount = 0;
+  int SingleCount = 0;
+  /// Pixels by which the window's top is pulled above the screen, 4 or 7.
+  int TopCut = 4;
+  float TwipsX = 15;
+  float TwipsY = 15;
+  float SavedLeft = 0;
+  float SavedTop = 0;
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Form_Deactivate() override;
+  // Only the companion's end ends the program: a strip that is asked to close stays, and what it
+  // has to save when the session ends is saved when the companion unloads it.
+  void Form_QueryClose() override {}
+  void Form_SessionEnd() override {}
+  std::optional<std::intptr_t> WindowProc(std::uint32_t message, std::uintptr_t wParam,
+                                          std::intptr_t lParam) override;
+  void OnMoved(const PixelRect& bounds) override;
+
+ private:
+  // Loading and building.
+  std::unique_ptr<forms::Label> MakeSeparator(int index);
+  void WireEvents();
+  void MakeFolders();
+  void ReadPlacement();
+  void PlaceFirst();
+  void ReadTwips();
+  void StopTimers();
+  void ChooseIconSize();
+  void OfferDefaultEntries();
+  void ShowInFront();
+  void RebuildAtTop();
+
+  // Buttons.
+  /// A menu file in its order, and what its first record says.
+  struct ButtonFile {
+    StripEntry Entry;
+    MenuRecord Record;
+  };
+
+  void MakeTemplates();
+  [[nodiscard]] std::optional<MenuRecord> ReadButtonRecord(std::string_view path);
+  [[nodiscard]] std::vector<ButtonFile> ReadButtonFiles();
+  /// Makes the buttons of the menu files, without their icons, and gives the size of their box.
+  TwipSize MakeButtons();
+  void AddButton(const ButtonRect& button);
+  void AddSeparator(const TwipRect& place);
+  void DrawButtonIcon(const std::string& iconText, const ButtonRect& button);
+  /// Draws all icons and freezes the picture of the buttons.
+  void DrawIcons();
+  void UnloadButtons();
+  void ForgetMenus();
+  void EmptyCurrentItem();
+
+  // Layout.
+  [[nodiscard]] Placement Where() const;
+  [[nodiscard]] Edge AtEdge() const;
+  [[nodiscard]] StripScale Scale() const;
+  [[nodiscard]] StripPlace PlaceOnScreen() const;
+  /// Where the strip was left: in this run, or saved.
+  [[nodiscard]] float LastPosition() const;
+  void ShowBorder(forms::Line& line, const BorderLine& border);
+  void ShowLook(int button, const ButtonLook& look);
+
+  // Menus.
+  [[nodiscard]] bool MenuUp() const;
+  /// True if a press on the button has a menu to open.
+  [[nodiscard]] bool OpensMenu(int button) const;
+  /// Index of the button that owns the menu, 0 for none.
+  [[nodiscard]] int MenuOwner() const;
+  void ShowMenuOf(int button);
+  [[nodiscard]] std::string MainMenuFile();
+  void ReopenMenu(const std::string& tag);
+  void HideMenuWindow();
+  void HideMenuWhileTracking();
+
+  // Pointer and frame. Points are pixels of the screen, or twips where they are floats.
+  void FindCurButton(PixelPoint pointer);
+  void AbandonDrag();
+  void ShowRestingLook();
+  [[nodiscard]] bool LooksAtRest(int button) const;
+  [[nodiscard]] bool IsOursActive() const;
+  [[nodiscard]] bool IsOverMenu(WindowId window) const;
+  /// A point of the screen in the inside of the menu.
+  [[nodiscard]] TwipPoint InMenu(PixelPoint pointer) const;
+  [[nodiscard]] bool HasLeft(WindowId under) const;
+  void StartHovering();
+  void HoverButton(int button);
+  void ShowButtonPopup();
+  void ShowFramePopup(std::string_view tag);
+  void FollowFrame(forms::MouseButton down, float x, float y);
+  void RevealFromLine();
+  void DrawDragLook();
+  void EndSlide();
+
+  // Keys.
+  [[nodiscard]] bool KeyboardMoves() const;
+  void StartKeyboard();
+  void SelectButton(int button);
+  void PressCurButton();
+  void EnterCurButton();
+
+  // Messages.
+  std::optional<std::intptr_t> ShellNotify(std::uintptr_t what, std::intptr_t lParam);
+  void FollowColours();
+  void FollowDisplay();
+
+  Program& program_;
+  std::vector<MenuRecord> records_;  // of the buttons, by their index
+  std::string lastTag_;              // of the menu that was opened last
+  float menuLeft_ = 0;               // where the menu window was placed
+  float menuTop_ = 0;
+  bool positionUnsaved_ = false;  // the disk refused SavedLeft
+  bool positioned_ = false;       // SavedLeft is known
+  bool subclassed_ = false;
+  bool focusRequested_ = false;
+  Rgb baseColor_ = 0;
+  int baseWidth_ = 0;  // pixels of the screen
+};
+
+}  // namespace corvelle

@@ -1,0 +1,144 @@
+// The strip's frame and its grip, by which the strip is moved.
+
+#include <cmath>
+
+#include "core/Program.h"
+#include "platform/SystemInfo.h"
+#include "toolbar/StripPlace.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kGrip = 0;       // index of the grip among the separators
+constexpr int kDragWidth = 2;  // pixels
+
+}  // namespace
+
+void frmToolbar::lblSep_MouseDown(int index, forms::MouseButton button, forms::ShiftState shift,
+                                  float x, float y) {
+  if (index != kGrip || button == forms::MouseButton::None) return;
+  Timer2.SetEnabled(false);
+  Form_MouseDown(button, shift, x + lblSep[kGrip].Left(), y + lblSep[kGrip].Top());
+}
+
+void frmToolbar::lblSep_MouseMove(int index, forms::MouseButton down, forms::ShiftState /*shift*/,
+                                  float x, float y) {
+  if (down == forms::MouseButton::None) {
+    program_.SetHint("");
+    if (MenuUp()) FrameDragging = true;
+    return;
+  }
+  if (index != kGrip || !forms::Has(down, forms::MouseButton::Left)) return;
+  // While the grip is held nothing else may place the strip.
+  program_.RestoreBusy = true;
+  if (!program_.AppBarBusy) FollowFrame(down, x + lblSep[kGrip].Left(), y + lblSep[kGrip].Top());
+}
+
+void frmToolbar::lblSep_MouseUp(int index, forms::MouseButton button, forms::ShiftState shift,
+                                float x, float y) {
+  program_.RestoreBusy = false;
+  const forms::Label& label = lblSep[index];
+  const bool inside = x >= 0 && y >= 0 && x < label.Width() && y < label.Height();
+  if (button == forms::MouseButton::Right && !program_.Entry.ItemDragging && !FrameMoved &&
+      inside) {
+    ShowFramePopup("B1");
+  } else if (index == kGrip) {
+    Form_MouseUp(button, shift, x + label.Left(), y + label.Top());
+  }
+}
+
+void frmToolbar::Form_MouseDown(forms::MouseButton /*button*/, forms::ShiftState /*shift*/, float x,
+                                float y) {
+  if (program_.Entry.ItemDragging) return;
+  program_.SetHint("");
+  ResetMenu();
+  if (!IsLoaded()) return;
+  FrameMoved = false;
+  DownX = x;
+  DownY = y;
+  GrabX = x - picToolbar.Width();
+  GrabY = y - picToolbar.Height();
+}
+
+void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/, float x,
+                                float y) {
+  if (program_.AutoHide && !picToolbar.Visible() && Visible()) RevealFromLine();
+  if (down == forms::MouseButton::None) {
+    FrameDragging = false;
+    FrameMoved = false;
+    DrawBorders();
+    return;
+  }
+  if (MenuUp()) {
+    FrameDragging = true;
+    return;
+  }
+  if (!program_.RestoreBusy && !program_.AppBarBusy) FollowFrame(down, x, y);
+}
+
+void frmToolbar::RevealFromLine() {
+  if (program_.Ports.Docking == nullptr || program_.HideBusy) return;
+  program_.HideBusy = true;
+  program_.Ports.Docking->RevealToolbar();
+  program_.HideBusy = false;
+}
+
+void frmToolbar::FollowFrame(forms::MouseButton down, float x, float y) {
+  if (FrameHasMoved({DownX, DownY}, {x, y}, TwipsX, TwipsY)) FrameMoved = true;
+  if (!FrameMoved || !forms::Has(down, forms::MouseButton::Left)) {
+    DrawBorders();
+    return;
+  }
+  FrameDragging = true;
+  Timer2.SetEnabled(false);
+  if (!SlidesAlongTop(y, Height(), Where(), AtEdge())) return;
+  DrawDragLook();
+  SetLeft(SlideLeft(x, Left(), picToolbar.Width(), GrabX));
+}
+
+void frmToolbar::DrawDragLook() {
+  for (forms::Line* line : {&bLine1, &bLine2, &bLine3, &bLine4}) {
+    line->SetBorderColor(ColorValue(LineColor::Drag));
+    line->SetBorderWidth(kDragWidth);
+  }
+}
+
+void frmToolbar::Form_MouseUp(forms::MouseButton button, forms::ShiftState /*shift*/, float /*x*/,
+                              float /*y*/) {
+  if (button == forms::MouseButton::Right && !FrameMoved) {
+    ShowFramePopup("Toolbar");
+    return;
+  }
+  if (FrameMoved && !program_.AppBarDocked) EndSlide();
+  FrameMoved = false;
+  FrameDragging = false;
+}
+
+void frmToolbar::ShowFramePopup(std::string_view tag) {
+  ResetMenu();
+  if (!IsLoaded() || program_.Ports.Popup == nullptr) return;
+  EmptyCurrentItem();
+  program_.Entry.CurMenuTag = tag;
+  program_.Ports.Popup->ShowToolbarPopup();
+}
+
+// The strip stays where it was left, as far as the screen and the options let it.
+void frmToolbar::EndSlide() {
+  const SlideScene scene{.Left = Left(),
+                         .Width = Width(),
+                         .ButtonsWidth = picToolbar.Width(),
+                         .SingleCount = SingleCount,
+                         .ScreenWidth = program_.Windows.Screen().Width,
+                         .TwipsX = TwipsX,
+                         .CaptionButtonWidth = program_.Services.System.CaptionButtonWidth(),
+                         .MayPassRight = program_.OptionFlags.Is(13),
+                         .MayPassLeft = program_.OptionFlags.Is(27)};
+  SavedTop = -static_cast<float>(TopCut) * TwipsY;
+  SavedLeft = SlideEnd(scene);
+  Move(SavedLeft, SavedTop, Width(), Height());
+  UpdateToolbarPosition();
+  DrawBorders();
+}
+
+}  // namespace corvelle

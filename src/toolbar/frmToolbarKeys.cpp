@@ -1,0 +1,75 @@
+// The strip under the keyboard.
+
+#include "core/Program.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+constexpr char32_t kBlank = 32;
+
+}  // namespace
+
+void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
+  switch (keyCode) {
+    case forms::key::Escape:
+      if (!program_.Entry.ItemDragging) ResetMenu();
+      return;
+    case forms::key::F10:
+      if (!MenuUp()) StartKeyboard();
+      return;
+    case forms::key::Left:
+    case forms::key::Right:
+      if (KeyboardMoves()) SelectButton(NextButton(program_.CurButton, ButtonCount, keyCode));
+      return;
+    case forms::key::Enter:
+      if (KeyboardMoves()) EnterCurButton();
+      return;
+    default:
+      if (MenuUp()) program_.Ports.QMenu->ActivateKeyDown(keyCode);
+  }
+}
+
+bool frmToolbar::KeyboardMoves() const {
+  return program_.CurButton > 0 && program_.CurButton <= ButtonCount &&
+         program_.Services.Desktop.ActiveWindow() == hWnd();
+}
+
+// A user without a mouse begins at the first button, as in a menu bar.
+void frmToolbar::StartKeyboard() {
+  GetCurButton();
+  if (program_.CurButton == 0 && ButtonCount > 0) SelectButton(1);
+}
+
+// The pointer goes with the keyboard, so that both always mean the same button.
+void frmToolbar::SelectButton(int button) {
+  program_.KeyboardOnToolbar = true;
+  program_.CurButton = button;
+  program_.Services.Pointer.SetPointerPosition(
+      ButtonMiddle(ToolbarButtons[static_cast<std::size_t>(button)], PlaceOnScreen()));
+}
+
+void frmToolbar::EnterCurButton() {
+  if (program_.MenuOpen) {
+    ResetMenu();
+  } else {
+    // The button that the keys chose, wherever the system sees the pointer at this moment.
+    PressCurButton();
+  }
+}
+
+void frmToolbar::Form_KeyPress(char32_t character) {
+  if (character > kBlank && MenuUp()) program_.Ports.QMenu->xKeyPress(character);
+}
+
+void frmToolbar::ActivateKeyDown(int keyCode) {
+  if (program_.ToolbarVertical || program_.Entry.ItemDragging) return;
+  SetFocus();
+  const int owner = MenuOwner();
+  if (owner > 0) program_.CurButton = owner;
+  Form_KeyDown(keyCode, {});
+}
+
+}  // namespace corvelle

@@ -1,0 +1,160 @@
+// The strip and the menu window: opening, rereading, placing and closing.
+
+#include <string>
+
+#include "base/Text.h"
+#include "core/MenuFile.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "platform/DesktopWindows.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kPollInterval = 100;  // milliseconds
+
+/// Number of the button in a menu's tag; 0 for a tag without one.
+int ButtonOfTag(std::string_view tag) {
+  if (tag == "Q1") return 1;
+  return tag.empty() ? 0 : ParseNumber(tag.substr(1)).value_or(0);
+}
+
+}  // namespace
+
+bool frmToolbar::MenuUp() const {
+  return program_.Ports.QMenu != nullptr && program_.Ports.QMenu->MenuVisible();
+}
+
+bool frmToolbar::OpensMenu(int button) const {
+  if (button < 1 || button > ButtonCount || program_.Ports.QMenu == nullptr) return false;
+  return button != 1 || program_.Ports.MainMenu != nullptr;
+}
+
+void frmToolbar::HideMenuWindow() {
+  if (!MenuUp()) return;
+  program_.Ports.QMenu->HideMenu();
+  program_.Services.Desktop.PaintVisibleWindows();
+}
+
+void frmToolbar::ShowMenu(int button) {
+  if (program_.StartingUp || !OpensMenu(button)) return;
+  QMenuPort& menu = *program_.Ports.QMenu;
+  if (menu.OwnerTag().empty()) menu.SetOwnerTag("0");
+  if (MenuUp() && menu.OwnerTag() == std::to_string(button)) {
+    ResetMenu();
+    LastOpenFlag = true;
+    LastOpenButton = button;
+    program_.SetHint("");
+    return;
+  }
+  ShowMenuOf(button);
+}
+
+void frmToolbar::ShowMenuOf(int button) {
+  QMenuPort& menu = *program_.Ports.QMenu;
+  Timer2.SetEnabled(false);
+  LastOpenFlag = false;
+  program_.SetHint("");
+  // The program keeps the foreground from one menu to the next.
+  if (MenuUp()) SetFocus();
+  HideMenuWindow();
+  menu.ResetQMenu();
+
+  std::string file = ToolbarButtons[static_cast<std::size_t>(button)].Path;
+  const bool isMainMenu = file == kMainMenuPath;
+  lastTag_ = isMainMenu ? "Q1" : "F" + std::to_string(button);
+  if (isMainMenu) file = MainMenuFile();
+
+  menu.SetOwnerTag(std::to_string(button));
+  menu.SetPoll(false);
+  SetMenuPosition();
+  program_.MenuOpen = true;
+  const std::string tag = lastTag_;
+  menu.ShowMenu(tag, file);
+  if (!IsLoaded()) return;
+  // Events ran while the menu was built, and something may have closed it again.
+  if (!program_.MenuOpen || !MenuUp()) {
+    ResetMenu();
+    return;
+  }
+  menu.SetPollInterval(kPollInterval);
+  menu.SetPoll(true);
+  WasHovering = false;
+  Timer2.SetEnabled(true);
+}
+
+std::string frmToolbar::MainMenuFile() {
+  if (!program_.Ports.QMenu->HasBuiltMenu("Q1")) {
+    // Without a fresh file the menu shows what the old one holds.
+    static_cast<void>(
+        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.AppPath));
+  }
+  return program_.AppPath + std::string(kMainMenuFileName);
+}
+
+void frmToolbar::OpenMenu(std::string_view tag) {
+  const int button = ButtonOfTag(tag.empty() ? std::string_view(lastTag_) : tag);
+  if (!OpensMenu(button)) return;
+  program_.CurButton = button;
+  SetButtonBorders();
+  ShowMenuOf(button);
+}
+
+void frmToolbar::RefreshMenu(std::string_view tag) {
+  QMenuPort* const menu = program_.Ports.QMenu;
+  if (menu == nullptr || MenuRefreshing) return;
+  const forms::FlagScope refreshing(MenuRefreshing);
+  Timer2.SetEnabled(false);
+  menu->SetPoll(false);
+  SetEnabled(false);
+  ReopenMenu(tag.empty() ? lastTag_ : std::string(tag));
+  if (!IsLoaded()) return;
+  SetEnabled(true);
+  if (MenuUp()) Timer2.SetEnabled(true);
+}
+
+void frmToolbar::ReopenMenu(const std::string& tag) {
+  QMenuPort& menu = *program_.Ports.QMenu;
+  CapturePort* const capture = program_.Ports.Capture;
+  const bool captures = capture != nullptr && MenuUp() && !capture->MenuCaptured();
+  if (captures) capture->CaptureMenu();
+  if (MenuUp()) menu.HideMenu();
+  ShowToolbar();
+  if (ButtonOfTag(tag) != 0) {
+    RemoveQMenu(tag);
+    OpenMenu(tag);
+    if (IsLoaded() && MenuUp()) {
+      menu.GetCurMenu();
+      menu.SetPollInterval(kPollInterval);
+      menu.SetPoll(true);
+    }
+  }
+  if (captures) capture->ReleaseMenu();
+}
+
+void frmToolbar::RemoveQMenu(std::string_view tag) {
+  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->ForgetMenu(tag);
+}
+
+void frmToolbar::ResetMenu() {
+  if (!program_.MenuOpen && !program_.Entry.ItemDragging && !MenuUp()) return;
+  Timer2.SetEnabled(false);
+  program_.MenuOpen = false;
+  program_.CurButton = 0;
+  program_.KeyboardOnToolbar = false;
+  MenuOpening = false;
+  LastOpenFlag = false;
+  LastOpenButton = 0;
+  WasHovering = false;
+  ShowRestingLook();
+  if (QMenuPort* const menu = program_.Ports.QMenu) {
+    menu->SetPoll(false);
+    HideMenuWindow();
+    CheckToolbarMove();
+    menu->SetOwnerTag("0");
+  }
+  program_.DoEvents();
+}
+
+}  // namespace corvelle

@@ -1,0 +1,168 @@
+// What the system and other programs say to the strip, and its place on the desktop.
+
+#include "base/Numbers.h"
+#include "core/Program.h"
+#include "platform/DesktopWindows.h"
+#include "platform/SystemInfo.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+// What the shell says with the callback message, by its first parameter.
+constexpr std::uintptr_t kPositionChanged = 1;
+constexpr std::uintptr_t kFullScreenProgram = 2;
+
+constexpr int kButtonFaceIndex = 15;
+
+}  // namespace
+
+std::optional<std::intptr_t> frmToolbar::WindowProc(std::uint32_t message, std::uintptr_t wParam,
+                                                    std::intptr_t lParam) {
+  return subclassed_ ? ToolbarWndProc(message, wParam, lParam) : std::nullopt;
+}
+
+std::optional<std::intptr_t> frmToolbar::ToolbarWndProc(std::uint32_t message,
+                                                        std::uintptr_t wParam,
+                                                        std::intptr_t lParam) {
+  const bool fromShell = message == forms::message::AppBarCallback;
+  if (!program_.ToolbarReady || (program_.AppBarBusy && program_.ToolbarMinimized)) {
+    if (!fromShell || wParam != kFullScreenProgram) return std::nullopt;
+    program_.FullScreenApp = lParam != 0;
+    return 0;
+  }
+  if (fromShell) return ShellNotify(wParam, lParam);
+  switch (message) {
+    case forms::message::SysColorChange:
+      FollowColours();
+      break;
+    case forms::message::DisplayChange:
+      FollowDisplay();
+      break;
+    case forms::message::Move:
+      if (!program_.AppBarDocked) CheckToolbarMove();
+      break;
+    default:
+      break;
+  }
+  return std::nullopt;
+}
+
+// A docked strip answers the shell itself; without an edge the message goes on.
+std::optional<std::intptr_t> frmToolbar::ShellNotify(std::uintptr_t what, std::intptr_t lParam) {
+  if (what == kFullScreenProgram) FullScreenNotify(lParam);
+  if (!program_.AppBarDocked) return std::nullopt;
+  DockingPort* const docking = program_.Ports.Docking;
+  if (what == kPositionChanged && docking != nullptr && !program_.PosChangeRunning) {
+    program_.PosChangeRunning = true;
+    docking->SetAppBar("", false);
+    program_.PosChangeRunning = false;
+  }
+  return 0;
+}
+
+void frmToolbar::FollowColours() {
+  if (program_.Windows.SystemColor(kButtonFaceIndex) == baseColor_) return;
+  CacheDisplayMetrics();
+  RefreshToolbar();
+  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->ResetPicIcons();
+}
+
+void frmToolbar::FollowDisplay() {
+  const int before = baseWidth_;
+  CacheDisplayMetrics();
+  if (baseWidth_ != before) ResetCollections();
+}
+
+void frmToolbar::CacheDisplayMetrics() {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  baseColor_ = program_.Windows.SystemColor(kButtonFaceIndex);
+  baseWidth_ = RoundToInt(screen.Width / screen.TwipsPerPixelX);
+}
+
+void frmToolbar::FullScreenNotify(std::intptr_t entering) {
+  if (program_.NotOnTop) return;
+  const bool staysAbove = program_.OptionFlags.Is(4);
+  if (staysAbove && entering != 0 && program_.FullScreenApp) return;
+  program_.FullScreenApp = entering != 0;
+  if (staysAbove) {
+    SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
+  } else if (entering != 0) {
+    SetWindowPos(forms::InsertAfter::Bottom, forms::swp::KeepActivation);
+  } else {
+    SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
+    if (program_.Ports.QMenu != nullptr) {
+      program_.Ports.QMenu->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
+    }
+  }
+}
+
+void frmToolbar::OnMoved(const PixelRect& bounds) {
+  Form::OnMoved(bounds);
+  // Whoever moved the strip: one that is at no edge keeps its height on the screen.
+  if (subclassed_ && program_.ToolbarReady) CheckToolbarMove();
+}
+
+void frmToolbar::CheckToolbarMove() {
+  if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
+      program_.AppBarDocked || program_.RestoreBusy) {
+    return;
+  }
+  if (program_.AutoHide && !picToolbar.Visible()) {
+    SetHeight(TwipsY);
+    SetTop(0);
+  } else {
+    SetTop(SavedTop);
+  }
+}
+
+void frmToolbar::ShowToolbar() {
+  if (Visible()) return;
+  ZOrder(forms::ZPlace::Front);
+  ShowNoActivate();
+}
+
+void frmToolbar::ShowAndRefresh() {
+  ShowNoActivate();
+  Refresh();
+  FollowColours();
+  FollowDisplay();
+}
+
+void frmToolbar::BringToForeground() {
+  Show();
+  SetForeground();
+  DesktopWindows& desktop = program_.Services.Desktop;
+  // The system lets a program take the foreground by itself at its own turn only.
+  if (desktop.ForegroundWindow() != hWnd()) desktop.BringForward(hWnd());
+  ZOrder(forms::ZPlace::Front);
+  SetFocus();
+  focusRequested_ = true;
+  Timer1.SetEnabled(true);
+}
+
+void frmToolbar::Form_Deactivate() {
+  // A user who goes on elsewhere has done with the menus, also with one that is only hidden.
+  const bool hidden = program_.MenuOpen && !MenuUp();
+  if (hidden && !program_.MenuBuilding && !MenuRefreshing) ResetMenu();
+}
+
+void frmToolbar::Timer1_Timer() {
+  if (focusRequested_) {
+    focusRequested_ = false;
+    if (!MenuUp()) SetFocus();
+  }
+  if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
+      program_.PosChangeRunning || program_.RestoreBusy) {
+    return;
+  }
+  if (program_.ToolbarMinimized) {
+    Timer2.SetEnabled(false);
+    if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
+    Timer1.SetEnabled(false);
+  } else if (!program_.AutoHide) {
+    Timer1.SetEnabled(false);
+  }
+}
+
+}  // namespace corvelle

@@ -1,0 +1,271 @@
+// The pointer over the buttons: which one is current, its look, and following the pointer.
+
+#include "base/Text.h"
+#include "core/MenuRecord.h"
+#include "core/Program.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kLeftKey = 1;
+constexpr int kRightKey = 2;
+
+constexpr int kMenuBorder = 3;  // pixels around the inside of the menu window
+
+}  // namespace
+
+void frmToolbar::GetCurButton() { FindCurButton(program_.Services.Pointer.PointerPosition()); }
+
+void frmToolbar::FindCurButton(PixelPoint pointer) {
+  program_.CurButton =
+      ButtonAt(ToolbarButtons, PlaceOnScreen(), pointer, program_.CurButton, program_.MenuOpen);
+  const Input& input = program_.Services.Pointer;
+  if (program_.Entry.ItemDragging && !input.IsKeyDown(kLeftKey) && !input.IsKeyDown(kRightKey)) {
+    AbandonDrag();
+  }
+}
+
+// The release of a carried item went to another program.
+void frmToolbar::AbandonDrag() {
+  program_.Entry.ItemDragging = false;
+  program_.Windows.SetMousePointer(forms::MousePointer::Default);
+  EmptyCurrentItem();
+}
+
+void frmToolbar::EmptyCurrentItem() {
+  program_.Entry.CurTitle.clear();
+  program_.Entry.CurIcon.clear();
+  program_.Entry.CurCommand.clear();
+  program_.Entry.CurMenuTag.clear();
+  program_.Entry.CurFile.clear();
+  program_.Entry.CurRecord = 0;
+}
+
+int frmToolbar::MenuOwner() const {
+  const QMenuPort* const menu = program_.Ports.QMenu;
+  const int owner = menu != nullptr ? ParseNumber(menu->OwnerTag()).value_or(0) : 0;
+  return owner <= ButtonCount ? owner : 0;
+}
+
+bool frmToolbar::IsOursActive() const {
+  const WindowId active = program_.Services.Desktop.ActiveWindow();
+  if (active == kNoWindow) return false;
+  const WindowPorts& ports = program_.Ports;
+  return active == hWnd() || (ports.QMenu != nullptr && active == ports.QMenu->WindowHandle()) ||
+         (ports.Hint != nullptr && active == ports.Hint->WindowHandle());
+}
+
+bool frmToolbar::IsOverMenu(WindowId window) const {
+  return MenuUp() && window == program_.Ports.QMenu->WindowHandle();
+}
+
+TwipPoint frmToolbar::InMenu(PixelPoint pointer) const {
+  return {static_cast<float>(pointer.x - kMenuBorder) * TwipsX - menuLeft_,
+          static_cast<float>(pointer.y - kMenuBorder) * TwipsY - menuTop_};
+}
+
+void frmToolbar::ShowLook(int button, const ButtonLook& look) {
+  LinTB1[button].SetBorderColor(ColorValue(look.LinTB1.Color));
+  LinTB1[button].SetVisible(look.LinTB1.Visible);
+  LinTB2[button].SetBorderColor(ColorValue(look.LinTB2.Color));
+  LinTB2[button].SetVisible(look.LinTB2.Visible);
+}
+
+void frmToolbar::ShowRestingLook() {
+  for (int i = 1; i <= ButtonCount; ++i) ShowLook(i, kRestingLook);
+}
+
+void frmToolbar::SetButtonBorders() {
+  Timer2.SetEnabled(false);
+  const int current = program_.CurButton;
+  if (current < 1 || current > ButtonCount) return;
+  const std::vector<ButtonLook> looks = ButtonLooks({.Buttons = ToolbarButtons,
+                                                     .CurButton = current,
+                                                     .Vertical = program_.ToolbarVertical,
+                                                     .Docked = program_.AppBarDocked,
+                                                     .TwipsX = TwipsX,
+                                                     .TwipsY = TwipsY});
+  for (int i = 1; i <= ButtonCount; ++i) ShowLook(i, looks[static_cast<std::size_t>(i)]);
+  LinTB1[current].ZOrder(forms::ZPlace::Front);
+  LinTB2[current].ZOrder(forms::ZPlace::Front);
+}
+
+bool frmToolbar::LooksAtRest(int button) const {
+  return button > 0 && LinTB1.Has(button) && LinTB1[button].Visible();
+}
+
+void frmToolbar::picToolbar_MouseDown(forms::MouseButton button, forms::ShiftState /*shift*/,
+                                      float /*x*/, float /*y*/) {
+  if (button != forms::MouseButton::Left) return;
+  GetCurButton();
+  PressCurButton();
+}
+
+// Opens the menu of the current button, or closes it when it is up.
+void frmToolbar::PressCurButton() {
+  // A press that arrives while a menu is being built is not the time to build another.
+  if (program_.MenuBuilding || program_.StartingUp || program_.CurButton == 0) return;
+  if (!OpensMenu(program_.CurButton)) {
+    ResetMenu();
+    return;
+  }
+  SetButtonBorders();
+  MenuOpening = true;
+  ShowMenu(program_.CurButton);
+}
+
+void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/,
+                                      float /*x*/, float /*y*/) {
+  if (program_.PosChangeRunning || program_.StartingUp) return;
+  const bool anyDown = down != forms::MouseButton::None;
+  if (!anyDown && !WasHovering) StartHovering();
+  const int before = program_.CurButton;
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  FindCurButton(pointer);
+  const int current = program_.CurButton;
+  if (current != before) {
+    if (anyDown) {
+      LastOpenFlag = false;
+      LastOpenButton = 0;
+    } else if (!program_.MenuOpen && !program_.Entry.ItemDragging) {
+      program_.SetHint(current > 0
+                           ? DoubleAmpersands(records_[static_cast<std::size_t>(current)].FTitle)
+                           : std::string());
+    }
+  }
+  if ((program_.MenuOpen || program_.Entry.ItemDragging) && LooksAtRest(current) &&
+      IsOursActive()) {
+    HoverButton(current);
+  } else if (forms::Has(down, forms::MouseButton::Left) &&
+             IsOverMenu(program_.Services.Desktop.WindowAt(pointer))) {
+    program_.Ports.QMenu->xMouseMove(InMenu(pointer).Y);
+  }
+}
+
+void frmToolbar::StartHovering() {
+  program_.SetHint("");
+  program_.RestoreBusy = false;
+  FrameMoved = false;
+  WasHovering = true;
+}
+
+// Moving along the strip changes the menu. The button of the program's own menu has none to show
+// where that menu is not part of the program: the one that is up goes.
+void frmToolbar::HoverButton(int button) {
+  if (!OpensMenu(button)) {
+    HideMenuWhileTracking();
+  } else if (!MenuUp() || MenuOwner() != button) {
+    // The place of the pointer is not asked for again: it may have gone on to the button whose menu
+    // is up, and to hover there is no second press.
+    PressCurButton();
+  }
+}
+
+// The menu goes off the screen, but the next button under the pointer opens its own at once.
+void frmToolbar::HideMenuWhileTracking() {
+  Timer2.SetEnabled(false);
+  if (!MenuUp()) return;
+  program_.Ports.QMenu->SetPoll(false);
+  // The strip stays active, so that it hears when the user goes elsewhere.
+  SetFocus();
+  HideMenuWindow();
+  program_.Ports.QMenu->SetOwnerTag("0");
+  ShowRestingLook();
+}
+
+void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x,
+                                    float y) {
+  WasHovering = false;
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  if (button == forms::MouseButton::Right && !program_.Entry.ItemDragging) {
+    if (under == hWnd()) return Form_MouseUp(button, shift, x, y);
+    if (under == picSingleButton.hWnd()) return picSingleButton_MouseUp(button, shift, x, y);
+    if (under == picToolbar.hWnd()) ShowButtonPopup();
+    return;
+  }
+  if (IsOverMenu(under)) {
+    const TwipPoint at = InMenu(pointer);
+    program_.Ports.QMenu->xMouseUp(button, shift, at.X, at.Y);
+    return;
+  }
+  FindCurButton(pointer);
+  if (LastOpenFlag && LastOpenButton == program_.CurButton) {
+    const int closed = LastOpenButton;
+    ResetMenu();
+    LastOpenFlag = true;
+    LastOpenButton = closed;
+  }
+}
+
+// The popup of a button acts on the button's own record, the first of its file.
+void frmToolbar::ShowButtonPopup() {
+  GetCurButton();
+  const int button = program_.CurButton;
+  ResetMenu();
+  if (!IsLoaded() || program_.Ports.Popup == nullptr || button < 1 || button > ButtonCount) return;
+  EmptyCurrentItem();
+  program_.Entry.CurMenuTag = "B" + std::to_string(button);
+  lastTag_ = (button > 1 ? "F" : "B") + std::to_string(button);
+  if (button > 1) {
+    program_.Entry.CurFile = ToolbarButtons[static_cast<std::size_t>(button)].Path;
+    // A file that cannot be read now leaves the texts empty, and no edit will find its record.
+    const MenuRecord record = ReadButtonRecord(program_.Entry.CurFile).value_or(MenuRecord{});
+    program_.Entry.CurRecord = 1;
+    program_.Entry.CurTitle = record.FTitle;
+    program_.Entry.CurIcon = record.FIcon;
+    program_.Entry.CurCommand = record.FName;
+  }
+  program_.Ports.Popup->ShowToolbarPopup();
+}
+
+void frmToolbar::picSingleButton_MouseDown(forms::MouseButton button, forms::ShiftState shift,
+                                           float x, float y) {
+  if (program_.Entry.ItemDragging) return;
+  program_.SetHint("");
+  Timer2.SetEnabled(false);
+  // The bare parts of the box are the strip's frame.
+  Form_MouseDown(button, shift, x + picSingleButton.Left(), y + picSingleButton.Top());
+}
+
+void frmToolbar::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftState shift,
+                                           float x, float y) {
+  Form_MouseMove(down, shift, x + picSingleButton.Left(), y + picSingleButton.Top());
+}
+
+void frmToolbar::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift,
+                                         float x, float y) {
+  program_.SetHint("");
+  Form_MouseUp(button, shift, x + picSingleButton.Left(), y + picSingleButton.Top());
+}
+
+void frmToolbar::Timer2_Timer() {
+  if (program_.Entry.ItemDragging || program_.PosChangeRunning || program_.MenuBuilding) return;
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  FindCurButton(pointer);
+  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  if (under == picToolbar.hWnd()) {
+    if (LooksAtRest(program_.CurButton) && MenuOwner() != program_.CurButton) {
+      HoverButton(program_.CurButton);
+    }
+  } else if (under == picSingleButton.hWnd()) {
+    HideMenuWhileTracking();
+  }
+  if (!IsLoaded()) return;
+  if (HasLeft(under)) {
+    program_.MenuOpen = true;
+    ResetMenu();
+  }
+  if (!MenuUp()) Timer2.SetEnabled(false);
+}
+
+// True if the user has gone to another program's window.
+bool frmToolbar::HasLeft(WindowId under) const {
+  const LoadedWindow* const image = program_.Ports.ImageWindow;
+  return !IsOursActive() && !IsOverMenu(under) && (image == nullptr || !image->WindowLoaded());
+}
+
+}  // namespace corvelle

@@ -1,0 +1,379 @@
+// What is seen of a menu: icons, rules, the bar, pages.
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "menus/MenuDesk.h"
+
+namespace corvelle {
+namespace {
+
+using sim::SimShellIcons;
+
+/// A desk whose tools have icons of their own.
+class Painted : public ::testing::Test {
+ protected:
+  Painted() {
+    for (int i = 0; i < 120; ++i) {
+      desk_.World.Files.Put(Tool(i), "x");
+      desk_.World.Icons.SetIndex(Tool(i), 10 + i);
+    }
+    desk_.World.Icons.SetIndex("C:\\Corvelle\\Icons\\W95MBX02.ICO", 7);
+  }
+  static std::string Tool(int i) { return "C:\\Tools\\t" + std::to_string(i) + ".exe"; }
+  static Rgb ToolColour(int i) { return SimShellIcons::ColourOf(10 + i); }
+  std::vector<MenuRecord> Tools(int count) const {
+    std::vector<MenuRecord> items;
+    for (int i = 0; i < count; ++i) items.push_back(Item("Tool " + std::to_string(i), Tool(i)));
+    return items;
+  }
+  /// The colour in the middle of an item's icon cell.
+  Rgb IconColour(int index) const {
+    const PixelPoint cell = desk_.IconCell(index);
+    return desk_.PixelInside(cell.x + 8, cell.y + 8);
+  }
+  Rgb Face() { return desk_.SystemColour(forms::color::ButtonFace); }
+
+  MenuDesk desk_;
+};
+
+TEST_F(Painted, AnIconFillsItsCellBesideTheText) {
+  desk_.Open(1, Tools(2));
+  const PixelPoint cell = desk_.IconCell(2);
+  EXPECT_EQ(cell.x, 2);
+  const Rgb colour = ToolColour(1);
+  EXPECT_EQ(desk_.PixelInside(cell.x, cell.y), colour);
+  EXPECT_EQ(desk_.PixelInside(cell.x + 15, cell.y + 15), colour);
+  EXPECT_EQ(desk_.PixelInside(cell.x - 1, cell.y + 8), Face());
+  EXPECT_EQ(desk_.PixelInside(cell.x + 16, cell.y + 8), Face());
+  EXPECT_EQ(desk_.PixelInside(cell.x + 8, cell.y - 1), Face());
+  EXPECT_EQ(desk_.PixelInside(cell.x + 8, cell.y + 16), Face());
+}
+
+TEST_F(Painted, EachFormOfAnIconTextShowsItsIcon) {
+  desk_.World.Icons.SetIconCount("C:\\Tools\\t5.exe", 3);
+  desk_.World.Files.Put("C:\\Corvelle\\icons\\x.ico", "x");
+  desk_.World.Icons.SetIndex("C:\\Corvelle\\icons\\x.ico", 77);
+  desk_.TheProgram.WebLinkIcon = Tool(9);
+  desk_.TheProgram.ShellDrawsIcons = true;
+  struct Row {
+    const char* name;
+    std::string text;
+    Rgb colour;
+  };
+  const Row rows[] = {
+      {"a file", Tool(1), ToolColour(1)},
+      {"in capitals", "C:\\TOOLS\\T1.EXE", ToolColour(1)},
+      {"an icon in a file", "C:\\Tools\\t5.exe|2", SimShellIcons::ColourOf("C:\\Tools\\t5.exe", 2)},
+      {"an icon that the file lacks", "C:\\Tools\\t5.exe|9", SimShellIcons::ColourOf(7)},
+      {"no number behind the bar", "C:\\Tools\\t5.exe|x", SimShellIcons::ColourOf(7)},
+      {"a number", "37", SimShellIcons::ColourOf(37)},
+      {"below the program's folder", "\\icons\\x.ico", SimShellIcons::ColourOf(77)},
+      {"a web link", "http", ToolColour(9)},
+      {"a missing file", "C:\\nowhere.exe", SimShellIcons::ColourOf(7)},
+      {"an unknown folder of the shell", "CSIDL_NOWHERE", SimShellIcons::ColourOf(7)},
+      {"none", "", Face()},
+      {"an unknown picture", "imgIcons what", Face()},
+  };
+  std::vector<MenuRecord> items;
+  for (const Row& row : rows) items.push_back(Item("x", row.text));
+  desk_.Open(1, items);
+  int index = 0;
+  for (const Row& row : rows) EXPECT_EQ(IconColour(++index), row.colour) << row.name;
+}
+
+TEST_F(Painted, AnUnknownIconIsTheBlankDocumentOfTheIconsFolder) {
+  desk_.World.Icons.SetIconCount("C:\\Corvelle\\Icons\\W95MBX02.ICO", 1);
+  desk_.Open(1, {Item("Missing", "C:\\nowhere.exe")});
+  EXPECT_EQ(IconColour(1), SimShellIcons::ColourOf("C:\\Corvelle\\Icons\\W95MBX02.ICO", 0));
+}
+
+TEST_F(Painted, WithoutTheBlankDocumentTheRowStaysEmpty) {
+  desk_.World.Files.Vanish("C:\\Corvelle\\Icons\\W95MBX02.ICO");
+  desk_.Open(1, {Item("Missing", "C:\\nowhere.exe"), Item("There", Tool(3))});
+  EXPECT_EQ(IconColour(1), Face());
+  EXPECT_EQ(IconColour(2), ToolColour(3));
+}
+
+TEST_F(Painted, BuiltInPicturesAreDrawnInSystemColours) {
+  desk_.Open(1, {Item("On", "xCircle"), Item("New", "New")});
+  EXPECT_EQ(IconColour(1), desk_.SystemColour(forms::color::ButtonText));
+  const PixelPoint cell = desk_.IconCell(2);
+  EXPECT_EQ(desk_.PixelInside(cell.x + 7, cell.y + 8), desk_.SystemColour(forms::color::Highlight));
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 0);
+}
+
+TEST_F(Painted, EachTextIsAskedForOnceOverAllMenus) {
+  desk_.Open(1, {Item("A", Tool(1)), Item("B", Tool(1)), Item("C", Tool(2)),
+                 Item("D", "C:\\nowhere.exe"), Item("E", "C:\\nowhere.exe")});
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 4);  // two tools, the missing file, the blank document
+  desk_.Menu.HideMenu();
+  desk_.Open(2, {Item("F", Tool(2)), Item("G", "c:\\tools\\T1.exe")});
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 4);
+  EXPECT_EQ(IconColour(1), ToolColour(2));
+  EXPECT_EQ(IconColour(2), ToolColour(1));
+}
+
+TEST_F(Painted, FilesOfOneShellIconShareIt) {
+  desk_.World.Files.Put("C:\\a.txt", "x");
+  desk_.World.Files.Put("C:\\b.txt", "x");
+  desk_.Open(1, {Item("A", "C:\\a.txt"), Item("B", "C:\\b.txt")});
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 2);
+  EXPECT_EQ(desk_.World.Icons.Draws(), 1);
+  EXPECT_EQ(IconColour(1), IconColour(2));
+}
+
+TEST_F(Painted, ForgottenIconsAreAskedForAgain) {
+  desk_.Open(1, Tools(2));
+  desk_.Menu.HideMenu();
+  desk_.Menu.ForgetMenu("F2");
+  desk_.Menu.ResetPicIcons();
+  desk_.World.Icons.SetIndex(Tool(1), 90);
+  desk_.Reopen(1);
+  EXPECT_EQ(IconColour(2), SimShellIcons::ColourOf(90));
+}
+
+TEST_F(Painted, MoreIconsThanTheStripBeganWithKeepTheirPictures) {
+  desk_.Open(1, Tools(36));
+  for (int i = 0; i < 36; ++i) EXPECT_EQ(IconColour(i + 1), ToolColour(i)) << i;
+}
+
+TEST(frmQMenuProgress, CaptionsStandBeforeTheIconsAndIconsComeOneByOne) {
+  sim::World world;
+  std::vector<std::string> steps;
+  class Icons final : public ShellIcons {
+   public:
+    Icons(sim::World& world, std::vector<std::string>& steps) : world_(world), steps_(steps) {}
+    std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList list) override {
+      const WindowId menu = world_.Desktop.Find("frmQMenu");
+      const bool shown = world_.Desktop.IsShown(menu);
+      bool text = false;
+      int icons = 0;
+      if (shown) {
+        const sim::SimCanvas screen = world_.Desktop.Picture();
+        const PixelRect at = world_.Desktop.BoundsOf(menu);
+        const Rgb ink = forms::Resolve(world_.Desktop, forms::color::ButtonText);
+        text = screen.Shows(ink, {at.left + 27, at.top + 9, at.left + 60, at.top + 22});
+        for (int i = 0; i < 3; ++i) {
+          if (screen.PixelAt({at.left + 13, at.top + 3 + 12 + 20 * i}) ==
+              sim::SimShellIcons::ColourOf(50 + i)) {
+            ++icons;
+          }
+        }
+      }
+      steps_.push_back(std::string(shown ? "shown" : "hidden") + (text ? " captions" : "") + " " +
+                       std::to_string(icons));
+      return world_.Icons.FileInfo(path, list);
+    }
+    int IconWidth(IconList list) override { return world_.Icons.IconWidth(list); }
+    bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
+                        IconStyle style) override {
+      return world_.Icons.DrawSystemIcon(canvas, list, index, at, style);
+    }
+    bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
+                      int size) override {
+      return world_.Icons.DrawFileIcon(canvas, file, index, at, size);
+    }
+
+   private:
+    sim::World& world_;
+    std::vector<std::string>& steps_;
+  } icons(world, steps);
+  const Platform all = world.Services();
+  Program program(
+      {all.Files, all.Ansi, all.Keys, all.Shell, icons, all.Pointer, all.Desktop, all.System},
+      world.Windows());
+  std::string bytes = FormatRecord(Item("Button"), world.Ansi);
+  for (int i = 0; i < 3; ++i) {
+    const std::string tool = "C:\\t" + std::to_string(i) + ".exe";
+    world.Files.Put(tool, "x");
+    world.Icons.SetIndex(tool, 50 + i);
+    bytes += FormatRecord(Item("Tool", tool), world.Ansi);
+  }
+  world.Files.Put("C:\\m.mnu", bytes);
+  frmQMenu menu(program);
+  menu.LoadWindow();
+  menu.ShowMenu("F2", "C:\\m.mnu");
+  EXPECT_EQ(steps,
+            (std::vector<std::string>{"shown captions 0", "shown captions 1", "shown captions 2"}));
+  steps.clear();
+  menu.HideMenu();
+  menu.ShowMenu("F2", "C:\\m.mnu");
+  EXPECT_TRUE(steps.empty());
+  menu.UnloadWindow();
+}
+
+TEST_F(Painted, APageIsDrawnWhenItIsFirstShownAndStandsAtOnceTheSecondTime) {
+  desk_.Open(1, Tools(80));
+  ASSERT_EQ(desk_.Menu.Slides, 2);
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 34);
+  desk_.World.Desktop.PressKey(forms::key::PageDown);
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 68);
+  for (int i = 35; i <= 68; ++i) EXPECT_EQ(IconColour(i), ToolColour(i - 1)) << i;
+  desk_.World.Desktop.PressKey(forms::key::PageUp);
+  for (int i = 1; i <= 34; ++i) EXPECT_EQ(IconColour(i), ToolColour(i - 1)) << i;
+  const WindowId window = desk_.Menu.hWnd();
+  const int paints = desk_.World.Desktop.PaintCount(window);
+  desk_.World.Desktop.PressKey(forms::key::PageDown);
+  EXPECT_EQ(desk_.World.Desktop.PaintCount(window), paints + 1);
+  EXPECT_EQ(IconColour(35), ToolColour(34));
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 68);
+}
+
+TEST_F(Painted, NoRuleOfAnotherPageIsSeen) {
+  std::vector<MenuRecord> items = Items(60);
+  items.insert(items.begin() + 5, Separator());
+  desk_.Open(1, items);
+  ASSERT_GT(desk_.Menu.Slides, 0);
+  const int rule = 6 + 20 * 4 + 13 + 9;
+  EXPECT_EQ(desk_.PixelInside(80, rule), desk_.SystemColour(forms::color::ButtonShadow));
+  desk_.World.Desktop.PressKey(forms::key::PageDown);
+  desk_.PointAway();
+  EXPECT_NE(desk_.PixelInside(80, rule), desk_.SystemColour(forms::color::ButtonShadow));
+  EXPECT_NE(desk_.PixelInside(5, rule), desk_.SystemColour(forms::color::ButtonShadow));
+  desk_.World.Desktop.PressKey(forms::key::PageUp);
+  EXPECT_EQ(desk_.PixelInside(80, rule), desk_.SystemColour(forms::color::ButtonShadow));
+}
+
+TEST_F(Painted, CoveringAndUncoveringBringsIconsAndRulesBackAndNoOldBar) {
+  std::vector<MenuRecord> items = Tools(4);
+  items.insert(items.begin() + 2, Separator());
+  desk_.Open(1, items);
+  desk_.PointAtItem(1);
+  desk_.PointAtItem(3);
+  const sim::SimCanvas before = desk_.World.Desktop.Picture();
+  // The whole window is painted afresh, as after something that covered it.
+  desk_.Menu.InvalidateAll();
+  desk_.World.Desktop.Pump();
+  const sim::SimCanvas after = desk_.World.Desktop.Picture();
+  const PixelRect at = desk_.World.Desktop.BoundsOf(desk_.Menu.hWnd());
+  for (int y = at.top; y < at.bottom; ++y) {
+    for (int x = at.left; x < at.right; ++x) {
+      ASSERT_EQ(after.PixelAt({x, y}), before.PixelAt({x, y})) << x << ", " << y;
+    }
+  }
+  EXPECT_EQ(IconColour(1), ToolColour(0));
+  EXPECT_EQ(IconColour(4), ToolColour(3));
+  EXPECT_EQ(desk_.PixelInside(100, 6 + 33 + 9), desk_.SystemColour(forms::color::ButtonShadow));
+}
+
+TEST_F(Painted, TheOldBarIsGoneWhenTheSelectionMoves) {
+  desk_.Open(1, Items(4));
+  const Rgb bar = desk_.SystemColour(forms::color::Highlight);
+  const auto barSeen = [&](int index) {
+    const float top = desk_.Menu.Lbl[index].Top() - 45;
+    const PixelPoint corner = desk_.OnScreen(0, top);
+    const PixelRect row{corner.x + 21, corner.y, corner.x + 100, corner.y + 21};
+    return desk_.World.Desktop.Picture().Shows(bar, row);
+  };
+  desk_.PointAtItem(2);
+  EXPECT_TRUE(barSeen(2));
+  desk_.PointAtItem(4);
+  EXPECT_FALSE(barSeen(2));
+  EXPECT_TRUE(barSeen(4));
+  desk_.PointAway();
+  desk_.Poll();
+  EXPECT_FALSE(barSeen(4));
+}
+
+TEST_F(Painted, AMoveInsideOneItemPaintsNothing) {
+  desk_.Open(1, Items(4));
+  desk_.PointAtItem(2);
+  const int paints = desk_.World.Desktop.PaintCount(desk_.Menu.hWnd());
+  PixelPoint at = desk_.ItemPoint(2);
+  for (int i = 0; i < 10; ++i) desk_.PointAt({at.x + i, at.y});
+  EXPECT_EQ(desk_.World.Desktop.PaintCount(desk_.Menu.hWnd()), paints);
+}
+
+TEST_F(Painted, TheArrowsShowWhereThereIsMore) {
+  desk_.Open(1, Items(100));
+  const auto glyphInk = [&](int index, forms::OleColor colour) {
+    const forms::Image& image = desk_.Menu.imgButton[index];
+    const PixelPoint corner = desk_.OnScreen(image.Left(), image.Top());
+    return desk_.World.Desktop.Picture().Shows(desk_.SystemColour(colour),
+                                               {corner.x, corner.y, corner.x + 10, corner.y + 6});
+  };
+  EXPECT_TRUE(glyphInk(0, forms::color::GrayText));
+  EXPECT_FALSE(glyphInk(0, forms::color::ButtonText));
+  EXPECT_TRUE(glyphInk(1, forms::color::ButtonText));
+  desk_.World.Desktop.PressKey(forms::key::End);
+  EXPECT_TRUE(glyphInk(0, forms::color::ButtonText));
+  EXPECT_TRUE(glyphInk(1, forms::color::GrayText));
+}
+
+TEST_F(Painted, AGlyphStandsInTheMiddleOfItsButton) {
+  desk_.Open(1, Items(100));
+  for (int i = 0; i <= 1; ++i) {
+    const forms::Label& button = desk_.Menu.LblButton[i];
+    const forms::Image& image = desk_.Menu.imgButton[i];
+    EXPECT_EQ(image.Left(), button.Left() + (button.Width() - image.Width()) / 2) << i;
+    EXPECT_EQ(image.Top(), button.Top() + (button.Height() - image.Height()) / 2) << i;
+  }
+}
+
+TEST_F(Painted, OtherSystemColoursShowInOpenAndInKeptMenus) {
+  desk_.Open(1, Tools(3));
+  desk_.Menu.HideMenu();
+  desk_.Open(2, Tools(100));
+  const Rgb green = 0x0030A030;
+  desk_.World.Desktop.SetSystemColor(15, green);
+  desk_.World.Desktop.Pump();
+  EXPECT_EQ(desk_.PixelInside(1, 1), green);
+  EXPECT_EQ(IconColour(1), ToolColour(0));
+  const PixelPoint cell = desk_.IconCell(1);
+  EXPECT_EQ(desk_.PixelInside(cell.x + 17, cell.y + 8), green);
+  desk_.Menu.HideMenu();
+  desk_.Reopen(1);
+  EXPECT_EQ(desk_.PixelInside(1, 1), green);
+  EXPECT_EQ(IconColour(3), ToolColour(2));
+}
+
+TEST_F(Painted, AllIconsCanBeFetchedBeforehand) {
+  desk_.PutMenu(1, Tools(3));
+  desk_.PutMenu(2, {Item("A", Tool(7))});
+  desk_.World.Files.Put("C:\\Corvelle\\ShellLink\\a.lnk", "x");
+  desk_.Menu.InitIcons();
+  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
+  EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
+  const int lookups = desk_.World.Icons.Lookups();
+  desk_.Reopen(1);
+  desk_.Menu.HideMenu();
+  desk_.Reopen(2);
+  EXPECT_EQ(desk_.World.Icons.Lookups(), lookups);
+  EXPECT_EQ(IconColour(1), ToolColour(7));
+}
+
+TEST_F(Painted, FetchingIconsWithoutFoldersDoesNoHarm) {
+  desk_.World.Files.Vanish("C:\\Corvelle\\Menus");
+  desk_.Menu.InitIcons();
+  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
+}
+
+TEST(frmQMenuHourglass, ShowsWhileTheMenuIsBuiltUnlessAnItemIsDragged) {
+  for (const bool dragging : {false, true}) {
+    MenuDesk desk;
+    desk.TheProgram.Entry.ItemDragging = dragging;
+    class Looking final : public FolderMenusPort {
+     public:
+      explicit Looking(MenuDesk& desk) : desk_(desk) {}
+      std::string Expand(std::string_view, std::string_view menuFile) override {
+        Then = desk_.World.Desktop.CurrentMousePointer();
+        return std::string(menuFile);
+      }
+      bool UpdateMenu(std::string_view) override { return false; }
+      forms::MousePointer Then = forms::MousePointer::Default;
+
+     private:
+      MenuDesk& desk_;
+    } folders(desk);
+    desk.TheProgram.Ports.FolderMenus = &folders;
+    desk.Open(1, Items(2));
+    EXPECT_EQ(folders.Then,
+              dragging ? forms::MousePointer::Default : forms::MousePointer::Hourglass);
+    EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
+  }
+}
+
+}  // namespace
+}  // namespace corvelle

@@ -1,0 +1,215 @@
+// The strip and the real menu window together.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "menus/frmQMenu.h"
+#include "toolbar/StripDesk.h"
+
+namespace corvelle {
+namespace {
+
+using forms::MouseButton;
+
+/// Three menus of three programs each, on a desk whose menu window is the program's own.
+struct RoadDesk : StripDesk {
+  explicit RoadDesk(const sim::WorldOptions& options = {})
+      : StripDesk(options), RealMenu(TheProgram) {
+    TheProgram.Ports.QMenu = &RealMenu;
+    for (int menu = 1; menu <= 3; ++menu) {
+      std::vector<MenuRecord> records = {Entry("Menu " + std::to_string(menu), "Button")};
+      for (int item = 1; item <= 3; ++item) {
+        const std::string program =
+            "C:\\Tools\\m" + std::to_string(menu) + "i" + std::to_string(item) + ".exe";
+        World.Files.Put(program, "x");
+        records.push_back(Entry("Item " + std::to_string(item), program, program));
+        if (item == 1) records.push_back(Entry("", "MenuLineSeparator"));
+      }
+      World.Files.Put("C:\\Corvelle\\Menus\\" + MenuFileName(menu), Records(records));
+    }
+    Start();
+  }
+  ~RoadDesk() { Exit(); }
+
+  /// Middle of an item of the open menu.
+  [[nodiscard]] PixelPoint Item(int index) const {
+    const PixelRect menu = World.Desktop.BoundsOf(RealMenu.hWnd());
+    const forms::Label& label = RealMenu.Lbl[index];
+    const int top = static_cast<int>((label.Top() + label.Height() / 2) / Strip.TwipsY);
+    return {menu.left + 40, menu.top + 3 + top};
+  }
+  [[nodiscard]] int RealMenuUp() const {
+    return RealMenu.MenuVisible() ? std::stoi(RealMenu.OwnerTag()) : 0;
+  }
+
+  frmQMenu RealMenu;
+};
+
+TEST(StripAndMenu, AChoiceClosesTheMenuAndStartsItsProgram) {
+  RoadDesk desk;
+  desk.Click(2);
+  desk.Wait(200);
+  ASSERT_EQ(desk.RealMenuUp(), 2);
+  desk.PointAt(desk.Item(2));
+  desk.Wait(200);
+  desk.World.Desktop.Click();
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i2.exe"});
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+  EXPECT_TRUE(desk.AtRest(2));
+}
+
+TEST(StripAndMenu, APressHeldIntoTheMenuChoosesWhereItIsReleased) {
+  for (const int milliseconds : {50, 2000}) {
+    SCOPED_TRACE(milliseconds);
+    RoadDesk desk;
+    desk.Press(3);
+    desk.PointAt(desk.Item(1));
+    desk.Wait(milliseconds);
+    desk.PointAt(desk.Item(3));
+    desk.World.Desktop.Release();
+    EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m2i3.exe"});
+    EXPECT_EQ(desk.RealMenuUp(), 0);
+  }
+}
+
+TEST(StripAndMenu, MovingAlongTheStripAndBackShowsEachMenuAtItsButton) {
+  RoadDesk desk;
+  desk.Click(2);
+  for (const int button : {3, 4, 3, 2}) {
+    desk.PointAtButton(button);
+    desk.Wait(250);
+    EXPECT_EQ(desk.RealMenuUp(), button);
+    EXPECT_EQ(desk.RealMenu.Left(),
+              desk.Strip.Left() + static_cast<float>((24 * (button - 1) + 1) * 15));
+    EXPECT_EQ(desk.RealMenu.Top(), desk.Strip.Bottom());
+  }
+}
+
+TEST(StripAndMenu, AMenuThatWasOpenBeforeReadsNoFile) {
+  RoadDesk desk;
+  desk.Click(2);
+  desk.Click(2);
+  desk.World.Files.ClearLog();
+  desk.Click(2);
+  EXPECT_EQ(desk.RealMenuUp(), 2);
+  EXPECT_EQ(desk.World.Files.Reads(), 0);
+}
+
+TEST(StripAndMenu, ARebuildLetsTheMenuShowTheNewFile) {
+  RoadDesk desk;
+  desk.Click(2);
+  desk.Click(2);
+  desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU",
+                       Records({Entry("Menu 1"), Entry("Only", "", "C:\\Tools\\m1i1.exe")}));
+  desk.Strip.InitNewButtons();
+  desk.Click(2);
+  EXPECT_EQ(desk.RealMenu.Labels, 1);
+}
+
+TEST(StripAndMenu, TheKeyboardWalksFromMenuToMenu) {
+  RoadDesk desk;
+  desk.PointAway();
+  desk.World.Desktop.PressKey(forms::key::F10);
+  desk.World.Desktop.PressKey(forms::key::Right);
+  desk.World.Desktop.PressKey(forms::key::Enter);
+  desk.Wait(200);
+  ASSERT_EQ(desk.RealMenuUp(), 2);
+  desk.World.Desktop.PressKey(forms::key::Right);
+  desk.Wait(200);
+  EXPECT_EQ(desk.RealMenuUp(), 3);
+  desk.World.Desktop.PressKey(forms::key::Down);
+  desk.World.Desktop.PressKey(forms::key::Right);
+  desk.Wait(200);
+  EXPECT_EQ(desk.RealMenuUp(), 4);
+  desk.World.Desktop.PressKey(forms::key::Down);
+  desk.World.Desktop.PressKey(forms::key::Down);
+  desk.World.Desktop.PressKey(forms::key::Enter);
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m3i2.exe"});
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+}
+
+TEST(StripAndMenu, TheKeyboardComesRoundOverTheMainButton) {
+  RoadDesk desk;
+  desk.Click(4);
+  desk.Wait(200);
+  desk.World.Desktop.PressKey(forms::key::Right);
+  desk.Wait(200);
+  EXPECT_EQ(desk.TheProgram.CurButton, 1);
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+  desk.World.Desktop.PressKey(forms::key::Right);
+  desk.Wait(200);
+  EXPECT_EQ(desk.RealMenuUp(), 2);
+}
+
+TEST(StripAndMenu, NothingWakesTheProgramAfterAMenu) {
+  RoadDesk desk;
+  desk.Click(2);
+  desk.Wait(300);
+  desk.World.Desktop.PressKey(forms::key::Escape);
+  desk.PointAway();
+  desk.Wait(1000);
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+  EXPECT_EQ(desk.WakeUps(10'000), 0);
+}
+
+TEST(StripAndMenu, ADamagedMenuFileOpensAndTheNextOneToo) {
+  struct Row {
+    const char* name;
+    std::string bytes;
+  };
+  const Row rows[] = {{"empty", ""},
+                      {"one byte", "x"},
+                      {"a short record", std::string(569, 'a')},
+                      {"a byte too many", std::string(571, 'b')},
+                      {"NULs", std::string(5700, '\0')}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    RoadDesk desk;
+    desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", row.bytes);
+    desk.Strip.InitNewButtons();
+    desk.Click(2);
+    desk.Wait(200);
+    desk.PointAtButton(3);
+    desk.Wait(200);
+    EXPECT_EQ(desk.RealMenuUp(), 3);
+    EXPECT_EQ(desk.World.Files.Get("C:\\Corvelle\\Menus\\BMENU001.MNU"), row.bytes);
+  }
+}
+
+TEST(StripAndMenu, AFileHeldByAnotherProgramOpensAnEmptyMenuOrNoneAndTheNextOneComes) {
+  RoadDesk desk;
+  desk.World.Files.HoldOpen("C:\\Corvelle\\Menus\\BMENU001.MNU");
+  desk.Click(2);
+  desk.Wait(200);
+  EXPECT_EQ(desk.RealMenu.Labels, 0);
+  desk.PointAtButton(3);
+  desk.Wait(200);
+  EXPECT_EQ(desk.RealMenuUp(), 3);
+}
+
+TEST(StripAndMenu, TheProgramEndsWithItsMenuOpen) {
+  RoadDesk desk;
+  desk.Click(2);
+  desk.Wait(200);
+  desk.World.Desktop.Send(desk.World.Desktop.Find("frmMinimize"), forms::message::Close, 0, 0);
+  EXPECT_FALSE(desk.Strip.IsLoaded());
+  EXPECT_FALSE(desk.RealMenu.IsLoaded());
+  EXPECT_EQ(desk.World.Desktop.Clock().Running(), 0);
+  EXPECT_TRUE(desk.World.Files.Has("C:\\Corvelle\\toolbarp.dat"));
+}
+
+TEST(StripAndMenu, TheSelectedItemsBarIsSeenOnTheScreen) {
+  RoadDesk desk;
+  desk.Click(3);
+  desk.Wait(200);
+  desk.PointAt(desk.Item(2));
+  desk.Wait(200);
+  const sim::SimCanvas screen = desk.World.Desktop.Picture();
+  // The selected item's bar, in the system's colour.
+  const PixelPoint item = desk.Item(2);
+  EXPECT_EQ(screen.PixelAt({item.x + 60, item.y - 9}), desk.World.Desktop.SystemColor(13));
+}
+
+}  // namespace
+}  // namespace corvelle

@@ -1,0 +1,215 @@
+// The frame and the grip, by which the strip is moved.
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+
+#include "toolbar/StripDesk.h"
+
+namespace corvelle {
+namespace {
+
+using forms::MouseButton;
+
+constexpr const char* kPositionFile = "C:\\Corvelle\\toolbarp.dat";
+
+std::string PositionBytes(float twips) {
+  std::string bytes(sizeof twips, '\0');
+  std::memcpy(bytes.data(), &twips, sizeof twips);
+  return bytes;
+}
+
+struct NotedPopup final : PopupPort {
+  explicit NotedPopup(Program& program) : TheProgram(program) {}
+  void ShowToolbarPopup() override { Tags.push_back(TheProgram.Entry.CurMenuTag); }
+  Program& TheProgram;
+  std::vector<std::string> Tags;
+};
+
+/// A strip of four buttons, 114 pixels wide, 200 pixels from the left.
+struct Floating : StripDesk {
+  Floating() {
+    PutButtons(3);
+    World.Files.Put(kPositionFile, PositionBytes(3000));
+    Start();
+  }
+  /// A point of the grip.
+  PixelPoint Grip() const {
+    const PixelRect strip = World.Desktop.BoundsOf(Strip.hWnd());
+    return {strip.left + 1 + 4 * 24 + 4, strip.bottom - 10};
+  }
+  /// Takes the grip and moves it, without letting go.
+  void Pull(int x, int y = 0) {
+    const PixelPoint from = Grip();
+    PointAt(from);
+    World.Desktop.Press();
+    PointAt({from.x + x, from.y + y});
+  }
+  [[nodiscard]] bool LooksDragged() const {
+    return Strip.bLine3.BorderColor() == 255U && Strip.bLine3.BorderWidth() == 2;
+  }
+};
+
+TEST(ToolbarSlide, TheGripMovesTheStripAlongTheTop) {
+  Floating desk;
+  desk.Pull(100);
+  EXPECT_EQ(desk.Strip.Left(), 3000 + 100 * 15);
+  EXPECT_EQ(desk.Strip.Top(), -7 * 15);
+  EXPECT_TRUE(desk.LooksDragged());
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Strip.Left(), 4500);
+  EXPECT_FALSE(desk.LooksDragged());
+  EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(4500));
+  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+}
+
+TEST(ToolbarSlide, TheBareBoxOfSingleButtonsIsAHandleToo) {
+  Floating desk;
+  const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+  desk.PointAt({box.left + 3, box.top + 8});
+  desk.World.Desktop.Press();
+  desk.PointAt({box.left + 43, box.top + 8});
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Strip.Left(), 3000 + 40 * 15);
+}
+
+TEST(ToolbarSlide, ThreePixelsAreNoMove) {
+  Floating desk;
+  desk.Pull(3);
+  EXPECT_EQ(desk.Strip.Left(), 3000);
+  EXPECT_FALSE(desk.LooksDragged());
+  desk.World.Files.ClearLog();
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.World.Files.Count("Replace"), 0);
+}
+
+TEST(ToolbarSlide, AwayFromTheTopTheStripStaysAndIsSavedWhereItIs) {
+  Floating desk;
+  desk.Pull(100);
+  desk.PointAt({400, 300});
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Strip.Left(), 4500);
+  EXPECT_EQ(desk.Strip.Top(), -7 * 15);
+  EXPECT_FALSE(desk.LooksDragged());
+}
+
+TEST(ToolbarSlide, EndsWithinTheScreenUnlessTheOptionsLetItPass) {
+  struct Row {
+    const char* name;
+    int pull;
+    int option;
+    float left;
+  };
+  // 1750 twips stay free at the right of a strip without single buttons.
+  const Row rows[] = {{"past the right", 750, 0, 15360 - 96 * 15 - 1750},
+                      {"past the right, allowed", 750, 13, 3000 + 750 * 15},
+                      {"past the left", -250, 0, 0},
+                      {"past the left, allowed", -250, 27, 3000 - 250 * 15}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    Floating desk;
+    if (row.option != 0) desk.SetOption(row.option, true);
+    desk.Pull(row.pull);
+    desk.World.Desktop.Release();
+    EXPECT_EQ(desk.Strip.Left(), row.left);
+    EXPECT_EQ(desk.Strip.SavedLeft, row.left);
+  }
+}
+
+TEST(ToolbarSlide, AFullDiskKeepsTheOldPositionFile) {
+  Floating desk;
+  desk.World.Files.FillDisk(0);
+  desk.Pull(100);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Strip.Left(), 4500);
+  EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000));
+}
+
+TEST(ToolbarSlide, APlaceThatTheDiskRefusedIsKeptThroughARebuild) {
+  Floating desk;
+  desk.World.Files.FillDisk(0);
+  desk.Pull(100);
+  desk.World.Desktop.Release();
+  desk.Strip.InitNewButtons();
+  EXPECT_EQ(desk.Strip.Left(), 4500);
+  desk.World.Files.FreeDisk();
+  desk.Exit();
+  EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(4500));
+}
+
+TEST(ToolbarSlide, NothingMovesWhileTheStripIsPlacedAnew) {
+  Floating desk;
+  desk.TheProgram.AppBarBusy = true;
+  desk.Pull(100);
+  EXPECT_EQ(desk.Strip.Left(), 3000);
+  desk.TheProgram.AppBarBusy = false;
+  desk.World.Desktop.Release();
+}
+
+TEST(ToolbarSlide, APressDuringACarryTakesNoHold) {
+  Floating desk;
+  desk.Strip.DownX = -1;
+  desk.TheProgram.Entry.ItemDragging = true;
+  desk.Strip.Form_MouseDown(MouseButton::Left, {}, 100, 100);
+  EXPECT_EQ(desk.Strip.DownX, -1);
+}
+
+TEST(ToolbarFrame, APointerWithoutAButtonDrawsTheRestingBorder) {
+  Floating desk;
+  desk.Pull(100);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Strip.bLine1.BorderColor(), forms::color::Highlight3D);
+  EXPECT_EQ(desk.Strip.bLine2.BorderColor(), forms::color::DarkShadow3D);
+  EXPECT_EQ(desk.Strip.bLine3.BorderColor(), forms::color::DarkShadow3D);
+  EXPECT_EQ(desk.Strip.bLine4.BorderColor(), forms::color::DarkShadow3D);
+  EXPECT_EQ(desk.Strip.bLine1.BorderWidth(), 1);
+}
+
+TEST(ToolbarFrame, TheBorderLinesStandAtTheWindowsSides) {
+  struct Row {
+    const char* name;
+    float t;
+  };
+  for (const Row& row : {Row{"15 twips", 15}, Row{"12 twips", 12}}) {
+    SCOPED_TRACE(row.name);
+    StripDesk desk({.TwipsPerPixel = row.t});
+    desk.PutButtons(3);
+    desk.Start();
+    const frmToolbar& strip = desk.Strip;
+    // Four buttons: 114 by 25 pixels.
+    const float w = 114 * row.t;
+    const float h = 25 * row.t;
+    const float t = row.t;
+    ASSERT_EQ(strip.Width(), w);
+    ASSERT_EQ(strip.Height(), h);
+    const auto expect = [&](const forms::Line& line, float x1, float y1, float x2, float y2) {
+      EXPECT_EQ(line.X1(), x1) << line.Name();
+      EXPECT_EQ(line.Y1(), y1) << line.Name();
+      EXPECT_EQ(line.X2(), x2) << line.Name();
+      EXPECT_EQ(line.Y2(), y2) << line.Name();
+      EXPECT_TRUE(line.Visible()) << line.Name();
+    };
+    expect(strip.bLine1, t, 0, w - t, 0);
+    expect(strip.bLine2, 0, 0, 0, h - t);
+    expect(strip.bLine3, 0, h - t, w, h - t);
+    expect(strip.bLine4, w - t, t, w - t, h);
+    EXPECT_FALSE(strip.bLineXY.Visible());
+  }
+}
+
+TEST(ToolbarFrame, RightClicksNameTheStripAndTheGripNamesTheMainButton) {
+  Floating desk;
+  NotedPopup popup(desk.TheProgram);
+  desk.TheProgram.Ports.Popup = &popup;
+  desk.PointAt(desk.Grip());
+  desk.World.Desktop.Click(MouseButton::Right);
+  const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+  desk.PointAt({strip.left, strip.bottom - 2});
+  desk.World.Desktop.Click(MouseButton::Right);
+  const std::vector<std::string> expected = {"B1", "Toolbar"};
+  EXPECT_EQ(popup.Tags, expected);
+}
+
+}  // namespace
+}  // namespace corvelle

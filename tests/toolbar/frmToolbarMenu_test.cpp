@@ -1,0 +1,563 @@
+// The strip and its menus under the user's hands.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "toolbar/StripDesk.h"
+
+namespace corvelle {
+namespace {
+
+using forms::MouseButton;
+
+/// A program's own menu that notes nothing.
+struct OwnMenu final : MainMenuPort {
+  void xMainMenu(int, std::string_view) override {}
+  void CheckLabels() override {}
+};
+
+/// A popup that notes the entry it was shown for.
+struct NotedPopup final : PopupPort {
+  explicit NotedPopup(Program& program) : TheProgram(program) {}
+  void ShowToolbarPopup() override { Shown.push_back(TheProgram.Entry); }
+  Program& TheProgram;
+  std::vector<EntryEdit> Shown;
+};
+
+/// A strip with three menus, started.
+struct ThreeMenus : StripDesk {
+  explicit ThreeMenus(const sim::WorldOptions& options = {}) : StripDesk(options) {
+    PutButtons(3);
+    Start();
+  }
+};
+
+TEST(ToolbarPress, OpensTheMenuUnderItsButton) {
+  struct Row {
+    const char* name;
+    float twips;
+  };
+  for (const Row& row : {Row{"96 dpi", 15}, Row{"120 dpi", 12}}) {
+    SCOPED_TRACE(row.name);
+    ThreeMenus desk({.TwipsPerPixel = row.twips});
+    desk.Press(3);
+    EXPECT_EQ(desk.MenuUp(), 3);
+    EXPECT_EQ(desk.Menu.CurrentKey(), "F3");
+    EXPECT_EQ(desk.Menu.LastFile, "C:\\Corvelle\\Menus\\BMENU002.MNU");
+    EXPECT_EQ(desk.Menu.Top(), desk.Strip.Bottom());
+    EXPECT_EQ(desk.Menu.Left(), desk.Strip.Left() + (2 * 24 + 1) * row.twips);
+    EXPECT_TRUE(desk.TheProgram.MenuOpen);
+    EXPECT_TRUE(desk.Menu.Poll);
+  }
+}
+
+TEST(ToolbarPress, ShowsTheButtonPressedAndTheOthersAtRest) {
+  ThreeMenus desk;
+  desk.Press(2);
+  EXPECT_FALSE(desk.Strip.LinTB1[2].Visible());
+  EXPECT_FALSE(desk.Strip.LinTB2[2].Visible());
+  EXPECT_TRUE(desk.AtRest(4));
+  // The neighbours lend their lines: the left one is the shadow, the right one the light.
+  EXPECT_EQ(desk.Strip.LinTB2[1].BorderColor(), forms::color::ButtonShadow);
+  EXPECT_TRUE(desk.Strip.LinTB2[1].Visible());
+  EXPECT_EQ(desk.Strip.LinTB1[3].BorderColor(), forms::color::Highlight3D);
+  EXPECT_TRUE(desk.Strip.LinTB1[3].Visible());
+}
+
+TEST(ToolbarPress, ASecondOneClosesTheMenuAndAThirdOpensIt) {
+  ThreeMenus desk;
+  for (int round = 1; round <= 3; ++round) {
+    SCOPED_TRACE(round);
+    desk.Click(2);
+    desk.Wait(300);
+    EXPECT_EQ(desk.MenuUp(), 2);
+    desk.Click(2);
+    desk.Wait(300);
+    EXPECT_EQ(desk.MenuUp(), 0);
+    EXPECT_EQ(desk.Menu.OwnerTag(), "0");
+    EXPECT_FALSE(desk.TheProgram.MenuOpen);
+    EXPECT_TRUE(desk.AtRest(2));
+  }
+}
+
+TEST(ToolbarPress, ASecondOneClosesTheMenuBeforeItsRelease) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Press(2);
+  EXPECT_EQ(desk.MenuUp(), 0);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarPress, AQuickSecondOneClosesTheMenuToo) {
+  ThreeMenus desk;
+  desk.PointAtButton(2);
+  desk.World.Desktop.DoubleClick();
+  desk.Wait(300);
+  EXPECT_EQ(desk.MenuUp(), 0);
+  desk.Click(2);
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarPress, OfTheRightButtonOpensNothing) {
+  ThreeMenus desk;
+  desk.PointAtButton(2);
+  desk.World.Desktop.Click(MouseButton::Right);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarPress, WhileAMenuIsBuiltOpensNoOther) {
+  ThreeMenus desk;
+  desk.Menu.WhileBuilding = [&] {
+    desk.Click(3);
+    desk.TheProgram.DoEvents();
+  };
+  desk.Press(2);
+  EXPECT_EQ(desk.Menu.Times("ShowMenu F2"), 1);
+  EXPECT_EQ(desk.Menu.Times("ShowMenu F3"), 0);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  EXPECT_TRUE(desk.AtRest(3));
+}
+
+TEST(ToolbarPress, AMenuThatWasBuiltUnderAnotherButtonsPressStandsAtItsOwnButton) {
+  ThreeMenus desk;
+  desk.Menu.WhileBuilding = [&] {
+    desk.PointAtButton(4);
+    desk.TheProgram.DoEvents();
+  };
+  desk.Press(2);
+  EXPECT_EQ(desk.Menu.Left(), desk.Strip.Left() + 25 * 15);
+}
+
+TEST(ToolbarPress, TheProgramMayEndWhileAMenuIsBuilt) {
+  ThreeMenus desk;
+  desk.Menu.WhileBuilding = [&] { desk.Exit(); };
+  desk.Press(2);
+  EXPECT_FALSE(desk.Strip.IsLoaded());
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarPress, AMenuThatIsClosedWhileItIsBuiltStaysClosed) {
+  for (const bool refuses : {false, true}) {
+    SCOPED_TRACE(refuses);
+    ThreeMenus desk;
+    desk.Menu.Refuses = refuses;
+    desk.Menu.WhileBuilding = [&] { desk.Strip.ResetMenu(); };
+    desk.Press(2);
+    EXPECT_EQ(desk.MenuUp(), 0);
+    EXPECT_FALSE(desk.TheProgram.MenuOpen);
+    EXPECT_FALSE(desk.Strip.Timer2.Enabled());
+    EXPECT_TRUE(desk.AtRest(2));
+  }
+}
+
+TEST(ToolbarPress, AMenuThatCannotBeShownLeavesTheStripAtRest) {
+  ThreeMenus desk;
+  desk.Menu.Refuses = true;
+  desk.Click(2);
+  EXPECT_TRUE(desk.AtRest(2));
+  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  desk.Menu.Refuses = false;
+  desk.Click(2);
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarPress, OnASeparatorOpensNothing) {
+  StripDesk desk;
+  desk.PutButton(1, "First");
+  desk.PutButton(2, "", "MenuLineSeparator");
+  desk.PutButton(3, "Third");
+  desk.Start();
+  // 12 pixels from the middle of button 2 to its end, and 4 more.
+  desk.PointAt({desk.Middle(2).x + 16, desk.Middle(2).y});
+  desk.World.Desktop.Click();
+  EXPECT_EQ(desk.MenuUp(), 0);
+  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+}
+
+TEST(ToolbarHover, WithAMenuOpenTheNextButtonsMenuComesWithoutAClick) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Wait();
+  desk.PointAtButton(3);
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 3);
+  desk.PointAtButton(4);
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 4);
+  EXPECT_TRUE(desk.AtRest(2));
+}
+
+TEST(ToolbarHover, ThePollFindsAPointerWhoseMoveNobodyReported) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Wait();
+  ASSERT_TRUE(desk.Strip.Timer2.Enabled());
+  // The menu window has the capture: the strip gets no move.
+  desk.World.Desktop.SetPointerPosition(desk.Middle(3));
+  desk.Strip.Timer2_Timer();
+  EXPECT_EQ(desk.MenuUp(), 3);
+}
+
+TEST(ToolbarHover, WithNoMenuOpenNothingComes) {
+  ThreeMenus desk;
+  for (int button = 1; button <= 4; ++button) {
+    desk.PointAtButton(button);
+    desk.Wait();
+    EXPECT_EQ(desk.TheProgram.CurButton, button);
+  }
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarHover, AfterASecondPressNothingComesEither) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Click(2);
+  desk.PointAtButton(3);
+  desk.Wait(300);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarHover, CrossingAGapKeepsTheMenu) {
+  ThreeMenus desk;
+  desk.PutButton(3, "", "MenuLineSeparator");
+  desk.Strip.InitNewButtons();
+  ASSERT_EQ(desk.Strip.SepCount, 1);
+  desk.Click(3);
+  desk.Wait();
+  desk.PointAt({desk.Middle(3).x + 14, desk.Middle(3).y});
+  desk.Wait(300);
+  EXPECT_EQ(desk.TheProgram.CurButton, 3);
+  EXPECT_EQ(desk.MenuUp(), 3);
+}
+
+TEST(ToolbarHover, InTheMenuItStaysOpen) {
+  ThreeMenus desk;
+  desk.Click(2);
+  const PixelRect menu = desk.World.Desktop.BoundsOf(desk.Menu.hWnd());
+  desk.PointAt({menu.left + 20, menu.top + 100});
+  desk.Wait(1000);
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarHover, TheMainButtonWithoutAMenuHidesTheOpenOneAndTheNextComesBack) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Wait();
+  desk.PointAtButton(1);
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 0);
+  EXPECT_FALSE(desk.Strip.Timer2.Enabled());
+  desk.PointAtButton(3);
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 3);
+}
+
+TEST(ToolbarHover, AMenuHiddenThatWayIsForgottenWhenTheUserGoesElsewhere) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.PointAtButton(1);
+  desk.Wait();
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
+  desk.World.Desktop.TakeForeground(other);
+  desk.Wait();
+  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  desk.PointAtButton(3);
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarHover, TheSingleButtonsHideTheMenu) {
+  ThreeMenus desk;
+  desk.Click(4);
+  desk.Wait();
+  const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+  desk.PointAt({box.left + 3, box.top + 8});
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 0);
+  for (int i = 1; i <= 4; ++i) EXPECT_TRUE(desk.AtRest(i)) << i;
+}
+
+TEST(ToolbarClose, AnotherProgramInTheForegroundClosesTheMenu) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Wait();
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
+  desk.PointAway();
+  desk.World.Desktop.TakeForeground(other);
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 0);
+  EXPECT_TRUE(desk.AtRest(2));
+  EXPECT_FALSE(desk.Strip.Timer2.Enabled());
+}
+
+TEST(ToolbarClose, APressOnTheFrameClosesTheMenu) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Wait();
+  const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+  // The grip, between both boxes.
+  desk.PointAt({strip.left + 1 + 4 * 24 + 4, strip.bottom - 10});
+  desk.World.Desktop.Click();
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarClose, ThePollEndsWithAMenuThatWentByItself) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Wait();
+  ASSERT_TRUE(desk.Strip.Timer2.Enabled());
+  desk.Menu.Hide();
+  desk.Wait();
+  EXPECT_FALSE(desk.Strip.Timer2.Enabled());
+}
+
+TEST(ToolbarClose, AMenuOnTheScreenIsClosedThoughNoneIsMarkedOpen) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.TheProgram.MenuOpen = false;
+  desk.Strip.ResetMenu();
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarDrag, HeldIntoTheMenuThePointerAndTheReleaseAreHandedOn) {
+  ThreeMenus desk;
+  desk.Press(2);
+  const PixelRect menu = desk.World.Desktop.BoundsOf(desk.Menu.hWnd());
+  desk.PointAt({menu.left + 20, menu.top + 43});
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Menu.Times("xMouseMove 600"), 1);
+  EXPECT_EQ(desk.Menu.Times("xMouseUp 1 255 600"), 1);
+}
+
+TEST(ToolbarRefresh, AMenuIsReadAnewAndComesBackOnItsPage) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Menu.Asked.clear();
+  desk.Strip.RefreshMenu("F2");
+  const std::vector<std::string> expected = {"ResetQMenu", "ShowMenu F2", "GetCurMenu"};
+  std::vector<std::string> asked;
+  for (const std::string& what : desk.Menu.Asked) {
+    if (asked.empty() || asked.back() != what) asked.push_back(what);
+  }
+  EXPECT_EQ(asked, expected);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  EXPECT_TRUE(desk.Strip.Enabled());
+  EXPECT_TRUE(desk.Strip.Timer2.Enabled());
+  EXPECT_TRUE(desk.Menu.Poll);
+}
+
+TEST(ToolbarRefresh, AnEmptyTagTakesTheLastOne) {
+  ThreeMenus desk;
+  desk.Click(3);
+  desk.Menu.Asked.clear();
+  desk.Strip.RefreshMenu("");
+  EXPECT_EQ(desk.Menu.Times("ShowMenu F3"), 1);
+}
+
+TEST(ToolbarRefresh, ATagWithoutAButtonOpensNothing) {
+  for (const char* tag : {"Toolbar", "F0", "F99", "Fx", "F-1", "SingleButtons"}) {
+    SCOPED_TRACE(tag);
+    ThreeMenus desk;
+    desk.Strip.RefreshMenu(tag);
+    desk.Strip.OpenMenu(tag);
+    EXPECT_EQ(desk.MenuUp(), 0);
+    EXPECT_TRUE(desk.Strip.Enabled());
+    EXPECT_FALSE(desk.Strip.MenuRefreshing);
+  }
+}
+
+TEST(ToolbarRefresh, OneThatArrivesWithinAnotherDoesNothing) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Menu.Asked.clear();
+  desk.Menu.WhileBuilding = [&] { desk.Strip.RefreshMenu("F2"); };
+  desk.Strip.RefreshMenu("F2");
+  EXPECT_EQ(desk.Menu.Times("ShowMenu F2"), 1);
+  EXPECT_FALSE(desk.Strip.MenuRefreshing);
+}
+
+TEST(ToolbarMainMenu, APressOpensNothingInAProgramWithoutOne) {
+  ThreeMenus desk;
+  desk.Click(1);
+  EXPECT_EQ(desk.MenuUp(), 0);
+  EXPECT_TRUE(desk.AtRest(1));
+  EXPECT_FALSE(desk.World.Files.Has("C:\\Corvelle\\mainmenu.dat"));
+}
+
+TEST(ToolbarMainMenu, APressClosesTheMenuOfAnother) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Click(1);
+  EXPECT_EQ(desk.MenuUp(), 0);
+  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+}
+
+TEST(ToolbarMainMenu, ItsFileIsWrittenAnewOnlyWhenTheMenuIsNotBuilt) {
+  ThreeMenus desk;
+  OwnMenu own;
+  desk.TheProgram.Ports.MainMenu = &own;
+  desk.Click(1);
+  EXPECT_EQ(desk.Menu.CurrentKey(), "Q1");
+  EXPECT_EQ(desk.Menu.LastFile, "C:\\Corvelle\\mainmenu.dat");
+  EXPECT_TRUE(desk.World.Files.Has("C:\\Corvelle\\mainmenu.dat"));
+  desk.Click(1);
+  desk.World.Files.Vanish("C:\\Corvelle\\mainmenu.dat");
+  desk.Click(1);
+  EXPECT_EQ(desk.MenuUp(), 1);
+  EXPECT_FALSE(desk.World.Files.Has("C:\\Corvelle\\mainmenu.dat"));
+}
+
+TEST(ToolbarKeys, LeftAndRightGoRoundTheStripWithThePointer) {
+  struct Row {
+    const char* name;
+    int key;
+    int from;
+    int to;
+  };
+  const Row rows[] = {{"right", 39, 2, 3},
+                      {"right from the last", 39, 4, 1},
+                      {"left", 37, 3, 2},
+                      {"left from the first", 37, 1, 4}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    ThreeMenus desk;
+    desk.PointAtButton(row.from);
+    desk.World.Desktop.PressKey(row.key);
+    EXPECT_EQ(desk.TheProgram.CurButton, row.to);
+    EXPECT_EQ(desk.World.Desktop.WindowAt(desk.World.Desktop.PointerPosition()),
+              desk.Strip.picToolbar.hWnd());
+  }
+}
+
+TEST(ToolbarKeys, F10StartsAtTheFirstButtonAndEnterOpensAMenu) {
+  ThreeMenus desk;
+  desk.PointAway();
+  desk.World.Desktop.PressKey(forms::key::F10);
+  EXPECT_EQ(desk.TheProgram.CurButton, 1);
+  desk.World.Desktop.PressKey(forms::key::Right);
+  desk.World.Desktop.PressKey(forms::key::Enter);
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarKeys, F10StartsAnewAfterThePointerLeftTheStrip) {
+  ThreeMenus desk;
+  desk.PointAtButton(3);
+  desk.PointAway();
+  desk.World.Desktop.PressKey(forms::key::F10);
+  EXPECT_EQ(desk.TheProgram.CurButton, 1);
+}
+
+TEST(ToolbarKeys, EnterClosesAnOpenMenuWhenTheStripHasTheKeyboard) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Strip.SetFocus();
+  desk.World.Desktop.PressKey(forms::key::Enter);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarKeys, EscClosesTheMenu) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Strip.SetFocus();
+  desk.World.Desktop.PressKey(forms::key::Escape);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarKeys, OtherKeysAndLettersGoToTheMenuThatIsUp) {
+  ThreeMenus desk;
+  desk.World.Desktop.PressKey(forms::key::Down);
+  EXPECT_EQ(desk.Menu.Times("ActivateKeyDown 40"), 0);
+  desk.Click(2);
+  desk.Strip.SetFocus();
+  desk.World.Desktop.PressKey(forms::key::Down);
+  desk.World.Desktop.Type("a ");
+  EXPECT_EQ(desk.Menu.Times("ActivateKeyDown 40"), 1);
+  EXPECT_EQ(desk.Menu.Times("xKeyPress 97"), 1);
+  EXPECT_EQ(desk.Menu.Times("xKeyPress 32"), 0);
+}
+
+TEST(ToolbarKeys, AKeyOfTheMenuMovesToTheNextButtonsMenu) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.Strip.ActivateKeyDown(forms::key::Right);
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 3);
+  desk.Strip.ActivateKeyDown(forms::key::Left);
+  desk.Wait();
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarKeys, AKeyOfTheMenuDoesNothingDuringACarry) {
+  ThreeMenus desk;
+  desk.Click(2);
+  desk.TheProgram.Entry.ItemDragging = true;
+  desk.Strip.ActivateKeyDown(forms::key::Right);
+  EXPECT_EQ(desk.TheProgram.CurButton, 2);
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarCarry, IsAbandonedWhenNoMouseButtonIsDown) {
+  ThreeMenus desk;
+  desk.TheProgram.Entry.ItemDragging = true;
+  desk.TheProgram.Entry.CurTitle = "Carried";
+  desk.World.Desktop.SetMousePointer(forms::MousePointer::Hourglass);
+  desk.Strip.GetCurButton();
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_TRUE(desk.TheProgram.Entry.CurTitle.empty());
+  EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
+}
+
+TEST(ToolbarPopup, ARightClickOnAButtonNamesItsRecord) {
+  ThreeMenus desk;
+  NotedPopup popup(desk.TheProgram);
+  desk.TheProgram.Ports.Popup = &popup;
+  desk.Click(4);
+  desk.PointAtButton(3);
+  desk.World.Desktop.Click(MouseButton::Right);
+  ASSERT_EQ(popup.Shown.size(), 1U);
+  EXPECT_EQ(popup.Shown[0].CurMenuTag, "B3");
+  EXPECT_EQ(popup.Shown[0].CurRecord, 1);
+  EXPECT_EQ(popup.Shown[0].CurTitle, "Menu 2");
+  EXPECT_EQ(popup.Shown[0].CurIcon, "Button");
+  EXPECT_EQ(popup.Shown[0].CurFile, "C:\\Corvelle\\Menus\\BMENU002.MNU");
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarPopup, ItsButtonsMenuIsTheOneThatIsReadAnewWithoutATag) {
+  ThreeMenus desk;
+  NotedPopup popup(desk.TheProgram);
+  desk.TheProgram.Ports.Popup = &popup;
+  desk.PointAtButton(3);
+  desk.World.Desktop.Click(MouseButton::Right);
+  desk.Strip.OpenMenu("");
+  EXPECT_EQ(desk.MenuUp(), 3);
+}
+
+TEST(ToolbarPopup, TheMainButtonHasNoRecord) {
+  ThreeMenus desk;
+  NotedPopup popup(desk.TheProgram);
+  desk.TheProgram.Ports.Popup = &popup;
+  desk.PointAtButton(1);
+  desk.World.Desktop.Click(MouseButton::Right);
+  ASSERT_EQ(popup.Shown.size(), 1U);
+  EXPECT_EQ(popup.Shown[0].CurMenuTag, "B1");
+  EXPECT_EQ(popup.Shown[0].CurRecord, 0);
+  EXPECT_TRUE(popup.Shown[0].CurFile.empty());
+}
+
+TEST(ToolbarPopup, OfAButtonWhoseFileIsGoneHasEmptyTexts) {
+  ThreeMenus desk;
+  NotedPopup popup(desk.TheProgram);
+  desk.TheProgram.Ports.Popup = &popup;
+  desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU002.MNU");
+  desk.PointAtButton(3);
+  desk.World.Desktop.Click(MouseButton::Right);
+  ASSERT_EQ(popup.Shown.size(), 1U);
+  EXPECT_TRUE(popup.Shown[0].CurTitle.empty());
+  EXPECT_FALSE(desk.HasMenuFile("BMENU002.MNU"));
+}
+
+}  // namespace
+}  // namespace corvelle

@@ -1,0 +1,284 @@
+// What the system and other programs say to the strip, and what wakes it.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "toolbar/StripDesk.h"
+
+namespace corvelle {
+namespace {
+
+namespace message = forms::message;
+
+struct Started : StripDesk {
+  Started() {
+    PutButtons(2);
+    Start();
+  }
+  std::intptr_t Send(std::uint32_t what, std::uintptr_t wParam = 0, std::intptr_t lParam = 0) {
+    return World.Desktop.Send(Strip.hWnd(), what, wParam, lParam);
+  }
+  /// The calls on the strip's place in the Z order since the log was cleared.
+  [[nodiscard]] std::vector<std::string> OrderCalls() const {
+    std::vector<std::string> calls;
+    for (const std::string& line : World.Desktop.Log()) {
+      if (line.starts_with("setwindowpos frm")) calls.push_back(line);
+    }
+    return calls;
+  }
+};
+
+TEST(ToolbarLoad, TheWindowIsTopmostUnlessOthersMayCoverIt) {
+  for (const bool notOnTop : {false, true}) {
+    SCOPED_TRACE(notOnTop);
+    StripDesk desk;
+    desk.TheProgram.NotOnTop = notOnTop;
+    desk.PutButtons(1);
+    desk.Start();
+    EXPECT_EQ(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()), !notOnTop);
+  }
+}
+
+TEST(ToolbarLoad, TheWindowHasItsTagNoCaptionAndTheKeyboard) {
+  Started desk;
+  EXPECT_EQ(desk.Strip.Tag, "ToolbarWindow");
+  EXPECT_EQ(desk.Strip.Caption(), "");
+  EXPECT_EQ(desk.Strip.BackColor(), forms::color::ButtonFace);
+  EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Strip.hWnd());
+  EXPECT_EQ(desk.Menu.Times("InitIcons"), 1);
+}
+
+TEST(ToolbarLoad, NothingOfItIsSeenBeforeItStands) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  const auto& log = desk.World.Desktop.Log();
+  const auto shown = std::find(log.begin(), log.end(), "show frmToolbar Normal");
+  ASSERT_NE(shown, log.end());
+  const auto placed = std::find(log.begin(), log.end(), "bounds frmToolbar 874,-7,964,18");
+  EXPECT_LT(placed, shown);
+}
+
+TEST(ToolbarColours, AChangeDrawsTheButtonsAnewAndMovesNothing) {
+  Started desk;
+  const float left = desk.Strip.picToolbar.Left();
+  const float width = desk.Strip.picToolbar.Width();
+  const float singlesLeft = desk.Strip.picSingleButton.Left();
+  const float singlesWidth = desk.Strip.picSingleButton.Width();
+  const float window = desk.Strip.Left();
+  const int painted = desk.World.Desktop.PaintCount(desk.Strip.picToolbar.hWnd());
+  desk.World.Desktop.SetSystemColor(15, 0x00123456);
+  desk.World.Desktop.Pump();
+  EXPECT_GT(desk.World.Desktop.PaintCount(desk.Strip.picToolbar.hWnd()), painted);
+  EXPECT_EQ(desk.Strip.picToolbar.Image()->PixelAt({20, 1}), 0x00123456U);
+  EXPECT_EQ(desk.Strip.picToolbar.Left(), left);
+  EXPECT_EQ(desk.Strip.picToolbar.Width(), width);
+  EXPECT_EQ(desk.Strip.picSingleButton.Left(), singlesLeft);
+  EXPECT_EQ(desk.Strip.picSingleButton.Width(), singlesWidth);
+  EXPECT_EQ(desk.Strip.Left(), window);
+  EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 1);
+}
+
+TEST(ToolbarColours, AnotherColourThanTheFaceDrawsNothingAnew) {
+  Started desk;
+  desk.World.Icons.ClearCounts();
+  desk.World.Files.ClearLog();
+  desk.Send(message::SysColorChange);
+  EXPECT_TRUE(desk.World.Files.Log().empty());
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 0);
+}
+
+TEST(ToolbarColours, ARefreshKeepsABoxThatIsHidden) {
+  Started desk;
+  desk.Strip.picToolbar.SetVisible(false);
+  desk.Strip.RefreshToolbar();
+  EXPECT_FALSE(desk.Strip.picToolbar.Visible());
+}
+
+TEST(ToolbarRepaint, OfAStandingStripAsksForNoIcons) {
+  Started desk;
+  EXPECT_NE(desk.Strip.picToolbar.Background(), nullptr);
+  desk.World.Icons.ClearCounts();
+  desk.World.Files.ClearLog();
+  desk.Strip.picToolbar.InvalidateAll();
+  desk.Strip.InvalidateAll();
+  desk.World.Desktop.Pump();
+  EXPECT_EQ(desk.World.Icons.Lookups(), 0);
+  EXPECT_EQ(desk.World.Icons.Draws(), 0);
+  EXPECT_TRUE(desk.World.Files.Log().empty());
+}
+
+TEST(ToolbarIcons, TheIconOfAFileStandsInItsButton) {
+  StripDesk desk;
+  desk.World.Files.Put("C:\\Tools\\tool.txt", "x");
+  desk.World.Icons.SetIndex("C:\\Tools\\tool.txt", 5);
+  desk.PutButton(1, "Tool", "C:\\Tools\\tool.txt");
+  desk.PutButton(2, "Plain", "Button");
+  desk.Start();
+  const Picture strip = desk.Strip.picToolbar.Image();
+  // Button 2: X = 24 + (23 - 16) / 2.5, which rounds to 27, and 1; Y = 22 / 2 - 16 / 2 + 1 + 1.
+  EXPECT_EQ(strip->PixelAt({28, 5}), sim::SimShellIcons::ColourOf(5));
+  EXPECT_EQ(strip->PixelAt({43, 20}), sim::SimShellIcons::ColourOf(5));
+  EXPECT_NE(strip->PixelAt({27, 5}), sim::SimShellIcons::ColourOf(5));
+  EXPECT_NE(strip->PixelAt({28, 4}), sim::SimShellIcons::ColourOf(5));
+  const Rgb face = desk.World.Desktop.SystemColor(15);
+  EXPECT_EQ(strip->PixelAt({55, 10}), face);
+}
+
+TEST(ToolbarDisplay, AnotherScreenWidthEmptiesTheIconCollections) {
+  Started desk;
+  desk.Click(2);
+  desk.Menu.Built.insert("F3");
+  desk.World.Desktop.SetScreen({1280, 1024});
+  desk.World.Desktop.Pump();
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 1);
+  EXPECT_FALSE(desk.Menu.HasBuiltMenu("F3"));
+  desk.World.Desktop.SetScreen({1280, 768});
+  desk.World.Desktop.Pump();
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 1);
+}
+
+TEST(ToolbarUnload, MarkedCollectionsAreEmptiedOnce) {
+  Started desk;
+  desk.Strip.CollectionsMarked = true;
+  desk.Strip.InitNewButtons();
+  desk.Strip.InitNewButtons();
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 1);
+}
+
+TEST(ToolbarMove, WhoeverMovesAFloatingStripItKeepsItsHeightOnTheScreen) {
+  Started desk;
+  desk.Strip.SetTop(3000);
+  EXPECT_EQ(desk.Strip.Top(), -7 * 15);
+  desk.Strip.SetLeft(1500);
+  EXPECT_EQ(desk.Strip.Left(), 1500);
+}
+
+TEST(ToolbarMove, IsLeftAloneWhileTheStripIsPlacedAnew) {
+  struct Row {
+    const char* name;
+    bool Program::*flag;
+  };
+  const Row rows[] = {{"starting up", &Program::StartingUp},
+                      {"a repositioning", &Program::AppBarBusy},
+                      {"docked", &Program::AppBarDocked},
+                      {"a restore", &Program::RestoreBusy}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    Started desk;
+    desk.TheProgram.*row.flag = true;
+    desk.Strip.SetTop(3000);
+    EXPECT_EQ(desk.Strip.Top(), 3000);
+    desk.TheProgram.*row.flag = false;
+  }
+}
+
+TEST(ToolbarFullScreen, TheStripSinksBelowTheProgramAndComesBackWithTheMenuWindow) {
+  Started desk;
+  desk.World.Desktop.ClearLog();
+  desk.Send(message::AppBarCallback, 2, 1);
+  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_EQ(desk.OrderCalls(), std::vector<std::string>{"setwindowpos frmToolbar 1 19"});
+  desk.World.Desktop.ClearLog();
+  desk.Send(message::AppBarCallback, 2, 0);
+  EXPECT_FALSE(desk.TheProgram.FullScreenApp);
+  const std::vector<std::string> expected = {"setwindowpos frmToolbar -1 67",
+                                             "setwindowpos frmQMenu -1 131"};
+  EXPECT_EQ(desk.OrderCalls(), expected);
+}
+
+TEST(ToolbarFullScreen, WithOption4TheStripStaysAbove) {
+  Started desk;
+  desk.SetOption(4, true);
+  desk.World.Desktop.ClearLog();
+  desk.Send(message::AppBarCallback, 2, 1);
+  desk.Send(message::AppBarCallback, 2, 1);
+  EXPECT_EQ(desk.OrderCalls(), std::vector<std::string>{"setwindowpos frmToolbar 0 19"});
+  desk.Send(message::AppBarCallback, 2, 0);
+  EXPECT_FALSE(desk.TheProgram.FullScreenApp);
+  EXPECT_EQ(desk.OrderCalls().size(), 2U);
+}
+
+TEST(ToolbarFullScreen, AStripThatOthersMayCoverDoesNothing) {
+  Started desk;
+  desk.TheProgram.NotOnTop = true;
+  desk.World.Desktop.ClearLog();
+  desk.Send(message::AppBarCallback, 2, 1);
+  EXPECT_TRUE(desk.OrderCalls().empty());
+  EXPECT_FALSE(desk.TheProgram.FullScreenApp);
+}
+
+TEST(ToolbarGuard, AStripThatIsNotReadyOnlyNotesFullScreenPrograms) {
+  Started desk;
+  desk.TheProgram.ToolbarReady = false;
+  desk.World.Desktop.ClearLog();
+  desk.Send(message::AppBarCallback, 2, 1);
+  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_TRUE(desk.OrderCalls().empty());
+  desk.World.Desktop.SetSystemColor(15, 0x00123456);
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 0);
+}
+
+TEST(ToolbarGuard, AMinimizedStripThatIsPlacedAnewOnlyNotesFullScreenPrograms) {
+  Started desk;
+  desk.TheProgram.AppBarBusy = true;
+  desk.TheProgram.ToolbarMinimized = true;
+  desk.World.Desktop.ClearLog();
+  desk.Send(message::AppBarCallback, 2, 1);
+  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_TRUE(desk.OrderCalls().empty());
+  desk.TheProgram.AppBarBusy = false;
+  desk.TheProgram.ToolbarMinimized = false;
+}
+
+TEST(ToolbarGuard, ACloseFromOutsideLeavesTheStripStanding) {
+  Started desk;
+  desk.Send(message::Close);
+  EXPECT_TRUE(desk.Strip.IsLoaded());
+  EXPECT_TRUE(desk.Strip.Visible());
+}
+
+TEST(ToolbarIdle, NothingWakesTheProgram) {
+  Started desk;
+  desk.Wait(1000);
+  EXPECT_EQ(desk.WakeUps(10'000), 0);
+}
+
+TEST(ToolbarIdle, NothingWakesItAfterAMenuEither) {
+  Started desk;
+  desk.Click(2);
+  desk.Wait(500);
+  desk.Click(2);
+  desk.Wait(1000);
+  EXPECT_EQ(desk.WakeUps(10'000), 0);
+  desk.Click(3);
+  desk.PointAtButton(1);
+  desk.Wait(1000);
+  EXPECT_EQ(desk.WakeUps(10'000), 0);
+}
+
+TEST(ToolbarForeground, TheStripComesForwardFromAnotherProgramsTurn) {
+  Started desk;
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
+  desk.World.Desktop.TakeForeground(other);
+  desk.World.Desktop.LockForeground(true);
+  desk.Strip.BringToForeground();
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Strip.hWnd());
+  desk.Wait(1000);
+  EXPECT_EQ(desk.WakeUps(10'000), 0);
+}
+
+TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromAnOpenMenu) {
+  Started desk;
+  desk.Strip.BringToForeground();
+  desk.Click(2);
+  desk.Wait(400);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Menu.hWnd());
+}
+
+}  // namespace
+}  // namespace corvelle
