@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace corvelle::win32 {
+
+/// True if a name, without its folder, fits a pattern with "*" and "?" as the shell takes them,
+/// without regard to case: "*.*" fits every name, "?" also the end of a name or of the part before
+/// a point, and a point at the pattern's end asks for a name without one.
+[[nodiscard]] bool FitsPattern(std::string_view name, std::string_view pattern);
+
+/// True if the last name of a path stands for a device (CON, NUL, COM1...), with an extension too.
+[[nodiscard]] bool NamesDevice(std::string_view path);
+
+}  // namespace corvelle::win32

@@ -1,0 +1,53 @@
+#include "win32/FontCache.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "base/Numbers.h"
+#include "win32/Wide.h"
+
+namespace corvelle::win32 {
+
+namespace {
+
+constexpr double kPointsOfAnInch = 72;
+
+}  // namespace
+
+UniqueFont FontCache::Make(const FontSpec& spec) const {
+  const int dotsOfAnInch = GetDeviceCaps(dc_.Get(), LOGPIXELSY);
+  LOGFONTW font{};
+  font.lfHeight = -RoundToInt(static_cast<double>(spec.Points) * dotsOfAnInch / kPointsOfAnInch);
+  font.lfWeight = spec.Bold ? FW_BOLD : FW_NORMAL;
+  font.lfCharSet = DEFAULT_CHARSET;
+  const std::wstring face = spec.Face.empty() ? L"MS Shell Dlg 2" : Wide(spec.Face);
+  const std::size_t length = std::min<std::size_t>(face.size(), LF_FACESIZE - 1);
+  std::copy_n(face.begin(), length, font.lfFaceName);
+  return UniqueFont(CreateFontIndirectW(&font));
+}
+
+HFONT FontCache::Get(const FontSpec& spec) {
+  const auto at = std::find_if(fonts_.begin(), fonts_.end(),
+                               [&](const Entry& entry) { return entry.Spec == spec; });
+  if (at != fonts_.end()) {
+    std::rotate(at, at + 1, fonts_.end());
+  } else {
+    if (fonts_.size() == kMostFonts) fonts_.erase(fonts_.begin());
+    fonts_.push_back({spec, Make(spec)});
+  }
+  const UniqueFont& font = fonts_.back().Font;
+  return font ? font.Get() : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+}
+
+PixelSize FontCache::Measure(std::string_view text, const FontSpec& spec) {
+  const SelectedObject font(dc_.Get(), Get(spec));
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(dc_.Get(), &metrics);
+  const std::wstring wide = Wide(text);
+  SIZE size{};
+  GetTextExtentPoint32W(dc_.Get(), wide.data(), static_cast<int>(wide.size()), &size);
+  return {static_cast<int>(size.cx), static_cast<int>(metrics.tmHeight)};
+}
+
+}  // namespace corvelle::win32

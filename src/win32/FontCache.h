@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "platform/Canvas.h"
+#include "win32/UniqueHandle.h"
+
+namespace corvelle::win32 {
+
+/// The fonts that the program draws with. It keeps the last few, since the same ones are asked for
+/// again and again.
+class FontCache {
+ public:
+  static constexpr std::size_t kMostFonts = 12;
+
+  /// The font for the screen's resolution; the system's own when it cannot be made. Stays valid
+  /// until the next call.
+  [[nodiscard]] HFONT Get(const FontSpec& spec);
+
+  /// Size in pixels of one line of text.
+  [[nodiscard]] PixelSize Measure(std::string_view text, const FontSpec& spec);
+
+ private:
+  struct Entry {
+    FontSpec Spec;
+    UniqueFont Font;
+  };
+
+  [[nodiscard]] UniqueFont Make(const FontSpec& spec) const;
+
+  UniqueMemoryDc dc_{CreateCompatibleDC(nullptr)};  // to measure with
+  std::vector<Entry> fonts_;                        // the one used last at the end
+};
+
+}  // namespace corvelle::win32

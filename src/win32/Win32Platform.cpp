@@ -1,0 +1,65 @@
+#include "win32/Win32Platform.h"
+
+#include <ole2.h>
+
+#include "win32/Win32CodePage.h"
+#include "win32/Win32Desktop.h"
+#include "win32/Win32Files.h"
+#include "win32/Win32Input.h"
+#include "win32/Win32Registry.h"
+#include "win32/Win32ShellExec.h"
+#include "win32/Win32ShellIcons.h"
+#include "win32/Win32SystemInfo.h"
+#include "win32/Win32WindowSystem.h"
+
+namespace corvelle::win32 {
+
+namespace {
+
+/// OLE for this thread: the shell and drag and drop want it.
+class OleScope {
+ public:
+  OleScope() noexcept : ready_(SUCCEEDED(OleInitialize(nullptr))) {}
+  OleScope(const OleScope&) = delete;
+  OleScope& operator=(const OleScope&) = delete;
+  ~OleScope() {
+    if (ready_) OleUninitialize();
+  }
+
+ private:
+  bool ready_;
+};
+
+}  // namespace
+
+// In the order in which they are made; the windows end first.
+struct Win32Platform::Parts {
+  OleScope Ole;
+  Win32Files Files;
+  Win32CodePage Ansi;
+  Win32Registry Keys;
+  Win32ShellExec Shell;
+  Win32ShellIcons Icons;
+  Win32Input Pointer;
+  Win32Desktop Desktop;
+  Win32SystemInfo System;
+  Win32WindowSystem Windows;
+};
+
+Win32Platform::Win32Platform() : parts_(std::make_unique<Parts>()) {}
+Win32Platform::~Win32Platform() = default;
+
+Platform Win32Platform::Services() const {
+  return {.Files = parts_->Files,
+          .Ansi = parts_->Ansi,
+          .Keys = parts_->Keys,
+          .Shell = parts_->Shell,
+          .Icons = parts_->Icons,
+          .Pointer = parts_->Pointer,
+          .Desktop = parts_->Desktop,
+          .System = parts_->System};
+}
+
+forms::WindowSystem& Win32Platform::Windows() const { return parts_->Windows; }
+
+}  // namespace corvelle::win32

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/Registry.h"
+
+namespace corvelle::win32 {
+
+/// The registry of the machine.
+class Win32Registry final : public Registry {
+ public:
+  std::optional<std::string> Text(RegistryRoot root, std::string_view key,
+                                  std::string_view name) const override;
+};
+
+}  // namespace corvelle::win32

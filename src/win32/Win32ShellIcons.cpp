@@ -1,0 +1,86 @@
+#include "win32/Win32ShellIcons.h"
+
+#include <string>
+
+#include "win32/UniqueHandle.h"
+#include "win32/Wide.h"
+#include "win32/Win32Canvas.h"
+
+namespace corvelle::win32 {
+
+namespace {
+
+// Never together with SHGFI_EXETYPE, which stands alone.
+constexpr UINT kFileInfoFlags =
+    SHGFI_SYSICONINDEX | SHGFI_DISPLAYNAME | SHGFI_TYPENAME | SHGFI_SHELLICONSIZE;
+
+UINT SizeFlag(IconList list) { return list == IconList::Small ? SHGFI_SMALLICON : SHGFI_LARGEICON; }
+
+std::size_t PlaceOf(IconList list) { return list == IconList::Small ? 0 : 1; }
+
+HIMAGELIST ToList(std::uintptr_t handle) { return reinterpret_cast<HIMAGELIST>(handle); }
+
+}  // namespace
+
+std::optional<ShellFileInfo> Win32ShellIcons::FileInfo(std::string_view path, IconList list) {
+  if (path.empty() || path.find('\0') != std::string_view::npos) return std::nullopt;
+  SHFILEINFOW info{};
+  const DWORD_PTR handle =
+      SHGetFileInfoW(Wide(path).c_str(), 0, &info, sizeof(info), kFileInfoFlags | SizeFlag(list));
+  if (handle == 0) return std::nullopt;
+  lists_[PlaceOf(list)] = handle;
+  return ShellFileInfo{.SystemIndex = info.iIcon,
+                       .DisplayName = Narrow(info.szDisplayName),
+                       .TypeName = Narrow(info.szTypeName)};
+}
+
+std::uintptr_t Win32ShellIcons::ListHandle(IconList list) {
+  std::uintptr_t& handle = lists_[PlaceOf(list)];
+  if (handle == 0) {
+    // Any file will do, so it need not exist.
+    SHFILEINFOW info{};
+    handle = SHGetFileInfoW(L"x", FILE_ATTRIBUTE_NORMAL, &info, sizeof(info),
+                            SHGFI_USEFILEATTRIBUTES | SHGFI_SYSICONINDEX | SizeFlag(list));
+  }
+  return handle;
+}
+
+int Win32ShellIcons::IconWidth(IconList list) {
+  int width = 0;
+  int height = 0;
+  const HIMAGELIST icons = ToList(ListHandle(list));
+  if (icons == nullptr || ImageList_GetIconSize(icons, &width, &height) == 0) return 0;
+  return width;
+}
+
+bool Win32ShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
+                                     IconStyle style) {
+  const HIMAGELIST icons = ToList(ListHandle(list));
+  if (icons == nullptr || index < 0 || index >= ImageList_GetImageCount(icons)) return false;
+  const Win32Canvas& target = AsWin32(canvas);
+  const CanvasDc dc(target);
+  if (!dc) return false;
+  const UINT blend = style == IconStyle::Blend25 ? ILD_BLEND25 : 0U;
+  return ImageList_Draw(icons, index, dc.Get(), at.x + target.Origin().x, at.y + target.Origin().y,
+                        ILD_TRANSPARENT | blend) != 0;
+}
+
+bool Win32ShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
+                                   int size) {
+  // Below 0 the system takes the index for the number of a resource, or counts the icons.
+  if (index < 0 || file.find('\0') != std::string_view::npos) return false;
+  UniqueIcon large;
+  UniqueIcon small;
+  ExtractIconExW(Wide(file).c_str(), index, large.Receive(), small.Receive(), 1);
+  const bool smallFits = size <= GetSystemMetrics(SM_CXSMICON);
+  const UniqueIcon& better = smallFits ? small : large;
+  const UniqueIcon& icon = better ? better : (smallFits ? large : small);
+  if (!icon) return false;
+  const Win32Canvas& target = AsWin32(canvas);
+  const CanvasDc dc(target);
+  if (!dc) return false;
+  return DrawIconEx(dc.Get(), at.x + target.Origin().x, at.y + target.Origin().y, icon.Get(), size,
+                    size, 0, nullptr, DI_NORMAL) != 0;
+}
+
+}  // namespace corvelle::win32

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "platform/ShellIcons.h"
+
+namespace corvelle::win32 {
+
+/// Icons as the shell of the machine has them. Draws on canvases of Win32WindowSystem.
+class Win32ShellIcons final : public ShellIcons {
+ public:
+  std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList list) override;
+  int IconWidth(IconList list) override;
+  bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
+                      IconStyle style) override;
+  bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
+                    int size) override;
+
+ private:
+  /// The handle of one of the two image lists, 0 when the shell gives none. They belong to the
+  /// shell and stay for the life of the process.
+  std::uintptr_t ListHandle(IconList list);
+
+  std::array<std::uintptr_t, 2> lists_{};
+};
+
+}  // namespace corvelle::win32

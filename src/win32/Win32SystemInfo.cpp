@@ -1,0 +1,73 @@
+#include "win32/Win32SystemInfo.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "win32/UniqueHandle.h"
+#include "win32/Wide.h"
+
+namespace corvelle::win32 {
+
+namespace {
+
+constexpr wchar_t kSessionName[] = L"Local\\Corvelle";
+constexpr std::size_t kLongestPath = 32768;
+
+}  // namespace
+
+/// The named object that the first process of a session holds until it ends.
+struct Win32SystemInfo::Claim {
+  UniqueKernel Mutex;
+  bool TakenBefore = false;
+};
+
+Win32SystemInfo::Win32SystemInfo() = default;
+Win32SystemInfo::~Win32SystemInfo() = default;
+
+std::string Win32SystemInfo::ApplicationFolder() const {
+  std::wstring path(MAX_PATH, L'\0');
+  DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+  while (length == path.size() && path.size() < kLongestPath) {
+    path.resize(path.size() * 2);
+    length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+  }
+  path.resize(length);
+  const std::size_t slash = path.rfind(L'\\');
+  return slash == std::wstring::npos ? std::string() : Narrow(path.substr(0, slash));
+}
+
+std::string Win32SystemInfo::CurrentFolder() const {
+  const DWORD size = GetCurrentDirectoryW(0, nullptr);
+  std::wstring path(size, L'\0');
+  const DWORD length = GetCurrentDirectoryW(size, path.data());
+  path.resize(std::min<std::size_t>(length, path.size()));
+  return Narrow(path);
+}
+
+bool Win32SystemInfo::AnotherInstanceRuns() {
+  if (!claim_) {
+    claim_ = std::make_unique<Claim>();
+    claim_->Mutex.Reset(CreateMutexW(nullptr, FALSE, kSessionName));
+    const DWORD error = GetLastError();
+    // One that was made with other rights cannot even be opened, but it is there.
+    claim_->TakenBefore =
+        claim_->Mutex ? error == ERROR_ALREADY_EXISTS : error == ERROR_ACCESS_DENIED;
+  }
+  return claim_->TakenBefore;
+}
+
+int Win32SystemInfo::CaptionHeight() const { return GetSystemMetrics(SM_CYCAPTION); }
+
+int Win32SystemInfo::CaptionButtonWidth() const { return GetSystemMetrics(SM_CXSIZE); }
+
+int Win32SystemInfo::ColourDepth() const {
+  const WindowDc screen(nullptr);
+  return GetDeviceCaps(screen.Get(), BITSPIXEL) * GetDeviceCaps(screen.Get(), PLANES);
+}
+
+bool Win32SystemInfo::ShowHelpTopic(WindowId window, const std::string& file, int topic) {
+  const HWND owner = window == kNoWindow ? GetDesktopWindow() : ToHwnd(window);
+  return WinHelpW(owner, Wide(file).c_str(), HELP_CONTEXT, static_cast<ULONG_PTR>(topic)) != 0;
+}
+
+}  // namespace corvelle::win32

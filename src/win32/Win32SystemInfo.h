@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "platform/SystemInfo.h"
+
+namespace corvelle::win32 {
+
+/// Facts about this machine and process.
+class Win32SystemInfo final : public SystemInfo {
+ public:
+  Win32SystemInfo();
+  Win32SystemInfo(const Win32SystemInfo&) = delete;
+  Win32SystemInfo& operator=(const Win32SystemInfo&) = delete;
+  ~Win32SystemInfo() override;
+
+  std::string ApplicationFolder() const override;
+  std::string CurrentFolder() const override;
+  bool AnotherInstanceRuns() override;
+  int CaptionHeight() const override;
+  int CaptionButtonWidth() const override;
+  int ColourDepth() const override;
+  bool ShowHelpTopic(WindowId window, const std::string& file, int topic) override;
+
+ private:
+  struct Claim;
+  std::unique_ptr<Claim> claim_;  // on the session; none before the first question
+};
+
+}  // namespace corvelle::win32

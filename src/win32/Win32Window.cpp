@@ -1,0 +1,76 @@
+#include "win32/Win32Window.h"
+
+#include <string>
+
+#include "win32/Wide.h"
+
+namespace corvelle::win32 {
+
+namespace {
+
+struct WindowStyle {
+  DWORD Style;
+  DWORD ExStyle;
+};
+
+// Only a window with a caption lives well in the task bar: it has an animation, a menu and a text.
+// Its frame is taken away again when its inside is worked out.
+WindowStyle StyleOf(const forms::PeerSpec& spec) {
+  if (spec.Kind == forms::PeerKind::PictureBox)
+    return {WS_CHILD | WS_CLIPSIBLINGS, WS_EX_NOPARENTNOTIFY};
+  if (!spec.InTaskbar) return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW};
+  return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, WS_EX_APPWINDOW};
+}
+
+constexpr WORD kProgramIcon = 1;
+
+}  // namespace
+
+bool Win32Window::RegisterClassNamed(const wchar_t* name) {
+  WNDCLASSEXW known{};
+  known.cbSize = sizeof(known);
+  if (GetClassInfoExW(Module(), name, &known) != 0) return known.lpfnWndProc == &Procedure;
+  WNDCLASSEXW made{};
+  made.cbSize = sizeof(made);
+  made.style = CS_DBLCLKS;
+  made.lpfnWndProc = &Procedure;
+  made.hInstance = Module();
+  made.hIcon = LoadIconW(Module(), MAKEINTRESOURCEW(kProgramIcon));
+  made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  made.lpszClassName = name;
+  return RegisterClassExW(&made) != 0;
+}
+
+bool Win32Window::Create(const forms::PeerSpec& spec) {
+  const std::wstring name = Wide(spec.ClassName);
+  if (!RegisterClassNamed(name.c_str())) return false;
+  const WindowStyle style = StyleOf(spec);
+  const HWND parent = spec.Parent != nullptr ? ToHwnd(spec.Parent->Id()) : nullptr;
+  told_ = spec.Bounds;
+  const HWND made = CreateWindowExW(style.ExStyle, name.c_str(), L"", style.Style, spec.Bounds.left,
+                                    spec.Bounds.top, spec.Bounds.Width(), spec.Bounds.Height(),
+                                    parent, nullptr, Module(), this);
+  if (made == nullptr) return false;
+  // The system puts a new child below its siblings, but the one that was made last is to be on top.
+  if (!IsForm()) SetWindowPos(made, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  return true;
+}
+
+void Win32Window::Destroy() {
+  events_ = nullptr;
+  if (handle_ != nullptr) DestroyWindow(handle_);
+}
+
+PixelRect Win32Window::Bounds() const {
+  RECT rect{};
+  GetWindowRect(handle_, &rect);
+  if (!IsForm()) {
+    const HWND parent = GetAncestor(handle_, GA_PARENT);
+    POINT corner{rect.left, rect.top};
+    ScreenToClient(parent, &corner);
+    OffsetRect(&rect, corner.x - rect.left, corner.y - rect.top);
+  }
+  return FromRect(rect);
+}
+
+}  // namespace corvelle::win32

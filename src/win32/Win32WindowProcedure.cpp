@@ -1,0 +1,307 @@
+// What Windows tells a window, and how that becomes events.
+
+#include <cstdint>
+
+#include "win32/Win32Canvas.h"
+#include "win32/Win32Window.h"
+#include "win32/Win32WindowSystem.h"
+
+namespace corvelle::win32 {
+
+namespace {
+
+using forms::MouseButton;
+using forms::ShiftState;
+
+constexpr WPARAM kAnyButton = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
+
+bool IsDown(int virtualKey) { return GetKeyState(virtualKey) < 0; }
+
+ShiftState ShiftOfMouse(WPARAM keys) {
+  return {
+      .Shift = (keys & MK_SHIFT) != 0, .Ctrl = (keys & MK_CONTROL) != 0, .Alt = IsDown(VK_MENU)};
+}
+
+ShiftState ShiftOfKeyboard() {
+  return {.Shift = IsDown(VK_SHIFT), .Ctrl = IsDown(VK_CONTROL), .Alt = IsDown(VK_MENU)};
+}
+
+MouseButton ButtonsDown(WPARAM keys) {
+  auto down = MouseButton::None;
+  if ((keys & MK_LBUTTON) != 0) down = down | MouseButton::Left;
+  if ((keys & MK_RBUTTON) != 0) down = down | MouseButton::Right;
+  if ((keys & MK_MBUTTON) != 0) down = down | MouseButton::Middle;
+  return down;
+}
+
+MouseButton ButtonOf(UINT message) {
+  switch (message) {
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+    case WM_RBUTTONUP:
+      return MouseButton::Right;
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONDBLCLK:
+    case WM_MBUTTONUP:
+      return MouseButton::Middle;
+    default:
+      return MouseButton::Left;
+  }
+}
+
+// Both are signed: the pointer can be left of and above a window that holds a press.
+PixelPoint PointOf(LPARAM lParam) {
+  return {static_cast<std::int16_t>(LOWORD(lParam)), static_cast<std::int16_t>(HIWORD(lParam))};
+}
+
+/// Begins and ends a paint. The end does no harm when the window is gone by then.
+class PaintScope {
+ public:
+  explicit PaintScope(HWND window) noexcept : window_(window) { BeginPaint(window_, &paint_); }
+  PaintScope(const PaintScope&) = delete;
+  PaintScope& operator=(const PaintScope&) = delete;
+  ~PaintScope() { EndPaint(window_, &paint_); }
+
+  HDC Dc() const noexcept { return paint_.hdc; }
+  PixelRect Dirty() const noexcept { return FromRect(paint_.rcPaint); }
+
+ private:
+  HWND window_;
+  PAINTSTRUCT paint_{};
+};
+
+}  // namespace
+
+// Nothing that an event does may throw into Windows: noexcept ends the program first.
+LRESULT CALLBACK Win32Window::Procedure(HWND handle, UINT message, WPARAM wParam,
+                                        LPARAM lParam) noexcept {
+  if (message == WM_NCCREATE) {
+    const auto* const made = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    auto* const created = static_cast<Win32Window*>(made->lpCreateParams);
+    created->handle_ = handle;
+    SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+  }
+  auto* const window = reinterpret_cast<Win32Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  if (window == nullptr) return DefWindowProcW(handle, message, wParam, lParam);
+  const std::shared_ptr<Win32Window> keep = window->shared_from_this();
+  if (message == WM_NCDESTROY) {
+    SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
+    window->handle_ = nullptr;
+    window->events_ = nullptr;
+    return DefWindowProcW(handle, message, wParam, lParam);
+  }
+  return window->Receive(message, wParam, lParam);
+}
+
+LRESULT Win32Window::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (IsForm() && events_ != nullptr) {
+    const auto answer = events_->OnMessage(message, wParam, lParam);
+    if (answer) return *answer;
+  }
+  return Treat(message, wParam, lParam);
+}
+
+LRESULT Win32Window::Default(UINT message, WPARAM wParam, LPARAM lParam) {
+  // The window may be gone by now, and the messages of one that is are nobody's.
+  return handle_ != nullptr ? DefWindowProcW(handle_, message, wParam, lParam) : 0;
+}
+
+LRESULT Win32Window::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const auto answer = TreatFrame(message, wParam, lParam)) return *answer;
+  if (events_ == nullptr) return Default(message, wParam, lParam);
+  if (const auto answer = TreatMouse(message, wParam, lParam)) return *answer;
+  if (const auto answer = TreatKeys(message, wParam, lParam)) return *answer;
+  if (const auto answer = TreatEnd(message, wParam)) return *answer;
+  return Default(message, wParam, lParam);
+}
+
+// The window itself.
+
+std::optional<LRESULT> Win32Window::TreatFrame(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_NCCALCSIZE:
+      // The inside is the whole window: forms paint their own frames.
+      if (!IsForm()) return std::nullopt;
+      return 0;
+    case WM_NCPAINT:
+      return 0;
+    case WM_NCACTIVATE:
+      // Without the drawing of the caption that the window does not show.
+      return Default(message, wParam, -1);
+    case WM_GETMINMAXINFO: {
+      // A form can be smaller than a caption with its buttons.
+      const LRESULT answer = Default(message, wParam, lParam);
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {1, 1};
+      return answer;
+    }
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_PAINT:
+      Paint();
+      return 0;
+    case WM_SETCURSOR:
+      if (LOWORD(lParam) != HTCLIENT) return std::nullopt;
+      system_.ShowPointer();
+      return TRUE;
+    case WM_ACTIVATE:
+      Activated(wParam, lParam);
+      return 0;
+    case WM_WINDOWPOSCHANGED: {
+      const WINDOWPOS position = *reinterpret_cast<const WINDOWPOS*>(lParam);
+      Default(message, wParam, lParam);
+      PositionChanged(position);
+      return 0;
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+void Win32Window::Paint() {
+  const PaintScope paint(handle_);
+  const PixelRect dirty = paint.Dirty();
+  if (events_ == nullptr || paint.Dc() == nullptr || dirty.IsEmpty()) return;
+  RECT inside{};
+  GetClientRect(handle_, &inside);
+  BorrowedCanvas canvas(paint.Dc(), FromRect(inside).Size(), system_.Tools());
+  events_->OnPaint(canvas, dirty);
+}
+
+void Win32Window::PositionChanged(const WINDOWPOS& position) {
+  if (handle_ == nullptr) return;
+  if ((position.flags & SWP_HIDEWINDOW) != 0) {
+    // A window that cannot be seen holds no press.
+    const HWND captured = GetCapture();
+    if (captured == handle_ || IsChild(handle_, captured) != 0) ReleaseCapture();
+  }
+  // The place of a window in the task bar is none.
+  if (events_ == nullptr || IsIconic(handle_) != 0) return;
+  const PixelRect bounds = Bounds();
+  if (bounds == told_) return;
+  told_ = bounds;
+  events_->OnMoved(bounds);
+}
+
+HWND Win32Window::FocusTarget() const {
+  const auto takesFocus = [this](HWND child) {
+    return IsChild(handle_, child) != 0 && IsWindowVisible(child) != 0 &&
+           IsWindowEnabled(child) != 0;
+  };
+  if (focus_ != nullptr && takesFocus(focus_)) return focus_;
+  // The child that was made first lies at the bottom.
+  for (HWND child = GetTopWindow(handle_) != nullptr ? GetWindow(GetTopWindow(handle_), GW_HWNDLAST)
+                                                     : nullptr;
+       child != nullptr; child = GetWindow(child, GW_HWNDPREV)) {
+    if (takesFocus(child)) return child;
+  }
+  return handle_;
+}
+
+void Win32Window::Activated(WPARAM wParam, LPARAM /*lParam*/) {
+  const bool active = LOWORD(wParam) != WA_INACTIVE;
+  const bool minimized = HIWORD(wParam) != 0;
+  if (!IsForm()) return;
+  if (!active && IsChild(handle_, GetFocus()) != 0) focus_ = GetFocus();
+  if (active && !minimized) ::SetFocus(FocusTarget());
+  if (events_ == nullptr) return;
+  events_->OnActivated(active && !minimized);
+}
+
+// The mouse.
+
+std::optional<LRESULT> Win32Window::TreatMouse(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_MOUSEMOVE:
+      events_->OnMouseMove(ButtonsDown(wParam), ShiftOfMouse(wParam), PointOf(lParam));
+      return 0;
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDBLCLK:
+      return Press(message, wParam, lParam);
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
+      return ReleaseButton(message, wParam, lParam);
+    default:
+      return std::nullopt;
+  }
+}
+
+LRESULT Win32Window::Press(UINT message, WPARAM wParam, LPARAM lParam) {
+  SetCapture(handle_);
+  if (events_ == nullptr) return 0;
+  if (message == WM_LBUTTONDBLCLK) {
+    events_->OnDoubleClick(PointOf(lParam));
+  } else {
+    events_->OnMouseDown(ButtonOf(message), ShiftOfMouse(wParam), PointOf(lParam));
+  }
+  return 0;
+}
+
+LRESULT Win32Window::ReleaseButton(UINT message, WPARAM wParam, LPARAM lParam) {
+  if ((wParam & kAnyButton) == 0 && GetCapture() == handle_) ReleaseCapture();
+  if (events_ != nullptr)
+    events_->OnMouseUp(ButtonOf(message), ShiftOfMouse(wParam), PointOf(lParam));
+  return 0;
+}
+
+// The keyboard.
+
+std::optional<LRESULT> Win32Window::TreatKeys(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_KEYDOWN:
+      events_->OnKeyDown(static_cast<int>(wParam), ShiftOfKeyboard());
+      return 0;
+    case WM_SYSKEYDOWN:
+      // Alt by itself is the system's, and so is what it does with Alt and another key; F10 is a
+      // key of the program.
+      if (wParam == VK_MENU) return std::nullopt;
+      events_->OnKeyDown(static_cast<int>(wParam), ShiftOfKeyboard());
+      if (wParam == VK_F10) return 0;
+      return Default(message, wParam, lParam);
+    case WM_CHAR:
+      Character(static_cast<wchar_t>(wParam));
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+void Win32Window::Character(wchar_t unit) {
+  constexpr char32_t kAboveBasicPlane = 0x10000;
+  if (IS_HIGH_SURROGATE(unit)) {
+    highSurrogate_ = unit;
+    return;
+  }
+  const wchar_t high = highSurrogate_;
+  highSurrogate_ = 0;
+  if (!IS_LOW_SURROGATE(unit)) {
+    events_->OnKeyPress(unit);
+  } else if (high != 0) {
+    const auto upper = static_cast<char32_t>(high - HIGH_SURROGATE_START);
+    const auto lower = static_cast<char32_t>(unit - LOW_SURROGATE_START);
+    events_->OnKeyPress(kAboveBasicPlane + (upper << 10) + lower);
+  }
+}
+
+// The end.
+
+std::optional<LRESULT> Win32Window::TreatEnd(UINT message, WPARAM wParam) {
+  switch (message) {
+    case WM_CLOSE:
+      events_->OnClose();
+      return 0;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (wParam != FALSE) events_->OnSessionEnd();
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace corvelle::win32

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+
+#include "forms/WindowSystem.h"
+#include "win32/DrawingTools.h"
+#include "win32/Win32Timers.h"
+
+namespace corvelle::win32 {
+
+/// The windows of the program on the desktop of Windows.
+class Win32WindowSystem final : public forms::WindowSystem {
+ public:
+  Win32WindowSystem();
+  Win32WindowSystem(const Win32WindowSystem&) = delete;
+  Win32WindowSystem& operator=(const Win32WindowSystem&) = delete;
+  ~Win32WindowSystem() override;
+
+  std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& spec,
+                                                forms::WindowEvents& events) override;
+  std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
+  PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
+  Rgb SystemColor(int index) const override;
+  forms::ScreenInfo Screen() const override;
+  void SetMousePointer(forms::MousePointer shape) override;
+  forms::MousePointer CurrentMousePointer() const override { return pointer_; }
+  void DoEvents() override;
+  void Run() override;
+  void Quit() override;
+  forms::TimerId StartTimer(int milliseconds, std::function<void()> tick) override;
+  void StopTimer(forms::TimerId timer) override { timers_.Stop(timer); }
+  std::int64_t Now() const override;
+  int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
+                  unsigned flags) override;
+
+  /// Shows the pointer's shape now.
+  void ShowPointer() const;
+  const std::shared_ptr<DrawingTools>& Tools() const noexcept { return tools_; }
+
+ private:
+  std::shared_ptr<DrawingTools> tools_ = std::make_shared<DrawingTools>();
+  forms::ScreenInfo scale_;  // its size is asked anew
+  Win32Timers timers_;
+  forms::MousePointer pointer_ = forms::MousePointer::Default;
+  bool quit_ = false;
+};
+
+}  // namespace corvelle::win32

@@ -1,0 +1,30 @@
+# Tests that run on Windows (or under Wine): the contract suites of the ports against the real side,
+# and the roads through corvelle.exe.
+
+# corvelle_windows_tests(FOLDER PROGRAM LINKS libraries... SOURCES more files...)
+function(corvelle_windows_tests folder program)
+  cmake_parse_arguments(ARG "" "" "LINKS;SOURCES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${program} ${sources} ${ARG_SOURCES})
+  target_include_directories(${program} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${program} PRIVATE corvelle_options corvelle_gtest ${ARG_LINKS})
+  target_link_options(${program} PRIVATE -s)
+  set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+endfunction()
+
+set(windows_libraries gdi32 user32 shell32 comctl32 ole32 advapi32 uuid)
+corvelle_windows_tests(windows windows_contract_tests LINKS corvelle_win32 corvelle_core
+  ${windows_libraries})
+
+# The roads of tests/scenario, walked with a hand at the mouse of a real desktop.
+file(GLOB scenarios CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/scenario/*_test.cpp)
+corvelle_windows_tests(e2e e2e_tests LINKS corvelle_core user32 gdi32
+  SOURCES ${scenarios} scenario/Strip.cpp)
+
+add_executable(witness WIN32 e2e/witness/witness.cpp)
+target_link_libraries(witness PRIVATE corvelle_options)
+target_link_options(witness PRIVATE -municode -s)
+set_target_properties(witness PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})

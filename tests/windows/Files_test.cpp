@@ -1,0 +1,199 @@
+#include "win32/Win32Files.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <map>
+
+#include "TempFolder.h"
+#include "platform/FileSystemContract.h"
+#include "win32/FileErrors.h"
+#include "win32/FileNames.h"
+#include "win32/UniqueHandle.h"
+
+namespace corvelle {
+namespace {
+
+using win32::Wide;
+
+class RealDisk final : public ContractDisk {
+ public:
+  FileSystem& Files() override { return files_; }
+  std::string Root() override { return folder_.Path(); }
+  void SetReadOnly(const std::string& path, bool on) override {
+    SetAttribute(path, FILE_ATTRIBUTE_READONLY, on);
+  }
+  void SetHidden(const std::string& path, bool on) override {
+    SetAttribute(path, FILE_ATTRIBUTE_HIDDEN, on);
+  }
+  void HoldOpen(const std::string& path) override {
+    held_[path].Reset(CreateFileW(Wide(path).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+    ASSERT_TRUE(held_[path]) << path;
+  }
+  void LetGo(const std::string& path) override { held_.erase(path); }
+
+ private:
+  static void SetAttribute(const std::string& path, DWORD attribute, bool on) {
+    const DWORD before = GetFileAttributesW(Wide(path).c_str());
+    ASSERT_NE(before, INVALID_FILE_ATTRIBUTES) << path;
+    SetFileAttributesW(Wide(path).c_str(), on ? before | attribute : before & ~attribute);
+  }
+
+  TempFolder folder_;
+  win32::Win32Files files_;
+  std::map<std::string, win32::UniqueFile> held_;
+};
+
+std::unique_ptr<ContractDisk> MakeRealDisk() { return std::make_unique<RealDisk>(); }
+
+INSTANTIATE_TEST_SUITE_P(Windows, FileSystemContract, testing::Values(MakeRealDisk));
+
+struct FilesTest : testing::Test {
+  TempFolder Folder;
+  win32::Win32Files Files;
+  const std::string Root = Folder.Path();
+
+  std::size_t Count() { return Files.List(Root, "*").ValueOr({}).size(); }
+};
+
+TEST_F(FilesTest, ReplaceKeepsTheAttributesOfTheFile) {
+  ASSERT_TRUE(Files.Write(Root + "a.dat", "old"));
+  SetFileAttributesW(Wide(Root + "a.dat").c_str(), FILE_ATTRIBUTE_HIDDEN);
+  ASSERT_TRUE(Files.Replace(Root + "a.dat", "new"));
+  EXPECT_EQ(Files.Read(Root + "a.dat", 0, 10).ValueOr("(none)"), "new");
+  EXPECT_NE(GetFileAttributesW(Wide(Root + "a.dat").c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
+}
+
+TEST_F(FilesTest, AReplaceThatFailsLeavesNothingBesideTheFile) {
+  ASSERT_TRUE(Files.Write(Root + "a.dat", "old"));
+  {
+    const win32::UniqueFile held(CreateFileW(Wide(Root + "a.dat").c_str(), GENERIC_READ, 0, nullptr,
+                                             OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    ASSERT_TRUE(held);
+    EXPECT_FALSE(Files.Replace(Root + "a.dat", "new"));
+  }
+  EXPECT_FALSE(Files.Replace(Root + "a|b", "new"));
+  EXPECT_EQ(Files.Read(Root + "a.dat", 0, 10).ValueOr("(none)"), "old");
+  EXPECT_EQ(Count(), 1U);
+}
+
+TEST_F(FilesTest, ShortNamesOfLongNamesFitNoPattern) {
+  ASSERT_TRUE(Files.Write(Root + "a long name.menus", "x"));
+  EXPECT_EQ(Files.List(Root, "*.MEN").ValueOr({}).size(), 0U);
+  EXPECT_EQ(Files.List(Root, "ALONGN~1.*").ValueOr({}).size(), 0U);
+  EXPECT_EQ(Files.List(Root, "*.menus").ValueOr({}).size(), 1U);
+}
+
+TEST_F(FilesTest, DevicesAreNoFiles) {
+  for (const char* name : {"NUL", "nul.txt", "CON", "COM1", "lpt9.mnu", "AUX", "PRN"}) {
+    EXPECT_TRUE(FailsWith(Files.Write(Root + name, "x"), FileError::BadName)) << name;
+    EXPECT_TRUE(FailsWith(Files.Replace(Root + name, "x"), FileError::BadName)) << name;
+    EXPECT_TRUE(FailsWith(Files.Read(Root + name, 0, 1), FileError::BadName)) << name;
+    EXPECT_FALSE(Files.FileExists(Root + name)) << name;
+  }
+  EXPECT_TRUE(Files.Write(Root + "COM10", "x"));
+  EXPECT_TRUE(Files.Write(Root + "NULL.txt", "x"));
+}
+
+TEST_F(FilesTest, AFolderThatIsAFileCannotBeListed) {
+  ASSERT_TRUE(Files.Write(Root + "a.dat", "x"));
+  EXPECT_TRUE(FailsWith(Files.List(Root + "a.dat", "*"), FileError::NotFound));
+}
+
+TEST_F(FilesTest, ALargeFileIsWrittenAndReadWhole) {
+  std::string bytes(40'000'000, 'x');
+  bytes.front() = 'a';
+  bytes.back() = 'z';
+  ASSERT_TRUE(Files.Write(Root + "large.dat", bytes));
+  EXPECT_EQ(Files.Length(Root + "large.dat").ValueOr(0), bytes.size());
+  const auto read = Files.Read(Root + "large.dat", 0, bytes.size());
+  ASSERT_TRUE(read);
+  EXPECT_TRUE(*read == bytes);
+}
+
+TEST_F(FilesTest, LongPathKeepsDriveAndLastBackslash) {
+  ASSERT_TRUE(Files.MakeFolder(Root + "Some Folder"));
+  EXPECT_TRUE(Files.LongPath(Root + "SOME FOLDER\\").ends_with("\\Some Folder\\"));
+  EXPECT_EQ(Files.LongPath("C:\\"), "C:\\");
+  EXPECT_EQ(Files.LongPath(""), "");
+  EXPECT_EQ(Files.LongPath("C:\\*"), "C:\\*");
+  EXPECT_EQ(Files.LongPath("\\\\nowhere\\share\\folder"), "\\\\nowhere\\share\\folder");
+}
+
+TEST(FileNames, PatternsFitAsTheShellTakesThem) {
+  struct Row {
+    const char* name;
+    const char* pattern;
+    bool fits;
+  };
+  const Row rows[] = {
+      {"a.mnu", "*.*", true},
+      {"noextension", "*.*", true},
+      {"", "*", true},
+      {"a.mnu", "*.MNU", true},
+      {"a.mnux", "*.mnu", false},
+      {"a.b.mnu", "*.mnu", true},
+      {"a.mnu", "?.mnu", true},
+      {"ab.mnu", "?.mnu", false},
+      {"ab.mnu", "ab?.mnu", true},
+      {"ab", "ab??", true},
+      {"abc", "a*c", true},
+      {"abcabd", "*abd", true},
+      {"aaab", "*a*b", true},
+      {"aaac", "*a*b", false},
+      {"a.mnu", "", false},
+      {"noextension", "*.", true},
+      {"a.mnu", "*.", false},
+      {"\xC3\xA4.mnu", "\xC3\x84.*", true},
+      {"\xC3\xA4.mnu", "?.mnu", true},
+  };
+  for (const Row& row : rows)
+    EXPECT_EQ(win32::FitsPattern(row.name, row.pattern), row.fits)
+        << row.name << " " << row.pattern;
+}
+
+TEST(FileNames, APatternOfManyStarsTakesNoTime) {
+  const std::string name(240, 'a');
+  std::string pattern;
+  for (int i = 0; i < 100; ++i) pattern += "*a";
+  EXPECT_TRUE(win32::FitsPattern(name, pattern));
+  EXPECT_FALSE(win32::FitsPattern(name, pattern + "b"));
+}
+
+TEST(FileNames, DevicesAreKnownByTheirLastName) {
+  for (const char* path :
+       {"NUL", "C:\\x\\nul", "C:\\x\\Con.txt", "C:/x/aux ", "lpt1", "COM9.mnu", "CONIN$", "nul:"}) {
+    EXPECT_TRUE(win32::NamesDevice(path)) << path;
+  }
+  for (const char* path : {"", "C:\\nul\\a.txt", "COM0", "COM10", "COM", "console.txt", "a.nul"}) {
+    EXPECT_FALSE(win32::NamesDevice(path)) << path;
+  }
+}
+
+TEST(FileErrors, NumbersOfWindowsHaveTheirMeaning) {
+  struct Row {
+    unsigned long number;
+    FileError error;
+  };
+  const Row rows[] = {
+      {ERROR_FILE_NOT_FOUND, FileError::NotFound},
+      {ERROR_PATH_NOT_FOUND, FileError::NotFound},
+      {ERROR_NOT_READY, FileError::NotFound},
+      {ERROR_FILE_EXISTS, FileError::AlreadyExists},
+      {ERROR_ALREADY_EXISTS, FileError::AlreadyExists},
+      {ERROR_ACCESS_DENIED, FileError::AccessDenied},
+      {ERROR_WRITE_PROTECT, FileError::AccessDenied},
+      {ERROR_SHARING_VIOLATION, FileError::InUse},
+      {ERROR_LOCK_VIOLATION, FileError::InUse},
+      {ERROR_DISK_FULL, FileError::DiskFull},
+      {ERROR_HANDLE_DISK_FULL, FileError::DiskFull},
+      {ERROR_INVALID_NAME, FileError::BadName},
+      {ERROR_FILENAME_EXCED_RANGE, FileError::BadName},
+      {ERROR_CRC, FileError::Failed},
+  };
+  for (const Row& row : rows) EXPECT_EQ(win32::FileErrorOf(row.number), row.error) << row.number;
+}
+
+}  // namespace
+}  // namespace corvelle

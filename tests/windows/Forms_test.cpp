@@ -1,0 +1,39 @@
+#include <gtest/gtest.h>
+
+#include "RealHome.h"
+#include "forms/CanvasContract.h"
+#include "forms/InputContract.h"
+#include "forms/WindowSystemContract.h"
+
+namespace corvelle::forms {
+namespace {
+
+class WindowsHome final : public InputHome {
+ public:
+  explicit WindowsHome(int shortestWait) : shortestWait_(shortestWait) {}
+
+  WindowSystem& Windows() override { return home_.Windows(); }
+  DesktopWindows& Desktop() override { return home_.Desktop(); }
+  Input& Pointer() override { return home_.Pointer(); }
+  // What the mouse does takes a moment to come through, and under Wine to settle.
+  void Wait(int milliseconds) override { home_.Wait(std::max(milliseconds, shortestWait_)); }
+  void MovePointer(PixelPoint at) override { home_.MovePointer(at); }
+  void Press(MouseButton button) override { home_.Press(button); }
+  void Release(MouseButton button) override { home_.Release(button); }
+  void DoubleClick() override { home_.DoubleClick(); }
+  void PressKey(int virtualKey) override { home_.PressKey(virtualKey); }
+
+ private:
+  int shortestWait_;
+  RealHome home_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Windows, WindowSystemContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(0); }));
+INSTANTIATE_TEST_SUITE_P(Windows, CanvasContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(0); }));
+INSTANTIATE_TEST_SUITE_P(Windows, InputContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(250); }));
+
+}  // namespace
+}  // namespace corvelle::forms

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "win32/Win32Desktop.h"
+#include "win32/Win32Input.h"
+#include "win32/Win32WindowSystem.h"
+
+namespace corvelle {
+
+/// Lets events run for a while.
+inline void RunEvents(forms::WindowSystem& windows, int milliseconds) {
+  const std::int64_t end = windows.Now() + milliseconds;
+  windows.DoEvents();
+  while (windows.Now() < end) {
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    windows.DoEvents();
+  }
+}
+
+/// The real Windows with a user at mouse and keyboard. Each action has been carried out and its
+/// events have run when it returns; points are pixels of the screen.
+class RealHome {
+ public:
+  forms::WindowSystem& Windows() { return windows_; }
+  DesktopWindows& Desktop() { return desktop_; }
+  Input& Pointer() { return input_; }
+  void Wait(int milliseconds) { RunEvents(windows_, milliseconds); }
+
+  void MovePointer(PixelPoint at) { Mouse(MOUSEEVENTF_MOVE, at); }
+  void Press(forms::MouseButton button) {
+    const bool left = button == forms::MouseButton::Left;
+    Mouse(left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN, pointer_);
+  }
+  void Release(forms::MouseButton button) {
+    const bool left = button == forms::MouseButton::Left;
+    if (!input_.IsKeyDown(left ? VK_LBUTTON : VK_RBUTTON)) return;
+    Mouse(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP, pointer_);
+  }
+  void DoubleClick() {
+    for (int press = 0; press < 2; ++press) {
+      Press(forms::MouseButton::Left);
+      Release(forms::MouseButton::Left);
+    }
+  }
+  void PressKey(int virtualKey) {
+    INPUT keys[2]{};
+    for (INPUT& key : keys) {
+      key.type = INPUT_KEYBOARD;
+      key.ki.wVk = static_cast<WORD>(virtualKey);
+    }
+    keys[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(2, keys, sizeof(INPUT));
+    Wait(kReactionMilliseconds);
+  }
+
+ private:
+  static constexpr int kReactionMilliseconds = 60;
+  static constexpr int kMostTries = 20;
+  static constexpr int kWholeScreen = 65536;
+
+  // Place and button in one event: apart, they can be taken in the wrong order.
+  void Mouse(DWORD what, PixelPoint at) {
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    INPUT event{};
+    event.type = INPUT_MOUSE;
+    event.mi.dx = (at.x * kWholeScreen + width - 1) / width;
+    event.mi.dy = (at.y * kWholeScreen + height - 1) / height;
+    event.mi.dwFlags = what | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    SendInput(1, &event, sizeof(INPUT));
+    pointer_ = at;
+    Wait(kReactionMilliseconds);
+    // The place before may come back for a moment.
+    for (int tries = 0; tries < kMostTries && input_.PointerPosition() != at; ++tries)
+      Wait(kReactionMilliseconds / 2);
+  }
+
+  win32::Win32WindowSystem windows_;
+  win32::Win32Desktop desktop_;
+  win32::Win32Input input_;
+  PixelPoint pointer_;  // where it was put last
+};
+
+}  // namespace corvelle
