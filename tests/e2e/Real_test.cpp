@@ -1,0 +1,110 @@
+#include <gtest/gtest.h>
+
+#include "e2e/WineDesk.h"
+#include "scenario/Strip.h"
+
+// What only real processes and a real window manager can show.
+
+namespace corvelle::e2e {
+namespace {
+
+using scenario::CloseAndWait;
+using scenario::InstalledFlags;
+using scenario::kButtonOk;
+using scenario::kFlagsFile;
+using scenario::StartAndWait;
+using scenario::WriteMenu;
+
+TEST(Instance, ACopyThatCannotWakeTheFirstSaysSoAndEnds) {
+  WineDesk desk;
+  // The first copy is there by its mark, but no window of it can be found.
+  HANDLE mark = CreateMutexW(nullptr, TRUE, L"Local\\Corvelle");
+  ASSERT_NE(mark, nullptr);
+  desk.AnswerNext(kButtonOk);
+  desk.StartCorvelle();
+  ASSERT_TRUE(desk.Wait([&] { return !desk.Messages().empty(); }, 10000));
+  EXPECT_EQ(desk.Messages()[0].Title, "Corvelle");
+  EXPECT_EQ(
+      desk.Messages()[0].Text,
+      "Corvelle is already running. If you have minimized it to the taskbar, click its icon on "
+      "the taskbar to activate it. If you have set it to Auto Hide, point your mouse to its "
+      "previous position.");
+  EXPECT_TRUE(desk.Wait([&] { return desk.RunningCopies() == 0; }, 5000));
+  EXPECT_FALSE(desk.FolderExists("Menus"));
+  EXPECT_FALSE(desk.ReadFile(kFlagsFile).has_value());
+  CloseHandle(mark);
+}
+
+TEST(Instance, EndsWithExitCodeZero) {
+  WineDesk desk;
+  desk.WriteFile(kFlagsFile, InstalledFlags());
+  WriteMenu(desk, 1, "One", {{.FTitle = "Program", .FIcon = "", .FName = desk.WitnessProgram()}});
+  ASSERT_TRUE(StartAndWait(desk));
+  desk.StartCorvelle();
+  ASSERT_TRUE(desk.Wait([&] { return desk.RunningCopies() == 1; }, 5000));
+  ASSERT_TRUE(CloseAndWait(desk));
+  EXPECT_EQ(desk.ExitCodes(), (std::vector<DWORD>{0, 0}));
+}
+
+TEST(Instance, StartsFromAFolderOfAnotherName) {
+  WineDesk desk;
+  desk.WriteFile(kFlagsFile, InstalledFlags());
+  WriteMenu(desk, 1, "One", {{.FTitle = "Program", .FIcon = "", .FName = desk.WitnessProgram()}});
+  SetCurrentDirectoryW(L"C:\\windows");
+  ASSERT_TRUE(StartAndWait(desk));
+  EXPECT_TRUE(desk.FolderExists("ShellLink"));
+  EXPECT_EQ(GetFileAttributesW(L"C:\\windows\\ShellLink"), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST(Strip, StandsOnTopOfAllWindowsWithoutATaskBarButton) {
+  WineDesk desk;
+  desk.WriteFile(kFlagsFile, InstalledFlags());
+  WriteMenu(desk, 1, "One", {{.FTitle = "Program", .FIcon = "", .FName = desk.WitnessProgram()}});
+  ASSERT_TRUE(StartAndWait(desk));
+  const LONG_PTR style = GetWindowLongPtrW(desk.Handle("frmToolbar"), GWL_EXSTYLE);
+  EXPECT_NE(style & WS_EX_TOPMOST, 0);
+  EXPECT_EQ(style & WS_EX_APPWINDOW, 0);
+  EXPECT_NE(style & WS_EX_TOOLWINDOW, 0);
+  EXPECT_FALSE(desk.IsVisible("frmMinimize"));
+  EXPECT_EQ(desk.Window("frmMinimize")->Title, "Corvelle");
+}
+
+TEST(Strip, ShowsTheIconsOfItsButtonsAndOfTheMenu) {
+  WineDesk desk;
+  desk.WriteFile(kFlagsFile, InstalledFlags());
+  WriteMenu(desk, 1, "Icons",
+            {{.FTitle = "With", .FIcon = "\\icons\\folder.ico", .FName = desk.WitnessProgram()},
+             {.FTitle = "Without", .FIcon = "", .FName = desk.WitnessProgram()}});
+  desk.MovePointer(scenario::FarAway(desk));
+  ASSERT_TRUE(StartAndWait(desk));
+  // A button's face has one colour, and its icon many.
+  const PixelRect strip = desk.BoundsOf("picToolbar");
+  const int pitch = strip.Height() + 2;
+  for (int button = 0; button < 2; ++button) {
+    const PixelRect inside{button * pitch + 8, 8, button * pitch + 32, 32};
+    EXPECT_GT(desk.ColoursIn("picToolbar", inside), 5) << button + 1;
+  }
+  ASSERT_TRUE(scenario::OpenMenu(desk, 2));
+  desk.MovePointer(scenario::FarAway(desk));
+  ASSERT_TRUE(desk.IsVisible("frmQMenu"));
+  EXPECT_GT(desk.ColoursIn("frmQMenu", {3, 6, 18, 21}), 5);
+  EXPECT_EQ(desk.ColoursIn("frmQMenu", {3, 27, 18, 40}), 1);
+  desk.Picture("icons");
+}
+
+TEST(Strip, GivesWayToAFullScreenProgramAndComesBackOnTop) {
+  WineDesk desk;
+  desk.WriteFile(kFlagsFile, InstalledFlags());
+  WriteMenu(desk, 1, "One", {{.FTitle = "Program", .FIcon = "", .FName = desk.WitnessProgram()}});
+  ASSERT_TRUE(StartAndWait(desk));
+  const auto isTopmost = [&desk] {
+    return (GetWindowLongPtrW(desk.Handle("frmToolbar"), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+  };
+  desk.Send("frmToolbar", scenario::kMessageAppBar, 2, 1);
+  EXPECT_TRUE(desk.Wait([&] { return !isTopmost(); }, 3000));
+  desk.Send("frmToolbar", scenario::kMessageAppBar, 2, 0);
+  EXPECT_TRUE(desk.Wait(isTopmost, 3000));
+}
+
+}  // namespace
+}  // namespace corvelle::e2e

@@ -1,0 +1,399 @@
+#include "e2e/WineDesk.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <set>
+
+#include "e2e/DeskFiles.h"
+
+namespace corvelle::e2e {
+namespace {
+
+using scenario::Button;
+using scenario::SeenMessage;
+using scenario::SeenWindow;
+
+std::wstring ClassOf(HWND window) {
+  wchar_t name[128] = {};
+  GetClassNameW(window, name, 128);
+  return name;
+}
+
+std::wstring TextOf(HWND window) {
+  wchar_t text[1024] = {};
+  DWORD_PTR length = 0;
+  SendMessageTimeoutW(window, WM_GETTEXT, 1024, reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG,
+                      2000, &length);
+  return text;
+}
+
+struct Search {
+  std::wstring ClassName;
+  HWND Found = nullptr;
+};
+
+BOOL CALLBACK LookAtWindow(HWND window, LPARAM parameter) {
+  Search& search = *reinterpret_cast<Search*>(parameter);
+  if (ClassOf(window) != search.ClassName) return TRUE;
+  search.Found = window;
+  return FALSE;
+}
+
+BOOL CALLBACK LookBelowWindow(HWND window, LPARAM parameter) {
+  EnumChildWindows(window, LookAtWindow, parameter);
+  return reinterpret_cast<Search*>(parameter)->Found == nullptr ? TRUE : FALSE;
+}
+
+HWND OpenMessageBox() {
+  HWND box = nullptr;
+  while ((box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr) {
+    if (IsWindowVisible(box) != FALSE && GetDlgItem(box, 0xFFFF) != nullptr) return box;
+  }
+  return nullptr;
+}
+
+// Keys that real keyboards have twice need their flag, or they count as those of the number pad.
+bool IsExtended(int virtualKey) {
+  return (virtualKey >= VK_PRIOR && virtualKey <= VK_DOWN) || virtualKey == VK_INSERT ||
+         virtualKey == VK_DELETE;
+}
+
+void SendKey(int virtualKey, DWORD flags) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = static_cast<WORD>(virtualKey);
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(virtualKey), 0));
+  input.ki.dwFlags = flags | (IsExtended(virtualKey) ? KEYEVENTF_EXTENDEDKEY : 0U);
+  SendInput(1, &input, sizeof(input));
+}
+
+LRESULT CALLBACK OtherProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_DESTROY) PostQuitMessage(0);
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+}  // namespace
+
+std::wstring Wide(std::string_view text) {
+  const int length =
+      MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
+  std::wstring wide(static_cast<std::size_t>(length), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), wide.data(), length);
+  return wide;
+}
+
+std::string Narrow(std::wstring_view text) {
+  const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                         nullptr, 0, nullptr, nullptr);
+  std::string narrow(static_cast<std::size_t>(length), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), narrow.data(), length,
+                      nullptr, nullptr);
+  return narrow;
+}
+
+WineDesk::WineDesk() {
+  // Whoever asks for the desktop first brings it up, with its shell; nothing may start before it.
+  GetDesktopWindow();
+  Wait([] { return FindWindowW(L"Shell_TrayWnd", nullptr) != nullptr; }, 10000);
+  CreateDirectoryW(kDocumentFolder, nullptr);
+  if (!WriteBytes(Wide(WitnessDocument()), "A document.\r\n"))
+    std::printf("There is no document\n");
+  MovePointer({ScreenSize().width / 2, ScreenSize().height / 2});
+}
+
+WineDesk::~WineDesk() {
+  if (RunningCopies() > 0) Post("frmMinimize", WM_CLOSE, 0, 0);
+  Wait([this] { return RunningCopies() == 0; }, 3000);
+  for (HANDLE copy : copies_) {
+    TerminateProcess(copy, 99);
+    CloseHandle(copy);
+  }
+  if (HWND other = otherWindow_.load()) PostMessageW(other, WM_CLOSE, 0, 0);
+  if (other_.joinable()) other_.join();
+}
+
+void WineDesk::StartCorvelle() {
+  STARTUPINFOW start = {};
+  start.cb = sizeof(start);
+  PROCESS_INFORMATION process = {};
+  const std::wstring program = std::wstring(kAppFolder) + L"corvelle.exe";
+  std::wstring command = L"\"" + program + L"\"";
+  if (CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     kAppFolder, &start, &process) == FALSE) {
+    std::printf("corvelle.exe did not start: error %lu\n", GetLastError());
+    return;
+  }
+  CloseHandle(process.hThread);
+  copies_.push_back(process.hProcess);
+}
+
+int WineDesk::RunningCopies() const {
+  return static_cast<int>(std::count_if(copies_.begin(), copies_.end(), [](HANDLE copy) {
+    return WaitForSingleObject(copy, 0) == WAIT_TIMEOUT;
+  }));
+}
+
+std::vector<DWORD> WineDesk::ExitCodes() const {
+  std::vector<DWORD> codes;
+  for (HANDLE copy : copies_) {
+    DWORD code = 0;
+    if (WaitForSingleObject(copy, 0) == WAIT_OBJECT_0 && GetExitCodeProcess(copy, &code) != FALSE) {
+      codes.push_back(code);
+    }
+  }
+  return codes;
+}
+
+// A press that is injected apart from its place can land where the pointer was before: each event
+// carries both.
+void WineDesk::SendMouse(DWORD flags) {
+  const PixelSize screen = ScreenSize();
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  input.mi.dx = (pointer_.x * 65536 + screen.width - 1) / screen.width;
+  input.mi.dy = (pointer_.y * 65536 + screen.height - 1) / screen.height;
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flags;
+  SendInput(1, &input, sizeof(input));
+}
+
+void WineDesk::MovePointer(PixelPoint at) {
+  pointer_ = at;
+  SendMouse(0);
+}
+
+void WineDesk::Press(Button button) {
+  SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
+}
+
+void WineDesk::Release(Button button) {
+  SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
+}
+
+PixelPoint WineDesk::Pointer() const {
+  POINT at = {};
+  GetCursorPos(&at);
+  return {static_cast<int>(at.x), static_cast<int>(at.y)};
+}
+
+void WineDesk::Key(int virtualKey) {
+  SendKey(virtualKey, 0);
+  SendKey(virtualKey, KEYEVENTF_KEYUP);
+}
+
+void WineDesk::Type(char letter) { Key(LOBYTE(VkKeyScanW(static_cast<wchar_t>(letter)))); }
+
+bool WineDesk::Wait(const std::function<bool()>& until, int milliseconds) {
+  const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
+  while (true) {
+    AnswerMessages();
+    if (until()) return true;
+    if (GetTickCount64() >= end) break;
+    Sleep(10);
+  }
+  if (HWND box = OpenMessageBox()) {
+    std::printf("A message is up: %s\n", Narrow(TextOf(GetDlgItem(box, 0xFFFF))).c_str());
+  }
+  return false;
+}
+
+void WineDesk::Pause(int milliseconds) {
+  const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
+  while (GetTickCount64() < end) {
+    AnswerMessages();
+    Sleep(10);
+  }
+}
+
+PixelSize WineDesk::ScreenSize() const {
+  return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+int WineDesk::TwipsPerPixel() const {
+  HDC screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+  ReleaseDC(nullptr, screen);
+  return 1440 / dpi;
+}
+
+HWND WineDesk::Handle(std::string_view className) const {
+  Search search{.ClassName = Wide(className)};
+  EnumWindows(LookAtWindow, reinterpret_cast<LPARAM>(&search));
+  if (search.Found == nullptr) EnumWindows(LookBelowWindow, reinterpret_cast<LPARAM>(&search));
+  return search.Found;
+}
+
+int WineDesk::ColoursIn(std::string_view className, PixelRect part) const {
+  HWND window = Handle(className);
+  if (window == nullptr) return 0;
+  // Of another program's windows only the outermost can be read, its children with it.
+  HWND outermost = GetAncestor(window, GA_ROOT);
+  RECT frame = {};
+  GetWindowRect(outermost, &frame);
+  POINT offset = {-frame.left, -frame.top};
+  ClientToScreen(window, &offset);
+  HDC surface = GetDCEx(outermost, nullptr, DCX_WINDOW | DCX_CACHE);
+  std::set<COLORREF> colours;
+  for (int y = part.top; y < part.bottom; ++y) {
+    for (int x = part.left; x < part.right; ++x) {
+      colours.insert(
+          GetPixel(surface, x + static_cast<int>(offset.x), y + static_cast<int>(offset.y)));
+    }
+  }
+  ReleaseDC(outermost, surface);
+  colours.erase(CLR_INVALID);
+  return static_cast<int>(colours.size());
+}
+
+std::optional<SeenWindow> WineDesk::Window(std::string_view className) const {
+  HWND window = Handle(className);
+  RECT bounds = {};
+  if (window == nullptr || GetWindowRect(window, &bounds) == FALSE) return std::nullopt;
+  return SeenWindow{.Visible = IsWindowVisible(window) != FALSE,
+                    .Bounds = {static_cast<int>(bounds.left), static_cast<int>(bounds.top),
+                               static_cast<int>(bounds.right), static_cast<int>(bounds.bottom)},
+                    .Title = Narrow(TextOf(window))};
+}
+
+std::string WineDesk::ForegroundClass() const {
+  HWND window = GetForegroundWindow();
+  return window == nullptr ? std::string() : Narrow(ClassOf(window));
+}
+
+void WineDesk::BringToFront(std::string_view className) {
+  if (HWND window = Handle(className)) SetForegroundWindow(window);
+}
+
+void WineDesk::OpenOtherWindow(PixelRect bounds) {
+  other_ = std::thread([this, bounds] {
+    WNDCLASSW description = {};
+    description.lpfnWndProc = OtherProcedure;
+    description.hInstance = GetModuleHandleW(nullptr);
+    description.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
+    description.lpszClassName = L"OtherProgram";
+    RegisterClassW(&description);
+    HWND window =
+        CreateWindowExW(0, L"OtherProgram", L"Another program", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                        bounds.left, bounds.top, bounds.Width(), bounds.Height(), nullptr, nullptr,
+                        description.hInstance, nullptr);
+    SetForegroundWindow(window);
+    otherWindow_ = window;
+    MSG message = {};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+  });
+  Wait([this] { return otherWindow_ != nullptr && GetForegroundWindow() == otherWindow_; }, 5000);
+}
+
+std::intptr_t WineDesk::Send(std::string_view className, std::uint32_t message,
+                             std::uintptr_t wParam, std::intptr_t lParam) {
+  HWND window = Handle(className);
+  DWORD_PTR answer = 0;
+  if (window == nullptr ||
+      SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, 5000, &answer) == 0) {
+    return 0;
+  }
+  return static_cast<std::intptr_t>(answer);
+}
+
+void WineDesk::Post(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
+                    std::intptr_t lParam) {
+  if (HWND window = Handle(className)) PostMessageW(window, message, wParam, lParam);
+}
+
+bool WineDesk::EndSession() {
+  std::vector<HWND> windows;
+  for (const char* name : {"frmToolbar", "frmQMenu", "frmMinimize"}) {
+    if (HWND window = Handle(name)) windows.push_back(window);
+  }
+  for (HWND window : windows) {
+    DWORD_PTR answer = 0;
+    if (SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, 5000, &answer) == 0 ||
+        answer == 0) {
+      return false;
+    }
+  }
+  DWORD_PTR ignored = 0;
+  for (HWND window : windows) {
+    SendMessageTimeoutW(window, WM_ENDSESSION, TRUE, 0, SMTO_NORMAL, 5000, &ignored);
+  }
+  return !windows.empty();
+}
+
+void WineDesk::AnswerMessages() {
+  if (answered_ == answers_.size()) return;
+  HWND box = OpenMessageBox();
+  if (box == nullptr) return;
+  messages_.push_back(
+      SeenMessage{.Title = Narrow(TextOf(box)), .Text = Narrow(TextOf(GetDlgItem(box, 0xFFFF)))});
+  Picture("message-" + std::to_string(messages_.size()));
+  const int button = answers_[answered_++];
+  DWORD_PTR ignored = 0;
+  SendMessageTimeoutW(box, WM_COMMAND, static_cast<WPARAM>(button), 0, SMTO_NORMAL, 5000, &ignored);
+}
+
+std::optional<std::string> WineDesk::ReadFile(std::string_view name) const {
+  return ReadBytes(kAppFolder + Wide(name));
+}
+
+void WineDesk::WriteFile(std::string_view name, std::string_view bytes) {
+  const std::wstring path = kAppFolder + Wide(name);
+  CreateDirectoryW(path.substr(0, path.rfind(L'\\')).c_str(), nullptr);
+  if (!WriteBytes(path, bytes)) std::printf("%s was not written\n", Narrow(path).c_str());
+}
+
+bool WineDesk::FolderExists(std::string_view name) const {
+  const DWORD attributes = GetFileAttributesW((kAppFolder + Wide(name)).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+std::vector<std::string> WineDesk::Files(std::string_view folder) const {
+  std::vector<std::string> names;
+  for (std::wstring name : FilesIn(kAppFolder + Wide(folder) + L"\\", L"*")) {
+    CharUpperBuffW(name.data(), static_cast<DWORD>(name.size()));
+    names.push_back(Narrow(name));
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::string WineDesk::WitnessProgram() const { return Narrow(kWitnessFolder) + "witness.exe"; }
+
+// Its name has blanks and letters of two scripts: no single code page holds it.
+std::string WineDesk::WitnessDocument() const {
+  return Narrow(kDocumentFolder) + "letter to Zo\u00eb, \u043f\u0438\u0441\u044c\u043c\u043e.wit";
+}
+
+std::vector<scenario::Launch> WineDesk::Launched() const {
+  std::vector<scenario::Launch> launches;
+  std::vector<std::wstring> names = FilesIn(kWitnessFolder, L"*.seen");
+  std::sort(names.begin(), names.end());
+  for (const std::wstring& name : names) {
+    const std::string text = ReadBytes(kWitnessFolder + name).value_or("");
+    // Three lines; the last one is written whole or the file has another name still.
+    const std::size_t first = text.find('\n');
+    const std::size_t second = text.find('\n', first + 1);
+    launches.push_back({.Program = text.substr(0, first),
+                        .Arguments = text.substr(first + 1, second - first - 1),
+                        .Folder = text.substr(second + 1)});
+  }
+  return launches;
+}
+
+// The runner of the session takes the picture; where nobody serves requests there is no such
+// folder.
+void WineDesk::Picture(std::string_view name) {
+  const std::wstring base = kPictureFolder + Wide(name);
+  if (!WriteBytes(base + L".request", "")) return;
+  for (int i = 0; i < 500; ++i) {
+    if (GetFileAttributesW((base + L".request").c_str()) == INVALID_FILE_ATTRIBUTES) return;
+    Sleep(10);
+  }
+  std::printf("No picture %s was taken\n", Narrow(base).c_str());
+}
+
+}  // namespace corvelle::e2e
+
+namespace corvelle::scenario {
+
+std::unique_ptr<Desk> MakeDesk() { return std::make_unique<e2e::WineDesk>(); }
+
+}  // namespace corvelle::scenario

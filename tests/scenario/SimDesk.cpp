@@ -1,0 +1,237 @@
+#include <algorithm>
+#include <list>
+
+#include "base/Text.h"
+#include "core/Main.h"
+#include "core/Program.h"
+#include "icons/IconResolution.h"
+#include "menus/frmQMenu.h"
+#include "scenario/Desk.h"
+#include "sim/World.h"
+#include "toolbar/frmMinimize.h"
+#include "toolbar/frmStartup.h"
+#include "toolbar/frmToolbar.h"
+
+// The desk on the simulated desktop: the program's parts run in this process, and time is what the
+// test lets pass.
+
+namespace corvelle::scenario {
+namespace {
+
+constexpr std::string_view kAppFolder = "C:\\Corvelle\\";
+constexpr std::string_view kWitness = "C:\\witness\\witness.exe";
+constexpr std::string_view kDocument =
+    "C:\\documents\\letter to Zo\u00eb, \u043f\u0438\u0441\u044c\u043c\u043e.wit";
+
+class IconRule final : public IconRulePort {
+ public:
+  explicit IconRule(Program& program) : program_(program) {}
+  void DetectShellIcons() override { corvelle::DetectShellIcons(program_); }
+
+ private:
+  Program& program_;
+};
+
+/// One copy of the program, wired as its entry point wires it.
+class Copy {
+ public:
+  explicit Copy(sim::World& world)
+      : program_(world.Services(), world.Windows()),
+        toolbar_(program_),
+        menu_(program_),
+        companion_(program_),
+        startup_(program_),
+        iconRule_(program_) {
+    program_.Ports.Toolbar = &toolbar_;
+    program_.Ports.QMenu = &menu_;
+    program_.Ports.Minimize = &companion_;
+    program_.Ports.Startup = &startup_;
+    program_.Ports.IconRule = &iconRule_;
+    world.System.OtherInstance = world.Desktop.Find("frmMinimize") != kNoWindow;
+    runs_ = Main(program_);
+  }
+  ~Copy() {
+    if (companion_.WindowLoaded()) companion_.UnloadWindow();
+  }
+  Copy(const Copy&) = delete;
+  Copy& operator=(const Copy&) = delete;
+
+  [[nodiscard]] bool Runs() const { return runs_ && companion_.WindowLoaded(); }
+
+ private:
+  Program program_;
+  frmToolbar toolbar_;
+  frmQMenu menu_;
+  frmMinimize companion_;
+  frmStartup startup_;
+  IconRule iconRule_;
+  bool runs_ = false;
+};
+
+forms::MouseButton ToForms(Button button) {
+  return button == Button::Left ? forms::MouseButton::Left : forms::MouseButton::Right;
+}
+
+std::string WithoutBackslash(std::string folder) {
+  if (folder.size() > 3 && folder.back() == '\\') folder.pop_back();
+  return folder;
+}
+
+class SimDesk final : public Desk {
+ public:
+  SimDesk() {
+    world_.Files.Put(std::string(kAppFolder) + "corvelle.exe", "x");
+    world_.Files.Put(std::string(kAppFolder) + "Icons\\W95MBX02.ICO", "x");
+    world_.Files.Put(kWitness, "x");
+    world_.Files.Put(kDocument, "A document.\r\n");
+    world_.Shell.Associate(".wit", kWitness);
+    world_.System.WorkFolder = kAppFolder;
+  }
+
+  void StartCorvelle() override {
+    copies_.emplace_back(world_);
+    world_.Desktop.Pump();
+  }
+
+  [[nodiscard]] int RunningCopies() const override {
+    return static_cast<int>(std::count_if(copies_.begin(), copies_.end(),
+                                          [](const Copy& copy) { return copy.Runs(); }));
+  }
+
+  void MovePointer(PixelPoint at) override { world_.Desktop.MovePointer(at.x, at.y); }
+  void Press(Button button) override { world_.Desktop.Press(ToForms(button)); }
+  void Release(Button button) override { world_.Desktop.Release(ToForms(button)); }
+  [[nodiscard]] PixelPoint Pointer() const override { return world_.Desktop.PointerPosition(); }
+
+  void Key(int virtualKey) override {
+    // The codes of letters and digits are those of their characters, and the key types them.
+    const bool types =
+        (virtualKey >= '0' && virtualKey <= '9') || (virtualKey >= 'A' && virtualKey <= 'Z');
+    if (types) {
+      world_.Desktop.Type(LowerCase(std::string(1, static_cast<char>(virtualKey))));
+    } else {
+      world_.Desktop.PressKey(virtualKey);
+    }
+  }
+  void Type(char letter) override { world_.Desktop.Type(std::string(1, letter)); }
+
+  bool Wait(const std::function<bool()>& until, int milliseconds) override {
+    constexpr int kStep = 10;
+    world_.Desktop.Pump();
+    for (int passed = 0; !until(); passed += kStep) {
+      if (passed >= milliseconds) return false;
+      world_.Desktop.Advance(kStep);
+    }
+    return true;
+  }
+  void Pause(int milliseconds) override { world_.Desktop.Advance(milliseconds); }
+
+  [[nodiscard]] PixelSize ScreenSize() const override { return options_.Screen; }
+  [[nodiscard]] int TwipsPerPixel() const override {
+    return static_cast<int>(options_.TwipsPerPixel);
+  }
+
+  [[nodiscard]] std::optional<SeenWindow> Window(std::string_view className) const override {
+    const WindowId window = world_.Desktop.Find(className);
+    if (window == kNoWindow) return std::nullopt;
+    return SeenWindow{.Visible = world_.Desktop.IsShown(window),
+                      .Bounds = world_.Desktop.BoundsOf(window),
+                      .Title = world_.Desktop.Text(window)};
+  }
+  [[nodiscard]] std::string ForegroundClass() const override {
+    return world_.Desktop.ClassName(world_.Desktop.ForegroundWindow());
+  }
+  void BringToFront(std::string_view className) override {
+    world_.Desktop.TakeForeground(world_.Desktop.Find(className));
+    world_.Desktop.Pump();
+  }
+  void OpenOtherWindow(PixelRect bounds) override {
+    const WindowId window = world_.Desktop.AddOtherWindow(
+        {.Title = "Another program", .ClassName = "OtherProgram", .Bounds = bounds});
+    world_.Desktop.TakeForeground(window);
+    world_.Desktop.Pump();
+  }
+  std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
+                     std::intptr_t lParam) override {
+    const WindowId window = world_.Desktop.Find(className);
+    const std::intptr_t answer =
+        window == kNoWindow ? 0 : world_.Desktop.Send(window, message, wParam, lParam);
+    world_.Desktop.Pump();
+    return answer;
+  }
+  void Post(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
+            std::intptr_t lParam) override {
+    const WindowId window = world_.Desktop.Find(className);
+    if (window != kNoWindow) world_.Desktop.Post(window, message, wParam, lParam);
+  }
+  bool EndSession() override {
+    world_.Desktop.EndSession();
+    world_.Desktop.Pump();
+    return true;
+  }
+
+  void AnswerNext(int button) override { world_.Desktop.Answer(button); }
+  [[nodiscard]] std::vector<SeenMessage> Messages() const override {
+    std::vector<SeenMessage> messages;
+    for (const sim::MessageBox& box : world_.Desktop.Boxes()) {
+      messages.push_back({.Title = box.Title, .Text = box.Text});
+    }
+    return messages;
+  }
+
+  [[nodiscard]] std::optional<std::string> ReadFile(std::string_view name) const override {
+    return world_.Files.Get(PathOf(name));
+  }
+  void WriteFile(std::string_view name, std::string_view bytes) override {
+    world_.Files.Put(PathOf(name), bytes);
+  }
+  [[nodiscard]] bool FolderExists(std::string_view name) const override {
+    return world_.Files.Has(PathOf(name)) && !world_.Files.Get(PathOf(name));
+  }
+  [[nodiscard]] std::vector<std::string> Files(std::string_view folder) const override {
+    std::vector<std::string> names;
+    for (const std::string& name : world_.Files.Names(PathOf(folder)))
+      names.push_back(UpperCase(name));
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  [[nodiscard]] std::string WitnessProgram() const override { return std::string(kWitness); }
+  [[nodiscard]] std::string WitnessDocument() const override { return std::string(kDocument); }
+
+  // What the shell was asked for, as the program that it starts would see it.
+  [[nodiscard]] std::vector<Launch> Launched() const override {
+    std::vector<Launch> launches;
+    for (const sim::Launch& asked : world_.Shell.Log()) {
+      if (!asked.Started) continue;
+      const std::string folder = WithoutBackslash(asked.Folder.value_or(world_.System.WorkFolder));
+      if (asked.How == sim::Launch::Kind::Run) {
+        const std::size_t end = asked.File.find(' ');
+        launches.push_back({asked.File.substr(0, end),
+                            end == std::string::npos ? "" : asked.File.substr(end + 1), folder});
+      } else if (EndsWithNoCase(asked.File, ".wit")) {
+        launches.push_back({std::string(kWitness), "\"" + asked.File + "\"", folder});
+      } else {
+        launches.push_back({asked.File, asked.Parameters.value_or(""), folder});
+      }
+    }
+    return launches;
+  }
+
+  void Picture(std::string_view) override {}
+
+ private:
+  static std::string PathOf(std::string_view name) {
+    return std::string(kAppFolder) + std::string(name);
+  }
+
+  sim::WorldOptions options_;
+  sim::World world_{options_};
+  std::list<Copy> copies_;
+};
+
+}  // namespace
+
+std::unique_ptr<Desk> MakeDesk() { return std::make_unique<SimDesk>(); }
+
+}  // namespace corvelle::scenario

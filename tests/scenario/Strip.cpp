@@ -1,0 +1,127 @@
+#include "scenario/Strip.h"
+
+#include <bit>
+#include <cstdint>
+
+#include "base/CodePage.h"
+
+namespace corvelle::scenario {
+namespace {
+
+const Windows1252 kAnsi;
+
+// A button takes two pixels more than the strip is high: the line at its end, and the gap.
+int Pitch(const PixelRect& strip) { return strip.Height() + 2; }
+
+}  // namespace
+
+std::string MenuBytes(std::string_view title, const std::vector<MenuRecord>& items) {
+  std::string bytes =
+      FormatRecord({.FTitle = std::string(title), .FIcon = "\\icons\\folder.ico"}, kAnsi);
+  for (const MenuRecord& item : items) bytes += FormatRecord(item, kAnsi);
+  return bytes;
+}
+
+MenuRecord Witness(const Desk& desk, const std::string& argument) {
+  const std::string program = desk.WitnessProgram();
+  return {.FTitle = argument, .FIcon = program, .FName = program + " " + argument};
+}
+
+void WriteMenu(Desk& desk, int number, std::string_view title,
+               const std::vector<MenuRecord>& items) {
+  desk.WriteFile("Menus\\" + MenuFileName(number), MenuBytes(title, items));
+}
+
+std::string InstalledFlags(const std::vector<int>& turned) {
+  std::string flags(32, '0');
+  for (const int position : {1, 2, 9, 19, 24, 26, 32})
+    flags[static_cast<std::size_t>(position) - 1] = '1';
+  for (const int position : turned) {
+    char& flag = flags[static_cast<std::size_t>(position) - 1];
+    flag = flag == '1' ? '0' : '1';
+  }
+  return flags;
+}
+
+std::string PositionBytes(float twips) {
+  const auto bits = std::bit_cast<std::uint32_t>(twips);
+  std::string bytes;
+  for (unsigned shift = 0; shift < 32; shift += 8)
+    bytes += static_cast<char>((bits >> shift) & 0xFFU);
+  return bytes;
+}
+
+float PositionTwips(const std::optional<std::string>& bytes) {
+  if (!bytes || bytes->size() != 4) return -1;
+  std::uint32_t bits = 0;
+  for (unsigned i = 0; i < 4; ++i) {
+    bits |= static_cast<std::uint32_t>(static_cast<unsigned char>((*bytes)[i])) << (8 * i);
+  }
+  return std::bit_cast<float>(bits);
+}
+
+bool StartAndWait(Desk& desk) {
+  desk.StartCorvelle();
+  const auto stands = [&desk] {
+    return desk.IsVisible("frmToolbar") && desk.IsVisible("picToolbar") &&
+           desk.Window("frmMinimize").has_value() &&
+           desk.BoundsOf("frmToolbar").left < desk.ScreenSize().width;
+  };
+  if (!desk.Wait(stands, 20000)) return false;
+  desk.Pause(300);  // The start ends after the strip is shown: nothing outside tells when.
+  return stands();
+}
+
+bool CloseAndWait(Desk& desk) {
+  desk.Post("frmMinimize", kMessageClose, 0, 0);
+  return desk.Wait([&desk] { return desk.RunningCopies() == 0; });
+}
+
+int ButtonCount(const Desk& desk) {
+  const PixelRect strip = desk.BoundsOf("picToolbar");
+  return strip.IsEmpty() ? 0 : strip.Width() / Pitch(strip);
+}
+
+PixelPoint ButtonMiddle(const Desk& desk, int button) {
+  const PixelRect strip = desk.BoundsOf("picToolbar");
+  const int pitch = Pitch(strip);
+  return {strip.left + (button - 1) * pitch + pitch / 2, (strip.top + strip.bottom) / 2};
+}
+
+PixelPoint ItemMiddle(const Desk& desk, int item, int count) {
+  const PixelRect menu = desk.BoundsOf("frmQMenu");
+  // The first label stands 6 pixels from the top and 13 are left below the last.
+  const int gap = desk.TwipsPerPixel() < 14 ? 6 : 7;
+  const int line = (menu.Height() - 19 - (count - 1) * gap) / count;
+  return {menu.left + 40, menu.top + 6 + (item - 1) * (line + gap) + line / 2};
+}
+
+bool WaitForMenuAt(Desk& desk, int button) {
+  const auto stands = [&desk, button] {
+    if (!desk.IsVisible("frmQMenu")) return false;
+    const PixelRect menu = desk.BoundsOf("frmQMenu");
+    const PixelPoint middle = ButtonMiddle(desk, button);
+    const PixelRect strip = desk.BoundsOf("picToolbar");
+    return menu.left < middle.x && middle.x - menu.left < Pitch(strip) &&
+           menu.top >= strip.bottom - 2;
+  };
+  if (!desk.Wait(stands)) return false;
+  desk.Pause(200);  // Icons still arrive.
+  return stands();
+}
+
+bool OpenMenu(Desk& desk, int button) {
+  desk.Click(ButtonMiddle(desk, button));
+  return WaitForMenuAt(desk, button);
+}
+
+bool WaitForNoMenu(Desk& desk) {
+  return desk.Wait([&desk] { return !desk.IsVisible("frmQMenu"); });
+}
+
+PixelPoint FarAway(const Desk& desk) {
+  const PixelSize screen = desk.ScreenSize();
+  return {screen.width / 4, screen.height * 3 / 4};
+}
+
+}  // namespace corvelle::scenario
