@@ -1,0 +1,145 @@
+#include <csignal>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+// Runs a fuzz target on inputs made from a seed: bytes of several kinds, and changed copies of the
+// files that the command line names. The same seed gives the same inputs on every machine.
+//
+//   records_fuzz --count 20000 [--seed N] [files...]
+//
+// Each input has the seed "first seed + its number", so that a failing one runs again alone with
+// --seed S --count 1.
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+unsigned long currentSeed = 0;
+bool inputRuns = false;
+
+void SayWhichInput() {
+  if (!inputRuns) return;
+  std::fprintf(stderr, "the failing input: --seed %lu --count 1\n", currentSeed);
+}
+
+// A broken property ends in abort, a sanitizer's finding in an exit; the message goes with both.
+extern "C" void OnAbort(int signal) {
+  SayWhichInput();
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
+}
+
+class Maker {
+ public:
+  explicit Maker(unsigned long seed) : random_(seed) {}
+
+  Bytes Make(const std::vector<Bytes>& corpus) {
+    if (!corpus.empty() && Below(2) == 0) return Changed(corpus[Below(corpus.size())]);
+    return Changed(Fresh());
+  }
+
+ private:
+  std::size_t Below(std::size_t bound) { return static_cast<std::size_t>(random_() % bound); }
+
+  std::uint8_t AnyByte() { return static_cast<std::uint8_t>(random_() & 0xFFU); }
+
+  std::uint8_t TextByte() {
+    static constexpr char kPool[] = "aX/hH*\\ .?0159\n\r=&-_{}\xC3\xA4\xD0\x96\xE2\x82\xAC\xFF";
+    return static_cast<std::uint8_t>(kPool[Below(sizeof kPool)]);
+  }
+
+  // Few lengths are as telling as those around whole records.
+  std::size_t Length() {
+    switch (Below(4)) {
+      case 0:
+        return Below(64);
+      case 1:
+        return 570 * Below(6);
+      case 2:
+        return 570 * (1 + Below(5)) + Below(3) - 1;
+      default:
+        return Below(4000);
+    }
+  }
+
+  Bytes Fresh() {
+    Bytes bytes(Length());
+    const std::size_t kind = Below(4);
+    for (std::uint8_t& byte : bytes) {
+      const bool blank = kind == 2 && Below(4) != 0;
+      byte = blank ? ' ' : (kind == 0 ? AnyByte() : TextByte());
+    }
+    return bytes;
+  }
+
+  Bytes Changed(Bytes bytes) {
+    for (std::size_t n = Below(6); n > 0; --n) {
+      const std::size_t at = bytes.empty() ? 0 : Below(bytes.size());
+      switch (Below(4)) {
+        case 0:
+          if (!bytes.empty()) bytes[at] = AnyByte();
+          break;
+        case 1:
+          bytes.insert(bytes.begin() + static_cast<std::ptrdiff_t>(at), TextByte());
+          break;
+        case 2:
+          if (!bytes.empty()) bytes.erase(bytes.begin() + static_cast<std::ptrdiff_t>(at));
+          break;
+        default:
+          bytes.resize(at);
+          break;
+      }
+    }
+    return bytes;
+  }
+
+  std::mt19937_64 random_;
+};
+
+int Usage(const char* program) {
+  std::fprintf(stderr, "%s [--count N] [--seed N] [files...]\n", program);
+  return 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  unsigned long count = 10000;
+  unsigned long firstSeed = 1;
+  std::vector<Bytes> corpus;
+  for (int i = 1; i < argc; ++i) {
+    const bool isCount = std::strcmp(argv[i], "--count") == 0;
+    const bool isSeed = std::strcmp(argv[i], "--seed") == 0;
+    if (isCount || isSeed) {
+      if (++i >= argc) return Usage(argv[0]);
+      (isCount ? count : firstSeed) = std::strtoul(argv[i], nullptr, 10);
+      continue;
+    }
+    std::ifstream file(argv[i], std::ios::binary);
+    if (!file) return Usage(argv[0]);
+    corpus.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+  }
+
+  for (const Bytes& bytes : corpus) LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+  std::atexit(SayWhichInput);
+  std::signal(SIGABRT, OnAbort);
+  for (unsigned long n = 0; n < count; ++n) {
+    currentSeed = firstSeed + n;
+    const Bytes bytes = Maker(currentSeed).Make(corpus);
+    inputRuns = true;
+    LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+    inputRuns = false;
+  }
+  std::printf("%lu inputs from seed %lu and %zu files: all properties hold\n", count, firstSeed,
+              corpus.size());
+  return 0;
+}

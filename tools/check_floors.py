@@ -1,0 +1,157 @@
+#!/usr/bin/env python3
+"""Checks the floors of the house.
+
+  tools/check_floors.py [ROOT]
+
+- A file below src/ includes files of its own folder and of the floors below it, written from src/, and
+  never one above; and the files of src/ never include each other in a circle.
+- windows.h and its like are included below src/win32/ and in the tests that run on Windows only.
+- Every *_test.cpp lies in a folder whose test program takes it.
+
+Says each breach on a line of its own and ends with 1 when there is one.
+"""
+
+import pathlib
+import re
+import sys
+
+# Each folder of src/ with the folders that it may include besides itself. "." is main.cpp.
+FLOORS = {
+    "base": [],
+    "platform": ["base"],
+    "forms": ["base", "platform"],
+    "core": ["base", "platform", "forms"],
+    "launch": ["base", "platform", "forms", "core"],
+    "icons": ["base", "platform", "forms", "core"],
+    "shell": ["base", "platform", "forms", "core"],
+    "toolbar": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "menus": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
+    "search": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
+    "about": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
+    "win32": ["base", "platform", "forms"],
+}
+MAIN = sorted(FLOORS)
+WINDOWS_PLACES = ("src/win32/", "tests/e2e/", "tests/windows/")
+WINDOWS_HEADERS = {"windows.h", "windowsx.h", "winuser.h", "wingdi.h", "winbase.h", "windef.h", "winreg.h",
+                   "commctrl.h", "commoncontrols.h", "shellapi.h", "shlobj.h", "shlwapi.h", "shobjidl.h",
+                   "shlguid.h", "objbase.h", "ole2.h", "oleidl.h", "ddeml.h", "dde.h", "commdlg.h",
+                   "tlhelp32.h", "dbghelp.h", "versionhelpers.h"}
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+SOURCES = {".h", ".cpp", ".inl"}
+
+
+def includes(path):
+    """The includes of a file as (quote, name, line)."""
+    text = path.read_text(encoding="utf-8", errors="replace")
+    return [(found.group(1), found.group(2), text.count("\n", 0, found.start(2)) + 1)
+            for found in INCLUDE.finditer(text)]
+
+
+def files_below(folder):
+    return sorted(path for path in folder.rglob("*") if path.suffix in SOURCES and path.is_file())
+
+
+def check_source_file(path, source):
+    """Breaches of one file of src/, and the files of src/ that it includes."""
+    breaches, edges = [], []
+    name = path.relative_to(source)
+    floor = name.parts[0] if len(name.parts) > 1 else "."
+    if floor != "." and floor not in FLOORS:
+        return [f"src/{name}: {floor} is no floor of the house"], []
+    allowed = MAIN if floor == "." else [floor, *FLOORS[floor]]
+    for quote, included, line in includes(path):
+        if quote != '"':
+            continue
+        where = f"src/{name}:{line}"
+        if not (source / included).is_file():
+            breaches.append(f'{where}: "{included}" is not a file below src/')
+            continue
+        target = pathlib.PurePosixPath(included)
+        if ".." in target.parts:
+            breaches.append(f'{where}: "{included}" is not written from src/')
+            continue
+        if len(target.parts) < 2 or target.parts[0] not in allowed:
+            breaches.append(f'{where}: {floor} may not include "{included}"')
+        edges.append(str(target))
+    return breaches, edges
+
+
+def find_circles(graph):
+    """Each circle of includes once, as the list of its files."""
+    state, stack, circles = {}, [], []
+
+    def visit(node):
+        state[node] = "open"
+        stack.append(node)
+        for following in graph.get(node, []):
+            if state.get(following) == "open":
+                circles.append(stack[stack.index(following):] + [following])
+            elif following not in state:
+                visit(following)
+        stack.pop()
+        state[node] = "done"
+
+    for node in sorted(graph):
+        if node not in state:
+            visit(node)
+    return circles
+
+
+def check_windows_headers(root):
+    breaches = []
+    for top in ("src", "tests", "bench", "fuzz", "tools"):
+        for path in files_below(root / top):
+            name = path.relative_to(root).as_posix()
+            if name.startswith(WINDOWS_PLACES):
+                continue
+            for _, included, line in includes(path):
+                if pathlib.PurePosixPath(included).name.lower() in WINDOWS_HEADERS:
+                    breaches.append(f"{name}:{line}: {included} is included outside src/win32/")
+    return breaches
+
+
+def check_tests_are_built(root):
+    """A test folder takes every file in it, so a test is lost only in a folder without a program."""
+    lists = [root / "tests" / "CMakeLists.txt", root / "tests" / "windows.cmake"]
+    text = "\n".join(path.read_text(encoding="utf-8") for path in lists if path.is_file())
+    built = set(re.findall(r"^\s*corvelle_(?:windows_)?tests\(\s*([\w/]+)", text, re.MULTILINE))
+    breaches = []
+    for path in sorted((root / "tests").rglob("*_test.cpp")):
+        folder = path.parent.relative_to(root / "tests").as_posix()
+        if folder not in built:
+            breaches.append(f"tests/{folder}/{path.name}: no test program takes the folder {folder}")
+    return breaches
+
+
+def check(root):
+    """All breaches below ROOT, in the order of the rules."""
+    source = root / "src"
+    if not source.is_dir():
+        return [f"{root}: there is no src/"]
+    breaches, graph = [], {}
+    for path in files_below(source):
+        found, edges = check_source_file(path, source)
+        breaches += found
+        graph[path.relative_to(source).as_posix()] = edges
+    breaches += ["circle of includes: " + " -> ".join(circle) for circle in find_circles(graph)]
+    breaches += check_windows_headers(root)
+    breaches += check_tests_are_built(root)
+    return breaches
+
+
+def main():
+    here = pathlib.Path(__file__).resolve().parent.parent
+    root = pathlib.Path(sys.argv[1]).resolve() if len(sys.argv) > 1 else here
+    breaches = check(root)
+    for breach in breaches:
+        print(breach)
+    if breaches:
+        print(f"floors: {len(breaches)} breaches")
+        return 1
+    print(f"floors: {len(files_below(root / 'src'))} files, none breaks the order")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

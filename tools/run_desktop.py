@@ -1,0 +1,162 @@
+#!/usr/bin/env python3
+"""Starts the program of dist/Corvelle in a Wine desktop.
+
+On the display of $DISPLAY it stays until the program is closed. Without one it uses a display of its own,
+leaves build/screen.png (the strip) and build/screen-menu.png (the menu of its second button), and ends the
+program as a user would. What the program writes into its folder stays in dist/Corvelle.
+"""
+
+import os
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import time
+
+import sample_menus
+from wine_session import ROOT, Session, SessionError, end_quietly
+
+FOLDER = ROOT / "dist" / "Corvelle"
+MENUTEXT = ROOT / "build" / "windows" / "menutext.exe"
+PICTURES = ROOT / "build"
+
+
+def say(text):
+    print(f"run.sh: {text}", flush=True)
+
+
+def display_works(name):
+    """True if an X server answers there."""
+    if not name:
+        return False
+    return subprocess.run(["xdotool", "getdisplaygeometry"], env=dict(os.environ, DISPLAY=name), check=False,
+                          stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                          timeout=20).returncode == 0
+
+
+def has_menus(folder):
+    return any(path.suffix.lower() in (".mnu", ".btn") for path in folder.glob("*"))
+
+
+def fill_menus(session):
+    """Sample menus of what this machine has, if the program has none."""
+    target = FOLDER / "Menus"
+    target.mkdir(exist_ok=True)
+    if has_menus(target):
+        return
+    say("the program has no menus yet; making some of what this machine has")
+    readme = FOLDER / "readme.txt"
+    if not readme.exists():
+        readme.write_text("This is the folder of Corvelle. Its menus lie in the folder Menus, one file for "
+                          "each button.\r\n", encoding="ascii", newline="")
+    place = session.drive / "menutext"
+    place.mkdir()
+    shutil.copy2(MENUTEXT, place)
+    for number, text in enumerate(sample_menus.menus(session.drive), 1):
+        source = place / f"{number}.txt"
+        source.write_text(text, encoding="utf-8")
+        process = session.start([r"C:\menutext\menutext.exe", "pack", f"C:\\menutext\\{number}.txt",
+                                 f"C:\\Corvelle\\Menus\\BMENU{number:03}.MNU"])
+        if process.wait(60) != 0:
+            raise SessionError(f"menutext did not make menu {number}")
+
+
+def wait_for_end(process, seconds):
+    try:
+        return process.wait(seconds)
+    except subprocess.TimeoutExpired:
+        return None
+
+
+def second_button(session):
+    """The middle of the strip's second button, as xdotool takes it; nothing when no strip is to be seen."""
+    tree = subprocess.run(["xwininfo", "-root", "-tree"], env=session.environment(), check=False,
+                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                          timeout=20, text=True).stdout
+    rectangles = [tuple(map(int, found)) for found in
+                  re.findall(r'"corvelle\.exe"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', tree)]
+    strips = [window for window in rectangles if 20 <= min(window[:2]) <= 60]
+    if not strips:
+        return None
+    width, height, left, top = max(strips, key=lambda window: window[0] * window[1])
+    # Buttons follow one another at a distance that is the strip's thickness but for one pixel.
+    along, across = (min(width, height) - 1) * 3 // 2 + 1, min(width, height) // 2
+    x, y = (along, across) if width > height else (across, along)
+    return [str(left + x), str(top + y)]
+
+
+def show_on_own_display(session, process):
+    """Takes the pictures and ends the program; its exit code, or None if it would not end."""
+    deadline = time.monotonic() + 20
+    while not (FOLDER / "tmenu425.dat").exists() and time.monotonic() < deadline and process.poll() is None:
+        time.sleep(0.1)
+    time.sleep(4)
+    if process.poll() is not None:
+        return process.returncode
+    if not session.picture(PICTURES / "screen.png"):
+        raise SessionError("the picture of the screen could not be taken")
+    say(f"a picture of the screen is in {PICTURES / 'screen.png'}")
+    button = second_button(session)
+    if button:
+        session.tool(["xdotool", "mousemove", *button, "click", "1"])
+        time.sleep(2)
+        if session.picture(PICTURES / "screen-menu.png"):
+            say(f"and one with a menu open in {PICTURES / 'screen-menu.png'}")
+        session.tool(["xdotool", "mousemove", *button, "click", "1"])
+        time.sleep(1)
+    return close_program(session, process)
+
+
+def close_program(session, process):
+    """Closes the program's windows, so that it saves what it has to; its exit code, None if it stays."""
+    session.start(["taskkill", "/im", "corvelle.exe"], stdout=subprocess.DEVNULL,
+                  stderr=subprocess.DEVNULL).wait(30)
+    return wait_for_end(process, 15)
+
+
+def stay_on_display(session, process):
+    """Waits until the program has ended; a signal to this script closes it."""
+    try:
+        return process.wait()
+    except SystemExit:
+        say("closing the program")
+        close_program(session, process)
+        raise
+
+
+def run():
+    display = os.environ.get("DISPLAY", "")
+    if display and not display_works(display):
+        say(f"nothing answers on the display {display}; using one of its own")
+        display = ""
+    with Session(display=display or None, verbose=True) as session:
+        (session.drive / "Corvelle").symlink_to(FOLDER)
+        fill_menus(session)
+        say(f"starting {FOLDER / 'corvelle.exe'} " + (f"on the display {display}; Ctrl+C here closes it"
+                                                     if display else "on a display of its own"))
+        process = session.start([r"C:\Corvelle\corvelle.exe"], cwd=session.drive / "Corvelle")
+        code = stay_on_display(session, process) if display else show_on_own_display(session, process)
+    if code is None:
+        raise SessionError("the program did not end when it was asked to")
+    if code != 0:
+        raise SessionError(f"the program ended with exit code {code}")
+    say("the program has ended; nothing is left running")
+    return 0
+
+
+def main():
+    for sign in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+        signal.signal(sign, end_quietly)
+    if not (FOLDER / "corvelle.exe").is_file():
+        say(f"{FOLDER / 'corvelle.exe'} is not there; run ./run.sh, which builds it")
+        return 1
+    try:
+        return run()
+    except (OSError, SessionError, subprocess.SubprocessError) as error:
+        print(f"run.sh: {error}", file=sys.stderr)
+        return 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
