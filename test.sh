@@ -1,0 +1,69 @@
+#!/bin/bash
+# Installs what is missing, builds and runs every test: natively with the sanitizers on the simulated
+# desktop, then the Windows side and the real corvelle.exe under Wine. The last line tells the totals.
+set -uo pipefail
+cd "$(dirname "$0")" || exit 1
+. tools/setup.sh
+export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-2}"
+export LC_ALL=C.UTF-8
+
+passed=0
+failed=0
+
+# add "N passed, M failed": takes a stage's figures into the totals.
+add() {
+  local figures=$1
+  if [[ $figures =~ ([0-9]+)\ passed,\ ([0-9]+)\ failed ]]; then
+    passed=$((passed + BASH_REMATCH[1]))
+    failed=$((failed + BASH_REMATCH[2]))
+  else
+    failed=$((failed + 1))
+  fi
+}
+
+# stage NAME COMMAND...: runs it; what fails without figures of its own counts as one failure.
+stage() {
+  local name=$1 began=$SECONDS
+  shift
+  say "$name"
+  if "$@"; then
+    say "$name: done in $((SECONDS - began)) s"
+  else
+    say "$name: FAILED after $((SECONDS - began)) s"
+    failed=$((failed + 1))
+    return 1
+  fi
+}
+
+build_native() { configure asan && build asan; }
+build_windows() {
+  configure windows && build windows &&
+    cmake --install build/windows --prefix build/windows/package >build/windows-install.log
+}
+build_windows32() { configure windows32 && build windows32; }
+
+run_native() {
+  rm -rf build/asan/results build/asan/ctest.xml
+  GTEST_OUTPUT="xml:$PWD/build/asan/results/" ctest --test-dir build/asan -j "$CMAKE_BUILD_PARALLEL_LEVEL" \
+    --output-on-failure --no-tests=error --output-junit "$PWD/build/asan/ctest.xml" >build/asan-tests.log 2>&1 ||
+    cat build/asan-tests.log
+  python3 tools/totals.py build/asan/ctest.xml build/asan/results | tee build/native-totals.txt
+  add "$(tail -n 1 build/native-totals.txt)"
+}
+
+run_wine() {
+  python3 tools/run_windows_tests.py | tee build/wine-totals.txt
+  add "$(tail -n 1 build/wine-totals.txt)"
+}
+
+# shellcheck disable=SC2086
+install_packages $CORVELLE_BUILD_PACKAGES $CORVELLE_WINE_PACKAGES $CORVELLE_TEST_PACKAGES
+mkdir -p build
+stage "native build, with the address and undefined behaviour sanitizers" build_native &&
+  stage "native tests" run_native
+stage "build for Windows" build_windows && stage "tests under Wine" run_wine
+stage "build for 32-bit Windows" build_windows32
+
+say "$SECONDS s"
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]
