@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Twips.h"
 #include "core/CommandPorts.h"
 #include "forms/Types.h"
 #include "platform/WindowId.h"
@@ -30,8 +31,8 @@ class ToolbarPort : public LoadedWindow {
   [[nodiscard]] virtual WindowId ButtonBoxHandle() const = 0;  // picToolbar
   [[nodiscard]] virtual WindowId SingleBoxHandle() const = 0;  // picSingleButton
 
-  /// Top edge of the window, twips.
-  [[nodiscard]] virtual float WindowTop() const = 0;
+  /// Place and size of the window on the screen.
+  [[nodiscard]] virtual TwipRect WindowBounds() const = 0;
 
   /// Closes any open menu and restores the look of the buttons.
   virtual void ResetMenu() = 0;

@@ -73,7 +73,7 @@ float frmQMenu::PlaceForRoom() {
                    .ScreenHeight = screen.Height,
                    .MenuTop = Top(),
                    .StripTop = program_.Ports.Toolbar != nullptr
-                                   ? program_.Ports.Toolbar->WindowTop()
+                                   ? program_.Ports.Toolbar->WindowBounds().Top
                                    : screen.Height});
 }
 

@@ -31,8 +31,9 @@ void frmMinimize::Form_Load() {
   SetVisible(false);
   SetCaption("Corvelle");
   // The task bar's animation starts and ends where the strip stands.
-  if (const auto* strip = dynamic_cast<const forms::Control*>(program_.Ports.Toolbar)) {
-    Move(strip->Left(), strip->Top(), strip->Width(), strip->Height());
+  if (program_.Ports.Toolbar != nullptr) {
+    const TwipRect strip = program_.Ports.Toolbar->WindowBounds();
+    Move(strip.Left, strip.Top, strip.Width, strip.Height);
   }
 }
 

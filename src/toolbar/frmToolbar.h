@@ -37,7 +37,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
   [[nodiscard]] WindowId ButtonBoxHandle() const override { return picToolbar.hWnd(); }
   [[nodiscard]] WindowId SingleBoxHandle() const override { return picSingleButton.hWnd(); }
-  [[nodiscard]] float WindowTop() const override { return Top(); }
+  [[nodiscard]] TwipRect WindowBounds() const override {
+    return {Left(), Top(), Width(), Height()};
+  }
 
   /// Builds the window's contents from the files and shows it, unless a repositioning runs.
   void InitButtons();

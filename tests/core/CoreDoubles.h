@@ -24,7 +24,7 @@ class LoggingToolbar final : public ToolbarPort {
   WindowId WindowHandle() const override { return loaded_ ? WindowId{77} : kNoWindow; }
   WindowId ButtonBoxHandle() const override { return kNoWindow; }
   WindowId SingleBoxHandle() const override { return kNoWindow; }
-  float WindowTop() const override { return 0; }
+  TwipRect WindowBounds() const override { return {}; }
   void ResetMenu() override { log_.push_back("ResetMenu"); }
   void RefreshMenu(std::string_view tag) override { Note("RefreshMenu ", tag); }
   void OpenMenu(std::string_view tag) override { Note("OpenMenu ", tag); }

@@ -35,7 +35,7 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   WindowId WindowHandle() const override { return hWnd(); }
   WindowId ButtonBoxHandle() const override { return kNoWindow; }
   WindowId SingleBoxHandle() const override { return kNoWindow; }
-  float WindowTop() const override { return Top(); }
+  TwipRect WindowBounds() const override { return {Left(), Top(), Width(), Height()}; }
   void ResetMenu() override {
     Asked.emplace_back("ResetMenu");
     menu_.SetPoll(false);

@@ -57,6 +57,8 @@ TEST(ToolbarSlide, TheGripMovesTheStripAlongTheTop) {
   EXPECT_EQ(desk.Strip.Left(), 3000 + 100 * 15);
   EXPECT_EQ(desk.Strip.Top(), -7 * 15);
   EXPECT_TRUE(desk.LooksDragged());
+  // Nothing else places the strip while it is held.
+  EXPECT_TRUE(desk.TheProgram.RestoreBusy);
   desk.World.Desktop.Release();
   EXPECT_EQ(desk.Strip.Left(), 4500);
   EXPECT_FALSE(desk.LooksDragged());

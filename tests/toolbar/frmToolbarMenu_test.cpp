@@ -268,6 +268,15 @@ TEST(ToolbarHover, AMenuHiddenThatWayIsForgottenWhenTheUserGoesElsewhere) {
   EXPECT_EQ(desk.MenuUp(), 0);
 }
 
+TEST(ToolbarHover, OpensNothingWhileAnotherProgramIsActive) {
+  ThreeMenus desk;
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
+  desk.World.Desktop.TakeForeground(other);
+  desk.TheProgram.MenuOpen = true;
+  desk.PointAtButton(3);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
 TEST(ToolbarHover, TheSingleButtonsHideTheMenu) {
   ThreeMenus desk;
   desk.Click(4);
