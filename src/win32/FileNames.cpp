@@ -17,6 +17,12 @@ bool StandsForNone(std::u16string_view name, std::size_t at) {
   return at == name.size() || name[at] == u'.';
 }
 
+// True if the pattern's character takes the name's.
+bool Takes(char16_t form, std::u16string_view name, std::size_t at) {
+  if (at == name.size()) return false;
+  return form == u'?' ? name[at] != u'.' : form == name[at];
+}
+
 // Goes on from the last "*" whenever the way from there turns out wrong, so that no pattern takes
 // long.
 bool Fits(std::u16string_view name, std::u16string_view pattern) {
@@ -24,20 +30,16 @@ bool Fits(std::u16string_view name, std::u16string_view pattern) {
   std::size_t p = 0;
   std::size_t star = std::u16string_view::npos;
   std::size_t starName = 0;
-  while (true) {
-    if (p < pattern.size() && pattern[p] == u'*') {
+  while (n < name.size() || p < pattern.size()) {
+    const char16_t form = p < pattern.size() ? pattern[p] : u'\0';
+    if (form == u'*') {
       star = p++;
       starName = n;
-    } else if (p < pattern.size() && pattern[p] == u'?' && !StandsForNone(name, n)) {
+    } else if (Takes(form, name, n)) {
       ++p;
       ++n;
-    } else if (p < pattern.size() && pattern[p] == u'?') {
+    } else if (form == u'?' && StandsForNone(name, n)) {
       ++p;
-    } else if (p < pattern.size() && n < name.size() && pattern[p] == name[n]) {
-      ++p;
-      ++n;
-    } else if (p == pattern.size() && n == name.size()) {
-      return true;
     } else if (star != std::u16string_view::npos && starName < name.size()) {
       p = star + 1;
       n = ++starName;
@@ -45,6 +47,7 @@ bool Fits(std::u16string_view name, std::u16string_view pattern) {
       return false;
     }
   }
+  return true;
 }
 
 }  // namespace

@@ -65,6 +65,10 @@ struct IconTraits : NullHandleTraits<HICON> {
   static void Close(HICON icon) noexcept { DestroyIcon(icon); }
 };
 
+struct WindowTraits : NullHandleTraits<HWND> {
+  static void Close(HWND window) noexcept { DestroyWindow(window); }
+};
+
 struct RegistryKeyTraits : NullHandleTraits<HKEY> {
   static void Close(HKEY key) noexcept { RegCloseKey(key); }
 };
@@ -90,6 +94,7 @@ using UniqueBitmap = UniqueHandle<GdiObjectTraits<HBITMAP>>;
 using UniquePen = UniqueHandle<GdiObjectTraits<HPEN>>;
 using UniqueMemoryDc = UniqueHandle<MemoryDcTraits>;
 using UniqueIcon = UniqueHandle<IconTraits>;
+using UniqueWindow = UniqueHandle<WindowTraits>;
 using UniqueRegistryKey = UniqueHandle<RegistryKeyTraits>;
 using UniqueKernel = UniqueHandle<KernelTraits>;
 using UniqueFile = UniqueHandle<FileTraits>;

@@ -96,11 +96,11 @@ void Win32Desktop::BringForward(WindowId window) {
   const HWND handle = ToHwnd(window);
   if (IsWindow(handle) == 0) return;
   // Who owns the foreground may give it away; a window of our own thread asks the one in front.
-  DWORD thread = GetWindowThreadProcessId(handle, nullptr);
-  if (thread == GetCurrentThreadId())
-    thread = GetWindowThreadProcessId(GetForegroundWindow(), nullptr);
+  const DWORD thread = GetWindowThreadProcessId(handle, nullptr);
+  HWND partner = thread == GetCurrentThreadId() ? GetForegroundWindow() : handle;
   // The queue of a program that hangs would hold up this one.
-  const JoinedInput joined(IsHungAppWindow(handle) != 0 ? 0 : thread);
+  if (IsHungAppWindow(partner) != 0) partner = nullptr;
+  const JoinedInput joined(GetWindowThreadProcessId(partner, nullptr));
   SetActiveWindow(handle);
   SetForegroundWindow(handle);
 }

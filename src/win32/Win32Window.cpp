@@ -3,6 +3,7 @@
 #include <string>
 
 #include "win32/Wide.h"
+#include "win32/Win32WindowSystem.h"
 
 namespace corvelle::win32 {
 
@@ -45,7 +46,8 @@ bool Win32Window::Create(const forms::PeerSpec& spec) {
   const std::wstring name = Wide(spec.ClassName);
   if (!RegisterClassNamed(name.c_str())) return false;
   const WindowStyle style = StyleOf(spec);
-  const HWND parent = spec.Parent != nullptr ? ToHwnd(spec.Parent->Id()) : nullptr;
+  const HWND owner = IsForm() && !spec.InTaskbar ? system_.ToolOwner() : nullptr;
+  const HWND parent = spec.Parent != nullptr ? ToHwnd(spec.Parent->Id()) : owner;
   told_ = spec.Bounds;
   const HWND made = CreateWindowExW(style.ExStyle, name.c_str(), L"", style.Style, spec.Bounds.left,
                                     spec.Bounds.top, spec.Bounds.Width(), spec.Bounds.Height(),

@@ -75,6 +75,14 @@ forms::ScreenInfo Win32WindowSystem::Screen() const {
   return info;
 }
 
+HWND Win32WindowSystem::ToolOwner() {
+  if (!toolOwner_) {
+    toolOwner_.Reset(CreateWindowExW(WS_EX_TOOLWINDOW, L"Static", L"", WS_POPUP, 0, 0, 0, 0,
+                                     nullptr, nullptr, Module(), nullptr));
+  }
+  return toolOwner_.Get();
+}
+
 void Win32WindowSystem::SetMousePointer(forms::MousePointer shape) {
   pointer_ = shape;
   if (PointerIsOnOurs()) ShowPointer();

@@ -35,11 +35,15 @@ class Win32WindowSystem final : public forms::WindowSystem {
 
   /// Shows the pointer's shape now.
   void ShowPointer() const;
+  /// A window that is never shown and owns the forms without a button in the task bar: what has an
+  /// owner gets none, in whichever task bar. Null when the system refuses it.
+  HWND ToolOwner();
   const std::shared_ptr<DrawingTools>& Tools() const noexcept { return tools_; }
 
  private:
   std::shared_ptr<DrawingTools> tools_ = std::make_shared<DrawingTools>();
   forms::ScreenInfo scale_;  // its size is asked anew
+  UniqueWindow toolOwner_;
   Win32Timers timers_;
   forms::MousePointer pointer_ = forms::MousePointer::Default;
   bool quit_ = false;

@@ -12,6 +12,11 @@ namespace {
 
 constexpr wchar_t kOtherClass[] = L"CorvelleOther";
 
+/// What the other window answers with 7, and what it never answers in time.
+constexpr UINT kAnswered = WM_APP;
+constexpr UINT kNotAnswered = WM_APP + 1;
+constexpr DWORD kTooLong = 4000;
+
 /// A window that a thread of its own runs, as another program would.
 class OtherWindow {
  public:
@@ -31,6 +36,8 @@ class OtherWindow {
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_DESTROY) PostQuitMessage(0);
+    if (message == kAnswered) return 7;
+    if (message == kNotAnswered) Sleep(kTooLong);
     return DefWindowProcW(window, message, wParam, lParam);
   }
 
@@ -69,6 +76,18 @@ class RealDesktop final : public ContractDesktop {
 std::unique_ptr<ContractDesktop> MakeRealDesktop() { return std::make_unique<RealDesktop>(); }
 
 INSTANTIATE_TEST_SUITE_P(Windows, DesktopContract, testing::Values(MakeRealDesktop));
+
+TEST(DesktopOnWindows, SendGivesTheAnswerAndGivesUpAfterTwoSeconds) {
+  const OtherWindow other;
+  win32::Win32Desktop desktop;
+  const auto window = reinterpret_cast<WindowId>(other.Handle());
+  EXPECT_EQ(desktop.Send(window, kAnswered, 0, 0), 7);
+  const ULONGLONG before = GetTickCount64();
+  EXPECT_EQ(desktop.Send(window, kNotAnswered, 0, 0), 0);
+  const ULONGLONG waited = GetTickCount64() - before;
+  EXPECT_GE(waited, 1900U);
+  EXPECT_LT(waited, 3500U);
+}
 
 }  // namespace
 }  // namespace corvelle

@@ -73,9 +73,12 @@ class RealHome {
     SendInput(1, &event, sizeof(INPUT));
     pointer_ = at;
     Wait(kReactionMilliseconds);
-    // The place before may come back for a moment.
-    for (int tries = 0; tries < kMostTries && input_.PointerPosition() != at; ++tries)
+    // Under Wine the place before may come back for a moment, and the move is lost with it.
+    event.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    for (int tries = 0; tries < kMostTries && input_.PointerPosition() != at; ++tries) {
+      SendInput(1, &event, sizeof(INPUT));
       Wait(kReactionMilliseconds / 2);
+    }
   }
 
   win32::Win32WindowSystem windows_;
