@@ -327,13 +327,7 @@ class Session:
             print(f"wine: {text}", flush=True)
 
     def _start(self):
-        sessions = self.cache / "sessions"
-        sessions.mkdir(parents=True, exist_ok=True)
-        self._sweep(sessions)
-        self.folder = sessions / self.token
-        self.folder.mkdir()
-        self.lock = open(self.folder / "lock", "w")
-        fcntl.flock(self.lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        self._claim_folder()
         (self.folder / "home").mkdir()
         prefix = self.folder / "prefix"
         with open(self.cache / "template.lock", "w") as lock:
@@ -348,6 +342,20 @@ class Session:
             self.display = Display(self.size, self.environment())
         subprocess.run(["wineserver", "-p"], env=self.environment(), timeout=30, check=True,
                        stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def _claim_folder(self):
+        """A folder of its own, whose lock says that it is in use."""
+        sessions = self.cache / "sessions"
+        sessions.mkdir(parents=True, exist_ok=True)
+        # One at a time: a folder whose lock is not held yet looks like one that was left behind.
+        with open(self.cache / "sessions.lock", "w") as turn:
+            fcntl.flock(turn, fcntl.LOCK_EX)
+            self._sweep(sessions)
+            folder = sessions / self.token
+            folder.mkdir()
+            self.lock = open(folder / "lock", "w")
+            fcntl.flock(self.lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+            self.folder = folder
 
     def _stop(self):
         if self.folder and (self.folder / "prefix").exists():

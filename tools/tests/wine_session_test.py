@@ -1,5 +1,6 @@
 """What a session does around Wine: a prefix of its own, and no process that outlives it."""
 
+import concurrent.futures
 import os
 import pathlib
 import subprocess
@@ -46,6 +47,25 @@ class CopyPrefix(InAFolder):
         drive = self.target / "dosdevices" / "c:"
         self.assertTrue(drive.is_symlink())
         self.assertTrue(drive.samefile(self.target / "drive_c"))
+
+
+class ClaimFolder(InAFolder):
+    def test_sessions_that_begin_at_once_leave_each_other_their_folders(self):
+        sessions = [wine_session.Session(cache=self.folder) for _ in range(40)]
+        with concurrent.futures.ThreadPoolExecutor(8) as pool:
+            list(pool.map(lambda session: session._claim_folder(), sessions))
+        for session in sessions:
+            self.assertTrue((session.folder / "lock").is_file())
+            session.lock.close()
+
+    def test_a_folder_that_was_left_behind_is_swept(self):
+        left = wine_session.Session(cache=self.folder)
+        left._claim_folder()
+        left.lock.close()
+        new = wine_session.Session(cache=self.folder)
+        new._claim_folder()
+        self.assertFalse(left.folder.exists())
+        new.lock.close()
 
 
 class ReplaceIn(InAFolder):
