@@ -1,0 +1,143 @@
+// The program as a whole, from the entry routine to the end of its companion.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "core/Main.h"
+#include "core/MenuFile.h"
+#include "core/Program.h"
+#include "menus/frmQMenu.h"
+#include "sim/World.h"
+#include "toolbar/frmMinimize.h"
+#include "toolbar/frmStartup.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+/// A screen edge that always has room.
+class RoomyEdge final : public DockingPort {
+ public:
+  RoomyEdge(Program& program, frmToolbar& strip) : program_(program), strip_(strip) {}
+  void RegisterAppBar() override {}
+  void RemoveAppBar() override {}
+  void EndAppBar() override {}
+  bool AutoHideFree(std::string_view) override { return true; }
+  void SetAppBar(std::string_view, bool) override {
+    strip_.UnloadItems();
+    strip_.InitButtons();
+    program_.AppBarDocked = true;
+  }
+  void RevealToolbar() override {}
+
+ private:
+  Program& program_;
+  frmToolbar& strip_;
+};
+
+class NoStartupLink final : public StartupLinkPort {
+ public:
+  bool Exists() override { return false; }
+  void Remove() override {}
+  void Create(std::string_view) override {}
+};
+
+class OneDefaultMenu final : public DefaultEntriesPort {
+ public:
+  explicit OneDefaultMenu(Program& program) : program_(program) {}
+  void IncludeCommonFiles() override {
+    ++Calls;
+    EXPECT_TRUE(
+        CreateButtonFile(program_.Services.Files, program_.Services.Ansi, program_.MenusPath));
+  }
+
+  int Calls = 0;
+
+ private:
+  Program& program_;
+};
+
+/// All windows that there are, wired as the program wires them.
+struct Installation {
+  explicit Installation(sim::World& world) : TheProgram(world.Services(), world.Windows()) {
+    WindowPorts& ports = TheProgram.Ports;
+    ports.Toolbar = &Strip;
+    ports.QMenu = &Menu;
+    ports.Minimize = &Companion;
+    ports.Startup = &Startup;
+    ports.StartupLink = &Link;
+    ports.DefaultEntries = &Entries;
+  }
+
+  Program TheProgram;
+  frmToolbar Strip{TheProgram};
+  frmQMenu Menu{TheProgram};
+  frmMinimize Companion{TheProgram};
+  frmStartup Startup{TheProgram};
+  NoStartupLink Link;
+  OneDefaultMenu Entries{TheProgram};
+};
+
+class WholeStart : public testing::Test {
+ protected:
+  WholeStart() { world.Files.Put("C:\\Corvelle\\corvelle.exe", "program"); }
+  std::string Flags() { return world.Files.Get("C:\\Corvelle\\tmenu425.dat").value_or("none"); }
+
+  sim::World world;
+};
+
+TEST_F(WholeStart, AFreshInstallationEndsWithTheDefaultFlagsAndNoOthers) {
+  Installation fresh(world);
+  RoomyEdge edge(fresh.TheProgram, fresh.Strip);
+  fresh.TheProgram.Ports.Docking = &edge;
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  ASSERT_TRUE(Main(fresh.TheProgram));
+  EXPECT_EQ(fresh.Entries.Calls, 1);
+  EXPECT_EQ(fresh.TheProgram.ToolbarEdge, "RIGHT");
+  fresh.Companion.Unload();
+  EXPECT_EQ(Flags(), "11000000000001110010000101000001");
+}
+
+TEST_F(WholeStart, AnEdgeThatCannotBeGivenIsStillAskedForNextTime) {
+  for (int start = 1; start <= 2; ++start) {
+    Installation installed(world);
+    if (start == 1) world.Desktop.Answer(forms::msgbox::AnswerNo);
+    ASSERT_TRUE(Main(installed.TheProgram));
+    EXPECT_TRUE(installed.TheProgram.EdgePending);
+    EXPECT_EQ(installed.TheProgram.ToolbarEdge, "TOP");
+    EXPECT_TRUE(world.Desktop.IsShown(installed.Strip.hWnd()));
+    installed.Companion.Unload();
+    EXPECT_EQ(Flags().substr(13, 3), "111") << "start " << start;
+  }
+}
+
+TEST_F(WholeStart, TheSecondStartAsksNothingAndMakesNoEntries) {
+  {
+    Installation first(world);
+    world.Desktop.Answer(forms::msgbox::AnswerNo);
+    ASSERT_TRUE(Main(first.TheProgram));
+    first.Companion.Unload();
+  }
+  Installation second(world);
+  ASSERT_TRUE(Main(second.TheProgram));
+  EXPECT_EQ(second.Entries.Calls, 0);
+  EXPECT_EQ(second.Strip.ButtonCount, 2);
+  EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
+  second.Companion.Unload();
+}
+
+TEST_F(WholeStart, TheEndLeavesNoWindowAndNoTimer) {
+  Installation program(world);
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  ASSERT_TRUE(Main(program.TheProgram));
+  program.Companion.Unload();
+  for (const char* name : {"frmToolbar", "frmQMenu", "frmMinimize", "frmStartup", "picToolbar"}) {
+    EXPECT_EQ(world.Desktop.Find(name), kNoWindow) << name;
+  }
+  EXPECT_EQ(world.Desktop.Clock().Running(), 0);
+  EXPECT_TRUE(world.Desktop.QuitCalled());
+}
+
+}  // namespace
+}  // namespace corvelle
