@@ -116,7 +116,7 @@ class WindowSystem {
 
   /// Makes a hidden window that reports to `events`, which outlives the peer. Null when the system
   /// refuses.
-  virtual std::unique_ptr<WindowPeer> CreatePeer(const PeerSpec& spec, WindowEvents& events) = 0;
+  virtual std::unique_ptr<WindowPeer> CreatePeer(const PeerSpec& wanted, WindowEvents& events) = 0;
 
   /// A bitmap of this size in pixels (at least 1 by 1), all black.
   virtual std::unique_ptr<Canvas> CreateCanvas(PixelSize size) = 0;

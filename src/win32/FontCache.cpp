@@ -15,33 +15,33 @@ constexpr double kPointsOfAnInch = 72;
 
 }  // namespace
 
-UniqueFont FontCache::Make(const FontSpec& spec) const {
+UniqueFont FontCache::Make(const FontSpec& wanted) const {
   const int dotsOfAnInch = GetDeviceCaps(dc_.Get(), LOGPIXELSY);
   LOGFONTW font{};
-  font.lfHeight = -RoundToInt(static_cast<double>(spec.Points) * dotsOfAnInch / kPointsOfAnInch);
-  font.lfWeight = spec.Bold ? FW_BOLD : FW_NORMAL;
+  font.lfHeight = -RoundToInt(static_cast<double>(wanted.Points) * dotsOfAnInch / kPointsOfAnInch);
+  font.lfWeight = wanted.Bold ? FW_BOLD : FW_NORMAL;
   font.lfCharSet = DEFAULT_CHARSET;
-  const std::wstring face = spec.Face.empty() ? L"MS Shell Dlg 2" : Wide(spec.Face);
+  const std::wstring face = wanted.Face.empty() ? L"MS Shell Dlg 2" : Wide(wanted.Face);
   const std::size_t length = std::min<std::size_t>(face.size(), LF_FACESIZE - 1);
   std::copy_n(face.begin(), length, font.lfFaceName);
   return UniqueFont(CreateFontIndirectW(&font));
 }
 
-HFONT FontCache::Get(const FontSpec& spec) {
+HFONT FontCache::Get(const FontSpec& wanted) {
   const auto at = std::find_if(fonts_.begin(), fonts_.end(),
-                               [&](const Entry& entry) { return entry.Spec == spec; });
+                               [&](const Entry& entry) { return entry.Wanted == wanted; });
   if (at != fonts_.end()) {
     std::rotate(at, at + 1, fonts_.end());
   } else {
     if (fonts_.size() == kMostFonts) fonts_.erase(fonts_.begin());
-    fonts_.push_back({spec, Make(spec)});
+    fonts_.push_back({wanted, Make(wanted)});
   }
   const UniqueFont& font = fonts_.back().Font;
   return font ? font.Get() : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
 }
 
-PixelSize FontCache::Measure(std::string_view text, const FontSpec& spec) {
-  const SelectedObject font(dc_.Get(), Get(spec));
+PixelSize FontCache::Measure(std::string_view text, const FontSpec& wanted) {
+  const SelectedObject font(dc_.Get(), Get(wanted));
   TEXTMETRICW metrics{};
   GetTextMetricsW(dc_.Get(), &metrics);
   const std::wstring wide = Wide(text);

@@ -17,18 +17,18 @@ class FontCache {
 
   /// The font for the screen's resolution; the system's own when it cannot be made. Stays valid
   /// until the next call.
-  [[nodiscard]] HFONT Get(const FontSpec& spec);
+  [[nodiscard]] HFONT Get(const FontSpec& wanted);
 
   /// Size in pixels of one line of text.
-  [[nodiscard]] PixelSize Measure(std::string_view text, const FontSpec& spec);
+  [[nodiscard]] PixelSize Measure(std::string_view text, const FontSpec& wanted);
 
  private:
   struct Entry {
-    FontSpec Spec;
+    FontSpec Wanted;
     UniqueFont Font;
   };
 
-  [[nodiscard]] UniqueFont Make(const FontSpec& spec) const;
+  [[nodiscard]] UniqueFont Make(const FontSpec& wanted) const;
 
   UniqueMemoryDc dc_{CreateCompatibleDC(nullptr)};  // to measure with
   std::vector<Entry> fonts_;                        // the one used last at the end

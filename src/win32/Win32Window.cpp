@@ -16,10 +16,10 @@ struct WindowStyle {
 
 // Only a window with a caption lives well in the task bar: it has an animation, a menu and a text.
 // Its frame is taken away again when its inside is worked out.
-WindowStyle StyleOf(const forms::PeerSpec& spec) {
-  if (spec.Kind == forms::PeerKind::PictureBox)
+WindowStyle StyleOf(const forms::PeerSpec& wanted) {
+  if (wanted.Kind == forms::PeerKind::PictureBox)
     return {WS_CHILD | WS_CLIPSIBLINGS, WS_EX_NOPARENTNOTIFY};
-  if (!spec.InTaskbar) return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW};
+  if (!wanted.InTaskbar) return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW};
   return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, WS_EX_APPWINDOW};
 }
 
@@ -42,16 +42,16 @@ bool Win32Window::RegisterClassNamed(const wchar_t* name) {
   return RegisterClassExW(&made) != 0;
 }
 
-bool Win32Window::Create(const forms::PeerSpec& spec) {
-  const std::wstring name = Wide(spec.ClassName);
+bool Win32Window::Create(const forms::PeerSpec& wanted) {
+  const std::wstring name = Wide(wanted.ClassName);
   if (!RegisterClassNamed(name.c_str())) return false;
-  const WindowStyle style = StyleOf(spec);
-  const HWND owner = IsForm() && !spec.InTaskbar ? system_.ToolOwner() : nullptr;
-  const HWND parent = spec.Parent != nullptr ? ToHwnd(spec.Parent->Id()) : owner;
-  told_ = spec.Bounds;
-  const HWND made = CreateWindowExW(style.ExStyle, name.c_str(), L"", style.Style, spec.Bounds.left,
-                                    spec.Bounds.top, spec.Bounds.Width(), spec.Bounds.Height(),
-                                    parent, nullptr, Module(), this);
+  const WindowStyle style = StyleOf(wanted);
+  const HWND owner = IsForm() && !wanted.InTaskbar ? system_.ToolOwner() : nullptr;
+  const HWND parent = wanted.Parent != nullptr ? ToHwnd(wanted.Parent->Id()) : owner;
+  told_ = wanted.Bounds;
+  const HWND made = CreateWindowExW(style.ExStyle, name.c_str(), L"", style.Style,
+                                    wanted.Bounds.left, wanted.Bounds.top, wanted.Bounds.Width(),
+                                    wanted.Bounds.Height(), parent, nullptr, Module(), this);
   if (made == nullptr) return false;
   // The system puts a new child below its siblings, but the one that was made last is to be on top.
   if (!IsForm()) SetWindowPos(made, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);

@@ -19,7 +19,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   Win32Window& operator=(const Win32Window&) = delete;
 
   /// Makes the window, hidden and silent. False when the system refuses.
-  [[nodiscard]] bool Create(const forms::PeerSpec& spec);
+  [[nodiscard]] bool Create(const forms::PeerSpec& wanted);
   /// From now on the window tells `events` what happens to it; null for silence.
   void Tell(forms::WindowEvents* events) noexcept { events_ = events; }
   void Destroy();

@@ -50,10 +50,10 @@ Win32WindowSystem::~Win32WindowSystem() {
   if (quit_) ForgetQuit();
 }
 
-std::unique_ptr<forms::WindowPeer> Win32WindowSystem::CreatePeer(const forms::PeerSpec& spec,
+std::unique_ptr<forms::WindowPeer> Win32WindowSystem::CreatePeer(const forms::PeerSpec& wanted,
                                                                  forms::WindowEvents& events) {
-  auto window = std::make_shared<Win32Window>(*this, spec.Kind);
-  if (!window->Create(spec)) return nullptr;
+  auto window = std::make_shared<Win32Window>(*this, wanted.Kind);
+  if (!window->Create(wanted)) return nullptr;
   window->Tell(&events);
   return std::make_unique<Win32Peer>(*this, std::move(window));
 }

@@ -16,7 +16,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   Win32WindowSystem& operator=(const Win32WindowSystem&) = delete;
   ~Win32WindowSystem() override;
 
-  std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& spec,
+  std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
