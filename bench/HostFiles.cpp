@@ -122,6 +122,12 @@ FileStatus HostFiles::Remove(std::string_view path) {
   return Answer(error);
 }
 
+FileStatus HostFiles::ClearAttributes(std::string_view path) {
+  // Files of the host bear none of these marks.
+  if (!fs::exists(Host(path))) return FileError::NotFound;
+  return Done{};
+}
+
 FileStatus HostFiles::Rename(std::string_view from, std::string_view to) {
   if (fs::exists(Host(to))) return FileError::AlreadyExists;
   std::error_code error;

@@ -39,6 +39,7 @@ class HostFiles final : public FileSystem {
   FileStatus WriteAt(std::string_view path, std::uint64_t offset, std::string_view bytes) override;
   FileStatus Replace(std::string_view path, std::string_view bytes) override;
   FileStatus Remove(std::string_view path) override;
+  FileStatus ClearAttributes(std::string_view path) override;
   FileStatus Rename(std::string_view from, std::string_view to) override;
   FileStatus Copy(std::string_view from, std::string_view to) override;
   FileStatus MakeFolder(std::string_view path) override;

@@ -16,12 +16,13 @@ function(corvelle_windows_tests folder program)
 endfunction()
 
 set(windows_libraries gdi32 user32 shell32 comctl32 ole32 advapi32 uuid)
-corvelle_windows_tests(windows windows_contract_tests LINKS corvelle_win32 corvelle_core
+corvelle_windows_tests(windows windows_contract_tests LINKS corvelle_win32 corvelle_icons corvelle_launch corvelle_core
   ${windows_libraries})
 
 # The roads of tests/scenario, walked with a hand at the mouse of a real desktop.
 file(GLOB scenarios CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/scenario/*_test.cpp)
 corvelle_windows_tests(e2e e2e_tests LINKS corvelle_core user32 gdi32
+  shell32 ole32 uuid
   SOURCES ${scenarios} scenario/Strip.cpp)
 
 add_executable(witness WIN32 e2e/witness/witness.cpp)

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/WindowId.h"
+
 namespace corvelle {
 
 /// The commands that are words of the program rather than files.
@@ -28,6 +30,18 @@ class BrowserPort {
   virtual void OpenUrl(std::string_view url) = 0;
   /// Opens one "mailto:" address.
   virtual void OpenMail(std::string_view address) = 0;
+
+  /// A title for a dropped address, by the window that it came from or the browser's bookmarks;
+  /// empty when none is found.
+  virtual std::string WindowTitle(std::string_view url) = 0;
+  /// The window where a drag of an address began; none when it is not known.
+  virtual void NoteDropSource(WindowId window) = 0;
+
+  /// Back to the system's browser.
+  virtual void UseDefaultBrowser() = 0;
+  /// From now on the browser with that path, which may be a shell link. False, and a message, for
+  /// one that is not supported.
+  virtual bool UseBrowser(std::string_view path) = 0;
 };
 
 /// Reading of shell links.

@@ -49,7 +49,7 @@ void OfferStartupLink(Program& program, StartupLinkPort& link) {
     return;
   }
   const int answer = program.Say(
-      kNoWindow,
+      program.ToolbarWindow(),
       "Would you like to set Corvelle as a startup program?\r\n"
       "If you choose No, you can set it later from the Customize window under the Options menu.",
       forms::msgbox::YesNo | forms::msgbox::IconQuestion | forms::msgbox::OnTop);

@@ -93,6 +93,9 @@ class Program {
   // Icons (web links, and whether the shell shows each icon file by its own picture).
   std::string WebLinkIcon;
   bool ShellDrawsIcons = false;
+  /// The Recycle Bin's icon as it was last seen, and whether it has changed since the last look.
+  std::string RecycleIconPath;
+  bool RecycleIconChanged = false;
 
   /// Lets waiting events run. Whoever calls it must be ready for anything to have happened.
   void DoEvents() { Windows.DoEvents(); }

@@ -71,7 +71,7 @@ FileStatus SaveWebLinkIcon(FileSystem& files, const CodePage& ansi, std::string_
 }
 
 FileStatus WriteEmptyHtml(FileSystem& files, std::string_view path) {
-  return files.Replace(path, "<HTML> </HTML>" + std::string(kLineEnd));
+  return files.Replace(path, kEmptyHtml);
 }
 
 std::optional<std::string> BrowserServiceName(std::string_view browserPath) {

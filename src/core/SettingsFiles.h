@@ -27,7 +27,9 @@ FileStatus SaveToolbarPosition(FileSystem& files, std::string_view appPath, floa
 FileStatus SaveWebLinkIcon(FileSystem& files, const CodePage& ansi, std::string_view appPath,
                            std::string_view iconPath);
 
-/// Writes the smallest web page there is to `path`.
+/// The smallest web page there is.
+inline constexpr std::string_view kEmptyHtml = "<HTML> </HTML>\r\n";
+/// Writes it to `path`.
 FileStatus WriteEmptyHtml(FileSystem& files, std::string_view path);
 
 /// The browser that the user chose instead of the system's.

@@ -122,12 +122,15 @@ class MinimizePort : public LoadedWindow {
   virtual void ShowInSysTray() = 0;
 };
 
-/// The small window that counts dots while the program starts.
+/// The small window that counts dots while the program starts or deletes files.
 class StartupPort : public LoadedWindow {
  public:
   /// One more dot; loads the window and makes it visible if it is not.
   virtual void AddDot() = 0;
   virtual void HideWindow() = 0;
+  /// Loads the window with another text and picture (an icon file) and no dots, and shows it on top
+  /// of all windows without making it active.
+  virtual void ShowProgress(std::string_view text, std::string_view iconFile) = 0;
 };
 
 /// Hints over buttons and items.

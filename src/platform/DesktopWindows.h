@@ -21,6 +21,8 @@ class DesktopWindows {
   [[nodiscard]] virtual std::string ClassName(WindowId window) const = 0;
   [[nodiscard]] virtual bool IsVisible(WindowId window) const = 0;
   [[nodiscard]] virtual bool IsMinimized(WindowId window) const = 0;
+  /// True for a window that belongs to another one and stays above it.
+  [[nodiscard]] virtual bool HasOwner(WindowId window) const = 0;
 
   /// True if a minimized window will come back maximized.
   [[nodiscard]] virtual bool RestoresMaximized(WindowId window) const = 0;

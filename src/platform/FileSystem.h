@@ -77,6 +77,9 @@ class FileSystem {
   /// Removes a file. AccessDenied for a read-only one, InUse for one that is held open.
   virtual FileStatus Remove(std::string_view path) = 0;
 
+  /// Takes the read-only, the hidden and the system mark off a file.
+  virtual FileStatus ClearAttributes(std::string_view path) = 0;
+
   /// Gives the file or folder another name on the same drive; read-only files can be renamed.
   /// AlreadyExists when the new name is taken; nothing is ever replaced. What becomes of a name
   /// that changes its case only is the disk's affair.

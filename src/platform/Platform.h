@@ -3,12 +3,17 @@
 namespace corvelle {
 
 class CodePage;
+class DdeClient;
 class DesktopWindows;
+class FileAssociations;
 class FileSystem;
 class Input;
+class KeySynthesis;
 class Registry;
 class ShellExec;
+class ShellFiles;
 class ShellIcons;
+class ShellLinks;
 class SystemInfo;
 
 /// All that the program asks of the system besides its own windows, handed down from the entry
@@ -19,8 +24,13 @@ struct Platform {
   Registry& Keys;
   ShellExec& Shell;
   ShellIcons& Icons;
+  ShellLinks& Links;
+  ShellFiles& FileOps;
   Input& Pointer;
+  KeySynthesis& Keyboard;
   DesktopWindows& Desktop;
+  DdeClient& Dde;
+  FileAssociations& Associations;
   SystemInfo& System;
 };
 

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace corvelle {
 
@@ -17,6 +18,11 @@ class Registry {
   /// key's default value. Nothing when the key or the value is missing or is no text.
   [[nodiscard]] virtual std::optional<std::string> Text(RegistryRoot root, std::string_view key,
                                                         std::string_view name) const = 0;
+
+  /// Names of the keys directly below a key, in no particular order; empty when the key is missing
+  /// or cannot be read.
+  [[nodiscard]] virtual std::vector<std::string> SubKeys(RegistryRoot root,
+                                                         std::string_view key) const = 0;
 };
 
 }  // namespace corvelle

@@ -40,6 +40,9 @@ class ShellIcons {
   /// such icon. Keeps no handle.
   virtual bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                             int size) = 0;
+
+  /// How many icons a file holds; 0 when it holds none or cannot be read.
+  [[nodiscard]] virtual int IconCount(std::string_view file) = 0;
 };
 
 }  // namespace corvelle

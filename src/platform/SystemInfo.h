@@ -14,6 +14,9 @@ class SystemInfo {
   /// Folder of the running executable.
   [[nodiscard]] virtual std::string ApplicationFolder() const = 0;
   [[nodiscard]] virtual std::string CurrentFolder() const = 0;
+  /// The folder of Windows, and that of its system files; empty when the system does not tell.
+  [[nodiscard]] virtual std::string WindowsFolder() const = 0;
+  [[nodiscard]] virtual std::string SystemFolder() const = 0;
 
   /// True if another process of this program runs in this session. The first question claims the
   /// session for this process.

@@ -18,12 +18,11 @@ constexpr float kPictureTop = 600;  // before the window has its height
 constexpr float kRoomBelow = 360;
 constexpr float kGap = 120;
 
-// The program's own icon; empty when the executable has none to show.
-Picture ProgramPicture(Program& program) {
+// The first icon of a file; empty when it has none to show.
+Picture FilePicture(Program& program, std::string_view file) {
   std::unique_ptr<Canvas> canvas = program.Windows.CreateCanvas({kPictureSize, kPictureSize});
   canvas->FillBox({0, 0, kPictureSize, kPictureSize}, kMaskColour);
-  const std::string executable = program.AppPath + "corvelle.exe";
-  if (!program.Services.Icons.DrawFileIcon(*canvas, executable, 0, {0, 0}, kPictureSize)) return {};
+  if (!program.Services.Icons.DrawFileIcon(*canvas, file, 0, {0, 0}, kPictureSize)) return {};
   return Picture(std::move(canvas));
 }
 
@@ -48,7 +47,8 @@ void frmStartup::Form_Load() {
 
   Image1.Move(kGap, (height - picture * screen.TwipsPerPixelY) / 2, picture * screen.TwipsPerPixelX,
               picture * screen.TwipsPerPixelY);
-  Image1.SetPicture(ProgramPicture(program_));
+  Image1.SetPicture(FilePicture(program_, program_.AppPath + "corvelle.exe"));
+  Label1.SetCaption("");
   Label2.SetCaption("Initializing ");
   Label2.Move(Image1.Right() + kGap, Image1.Bottom() - Label2.Height(), Label2.Width(),
               Label2.Height());
@@ -64,6 +64,17 @@ void frmStartup::AddDot() {
   if (dots.size() > kMostDots) dots = ".";
   Label1.SetCaption(std::move(dots));
   if (!Visible()) ShowNoActivate();
+  Refresh();
+}
+
+void frmStartup::ShowProgress(std::string_view text, std::string_view iconFile) {
+  if (!Load()) return;
+  Image1.SetPicture(FilePicture(program_, iconFile));
+  Label2.SetCaption(std::string(text));
+  Label1.SetCaption("");
+  Label1.SetLeft(Label2.Right());
+  ShowNoActivate();
+  SetWindowPos(forms::InsertAfter::Topmost, forms::swp::KeepActivation);
   Refresh();
 }
 

@@ -8,7 +8,7 @@ namespace corvelle {
 
 class Program;
 
-/// The small window that counts dots while the program starts.
+/// The small window that counts dots while the program starts or deletes files.
 class frmStartup final : public forms::Form, public StartupPort {
  public:
   explicit frmStartup(Program& program);
@@ -18,6 +18,7 @@ class frmStartup final : public forms::Form, public StartupPort {
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   void AddDot() override;
   void HideWindow() override { Hide(); }
+  void ShowProgress(std::string_view text, std::string_view iconFile) override;
 
   forms::Label Label2;  // name and version, and what goes on
   forms::Image Image1;

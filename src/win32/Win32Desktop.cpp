@@ -72,6 +72,10 @@ bool Win32Desktop::IsVisible(WindowId window) const { return IsWindowVisible(ToH
 
 bool Win32Desktop::IsMinimized(WindowId window) const { return IsIconic(ToHwnd(window)) != 0; }
 
+bool Win32Desktop::HasOwner(WindowId window) const {
+  return GetWindow(ToHwnd(window), GW_OWNER) != nullptr;
+}
+
 bool Win32Desktop::RestoresMaximized(WindowId window) const {
   WINDOWPLACEMENT placement{};
   placement.length = sizeof(placement);

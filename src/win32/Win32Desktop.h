@@ -12,6 +12,7 @@ class Win32Desktop final : public DesktopWindows {
   std::string ClassName(WindowId window) const override;
   bool IsVisible(WindowId window) const override;
   bool IsMinimized(WindowId window) const override;
+  bool HasOwner(WindowId window) const override;
   bool RestoresMaximized(WindowId window) const override;
   void RestoreMinimized(WindowId window) override;
   void ShowMaximized(WindowId window) override;

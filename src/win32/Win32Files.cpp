@@ -238,6 +238,15 @@ FileStatus Win32Files::Remove(std::string_view path) {
   return StatusOf(DeleteFileW(wide->c_str()) != 0);
 }
 
+FileStatus Win32Files::ClearAttributes(std::string_view path) {
+  const auto wide = PathOf(path);
+  if (!wide) return FileError::BadName;
+  const DWORD attributes = AttributesOf(*wide);
+  if (attributes == INVALID_FILE_ATTRIBUTES) return LastFileError();
+  if (IsFolder(attributes)) return FileError::AccessDenied;
+  return StatusOf(SetFileAttributesW(wide->c_str(), FILE_ATTRIBUTE_NORMAL) != 0);
+}
+
 FileStatus Win32Files::Rename(std::string_view from, std::string_view to) {
   const auto wideFrom = PathOf(from);
   const auto wideTo = PathOf(to);

@@ -3,12 +3,17 @@
 #include <ole2.h>
 
 #include "win32/Win32CodePage.h"
+#include "win32/Win32Dde.h"
 #include "win32/Win32Desktop.h"
+#include "win32/Win32FileAssociations.h"
 #include "win32/Win32Files.h"
 #include "win32/Win32Input.h"
+#include "win32/Win32KeySynthesis.h"
 #include "win32/Win32Registry.h"
 #include "win32/Win32ShellExec.h"
+#include "win32/Win32ShellFiles.h"
 #include "win32/Win32ShellIcons.h"
+#include "win32/Win32ShellLinks.h"
 #include "win32/Win32SystemInfo.h"
 #include "win32/Win32WindowSystem.h"
 
@@ -40,8 +45,13 @@ struct Win32Platform::Parts {
   Win32Registry Keys;
   Win32ShellExec Shell;
   Win32ShellIcons Icons;
+  Win32ShellLinks Links;
+  Win32ShellFiles FileOps;
   Win32Input Pointer;
+  Win32KeySynthesis Keyboard;
   Win32Desktop Desktop;
+  Win32Dde Dde;
+  Win32FileAssociations Associations;
   Win32SystemInfo System;
   Win32WindowSystem Windows;
 };
@@ -55,8 +65,13 @@ Platform Win32Platform::Services() const {
           .Keys = parts_->Keys,
           .Shell = parts_->Shell,
           .Icons = parts_->Icons,
+          .Links = parts_->Links,
+          .FileOps = parts_->FileOps,
           .Pointer = parts_->Pointer,
+          .Keyboard = parts_->Keyboard,
           .Desktop = parts_->Desktop,
+          .Dde = parts_->Dde,
+          .Associations = parts_->Associations,
           .System = parts_->System};
 }
 

@@ -9,6 +9,8 @@ namespace corvelle::win32 {
 
 namespace {
 
+constexpr DWORD kLongestKeyName = 255;
+
 HKEY RootOf(RegistryRoot root) {
   switch (root) {
     case RegistryRoot::ClassesRoot:
@@ -60,6 +62,24 @@ std::optional<std::string> Win32Registry::Text(RegistryRoot root, std::string_vi
   const std::optional<std::wstring> text = RawText(open.Get(), Wide(name), type);
   if (!text) return std::nullopt;
   return Narrow(type == REG_EXPAND_SZ ? Expanded(*text) : *text);
+}
+
+std::vector<std::string> Win32Registry::SubKeys(RegistryRoot root, std::string_view key) const {
+  std::vector<std::string> names;
+  UniqueRegistryKey open;
+  if (RegOpenKeyExW(RootOf(root), Wide(key).c_str(), 0, KEY_ENUMERATE_SUB_KEYS, open.Receive()) !=
+      ERROR_SUCCESS) {
+    return names;
+  }
+  wchar_t name[kLongestKeyName + 1] = {};
+  for (DWORD index = 0;; ++index) {
+    DWORD length = kLongestKeyName + 1;
+    if (RegEnumKeyExW(open.Get(), index, name, &length, nullptr, nullptr, nullptr, nullptr) !=
+        ERROR_SUCCESS) {
+      return names;
+    }
+    names.push_back(Narrow(std::wstring(name, length)));
+  }
 }
 
 }  // namespace corvelle::win32

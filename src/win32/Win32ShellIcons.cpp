@@ -14,6 +14,9 @@ namespace {
 constexpr UINT kFileInfoFlags =
     SHGFI_SYSICONINDEX | SHGFI_DISPLAYNAME | SHGFI_TYPENAME | SHGFI_SHELLICONSIZE;
 
+/// More than any file holds: what the system answers when it cannot read the file.
+constexpr UINT kMostIcons = 0x7FFFFFFF;
+
 UINT SizeFlag(IconList list) { return list == IconList::Small ? SHGFI_SMALLICON : SHGFI_LARGEICON; }
 
 std::size_t PlaceOf(IconList list) { return list == IconList::Small ? 0 : 1; }
@@ -81,6 +84,12 @@ bool Win32ShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int in
   if (!dc) return false;
   return DrawIconEx(dc.Get(), at.x + target.Origin().x, at.y + target.Origin().y, icon.Get(), size,
                     size, 0, nullptr, DI_NORMAL) != 0;
+}
+
+int Win32ShellIcons::IconCount(std::string_view file) {
+  if (file.empty() || file.find('\0') != std::string_view::npos) return 0;
+  const UINT count = ExtractIconExW(Wide(file).c_str(), -1, nullptr, nullptr, 0);
+  return count > kMostIcons ? 0 : static_cast<int>(count);
 }
 
 }  // namespace corvelle::win32

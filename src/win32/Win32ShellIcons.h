@@ -16,6 +16,7 @@ class Win32ShellIcons final : public ShellIcons {
                       IconStyle style) override;
   bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                     int size) override;
+  int IconCount(std::string_view file) override;
 
  private:
   /// The handle of one of the two image lists, 0 when the shell gives none. They belong to the

@@ -13,6 +13,15 @@ namespace {
 constexpr wchar_t kSessionName[] = L"Local\\Corvelle";
 constexpr std::size_t kLongestPath = 32768;
 
+/// The folder that a call of the system writes down.
+std::string FolderOf(UINT(WINAPI* ask)(LPWSTR, UINT)) {
+  const UINT size = ask(nullptr, 0);
+  std::wstring path(size, L'\0');
+  const UINT length = ask(path.data(), size);
+  path.resize(std::min<std::size_t>(length, path.size()));
+  return Narrow(path);
+}
+
 }  // namespace
 
 /// The named object that the first process of a session holds until it ends.
@@ -43,6 +52,10 @@ std::string Win32SystemInfo::CurrentFolder() const {
   path.resize(std::min<std::size_t>(length, path.size()));
   return Narrow(path);
 }
+
+std::string Win32SystemInfo::WindowsFolder() const { return FolderOf(GetSystemWindowsDirectoryW); }
+
+std::string Win32SystemInfo::SystemFolder() const { return FolderOf(GetSystemDirectoryW); }
 
 bool Win32SystemInfo::AnotherInstanceRuns() {
   if (!claim_) {

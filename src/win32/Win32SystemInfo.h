@@ -17,6 +17,8 @@ class Win32SystemInfo final : public SystemInfo {
 
   std::string ApplicationFolder() const override;
   std::string CurrentFolder() const override;
+  std::string WindowsFolder() const override;
+  std::string SystemFolder() const override;
   bool AnotherInstanceRuns() override;
   int CaptionHeight() const override;
   int CaptionButtonWidth() const override;

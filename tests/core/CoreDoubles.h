@@ -15,15 +15,19 @@ class LoggingToolbar final : public ToolbarPort {
  public:
   explicit LoggingToolbar(CallLog& log) : log_(log) {}
 
+  WindowId Window = 77;  // when loaded
+  WindowId ButtonBox = kNoWindow;
+  WindowId SingleBox = kNoWindow;
+
   void LoadWindow() override {
     log_.push_back("toolbar loads");
     loaded_ = true;
   }
   void UnloadWindow() override { loaded_ = false; }
   bool WindowLoaded() const override { return loaded_; }
-  WindowId WindowHandle() const override { return loaded_ ? WindowId{77} : kNoWindow; }
-  WindowId ButtonBoxHandle() const override { return kNoWindow; }
-  WindowId SingleBoxHandle() const override { return kNoWindow; }
+  WindowId WindowHandle() const override { return loaded_ ? Window : kNoWindow; }
+  WindowId ButtonBoxHandle() const override { return ButtonBox; }
+  WindowId SingleBoxHandle() const override { return SingleBox; }
   TwipRect WindowBounds() const override { return {}; }
   void ResetMenu() override { log_.push_back("ResetMenu"); }
   void RefreshMenu(std::string_view tag) override { Note("RefreshMenu ", tag); }
@@ -78,6 +82,9 @@ class LoggingStartup final : public StartupPort {
   bool WindowLoaded() const override { return true; }
   void AddDot() override { log_.push_back("dot"); }
   void HideWindow() override { log_.push_back("startup window hides"); }
+  void ShowProgress(std::string_view text, std::string_view iconFile) override {
+    log_.push_back("progress \"" + std::string(text) + "\" with " + std::string(iconFile));
+  }
 
  private:
   CallLog& log_;

@@ -91,6 +91,7 @@ TEST_F(MainTest, YesMakesTheStartupLinkAndNoDoesNot) {
   EXPECT_TRUE(Happened("link to C:\\Corvelle\\corvelle.exe"));
   ASSERT_EQ(world.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 36U + 262144U);
+  EXPECT_EQ(world.Desktop.Boxes()[0].Owner, toolbar.WindowHandle());
   EXPECT_EQ(world.Desktop.Boxes()[0].Title, "Corvelle");
 }
 

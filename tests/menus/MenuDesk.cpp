@@ -48,11 +48,7 @@ MenuDesk::~MenuDesk() {
   Strip.UnloadWindow();
 }
 
-Platform MenuDesk::Services(ShellExec* shell) {
-  const Platform own = World.Services();
-  return {own.Files, own.Ansi,    own.Keys,    shell != nullptr ? *shell : own.Shell,
-          own.Icons, own.Pointer, own.Desktop, own.System};
-}
+Platform MenuDesk::Services(ShellExec* shell) { return World.Services(shell); }
 
 std::string MenuDesk::PutMenu(int number, const std::vector<MenuRecord>& items) {
   std::string bytes = FormatRecord(Item("Button", "Button", ""), World.Ansi);

@@ -171,6 +171,7 @@ TEST(frmQMenuProgress, CaptionsStandBeforeTheIconsAndIconsComeOneByOne) {
                         IconStyle style) override {
       return world_.Icons.DrawSystemIcon(canvas, list, index, at, style);
     }
+    int IconCount(std::string_view file) override { return world_.Icons.IconCount(file); }
     bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                       int size) override {
       return world_.Icons.DrawFileIcon(canvas, file, index, at, size);
@@ -180,10 +181,7 @@ TEST(frmQMenuProgress, CaptionsStandBeforeTheIconsAndIconsComeOneByOne) {
     sim::World& world_;
     std::vector<std::string>& steps_;
   } icons(world, steps);
-  const Platform all = world.Services();
-  Program program(
-      {all.Files, all.Ansi, all.Keys, all.Shell, icons, all.Pointer, all.Desktop, all.System},
-      world.Windows());
+  Program program(world.Services(nullptr, &icons), world.Windows());
   std::string bytes = FormatRecord(Item("Button"), world.Ansi);
   for (int i = 0; i < 3; ++i) {
     const std::string tool = "C:\\t" + std::to_string(i) + ".exe";

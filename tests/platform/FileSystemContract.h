@@ -245,6 +245,25 @@ TEST_P(FileSystemContract, AReadOnlyFileCanBeReadAndRenamedButNotChanged) {
   EXPECT_TRUE(files.Remove(root + "b.txt"));
 }
 
+TEST_P(FileSystemContract, AFileWithoutItsMarksCanBeRemoved) {
+  Put("a.tmp", "x");
+  Disk().SetReadOnly(root + "a.tmp", true);
+  Disk().SetHidden(root + "a.tmp", true);
+  ASSERT_TRUE(files.ClearAttributes(root + "a.tmp"));
+  const auto entries = files.List(root, "*.*").ValueOr({});
+  ASSERT_EQ(entries.size(), 1U);
+  EXPECT_FALSE(entries[0].ReadOnly);
+  EXPECT_FALSE(entries[0].Hidden);
+  EXPECT_TRUE(files.Remove(root + "a.tmp"));
+}
+
+TEST_P(FileSystemContract, OnlyFilesHaveMarksToTakeOff) {
+  ASSERT_TRUE(files.MakeFolder(root + "inner"));
+  EXPECT_TRUE(FailsWith(files.ClearAttributes(root + "inner"), FileError::AccessDenied));
+  EXPECT_TRUE(FailsWith(files.ClearAttributes(root + "none"), FileError::NotFound));
+  EXPECT_TRUE(FailsWith(files.ClearAttributes(root + "inner\\none\\x"), FileError::NotFound));
+}
+
 TEST_P(FileSystemContract, AHiddenFileIsListedAndWrittenAndStaysHidden) {
   Put("a.txt", "x");
   Disk().SetHidden(root + "a.txt", true);

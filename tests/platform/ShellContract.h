@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "base/Text.h"
 #include "platform/Registry.h"
 #include "platform/ShellExec.h"
 #include "platform/ShellIcons.h"
@@ -168,7 +169,29 @@ TEST_P(ShellContract, DrawsNoIconThatAFileDoesNotHold) {
   EXPECT_FALSE(Touched(*canvas));
 }
 
+TEST_P(ShellContract, CountsTheIconsInsideFiles) {
+  EXPECT_EQ(shell_->Icons().IconCount(shell_->IconFile()), shell_->IconCount());
+  for (const std::string& file : {shell_->UnknownDocument(), Missing(), std::string()}) {
+    EXPECT_EQ(shell_->Icons().IconCount(file), 0) << file;
+  }
+}
+
 // The registry.
+
+TEST_P(ShellContract, NamesTheKeysBelowAKey) {
+  shell_->SetValue("Name", "Value");
+  const auto holds = [&](const char* key, std::string_view name) {
+    for (const std::string& found : shell_->Keys().SubKeys(RegistryRoot::CurrentUser, key)) {
+      if (EqualNoCase(found, name)) return true;
+    }
+    return false;
+  };
+  EXPECT_TRUE(holds("Software", "CorvelleContract"));
+  EXPECT_TRUE(holds("SOFTWARE\\", "CorvelleContract"));
+  EXPECT_FALSE(holds("Software", "Name"));
+  EXPECT_TRUE(
+      shell_->Keys().SubKeys(RegistryRoot::CurrentUser, "Software\\CorvelleMissing").empty());
+}
 
 TEST_P(ShellContract, ReadsTextValuesWithoutRegardToCase) {
   shell_->SetValue("Name", "Value \xC3\xA4");

@@ -148,6 +148,11 @@ bool SimDesktop::IsMinimized(WindowId window) const {
   return at != nullptr && at->Minimized;
 }
 
+bool SimDesktop::HasOwner(WindowId window) const {
+  const SimWindow* at = Look(window);
+  return at != nullptr && at->HasOwner;
+}
+
 bool SimDesktop::RestoresMaximized(WindowId window) const {
   const SimWindow* at = Look(window);
   return at != nullptr && at->RestoresMaximized;
@@ -210,7 +215,8 @@ WindowId SimDesktop::AddOtherWindow(const OtherWindow& window) {
               .Topmost = window.Topmost,
               .Minimized = window.Minimized,
               .Maximized = window.Maximized,
-              .RestoresMaximized = window.RestoresMaximized});
+              .RestoresMaximized = window.RestoresMaximized,
+              .HasOwner = window.HasOwner});
 }
 
 void SimDesktop::MoveOther(WindowId window, const PixelRect& bounds) { SetBounds(window, bounds); }

@@ -140,7 +140,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   SimCanvas Picture() const;
 
   // forms::WindowSystem
-  std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& spec,
+  std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
@@ -171,6 +171,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::string ClassName(WindowId window) const override;
   bool IsVisible(WindowId window) const override;
   bool IsMinimized(WindowId window) const override;
+  bool HasOwner(WindowId window) const override;
   bool RestoresMaximized(WindowId window) const override;
   void RestoreMinimized(WindowId window) override;
   void ShowMaximized(WindowId window) override;

@@ -99,6 +99,12 @@ void SimFiles::Put(std::string_view path, std::string_view bytes) {
   WriteHost(place.Host, bytes);
 }
 
+void SimFiles::PutNew(std::string_view folder, const std::vector<std::string>& names) {
+  const Place place = MustFind(folder);
+  if (!place.IsFolder) EndTest("is no folder", folder);
+  for (const std::string& name : names) WriteHost(place.Host / name, {});
+}
+
 std::optional<std::string> SimFiles::Get(std::string_view path) const {
   const Place place = MustFind(path);
   if (!place.IsFile()) return std::nullopt;
@@ -128,6 +134,13 @@ void SimFiles::SetReadOnly(std::string_view path, bool readOnly) {
 
 void SimFiles::SetHidden(std::string_view path, bool hidden) {
   attributes_[MustFind(path).Key].Hidden = hidden;
+}
+
+void SimFiles::LinkFolder(std::string_view link, std::string_view target) {
+  const Place place = MustFind(link);
+  const Place there = MustFind(target);
+  if (!there.IsFolder) EndTest("is no folder to link to", target);
+  fs::create_directory_symlink(there.Host, place.Host);
 }
 
 void SimFiles::HoldOpen(std::string_view path, Hold hold) {
@@ -391,6 +404,17 @@ FileStatus SimFiles::Remove(std::string_view path) {
   if (!place) return place.Error();
   if (bytesLeft_) *bytesLeft_ += HostLength(place->Host);
   fs::remove(place->Host);
+  attributes_.erase(place->Key);
+  return Done();
+}
+
+FileStatus SimFiles::ClearAttributes(std::string_view path) {
+  if (const auto error = Enter("ClearAttributes", path)) return *error;
+  const FileResult<Place> place = Find(path);
+  if (!place) return place.Error();
+  if (place->IsFolder) return FileError::AccessDenied;
+  if (!place->Exists || place->Path.EndsInBackslash) return FileError::NotFound;
+  if (IsProtected(place->Key)) return FileError::AccessDenied;
   attributes_.erase(place->Key);
   return Done();
 }

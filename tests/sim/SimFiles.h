@@ -46,6 +46,8 @@ class SimFiles final : public FileSystem {
   void MakeFolders(std::string_view path);
   /// Writes a file and makes the folders on its way.
   void Put(std::string_view path, std::string_view bytes);
+  /// Makes empty files of an existing folder, whose names are new there. For many files at once.
+  void PutNew(std::string_view folder, const std::vector<std::string>& names);
   /// The content of a file; nothing when it is missing.
   [[nodiscard]] std::optional<std::string> Get(std::string_view path) const;
   /// Of a path that the disk cannot hold there is nothing.
@@ -54,6 +56,8 @@ class SimFiles final : public FileSystem {
   [[nodiscard]] std::vector<std::string> Names(std::string_view folder) const;
   void SetReadOnly(std::string_view path, bool readOnly);
   void SetHidden(std::string_view path, bool hidden);
+  /// Makes a link that stands for another folder and what is in it.
+  void LinkFolder(std::string_view link, std::string_view target);
   void HoldOpen(std::string_view path, Hold hold = Hold::Exclusively);
   void LetGo(std::string_view path);
   /// Takes the right to change anything in a folder and below it, or gives it back.
@@ -92,6 +96,7 @@ class SimFiles final : public FileSystem {
   FileStatus WriteAt(std::string_view path, std::uint64_t offset, std::string_view bytes) override;
   FileStatus Replace(std::string_view path, std::string_view bytes) override;
   FileStatus Remove(std::string_view path) override;
+  FileStatus ClearAttributes(std::string_view path) override;
   FileStatus Rename(std::string_view from, std::string_view to) override;
   FileStatus Copy(std::string_view from, std::string_view to) override;
   FileStatus MakeFolder(std::string_view path) override;

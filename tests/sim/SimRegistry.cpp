@@ -1,5 +1,6 @@
 #include "sim/SimRegistry.h"
 
+#include <set>
 #include <utility>
 
 #include "base/Text.h"
@@ -29,6 +30,17 @@ std::optional<std::string> SimRegistry::Text(RegistryRoot root, std::string_view
   const auto found = values_.find(KeyOf(root, key, name));
   if (found == values_.end()) return std::nullopt;
   return found->second;
+}
+
+std::vector<std::string> SimRegistry::SubKeys(RegistryRoot root, std::string_view key) const {
+  const std::string start = UpperCase(DropBackslash(key)) + "\\";
+  std::set<std::string> names;
+  for (const auto& [place, value] : values_) {
+    const auto& [placeRoot, placeKey, name] = place;
+    if (placeRoot != root || !placeKey.starts_with(start)) continue;
+    names.insert(placeKey.substr(start.size(), placeKey.find('\\', start.size()) - start.size()));
+  }
+  return {names.begin(), names.end()};
 }
 
 }  // namespace corvelle::sim

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <vector>
 
 #include "platform/Registry.h"
 
@@ -18,6 +19,7 @@ class SimRegistry final : public Registry {
 
   std::optional<std::string> Text(RegistryRoot root, std::string_view key,
                                   std::string_view name) const override;
+  std::vector<std::string> SubKeys(RegistryRoot root, std::string_view key) const override;
 
  private:
   std::map<std::tuple<RegistryRoot, std::string, std::string>, std::string> values_;

@@ -8,7 +8,7 @@ namespace corvelle::sim {
 
 namespace {
 
-constexpr std::string_view kPrograms[] = {".EXE", ".COM", ".BAT", ".CMD", ".PIF", ".SCR", ".LNK"};
+constexpr std::string_view kPrograms[] = {".EXE", ".COM", ".BAT", ".CMD", ".PIF", ".SCR"};
 constexpr std::string_view kSchemeCharacters =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.";
 constexpr std::string_view kRunnable[] = {".EXE", ".COM", ".BAT", ".CMD", ".SCR"};
@@ -57,6 +57,11 @@ std::vector<std::string> SimShellExec::Started() const {
   return started;
 }
 
+void SimShellExec::Note(const Launch& launch) {
+  log_.push_back(launch);
+  if (whileAsked_) whileAsked_(launch);
+}
+
 bool SimShellExec::Exists(std::string_view file) const {
   if (path_.contains(UpperCase(file)) || path_.contains(UpperCase(file) + ".EXE")) return true;
   return !HasBadCharacter(file) && files_.Has(file);
@@ -67,9 +72,15 @@ bool SimShellExec::CanOpen(std::string_view file) const {
   if (IsAddress(file)) return true;
   if (!Exists(file)) return false;
   const std::string extension = ExtensionOf(file);
+  if (extension == ".LNK") return CanFollow(file);
   const bool folder = !extension.empty() || files_.Get(file).has_value() ? false : files_.Has(file);
   return folder || IsOneOf(extension, kPrograms) || associations_.contains(extension) ||
          path_.contains(UpperCase(file) + ".EXE");
+}
+
+bool SimShellExec::CanFollow(std::string_view link) const {
+  const auto content = links_.Get(link);
+  return content && (content->Path.empty() ? !content->Item.IsEmpty() : Exists(content->Path));
 }
 
 bool SimShellExec::Open(std::string_view file, std::optional<std::string_view> parameters,
@@ -77,7 +88,7 @@ bool SimShellExec::Open(std::string_view file, std::optional<std::string_view> p
   Launch launch{.How = Launch::Kind::Open, .File = std::string(file), .Started = CanOpen(file)};
   if (parameters) launch.Parameters = std::string(*parameters);
   if (folder) launch.Folder = std::string(*folder);
-  log_.push_back(launch);
+  Note(launch);
   return launch.Started;
 }
 
@@ -112,8 +123,7 @@ std::optional<RunError> SimShellExec::WhyNotRun(std::string_view commandLine) co
 
 Result<Done, RunError> SimShellExec::Run(std::string_view commandLine) {
   const std::optional<RunError> error = WhyNotRun(commandLine);
-  log_.push_back(
-      {.How = Launch::Kind::Run, .File = std::string(commandLine), .Started = !error.has_value()});
+  Note({.How = Launch::Kind::Run, .File = std::string(commandLine), .Started = !error.has_value()});
   if (error) return *error;
   return Done{};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -9,6 +10,7 @@
 
 #include "platform/ShellExec.h"
 #include "sim/SimFiles.h"
+#include "sim/SimShellLinks.h"
 
 namespace corvelle::sim {
 
@@ -24,11 +26,12 @@ struct Launch {
   friend bool operator==(const Launch&, const Launch&) = default;
 };
 
-/// A shell that starts nothing and remembers everything. Programs (exe, com, bat, pif, lnk) start
-/// when their file is on the disk; documents need an association; folders and addresses open.
+/// A shell that starts nothing and remembers everything. Programs (exe, com, bat, pif) start when
+/// their file is on the disk, links when they are whole and lead to a file or an item; documents
+/// need an association; folders and addresses open.
 class SimShellExec final : public ShellExec {
  public:
-  explicit SimShellExec(SimFiles& files) : files_(files) {}
+  SimShellExec(SimFiles& files, const SimShellLinks& links) : files_(files), links_(links) {}
 
   /// Files with this extension (".txt") open from now on.
   void Associate(std::string_view extension, std::string_view program);
@@ -36,6 +39,9 @@ class SimShellExec final : public ShellExec {
   void AddToPath(std::string_view program);
   /// Opening or running this text fails, whatever it is; for Run with this error.
   void Fail(std::string_view file, RunError error = RunError::Other);
+
+  /// Runs at each attempt, when it is in the log and before its answer.
+  void WhileAsked(std::function<void(const Launch&)> action) { whileAsked_ = std::move(action); }
 
   /// All attempts in their order.
   const std::vector<Launch>& Log() const noexcept { return log_; }
@@ -48,14 +54,18 @@ class SimShellExec final : public ShellExec {
   Result<Done, RunError> Run(std::string_view commandLine) override;
 
  private:
+  void Note(const Launch& launch);
   [[nodiscard]] bool Exists(std::string_view file) const;
   [[nodiscard]] bool CanOpen(std::string_view file) const;
+  [[nodiscard]] bool CanFollow(std::string_view link) const;
   [[nodiscard]] std::optional<RunError> WhyNotRun(std::string_view commandLine) const;
 
   SimFiles& files_;
+  const SimShellLinks& links_;
   std::map<std::string, std::string> associations_;
   std::set<std::string> path_;
   std::map<std::string, RunError> failures_;
+  std::function<void(const Launch&)> whileAsked_;
   std::vector<Launch> log_;
 };
 

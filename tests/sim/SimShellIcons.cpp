@@ -90,4 +90,9 @@ bool SimShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int inde
   return true;
 }
 
+int SimShellIcons::IconCount(std::string_view file) {
+  const auto count = iconCounts_.find(UpperCase(file));
+  return count == iconCounts_.end() ? 0 : count->second;
+}
+
 }  // namespace corvelle::sim

@@ -38,6 +38,7 @@ class SimShellIcons final : public ShellIcons {
                       IconStyle style) override;
   bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                     int size) override;
+  int IconCount(std::string_view file) override;
 
  private:
   SimFiles& files_;

@@ -21,6 +21,8 @@ class SimSystemInfo final : public SystemInfo {
   std::string Folder = "C:\\Corvelle";
   std::string WorkFolder = "C:\\";
   bool OtherInstance = false;
+  std::string Windows = "C:\\Windows";
+  std::string System = "C:\\Windows\\System32";
   int Caption = 19;
   int CaptionButton = 18;
   int Depth = 32;
@@ -29,6 +31,8 @@ class SimSystemInfo final : public SystemInfo {
 
   std::string ApplicationFolder() const override { return Folder; }
   std::string CurrentFolder() const override { return WorkFolder; }
+  std::string WindowsFolder() const override { return Windows; }
+  std::string SystemFolder() const override { return System; }
   bool AnotherInstanceRuns() override { return OtherInstance; }
   int CaptionHeight() const override { return Caption; }
   int CaptionButtonWidth() const override { return CaptionButton; }

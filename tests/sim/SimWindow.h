@@ -30,6 +30,7 @@ struct SimWindow {
   bool Maximized = false;
   bool RestoresMaximized = false;
   bool InTaskbar = false;
+  bool HasOwner = false;
   std::vector<WindowId> Children;  // from the front to the back
   WindowId Focus = kNoWindow;      // which of its windows had the focus last
 
@@ -52,6 +53,7 @@ struct OtherWindow {
   bool Maximized = false;
   bool RestoresMaximized = false;
   WindowId Parent = kNoWindow;  // of a child window
+  bool HasOwner = false;
 };
 
 /// A message that a window of another program got.

@@ -51,18 +51,18 @@ WindowId SimDesktop::Add(SimWindow window) {
   return id;
 }
 
-std::unique_ptr<forms::WindowPeer> SimDesktop::CreatePeer(const forms::PeerSpec& spec,
+std::unique_ptr<forms::WindowPeer> SimDesktop::CreatePeer(const forms::PeerSpec& wanted,
                                                           forms::WindowEvents& events) {
   if (refuseWindow_) {
     refuseWindow_ = false;
     return nullptr;
   }
-  const WindowId id = Add({.Parent = spec.Parent != nullptr ? spec.Parent->Id() : kNoWindow,
+  const WindowId id = Add({.Parent = wanted.Parent != nullptr ? wanted.Parent->Id() : kNoWindow,
                            .Events = &events,
                            .Own = true,
-                           .ClassName = spec.ClassName,
-                           .Bounds = spec.Bounds,
-                           .InTaskbar = spec.InTaskbar});
+                           .ClassName = wanted.ClassName,
+                           .Bounds = wanted.Bounds,
+                           .InTaskbar = wanted.InTaskbar});
   Note("create", *Get(id));
   return std::make_unique<SimPeer>(*this, id);
 }

@@ -8,8 +8,11 @@
 namespace corvelle::sim {
 
 World::World(const WorldOptions& options)
-    : Shell(Files),
+    : Links(Files),
+      Shell(Files, Links),
       Icons(Files),
+      FileOps(Files),
+      Associations(Files),
       Desktop({.TwipsPerPixel = options.TwipsPerPixel, .Screen = options.Screen}) {
   System.Caption = options.CaptionHeight;
   System.CaptionButton = options.CaptionButtonWidth;
@@ -19,14 +22,19 @@ World::~World() {
   if (Desktop.AnswersLeft() > 0) Complain("a message box that was expected did not come");
 }
 
-Platform World::Services() {
+Platform World::Services(ShellExec* shell, ShellIcons* icons) {
   return {.Files = Files,
           .Ansi = Ansi,
           .Keys = Keys,
-          .Shell = Shell,
-          .Icons = Icons,
+          .Shell = shell != nullptr ? *shell : Shell,
+          .Icons = icons != nullptr ? *icons : Icons,
+          .Links = Links,
+          .FileOps = FileOps,
           .Pointer = Desktop,
+          .Keyboard = Keyboard,
           .Desktop = Desktop,
+          .Dde = Dde,
+          .Associations = Associations,
           .System = System};
 }
 

@@ -4,11 +4,16 @@
 
 #include "base/CodePage.h"
 #include "platform/Platform.h"
+#include "sim/SimDde.h"
 #include "sim/SimDesktop.h"
+#include "sim/SimFileAssociations.h"
 #include "sim/SimFiles.h"
+#include "sim/SimKeySynthesis.h"
 #include "sim/SimRegistry.h"
 #include "sim/SimShellExec.h"
+#include "sim/SimShellFiles.h"
 #include "sim/SimShellIcons.h"
+#include "sim/SimShellLinks.h"
 #include "sim/SimSystemInfo.h"
 
 namespace corvelle::sim {
@@ -33,13 +38,19 @@ class World {
   SimFiles Files;
   Windows1252 Ansi;
   SimRegistry Keys;
+  SimShellLinks Links;
   SimShellExec Shell;
   SimShellIcons Icons;
+  SimShellFiles FileOps;
+  SimKeySynthesis Keyboard;
+  SimDde Dde;
+  SimFileAssociations Associations;
   SimSystemInfo System;
   SimDesktop Desktop;
 
-  /// The services, as the program takes them.
-  Platform Services();
+  /// The services, as the program takes them; with a shell or icons of the test's own if it has
+  /// some.
+  Platform Services(ShellExec* shell = nullptr, ShellIcons* icons = nullptr);
   forms::WindowSystem& Windows() noexcept { return Desktop; }
 
   /// Writes what the screen shows to a file of the host, as a PPM picture. False when it cannot.

@@ -35,6 +35,7 @@ struct BusyStartup final : StartupPort {
   void UnloadWindow() override {}
   bool WindowLoaded() const override { return true; }
   void HideWindow() override {}
+  void ShowProgress(std::string_view, std::string_view) override {}
   void AddDot() override {
     ++Dots;
     if (Action) Action();
