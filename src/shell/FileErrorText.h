@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "platform/FileSystem.h"
+
+namespace corvelle {
+
+/// What the user reads of a failed file operation: "Error: ", a number, " - " and its description.
+[[nodiscard]] std::string FileErrorText(FileError error);
+
+}  // namespace corvelle

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/CommandPorts.h"
+
+namespace corvelle {
+
+class Program;
+
+// Links and special folders in one call each, for all windows of the program.
+
+/// The path of a special folder (CSIDL_*) without a trailing backslash but for a root; empty when
+/// it has none.
+[[nodiscard]] std::string GetSpecialFolder(Program& program, int folder);
+
+/// Writes a link to a program that starts in `WorkDir`, with a normal window. False on failure.
+bool MakeLink(Program& program, std::string_view LnkFile, std::string_view ExeFile,
+              std::string_view WorkDir);
+
+struct LinkTarget {
+  std::string ExeFile;
+  std::string Args;
+
+  friend bool operator==(const LinkTarget&, const LinkTarget&) = default;
+};
+
+/// What a link starts; nothing when it cannot be read. A link to an item without a path has an
+/// empty target.
+[[nodiscard]] std::optional<LinkTarget> ReadLink(Program& program, std::string_view LnkFile);
+
+/// A file that the user chose or dropped: a link stands for its target, anything else for itself.
+/// Empty for a link that leads to no path.
+[[nodiscard]] std::string ResolveChosenFile(Program& program, std::string_view path);
+
+/// Links for those who only want to know where they lead.
+class LinkReader final : public ShellLinksPort {
+ public:
+  explicit LinkReader(Program& program) : program_(program) {}
+  std::string TargetOf(std::string_view linkPath) override;
+
+ private:
+  Program& program_;
+};
+
+}  // namespace corvelle

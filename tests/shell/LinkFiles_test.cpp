@@ -1,0 +1,52 @@
+#include "shell/LinkFiles.h"
+
+#include "shell/ShellDesk.h"
+
+namespace corvelle {
+namespace {
+
+class LinkFilesTest : public ShellDesk {};
+
+TEST_F(LinkFilesTest, AMadeLinkHasATargetAndAFolderAndNothingElse) {
+  EXPECT_TRUE(MakeLink(program, kLink, kTool, "C:\\Tools"));
+  EXPECT_EQ(world.Links.Get(kLink),
+            (sim::SimLink{
+                .Path = kTool, .WorkDir = "C:\\Tools", .Item = sim::SimShellLinks::ItemOf(kTool)}));
+  EXPECT_EQ(ReadLink(program, kLink), (LinkTarget{kTool, ""}));
+}
+
+TEST_F(LinkFilesTest, ALinkIsReadWithItsArguments) {
+  world.Links.Put(kLink, {.Path = kTool, .Arguments = "/x"});
+  EXPECT_EQ(ReadLink(program, kLink), (LinkTarget{kTool, "/x"}));
+}
+
+TEST_F(LinkFilesTest, NothingIsReadOfADamagedLink) {
+  world.Files.Put(kLink, "x");
+  EXPECT_EQ(ReadLink(program, kLink), std::nullopt);
+  EXPECT_EQ(LinkReader(program).TargetOf(kLink), "");
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(LinkFilesTest, TheTargetOfALinkIsToldToWhoeverAsks) {
+  world.Links.Put(kLink, {.Path = kTool, .Arguments = "/x"});
+  EXPECT_EQ(LinkReader(program).TargetOf(kLink), kTool);
+}
+
+TEST_F(LinkFilesTest, AChosenLinkStandsForItsTargetAndAnyOtherFileForItself) {
+  world.Links.Put("C:\\Links\\TOOL.LNK", {.Path = kTool});
+  world.Links.Put("C:\\Links\\drives.lnk", {.Item = {"folder:17"}});
+  EXPECT_EQ(ResolveChosenFile(program, "C:\\Links\\TOOL.LNK"), kTool);
+  EXPECT_EQ(ResolveChosenFile(program, kTool), kTool);
+  EXPECT_EQ(ResolveChosenFile(program, "C:\\Links\\drives.lnk"), "");
+  EXPECT_EQ(ResolveChosenFile(program, "C:\\Links\\gone.lnk"), "");
+  EXPECT_EQ(ResolveChosenFile(program, ""), "");
+}
+
+TEST_F(LinkFilesTest, ASpecialFolderWithoutAPathIsEmpty) {
+  EXPECT_EQ(GetSpecialFolder(program, 7), "C:\\Start\\Startup");
+  EXPECT_EQ(GetSpecialFolder(program, 17), "");
+  EXPECT_EQ(GetSpecialFolder(program, 99), "");
+}
+
+}  // namespace
+}  // namespace corvelle
