@@ -35,6 +35,18 @@ class LoggingBrowser final : public BrowserPort {
   void OpenMail(std::string_view address) override {
     log_.push_back("OpenMail " + std::string(address));
   }
+  std::string WindowTitle(std::string_view url) override {
+    log_.push_back("WindowTitle " + std::string(url));
+    return "title";
+  }
+  void NoteDropSource(WindowId window) override {
+    log_.push_back("NoteDropSource " + std::to_string(window));
+  }
+  void UseDefaultBrowser() override { log_.emplace_back("UseDefaultBrowser"); }
+  bool UseBrowser(std::string_view path) override {
+    log_.push_back("UseBrowser " + std::string(path));
+    return true;
+  }
 
  private:
   CallLog& log_;

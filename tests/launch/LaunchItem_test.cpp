@@ -44,27 +44,6 @@ Launch NotRun(std::string line) {
   return launch;
 }
 
-/// A shell that takes its time to find out that it cannot open a thing.
-class SlowShell final : public ShellExec {
- public:
-  SlowShell(sim::SimDesktop& desktop, CallLog& log) : desktop_(desktop), log_(log) {}
-
-  bool Open(std::string_view, std::optional<std::string_view>,
-            std::optional<std::string_view>) override {
-    log_.emplace_back("Open");
-    desktop_.Jump(10);
-    return false;
-  }
-  Result<Done, RunError> Run(std::string_view) override {
-    log_.emplace_back("Run");
-    return Done{};
-  }
-
- private:
-  sim::SimDesktop& desktop_;
-  CallLog& log_;
-};
-
 /// A machine with a few files, and a program that has none of the later services.
 class LaunchDesk : public ::testing::Test {
  protected:
@@ -73,7 +52,7 @@ class LaunchDesk : public ::testing::Test {
     world.Files.Put("C:\\root.exe", "x");
     world.Files.Put("C:\\Docs\\plan.txt", "x");
     world.Files.Put("C:\\Docs\\odd.xyz", "x");
-    world.Files.Put("C:\\Links\\tool.lnk", "x");
+    world.Links.Put("C:\\Links\\tool.lnk", {.Path = "C:\\Tools\\tool.exe"});
     world.Shell.Associate(".txt", "notepad.exe");
     world.Shell.AddToPath("explorer.exe");
     world.Shell.AddToPath("rundll32.exe");
@@ -351,14 +330,15 @@ TEST_F(LaunchItemTest, TheHintClosesAndEventsRunBeforeAnythingStarts) {
 }
 
 TEST_F(LaunchItemTest, EventsRunBeforeTheCommandLineIsTried) {
-  SlowShell shell(world.Desktop, log);
-  Platform services = world.Services();
-  Program slow({services.Files, services.Ansi, services.Keys, shell, services.Icons,
-                services.Pointer, services.Desktop, services.System},
-               world.Windows());
+  // The shell takes its time to find out that it cannot open a thing.
+  world.Shell.WhileAsked([this](const Launch& launch) {
+    log.emplace_back(launch.How == Launch::Kind::Open ? "Open" : "Run");
+    world.Desktop.Jump(10);
+  });
   const forms::TimerId timer =
       world.Desktop.StartTimer(10, [this] { log.emplace_back("events run"); });
-  LaunchItem(slow, "tool.exe /x");
+  world.Shell.AddToPath("tool.exe");
+  LaunchItem(program, "tool.exe /x");
   world.Desktop.StopTimer(timer);
   EXPECT_EQ(log, (CallLog{"Open", "events run", "Run"}));
 }

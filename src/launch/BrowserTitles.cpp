@@ -1,0 +1,151 @@
+#include <algorithm>
+
+#include "base/Text.h"
+#include "core/Program.h"
+#include "launch/Browser.h"
+#include "launch/BrowserRules.h"
+#include "platform/DesktopWindows.h"
+#include "platform/FileSystem.h"
+#include "platform/Registry.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr std::string_view kUsersKey = "SOFTWARE\\Netscape\\Netscape Navigator\\Users";
+constexpr std::string_view kBookmarkFiles[] = {"bookmark.htm", "bookmark.html"};
+// No list of bookmarks that a person keeps is longer.
+constexpr std::size_t kBookmarkLimit = 16'777'216;
+constexpr std::size_t kChoiceLimit = 65536;
+
+std::string CaptionOf(const DesktopWindows& desktop, WindowId window) {
+  const std::string text = desktop.Text(window);
+  return text.substr(0, text.find('\0'));
+}
+
+bool IsShownByItself(const DesktopWindows& desktop, WindowId window) {
+  return desktop.IsVisible(window) && !desktop.HasOwner(window);
+}
+
+}  // namespace
+
+void Browser::NoteDropSource(WindowId window) {
+  DropSourceWindow = window;
+  DropSourceKnown = window != kNoWindow;
+}
+
+std::string Browser::WindowTitle(std::string_view url) {
+  const std::string address(url);
+  if (BrowserApplication.empty()) InitBrowser();
+  if (auto title = TitleOfDropSource(address)) return *std::move(title);
+  return TitleOfAnyBrowser(address);
+}
+
+bool Browser::IsOwnWindow(WindowId window) const {
+  const ToolbarPort* strip = program_.Ports.Toolbar;
+  return strip != nullptr &&
+         (window == strip->WindowHandle() || window == strip->ButtonBoxHandle() ||
+          window == strip->SingleBoxHandle());
+}
+
+// Nothing when the drag tells nothing.
+std::optional<std::string> Browser::TitleOfDropSource(std::string_view url) {
+  const DesktopWindows& desktop = program_.Services.Desktop;
+  if (!DropSourceKnown || desktop.HasOwner(DropSourceWindow) || IsOwnWindow(DropSourceWindow)) {
+    return std::nullopt;
+  }
+  const std::string caption = Trim(CaptionOf(desktop, DropSourceWindow));
+  if (caption.empty()) return std::nullopt;
+  DropSourceKnown = false;
+  if (IsBookmarkCaption(caption)) {
+    std::string title = BookmarkTitle(url);
+    if (!title.empty()) return title;
+  }
+  return PageTitle(caption);
+}
+
+std::string Browser::TitleOfAnyBrowser(std::string_view url) {
+  const DesktopWindows& desktop = program_.Services.Desktop;
+  // The file says the same for every window.
+  bool bookmarksAsked = false;
+  for (const WindowId window : desktop.TopLevel()) {
+    if (!IsShownByItself(desktop, window) || desktop.IsMinimized(window)) continue;
+    const std::string caption = CaptionOf(desktop, window);
+    if (caption.empty() || caption == program_.Title) continue;
+    if (IsBookmarkCaption(caption) && !bookmarksAsked) {
+      bookmarksAsked = true;
+      std::string title = BookmarkTitle(url);
+      if (!title.empty()) return title;
+    }
+    const bool browser = ContainsNoCase(caption, "Explorer") || ContainsNoCase(caption, "Netscape");
+    if (browser && caption.find('-') != std::string::npos) return PageTitle(caption);
+  }
+  return {};
+}
+
+bool Browser::IsNetscapeOnTop(WindowId window) {
+  if (!netscapeKnown_) {
+    netscapeKnown_ =
+        program_.Services.Keys.Text(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser") ||
+        ContainsNoCase(ProgramForPages().value_or(""), "Netscape");
+  }
+  if (!*netscapeKnown_) return false;
+  const DesktopWindows& desktop = program_.Services.Desktop;
+  for (const WindowId other : desktop.TopLevel()) {
+    if (!IsShownByItself(desktop, other)) continue;
+    const std::string caption = CaptionOf(desktop, other);
+    if (ContainsNoCase(caption, "Bookmarks") && !desktop.IsMinimized(other) &&
+        other != notedNetscape_) {
+      return true;
+    }
+    if (!ContainsNoCase(caption, "Netscape")) continue;
+    if (other != window) return true;
+    notedNetscape_ = other;
+  }
+  return false;
+}
+
+std::string Browser::BookmarkTitle(std::string_view url) {
+  if (BookmarkDir.empty()) FindBookmarkDir();
+  if (BookmarkDir.empty()) return {};
+  FileSystem& files = program_.Services.Files;
+  for (const std::string_view name : kBookmarkFiles) {
+    const auto bytes = files.Read(BookmarkDir + std::string(name), 0, kBookmarkLimit);
+    if (bytes) return ParseBookmarkTitle(*bytes, url, program_.Services.Ansi);
+  }
+  return {};
+}
+
+void Browser::FindBookmarkDir() {
+  const Registry& keys = program_.Services.Keys;
+  FileSystem& files = program_.Services.Files;
+  std::string folder;
+  if (const auto user = keys.Text(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser")) {
+    const std::string userKey = std::string(kUsersKey) + "\\" + *user;
+    folder = keys.Text(RegistryRoot::LocalMachine, userKey, "DirRoot").value_or("");
+  }
+  if (folder.empty()) folder = FolderOfOnlyUser();
+  if (folder.empty()) {
+    const auto bytes = files.Read(program_.AppPath + "openurl.ini", 0, kChoiceLimit);
+    if (bytes) folder = ParseBookmarkFolder(*bytes, program_.Services.Ansi);
+  }
+  if (!folder.empty()) BookmarkDir = EnsureBackslash(folder);
+}
+
+// The folder of the one user that the browser knows, beside its program; empty when there are more.
+std::string Browser::FolderOfOnlyUser() {
+  const std::string browser = ProgramForPages().value_or("");
+  if (!ContainsNoCase(browser, "netscape.exe")) return {};
+  for (const std::string& users : UsersFolders(browser)) {
+    const auto entries = program_.Services.Files.List(users, "*");
+    if (!entries) continue;
+    std::vector<std::string> found;
+    for (const FileEntry& entry : *entries) {
+      if (entry.IsFolder) found.push_back(users + entry.Name);
+    }
+    if (found.size() == 1) return found.front();
+  }
+  return {};
+}
+
+}  // namespace corvelle

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/CommandPorts.h"
+#include "launch/BuiltInKeys.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The entries that are words of the program.
+class BuiltInCommands final : public BuiltInCommandsPort {
+ public:
+  explicit BuiltInCommands(Program& program) : program_(program) {}
+
+  /// Loads the search window; does nothing in a program that has none.
+  void ShowNetSearch() override;
+  // These four press keys that the shell acts on, if it knows them.
+  void FindComputer() override { Press(ShellKeys::FindComputer); }
+  void MinimizeAllWindows() override { Press(ShellKeys::MinimizeAllWindows); }
+  void UndoMinimizeAll() override { Press(ShellKeys::UndoMinimizeAll); }
+  void FileFind() override { Press(ShellKeys::FileFind); }
+  /// Moves what the user's folder of recent documents holds into the Recycle Bin. A failure is
+  /// told.
+  void ClearRecentDocs() override;
+  void ClearTempFolder() override;
+
+ private:
+  void Press(ShellKeys keys);
+
+  Program& program_;
+};
+
+}  // namespace corvelle

@@ -1,0 +1,28 @@
+#include "launch/OpenMail.h"
+
+#include <optional>
+#include <string>
+
+#include "core/Program.h"
+#include "platform/Registry.h"
+#include "platform/ShellExec.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr std::string_view kMailKey = "mailto\\shell\\open\\command";
+constexpr std::string_view kMailError = "Unable to communicate with your default email program.";
+
+}  // namespace
+
+void OpenMail(Program& program, std::string_view address) {
+  ShellExec& shell = program.Services.Shell;
+  if (shell.Open(address, std::nullopt, std::nullopt)) return;
+  const std::optional<std::string> command =
+      program.Services.Keys.Text(RegistryRoot::ClassesRoot, kMailKey, "");
+  if (command && shell.Open(*command, address, std::nullopt)) return;
+  program.Say(program.ToolbarWindow(), kMailError, forms::msgbox::OnTop);
+}
+
+}  // namespace corvelle
