@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/WindowPorts.h"
+
+namespace corvelle {
+
+class Program;
+
+// The store of the icons that come with the program, below Program::IconsPath. Failures are quiet,
+// save that of the missing container: what cannot be read is empty, and what cannot be written
+// keeps its old content.
+
+/// Name of the container, in the program's folder.
+inline constexpr std::string_view kLibraryFile = "icon.lib";
+
+/// Unpacks the container of `source` into the folder `target`. Files of the same name are replaced,
+/// each in one step, and others stay. An entry whose name would leave the folder is passed over;
+/// one that is longer than the container ends the unpacking. Lets events run and counts every fifth
+/// entry in the startup window. Without a container the user is told.
+void ExtractIconLibrary(Program& program, std::string_view target, std::string_view source);
+
+/// The port of it: from the program's folder into its folder of icons.
+class IconLibrary final : public IconLibraryPort {
+ public:
+  explicit IconLibrary(Program& program) : program_(program) {}
+  void ExtractIconLibrary() override;
+
+ private:
+  Program& program_;
+};
+
+/// Names of the categories, sorted: those of the .ini files without the ending.
+[[nodiscard]] std::vector<std::string> LibraryCategories(Program& program);
+
+/// File names of the icons of a category. Empty when there is none of that name.
+[[nodiscard]] std::vector<std::string> CategoryIcons(Program& program, std::string_view category);
+
+/// File names of all icons, from the prepared list if there is one; else in the order in which the
+/// folder gives them, and the list is made.
+[[nodiscard]] std::vector<std::string> AllIcons(Program& program);
+
+/// Removes the derived files ("*.dat" and "*.ics" in the folder of icons) and clears
+/// Program::LibraryBuilt.
+void ResetLibrary(Program& program);
+
+/// Notes the display's values for the next time. When they differ from those of the last time (or
+/// none were noted), the derived files are removed, and the answer is true.
+bool CheckLibraryDisplay(Program& program);
+
+}  // namespace corvelle

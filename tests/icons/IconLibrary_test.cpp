@@ -1,0 +1,311 @@
+#include "icons/IconLibrary.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/CoreDoubles.h"
+#include "core/Program.h"
+#include "icons/LibraryBytes.h"
+#include "sim/World.h"
+
+namespace corvelle {
+namespace {
+
+using std::string_literals::operator""s;
+
+constexpr char kContainer[] = "C:\\Corvelle\\icon.lib";
+
+/// A program while it starts, with an empty folder of icons.
+class LibraryDesk : public ::testing::Test {
+ protected:
+  LibraryDesk() {
+    program.AppPath = "C:\\Corvelle\\";
+    program.IconsPath = "C:\\Corvelle\\Icons\\";
+    program.StartingUp = true;
+    program.Ports.Startup = &startup;
+    world.Files.MakeFolders(program.IconsPath);
+  }
+
+  void Pack(const std::string& bytes) { world.Files.Put(kContainer, bytes); }
+  void Unpack() { IconLibrary(program).ExtractIconLibrary(); }
+
+  std::vector<std::string> Unpacked() { return world.Files.Names(program.IconsPath); }
+  std::string Content(const std::string& name) {
+    return world.Files.Get(program.IconsPath + name).value_or("(missing)");
+  }
+
+  CallLog log;
+  LoggingStartup startup{log};
+  sim::World world;
+  Program program{world.Services(), world.Windows()};
+};
+
+TEST_F(LibraryDesk, EveryEntryBecomesAFile) {
+  Pack(Entry("a.ico", "first") + Entry("Tools.ini", "a.ico\r\n") + End());
+  Unpack();
+  EXPECT_EQ(Unpacked(), (std::vector<std::string>{"Tools.ini", "a.ico"}));
+  EXPECT_EQ(Content("a.ico"), "first");
+  EXPECT_EQ(Content("Tools.ini"), "a.ico\r\n");
+}
+
+TEST_F(LibraryDesk, TheContainerIsTheOneThatThePackerWrites) {
+  Pack(
+      "a.ico               \4\0\0\0first"
+      "W95MBX02.ICO        \1\0\0\0\0\xFF"
+      "                    \0\0\0\0"s);
+  Unpack();
+  EXPECT_EQ(Unpacked(), (std::vector<std::string>{"W95MBX02.ICO", "a.ico"}));
+  EXPECT_EQ(Content("a.ico"), "first");
+  EXPECT_EQ(Content("W95MBX02.ICO"), "\0\xFF"s);
+}
+
+TEST_F(LibraryDesk, FoldersAreTakenWithAndWithoutTheirBackslash) {
+  Pack(Entry("a.ico", "first"));
+  world.Files.MakeFolders("C:\\Elsewhere");
+  ExtractIconLibrary(program, "C:\\Elsewhere", "C:\\Corvelle");
+  EXPECT_EQ(world.Files.Get("C:\\Elsewhere\\a.ico"), "first");
+}
+
+TEST_F(LibraryDesk, AMissingContainerIsToldAndTheProgramGoesOn) {
+  world.Desktop.Answer(forms::msgbox::AnswerOk);
+  Unpack();
+  ASSERT_EQ(world.Desktop.Boxes().size(), 1U);
+  const auto& message = world.Desktop.Boxes().front();
+  EXPECT_EQ(message.Text,
+            "Icon Library couldn't be found in your system. You need to reinstall the program to "
+            "fix this error.");
+  EXPECT_EQ(message.Title, "Corvelle");
+  EXPECT_EQ(message.Flags, 262160U);
+  EXPECT_EQ(message.Owner, kNoWindow);
+  EXPECT_TRUE(Unpacked().empty());
+}
+
+TEST_F(LibraryDesk, AnEntryOfLengthNoughtInTheMiddleEndsTheUnpacking) {
+  Pack(Entry("a.ico", "first") + End() + Entry("b.ico", "second"));
+  Unpack();
+  EXPECT_EQ(Unpacked(), std::vector<std::string>{"a.ico"});
+}
+
+TEST_F(LibraryDesk, FilesOfTheSameNameAreReplacedAndOthersStay) {
+  world.Files.Put(program.IconsPath + "A.ICO", "old and longer");
+  world.Files.Put(program.IconsPath + "mine.ico", "mine");
+  Pack(Entry("a.ico", "first") + End());
+  Unpack();
+  EXPECT_EQ(Content("a.ico"), "first");
+  EXPECT_EQ(Content("mine.ico"), "mine");
+  EXPECT_EQ(Unpacked().size(), 2U);
+}
+
+TEST_F(LibraryDesk, EveryFifthEntryIsADotAndTheRestIsNotCounted) {
+  struct Row {
+    const char* name;
+    int entries;
+    bool end;
+    int dots;
+  };
+  const Row rows[] = {
+      {"four files", 4, false, 0},
+      {"four files and the end, a fifth entry", 4, true, 1},
+      {"five files", 5, false, 1},
+      {"nine files", 9, false, 1},
+      {"nine files and the end", 9, true, 2},
+      {"twelve files", 12, true, 2},
+  };
+  for (const Row& row : rows) {
+    std::string bytes;
+    for (int i = 0; i < row.entries; ++i) bytes += Entry(std::to_string(i) + ".ico", "data");
+    Pack(bytes + (row.end ? End() : ""));
+    log.clear();
+    Unpack();
+    EXPECT_EQ(log, CallLog(static_cast<std::size_t>(row.dots), "dot")) << row.name;
+  }
+}
+
+TEST_F(LibraryDesk, WithTheStartupWindowTurnedOffNoDotIsCounted) {
+  program.OptionFlags.Set(9, '1');
+  std::string bytes;
+  for (int i = 0; i < 10; ++i) bytes += Entry(std::to_string(i) + ".ico", "data");
+  Pack(bytes);
+  Unpack();
+  EXPECT_TRUE(log.empty());
+  EXPECT_EQ(Unpacked().size(), 10U);
+}
+
+TEST_F(LibraryDesk, APartialContainerLeavesTheFilesWrittenSoFar) {
+  const std::string whole = Entry("a.ico", "first") + Entry("b.ico", "second");
+  const std::size_t first = Entry("a.ico", "first").size();
+  for (std::size_t size = 0; size < whole.size(); ++size) {
+    world.Files.Vanish(program.IconsPath);
+    world.Files.MakeFolders(program.IconsPath);
+    Pack(whole.substr(0, size));
+    Unpack();
+    EXPECT_EQ(Unpacked(),
+              size < first ? std::vector<std::string>() : std::vector<std::string>{"a.ico"})
+        << size;
+  }
+}
+
+TEST_F(LibraryDesk, LengthsThatLieEndTheUnpackingWithoutTakingMemory) {
+  for (const std::string& length :
+       {"\xFF\xFF\xFF\x7F"s, "\x10\0\0\0"s, "\xFF\xFF\xFF\xFF"s, "\0\0\0\x80"s}) {
+    std::string liar = "liar.ico";
+    liar.resize(kLibraryName, ' ');
+    Pack(Entry("a.ico", "first") + liar + length + "short");
+    Unpack();
+    EXPECT_EQ(Unpacked(), std::vector<std::string>{"a.ico"});
+  }
+}
+
+TEST_F(LibraryDesk, NoEntryWritesOutsideTheFolder) {
+  world.Files.Put("C:\\Corvelle\\corvelle.exe", "the program");
+  std::string bytes;
+  for (const char* name : {"..\\corvelle.exe", "C:\\evil.exe", "\\evil.exe", "a/evil.ico", "C:evil",
+                           "..", "nul.ico", "a.ico.", "corvelle.exe:x", ""}) {
+    bytes += Entry(name, "evil");
+  }
+  Pack(bytes + Entry("good.ico", "good") + End());
+  Unpack();
+  EXPECT_EQ(Unpacked(), std::vector<std::string>{"good.ico"});
+  EXPECT_EQ(world.Files.Names("C:\\"), std::vector<std::string>{"Corvelle"});
+  EXPECT_EQ(world.Files.Names("C:\\Corvelle"),
+            (std::vector<std::string>{"Icons", "corvelle.exe", "icon.lib"}));
+  EXPECT_EQ(world.Files.Get("C:\\Corvelle\\corvelle.exe"), "the program");
+}
+
+TEST_F(LibraryDesk, AFileThatCannotBeWrittenDoesNotKeepTheOthersBack) {
+  world.Files.Put(program.IconsPath + "a.ico", "read-only");
+  world.Files.SetReadOnly(program.IconsPath + "a.ico", true);
+  world.Files.Put(program.IconsPath + "b.ico", "held");
+  world.Files.HoldOpen(program.IconsPath + "b.ico");
+  world.Files.MakeFolders(program.IconsPath + "c.ico");
+  Pack(Entry("a.ico", "new") + Entry("b.ico", "new") + Entry("c.ico", "new") +
+       Entry("d.ico", "new"));
+  Unpack();
+  EXPECT_EQ(Content("a.ico"), "read-only");
+  EXPECT_EQ(Content("d.ico"), "new");
+  world.Files.LetGo(program.IconsPath + "b.ico");
+  EXPECT_EQ(Content("b.ico"), "held");
+}
+
+TEST_F(LibraryDesk, AFullDiskLeavesWholeFilesOnly) {
+  const std::string data(1000, 'x');
+  for (std::uint64_t room = 0; room < 4000; room += 499) {
+    world.Files.FreeDisk();
+    world.Files.Vanish(program.IconsPath);
+    world.Files.MakeFolders(program.IconsPath);
+    Pack(Entry("a.ico", data) + Entry("b.ico", data) + Entry("c.ico", data) + Entry("d.ico", "ab"));
+    world.Files.FillDisk(room);
+    Unpack();
+    for (const std::string& name : Unpacked()) {
+      EXPECT_EQ(Content(name), name == "d.ico" ? "ab" : data) << name << " at " << room;
+    }
+  }
+}
+
+TEST_F(LibraryDesk, AnyOneFailureLeavesEachFileOldOrNew) {
+  for (int n = 1;; ++n) {
+    world.Files.Put(program.IconsPath + "a.ico", "old a");
+    world.Files.Put(program.IconsPath + "b.ico", "old b");
+    Pack(Entry("a.ico", "new a") + Entry("b.ico", "new b") + End());
+    world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+    world.Files.FailCall(n, FileError::DiskFull);
+    Unpack();
+    const bool hit = world.Files.Hit();
+    world.Files.StopFailing();
+    for (const char* name : {"a", "b"}) {
+      const std::string content = Content(name + ".ico"s);
+      EXPECT_TRUE(content == "old "s + name || content == "new "s + name)
+          << content << ", failing call " << n;
+    }
+    EXPECT_EQ(Unpacked().size(), 2U) << "failing call " << n;
+    if (!hit) break;
+  }
+  EXPECT_EQ(Content("a.ico"), "new a");
+}
+
+// Categories and derived files.
+
+TEST_F(LibraryDesk, CategoriesAreTheListsInOrder) {
+  for (const char* name : {"tools.INI", "Arrows.ini", "people.ini", "x.ico", "note.txt"}) {
+    world.Files.Put(program.IconsPath + name, "a.ico\r\n");
+  }
+  world.Files.MakeFolders(program.IconsPath + "folder.ini");
+  EXPECT_EQ(LibraryCategories(program), (std::vector<std::string>{"Arrows", "people", "tools"}));
+}
+
+TEST_F(LibraryDesk, ACategoryHoldsTheLinesOfItsListThatAreNotBlank) {
+  world.Files.Put(program.IconsPath + "Tools.ini", "saw.ico\r\n\r\n  \r\nhammer.ico");
+  EXPECT_EQ(CategoryIcons(program, "tools"), (std::vector<std::string>{"saw.ico", "hammer.ico"}));
+}
+
+TEST_F(LibraryDesk, ADeletedListTakesItsCategoryAtOnceAndTheIconsStay) {
+  world.Files.Put(program.IconsPath + "Tools.ini", "saw.ico\r\n");
+  world.Files.Put(program.IconsPath + "saw.ico", "x");
+  world.Files.Vanish(program.IconsPath + "Tools.ini");
+  EXPECT_TRUE(LibraryCategories(program).empty());
+  EXPECT_TRUE(CategoryIcons(program, "Tools").empty());
+  EXPECT_EQ(AllIcons(program), std::vector<std::string>{"saw.ico"});
+}
+
+TEST_F(LibraryDesk, AllIconsComeFromThePreparedListOnceItIsMade) {
+  world.Files.Put(program.IconsPath + "a.ico", "x");
+  EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
+  EXPECT_EQ(Content("CAT0.ics"), "a.ico\r\n");
+  world.Files.Put(program.IconsPath + "b.ico", "x");
+  EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
+  ResetLibrary(program);
+  EXPECT_EQ(AllIcons(program).size(), 2U);
+}
+
+TEST_F(LibraryDesk, AllIconsAreFoundWithoutRoomForTheirList) {
+  world.Files.Put(program.IconsPath + "a.ico", "x");
+  world.Files.FillDisk(0);
+  EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
+  EXPECT_EQ(Unpacked(), std::vector<std::string>{"a.ico"});
+}
+
+TEST_F(LibraryDesk, AResetDropsTheDerivedFilesAndNothingElse) {
+  program.LibraryBuilt = true;
+  for (const char* name : {"CAT0.ics", "CAT0.dat", "others.dat", "a.ico", "Tools.ini"}) {
+    world.Files.Put(program.IconsPath + name, "x");
+  }
+  world.Files.Put("C:\\Corvelle\\clrlib.dat", "x");
+  ResetLibrary(program);
+  EXPECT_EQ(Unpacked(), (std::vector<std::string>{"Tools.ini", "a.ico"}));
+  EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\clrlib.dat"));
+  EXPECT_FALSE(program.LibraryBuilt);
+}
+
+TEST_F(LibraryDesk, AResetPassesOverWhatIsHeldOpen) {
+  world.Files.Put(program.IconsPath + "a.dat", "x");
+  world.Files.HoldOpen(program.IconsPath + "a.dat");
+  world.Files.Put(program.IconsPath + "b.ics", "x");
+  ResetLibrary(program);
+  EXPECT_EQ(Unpacked(), std::vector<std::string>{"a.dat"});
+}
+
+TEST_F(LibraryDesk, AnotherDepthOrColourDropsTheDerivedFiles) {
+  EXPECT_TRUE(CheckLibraryDisplay(program));
+  EXPECT_EQ(world.Files.Get("C:\\Corvelle\\clrlib.dat")->size(), 16U);
+  world.Files.Put(program.IconsPath + "CAT0.ics", "x");
+  program.LibraryBuilt = true;
+  EXPECT_FALSE(CheckLibraryDisplay(program));
+  EXPECT_TRUE(program.LibraryBuilt);
+  EXPECT_TRUE(world.Files.Has(program.IconsPath + "CAT0.ics"));
+  world.System.Depth = 8;
+  EXPECT_TRUE(CheckLibraryDisplay(program));
+  EXPECT_FALSE(program.LibraryBuilt);
+  EXPECT_FALSE(world.Files.Has(program.IconsPath + "CAT0.ics"));
+  EXPECT_FALSE(CheckLibraryDisplay(program));
+}
+
+TEST_F(LibraryDesk, ADisplayRecordOfNoLengthCountsAsAnotherDisplay) {
+  world.Files.Put("C:\\Corvelle\\clrlib.dat", "");
+  EXPECT_TRUE(CheckLibraryDisplay(program));
+  EXPECT_FALSE(CheckLibraryDisplay(program));
+}
+
+}  // namespace
+}  // namespace corvelle

@@ -1,0 +1,87 @@
+#include "icons/RecycleIcon.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "core/Program.h"
+#include "sim/World.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr char kKey[] = "CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}\\DefaultIcon";
+constexpr char kEmptyBin[] = "C:\\Windows\\System\\shell32.dll,31";
+constexpr char kFullBin[] = "C:\\Windows\\System\\shell32.dll,32";
+
+struct CheckRecycleIconTest : testing::Test {
+  void SetIcon(const std::string& value) {
+    world.Keys.Set(RegistryRoot::ClassesRoot, kKey, {}, value);
+  }
+  /// Looks, and tells whether a change was noted.
+  bool Look() {
+    program.RecycleIconChanged = false;
+    CheckRecycleIcon(program);
+    return program.RecycleIconChanged;
+  }
+
+  sim::World world;
+  Program program{world.Services(), world.Windows()};
+};
+
+}  // namespace
+
+TEST_F(CheckRecycleIconTest, TheFirstLookNotesTheIcon) {
+  SetIcon(kEmptyBin);
+  EXPECT_TRUE(Look());
+  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+}
+
+TEST_F(CheckRecycleIconTest, TheSameIconIsNoChange) {
+  SetIcon(kEmptyBin);
+  Look();
+  EXPECT_FALSE(Look());
+}
+
+TEST_F(CheckRecycleIconTest, FollowsTheBinWhenItFillsAndWhenItIsEmptied) {
+  SetIcon(kEmptyBin);
+  Look();
+  SetIcon(kFullBin);
+  EXPECT_TRUE(Look());
+  EXPECT_EQ(program.RecycleIconPath, kFullBin);
+  SetIcon(kEmptyBin);
+  EXPECT_TRUE(Look());
+  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+}
+
+TEST_F(CheckRecycleIconTest, AChangeThatNobodyLookedAtYetStays) {
+  SetIcon(kEmptyBin);
+  CheckRecycleIcon(program);
+  CheckRecycleIcon(program);
+  EXPECT_TRUE(program.RecycleIconChanged);
+}
+
+TEST_F(CheckRecycleIconTest, BlanksAtTheEndsDoNotCount) {
+  SetIcon(kEmptyBin);
+  Look();
+  SetIcon("  " + std::string(kEmptyBin) + " ");
+  EXPECT_FALSE(Look());
+  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+}
+
+TEST_F(CheckRecycleIconTest, WhatIsMissingOrEmptyLeavesTheIconAsItWas) {
+  EXPECT_FALSE(Look());
+  SetIcon(kEmptyBin);
+  Look();
+  for (const char* value : {"", "   "}) {
+    SetIcon(value);
+    EXPECT_FALSE(Look()) << '"' << value << '"';
+    EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+  }
+  world.Keys.Remove(RegistryRoot::ClassesRoot, kKey, {});
+  EXPECT_FALSE(Look());
+  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+}
+
+}  // namespace corvelle
