@@ -37,7 +37,8 @@ stage() {
 
 build_native() { configure asan && build asan; }
 build_windows() {
-  configure windows && build windows &&
+  # What an earlier layout left in the folder is no part of this one.
+  configure windows && build windows && rm -rf build/windows/package &&
     cmake --install build/windows --prefix build/windows/package >build/windows-install.log
 }
 build_windows32() { configure windows32 && build windows32; }

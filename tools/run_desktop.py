@@ -86,6 +86,17 @@ def second_button(session):
     return [str(left + x), str(top + y)]
 
 
+def answer_first_question(session):
+    """A first start asks whether to run at each login. There is nobody to ask here: no."""
+    deadline = time.monotonic() + 20
+    # The first of the flags is set once the question has its answer.
+    while not (FOLDER / "tmenu425.dat").read_bytes().startswith(b"1"):
+        if time.monotonic() > deadline:
+            raise SessionError("the question of the first start could not be answered")
+        session.tool(["xdotool", "key", "n"])
+        time.sleep(0.5)
+
+
 def show_on_own_display(session, process):
     """Takes the pictures and ends the program; its exit code, or None if it would not end."""
     deadline = time.monotonic() + 20
@@ -94,6 +105,7 @@ def show_on_own_display(session, process):
     time.sleep(4)
     if process.poll() is not None:
         return process.returncode
+    answer_first_question(session)
     if not session.picture(PICTURES / "screen.png"):
         raise SessionError("the picture of the screen could not be taken")
     say(f"a picture of the screen is in {PICTURES / 'screen.png'}")
