@@ -1,7 +1,12 @@
 #include "core/Main.h"
 #include "core/Program.h"
+#include "icons/IconLibrary.h"
 #include "icons/IconResolution.h"
+#include "launch/Browser.h"
+#include "launch/BuiltInCommands.h"
 #include "menus/frmQMenu.h"
+#include "shell/LinkFiles.h"
+#include "shell/StartupLink.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
 #include "toolbar/frmToolbar.h"
@@ -32,11 +37,21 @@ int main() {
   frmMinimize companion(program);
   frmStartup startup(program);
   IconRule iconRule(program);
+  IconLibrary iconLibrary(program);
+  BuiltInCommands builtIns(program);
+  Browser browser(program);
+  LinkReader links(program);
+  StartupLink startupLink(program);
   program.Ports.Toolbar = &toolbar;
   program.Ports.QMenu = &menu;
   program.Ports.Minimize = &companion;
   program.Ports.Startup = &startup;
   program.Ports.IconRule = &iconRule;
+  program.Ports.IconLibrary = &iconLibrary;
+  program.Ports.BuiltInCommands = &builtIns;
+  program.Ports.Browser = &browser;
+  program.Ports.ShellLinks = &links;
+  program.Ports.StartupLink = &startupLink;
   if (Main(program)) program.Windows.Run();
   return 0;
 }

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "e2e/DeskFiles.h"
+#include "e2e/DeskLinks.h"
 
 namespace corvelle::e2e {
 namespace {
@@ -360,6 +361,26 @@ std::string WineDesk::WitnessProgram() const { return Narrow(kWitnessFolder) + "
 // Its name has blanks and letters of two scripts: no single code page holds it.
 std::string WineDesk::WitnessDocument() const {
   return Narrow(kDocumentFolder) + "letter to Zo\u00eb, \u043f\u0438\u0441\u044c\u043c\u043e.wit";
+}
+
+std::string WineDesk::MakeWitnessLink(std::string_view arguments, std::string_view folder) {
+  const std::wstring link = std::wstring(kDocumentFolder) + L"a link.lnk";
+  if (!MakeLinkFile(link, Wide(WitnessProgram()), Wide(arguments), Wide(folder))) {
+    std::printf("There is no link\n");
+  }
+  return Narrow(link);
+}
+
+std::string WineDesk::MakeDamagedLink() {
+  const std::wstring link = std::wstring(kDocumentFolder) + L"damaged.lnk";
+  if (!WriteBytes(link, "L\x01 is no link")) std::printf("There is no damaged link\n");
+  return Narrow(link);
+}
+
+std::optional<std::string> WineDesk::StartupLinkTarget() const {
+  const auto target = LinkTargetOf(StartupFolder() + L"\\Corvelle.lnk");
+  if (!target) return std::nullopt;
+  return Narrow(*target);
 }
 
 std::vector<scenario::Launch> WineDesk::Launched() const {

@@ -70,6 +70,9 @@ class WineDesk final : public scenario::Desk {
 
   [[nodiscard]] std::string WitnessProgram() const override;
   [[nodiscard]] std::string WitnessDocument() const override;
+  std::string MakeWitnessLink(std::string_view arguments, std::string_view folder) override;
+  std::string MakeDamagedLink() override;
+  [[nodiscard]] std::optional<std::string> StartupLinkTarget() const override;
   [[nodiscard]] std::vector<scenario::Launch> Launched() const override;
 
   void Picture(std::string_view name) override;

@@ -137,6 +137,12 @@ class Desk {
   /// A program that only writes down how it was started, and a document that it is registered for.
   [[nodiscard]] virtual std::string WitnessProgram() const = 0;
   [[nodiscard]] virtual std::string WitnessDocument() const = 0;
+  /// Makes a link to the witness, with arguments and an existing working folder, as another program
+  /// would make it, and gives its path. A damaged one: a file that is only named like a link.
+  virtual std::string MakeWitnessLink(std::string_view arguments, std::string_view folder) = 0;
+  virtual std::string MakeDamagedLink() = 0;
+  /// The target of the program's link in the Startup folder; nothing when there is none.
+  [[nodiscard]] virtual std::optional<std::string> StartupLinkTarget() const = 0;
   /// What was started so far, in order.
   [[nodiscard]] virtual std::vector<Launch> Launched() const = 0;
 

@@ -156,6 +156,27 @@ TEST_F(Road, ADocumentStartsThroughItsAssociationInItsOwnFolder) {
   EXPECT_EQ(desk_->Launched()[0].Folder, path.substr(0, path.rfind('\\')));
 }
 
+TEST_F(Road, ALinkStartsInItsOwnWorkingFolderWithItsArguments) {
+  const std::string link = desk_->MakeWitnessLink("by link", "C:\\documents");
+  WriteMenu(*desk_, 2, "Links", {{.FTitle = "Link", .FIcon = "", .FName = link}});
+  Choose(3, 1, 1);
+  ASSERT_TRUE(WaitForLaunch());
+  EXPECT_EQ(desk_->Launched()[0].Program, desk_->WitnessProgram());
+  EXPECT_EQ(desk_->Launched()[0].Arguments, "by link");
+  EXPECT_EQ(desk_->Launched()[0].Folder, "C:\\documents");
+}
+
+TEST_F(Road, ADamagedLinkStartsNothingAndSaysNothing) {
+  const std::string link = desk_->MakeDamagedLink();
+  WriteMenu(*desk_, 2, "Links", {{.FTitle = "Link", .FIcon = "", .FName = link}});
+  Choose(3, 1, 1);
+  EXPECT_TRUE(WaitForNoMenu(*desk_));
+  desk_->Pause(1500);
+  EXPECT_TRUE(desk_->Launched().empty());
+  EXPECT_NE(desk_->ForegroundClass(), "#32770") << "a message is up";
+  EXPECT_EQ(desk_->RunningCopies(), 1);
+}
+
 TEST_F(Road, AMissingFileIsSaidToBeUnavailable) {
   desk_->AnswerNext(kButtonOk);
   Choose(3, 3, 4);

@@ -4,9 +4,13 @@
 #include "base/Text.h"
 #include "core/Main.h"
 #include "core/Program.h"
+#include "icons/IconLibrary.h"
 #include "icons/IconResolution.h"
+#include "icons/LibraryBytes.h"
 #include "menus/frmQMenu.h"
 #include "scenario/Desk.h"
+#include "shell/LinkFiles.h"
+#include "shell/StartupLink.h"
 #include "sim/World.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
@@ -20,8 +24,19 @@ namespace {
 
 constexpr std::string_view kAppFolder = "C:\\Corvelle\\";
 constexpr std::string_view kWitness = "C:\\witness\\witness.exe";
+constexpr std::string_view kLink = "C:\\documents\\a link.lnk";
+constexpr std::string_view kDamagedLink = "C:\\documents\\damaged.lnk";
+constexpr std::string_view kDamage = "L\x01 is no link";
+constexpr std::string_view kStartup = "C:\\Start Menu\\Startup";
+constexpr int kStartupFolder = 7;
 constexpr std::string_view kDocument =
     "C:\\documents\\letter to Zo\u00eb, \u043f\u0438\u0441\u044c\u043c\u043e.wit";
+
+/// An icon library of the files that scenarios ask for.
+std::string SmallLibrary() {
+  return Entry("folder.ico", "icon") + Entry("W95MBX02.ICO", "icon") +
+         Entry("Folders.ini", "folder.ico\r\n") + End();
+}
 
 class IconRule final : public IconRulePort {
  public:
@@ -41,12 +56,18 @@ class Copy {
         menu_(program_),
         companion_(program_),
         startup_(program_),
-        iconRule_(program_) {
+        iconRule_(program_),
+        iconLibrary_(program_),
+        links_(program_),
+        startupLink_(program_) {
     program_.Ports.Toolbar = &toolbar_;
     program_.Ports.QMenu = &menu_;
     program_.Ports.Minimize = &companion_;
     program_.Ports.Startup = &startup_;
     program_.Ports.IconRule = &iconRule_;
+    program_.Ports.ShellLinks = &links_;
+    program_.Ports.StartupLink = &startupLink_;
+    program_.Ports.IconLibrary = &iconLibrary_;
     world.System.OtherInstance = world.Desktop.Find("frmMinimize") != kNoWindow;
     runs_ = Main(program_);
   }
@@ -65,6 +86,9 @@ class Copy {
   frmMinimize companion_;
   frmStartup startup_;
   IconRule iconRule_;
+  IconLibrary iconLibrary_;
+  LinkReader links_;
+  StartupLink startupLink_;
   bool runs_ = false;
 };
 
@@ -81,10 +105,11 @@ class SimDesk final : public Desk {
  public:
   SimDesk() {
     world_.Files.Put(std::string(kAppFolder) + "corvelle.exe", "x");
-    world_.Files.Put(std::string(kAppFolder) + "Icons\\W95MBX02.ICO", "x");
+    world_.Files.Put(std::string(kAppFolder) + "icon.lib", SmallLibrary());
     world_.Files.Put(kWitness, "x");
     world_.Files.Put(kDocument, "A document.\r\n");
     world_.Shell.Associate(".wit", kWitness);
+    world_.Links.SetFolder(kStartupFolder, kStartup);
     world_.System.WorkFolder = kAppFolder;
   }
 
@@ -198,6 +223,21 @@ class SimDesk final : public Desk {
 
   [[nodiscard]] std::string WitnessProgram() const override { return std::string(kWitness); }
   [[nodiscard]] std::string WitnessDocument() const override { return std::string(kDocument); }
+  std::string MakeWitnessLink(std::string_view arguments, std::string_view folder) override {
+    world_.Links.Put(kLink, {.Path = std::string(kWitness),
+                             .WorkDir = std::string(folder),
+                             .Arguments = std::string(arguments)});
+    return std::string(kLink);
+  }
+  std::string MakeDamagedLink() override {
+    world_.Files.Put(kDamagedLink, kDamage);
+    return std::string(kDamagedLink);
+  }
+  [[nodiscard]] std::optional<std::string> StartupLinkTarget() const override {
+    const auto link = world_.Links.Get(std::string(kStartup) + "\\Corvelle.lnk");
+    if (!link) return std::nullopt;
+    return link->Path;
+  }
 
   // What the shell was asked for, as the program that it starts would see it.
   [[nodiscard]] std::vector<Launch> Launched() const override {
@@ -205,7 +245,10 @@ class SimDesk final : public Desk {
     for (const sim::Launch& asked : world_.Shell.Log()) {
       if (!asked.Started) continue;
       const std::string folder = WithoutBackslash(asked.Folder.value_or(world_.System.WorkFolder));
-      if (asked.How == sim::Launch::Kind::Run) {
+      if (const auto link = world_.Links.Get(asked.File)) {
+        launches.push_back({link->Path, link->Arguments,
+                            link->WorkDir.empty() ? folder : WithoutBackslash(link->WorkDir)});
+      } else if (asked.How == sim::Launch::Kind::Run) {
         const std::size_t end = asked.File.find(' ');
         launches.push_back({asked.File.substr(0, end),
                             end == std::string::npos ? "" : asked.File.substr(end + 1), folder});

@@ -5,20 +5,49 @@
 namespace corvelle::scenario {
 namespace {
 
-TEST(Start, AFirstStartMakesTheFoldersAndShowsTheStripWithoutAQuestion) {
+constexpr char kStartupQuestion[] =
+    "Would you like to set Corvelle as a startup program?\r\n"
+    "If you choose No, you can set it later from the Customize window under the Options menu.";
+
+/// Starts a program that was never started, whose question after the strip is answered so.
+bool StartAnew(Desk& desk, int button) {
+  desk.AnswerNext(button);
+  return StartAndWait(desk) && desk.Wait([&desk] { return !desk.Messages().empty(); });
+}
+
+TEST(Start, AFirstStartMakesTheFoldersShowsTheStripAndAsksOnce) {
   const auto desk = MakeDesk();
-  ASSERT_TRUE(StartAndWait(*desk));
+  ASSERT_TRUE(StartAnew(*desk, kButtonNo));
   EXPECT_TRUE(desk->FolderExists("Menus"));
   EXPECT_TRUE(desk->FolderExists("Icons"));
   EXPECT_TRUE(desk->FolderExists("ShellLink"));
   EXPECT_EQ(ButtonCount(*desk), 1);
-  EXPECT_TRUE(desk->Messages().empty());
+  ASSERT_EQ(desk->Messages().size(), 1U);
+  EXPECT_EQ(desk->Messages()[0].Title, "Corvelle");
+  EXPECT_EQ(desk->Messages()[0].Text, kStartupQuestion);
+  EXPECT_EQ(desk->StartupLinkTarget(), std::nullopt);
   desk->Picture("first-start");
 
   ASSERT_TRUE(CloseAndWait(*desk));
-  // 14 to 16 (the right edge), 19, 24, 26 and 32. Positions 1 and 2 wait for the startup link and
-  // the default entries.
-  EXPECT_EQ(desk->ReadFile(kFlagsFile), "00000000000001110010000101000001");
+  // 1, 14 to 16 (the right edge), 19, 24, 26 and 32. Position 2 waits for the default entries.
+  EXPECT_EQ(desk->ReadFile(kFlagsFile), "10000000000001110010000101000001");
+  ASSERT_TRUE(StartAndWait(*desk));
+  EXPECT_EQ(desk->Messages().size(), 1U);
+}
+
+TEST(Start, YesMakesTheProgramAStartupProgramAndAFirstStartRenewsItsLink) {
+  const auto desk = MakeDesk();
+  ASSERT_TRUE(StartAnew(*desk, kButtonYes));
+  ASSERT_TRUE(desk->Wait([&] { return desk->StartupLinkTarget().has_value(); }));
+  EXPECT_EQ(desk->StartupLinkTarget(), "C:\\Corvelle\\corvelle.exe");
+  ASSERT_TRUE(CloseAndWait(*desk));
+
+  desk->WriteFile(kFlagsFile, InstalledFlags({1}));
+  WriteMenu(*desk, 1, "One", {Witness(*desk, "one")});
+  ASSERT_TRUE(StartAndWait(*desk));
+  EXPECT_TRUE(desk->Wait([&] { return desk->ReadFile(kFlagsFile) == InstalledFlags(); }));
+  EXPECT_EQ(desk->Messages().size(), 1U) << "no second question";
+  EXPECT_EQ(desk->StartupLinkTarget(), "C:\\Corvelle\\corvelle.exe");
 }
 
 TEST(Start, FilesNumbered002And005Become001And002AndAStrayFileGoes) {
@@ -28,7 +57,7 @@ TEST(Start, FilesNumbered002And005Become001And002AndAStrayFileGoes) {
   desk->WriteFile("Menus\\BMENU002.MNU", second);
   desk->WriteFile("Menus\\bmenu005.mnu", fifth);
   desk->WriteFile("Menus\\notes.txt", "not a menu");
-  ASSERT_TRUE(StartAndWait(*desk));
+  ASSERT_TRUE(StartAnew(*desk, kButtonNo));
   EXPECT_EQ(desk->Files("Menus"), (std::vector<std::string>{"BMENU001.MNU", "BMENU002.MNU"}));
   EXPECT_EQ(desk->ReadFile("Menus\\BMENU001.MNU"), second);
   EXPECT_EQ(desk->ReadFile("Menus\\BMENU002.MNU"), fifth);
