@@ -29,6 +29,8 @@ FLOORS = {
     "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "search": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "about": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
+    "program": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus",
+                "customize", "search", "about"],
     "win32": ["base", "platform", "forms"],
 }
 MAIN = sorted(FLOORS)

@@ -3,18 +3,10 @@
 
 #include "base/Text.h"
 #include "core/Main.h"
-#include "core/Program.h"
-#include "icons/IconLibrary.h"
-#include "icons/IconResolution.h"
 #include "icons/LibraryBytes.h"
-#include "menus/frmQMenu.h"
+#include "program/Parts.h"
 #include "scenario/Desk.h"
-#include "shell/LinkFiles.h"
-#include "shell/StartupLink.h"
 #include "sim/World.h"
-#include "toolbar/frmMinimize.h"
-#include "toolbar/frmStartup.h"
-#include "toolbar/frmToolbar.h"
 
 // The desk on the simulated desktop: the program's parts run in this process, and time is what the
 // test lets pass.
@@ -38,57 +30,23 @@ std::string SmallLibrary() {
          Entry("Folders.ini", "folder.ico\r\n") + End();
 }
 
-class IconRule final : public IconRulePort {
- public:
-  explicit IconRule(Program& program) : program_(program) {}
-  void DetectShellIcons() override { corvelle::DetectShellIcons(program_); }
-
- private:
-  Program& program_;
-};
-
-/// One copy of the program, wired as its entry point wires it.
+/// One copy of the program, as its entry point makes it.
 class Copy {
  public:
-  explicit Copy(sim::World& world)
-      : program_(world.Services(), world.Windows()),
-        toolbar_(program_),
-        menu_(program_),
-        companion_(program_),
-        startup_(program_),
-        iconRule_(program_),
-        iconLibrary_(program_),
-        links_(program_),
-        startupLink_(program_) {
-    program_.Ports.Toolbar = &toolbar_;
-    program_.Ports.QMenu = &menu_;
-    program_.Ports.Minimize = &companion_;
-    program_.Ports.Startup = &startup_;
-    program_.Ports.IconRule = &iconRule_;
-    program_.Ports.ShellLinks = &links_;
-    program_.Ports.StartupLink = &startupLink_;
-    program_.Ports.IconLibrary = &iconLibrary_;
+  explicit Copy(sim::World& world) : parts_(world.Services(), world.Windows()) {
     world.System.OtherInstance = world.Desktop.Find("frmMinimize") != kNoWindow;
-    runs_ = Main(program_);
+    runs_ = Main(parts_.TheProgram);
   }
   ~Copy() {
-    if (companion_.WindowLoaded()) companion_.UnloadWindow();
+    if (parts_.Companion.WindowLoaded()) parts_.Companion.UnloadWindow();
   }
   Copy(const Copy&) = delete;
   Copy& operator=(const Copy&) = delete;
 
-  [[nodiscard]] bool Runs() const { return runs_ && companion_.WindowLoaded(); }
+  [[nodiscard]] bool Runs() const { return runs_ && parts_.Companion.WindowLoaded(); }
 
  private:
-  Program program_;
-  frmToolbar toolbar_;
-  frmQMenu menu_;
-  frmMinimize companion_;
-  frmStartup startup_;
-  IconRule iconRule_;
-  IconLibrary iconLibrary_;
-  LinkReader links_;
-  StartupLink startupLink_;
+  Parts parts_;
   bool runs_ = false;
 };
 

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/Program.h"
+#include "icons/IconLibrary.h"
+#include "launch/Browser.h"
+#include "launch/BuiltInCommands.h"
+#include "menus/frmQMenu.h"
+#include "shell/LinkFiles.h"
+#include "shell/StartupLink.h"
+#include "toolbar/frmMinimize.h"
+#include "toolbar/frmStartup.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+
+/// Looks at the machine once, by the rules of icons.
+class IconRule final : public IconRulePort {
+ public:
+  explicit IconRule(Program& program) : program_(program) {}
+  void DetectShellIcons() override;
+
+ private:
+  Program& program_;
+};
+
+/// One whole program: its state, its windows and what serves them, wired to each other. The
+/// services and the window system outlive it. Nothing is shown or loaded until Main runs.
+class Parts {
+ public:
+  Parts(const Platform& services, forms::WindowSystem& windows);
+  Parts(const Parts&) = delete;
+  Parts& operator=(const Parts&) = delete;
+
+  Program TheProgram;
+  frmToolbar Toolbar{TheProgram};
+  frmQMenu Menu{TheProgram};
+  frmMinimize Companion{TheProgram};
+  frmStartup Startup{TheProgram};
+  IconRule TheIconRule{TheProgram};
+  IconLibrary TheIconLibrary{TheProgram};
+  BuiltInCommands TheBuiltIns{TheProgram};
+  Browser TheBrowser{TheProgram};
+  LinkReader Links{TheProgram};
+  StartupLink TheStartupLink{TheProgram};
+};
+
+}  // namespace corvelle
