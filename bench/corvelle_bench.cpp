@@ -14,13 +14,9 @@
 #include "HostFiles.h"
 #include "core/Main.h"
 #include "core/MenuRecord.h"
-#include "core/Program.h"
-#include "menus/frmQMenu.h"
+#include "program/Parts.h"
 #include "sim/Complain.h"
 #include "sim/World.h"
-#include "toolbar/frmMinimize.h"
-#include "toolbar/frmStartup.h"
-#include "toolbar/frmToolbar.h"
 
 namespace corvelle::bench {
 namespace {
@@ -64,12 +60,8 @@ class Ground {
     Must(Files.Write("C:\\Corvelle\\tmenu425.dat", "11000000000000000010000101000001"), "flags");
   }
 
-  /// The services, with the real files and icons that need none.
-  Platform Services() {
-    const Platform simulated = World.Services();
-    return {Files,           simulated.Ansi,    simulated.Keys,    simulated.Shell,
-            simulated.Icons, simulated.Pointer, simulated.Desktop, simulated.System};
-  }
+  /// The services, with the real files.
+  Platform Services() { return World.Services(nullptr, nullptr, &Files); }
 
   std::string PutMenu(int number, int items) {
     // Every item has an icon of the shell's list, which no file is looked at for.
@@ -94,35 +86,17 @@ class Ground {
   }
 };
 
-/// One copy of the program, wired as its entry point wires it.
-class Copy {
+/// One copy of the program, as its entry point makes it.
+class Copy : public Parts {
  public:
-  explicit Copy(Ground& ground)
-      : TheProgram(ground.Services(), ground.World.Windows()),
-        Strip(TheProgram),
-        Menu(TheProgram),
-        companion_(TheProgram),
-        startup_(TheProgram) {
-    TheProgram.Ports.Toolbar = &Strip;
-    TheProgram.Ports.QMenu = &Menu;
-    TheProgram.Ports.Minimize = &companion_;
-    TheProgram.Ports.Startup = &startup_;
-  }
+  explicit Copy(Ground& ground) : Parts(ground.Services(), ground.World.Windows()) {}
   ~Copy() {
-    if (companion_.WindowLoaded()) companion_.UnloadWindow();
+    if (Companion.WindowLoaded()) Companion.UnloadWindow();
   }
 
   void Start() {
     if (!Main(TheProgram)) GiveUp("the program did not start");
   }
-
-  Program TheProgram;
-  frmToolbar Strip;
-  frmQMenu Menu;
-
- private:
-  frmMinimize companion_;
-  frmStartup startup_;
 };
 
 void MeasureStart() {
@@ -138,7 +112,7 @@ void MeasureStart() {
     copy->Start();
     ground.World.Desktop.Pump();
   });
-  if (copy->Strip.ButtonCount != kButtons + 1) GiveUp("the strip lacks buttons");
+  if (copy->Toolbar.ButtonCount != kButtons + 1) GiveUp("the strip lacks buttons");
   const std::vector<HostFiles::ReadCall> reads = ground.Files.Reads();
   const double floor = Time(101, nullptr, [&] {
     if (ReadBare(reads) == 0) GiveUp("nothing was read");
@@ -149,7 +123,7 @@ void MeasureStart() {
   ground.World.Desktop.MovePointer(strip.left + 900, strip.top + 10);
   constexpr int kTimes = 10000;
   const double hit = Time(21, nullptr, [&] {
-    for (int i = 0; i < kTimes; ++i) copy->Strip.GetCurButton();
+    for (int i = 0; i < kTimes; ++i) copy->Toolbar.GetCurButton();
   });
   if (copy->TheProgram.CurButton < 2) GiveUp("no button was hit");
   int seen = 0;

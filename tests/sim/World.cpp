@@ -22,8 +22,8 @@ World::~World() {
   if (Desktop.AnswersLeft() > 0) Complain("a message box that was expected did not come");
 }
 
-Platform World::Services(ShellExec* shell, ShellIcons* icons) {
-  return {.Files = Files,
+Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files) {
+  return {.Files = files != nullptr ? *files : Files,
           .Ansi = Ansi,
           .Keys = Keys,
           .Shell = shell != nullptr ? *shell : Shell,

@@ -48,9 +48,10 @@ class World {
   SimSystemInfo System;
   SimDesktop Desktop;
 
-  /// The services, as the program takes them; with a shell or icons of the test's own if it has
-  /// some.
-  Platform Services(ShellExec* shell = nullptr, ShellIcons* icons = nullptr);
+  /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
+  /// has some.
+  Platform Services(ShellExec* shell = nullptr, ShellIcons* icons = nullptr,
+                    FileSystem* files = nullptr);
   forms::WindowSystem& Windows() noexcept { return Desktop; }
 
   /// Writes what the screen shows to a file of the host, as a PPM picture. False when it cannot.
