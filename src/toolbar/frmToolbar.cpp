@@ -94,7 +94,10 @@ void frmToolbar::WireEvents() {
   picToolbar.MouseMove = to(&frmToolbar::picToolbar_MouseMove);
   picToolbar.MouseUp = to(&frmToolbar::picToolbar_MouseUp);
   // The second press of a quick pair closes what the first opened, like any other second press.
-  picToolbar.DblClick = [this] { picToolbar_MouseDown(MouseButton::Left, {}, 1, 1); };
+  picToolbar.DblClick = [this] {
+    GetCurButton();
+    PressCurButton();
+  };
   picSingleButton.MouseDown = to(&frmToolbar::picSingleButton_MouseDown);
   picSingleButton.MouseMove = to(&frmToolbar::picSingleButton_MouseMove);
   picSingleButton.MouseUp = to(&frmToolbar::picSingleButton_MouseUp);

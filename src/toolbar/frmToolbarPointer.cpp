@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
+#include "forms/Scale.h"
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
 #include "toolbar/frmToolbar.h"
@@ -98,9 +99,11 @@ bool frmToolbar::LooksAtRest(int button) const {
 }
 
 void frmToolbar::picToolbar_MouseDown(forms::MouseButton button, forms::ShiftState /*shift*/,
-                                      float /*x*/, float /*y*/) {
+                                      float x, float y) {
   if (button != forms::MouseButton::Left) return;
-  GetCurButton();
+  // The place of the press: by now the pointer may be elsewhere, or not be known to be here yet.
+  FindCurButton(forms::ToPixels(Left() + picToolbar.Left() + x, Top() + picToolbar.Top() + y,
+                                program_.Windows.Screen()));
   PressCurButton();
 }
 

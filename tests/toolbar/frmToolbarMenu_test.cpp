@@ -52,6 +52,14 @@ TEST(ToolbarPress, OpensTheMenuUnderItsButton) {
   }
 }
 
+TEST(ToolbarPress, MeansTheButtonUnderThePressWhereverThePointerIsByThen) {
+  ThreeMenus desk;
+  desk.PointAt({600, 500});
+  const ButtonRect& third = desk.Strip.ToolbarButtons[3];
+  desk.Strip.picToolbar_MouseDown(MouseButton::Left, {}, third.Left + third.Width / 2, 100);
+  EXPECT_EQ(desk.MenuUp(), 3);
+}
+
 TEST(ToolbarPress, ShowsTheButtonPressedAndTheOthersAtRest) {
   ThreeMenus desk;
   desk.Press(2);
