@@ -52,6 +52,14 @@ class Program {
   /// The strip has stepped out of its edge for the moment and belongs back there.
   bool WasDocked = false;
   bool ToolbarMinimized = false;
+  /// The strip is on its way into the task bar.
+  bool ToolbarMinimizing = false;
+  /// The edge that the strip left for the task bar, and its top then, twips.
+  std::string WasEdge;
+  float WasTop = 0;
+  /// Where a strip at an edge belongs, twips.
+  float PinnedLeft = 0;
+  float PinnedTop = 0;
   /// The options ask for an edge that cannot be given in this run: the strip hugs the top meanwhile
   /// and the options keep the request.
   bool EdgePending = false;
@@ -64,6 +72,12 @@ class Program {
   bool MenuBuilding = false;
   bool ChangingMode = false;
   bool IconsLoading = false;
+  /// A popup command rewrites a menu file; a drop waits.
+  bool ItemActionBusy = false;
+  /// An edit of a menu from a window is under way; docking waits.
+  bool MenuFormBusy = false;
+  /// The outline of the strip is being moved to another edge.
+  bool MovingToolbar = false;
 
   /// A full-screen program was last reported.
   bool FullScreenApp = false;
@@ -82,6 +96,13 @@ class Program {
   bool PointerBelowItems = false;
   /// The current item follows a separator.
   bool ItemHasSeparator = false;
+  /// Index of the single button under the pointer, 0 for none, kDateArea for the date.
+  int CurSingle = 0;
+  static constexpr int kDateArea = 1000;
+  /// A carried entry is over the strip's buttons.
+  bool ButtonDragging = false;
+  /// A dropped web address waits for its dialog.
+  bool WebLinkPending = false;
 
   /// The entry that a menu or popup acted on last, the entry clipboard, the last deleted entry, and
   /// whether a menu item is being moved with the mouse.

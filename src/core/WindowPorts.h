@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Geometry.h"
 #include "base/Twips.h"
 #include "core/CommandPorts.h"
 #include "forms/Types.h"
@@ -46,6 +47,13 @@ class ToolbarPort : public LoadedWindow {
   virtual void SetMenuPosition() = 0;
   /// A key of the menu that moves along the strip.
   virtual void ActivateKeyDown(int keyCode) = 0;
+  /// Index of the button under the pointer while something is dragged, 0 for none.
+  [[nodiscard]] virtual int dragCurButton() = 0;
+  /// Drops the carried entry on a button: appended to its menu, and taken away from where it came
+  /// unless `released` is the right button, which copies.
+  virtual void DoButtonDrag(int button, forms::MouseButton released) = 0;
+  /// The timer that follows the pointer over the strip.
+  virtual void SetPointerWatch(bool enabled) = 0;
 
   /// Saves the options and rebuilds the strip after a change in the menus or the options.
   virtual void InitNewButtons() = 0;
@@ -65,6 +73,17 @@ class ToolbarPort : public LoadedWindow {
   virtual void BringToForeground() = 0;
   /// Puts a floating strip where it belongs, or keeps its hidden line.
   virtual void CheckToolbarMove() = 0;
+  /// Leaves an edge for the place at the top.
+  virtual void RestoreToolbar() = 0;
+  /// Unloads all that was made for the buttons; InitButtons makes it anew from the files.
+  virtual void UnloadItems() = 0;
+  virtual void InitButtons() = 0;
+  /// Draws the buttons anew without moving anything.
+  virtual void RefreshToolbar() = 0;
+  virtual void HideWindow() = 0;
+  /// The date at the far end of the single buttons: shown, hidden and placed; its text.
+  virtual void DoLabelDate() = 0;
+  virtual void UpdateLabelDate() = 0;
   /// Shows the window without making it active and paints it.
   virtual void ShowAndRefresh() = 0;
 };
@@ -107,8 +126,15 @@ class QMenuPort : public LoadedWindow {
   virtual void xMouseMove(float y) = 0;
   virtual void xMouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y) = 0;
 
+  /// A move on the screen, in twips, while something is dragged over the menu.
+  virtual void mMouseMove(float x, float y) = 0;
+  /// Drops the carried entry on the item under selection.
+  virtual void DoItemDrag(forms::ShiftState shift) = 0;
+
   /// Back to the page that was up before a rebuild.
   virtual void GetCurMenu() = 0;
+  /// Reads the menu on show and its icons anew.
+  virtual void RefreshQMenu() = 0;
 
   virtual void InitIcons() = 0;
   virtual void ResetPicIcons() = 0;
@@ -120,6 +146,32 @@ class MinimizePort : public LoadedWindow {
  public:
   /// Puts the icon into the tray.
   virtual void ShowInSysTray() = 0;
+  /// Switches "Not On Top" on and off.
+  virtual void ActivateSysTray() = 0;
+  virtual void DeActivateSysTray() = 0;
+  /// Takes the strip's place on the screen and goes into the task bar for it.
+  virtual void MinimizeFor(const TwipRect& strip) = 0;
+};
+
+/// The picture that the pointer carries while an entry is dragged.
+class DragImagePort {
+ public:
+  virtual ~DragImagePort() = default;
+
+  /// Makes the pointer's picture from an icon text and follows the pointer from now on.
+  virtual void SetDragImage(std::string_view icon) = 0;
+  /// The pointer is itself again.
+  virtual void RemoveDragImage() = 0;
+};
+
+/// Notices that can be told not to come again.
+class TipPort {
+ public:
+  virtual ~TipPort() = default;
+
+  /// Shows a notice; its box writes position `field` of the options (0: none). Does nothing when
+  /// that position is "1".
+  virtual void ShowTip(std::string_view title, std::string_view text, int field) = 0;
 };
 
 /// The small window that counts dots while the program starts or deletes files.
@@ -157,7 +209,13 @@ class DockingPort {
   [[nodiscard]] virtual bool AutoHideFree(std::string_view edge) = 0;
   /// Puts the strip at the edge, or anew at its edge when `edge` is empty.
   virtual void SetAppBar(std::string_view edge, bool rebuild) = 0;
+  /// Auto Hide: shows the strip, hides it but for its line.
   virtual void RevealToolbar() = 0;
+  virtual void HideToolbar() = 0;
+  /// Tells the user that another window hides at that edge.
+  virtual void ShowAutoHideTaken() = 0;
+  /// Fits the row of single buttons into the length of the edge.
+  virtual void ResizeToEdge() = 0;
 };
 
 /// The entry for the program in the user's Startup folder.
@@ -178,10 +236,13 @@ class DefaultEntriesPort {
   virtual void IncludeCommonFiles() = 0;
 };
 
-/// Rewriting of the row of single buttons.
+/// The row of single buttons and the rewriting of its files.
 class SingleButtonsPort {
  public:
   virtual ~SingleButtonsPort() = default;
+
+  /// Drops the carried entry at the pointer's place in the row; the right button copies.
+  virtual void DoItemDrag(forms::MouseButton released) = 0;
 
   /// Rewrites the files without the button of `file`.
   virtual void DeleteSingle(std::string_view file) = 0;
@@ -212,6 +273,16 @@ class CapturePort {
   virtual void CaptureMenu() = 0;
   virtual void ReleaseMenu() = 0;
   [[nodiscard]] virtual bool MenuCaptured() const = 0;
+
+  /// The same for the strip.
+  virtual void SetPicture1() = 0;
+  virtual void ResetPicture1() = 0;
+
+  /// The outline of the strip at an edge to which it is being pulled; none any more.
+  virtual void SetPosition(std::string_view edge) = 0;
+  virtual void ClearBg() = 0;
+  /// The edge of the outline; empty when there is none.
+  [[nodiscard]] virtual std::string OutlineEdge() const = 0;
 };
 
 /// Folder items, which expand into a generated file when their menu opens.
@@ -235,6 +306,11 @@ class SpecialFoldersPort {
   virtual int SpecialFolderIconIndex(std::string_view name) = 0;
   /// Opens the folder, or an entry of it; `argument` may be empty.
   virtual void OpenSpecialFolder(std::string_view name, std::string_view argument) = 0;
+  /// The shell's context menu at a point of the screen, in pixels, for an entry's command: a path,
+  /// or a special folder with the title of one of its entries (empty: the folder itself). True when
+  /// a command of the menu ran.
+  virtual bool ShowContextMenu(std::string_view command, std::string_view title, PixelPoint at,
+                               WindowId owner) = 0;
 };
 
 /// The program's own menu.
@@ -255,6 +331,24 @@ class PopupPort {
   virtual void ShowToolbarPopup() = 0;
 };
 
+/// The window in which an entry is edited.
+class PropertiesPort : public LoadedWindow {
+ public:
+  /// Shows it with these fields for the current entry (Program::Entry).
+  virtual void ShowProperties(std::string_view title, std::string_view icon,
+                              std::string_view command) = 0;
+};
+
+/// The dialog that makes an entry from a dropped web address.
+class WebLinkPort {
+ public:
+  virtual ~WebLinkPort() = default;
+  /// Notes an address dropped on a button, on the row of single buttons (tag "SingleButtons") or in
+  /// a menu, for `file`. The dialog opens when the drop has returned to the program it came from.
+  virtual void OfferWebLink(std::string_view url, std::string_view title, std::string_view tag,
+                            std::string_view file) = 0;
+};
+
 /// All windows and services that may be asked for. Those that a build of the program does not have
 /// are null, and whoever asks goes on without them.
 struct WindowPorts {
@@ -270,6 +364,9 @@ struct WindowPorts {
   IconRulePort* IconRule = nullptr;
   IconLibraryPort* IconLibrary = nullptr;
   CapturePort* Capture = nullptr;
+  DragImagePort* DragImage = nullptr;
+  TipPort* Tip = nullptr;
+  WebLinkPort* WebLink = nullptr;
   FolderMenusPort* FolderMenus = nullptr;
   SpecialFoldersPort* SpecialFolders = nullptr;
   MainMenuPort* MainMenu = nullptr;
@@ -279,10 +376,11 @@ struct WindowPorts {
   ShellLinksPort* ShellLinks = nullptr;
   // Windows that are loaded on demand and closed at the end.
   LoadedWindow* NetSearch = nullptr;
-  LoadedWindow* Properties = nullptr;
+  PropertiesPort* Properties = nullptr;
   LoadedWindow* Customize = nullptr;
   LoadedWindow* ImageWindow = nullptr;
   LoadedWindow* Library = nullptr;
+  LoadedWindow* About = nullptr;
 };
 
 }  // namespace corvelle

@@ -84,7 +84,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void DisableLabel(int index);
   void EnableLabel(int index);
   /// Reads the menu on show and its icons anew.
-  void RefreshQMenu();
+  void RefreshQMenu() override;
 
   // ---- pointer (frmQMenuPointer.cpp) ----
 
@@ -92,8 +92,12 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void Form_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
   void xMouseMove(float y) override;
   /// Twips of the screen.
-  void mMouseMove(float x, float y);
+  void mMouseMove(float x, float y) override;
   void xMouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y) override;
+
+  // ---- dragging entries (frmQMenuDrag.cpp) ----
+
+  void DoItemDrag(forms::ShiftState shift) override;
 
   // ---- arrow buttons and pages (frmQMenuPages.cpp) ----
 

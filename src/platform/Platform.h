@@ -2,6 +2,7 @@
 
 namespace corvelle {
 
+class AppBars;
 class CodePage;
 class DdeClient;
 class DesktopWindows;
@@ -12,9 +13,11 @@ class KeySynthesis;
 class Registry;
 class ShellExec;
 class ShellFiles;
+class ShellFolders;
 class ShellIcons;
 class ShellLinks;
 class SystemInfo;
+class TrayIcons;
 
 /// All that the program asks of the system besides its own windows, handed down from the entry
 /// point. Whoever makes it owns the services and outlives the program.
@@ -32,6 +35,9 @@ struct Platform {
   DdeClient& Dde;
   FileAssociations& Associations;
   SystemInfo& System;
+  ShellFolders& Folders;
+  AppBars& Bars;
+  TrayIcons& Tray;
 };
 
 }  // namespace corvelle

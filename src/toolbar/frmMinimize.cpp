@@ -52,6 +52,15 @@ void frmMinimize::Form_Unload() {
 
 void frmMinimize::ShowInSysTray() { Minimize(); }
 
+void frmMinimize::ActivateSysTray() {}
+
+void frmMinimize::DeActivateSysTray() {}
+
+void frmMinimize::MinimizeFor(const TwipRect& strip) {
+  Move(strip.Left, strip.Top, strip.Width, strip.Height);
+  Minimize();
+}
+
 void frmMinimize::Form_MouseMove(float x) {
   const int message = RoundToInt(x / program_.Windows.Screen().TwipsPerPixelX);
   if (message != kLeftButtonUp && message != kLeftButtonDoubleClick) return;

@@ -21,6 +21,9 @@ class frmMinimize final : public forms::Form, public MinimizePort {
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   /// A strip that other windows may cover is brought forward by the task bar's button.
   void ShowInSysTray() override;
+  void ActivateSysTray() override;
+  void DeActivateSysTray() override;
+  void MinimizeFor(const TwipRect& strip) override;
   /// Brings the strip to the foreground from another program's turn.
   void subShowToolbar();
 

@@ -42,14 +42,14 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   }
 
   /// Builds the window's contents from the files and shows it, unless a repositioning runs.
-  void InitButtons();
+  void InitButtons() override;
   /// Saves the options and rebuilds the strip after a change in the menus or the options.
   void InitNewButtons() override;
   /// Leaves an edge for the place at the top.
-  void RestoreToolbar();
+  void RestoreToolbar() override;
   /// Unloads all that was made for the buttons and closes the menu. Between this and InitButtons
   /// nothing may draw a button.
-  void UnloadItems();
+  void UnloadItems() override;
   /// Empties the icon collections kept for menus.
   void ResetCollections() override;
 
@@ -62,7 +62,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// Empties the row of single buttons.
   void DoSingleButtons() override;
   /// Draws the buttons anew without moving anything, after a change of the system's colours.
-  void RefreshToolbar();
+  void RefreshToolbar() override;
 
   // ---- sizes and places (frmToolbarLayout.cpp) ----
 
@@ -119,6 +119,17 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// Carries out a pending focus request, and stops itself when nothing hides.
   void Timer1_Timer();
 
+  // ---- dragging entries (frmToolbarDrag.cpp) ----
+
+  int dragCurButton() override;
+  void DoButtonDrag(int button, forms::MouseButton released) override;
+  void SetPointerWatch(bool enabled) override { Timer2.SetEnabled(enabled); }
+
+  // ---- the date (frmToolbarDate.cpp) ----
+
+  void DoLabelDate() override;
+  void UpdateLabelDate() override;
+
   // ---- keys (frmToolbarKeys.cpp) ----
 
   void Form_KeyDown(int keyCode, forms::ShiftState shift) override;
@@ -137,6 +148,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void ShowToolbar();
   void BringToForeground() override;
   void ShowAndRefresh() override;
+  void HideWindow() override { Hide(); }
 
   // ---- controls, from the back to the front ----
 

@@ -2,6 +2,7 @@
 
 #include <ole2.h>
 
+#include "win32/Win32AppBars.h"
 #include "win32/Win32CodePage.h"
 #include "win32/Win32Dde.h"
 #include "win32/Win32Desktop.h"
@@ -12,9 +13,11 @@
 #include "win32/Win32Registry.h"
 #include "win32/Win32ShellExec.h"
 #include "win32/Win32ShellFiles.h"
+#include "win32/Win32ShellFolders.h"
 #include "win32/Win32ShellIcons.h"
 #include "win32/Win32ShellLinks.h"
 #include "win32/Win32SystemInfo.h"
+#include "win32/Win32TrayIcons.h"
 #include "win32/Win32WindowSystem.h"
 
 namespace corvelle::win32 {
@@ -53,6 +56,9 @@ struct Win32Platform::Parts {
   Win32Dde Dde;
   Win32FileAssociations Associations;
   Win32SystemInfo System;
+  Win32ShellFolders Folders;
+  Win32AppBars Bars;
+  Win32TrayIcons Tray;
   Win32WindowSystem Windows;
 };
 
@@ -72,7 +78,10 @@ Platform Win32Platform::Services() const {
           .Desktop = parts_->Desktop,
           .Dde = parts_->Dde,
           .Associations = parts_->Associations,
-          .System = parts_->System};
+          .System = parts_->System,
+          .Folders = parts_->Folders,
+          .Bars = parts_->Bars,
+          .Tray = parts_->Tray};
 }
 
 forms::WindowSystem& Win32Platform::Windows() const { return parts_->Windows; }

@@ -46,6 +46,16 @@ class LoggingToolbar final : public ToolbarPort {
   void BringToForeground() override {}
   void CheckToolbarMove() override {}
   void ShowAndRefresh() override {}
+  int dragCurButton() override { return 0; }
+  void DoButtonDrag(int, forms::MouseButton) override {}
+  void SetPointerWatch(bool) override {}
+  void RestoreToolbar() override {}
+  void UnloadItems() override {}
+  void InitButtons() override {}
+  void RefreshToolbar() override {}
+  void HideWindow() override {}
+  void DoLabelDate() override {}
+  void UpdateLabelDate() override {}
 
  private:
   void Note(std::string_view what, std::string_view tag) {
@@ -67,6 +77,9 @@ class LoggingMinimize final : public MinimizePort {
   void UnloadWindow() override { loaded_ = false; }
   bool WindowLoaded() const override { return loaded_; }
   void ShowInSysTray() override { log_.push_back("into the tray"); }
+  void ActivateSysTray() override { log_.push_back("not on top"); }
+  void DeActivateSysTray() override { log_.push_back("on top"); }
+  void MinimizeFor(const TwipRect&) override { log_.push_back("into the task bar"); }
 
  private:
   CallLog& log_;
@@ -122,6 +135,7 @@ class LoggingIconRule final : public IconRulePort {
 class LoggingSingles final : public SingleButtonsPort {
  public:
   explicit LoggingSingles(CallLog& log) : log_(log) {}
+  void DoItemDrag(forms::MouseButton) override { log_.push_back("drop on the singles"); }
   void DeleteSingle(std::string_view file) override { Note("delete single ", file); }
   void PasteSingle(std::string_view file) override { Note("paste single ", file); }
   void UndoDeleteSB(std::string_view file) override { Note("undo single ", file); }

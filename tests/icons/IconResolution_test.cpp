@@ -23,6 +23,9 @@ class OneFolder final : public SpecialFoldersPort {
     return name == "CSIDL_DRIVES" || name == "csidl_drives" ? 9 : -1;
   }
   void OpenSpecialFolder(std::string_view, std::string_view) override {}
+  bool ShowContextMenu(std::string_view, std::string_view, PixelPoint, WindowId) override {
+    return false;
+  }
 };
 
 /// A program in its folder, and a bitmap to draw on.

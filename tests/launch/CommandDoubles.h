@@ -75,6 +75,9 @@ class LoggingFolders final : public SpecialFoldersPort {
   void OpenSpecialFolder(std::string_view name, std::string_view argument) override {
     log_.push_back("OpenSpecialFolder " + std::string(name) + " with " + std::string(argument));
   }
+  bool ShowContextMenu(std::string_view, std::string_view, PixelPoint, WindowId) override {
+    return false;
+  }
 
  private:
   CallLog& log_;

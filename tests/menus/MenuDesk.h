@@ -64,6 +64,18 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void BringToForeground() override { Asked.emplace_back("BringToForeground"); }
   void CheckToolbarMove() override { Asked.emplace_back("CheckToolbarMove"); }
   void ShowAndRefresh() override { Asked.emplace_back("ShowAndRefresh"); }
+  int dragCurButton() override { return 0; }
+  void DoButtonDrag(int button, forms::MouseButton) override {
+    Asked.push_back("DoButtonDrag " + std::to_string(button));
+  }
+  void SetPointerWatch(bool) override {}
+  void RestoreToolbar() override { Asked.emplace_back("RestoreToolbar"); }
+  void UnloadItems() override { Asked.emplace_back("UnloadItems"); }
+  void InitButtons() override { Asked.emplace_back("InitButtons"); }
+  void RefreshToolbar() override { Asked.emplace_back("RefreshToolbar"); }
+  void HideWindow() override { Asked.emplace_back("HideWindow"); }
+  void DoLabelDate() override { Asked.emplace_back("DoLabelDate"); }
+  void UpdateLabelDate() override { Asked.emplace_back("UpdateLabelDate"); }
 
   [[nodiscard]] int Times(std::string_view what) const;
 

@@ -35,7 +35,10 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
           .Desktop = Desktop,
           .Dde = Dde,
           .Associations = Associations,
-          .System = System};
+          .System = System,
+          .Folders = Folders,
+          .Bars = Bars,
+          .Tray = Tray};
 }
 
 bool World::SavePicture(const std::string& hostPath) const {

@@ -4,6 +4,7 @@
 
 #include "base/CodePage.h"
 #include "platform/Platform.h"
+#include "sim/SimAppBars.h"
 #include "sim/SimDde.h"
 #include "sim/SimDesktop.h"
 #include "sim/SimFileAssociations.h"
@@ -12,9 +13,11 @@
 #include "sim/SimRegistry.h"
 #include "sim/SimShellExec.h"
 #include "sim/SimShellFiles.h"
+#include "sim/SimShellFolders.h"
 #include "sim/SimShellIcons.h"
 #include "sim/SimShellLinks.h"
 #include "sim/SimSystemInfo.h"
+#include "sim/SimTrayIcons.h"
 
 namespace corvelle::sim {
 
@@ -46,6 +49,9 @@ class World {
   SimDde Dde;
   SimFileAssociations Associations;
   SimSystemInfo System;
+  SimShellFolders Folders;
+  SimAppBars Bars;
+  SimTrayIcons Tray;
   SimDesktop Desktop;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it

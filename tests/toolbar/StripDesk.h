@@ -72,6 +72,9 @@ class StandInMenu final : public forms::Form, public QMenuPort {
                     std::to_string(static_cast<int>(y)));
   }
   void GetCurMenu() override { Asked.emplace_back("GetCurMenu"); }
+  void mMouseMove(float, float) override { Asked.emplace_back("mMouseMove"); }
+  void DoItemDrag(forms::ShiftState) override { Asked.emplace_back("DoItemDrag"); }
+  void RefreshQMenu() override { Asked.emplace_back("RefreshQMenu"); }
   void InitIcons() override { Asked.emplace_back("InitIcons"); }
   void ResetPicIcons() override { Asked.emplace_back("ResetPicIcons"); }
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {

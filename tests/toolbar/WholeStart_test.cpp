@@ -30,6 +30,9 @@ class RoomyEdge final : public DockingPort {
     program_.AppBarDocked = true;
   }
   void RevealToolbar() override {}
+  void HideToolbar() override {}
+  void ShowAutoHideTaken() override {}
+  void ResizeToEdge() override {}
 
  private:
   Program& program_;

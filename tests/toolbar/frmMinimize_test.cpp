@@ -24,6 +24,16 @@ struct NotedWindow final : LoadedWindow {
   bool Loaded;
 };
 
+struct NotedProperties final : PropertiesPort {
+  NotedProperties(std::vector<std::string>& order, bool loaded = true)
+      : Window("Properties", order, loaded) {}
+  void LoadWindow() override { Window.LoadWindow(); }
+  void UnloadWindow() override { Window.UnloadWindow(); }
+  bool WindowLoaded() const override { return Window.WindowLoaded(); }
+  void ShowProperties(std::string_view, std::string_view, std::string_view) override {}
+  NotedWindow Window;
+};
+
 struct Started : StripDesk {
   Started() {
     PutButtons(1);
@@ -45,7 +55,7 @@ TEST(CompanionEnd, UnloadsEveryWindowInItsOrderAndQuits) {
   Started desk;
   std::vector<std::string> order;
   NotedWindow netSearch("NetSearch", order);
-  NotedWindow properties("Properties", order);
+  NotedProperties properties(order);
   NotedWindow customize("Customize", order);
   NotedWindow image("Image", order);
   NotedWindow library("Library", order);
@@ -75,7 +85,7 @@ TEST(CompanionEnd, UnloadsEveryWindowInItsOrderAndQuits) {
 TEST(CompanionEnd, LeavesWindowsAloneThatAreNotLoaded) {
   Started desk;
   std::vector<std::string> order;
-  NotedWindow properties("Properties", order, false);
+  NotedProperties properties(order, false);
   desk.TheProgram.Ports.Properties = &properties;
   desk.Exit();
   EXPECT_TRUE(order.empty());

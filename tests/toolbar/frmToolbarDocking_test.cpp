@@ -29,6 +29,9 @@ struct NotedDocking final : DockingPort {
     Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " rebuild" : ""));
     if (WhileDocking) WhileDocking();
   }
+  void HideToolbar() override {}
+  void ShowAutoHideTaken() override {}
+  void ResizeToEdge() override {}
   void RevealToolbar() override {
     Asked.emplace_back("RevealToolbar");
     if (WhileDocking) WhileDocking();

@@ -16,6 +16,9 @@ class FirstIcons final : public SpecialFoldersPort {
  public:
   int SpecialFolderIconIndex(std::string_view) override { return 1; }
   void OpenSpecialFolder(std::string_view, std::string_view) override {}
+  bool ShowContextMenu(std::string_view, std::string_view, PixelPoint, WindowId) override {
+    return false;
+  }
 };
 
 struct ObjectCounts {

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/WindowId.h"
+
+namespace corvelle {
+
+/// An icon in the task bar's notification area. What the mouse does on it comes to `Window` as
+/// message `CallbackMessage` with the mouse's message as its second parameter.
+struct TrayIcon {
+  WindowId Window = kNoWindow;
+  std::uint32_t Id = 1;
+  std::uint32_t CallbackMessage = 0;
+  /// The file whose first small icon is shown; the system's program icon when it has none.
+  std::string IconFile;
+  std::string Tip;  // 63 characters of it are shown
+};
+
+/// The task bar's notification area.
+class TrayIcons {
+ public:
+  virtual ~TrayIcons() = default;
+
+  /// Keeps no handle. False when there is no task bar to show it.
+  virtual bool Add(const TrayIcon& icon) = 0;
+  virtual void Remove(WindowId window, std::uint32_t id) = 0;
+};
+
+}  // namespace corvelle
