@@ -177,8 +177,8 @@ constexpr std::array<std::string_view, 16> kButton = {
     ".wffhhhhhhhffs#.",  //
     ".wfffffffffffs#.",  //
     ".wfffffffffffs#.",  //
-    ".wsssssssssssss#",  //
-    ".###############",  //
+    ".wssssssssssss#.",  //
+    ".##############.",  //
     "................",  //
     "................",
 };
@@ -204,20 +204,20 @@ constexpr std::array<std::string_view, 16> kQuestion = {
 
 constexpr std::array<std::string_view, 16> kUnknown = {
     "................",  //
-    "..ssssssssss....",  //
-    "..swwwwwwwws#...",  //
-    "..swwwwwwwws##..",  //
-    "..swwwwwwwwwww#.",  //
-    "..swwsssssswww#.",  //
-    "..swwwwwwwwwww#.",  //
-    "..swwsssssswww#.",  //
-    "..swwwwwwwwwww#.",  //
-    "..swwsssssswww#.",  //
-    "..swwwwwwwwwww#.",  //
-    "..swwssssswwww#.",  //
-    "..swwwwwwwwwww#.",  //
-    "..swwwwwwwwwww#.",  //
-    "..#############.",  //
+    "..sssssssss.....",  //
+    "..swwwwwwwss....",  //
+    "..swwwwwwwsws...",  //
+    "..swwwwwwwssss..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwssssssww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwssssssww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwssssssww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwssssswww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..############..",  //
     "................",
 };
 
