@@ -133,6 +133,7 @@ TEST_F(CarriedEdits, GoWhereTheyArePut) {
       {"up in its file", 5, kFile, 2, false, "Button Four One Two Three", kTwo},
       {"onto the next, where it is", 3, kFile, 4, false, kOne, kTwo},
       {"onto itself", 3, kFile, 3, false, kOne, kTwo},
+      {"a copy onto itself", 3, kFile, 3, true, kOne, kTwo},
       {"to the end of its file", 3, kFile, 0, false, "Button One Three Four Two", kTwo},
       {"a copy up", 4, kFile, 2, true, "Button Three One Two Three Four", kTwo},
       {"a copy down", 2, kFile, 5, true, "Button One Two Three One Four", kTwo},
