@@ -86,6 +86,27 @@ void PasteItem(Program& program) {
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program);
 }
 
+bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bool copies) {
+  FileSystem& files = program.Services.Files;
+  const CodePage& ansi = program.Services.Ansi;
+  const EntryEdit& entry = program.Entry;
+  if (entry.CurFile.empty() || IsDropOnItself(entry, place)) return false;
+  // Within one file in one step, so that no failure leaves the entry twice or nowhere.
+  EditOutcome outcome = EditOutcome::NothingToDo;
+  const bool within = !copies && IsMenuTag(entry.CurMenuTag);
+  if (within) outcome = MoveMenuEntry(files, ansi, program.MenusPath, entry, place);
+  if (outcome == EditOutcome::Failed) return false;
+  if (outcome != EditOutcome::Edited) {
+    outcome = CopyMenuEntry(files, ansi, program.MenusPath, entry, place);
+    if (outcome != EditOutcome::Edited) return false;
+    // Only now, so that the entry is always somewhere.
+    if (!copies) DeleteItem(program, true);
+  }
+  program.Entry.UndoMenuTag.clear();
+  if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->RemoveQMenu(tag);
+  return true;
+}
+
 void UndoDeleteItem(Program& program) {
   if (IsSinglesTag(program.Entry.UndoMenuTag)) {
     EditSingles(program, [&](SingleButtonsPort& row) { row.UndoDeleteSB(program.Entry.UndoFile); });

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string_view>
+
+#include "core/RecordEdits.h"
+
 namespace corvelle {
 
 class Program;
@@ -13,6 +17,11 @@ void DeleteItem(Program& program, bool skipConfirm);
 
 /// Puts the clipboard's entry before the current one. Ends the chance of an undo.
 void PasteItem(Program& program);
+
+/// Puts the carried entry, the current one, down in the menu of `tag`: at `place`, taking it away
+/// from where it came unless `copies`. An entry that cannot be taken away stays there too; one that
+/// cannot be put down stays where it is. True if the menu of `tag` changed.
+bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bool copies);
 
 /// Puts the last deleted entry back at its place.
 void UndoDeleteItem(Program& program);

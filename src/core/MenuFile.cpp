@@ -1,6 +1,7 @@
 #include "core/MenuFile.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 
@@ -141,6 +142,22 @@ std::string InsertRecord(std::string records, int before, std::string_view recor
 std::string InsertOrAppendRecord(std::string records, int before, std::string_view record) {
   if (before < 1) return records;
   return records.insert(std::min(OffsetOf(before), records.size()), record);
+}
+
+std::string MoveRecord(std::string records, int from, int before) {
+  if (from < 1 || before < 1) return records;
+  const std::size_t source = OffsetOf(from);
+  const std::size_t target = OffsetOf(before);
+  if (source + kRecordLength > records.size() || target > records.size()) return records;
+  const auto at = [&records](std::size_t offset) {
+    return records.begin() + static_cast<std::ptrdiff_t>(offset);
+  };
+  if (target > source) {
+    std::rotate(at(source), at(source + kRecordLength), at(target));
+  } else {
+    std::rotate(at(target), at(source), at(source + kRecordLength));
+  }
+  return records;
 }
 
 FileStatus RewriteMenuFile(FileSystem& files, std::string_view menusPath, std::string_view path,

@@ -55,6 +55,10 @@ using RecordsEdit = std::function<std::string(std::string records)>;
 [[nodiscard]] std::string InsertOrAppendRecord(std::string records, int before,
                                                std::string_view record);
 
+/// Record `from` taken out and put before record `before`, which may be the place behind the last
+/// one. Nothing changes when there is no such record or place, or when it stands there already.
+[[nodiscard]] std::string MoveRecord(std::string records, int from, int before);
+
 /// Rewrites a menu file: it takes the name kRewriteFileName in `menusPath` (with its trailing
 /// backslash), its edited content goes to a new file at `path`, and the old one is deleted. When a
 /// step fails the old file gets its name back and the error is returned.

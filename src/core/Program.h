@@ -101,6 +101,8 @@ class Program {
   static constexpr int kDateArea = 1000;
   /// A carried entry is over the strip's buttons.
   bool ButtonDragging = false;
+  /// A carried entry is being put down: nothing else ends the carry meanwhile.
+  bool ItemDropping = false;
   /// A dropped web address waits for its dialog.
   bool WebLinkPending = false;
 

@@ -27,6 +27,30 @@ EditOutcome OutcomeOf(const FileStatus& status) {
   return status ? EditOutcome::Edited : EditOutcome::Failed;
 }
 
+/// Edited if the current file still holds the current entry at its place; else why it does not.
+EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
+  const FileResult<int> count = CountRecords(files, edit.CurFile);
+  if (!count) return EditOutcome::Failed;
+  // A place that the file does not have reads as a blank entry, which is not the one meant.
+  if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
+  const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
+  if (!record) return EditOutcome::Failed;
+  return IsCurrentEntry(edit, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
+}
+
+constexpr int kNoPlace = 0;
+
+/// The record that a drop comes to stand before, one behind the last for the end of the file;
+/// kNoPlace where nothing can be put down. The first record is the button's own.
+FileResult<int> PlaceInFile(FileSystem& files, const DropPlace& place) {
+  const FileResult<std::uint64_t> length = files.Length(place.File);
+  if (!length) return length.Error();
+  const int count = RecordCount(*length);
+  if (place.Before == DropPlace::kEnd) return count + 1;
+  const int before = RealRecord(place.Before);
+  return before >= 2 && before <= count ? before : kNoPlace;
+}
+
 /// Writes record `number` of the current file back with another command.
 EditOutcome ChangeCommand(FileSystem& files, const CodePage& ansi, const EntryEdit& edit,
                           int number, std::string (*change)(std::string_view)) {
@@ -53,13 +77,8 @@ EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string
   if (IsGenerated(edit.CurRecord)) {
     return edit.ItemDragging ? EditOutcome::NothingToDo : EditOutcome::RecordMismatch;
   }
-  const FileResult<int> count = CountRecords(files, edit.CurFile);
-  if (!count) return EditOutcome::Failed;
-  // A place that the file does not have reads as a blank entry, which is not the one meant.
-  if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
-  const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
-  if (!record) return EditOutcome::Failed;
-  if (!IsCurrentEntry(edit, *record)) return EditOutcome::RecordMismatch;
+  const EditOutcome still = FindCurrentEntry(files, ansi, edit);
+  if (still != EditOutcome::Edited) return still;
   return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
     return WithoutRecord(std::move(records), edit.CurRecord);
   }));
@@ -89,6 +108,46 @@ EditOutcome UndoDeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::st
   return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
     return InsertOrAppendRecord(std::move(records), edit.UndoRecord, record);
   }));
+}
+
+bool IsDropOnItself(const EntryEdit& edit, const DropPlace& place) noexcept {
+  return place.Before != DropPlace::kEnd && place.Before == edit.CurRecord &&
+         EqualNoCase(place.File, edit.CurFile);
+}
+
+EditOutcome MoveMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                          const EntryEdit& edit, const DropPlace& place) {
+  if (!EqualNoCase(place.File, edit.CurFile) || IsGenerated(edit.CurRecord)) {
+    return EditOutcome::NothingToDo;
+  }
+  const FileResult<int> before = PlaceInFile(files, place);
+  if (!before) return EditOutcome::Failed;
+  if (*before == kNoPlace) return EditOutcome::NothingToDo;
+  const EditOutcome still = FindCurrentEntry(files, ansi, edit);
+  if (still != EditOutcome::Edited) return still;
+  return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
+    return MoveRecord(std::move(records), edit.CurRecord, *before);
+  }));
+}
+
+EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                          const EntryEdit& edit, const DropPlace& place) {
+  const FileResult<int> before = PlaceInFile(files, place);
+  if (!before) return EditOutcome::Failed;
+  if (*before == kNoPlace) return EditOutcome::NothingToDo;
+  const std::string record = FormatRecord({edit.CurTitle, edit.CurIcon, edit.CurCommand}, ansi);
+  return OutcomeOf(RewriteMenuFile(files, menusPath, place.File, [&](std::string records) {
+    return InsertOrAppendRecord(std::move(records), *before, record);
+  }));
+}
+
+void ForgetCurrentEntry(EntryEdit& edit) {
+  edit.CurTitle.clear();
+  edit.CurIcon.clear();
+  edit.CurCommand.clear();
+  edit.CurMenuTag.clear();
+  edit.CurFile.clear();
+  edit.CurRecord = 0;
 }
 
 EditOutcome CloseFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {

@@ -66,6 +66,30 @@ EditOutcome PasteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_
 EditOutcome UndoDeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                                 const EntryEdit& edit);
 
+/// Where a carried entry is put down. A generated entry stands for its folder item.
+struct DropPlace {
+  static constexpr int kEnd = 0;
+
+  std::string File;   // full path
+  int Before = kEnd;  // the record that it comes to stand before
+};
+
+/// True if the current entry would be put down on itself.
+[[nodiscard]] bool IsDropOnItself(const EntryEdit& edit, const DropPlace& place) noexcept;
+
+/// Moves the current entry within its own file, in one step. Only for a stored entry that the file
+/// still holds at its place.
+EditOutcome MoveMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                          const EntryEdit& edit, const DropPlace& place);
+
+/// Puts a copy of the current entry down. A place that the file does not have, and the place of the
+/// button's own record, take none.
+EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                          const EntryEdit& edit, const DropPlace& place);
+
+/// Empties the current entry: nothing is carried or acted on any more.
+void ForgetCurrentEntry(EntryEdit& edit);
+
 /// Keeps a folder item from being expanded: edits the command of the item that a generated entry
 /// came from.
 EditOutcome CloseFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit);

@@ -47,7 +47,8 @@ class ToolbarPort : public LoadedWindow {
   virtual void SetMenuPosition() = 0;
   /// A key of the menu that moves along the strip.
   virtual void ActivateKeyDown(int keyCode) = 0;
-  /// Index of the button under the pointer while something is dragged, 0 for none.
+  /// Index of the button under the pointer while something is carried, 0 for none. Opens the menu
+  /// of that button, and ends a carry whose release went to another program.
   [[nodiscard]] virtual int dragCurButton() = 0;
   /// Drops the carried entry on a button: appended to its menu, and taken away from where it came
   /// unless `released` is the right button, which copies.
@@ -128,7 +129,8 @@ class QMenuPort : public LoadedWindow {
 
   /// A move on the screen, in twips, while something is dragged over the menu.
   virtual void mMouseMove(float x, float y) = 0;
-  /// Drops the carried entry on the item under selection.
+  /// Drops the carried entry on the item under selection: moves it there, or with Ctrl held copies
+  /// it.
   virtual void DoItemDrag(forms::ShiftState shift) = 0;
 
   /// Back to the page that was up before a rebuild.

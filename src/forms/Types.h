@@ -57,7 +57,9 @@ inline constexpr OleColor DarkShadow3D = 0x80000015;
 inline constexpr OleColor TooltipFace = 0x80000018;
 }  // namespace color
 
-enum class MousePointer { Default = 0, Hourglass = 11 };
+/// Shapes of the pointer. NoDrop says that what is carried cannot be put down here; Custom is the
+/// picture given last to WindowSystem::SetMouseIcon.
+enum class MousePointer { Default = 0, Hourglass = 11, NoDrop = 12, Custom = 99 };
 
 enum class ZPlace { Front, Back };
 

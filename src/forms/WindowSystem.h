@@ -134,6 +134,11 @@ class WindowSystem {
   virtual void SetMousePointer(MousePointer shape) = 0;
   [[nodiscard]] virtual MousePointer CurrentMousePointer() const = 0;
 
+  /// The picture that MousePointer::Custom stands for, from now on; what has Image::kMask is
+  /// see-through. `hotSpot` is the pixel of the picture that points. Without a picture, or where
+  /// the system refuses it, Custom looks like Default.
+  virtual void SetMouseIcon(corvelle::Picture picture, PixelPoint hotSpot) = 0;
+
   /// Runs the events that are waiting, timers that are due included, and returns.
   virtual void DoEvents() = 0;
   /// Runs events until Quit. Returns at once if Quit was called before.

@@ -6,8 +6,8 @@
 #include "base/Text.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
+#include "icons/Glyphs.h"
 #include "icons/IconResolution.h"
-#include "menus/Glyphs.h"
 #include "platform/ShellIcons.h"
 
 namespace corvelle {

@@ -61,6 +61,9 @@ std::unique_ptr<forms::Label> frmQMenu::MakeItemLabel(int index) {
   if (index == 0) return label;
   // A label forwards what happens on it with its own place added, so that the window alone decides.
   label->SetLeft(Lbl[0].Left());
+  label->MouseDown = [this, index](MouseButton button, ShiftState shift, float x, float y) {
+    Form_MouseDown(button, shift, x + Lbl[index].Left(), y + Lbl[index].Top());
+  };
   label->MouseMove = [this, index](MouseButton down, ShiftState shift, float x, float y) {
     if (StillAway()) return;
     program_.PointerBelowItems = false;
@@ -74,6 +77,9 @@ std::unique_ptr<forms::Label> frmQMenu::MakeItemLabel(int index) {
 }
 
 void frmQMenu::WireEvents() {
+  MouseDown = [this](MouseButton button, ShiftState shift, float x, float y) {
+    Form_MouseDown(button, shift, x, y);
+  };
   MouseMove = [this](MouseButton down, ShiftState shift, float x, float y) {
     Form_MouseMove(down, shift, x, y);
   };

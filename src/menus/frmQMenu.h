@@ -88,6 +88,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
 
   // ---- pointer (frmQMenuPointer.cpp) ----
 
+  void Form_MouseDown(forms::MouseButton button, forms::ShiftState shift, float x, float y);
   void Form_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x, float y);
   void Form_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
   void xMouseMove(float y) override;
@@ -250,6 +251,10 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void OfferItem();
   [[nodiscard]] WindowId HintWindow() const;
   void Timer1_Timer();
+
+  // Dragging entries (frmQMenuDrag.cpp).
+  /// A point of the window's inside (twips) on the screen (pixels).
+  [[nodiscard]] PixelPoint OnScreen(float x, float y) const;
 
   // Arrow buttons and pages (frmQMenuPages.cpp).
   void TurnTo(int page);

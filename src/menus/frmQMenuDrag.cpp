@@ -1,10 +1,49 @@
 // Entries carried from and to the items of the menu.
 
+#include "base/Text.h"
+#include "core/Carry.h"
+#include "core/EntryCommands.h"
+#include "core/MenuFolder.h"
 #include "core/Program.h"
+#include "forms/Scale.h"
 #include "menus/frmQMenu.h"
 
 namespace corvelle {
 
-void frmQMenu::DoItemDrag(forms::ShiftState /*shift*/) {}
+using forms::MouseButton;
+using forms::ShiftState;
+
+// With Ctrl held a press picks the item up instead of choosing it at the release.
+void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float /*x*/, float y) {
+  if (button != MouseButton::Left || !shift.Ctrl) return;
+  if (program_.MenuBuilding || program_.Entry.ItemDragging || program_.ItemDropping) return;
+  if (EqualNoCase(MenuKey, kMainMenuKey)) return;
+  const int index = program_.SelectedItem;
+  if (index == 0 || !Lbl[index].Enabled() || HitItem(Page(), y) != index) return;
+  FillCurrentItem(index);
+  StartCarry(program_);
+}
+
+PixelPoint frmQMenu::OnScreen(float x, float y) const {
+  const PixelPoint at = forms::ToPixels(Left() + x, Top() + y, program_.Windows.Screen());
+  return {at.x + BorderPixels(), at.y + BorderPixels()};
+}
+
+void frmQMenu::DoItemDrag(ShiftState shift) {
+  const int index = program_.SelectedItem;
+  if (EqualNoCase(MenuKey, kMainMenuKey) || index == 0) return;
+  const std::string key = MenuKey;
+  const DropPlace place{.File = StoredMenuFile(MenuFile), .Before = GetRecordNum(index)};
+  // An item without a number is none of the file's.
+  if (place.Before == DropPlace::kEnd) return;
+  if (IsDropOnItself(program_.Entry, place)) {
+    if (!Visible()) ShowNoActivate();
+    return;
+  }
+  // Both would rewrite the same files: the entry stays where it is, and can be carried again.
+  if (program_.ItemActionBusy) return;
+  const bool changed = DropItem(program_, key, place, shift.Ctrl);
+  if (changed && program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->RefreshMenu(key);
+}
 
 }  // namespace corvelle

@@ -1,6 +1,7 @@
 // Items: what their labels carry, the selection, the disabled look.
 
 #include "base/Text.h"
+#include "core/MenuFolder.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "menus/MenuTag.h"
@@ -122,7 +123,7 @@ void frmQMenu::FillCurrentItem(int index) {
   entry.CurTitle = SingleAmpersands(Lbl[index].Caption());
   entry.CurCommand = GetExeName(index);
   entry.CurRecord = GetRecordNum(index);
-  entry.CurFile = MenuFile;
+  entry.CurFile = StoredMenuFile(MenuFile);
   entry.CurMenuTag = MenuKey;
   // An entry that a shell's folder was expanded to is named by its title in that folder.
   if (StartsWithNoCase(entry.CurCommand, kSpecialFolderStart) && ParseNumber(entry.CurIcon)) {

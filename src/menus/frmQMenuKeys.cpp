@@ -74,7 +74,7 @@ void frmQMenu::MovePage(int keyCode) {
 }
 
 void frmQMenu::Form_KeyPress(char32_t character) {
-  if (program_.MenuBuilding) return;
+  if (program_.Entry.ItemDragging || program_.MenuBuilding) return;
   if (character == forms::key::Enter) {
     const int index = program_.SelectedItem;
     if (index == 0) return;

@@ -29,6 +29,11 @@ void frmQMenu::LblButton_MouseMove(int index, MouseButton down) {
 }
 
 void frmQMenu::LblButton_MouseUp(int index, MouseButton button, float x, float y) {
+  if (program_.Entry.ItemDragging) {
+    // What is carried is put down here as on any other place without an item.
+    Form_MouseUp(button, {}, x + LblButton[index].Left(), y + LblButton[index].Top());
+    return;
+  }
   picMouseUp(index);
   if (Slides == 0 || button != MouseButton::Left) return;
   const forms::Label& arrow = LblButton[index];

@@ -7,7 +7,7 @@
 #include "core/Program.h"
 #include "forms/Scale.h"
 #include "forms/Scopes.h"
-#include "menus/Glyphs.h"
+#include "icons/Glyphs.h"
 #include "menus/frmQMenu.h"
 #include "platform/FileSystem.h"
 

@@ -1,6 +1,7 @@
 // The pointer: selection, choice, right click, and what the strip hands on.
 
 #include "base/Text.h"
+#include "core/Carry.h"
 #include "core/Program.h"
 #include "launch/LaunchItem.h"
 #include "menus/frmQMenu.h"
@@ -75,8 +76,9 @@ void frmQMenu::mMouseMove(float x, float y) {
 
 // ---- releases ----
 
-void frmQMenu::Form_MouseUp(MouseButton button, ShiftState /*shift*/, float x, float y) {
-  if (program_.Entry.ItemDragging || program_.MenuBuilding) return;
+void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float y) {
+  if (EndCarry(program_, OnScreen(x, y), button, shift)) return;
+  if (program_.MenuBuilding) return;
   if (button == MouseButton::Left && !PointerAway) ChooseItem(x, y);
   if (button == MouseButton::Right) OfferItem();
 }

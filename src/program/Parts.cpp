@@ -19,6 +19,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.Browser = &TheBrowser;
   ports.ShellLinks = &Links;
   ports.StartupLink = &TheStartupLink;
+  ports.DragImage = &Carried;
 }
 
 }  // namespace corvelle

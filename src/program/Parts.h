@@ -7,6 +7,7 @@
 #include "menus/frmQMenu.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
+#include "toolbar/DragImage.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
 #include "toolbar/frmToolbar.h"
@@ -42,6 +43,7 @@ class Parts {
   Browser TheBrowser{TheProgram};
   LinkReader Links{TheProgram};
   StartupLink TheStartupLink{TheProgram};
+  DragImage Carried{TheProgram};
 };
 
 }  // namespace corvelle

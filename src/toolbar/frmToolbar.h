@@ -14,6 +14,7 @@
 #include "forms/Graphic.h"
 #include "forms/PictureBox.h"
 #include "forms/Timer.h"
+#include "toolbar/CarryRules.h"
 #include "toolbar/StripLayout.h"
 #include "toolbar/StripLook.h"
 #include "toolbar/StripPointer.h"
@@ -275,6 +276,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   // Pointer and frame. Points are pixels of the screen, or twips where they are floats.
   void FindCurButton(PixelPoint pointer);
   void AbandonDrag();
+  /// Notices when the release of what is carried went to another program.
+  void WatchCarry();
+  void ShowDroppedMenu(int button);
   void ShowRestingLook();
   [[nodiscard]] bool LooksAtRest(int button) const;
   [[nodiscard]] bool IsOursActive() const;
@@ -306,7 +310,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   Program& program_;
   std::vector<MenuRecord> records_;  // of the buttons, by their index
   std::string lastTag_;              // of the menu that was opened last
-  float menuLeft_ = 0;               // where the menu window was placed
+  AbandonWatch carryWatch_;
+  float menuLeft_ = 0;  // where the menu window was placed
   float menuTop_ = 0;
   bool positionUnsaved_ = false;  // the disk refused SavedLeft
   bool positioned_ = false;       // SavedLeft is known

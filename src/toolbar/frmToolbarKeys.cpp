@@ -13,9 +13,10 @@ constexpr char32_t kBlank = 32;
 }  // namespace
 
 void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
+  if (program_.Entry.ItemDragging) return;
   switch (keyCode) {
     case forms::key::Escape:
-      if (!program_.Entry.ItemDragging) ResetMenu();
+      ResetMenu();
       return;
     case forms::key::F10:
       if (!MenuUp()) StartKeyboard();

@@ -1,6 +1,7 @@
 // The pointer over the buttons: which one is current, its look, and following the pointer.
 
 #include "base/Text.h"
+#include "core/Carry.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "forms/Scale.h"
@@ -11,9 +12,6 @@
 namespace corvelle {
 namespace {
 
-constexpr int kLeftKey = 1;
-constexpr int kRightKey = 2;
-
 constexpr int kMenuBorder = 3;  // pixels around the inside of the menu window
 
 }  // namespace
@@ -23,27 +21,10 @@ void frmToolbar::GetCurButton() { FindCurButton(program_.Services.Pointer.Pointe
 void frmToolbar::FindCurButton(PixelPoint pointer) {
   program_.CurButton =
       ButtonAt(ToolbarButtons, PlaceOnScreen(), pointer, program_.CurButton, program_.MenuOpen);
-  const Input& input = program_.Services.Pointer;
-  if (program_.Entry.ItemDragging && !input.IsKeyDown(kLeftKey) && !input.IsKeyDown(kRightKey)) {
-    AbandonDrag();
-  }
+  WatchCarry();
 }
 
-// The release of a carried item went to another program.
-void frmToolbar::AbandonDrag() {
-  program_.Entry.ItemDragging = false;
-  program_.Windows.SetMousePointer(forms::MousePointer::Default);
-  EmptyCurrentItem();
-}
-
-void frmToolbar::EmptyCurrentItem() {
-  program_.Entry.CurTitle.clear();
-  program_.Entry.CurIcon.clear();
-  program_.Entry.CurCommand.clear();
-  program_.Entry.CurMenuTag.clear();
-  program_.Entry.CurFile.clear();
-  program_.Entry.CurRecord = 0;
-}
+void frmToolbar::EmptyCurrentItem() { ForgetCurrentEntry(program_.Entry); }
 
 int frmToolbar::MenuOwner() const {
   const QMenuPort* const menu = program_.Ports.QMenu;
@@ -183,8 +164,9 @@ void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState
                                     float y) {
   WasHovering = false;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  if (EndCarry(program_, pointer, button, shift)) return;
   const WindowId under = program_.Services.Desktop.WindowAt(pointer);
-  if (button == forms::MouseButton::Right && !program_.Entry.ItemDragging) {
+  if (button == forms::MouseButton::Right) {
     if (under == hWnd()) return Form_MouseUp(button, shift, x, y);
     if (under == picSingleButton.hWnd()) return picSingleButton_MouseUp(button, shift, x, y);
     if (under == picToolbar.hWnd()) ShowButtonPopup();
@@ -242,6 +224,8 @@ void frmToolbar::picSingleButton_MouseMove(forms::MouseButton down, forms::Shift
 void frmToolbar::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift,
                                          float x, float y) {
   program_.SetHint("");
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  if (EndCarry(program_, pointer, button, shift)) return;
   Form_MouseUp(button, shift, x + picSingleButton.Left(), y + picSingleButton.Top());
 }
 

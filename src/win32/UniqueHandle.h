@@ -65,6 +65,10 @@ struct IconTraits : NullHandleTraits<HICON> {
   static void Close(HICON icon) noexcept { DestroyIcon(icon); }
 };
 
+struct CursorTraits : NullHandleTraits<HCURSOR> {
+  static void Close(HCURSOR cursor) noexcept { DestroyCursor(cursor); }
+};
+
 struct WindowTraits : NullHandleTraits<HWND> {
   static void Close(HWND window) noexcept { DestroyWindow(window); }
 };
@@ -94,6 +98,7 @@ using UniqueBitmap = UniqueHandle<GdiObjectTraits<HBITMAP>>;
 using UniquePen = UniqueHandle<GdiObjectTraits<HPEN>>;
 using UniqueMemoryDc = UniqueHandle<MemoryDcTraits>;
 using UniqueIcon = UniqueHandle<IconTraits>;
+using UniqueCursor = UniqueHandle<CursorTraits>;
 using UniqueWindow = UniqueHandle<WindowTraits>;
 using UniqueRegistryKey = UniqueHandle<RegistryKeyTraits>;
 using UniqueKernel = UniqueHandle<KernelTraits>;

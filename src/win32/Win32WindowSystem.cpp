@@ -6,6 +6,7 @@
 
 #include "win32/Wide.h"
 #include "win32/Win32Canvas.h"
+#include "win32/Win32Cursor.h"
 #include "win32/Win32Peer.h"
 
 namespace corvelle::win32 {
@@ -28,7 +29,9 @@ void ForgetQuit() {
   PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
 }
 
-bool PointerIsOnOurs() {
+/// While one of ours holds a press, the pointer is ours wherever it is.
+bool PointerIsOurs() {
+  if (GetCapture() != nullptr) return true;
   POINT at{};
   if (GetCursorPos(&at) == 0) return false;
   const HWND window = WindowFromPoint(at);
@@ -85,12 +88,32 @@ HWND Win32WindowSystem::ToolOwner() {
 
 void Win32WindowSystem::SetMousePointer(forms::MousePointer shape) {
   pointer_ = shape;
-  if (PointerIsOnOurs()) ShowPointer();
+  if (PointerIsOurs()) ShowPointer();
+}
+
+void Win32WindowSystem::SetMouseIcon(Picture picture, PixelPoint hotSpot) {
+  UniqueCursor before(mouseIcon_.Release());
+  if (picture) mouseIcon_ = MakeCursor(*picture, hotSpot);
+  // What is on the screen must not be destroyed.
+  if (pointer_ == forms::MousePointer::Custom && PointerIsOurs()) ShowPointer();
+  if (before && GetCursor() == before.Get()) SetCursor(LoadCursorW(nullptr, IDC_ARROW));
 }
 
 void Win32WindowSystem::ShowPointer() const {
-  const bool hourglass = pointer_ == forms::MousePointer::Hourglass;
-  SetCursor(LoadCursorW(nullptr, hourglass ? IDC_WAIT : IDC_ARROW));
+  switch (pointer_) {
+    case forms::MousePointer::Hourglass:
+      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+      break;
+    case forms::MousePointer::NoDrop:
+      SetCursor(LoadCursorW(nullptr, IDC_NO));
+      break;
+    case forms::MousePointer::Custom:
+      SetCursor(mouseIcon_ ? mouseIcon_.Get() : LoadCursorW(nullptr, IDC_ARROW));
+      break;
+    case forms::MousePointer::Default:
+      SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+      break;
+  }
 }
 
 // A timer whose ticks take longer than its interval is always due: its second tick is the last

@@ -24,6 +24,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   forms::ScreenInfo Screen() const override;
   void SetMousePointer(forms::MousePointer shape) override;
   forms::MousePointer CurrentMousePointer() const override { return pointer_; }
+  void SetMouseIcon(Picture picture, PixelPoint hotSpot) override;
   void DoEvents() override;
   void Run() override;
   void Quit() override;
@@ -46,6 +47,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   UniqueWindow toolOwner_;
   Win32Timers timers_;
   forms::MousePointer pointer_ = forms::MousePointer::Default;
+  UniqueCursor mouseIcon_;
   bool quit_ = false;
 };
 

@@ -181,6 +181,10 @@ void WineDesk::Key(int virtualKey) {
   SendKey(virtualKey, KEYEVENTF_KEYUP);
 }
 
+void WineDesk::HoldKey(int virtualKey) { SendKey(virtualKey, 0); }
+
+void WineDesk::LetKeyGo(int virtualKey) { SendKey(virtualKey, KEYEVENTF_KEYUP); }
+
 void WineDesk::Type(char letter) { Key(LOBYTE(VkKeyScanW(static_cast<wchar_t>(letter)))); }
 
 bool WineDesk::Wait(const std::function<bool()>& until, int milliseconds) {

@@ -41,6 +41,8 @@ class WineDesk final : public scenario::Desk {
   void Release(scenario::Button button) override;
   [[nodiscard]] PixelPoint Pointer() const override;
   void Key(int virtualKey) override;
+  void HoldKey(int virtualKey) override;
+  void LetKeyGo(int virtualKey) override;
   void Type(char letter) override;
 
   bool Wait(const std::function<bool()>& until, int milliseconds) override;

@@ -4,6 +4,8 @@
 // includes this header once and instantiates the suite with makers of its own homes.
 
 #include "forms/ContractHome.h"
+#include "forms/Graphic.h"
+#include "forms/Scopes.h"
 
 namespace corvelle::forms {
 
@@ -440,6 +442,30 @@ TEST_P(WindowSystemContract, ThePointersShapeIsWhatWasSet) {
   EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::Default);
   Windows().SetMousePointer(MousePointer::Hourglass);
   EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::Hourglass);
+  Windows().SetMousePointer(MousePointer::NoDrop);
+  EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::NoDrop);
+  Windows().SetMousePointer(MousePointer::Default);
+}
+
+TEST_P(WindowSystemContract, ThePointerCanBeAPictureOrNone) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  std::shared_ptr<Canvas> picture = Windows().CreateCanvas({32, 32});
+  picture->FillBox({0, 0, 32, 32}, Image::kMask);
+  picture->FillBox({8, 8, 24, 24}, 0x000000FF);
+  Windows().SetMouseIcon(picture, {16, 16});
+  EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::Default);
+  Windows().SetMousePointer(MousePointer::Custom);
+  {
+    const HourglassScope hourglass(Windows());
+    EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::Hourglass);
+  }
+  EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::Custom);
+  // Without its picture it is a pointer all the same, and taking it twice does no harm.
+  Windows().SetMouseIcon(nullptr, {});
+  Windows().SetMouseIcon(nullptr, {});
+  Settle();
+  EXPECT_EQ(Windows().CurrentMousePointer(), MousePointer::Custom);
   Windows().SetMousePointer(MousePointer::Default);
 }
 

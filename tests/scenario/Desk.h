@@ -16,6 +16,7 @@ enum class Button { Left, Right };
 
 // Virtual key codes.
 inline constexpr int kKeyEnter = 13;
+inline constexpr int kKeyControl = 17;
 inline constexpr int kKeyEscape = 27;
 inline constexpr int kKeyPageUp = 33;
 inline constexpr int kKeyPageDown = 34;
@@ -84,6 +85,9 @@ class Desk {
   [[nodiscard]] virtual PixelPoint Pointer() const = 0;
   /// Presses and releases a key; it goes to the foreground window.
   virtual void Key(int virtualKey) = 0;
+  /// Holds a key down, and lets it go.
+  virtual void HoldKey(int virtualKey) = 0;
+  virtual void LetKeyGo(int virtualKey) = 0;
   /// Types one letter.
   virtual void Type(char letter) = 0;
 

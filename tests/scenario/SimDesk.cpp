@@ -96,6 +96,8 @@ class SimDesk final : public Desk {
       world_.Desktop.PressKey(virtualKey);
     }
   }
+  void HoldKey(int virtualKey) override { world_.Desktop.KeyDown(virtualKey); }
+  void LetKeyGo(int virtualKey) override { world_.Desktop.KeyUp(virtualKey); }
   void Type(char letter) override { world_.Desktop.Type(std::string(1, letter)); }
 
   bool Wait(const std::function<bool()>& until, int milliseconds) override {

@@ -131,6 +131,9 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId CaptureWindow() const noexcept { return capture_; }
   bool IsTopmost(WindowId window) const;
   int Beeps() const noexcept { return beeps_; }
+  /// The picture that a custom pointer shows, null when there is none, and the pixel that points.
+  const corvelle::Picture& MouseIcon() const noexcept { return mouseIcon_; }
+  PixelPoint MouseIconHotSpot() const noexcept { return hotSpot_; }
   /// The calls that made, showed, moved or ordered windows, one line each: "show frmX Normal",
   /// "hide frmX", "setwindowpos frmX -1 19", "bounds frmX 0,0,10,10", "caption frmX text",
   /// "foreground frmX", "create frmX", "destroy frmX", "zorder frmX Front", "focus frmX".
@@ -148,6 +151,10 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   forms::ScreenInfo Screen() const override;
   void SetMousePointer(forms::MousePointer shape) override { pointerShape_ = shape; }
   forms::MousePointer CurrentMousePointer() const override { return pointerShape_; }
+  void SetMouseIcon(corvelle::Picture picture, PixelPoint hotSpot) override {
+    mouseIcon_ = std::move(picture);
+    hotSpot_ = hotSpot;
+  }
   void DoEvents() override { Pump(); }
   void Run() override;
   void Quit() override { quit_ = true; }
@@ -266,6 +273,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   PixelPoint movePoint_;
   std::set<int> keys_;
   forms::MousePointer pointerShape_ = forms::MousePointer::Default;
+  corvelle::Picture mouseIcon_;
+  PixelPoint hotSpot_;
   std::deque<std::function<void()>> events_;
   int depth_ = 0;  // handlers that are running
   std::function<void()> runScript_;

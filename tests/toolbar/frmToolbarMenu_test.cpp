@@ -521,6 +521,9 @@ TEST(ToolbarCarry, IsAbandonedWhenNoMouseButtonIsDown) {
   desk.TheProgram.Entry.CurTitle = "Carried";
   desk.World.Desktop.SetMousePointer(forms::MousePointer::Hourglass);
   desk.Strip.GetCurButton();
+  EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging) << "the release may still be on its way";
+  desk.World.Desktop.Jump(150);
+  desk.Strip.GetCurButton();
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
   EXPECT_TRUE(desk.TheProgram.Entry.CurTitle.empty());
   EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);

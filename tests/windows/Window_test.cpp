@@ -6,6 +6,8 @@
 
 #include "RealHome.h"
 #include "forms/ContractHome.h"
+#include "forms/Graphic.h"
+#include "win32/Win32Canvas.h"
 
 namespace corvelle::forms {
 namespace {
@@ -219,6 +221,43 @@ TEST_F(WindowTest, ThePointersShapeIsShownOverTheWindow) {
   EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_WAIT));
   Home.Windows().SetMousePointer(MousePointer::Default);
   EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+}
+
+TEST_F(WindowTest, APictureIsThePointerWithItsHotSpotAndItsHoles) {
+  const auto peer = Make();
+  ShowAndSettle(*peer);
+  Home.MovePointer({250, 200});
+  std::shared_ptr<Canvas> picture = Home.Windows().CreateCanvas({32, 32});
+  picture->FillBox({0, 0, 32, 32}, Image::kMask);
+  picture->FillBox({8, 4, 24, 20}, 0x00112233);
+  Home.Windows().SetMouseIcon(picture, {12, 7});
+  Home.Windows().SetMousePointer(MousePointer::Custom);
+  const HCURSOR cursor = GetCursor();
+  ASSERT_NE(cursor, nullptr);
+  EXPECT_NE(cursor, LoadCursorW(nullptr, IDC_ARROW));
+  ICONINFO info{};
+  ASSERT_NE(GetIconInfo(cursor, &info), 0);
+  EXPECT_EQ(info.fIcon, FALSE);
+  EXPECT_EQ(info.xHotspot, 12U);
+  EXPECT_EQ(info.yHotspot, 7U);
+  DeleteObject(info.hbmMask);
+  DeleteObject(info.hbmColor);
+  // Drawn on a ground, it covers what it covers and nothing else.
+  const auto ground = Home.Windows().CreateCanvas({32, 32});
+  ground->FillBox({0, 0, 32, 32}, 0x00445566);
+  {
+    const win32::CanvasDc dc(win32::AsWin32(*ground));
+    DrawIconEx(dc.Get(), 0, 0, cursor, 32, 32, 0, nullptr, DI_NORMAL);
+  }
+  EXPECT_EQ(ground->PixelAt({8, 4}), 0x00112233U);
+  EXPECT_EQ(ground->PixelAt({23, 19}), 0x00112233U);
+  EXPECT_EQ(ground->PixelAt({7, 4}), 0x00445566U);
+  EXPECT_EQ(ground->PixelAt({24, 19}), 0x00445566U);
+  Home.Windows().SetMouseIcon(nullptr, {});
+  EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+  Home.Windows().SetMousePointer(MousePointer::NoDrop);
+  EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_NO));
+  Home.Windows().SetMousePointer(MousePointer::Default);
 }
 
 // Painting.
