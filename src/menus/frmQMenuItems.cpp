@@ -122,7 +122,8 @@ void frmQMenu::FillCurrentItem(int index) {
   entry.CurTitle = SingleAmpersands(Lbl[index].Caption());
   entry.CurCommand = GetExeName(index);
   entry.CurRecord = GetRecordNum(index);
-  entry.CurFile = MenuFile;
+  // Edits go to the menu file itself, by the record numbers that a generated one carries.
+  entry.CurFile = menu_->Source;
   entry.CurMenuTag = MenuKey;
   // An entry that a shell's folder was expanded to is named by its title in that folder.
   if (StartsWithNoCase(entry.CurCommand, kSpecialFolderStart) && ParseNumber(entry.CurIcon)) {
