@@ -8,12 +8,15 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "HostFiles.h"
 #include "core/Main.h"
 #include "core/MenuRecord.h"
+#include "platform/ShellIcons.h"
 #include "program/Parts.h"
 #include "sim/Complain.h"
 #include "sim/World.h"
@@ -23,6 +26,7 @@ namespace {
 
 constexpr int kButtons = 200;
 constexpr int kItems[] = {20, 200, 2000};
+constexpr int kFiles[] = {100, 1000, 10000};
 
 [[noreturn]] void GiveUp(const std::string& why) {
   std::fprintf(stderr, "corvelle_bench: %s\n", why.c_str());
@@ -47,6 +51,32 @@ void Print(const std::string& name, double time, double floor) {
   std::printf("%-44s %12.3f us %12.3f us %9.1f\n", name.c_str(), time, floor, time / floor);
 }
 
+/// A shell that knows of a file what its name tells, once the disk has said that it is there.
+class HostIcons final : public ShellIcons {
+ public:
+  explicit HostIcons(HostFiles& files) : files_(files) {}
+  std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList /*list*/) override {
+    if (!files_.FileExists(path)) return std::nullopt;
+    return ShellFileInfo{.SystemIndex = static_cast<int>(path.size() % 50),
+                         .DisplayName = std::string(path.substr(path.rfind('\\') + 1)),
+                         .TypeName = "File"};
+  }
+  int IconWidth(IconList /*list*/) override { return 16; }
+  bool DrawSystemIcon(Canvas& canvas, IconList /*list*/, int /*index*/, PixelPoint at,
+                      IconStyle /*style*/) override {
+    canvas.FillBox(RectAt(at, {16, 16}), 0x00FF0000);
+    return true;
+  }
+  bool DrawFileIcon(Canvas& /*canvas*/, std::string_view /*file*/, int /*index*/, PixelPoint /*at*/,
+                    int /*size*/) override {
+    return false;
+  }
+  int IconCount(std::string_view /*file*/) override { return 0; }
+
+ private:
+  HostFiles& files_;
+};
+
 /// A program's folder and a desktop.
 class Ground {
  public:
@@ -61,7 +91,7 @@ class Ground {
   }
 
   /// The services, with the real files.
-  Platform Services() { return World.Services(nullptr, nullptr, &Files); }
+  Platform Services() { return World.Services(nullptr, &Icons, &Files); }
 
   std::string PutMenu(int number, int items) {
     // Every item has an icon of the shell's list, which no file is looked at for.
@@ -77,7 +107,25 @@ class Ground {
     return path;
   }
 
+  /// A folder with so many files, and a menu that shows them.
+  std::string PutFolder(int files, const std::string& options) {
+    Must(Files.MakeFolder("C:\\Many"), "C:\\Many");
+    for (int i = 0; i < files; ++i) {
+      const std::string path = "C:\\Many\\file number " + std::to_string(files - i) + ".txt";
+      Must(Files.Write(path, ""), path);
+    }
+    std::string path = "C:\\Corvelle\\Menus\\" + MenuFileName(1);
+    Must(Files.Write(
+             path,
+             FormatRecord({.FTitle = "Menu", .FIcon = "Button"}, World.Ansi) +
+                 FormatRecord({.FTitle = "Files", .FIcon = "", .FName = "C:\\Many\\*.*" + options},
+                              World.Ansi)),
+         path);
+    return path;
+  }
+
   HostFiles Files;
+  HostIcons Icons{Files};
   sim::World World;
 
  private:
@@ -167,14 +215,105 @@ void MeasureMenu(int items) {
   Print("the same from the cache, " + what, reopened, floor);
 }
 
+/// One copy of the program with one menu, that of a folder.
+class FolderGround {
+ public:
+  FolderGround(int files, const std::string& options)
+      : File(Desk.PutFolder(files, options)), Program(Desk), count_(files) {
+    Program.Start();
+  }
+
+  void Open() {
+    Program.Menu.ShowMenu("F2", File);
+    Desk.World.Desktop.Pump();
+    if (Program.Menu.Labels != count_) GiveUp("the menu lacks files");
+  }
+  void Hide() { Program.Menu.HideMenu(); }
+  void Drop() {
+    Hide();
+    Program.Menu.ForgetMenu("F2");
+  }
+  void Key(int key) {
+    Program.Menu.Form_KeyDown(key, {});
+    Desk.World.Desktop.Pump();
+  }
+  /// Enumerates the folder, and asks the shell for each file.
+  void ListBare(bool ask) {
+    const auto listed = Desk.Files.List("C:\\Many", "*.*");
+    std::size_t known = 0;
+    for (const FileEntry& entry : *listed) {
+      known += !ask || Desk.Icons.FileInfo("C:\\Many\\" + entry.Name, IconList::Large) ? 1 : 0;
+    }
+    if (static_cast<int>(known) != count_) GiveUp("the folder lacks files");
+  }
+
+  Ground Desk;
+  std::string File;
+  Copy Program;
+
+ private:
+  int count_;
+};
+
+void MeasureFolder(int files) {
+  const std::string what = std::to_string(files) + " files";
+  FolderGround ground(files, "");
+  const double listed = Time(11, nullptr, [&] { ground.ListBare(true); });
+  const double built = Time(
+      11, [&] { ground.Drop(); }, [&] { ground.Open(); });
+  Print("first opening of a folder of " + what, built, listed);
+  const double cached = Time(
+      21, [&] { ground.Hide(); }, [&] { ground.Open(); });
+  Print("the same from the cache, " + what, cached, listed);
+
+  FolderGround followed(files, "/u");
+  followed.Open();
+  const double looked = Time(11, nullptr, [&] { followed.ListBare(false); });
+  const double compared = Time(
+      11, [&] { followed.Hide(); }, [&] { followed.Open(); });
+  Print("the same compared with the disk, " + what, compared, looked);
+
+  // The floor of a page is its picture alone.
+  Copy& copy = ground.Program;
+  const double painted = Time(21, nullptr, [&] {
+    copy.Menu.InvalidateAll();
+    ground.Desk.World.Desktop.Pump();
+  });
+  if (copy.Menu.Slides > 0) {
+    const double turned = Time(
+        21, [&] { ground.Key(forms::key::Home); }, [&] { ground.Key(forms::key::PageDown); });
+    Print("page turn, known page (floor: a paint), " + what, turned, painted);
+    const double ended = Time(
+        21, [&] { ground.Key(forms::key::Home); }, [&] { ground.Key(forms::key::End); });
+    if (copy.Menu.CurMenu != copy.Menu.Slides) GiveUp("End did not turn to the last page");
+    Print("the same to the last page, " + what, ended, painted);
+    ground.Key(forms::key::Home);
+  }
+  const int beeps = ground.Desk.World.Desktop.Beeps();
+  const double typed = Time(101, nullptr, [&] { copy.Menu.Form_KeyPress('z'); });
+  if (ground.Desk.World.Desktop.Beeps() != beeps + 101) GiveUp("a letter was found");
+  std::size_t seen = 0;
+  const std::vector<std::string> keys(static_cast<std::size_t>(files), "f0");
+  const double passed = Time(101, nullptr, [&] {
+    for (const std::string& key : keys) seen += key[0] == 'z' ? 0 : 1;
+  });
+  if (seen == 0) GiveUp("nothing was passed over");
+  Print("a letter that no title begins with, " + what, typed, passed);
+}
+
 }  // namespace
 }  // namespace corvelle::bench
 
-int main() {
+/// "quick" leaves the large folders out: in a checked build they take minutes.
+int main(int argc, char** argv) {
   using namespace corvelle;
   sim::SetComplaintHandler([](const std::string& what) { bench::GiveUp(what); });
   std::printf("%-44s %15s %15s %9s\n", "", "time", "floor", "ratio");
   bench::MeasureStart();
   for (const int items : bench::kItems) bench::MeasureMenu(items);
+  const bool quick = argc > 1 && std::string_view(argv[1]) == "quick";
+  for (const int files : bench::kFiles) {
+    if (!quick || files == bench::kFiles[0]) bench::MeasureFolder(files);
+  }
   return 0;
 }

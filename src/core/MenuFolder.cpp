@@ -61,10 +61,4 @@ FileResult<std::vector<std::string>> OrderedSingleFiles(FileSystem& files,
   return ListByEnding(files, menusPath, ".BTN");
 }
 
-std::string StoredMenuFile(std::string_view path) {
-  constexpr std::string_view kGeneratedEnd = ".mfd";
-  if (!EndsWithNoCase(path, kGeneratedEnd)) return std::string(path);
-  return std::string(path.substr(0, path.size() - kGeneratedEnd.size())) + ".MNU";
-}
-
 }  // namespace corvelle

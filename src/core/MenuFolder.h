@@ -24,9 +24,6 @@ FileStatus PurgeMenus(FileSystem& files, std::string_view menusPath);
 [[nodiscard]] FileResult<std::vector<std::string>> OrderedMenuFiles(FileSystem& files,
                                                                     std::string_view menusPath);
 
-/// The menu file that a generated one ("....mfd") was expanded from; any other path is its own.
-[[nodiscard]] std::string StoredMenuFile(std::string_view path);
-
 /// The names of the single buttons' files in capitals, in the order of the buttons.
 [[nodiscard]] FileResult<std::vector<std::string>> OrderedSingleFiles(FileSystem& files,
                                                                       std::string_view menusPath);

@@ -49,6 +49,7 @@ struct BuiltMenu {
   clsMenuInfo MenuInfo;
   std::vector<clsMenu> SlideList;   // by page number
   std::vector<clsLabel> LabelList;  // item 1 first
+  std::string Source;               // the file as it was given, before its folder items expanded
   float Room = 0;                   // greatest height of the window when it was laid out, twips
 };
 

@@ -6,6 +6,7 @@
 
 #include "base/Text.h"
 #include "core/Program.h"
+#include "forms/Scopes.h"
 
 namespace corvelle {
 
@@ -174,8 +175,10 @@ void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   if (!EqualNoCase(key, MenuKey)) SavedPage = 0;
   MenuKey = key;
   const std::shared_ptr<BuiltMenu> built = cache_.Find(key);
-  FolderMenusPort* const folders = program_.Ports.FolderMenus;
-  if (built && folders != nullptr && folders->UpdateMenu(key)) {
+  const bool changed = built && FoldersChanged(key);
+  // The comparison of folders of the shell lets events through.
+  if (!IsLoaded()) return;
+  if (changed) {
     if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->RemoveQMenu(key);
     cache_.Remove(key);
     Tag = owner;
@@ -186,6 +189,14 @@ void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   if (!IsLoaded()) return;
   if (EqualNoCase(key, kMainMenuKey)) CheckLabels();
   PresentMenu();
+}
+
+bool frmQMenu::FoldersChanged(std::string_view menuKey) {
+  FolderMenusPort* const folders = program_.Ports.FolderMenus;
+  if (folders == nullptr) return false;
+  // Meanwhile nobody else puts another menu into the window.
+  const forms::FlagScope building(program_.MenuBuilding);
+  return folders->UpdateMenu(menuKey);
 }
 
 bool frmQMenu::RestoreMenu(const std::shared_ptr<BuiltMenu>& built) {

@@ -198,6 +198,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void TakeScale();
   /// False for a menu that was laid out for another place.
   [[nodiscard]] bool RestoreMenu(const std::shared_ptr<BuiltMenu>& built);
+  /// True if a folder of a built menu holds something else than when it was built.
+  [[nodiscard]] bool FoldersChanged(std::string_view menuKey);
   void PresentMenu();
   void BringUp();
   void PlaceMenu();

@@ -32,6 +32,7 @@ void frmQMenu::InitQMenu(std::string_view menuFile) {
   const bool hasFolderItems = !EqualNoCase(file, given);
 
   menu_ = std::make_shared<BuiltMenu>();
+  menu_->Source = given;
   MenuFile = file;
   Hide();
   SetCaption("");

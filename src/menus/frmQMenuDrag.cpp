@@ -3,7 +3,6 @@
 #include "base/Text.h"
 #include "core/Carry.h"
 #include "core/EntryCommands.h"
-#include "core/MenuFolder.h"
 #include "core/Program.h"
 #include "forms/Scale.h"
 #include "menus/frmQMenu.h"
@@ -33,7 +32,7 @@ void frmQMenu::DoItemDrag(ShiftState shift) {
   const int index = program_.SelectedItem;
   if (EqualNoCase(MenuKey, kMainMenuKey) || index == 0) return;
   const std::string key = MenuKey;
-  const DropPlace place{.File = StoredMenuFile(MenuFile), .Before = GetRecordNum(index)};
+  const DropPlace place{.File = menu_->Source, .Before = GetRecordNum(index)};
   // An item without a number is none of the file's.
   if (place.Before == DropPlace::kEnd) return;
   if (IsDropOnItself(program_.Entry, place)) {

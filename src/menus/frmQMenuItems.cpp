@@ -1,7 +1,6 @@
 // Items: what their labels carry, the selection, the disabled look.
 
 #include "base/Text.h"
-#include "core/MenuFolder.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "menus/MenuTag.h"
@@ -123,7 +122,8 @@ void frmQMenu::FillCurrentItem(int index) {
   entry.CurTitle = SingleAmpersands(Lbl[index].Caption());
   entry.CurCommand = GetExeName(index);
   entry.CurRecord = GetRecordNum(index);
-  entry.CurFile = StoredMenuFile(MenuFile);
+  // Edits go to the menu file itself, by the record numbers that a generated one carries.
+  entry.CurFile = menu_->Source;
   entry.CurMenuTag = MenuKey;
   // An entry that a shell's folder was expanded to is named by its title in that folder.
   if (StartsWithNoCase(entry.CurCommand, kSpecialFolderStart) && ParseNumber(entry.CurIcon)) {

@@ -30,6 +30,8 @@ struct FileEntry {
   bool IsFolder = false;
   bool ReadOnly = false;
   bool Hidden = false;
+  bool System = false;
+  bool Temporary = false;
   std::uint64_t Length = 0;  // bytes
 };
 

@@ -4,6 +4,7 @@
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
+#include "menus/FolderMenus.h"
 #include "menus/frmQMenu.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
@@ -35,6 +36,7 @@ class Parts {
   Program TheProgram;
   frmToolbar Toolbar{TheProgram};
   frmQMenu Menu{TheProgram};
+  FolderMenus TheFolderMenus{TheProgram};
   frmMinimize Companion{TheProgram};
   frmStartup Startup{TheProgram};
   IconRule TheIconRule{TheProgram};

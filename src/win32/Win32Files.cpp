@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "win32/FileEntries.h"
 #include "win32/FileErrors.h"
 #include "win32/FileNames.h"
 #include "win32/UniqueHandle.h"
@@ -112,14 +113,6 @@ class TemporaryFile {
 FileStatus StatusOf(bool done) {
   if (done) return Done{};
   return LastFileError();
-}
-
-FileEntry EntryOf(const WIN32_FIND_DATAW& found) {
-  return {.Name = Narrow(found.cFileName),
-          .IsFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
-          .ReadOnly = (found.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0,
-          .Hidden = (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0,
-          .Length = (std::uint64_t{found.nFileSizeHigh} << 32U) | found.nFileSizeLow};
 }
 
 }  // namespace

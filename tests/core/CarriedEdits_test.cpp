@@ -46,14 +46,6 @@ TEST(MoveRecord, PutsARecordBeforeAnother) {
   EXPECT_EQ(MoveRecord("", 1, 1), "");
 }
 
-TEST(StoredMenuFile, IsWhatAGeneratedOneCameFrom) {
-  EXPECT_EQ(StoredMenuFile("C:\\M\\BMENU001.mfd"), "C:\\M\\BMENU001.MNU");
-  EXPECT_EQ(StoredMenuFile("C:\\M\\BMENU001.MFD"), "C:\\M\\BMENU001.MNU");
-  EXPECT_EQ(StoredMenuFile("C:\\M\\BMENU001.MNU"), "C:\\M\\BMENU001.MNU");
-  EXPECT_EQ(StoredMenuFile("mainmenu.dat"), "mainmenu.dat");
-  EXPECT_EQ(StoredMenuFile(""), "");
-}
-
 /// Two menus, and an entry of the first one in the hand.
 class CarriedEdits : public testing::Test {
  protected:

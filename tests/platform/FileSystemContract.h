@@ -26,6 +26,7 @@ class ContractDisk {
 
   virtual void SetReadOnly(const std::string& path, bool readOnly) = 0;
   virtual void SetHidden(const std::string& path, bool hidden) = 0;
+  virtual void SetSystem(const std::string& path, bool system) = 0;
   /// Opens a file so that nobody else can, and lets go of it again.
   virtual void HoldOpen(const std::string& path) = 0;
   virtual void LetGo(const std::string& path) = 0;
@@ -274,6 +275,19 @@ TEST_P(FileSystemContract, AHiddenFileIsListedAndWrittenAndStaysHidden) {
   ASSERT_EQ(entries->size(), 1U);
   EXPECT_TRUE(entries->front().Hidden);
   EXPECT_FALSE(entries->front().ReadOnly);
+}
+
+TEST_P(FileSystemContract, AFileOfTheSystemIsListedAsOne) {
+  Put("a.txt", "x");
+  Put("b.txt", "x");
+  Disk().SetSystem(root + "b.txt", true);
+  const auto entries = files.List(root, "*").ValueOr({});
+  ASSERT_EQ(entries.size(), 2U);
+  for (const FileEntry& entry : entries) {
+    EXPECT_EQ(entry.System, entry.Name == "b.txt") << entry.Name;
+    EXPECT_FALSE(entry.Hidden) << entry.Name;
+    EXPECT_FALSE(entry.Temporary) << entry.Name;
+  }
 }
 
 TEST_P(FileSystemContract, AFileThatAnotherProgramHoldsOpenIsInUse) {

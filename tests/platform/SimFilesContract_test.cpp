@@ -14,6 +14,7 @@ class SimContractDisk final : public ContractDisk {
     disk_.SetReadOnly(path, readOnly);
   }
   void SetHidden(const std::string& path, bool hidden) override { disk_.SetHidden(path, hidden); }
+  void SetSystem(const std::string& path, bool system) override { disk_.SetSystem(path, system); }
   void HoldOpen(const std::string& path) override { disk_.HoldOpen(path); }
   void LetGo(const std::string& path) override { disk_.LetGo(path); }
 

@@ -136,6 +136,14 @@ void SimFiles::SetHidden(std::string_view path, bool hidden) {
   attributes_[MustFind(path).Key].Hidden = hidden;
 }
 
+void SimFiles::SetSystem(std::string_view path, bool system) {
+  attributes_[MustFind(path).Key].System = system;
+}
+
+void SimFiles::SetTemporary(std::string_view path, bool temporary) {
+  attributes_[MustFind(path).Key].Temporary = temporary;
+}
+
 void SimFiles::LinkFolder(std::string_view link, std::string_view target) {
   const Place place = MustFind(link);
   const Place there = MustFind(target);
@@ -340,6 +348,8 @@ FileResult<std::vector<FileEntry>> SimFiles::List(std::string_view folder,
     entry.IsFolder = host.is_directory();
     entry.ReadOnly = attributes.ReadOnly;
     entry.Hidden = attributes.Hidden;
+    entry.System = attributes.System;
+    entry.Temporary = attributes.Temporary;
     entry.Length = entry.IsFolder ? 0 : host.file_size();
     entries.push_back(std::move(entry));
   }

@@ -56,6 +56,8 @@ class SimFiles final : public FileSystem {
   [[nodiscard]] std::vector<std::string> Names(std::string_view folder) const;
   void SetReadOnly(std::string_view path, bool readOnly);
   void SetHidden(std::string_view path, bool hidden);
+  void SetSystem(std::string_view path, bool system);
+  void SetTemporary(std::string_view path, bool temporary);
   /// Makes a link that stands for another folder and what is in it.
   void LinkFolder(std::string_view link, std::string_view target);
   void HoldOpen(std::string_view path, Hold hold = Hold::Exclusively);
@@ -118,6 +120,8 @@ class SimFiles final : public FileSystem {
   struct Attributes {
     bool ReadOnly = false;
     bool Hidden = false;
+    bool System = false;
+    bool Temporary = false;
   };
 
   [[nodiscard]] FileResult<Place> Find(std::string_view path) const;

@@ -1,8 +1,19 @@
 #include "sim/SimShellFolders.h"
 
+#include <utility>
+
 namespace corvelle::sim {
 
-std::optional<std::vector<ShellFolderEntry>> SimShellFolders::List(int) { return std::nullopt; }
+void SimShellFolders::Put(int folder, std::vector<ShellFolderEntry> entries) {
+  entries_[folder] = std::move(entries);
+}
+
+std::optional<std::vector<ShellFolderEntry>> SimShellFolders::List(int folder) {
+  const auto found = entries_.find(folder);
+  if (found == entries_.end()) return std::nullopt;
+  return found->second;
+}
+
 std::optional<ShellFolderEntry> SimShellFolders::Folder(int) { return std::nullopt; }
 std::optional<std::string> SimShellFolders::PathOf(int) { return std::nullopt; }
 bool SimShellFolders::OpenFolder(int, WindowId) { return false; }

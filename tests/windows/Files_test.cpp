@@ -7,6 +7,7 @@
 
 #include "TempFolder.h"
 #include "platform/FileSystemContract.h"
+#include "win32/FileEntries.h"
 #include "win32/FileErrors.h"
 #include "win32/FileNames.h"
 #include "win32/UniqueHandle.h"
@@ -25,6 +26,9 @@ class RealDisk final : public ContractDisk {
   }
   void SetHidden(const std::string& path, bool on) override {
     SetAttribute(path, FILE_ATTRIBUTE_HIDDEN, on);
+  }
+  void SetSystem(const std::string& path, bool on) override {
+    SetAttribute(path, FILE_ATTRIBUTE_SYSTEM, on);
   }
   void HoldOpen(const std::string& path) override {
     held_[path].Reset(CreateFileW(Wide(path).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
@@ -83,6 +87,29 @@ TEST_F(FilesTest, ShortNamesOfLongNamesFitNoPattern) {
   EXPECT_EQ(Files.List(Root, "*.MEN").ValueOr({}).size(), 0U);
   EXPECT_EQ(Files.List(Root, "ALONGN~1.*").ValueOr({}).size(), 0U);
   EXPECT_EQ(Files.List(Root, "*.menus").ValueOr({}).size(), 1U);
+}
+
+TEST(FileEntries, EachMarkOfAListingIsToldOnItsOwn) {
+  struct Row {
+    DWORD marks;
+    FileEntry expected;
+  };
+  const Row rows[] = {{FILE_ATTRIBUTE_NORMAL, {}},
+                      {FILE_ATTRIBUTE_DIRECTORY, {.IsFolder = true}},
+                      {FILE_ATTRIBUTE_READONLY, {.ReadOnly = true}},
+                      {FILE_ATTRIBUTE_HIDDEN, {.Hidden = true}},
+                      {FILE_ATTRIBUTE_SYSTEM, {.System = true}},
+                      {FILE_ATTRIBUTE_TEMPORARY, {.Temporary = true}}};
+  for (const Row& row : rows) {
+    WIN32_FIND_DATAW found{};
+    found.dwFileAttributes = row.marks;
+    const FileEntry entry = win32::EntryOf(found);
+    EXPECT_EQ(entry.IsFolder, row.expected.IsFolder) << row.marks;
+    EXPECT_EQ(entry.ReadOnly, row.expected.ReadOnly) << row.marks;
+    EXPECT_EQ(entry.Hidden, row.expected.Hidden) << row.marks;
+    EXPECT_EQ(entry.System, row.expected.System) << row.marks;
+    EXPECT_EQ(entry.Temporary, row.expected.Temporary) << row.marks;
+  }
 }
 
 TEST_F(FilesTest, DevicesAreNoFiles) {

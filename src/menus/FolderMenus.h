@@ -1,0 +1,50 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/WindowPorts.h"
+#include "menus/clsFolder.h"
+
+namespace corvelle {
+
+class GeneratedMenu;
+class Program;
+
+/// Folder items: a menu file that has open ones is expanded into a generated file beside it, and
+/// what they held is remembered for each menu until it is built again.
+class FolderMenus final : public FolderMenusPort {
+ public:
+  explicit FolderMenus(Program& program) : program_(program) {}
+
+  /// A file that cannot be read is given back as it is. When the generated file cannot be written,
+  /// the user is told, and the menu shows its folder items as plain ones.
+  std::string Expand(std::string_view menuKey, std::string_view menuFile) override;
+  bool UpdateMenu(std::string_view menuKey) override;
+
+  /// The folder items of a built menu; none for a menu without.
+  [[nodiscard]] std::vector<clsFolder> Folders(std::string_view menuKey) const;
+
+ private:
+  /// What is kept of one built menu.
+  struct Built {
+    std::vector<clsFolder> Folders;
+    clsFolderUpdate Update;
+    std::string RecycleIcon;  // as it was when the menu was built
+  };
+
+  void ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Built& built);
+  /// False when the file could not be written, and nothing of it is left then.
+  [[nodiscard]] bool Write(const std::string& path, const std::string& bytes);
+  [[nodiscard]] bool HasChanged(const Built& built, std::size_t index);
+  [[nodiscard]] bool BinHasChanged(const Built& built);
+
+  Program& program_;
+  std::map<std::string, std::shared_ptr<const Built>, std::less<>>
+      built_;  // by the key in capitals
+};
+
+}  // namespace corvelle

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "menus/FolderRules.h"
+#include "menus/clsFolder.h"
+#include "platform/FileSystem.h"
+
+namespace corvelle {
+
+class GeneratedMenu;
+class Program;
+
+// Folder items of the disk.
+
+/// The files of a folder item in the order in which they are shown.
+struct FoundFiles {
+  struct File {
+    std::size_t Folder = 0;  // index in Folders
+    std::string Name;
+    std::string SortKey;
+  };
+
+  std::vector<std::string> Folders;  // each with its trailing backslash
+  std::vector<File> Files;
+
+  [[nodiscard]] std::string PathOf(const File& file) const {
+    return Folders[file.Folder] + file.Name;
+  }
+};
+
+/// Adds the files of folder `folder` (an index) that fit the item's mask. A folder that cannot be
+/// listed adds none.
+void ScanFolder(FileSystem& files, const FolderItem& item, std::size_t folder, FoundFiles& found);
+
+/// All files of a folder item, sorted: folder by folder, or as one list.
+[[nodiscard]] FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item);
+
+/// Adds the entries of the folder item at record `record` of the source, behind the records before
+/// it. `paths` gets the full paths of the files found when the item is to be compared later.
+[[nodiscard]] clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
+                                         std::vector<std::string>& paths);
+
+/// How many files the item has now; -1 when there are as many as `paths` but others, so that the
+/// answer is clsFolder::RecTotal only for a folder that did not change.
+[[nodiscard]] int FolderChanged(FileSystem& files, std::string_view folderName,
+                                const std::vector<std::string>& paths);
+
+}  // namespace corvelle

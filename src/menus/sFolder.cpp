@@ -1,0 +1,80 @@
+#include "menus/sFolder.h"
+
+#include "base/CodePage.h"
+#include "base/FieldText.h"
+#include "base/Text.h"
+#include "core/Program.h"
+#include "core/SpecialFolderNames.h"
+#include "icons/RecycleIcon.h"
+#include "menus/FolderRules.h"
+#include "menus/GeneratedMenu.h"
+
+namespace corvelle {
+
+namespace {
+
+/// Shows the Recycle Bin's icon, or the bin itself.
+bool ShowsRecycleBin(std::string_view command) noexcept {
+  const int folder = CsidlValue(command);
+  return folder == kDesktopFolder || folder == kRecycleBinFolder || IsDesktopFolder(command);
+}
+
+void KeepList(Program& program, const std::string& cache, const std::string& bytes) {
+  // A list that is not kept makes the next comparison find a change, which is harmless; half a list
+  // would as well.
+  if (!program.Services.Files.Write(cache, bytes)) {
+    static_cast<void>(program.Services.Files.Remove(cache));
+  }
+}
+
+}  // namespace
+
+std::string ListCacheBytes(const std::vector<std::string>& lines, const CodePage& ansi) {
+  std::string bytes;
+  for (const std::string& line : lines) {
+    bytes += EncodeText(UpperCase(line), ansi);
+    bytes += '\0';
+    bytes += EncodeText(line, ansi) + "\r\n";
+  }
+  return bytes;
+}
+
+clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
+                              std::string_view menuFile) {
+  clsFolder folder;
+  folder.FolderName = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
+  const std::string command = FolderWithoutOptions(folder.FolderName);
+  folder.UpdateFolder = FolderOptions(folder.FolderName).find('U') != std::string::npos;
+  menu.BeginItem(record);
+  folder.RecStart = menu.Count() + 1;
+  // Before the listing, so that what changes meanwhile is found at the next opening.
+  if (ShowsRecycleBin(command)) CheckRecycleIcon(program);
+  const std::string cache = ListCacheName(menuFile, command);
+  if (const auto entries = program.Services.Folders.List(CsidlValue(command))) {
+    const std::vector<std::string> lines = ShellFolderLines(*entries);
+    KeepList(program, cache, ListCacheBytes(lines, program.Services.Ansi));
+    for (const std::string& line : lines) {
+      const ShellFolderLine entry = ParseShellFolderLine(line);
+      menu.AddEntry(record, entry.Name, entry.Icon, command);
+    }
+    folder.RecTotal = static_cast<int>(lines.size());
+  } else {
+    static_cast<void>(program.Services.Files.Remove(cache));
+  }
+  folder.RecEnd = menu.Count();
+  return folder;
+}
+
+bool SpecialFolderChanged(Program& program, std::string_view folderName,
+                          std::string_view menuFile) {
+  const std::string command = FolderWithoutOptions(folderName);
+  const auto entries = program.Services.Folders.List(CsidlValue(command));
+  if (!entries) return false;
+  const std::string now = ListCacheBytes(ShellFolderLines(*entries), program.Services.Ansi);
+  // One byte more than there should be tells a longer list.
+  const auto kept =
+      program.Services.Files.Read(ListCacheName(menuFile, command), 0, now.size() + 1);
+  return !kept || *kept != now;
+}
+
+}  // namespace corvelle

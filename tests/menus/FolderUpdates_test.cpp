@@ -1,0 +1,214 @@
+#include <set>
+
+#include "menus/FolderDesk.h"
+
+namespace corvelle {
+namespace {
+
+TEST(FolderUpdates, WithoutTheOptionTheDiskIsNotLookedAtAgain) {
+  FolderDesk desk;
+  desk.OpenCommands({"C:\\Docs\\*.*"});
+  desk.World.Files.Put("C:\\Docs\\new.txt", "x");
+  desk.World.Files.ClearLog();
+  desk.World.Icons.ClearCounts();
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Menu.Labels, 3);
+  EXPECT_TRUE(desk.World.Files.Log().empty());
+  EXPECT_EQ(desk.World.Icons.Lookups(), 0);
+}
+
+TEST(FolderUpdates, WithTheOptionAChangeIsShownAndNothingIsBuiltWithoutOne) {
+  FolderDesk desk;
+  desk.OpenCommands({"C:\\Docs\\*.*/u"});
+  desk.World.Files.ClearLog();
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Built(), 0);
+  EXPECT_EQ(desk.World.Files.Reads(), 0);
+  desk.World.Files.Put("C:\\Docs\\new.txt", "x");
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Captions(), (Strings{"Alpha.txt", "beta.txt", "gamma.doc", "new.txt"}));
+  EXPECT_EQ(desk.Strip.Times("RemoveQMenu F2"), 1);
+  EXPECT_TRUE(desk.Menu.MenuVisible());
+  desk.World.Files.Vanish("C:\\Docs\\Alpha.txt");
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Captions(), (Strings{"beta.txt", "gamma.doc", "new.txt"}));
+  desk.World.Files.ClearLog();
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Built(), 0);
+}
+
+TEST(FolderUpdates, AnotherNameIsAChangeThoughTheNumberStays) {
+  FolderDesk desk;
+  desk.OpenCommands({"C:\\Docs\\*.*/u"});
+  desk.World.Files.Vanish("C:\\Docs\\beta.txt");
+  desk.World.Files.Put("C:\\Docs\\delta.txt", "x");
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Captions(), (Strings{"Alpha.txt", "delta.txt", "gamma.doc"}));
+}
+
+TEST(FolderUpdates, WhatIsNotListedIsNoChange) {
+  FolderDesk desk;
+  desk.OpenCommands({"C:\\Docs\\*.txt/u"});
+  desk.World.Files.Put("C:\\Docs\\more.doc", "x");
+  desk.World.Files.Put("C:\\Docs\\more.dir", "x");
+  desk.World.Files.Put("C:\\Docs\\hidden.txt", "x");
+  desk.World.Files.SetHidden("C:\\Docs\\hidden.txt", true);
+  desk.World.Files.ClearLog();
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Built(), 0);
+}
+
+TEST(FolderUpdates, EachItemOfAMenuIsComparedWithItsOwnList) {
+  FolderDesk desk;
+  desk.World.Files.Put("C:\\Other\\x.txt", "x");
+  desk.OpenCommands({"C:\\Docs\\*.*/u", "C:\\Docs\\*.txt", "C:\\Other\\*.*/u"});
+  desk.World.Files.ClearLog();
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Built(), 0);
+  desk.World.Files.Put("C:\\Other\\y.txt", "x");
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Menu.Labels, 7);
+  EXPECT_EQ(desk.Captions().back(), "y.txt");
+}
+
+TEST(FolderUpdates, AFolderThatVanishedLeavesNoEntriesAndIsNotBuiltForEver) {
+  FolderDesk desk;
+  desk.OpenCommands({"a.exe", "C:\\Docs\\*.*/su"});
+  EXPECT_EQ(desk.Menu.Labels, 4);
+  desk.World.Files.Vanish("C:\\Docs");
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Captions(), Strings{"Item 2"});
+  desk.World.Files.ClearLog();
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Built(), 0);
+  desk.World.Files.Put("C:\\Docs\\back.txt", "x");
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Captions(), (Strings{"Item 2", "back.txt"}));
+}
+
+TEST(FolderUpdates, AChosenFileThatVanishedIsSaidToBeUnavailable) {
+  FolderDesk desk;
+  desk.OpenCommands({"C:\\Docs\\*.*"});
+  desk.World.Files.Vanish("C:\\Docs");
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Menu.Labels, 3);
+  desk.World.Desktop.Answer("File/Device unavailable.", forms::msgbox::AnswerOk);
+  desk.ClickItem(1);
+}
+
+TEST(FolderUpdates, AnItemThatWasClosedMeanwhileIsForgotten) {
+  FolderDesk desk;
+  desk.OpenCommands({"C:\\Docs\\*.*/u"});
+  desk.Menu.HideMenu();
+  desk.Menu.ForgetMenu("F2");
+  desk.OpenCommands({"C:\\Docs\\*.*/u X"});
+  EXPECT_EQ(desk.Captions(), Strings{"Item 2"});
+  EXPECT_FALSE(desk.Items.UpdateMenu("F2"));
+  EXPECT_TRUE(desk.Items.Folders("F2").empty());
+}
+
+TEST(FolderUpdates, OneMenusFoldersAreNotAnothers) {
+  FolderDesk desk;
+  desk.OpenCommands({"C:\\Docs\\*.txt/u"}, 1);
+  desk.Menu.HideMenu();
+  desk.OpenCommands({"C:\\Docs\\*.doc/u"}, 2);
+  desk.Menu.HideMenu();
+  desk.World.Files.Put("C:\\Docs\\new.doc", "x");
+  EXPECT_FALSE(desk.Items.UpdateMenu("F2"));
+  EXPECT_TRUE(desk.Items.UpdateMenu("f3"));
+  EXPECT_FALSE(desk.Items.UpdateMenu("F9"));
+}
+
+TEST(FolderFailures, AGeneratedFileThatCannotBeWrittenIsToldAndTheItemsArePlain) {
+  FolderDesk desk;
+  desk.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*/u"), Item("b")});
+  desk.World.Files.FillDisk(1000);
+  desk.World.Desktop.Answer("61 - Disk full", forms::msgbox::AnswerOk);
+  desk.Reopen(1);
+  ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Title, "Corvelle");
+  EXPECT_EQ(desk.Captions(), (Strings{"Docs", "b"}));
+  EXPECT_EQ(desk.Numbers(), (std::vector<int>{2, 3}));
+  EXPECT_TRUE(desk.Generated().empty());
+  EXPECT_FALSE(desk.TheProgram.MenuBuilding);
+  desk.World.Files.FreeDisk();
+  desk.OpenAgain();
+  EXPECT_EQ(desk.Menu.Labels, 2);
+}
+
+TEST(FolderFailures, AGeneratedFileThatIsHeldOpenIsTold) {
+  FolderDesk desk;
+  desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.mfd", "old");
+  desk.World.Files.HoldOpen("C:\\Corvelle\\Menus\\BMENU001.mfd");
+  desk.World.Desktop.Answer("70 - Permission denied", forms::msgbox::AnswerOk);
+  desk.OpenCommands({"C:\\Docs\\*.*"});
+  EXPECT_EQ(desk.Captions(), Strings{"Item 2"});
+}
+
+TEST(FolderFailures, AStaleGeneratedFileIsReplaced) {
+  FolderDesk desk;
+  desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MFD", std::string(5700, 'x'));
+  desk.OpenCommands({"C:\\Docs\\*.doc"});
+  EXPECT_EQ(desk.Captions(), Strings{"gamma.doc"});
+  EXPECT_EQ(desk.Generated().size(), 2U);
+}
+
+TEST(FolderFailures, TheMessageMayCloseTheMenuAndTheProgram) {
+  FolderDesk desk;
+  desk.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*/u")});
+  desk.World.Files.FillDisk(100);
+  desk.World.Desktop.Answer(forms::msgbox::AnswerOk);
+  desk.World.Desktop.WhileBoxIsUp([&](const auto&) { desk.Menu.UnloadWindow(); });
+  desk.Reopen(1);
+  EXPECT_FALSE(desk.Menu.WindowLoaded());
+  EXPECT_FALSE(desk.TheProgram.MenuBuilding);
+}
+
+TEST(FolderFailures, WhicheverCallFailsTheMenuFileStaysAndTheMenuOpens) {
+  for (const FileError error : {FileError::DiskFull, FileError::AccessDenied, FileError::Failed}) {
+    int calls = 1;
+    for (;; ++calls) {
+      FolderDesk desk;
+      desk.World.Folders.Put(17, {{"C:", 8}});
+      desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.mfd", "stale");
+      const std::string file = desk.PutMenu(
+          1, {Item("a"), Item("Docs", "", "C:\\Docs\\*.*/us"), Item("D", "", "CSIDL_DRIVES/u")});
+      const std::optional<std::string> before = desk.World.Files.Get(file);
+      desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+      desk.World.Files.FailCall(calls, error);
+      desk.Reopen(1);
+      desk.World.Files.StopFailing();
+      const bool hit = desk.World.Files.Hit();
+      EXPECT_EQ(desk.World.Files.Get(file), before) << "failing call " << calls;
+      EXPECT_TRUE(desk.Menu.MenuVisible()) << "failing call " << calls;
+      EXPECT_FALSE(desk.TheProgram.MenuBuilding) << "failing call " << calls;
+      for (const int number : desk.Numbers()) {
+        EXPECT_TRUE((std::set<int>{2, 3, 4, 5003, 5004}.contains(number))) << number;
+      }
+      // The next opening after F5 is whole again.
+      desk.Menu.HideMenu();
+      desk.Menu.ForgetMenu("F2");
+      desk.Reopen(1);
+      EXPECT_EQ(desk.Captions(), (Strings{"a", "Alpha.txt", "beta.txt", "gamma.doc", "C:"}))
+          << "failing call " << calls;
+      if (!hit) break;
+    }
+    EXPECT_GT(calls, 6);
+  }
+}
+
+TEST(FolderFailures, AThousandFilesAreListedOnceAndShown) {
+  FolderDesk desk;
+  desk.World.Files.MakeFolders("C:\\Many");
+  Strings names;
+  for (int i = 0; i < 1000; ++i) names.push_back("file " + std::to_string(1000 + i) + ".txt");
+  desk.World.Files.PutNew("C:\\Many", names);
+  desk.World.Files.ClearLog();
+  desk.OpenCommands({"C:\\Many\\*.*"});
+  EXPECT_EQ(desk.Menu.Labels, 1000);
+  EXPECT_EQ(desk.World.Files.Count("List"), 1);
+  EXPECT_EQ(desk.Menu.Lbl[1].Caption(), "file 1000.txt");
+}
+
+}  // namespace
+}  // namespace corvelle
