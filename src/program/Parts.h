@@ -7,9 +7,11 @@
 #include "menus/frmQMenu.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
+#include "toolbar/frmImage.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
 #include "toolbar/frmToolbar.h"
+#include "toolbar/mAppBar.h"
 
 namespace corvelle {
 
@@ -33,6 +35,8 @@ class Parts {
 
   Program TheProgram;
   frmToolbar Toolbar{TheProgram};
+  mAppBar Docking{TheProgram, Toolbar};
+  frmImage StillPicture{TheProgram, Toolbar};
   frmQMenu Menu{TheProgram};
   frmMinimize Companion{TheProgram};
   frmStartup Startup{TheProgram};
