@@ -19,7 +19,6 @@ void Program::SaveOptionFlags() {
 }
 
 void Program::SaveEdgeFlags() {
-  if (EdgePending) return;
   corvelle::SaveEdgeFlags(OptionFlags, AppBarDocked || (WasDocked && ToolbarMinimized),
                           ToolbarEdge);
 }

@@ -60,9 +60,6 @@ class Program {
   /// Where a strip at an edge belongs, twips.
   float PinnedLeft = 0;
   float PinnedTop = 0;
-  /// The options ask for an edge that cannot be given in this run: the strip hugs the top meanwhile
-  /// and the options keep the request.
-  bool EdgePending = false;
 
   // Guards against what arrives while a rebuild lets events through.
   bool AppBarBusy = false;

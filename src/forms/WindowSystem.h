@@ -107,6 +107,12 @@ struct PeerSpec {
   bool InTaskbar = false;  // a form that shows a button in the task bar when it is visible
 };
 
+/// What a window shows, and where it stands on the screen.
+struct WindowPicture {
+  std::unique_ptr<Canvas> Pixels;
+  PixelRect Bounds;
+};
+
 using TimerId = std::uint32_t;
 
 /// A home for forms: the real Windows or the simulated desktop. One thread.
@@ -120,6 +126,13 @@ class WindowSystem {
 
   /// A bitmap of this size in pixels (at least 1 by 1), all black.
   virtual std::unique_ptr<Canvas> CreateCanvas(PixelSize size) = 0;
+
+  /// A copy of what a window of this program shows now, its child windows included. No pixels when
+  /// it is not visible. What other windows cover, or lies off the screen, may be black.
+  virtual WindowPicture PictureOfWindow(WindowId window) = 0;
+  /// A copy of a part of the screen; what lies outside the screen is black. Null when `part` is
+  /// empty.
+  virtual std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) = 0;
 
   /// Size in pixels of one line of text as DrawString draws it. The height does not depend on the
   /// text.

@@ -134,6 +134,10 @@ void frmQMenu::OfferItem() {
 
 void frmQMenu::Timer1_Timer() {
   if (program_.MenuBuilding) return;
+  // A still picture of the menu does not outlive the rebuild that it was made for.
+  if (CapturePort* const capture = program_.Ports.Capture) {
+    if (capture->MenuCaptured()) capture->ReleaseMenu();
+  }
   const WindowId active = program_.Services.Desktop.ActiveWindow();
   const bool over = PointerOver();
   const bool ours =

@@ -10,6 +10,9 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
     : TheProgram(services, windows) {
   WindowPorts& ports = TheProgram.Ports;
   ports.Toolbar = &Toolbar;
+  ports.Docking = &Docking;
+  ports.Capture = &StillPicture;
+  ports.ImageWindow = &StillPicture;
   ports.QMenu = &Menu;
   ports.Minimize = &Companion;
   ports.Startup = &Startup;

@@ -9,9 +9,11 @@
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
 #include "toolbar/DragImage.h"
+#include "toolbar/frmImage.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
 #include "toolbar/frmToolbar.h"
+#include "toolbar/mAppBar.h"
 
 namespace corvelle {
 
@@ -35,6 +37,8 @@ class Parts {
 
   Program TheProgram;
   frmToolbar Toolbar{TheProgram};
+  mAppBar Docking{TheProgram, Toolbar};
+  frmImage StillPicture{TheProgram, Toolbar};
   frmQMenu Menu{TheProgram};
   FolderMenus TheFolderMenus{TheProgram};
   frmMinimize Companion{TheProgram};

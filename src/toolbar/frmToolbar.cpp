@@ -154,8 +154,6 @@ void frmToolbar::ReadPlacement() {
   program_.ReadEdgeFlags();
   program_.AutoHide = program_.OptionFlags.Is(3);
   if (!program_.AppBarRequested || program_.Ports.Docking != nullptr) return;
-  // No edge can be given in this run. The strip hugs the top, and the options keep the wish.
-  program_.EdgePending = true;
   program_.AppBarRequested = false;
   program_.ToolbarVertical = false;
   program_.ToolbarEdge = "TOP";
@@ -317,10 +315,13 @@ void frmToolbar::InitNewButtons() {
 void frmToolbar::RebuildAtTop() {
   program_.ToolbarReady = false;
   program_.AppBarBusy = true;
+  CapturePort* const capture = program_.Ports.Capture;
+  if (capture != nullptr) capture->SetPicture1();
   UnloadItems();
   if (IsLoaded()) InitButtons();
   if (IsLoaded()) Show();
   program_.AppBarBusy = false;
+  if (capture != nullptr && ImageLoaded()) capture->ResetPicture1();
 }
 
 void frmToolbar::RestoreToolbar() {
@@ -333,7 +334,6 @@ void frmToolbar::RestoreToolbar() {
   program_.AppBarDocked = false;
   program_.ToolbarVertical = false;
   program_.ToolbarEdge = "TOP";
-  program_.EdgePending = false;
   InitNewButtons();
   program_.RestoreBusy = false;
   if (!IsLoaded()) return;

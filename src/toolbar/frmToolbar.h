@@ -117,7 +117,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void Form_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
   /// Follows the pointer while a menu or a hint is up.
   void Timer2_Timer();
-  /// Carries out a pending focus request, and stops itself when nothing hides.
+  /// Carries out a pending focus request. With Auto Hide it hides a strip that the pointer left and
+  /// brings it back when the pointer touches its line; without, it stops itself.
   void Timer1_Timer();
 
   // ---- dragging entries (frmToolbarDrag.cpp) ----
@@ -150,6 +151,13 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void BringToForeground() override;
   void ShowAndRefresh() override;
   void HideWindow() override { Hide(); }
+  /// Hides all that is on the strip: what remains is a line, or bare.
+  void HideContents();
+  /// After a strip came out of hiding under a full-screen program: puts it before the window that
+  /// covers it.
+  void EnsureToolbarVisible();
+  /// Ends a move of the strip: it takes the place that the screen and the options let it have.
+  void AdjustToolbarPosition();
 
   // ---- controls, from the back to the front ----
 
@@ -207,6 +215,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
  protected:
   void Form_Load() override;
   void Form_Unload() override;
+  void Form_Activate() override;
   void Form_Deactivate() override;
   // Only the companion's end ends the program: a strip that is asked to close stays, and what it
   // has to save when the session ends is saved when the companion unloads it.
@@ -292,6 +301,11 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void ShowFramePopup(std::string_view tag);
   void FollowFrame(forms::MouseButton down, float x, float y);
   void RevealFromLine();
+  /// Shows where the strip would go, and what a pull along its own edge looks like.
+  void FollowPull();
+  void ClearOutline();
+  /// Goes to the edge of the outline. False when there is none to go to.
+  bool EndPull();
   void DrawDragLook();
   void EndSlide();
 
@@ -306,6 +320,15 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   std::optional<std::intptr_t> ShellNotify(std::uintptr_t what, std::intptr_t lParam);
   void FollowColours();
   void FollowDisplay();
+  /// Finds the strip's place anew after bars or the screen have changed.
+  void FollowBars();
+  void KeepPinned();
+  void HideAndReveal();
+  [[nodiscard]] bool MayHide(PixelPoint pointer, WindowId under) const;
+  [[nodiscard]] bool MustReveal(PixelPoint pointer, WindowId under) const;
+  [[nodiscard]] bool ImageLoaded() const;
+  /// The window's upper left corner in pixels.
+  [[nodiscard]] PixelPoint CornerPixels() const;
 
   Program& program_;
   std::vector<MenuRecord> records_;  // of the buttons, by their index
@@ -319,6 +342,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   bool focusRequested_ = false;
   Rgb baseColor_ = 0;
   int baseWidth_ = 0;  // pixels of the screen
+  int baseHeight_ = 0;
 };
 
 }  // namespace corvelle

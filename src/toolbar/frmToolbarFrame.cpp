@@ -1,8 +1,11 @@
 // The strip's frame and its grip, by which the strip is moved.
 
 #include <cmath>
+#include <string>
 
 #include "core/Program.h"
+#include "forms/Scale.h"
+#include "platform/Input.h"
 #include "platform/SystemInfo.h"
 #include "toolbar/StripPlace.h"
 #include "toolbar/frmToolbar.h"
@@ -77,13 +80,6 @@ void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shi
   if (!program_.RestoreBusy && !program_.AppBarBusy) FollowFrame(down, x, y);
 }
 
-void frmToolbar::RevealFromLine() {
-  if (program_.Ports.Docking == nullptr || program_.HideBusy) return;
-  program_.HideBusy = true;
-  program_.Ports.Docking->RevealToolbar();
-  program_.HideBusy = false;
-}
-
 void frmToolbar::FollowFrame(forms::MouseButton down, float x, float y) {
   if (FrameHasMoved({DownX, DownY}, {x, y}, TwipsX, TwipsY)) FrameMoved = true;
   if (!FrameMoved || !forms::Has(down, forms::MouseButton::Left)) {
@@ -92,9 +88,54 @@ void frmToolbar::FollowFrame(forms::MouseButton down, float x, float y) {
   }
   FrameDragging = true;
   Timer2.SetEnabled(false);
-  if (!SlidesAlongTop(y, Height(), Where(), AtEdge())) return;
+  if (!SlidesAlongTop(y, Height(), Where(), AtEdge())) {
+    FollowPull();
+    return;
+  }
+  ClearOutline();
   DrawDragLook();
   SetLeft(SlideLeft(x, Left(), picToolbar.Width(), GrabX));
+}
+
+void frmToolbar::FollowPull() {
+  CapturePort* const capture = program_.Ports.Capture;
+  if (program_.Ports.Docking == nullptr || capture == nullptr) return;
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const PixelSize size = forms::ToPixels(0, 0, screen.Width, screen.Height, screen).Size();
+  const Edge wanted = ChooseEdge(program_.Services.Pointer.PointerPosition(), size);
+  if (EdgeText(wanted) == program_.ToolbarEdge) {
+    ClearOutline();
+    DrawDragLook();
+  } else {
+    DrawBorders();
+    capture->SetPosition(EdgeText(wanted));
+  }
+}
+
+void frmToolbar::ClearOutline() {
+  CapturePort* const capture = program_.Ports.Capture;
+  if (capture != nullptr && !capture->OutlineEdge().empty()) capture->ClearBg();
+}
+
+bool frmToolbar::EndPull() {
+  CapturePort* const capture = program_.Ports.Capture;
+  DockingPort* const docking = program_.Ports.Docking;
+  if (capture == nullptr || docking == nullptr) return false;
+  std::string edge = capture->OutlineEdge();
+  capture->ClearBg();
+  const bool alreadyThere =
+      edge == "TOP" && program_.ToolbarEdge == "TOP" && !program_.AppBarDocked;
+  LoadedWindow* const image = program_.Ports.ImageWindow;
+  // A side that is taken is told of by the docking, which then docks the strip in full sight.
+  if (image != nullptr) image->UnloadWindow();
+  if (edge.empty() || alreadyThere) return false;
+  DrawBorders();
+  docking->SetAppBar(edge, true);
+  if (!IsLoaded()) return true;
+  if (program_.AutoHide) docking->RevealToolbar();
+  SetFocus();
+  DrawBorders();
+  return true;
 }
 
 void frmToolbar::DrawDragLook() {
@@ -110,7 +151,13 @@ void frmToolbar::Form_MouseUp(forms::MouseButton button, forms::ShiftState /*shi
     ShowFramePopup("Toolbar");
     return;
   }
-  if (FrameMoved && !program_.AppBarDocked) EndSlide();
+  if (FrameMoved && !EndPull()) {
+    if (program_.AppBarDocked) {
+      DrawBorders();
+    } else {
+      EndSlide();
+    }
+  }
   FrameMoved = false;
   FrameDragging = false;
 }
@@ -121,6 +168,11 @@ void frmToolbar::ShowFramePopup(std::string_view tag) {
   EmptyCurrentItem();
   program_.Entry.CurMenuTag = tag;
   program_.Ports.Popup->ShowToolbarPopup();
+}
+
+void frmToolbar::AdjustToolbarPosition() {
+  FrameMoved = true;
+  Form_MouseUp(forms::MouseButton::Left, {}, 1, 1);
 }
 
 // The strip stays where it was left, as far as the screen and the options let it.

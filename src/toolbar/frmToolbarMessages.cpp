@@ -2,6 +2,8 @@
 
 #include "base/Numbers.h"
 #include "core/Program.h"
+#include "forms/Scopes.h"
+#include "platform/AppBars.h"
 #include "platform/DesktopWindows.h"
 #include "platform/SystemInfo.h"
 #include "toolbar/frmToolbar.h"
@@ -39,6 +41,9 @@ std::optional<std::intptr_t> frmToolbar::ToolbarWndProc(std::uint32_t message,
     case forms::message::DisplayChange:
       FollowDisplay();
       break;
+    case forms::message::TimeChange:
+      if (program_.AppBarDocked && program_.OptionFlags.Is(21)) UpdateLabelDate();
+      break;
     case forms::message::Move:
       if (!program_.AppBarDocked) CheckToolbarMove();
       break;
@@ -52,13 +57,14 @@ std::optional<std::intptr_t> frmToolbar::ToolbarWndProc(std::uint32_t message,
 std::optional<std::intptr_t> frmToolbar::ShellNotify(std::uintptr_t what, std::intptr_t lParam) {
   if (what == kFullScreenProgram) FullScreenNotify(lParam);
   if (!program_.AppBarDocked) return std::nullopt;
-  DockingPort* const docking = program_.Ports.Docking;
-  if (what == kPositionChanged && docking != nullptr && !program_.PosChangeRunning) {
-    program_.PosChangeRunning = true;
-    docking->SetAppBar("", false);
-    program_.PosChangeRunning = false;
-  }
+  if (what == kPositionChanged) FollowBars();
   return 0;
+}
+
+void frmToolbar::FollowBars() {
+  if (program_.Ports.Docking == nullptr || program_.PosChangeRunning) return;
+  const forms::FlagScope running(program_.PosChangeRunning);
+  program_.Ports.Docking->SetAppBar("", false);
 }
 
 void frmToolbar::FollowColours() {
@@ -69,15 +75,23 @@ void frmToolbar::FollowColours() {
 }
 
 void frmToolbar::FollowDisplay() {
-  const int before = baseWidth_;
+  const PixelSize before{baseWidth_, baseHeight_};
   CacheDisplayMetrics();
-  if (baseWidth_ != before) ResetCollections();
+  if (baseWidth_ != before.width) ResetCollections();
+  if (!IsLoaded() || before == PixelSize{baseWidth_, baseHeight_}) return;
+  // Not every shell tells its bars of another screen size.
+  if (program_.AppBarDocked) {
+    FollowBars();
+  } else if (Right() > program_.Windows.Screen().Width) {
+    SetToolbarPosition();
+  }
 }
 
 void frmToolbar::CacheDisplayMetrics() {
   const forms::ScreenInfo screen = program_.Windows.Screen();
   baseColor_ = program_.Windows.SystemColor(kButtonFaceIndex);
   baseWidth_ = RoundToInt(screen.Width / screen.TwipsPerPixelX);
+  baseHeight_ = RoundToInt(screen.Height / screen.TwipsPerPixelY);
 }
 
 void frmToolbar::FullScreenNotify(std::intptr_t entering) {
@@ -99,8 +113,18 @@ void frmToolbar::FullScreenNotify(std::intptr_t entering) {
 
 void frmToolbar::OnMoved(const PixelRect& bounds) {
   Form::OnMoved(bounds);
-  // Whoever moved the strip: one that is at no edge keeps its height on the screen.
-  if (subclassed_ && program_.ToolbarReady) CheckToolbarMove();
+  if (!subclassed_ || !program_.ToolbarReady) return;
+  // Whoever moved the strip: it belongs where its edge is, or at its height on the screen.
+  if (program_.AppBarDocked) {
+    KeepPinned();
+  } else {
+    CheckToolbarMove();
+  }
+}
+
+void frmToolbar::KeepPinned() {
+  if (program_.AutoHide || program_.PosChangeRunning) return;
+  Move(program_.PinnedLeft, program_.PinnedTop, Width(), Height());
 }
 
 void frmToolbar::CheckToolbarMove() {
@@ -147,13 +171,19 @@ void frmToolbar::Form_Deactivate() {
   if (hidden && !program_.MenuBuilding && !MenuRefreshing) ResetMenu();
 }
 
+void frmToolbar::Form_Activate() {
+  if (program_.Ports.Docking == nullptr) return;
+  AppBarRecord bar{.hWnd = hWnd()};
+  program_.Services.Bars.Message(abm::Activate, bar);
+}
+
 void frmToolbar::Timer1_Timer() {
   if (focusRequested_) {
     focusRequested_ = false;
     if (!MenuUp()) SetFocus();
   }
   if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
-      program_.PosChangeRunning || program_.RestoreBusy) {
+      program_.PosChangeRunning || program_.ButtonDragging || program_.RestoreBusy) {
     return;
   }
   if (program_.ToolbarMinimized) {
@@ -162,6 +192,9 @@ void frmToolbar::Timer1_Timer() {
     Timer1.SetEnabled(false);
   } else if (!program_.AutoHide) {
     Timer1.SetEnabled(false);
+  } else if (program_.Ports.Docking != nullptr && !program_.HideBusy) {
+    const forms::FlagScope busy(program_.HideBusy);
+    HideAndReveal();
   }
 }
 

@@ -251,8 +251,7 @@ void frmToolbar::Timer2_Timer() {
 
 // True if the user has gone to another program's window.
 bool frmToolbar::HasLeft(WindowId under) const {
-  const LoadedWindow* const image = program_.Ports.ImageWindow;
-  return !IsOursActive() && !IsOverMenu(under) && (image == nullptr || !image->WindowLoaded());
+  return !IsOursActive() && !IsOverMenu(under) && !ImageLoaded();
 }
 
 }  // namespace corvelle

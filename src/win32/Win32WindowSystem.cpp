@@ -29,6 +29,13 @@ void ForgetQuit() {
   PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
 }
 
+std::unique_ptr<Canvas> CopyOf(const Win32Canvas& source, const PixelRect& part,
+                               const std::shared_ptr<DrawingTools>& tools) {
+  auto copy = std::make_unique<MemoryCanvas>(part.Size(), tools);
+  copy->DrawCanvas(source, part, {0, 0});
+  return copy;
+}
+
 /// While one of ours holds a press, the pointer is ours wherever it is.
 bool PointerIsOurs() {
   if (GetCapture() != nullptr) return true;
@@ -63,6 +70,26 @@ std::unique_ptr<forms::WindowPeer> Win32WindowSystem::CreatePeer(const forms::Pe
 
 std::unique_ptr<Canvas> Win32WindowSystem::CreateCanvas(PixelSize size) {
   return std::make_unique<MemoryCanvas>(size, tools_);
+}
+
+forms::WindowPicture Win32WindowSystem::PictureOfWindow(WindowId window) {
+  const HWND handle = ToHwnd(window);
+  RECT place{};
+  if (IsWindowVisible(handle) == 0 || IsIconic(handle) != 0 || GetWindowRect(handle, &place) == 0) {
+    return {};
+  }
+  const PixelRect bounds = FromRect(place);
+  if (bounds.IsEmpty()) return {};
+  // The inside of a form is its whole window.
+  const ScreenCanvas shown(handle, bounds.Size(), tools_);
+  return {CopyOf(shown, RectAt({0, 0}, bounds.Size()), tools_), bounds};
+}
+
+std::unique_ptr<Canvas> Win32WindowSystem::PictureOfScreen(const PixelRect& part) {
+  if (part.IsEmpty()) return nullptr;
+  const ScreenCanvas screen(nullptr, {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)},
+                            tools_);
+  return CopyOf(screen, part, tools_);
 }
 
 PixelSize Win32WindowSystem::MeasureText(std::string_view text, const FontSpec& font) {

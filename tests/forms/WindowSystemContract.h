@@ -499,4 +499,36 @@ TEST_P(WindowSystemContract, TextIsWiderWithMoreCharactersAndAlwaysAsHigh) {
   EXPECT_GT(Windows().MeasureText("W", {.Points = 24}).height, none.height);
 }
 
+// Pictures.
+
+TEST_P(WindowSystemContract, AWindowsPictureShowsItWithItsChildrenAndTellsItsPlace) {
+  const auto peer = Make(notes_);
+  const auto child = MakeChild(*peer, {10, 10, 60, 40});
+  childNotes_.WhenPainted = [](Canvas& canvas) { canvas.FillBox({0, 0, 50, 30}, 0x00112233); };
+  child->Show(ShowKind::NoActivate);
+  EXPECT_EQ(Windows().PictureOfWindow(peer->Id()).Pixels, nullptr) << "not visible yet";
+  ShowAndSettle(*peer);
+  const WindowPicture seen = Windows().PictureOfWindow(peer->Id());
+  ASSERT_NE(seen.Pixels, nullptr);
+  EXPECT_EQ(seen.Bounds, kPlace);
+  EXPECT_EQ(seen.Pixels->Size(), kPlace.Size());
+  EXPECT_EQ(seen.Pixels->PixelAt({5, 5}), 0x00C0C0C0U);
+  EXPECT_EQ(seen.Pixels->PixelAt({30, 20}), 0x00112233U);
+  EXPECT_EQ(Windows().PictureOfWindow(kNoWindow).Pixels, nullptr);
+}
+
+TEST_P(WindowSystemContract, APartOfTheScreenIsShownAsItStands) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  const auto part = Windows().PictureOfScreen(
+      {kPlace.left + 5, kPlace.top + 5, kPlace.left + 25, kPlace.top + 15});
+  ASSERT_NE(part, nullptr);
+  EXPECT_EQ(part->Size(), (PixelSize{20, 10}));
+  EXPECT_EQ(part->PixelAt({3, 3}), 0x00C0C0C0U);
+  EXPECT_EQ(Windows().PictureOfScreen({10, 10, 10, 20}), nullptr);
+  const auto outside = Windows().PictureOfScreen({-20, -20, 10, 10});
+  ASSERT_NE(outside, nullptr);
+  EXPECT_EQ(outside->PixelAt({2, 2}), 0U);
+}
+
 }  // namespace corvelle::forms

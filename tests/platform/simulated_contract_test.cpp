@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/AppBarsContract.h"
 #include "platform/DesktopContract.h"
 #include "platform/ShellContract.h"
 #include "sim/World.h"
@@ -48,6 +49,30 @@ class SimulatedShell final : public ContractShell {
   sim::World world_;
 };
 
+class SimulatedBars final : public ContractBars {
+ public:
+  SimulatedBars() {
+    world_.Desktop.SetAnswer(
+        second_,
+        [this](std::uint32_t message, std::uintptr_t what, std::intptr_t) -> std::intptr_t {
+          if (message == 1174 && what == 1) ++news_;
+          return 0;
+        });
+  }
+  AppBars& Bars() override { return world_.Bars; }
+  PixelSize Screen() override { return {1024, 768}; }
+  WindowId First() override { return first_; }
+  WindowId Second() override { return second_; }
+  int NewsOfSecond() override { return news_; }
+  void Settle() override { world_.Desktop.Advance(100); }
+
+ private:
+  sim::World world_;
+  WindowId first_ = world_.Desktop.AddOtherWindow({.Title = "First bar"});
+  WindowId second_ = world_.Desktop.AddOtherWindow({.Title = "Second bar"});
+  int news_ = 0;
+};
+
 template <class Base, class Made>
 std::unique_ptr<Base> Make() {
   return std::make_unique<Made>();
@@ -55,6 +80,8 @@ std::unique_ptr<Base> Make() {
 
 INSTANTIATE_TEST_SUITE_P(Simulated, DesktopContract,
                          testing::Values(&Make<ContractDesktop, SimulatedDesktop>));
+INSTANTIATE_TEST_SUITE_P(Simulated, AppBarsContract,
+                         testing::Values(&Make<ContractBars, SimulatedBars>));
 INSTANTIATE_TEST_SUITE_P(Simulated, ShellContract,
                          testing::Values(&Make<ContractShell, SimulatedShell>));
 

@@ -146,6 +146,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
+  forms::WindowPicture PictureOfWindow(WindowId window) override;
+  std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) override;
   PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
   Rgb SystemColor(int index) const override;
   forms::ScreenInfo Screen() const override;

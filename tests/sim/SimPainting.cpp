@@ -1,5 +1,9 @@
 // What windows owe to paint, and what the screen shows.
 
+#include <algorithm>
+#include <memory>
+#include <utility>
+
 #include "sim/SimDesktop.h"
 
 namespace corvelle::sim {
@@ -70,6 +74,24 @@ void SimDesktop::Compose(SimCanvas& screen, const SimWindow& window) const {
   for (auto child = window.Children.rbegin(); child != window.Children.rend(); ++child) {
     Compose(screen, *Look(*child));
   }
+}
+
+forms::WindowPicture SimDesktop::PictureOfWindow(WindowId window) {
+  if (!IsShown(window)) return {};
+  // The window by itself on a screen that is large enough for it.
+  const PixelRect bounds = BoundsOf(window);
+  SimCanvas alone({std::max(bounds.right, 1), std::max(bounds.bottom, 1)}, options_.TwipsPerPixel);
+  Compose(alone, *Look(window));
+  auto copy = std::make_unique<SimCanvas>(bounds.Size(), options_.TwipsPerPixel);
+  copy->DrawCanvas(alone, bounds, {0, 0});
+  return {std::move(copy), bounds};
+}
+
+std::unique_ptr<Canvas> SimDesktop::PictureOfScreen(const PixelRect& part) {
+  if (part.IsEmpty()) return nullptr;
+  auto copy = std::make_unique<SimCanvas>(part.Size(), options_.TwipsPerPixel);
+  copy->DrawCanvas(Picture(), part, {0, 0});
+  return copy;
 }
 
 SimCanvas SimDesktop::Picture() const {

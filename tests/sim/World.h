@@ -50,9 +50,9 @@ class World {
   SimFileAssociations Associations;
   SimSystemInfo System;
   SimShellFolders Folders;
-  SimAppBars Bars;
   SimTrayIcons Tray;
   SimDesktop Desktop;
+  SimAppBars Bars{Desktop};
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
   /// has some.

@@ -12,32 +12,10 @@
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
 #include "toolbar/frmToolbar.h"
+#include "toolbar/mAppBar.h"
 
 namespace corvelle {
 namespace {
-
-/// A screen edge that always has room.
-class RoomyEdge final : public DockingPort {
- public:
-  RoomyEdge(Program& program, frmToolbar& strip) : program_(program), strip_(strip) {}
-  void RegisterAppBar() override {}
-  void RemoveAppBar() override {}
-  void EndAppBar() override {}
-  bool AutoHideFree(std::string_view) override { return true; }
-  void SetAppBar(std::string_view, bool) override {
-    strip_.UnloadItems();
-    strip_.InitButtons();
-    program_.AppBarDocked = true;
-  }
-  void RevealToolbar() override {}
-  void HideToolbar() override {}
-  void ShowAutoHideTaken() override {}
-  void ResizeToEdge() override {}
-
- private:
-  Program& program_;
-  frmToolbar& strip_;
-};
 
 class NoStartupLink final : public StartupLinkPort {
  public:
@@ -69,12 +47,14 @@ struct Installation {
     ports.QMenu = &Menu;
     ports.Minimize = &Companion;
     ports.Startup = &Startup;
+    ports.Docking = &Docking;
     ports.StartupLink = &Link;
     ports.DefaultEntries = &Entries;
   }
 
   Program TheProgram;
   frmToolbar Strip{TheProgram};
+  mAppBar Docking{TheProgram, Strip};
   frmQMenu Menu{TheProgram};
   frmMinimize Companion{TheProgram};
   frmStartup Startup{TheProgram};
@@ -92,27 +72,15 @@ class WholeStart : public testing::Test {
 
 TEST_F(WholeStart, AFreshInstallationEndsWithTheDefaultFlagsAndNoOthers) {
   Installation fresh(world);
-  RoomyEdge edge(fresh.TheProgram, fresh.Strip);
-  fresh.TheProgram.Ports.Docking = &edge;
   world.Desktop.Answer(forms::msgbox::AnswerNo);
   ASSERT_TRUE(Main(fresh.TheProgram));
   EXPECT_EQ(fresh.Entries.Calls, 1);
   EXPECT_EQ(fresh.TheProgram.ToolbarEdge, "RIGHT");
+  // 38 pixels of a large button and the frame, the whole screen high.
+  EXPECT_EQ(world.Desktop.BoundsOf(fresh.Strip.hWnd()), (PixelRect{982, 0, 1024, 768}));
+  EXPECT_EQ(world.Bars.WorkArea(), (PixelRect{0, 0, 982, 768}));
   fresh.Companion.Unload();
   EXPECT_EQ(Flags(), "11000000000001110010000101000001");
-}
-
-TEST_F(WholeStart, AnEdgeThatCannotBeGivenIsStillAskedForNextTime) {
-  for (int start = 1; start <= 2; ++start) {
-    Installation installed(world);
-    if (start == 1) world.Desktop.Answer(forms::msgbox::AnswerNo);
-    ASSERT_TRUE(Main(installed.TheProgram));
-    EXPECT_TRUE(installed.TheProgram.EdgePending);
-    EXPECT_EQ(installed.TheProgram.ToolbarEdge, "TOP");
-    EXPECT_TRUE(world.Desktop.IsShown(installed.Strip.hWnd()));
-    installed.Companion.Unload();
-    EXPECT_EQ(Flags().substr(13, 3), "111") << "start " << start;
-  }
 }
 
 TEST_F(WholeStart, TheSecondStartAsksNothingAndMakesNoEntries) {
@@ -135,6 +103,7 @@ TEST_F(WholeStart, TheEndLeavesNoWindowAndNoTimer) {
   world.Desktop.Answer(forms::msgbox::AnswerNo);
   ASSERT_TRUE(Main(program.TheProgram));
   program.Companion.Unload();
+  EXPECT_EQ(world.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
   for (const char* name : {"frmToolbar", "frmQMenu", "frmMinimize", "frmStartup", "picToolbar"}) {
     EXPECT_EQ(world.Desktop.Find(name), kNoWindow) << name;
   }

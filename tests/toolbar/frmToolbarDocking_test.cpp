@@ -84,7 +84,6 @@ TEST(ToolbarDocking, ARequestedEdgeIsDocked) {
     EXPECT_EQ(desk.Docking.Asked, expected);
     EXPECT_EQ(desk.TheProgram.ToolbarVertical, row.vertical);
     EXPECT_FALSE(desk.TheProgram.AppBarRequested);
-    EXPECT_FALSE(desk.TheProgram.EdgePending);
   }
 }
 

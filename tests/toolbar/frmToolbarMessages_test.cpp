@@ -164,7 +164,6 @@ TEST(ToolbarMove, IsLeftAloneWhileTheStripIsPlacedAnew) {
   };
   const Row rows[] = {{"starting up", &Program::StartingUp},
                       {"a repositioning", &Program::AppBarBusy},
-                      {"docked", &Program::AppBarDocked},
                       {"a restore", &Program::RestoreBusy}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);

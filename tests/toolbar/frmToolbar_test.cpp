@@ -334,22 +334,17 @@ TEST(ToolbarPosition, AnEndBeforeTheStripWasPlacedLeavesTheSavedPlace) {
   EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000));
 }
 
-TEST(ToolbarPosition, AnEdgeThatCannotBeGivenIsKeptInTheOptions) {
+TEST(ToolbarPosition, AProgramWithoutDockingHugsTheTopWhateverEdgeIsAskedFor) {
   StripDesk desk;
   desk.SetOption(14, true);
   desk.SetOption(15, true);
   desk.PutButtons(1);
   desk.Start();
-  EXPECT_TRUE(desk.TheProgram.EdgePending);
   EXPECT_FALSE(desk.TheProgram.AppBarRequested);
   EXPECT_FALSE(desk.TheProgram.ToolbarVertical);
   EXPECT_EQ(desk.TheProgram.ToolbarEdge, "TOP");
   EXPECT_EQ(desk.Strip.Top(), -7 * 15);
   EXPECT_TRUE(desk.Strip.Visible());
-  desk.Exit();
-  const auto flags = desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat");
-  ASSERT_TRUE(flags);
-  EXPECT_EQ(flags->substr(13, 3), "110");
 }
 
 TEST(ToolbarBadInput, AMenuFileHeldByAnotherProgramIsLeftOutAndTheRestStands) {
@@ -515,11 +510,9 @@ TEST(ToolbarRebuild, RestoreLeavesAnEdgeForTheTop) {
   desk.PutButtons(1);
   desk.Start();
   desk.TheProgram.ToolbarEdge = "BOTTOM";
-  desk.TheProgram.EdgePending = true;
   desk.Strip.RestoreToolbar();
   EXPECT_EQ(desk.TheProgram.ToolbarEdge, "TOP");
   EXPECT_FALSE(desk.TheProgram.RestoreBusy);
-  EXPECT_FALSE(desk.TheProgram.EdgePending);
   EXPECT_TRUE(desk.Strip.Visible());
 }
 

@@ -1,0 +1,151 @@
+#include "toolbar/AppBarRules.h"
+
+#include "base/Numbers.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kTopFrame = 3;     // pixels of the frame that a bar at the top hides above the screen
+constexpr float kProbeFar = 50;  // pixels along the strip: beyond its first button
+constexpr float kProbeNear = 10;
+constexpr float kFrame = 3;     // pixels of the strip's thickness besides its buttons
+constexpr float kFarFrame = 4;  // the same at the bottom and on the right
+
+int Pixels(float twips, float twipsOfAPixel) noexcept {
+  return RoundToInt(static_cast<double>(twips / twipsOfAPixel));
+}
+
+}  // namespace
+
+std::uint32_t ShellEdge(Edge at) noexcept {
+  switch (at) {
+    case Edge::Left:
+      return 0;
+    case Edge::Right:
+      return 2;
+    case Edge::Bottom:
+      return 3;
+    case Edge::Top:
+      break;
+  }
+  return 1;
+}
+
+PixelSize BarSize(Edge at, int thickness, PixelSize screen) noexcept {
+  return IsVertical(at) ? PixelSize{thickness, screen.height} : PixelSize{screen.width, thickness};
+}
+
+BarPlace CutToBar(Edge at, const PixelRect& offered, PixelSize bar, bool mayLift) noexcept {
+  BarPlace place{offered, 0};
+  PixelRect& rc = place.Reserved;
+  switch (at) {
+    case Edge::Left:
+      rc.right = rc.left + bar.width;
+      break;
+    case Edge::Right:
+      rc.left = rc.right - bar.width;
+      break;
+    case Edge::Bottom:
+      rc.top = rc.bottom - bar.height;
+      break;
+    case Edge::Top:
+      if (mayLift && rc.top == 0) place.Lift = kTopFrame;
+      rc.bottom = rc.top + bar.height - place.Lift;
+      break;
+  }
+  return place;
+}
+
+PixelRect BarWindow(Edge at, const BarPlace& place, PixelSize bar) noexcept {
+  const PixelRect& rc = place.Reserved;
+  if (IsVertical(at)) return RectAt(rc.TopLeft(), {bar.width, rc.bottom});
+  return RectAt({rc.left, rc.top - place.Lift}, {rc.right, bar.height});
+}
+
+bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner) noexcept {
+  switch (at) {
+    case Edge::Bottom:
+      return pointer.y < corner.y;
+    case Edge::Left:
+      return pointer.x > corner.x;
+    case Edge::Right:
+      return pointer.x < corner.x;
+    case Edge::Top:
+      break;
+  }
+  return pointer.y > corner.y;
+}
+
+bool PointerReveals(Edge at, PixelPoint pointer, PixelPoint corner) noexcept {
+  return !PointerIsOff(at, pointer, corner);
+}
+
+bool IsOffEdge(Edge at, const TwipRect& window, TwipSize screen) noexcept {
+  switch (at) {
+    case Edge::Bottom:
+      return window.Bottom() < screen.Height;
+    case Edge::Left:
+      return window.Left > 0;
+    case Edge::Right:
+      return window.Right() < screen.Width;
+    case Edge::Top:
+      break;
+  }
+  return window.Top > 0;
+}
+
+TwipPoint RevealedCorner(Edge at, const TwipRect& window, TwipSize twips) noexcept {
+  switch (at) {
+    case Edge::Bottom:
+      return {window.Left, window.Top - window.Height + twips.Height};
+    case Edge::Left:
+      return {window.Left, window.Top};
+    case Edge::Right:
+      return {window.Left - window.Width + twips.Width, window.Top};
+    case Edge::Top:
+      break;
+  }
+  return {window.Left, window.Top == 0 ? -kTopFrame * twips.Height : window.Top};
+}
+
+PixelPoint ProbePoint(Edge at, const TwipRect& window, TwipSize twips) noexcept {
+  const float left = window.Left / twips.Width;
+  const float top = window.Top / twips.Height;
+  switch (at) {
+    case Edge::Left:
+      return {Pixels(window.Width / 2 + window.Left, twips.Width),
+              RoundToInt(static_cast<double>(top + kProbeFar))};
+    case Edge::Right:
+    case Edge::Bottom:
+      return {RoundToInt(static_cast<double>(left + kProbeNear)),
+              RoundToInt(static_cast<double>(top + kProbeNear))};
+    case Edge::Top:
+      break;
+  }
+  return {RoundToInt(static_cast<double>(left + kProbeFar)),
+          Pixels(window.Height / 2 + window.Top, twips.Height)};
+}
+
+TwipSize StretchedSingles(Edge at, const TwipRect& window, const TwipRect& singles,
+                          float twipsX) noexcept {
+  if (IsVertical(at)) return {singles.Width, window.Height - singles.Top - 2 * twipsX};
+  return {window.Width - singles.Left - 2 * twipsX, singles.Height};
+}
+
+TwipRect OutlineAt(Edge at, TwipSize button, TwipSize screen, TwipSize twips) noexcept {
+  const float width = button.Width + (at == Edge::Right ? kFarFrame : kFrame) * twips.Width;
+  const float height = button.Height + (at == Edge::Bottom ? kFarFrame : kFrame) * twips.Height;
+  switch (at) {
+    case Edge::Bottom:
+      return {0, screen.Height - height, screen.Width, height};
+    case Edge::Left:
+      return {0, 0, width, screen.Height};
+    case Edge::Right:
+      return {screen.Width - width, 0, width, screen.Height};
+    case Edge::Top:
+      break;
+  }
+  return {0, 0, screen.Width, height};
+}
+
+}  // namespace corvelle

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+
+#include "base/Edge.h"
+#include "base/Geometry.h"
+#include "base/Twips.h"
+
+namespace corvelle {
+
+// The strip as a bar of the shell: pure rules. Pixels of the screen unless told otherwise.
+
+/// The shell's number of an edge: 0 left, 1 top, 2 right, 3 bottom.
+[[nodiscard]] std::uint32_t ShellEdge(Edge at) noexcept;
+
+/// The whole length of an edge by the strip's thickness.
+[[nodiscard]] PixelSize BarSize(Edge at, int thickness, PixelSize screen) noexcept;
+
+/// What of the screen a bar keeps, and how far its window is pushed above the screen.
+struct BarPlace {
+  PixelRect Reserved;
+  int Lift = 0;
+
+  friend bool operator==(const BarPlace&, const BarPlace&) = default;
+};
+
+/// Cuts the room that the shell offers to the size of the bar. With `mayLift` a bar at a free top
+/// edge has its upper frame above the screen and keeps so much less of it.
+[[nodiscard]] BarPlace CutToBar(Edge at, const PixelRect& offered, PixelSize bar,
+                                bool mayLift) noexcept;
+
+/// Where the window of such a bar goes. Along its edge it reaches as far as the shell's answer
+/// says, counted from the screen's corner.
+[[nodiscard]] PixelRect BarWindow(Edge at, const BarPlace& place, PixelSize bar) noexcept;
+
+/// True if the pointer is past the inner side of a docked strip's line, so that the strip may hide;
+/// `corner` is the upper left corner of the strip's window.
+[[nodiscard]] bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner) noexcept;
+
+/// True if the pointer is on or outside of a docked strip's line, which reveals the strip.
+[[nodiscard]] bool PointerReveals(Edge at, PixelPoint pointer, PixelPoint corner) noexcept;
+
+/// True if the line of a hidden strip does not touch its edge of the screen: another bar lies
+/// outside of it. Twips.
+[[nodiscard]] bool IsOffEdge(Edge at, const TwipRect& window, TwipSize screen) noexcept;
+
+/// Where a strip goes that comes out of its line; `window` has the strip's full size already.
+/// Twips; `twips` are those of a pixel on both axes.
+[[nodiscard]] TwipPoint RevealedCorner(Edge at, const TwipRect& window, TwipSize twips) noexcept;
+
+/// A point of the strip at which another window would show that it covers the strip. `window` in
+/// twips; a strip at no edge is looked at like one at the top.
+[[nodiscard]] PixelPoint ProbePoint(Edge at, const TwipRect& window, TwipSize twips) noexcept;
+
+/// Size of the box of single buttons when it reaches to the end of the window. Twips. The room left
+/// at the end is two of the horizontal pixels on both axes.
+[[nodiscard]] TwipSize StretchedSingles(Edge at, const TwipRect& window, const TwipRect& singles,
+                                        float twipsX) noexcept;
+
+/// Where the strip would stand at an edge, by its template button: for the outline that follows a
+/// pull. Twips, with the whole length of the screen's edge.
+[[nodiscard]] TwipRect OutlineAt(Edge at, TwipSize button, TwipSize screen,
+                                 TwipSize twips) noexcept;
+
+}  // namespace corvelle

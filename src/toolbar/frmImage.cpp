@@ -1,0 +1,166 @@
+#include "toolbar/frmImage.h"
+
+#include <utility>
+
+#include "base/Edge.h"
+#include "base/Numbers.h"
+#include "core/Program.h"
+#include "forms/Scale.h"
+#include "forms/Scopes.h"
+#include "platform/DesktopWindows.h"
+#include "toolbar/AppBarRules.h"
+#include "toolbar/StripLook.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kBand = 4;  // pixels of the outline's sides
+
+}  // namespace
+
+frmImage::frmImage(Program& program, const frmToolbar& strip)
+    : Form(program.Windows, "frmImage"),
+      bLine1(*this, "bLine1"),
+      bLine2(*this, "bLine2"),
+      bLine3(*this, "bLine3"),
+      bLine4(*this, "bLine4"),
+      program_(program),
+      strip_(strip) {
+  ShowLines(false);
+}
+
+void frmImage::Form_Load() { SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide); }
+
+void frmImage::Form_Unload() {
+  menuCaptured_ = false;
+  Tag.clear();
+  ShowLines(false);
+  SetBackground(nullptr);
+}
+
+void frmImage::ShowLines(bool visible) {
+  for (forms::Line* line : {&bLine1, &bLine2, &bLine3, &bLine4}) line->SetVisible(visible);
+}
+
+void frmImage::PlaceAt(const PixelRect& bounds) {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  Move(static_cast<float>(bounds.left) * screen.TwipsPerPixelX,
+       static_cast<float>(bounds.top) * screen.TwipsPerPixelY,
+       static_cast<float>(bounds.Width()) * screen.TwipsPerPixelX,
+       static_cast<float>(bounds.Height()) * screen.TwipsPerPixelY);
+}
+
+// A still picture.
+
+bool frmImage::Cover(WindowId window) {
+  const forms::WindowPicture seen = program_.Windows.PictureOfWindow(window);
+  if (seen.Pixels == nullptr) return false;
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const PixelRect shown =
+      Intersect(seen.Bounds, forms::ToPixels(0, 0, screen.Width, screen.Height, screen));
+  if (shown.IsEmpty() || !Load()) return false;
+  std::unique_ptr<Canvas> picture = program_.Windows.CreateCanvas(shown.Size());
+  const PixelPoint corner{shown.left - seen.Bounds.left, shown.top - seen.Bounds.top};
+  picture->DrawCanvas(*seen.Pixels, RectAt(corner, shown.Size()), {0, 0});
+  PlaceAt(shown);
+  SetBackground(std::move(picture));
+  ShowNoActivate();
+  Refresh();
+  return true;
+}
+
+void frmImage::CaptureMenu() {
+  const QMenuPort* const menu = program_.Ports.QMenu;
+  if (menuCaptured_ || menu == nullptr || !menu->MenuVisible()) return;
+  ClearBg();
+  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->SetPointerWatch(false);
+  menuCaptured_ = Cover(menu->WindowHandle());
+}
+
+void frmImage::ReleaseMenu() {
+  if (menuCaptured_) {
+    menuCaptured_ = false;
+    Hide();
+    program_.DoEvents();
+    program_.Windows.SetMousePointer(forms::MousePointer::Default);
+    QMenuPort* const menu = program_.Ports.QMenu;
+    if (menu != nullptr && menu->MenuVisible()) {
+      menu->SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
+      program_.Services.Desktop.PaintVisibleWindows();
+      if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->SetPointerWatch(true);
+    }
+  }
+  Unload();
+}
+
+void frmImage::SetPicture1() {
+  if (!program_.OptionFlags.Is(4) || program_.ChangingMode || !strip_.Visible()) return;
+  ClearBg();
+  Cover(strip_.hWnd());
+}
+
+void frmImage::ResetPicture1() {
+  program_.DoEvents();
+  Hide();
+  Unload();
+}
+
+// The outline.
+
+// Moves arrive while the outline is being shown: the last of them says where it belongs.
+void frmImage::SetPosition(std::string_view edge) {
+  if (!Load()) return;
+  Tag = edge;
+  if (program_.MovingToolbar) return;
+  const forms::FlagScope moving(program_.MovingToolbar);
+  for (std::string shown; IsLoaded() && !Tag.empty() && shown != Tag;) {
+    shown = Tag;
+    ShowOutline(shown);
+    program_.DoEvents();
+  }
+}
+
+void frmImage::ShowOutline(std::string_view edge) {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const float x = screen.TwipsPerPixelX;
+  const float y = screen.TwipsPerPixelY;
+  const ButtonRect& button = strip_.ToolbarButtons.front();
+  const TwipRect place =
+      OutlineAt(EdgeFromText(edge).value_or(Edge::Top), {button.Width, button.Height},
+                {screen.Width, screen.Height}, {x, y});
+  const PixelRect bounds =
+      forms::ToPixels(place.Left, place.Top, place.Width, place.Height, screen);
+  if (Visible() && bounds == forms::ToPixels(Left(), Top(), Width(), Height(), screen)) return;
+  // What lies under the new place is seen without the outline at the old one.
+  if (Visible()) {
+    Hide();
+    program_.Services.Desktop.PaintVisibleWindows();
+  }
+  SetBackground(program_.Windows.PictureOfScreen(bounds));
+  PlaceAt(bounds);
+  const float w = static_cast<float>(bounds.Width()) * x;
+  const float h = static_cast<float>(bounds.Height()) * y;
+  // A line of four pixels covers one before its points and two behind them.
+  bLine1.SetPoints(0, y, w, y);
+  bLine2.SetPoints(x, 0, x, h);
+  bLine3.SetPoints(0, h - 3 * y, w, h - 3 * y);
+  bLine4.SetPoints(w - 3 * x, 0, w - 3 * x, h);
+  for (forms::Line* line : {&bLine1, &bLine2, &bLine3, &bLine4}) {
+    line->SetBorderColor(ColorValue(LineColor::Drag));
+    line->SetBorderWidth(kBand);
+  }
+  ShowLines(true);
+  ShowNoActivate();
+  Refresh();
+}
+
+void frmImage::ClearBg() {
+  Tag.clear();
+  if (!IsLoaded()) return;
+  Hide();
+  ShowLines(false);
+  SetBackground(nullptr);
+}
+
+}  // namespace corvelle

@@ -1,0 +1,74 @@
+// Auto Hide: when the strip hides and when it comes back.
+
+#include "core/Program.h"
+#include "forms/Scale.h"
+#include "forms/Scopes.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "toolbar/AppBarRules.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+
+bool frmToolbar::ImageLoaded() const {
+  return program_.Ports.ImageWindow != nullptr && program_.Ports.ImageWindow->WindowLoaded();
+}
+
+void frmToolbar::HideContents() {
+  picToolbar.SetVisible(false);
+  picSingleButton.SetVisible(false);
+  for (forms::Line* line : {&bLine1, &bLine2, &bLine3, &bLine4, &bLineXY}) line->SetVisible(false);
+}
+
+void frmToolbar::HideAndReveal() {
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  if (MayHide(pointer, under)) {
+    program_.Ports.Docking->HideToolbar();
+    if (!IsLoaded()) return;
+    UpdateLabelDate();
+  }
+  if (MustReveal(pointer, under)) {
+    program_.Ports.Docking->RevealToolbar();
+    EnsureToolbarVisible();
+  }
+}
+
+bool frmToolbar::MayHide(PixelPoint pointer, WindowId under) const {
+  const bool overOurs =
+      under == hWnd() || under == picToolbar.hWnd() || under == picSingleButton.hWnd();
+  if (overOurs || ImageLoaded() || MenuUp() || !picToolbar.Visible() || IsOursActive()) {
+    return false;
+  }
+  return !program_.AppBarDocked || PointerIsOff(AtEdge(), pointer, CornerPixels());
+}
+
+bool frmToolbar::MustReveal(PixelPoint pointer, WindowId under) const {
+  if (picToolbar.Visible() && Visible()) return false;
+  if (!program_.AppBarDocked) return under == hWnd() && !picToolbar.Visible();
+  return PointerReveals(AtEdge(), pointer, CornerPixels());
+}
+
+PixelPoint frmToolbar::CornerPixels() const {
+  return forms::ToPixels(Left(), Top(), program_.Windows.Screen());
+}
+
+void frmToolbar::RevealFromLine() {
+  if (program_.Ports.Docking == nullptr || program_.HideBusy) return;
+  const forms::FlagScope busy(program_.HideBusy);
+  program_.Ports.Docking->RevealToolbar();
+  EnsureToolbarVisible();
+}
+
+void frmToolbar::EnsureToolbarVisible() {
+  if (!program_.FullScreenApp || program_.OptionFlags.Is(4)) return;
+  program_.DoEvents();
+  if (!IsLoaded()) return;
+  const Edge at = program_.AppBarDocked ? AtEdge() : Edge::Top;
+  const WindowId there =
+      program_.Services.Desktop.WindowAt(ProbePoint(at, WindowBounds(), {TwipsX, TwipsY}));
+  if (there == hWnd() || there == picToolbar.hWnd()) return;
+  SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
+}
+
+}  // namespace corvelle

@@ -1,0 +1,281 @@
+#include "toolbar/mAppBar.h"
+
+#include "base/Numbers.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+TwipRect BoundsOf(const forms::Control& control) {
+  return {control.Left(), control.Top(), control.Width(), control.Height()};
+}
+
+}  // namespace
+
+// What is said to the shell.
+
+std::uintptr_t mAppBar::Send(std::uint32_t message) {
+  AppBarData.hWnd = strip_.hWnd();
+  return program_.Services.Bars.Message(message, AppBarData);
+}
+
+void mAppBar::RegisterAppBar() {
+  AppBarData.uCallbackMessage = forms::message::AppBarCallback;
+  Send(abm::New);
+}
+
+void mAppBar::RemoveAppBar() {
+  const forms::FlagScope busy(program_.AppBarBusy);
+  GiveUpHiding();
+  Send(abm::Remove);
+  RegisterAppBar();
+}
+
+void mAppBar::EndAppBar() { Send(abm::Remove); }
+
+// The claim is given up at the side where it was made, before the record turns to another one.
+void mAppBar::GiveUpHiding() {
+  if (AppBarData.lParam == 0) return;
+  AppBarData.lParam = 0;
+  Send(abm::SetAutoHideBar);
+}
+
+bool mAppBar::AutoHideFree(std::string_view edge) {
+  AppBarRecord asked = AppBarData;
+  asked.hWnd = strip_.hWnd();
+  asked.uEdge = ShellEdge(EdgeFromText(edge).value_or(Edge::Top));
+  const std::uintptr_t holder = program_.Services.Bars.Message(abm::GetAutoHideBar, asked);
+  return holder == 0 || holder == strip_.hWnd();
+}
+
+void mAppBar::ShowAutoHideTaken() {
+  program_.Windows.ShowMessage(kNoWindow,
+                               "A toolbar is already hidden on this side of your screen.\r\n"
+                               "You can have only one auto-hide toolbar per side.",
+                               "Corvelle", forms::msgbox::IconStop | forms::msgbox::OnTop);
+}
+
+// Measures.
+
+Edge mAppBar::CurrentEdge() const { return EdgeFromText(program_.ToolbarEdge).value_or(Edge::Top); }
+
+TwipSize mAppBar::Twips() const {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  return {screen.TwipsPerPixelX, screen.TwipsPerPixelY};
+}
+
+PixelSize mAppBar::ScreenPixels() const {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  return {RoundToInt(static_cast<double>(screen.Width / screen.TwipsPerPixelX)),
+          RoundToInt(static_cast<double>(screen.Height / screen.TwipsPerPixelY))};
+}
+
+void mAppBar::MoveWindow(const PixelRect& bounds) {
+  const TwipSize twips = Twips();
+  strip_.Move(static_cast<float>(bounds.left) * twips.Width,
+              static_cast<float>(bounds.top) * twips.Height,
+              static_cast<float>(bounds.Width()) * twips.Width,
+              static_cast<float>(bounds.Height()) * twips.Height);
+}
+
+void mAppBar::PinHere() {
+  program_.PinnedLeft = strip_.Left();
+  program_.PinnedTop = strip_.Top();
+}
+
+// The one entry for every change of edge or size.
+
+bool mAppBar::Waits() const {
+  return program_.ToolbarMinimized || program_.Entry.ItemDragging || program_.ButtonDragging ||
+         program_.MenuFormBusy ||
+         (program_.PosChangeRunning && (program_.AppBarBusy || program_.RestoreBusy));
+}
+
+void mAppBar::SetAppBar(std::string_view edge, bool rebuild) {
+  if (!strip_.IsLoaded() || Waits()) return;
+  program_.ToolbarReady = false;
+  if (program_.PosChangeRunning && AppBarPosChanged()) {
+    program_.ToolbarReady = strip_.IsLoaded();
+    return;
+  }
+  program_.AppBarBusy = true;
+  program_.AppBarRequested = true;
+  CapturePort* const capture = program_.Ports.Capture;
+  if (strip_.Visible() && capture != nullptr) capture->SetPicture1();
+  // A text that is no edge leaves the strip where it belongs.
+  if (const auto wanted = EdgeFromText(edge)) program_.ToolbarEdge = EdgeText(*wanted);
+  const Edge at = CurrentEdge();
+  TurnTo(program_.ToolbarEdge, rebuild);
+  if (strip_.IsLoaded()) PlaceAt(at);
+  program_.AppBarBusy = false;
+  program_.AppBarRequested = false;
+  const LoadedWindow* const image = program_.Ports.ImageWindow;
+  if (capture != nullptr && image != nullptr && image->WindowLoaded()) {
+    capture->ResetPicture1();
+    if (strip_.IsLoaded()) strip_.Refresh();
+  }
+  if (!strip_.IsLoaded()) return;
+  PinHere();
+  program_.ToolbarReady = true;
+}
+
+// A strip that turns, or has not stood at an edge yet, is built anew.
+void mAppBar::TurnTo(std::string_view edge, bool rebuild) {
+  const bool vertical = IsVertical(EdgeFromText(edge).value_or(Edge::Top));
+  const bool turns = program_.ToolbarVertical != vertical;
+  if (rebuild || !program_.AppBarDocked || turns) {
+    program_.ToolbarVertical = vertical;
+    strip_.UnloadItems();
+    if (strip_.IsLoaded()) strip_.InitButtons();
+    return;
+  }
+  if (vertical && program_.OptionFlags.Is(26) && program_.OptionFlags.Is(24)) {
+    strip_.DoSingleButtons();
+    strip_.SetControls();
+  }
+}
+
+void mAppBar::PlaceAt(Edge at) {
+  const std::string_view edge = EdgeText(at);
+  if (program_.NotOnTop) {
+    DockNotOnTop(edge);
+  } else if (!program_.AutoHide) {
+    DockAppBar(edge);
+  } else if (!AutoHideAppBar(edge)) {
+    return;
+  }
+  if (strip_.IsLoaded()) FinishPlacing(at);
+}
+
+void mAppBar::FinishPlacing(Edge at) {
+  strip_.SetControls();
+  StretchSingles(at);
+  strip_.DoLabelDate();
+  if (program_.AutoHide) {
+    HideIfOffEdge();
+  } else {
+    strip_.DrawBorders();
+    strip_.ShowNoActivate();
+    strip_.Refresh();
+  }
+  if (program_.StartingUp && program_.AutoHide) RevealToolbar();
+  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->InitIcons();
+  program_.Windows.SetMousePointer(forms::MousePointer::Default);
+  strip_.SetFocus();
+}
+
+void mAppBar::StretchSingles(Edge at) {
+  const TwipSize size =
+      StretchedSingles(at, BoundsOf(strip_), BoundsOf(strip_.picSingleButton), Twips().Width);
+  strip_.picSingleButton.Move(strip_.picSingleButton.Left(), strip_.picSingleButton.Top(),
+                              size.Width, size.Height);
+}
+
+void mAppBar::ResizeToEdge() {
+  strip_.SetControls();
+  StretchSingles(CurrentEdge());
+  strip_.DrawBorders();
+  strip_.DoLabelDate();
+}
+
+// Standing at an edge.
+
+PixelSize mAppBar::WholeEdge(Edge at) const {
+  const TwipSize twips = Twips();
+  const bool vertical = IsVertical(at);
+  const float thickness = vertical ? strip_.Width() / twips.Width : strip_.Height() / twips.Height;
+  return BarSize(at, RoundToInt(static_cast<double>(thickness)), ScreenPixels());
+}
+
+BarPlace mAppBar::AskForPlace(Edge at, PixelSize bar, bool mayLift) {
+  AppBarData.uEdge = ShellEdge(at);
+  AppBarData.rc = RectAt({0, 0}, ScreenPixels());
+  Send(abm::QueryPos);
+  const BarPlace place = CutToBar(at, AppBarData.rc, bar, mayLift);
+  AppBarData.rc = place.Reserved;
+  return place;
+}
+
+// The shell may push the near side on; the far side follows.
+BarPlace mAppBar::KeepPlace(Edge at, PixelSize bar, bool mayLift) {
+  Send(abm::SetPos);
+  const BarPlace place = CutToBar(at, AppBarData.rc, bar, mayLift);
+  AppBarData.rc = place.Reserved;
+  return place;
+}
+
+void mAppBar::DockAppBar(std::string_view edge) {
+  StandAt(EdgeFromText(edge).value_or(CurrentEdge()), true);
+}
+
+void mAppBar::DockNotOnTop(std::string_view edge) {
+  StandAt(EdgeFromText(edge).value_or(CurrentEdge()), false);
+}
+
+void mAppBar::StandAt(Edge at, bool keepsRoom) {
+  strip_.SetVisible(false);
+  ComeOutOfHiding();
+  const PixelSize bar = WholeEdge(at);
+  GiveUpHiding();
+  BarPlace place = AskForPlace(at, bar, true);
+  if (keepsRoom) {
+    LoadedWindow* const image = program_.Ports.ImageWindow;
+    CapturePort* const capture = program_.Ports.Capture;
+    if (capture != nullptr && image != nullptr && image->WindowLoaded()) capture->ClearBg();
+    place = KeepPlace(at, bar, true);
+    program_.DoEvents();
+    if (!strip_.IsLoaded()) return;
+  }
+  const PixelRect window = BarWindow(at, place, bar);
+  MoveWindow(window);
+  strip_.ShowNoActivate();
+  program_.DoEvents();
+  if (!strip_.IsLoaded()) return;
+  MoveWindow(window);
+  program_.DoEvents();
+  if (!strip_.IsLoaded()) return;
+  program_.AppBarDocked = true;
+  PinHere();
+}
+
+// A strip that was a line has its buttons and its thickness again.
+void mAppBar::ComeOutOfHiding() {
+  if (strip_.picToolbar.Visible()) return;
+  strip_.picToolbar.SetVisible(true);
+  strip_.picSingleButton.SetVisible(true);
+  strip_.SetControls();
+}
+
+bool mAppBar::AppBarPosChanged() {
+  const forms::FlagScope busy(program_.AppBarBusy);
+  const PixelRect before = AppBarData.rc;
+  const Edge at = CurrentEdge();
+  const PixelSize bar = WholeEdge(at);
+  const bool lifts = !program_.AutoHide;
+  BarPlace place = AskForPlace(at, bar, lifts);
+  if (place.Reserved != before) {
+    // A strip that hides keeps no room.
+    if (!program_.NotOnTop && !program_.AutoHide) place = KeepPlace(at, bar, lifts);
+    MoveWindow(BarWindow(at, place, bar));
+    StretchSingles(at);
+    program_.DoEvents();
+    if (!strip_.IsLoaded()) return true;
+  }
+  if (program_.AutoHide) {
+    if (AutoHideFree(program_.ToolbarEdge)) {
+      AutoHideAppBar(program_.ToolbarEdge);
+      if (program_.AutoHide) HideIfOffEdge();
+    } else {
+      program_.OptionFlags.Set(3, false);
+      program_.AutoHide = false;
+      StandAt(at, !program_.NotOnTop);
+      if (strip_.IsLoaded()) ResizeToEdge();
+    }
+  }
+  if (strip_.IsLoaded()) PinHere();
+  return true;
+}
+
+}  // namespace corvelle

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/Edge.h"
+#include "base/Geometry.h"
+#include "base/Twips.h"
+#include "core/WindowPorts.h"
+#include "platform/AppBars.h"
+#include "toolbar/AppBarRules.h"
+
+namespace corvelle {
+
+class frmToolbar;
+class Program;
+
+/// The strip as an application desktop toolbar: it is registered with the shell, keeps a screen
+/// edge for itself or hides there behind a line of one pixel, and follows the shell's notices.
+/// Screen rectangles are pixels, the strip's own measures twips. What the shell answers is used as
+/// it stands: it has no failures that a user could do something about, but for a side at which
+/// another window hides already.
+class mAppBar final : public DockingPort {
+ public:
+  mAppBar(Program& program, frmToolbar& strip) : program_(program), strip_(strip) {}
+  mAppBar(const mAppBar&) = delete;
+  mAppBar& operator=(const mAppBar&) = delete;
+
+  void RegisterAppBar() override;
+  void RemoveAppBar() override;
+  void EndAppBar() override;
+  [[nodiscard]] bool AutoHideFree(std::string_view edge) override;
+  void SetAppBar(std::string_view edge, bool rebuild) override;
+  void HideToolbar() override;
+  void RevealToolbar() override;
+  void ShowAutoHideTaken() override;
+  void ResizeToEdge() override;
+
+  /// Keeps room at the edge and stands the strip there, on top of all windows.
+  void DockAppBar(std::string_view edge);
+  /// Stands the strip at the edge and keeps no room, so that other windows may cover it.
+  void DockNotOnTop(std::string_view edge);
+  /// Shrinks the strip to a line at the edge and claims the edge for hiding. False when another
+  /// window hides there: the user was told, and the strip is docked in full sight.
+  bool AutoHideAppBar(std::string_view edge);
+  /// The answer to the news that bars have moved. True when it dealt with the change.
+  bool AppBarPosChanged();
+  /// Hides the strip wholly when its line does not touch the edge.
+  void HideIfOffEdge();
+
+ private:
+  std::uintptr_t Send(std::uint32_t message);
+  void GiveUpHiding();
+  [[nodiscard]] bool Waits() const;
+  void TurnTo(std::string_view edge, bool rebuild);
+  void PlaceAt(Edge at);
+  void FinishPlacing(Edge at);
+  void ComeOutOfHiding();
+  /// The whole edge by the strip's thickness as it is.
+  [[nodiscard]] PixelSize WholeEdge(Edge at) const;
+  /// Asks the shell for room at the edge.
+  BarPlace AskForPlace(Edge at, PixelSize bar, bool mayLift);
+  /// Keeps that room, or what the shell gives instead.
+  BarPlace KeepPlace(Edge at, PixelSize bar, bool mayLift);
+  void StandAt(Edge at, bool keepsRoom);
+  void MoveWindow(const PixelRect& bounds);
+  void StretchSingles(Edge at);
+  void PinHere();
+  [[nodiscard]] Edge CurrentEdge() const;
+  [[nodiscard]] TwipSize Twips() const;
+  [[nodiscard]] PixelSize ScreenPixels() const;
+
+  Program& program_;
+  frmToolbar& strip_;
+  /// Kept for the whole run. Its lParam remembers that the strip has claimed uEdge for hiding.
+  AppBarRecord AppBarData;
+};
+
+}  // namespace corvelle

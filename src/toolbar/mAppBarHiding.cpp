@@ -1,0 +1,80 @@
+// Auto Hide: the strip as a line of one pixel, and back.
+
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "toolbar/frmToolbar.h"
+#include "toolbar/mAppBar.h"
+
+namespace corvelle {
+
+bool mAppBar::AutoHideAppBar(std::string_view edge) {
+  const Edge at = EdgeFromText(edge).value_or(CurrentEdge());
+  program_.ToolbarEdge = EdgeText(at);
+  if (!AutoHideFree(program_.ToolbarEdge)) {
+    program_.OptionFlags.Set(3, false);
+    program_.AutoHide = false;
+    program_.AppBarBusy = false;
+    strip_.Timer1.SetEnabled(false);
+    program_.ToolbarReady = false;
+    ShowAutoHideTaken();
+    if (!strip_.IsLoaded()) return false;
+    SetAppBar(program_.ToolbarEdge, true);
+    if (!strip_.IsLoaded()) return false;
+    strip_.ShowNoActivate();
+    strip_.picToolbar.SetVisible(true);
+    strip_.picSingleButton.SetVisible(true);
+    program_.ToolbarReady = true;
+    return false;
+  }
+  const forms::FlagScope busy(program_.AppBarBusy);
+  const PixelSize bar = BarSize(at, 1, ScreenPixels());
+  if (AppBarData.uEdge != ShellEdge(at)) {
+    AppBarData.lParam = 0;
+    Send(abm::SetAutoHideBar);
+  }
+  AppBarData.uEdge = ShellEdge(at);
+  if (AppBarData.lParam == 0) {
+    AppBarData.lParam = 1;
+    Send(abm::SetAutoHideBar);
+  }
+  const BarPlace place = AskForPlace(at, bar, false);
+  MoveWindow(BarWindow(at, place, bar));
+  strip_.ShowNoActivate();
+  program_.AppBarDocked = true;
+  strip_.HideContents();
+  strip_.Timer1.SetEnabled(true);
+  return true;
+}
+
+void mAppBar::HideIfOffEdge() {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const TwipRect window = strip_.WindowBounds();
+  if (IsOffEdge(CurrentEdge(), window, {screen.Width, screen.Height})) strip_.SetVisible(false);
+}
+
+void mAppBar::HideToolbar() {
+  if (program_.AppBarDocked) {
+    if (AutoHideAppBar(program_.ToolbarEdge)) HideIfOffEdge();
+    return;
+  }
+  strip_.HideContents();
+  strip_.Timer1.SetEnabled(true);
+  strip_.ShowNoActivate();
+  strip_.Move(strip_.Left(), 0, strip_.Width(), Twips().Height);
+}
+
+void mAppBar::RevealToolbar() {
+  if (strip_.picToolbar.Visible()) return;
+  strip_.picToolbar.SetVisible(true);
+  strip_.picSingleButton.SetVisible(true);
+  strip_.SetControls();
+  strip_.DrawBorders();
+  if (program_.AppBarDocked) {
+    const TwipPoint corner = RevealedCorner(CurrentEdge(), strip_.WindowBounds(), Twips());
+    strip_.Move(corner.X, corner.Y, strip_.Width(), strip_.Height());
+  }
+  strip_.ShowNoActivate();
+  strip_.Refresh();
+}
+
+}  // namespace corvelle

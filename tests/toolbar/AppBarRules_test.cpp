@@ -1,0 +1,192 @@
+// The strip as a bar of the shell: rules by tables.
+
+#include "toolbar/AppBarRules.h"
+
+#include <gtest/gtest.h>
+
+namespace corvelle {
+namespace {
+
+constexpr PixelSize kScreen{1024, 768};
+
+TEST(AppBarRules, TheShellsNumbersOfTheEdges) {
+  EXPECT_EQ(ShellEdge(Edge::Left), 0U);
+  EXPECT_EQ(ShellEdge(Edge::Top), 1U);
+  EXPECT_EQ(ShellEdge(Edge::Right), 2U);
+  EXPECT_EQ(ShellEdge(Edge::Bottom), 3U);
+}
+
+TEST(AppBarRules, ABarIsAsLongAsItsEdge) {
+  EXPECT_EQ(BarSize(Edge::Left, 42, kScreen), (PixelSize{42, 768}));
+  EXPECT_EQ(BarSize(Edge::Right, 42, kScreen), (PixelSize{42, 768}));
+  EXPECT_EQ(BarSize(Edge::Top, 42, kScreen), (PixelSize{1024, 42}));
+  EXPECT_EQ(BarSize(Edge::Bottom, 42, kScreen), (PixelSize{1024, 42}));
+}
+
+TEST(AppBarRules, TheRoomIsCutToTheBarAndTheWindowStandsInIt) {
+  struct Row {
+    const char* name;
+    Edge at;
+    PixelRect offered;
+    bool mayLift;
+    PixelRect reserved;
+    int lift;
+    PixelRect window;
+  };
+  const Row rows[] = {
+      {"left", Edge::Left, {0, 0, 1024, 768}, true, {0, 0, 42, 768}, 0, {0, 0, 42, 768}},
+      {"left, above a task bar",
+       Edge::Left,
+       {0, 0, 1024, 740},
+       true,
+       {0, 0, 42, 740},
+       0,
+       {0, 0, 42, 740}},
+      {"left, beside another bar",
+       Edge::Left,
+       {60, 0, 1024, 768},
+       true,
+       {60, 0, 102, 768},
+       0,
+       {60, 0, 102, 768}},
+      {"right", Edge::Right, {0, 0, 1024, 768}, true, {982, 0, 1024, 768}, 0, {982, 0, 1024, 768}},
+      {"right, beside another bar",
+       Edge::Right,
+       {0, 0, 964, 768},
+       true,
+       {922, 0, 964, 768},
+       0,
+       {922, 0, 964, 768}},
+      {"bottom",
+       Edge::Bottom,
+       {0, 0, 1024, 768},
+       true,
+       {0, 726, 1024, 768},
+       0,
+       {0, 726, 1024, 768}},
+      {"bottom, above a task bar",
+       Edge::Bottom,
+       {0, 0, 1024, 740},
+       true,
+       {0, 698, 1024, 740},
+       0,
+       {0, 698, 1024, 740}},
+      {"a free top hides the upper frame",
+       Edge::Top,
+       {0, 0, 1024, 768},
+       true,
+       {0, 0, 1024, 39},
+       3,
+       {0, -3, 1024, 39}},
+      {"a free top without the lift",
+       Edge::Top,
+       {0, 0, 1024, 768},
+       false,
+       {0, 0, 1024, 42},
+       0,
+       {0, 0, 1024, 42}},
+      {"below another bar",
+       Edge::Top,
+       {0, 28, 1024, 768},
+       true,
+       {0, 28, 1024, 70},
+       0,
+       {0, 28, 1024, 70}},
+      // Along its edge the window reaches as far as the answer says, counted from the corner.
+      {"left, below another bar",
+       Edge::Left,
+       {0, 28, 1024, 768},
+       true,
+       {0, 28, 42, 768},
+       0,
+       {0, 28, 42, 796}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    const PixelSize bar = BarSize(row.at, 42, kScreen);
+    const BarPlace place = CutToBar(row.at, row.offered, bar, row.mayLift);
+    EXPECT_EQ(place.Reserved, row.reserved);
+    EXPECT_EQ(place.Lift, row.lift);
+    EXPECT_EQ(BarWindow(row.at, place, bar), row.window);
+  }
+}
+
+TEST(AppBarRules, ThePointerPastTheInnerSideHidesAndOnTheLineReveals) {
+  struct Row {
+    const char* name;
+    Edge at;
+    PixelPoint pointer;
+    PixelPoint corner;
+    bool off;
+  };
+  const Row rows[] = {{"top, on", Edge::Top, {500, 0}, {0, 0}, false},
+                      {"top, off", Edge::Top, {500, 1}, {0, 0}, true},
+                      {"bottom, on", Edge::Bottom, {500, 767}, {0, 767}, false},
+                      {"bottom, off", Edge::Bottom, {500, 766}, {0, 767}, true},
+                      {"left, on", Edge::Left, {0, 400}, {0, 0}, false},
+                      {"left, off", Edge::Left, {1, 400}, {0, 0}, true},
+                      {"right, on", Edge::Right, {1023, 400}, {1023, 0}, false},
+                      {"right, off", Edge::Right, {1022, 400}, {1023, 0}, true}};
+  for (const Row& row : rows) {
+    EXPECT_EQ(PointerIsOff(row.at, row.pointer, row.corner), row.off) << row.name;
+    EXPECT_EQ(PointerReveals(row.at, row.pointer, row.corner), !row.off) << row.name;
+  }
+}
+
+TEST(AppBarRules, ALineThatDoesNotTouchItsEdgeIsOff) {
+  constexpr TwipSize screen{15360, 11520};
+  EXPECT_FALSE(IsOffEdge(Edge::Top, {0, 0, 15360, 15}, screen));
+  EXPECT_TRUE(IsOffEdge(Edge::Top, {0, 15, 15360, 15}, screen));
+  EXPECT_FALSE(IsOffEdge(Edge::Bottom, {0, 11505, 15360, 15}, screen));
+  EXPECT_TRUE(IsOffEdge(Edge::Bottom, {0, 11490, 15360, 15}, screen));
+  EXPECT_FALSE(IsOffEdge(Edge::Right, {15345, 0, 15, 11520}, screen));
+  EXPECT_TRUE(IsOffEdge(Edge::Right, {15330, 0, 15, 11520}, screen));
+  EXPECT_FALSE(IsOffEdge(Edge::Left, {0, 0, 15, 11520}, screen));
+  EXPECT_TRUE(IsOffEdge(Edge::Left, {15, 0, 15, 11520}, screen));
+}
+
+TEST(AppBarRules, ARevealedStripComesInFromItsEdge) {
+  for (const float t : {15.0F, 12.0F, 10.0F}) {
+    const TwipSize twips{t, t};
+    EXPECT_EQ(RevealedCorner(Edge::Top, {0, 0, 100 * t, 40 * t}, twips), (TwipPoint{0, -3 * t}));
+    EXPECT_EQ(RevealedCorner(Edge::Top, {0, 28 * t, 100 * t, 40 * t}, twips),
+              (TwipPoint{0, 28 * t}));
+    EXPECT_EQ(RevealedCorner(Edge::Bottom, {0, 767 * t, 100 * t, 40 * t}, twips),
+              (TwipPoint{0, 728 * t}));
+    EXPECT_EQ(RevealedCorner(Edge::Right, {1023 * t, 0, 40 * t, 700 * t}, twips),
+              (TwipPoint{984 * t, 0}));
+    EXPECT_EQ(RevealedCorner(Edge::Left, {0, 0, 40 * t, 700 * t}, twips), (TwipPoint{0, 0}));
+  }
+}
+
+TEST(AppBarRules, ACoveringWindowIsLookedForOnTheStrip) {
+  constexpr TwipSize twips{15, 15};
+  EXPECT_EQ(ProbePoint(Edge::Top, {0, -45, 15360, 630}, twips), (PixelPoint{50, 18}));
+  EXPECT_EQ(ProbePoint(Edge::Left, {0, 0, 630, 11520}, twips), (PixelPoint{21, 50}));
+  EXPECT_EQ(ProbePoint(Edge::Right, {14730, 0, 630, 11520}, twips), (PixelPoint{992, 10}));
+  EXPECT_EQ(ProbePoint(Edge::Bottom, {0, 10890, 15360, 630}, twips), (PixelPoint{10, 736}));
+}
+
+TEST(AppBarRules, TheBoxOfSingleButtonsReachesToTheEndOfTheWindow) {
+  const TwipRect level{0, 0, 15360, 630};
+  const TwipRect upright{0, 0, 630, 11520};
+  const TwipRect singles{3000, 30, 200, 570};
+  EXPECT_EQ(StretchedSingles(Edge::Top, level, singles, 15), (TwipSize{12330, 570}));
+  EXPECT_EQ(StretchedSingles(Edge::Bottom, level, singles, 15), (TwipSize{12330, 570}));
+  EXPECT_EQ(StretchedSingles(Edge::Left, upright, {15, 3000, 570, 9}, 15), (TwipSize{570, 8490}));
+  // Two of the horizontal pixels on both axes.
+  EXPECT_EQ(StretchedSingles(Edge::Right, upright, {15, 3000, 570, 9}, 12), (TwipSize{570, 8496}));
+}
+
+TEST(AppBarRules, TheOutlineIsWhereTheStripWouldStand) {
+  constexpr TwipSize button{570, 570};
+  constexpr TwipSize screen{15360, 11520};
+  constexpr TwipSize twips{15, 15};
+  EXPECT_EQ(OutlineAt(Edge::Top, button, screen, twips), (TwipRect{0, 0, 15360, 615}));
+  EXPECT_EQ(OutlineAt(Edge::Bottom, button, screen, twips), (TwipRect{0, 10890, 15360, 630}));
+  EXPECT_EQ(OutlineAt(Edge::Left, button, screen, twips), (TwipRect{0, 0, 615, 11520}));
+  EXPECT_EQ(OutlineAt(Edge::Right, button, screen, twips), (TwipRect{14730, 0, 630, 11520}));
+}
+
+}  // namespace
+}  // namespace corvelle

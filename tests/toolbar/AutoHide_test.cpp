@@ -1,0 +1,378 @@
+// Auto Hide: the strip as a line, and how it comes back.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "toolbar/DockDesk.h"
+
+namespace corvelle {
+namespace {
+
+constexpr char kTaken[] =
+    "A toolbar is already hidden on this side of your screen.\r\n"
+    "You can have only one auto-hide toolbar per side.";
+
+struct HidingDesk : DockDesk {
+  explicit HidingDesk(const sim::WorldOptions& options = {}) : DockDesk(options) {
+    SetOption(3, true);
+  }
+  void StartHidden(Edge at) {
+    StartAt(at);
+    GoElsewhere();
+    Poll();
+    World.Bars.ClearLog();
+  }
+};
+
+struct LineRow {
+  const char* name;
+  Edge at;
+  PixelRect line;
+  PixelRect revealed;
+  PixelPoint touch;
+};
+
+const LineRow kLines[] = {
+    {"top", Edge::Top, {0, 0, 1024, 1}, {0, -3, 1024, 38}, {500, 0}},
+    {"bottom", Edge::Bottom, {0, 767, 1024, 768}, {0, 726, 1024, 768}, {500, 767}},
+    {"left", Edge::Left, {0, 0, 1, 768}, {0, 0, 41, 768}, {0, 400}},
+    {"right", Edge::Right, {1023, 0, 1024, 768}, {982, 0, 1024, 768}, {1023, 400}}};
+
+TEST(AutoHide, AStartShowsTheStripAndClaimsTheSideWithoutKeepingRoom) {
+  HidingDesk desk;
+  desk.AskFor(Edge::Right);
+  desk.Start();
+  // Asked once before it is docked and once when it is.
+  EXPECT_EQ(desk.World.Bars.Log(),
+            (Messages{"new", "getautohide 2", "getautohide 2", "setautohide 0 0", "setautohide 2 1",
+                      "querypos 2", "activate"}));
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), desk.Strip.hWnd());
+  EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
+  EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+}
+
+TEST(AutoHide, WhoGoesElsewhereLeavesALineAndATouchBringsTheStripBack) {
+  for (const float t : {15.0F, 12.0F, 10.0F}) {
+    for (const LineRow& row : kLines) {
+      SCOPED_TRACE(std::string(row.name) + " " + std::to_string(t));
+      HidingDesk desk({.TwipsPerPixel = t});
+      desk.StartAt(row.at);
+      EXPECT_EQ(desk.Bounds(), row.revealed);
+      // The strip has the keyboard: it stays.
+      desk.PointAt({500, 400});
+      desk.Poll();
+      EXPECT_EQ(desk.Bounds(), row.revealed);
+      desk.GoElsewhere();
+      desk.Poll();
+      EXPECT_EQ(desk.Bounds(), row.line);
+      EXPECT_TRUE(desk.IsLine());
+      EXPECT_TRUE(desk.Shown());
+      desk.PointAt(row.touch);
+      desk.Poll();
+      EXPECT_EQ(desk.Bounds(), row.revealed);
+      EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+      EXPECT_TRUE(desk.Strip.picSingleButton.Visible());
+      // A look is no choice: the other program keeps the keyboard, and the strip goes again.
+      EXPECT_NE(desk.World.Desktop.ActiveWindow(), desk.Strip.hWnd());
+      desk.PointAt({500, 400});
+      desk.Poll();
+      EXPECT_EQ(desk.Bounds(), row.line);
+    }
+  }
+}
+
+TEST(AutoHide, TheClaimIsMadeOnceAndMovesWithTheEdge) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Right);
+  desk.PointAt({1023, 400});
+  desk.GoElsewhere();
+  desk.Poll();
+  EXPECT_EQ(desk.World.Bars.Log(), (Messages{"getautohide 2", "querypos 2"}));
+  desk.World.Bars.ClearLog();
+  desk.Docking.SetAppBar("LEFT", true);
+  EXPECT_EQ(desk.World.Bars.Log(), (Messages{"getautohide 0", "setautohide 2 0", "setautohide 0 1",
+                                             "querypos 0", "activate"}));
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Left), desk.Strip.hWnd());
+}
+
+TEST(AutoHide, SwitchedOffItGivesUpTheClaimAndStandsInFullSight) {
+  for (const bool rebuild : {false, true}) {
+    SCOPED_TRACE(rebuild);
+    HidingDesk desk;
+    desk.StartHidden(Edge::Right);
+    desk.TheProgram.AutoHide = false;
+    desk.Docking.SetAppBar("", rebuild);
+    EXPECT_EQ(desk.World.Bars.Log(),
+              (Messages{"setautohide 2 0", "querypos 2", "setpos 2 982,0,1024,768", "activate"}));
+    EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+    EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+    EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
+    desk.Poll();
+    EXPECT_EQ(desk.WakeUps(2000), 0);
+  }
+}
+
+TEST(AutoHide, SwitchedOffOnTheWayToAnotherEdgeItGivesUpTheOldSide) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Right);
+  desk.TheProgram.AutoHide = false;
+  desk.Docking.SetAppBar("TOP", true);
+  EXPECT_EQ(desk.World.Bars.Log()[0], "setautohide 2 0");
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
+}
+
+TEST(AutoHide, RestoreGivesUpTheClaimToo) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Left);
+  desk.Strip.RestoreToolbar();
+  const Messages& log = desk.World.Bars.Log();
+  ASSERT_GE(log.size(), 3U);
+  EXPECT_EQ(log[0], "setautohide 0 0");
+  EXPECT_EQ(log[1], "remove");
+  EXPECT_EQ(log[2], "new");
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Left), kNoWindow);
+}
+
+TEST(AutoHide, ATakenSideAtTheStartIsGivenUpInSilence) {
+  HidingDesk desk;
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Another bar"});
+  desk.World.Bars.ClaimAutoHide(Edge::Right, other);
+  desk.StartAt(Edge::Right);
+  EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
+  EXPECT_FALSE(desk.TheProgram.AutoHide);
+  EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 982, 768}));
+}
+
+TEST(AutoHide, ASideTakenByAnotherIsToldOfOnceAndTheStripDocksInFullSight) {
+  HidingDesk desk;
+  desk.StartAt(Edge::Right);
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Another bar"});
+  desk.World.Bars.ClaimAutoHide(Edge::Left, other);
+  desk.World.Desktop.Answer(kTaken, forms::msgbox::AnswerOk);
+  desk.PullAndDrop(QuarterOf(Edge::Left));
+  ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Title, "Corvelle");
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Flags, 262160U);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Owner, kNoWindow);
+  EXPECT_EQ(desk.Bounds(), (PixelRect{0, 0, 41, 768}));
+  EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{41, 0, 1024, 768}));
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Left), other);
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
+  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(3));
+  EXPECT_FALSE(desk.TheProgram.AutoHide);
+  EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_FALSE(desk.TheProgram.AppBarBusy);
+  desk.Poll();
+  EXPECT_EQ(desk.WakeUps(2000), 0);
+}
+
+TEST(AutoHide, WhileTheMessageIsUpTheStripIsNotReady) {
+  HidingDesk desk;
+  desk.StartAt(Edge::Right);
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Another bar"});
+  desk.World.Bars.ClaimAutoHide(Edge::Left, other);
+  desk.World.Desktop.Answer(kTaken, forms::msgbox::AnswerOk);
+  bool ready = true;
+  desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) {
+    ready = desk.TheProgram.ToolbarReady;
+    desk.World.Bars.ClearLog();
+    desk.World.Bars.TellBars();
+    EXPECT_EQ(desk.World.Bars.Log(), Messages{});
+    desk.World.Desktop.Advance(1000);
+  });
+  desk.Docking.SetAppBar("LEFT", true);
+  EXPECT_FALSE(ready);
+  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+}
+
+TEST(AutoHide, AStripThatGoesWhileTheMessageIsUpIsNotTouchedAnyMore) {
+  HidingDesk desk;
+  desk.StartAt(Edge::Right);
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Another bar"});
+  desk.World.Bars.ClaimAutoHide(Edge::Left, other);
+  desk.World.Desktop.Answer(kTaken, forms::msgbox::AnswerOk);
+  desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { desk.Exit(); });
+  desk.Docking.SetAppBar("LEFT", true);
+  EXPECT_FALSE(desk.Strip.IsLoaded());
+  EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
+}
+
+TEST(AutoHide, BehindAnotherBarTheLineIsHiddenWhollyAndTheEdgeBringsItBack) {
+  struct Row {
+    const char* name;
+    Edge at;
+    PixelRect revealed;
+    PixelPoint touch;
+  };
+  const Row rows[] = {{"top", Edge::Top, {0, 30, 1024, 71}, {500, 5}},
+                      {"bottom", Edge::Bottom, {0, 696, 1024, 738}, {500, 760}},
+                      {"left", Edge::Left, {30, 0, 71, 768}, {5, 400}},
+                      {"right", Edge::Right, {952, 0, 994, 768}, {1020, 400}}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    HidingDesk desk;
+    desk.World.Bars.AddOtherBar(row.at, 30);
+    desk.StartHidden(row.at);
+    EXPECT_FALSE(desk.Shown());
+    desk.PointAt(row.touch);
+    desk.Poll();
+    EXPECT_TRUE(desk.Shown());
+    EXPECT_EQ(desk.Bounds(), row.revealed);
+    desk.GoElsewhere();
+    desk.Poll();
+    EXPECT_FALSE(desk.Shown());
+  }
+}
+
+TEST(AutoHide, ABarThatComesOutsideHidesTheLineAndItsEndShowsIt) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Left);
+  const WindowId other = desk.World.Bars.AddOtherBar(Edge::Left, 30);
+  EXPECT_FALSE(desk.Shown());
+  EXPECT_EQ(desk.World.Bars.KeptBy(desk.Strip.hWnd()), PixelRect{});
+  desk.World.Bars.RemoveOtherBar(other);
+  EXPECT_TRUE(desk.Shown());
+  EXPECT_EQ(desk.Bounds(), (PixelRect{0, 0, 1, 768}));
+}
+
+TEST(AutoHide, ASideThatAnotherTookMeanwhileIsGivenUpWithTheNextNews) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Left);
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Another bar"});
+  desk.World.Bars.ClaimAutoHide(Edge::Left, other);
+  desk.World.Bars.TellBars();
+  EXPECT_FALSE(desk.TheProgram.AutoHide);
+  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(3));
+  EXPECT_EQ(desk.Bounds(), (PixelRect{0, 0, 41, 768}));
+  EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{41, 0, 1024, 768}));
+  EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+  EXPECT_TRUE(desk.Strip.bLine4.Visible());
+}
+
+TEST(AutoHide, AFloatingStripHidesBehindALineAtTheTop) {
+  HidingDesk desk;
+  desk.Start();
+  const PixelRect shown = desk.Bounds();
+  ASSERT_EQ(shown.top, -7);
+  desk.GoElsewhere();
+  desk.Poll();
+  EXPECT_EQ(desk.Bounds(), (PixelRect{shown.left, 0, shown.right, 1}));
+  EXPECT_TRUE(desk.IsLine());
+  EXPECT_TRUE(desk.Shown());
+  // Whoever moves it, it keeps its line.
+  desk.World.Desktop.MoveOther(desk.Strip.hWnd(), {shown.left, 50, shown.right, 51});
+  EXPECT_EQ(desk.Bounds().top, 0);
+  // Beside the line nothing happens, on it the strip comes back.
+  desk.PointAt({shown.left - 40, 0});
+  desk.Poll();
+  EXPECT_TRUE(desk.IsLine());
+  desk.PointAt({shown.left + 20, 0});
+  desk.Poll();
+  EXPECT_EQ(desk.Bounds(), shown);
+  EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+}
+
+TEST(AutoHide, NothingHidesWhileAMenuOrAPictureIsUp) {
+  HidingDesk desk;
+  desk.StartAt(Edge::Right);
+  desk.GoElsewhere();
+  desk.Picture.LoadWindow();
+  desk.Poll();
+  EXPECT_FALSE(desk.IsLine());
+  desk.Picture.UnloadWindow();
+  desk.Menu.ShowNoActivate();
+  desk.Poll();
+  EXPECT_FALSE(desk.IsLine());
+  desk.Menu.Hide();
+  desk.Poll();
+  EXPECT_TRUE(desk.IsLine());
+}
+
+TEST(AutoHide, ThePointerOverTheStripKeepsIt) {
+  HidingDesk desk;
+  desk.StartAt(Edge::Right);
+  desk.GoElsewhere();
+  desk.PointAtButton(2);
+  desk.Poll();
+  EXPECT_FALSE(desk.IsLine());
+}
+
+TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Right);
+  // Under a full-screen program a reveal lets events through, and the pointer has gone on by then.
+  desk.TheProgram.FullScreenApp = true;
+  desk.World.Desktop.MoveOther(desk.World.Desktop.ForegroundWindow(), {0, 0, 1024, 768});
+  const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk] {
+    EXPECT_TRUE(desk.TheProgram.HideBusy);
+    desk.World.Bars.ClearLog();
+    desk.Strip.Timer1_Timer();
+    EXPECT_EQ(desk.World.Bars.Log(), Messages{});
+  });
+  desk.World.Desktop.Jump(5);
+  desk.TheProgram.HideBusy = false;
+  desk.Strip.Form_MouseMove(forms::MouseButton::None, {}, 0, 0);
+  desk.World.Desktop.StopTimer(inside);
+  EXPECT_FALSE(desk.TheProgram.HideBusy);
+  EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+}
+
+TEST(AutoHide, ARevealUnderAFullScreenProgramComesBeforeTheWindowThatCovers) {
+  for (const LineRow& row : kLines) {
+    SCOPED_TRACE(row.name);
+    HidingDesk desk;
+    desk.StartHidden(row.at);
+    desk.World.Bars.SetFullScreen(true);
+    const WindowId cover =
+        desk.World.Desktop.AddOtherWindow({.Title = "Full screen", .Bounds = {0, 0, 1024, 768}});
+    desk.World.Desktop.TakeForeground(cover);
+    desk.PointAt(row.touch);
+    // The covering window comes to the front again while the strip shows itself.
+    desk.Poll();
+    const PixelRect now = desk.Bounds();
+    EXPECT_EQ(now, row.revealed);
+    const PixelPoint middle{(std::max(now.left, 0) + now.right) / 2,
+                            (std::max(now.top, 0) + now.bottom) / 2};
+    const WindowId seen = desk.World.Desktop.WindowAt(middle);
+    EXPECT_TRUE(seen == desk.Strip.hWnd() || seen == desk.Strip.picToolbar.hWnd() ||
+                seen == desk.Strip.picSingleButton.hWnd());
+  }
+}
+
+TEST(AutoHide, ACoveredStripIsPutBeforeTheOtherOnlyUnderAFullScreenProgram) {
+  for (const bool fullScreen : {true, false}) {
+    for (const bool option4 : {false, true}) {
+      SCOPED_TRACE(std::to_string(fullScreen) + std::to_string(option4));
+      DockDesk desk;
+      desk.StartAt(Edge::Top);
+      desk.World.Bars.SetFullScreen(true);
+      desk.TheProgram.FullScreenApp = fullScreen;
+      desk.SetOption(4, option4);
+      const WindowId cover =
+          desk.World.Desktop.AddOtherWindow({.Title = "Full screen", .Bounds = {0, 0, 1024, 768}});
+      desk.World.Desktop.TakeForeground(cover);
+      desk.Strip.EnsureToolbarVisible();
+      const bool before = desk.World.Desktop.WindowAt({50, 20}) != cover;
+      EXPECT_EQ(before, fullScreen && !option4);
+    }
+  }
+}
+
+TEST(AutoHide, TheTimerDoesNoFileWork) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Right);
+  desk.World.Files.ClearLog();
+  desk.World.Desktop.ClearLog();
+  desk.Wait(10000);
+  EXPECT_TRUE(desk.World.Files.Log().empty());
+  EXPECT_TRUE(desk.World.Desktop.Log().empty());
+  EXPECT_TRUE(desk.World.Bars.Log().empty());
+}
+
+}  // namespace
+}  // namespace corvelle

@@ -1,0 +1,216 @@
+// Pulling the strip to another edge of the screen, and the outline that shows where it would go.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "toolbar/DockDesk.h"
+
+namespace corvelle {
+namespace {
+
+constexpr Rgb kRed = 255;
+
+/// True if the screen shows the outline around that rectangle and not in its middle.
+bool ShowsOutline(const DockDesk& desk, const PixelRect& r) {
+  const sim::SimCanvas screen = desk.World.Desktop.Picture();
+  const PixelPoint middle{(r.left + r.right) / 2, (r.top + r.bottom) / 2};
+  const auto isRed = [&](int x, int y) { return screen.PixelAt({x, y}) == kRed; };
+  bool all = true;
+  for (int i = 0; i < 4; ++i) {
+    all = all && isRed(r.left + i, middle.y) && isRed(r.right - 1 - i, middle.y) &&
+          isRed(middle.x, r.top + i) && isRed(middle.x, r.bottom - 1 - i);
+  }
+  return all && !isRed(r.left + 4, middle.y) && !isRed(middle.x, r.top + 4) &&
+         !isRed(r.right - 5, middle.y) && !isRed(middle.x, r.bottom - 5);
+}
+
+struct PullRow {
+  const char* name;
+  Edge at;
+  PixelRect outline;
+  PixelRect window;
+};
+
+const PullRow kPulls[] = {{"bottom", Edge::Bottom, {0, 726, 1024, 768}, {0, 726, 1024, 768}},
+                          {"left", Edge::Left, {0, 0, 41, 768}, {0, 0, 41, 768}},
+                          {"top", Edge::Top, {0, 0, 1024, 41}, {0, -3, 1024, 38}},
+                          {"right", Edge::Right, {982, 0, 1024, 768}, {982, 0, 1024, 768}}};
+
+TEST(ToolbarPull, TheOutlineFollowsTheHandAndTheStripGoesWhereItIsDropped) {
+  for (const PullRow& from : kPulls) {
+    for (const PullRow& to : kPulls) {
+      if (from.at == to.at) continue;
+      SCOPED_TRACE(std::string(from.name) + " to " + to.name);
+      DockDesk desk;
+      desk.StartAt(from.at);
+      desk.Pull(QuarterOf(to.at));
+      EXPECT_TRUE(ShowsOutline(desk, to.outline));
+      EXPECT_EQ(desk.Picture.OutlineEdge(), EdgeText(to.at));
+      EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Picture.hWnd()));
+      EXPECT_EQ(desk.Bounds(), from.window);
+      // The border rests while the outline is up.
+      EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
+      desk.World.Desktop.Release();
+      EXPECT_EQ(desk.Bounds(), to.window);
+      EXPECT_EQ(desk.TheProgram.ToolbarEdge, EdgeText(to.at));
+      EXPECT_FALSE(desk.Picture.IsLoaded());
+      EXPECT_FALSE(desk.Strip.FrameMoved);
+      EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Strip.hWnd());
+      EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
+    }
+  }
+}
+
+TEST(ToolbarPull, OverItsOwnEdgeTheStripLooksGrabbedAndStays) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Pull({30, 500});
+  EXPECT_EQ(desk.Strip.bLine3.BorderColor(), 255U);
+  EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 2);
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+  desk.World.Bars.ClearLog();
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
+  EXPECT_NE(desk.Strip.bLine3.BorderColor(), 255U);
+  EXPECT_EQ(desk.Bounds(), (PixelRect{0, 0, 41, 768}));
+  EXPECT_EQ(desk.World.Bars.Log(), Messages{});
+}
+
+TEST(ToolbarPull, BackOverItsOwnEdgeTheOutlineIsGone) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Pull(QuarterOf(Edge::Bottom));
+  EXPECT_TRUE(desk.World.Desktop.IsShown(desk.Picture.hWnd()));
+  desk.PointAt(QuarterOf(Edge::Left));
+  EXPECT_FALSE(desk.World.Desktop.IsShown(desk.Picture.hWnd()));
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
+  EXPECT_FALSE(desk.Picture.IsLoaded());
+}
+
+TEST(ToolbarPull, AcrossTheCornersTheLastEdgeHoldsUntilAnotherWins) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Pull(QuarterOf(Edge::Top));
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "TOP");
+  // Still above the diagonal from the middle (512, 384) to the corner (1024, 0).
+  desk.PointAt({1020, 2});
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "TOP");
+  EXPECT_TRUE(ShowsOutline(desk, {0, 0, 1024, 41}));
+  // On the diagonal the sides win.
+  desk.PointAt({1024 - 4, 3});
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "RIGHT");
+  desk.PointAt({1020, 300});
+  EXPECT_TRUE(ShowsOutline(desk, {982, 0, 1024, 768}));
+  desk.PointAt(QuarterOf(Edge::Bottom));
+  EXPECT_TRUE(ShowsOutline(desk, {0, 726, 1024, 768}));
+  // Where the outline was, the screen is as before.
+  EXPECT_FALSE(ShowsOutline(desk, {982, 0, 1024, 768}));
+  desk.World.Desktop.Release();
+}
+
+TEST(ToolbarPull, TheOutlineShowsTheScreenBelow) {
+  DockDesk desk;
+  desk.World.Desktop.AddOtherWindow({.Title = "Below", .Bounds = {0, 0, 1024, 768}});
+  desk.StartAt(Edge::Left);
+  const Rgb before = desk.World.Desktop.Picture().PixelAt({600, 747});
+  desk.Pull(QuarterOf(Edge::Bottom));
+  ASSERT_TRUE(desk.World.Desktop.IsShown(desk.Picture.hWnd()));
+  EXPECT_EQ(desk.World.Desktop.Picture().PixelAt({600, 747}), before);
+  desk.World.Desktop.Release();
+}
+
+TEST(ToolbarPull, AFloatingStripIsPulledToAnEdgeButNotToTheTop) {
+  for (const PullRow& row : kPulls) {
+    SCOPED_TRACE(row.name);
+    DockDesk desk;
+    desk.Start();
+    desk.Pull(QuarterOf(row.at));
+    if (row.at == Edge::Top) {
+      EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+      desk.World.Desktop.Release();
+      EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+      EXPECT_EQ(desk.Bounds().top, -7);
+    } else {
+      EXPECT_TRUE(ShowsOutline(desk, row.outline));
+      desk.World.Desktop.Release();
+      EXPECT_TRUE(desk.TheProgram.AppBarDocked);
+      EXPECT_EQ(desk.Bounds(), row.window);
+    }
+  }
+}
+
+TEST(ToolbarPull, ASlideThatComesBackFromAnEdgeSlidesOn) {
+  DockDesk desk;
+  desk.Start();
+  const int left = desk.Bounds().left;
+  desk.Pull(QuarterOf(Edge::Bottom));
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "BOTTOM");
+  desk.PointAt({400, 10});
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+  EXPECT_LT(desk.Bounds().left, left);
+  EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 2);
+  desk.World.Desktop.Release();
+  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+  EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
+}
+
+TEST(ToolbarPull, AHidingStripIsShownAtItsNewEdge) {
+  DockDesk desk;
+  desk.SetOption(3, true);
+  desk.StartAt(Edge::Right);
+  desk.PullAndDrop(QuarterOf(Edge::Bottom));
+  EXPECT_EQ(desk.Bounds(), (PixelRect{0, 726, 1024, 768}));
+  EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+  EXPECT_TRUE(desk.Strip.bLine1.Visible());
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Bottom), desk.Strip.hWnd());
+  EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
+  desk.GoElsewhere();
+  desk.Poll();
+  EXPECT_EQ(desk.Bounds(), (PixelRect{0, 767, 1024, 768}));
+}
+
+TEST(ToolbarPull, WhileTheGripIsHeldOtherBarsWait) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Pull(QuarterOf(Edge::Bottom));
+  desk.World.Bars.ClearLog();
+  desk.World.Bars.TellBars();
+  EXPECT_EQ(desk.World.Bars.Log(), Messages{});
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "BOTTOM");
+}
+
+TEST(ToolbarPull, AMoveThatArrivesWhileTheOutlineIsShownDecides) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Pull({30, 500});
+  // The hand goes on to the right while the outline at the bottom comes up.
+  const forms::TimerId timer =
+      desk.World.Desktop.StartTimer(1, [&desk] { desk.World.Desktop.MovePointer(960, 384); });
+  desk.World.Desktop.Jump(5);
+  desk.PointAt(QuarterOf(Edge::Bottom));
+  desk.World.Desktop.StopTimer(timer);
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "RIGHT");
+  EXPECT_TRUE(ShowsOutline(desk, {982, 0, 1024, 768}));
+  EXPECT_FALSE(desk.TheProgram.MovingToolbar);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
+}
+
+TEST(ToolbarPull, TheEndOfAMoveFromElsewhereStoresThePosition) {
+  DockDesk desk;
+  desk.Start();
+  desk.Strip.SetLeft(-300);
+  desk.Strip.AdjustToolbarPosition();
+  EXPECT_EQ(desk.Strip.Left(), 0);
+  EXPECT_EQ(desk.Strip.SavedLeft, 0);
+  EXPECT_TRUE(desk.World.Files.Has("C:\\Corvelle\\toolbarp.dat"));
+  EXPECT_FALSE(desk.Strip.FrameMoved);
+}
+
+}  // namespace
+}  // namespace corvelle
