@@ -33,7 +33,7 @@ void frmQMenu::TakeFocus() {
 void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*/, float y) {
   PrevItem = program_.SelectedItem;
   if (program_.MenuBuilding) return;
-  const bool dragging = program_.Entry.ItemDragging;
+  const bool dragging = program_.Entry.ItemDragging || program_.DragOverButton;
   if (down == MouseButton::None && !dragging &&
       program_.Services.Desktop.ActiveWindow() != hWnd()) {
     SetFocus();
@@ -131,7 +131,7 @@ void frmQMenu::OfferItem() {
 // ---- leaving ----
 
 void frmQMenu::Timer1_Timer() {
-  if (program_.MenuBuilding) return;
+  if (program_.MenuBuilding || program_.DragHolds()) return;
   const WindowId active = program_.Services.Desktop.ActiveWindow();
   const bool over = PointerOver();
   const bool ours =
