@@ -72,6 +72,10 @@ DragData DataOf(IDataObject* source) {
   return data;
 }
 
+// The system's interfaces have no virtual destructor, and nobody deletes through them.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
 /// OLE's way to one window. OLE may hold it longer than the window lives. As in the window's
 /// procedure, nothing may throw into the system: noexcept ends the program first.
 class DropTarget final : public IDropTarget {
@@ -143,6 +147,8 @@ class DropTarget final : public IDropTarget {
   std::weak_ptr<Win32Window> window_;
   DragData data_;  // of the drag that is over the window
 };
+
+#pragma GCC diagnostic pop
 
 }  // namespace
 

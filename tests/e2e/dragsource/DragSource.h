@@ -36,6 +36,10 @@ inline HGLOBAL BlockWith(const void* head, std::size_t headSize, const std::wstr
   return block;
 }
 
+// The system's interfaces have no virtual destructor, and nobody deletes through them.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
 class Data final : public IDataObject {
  public:
   explicit Data(Offer offer) : offer_(std::move(offer)) {}
@@ -124,6 +128,8 @@ class Source final : public IDropSource {
  private:
   DWORD button_;
 };
+
+#pragma GCC diagnostic pop
 
 /// The window, of the class "DragSource", in the foreground from the start on.
 class DragSource {
