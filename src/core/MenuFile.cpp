@@ -162,7 +162,12 @@ std::string MoveRecord(std::string records, int from, int before) {
 
 FileStatus RewriteMenuFile(FileSystem& files, std::string_view menusPath, std::string_view path,
                            const RecordsEdit& edit) {
-  const std::string temporary = std::string(menusPath) + std::string(kRewriteFileName);
+  return RewriteMenuFileBy(files, std::string(menusPath) + std::string(kRewriteFileName), path,
+                           edit);
+}
+
+FileStatus RewriteMenuFileBy(FileSystem& files, const std::string& temporary, std::string_view path,
+                             const RecordsEdit& edit) {
   if (files.FileExists(temporary)) {
     const FileStatus removed = files.Remove(temporary);
     if (!removed) return removed;

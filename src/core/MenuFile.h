@@ -65,6 +65,10 @@ using RecordsEdit = std::function<std::string(std::string records)>;
 FileStatus RewriteMenuFile(FileSystem& files, std::string_view menusPath, std::string_view path,
                            const RecordsEdit& edit);
 
+/// The same with a temporary name of the caller's.
+FileStatus RewriteMenuFileBy(FileSystem& files, const std::string& temporary, std::string_view path,
+                             const RecordsEdit& edit);
+
 /// Creates the file of a new menu button with one item, behind those there are, and gives its path.
 [[nodiscard]] FileResult<std::string> CreateButtonFile(FileSystem& files, const CodePage& ansi,
                                                        std::string_view menusPath);

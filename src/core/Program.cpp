@@ -1,8 +1,21 @@
 #include "core/Program.h"
 
 #include "core/OptionFlags.h"
+#include "platform/Input.h"
 
 namespace corvelle {
+
+bool Program::DragHolds() const {
+  constexpr int kLeftButtonKey = 1;
+  constexpr int kRightButtonKey = 2;
+  const Input& input = Services.Pointer;
+  return DragEntered && (input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey));
+}
+
+bool Program::TakesDrops() const noexcept {
+  return !StartingUp && !MenuBuilding && !IconsLoading && !ItemActionBusy && !MenuFormBusy &&
+         !AppBarBusy && !PosChangeRunning;
+}
 
 void Program::SetHint(std::string_view text) {
   if (Ports.Hint != nullptr) Ports.Hint->SetHint(text);

@@ -100,6 +100,14 @@ class Program {
   bool ButtonDragging = false;
   /// A carried entry is being put down: nothing else ends the carry meanwhile.
   bool ItemDropping = false;
+  /// Another program drags something over the strip or a menu that opened under the drag; it has
+  /// come over the strip, and its end is not dealt with yet.
+  bool DragOverButton = false;
+  bool DragEntered = false;
+  /// What it drags is a text that begins like a web address.
+  bool DragIsUrl = false;
+  /// The mouse buttons that it was last dragged with.
+  forms::MouseButton DragButtons = forms::MouseButton::None;
   /// A dropped web address waits for its dialog.
   bool WebLinkPending = false;
 
@@ -119,6 +127,12 @@ class Program {
 
   /// Lets waiting events run. Whoever calls it must be ready for anything to have happened.
   void DoEvents() { Windows.DoEvents(); }
+
+  /// True while another program's drag that came over the strip goes on: it decides which menu is
+  /// up, and the source keeps the foreground.
+  [[nodiscard]] bool DragHolds() const;
+  /// False while a file or a menu is being worked on: a drop waits, which OLE calls refusing it.
+  [[nodiscard]] bool TakesDrops() const noexcept;
 
   /// Shows the hint, or closes it when the text is empty.
   void SetHint(std::string_view text);

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Geometry.h"
 #include "base/Twips.h"
@@ -252,6 +253,9 @@ class SingleButtonsPort {
   virtual void PasteSingle(std::string_view file) = 0;
   /// Rewrites the files with the undo entry back in its place.
   virtual void UndoDeleteSB(std::string_view file) = 0;
+
+  /// Files that another program dropped at the pointer's place in the row, dragged with `button`.
+  virtual void DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) = 0;
 };
 
 /// Looks once, at start, how the shell shows icon files.
@@ -347,6 +351,8 @@ class WebLinkPort {
   virtual ~WebLinkPort() = default;
   /// Notes an address dropped on a button, on the row of single buttons (tag "SingleButtons") or in
   /// a menu, for `file`. The dialog opens when the drop has returned to the program it came from.
+  /// For an item of a menu (tag "F" and the button's index) the current entry is that item, and the
+  /// menu's capture is on; for the end of a button's menu the tag is the index alone.
   virtual void OfferWebLink(std::string_view url, std::string_view title, std::string_view tag,
                             std::string_view file) = 0;
 };

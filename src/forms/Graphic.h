@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/Control.h"
+#include "forms/DragDrop.h"
 #include "platform/Canvas.h"
 
 namespace corvelle::forms {
@@ -34,6 +35,9 @@ class Graphic : public Control {
   std::function<void(MouseButton, ShiftState, float, float)> MouseMove;
   std::function<void(MouseButton, ShiftState, float, float)> MouseUp;
   std::function<void()> DblClick;
+  /// Drags of other programs, likewise; without a handler they are the container's.
+  DragHandler OLEDragOver;
+  DragHandler OLEDragDrop;
 
  protected:
   Graphic(Surface& container, std::string name);

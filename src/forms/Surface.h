@@ -63,6 +63,12 @@ class Surface : public Window {
   std::function<void(MouseButton, ShiftState, float, float)> MouseMove;
   std::function<void(MouseButton, ShiftState, float, float)> MouseUp;
   std::function<void()> DblClick;
+  /// Drags of other programs over a surface that takes drops, in twips of the inside: over it
+  /// (again and again), dropped, and gone without a drop. A control without a window that has
+  /// handlers of its own gets the first two instead of its surface.
+  DragHandler OLEDragOver;
+  DragHandler OLEDragDrop;
+  std::function<void()> OLEDragLeave;
   /// Asked to draw what is not in the persistent image.
   std::function<void()> Paint;
 
@@ -79,6 +85,9 @@ class Surface : public Window {
   void OnMouseMove(MouseButton down, ShiftState shift, PixelPoint at) override;
   void OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) override;
   void OnDoubleClick(PixelPoint at) override;
+  DropEffect OnDragOver(DragData& data, DropEffect allowed, const DragPoint& where) override;
+  void OnDragLeave() override;
+  DropEffect OnDrop(DragData& data, DropEffect allowed, const DragPoint& where) override;
   void OnPaint(Canvas& canvas, const PixelRect& dirty) override;
   void Resized() override { InvalidateAll(); }
 
@@ -102,6 +111,8 @@ class Surface : public Window {
   void CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
                  MouseHandler Surface::*ofSurface, MouseButton button, ShiftState shift,
                  PixelPoint at);
+  DropEffect CallDrag(DragHandler Graphic::*ofGraphic, const DragHandler& ofSurface, DragData& data,
+                      DropEffect allowed, const DragPoint& where);
 
   void DrawOn(const PixelRect& touched, const std::function<void(Canvas&)>& draw);
   /// A canvas of the inside's size that shows the ground and what was drawn.

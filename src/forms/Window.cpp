@@ -36,10 +36,18 @@ bool Window::CreatePeer(PeerKind kind, WindowPeer* parent, bool inTaskbar) {
                               *this);
   if (!peer_) return false;
   if (!Enabled()) peer_->SetEnabled(false);
+  if (takesDrops_) static_cast<void>(peer_->SetTakesDrops(true));
   return true;
 }
 
 void Window::DestroyPeer() { peer_.reset(); }
+
+// Where the system refuses, the window lives without drops.
+void Window::SetTakesDrops(bool takesDrops) {
+  if (takesDrops == takesDrops_) return;
+  takesDrops_ = takesDrops;
+  if (peer_) static_cast<void>(peer_->SetTakesDrops(takesDrops));
+}
 
 void Window::VisibleChanged() {
   if (peer_) peer_->Show(Visible() ? ShowKind::NoActivate : ShowKind::Hidden);

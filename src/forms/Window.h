@@ -28,6 +28,11 @@ class Window : public Control, protected WindowEvents {
 
   WindowSystem& Windows() const noexcept { return windows_; }
 
+  /// Drags of other programs come to this window. Without it, as at first, they go to the window
+  /// around it, if that takes them.
+  [[nodiscard]] bool TakesDrops() const noexcept { return takesDrops_; }
+  void SetTakesDrops(bool takesDrops);
+
  protected:
   Window(WindowSystem& windows, std::string name) : Control(std::move(name)), windows_(windows) {}
 
@@ -69,6 +74,7 @@ class Window : public Control, protected WindowEvents {
   WindowSystem& windows_;
   Alive alive_;
   std::unique_ptr<WindowPeer> peer_;
+  bool takesDrops_ = false;
   PixelRect shownBounds_;  // as the peer last told
 };
 

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/Geometry.h"
+#include "forms/DragDrop.h"
 #include "forms/Types.h"
 #include "platform/Canvas.h"
 #include "platform/WindowId.h"
@@ -51,6 +52,22 @@ class WindowEvents {
   /// The session of Windows ends now; all must be saved when this returns.
   virtual void OnSessionEnd() = 0;
 
+  /// Another program drags something over a window that takes drops, or has just come over it; told
+  /// again and again until the drag leaves or drops. `allowed` is what the source lets a drop do.
+  /// Returns what a drop here would do; None refuses it.
+  virtual DropEffect OnDragOver(DragData& /*data*/, DropEffect /*allowed*/,
+                                const DragPoint& /*where*/) {
+    return DropEffect::None;
+  }
+  /// The drag went elsewhere, was given up or was refused. A source that dies tells nothing.
+  virtual void OnDragLeave() {}
+  /// Dropped where the last OnDragOver did not refuse. The source waits until this returns. Returns
+  /// what was done.
+  virtual DropEffect OnDrop(DragData& /*data*/, DropEffect /*allowed*/,
+                            const DragPoint& /*where*/) {
+    return DropEffect::None;
+  }
+
   /// Any message before the backend deals with it, for top-level windows. An answer ends the
   /// message there.
   virtual std::optional<std::intptr_t> OnMessage(std::uint32_t message, std::uintptr_t wParam,
@@ -74,6 +91,9 @@ class WindowPeer {
   [[nodiscard]] virtual bool IsMinimized() const = 0;
   virtual void SetCaption(std::string_view caption) = 0;
   virtual void SetEnabled(bool enabled) = 0;
+  /// From now on drags of other programs are told to the window; at first they are not, and go to
+  /// the next window around it that takes them. False when the system refuses.
+  virtual bool SetTakesDrops(bool takesDrops) = 0;
 
   /// Notes that `part` must be painted; it is, once, at the next paint. Nothing is noted for a
   /// window that is not visible; coming up, it is painted whole.

@@ -74,6 +74,7 @@ std::unique_ptr<forms::Label> frmQMenu::MakeItemLabel(int index) {
     if (!program_.Entry.ItemDragging && StillAway()) return;
     Form_MouseUp(button, shift, x + Lbl[index].Left(), y + Lbl[index].Top());
   };
+  WireDrags(*label, index);
   return label;
 }
 
@@ -89,6 +90,7 @@ void frmQMenu::WireEvents() {
   };
   Paint = [this] { Form_Paint(); };
   Timer1.Tick = [this] { Timer1_Timer(); };
+  WireDrags();
   for (int i = 0; i <= 1; ++i) {
     WireArrow(LblButton[i], i);
     // The glyph lies over its button and hands everything on to it; only a release needs its place.
@@ -237,8 +239,9 @@ void frmQMenu::PresentMenu() {
 void frmQMenu::BringUp() {
   if (Visible()) return;
   ShowNoActivate();
-  // A menu that is rebuilt behind its still picture leaves the foreground alone.
-  if (!IsCaptured()) SetForeground();
+  // A menu that is rebuilt behind its still picture leaves the foreground alone, and so does one
+  // that opens under another program's drag.
+  if (!IsCaptured() && !program_.DragHolds()) SetForeground();
 }
 
 void frmQMenu::PlaceMenu() {

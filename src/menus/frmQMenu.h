@@ -100,6 +100,17 @@ class frmQMenu final : public forms::Form, public QMenuPort {
 
   void DoItemDrag(forms::ShiftState shift) override;
 
+  // ---- drags of other programs (frmQMenuOle.cpp) ----
+
+  void Form_OLEDragOver(forms::DragData& data, forms::DropEffect& effect, forms::MouseButton down,
+                        forms::ShiftState shift, float x, float y);
+  void Form_OLEDragDrop(forms::DragData& data, forms::DropEffect& effect, forms::MouseButton down,
+                        forms::ShiftState shift, float x, float y);
+  void Lbl_OLEDragOver(int index, forms::DragData& data, forms::DropEffect& effect,
+                       forms::MouseButton down, forms::ShiftState shift, float x, float y);
+  void Lbl_OLEDragDrop(int index, forms::DragData& data, forms::DropEffect& effect,
+                       forms::MouseButton down, forms::ShiftState shift, float x, float y);
+
   // ---- arrow buttons and pages (frmQMenuPages.cpp) ----
 
   void LblButton_MouseDown(int index, forms::MouseButton button);
@@ -257,6 +268,14 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   // Dragging entries (frmQMenuDrag.cpp).
   /// A point of the window's inside (twips) on the screen (pixels).
   [[nodiscard]] PixelPoint OnScreen(float x, float y) const;
+  // Drags of other programs (frmQMenuOle.cpp).
+  void WireDrags();
+  void WireDrags(forms::Label& label, int index);
+  [[nodiscard]] bool TakesDrop(const forms::DragData& data) const;
+  void DropFiles(const std::vector<std::string>& names);
+  void OpenDropped(const std::string& file, int item);
+  void InsertFiles(const std::vector<std::string>& names, int item);
+  void OfferAddress(std::string_view text, int item);
 
   // Arrow buttons and pages (frmQMenuPages.cpp).
   void TurnTo(int page);

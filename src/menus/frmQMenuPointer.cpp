@@ -34,7 +34,7 @@ void frmQMenu::TakeFocus() {
 void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*/, float y) {
   PrevItem = program_.SelectedItem;
   if (program_.MenuBuilding) return;
-  const bool dragging = program_.Entry.ItemDragging;
+  const bool dragging = program_.Entry.ItemDragging || program_.DragOverButton;
   if (down == MouseButton::None && !dragging &&
       program_.Services.Desktop.ActiveWindow() != hWnd()) {
     SetFocus();
@@ -133,7 +133,7 @@ void frmQMenu::OfferItem() {
 // ---- leaving ----
 
 void frmQMenu::Timer1_Timer() {
-  if (program_.MenuBuilding) return;
+  if (program_.MenuBuilding || program_.DragHolds()) return;
   // A still picture of the menu does not outlive the rebuild that it was made for.
   if (CapturePort* const capture = program_.Ports.Capture) {
     if (capture->MenuCaptured()) capture->ReleaseMenu();

@@ -104,6 +104,7 @@ void frmToolbar::WireEvents() {
   Timer1.Tick = [this] { Timer1_Timer(); };
   Timer2.Tick = [this] { Timer2_Timer(); };
   tmrDragDrop.SetInterval(kDragPoll);
+  WireDrags();
 }
 
 void frmToolbar::LoadWindow() { static_cast<void>(Load()); }
@@ -173,6 +174,7 @@ void frmToolbar::PlaceFirst() {
 void frmToolbar::Form_Unload() {
   program_.ToolbarReady = false;
   subclassed_ = false;
+  StopDrag();
   Timer1.SetEnabled(false);
   program_.SaveEdgeFlags();
   program_.SaveOptionFlags();

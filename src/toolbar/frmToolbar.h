@@ -127,6 +127,21 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void DoButtonDrag(int button, forms::MouseButton released) override;
   void SetPointerWatch(bool enabled) override { Timer2.SetEnabled(enabled); }
 
+  // ---- drags of other programs (frmToolbarOle.cpp) ----
+
+  void picToolbar_OLEDragOver(forms::DragData& data, forms::DropEffect& effect,
+                              forms::MouseButton down, forms::ShiftState shift, float x, float y);
+  void picToolbar_OLEDragDrop(forms::DragData& data, forms::DropEffect& effect,
+                              forms::MouseButton down, forms::ShiftState shift, float x, float y);
+  void picSingleButton_OLEDragOver(forms::DragData& data, forms::DropEffect& effect,
+                                   forms::MouseButton down, forms::ShiftState shift, float x,
+                                   float y);
+  void picSingleButton_OLEDragDrop(forms::DragData& data, forms::DropEffect& effect,
+                                   forms::MouseButton down, forms::ShiftState shift, float x,
+                                   float y);
+  /// Looks each 100 ms whether a drag that came over the strip is still there.
+  void tmrDragDrop_Timer();
+
   // ---- the date (frmToolbarDate.cpp) ----
 
   void DoLabelDate() override;
@@ -199,6 +214,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// The pointer went more than 3 pixels from the press on the frame.
   bool FrameMoved = false;
   bool FrameDragging = false;
+
+  /// The window in front when a drag came over the strip.
+  WindowId SavedForeground = kNoWindow;
 
   /// Entry 0 is the template, 1 the program's own menu.
   std::vector<ButtonRect> ToolbarButtons;
@@ -309,6 +327,21 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void DrawDragLook();
   void EndSlide();
 
+  // Drags of other programs.
+  void WireDrags();
+  /// True if there is something for the strip, and it is not being worked on.
+  [[nodiscard]] bool TakesDrag(const forms::DragData& data) const;
+  void NoteDrag(const forms::DragData& data, forms::MouseButton down);
+  void EnterDrag();
+  /// The drag is over without a drop here.
+  void EndDragOver();
+  void StopDrag();
+  void GiveForegroundBack();
+  void DropFiles(std::vector<std::string> names, int button);
+  void DropAddress(std::string_view text, int button);
+  void OfferAddress(const std::string& address, const std::string& tag, const std::string& file);
+  [[nodiscard]] bool IsItemButton(int button) const noexcept;
+
   // Keys.
   [[nodiscard]] bool KeyboardMoves() const;
   void StartKeyboard();
@@ -336,6 +369,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   AbandonWatch carryWatch_;
   float menuLeft_ = 0;  // where the menu window was placed
   float menuTop_ = 0;
+  int quietTicks_ = 0;            // of tmrDragDrop, since the drag was last heard of
   bool positionUnsaved_ = false;  // the disk refused SavedLeft
   bool positioned_ = false;       // SavedLeft is known
   bool subclassed_ = false;

@@ -56,8 +56,8 @@ void frmToolbar::ShowMenuOf(int button) {
   Timer2.SetEnabled(false);
   LastOpenFlag = false;
   program_.SetHint("");
-  // The program keeps the foreground from one menu to the next.
-  if (MenuUp()) SetFocus();
+  // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.
+  if (MenuUp() && !program_.DragHolds()) SetFocus();
   HideMenuWindow();
   menu.ResetQMenu();
 
@@ -146,6 +146,7 @@ void frmToolbar::ResetMenu() {
   MenuOpening = false;
   LastOpenFlag = false;
   LastOpenButton = 0;
+  program_.DragOverButton = false;
   WasHovering = false;
   ShowRestingLook();
   if (QMenuPort* const menu = program_.Ports.QMenu) {

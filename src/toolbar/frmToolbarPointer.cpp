@@ -121,7 +121,7 @@ void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState
     }
   }
   if ((program_.MenuOpen || program_.Entry.ItemDragging) && LooksAtRest(current) &&
-      IsOursActive()) {
+      (IsOursActive() || program_.DragHolds())) {
     HoverButton(current);
   } else if (forms::Has(down, forms::MouseButton::Left) &&
              IsOverMenu(program_.Services.Desktop.WindowAt(pointer))) {
@@ -231,6 +231,8 @@ void frmToolbar::picSingleButton_MouseUp(forms::MouseButton button, forms::Shift
 
 void frmToolbar::Timer2_Timer() {
   if (program_.Entry.ItemDragging || program_.PosChangeRunning || program_.MenuBuilding) return;
+  // What another program drags changes and closes the menu by its own events.
+  if (program_.DragHolds()) return;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   FindCurButton(pointer);
   const WindowId under = program_.Services.Desktop.WindowAt(pointer);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "win32/Wide.h"
+#include "win32/Win32DropTarget.h"
 #include "win32/Win32WindowSystem.h"
 
 namespace corvelle::win32 {
@@ -55,6 +56,17 @@ bool Win32Window::Create(const forms::PeerSpec& wanted) {
   if (made == nullptr) return false;
   // The system puts a new child below its siblings, but the one that was made last is to be on top.
   if (!IsForm()) SetWindowPos(made, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  return true;
+}
+
+bool Win32Window::SetTakesDrops(bool takesDrops) {
+  if (takesDrops == takesDrops_ || handle_ == nullptr) return true;
+  if (!takesDrops) {
+    StopTakingDrops(handle_);
+  } else if (!StartTakingDrops(handle_, shared_from_this())) {
+    return false;
+  }
+  takesDrops_ = takesDrops;
   return true;
 }
 

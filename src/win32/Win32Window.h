@@ -25,6 +25,10 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   void Destroy();
 
   HWND Handle() const noexcept { return handle_; }
+  /// Whom it tells; null for silence.
+  forms::WindowEvents* Events() const noexcept { return events_; }
+  /// Begins or ends to take what other programs drag here. False when the system refuses.
+  [[nodiscard]] bool SetTakesDrops(bool takesDrops);
   [[nodiscard]] bool IsForm() const noexcept { return kind_ == forms::PeerKind::Form; }
 
   /// Outer bounds, relative to the parent or the screen.
@@ -57,6 +61,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   forms::PeerKind kind_;
   HWND handle_ = nullptr;
   forms::WindowEvents* events_ = nullptr;
+  bool takesDrops_ = false;
   PixelRect told_;             // the bounds that the events know
   HWND focus_ = nullptr;       // the child that had the focus last
   wchar_t highSurrogate_ = 0;  // the first half of a character that is not complete yet

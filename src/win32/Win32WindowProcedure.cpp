@@ -2,7 +2,9 @@
 
 #include <cstdint>
 
+#include "win32/MouseKeys.h"
 #include "win32/Win32Canvas.h"
+#include "win32/Win32DropTarget.h"
 #include "win32/Win32Window.h"
 #include "win32/Win32WindowSystem.h"
 
@@ -17,21 +19,8 @@ constexpr WPARAM kAnyButton = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
 
 bool IsDown(int virtualKey) { return GetKeyState(virtualKey) < 0; }
 
-ShiftState ShiftOfMouse(WPARAM keys) {
-  return {
-      .Shift = (keys & MK_SHIFT) != 0, .Ctrl = (keys & MK_CONTROL) != 0, .Alt = IsDown(VK_MENU)};
-}
-
 ShiftState ShiftOfKeyboard() {
   return {.Shift = IsDown(VK_SHIFT), .Ctrl = IsDown(VK_CONTROL), .Alt = IsDown(VK_MENU)};
-}
-
-MouseButton ButtonsDown(WPARAM keys) {
-  auto down = MouseButton::None;
-  if ((keys & MK_LBUTTON) != 0) down = down | MouseButton::Left;
-  if ((keys & MK_RBUTTON) != 0) down = down | MouseButton::Right;
-  if ((keys & MK_MBUTTON) != 0) down = down | MouseButton::Middle;
-  return down;
 }
 
 MouseButton ButtonOf(UINT message) {
@@ -84,6 +73,8 @@ LRESULT CALLBACK Win32Window::Procedure(HWND handle, UINT message, WPARAM wParam
   auto* const window = reinterpret_cast<Win32Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (window == nullptr) return DefWindowProcW(handle, message, wParam, lParam);
   const std::shared_ptr<Win32Window> keep = window->shared_from_this();
+  // Whoever destroys it, and while OLE still finds what it keeps with the window.
+  if (message == WM_DESTROY && window->takesDrops_) StopTakingDrops(handle);
   if (message == WM_NCDESTROY) {
     SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
     window->handle_ = nullptr;

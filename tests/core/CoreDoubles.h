@@ -139,6 +139,9 @@ class LoggingSingles final : public SingleButtonsPort {
   void DeleteSingle(std::string_view file) override { Note("delete single ", file); }
   void PasteSingle(std::string_view file) override { Note("paste single ", file); }
   void UndoDeleteSB(std::string_view file) override { Note("undo single ", file); }
+  void DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton) override {
+    for (const std::string& name : names) Note("files on the singles ", name);
+  }
 
  private:
   void Note(std::string_view what, std::string_view file) {

@@ -340,6 +340,16 @@ PixelRect WineDesk::OpenOtherBar(Edge at, int thickness) {
           static_cast<int>(bar.rc.right), static_cast<int>(bar.rc.bottom)};
 }
 
+void WineDesk::OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
+                              std::string_view text) {
+  dragsource::Offer offer;
+  for (const std::string& file : files) offer.Files.push_back(Wide(file));
+  if (files.empty()) offer.Text = Wide(text);
+  source_ = std::make_unique<dragsource::DragSource>(
+      RECT{bounds.left, bounds.top, bounds.right, bounds.bottom}, std::move(offer));
+  Wait([this] { return GetForegroundWindow() == source_->Window(); }, 5000);
+}
+
 std::intptr_t WineDesk::Send(std::string_view className, std::uint32_t message,
                              std::uintptr_t wParam, std::intptr_t lParam) {
   HWND window = Handle(className);

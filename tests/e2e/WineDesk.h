@@ -3,10 +3,12 @@
 #include <windows.h>
 
 #include <atomic>
+#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "e2e/dragsource/DragSource.h"
 #include "scenario/Desk.h"
 
 namespace corvelle::e2e {
@@ -56,6 +58,8 @@ class WineDesk final : public scenario::Desk {
   void BringToFront(std::string_view className) override;
   void OpenOtherWindow(PixelRect bounds) override;
   PixelRect OpenOtherBar(Edge at, int thickness) override;
+  void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
+                      std::string_view text) override;
   std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
                      std::intptr_t lParam) override;
   void Post(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
@@ -99,6 +103,7 @@ class WineDesk final : public scenario::Desk {
   std::thread other_;
   HWND bar_ = nullptr;
   std::atomic<HWND> otherWindow_{nullptr};
+  std::unique_ptr<dragsource::DragSource> source_;
 };
 
 }  // namespace corvelle::e2e

@@ -115,6 +115,10 @@ class Desk {
   /// Another program's bar keeps that many pixels of an edge. Gives the room that the shell let it
   /// have; empty when it gave none.
   virtual PixelRect OpenOtherBar(Edge at, int thickness) = 0;
+  /// Another program's window, visible and in the foreground from then on, from which a press of
+  /// either button drags these files (full paths), or the text when there are none.
+  virtual void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
+                              std::string_view text) = 0;
   /// Sends a message and waits for its answer; posts it and does not wait. Both do nothing (and
   /// answer 0) when there is no such window.
   virtual std::intptr_t Send(std::string_view className, std::uint32_t message,
@@ -167,6 +171,24 @@ class Desk {
   [[nodiscard]] bool IsVisible(std::string_view className) const {
     const std::optional<SeenWindow> window = Window(className);
     return window && window->Visible;
+  }
+  /// Takes what the window at `from` drags and brings it to a point in steps, as a hand does; the
+  /// button stays down.
+  void DragTo(PixelPoint from, PixelPoint to, Button button = Button::Left) {
+    MovePointer(from);
+    Press(button);
+    CarryTo(to);
+  }
+  /// Goes on with a drag.
+  void CarryTo(PixelPoint to) {
+    constexpr int kSteps = 5;
+    const PixelPoint from = Pointer();
+    for (int step = 1; step <= kSteps; ++step) {
+      Pause(60);
+      MovePointer(
+          {from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
+    }
+    Pause(150);
   }
   /// Where a window stands; empty when there is none.
   [[nodiscard]] PixelRect BoundsOf(std::string_view className) const {

@@ -82,7 +82,13 @@ class SimDesk final : public Desk {
   }
 
   void MovePointer(PixelPoint at) override { world_.Desktop.MovePointer(at.x, at.y); }
-  void Press(Button button) override { world_.Desktop.Press(ToForms(button)); }
+  void Press(Button button) override {
+    const bool takes =
+        source_.Window != kNoWindow && world_.Desktop.WindowAt(Pointer()) == source_.Window;
+    if (!takes) return world_.Desktop.Press(ToForms(button));
+    source_.Button = ToForms(button);
+    world_.Desktop.StartDrag(source_);
+  }
   void Release(Button button) override { world_.Desktop.Release(ToForms(button)); }
   [[nodiscard]] PixelPoint Pointer() const override { return world_.Desktop.PointerPosition(); }
 
@@ -138,6 +144,19 @@ class SimDesk final : public Desk {
   }
   PixelRect OpenOtherBar(Edge at, int thickness) override {
     return world_.Bars.KeptBy(world_.Bars.AddOtherBar(at, thickness, sim::BarPlacing::Last));
+  }
+  void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
+                      std::string_view text) override {
+    source_.Window = world_.Desktop.AddOtherWindow(
+        {.Title = "Page to drag - Browser", .ClassName = "DragSource", .Bounds = bounds});
+    source_.Data = {};
+    if (files.empty()) {
+      source_.Data.Text = text;
+    } else {
+      source_.Data.Files = files;
+    }
+    world_.Desktop.TakeForeground(source_.Window);
+    world_.Desktop.Pump();
   }
   std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
                      std::intptr_t lParam) override {
@@ -233,6 +252,7 @@ class SimDesk final : public Desk {
 
   sim::WorldOptions options_;
   sim::World world_{options_};
+  sim::DragSource source_;
   std::list<Copy> copies_;
 };
 

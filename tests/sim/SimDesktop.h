@@ -16,6 +16,7 @@
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
 #include "sim/SimClock.h"
+#include "sim/SimDrag.h"
 #include "sim/SimWindow.h"
 
 namespace corvelle::sim {
@@ -62,6 +63,21 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void PressKey(int virtualKey);
   /// Types characters: the key of each (letters and digits) and the character.
   void Type(std::string_view text);
+
+  // Drags of other programs (SimDrag.cpp). While one is on, the pointer's moves and its button are
+  // the drag's: MovePointer carries on, Release drops, the Esc key gives it up. As with OLE the
+  // window under the pointer is told every 50 ms too, one that refused is left instead of dropped
+  // on, and nothing is told to a window that is still busy with the last call.
+  /// Starts at the pointer, with the source's button going down there.
+  void StartDrag(const DragSource& source);
+  /// The same with files and the left button, and straight to a point.
+  void DragFilesOver(std::vector<std::string> files, PixelPoint at);
+  /// The source's program ends in the middle of it: nobody is told anything any more. The button
+  /// stays down until it is released.
+  void KillDragSource();
+  [[nodiscard]] bool Dragging() const noexcept { return drag_.has_value(); }
+  /// What the window under the drag last said that a drop would do, or that the last drop did.
+  [[nodiscard]] forms::DropEffect DragEffect() const noexcept { return dragEffect_; }
 
   // Other programs.
   WindowId AddOtherWindow(const OtherWindow& window);
@@ -257,6 +273,13 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void DeliverKey(int virtualKey, forms::ShiftState shift);
   void DeliverCharacter(char32_t character);
 
+  // Drags
+  WindowId DropTargetAt(PixelPoint at) const;
+  void TrackDrag();
+  void EndDrag(bool drop);
+  void FinishDrag(bool drop);
+  forms::DragPoint DragPointIn(WindowId window) const;
+
   DesktopOptions options_;
   SimClock clock_;
   std::map<int, Rgb> colours_;
@@ -289,6 +312,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::vector<SentMessage> sent_;
   int paints_ = 0;
   int beeps_ = 0;
+  std::optional<SimDrag> drag_;
+  forms::DropEffect dragEffect_ = forms::DropEffect::None;
   std::vector<std::string> log_;
 };
 

@@ -144,6 +144,7 @@ bool SimDesktop::PointerUnsettled() {
 }
 
 void SimDesktop::DeliverMove(const Mouse& mouse) {
+  if (drag_) return TrackDrag();
   const WindowId target = MouseTarget(mouse.At);
   const SimWindow* at = Look(target);
   moveWindow_ = target;
@@ -176,6 +177,7 @@ void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, boo
 }
 
 void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
+  if (drag_ && button == drag_->Source.Button) return EndDrag(true);
   const WindowId target = MouseTarget(mouse.At);
   if (mouse.Down == forms::MouseButton::None) capture_ = kNoWindow;
   const SimWindow* at = Look(target);
@@ -184,6 +186,7 @@ void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
 }
 
 void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
+  if (drag_ && virtualKey == forms::key::Escape) return EndDrag(false);
   const SimWindow* at = Look(focus_);
   if (at != nullptr && at->Events != nullptr) at->Events->OnKeyDown(virtualKey, shift);
 }

@@ -43,6 +43,11 @@ void SimPeer::SetCaption(std::string_view caption) {
 
 void SimPeer::SetEnabled(bool enabled) { desktop_.Get(window_)->Enabled = enabled; }
 
+bool SimPeer::SetTakesDrops(bool takesDrops) {
+  desktop_.Get(window_)->TakesDrops = takesDrops;
+  return true;
+}
+
 void SimPeer::SetForeground() {
   desktop_.Note("foreground", *desktop_.Get(window_));
   desktop_.RequestForeground(window_);

@@ -31,6 +31,7 @@ struct SimWindow {
   bool RestoresMaximized = false;
   bool InTaskbar = false;
   bool HasOwner = false;
+  bool TakesDrops = false;
   std::vector<WindowId> Children;  // from the front to the back
   WindowId Focus = kNoWindow;      // which of its windows had the focus last
 

@@ -39,9 +39,9 @@ std::string Records(const std::vector<MenuRecord>& records) {
   return bytes;
 }
 
-StripDesk::StripDesk(const sim::WorldOptions& options)
+StripDesk::StripDesk(const sim::WorldOptions& options, ShellIcons* icons)
     : World(options),
-      TheProgram(World.Services(), World.Windows()),
+      TheProgram(World.Services(nullptr, icons), World.Windows()),
       Menu(TheProgram),
       Strip(TheProgram),
       Companion(TheProgram) {

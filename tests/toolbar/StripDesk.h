@@ -96,7 +96,8 @@ class StandInMenu final : public forms::Form, public QMenuPort {
 /// A desktop with an installed program whose strip and companion are wired, and not loaded yet.
 class StripDesk {
  public:
-  explicit StripDesk(const sim::WorldOptions& options = {});
+  /// `icons`: a shell's icons of the test's own.
+  explicit StripDesk(const sim::WorldOptions& options = {}, ShellIcons* icons = nullptr);
   ~StripDesk();
 
   sim::World World;

@@ -1,0 +1,93 @@
+#include "core/DroppedFiles.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/CodePage.h"
+#include "base/Sort.h"
+#include "base/Text.h"
+#include "core/MenuFile.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr std::string_view kAddressStart = "http://";
+constexpr std::string_view kLineEnds("\r\n\0", 3);
+constexpr std::string_view kGeneratedEnd = ".mfd";
+constexpr std::string_view kStoredEnd = ".MNU";
+constexpr int kFirstItem = 2;
+
+std::string TemporaryBeside(std::string_view path) {
+  const std::size_t slash = path.rfind('\\');
+  const std::size_t folder = slash == std::string_view::npos ? 0 : slash + 1;
+  return std::string(path.substr(0, folder)) + std::string(kDropFileName);
+}
+
+/// How the number of records stands in the way of `more`; nothing when it does not.
+std::optional<EditOutcome> Obstacle(FileSystem& files, std::string_view path, std::size_t more) {
+  if (more == 0) return EditOutcome::NothingToDo;
+  // To ask a missing file for its records would create it.
+  if (!files.FileExists(path)) return EditOutcome::NothingToDo;
+  const FileResult<int> count = CountRecords(files, path);
+  if (!count) return EditOutcome::Failed;
+  const auto room = static_cast<std::size_t>(kMaxRecords - *count);
+  if (*count < 1 || more > room) return EditOutcome::NothingToDo;
+  return std::nullopt;
+}
+
+EditOutcome OutcomeOf(const FileStatus& status) {
+  return status ? EditOutcome::Edited : EditOutcome::Failed;
+}
+
+}  // namespace
+
+forms::DropEffect EffectOfDrag(forms::MouseButton dragged) noexcept {
+  return dragged == forms::MouseButton::Right ? forms::DropEffect::Link : forms::DropEffect::Copy;
+}
+
+bool IsOfUse(const forms::DragData& data) noexcept {
+  return data.Files.has_value() || data.Text.has_value();
+}
+
+std::vector<MenuRecord> DroppedRecords(
+    std::vector<std::string> names, const std::function<std::string(std::string_view)>& titleOf) {
+  SortTexts(names);
+  std::vector<MenuRecord> records;
+  records.reserve(names.size());
+  for (std::string& name : names) {
+    records.push_back({.FTitle = titleOf(name), .FIcon = name, .FName = std::move(name)});
+  }
+  return records;
+}
+
+std::optional<std::string> DroppedAddress(std::string_view text) {
+  if (!text.starts_with(kAddressStart)) return std::nullopt;
+  return Trim(text.substr(0, text.find_first_of(kLineEnds)));
+}
+
+std::string StoredMenuFile(std::string_view menuFile) {
+  if (!EndsWithNoCase(menuFile, kGeneratedEnd)) return std::string(menuFile);
+  menuFile.remove_suffix(kGeneratedEnd.size());
+  return std::string(menuFile) + std::string(kStoredEnd);
+}
+
+EditOutcome AppendDropped(FileSystem& files, const CodePage& ansi, std::string_view path,
+                          const std::vector<MenuRecord>& records) {
+  if (const auto obstacle = Obstacle(files, path, records.size())) return *obstacle;
+  return OutcomeOf(AppendRecords(files, ansi, path, records));
+}
+
+EditOutcome InsertDropped(FileSystem& files, const CodePage& ansi, std::string_view path,
+                          int position, const std::vector<MenuRecord>& records) {
+  if (const auto obstacle = Obstacle(files, path, records.size())) return *obstacle;
+  std::string added;
+  added.reserve(records.size() * kRecordLength);
+  for (const MenuRecord& record : records) added += FormatRecord(record, ansi);
+  const int before = position < 1 ? kMaxRecords : std::max(RealRecord(position), kFirstItem);
+  return OutcomeOf(RewriteMenuFileBy(files, TemporaryBeside(path), path, [&](std::string bytes) {
+    return InsertOrAppendRecord(std::move(bytes), before, added);
+  }));
+}
+
+}  // namespace corvelle

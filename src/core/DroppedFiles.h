@@ -1,0 +1,49 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/MenuRecord.h"
+#include "core/RecordEdits.h"
+#include "forms/DragDrop.h"
+
+namespace corvelle {
+
+// What other programs drop on buttons and menus becomes records.
+
+/// Name of a menu file while dropped files are put into it, beside it.
+inline constexpr std::string_view kDropFileName = "tFile.tmp";
+
+/// What a drop does by the button that it was dragged with: the right one links, any other copies.
+[[nodiscard]] forms::DropEffect EffectOfDrag(forms::MouseButton dragged) noexcept;
+
+/// True if there is anything in the data that a button or a menu can take.
+[[nodiscard]] bool IsOfUse(const forms::DragData& data) noexcept;
+
+/// One record for each file, in ascending order of the names: its title by `titleOf`, its icon and
+/// its command the full path.
+[[nodiscard]] std::vector<MenuRecord> DroppedRecords(
+    std::vector<std::string> names, const std::function<std::string(std::string_view)>& titleOf);
+
+/// The web address in a dropped text: its first line, when it begins with "http://" in lower case.
+[[nodiscard]] std::optional<std::string> DroppedAddress(std::string_view text);
+
+/// The file in which the entries of a menu are stored: for the generated file of an expanded menu
+/// the one it was made from, else the file itself.
+[[nodiscard]] std::string StoredMenuFile(std::string_view menuFile);
+
+/// Puts the records at the end of a button's menu. NothingToDo for a file that is missing or has
+/// not even the button's own record, and when the numbers of records do not reach.
+EditOutcome AppendDropped(FileSystem& files, const CodePage& ansi, std::string_view path,
+                          const std::vector<MenuRecord>& records);
+
+/// Puts the records before record `position` of a menu, 0 for the end; before the folder item that
+/// a generated entry came from. They never come before the button's own record. NothingToDo as
+/// above.
+EditOutcome InsertDropped(FileSystem& files, const CodePage& ansi, std::string_view path,
+                          int position, const std::vector<MenuRecord>& records);
+
+}  // namespace corvelle

@@ -1,0 +1,247 @@
+// What other programs drag over the strip and drop on it.
+
+#include <utility>
+
+#include "base/Text.h"
+#include "core/DroppedFiles.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "launch/FileTitle.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+
+using forms::DragData;
+using forms::DropEffect;
+using forms::MouseButton;
+using forms::ShiftState;
+
+namespace {
+
+// A drop comes right after the release of the button. When so many ticks have heard nothing of the
+// drag with no button down, its program is gone.
+constexpr int kMostQuietTicks = 5;
+
+constexpr std::string_view kSinglesTag = "SingleButtons";
+
+}  // namespace
+
+void frmToolbar::WireDrags() {
+  using Handler =
+      void (frmToolbar::*)(DragData&, DropEffect&, MouseButton, ShiftState, float, float);
+  const auto to = [this](Handler handler) {
+    return [this, handler](DragData& data, DropEffect& effect, MouseButton down, ShiftState shift,
+                           float x, float y) { (this->*handler)(data, effect, down, shift, x, y); };
+  };
+  picToolbar.OLEDragOver = to(&frmToolbar::picToolbar_OLEDragOver);
+  picToolbar.OLEDragDrop = to(&frmToolbar::picToolbar_OLEDragDrop);
+  // The timer sees whether the drag has gone on into the menu or is over.
+  picToolbar.OLEDragLeave = [this] { program_.DragOverButton = false; };
+  picSingleButton.OLEDragOver = to(&frmToolbar::picSingleButton_OLEDragOver);
+  picSingleButton.OLEDragDrop = to(&frmToolbar::picSingleButton_OLEDragDrop);
+  picToolbar.SetTakesDrops(true);
+  picSingleButton.SetTakesDrops(true);
+  tmrDragDrop.Tick = [this] { tmrDragDrop_Timer(); };
+}
+
+bool frmToolbar::TakesDrag(const DragData& data) const {
+  return IsOfUse(data) && program_.ToolbarReady && program_.TakesDrops() && !MenuRefreshing;
+}
+
+bool frmToolbar::IsItemButton(int button) const noexcept {
+  return button > 1 && button <= ButtonCount;
+}
+
+// ---- over the buttons ----
+
+void frmToolbar::picToolbar_OLEDragOver(DragData& data, DropEffect& effect, MouseButton down,
+                                        ShiftState shift, float x, float y) {
+  if (!TakesDrag(data)) {
+    effect = DropEffect::None;
+    return;
+  }
+  tmrDragDrop.SetEnabled(true);
+  quietTicks_ = 0;
+  EnterDrag();
+  NoteDrag(data, down);
+  effect = effect & EffectOfDrag(down);
+  GetCurButton();
+  if (program_.CurButton == 1) {
+    effect = DropEffect::None;
+    ResetMenu();
+    // The drag is still here.
+    program_.DragOverButton = true;
+    return;
+  }
+  // A drop between the buttons would go nowhere.
+  if (program_.CurButton == 0) effect = DropEffect::None;
+  program_.MenuOpen = true;
+  picToolbar_MouseMove(down, shift, x, y);
+}
+
+// The first time: who had the foreground, and where an address comes from.
+void frmToolbar::EnterDrag() {
+  program_.DragOverButton = true;
+  if (std::exchange(program_.DragEntered, true)) return;
+  program_.SetHint("");
+  const DesktopWindows& desktop = program_.Services.Desktop;
+  SavedForeground = desktop.ForegroundWindow();
+  if (!program_.NotOnTop && desktop.ActiveWindow() != hWnd()) {
+    picToolbar.ZOrder(forms::ZPlace::Front);
+  }
+}
+
+void frmToolbar::NoteDrag(const DragData& data, MouseButton down) {
+  program_.DragButtons = down;
+  program_.Entry.ItemDragging = false;
+  if (program_.DragIsUrl || !data.Text || !DroppedAddress(*data.Text)) return;
+  program_.DragIsUrl = true;
+  if (program_.Ports.Browser != nullptr) {
+    program_.Ports.Browser->NoteDropSource(program_.Services.Desktop.ForegroundWindow());
+  }
+}
+
+// ---- the end of a drag ----
+
+void frmToolbar::tmrDragDrop_Timer() {
+  if (!program_.DragEntered) {
+    StopDrag();
+    return;
+  }
+  const Input& input = program_.Services.Pointer;
+  const WindowId under = program_.Services.Desktop.WindowAt(input.PointerPosition());
+  const bool held = program_.DragHolds();
+  const bool over = under == picToolbar.hWnd() || IsOverMenu(under);
+  // On the way from the strip into the menu lies the strip's own frame.
+  if (held && under == hWnd()) return;
+  const bool heard = held || ++quietTicks_ < kMostQuietTicks;
+  if (program_.DragOverButton && over && heard) return;
+  EndDragOver();
+}
+
+void frmToolbar::StopDrag() {
+  tmrDragDrop.SetEnabled(false);
+  program_.DragOverButton = false;
+  program_.DragEntered = false;
+  program_.DragIsUrl = false;
+}
+
+void frmToolbar::EndDragOver() {
+  StopDrag();
+  program_.MenuOpen = true;
+  ResetMenu();
+  if (IsLoaded()) GiveForegroundBack();
+}
+
+// Only what the strip or its menu took is given back: the user may be elsewhere by now.
+void frmToolbar::GiveForegroundBack() {
+  DesktopWindows& desktop = program_.Services.Desktop;
+  const WindowId before = std::exchange(SavedForeground, kNoWindow);
+  const WindowId now = desktop.ForegroundWindow();
+  const QMenuPort* const menu = program_.Ports.QMenu;
+  const bool ours = now == hWnd() || (menu != nullptr && now == menu->WindowHandle());
+  if (ours && before != kNoWindow && before != now) desktop.BringForward(before);
+}
+
+// ---- dropped on the buttons ----
+
+void frmToolbar::picToolbar_OLEDragDrop(DragData& data, DropEffect& effect, MouseButton /*down*/,
+                                        ShiftState /*shift*/, float /*x*/, float /*y*/) {
+  const bool takes = TakesDrag(data);
+  effect = takes ? effect & EffectOfDrag(program_.DragButtons) : DropEffect::None;
+  StopDrag();
+  Timer2.SetEnabled(false);
+  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
+  program_.SetHint("");
+  GetCurButton();
+  const int button = program_.CurButton;
+  if (program_.DragButtons == MouseButton::Right) ResetMenu();
+  if (!IsLoaded()) return;
+  CapturePort* const capture = program_.Ports.Capture;
+  if (capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
+  if (!takes || !IsItemButton(button)) {
+    effect = DropEffect::None;
+    EndDragOver();
+  } else if (data.Files) {
+    DropFiles(std::exchange(*data.Files, {}), button);
+  } else {
+    DropAddress(*data.Text, button);
+  }
+}
+
+void frmToolbar::DropFiles(std::vector<std::string> names, int button) {
+  const std::string path = ToolbarButtons[static_cast<std::size_t>(button)].Path;
+  auto outcome = EditOutcome::NothingToDo;
+  {
+    const forms::FlagScope dragging(program_.Entry.ItemDragging);
+    const forms::FlagScope busy(program_.ItemActionBusy);
+    const std::vector<MenuRecord> records = DroppedRecords(
+        std::move(names),
+        [this](std::string_view name) { return Trim(GetFileTitle(program_, name)); });
+    outcome = AppendDropped(program_.Services.Files, program_.Services.Ansi, path, records);
+  }
+  if (!IsLoaded()) return;
+  // The menu as it is shows that nothing was added.
+  if (outcome != EditOutcome::Edited) {
+    EndDragOver();
+    return;
+  }
+  RefreshMenu("F" + std::to_string(button));
+  // The menu stays open only in front, and the system leaves that to the program dragged from.
+  if (IsLoaded() && MenuUp() && !IsOursActive()) {
+    program_.Services.Desktop.BringForward(program_.Ports.QMenu->WindowHandle());
+  }
+}
+
+void frmToolbar::DropAddress(std::string_view text, int button) {
+  const std::string path = ToolbarButtons[static_cast<std::size_t>(button)].Path;
+  const auto address = DroppedAddress(text);
+  EndDragOver();
+  if (address && IsLoaded()) OfferAddress(*address, std::to_string(button), path);
+}
+
+void frmToolbar::OfferAddress(const std::string& address, const std::string& tag,
+                              const std::string& file) {
+  WebLinkPort* const links = program_.Ports.WebLink;
+  if (links == nullptr) return;
+  BrowserPort* const browser = program_.Ports.Browser;
+  const std::string title =
+      browser != nullptr ? Trim(browser->WindowTitle(address)) : std::string();
+  links->OfferWebLink(address, title, tag, file);
+}
+
+// ---- the row of single buttons ----
+
+void frmToolbar::picSingleButton_OLEDragOver(DragData& data, DropEffect& effect, MouseButton down,
+                                             ShiftState /*shift*/, float /*x*/, float /*y*/) {
+  const bool wanted = data.Files ? program_.Ports.SingleButtons != nullptr
+                                 : data.Text && program_.Ports.WebLink != nullptr;
+  effect = wanted && TakesDrag(data) ? effect & EffectOfDrag(down) : DropEffect::None;
+  if (!IsOfUse(data)) return;
+  program_.SetHint("");
+  NoteDrag(data, down);
+  ResetMenu();
+}
+
+void frmToolbar::picSingleButton_OLEDragDrop(DragData& data, DropEffect& effect,
+                                             MouseButton /*down*/, ShiftState /*shift*/,
+                                             float /*x*/, float /*y*/) {
+  const bool takes = TakesDrag(data);
+  effect = takes ? effect & EffectOfDrag(program_.DragButtons) : DropEffect::None;
+  program_.SetHint("");
+  StopDrag();
+  ResetMenu();
+  if (!takes || !IsLoaded()) return;
+  SingleButtonsPort* const singles = program_.Ports.SingleButtons;
+  if (data.Files) {
+    if (singles == nullptr) return;
+    singles->DropFilesOnSingles(std::exchange(*data.Files, {}), program_.DragButtons);
+  } else if (data.Text) {
+    const auto address = DroppedAddress(*data.Text);
+    if (address) OfferAddress(*address, std::string(kSinglesTag), {});
+  }
+}
+
+}  // namespace corvelle

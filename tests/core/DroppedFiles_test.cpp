@@ -1,0 +1,237 @@
+#include "core/DroppedFiles.h"
+
+#include <gtest/gtest.h>
+
+#include "base/CodePage.h"
+#include "core/MenuFile.h"
+#include "sim/SimFiles.h"
+
+namespace corvelle {
+namespace {
+
+using sim::SimFiles;
+using Names = std::vector<std::string>;
+
+const Windows1252 kAnsi;
+const std::string kMenus = "C:\\Corvelle\\Menus\\";
+const std::string kFile = kMenus + "BMENU001.MNU";
+
+std::string Record(const std::string& title) {
+  return FormatRecord({title, "icon of " + title, "C:\\" + title + ".exe"}, kAnsi);
+}
+
+const std::string kFour = Record("Button") + Record("One") + Record("Two") + Record("Three");
+
+std::string PlainTitle(std::string_view path) { return "title of " + std::string(path); }
+
+Names TitlesIn(SimFiles& disk) {
+  Names titles;
+  for (const MenuRecord& record : ReadAllRecords(disk, kAnsi, kFile).ValueOr({})) {
+    titles.push_back(record.FTitle);
+  }
+  return titles;
+}
+
+TEST(EffectOfDrag, TheRightButtonLinksAndTheOthersCopy) {
+  EXPECT_EQ(EffectOfDrag(forms::MouseButton::Left), forms::DropEffect::Copy);
+  EXPECT_EQ(EffectOfDrag(forms::MouseButton::Right), forms::DropEffect::Link);
+  EXPECT_EQ(EffectOfDrag(forms::MouseButton::None), forms::DropEffect::Copy);
+}
+
+TEST(DroppedRecords, StandInAscendingOrderOfTheNamesWithTheirExtensions) {
+  const auto records = DroppedRecords({"C:\\b.txt", "c:\\C.doc", "C:\\a.exe"}, PlainTitle);
+  ASSERT_EQ(records.size(), 3U);
+  EXPECT_EQ(records[0], (MenuRecord{"title of C:\\a.exe", "C:\\a.exe", "C:\\a.exe"}));
+  EXPECT_EQ(records[1], (MenuRecord{"title of C:\\b.txt", "C:\\b.txt", "C:\\b.txt"}));
+  EXPECT_EQ(records[2], (MenuRecord{"title of c:\\C.doc", "c:\\C.doc", "c:\\C.doc"}));
+}
+
+TEST(DroppedAddress, MustBeginInLowerCaseAndIsOneLine) {
+  struct Row {
+    const char* name;
+    std::string text;
+    std::optional<std::string> expected;
+  };
+  const Row rows[] = {
+      {"an address", "http://example.com/a", "http://example.com/a"},
+      {"upper case", "HTTP://example.com/a", std::nullopt},
+      {"a blank before it", " http://example.com", std::nullopt},
+      {"another kind", "https://example.com", std::nullopt},
+      {"a second line", "http://example.com/\r\nExample", "http://example.com/"},
+      {"a line feed alone", "http://example.com/\nExample", "http://example.com/"},
+      {"a NUL", std::string("http://e.com\0rest", 17), "http://e.com"},
+      {"blanks behind it", "http://example.com  ", "http://example.com"},
+      {"nothing", "", std::nullopt},
+  };
+  for (const Row& row : rows) EXPECT_EQ(DroppedAddress(row.text), row.expected) << row.name;
+}
+
+TEST(StoredMenuFile, IsTheSourceOfAGeneratedOne) {
+  EXPECT_EQ(StoredMenuFile("C:\\M\\BMENU012.mfd"), "C:\\M\\BMENU012.MNU");
+  EXPECT_EQ(StoredMenuFile("C:\\M\\BMENU012.MFD"), "C:\\M\\BMENU012.MNU");
+  EXPECT_EQ(StoredMenuFile("C:\\M\\BMENU012.MNU"), "C:\\M\\BMENU012.MNU");
+  EXPECT_EQ(StoredMenuFile(""), "");
+}
+
+TEST(AppendDropped, PutsTheRecordsAtTheEnd) {
+  SimFiles disk;
+  disk.Put(kFile, kFour);
+  EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, {{"A", "a", "a"}, {"B", "b", "b"}}),
+            EditOutcome::Edited);
+  EXPECT_EQ(disk.Get(kFile),
+            kFour + FormatRecord({"A", "a", "a"}, kAnsi) + FormatRecord({"B", "b", "b"}, kAnsi));
+}
+
+TEST(InsertDropped, GoesBeforeItsRecord) {
+  struct Row {
+    const char* name;
+    int position;
+    Names expected;
+  };
+  const Row rows[] = {
+      {"the first item", 2, {"Button", "A", "B", "One", "Two", "Three"}},
+      {"the last item", 4, {"Button", "One", "Two", "A", "B", "Three"}},
+      {"the end", 0, {"Button", "One", "Two", "Three", "A", "B"}},
+      {"past the end", 9, {"Button", "One", "Two", "Three", "A", "B"}},
+      {"never before the button", 1, {"Button", "A", "B", "One", "Two", "Three"}},
+      {"an entry of the folder item at 3", 5003, {"Button", "One", "A", "B", "Two", "Three"}},
+      {"5000 is a place, past the end", 5000, {"Button", "One", "Two", "Three", "A", "B"}},
+      {"no number", -3, {"Button", "One", "Two", "Three", "A", "B"}},
+  };
+  for (const Row& row : rows) {
+    SimFiles disk;
+    disk.Put(kFile, kFour);
+    EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, row.position, {{"A", "", ""}, {"B", "", ""}}),
+              EditOutcome::Edited)
+        << row.name;
+    EXPECT_EQ(TitlesIn(disk), row.expected) << row.name;
+    EXPECT_EQ(disk.Names(kMenus), Names{"BMENU001.MNU"}) << row.name;
+  }
+}
+
+TEST(InsertDropped, GoesThroughItsTemporaryNameBesideTheFile) {
+  SimFiles disk;
+  disk.Put(kFile, kFour);
+  disk.Put(kMenus + "tFile.tmp", "left over");
+  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 2, {{"A", "", ""}}), EditOutcome::Edited);
+  EXPECT_EQ(TitlesIn(disk), (Names{"Button", "A", "One", "Two", "Three"}));
+  EXPECT_FALSE(disk.Has(kMenus + "tFile.tmp"));
+  EXPECT_EQ(disk.Count("Rename"), 1);
+}
+
+TEST(Dropped, NothingIsAddedWhereThereIsNoMenu) {
+  struct Row {
+    const char* name;
+    std::optional<std::string> bytes;
+  };
+  for (const Row& row : {Row{"a vanished file", std::nullopt}, Row{"an empty file", ""},
+                         Row{"less than half a record", std::string(200, 'x')}}) {
+    SimFiles disk;
+    disk.MakeFolders("C:\\Corvelle\\Menus");
+    if (row.bytes) disk.Put(kFile, *row.bytes);
+    EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, {{"A", "", ""}}), EditOutcome::NothingToDo)
+        << row.name;
+    EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 2, {{"A", "", ""}}), EditOutcome::NothingToDo)
+        << row.name;
+    EXPECT_EQ(disk.Get(kFile), row.bytes) << row.name;
+  }
+}
+
+TEST(Dropped, NothingIsAddedPastTheLastRecordNumber) {
+  SimFiles disk;
+  const std::string full(570U * 32766U, ' ');
+  disk.Put(kFile, full);
+  const std::vector<MenuRecord> two(2, MenuRecord{"A", "", ""});
+  EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, two), EditOutcome::NothingToDo);
+  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 2, two), EditOutcome::NothingToDo);
+  EXPECT_EQ(disk.Get(kFile)->size(), full.size());
+  EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, {{"A", "", ""}}), EditOutcome::Edited);
+}
+
+TEST(Dropped, NoFilesChangeNothing) {
+  SimFiles disk;
+  disk.Put(kFile, kFour);
+  EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, {}), EditOutcome::NothingToDo);
+  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 2, {}), EditOutcome::NothingToDo);
+  EXPECT_EQ(disk.Get(kFile), kFour);
+}
+
+TEST(Dropped, LongNamesAreCutToTheirField) {
+  SimFiles disk;
+  disk.Put(kFile, kFour);
+  const std::string longName = "C:\\" + std::string(297, 'n');
+  const auto records = DroppedRecords({longName}, PlainTitle);
+  EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, records), EditOutcome::Edited);
+  EXPECT_EQ(disk.Get(kFile)->size(), 5U * 570U);
+  const MenuRecord stored = ReadRecord(disk, kAnsi, kFile, 5).ValueOr({});
+  EXPECT_EQ(stored.FName, longName.substr(0, 260));
+  EXPECT_EQ(stored.FIcon, longName.substr(0, 260));
+  EXPECT_EQ(stored.FTitle, PlainTitle(longName).substr(0, 50));
+}
+
+TEST(Dropped, NamesOfAnyScriptSurvive) {
+  SimFiles disk;
+  disk.Put(kFile, kFour);
+  const std::string name = "C:\\\xD0\xBF\xD0\xB8\xD1\x81\xD1\x8C\xD0\xBC\xD0\xBE.txt";
+  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 0, DroppedRecords({name}, PlainTitle)),
+            EditOutcome::Edited);
+  EXPECT_EQ(ReadRecord(disk, kAnsi, kFile, 5).ValueOr({}).FName, name);
+}
+
+TEST(Dropped, AThousandFilesComeAtOnce) {
+  SimFiles disk;
+  disk.Put(kFile, kFour);
+  Names names;
+  for (int i = 1000; i >= 1; --i) names.push_back("C:\\f" + std::to_string(10000 + i));
+  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 3, DroppedRecords(names, PlainTitle)),
+            EditOutcome::Edited);
+  const auto all = ReadAllRecords(disk, kAnsi, kFile).ValueOr({});
+  ASSERT_EQ(all.size(), 1004U);
+  EXPECT_EQ(all[2].FName, "C:\\f10001");
+  EXPECT_EQ(all[1001].FName, "C:\\f11000");
+  EXPECT_EQ(all[1002].FTitle, "Two");
+}
+
+TEST(Dropped, AnyOneFailureLeavesTheOldFileOrTheWholeNewOne) {
+  const std::string added = FormatRecord({"A", "a", "a"}, kAnsi);
+  struct Row {
+    const char* name;
+    std::function<EditOutcome(SimFiles&)> drop;
+    std::string whole;
+  };
+  const Row rows[] = {
+      {"append",
+       [](SimFiles& disk) {
+         return AppendDropped(disk, kAnsi, kFile, {{"A", "a", "a"}});
+       },
+       kFour + added},
+      {"insert",
+       [](SimFiles& disk) {
+         return InsertDropped(disk, kAnsi, kFile, 2, {{"A", "a", "a"}});
+       },
+       kFour.substr(0, 570) + added + kFour.substr(570)},
+  };
+  for (const Row& row : rows) {
+    for (const FileError error : {FileError::DiskFull, FileError::AccessDenied}) {
+      int calls = 0;
+      for (int n = 1;; ++n) {
+        SimFiles disk;
+        disk.Put(kFile, kFour);
+        disk.FailCall(n, error);
+        const EditOutcome outcome = row.drop(disk);
+        const bool hit = disk.Hit();
+        disk.StopFailing();
+        if (!hit) break;
+        ++calls;
+        const std::string now = disk.Get(kFile).value_or("(none)");
+        EXPECT_TRUE(now == kFour || now == row.whole) << row.name << ", failing call " << n;
+        EXPECT_EQ(outcome == EditOutcome::Edited, now == row.whole)
+            << row.name << ", failing call " << n;
+      }
+      EXPECT_GE(calls, 3) << row.name;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace corvelle

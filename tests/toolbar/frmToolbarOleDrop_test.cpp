@@ -1,0 +1,280 @@
+// What other programs drop on the strip, and what arrives meanwhile.
+
+#include <gtest/gtest.h>
+
+#include "toolbar/DragDesk.h"
+
+namespace corvelle {
+namespace {
+
+using forms::DropEffect;
+using forms::MouseButton;
+using Names = std::vector<std::string>;
+
+// ---- dropped files ----
+
+TEST(ToolbarOLEDragDrop, ThreeFilesBecomeRecordsAtTheEndInAscendingOrder) {
+  DragDesk desk;
+  desk.World.Files.MakeFolders("C:\\Folder.one");
+  desk.TakeFiles({"C:\\c.txt", "C:\\Folder.one", "C:\\B.html"});
+  desk.DragToButton(3);
+  desk.Drop();
+  const auto records = desk.RecordsOf(2);
+  ASSERT_EQ(records.size(), 5U);
+  EXPECT_EQ(records[0].FTitle, "Menu 2");
+  EXPECT_EQ(records[1].FTitle, "Item");
+  EXPECT_EQ(records[2], (MenuRecord{"B", "C:\\B.html", "C:\\B.html"}));
+  EXPECT_EQ(records[3], (MenuRecord{"c", "C:\\c.txt", "C:\\c.txt"}));
+  EXPECT_EQ(records[4], (MenuRecord{"Folder.one", "C:\\Folder.one", "C:\\Folder.one"}));
+  EXPECT_TRUE(desk.FileUnchanged(1));
+  EXPECT_TRUE(desk.FileUnchanged(3));
+}
+
+TEST(ToolbarOLEDragDrop, TheMenuIsReadAnewAndStaysOpenInFront) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.DragToButton(2);
+  EXPECT_EQ(desk.Menu.Times("ShowMenu F2"), 1);
+  desk.Drop();
+  EXPECT_EQ(desk.Menu.Times("ShowMenu F2"), 2);
+  EXPECT_EQ(desk.Menu.Times("GetCurMenu"), 1);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  desk.Wait(500);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  EXPECT_EQ(desk.Foreground(), desk.Menu.hWnd());
+  EXPECT_FALSE(desk.Strip.tmrDragDrop.Enabled());
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+}
+
+TEST(ToolbarOLEDragDrop, TheRightButtonStoresLikewise) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\c.txt"}, MouseButton::Right);
+  desk.DragToButton(2);
+  desk.Drop(MouseButton::Right);
+  ASSERT_EQ(desk.RecordsOf(1).size(), 3U);
+  EXPECT_EQ(desk.RecordsOf(1)[2].FName, "C:\\c.txt");
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarOLEDragDrop, AThousandFilesAndLongNamesCome) {
+  DragDesk desk;
+  Names files;
+  for (int i = 0; i < 1000; ++i) files.push_back("C:\\f" + std::to_string(20000 - i) + ".txt");
+  files.push_back("C:\\" + std::string(297, 'z'));
+  desk.TakeFiles(files);
+  desk.DragToButton(2);
+  desk.Drop();
+  const auto records = desk.RecordsOf(1);
+  ASSERT_EQ(records.size(), 1003U);
+  EXPECT_EQ(records[2].FName, "C:\\f19001.txt");
+  EXPECT_EQ(records[1001].FTitle, "f20000");
+  EXPECT_EQ(records[1002].FName.size(), 260U);
+}
+
+TEST(ToolbarOLEDragDrop, AMenuFileThatVanishedIsNotMadeOfTheDrop) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.DragToButton(2);
+  desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU001.MNU");
+  desk.Drop();
+  EXPECT_FALSE(desk.HasMenuFile("BMENU001.MNU"));
+  EXPECT_EQ(desk.MenuUp(), 0);
+  EXPECT_EQ(desk.Foreground(), desk.Source);
+}
+
+TEST(ToolbarOLEDragDrop, AFullDiskLeavesTheOldMenu) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.DragToButton(2);
+  desk.World.Files.FillDisk(0);
+  desk.Drop();
+  EXPECT_TRUE(desk.FileUnchanged(1));
+  EXPECT_EQ(desk.MenuUp(), 0);
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+}
+
+TEST(ToolbarOLEDragDrop, AnEmptyListOfFilesStoresNothing) {
+  DragDesk desk;
+  desk.TakeFiles({});
+  desk.DragToButton(2);
+  desk.Drop();
+  EXPECT_TRUE(desk.FileUnchanged(1));
+}
+
+// ---- dropped texts ----
+
+TEST(ToolbarOLEDragDrop, AnAddressIsOfferedWithItsPageTitleForTheButton) {
+  DragDesk desk;
+  NotedLinks links;
+  NotedBrowser browser;
+  desk.TheProgram.Ports.WebLink = &links;
+  desk.TheProgram.Ports.Browser = &browser;
+  desk.TakeText("http://example.com/a");
+  desk.DragToButton(3);
+  desk.Drop();
+  EXPECT_EQ(links.Offered,
+            Names{"http://example.com/a|A page|3|C:\\Corvelle\\Menus\\BMENU002.MNU"});
+  EXPECT_FALSE(desk.TheProgram.DragIsUrl);
+  EXPECT_TRUE(desk.FileUnchanged(2));
+  desk.TheProgram.Ports.WebLink = nullptr;
+  desk.TheProgram.Ports.Browser = nullptr;
+}
+
+TEST(ToolbarOLEDragDrop, OtherTextAndAnAddressWithoutItsDialogAreIgnored) {
+  for (const char* text : {"HTTP://EXAMPLE.COM", "some words", "", "http://example.com"}) {
+    SCOPED_TRACE(text);
+    DragDesk desk;
+    NotedLinks links;
+    const bool address = std::string_view(text).starts_with("http://");
+    if (!address) desk.TheProgram.Ports.WebLink = &links;
+    desk.TakeText(text);
+    desk.DragToButton(2);
+    EXPECT_EQ(desk.MenuUp(), 2);
+    desk.Drop();
+    EXPECT_EQ(links.Offered, Names{});
+    EXPECT_TRUE(desk.FileUnchanged(1));
+    EXPECT_EQ(desk.MenuUp(), 0);
+    desk.TheProgram.Ports.WebLink = nullptr;
+  }
+}
+
+TEST(ToolbarOLEDragDrop, FilesComeBeforeText) {
+  DragDesk desk;
+  NotedLinks links;
+  desk.TheProgram.Ports.WebLink = &links;
+  desk.Take({.Files = Names{"C:\\c.txt"}, .Text = "http://example.com"});
+  desk.DragToButton(2);
+  desk.Drop();
+  EXPECT_EQ(desk.RecordsOf(1).size(), 3U);
+  EXPECT_EQ(links.Offered, Names{});
+  desk.TheProgram.Ports.WebLink = nullptr;
+}
+
+// ---- what arrives inside ----
+
+struct Guard {
+  const char* name;
+  bool Program::*flag;
+};
+
+TEST(ToolbarOLE, WhileAFileOrMenuIsBeingWorkedOnADropIsRefused) {
+  const Guard guards[] = {{"StartingUp", &Program::StartingUp},
+                          {"MenuBuilding", &Program::MenuBuilding},
+                          {"IconsLoading", &Program::IconsLoading},
+                          {"ItemActionBusy", &Program::ItemActionBusy},
+                          {"MenuFormBusy", &Program::MenuFormBusy},
+                          {"AppBarBusy", &Program::AppBarBusy},
+                          {"PosChangeRunning", &Program::PosChangeRunning}};
+  for (const Guard& guard : guards) {
+    SCOPED_TRACE(guard.name);
+    DragDesk desk;
+    desk.TakeFiles({"C:\\c.txt"});
+    desk.TheProgram.*guard.flag = true;
+    desk.DragToButton(2);
+    EXPECT_EQ(desk.Effect(), DropEffect::None);
+    EXPECT_EQ(desk.MenuUp(), 0);
+    desk.TheProgram.*guard.flag = false;
+    desk.Wait(60);
+    EXPECT_EQ(desk.Effect(), DropEffect::Copy);
+    // And one that the guard meets only at the drop.
+    desk.TheProgram.*guard.flag = true;
+    desk.World.Desktop.Release();
+    desk.TheProgram.*guard.flag = false;
+    EXPECT_TRUE(desk.FileUnchanged(1));
+    EXPECT_EQ(desk.Effect(), DropEffect::None);
+  }
+}
+
+TEST(ToolbarOLE, TimersAndClicksInsideTheDropChangeNothing) {
+  BusyIcons icons;
+  DragDesk desk({}, &icons);
+  desk.TakeFiles({"C:\\c.txt", "C:\\d.txt"});
+  desk.DragToButton(2);
+  bool dragging = false;
+  icons.WhileAsked = [&] {
+    dragging = desk.TheProgram.Entry.ItemDragging && desk.TheProgram.ItemActionBusy;
+    desk.World.Desktop.Advance(300);
+    desk.Click(3);
+    desk.World.Desktop.DoEvents();
+  };
+  desk.Drop();
+  EXPECT_TRUE(dragging);
+  ASSERT_EQ(desk.RecordsOf(1).size(), 4U);
+  EXPECT_EQ(desk.RecordsOf(1)[3].FName, "C:\\d.txt");
+  EXPECT_TRUE(desk.FileUnchanged(2));
+  EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+}
+
+TEST(ToolbarOLE, TheProgramMayEndInsideTheDrop) {
+  BusyIcons icons;
+  DragDesk desk({}, &icons);
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.DragToButton(2);
+  icons.WhileAsked = [&] { desk.Exit(); };
+  desk.Drop();
+  EXPECT_FALSE(desk.Strip.IsLoaded());
+  EXPECT_FALSE(desk.Menu.MenuVisible());
+}
+
+TEST(ToolbarOLE, TheProgramMayEndWhileTheMenuOpensUnderTheDrag) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.Menu.WhileBuilding = [&] { desk.Exit(); };
+  desk.DragToButton(2);
+  EXPECT_FALSE(desk.Strip.IsLoaded());
+  EXPECT_FALSE(desk.Strip.tmrDragDrop.Enabled());
+}
+
+TEST(ToolbarOLE, TheTimerInsideAMenuThatIsBeingBuiltLeavesItAlone) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.Menu.WhileBuilding = [&] { desk.World.Desktop.Advance(300); };
+  desk.DragToButton(2);
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+// ---- the row of single buttons ----
+
+TEST(SingleButtonsOLE, FilesAreHandedOnWithTheirButton) {
+  DragDesk desk;
+  NotedSingles singles;
+  desk.TheProgram.Ports.SingleButtons = &singles;
+  desk.Strip.picSingleButton.SetWidth(900);
+  const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+  desk.TakeFiles({"C:\\b.txt", "C:\\a.txt"}, MouseButton::Right);
+  desk.DragToButton(2);
+  desk.PointAt({row.left + 5, row.top + 5});
+  EXPECT_EQ(desk.MenuUp(), 0);
+  EXPECT_EQ(desk.Effect(), DropEffect::Link);
+  desk.Drop(MouseButton::Right);
+  EXPECT_EQ(singles.Dropped, (Names{"2 C:\\b.txt", "2 C:\\a.txt"}));
+  EXPECT_TRUE(desk.FileUnchanged(1));
+  desk.TheProgram.Ports.SingleButtons = nullptr;
+}
+
+TEST(SingleButtonsOLE, AnAddressIsOfferedForTheRow) {
+  DragDesk desk;
+  NotedLinks links;
+  desk.TheProgram.Ports.WebLink = &links;
+  desk.Strip.picSingleButton.SetWidth(900);
+  const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+  desk.TakeText("http://example.com");
+  desk.PointAt({row.left + 5, row.top + 5});
+  EXPECT_EQ(desk.Effect(), DropEffect::Copy);
+  desk.Drop();
+  EXPECT_EQ(links.Offered, Names{"http://example.com||SingleButtons|"});
+  desk.TheProgram.Ports.WebLink = nullptr;
+}
+
+TEST(SingleButtonsOLE, WithoutTheRowFilesAreRefused) {
+  DragDesk desk;
+  desk.Strip.picSingleButton.SetWidth(900);
+  const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+  desk.TakeFiles({"C:\\b.txt"});
+  desk.PointAt({row.left + 5, row.top + 5});
+  EXPECT_EQ(desk.Effect(), DropEffect::None);
+}
+
+}  // namespace
+}  // namespace corvelle
