@@ -33,9 +33,11 @@ Description Describe(FileError error) noexcept {
 
 }  // namespace
 
-std::string FileErrorText(FileError error) {
+std::string FileErrorDescription(FileError error) {
   const Description description = Describe(error);
-  return "Error: " + std::to_string(description.Number) + " - " + std::string(description.Text);
+  return std::to_string(description.Number) + " - " + std::string(description.Text);
 }
+
+std::string FileErrorText(FileError error) { return "Error: " + FileErrorDescription(error); }
 
 }  // namespace corvelle
