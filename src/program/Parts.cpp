@@ -13,6 +13,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.QMenu = &Menu;
   ports.Minimize = &Companion;
   ports.Startup = &Startup;
+  ports.Popup = &ThePopup;
   ports.IconRule = &TheIconRule;
   ports.IconLibrary = &TheIconLibrary;
   ports.BuiltInCommands = &TheBuiltIns;

@@ -7,6 +7,7 @@
 #include "menus/frmQMenu.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
+#include "toolbar/Popup.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
 #include "toolbar/frmToolbar.h"
@@ -36,6 +37,7 @@ class Parts {
   frmQMenu Menu{TheProgram};
   frmMinimize Companion{TheProgram};
   frmStartup Startup{TheProgram};
+  Popup ThePopup{TheProgram};
   IconRule TheIconRule{TheProgram};
   IconLibrary TheIconLibrary{TheProgram};
   BuiltInCommands TheBuiltIns{TheProgram};

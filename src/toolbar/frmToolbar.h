@@ -63,6 +63,11 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void DoSingleButtons() override;
   /// Draws the buttons anew without moving anything, after a change of the system's colours.
   void RefreshToolbar() override;
+  void MarkCollections() override { CollectionsMarked = true; }
+
+  // ---- new buttons (frmToolbarNewButton.cpp) ----
+
+  void AddNewButton() override;
 
   // ---- sizes and places (frmToolbarLayout.cpp) ----
 
@@ -149,6 +154,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void BringToForeground() override;
   void ShowAndRefresh() override;
   void HideWindow() override { Hide(); }
+  void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
+    Form::SetWindowPos(after, flags);
+  }
 
   // ---- controls, from the back to the front ----
 
