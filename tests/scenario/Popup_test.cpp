@@ -75,7 +75,8 @@ TEST_F(RightClick, CopyItemAndPasteItemCarryItIntoAnotherMenu) {
   Choose(1, 3, "Copy Item");
   desk_->Pause(1500);
   ASSERT_FALSE(desk_->PopupIsUp());
-  ASSERT_TRUE(OpenMenu(*desk_, 3));
+  desk_->MovePointer(ButtonMiddle(*desk_, 3));
+  ASSERT_TRUE(WaitForMenuAt(*desk_, 3));
   Choose(1, 1, "Paste Item");
   ASSERT_TRUE(WaitForTitles(2, "Others|alpha|delta|"));
   EXPECT_EQ(Titles(1), "Letters|alpha|beta|gamma|");

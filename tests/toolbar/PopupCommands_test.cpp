@@ -69,9 +69,9 @@ TEST(PopupOnAGeneratedEntry, APasteGoesBeforeItsFolderItemInTheMenusOwnFile) {
 // ---- single buttons ----
 
 TEST(PopupOnASingleButton, EditsTheRow) {
-  PopupDesk desk;
   CallLog log;
   LoggingSingles singles(log);
+  PopupDesk desk;
   desk.TheProgram.Ports.SingleButtons = &singles;
   EntryEdit single{.CurTitle = "Single",
                    .CurIcon = "i",
@@ -104,8 +104,8 @@ struct NotedProperties final : PropertiesPort {
 };
 
 TEST(PopupProperties, CloseTheMenuAndShowTheEntry) {
-  PopupDesk desk;
   NotedProperties properties;
+  PopupDesk desk;
   desk.TheProgram.Ports.Properties = &properties;
   desk.OpenMenuOf(2);
   desk.RightClickItem(2, "Properties");
@@ -123,8 +123,8 @@ TEST(PopupProperties, WithoutTheirWindowOnlyCloseTheMenu) {
 }
 
 TEST(PopupProperties, OfTheBareRowAreThoseOfTheStrip) {
-  PopupDesk desk;
   NotedProperties properties;
+  PopupDesk desk;
   desk.TheProgram.Ports.Properties = &properties;
   desk.ChooseFor({.CurTitle = "Left over", .CurMenuTag = "SingleButtons", .CurRecord = 0},
                  "Properties");
@@ -133,8 +133,8 @@ TEST(PopupProperties, OfTheBareRowAreThoseOfTheStrip) {
 }
 
 TEST(PopupProperties, OfAFolderAreThoseOfTheItemThatAnEntryWasGeneratedFrom) {
-  PopupDesk desk;
   NotedProperties properties;
+  PopupDesk desk;
   desk.TheProgram.Ports.Properties = &properties;
   desk.PutMenu(1, {Entry("Letters"), Entry("One"), Entry("Docs", "d.ico", "C:\\Docs\\*.*")});
   desk.ChooseFor(GeneratedEntry(), "Folder Properties");

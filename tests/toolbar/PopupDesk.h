@@ -60,6 +60,12 @@ struct PopupDesk : StripDesk {
     Click(button);
     Wait(200);
   }
+  /// From one open menu to another, as along the strip.
+  void GoToMenuOf(int button) {
+    PointAtButton(button);
+    Wait(300);
+    ASSERT_EQ(RealMenu.OwnerTag(), std::to_string(button));
+  }
   /// The captions of the menu on show.
   [[nodiscard]] std::string Shown() const {
     std::string shown;

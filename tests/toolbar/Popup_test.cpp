@@ -139,7 +139,7 @@ TEST(PopupOnAnItem, CopyLeavesItAndPasteGoesIntoAnotherMenuAsOftenAsWanted) {
   desk.OpenMenuOf(2);
   desk.RightClickItem(2, "Copy Item");
   EXPECT_EQ(desk.Titles(1), "Letters|One|Two|Separator|Three|");
-  desk.OpenMenuOf(3);
+  desk.GoToMenuOf(3);
   desk.RightClickItem(1, "Paste Item");
   desk.RightClickItem(1, "Paste Item");
   EXPECT_EQ(desk.Titles(2), "Others|Two|Two|Other|");
@@ -175,11 +175,13 @@ TEST(PopupOnAnItem, UndoIsOfferedInTheMenuOfTheDeletedOneAlone) {
   PopupDesk desk;
   desk.OpenMenuOf(2);
   desk.RightClickItem(1, "Delete Item");
-  desk.OpenMenuOf(3);
+  desk.GoToMenuOf(3);
   desk.RightClickItem(1);
+  EXPECT_EQ(desk.World.Desktop.Popups().size(), 2U);
   EXPECT_FALSE(desk.LastPopup().Offers("Undo Delete"));
-  desk.OpenMenuOf(2);
+  desk.GoToMenuOf(2);
   desk.RightClickItem(1);
+  EXPECT_EQ(desk.World.Desktop.Popups().size(), 3U);
   EXPECT_TRUE(desk.LastPopup().Offers("Undo Delete"));
 }
 

@@ -271,8 +271,8 @@ struct NotedDocking final : DockingPort {
 };
 
 TEST(CompanionNotOnTop, LetsOtherWindowsCoverTheStripAndSaysHowToGetItBack) {
-  Started desk;
   NotedTip tip;
+  Started desk;
   desk.TheProgram.Ports.Tip = &tip;
   desk.TheProgram.AutoHide = true;
   desk.SetOption(3, true);
@@ -298,8 +298,8 @@ TEST(CompanionNotOnTop, LetsOtherWindowsCoverTheStripAndSaysHowToGetItBack) {
 }
 
 TEST(CompanionNotOnTop, SaysNothingToWhoWantsNoMoreOfIt) {
-  Started desk;
   NotedTip tip;
+  Started desk;
   desk.TheProgram.Ports.Tip = &tip;
   desk.SetOption(29, true);
   desk.Companion.ActivateSysTray();
@@ -337,6 +337,7 @@ TEST(CompanionNotOnTop, GivesTheEdgeBackAndTakesItAnewEachWay) {
   desk.Companion.DeActivateSysTray();
   EXPECT_EQ(docking.Asked, anew);
   desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.Ports.Docking = nullptr;
 }
 
 TEST(CompanionNotOnTop, AClickOnTheTrayBringsTheStripBeforeTheWindowThatCoversIt) {
@@ -383,6 +384,7 @@ struct AtEdge : Started {
     TheProgram.ToolbarEdge = "RIGHT";
   }
   ~AtEdge() {
+    TheProgram.Ports.Docking = nullptr;
     TheProgram.AppBarDocked = false;
     TheProgram.AutoHide = false;
   }
