@@ -29,15 +29,16 @@ void EditSingles(Program& program, const Edit& edit) {
   ResizeStrip(program, freeWidth);
 }
 
-void DeleteButton(Program& program) {
+EditOutcome DeleteButton(Program& program) {
   const float freeWidth = FreeWidth(program);
   // A file that cannot be deleted leaves its button on the strip, where the user sees it.
-  static_cast<void>(DeleteButtonFile(program.Services.Files, program.Entry));
+  const EditOutcome outcome = DeleteButtonFile(program.Services.Files, program.Entry);
   if (program.Ports.Toolbar != nullptr) {
     program.Ports.Toolbar->ResetCollections();
     program.Ports.Toolbar->DoToolbarButtons();
   }
   ResizeStrip(program, freeWidth);
+  return outcome;
 }
 
 // A drag rereads the menu itself when it ends; until then only the built menu is stale.
@@ -50,40 +51,46 @@ void RefreshAfterEdit(Program& program) {
   }
 }
 
-void DeleteMenuItem(Program& program) {
+EditOutcome DeleteMenuItem(Program& program) {
   const EditOutcome outcome = DeleteMenuEntry(program.Services.Files, program.Services.Ansi,
                                               program.MenusPath, program.Entry);
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program);
   if (outcome == EditOutcome::RecordMismatch && !program.Entry.ItemDragging) {
-    program.Say(kNoWindow, "Cannot delete/cut this item. Record mismatch.",
-                forms::msgbox::IconInformation | forms::msgbox::OnTop);
+    SayRecordMismatch(program);
   }
+  return outcome;
 }
 
 }  // namespace
 
-void DeleteItem(Program& program, bool skipConfirm) {
-  const std::string& tag = program.Entry.CurMenuTag;
-  const bool ask = !program.Entry.ItemDragging && !skipConfirm && IsButtonTag(tag);
-  if (ask && !ConfirmsButtonDelete(program)) return;
-  if (IsSinglesTag(tag)) {
-    EditSingles(program, [&](SingleButtonsPort& row) { row.DeleteSingle(program.Entry.CurFile); });
-  } else if (IsButtonTag(tag)) {
-    DeleteButton(program);
-  } else if (IsMenuTag(tag)) {
-    DeleteMenuItem(program);
-  }
+void SayRecordMismatch(Program& program) {
+  program.Say(kNoWindow, "Cannot delete/cut this item. Record mismatch.",
+              forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
-void PasteItem(Program& program) {
+EditOutcome DeleteItem(Program& program, bool skipConfirm) {
+  const std::string& tag = program.Entry.CurMenuTag;
+  const bool ask = !program.Entry.ItemDragging && !skipConfirm && IsButtonTag(tag);
+  if (ask && !ConfirmsButtonDelete(program)) return EditOutcome::NothingToDo;
+  if (IsSinglesTag(tag)) {
+    EditSingles(program, [&](SingleButtonsPort& row) { row.DeleteSingle(program.Entry.CurFile); });
+    return EditOutcome::Edited;
+  }
+  if (IsButtonTag(tag)) return DeleteButton(program);
+  if (IsMenuTag(tag)) return DeleteMenuItem(program);
+  return EditOutcome::NothingToDo;
+}
+
+EditOutcome PasteItem(Program& program) {
   program.Entry.UndoMenuTag.clear();
   if (IsSinglesTag(program.Entry.CurMenuTag)) {
     EditSingles(program, [&](SingleButtonsPort& row) { row.PasteSingle(program.Entry.CurFile); });
-    return;
+    return EditOutcome::Edited;
   }
   const EditOutcome outcome = PasteMenuEntry(program.Services.Files, program.Services.Ansi,
                                              program.MenusPath, program.Entry);
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program);
+  return outcome;
 }
 
 bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bool copies) {
@@ -107,21 +114,22 @@ bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bo
   return true;
 }
 
-void UndoDeleteItem(Program& program) {
+EditOutcome UndoDeleteItem(Program& program) {
   if (IsSinglesTag(program.Entry.UndoMenuTag)) {
     EditSingles(program, [&](SingleButtonsPort& row) { row.UndoDeleteSB(program.Entry.UndoFile); });
     if (program.Ports.Toolbar != nullptr) {
       program.Ports.Toolbar->RefreshMenu(program.Entry.UndoMenuTag);
     }
     program.Entry.UndoMenuTag.clear();
-    return;
+    return EditOutcome::Edited;
   }
   const EditOutcome outcome = UndoDeleteMenuEntry(program.Services.Files, program.Services.Ansi,
                                                   program.MenusPath, program.Entry);
   // A disk that refuses now may take it a moment later: the entry is not given up.
-  if (outcome == EditOutcome::Failed) return;
+  if (outcome == EditOutcome::Failed) return outcome;
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program);
   program.Entry.UndoMenuTag.clear();
+  return outcome;
 }
 
 }  // namespace corvelle

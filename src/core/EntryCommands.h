@@ -9,14 +9,16 @@ namespace corvelle {
 class Program;
 
 // The editing commands of the popup, of drags and of keys, on the entry that Program::Entry names.
-// Each settles its failures itself: it says what the user must know and leaves the file as it was.
+// Each leaves the file as it was when it fails, and says so itself but for a disk that refused:
+// that is the caller's to say or to pass over. What is done on the strip as a whole counts as
+// edited.
 
 /// Deletes or cuts the entry. A whole toolbar button is deleted only after a question, unless
 /// `skipConfirm` or during a drag, and cannot be brought back.
-void DeleteItem(Program& program, bool skipConfirm);
+EditOutcome DeleteItem(Program& program, bool skipConfirm);
 
 /// Puts the clipboard's entry before the current one. Ends the chance of an undo.
-void PasteItem(Program& program);
+EditOutcome PasteItem(Program& program);
 
 /// Puts the carried entry, the current one, down in the menu of `tag`: at `place`, taking it away
 /// from where it came unless `copies`. An entry that cannot be taken away stays there too; one that
@@ -24,6 +26,9 @@ void PasteItem(Program& program);
 bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bool copies);
 
 /// Puts the last deleted entry back at its place.
-void UndoDeleteItem(Program& program);
+EditOutcome UndoDeleteItem(Program& program);
+
+/// Tells the user that the file does not hold the entry any more.
+void SayRecordMismatch(Program& program);
 
 }  // namespace corvelle

@@ -177,6 +177,15 @@ void RememberForUndo(EntryEdit& edit) {
   edit.UndoRecord = edit.CurRecord;
 }
 
+void RestoreUndo(EntryEdit& edit, const EntryEdit& before) {
+  edit.UndoTitle = before.UndoTitle;
+  edit.UndoIcon = before.UndoIcon;
+  edit.UndoCommand = before.UndoCommand;
+  edit.UndoMenuTag = before.UndoMenuTag;
+  edit.UndoFile = before.UndoFile;
+  edit.UndoRecord = before.UndoRecord;
+}
+
 EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit) {
   const int place = RealRecord(edit.CurRecord) - 1;
   if (place < 1) return EditOutcome::RecordMismatch;

@@ -105,6 +105,9 @@ void SetClipboard(EntryEdit& edit, const MenuRecord& record = {});
 /// leaves nothing to undo.
 void RememberForUndo(EntryEdit& edit);
 
+/// The undo store as it was in `before`.
+void RestoreUndo(EntryEdit& edit, const EntryEdit& before);
+
 /// Makes the separator above the current entry the current entry and remembers it for undoing.
 /// RecordMismatch, and nothing changed, when there is none.
 EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit);

@@ -88,6 +88,12 @@ class ToolbarPort : public LoadedWindow {
   virtual void UpdateLabelDate() = 0;
   /// Shows the window without making it active and paints it.
   virtual void ShowAndRefresh() = 0;
+  /// Makes the file of a new menu button and shows the button, behind those there are.
+  virtual void AddNewButton() = 0;
+  /// The next UnloadItems empties the icon collections kept for menus.
+  virtual void MarkCollections() = 0;
+  /// Flags of SetWindowPos (forms::swp).
+  virtual void SetWindowPos(forms::InsertAfter after, unsigned flags) = 0;
 };
 
 /// The one menu window.
@@ -152,7 +158,8 @@ class MinimizePort : public LoadedWindow {
   /// Switches "Not On Top" on and off.
   virtual void ActivateSysTray() = 0;
   virtual void DeActivateSysTray() = 0;
-  /// Takes the strip's place on the screen and goes into the task bar for it.
+  /// Puts the strip away (from its edge too) and goes into the task bar for it, from the strip's
+  /// place on the screen. The companion's return brings the strip back.
   virtual void MinimizeFor(const TwipRect& strip) = 0;
 };
 
@@ -196,6 +203,9 @@ class HintPort {
   /// Shows the text, or closes the hint when it is empty.
   virtual void SetHint(std::string_view text) = 0;
   [[nodiscard]] virtual WindowId WindowHandle() const = 0;
+  /// The window's place in the Z order, with flags of SetWindowPos. A side without a window has
+  /// nothing to do.
+  virtual void SetHintLevel(forms::InsertAfter /*after*/, unsigned /*flags*/) {}
 };
 
 /// Placement of the strip at a screen edge.

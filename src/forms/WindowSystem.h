@@ -6,9 +6,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Geometry.h"
 #include "forms/DragDrop.h"
+#include "forms/PopupMenu.h"
 #include "forms/Types.h"
 #include "platform/Canvas.h"
 #include "platform/WindowId.h"
@@ -190,6 +192,14 @@ class WindowSystem {
   /// desktop). Events run while it is up. Returns the button's number.
   virtual int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                           unsigned flags) = 0;
+
+  /// Shows the visible ones of `items` as a popup menu, its upper left corner at a point of the
+  /// screen (pixels) or beside it where there is no room. The owner, a top-level window of ours,
+  /// comes to the foreground first, so that a click elsewhere closes the popup. Events run while it
+  /// is up; the end of its owner or of the program closes it. Returns the index in `items` of what
+  /// was chosen, popup::kNothing when nothing was or the popup could not be shown.
+  virtual int ShowPopup(WindowId owner, const std::vector<PopupItem>& items, PixelPoint at,
+                        unsigned flags) = 0;
 };
 
 /// The colour to paint with now.

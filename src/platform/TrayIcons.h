@@ -13,7 +13,8 @@ struct TrayIcon {
   WindowId Window = kNoWindow;
   std::uint32_t Id = 1;
   std::uint32_t CallbackMessage = 0;
-  /// The file whose first small icon is shown; the system's program icon when it has none.
+  /// The file whose first small icon is shown. When it has none the running program's own icon is,
+  /// and without that the system's icon for programs.
   std::string IconFile;
   std::string Tip;  // 63 characters of it are shown
 };
@@ -23,9 +24,15 @@ class TrayIcons {
  public:
   virtual ~TrayIcons() = default;
 
-  /// Keeps no handle. False when there is no task bar to show it.
+  /// Keeps no handle. False when there is no task bar to show it, or when that icon of that window
+  /// is there already.
   virtual bool Add(const TrayIcon& icon) = 0;
+  /// Does nothing when there is no such icon.
   virtual void Remove(WindowId window, std::uint32_t id) = 0;
+
+  /// The message that every top-level window gets when the task bar comes up anew, without the
+  /// icons that it showed before. 0 when the system has none.
+  [[nodiscard]] virtual std::uint32_t TaskbarCreatedMessage() const = 0;
 };
 
 }  // namespace corvelle

@@ -17,6 +17,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.Minimize = &Companion;
   ports.Startup = &Startup;
   ports.FolderMenus = &TheFolderMenus;
+  ports.Popup = &ThePopup;
   ports.IconRule = &TheIconRule;
   ports.IconLibrary = &TheIconLibrary;
   ports.BuiltInCommands = &TheBuiltIns;

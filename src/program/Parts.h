@@ -9,6 +9,7 @@
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
 #include "toolbar/DragImage.h"
+#include "toolbar/Popup.h"
 #include "toolbar/frmImage.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
@@ -43,6 +44,7 @@ class Parts {
   FolderMenus TheFolderMenus{TheProgram};
   frmMinimize Companion{TheProgram};
   frmStartup Startup{TheProgram};
+  Popup ThePopup{TheProgram};
   IconRule TheIconRule{TheProgram};
   IconLibrary TheIconLibrary{TheProgram};
   BuiltInCommands TheBuiltIns{TheProgram};

@@ -1,12 +1,23 @@
 #include "toolbar/frmMinimize.h"
 
+#include <string_view>
 #include <utility>
 
 #include "base/Numbers.h"
 #include "core/Program.h"
+#include "forms/Scopes.h"
+#include "platform/TrayIcons.h"
 
 namespace corvelle {
 namespace {
+
+constexpr std::uint32_t kTrayIcon = 1;
+constexpr int kNotOnTopTip = 29;  // position in the options
+constexpr std::string_view kNotOnTopText =
+    "If the Toolbar is set to 'Not On Top', any window can cover the toolbar. This is an "
+    "alternative option to Auto Hide.\r\n\r\n"
+    "To bring the toolbar to the foreground, click Corvelle icon on the Taskbar/System "
+    "Tray.\r\n\r\n";
 
 // The tray reports what the mouse does on its icon by the number of the mouse's message.
 constexpr int kLeftButtonUp = 514;
@@ -38,6 +49,7 @@ void frmMinimize::Form_Load() {
 }
 
 void frmMinimize::Form_Unload() {
+  RemoveFromSysTray();
   const WindowPorts& ports = program_.Ports;
   EndWindow(ports.NetSearch);
   EndWindow(ports.Properties);
@@ -50,16 +62,104 @@ void frmMinimize::Form_Unload() {
   program_.Windows.Quit();
 }
 
-void frmMinimize::ShowInSysTray() { Minimize(); }
+// ---- Not On Top ----
 
-void frmMinimize::ActivateSysTray() {}
+void frmMinimize::ShowInSysTray() {
+  if (InTray || !IsLoaded()) return;
+  // Without a task bar it is tried again when one comes up.
+  InTray = program_.Services.Tray.Add({.Window = hWnd(),
+                                       .Id = kTrayIcon,
+                                       .CallbackMessage = forms::message::MouseMove,
+                                       .IconFile = program_.AppPath + "corvelle.exe",
+                                       .Tip = "Corvelle"});
+}
 
-void frmMinimize::DeActivateSysTray() {}
+void frmMinimize::RemoveFromSysTray() {
+  if (!InTray) return;
+  program_.Services.Tray.Remove(hWnd(), kTrayIcon);
+  InTray = false;
+}
+
+void frmMinimize::ActivateSysTray() {
+  ToolbarPort* const strip = program_.Ports.Toolbar;
+  if (program_.NotOnTop || strip == nullptr || !strip->WindowLoaded()) return;
+  program_.AutoHide = false;
+  program_.OptionFlags.Set(3, false);
+  program_.NotOnTop = true;
+  program_.OptionFlags.Set(23, true);
+  strip->MarkCollections();
+  strip->SetWindowPos(forms::InsertAfter::NotTopmost, forms::swp::Show);
+  DockAnew();
+  if (!IsLoaded()) return;
+  // The menu is over everything even so.
+  SetMenuLevel();
+  ShowInSysTray();
+  program_.SaveOptionFlags();
+  subShowToolbar();
+  if (program_.OptionFlags.Is(kNotOnTopTip) || program_.Ports.Tip == nullptr) return;
+  program_.Ports.Tip->ShowTip("Not On Top", kNotOnTopText, kNotOnTopTip);
+}
+
+void frmMinimize::DeActivateSysTray() {
+  ToolbarPort* const strip = program_.Ports.Toolbar;
+  if (strip == nullptr || !strip->WindowLoaded()) return;
+  program_.NotOnTop = false;
+  program_.OptionFlags.Set(23, false);
+  DockAnew();
+  if (!IsLoaded()) return;
+  strip->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
+  SetMenuLevel();
+  RemoveFromSysTray();
+  program_.SaveOptionFlags();
+}
+
+// Whether the edge's room is reserved for the strip has changed.
+void frmMinimize::DockAnew() {
+  DockingPort* const docking = program_.Ports.Docking;
+  if (!program_.AppBarDocked || docking == nullptr) return;
+  program_.AppBarDocked = false;
+  docking->RemoveAppBar();
+  docking->SetAppBar(program_.ToolbarEdge, true);
+  docking->RevealToolbar();
+}
+
+void frmMinimize::SetMenuLevel() {
+  constexpr auto kTopmost = forms::InsertAfter::Topmost;
+  const WindowPorts& ports = program_.Ports;
+  if (ports.QMenu != nullptr) ports.QMenu->SetWindowPos(kTopmost, forms::swp::Hide);
+  if (ports.Hint != nullptr && !program_.OptionFlags.Is(22)) {
+    ports.Hint->SetHintLevel(kTopmost, forms::swp::Hide);
+  }
+}
+
+// ---- into the task bar ----
 
 void frmMinimize::MinimizeFor(const TwipRect& strip) {
+  ToolbarPort* const toolbar = program_.Ports.Toolbar;
+  if (toolbar == nullptr || !toolbar->WindowLoaded()) return;
+  program_.ToolbarMinimized = true;
+  const forms::FlagScope minimizing(program_.ToolbarMinimizing);
+  program_.ToolbarReady = false;
+  if (program_.AppBarDocked) LeaveEdge(strip.Top);
   Move(strip.Left, strip.Top, strip.Width, strip.Height);
+  toolbar->HideWindow();
   Minimize();
 }
+
+// The edge is free for others while the strip is in the task bar.
+void frmMinimize::LeaveEdge(float top) {
+  program_.WasDocked = true;
+  program_.WasEdge = program_.ToolbarEdge;
+  program_.WasTop = top;
+  if (DockingPort* const docking = program_.Ports.Docking) {
+    // The claim to hide at an edge is given up only by the way that registers anew.
+    if (program_.AutoHide) docking->RemoveAppBar();
+    docking->EndAppBar();
+  }
+  program_.AppBarDocked = false;
+}
+
+// ---- back ----
 
 void frmMinimize::Form_MouseMove(float x) {
   const int message = RoundToInt(x / program_.Windows.Screen().TwipsPerPixelX);
@@ -77,6 +177,12 @@ void frmMinimize::subShowToolbar() {
 
 std::optional<std::intptr_t> frmMinimize::WindowProc(std::uint32_t message, std::uintptr_t wParam,
                                                      std::intptr_t lParam) {
+  if (message != 0 && message == program_.Services.Tray.TaskbarCreatedMessage()) {
+    // The task bar came up anew, without the icons that the one before showed.
+    InTray = false;
+    if (program_.NotOnTop) ShowInSysTray();
+    return std::nullopt;
+  }
   if (message != forms::message::Size) return std::nullopt;
   if (wParam == kSizeMinimized) wasMinimized_ = true;
   // A second start of the program sends a size message without a size.
@@ -91,11 +197,8 @@ void frmMinimize::Form_Resize() {
   ToolbarPort* const strip = program_.Ports.Toolbar;
   if (strip == nullptr || !strip->WindowLoaded()) return;
   if (program_.ToolbarMinimized) WakeToolbar();
-  if (program_.NotOnTop) {
-    ShowInSysTray();
-  } else {
-    SetVisible(false);
-  }
+  if (!IsLoaded()) return;
+  SetVisible(false);
   program_.DoEvents();
   if (!IsLoaded()) return;
   if (program_.AutoHide && program_.Ports.Docking != nullptr) {
@@ -110,14 +213,34 @@ void frmMinimize::WakeToolbar() {
   program_.ToolbarMinimized = false;
   ToolbarPort& strip = *program_.Ports.Toolbar;
   if (program_.WasDocked && program_.Ports.Docking != nullptr) {
-    program_.WasDocked = false;
-    program_.Ports.Docking->RegisterAppBar();
-    program_.Ports.Docking->SetAppBar(program_.ToolbarEdge, false);
+    ReturnToEdge();
+    if (!IsLoaded()) return;
   } else {
     strip.CheckToolbarMove();
   }
   strip.ShowAndRefresh();
   program_.ToolbarReady = true;
+}
+
+void frmMinimize::ReturnToEdge() {
+  DockingPort& docking = *program_.Ports.Docking;
+  ToolbarPort& strip = *program_.Ports.Toolbar;
+  program_.WasDocked = false;
+  if (!program_.WasEdge.empty()) program_.ToolbarEdge = std::exchange(program_.WasEdge, {});
+  // Another program's bar may hide there by now.
+  if (program_.AutoHide && !docking.AutoHideFree(program_.ToolbarEdge)) {
+    program_.OptionFlags.Set(3, false);
+    program_.AutoHide = false;
+    docking.ShowAutoHideTaken();
+    if (!IsLoaded()) return;
+  }
+  docking.RegisterAppBar();
+  strip.MarkCollections();
+  docking.SetAppBar(program_.ToolbarEdge, false);
+  if (!IsLoaded()) return;
+  if (program_.ToolbarVertical && strip.WindowBounds().Top != program_.WasTop) {
+    strip.ResetCollections();
+  }
 }
 
 }  // namespace corvelle

@@ -19,13 +19,17 @@ class frmMinimize final : public forms::Form, public MinimizePort {
   void LoadWindow() override { static_cast<void>(Load()); }
   void UnloadWindow() override { Unload(); }
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
-  /// A strip that other windows may cover is brought forward by the task bar's button.
+  /// Puts the program's icon into the tray; what the mouse does on it comes to Form_MouseMove.
   void ShowInSysTray() override;
+  void RemoveFromSysTray();
   void ActivateSysTray() override;
   void DeActivateSysTray() override;
   void MinimizeFor(const TwipRect& strip) override;
   /// Brings the strip to the foreground from another program's turn.
   void subShowToolbar();
+
+  /// The icon is in the tray.
+  bool InTray = false;
 
  protected:
   void Form_Load() override;
@@ -38,6 +42,10 @@ class frmMinimize final : public forms::Form, public MinimizePort {
  private:
   void Form_MouseMove(float x);
   void WakeToolbar();
+  void ReturnToEdge();
+  void LeaveEdge(float top);
+  void DockAnew();
+  void SetMenuLevel();
 
   Program& program_;
   bool wasMinimized_ = false;

@@ -64,6 +64,11 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void DoSingleButtons() override;
   /// Draws the buttons anew without moving anything, after a change of the system's colours.
   void RefreshToolbar() override;
+  void MarkCollections() override { CollectionsMarked = true; }
+
+  // ---- new buttons (frmToolbarNewButton.cpp) ----
+
+  void AddNewButton() override;
 
   // ---- sizes and places (frmToolbarLayout.cpp) ----
 
@@ -173,6 +178,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void EnsureToolbarVisible();
   /// Ends a move of the strip: it takes the place that the screen and the options let it have.
   void AdjustToolbarPosition();
+  void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
+    Form::SetWindowPos(after, flags);
+  }
 
   // ---- controls, from the back to the front ----
 

@@ -73,6 +73,10 @@ struct WindowTraits : NullHandleTraits<HWND> {
   static void Close(HWND window) noexcept { DestroyWindow(window); }
 };
 
+struct MenuTraits : NullHandleTraits<HMENU> {
+  static void Close(HMENU menu) noexcept { DestroyMenu(menu); }
+};
+
 struct RegistryKeyTraits : NullHandleTraits<HKEY> {
   static void Close(HKEY key) noexcept { RegCloseKey(key); }
 };
@@ -100,6 +104,7 @@ using UniqueMemoryDc = UniqueHandle<MemoryDcTraits>;
 using UniqueIcon = UniqueHandle<IconTraits>;
 using UniqueCursor = UniqueHandle<CursorTraits>;
 using UniqueWindow = UniqueHandle<WindowTraits>;
+using UniqueMenu = UniqueHandle<MenuTraits>;
 using UniqueRegistryKey = UniqueHandle<RegistryKeyTraits>;
 using UniqueKernel = UniqueHandle<KernelTraits>;
 using UniqueFile = UniqueHandle<FileTraits>;

@@ -1,25 +1,67 @@
 #include "win32/Win32TrayIcons.h"
 
+#include <algorithm>
+#include <string>
+
 #include "win32/Sys.h"
+#include "win32/UniqueHandle.h"
+#include "win32/Wide.h"
 
 namespace corvelle::win32 {
 
-bool Win32TrayIcons::Add(const TrayIcon& icon) {
-  NOTIFYICONDATAW data{};
-  data.cbSize = sizeof data;
-  data.hWnd = ToHwnd(icon.Window);
-  data.uID = icon.Id;
-  data.uFlags = NIF_MESSAGE;
-  data.uCallbackMessage = icon.CallbackMessage;
-  return Shell_NotifyIconW(NIM_ADD, &data) != FALSE;
-}
+namespace {
 
-void Win32TrayIcons::Remove(WindowId window, std::uint32_t id) {
+constexpr int kProgramIcon = 1;  // its number in the program's resources
+constexpr std::size_t kLongestTip = 63;
+
+NOTIFYICONDATAW DataOf(WindowId window, std::uint32_t id) {
   NOTIFYICONDATAW data{};
   data.cbSize = sizeof data;
   data.hWnd = ToHwnd(window);
   data.uID = id;
+  return data;
+}
+
+/// The first icon of a file in both sizes, as the system gives them.
+struct FileIcons {
+  UniqueIcon Large;
+  UniqueIcon Small;
+};
+
+FileIcons ExtractIcons(const std::string& file) {
+  FileIcons icons;
+  if (file.empty()) return icons;
+  ExtractIconExW(Wide(file).c_str(), 0, icons.Large.Receive(), icons.Small.Receive(), 1);
+  return icons;
+}
+
+// What the system lends is not given back.
+HICON FallbackIcon() {
+  const HICON own = LoadIconW(Module(), MAKEINTRESOURCEW(kProgramIcon));
+  return own != nullptr ? own : LoadIconW(nullptr, IDI_APPLICATION);
+}
+
+}  // namespace
+
+bool Win32TrayIcons::Add(const TrayIcon& icon) {
+  NOTIFYICONDATAW data = DataOf(icon.Window, icon.Id);
+  data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
+  data.uCallbackMessage = icon.CallbackMessage;
+  // The task bar takes a copy.
+  const FileIcons icons = ExtractIcons(icon.IconFile);
+  data.hIcon = icons.Small ? icons.Small.Get() : FallbackIcon();
+  const std::wstring tip = Wide(icon.Tip).substr(0, kLongestTip);
+  std::copy(tip.begin(), tip.end(), data.szTip);
+  return Shell_NotifyIconW(NIM_ADD, &data) != FALSE;
+}
+
+void Win32TrayIcons::Remove(WindowId window, std::uint32_t id) {
+  NOTIFYICONDATAW data = DataOf(window, id);
   Shell_NotifyIconW(NIM_DELETE, &data);
+}
+
+std::uint32_t Win32TrayIcons::TaskbarCreatedMessage() const {
+  return RegisterWindowMessageW(L"TaskbarCreated");
 }
 
 }  // namespace corvelle::win32

@@ -9,6 +9,7 @@ class Win32TrayIcons final : public TrayIcons {
  public:
   bool Add(const TrayIcon& icon) override;
   void Remove(WindowId window, std::uint32_t id) override;
+  std::uint32_t TaskbarCreatedMessage() const override;
 };
 
 }  // namespace corvelle::win32

@@ -170,7 +170,8 @@ void Win32WindowSystem::Run() {
 
 void Win32WindowSystem::Quit() {
   quit_ = true;
-  // Wakes the loop, and ends that of a message box too.
+  // Wakes the loop, and ends that of a message box too; a popup menu has one of its own.
+  EndMenu();
   PostQuitMessage(0);
 }
 

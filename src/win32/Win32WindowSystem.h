@@ -35,6 +35,8 @@ class Win32WindowSystem final : public forms::WindowSystem {
   std::int64_t Now() const override;
   int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                   unsigned flags) override;
+  int ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& items, PixelPoint at,
+                unsigned flags) override;
 
   /// Shows the pointer's shape now.
   void ShowPointer() const;

@@ -56,6 +56,9 @@ class LoggingToolbar final : public ToolbarPort {
   void HideWindow() override {}
   void DoLabelDate() override {}
   void UpdateLabelDate() override {}
+  void AddNewButton() override {}
+  void MarkCollections() override {}
+  void SetWindowPos(forms::InsertAfter, unsigned) override {}
 
  private:
   void Note(std::string_view what, std::string_view tag) {

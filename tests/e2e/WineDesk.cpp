@@ -70,6 +70,18 @@ void SendKey(int virtualKey, DWORD flags) {
   SendInput(1, &input, sizeof(input));
 }
 
+HWND OpenPopup() {
+  HWND popup = FindWindowW(L"#32768", nullptr);
+  return popup != nullptr && IsWindowVisible(popup) != FALSE ? popup : nullptr;
+}
+
+// The lines of the popup that the keyboard goes through, from top to bottom: a menu of another
+// program cannot be asked for them.
+constexpr std::string_view kPopupLines[] = {
+    "Refresh",          "Cut Item",     "Copy Item",  "Paste Item",       "Delete Item",
+    "Delete Separator", "Undo Delete",  "Add Button", "Insert Menu Item", "Insert Separator",
+    "Open Folder",      "Close Folder", "Properties", "Folder Properties"};
+
 LRESULT CALLBACK OtherProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_DESTROY) PostQuitMessage(0);
   return DefWindowProcW(window, message, wParam, lParam);
@@ -385,7 +397,40 @@ bool WineDesk::EndSession() {
   return !windows.empty();
 }
 
+bool WineDesk::PopupIsUp() const { return OpenPopup() != nullptr; }
+
+// By the keyboard, as the pointer would have to know the height of a line.
+void WineDesk::ChooseInPopups() {
+  if (chosen_ == choices_.size() || OpenPopup() == nullptr) return;
+  const std::string wanted = choices_[chosen_++];
+  const auto* const line = std::find(std::begin(kPopupLines), std::end(kPopupLines), wanted);
+  if (line == std::end(kPopupLines)) std::printf("No popup has the line %s\n", wanted.c_str());
+  Sleep(100);
+  for (const auto* at = std::begin(kPopupLines); at <= line && at != std::end(kPopupLines); ++at) {
+    Key(VK_DOWN);
+    Sleep(20);
+  }
+  Sleep(100);
+  Picture("popup-" + std::to_string(chosen_));
+  Key(line == std::end(kPopupLines) ? VK_ESCAPE : VK_RETURN);
+  for (int i = 0; i < 300 && OpenPopup() != nullptr; ++i) Sleep(10);
+}
+
+// The icons stand in cells of 20 pixels from the right end of the task bar.
+void WineDesk::ClickTrayIcon() {
+  constexpr int kHalfCell = 10;
+  RECT bar = {};
+  HWND window = FindWindowW(L"Shell_TrayWnd", nullptr);
+  if (window == nullptr || GetWindowRect(window, &bar) == FALSE) return;
+  MovePointer(
+      {static_cast<int>(bar.right) - kHalfCell, static_cast<int>(bar.top + bar.bottom) / 2});
+  Pause(200);
+  Press(Button::Left);
+  Release(Button::Left);
+}
+
 void WineDesk::AnswerMessages() {
+  ChooseInPopups();
   if (answered_ == answers_.size()) return;
   HWND box = OpenMessageBox();
   if (box == nullptr) return;

@@ -70,6 +70,10 @@ class WineDesk final : public scenario::Desk {
   void AnswerNext(int button) override { answers_.push_back(button); }
   [[nodiscard]] std::vector<scenario::SeenMessage> Messages() const override { return messages_; }
 
+  void ChooseFromPopup(std::string_view caption) override { choices_.emplace_back(caption); }
+  [[nodiscard]] bool PopupIsUp() const override;
+  void ClickTrayIcon() override;
+
   [[nodiscard]] std::optional<std::string> ReadFile(std::string_view name) const override;
   void WriteFile(std::string_view name, std::string_view bytes) override;
   [[nodiscard]] bool FolderExists(std::string_view name) const override;
@@ -94,12 +98,15 @@ class WineDesk final : public scenario::Desk {
  private:
   void SendMouse(DWORD flags);
   void AnswerMessages();
+  void ChooseInPopups();
 
   std::vector<HANDLE> copies_;
   PixelPoint pointer_;
   std::vector<int> answers_;
   std::size_t answered_ = 0;
   std::vector<scenario::SeenMessage> messages_;
+  std::vector<std::string> choices_;
+  std::size_t chosen_ = 0;
   std::thread other_;
   HWND bar_ = nullptr;
   std::atomic<HWND> otherWindow_{nullptr};

@@ -26,6 +26,10 @@ class ContractHome {
   virtual DesktopWindows& Desktop() = 0;
   /// Lets time pass, with events running. The home may take longer.
   virtual void Wait(int milliseconds) = 0;
+  /// What happens while the next popup menu is up, in a home whose time does not pass by itself.
+  virtual void WhilePopupIsUp(std::function<void()> action) { static_cast<void>(action); }
+  /// The user closes the popup menu that is up, by Esc.
+  virtual void ClosePopup() = 0;
 };
 
 using ContractHomeFactory = std::function<std::unique_ptr<ContractHome>()>;

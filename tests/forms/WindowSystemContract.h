@@ -38,6 +38,47 @@ class WindowSystemContract : public testing::TestWithParam<ContractHomeFactory> 
   }
 };
 
+// Popup menus. What the user chooses in them is tested where there is a user.
+
+TEST_P(WindowSystemContract, APopupWithoutAChoiceGivesNothingAndItsOwnerIsInTheForeground) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  bool up = false;
+  bool active = false;
+  const TimerId timer = Windows().StartTimer(100, [&] {
+    up = true;
+    active = Desktop().ActiveWindow() == peer->Id();
+    home_->ClosePopup();
+  });
+  home_->WhilePopupIsUp([&] { home_->Wait(300); });
+  const int chosen = Windows().ShowPopup(
+      peer->Id(), {{.Caption = "One"}, {.Caption = "-"}, {.Caption = "Two", .Enabled = false}},
+      {300, 300}, popup::RightButton);
+  Windows().StopTimer(timer);
+  EXPECT_EQ(chosen, popup::kNothing);
+  EXPECT_TRUE(up) << "events run while it is up";
+  EXPECT_TRUE(active);
+}
+
+TEST_P(WindowSystemContract, TheEndOfItsOwnerClosesAPopup) {
+  auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  const TimerId timer = Windows().StartTimer(100, [&] { peer.reset(); });
+  home_->WhilePopupIsUp([&] { home_->Wait(300); });
+  EXPECT_EQ(Windows().ShowPopup(peer->Id(), {{.Caption = "One"}}, {300, 300}, 0), popup::kNothing);
+  Windows().StopTimer(timer);
+  EXPECT_EQ(peer, nullptr);
+}
+
+TEST_P(WindowSystemContract, QuitClosesAPopup) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  const TimerId timer = Windows().StartTimer(100, [&] { Windows().Quit(); });
+  home_->WhilePopupIsUp([&] { home_->Wait(300); });
+  EXPECT_EQ(Windows().ShowPopup(peer->Id(), {{.Caption = "One"}}, {300, 300}, 0), popup::kNothing);
+  Windows().StopTimer(timer);
+}
+
 // Windows.
 
 TEST_P(WindowSystemContract, AWindowIsMadeHiddenWithItsClassAndTellsNothing) {

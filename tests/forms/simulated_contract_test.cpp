@@ -19,6 +19,10 @@ class SimulatedHome final : public InputHome {
   void Release(MouseButton button) override { world_.Desktop.Release(button); }
   void DoubleClick() override { world_.Desktop.DoubleClick(); }
   void PressKey(int virtualKey) override { world_.Desktop.PressKey(virtualKey); }
+  void WhilePopupIsUp(std::function<void()> action) override {
+    world_.Desktop.WhilePopupIsUp([action = std::move(action)](const sim::Popup&) { action(); });
+  }
+  void ClosePopup() override { world_.Desktop.PressKey(key::Escape); }
 
  private:
   sim::World world_;

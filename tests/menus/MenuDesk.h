@@ -76,6 +76,11 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void HideWindow() override { Asked.emplace_back("HideWindow"); }
   void DoLabelDate() override { Asked.emplace_back("DoLabelDate"); }
   void UpdateLabelDate() override { Asked.emplace_back("UpdateLabelDate"); }
+  void AddNewButton() override { Asked.emplace_back("AddNewButton"); }
+  void MarkCollections() override { Asked.emplace_back("MarkCollections"); }
+  void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
+    Form::SetWindowPos(after, flags);
+  }
 
   [[nodiscard]] int Times(std::string_view what) const;
 

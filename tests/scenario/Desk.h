@@ -136,6 +136,14 @@ class Desk {
   /// The message boxes that were answered so far, in order.
   [[nodiscard]] virtual std::vector<SeenMessage> Messages() const = 0;
 
+  /// Chooses that line of the next popup menu of right clicks that comes up and has no choice
+  /// waiting for it yet. One that nobody chooses from stays up until the person does something.
+  virtual void ChooseFromPopup(std::string_view caption) = 0;
+  /// True while a popup menu is up.
+  [[nodiscard]] virtual bool PopupIsUp() const = 0;
+  /// Clicks the program's icon in the tray. Does nothing when there is none.
+  virtual void ClickTrayIcon() = 0;
+
   // ---- files of the program's folder, named from there: "Menus\\BMENU001.MNU" ----
 
   [[nodiscard]] virtual std::optional<std::string> ReadFile(std::string_view name) const = 0;

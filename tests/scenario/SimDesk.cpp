@@ -186,6 +186,22 @@ class SimDesk final : public Desk {
     return messages;
   }
 
+  void ChooseFromPopup(std::string_view caption) override {
+    world_.Desktop.ChooseFromPopup(std::string(caption));
+  }
+  // Here a popup that nothing is chosen from goes away by itself.
+  [[nodiscard]] bool PopupIsUp() const override {
+    return world_.Desktop.Find("#32768") != kNoWindow;
+  }
+  void ClickTrayIcon() override {
+    for (const TrayIcon& icon : world_.Tray.Shown) {
+      for (const std::intptr_t mouse : {512, 513, 514}) {
+        world_.Desktop.Post(icon.Window, icon.CallbackMessage, icon.Id, mouse);
+      }
+    }
+    world_.Desktop.Pump();
+  }
+
   [[nodiscard]] std::optional<std::string> ReadFile(std::string_view name) const override {
     return world_.Files.Get(PathOf(name));
   }

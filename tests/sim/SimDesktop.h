@@ -17,6 +17,7 @@
 #include "platform/Input.h"
 #include "sim/SimClock.h"
 #include "sim/SimDrag.h"
+#include "sim/SimPopup.h"
 #include "sim/SimWindow.h"
 
 namespace corvelle::sim {
@@ -125,6 +126,18 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   int UnexpectedBoxes() const noexcept { return unexpectedBoxes_; }
   int AnswersLeft() const noexcept { return static_cast<int>(answers_.size()); }
 
+  // Popup menus. One that nothing is chosen from goes away when its action is over, as by a click
+  // elsewhere. While it is up it gets the mouse and the keyboard; a press outside of it, Esc,
+  // another window in the foreground and the end of its owner close it.
+  /// The user's choice in the next popup, which must have this caption, visible and enabled.
+  void ChooseFromPopup(std::string caption) { choices_.push_back(std::move(caption)); }
+  /// Runs while each popup is up, with the popup, before the choice is made.
+  void WhilePopupIsUp(std::function<void(const Popup&)> action) {
+    popupAction_ = std::move(action);
+  }
+  const std::vector<Popup>& Popups() const noexcept { return popups_; }
+  int ChoicesLeft() const noexcept { return static_cast<int>(choices_.size()); }
+
   /// What the user does while the program is in Run; it must end the program. Without it, Run lets
   /// time pass until a timer has ended the program.
   void WhileRunning(std::function<void()> script) { runScript_ = std::move(script); }
@@ -181,6 +194,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::int64_t Now() const override { return clock_.Now(); }
   int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                   unsigned flags) override;
+  int ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& items, PixelPoint at,
+                unsigned flags) override;
   /// The system refuses the next window that is asked for.
   void RefuseNextWindow() noexcept { refuseWindow_ = true; }
 
@@ -243,6 +258,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
                          std::intptr_t lParam);
   bool FirstToProcedure(WindowId window, std::uint32_t message, std::uintptr_t wParam,
                         std::intptr_t lParam, std::intptr_t& answer);
+
+  // Popup menus
+  [[nodiscard]] bool PopupStands(WindowId owner) const;
+  /// True when the popup that is up takes the press, or closes because of it.
+  bool PopupTakesPress(PixelPoint at);
+  int ChoiceOf(const Popup& popup);
 
   // Painting
   void Invalidate(WindowId window, const PixelRect& part);
@@ -309,6 +330,10 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::function<void(const MessageBox&)> boxAction_;
   std::vector<MessageBox> boxes_;
   int unexpectedBoxes_ = 0;
+  std::deque<std::string> choices_;
+  std::function<void(const Popup&)> popupAction_;
+  std::vector<Popup> popups_;
+  WindowId popup_ = kNoWindow;  // the one that is up
   std::vector<SentMessage> sent_;
   int paints_ = 0;
   int beeps_ = 0;

@@ -162,6 +162,7 @@ void SimDesktop::DeliverMove(const Mouse& mouse) {
 }
 
 void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second) {
+  if (PopupTakesPress(mouse.At)) return;
   const WindowId target = MouseTarget(mouse.At);
   if (target == kNoWindow) return;
   if (capture_ == kNoWindow) Activate(TopOf(target));
@@ -178,6 +179,7 @@ void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, boo
 
 void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
   if (drag_ && button == drag_->Source.Button) return EndDrag(true);
+  if (popup_ != kNoWindow) return;
   const WindowId target = MouseTarget(mouse.At);
   if (mouse.Down == forms::MouseButton::None) capture_ = kNoWindow;
   const SimWindow* at = Look(target);
@@ -187,11 +189,16 @@ void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
 
 void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   if (drag_ && virtualKey == forms::key::Escape) return EndDrag(false);
+  if (popup_ != kNoWindow) {
+    if (virtualKey == forms::key::Escape) Destroy(std::exchange(popup_, kNoWindow));
+    return;
+  }
   const SimWindow* at = Look(focus_);
   if (at != nullptr && at->Events != nullptr) at->Events->OnKeyDown(virtualKey, shift);
 }
 
 void SimDesktop::DeliverCharacter(char32_t character) {
+  if (popup_ != kNoWindow) return;
   const SimWindow* at = Look(focus_);
   if (at != nullptr && at->Events != nullptr) at->Events->OnKeyPress(character);
 }

@@ -20,6 +20,7 @@ World::World(const WorldOptions& options)
 
 World::~World() {
   if (Desktop.AnswersLeft() > 0) Complain("a message box that was expected did not come");
+  if (Desktop.ChoicesLeft() > 0) Complain("a popup menu that was expected did not come");
 }
 
 Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files) {

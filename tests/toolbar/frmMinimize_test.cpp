@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "toolbar/StripDesk.h"
 
@@ -189,6 +190,269 @@ TEST(CompanionWake, ClicksOnTheTrayBringTheStripForward) {
     desk.World.Desktop.Send(desk.World.Desktop.Find("frmMinimize"), 512, 1, row.mouse);
     EXPECT_EQ(desk.Strip.Visible(), row.wakes);
   }
+}
+
+// ---- the tray ----
+
+TEST(CompanionTray, ShowsTheProgramsIconOnceAndTakesItAway) {
+  Started desk;
+  desk.Companion.ShowInSysTray();
+  desk.Companion.ShowInSysTray();
+  ASSERT_EQ(desk.World.Tray.Shown.size(), 1U);
+  const TrayIcon& icon = desk.World.Tray.Shown[0];
+  EXPECT_EQ(icon.Window, desk.Companion.hWnd());
+  EXPECT_EQ(icon.Id, 1U);
+  EXPECT_EQ(icon.CallbackMessage, 512U);
+  EXPECT_EQ(icon.IconFile, "C:\\Corvelle\\corvelle.exe");
+  EXPECT_EQ(icon.Tip, "Corvelle");
+  desk.Companion.RemoveFromSysTray();
+  EXPECT_TRUE(desk.World.Tray.Shown.empty());
+}
+
+TEST(CompanionTray, IsLeftAtTheEnd) {
+  Started desk;
+  desk.Companion.ActivateSysTray();
+  desk.Exit();
+  EXPECT_TRUE(desk.World.Tray.Shown.empty());
+}
+
+TEST(CompanionTray, ComesBackWithANewTaskBar) {
+  Started desk;
+  desk.Companion.ActivateSysTray();
+  desk.World.Tray.Shown.clear();
+  desk.World.Desktop.Broadcast(desk.World.Tray.TaskbarCreatedMessage());
+  EXPECT_EQ(desk.World.Tray.Shown.size(), 1U);
+  desk.Companion.DeActivateSysTray();
+  desk.World.Desktop.Broadcast(desk.World.Tray.TaskbarCreatedMessage());
+  EXPECT_TRUE(desk.World.Tray.Shown.empty());
+}
+
+TEST(CompanionTray, IsEnteredWhenATaskBarComesUpThatWasNotThereBefore) {
+  Started desk;
+  desk.World.Tray.NoTaskbar = true;
+  desk.Companion.ActivateSysTray();
+  EXPECT_FALSE(desk.Companion.InTray);
+  desk.World.Tray.NoTaskbar = false;
+  desk.World.Desktop.Broadcast(desk.World.Tray.TaskbarCreatedMessage());
+  EXPECT_TRUE(desk.Companion.InTray);
+}
+
+// ---- Not On Top ----
+
+struct NotedTip final : TipPort {
+  void ShowTip(std::string_view title, std::string_view text, int field) override {
+    Title = title;
+    Text = text;
+    Field = field;
+  }
+  std::string Title;
+  std::string Text;
+  int Field = 0;
+};
+
+/// Docking that only notes what it is asked for.
+struct NotedDocking final : DockingPort {
+  explicit NotedDocking(Program& program) : TheProgram(program) {}
+  void RegisterAppBar() override { Asked.emplace_back("RegisterAppBar"); }
+  void RemoveAppBar() override { Asked.emplace_back("RemoveAppBar"); }
+  void EndAppBar() override { Asked.emplace_back("EndAppBar"); }
+  bool AutoHideFree(std::string_view) override { return Free; }
+  void SetAppBar(std::string_view edge, bool rebuild) override {
+    Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " anew" : ""));
+    TheProgram.AppBarDocked = true;
+  }
+  void RevealToolbar() override { Asked.emplace_back("RevealToolbar"); }
+  void HideToolbar() override {}
+  void ShowAutoHideTaken() override { Asked.emplace_back("ShowAutoHideTaken"); }
+  void ResizeToEdge() override {}
+  Program& TheProgram;
+  bool Free = true;
+  std::vector<std::string> Asked;
+};
+
+TEST(CompanionNotOnTop, LetsOtherWindowsCoverTheStripAndSaysHowToGetItBack) {
+  NotedTip tip;
+  Started desk;
+  desk.TheProgram.Ports.Tip = &tip;
+  desk.TheProgram.AutoHide = true;
+  desk.SetOption(3, true);
+  ASSERT_TRUE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
+  desk.Companion.ActivateSysTray();
+  EXPECT_FALSE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
+  EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Menu.hWnd()));
+  EXPECT_TRUE(desk.Strip.Visible());
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Strip.hWnd());
+  EXPECT_TRUE(desk.TheProgram.NotOnTop);
+  EXPECT_FALSE(desk.TheProgram.AutoHide);
+  const auto flags = desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat");
+  ASSERT_TRUE(flags);
+  EXPECT_EQ((*flags)[22], '1');
+  EXPECT_EQ((*flags)[2], '0');
+  EXPECT_TRUE(desk.Companion.InTray);
+  EXPECT_EQ(tip.Title, "Not On Top");
+  EXPECT_EQ(tip.Text,
+            "If the Toolbar is set to 'Not On Top', any window can cover the toolbar. This is an "
+            "alternative option to Auto Hide.\r\n\r\nTo bring the toolbar to the foreground, click "
+            "Corvelle icon on the Taskbar/System Tray.\r\n\r\n");
+  EXPECT_EQ(tip.Field, 29);
+}
+
+TEST(CompanionNotOnTop, SaysNothingToWhoWantsNoMoreOfIt) {
+  NotedTip tip;
+  Started desk;
+  desk.TheProgram.Ports.Tip = &tip;
+  desk.SetOption(29, true);
+  desk.Companion.ActivateSysTray();
+  EXPECT_EQ(tip.Field, 0);
+}
+
+TEST(CompanionNotOnTop, SwitchedOnTwiceIsSwitchedOnOnce) {
+  Started desk;
+  desk.Companion.ActivateSysTray();
+  desk.World.Desktop.ClearLog();
+  desk.Companion.ActivateSysTray();
+  EXPECT_TRUE(desk.World.Desktop.Log().empty());
+}
+
+TEST(CompanionNotOnTop, SwitchedOffPutsTheStripOnTopAgain) {
+  Started desk;
+  desk.Companion.ActivateSysTray();
+  desk.Companion.DeActivateSysTray();
+  EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
+  EXPECT_FALSE(desk.TheProgram.NotOnTop);
+  EXPECT_EQ((*desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat"))[22], '0');
+  EXPECT_TRUE(desk.World.Tray.Shown.empty());
+}
+
+TEST(CompanionNotOnTop, GivesTheEdgeBackAndTakesItAnewEachWay) {
+  Started desk;
+  NotedDocking docking(desk.TheProgram);
+  desk.TheProgram.Ports.Docking = &docking;
+  desk.TheProgram.AppBarDocked = true;
+  desk.TheProgram.ToolbarEdge = "LEFT";
+  const std::vector<std::string> anew = {"RemoveAppBar", "SetAppBar LEFT anew", "RevealToolbar"};
+  desk.Companion.ActivateSysTray();
+  EXPECT_EQ(docking.Asked, anew);
+  docking.Asked.clear();
+  desk.Companion.DeActivateSysTray();
+  EXPECT_EQ(docking.Asked, anew);
+  desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.Ports.Docking = nullptr;
+}
+
+TEST(CompanionNotOnTop, AClickOnTheTrayBringsTheStripBeforeTheWindowThatCoversIt) {
+  Started desk;
+  desk.Companion.ActivateSysTray();
+  const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Bounds = {0, 0, 1024, 300}});
+  desk.World.Desktop.TakeForeground(other);
+  const PixelPoint at{strip.left + 10, strip.bottom - 5};
+  ASSERT_EQ(desk.World.Desktop.WindowAt(at), other);
+  // The system keeps programs from pushing in, and yet this one comes.
+  desk.World.Desktop.LockForeground(true);
+  desk.World.Desktop.Send(desk.Companion.hWnd(), 512, 1, 514);
+  EXPECT_NE(desk.World.Desktop.WindowAt(at), other);
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Strip.hWnd());
+}
+
+// ---- into the task bar and back ----
+
+TEST(CompanionMinimize, PutsTheStripAwayAndAClickInTheTaskBarBringsItBack) {
+  Started desk;
+  const PixelRect place = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+  desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+  EXPECT_FALSE(desk.Strip.Visible());
+  EXPECT_TRUE(desk.Companion.IsMinimized());
+  EXPECT_TRUE(desk.Companion.Visible());
+  EXPECT_TRUE(desk.TheProgram.ToolbarMinimized);
+  EXPECT_FALSE(desk.TheProgram.ToolbarMinimizing);
+  EXPECT_FALSE(desk.TheProgram.ToolbarReady);
+  // The tray's icon, when there is one, does the same as the task bar's button.
+  desk.World.Desktop.Send(desk.Companion.hWnd(), 512, 1, 514);
+  desk.World.Desktop.Send(desk.Companion.hWnd(), forms::message::Size, 0, 0);
+  EXPECT_TRUE(desk.Strip.Visible());
+  EXPECT_FALSE(desk.Companion.Visible());
+  EXPECT_EQ(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()), place);
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Strip.hWnd());
+  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+}
+
+struct AtEdge : Started {
+  AtEdge() {
+    TheProgram.Ports.Docking = &Docking;
+    TheProgram.AppBarDocked = true;
+    TheProgram.ToolbarEdge = "RIGHT";
+  }
+  ~AtEdge() {
+    TheProgram.Ports.Docking = nullptr;
+    TheProgram.AppBarDocked = false;
+    TheProgram.AutoHide = false;
+  }
+  void ComeBack() {
+    Companion.RestoreWindow();
+    World.Desktop.Send(Companion.hWnd(), forms::message::Size, 0, 0);
+  }
+  NotedDocking Docking{TheProgram};
+};
+
+TEST(CompanionMinimize, LeavesTheEdgeAndReturnsToIt) {
+  AtEdge desk;
+  desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+  EXPECT_EQ(desk.Docking.Asked, std::vector<std::string>{"EndAppBar"});
+  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+  EXPECT_TRUE(desk.TheProgram.WasDocked);
+  EXPECT_EQ(desk.TheProgram.WasEdge, "RIGHT");
+  EXPECT_EQ(desk.TheProgram.WasTop, desk.Strip.Top());
+  desk.TheProgram.ToolbarEdge = "TOP";
+  desk.Docking.Asked.clear();
+  desk.ComeBack();
+  const std::vector<std::string> asked = {"RegisterAppBar", "SetAppBar RIGHT"};
+  EXPECT_EQ(desk.Docking.Asked, asked);
+  EXPECT_FALSE(desk.TheProgram.WasDocked);
+  EXPECT_TRUE(desk.TheProgram.WasEdge.empty());
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
+  EXPECT_TRUE(desk.Strip.Visible());
+}
+
+TEST(CompanionMinimize, GivesUpTheClaimToHideToo) {
+  AtEdge desk;
+  desk.TheProgram.AutoHide = true;
+  desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+  const std::vector<std::string> asked = {"RemoveAppBar", "EndAppBar"};
+  EXPECT_EQ(desk.Docking.Asked, asked);
+}
+
+TEST(CompanionMinimize, ReturnsWithoutAutoHideWhereAnotherHidesByNow) {
+  AtEdge desk;
+  desk.TheProgram.AutoHide = true;
+  desk.SetOption(3, true);
+  desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+  desk.Docking.Asked.clear();
+  desk.Docking.Free = false;
+  desk.ComeBack();
+  const std::vector<std::string> asked = {"ShowAutoHideTaken", "RegisterAppBar", "SetAppBar RIGHT"};
+  EXPECT_EQ(desk.Docking.Asked, asked);
+  EXPECT_FALSE(desk.TheProgram.AutoHide);
+  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(3));
+}
+
+TEST(CompanionMinimize, OfAStripThatHidesEndsWithItRevealed) {
+  AtEdge desk;
+  desk.TheProgram.AutoHide = true;
+  desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+  desk.ComeBack();
+  EXPECT_EQ(desk.Docking.Asked.back(), "RevealToolbar");
+}
+
+TEST(CompanionMinimize, AStripThatOthersMayCoverReturnsWithItsTrayIcon) {
+  Started desk;
+  desk.Companion.ActivateSysTray();
+  desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+  desk.Companion.RestoreWindow();
+  desk.World.Desktop.Send(desk.Companion.hWnd(), forms::message::Size, 0, 0);
+  EXPECT_FALSE(desk.Companion.Visible());
+  EXPECT_TRUE(desk.Companion.InTray);
+  EXPECT_FALSE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
 }
 
 }  // namespace

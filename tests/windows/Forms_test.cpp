@@ -22,6 +22,15 @@ class WindowsHome final : public InputHome {
   void Release(MouseButton button) override { home_.Release(button); }
   void DoubleClick() override { home_.DoubleClick(); }
   void PressKey(int virtualKey) override { home_.PressKey(virtualKey); }
+  void ClosePopup() override {
+    INPUT keys[2]{};
+    for (INPUT& key : keys) {
+      key.type = INPUT_KEYBOARD;
+      key.ki.wVk = VK_ESCAPE;
+    }
+    keys[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(2, keys, sizeof(INPUT));
+  }
 
  private:
   int shortestWait_;

@@ -1,0 +1,91 @@
+#include "toolbar/Popup.h"
+
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "toolbar/PopupRules.h"
+
+namespace corvelle {
+
+namespace {
+
+PopupFacts FactsOf(const Program& program) {
+  const EntryEdit& entry = program.Entry;
+  return {.Tag = entry.CurMenuTag,
+          .Record = entry.CurRecord,
+          .Command = entry.CurCommand,
+          .FollowsSeparator = program.ItemHasSeparator,
+          .ClipboardEmpty =
+              entry.ClipTitle.empty() && entry.ClipIcon.empty() && entry.ClipCommand.empty(),
+          .UndoTag = entry.UndoMenuTag};
+}
+
+}  // namespace
+
+Popup::Popup(Program& program) : mnuItem(ItemCount + 1), program_(program) { ClearButtonMenu(); }
+
+void Popup::ClearButtonMenu() {
+  mnuItem.assign(mnuItem.size(), {});
+  mnuItem.front().Visible = true;
+}
+
+void Popup::DoButtonMenu() {
+  ClearButtonMenu();
+  const PopupFacts facts = FactsOf(program_);
+  std::size_t line = 1;
+  for (const PopupRow& row : PopupRows()) {
+    mnuItem[line++] = {.Caption = std::string(row.Caption),
+                       .Tag = std::string(row.Tag),
+                       .Visible = true,
+                       .Enabled = row.Enabled(facts)};
+  }
+  mnuItem.front().Visible = false;
+}
+
+void Popup::ShowToolbarPopup() {
+  if (busy_ || program_.ToolbarWindow() == kNoWindow) return;
+  const forms::FlagScope busy(busy_);
+  program_.SetHint("");
+  program_.Entry.CurFile = SourceMenuFile(program_.Entry.CurFile);
+  DoButtonMenu();
+  const int chosen = LetChoose();
+  // Anything can have happened meanwhile, the end of the program too.
+  if (chosen > 0 && program_.ToolbarWindow() != kNoWindow) mnuItem_Click(chosen);
+  ClearButtonMenu();
+}
+
+// The popup belongs to the menu window when that is up, so that its selection stays to be seen.
+WindowId Popup::Owner() const {
+  return MenuUp() ? program_.Ports.QMenu->WindowHandle() : program_.ToolbarWindow();
+}
+
+bool Popup::MenuUp() const {
+  return program_.Ports.QMenu != nullptr && program_.Ports.QMenu->MenuVisible();
+}
+
+// While the user chooses, a pointer that passes over the strip opens no other menu.
+int Popup::LetChoose() {
+  std::vector<forms::PopupItem> lines;
+  lines.reserve(mnuItem.size());
+  for (const Element& element : mnuItem) {
+    lines.push_back({.Caption = element.Caption,
+                     .Enabled = element.Enabled,
+                     .Checked = element.Checked,
+                     .Visible = element.Visible});
+  }
+  const bool overMenu = MenuUp();
+  if (overMenu) {
+    program_.Ports.Toolbar->SetPointerWatch(false);
+    program_.Ports.QMenu->SetPoll(false);
+  }
+  const int chosen = program_.Windows.ShowPopup(
+      Owner(), lines, program_.Services.Pointer.PointerPosition(), forms::popup::RightButton);
+  if (overMenu && MenuUp() && program_.ToolbarWindow() != kNoWindow) {
+    program_.Ports.QMenu->SetPoll(true);
+    program_.Ports.Toolbar->SetPointerWatch(true);
+  }
+  return chosen;
+}
+
+}  // namespace corvelle

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/RecordEdits.h"
+#include "core/WindowPorts.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The popup menu of right clicks. It acts on the current entry (Program::Entry).
+class Popup final : public PopupPort {
+ public:
+  explicit Popup(Program& program);
+
+  /// Fills the popup for the current entry, shows it at the pointer and carries out the choice.
+  /// Does nothing while one is up or carries out its choice.
+  void ShowToolbarPopup() override;
+
+  /// Fills the lines for the current entry.
+  void DoButtonMenu();
+  /// Carries out the command of line `index`, by its tag. A tag that is no command does nothing.
+  void mnuItem_Click(int index);
+  /// Empties the lines for the next use.
+  void ClearButtonMenu();
+
+  /// The lines that can be used; line 0 is never shown.
+  static constexpr int ItemCount = 20;
+  struct Element {
+    std::string Caption;
+    std::string Tag;  // names the command
+    bool Visible = false;
+    bool Enabled = true;
+    bool Checked = false;
+  };
+  std::vector<Element> mnuItem;
+
+ private:
+  [[nodiscard]] int LetChoose();
+  [[nodiscard]] WindowId Owner() const;
+  [[nodiscard]] bool MenuUp() const;
+
+  // The commands (PopupCommands.cpp).
+  using Command = void (Popup::*)();
+  [[nodiscard]] static Command CommandOf(const std::string& tag);
+  void ShowIconLibrary();
+  void OpenEntry();
+  void Refresh();
+  void CutEntry();
+  void CopyCurrentEntry();
+  void PasteEntry();
+  void DeleteEntry();
+  void DeleteSeparator();
+  void UndoDelete();
+  void AddButton();
+  void InsertMenuItem();
+  void InsertSeparator();
+  void OpenFolder();
+  void CloseFolder();
+  void ShowProperties();
+  void ShowFolderProperties();
+
+  void Insert(const MenuRecord& record);
+  void AfterFolderEdit(EditOutcome outcome);
+  void Settle(EditOutcome outcome);
+  void ShowError(FileError error);
+
+  Program& program_;
+  bool busy_ = false;
+};
+
+}  // namespace corvelle

@@ -1,0 +1,208 @@
+// The popup on folder items, single buttons and for properties; its commands by name; failures.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "core/CoreDoubles.h"
+#include "toolbar/PopupDesk.h"
+
+namespace corvelle {
+namespace {
+
+constexpr char kQuestion[] =
+    "If you delete a button, you cannot Undo Delete. Do you want to continue ?";
+
+// ---- folder items ----
+
+TEST(PopupOnAFolder, OpenFolderTakesTheMarkAway) {
+  struct Row {
+    const char* closed;
+    const char* opened;
+  };
+  const Row rows[] = {{"C:\\Docs\\*.* /X", "C:\\Docs\\*.*"},
+                      {"C:\\Docs\\*.*/u x", "C:\\Docs\\*.*/u"}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.closed);
+    PopupDesk desk;
+    desk.PutMenu(1, {Entry("Letters"), Entry("One"), Entry("Docs", "", row.closed)});
+    desk.OpenMenuOf(2);
+    desk.RightClickItem(1);
+    EXPECT_FALSE(desk.LastPopup().Offers("Open Folder"));
+    desk.RightClickItem(2, "Open Folder");
+    EXPECT_EQ(desk.RecordOf(1, 3).FName, row.opened);
+    EXPECT_TRUE(desk.RealMenu.MenuVisible());
+  }
+}
+
+/// The entry "letter.txt" of an open folder item that is record 3 of the first menu, as the menu
+/// shows it: from the generated file.
+EntryEdit GeneratedEntry() {
+  return {.CurTitle = "letter",
+          .CurIcon = "C:\\Docs\\letter.txt",
+          .CurCommand = "C:\\Docs\\letter.txt",
+          .CurMenuTag = "F2",
+          .CurFile = "C:\\Corvelle\\Menus\\BMENU001.mfd",
+          .CurRecord = 5003};
+}
+
+TEST(PopupOnAGeneratedEntry, CannotBeCutOrDeletedAndItsFolderCanBeClosed) {
+  PopupDesk desk;
+  desk.PutMenu(1, {Entry("Letters"), Entry("One"), Entry("Docs", "", "C:\\Docs\\*.*")});
+  desk.ChooseFor(GeneratedEntry(), "Close Folder");
+  EXPECT_FALSE(desk.LastPopup().Offers("Cut Item"));
+  EXPECT_FALSE(desk.LastPopup().Offers("Delete Item"));
+  EXPECT_EQ(desk.RecordOf(1, 3).FName, "C:\\Docs\\*.* /X");
+  EXPECT_EQ(desk.Titles(1), "Letters|One|Docs|");
+  EXPECT_FALSE(desk.HasMenuFile("BMENU001.mfd"));
+}
+
+TEST(PopupOnAGeneratedEntry, APasteGoesBeforeItsFolderItemInTheMenusOwnFile) {
+  PopupDesk desk;
+  desk.PutMenu(1, {Entry("Letters"), Entry("One"), Entry("Docs", "", "C:\\Docs\\*.*")});
+  EntryEdit entry = GeneratedEntry();
+  entry.ClipTitle = "Pasted";
+  desk.ChooseFor(entry, "Paste Item");
+  EXPECT_EQ(desk.Titles(1), "Letters|One|Pasted|Docs|");
+}
+
+// ---- single buttons ----
+
+TEST(PopupOnASingleButton, EditsTheRow) {
+  CallLog log;
+  LoggingSingles singles(log);
+  PopupDesk desk;
+  desk.TheProgram.Ports.SingleButtons = &singles;
+  EntryEdit single{.CurTitle = "Single",
+                   .CurIcon = "i",
+                   .CurCommand = "c",
+                   .CurMenuTag = "SingleButtons",
+                   .CurFile = "one.btn",
+                   .CurRecord = 1};
+  desk.ChooseFor(single, "Cut Item");
+  EXPECT_EQ(desk.TheProgram.Entry.ClipTitle, "Single");
+  desk.ChooseFor(desk.TheProgram.Entry, "Paste Item");
+  desk.ChooseFor(desk.TheProgram.Entry, "Delete Item");
+  EXPECT_EQ(desk.TheProgram.Entry.UndoMenuTag, "SingleButtons");
+  desk.ChooseFor(desk.TheProgram.Entry, "Undo Delete");
+  const CallLog expected = {"delete single one.btn", "paste single one.btn",
+                            "delete single one.btn", "undo single one.btn"};
+  EXPECT_EQ(log, expected);
+}
+
+// ---- properties ----
+
+struct NotedProperties final : PropertiesPort {
+  void LoadWindow() override {}
+  void UnloadWindow() override {}
+  bool WindowLoaded() const override { return false; }
+  void ShowProperties(std::string_view title, std::string_view icon,
+                      std::string_view command) override {
+    Shown.push_back(std::string(title) + "," + std::string(icon) + "," + std::string(command));
+  }
+  std::vector<std::string> Shown;
+};
+
+TEST(PopupProperties, CloseTheMenuAndShowTheEntry) {
+  NotedProperties properties;
+  PopupDesk desk;
+  desk.TheProgram.Ports.Properties = &properties;
+  desk.OpenMenuOf(2);
+  desk.RightClickItem(2, "Properties");
+  EXPECT_EQ(properties.Shown, std::vector<std::string>{"Two,two.ico,C:\\Tools\\tool.exe two"});
+  EXPECT_FALSE(desk.RealMenu.MenuVisible());
+  EXPECT_EQ(desk.TheProgram.Entry.CurMenuTag, "F2");
+}
+
+TEST(PopupProperties, WithoutTheirWindowOnlyCloseTheMenu) {
+  PopupDesk desk;
+  desk.OpenMenuOf(2);
+  desk.RightClickItem(2, "Properties");
+  EXPECT_FALSE(desk.RealMenu.MenuVisible());
+  EXPECT_EQ(desk.Titles(1), "Letters|One|Two|Separator|Three|");
+}
+
+TEST(PopupProperties, OfTheBareRowAreThoseOfTheStrip) {
+  NotedProperties properties;
+  PopupDesk desk;
+  desk.TheProgram.Ports.Properties = &properties;
+  desk.ChooseFor({.CurTitle = "Left over", .CurMenuTag = "SingleButtons", .CurRecord = 0},
+                 "Properties");
+  EXPECT_EQ(properties.Shown, std::vector<std::string>{",,"});
+  EXPECT_EQ(desk.TheProgram.Entry.CurMenuTag, "Toolbar");
+}
+
+TEST(PopupProperties, OfAFolderAreThoseOfTheItemThatAnEntryWasGeneratedFrom) {
+  NotedProperties properties;
+  PopupDesk desk;
+  desk.TheProgram.Ports.Properties = &properties;
+  desk.PutMenu(1, {Entry("Letters"), Entry("One"), Entry("Docs", "d.ico", "C:\\Docs\\*.*")});
+  desk.ChooseFor(GeneratedEntry(), "Folder Properties");
+  EXPECT_EQ(properties.Shown, std::vector<std::string>{"Docs,d.ico,C:\\Docs\\*.*"});
+  EXPECT_EQ(desk.TheProgram.Entry.CurRecord, 3);
+  EXPECT_EQ(desk.TheProgram.Entry.CurFile, PopupDesk::FileOf(1));
+}
+
+// ---- commands without a line of their own ----
+
+TEST(PopupCommands, AreFoundWithoutRegardToCase) {
+  PopupDesk desk;
+  desk.ThePopup.mnuItem[20].Tag = "oPEN";
+  desk.TheProgram.Entry.CurMenuTag = "F2";
+  desk.TheProgram.Entry.CurCommand = "C:\\Tools\\tool.exe";
+  desk.ThePopup.mnuItem_Click(20);
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\tool.exe"});
+  desk.TheProgram.Entry.CurMenuTag = "B3";
+  desk.ThePopup.mnuItem_Click(20);
+  desk.Wait(200);
+  EXPECT_EQ(desk.Shown(), "Other|");
+  // No command, and no line, do nothing.
+  desk.ThePopup.mnuItem[20].Tag = "nothing";
+  desk.ThePopup.mnuItem_Click(20);
+  desk.ThePopup.mnuItem_Click(21);
+  desk.ThePopup.mnuItem_Click(-1);
+  EXPECT_EQ(desk.World.Shell.Started().size(), 1U);
+}
+
+// ---- failures ----
+
+TEST(PopupFailures, ADiskThatRefusesIsSaidToAndTheFileStaysWhatItWas) {
+  struct Row {
+    const char* choice;
+    int item;
+  };
+  const Row rows[] = {{"Cut Item", 1},         {"Delete Item", 1},      {"Delete Separator", 3},
+                      {"Insert Menu Item", 1}, {"Insert Separator", 2}, {"Open Folder", 4}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.choice);
+    PopupDesk desk;
+    desk.PutMenu(
+        1, {Entry("Letters"), Entry("One"), Entry("Two"), Entry("Separator", "MenuLineSeparator"),
+            Entry("Three"), Entry("Docs", "", "C:\\Docs\\*.* /X")});
+    desk.OpenMenuOf(2);
+    const auto before = desk.World.Files.Get(PopupDesk::FileOf(1));
+    desk.World.Desktop.Answer("57 - Device I/O error", forms::msgbox::AnswerOk);
+    desk.World.Desktop.WhilePopupIsUp(
+        [&](const sim::Popup&) { desk.World.Files.Protect("C:\\Corvelle\\Menus"); });
+    desk.RightClickItem(row.item, row.choice);
+    desk.World.Files.Protect("C:\\Corvelle\\Menus", false);
+    EXPECT_EQ(desk.World.Files.Get(PopupDesk::FileOf(1)), before);
+    EXPECT_TRUE(desk.TheProgram.Entry.UndoMenuTag.empty());
+    EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+  }
+}
+
+TEST(PopupGuard, ADropWaitsWhileACommandRewritesAFile) {
+  PopupDesk desk;
+  desk.OpenMenuOf(2);
+  bool busyInside = false;
+  desk.World.Desktop.WhileBoxIsUp(
+      [&](const sim::MessageBox&) { busyInside = desk.TheProgram.ItemActionBusy; });
+  desk.World.Desktop.Answer(kQuestion, forms::msgbox::AnswerNo);
+  desk.RightClickButton(3, "Delete Item");
+  EXPECT_TRUE(busyInside);
+  EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+}
+
+}  // namespace
+}  // namespace corvelle
