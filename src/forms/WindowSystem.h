@@ -51,6 +51,9 @@ class WindowEvents {
   /// The session of Windows ends now; all must be saved when this returns.
   virtual void OnSessionEnd() = 0;
 
+  /// A control that the system works was pressed: with the pointer or with Space.
+  virtual void OnPress() {}
+
   /// Any message before the backend deals with it, for top-level windows. An answer ends the
   /// message there.
   virtual std::optional<std::intptr_t> OnMessage(std::uint32_t message, std::uintptr_t wParam,
@@ -74,6 +77,8 @@ class WindowPeer {
   [[nodiscard]] virtual bool IsMinimized() const = 0;
   virtual void SetCaption(std::string_view caption) = 0;
   virtual void SetEnabled(bool enabled) = 0;
+  /// Ticks a check box or takes its tick away; other kinds have none.
+  virtual void SetChecked(bool /*checked*/) {}
 
   /// Notes that `part` must be painted; it is, once, at the next paint. Nothing is noted for a
   /// window that is not visible; coming up, it is painted whole.
@@ -95,6 +100,10 @@ class WindowPeer {
 enum class PeerKind {
   Form,        // a top-level window without a frame of the system
   PictureBox,  // a child window
+  // Children that the system draws and works, with its own font. A press takes the focus and is
+  // told as OnPress; mouse events are not told, keys are, but for Space.
+  CommandButton,
+  CheckBox,
 };
 
 /// What a backend needs to make a window. On Windows the class of the window bears `ClassName`, so
@@ -102,7 +111,7 @@ enum class PeerKind {
 struct PeerSpec {
   PeerKind Kind = PeerKind::Form;
   std::string ClassName;
-  WindowPeer* Parent = nullptr;  // of a PictureBox
+  WindowPeer* Parent = nullptr;  // of a child
   PixelRect Bounds;
   bool InTaskbar = false;  // a form that shows a button in the task bar when it is visible
 };

@@ -25,6 +25,7 @@ class Win32Peer final : public forms::WindowPeer {
   bool IsMinimized() const override;
   void SetCaption(std::string_view caption) override;
   void SetEnabled(bool enabled) override;
+  void SetChecked(bool checked) override;
   void Invalidate(const PixelRect& part) override;
   void PaintNow() override;
   void SetFocus() override;

@@ -21,6 +21,7 @@ class SimPeer final : public forms::WindowPeer {
   bool IsMinimized() const override { return desktop_.IsMinimized(window_); }
   void SetCaption(std::string_view caption) override;
   void SetEnabled(bool enabled) override;
+  void SetChecked(bool checked) override;
   void Invalidate(const PixelRect& part) override { desktop_.Invalidate(window_, part); }
   void PaintNow() override { desktop_.PaintNow(window_); }
   void SetFocus() override { desktop_.SetFocusTo(window_); }
