@@ -193,6 +193,8 @@ class HintPort {
   /// Shows the text, or closes the hint when it is empty.
   virtual void SetHint(std::string_view text) = 0;
   [[nodiscard]] virtual WindowId WindowHandle() const = 0;
+  /// The program ends, and the hint's window with it.
+  virtual void ReleaseHint() {}
 };
 
 /// Placement of the strip at a screen edge.
