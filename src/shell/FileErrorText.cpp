@@ -33,6 +33,8 @@ Description Describe(FileError error) noexcept {
 
 }  // namespace
 
+std::string FileErrorDescription(FileError error) { return std::string(Describe(error).Text); }
+
 std::string FileErrorText(FileError error) {
   const Description description = Describe(error);
   return "Error: " + std::to_string(description.Number) + " - " + std::string(description.Text);

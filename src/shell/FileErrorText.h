@@ -8,5 +8,7 @@ namespace corvelle {
 
 /// What the user reads of a failed file operation: "Error: ", a number, " - " and its description.
 [[nodiscard]] std::string FileErrorText(FileError error);
+/// The description alone.
+[[nodiscard]] std::string FileErrorDescription(FileError error);
 
 }  // namespace corvelle
