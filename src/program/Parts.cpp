@@ -13,6 +13,10 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.QMenu = &Menu;
   ports.Minimize = &Companion;
   ports.Startup = &Startup;
+  ports.Hint = &Hint;
+  ports.Tip = &Tip;
+  ports.MainMenu = &TheMainMenu;
+  ports.DefaultEntries = &TheDefaultEntries;
   ports.IconRule = &TheIconRule;
   ports.IconLibrary = &TheIconLibrary;
   ports.BuiltInCommands = &TheBuiltIns;

@@ -1,14 +1,18 @@
 #pragma once
 
+#include "about/DefaultEntries.h"
 #include "core/Program.h"
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
+#include "menus/MainMenu.h"
 #include "menus/frmQMenu.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
+#include "toolbar/frmHelp.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
+#include "toolbar/frmTip.h"
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
@@ -36,6 +40,10 @@ class Parts {
   frmQMenu Menu{TheProgram};
   frmMinimize Companion{TheProgram};
   frmStartup Startup{TheProgram};
+  frmHelp Hint{TheProgram};
+  frmTip Tip{TheProgram};
+  MainMenu TheMainMenu{TheProgram, Menu};
+  DefaultEntries TheDefaultEntries{TheProgram};
   IconRule TheIconRule{TheProgram};
   IconLibrary TheIconLibrary{TheProgram};
   BuiltInCommands TheBuiltIns{TheProgram};
