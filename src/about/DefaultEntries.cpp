@@ -46,7 +46,8 @@ void DefaultEntries::IncludeCommonFiles() {
 FileStatus DefaultEntries::Fill() {
   FileSystem& files = program_.Services.Files;
   if (!files.FolderExists(program_.MenusPath)) {
-    if (auto made = files.MakeFolder(program_.MenusPath); !made) return made;
+    const FileStatus made = files.MakeFolder(program_.MenusPath);
+    if (!made && made.Error() != FileError::AlreadyExists) return made;
   }
   const auto menus = Count("*.mnu");
   if (!menus) return menus.Error();
@@ -159,7 +160,8 @@ FileStatus DefaultEntries::WriteMenus() {
   program_.ShowStartupProgress();
   if (auto written = WriteMenu(ProgramsMenu(programs)); !written) return written;
   program_.ShowStartupProgress();
-  if (auto written = WriteMenu(DocumentsMenu(GetSpecialFolder(program_, kRecentFolder))); !written) {
+  if (auto written = WriteMenu(DocumentsMenu(GetSpecialFolder(program_, kRecentFolder)));
+      !written) {
     return written;
   }
   program_.ShowStartupProgress();

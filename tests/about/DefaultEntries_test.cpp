@@ -24,6 +24,7 @@ class DefaultEntriesTest : public testing::Test {
     program.AppPath = "C:\\Corvelle\\";
     program.MenusPath = "C:\\Corvelle\\Menus\\";
     program.Ports.ShellLinks = &links;
+    world.Files.MakeFolders("C:\\Corvelle\\Menus");
   }
 
   /// A program on the disk that opens files of a kind.
@@ -62,14 +63,21 @@ using Texts = std::vector<std::string>;
 
 TEST_F(DefaultEntriesTest, ABareMachineGetsFourButtonsAndFiveMenus) {
   Fill();
-  EXPECT_EQ(Names(), (Texts{"BMENU001.BTN", "BMENU001.MNU", "BMENU002.BTN", "BMENU002.MNU",
-                            "BMENU003.BTN", "BMENU003.MNU", "BMENU004.BTN", "BMENU004.MNU",
-                            "BMENU005.MNU"}));
+  EXPECT_EQ(Names(),
+            (Texts{"BMENU001.BTN", "BMENU001.MNU", "BMENU002.BTN", "BMENU002.MNU", "BMENU003.BTN",
+                   "BMENU003.MNU", "BMENU004.BTN", "BMENU004.MNU", "BMENU005.MNU"}));
   EXPECT_EQ(Singles(), (Texts{"Find Files", "Find Computer", "Windows Explorer", "Net Search"}));
   EXPECT_EQ(Titles("BMENU001.MNU"), (Texts{"Desktop", "Desktop Items"}));
   EXPECT_EQ(Titles("BMENU003.MNU"), Texts{"Documents"});
   EXPECT_EQ(Titles("BMENU004.MNU"), Texts{"Accessories"});
   EXPECT_EQ(Titles("BMENU005.MNU"), (Texts{"Settings", "Control Panel", "Separator", "Printers"}));
+}
+
+TEST_F(DefaultEntriesTest, AMissingFolderIsMade) {
+  world.Files.Vanish("C:\\Corvelle\\Menus");
+  ASSERT_FALSE(world.Files.Has("C:\\Corvelle\\Menus"));
+  Fill();
+  EXPECT_EQ(Names().size(), 9U);
 }
 
 TEST_F(DefaultEntriesTest, WithoutAProgramsFolderItsMenuHasTheButtonOnly) {
@@ -216,7 +224,7 @@ TEST_F(DefaultEntriesTest, GetExeAsksWithASampleAndTakesItAwayAgain) {
   EXPECT_EQ(entries.GetExe("htm"), "C:\\net\\browse.exe");
   ASSERT_EQ(world.Associations.Asked().size(), 1U);
   EXPECT_EQ(world.Associations.Asked()[0].second, "dummy string\r\n");
-  EXPECT_EQ(world.Files.Names("C:\\Corvelle"), Texts{"corvelle.exe"});
+  EXPECT_EQ(world.Files.Names("C:\\Corvelle"), (Texts{"Menus", "corvelle.exe"}));
   EXPECT_EQ(entries.GetExe("xyz"), std::nullopt);
   world.Files.Vanish("C:\\net\\browse.exe");
   EXPECT_EQ(entries.GetExe("htm"), std::nullopt);

@@ -54,21 +54,21 @@ TEST(DefaultMenus, HaveTheirButtonsAndItems) {
   EXPECT_EQ(DesktopMenu(),
             (std::vector<MenuRecord>{{"Desktop", "\\icons\\desktop.ico", ""},
                                      {"Desktop Items", "\\icons\\desktop.ico", "CSIDL_DESKTOP"}}));
-  EXPECT_EQ(SettingsMenu(), (std::vector<MenuRecord>{
-                                {"Settings", "\\icons\\settings.ico", ""},
-                                {"Control Panel", "\\icons\\ctrpanel.ico", "CSIDL_CONTROLS"},
-                                {"Separator", "MenuLineSeparator", ""},
-                                {"Printers", "\\icons\\PRINTFLD.ICO", "CSIDL_PRINTERS"}}));
+  EXPECT_EQ(SettingsMenu(),
+            (std::vector<MenuRecord>{{"Settings", "\\icons\\settings.ico", ""},
+                                     {"Control Panel", "\\icons\\ctrpanel.ico", "CSIDL_CONTROLS"},
+                                     {"Separator", "MenuLineSeparator", ""},
+                                     {"Printers", "\\icons\\PRINTFLD.ICO", "CSIDL_PRINTERS"}}));
   EXPECT_EQ(ProgramsButton(), (MenuRecord{"Programs", "\\icons\\PROGRAMS.ICO", ""}));
   EXPECT_EQ(AccessoriesButton(), (MenuRecord{"Accessories", "\\icons\\clip01.ico", ""}));
 }
 
 TEST(DefaultMenus, RecentDocumentsAreAFolderItemWhereThereIsTheFolder) {
   const MenuRecord button{"Documents", "\\icons\\FOLDER21.ICO", ""};
-  EXPECT_EQ(DocumentsMenu("C:\\Me\\Recent"),
-            (std::vector<MenuRecord>{button,
-                                     {"Recent Documents Folder", "\\icons\\FOLDER21.ICO",
-                                      "C:\\Me\\Recent\\*.*/u"}}));
+  EXPECT_EQ(
+      DocumentsMenu("C:\\Me\\Recent"),
+      (std::vector<MenuRecord>{
+          button, {"Recent Documents Folder", "\\icons\\FOLDER21.ICO", "C:\\Me\\Recent\\*.*/u"}}));
   EXPECT_EQ(DocumentsMenu(""), std::vector<MenuRecord>{button});
 }
 
@@ -87,8 +87,8 @@ TEST(StartMenu, LeavesOutWhatIsNotToBeStarted) {
     EXPECT_TRUE(IsSkippedFolder(name)) << name;
   }
   EXPECT_FALSE(IsSkippedFolder("Games"));
-  for (const char* name : {"HELP.lnk", "Read me.txt", "readme.lnk", "Setup Tool.lnk",
-                           "Uninstall.lnk"}) {
+  for (const char* name :
+       {"HELP.lnk", "Read me.txt", "readme.lnk", "Setup Tool.lnk", "Uninstall.lnk"}) {
     EXPECT_TRUE(IsSkippedFile(name)) << name;
   }
   EXPECT_FALSE(IsSkippedFile("Writer.lnk"));

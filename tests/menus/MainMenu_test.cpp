@@ -84,6 +84,7 @@ class MainMenuTest : public testing::Test {
     const auto file = WriteMainMenuFile(desk.World.Files, desk.World.Ansi, program.AppPath);
     ASSERT_TRUE(file);
     desk.Menu.ShowMenu("Q1", *file);
+    desk.World.Desktop.Pump();
     desk.Strip.Asked.clear();
     ASSERT_TRUE(desk.Menu.MenuVisible());
   }
@@ -92,12 +93,16 @@ class MainMenuTest : public testing::Test {
   bool Enabled(int label) { return desk.Menu.Lbl[label].Enabled(); }
   /// Pixels of the item's icon cell that are not the ground's.
   int Ink(int label) {
+    const PixelRect menu = desk.World.Desktop.BoundsOf(desk.Menu.hWnd());
     const PixelPoint cell = desk.IconCell(label);
+    const sim::SimCanvas picture = desk.World.Desktop.Picture();
     const Rgb ground = desk.SystemColour(forms::color::ButtonFace);
     int count = 0;
     for (int y = 0; y < 16; ++y) {
       for (int x = 0; x < 16; ++x) {
-        if (desk.PixelInside(cell.x + x, cell.y + y) != ground) ++count;
+        // The menu's frame has three pixels.
+        const PixelPoint at{menu.left + 3 + cell.x + x, menu.top + 3 + cell.y + y};
+        if (picture.PixelAt(at) != ground) ++count;
       }
     }
     return count;

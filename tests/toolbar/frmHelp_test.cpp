@@ -50,6 +50,7 @@ class Hint : public testing::Test {
     desk.Start();
     desk.PointAway();
   }
+  ~Hint() override { desk.TheProgram.Ports.Hint = nullptr; }
   bool Up() const { return hint.IsLoaded() && hint.Visible(); }
 
   StripDesk desk;

@@ -25,7 +25,10 @@ TEST(WrapText, BreaksBetweenWordsAndKeepsItsOwnLineEnds) {
 
 class Tip : public testing::Test {
  protected:
-  Tip() { desk.Start(); }
+  Tip() {
+    desk.PutButtons(1);
+    desk.Start();
+  }
 
   void Show() {
     tip.ShowTip("Not On Top", "Any window can cover the strip.\r\n\r\nA second paragraph.", kField);
