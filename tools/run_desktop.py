@@ -8,17 +8,14 @@ program as a user would. What the program writes into its folder stays in dist/C
 
 import os
 import re
-import shutil
 import signal
 import subprocess
 import sys
 import time
 
-import sample_menus
 from wine_session import ROOT, Session, SessionError, end_quietly
 
 FOLDER = ROOT / "dist" / "Corvelle"
-MENUTEXT = ROOT / "build" / "windows" / "menutext.exe"
 PICTURES = ROOT / "build"
 
 
@@ -33,33 +30,6 @@ def display_works(name):
     return subprocess.run(["xdotool", "getdisplaygeometry"], env=dict(os.environ, DISPLAY=name), check=False,
                           stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                           timeout=20).returncode == 0
-
-
-def has_menus(folder):
-    return any(path.suffix.lower() in (".mnu", ".btn") for path in folder.glob("*"))
-
-
-def fill_menus(session):
-    """Sample menus of what this machine has, if the program has none."""
-    target = FOLDER / "Menus"
-    target.mkdir(exist_ok=True)
-    if has_menus(target):
-        return
-    say("the program has no menus yet; making some of what this machine has")
-    readme = FOLDER / "readme.txt"
-    if not readme.exists():
-        readme.write_text("This is the folder of Corvelle. Its menus lie in the folder Menus, one file for "
-                          "each button.\r\n", encoding="ascii", newline="")
-    place = session.drive / "menutext"
-    place.mkdir()
-    shutil.copy2(MENUTEXT, place)
-    for number, text in enumerate(sample_menus.menus(session.drive), 1):
-        source = place / f"{number}.txt"
-        source.write_text(text, encoding="utf-8")
-        process = session.start([r"C:\menutext\menutext.exe", "pack", f"C:\\menutext\\{number}.txt",
-                                 f"C:\\Corvelle\\Menus\\BMENU{number:03}.MNU"])
-        if process.wait(60) != 0:
-            raise SessionError(f"menutext did not make menu {number}")
 
 
 def wait_for_end(process, seconds):
@@ -144,7 +114,6 @@ def run():
         display = ""
     with Session(display=display or None, verbose=True) as session:
         (session.drive / "Corvelle").symlink_to(FOLDER)
-        fill_menus(session)
         say(f"starting {FOLDER / 'corvelle.exe'} " + (f"on the display {display}; Ctrl+C here closes it"
                                                      if display else "on a display of its own"))
         process = session.start([r"C:\Corvelle\corvelle.exe"], cwd=session.drive / "Corvelle")

@@ -206,6 +206,8 @@ class HintPort {
   /// The window's place in the Z order, with flags of SetWindowPos. A side without a window has
   /// nothing to do.
   virtual void SetHintLevel(forms::InsertAfter /*after*/, unsigned /*flags*/) {}
+  /// The program ends, and the hint's window with it.
+  virtual void ReleaseHint() {}
 };
 
 /// Placement of the strip at a screen edge.

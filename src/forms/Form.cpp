@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "forms/PictureBox.h"
+#include "forms/SystemControl.h"
 
 namespace corvelle::forms {
 
@@ -20,10 +21,14 @@ bool Form::CreateWindows() {
     if (!box->CreatePeer(PeerKind::PictureBox, Peer(), false)) return false;
     if (box->Visible()) box->Peer()->Show(ShowKind::NoActivate);
   }
+  for (SystemControl* control : controls_) {
+    if (!control->MakePeer(Peer())) return false;
+  }
   return true;
 }
 
 void Form::DestroyWindows() {
+  for (SystemControl* control : controls_) control->DestroyPeer();
   for (PictureBox* box : boxes_) box->DestroyPeer();
   DestroyPeer();
 }

@@ -10,6 +10,7 @@
 namespace corvelle::forms {
 
 class PictureBox;
+class SystemControl;
 
 enum class BorderStyle {
   None,
@@ -83,11 +84,13 @@ class Form : public Surface {
 
  private:
   friend class PictureBox;
+  friend class SystemControl;
   [[nodiscard]] bool CreateWindows();
   void DestroyWindows();
   void ShowAs(ShowKind kind);
 
   std::vector<PictureBox*> boxes_;
+  std::vector<SystemControl*> controls_;
   std::string caption_;
   BorderStyle border_;
   bool inTaskbar_;

@@ -27,8 +27,10 @@ struct ShiftState {
 
 /// Virtual-key codes that the program knows.
 namespace key {
+inline constexpr int Tab = 9;
 inline constexpr int Enter = 13;
 inline constexpr int Escape = 27;
+inline constexpr int Space = 32;
 inline constexpr int PageUp = 33;
 inline constexpr int PageDown = 34;
 inline constexpr int End = 35;
@@ -54,6 +56,7 @@ inline constexpr OleColor GrayText = 0x80000011;
 inline constexpr OleColor ButtonText = 0x80000012;
 inline constexpr OleColor Highlight3D = 0x80000014;
 inline constexpr OleColor DarkShadow3D = 0x80000015;
+inline constexpr OleColor TooltipText = 0x80000017;
 inline constexpr OleColor TooltipFace = 0x80000018;
 }  // namespace color
 

@@ -69,6 +69,8 @@ class WindowEvents {
                             const DragPoint& /*where*/) {
     return DropEffect::None;
   }
+  /// A control that the system works was pressed: with the pointer or with Space.
+  virtual void OnPress() {}
 
   /// Any message before the backend deals with it, for top-level windows. An answer ends the
   /// message there.
@@ -96,6 +98,8 @@ class WindowPeer {
   /// From now on drags of other programs are told to the window; at first they are not, and go to
   /// the next window around it that takes them. False when the system refuses.
   virtual bool SetTakesDrops(bool takesDrops) = 0;
+  /// Ticks a check box or takes its tick away; other kinds have none.
+  virtual void SetChecked(bool /*checked*/) {}
 
   /// Notes that `part` must be painted; it is, once, at the next paint. Nothing is noted for a
   /// window that is not visible; coming up, it is painted whole.
@@ -117,6 +121,10 @@ class WindowPeer {
 enum class PeerKind {
   Form,        // a top-level window without a frame of the system
   PictureBox,  // a child window
+  // Children that the system draws and works, with its own font. A press takes the focus and is
+  // told as OnPress; mouse events are not told, keys are, but for Space.
+  CommandButton,
+  CheckBox,
 };
 
 /// What a backend needs to make a window. On Windows the class of the window bears `ClassName`, so
@@ -124,7 +132,7 @@ enum class PeerKind {
 struct PeerSpec {
   PeerKind Kind = PeerKind::Form;
   std::string ClassName;
-  WindowPeer* Parent = nullptr;  // of a PictureBox
+  WindowPeer* Parent = nullptr;  // of a child
   PixelRect Bounds;
   bool InTaskbar = false;  // a form that shows a button in the task bar when it is visible
 };

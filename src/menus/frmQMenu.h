@@ -83,6 +83,12 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   /// Gives an item its disabled look, and takes that of all items away.
   void DisableLabel(int index);
   void EnableLabel(int index);
+  /// Gives an item another tag for as long as the menu is kept; true if it is another.
+  bool SetItemTag(int index, std::string tag);
+  /// Draws the icons of the page on show anew. All its items are enabled then.
+  void RedrawPage() { DrawPage(false); }
+  /// No item is selected any more.
+  void DropSelection();
   /// Reads the menu on show and its icons anew.
   void RefreshQMenu() override;
 
@@ -248,7 +254,6 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   [[nodiscard]] ItemBox BoxOf(int index) const;
   void SetNormal(int index);
   void SelectItem(int index);
-  void DropSelection();
   void DrawBox(int index);
   void HideBox();
   static void SetLine(forms::Line& line, const TwipLine& at);

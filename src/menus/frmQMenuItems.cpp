@@ -1,5 +1,7 @@
 // Items: what their labels carry, the selection, the disabled look.
 
+#include <utility>
+
 #include "base/Text.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
@@ -86,8 +88,18 @@ void frmQMenu::HideBox() {
 
 // ---- the disabled look ----
 
+bool frmQMenu::SetItemTag(int index, std::string tag) {
+  if (index < 1 || index > static_cast<int>(menu_->LabelList.size())) return false;
+  std::string& kept = menu_->LabelList[static_cast<std::size_t>(index) - 1].Tag;
+  if (kept == tag) return false;
+  kept = std::move(tag);
+  if (Lbl.Has(index)) Lbl[index].Tag = kept;
+  return true;
+}
+
 void frmQMenu::DisableLabel(int index) {
-  if (!Lbl.Has(index)) return;
+  // An item of another page gets its look when that page comes up.
+  if (index < FirstLabel || index > LastLabel || !Lbl.Has(index)) return;
   Lbl[index].SetForeColor(forms::color::GrayText);
   Lbl[index].SetEnabled(false);
   const int number = LastLabel + ShadowCount + 1;

@@ -60,6 +60,7 @@ void frmQMenu::ShowSlide() {
     InvalidateAll();
   }
   LimitPictures(*menu_, CurMenu, kKeptPictures);
+  if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
 }
 
 void frmQMenu::DrawPage(bool watched) {

@@ -97,8 +97,10 @@ void frmQMenu::ChooseItem(float x, float y) {
     DropSelection();
     return;
   }
-  const std::string command = GetExeName(hit);
   const bool mainMenu = EqualNoCase(MenuKey, kMainMenuKey);
+  // The program's own menu acts by its captions.
+  const std::string command =
+      mainMenu ? Trim(SingleAmpersands(Lbl[hit].Caption())) : GetExeName(hit);
   DropSelection();
   // The menu is gone before the item starts.
   CloseMenu();
@@ -108,7 +110,7 @@ void frmQMenu::ChooseItem(float x, float y) {
 
 void frmQMenu::RunItem(bool mainMenu, int index, const std::string& command) {
   if (mainMenu) {
-    if (program_.Ports.MainMenu != nullptr) program_.Ports.MainMenu->xMainMenu(index, "");
+    if (program_.Ports.MainMenu != nullptr) program_.Ports.MainMenu->xMainMenu(index, command);
     return;
   }
   if (command.empty()) {

@@ -18,6 +18,10 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.Startup = &Startup;
   ports.FolderMenus = &TheFolderMenus;
   ports.Popup = &ThePopup;
+  ports.Hint = &Hint;
+  ports.Tip = &Tip;
+  ports.MainMenu = &TheMainMenu;
+  ports.DefaultEntries = &TheDefaultEntries;
   ports.IconRule = &TheIconRule;
   ports.IconLibrary = &TheIconLibrary;
   ports.BuiltInCommands = &TheBuiltIns;

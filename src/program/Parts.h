@@ -1,18 +1,22 @@
 #pragma once
 
+#include "about/DefaultEntries.h"
 #include "core/Program.h"
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
 #include "menus/FolderMenus.h"
+#include "menus/MainMenu.h"
 #include "menus/frmQMenu.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
 #include "toolbar/DragImage.h"
 #include "toolbar/Popup.h"
+#include "toolbar/frmHelp.h"
 #include "toolbar/frmImage.h"
 #include "toolbar/frmMinimize.h"
 #include "toolbar/frmStartup.h"
+#include "toolbar/frmTip.h"
 #include "toolbar/frmToolbar.h"
 #include "toolbar/mAppBar.h"
 
@@ -45,6 +49,10 @@ class Parts {
   frmMinimize Companion{TheProgram};
   frmStartup Startup{TheProgram};
   Popup ThePopup{TheProgram};
+  frmHelp Hint{TheProgram};
+  frmTip Tip{TheProgram};
+  MainMenu TheMainMenu{TheProgram, Menu};
+  DefaultEntries TheDefaultEntries{TheProgram};
   IconRule TheIconRule{TheProgram};
   IconLibrary TheIconLibrary{TheProgram};
   BuiltInCommands TheBuiltIns{TheProgram};

@@ -33,6 +33,8 @@ Description Describe(FileError error) noexcept {
 
 }  // namespace
 
+std::string FileErrorDescription(FileError error) { return std::string(Describe(error).Text); }
+
 std::string FileErrorText(FileError error) { return "Error: " + NumberedFileError(error); }
 
 std::string NumberedFileError(FileError error) {

@@ -58,7 +58,7 @@ void frmMinimize::Form_Unload() {
   EndWindow(ports.ImageWindow);
   EndWindow(ports.Toolbar);
   EndWindow(ports.Library);
-  program_.SetHint("");
+  if (ports.Hint != nullptr) ports.Hint->ReleaseHint();
   program_.Windows.Quit();
 }
 

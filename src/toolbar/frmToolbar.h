@@ -214,6 +214,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// Pointer tracking has started.
   bool WasHovering = false;
   bool MenuRefreshing = false;
+  /// When a hint is to come up, and when it is to go; milliseconds of the clock, 0 for never.
+  std::int64_t TipDueAt = 0;
+  std::int64_t TipHideAt = 0;
   /// The pointer at the press on the frame, and the same less the size of the button box.
   float DownX = 0;
   float DownY = 0;
@@ -322,6 +325,11 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] TwipPoint InMenu(PixelPoint pointer) const;
   [[nodiscard]] bool HasLeft(WindowId under) const;
   void StartHovering();
+  /// The title of a button in the form that a hint takes; empty for none.
+  [[nodiscard]] std::string HintOf(int button) const;
+  /// A hint for the button under the pointer is due in a moment.
+  void AnnounceHint();
+  void KeepHintTimes(WindowId under);
   void HoverButton(int button);
   void ShowButtonPopup();
   void ShowFramePopup(std::string_view tag);

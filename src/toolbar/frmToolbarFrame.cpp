@@ -55,6 +55,7 @@ void frmToolbar::Form_MouseDown(forms::MouseButton /*button*/, forms::ShiftState
                                 float y) {
   if (program_.Entry.ItemDragging) return;
   program_.SetHint("");
+  if (!IsLoaded()) return;
   ResetMenu();
   if (!IsLoaded()) return;
   FrameMoved = false;

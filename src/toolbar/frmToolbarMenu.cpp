@@ -46,6 +46,7 @@ void frmToolbar::ShowMenu(int button) {
     LastOpenFlag = true;
     LastOpenButton = button;
     program_.SetHint("");
+    if (IsLoaded()) AnnounceHint();
     return;
   }
   ShowMenuOf(button);
@@ -56,6 +57,8 @@ void frmToolbar::ShowMenuOf(int button) {
   Timer2.SetEnabled(false);
   LastOpenFlag = false;
   program_.SetHint("");
+  // Events ran if a hint was up.
+  if (!IsLoaded() || button > ButtonCount) return;
   // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.
   if (MenuUp() && !program_.DragHolds()) SetFocus();
   HideMenuWindow();
@@ -148,6 +151,8 @@ void frmToolbar::ResetMenu() {
   LastOpenButton = 0;
   program_.DragOverButton = false;
   WasHovering = false;
+  TipDueAt = 0;
+  TipHideAt = 0;
   ShowRestingLook();
   if (QMenuPort* const menu = program_.Ports.QMenu) {
     menu->SetPoll(false);

@@ -12,6 +12,9 @@
 namespace corvelle {
 namespace {
 
+constexpr int kDisablesHints = 22;            // position of the options
+constexpr std::int64_t kHintDelay = 500;  // milliseconds
+constexpr std::int64_t kHintTime = 1500;
 constexpr int kMenuBorder = 3;  // pixels around the inside of the menu window
 
 }  // namespace
@@ -105,7 +108,10 @@ void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState
                                       float /*x*/, float /*y*/) {
   if (program_.PosChangeRunning || program_.StartingUp) return;
   const bool anyDown = down != forms::MouseButton::None;
-  if (!anyDown && !WasHovering) StartHovering();
+  if (!anyDown && !WasHovering) {
+    StartHovering();
+    if (!IsLoaded()) return;
+  }
   const int before = program_.CurButton;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   FindCurButton(pointer);
@@ -115,9 +121,11 @@ void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState
       LastOpenFlag = false;
       LastOpenButton = 0;
     } else if (!program_.MenuOpen && !program_.Entry.ItemDragging) {
-      program_.SetHint(current > 0
-                           ? DoubleAmpersands(records_[static_cast<std::size_t>(current)].FTitle)
-                           : std::string());
+      TipDueAt = 0;
+      TipHideAt = 0;
+      program_.SetHint(HintOf(current));
+      // Events ran while an old hint closed, and the strip may not be what it was.
+      if (!IsLoaded() || program_.CurButton != current) return;
     }
   }
   if ((program_.MenuOpen || program_.Entry.ItemDragging) && LooksAtRest(current) &&
@@ -134,6 +142,31 @@ void frmToolbar::StartHovering() {
   program_.RestoreBusy = false;
   FrameMoved = false;
   WasHovering = true;
+}
+
+std::string frmToolbar::HintOf(int button) const {
+  if (button < 1 || button > ButtonCount) return {};
+  return DoubleAmpersands(records_[static_cast<std::size_t>(button)].FTitle);
+}
+
+void frmToolbar::AnnounceHint() {
+  if (program_.Ports.Hint == nullptr || program_.OptionFlags.Is(kDisablesHints)) return;
+  TipDueAt = program_.Windows.Now() + kHintDelay;
+  Timer2.SetEnabled(true);
+}
+
+void frmToolbar::KeepHintTimes(WindowId under) {
+  const std::int64_t now = program_.Windows.Now();
+  if (TipHideAt != 0 && now > TipHideAt) {
+    TipHideAt = 0;
+    program_.SetHint("");
+    if (!IsLoaded()) return;
+  }
+  if (TipDueAt == 0 || now <= TipDueAt) return;
+  TipDueAt = 0;
+  if (under != picToolbar.hWnd() || program_.CurButton == 0) return;
+  TipHideAt = now + kHintTime;
+  program_.SetHint(HintOf(program_.CurButton));
 }
 
 // Moving along the strip changes the menu. The button of the program's own menu has none to show
@@ -236,19 +269,23 @@ void frmToolbar::Timer2_Timer() {
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   FindCurButton(pointer);
   const WindowId under = program_.Services.Desktop.WindowAt(pointer);
-  if (under == picToolbar.hWnd()) {
+  // A hint that is due opens no menu.
+  const bool tracksMenu = program_.MenuOpen;
+  if (tracksMenu && under == picToolbar.hWnd()) {
     if (LooksAtRest(program_.CurButton) && MenuOwner() != program_.CurButton) {
       HoverButton(program_.CurButton);
     }
-  } else if (under == picSingleButton.hWnd()) {
+  } else if (tracksMenu && under == picSingleButton.hWnd()) {
     HideMenuWhileTracking();
   }
+  if (!IsLoaded()) return;
+  KeepHintTimes(under);
   if (!IsLoaded()) return;
   if (HasLeft(under)) {
     program_.MenuOpen = true;
     ResetMenu();
   }
-  if (!MenuUp()) Timer2.SetEnabled(false);
+  if (!MenuUp() && TipDueAt == 0 && TipHideAt == 0) Timer2.SetEnabled(false);
 }
 
 // True if the user has gone to another program's window.

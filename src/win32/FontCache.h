@@ -19,6 +19,9 @@ class FontCache {
   /// until the next call.
   [[nodiscard]] HFONT Get(const FontSpec& wanted);
 
+  /// A font of the caller's own; none when it cannot be made.
+  [[nodiscard]] UniqueFont Make(const FontSpec& wanted) const;
+
   /// Size in pixels of one line of text.
   [[nodiscard]] PixelSize Measure(std::string_view text, const FontSpec& wanted);
 
@@ -27,8 +30,6 @@ class FontCache {
     FontSpec Wanted;
     UniqueFont Font;
   };
-
-  [[nodiscard]] UniqueFont Make(const FontSpec& wanted) const;
 
   UniqueMemoryDc dc_{CreateCompatibleDC(nullptr)};  // to measure with
   std::vector<Entry> fonts_;                        // the one used last at the end

@@ -91,6 +91,10 @@ void Win32Peer::SetCaption(std::string_view caption) {
 
 void Win32Peer::SetEnabled(bool enabled) { EnableWindow(Handle(), enabled ? TRUE : FALSE); }
 
+void Win32Peer::SetChecked(bool checked) {
+  SendMessageW(Handle(), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
 void Win32Peer::Invalidate(const PixelRect& part) {
   if (IsWindowVisible(Handle()) == 0) return;
   const RECT rect = ToRect(part);

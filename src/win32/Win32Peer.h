@@ -26,6 +26,7 @@ class Win32Peer final : public forms::WindowPeer {
   void SetCaption(std::string_view caption) override;
   void SetEnabled(bool enabled) override;
   bool SetTakesDrops(bool takesDrops) override { return window_->SetTakesDrops(takesDrops); }
+  void SetChecked(bool checked) override;
   void Invalidate(const PixelRect& part) override;
   void PaintNow() override;
   void SetFocus() override;

@@ -44,6 +44,7 @@ bool Win32Window::RegisterClassNamed(const wchar_t* name) {
 }
 
 bool Win32Window::Create(const forms::PeerSpec& wanted) {
+  if (IsControl()) return CreateControl(wanted);
   const std::wstring name = Wide(wanted.ClassName);
   if (!RegisterClassNamed(name.c_str())) return false;
   const WindowStyle style = StyleOf(wanted);

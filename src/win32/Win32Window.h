@@ -5,6 +5,7 @@
 
 #include "forms/WindowSystem.h"
 #include "win32/Sys.h"
+#include "win32/UniqueHandle.h"
 
 namespace corvelle::win32 {
 
@@ -31,12 +32,19 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   [[nodiscard]] bool SetTakesDrops(bool takesDrops);
   [[nodiscard]] bool IsForm() const noexcept { return kind_ == forms::PeerKind::Form; }
 
+  /// True for a window that the system draws and works.
+  [[nodiscard]] bool IsControl() const noexcept {
+    return kind_ == forms::PeerKind::CommandButton || kind_ == forms::PeerKind::CheckBox;
+  }
+
   /// Outer bounds, relative to the parent or the screen.
   [[nodiscard]] PixelRect Bounds() const;
 
  private:
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam,
                                     LPARAM lParam) noexcept;
+  static LRESULT CALLBACK ControlProcedure(HWND handle, UINT message, WPARAM wParam,
+                                           LPARAM lParam) noexcept;
   LRESULT Receive(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Treat(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
@@ -46,6 +54,12 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   std::optional<LRESULT> TreatKeys(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> TreatFrame(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> TreatEnd(UINT message, WPARAM wParam);
+
+  // Controls of the system.
+  [[nodiscard]] bool CreateControl(const forms::PeerSpec& wanted);
+  LRESULT TreatControl(UINT message, WPARAM wParam, LPARAM lParam);
+  /// A child tells of a press.
+  std::optional<LRESULT> TreatCommand(UINT message, WPARAM wParam, LPARAM lParam);
 
   LRESULT Press(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT ReleaseButton(UINT message, WPARAM wParam, LPARAM lParam);
@@ -60,6 +74,8 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   Win32WindowSystem& system_;
   forms::PeerKind kind_;
   HWND handle_ = nullptr;
+  WNDPROC systemProcedure_ = nullptr;  // of a control of the system
+  UniqueFont font_;                    // the same
   forms::WindowEvents* events_ = nullptr;
   bool takesDrops_ = false;
   PixelRect told_;             // the bounds that the events know

@@ -94,11 +94,16 @@ LRESULT Win32Window::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT Win32Window::Default(UINT message, WPARAM wParam, LPARAM lParam) {
   // The window may be gone by now, and the messages of one that is are nobody's.
-  return handle_ != nullptr ? DefWindowProcW(handle_, message, wParam, lParam) : 0;
+  if (handle_ == nullptr) return 0;
+  if (systemProcedure_ != nullptr) {
+    return CallWindowProcW(systemProcedure_, handle_, message, wParam, lParam);
+  }
+  return DefWindowProcW(handle_, message, wParam, lParam);
 }
 
 LRESULT Win32Window::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto answer = TreatFrame(message, wParam, lParam)) return *answer;
+  if (const auto answer = TreatCommand(message, wParam, lParam)) return *answer;
   if (events_ == nullptr) return Default(message, wParam, lParam);
   if (const auto answer = TreatMouse(message, wParam, lParam)) return *answer;
   if (const auto answer = TreatKeys(message, wParam, lParam)) return *answer;
@@ -125,7 +130,14 @@ std::optional<LRESULT> Win32Window::TreatFrame(UINT message, WPARAM wParam, LPAR
       reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {1, 1};
       return answer;
     }
+    case WM_PRINTCLIENT:
     case WM_ERASEBKGND:
+      // A child that is drawn in the look of a theme asks for the ground beneath it.
+      if (WindowFromDC(reinterpret_cast<HDC>(wParam)) != handle_) {
+        RECT inside{};
+        GetClientRect(handle_, &inside);
+        FillRect(reinterpret_cast<HDC>(wParam), &inside, GetSysColorBrush(COLOR_BTNFACE));
+      }
       return 1;
     case WM_PAINT:
       Paint();

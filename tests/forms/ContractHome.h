@@ -65,6 +65,12 @@ class EventNotes final : public WindowEvents {
   void OnKeyPress(char32_t character) override {
     Seen.push_back("char " + std::to_string(static_cast<unsigned>(character)));
   }
+  void OnPress() override {
+    Seen.emplace_back("press");
+    // What it does may end what is noted here.
+    const auto action = WhenPressed;
+    if (action) action();
+  }
   void OnPaint(Canvas& canvas, const PixelRect& dirty) override {
     ++Paints;
     LastDirty = dirty;

@@ -149,4 +149,98 @@ TEST_P(InputContract, AWindowMayBeDestroyedByAPressOnIt) {
   EXPECT_EQ(peer, nullptr);
 }
 
+// Controls that the system works.
+
+class ControlContract : public InputContract {
+ protected:
+  static constexpr PixelRect kControl{20, 20, 120, 50};  // in the form
+  static constexpr PixelPoint kOnControl{250, 185};
+
+  EventNotes controlNotes_;
+  std::unique_ptr<WindowPeer> control_;
+
+  void MakeControl(PeerKind kind) {
+    control_ = home_->Windows().CreatePeer(
+        {.Kind = kind, .ClassName = "CorvelleControl", .Parent = peer_.get(), .Bounds = kControl},
+        controlNotes_);
+    ASSERT_NE(control_, nullptr);
+    control_->SetCaption("&Caption");
+    control_->Show(ShowKind::NoActivate);
+    home_->Wait(100);
+  }
+  void TearDown() override {
+    control_.reset();
+    InputContract::TearDown();
+  }
+};
+
+TEST_P(ControlContract, AClickIsAPressAndNoMouseEventIsTold) {
+  for (const PeerKind kind : {PeerKind::CommandButton, PeerKind::CheckBox}) {
+    MakeControl(kind);
+    EXPECT_EQ(home_->Desktop().Text(control_->Id()), "&Caption");
+    EXPECT_EQ(home_->Desktop().WindowAt(kOnControl), control_->Id());
+    home_->MovePointer(kOnControl);
+    home_->Press(MouseButton::Left);
+    EXPECT_EQ(controlNotes_.Seen, std::vector<std::string>{});
+    home_->Release(MouseButton::Left);
+    EXPECT_EQ(controlNotes_.Seen, std::vector<std::string>{"press"});
+    controlNotes_.Seen.clear();
+    control_.reset();
+  }
+}
+
+TEST_P(ControlContract, AReleaseElsewhereIsNoPress) {
+  MakeControl(PeerKind::CommandButton);
+  home_->MovePointer(kOnControl);
+  home_->Press(MouseButton::Left);
+  home_->MovePointer({kOnControl.x, kOnControl.y + 50});
+  home_->Release(MouseButton::Left);
+  EXPECT_FALSE(controlNotes_.Saw("press"));
+}
+
+TEST_P(ControlContract, ADisabledOneIsNotPressed) {
+  MakeControl(PeerKind::CheckBox);
+  control_->SetEnabled(false);
+  home_->MovePointer(kOnControl);
+  home_->Press(MouseButton::Left);
+  home_->Release(MouseButton::Left);
+  EXPECT_FALSE(controlNotes_.Saw("press"));
+  control_->SetEnabled(true);
+  home_->Press(MouseButton::Left);
+  home_->Release(MouseButton::Left);
+  EXPECT_TRUE(controlNotes_.Saw("press"));
+}
+
+TEST_P(ControlContract, SpacePressesTheOneWithTheFocusAndOtherKeysAreTold) {
+  constexpr int kTab = 9;
+  constexpr int kSpace = 32;
+  for (const PeerKind kind : {PeerKind::CommandButton, PeerKind::CheckBox}) {
+    MakeControl(kind);
+    control_->SetFocus();
+    home_->Wait(50);
+    home_->PressKey(kSpace);
+    EXPECT_TRUE(controlNotes_.Saw("press"));
+    EXPECT_FALSE(controlNotes_.Saw("key 32"));
+    for (const int key : {kTab, key::Enter, key::Escape}) home_->PressKey(key);
+    EXPECT_TRUE(controlNotes_.Saw("key 9"));
+    EXPECT_TRUE(controlNotes_.Saw("key 13"));
+    EXPECT_TRUE(controlNotes_.Saw("key 27"));
+    controlNotes_.Seen.clear();
+    control_.reset();
+  }
+}
+
+TEST_P(ControlContract, OneMayEndItselfAndItsFormByItsPress) {
+  MakeControl(PeerKind::CommandButton);
+  controlNotes_.WhenPressed = [this] {
+    control_.reset();
+    peer_.reset();
+  };
+  home_->MovePointer(kOnControl);
+  home_->Press(MouseButton::Left);
+  home_->Release(MouseButton::Left);
+  home_->Wait(50);
+  EXPECT_EQ(peer_, nullptr);
+}
+
 }  // namespace corvelle::forms

@@ -34,6 +34,8 @@ INSTANTIATE_TEST_SUITE_P(Simulated, CanvasContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, InputContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ControlContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace
 }  // namespace corvelle::forms

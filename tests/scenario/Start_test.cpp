@@ -21,7 +21,7 @@ TEST(Start, AFirstStartMakesTheFoldersShowsTheStripAndAsksOnce) {
   EXPECT_TRUE(desk->FolderExists("Menus"));
   EXPECT_TRUE(desk->FolderExists("Icons"));
   EXPECT_TRUE(desk->FolderExists("ShellLink"));
-  EXPECT_EQ(ButtonCount(*desk), 1);
+  EXPECT_EQ(ButtonCount(*desk), 6);
   ASSERT_EQ(desk->Messages().size(), 1U);
   EXPECT_EQ(desk->Messages()[0].Title, "Corvelle");
   EXPECT_EQ(desk->Messages()[0].Text, kStartupQuestion);
@@ -35,8 +35,8 @@ TEST(Start, AFirstStartMakesTheFoldersShowsTheStripAndAsksOnce) {
   desk->Picture("first-start");
 
   ASSERT_TRUE(CloseAndWait(*desk));
-  // 1, 14 to 16 (the right edge), 19, 24, 26 and 32. Position 2 waits for the default entries.
-  EXPECT_EQ(desk->ReadFile(kFlagsFile), "10000000000001110010000101000001");
+  // 1, 2, 14 to 16 (the right edge), 19, 24, 26 and 32.
+  EXPECT_EQ(desk->ReadFile(kFlagsFile), "11000000000001110010000101000001");
   ASSERT_TRUE(StartAndWait(*desk));
   EXPECT_EQ(desk->Messages().size(), 1U);
 }

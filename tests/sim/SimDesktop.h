@@ -271,6 +271,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void PaintNow(WindowId window);
   bool PaintOne(WindowId window);
   bool PaintSomething();
+  void PaintControl(SimCanvas& canvas, const SimWindow& window) const;
   void Compose(SimCanvas& screen, const SimWindow& window) const;
 
   // Events

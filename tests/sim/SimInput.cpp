@@ -149,7 +149,7 @@ void SimDesktop::DeliverMove(const Mouse& mouse) {
   const SimWindow* at = Look(target);
   moveWindow_ = target;
   movePoint_ = InWindow(target, mouse.At);
-  if (at == nullptr || at->Events == nullptr) return;
+  if (at == nullptr || at->Events == nullptr || IsSystemControl(*at)) return;
   const PixelPoint inside = movePoint_;
   const auto place = static_cast<std::intptr_t>((static_cast<std::uint32_t>(inside.y) << 16) |
                                                 (static_cast<std::uint32_t>(inside.x) & 0xFFFF));
@@ -170,7 +170,9 @@ void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, boo
   if (at == nullptr || at->Events == nullptr || !IsShown(target)) return;
   capture_ = target;
   const PixelPoint inside = InWindow(target, mouse.At);
-  if (second) {
+  if (IsSystemControl(*at)) {
+    SetFocusTo(target);
+  } else if (second) {
     at->Events->OnDoubleClick(inside);
   } else {
     at->Events->OnMouseDown(button, mouse.Shift, inside);
@@ -181,10 +183,19 @@ void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
   if (drag_ && button == drag_->Source.Button) return EndDrag(true);
   if (popup_ != kNoWindow) return;
   const WindowId target = MouseTarget(mouse.At);
+  const bool wasHeld = capture_ == target;
   if (mouse.Down == forms::MouseButton::None) capture_ = kNoWindow;
   const SimWindow* at = Look(target);
   if (at == nullptr || at->Events == nullptr) return;
-  at->Events->OnMouseUp(button, mouse.Shift, InWindow(target, mouse.At));
+  const PixelPoint inside = InWindow(target, mouse.At);
+  if (!IsSystemControl(*at)) {
+    at->Events->OnMouseUp(button, mouse.Shift, inside);
+    return;
+  }
+  const PixelSize size = at->Bounds.Size();
+  const bool over = PixelRect{0, 0, size.width, size.height}.Contains(inside);
+  // A control is pressed by a press and a release on it.
+  if (wasHeld && over && button == forms::MouseButton::Left) at->Events->OnPress();
 }
 
 void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
@@ -194,7 +205,12 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
     return;
   }
   const SimWindow* at = Look(focus_);
-  if (at != nullptr && at->Events != nullptr) at->Events->OnKeyDown(virtualKey, shift);
+  if (at == nullptr || at->Events == nullptr) return;
+  if (IsSystemControl(*at) && virtualKey == forms::key::Space && !shift.Alt) {
+    at->Events->OnPress();
+  } else {
+    at->Events->OnKeyDown(virtualKey, shift);
+  }
 }
 
 void SimDesktop::DeliverCharacter(char32_t character) {

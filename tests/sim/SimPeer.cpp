@@ -39,9 +39,19 @@ void SimPeer::SetCaption(std::string_view caption) {
   SimWindow& window = *desktop_.Get(window_);
   window.Text = caption;
   desktop_.Note("caption", window, caption);
+  if (IsSystemControl(window)) desktop_.InvalidateTree(window_);
 }
 
-void SimPeer::SetEnabled(bool enabled) { desktop_.Get(window_)->Enabled = enabled; }
+void SimPeer::SetEnabled(bool enabled) {
+  SimWindow& window = *desktop_.Get(window_);
+  window.Enabled = enabled;
+  if (IsSystemControl(window)) desktop_.InvalidateTree(window_);
+}
+
+void SimPeer::SetChecked(bool checked) {
+  desktop_.Get(window_)->Checked = checked;
+  desktop_.InvalidateTree(window_);
+}
 
 bool SimPeer::SetTakesDrops(bool takesDrops) {
   desktop_.Get(window_)->TakesDrops = takesDrops;

@@ -22,6 +22,7 @@ class SimPeer final : public forms::WindowPeer {
   void SetCaption(std::string_view caption) override;
   void SetEnabled(bool enabled) override;
   bool SetTakesDrops(bool takesDrops) override;
+  void SetChecked(bool checked) override;
   void Invalidate(const PixelRect& part) override { desktop_.Invalidate(window_, part); }
   void PaintNow() override { desktop_.PaintNow(window_); }
   void SetFocus() override { desktop_.SetFocusTo(window_); }

@@ -19,6 +19,8 @@ struct SimWindow {
   WindowId Parent = kNoWindow;            // none: a top-level window
   forms::WindowEvents* Events = nullptr;  // null for other programs' windows and message boxes
   bool Own = false;
+  forms::PeerKind Kind = forms::PeerKind::Form;
+  bool Checked = false;  // of a check box
   std::string ClassName;
   std::string Text;
   PixelRect Bounds;  // relative to the parent, or the screen
@@ -42,6 +44,11 @@ struct SimWindow {
   /// How another program's window answers messages; none: with 0.
   std::function<std::intptr_t(std::uint32_t, std::uintptr_t, std::intptr_t)> Answer;
 };
+
+/// True for a window that the system draws and works.
+[[nodiscard]] inline bool IsSystemControl(const SimWindow& window) {
+  return window.Kind == forms::PeerKind::CommandButton || window.Kind == forms::PeerKind::CheckBox;
+}
 
 /// What a test says of another program's window.
 struct OtherWindow {

@@ -60,6 +60,7 @@ std::unique_ptr<forms::WindowPeer> SimDesktop::CreatePeer(const forms::PeerSpec&
   const WindowId id = Add({.Parent = wanted.Parent != nullptr ? wanted.Parent->Id() : kNoWindow,
                            .Events = &events,
                            .Own = true,
+                           .Kind = wanted.Kind,
                            .ClassName = wanted.ClassName,
                            .Bounds = wanted.Bounds,
                            .InTaskbar = wanted.InTaskbar});
@@ -311,7 +312,12 @@ void SimDesktop::SetFocusTo(WindowId window) {
   const WindowId top = TopOf(window);
   Get(top)->Focus = window;
   RequestForeground(window);
-  if (foreground_ == top && Look(window) != nullptr) focus_ = window;
+  if (foreground_ == top && Look(window) != nullptr) {
+    // A control shows whether it has the focus.
+    InvalidateTree(focus_);
+    focus_ = window;
+    if (IsSystemControl(*Look(window))) InvalidateTree(window);
+  }
 }
 
 }  // namespace corvelle::sim

@@ -43,6 +43,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, CanvasContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(0); }));
 INSTANTIATE_TEST_SUITE_P(Windows, InputContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 
 }  // namespace
 }  // namespace corvelle::forms

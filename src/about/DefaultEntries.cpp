@@ -1,0 +1,253 @@
+#include "about/DefaultEntries.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "about/DefaultEntryRules.h"
+#include "base/Sort.h"
+#include "base/Text.h"
+#include "core/MenuFile.h"
+#include "core/Program.h"
+#include "launch/FileTitle.h"
+#include "launch/LaunchItem.h"
+#include "platform/FileAssociations.h"
+#include "platform/Registry.h"
+#include "shell/FileErrorText.h"
+#include "shell/LinkFiles.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kProgramsFolder = 2;  // CSIDL_PROGRAMS
+constexpr int kRecentFolder = 8;    // CSIDL_RECENT
+constexpr std::string_view kFirstMenu = "BMENU001.MNU";
+constexpr std::string_view kMailKey = "mailto\\shell\\open\\command";
+constexpr std::string_view kFailure =
+    "The following error has occured while Corvelle was trying to add sample entries.";
+
+FileStatus Success() { return Done{}; }
+
+// A file that is not there needs no removing.
+FileStatus RemoveIfThere(FileSystem& files, const std::string& path) {
+  return files.FileExists(path) ? files.Remove(path) : Success();
+}
+
+}  // namespace
+
+void DefaultEntries::IncludeCommonFiles() {
+  program_.DoEvents();
+  const FileStatus filled = Fill();
+  if (filled) return;
+  program_.Say(program_.ToolbarWindow(),
+               std::string(kFailure) + "\r\n" + FileErrorDescription(filled.Error()),
+               forms::msgbox::OnTop);
+}
+
+FileStatus DefaultEntries::Fill() {
+  FileSystem& files = program_.Services.Files;
+  if (!files.FolderExists(program_.MenusPath)) {
+    const FileStatus made = files.MakeFolder(program_.MenusPath);
+    if (!made && made.Error() != FileError::AlreadyExists) return made;
+  }
+  const auto menus = Count("*.mnu");
+  if (!menus) return menus.Error();
+  const auto buttons = Count("*.btn");
+  if (!buttons) return buttons.Error();
+  if (*menus > 0 || *buttons > 0) return Success();
+  BtnNum = 1;
+  MnuNum = 1;
+  singles_ = 0;
+  if (auto copied = CopyFirstMenu(); !copied) return copied;
+  if (auto written = WriteSingles(); !written) return written;
+  return WriteMenus();
+}
+
+FileResult<int> DefaultEntries::Count(std::string_view pattern) {
+  const auto found = program_.Services.Files.List(program_.MenusPath, pattern);
+  if (!found) return found.Error();
+  return static_cast<int>(found->size());
+}
+
+// An installation may bring a first menu of its own.
+FileStatus DefaultEntries::CopyFirstMenu() {
+  FileSystem& files = program_.Services.Files;
+  const std::string shipped = program_.AppPath + std::string(kFirstMenu);
+  if (!files.FileExists(shipped)) return Success();
+  const std::string copy = program_.MenusPath + std::string(kFirstMenu);
+  if (auto removed = RemoveIfThere(files, copy); !removed) return removed;
+  if (auto copied = files.Copy(shipped, copy); !copied) return copied;
+  MnuNum = 2;
+  return Success();
+}
+
+// ---- single buttons ----
+
+FileStatus DefaultEntries::WriteSingles() {
+  for (const MenuRecord& record : FixedSingles()) {
+    if (auto written = WriteSingle(record); !written) return written;
+  }
+  program_.ShowStartupProgress();
+  if (const auto browser = GetExe("htm")) {
+    const std::string title = GetFileTitle(program_, *browser);
+    const MenuRecord record = BrowserSingle({.Path = *browser, .FileTitle = title});
+    if (auto written = WriteSingle(record); !written) return written;
+  }
+  program_.ShowStartupProgress();
+  if (const auto mail = FindMailSingle()) {
+    if (auto written = WriteSingle(*mail); !written) return written;
+  }
+  for (const std::string_view extension : ProgramExtensions()) {
+    program_.ShowStartupProgress();
+    if (auto written = WriteProgramSingle(extension); !written) return written;
+  }
+  program_.ShowStartupProgress();
+  if (IsOdd(singles_)) {
+    if (auto written = WriteProgramSingle(kEvenExtension); !written) return written;
+  }
+  return IsOdd(singles_) ? WriteSingle(MyComputerSingle()) : Success();
+}
+
+FileStatus DefaultEntries::WriteProgramSingle(std::string_view extension) {
+  const auto path = GetExe(extension);
+  if (!path) return Success();
+  const std::string title = GetFileTitle(program_, *path);
+  return WriteSingle(ProgramSingle({.Path = *path, .FileTitle = title}));
+}
+
+std::optional<MenuRecord> DefaultEntries::FindMailSingle() {
+  const auto command = program_.Services.Keys.Text(RegistryRoot::ClassesRoot, kMailKey, "");
+  if (!command) return std::nullopt;
+  const std::string path = MailProgramPath(*command);
+  if (path.empty() || !program_.Services.Files.FileExists(path)) return std::nullopt;
+  const std::string title = GetFileTitle(program_, path);
+  return MailSingle({.Path = path, .FileTitle = title});
+}
+
+FileStatus DefaultEntries::WriteSingle(const MenuRecord& record) {
+  FileSystem& files = program_.Services.Files;
+  const std::string path = program_.MenusPath + SingleFileName(BtnNum);
+  if (auto removed = RemoveIfThere(files, path); !removed) return removed;
+  if (auto written = WriteRecords(files, program_.Services.Ansi, path, {record}); !written) {
+    return written;
+  }
+  ++BtnNum;
+  ++singles_;
+  return Success();
+}
+
+std::optional<std::string> DefaultEntries::GetExe(std::string_view extension) {
+  FileSystem& files = program_.Services.Files;
+  const std::string sample = program_.AppPath + "dummy." + std::string(extension);
+  // Where the sample cannot be made the question cannot be asked, and there is no answer.
+  if (!RemoveIfThere(files, sample) || !files.Write(sample, "dummy string\r\n")) {
+    return std::nullopt;
+  }
+  std::optional<std::string> found = program_.Services.Associations.ProgramFor(sample);
+  // One that stays behind is used again by the next question.
+  static_cast<void>(files.Remove(sample));
+  if (!found) return std::nullopt;
+  std::string path = StripAtNull(*found);
+  if (path.empty() || !files.FileExists(path)) return std::nullopt;
+  return path;
+}
+
+// ---- menus ----
+
+FileStatus DefaultEntries::WriteMenus() {
+  const std::string programs = GetSpecialFolder(program_, kProgramsFolder);
+  program_.ShowStartupProgress();
+  if (auto written = WriteMenu(DesktopMenu()); !written) return written;
+  program_.ShowStartupProgress();
+  if (auto written = WriteMenu(ProgramsMenu(programs)); !written) return written;
+  program_.ShowStartupProgress();
+  if (auto written = WriteMenu(DocumentsMenu(GetSpecialFolder(program_, kRecentFolder)));
+      !written) {
+    return written;
+  }
+  program_.ShowStartupProgress();
+  if (auto written = WriteMenu(AccessoriesMenu(programs)); !written) return written;
+  program_.ShowStartupProgress();
+  return WriteMenu(SettingsMenu());
+}
+
+FileStatus DefaultEntries::WriteMenu(const std::vector<MenuRecord>& records) {
+  FileSystem& files = program_.Services.Files;
+  const std::string path = program_.MenusPath + MenuFileName(MnuNum);
+  if (auto removed = RemoveIfThere(files, path); !removed) return removed;
+  if (auto written = WriteRecords(files, program_.Services.Ansi, path, records); !written) {
+    return written;
+  }
+  ++MnuNum;
+  return Success();
+}
+
+std::vector<MenuRecord> DefaultEntries::ProgramsMenu(const std::string& folder) {
+  std::vector<MenuRecord> records{ProgramsButton()};
+  if (folder.empty()) return records;
+  AddFiles(records, folder);
+  const std::vector<std::string> subFolders = Names(folder, true);
+  if (records.size() > 1 && !subFolders.empty()) records.push_back(NewSeparatorRecord());
+
+  struct Found {
+    std::string Folder;
+    std::string Name;
+  };
+  std::vector<Found> found;
+  for (const std::string& name : subFolders) {
+    if (IsSkippedFolder(name)) continue;
+    const std::string subFolder = EnsureBackslash(folder) + name;
+    for (std::string& file : Names(subFolder, false)) {
+      if (IsWorthAnItem(subFolder, file)) found.push_back({subFolder, std::move(file)});
+    }
+  }
+  // One name in two folders keeps the order of the folders.
+  std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
+    return CompareNoCase(a.Name, b.Name) < 0;
+  });
+  for (const Found& file : found) {
+    records.push_back(FileItem(file.Folder, file.Name));
+    program_.ShowStartupProgress();
+  }
+  return records;
+}
+
+bool DefaultEntries::IsWorthAnItem(const std::string& folder, const std::string& name) {
+  if (IsSkippedFile(name)) return false;
+  if (!EndsWithNoCase(name, ".lnk")) return true;
+  std::string target;
+  static_cast<void>(GetLinkWorkDir(program_, EnsureBackslash(folder) + name, target));
+  return !IsSkippedTarget(target);
+}
+
+std::vector<MenuRecord> DefaultEntries::AccessoriesMenu(const std::string& programs) {
+  std::vector<MenuRecord> records{AccessoriesButton()};
+  if (programs.empty()) return records;
+  const std::string folder = EnsureBackslash(programs) + "Accessories\\";
+  AddFiles(records, folder);
+  const std::vector<std::string> subFolders = Names(folder, true);
+  if (records.size() > 1 && !subFolders.empty()) records.push_back(NewSeparatorRecord());
+  for (const std::string& name : subFolders) AddFiles(records, folder + name);
+  return records;
+}
+
+void DefaultEntries::AddFiles(std::vector<MenuRecord>& records, const std::string& folder) {
+  for (const std::string& name : Names(folder, false)) {
+    if (IsOwnFile(name)) continue;
+    records.push_back(FileItem(folder, name));
+    program_.ShowStartupProgress();
+  }
+}
+
+std::vector<std::string> DefaultEntries::Names(const std::string& folder, bool folders) {
+  std::vector<std::string> names;
+  const auto found = program_.Services.Files.List(folder, "*.*");
+  // A folder that is not there or not ours to see has nothing to offer.
+  if (!found) return names;
+  for (const FileEntry& entry : *found) {
+    if (entry.IsFolder == folders && !entry.Hidden) names.push_back(entry.Name);
+  }
+  SortTexts(names);
+  return names;
+}
+
+}  // namespace corvelle

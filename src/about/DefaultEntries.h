@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/MenuRecord.h"
+#include "core/WindowPorts.h"
+#include "platform/FileSystem.h"
+
+namespace corvelle {
+
+class Program;
+
+/// Fills the folder of the menus with buttons and menus of what the machine has, so that a new user
+/// does not meet an empty bar.
+class DefaultEntries final : public DefaultEntriesPort {
+ public:
+  explicit DefaultEntries(Program& program) : program_(program) {}
+
+  /// Does nothing in a folder that has a menu or a single button. A failure ends it with a message;
+  /// what is written by then stays.
+  void IncludeCommonFiles() override;
+
+  /// The program that opens files with this extension (without its dot); nothing when there is none
+  /// or it is not on the disk. Makes a file of that kind in the program's folder for the question.
+  [[nodiscard]] std::optional<std::string> GetExe(std::string_view extension);
+
+ private:
+  [[nodiscard]] FileStatus Fill();
+  [[nodiscard]] FileResult<int> Count(std::string_view pattern);
+  [[nodiscard]] FileStatus CopyFirstMenu();
+
+  [[nodiscard]] FileStatus WriteSingles();
+  [[nodiscard]] FileStatus WriteSingle(const MenuRecord& record);
+  [[nodiscard]] FileStatus WriteProgramSingle(std::string_view extension);
+  [[nodiscard]] std::optional<MenuRecord> FindMailSingle();
+
+  [[nodiscard]] FileStatus WriteMenus();
+  [[nodiscard]] FileStatus WriteMenu(const std::vector<MenuRecord>& records);
+  [[nodiscard]] std::vector<MenuRecord> ProgramsMenu(const std::string& folder);
+  [[nodiscard]] std::vector<MenuRecord> AccessoriesMenu(const std::string& folder);
+  [[nodiscard]] bool IsWorthAnItem(const std::string& folder, const std::string& name);
+  /// Adds an item for each file of a folder.
+  void AddFiles(std::vector<MenuRecord>& records, const std::string& folder);
+
+  /// Visible files or folders of a folder, sorted by name; none of one that cannot be listed.
+  [[nodiscard]] std::vector<std::string> Names(const std::string& folder, bool folders);
+
+  Program& program_;
+  int BtnNum = 1;
+  int MnuNum = 1;
+  /// Single buttons written so far.
+  int singles_ = 0;
+};
+
+}  // namespace corvelle

@@ -1,0 +1,285 @@
+#include "menus/MainMenu.h"
+
+#include <algorithm>
+#include <string>
+
+#include "base/Text.h"
+#include "core/Instance.h"
+#include "core/OptionFlags.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "launch/LaunchItem.h"
+#include "menus/frmQMenu.h"
+#include "platform/FileSystem.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kAutoHideOption = 3;
+constexpr int kEdgeOption = 14;
+constexpr int kNotOnTopOption = 23;
+constexpr int kLargeAtTopOption = 25;
+constexpr int kLargeOption = 26;
+
+/// The still picture of the strip, where there is a window for it.
+class StripPicture {
+ public:
+  explicit StripPicture(Program& program) : program_(program) {
+    if (CapturePort* const capture = program_.Ports.Capture) capture->SetPicture1();
+  }
+  StripPicture(const StripPicture&) = delete;
+  StripPicture& operator=(const StripPicture&) = delete;
+  ~StripPicture() {
+    if (CapturePort* const capture = program_.Ports.Capture) capture->ResetPicture1();
+  }
+
+ private:
+  Program& program_;
+};
+
+bool StripStands(const Program& program) {
+  return program.Ports.Toolbar != nullptr && program.Ports.Toolbar->WindowLoaded();
+}
+
+}  // namespace
+
+struct MainMenu::Choice {
+  std::string_view Text;
+  void (MainMenu::*Run)();
+  int Label = 0;  // of an item that is not always to be chosen
+};
+
+MainMenuFacts MainMenu::Facts() const {
+  return {.LargeIcons = program_.OptionFlags.Is(kLargeOption),
+          .AutoHide = program_.AutoHide,
+          .NotOnTop = program_.NotOnTop,
+          .Docked = program_.AppBarDocked};
+}
+
+// ---- marks ----
+
+void MainMenu::CheckLabels() {
+  if (!menu_.IsLoaded() || !EqualNoCase(menu_.MenuKey, kMainMenuKey)) return;
+  const MainMenuFacts facts = Facts();
+  bool changed = false;
+  for (const int label : kMarkedLabels) {
+    changed = menu_.SetItemTag(label, MarkTag(IsMarked(label, facts))) || changed;
+  }
+  if (changed) menu_.RedrawPage();
+  // To enable one item takes the disabled look away from all.
+  for (const int label : kPlaceLabels) menu_.EnableLabel(label);
+  for (const int label : kPlaceLabels) {
+    if (!IsChoosable(label, facts)) menu_.DisableLabel(label);
+  }
+  menu_.Refresh();
+}
+
+// ---- choices ----
+
+void MainMenu::xMainMenu(int index, std::string_view text) {
+  std::string wanted = Trim(text);
+  if (wanted.empty()) {
+    if (program_.SelectedItem == 0 || !menu_.Lbl.Has(index)) return;
+    wanted = Trim(SingleAmpersands(menu_.Lbl[index].Caption()));
+  }
+  menu_.HideMenu();
+  program_.DoEvents();
+  Run(wanted);
+  EndChoice();
+}
+
+void MainMenu::Run(std::string_view text) {
+  static constexpr Choice kChoices[] = {
+      {"Customize...", &MainMenu::Customize},
+      {"Refresh All", &MainMenu::RefreshAll},
+      {"Auto Hide", &MainMenu::AutoHide},
+      {"Not On Top", &MainMenu::NotOnTop},
+      {"Large Icons", &MainMenu::LargeIcons},
+      {"Help Topics", &MainMenu::HelpTopics},
+      {"About...", &MainMenu::About},
+      {"Restore", &MainMenu::Restore, kRestoreLabel},
+      {"Maximize", &MainMenu::Maximize, kMaximizeLabel},
+      {"Minimize", &MainMenu::Minimize, kMinimizeLabel},
+      {"Exit", &MainMenu::Exit},
+  };
+  const auto* const choice =
+      std::find_if(std::begin(kChoices), std::end(kChoices),
+                   [text](const Choice& known) { return EqualNoCase(known.Text, text); });
+  // One change of the strip at a time, and none of a strip that is gone.
+  if (choice == std::end(kChoices) || program_.ChangingMode || !StripStands(program_)) return;
+  if (IsChoosable(choice->Label, Facts())) (this->*choice->Run)();
+}
+
+void MainMenu::EndChoice() {
+  if (menu_.IsLoaded()) menu_.DropSelection();
+  program_.SelectedItem = 0;
+  if (StripStands(program_)) program_.Ports.Toolbar->ResetMenu();
+}
+
+void MainMenu::Customize() {
+  if (program_.Ports.Customize != nullptr) program_.Ports.Customize->LoadWindow();
+}
+
+void MainMenu::About() {
+  if (program_.Ports.About != nullptr) program_.Ports.About->LoadWindow();
+}
+
+void MainMenu::RefreshAll() {
+  const StripPicture picture(program_);
+  const forms::HourglassScope hourglass(program_.Windows);
+  menu_.InitIcons();
+  program_.Ports.Toolbar->InitNewButtons();
+}
+
+void MainMenu::Forget() {
+  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->RemoveQMenu(kMainMenuKey);
+}
+
+// ---- the look of the strip ----
+
+void MainMenu::LargeIcons() {
+  if (program_.AppBarDocked && program_.ToolbarVertical) {
+    const forms::FlagScope changing(program_.ChangingMode);
+    program_.OptionFlags.Flip(kLargeOption);
+    program_.Ports.Toolbar->InitNewButtons();
+  } else {
+    ToggleLargeIcons();
+  }
+  program_.SaveOptionFlags();
+  Forget();
+}
+
+void MainMenu::ToggleLargeIcons() {
+  if (program_.ChangingMode || !StripStands(program_)) return;
+  const StripPicture picture(program_);
+  const forms::FlagScope changing(program_.ChangingMode);
+  ToolbarPort& strip = *program_.Ports.Toolbar;
+  program_.OptionFlags.Flip(kLargeOption);
+  strip.UnloadItems();
+  if (!strip.WindowLoaded()) return;
+  strip.InitButtons();
+  if (!strip.WindowLoaded() || !program_.AppBarDocked || program_.Ports.Docking == nullptr) return;
+  program_.Ports.Docking->SetAppBar(program_.ToolbarEdge, false);
+}
+
+void MainMenu::AutoHide() {
+  DockingPort* const docking = program_.Ports.Docking;
+  // Only an edge of the screen hides a strip.
+  if (docking == nullptr) return;
+  ToolbarPort& strip = *program_.Ports.Toolbar;
+  {
+    const StripPicture picture(program_);
+    const forms::FlagScope changing(program_.ChangingMode);
+    strip.SetPointerWatch(false);
+    if (program_.AutoHide) {
+      EndAutoHide();
+    } else if (!StartAutoHide()) {
+      return;
+    }
+    program_.SaveOptionFlags();
+    Forget();
+  }
+  if (strip.WindowLoaded()) strip.SetPointerWatch(true);
+}
+
+// False when another window hides at that edge; nothing has changed then.
+bool MainMenu::StartAutoHide() {
+  DockingPort& docking = *program_.Ports.Docking;
+  if (!docking.AutoHideFree(program_.ToolbarEdge)) return false;
+  program_.AutoHide = true;
+  program_.OptionFlags.Set(kAutoHideOption, true);
+  docking.SetAppBar(program_.ToolbarEdge, !program_.AppBarDocked);
+  if (program_.NotOnTop) {
+    program_.OptionFlags.Set(kNotOnTopOption, false);
+    if (program_.Ports.Minimize != nullptr) program_.Ports.Minimize->DeActivateSysTray();
+    program_.NotOnTop = false;
+  }
+  return true;
+}
+
+// The edge is taken anew, with its room on the screen.
+void MainMenu::EndAutoHide() {
+  program_.AutoHide = false;
+  program_.OptionFlags.Set(kAutoHideOption, false);
+  program_.Ports.Docking->SetAppBar(program_.ToolbarEdge, !program_.AppBarDocked);
+}
+
+void MainMenu::NotOnTop() {
+  MinimizePort* const companion = program_.Ports.Minimize;
+  if (companion == nullptr) return;
+  const forms::FlagScope changing(program_.ChangingMode);
+  const bool now = program_.NotOnTop;
+  Forget();
+  if (now) {
+    companion->DeActivateSysTray();
+  } else {
+    companion->ActivateSysTray();
+  }
+  program_.SaveOptionFlags();
+  // What was built meanwhile shows the mark of before.
+  Forget();
+}
+
+// ---- the place of the strip ----
+
+void MainMenu::Restore() {
+  program_.OptionFlags.Set(kEdgeOption, false);
+  if (!program_.OptionFlags.Is(kLargeAtTopOption)) program_.OptionFlags.Set(kLargeOption, false);
+  Forget();
+  program_.Ports.Toolbar->RestoreToolbar();
+}
+
+void MainMenu::Maximize() {
+  DockingPort* const docking = program_.Ports.Docking;
+  if (docking == nullptr) return;
+  Forget();
+  corvelle::OptionFlags stored = program_.OptionFlags;
+  stored.Set(kEdgeOption, true);
+  EdgePlacement placement;
+  ReadEdgeFlags(stored, placement);
+  docking->SetAppBar(placement.ToolbarEdge, true);
+}
+
+void MainMenu::Minimize() {
+  MinimizePort* const companion = program_.Ports.Minimize;
+  if (companion == nullptr) return;
+  ToolbarPort& strip = *program_.Ports.Toolbar;
+  const TwipRect place = strip.WindowBounds();
+  program_.ToolbarMinimized = true;
+  program_.ToolbarMinimizing = true;
+  program_.ToolbarReady = false;
+  if (program_.AppBarDocked) {
+    program_.WasDocked = true;
+    program_.WasEdge = program_.ToolbarEdge;
+    program_.WasTop = place.Top;
+    if (program_.Ports.Docking != nullptr) program_.Ports.Docking->EndAppBar();
+    program_.AppBarDocked = false;
+  }
+  strip.HideWindow();
+  companion->MinimizeFor(place);
+  program_.ToolbarMinimizing = false;
+}
+
+// ---- help and the end ----
+
+void MainMenu::HelpTopics() {
+  const std::string help = program_.AppPath + "corvelle.hlp";
+  if (!program_.Services.Files.FileExists(help)) {
+    program_.Say(program_.ToolbarWindow(),
+                 "Corvelle help file could not be found in Corvelle folder.",
+                 forms::msgbox::IconStop | forms::msgbox::OnTop);
+    return;
+  }
+  if (!ActivatePrevInstance(program_, "Corvelle Help")) LaunchItem(program_, help);
+}
+
+// The companion's end is the program's end; what the strip has to save it saves before.
+void MainMenu::Exit() {
+  ToolbarPort& strip = *program_.Ports.Toolbar;
+  strip.HideWindow();
+  strip.SetPointerWatch(false);
+  strip.UnloadWindow();
+  if (program_.Ports.Minimize != nullptr) program_.Ports.Minimize->UnloadWindow();
+}
+
+}  // namespace corvelle

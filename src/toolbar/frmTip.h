@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/WindowPorts.h"
+#include "forms/CheckBox.h"
+#include "forms/CommandButton.h"
+#include "forms/Form.h"
+#include "forms/Graphic.h"
+#include "forms/PictureBox.h"
+
+namespace corvelle {
+
+class Program;
+
+/// A notice with a box that keeps it from coming again. It is loaded for each notice.
+class frmTip final : public forms::Form, public TipPort {
+ public:
+  explicit frmTip(Program& program);
+
+  void ShowTip(std::string_view title, std::string_view text, int field) override;
+  /// The position of the options that the box writes; 0 for none.
+  void FieldNum(int field) noexcept { TipField = field; }
+
+  forms::PictureBox Picture1;
+  forms::Label lblTitle;
+  /// One for each line of the notice.
+  std::vector<std::unique_ptr<forms::Label>> lblTip;
+  forms::CheckBox Check1;
+  forms::CommandButton cmdOK;
+  int TipField = 0;
+
+ protected:
+  void Form_Load() override;
+  // Closed otherwise, it changes no option.
+  void Form_SessionEnd() override {}
+
+ private:
+  void cmdOK_Click();
+  void LayOut(std::string_view text);
+  void DrawPicture();
+
+  Program& program_;
+};
+
+}  // namespace corvelle

@@ -1,0 +1,234 @@
+#include "about/DefaultEntries.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "core/MenuFile.h"
+#include "core/Program.h"
+#include "shell/LinkFiles.h"
+#include "sim/World.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kPrograms = 2;
+constexpr int kRecent = 8;
+constexpr char kMailKey[] = "mailto\\shell\\open\\command";
+
+/// A machine with an empty folder of menus.
+class DefaultEntriesTest : public testing::Test {
+ protected:
+  DefaultEntriesTest() {
+    world.Files.Put("C:\\Corvelle\\corvelle.exe", "program");
+    program.AppPath = "C:\\Corvelle\\";
+    program.MenusPath = "C:\\Corvelle\\Menus\\";
+    program.Ports.ShellLinks = &links;
+    world.Files.MakeFolders("C:\\Corvelle\\Menus");
+  }
+
+  /// A program on the disk that opens files of a kind.
+  void Register(const char* extension, const char* path) {
+    world.Files.Put(path, "x");
+    world.Associations.Set(extension, path);
+  }
+  void Link(const char* file, const char* target) { world.Links.Put(file, {.Path = target}); }
+  void Fill() { entries.IncludeCommonFiles(); }
+
+  std::vector<MenuRecord> Read(const std::string& name) {
+    return ReadAllRecords(world.Files, world.Ansi, program.MenusPath + name).ValueOr({});
+  }
+  std::vector<std::string> Names() { return world.Files.Names(program.MenusPath); }
+  /// Titles of the single buttons, in their order.
+  std::vector<std::string> Singles() {
+    std::vector<std::string> titles;
+    for (const std::string& name : Names()) {
+      if (name.ends_with(".BTN")) titles.push_back(Read(name).at(0).FTitle);
+    }
+    return titles;
+  }
+  std::vector<std::string> Titles(const std::string& name) {
+    std::vector<std::string> titles;
+    for (const MenuRecord& record : Read(name)) titles.push_back(record.FTitle);
+    return titles;
+  }
+
+  sim::World world;
+  Program program{world.Services(), world.Windows()};
+  LinkReader links{program};
+  DefaultEntries entries{program};
+};
+
+using Texts = std::vector<std::string>;
+
+TEST_F(DefaultEntriesTest, ABareMachineGetsFourButtonsAndFiveMenus) {
+  Fill();
+  EXPECT_EQ(Names(),
+            (Texts{"BMENU001.BTN", "BMENU001.MNU", "BMENU002.BTN", "BMENU002.MNU", "BMENU003.BTN",
+                   "BMENU003.MNU", "BMENU004.BTN", "BMENU004.MNU", "BMENU005.MNU"}));
+  EXPECT_EQ(Singles(), (Texts{"Find Files", "Find Computer", "Windows Explorer", "Net Search"}));
+  EXPECT_EQ(Titles("BMENU001.MNU"), (Texts{"Desktop", "Desktop Items"}));
+  EXPECT_EQ(Titles("BMENU003.MNU"), Texts{"Documents"});
+  EXPECT_EQ(Titles("BMENU004.MNU"), Texts{"Accessories"});
+  EXPECT_EQ(Titles("BMENU005.MNU"), (Texts{"Settings", "Control Panel", "Separator", "Printers"}));
+}
+
+TEST_F(DefaultEntriesTest, AMissingFolderIsMade) {
+  world.Files.Vanish("C:\\Corvelle\\Menus");
+  ASSERT_FALSE(world.Files.Has("C:\\Corvelle\\Menus"));
+  Fill();
+  EXPECT_EQ(Names().size(), 9U);
+}
+
+TEST_F(DefaultEntriesTest, WithoutAProgramsFolderItsMenuHasTheButtonOnly) {
+  Fill();
+  EXPECT_EQ(Titles("BMENU002.MNU"), Texts{"Programs"});
+}
+
+TEST_F(DefaultEntriesTest, AnEvenNumberOfProgramsNeedsNoFiller) {
+  Register(".htm", "C:\\net\\iexplore.exe");
+  Register(".txt", "C:\\w\\editor.exe");
+  Register(".bmp", "C:\\w\\paint.exe");
+  Fill();
+  EXPECT_EQ(Singles(), (Texts{"Find Files", "Find Computer", "Windows Explorer", "Net Search",
+                              "Internet Explorer", "Editor"}));
+}
+
+TEST_F(DefaultEntriesTest, AnOddNumberTakesTheBitmapProgram) {
+  Register(".htm", "C:\\net\\iexplore.exe");
+  Register(".bmp", "C:\\w\\paint.exe");
+  Fill();
+  EXPECT_EQ(Singles().size(), 6U);
+  EXPECT_EQ(Singles().back(), "Paint");
+}
+
+TEST_F(DefaultEntriesTest, AnOddNumberWithoutABitmapProgramTakesMyComputer) {
+  Register(".htm", "C:\\net\\iexplore.exe");
+  Fill();
+  EXPECT_EQ(Singles().size(), 6U);
+  EXPECT_EQ(Singles().back(), "My Computer");
+}
+
+TEST_F(DefaultEntriesTest, ProgramsStandInTheOrderOfTheirKinds) {
+  for (const auto& [extension, path] :
+       {std::pair{".ppt", "C:\\w\\slides.exe"}, std::pair{".xls", "C:\\w\\sheets.exe"},
+        std::pair{".doc", "C:\\w\\letters.exe"}, std::pair{".txt", "C:\\w\\editor.exe"}}) {
+    Register(extension, path);
+  }
+  Fill();
+  EXPECT_EQ(Singles(), (Texts{"Find Files", "Find Computer", "Windows Explorer", "Net Search",
+                              "Editor", "Letters", "Sheets", "Slides"}));
+  const MenuRecord editor = Read("BMENU005.BTN").at(0);
+  EXPECT_EQ(editor.FIcon, "C:\\w\\editor.exe");
+  EXPECT_EQ(editor.FName, "C:\\w\\editor.exe");
+}
+
+TEST_F(DefaultEntriesTest, TheMailProgramIsTheRegisteredOneIfItIsThere) {
+  world.Keys.Set(RegistryRoot::ClassesRoot, kMailKey, "", "\"C:\\My Mail\\post.exe\" /to %1");
+  Fill();
+  EXPECT_EQ(Singles().size(), 4U);
+  for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+  world.Files.Put("C:\\My Mail\\post.exe", "x");
+  Fill();
+  EXPECT_EQ(Singles().at(4), "Post");
+  EXPECT_EQ(Read("BMENU005.BTN").at(0).FName, "C:\\My Mail\\post.exe");
+}
+
+TEST_F(DefaultEntriesTest, TheStartMenuBecomesTheMenuOfPrograms) {
+  world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
+  world.Files.Put("C:\\w\\a.exe", "x");
+  Link("C:\\Start\\Programs\\Writer.lnk", "C:\\w\\a.exe");
+  Link("C:\\Start\\Programs\\Corvelle.lnk", "C:\\Corvelle\\corvelle.exe");
+  world.Files.Put("C:\\Start\\Programs\\desktop.ini", "x");
+  world.Files.SetHidden("C:\\Start\\Programs\\desktop.ini", true);
+  Link("C:\\Start\\Programs\\Games\\Zebra.lnk", "C:\\w\\a.exe");
+  Link("C:\\Start\\Programs\\Games\\Game help.lnk", "C:\\w\\a.exe");
+  Link("C:\\Start\\Programs\\Games\\Rules.lnk", "C:\\w\\notepad.exe");
+  Link("C:\\Start\\Programs\\Games\\Page.lnk", "C:\\w\\page.htm");
+  Link("C:\\Start\\Programs\\Tools\\axe.lnk", "C:\\w\\a.exe");
+  world.Files.Put("C:\\Start\\Programs\\Tools\\notes.txt", "x");
+  Link("C:\\Start\\Programs\\Startup\\Daemon.lnk", "C:\\w\\a.exe");
+  Fill();
+  EXPECT_EQ(Titles("BMENU002.MNU"),
+            (Texts{"Programs", "Writer", "Separator", "axe", "notes", "Zebra"}));
+  const MenuRecord zebra = Read("BMENU002.MNU").at(5);
+  EXPECT_EQ(zebra.FIcon, "C:\\Start\\Programs\\Games\\Zebra.lnk");
+  EXPECT_EQ(zebra.FName, zebra.FIcon);
+}
+
+TEST_F(DefaultEntriesTest, ASeparatorNeedsFilesAboveItAndFoldersBelow) {
+  world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
+  Link("C:\\Start\\Programs\\Tools\\axe.lnk", "C:\\w\\a.exe");
+  Fill();
+  EXPECT_EQ(Titles("BMENU002.MNU"), (Texts{"Programs", "axe"}));
+}
+
+TEST_F(DefaultEntriesTest, AccessoriesHoldTheirFolderAndThoseInIt) {
+  world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
+  Link("C:\\Start\\Programs\\Accessories\\Paint.lnk", "C:\\w\\a.exe");
+  Link("C:\\Start\\Programs\\Accessories\\System\\Disk.lnk", "C:\\w\\a.exe");
+  Fill();
+  EXPECT_EQ(Titles("BMENU004.MNU"), (Texts{"Accessories", "Paint", "Separator", "Disk"}));
+  EXPECT_EQ(Titles("BMENU002.MNU"), Texts{"Programs"});
+}
+
+TEST_F(DefaultEntriesTest, RecentDocumentsAreAFolderItem) {
+  world.Links.SetFolder(kRecent, "C:\\Me\\Recent");
+  Fill();
+  EXPECT_EQ(Read("BMENU003.MNU").at(1).FName, "C:\\Me\\Recent\\*.*/u");
+}
+
+TEST_F(DefaultEntriesTest, AFolderWithEntriesIsLeftAlone) {
+  for (const char* name : {"BMENU007.MNU", "BMENU007.BTN"}) {
+    world.Files.Put(program.MenusPath + name, "mine");
+    Fill();
+    EXPECT_EQ(Names(), Texts{name});
+    world.Files.Vanish(program.MenusPath + name);
+  }
+}
+
+TEST_F(DefaultEntriesTest, AFirstMenuOfTheInstallationComesBeforeTheOthers) {
+  world.Files.Put("C:\\Corvelle\\BMENU001.MNU", "shipped");
+  Fill();
+  EXPECT_EQ(world.Files.Get(program.MenusPath + "BMENU001.MNU"), "shipped");
+  EXPECT_EQ(Titles("BMENU002.MNU"), (Texts{"Desktop", "Desktop Items"}));
+  EXPECT_TRUE(world.Files.Has(program.MenusPath + "BMENU006.MNU"));
+}
+
+TEST_F(DefaultEntriesTest, AnyFailureOfAFileOfOursEndsItWithAMessage) {
+  const std::string start =
+      "The following error has occured while Corvelle was trying to add sample entries.\r\n";
+  int failures = 0;
+  for (int n = 1;; ++n) {
+    for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+    world.Files.FailCall(n, FileError::DiskFull);
+    world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+    const std::size_t before = world.Desktop.Boxes().size();
+    Fill();
+    const bool hit = world.Files.Hit();
+    world.Files.StopFailing();
+    if (!hit) break;
+    ASSERT_LT(n, 400);
+    for (std::size_t i = before; i < world.Desktop.Boxes().size(); ++i, ++failures) {
+      EXPECT_EQ(world.Desktop.Boxes()[i].Text, start + "Disk full");
+    }
+    for (const std::string& name : Names()) {
+      EXPECT_FALSE(Read(name).empty()) << name << " after failing call " << n;
+    }
+  }
+  EXPECT_GT(failures, 9);
+}
+
+TEST_F(DefaultEntriesTest, GetExeAsksWithASampleAndTakesItAwayAgain) {
+  Register(".htm", "C:\\net\\browse.exe");
+  EXPECT_EQ(entries.GetExe("htm"), "C:\\net\\browse.exe");
+  ASSERT_EQ(world.Associations.Asked().size(), 1U);
+  EXPECT_EQ(world.Associations.Asked()[0].second, "dummy string\r\n");
+  EXPECT_EQ(world.Files.Names("C:\\Corvelle"), (Texts{"Menus", "corvelle.exe"}));
+  EXPECT_EQ(entries.GetExe("xyz"), std::nullopt);
+  world.Files.Vanish("C:\\net\\browse.exe");
+  EXPECT_EQ(entries.GetExe("htm"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace corvelle

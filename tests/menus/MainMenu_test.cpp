@@ -1,0 +1,353 @@
+#include "menus/MainMenu.h"
+
+#include <gtest/gtest.h>
+
+#include "core/MenuFile.h"
+#include "menus/MenuDesk.h"
+
+namespace corvelle {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+/// An edge of the screen that notes what is asked of it.
+class NotedEdge final : public DockingPort {
+ public:
+  explicit NotedEdge(Program& program) : program_(program) {}
+  Texts Asked;
+  bool Free = true;
+
+  void RegisterAppBar() override {}
+  void RemoveAppBar() override {}
+  void EndAppBar() override { Asked.emplace_back("EndAppBar"); }
+  bool AutoHideFree(std::string_view) override { return Free; }
+  void SetAppBar(std::string_view edge, bool rebuild) override {
+    Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " anew" : ""));
+    program_.AppBarDocked = true;
+    program_.ToolbarEdge = edge;
+  }
+  void RevealToolbar() override {}
+  void HideToolbar() override {}
+  void ShowAutoHideTaken() override {}
+  void ResizeToEdge() override {}
+
+ private:
+  Program& program_;
+};
+
+/// A companion that switches "Not On Top" and notes the rest.
+class NotedCompanion final : public MinimizePort {
+ public:
+  explicit NotedCompanion(Program& program) : program_(program) {}
+  Texts Asked;
+  std::optional<TwipRect> TookPlace;
+
+  void LoadWindow() override {}
+  void UnloadWindow() override { Asked.emplace_back("UnloadWindow"); }
+  bool WindowLoaded() const override { return true; }
+  void ShowInSysTray() override {}
+  void ActivateSysTray() override {
+    program_.NotOnTop = true;
+    program_.OptionFlags.Set(23, true);
+  }
+  void DeActivateSysTray() override {
+    program_.NotOnTop = false;
+    program_.OptionFlags.Set(23, false);
+  }
+  void MinimizeFor(const TwipRect& strip) override {
+    EXPECT_TRUE(program_.ToolbarMinimizing);
+    TookPlace = strip;
+  }
+
+ private:
+  Program& program_;
+};
+
+class NotedWindow final : public LoadedWindow {
+ public:
+  int Loads = 0;
+  void LoadWindow() override { ++Loads; }
+  void UnloadWindow() override {}
+  bool WindowLoaded() const override { return Loads > 0; }
+};
+
+class MainMenuTest : public testing::Test {
+ protected:
+  explicit MainMenuTest(const sim::WorldOptions& options = {}) : desk(options) {
+    program.Ports.MainMenu = &mainMenu;
+    program.Ports.Docking = &edge;
+    program.Ports.Minimize = &companion;
+    program.OptionFlags.Set(2, true);
+  }
+
+  void Open() {
+    const auto file = WriteMainMenuFile(desk.World.Files, desk.World.Ansi, program.AppPath);
+    ASSERT_TRUE(file);
+    desk.Menu.ShowMenu("Q1", *file);
+    desk.World.Desktop.Pump();
+    desk.Strip.Asked.clear();
+    ASSERT_TRUE(desk.Menu.MenuVisible());
+  }
+  void Choose(std::string_view text) { mainMenu.xMainMenu(0, text); }
+  bool Marked(int label) const { return desk.Menu.GetIconName(label) == "xCircle"; }
+  bool Enabled(int label) { return desk.Menu.Lbl[label].Enabled(); }
+  /// Pixels of the item's icon cell that are not the ground's.
+  int Ink(int label) {
+    const PixelRect menu = desk.World.Desktop.BoundsOf(desk.Menu.hWnd());
+    const PixelPoint cell = desk.IconCell(label);
+    const sim::SimCanvas picture = desk.World.Desktop.Picture();
+    const Rgb ground = desk.SystemColour(forms::color::ButtonFace);
+    int count = 0;
+    for (int y = 0; y < 16; ++y) {
+      for (int x = 0; x < 16; ++x) {
+        // The menu's frame has three pixels.
+        const PixelPoint at{menu.left + 3 + cell.x + x, menu.top + 3 + cell.y + y};
+        if (picture.PixelAt(at) != ground) ++count;
+      }
+    }
+    return count;
+  }
+  std::string SavedFlags() {
+    return desk.World.Files.Get(program.AppPath + "tmenu425.dat").value_or("none");
+  }
+
+  MenuDesk desk;
+  Program& program = desk.TheProgram;
+  NotedEdge edge{program};
+  NotedCompanion companion{program};
+  MainMenu mainMenu{program, desk.Menu};
+};
+
+TEST_F(MainMenuTest, MarksFollowTheOptionsAtEachOpening) {
+  Open();
+  for (const int label : kMarkedLabels) {
+    EXPECT_FALSE(Marked(label)) << label;
+    EXPECT_EQ(Ink(label), 0) << label;
+    EXPECT_EQ(desk.Menu.Lbl[label].Tag, std::string(1, '\0'));
+  }
+  program.OptionFlags.Set(26, true);
+  program.AutoHide = true;
+  program.NotOnTop = true;
+  desk.Menu.HideMenu();
+  Open();
+  for (const int label : kMarkedLabels) {
+    EXPECT_TRUE(Marked(label)) << label;
+    EXPECT_GT(Ink(label), 20) << label;
+    EXPECT_EQ(desk.Menu.Lbl[label].Tag, std::string("\0xCircle\0", 9));
+  }
+  program.OptionFlags.Set(26, false);
+  desk.Menu.HideMenu();
+  Open();
+  EXPECT_EQ(Ink(kLargeIconsLabel), 0);
+  EXPECT_GT(Ink(kAutoHideLabel), 20);
+}
+
+TEST_F(MainMenuTest, AFloatingStripHasNoUseForRestoreAndADockedOneNoneForMaximize) {
+  Open();
+  EXPECT_FALSE(Enabled(kRestoreLabel));
+  EXPECT_TRUE(Enabled(kMaximizeLabel));
+  EXPECT_TRUE(Enabled(kMinimizeLabel));
+  desk.Menu.HideMenu();
+  program.AppBarDocked = true;
+  Open();
+  EXPECT_TRUE(Enabled(kRestoreLabel));
+  EXPECT_FALSE(Enabled(kMaximizeLabel));
+  EXPECT_TRUE(Enabled(kMinimizeLabel));
+  EXPECT_EQ(desk.Menu.ShadowCount, 1);
+}
+
+TEST_F(MainMenuTest, ADisabledChoiceDoesNothing) {
+  Choose("Restore");
+  program.AppBarDocked = true;
+  Choose("Maximize");
+  EXPECT_EQ(desk.Strip.Times("RestoreToolbar"), 0);
+  EXPECT_EQ(edge.Asked, Texts{});
+}
+
+TEST_F(MainMenuTest, ANameStandsForTheItemsCaptionAndAnUnknownOneForNothing) {
+  NotedWindow about;
+  program.Ports.About = &about;
+  Open();
+  desk.ClickItem(7);
+  EXPECT_EQ(about.Loads, 1);
+  Choose("  about...  ");
+  EXPECT_EQ(about.Loads, 2);
+  Choose("Something else");
+  // Without a text it is the selected item, and there is none.
+  mainMenu.xMainMenu(7, "");
+  EXPECT_EQ(about.Loads, 2);
+  program.SelectedItem = 7;
+  mainMenu.xMainMenu(7, "");
+  EXPECT_EQ(about.Loads, 3);
+  EXPECT_EQ(program.SelectedItem, 0);
+  EXPECT_FALSE(desk.Menu.MenuVisible());
+}
+
+TEST_F(MainMenuTest, CustomizeAndAboutAreQuietWhereThereAreNone) {
+  Choose("Customize...");
+  Choose("About...");
+  NotedWindow customize;
+  program.Ports.Customize = &customize;
+  Choose("Customize...");
+  EXPECT_EQ(customize.Loads, 1);
+}
+
+TEST_F(MainMenuTest, LargeIconsOnAVerticalStripRebuildsTheButtonsAtOnce) {
+  program.AppBarDocked = true;
+  program.ToolbarVertical = true;
+  program.ToolbarEdge = "LEFT";
+  Choose("Large Icons");
+  EXPECT_TRUE(program.OptionFlags.Is(26));
+  EXPECT_EQ(SavedFlags()[25], '1');
+  EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 1);
+  EXPECT_EQ(desk.Strip.Times("UnloadItems"), 0);
+  EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
+  Choose("Large Icons");
+  EXPECT_EQ(SavedFlags()[25], '0');
+  EXPECT_FALSE(program.ChangingMode);
+}
+
+TEST_F(MainMenuTest, LargeIconsElsewhereUnloadsAndBuildsAnewAndTakesTheEdgeAgain) {
+  Choose("Large Icons");
+  EXPECT_TRUE(program.OptionFlags.Is(26));
+  EXPECT_EQ(desk.Strip.Times("UnloadItems"), 1);
+  EXPECT_EQ(desk.Strip.Times("InitButtons"), 1);
+  EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 0);
+  EXPECT_EQ(edge.Asked, Texts{});
+  program.AppBarDocked = true;
+  program.ToolbarEdge = "BOTTOM";
+  Choose("Large Icons");
+  EXPECT_EQ(edge.Asked, Texts{"SetAppBar BOTTOM"});
+  EXPECT_EQ(SavedFlags()[25], '0');
+}
+
+TEST_F(MainMenuTest, AutoHideDocksAFloatingStripAndPutsItOnTop) {
+  program.NotOnTop = true;
+  program.OptionFlags.Set(23, true);
+  Choose("Auto Hide");
+  EXPECT_TRUE(program.AutoHide);
+  EXPECT_FALSE(program.NotOnTop);
+  EXPECT_EQ(edge.Asked, Texts{"SetAppBar TOP anew"});
+  EXPECT_EQ(SavedFlags()[2], '1');
+  EXPECT_EQ(SavedFlags()[22], '0');
+  EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
+  Choose("Auto Hide");
+  EXPECT_FALSE(program.AutoHide);
+  EXPECT_EQ(SavedFlags()[2], '0');
+  EXPECT_FALSE(program.ChangingMode);
+}
+
+TEST_F(MainMenuTest, AutoHideAtATakenEdgeChangesNothing) {
+  edge.Free = false;
+  Choose("Auto Hide");
+  EXPECT_FALSE(program.AutoHide);
+  EXPECT_FALSE(program.OptionFlags.Is(3));
+  EXPECT_EQ(edge.Asked, Texts{});
+  EXPECT_EQ(SavedFlags(), "none");
+}
+
+TEST_F(MainMenuTest, NotOnTopIsSwitchedByTheCompanionAndSaved) {
+  Choose("Not On Top");
+  EXPECT_TRUE(program.NotOnTop);
+  EXPECT_EQ(SavedFlags()[22], '1');
+  EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 2);
+  Choose("Not On Top");
+  EXPECT_FALSE(program.NotOnTop);
+  EXPECT_EQ(SavedFlags()[22], '0');
+}
+
+TEST_F(MainMenuTest, NoChangeOfModeBeginsInsideAnother) {
+  const forms::TimerId timer = desk.World.Desktop.StartTimer(1, [this] { Choose("Large Icons"); });
+  program.ChangingMode = true;
+  desk.World.Desktop.Advance(20);
+  EXPECT_FALSE(program.OptionFlags.Is(26));
+  EXPECT_EQ(desk.Strip.Times("InitButtons"), 0);
+  program.ChangingMode = false;
+  desk.World.Desktop.Advance(1);
+  EXPECT_EQ(desk.Strip.Times("InitButtons"), 1);
+  desk.World.Desktop.StopTimer(timer);
+}
+
+TEST_F(MainMenuTest, RefreshAllReadsTheStripAnew) {
+  Choose("Refresh All");
+  EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 1);
+  EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
+}
+
+TEST_F(MainMenuTest, RestoreClearsTheEdgeAndTheLargeIconsThatTheTopIsNotToHave) {
+  program.AppBarDocked = true;
+  for (const int position : {14, 26}) program.OptionFlags.Set(position, true);
+  Choose("Restore");
+  EXPECT_FALSE(program.OptionFlags.Is(14));
+  EXPECT_FALSE(program.OptionFlags.Is(26));
+  EXPECT_EQ(desk.Strip.Times("RestoreToolbar"), 1);
+  for (const int position : {25, 26}) program.OptionFlags.Set(position, true);
+  Choose("Restore");
+  EXPECT_TRUE(program.OptionFlags.Is(26));
+}
+
+TEST_F(MainMenuTest, MaximizeTakesTheStoredEdge) {
+  program.OptionFlags.Set(15, true);
+  program.OptionFlags.Set(16, true);
+  Choose("Maximize");
+  EXPECT_EQ(edge.Asked, Texts{"SetAppBar RIGHT anew"});
+  EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
+}
+
+TEST_F(MainMenuTest, MinimizeGivesUpTheEdgeAndHandsThePlaceToTheCompanion) {
+  program.AppBarDocked = true;
+  program.ToolbarEdge = "LEFT";
+  program.ToolbarReady = true;
+  Choose("Minimize");
+  EXPECT_TRUE(program.ToolbarMinimized);
+  EXPECT_FALSE(program.ToolbarMinimizing);
+  EXPECT_FALSE(program.ToolbarReady);
+  EXPECT_TRUE(program.WasDocked);
+  EXPECT_FALSE(program.AppBarDocked);
+  EXPECT_EQ(program.WasEdge, "LEFT");
+  EXPECT_EQ(edge.Asked, Texts{"EndAppBar"});
+  EXPECT_EQ(desk.Strip.Times("HideWindow"), 1);
+  EXPECT_EQ(companion.TookPlace, (TwipRect{0, 0, 6000, 450}));
+}
+
+TEST_F(MainMenuTest, HelpTopicsWithoutTheFileSaysSoAndStartsNothing) {
+  desk.World.Desktop.Answer("Corvelle help file could not be found in Corvelle folder.",
+                            forms::msgbox::AnswerOk);
+  Choose("Help Topics");
+  EXPECT_EQ(desk.Started(), Texts{});
+  ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Flags, 0x40010U);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Title, "Corvelle");
+}
+
+TEST_F(MainMenuTest, HelpTopicsStartsTheFileUnlessItsWindowIsOpen) {
+  const std::string help = program.AppPath + "corvelle.hlp";
+  desk.World.Files.Put(help, "x");
+  const WindowId window = desk.World.Desktop.AddOtherWindow({.Title = "Corvelle Help"});
+  Choose("Help Topics");
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), window);
+  EXPECT_TRUE(desk.World.Shell.Log().empty());
+  desk.World.Desktop.CloseOther(window);
+  Choose("Help Topics");
+  ASSERT_FALSE(desk.World.Shell.Log().empty());
+  EXPECT_EQ(desk.World.Shell.Log()[0].File, help);
+}
+
+TEST_F(MainMenuTest, ExitUnloadsTheStripAndThenTheCompanion) {
+  Open();
+  desk.ClickItem(11);
+  EXPECT_FALSE(desk.Strip.WindowLoaded());
+  EXPECT_EQ(companion.Asked, Texts{"UnloadWindow"});
+}
+
+TEST_F(MainMenuTest, WithoutEdgeAndCompanionTheirChoicesDoNothing) {
+  program.Ports.Docking = nullptr;
+  program.Ports.Minimize = nullptr;
+  for (const char* text : {"Auto Hide", "Not On Top", "Maximize", "Minimize"}) Choose(text);
+  EXPECT_EQ(SavedFlags(), "none");
+  EXPECT_FALSE(program.ToolbarMinimized);
+  EXPECT_EQ(desk.Strip.Times("HideWindow"), 0);
+}
+
+}  // namespace
+}  // namespace corvelle
