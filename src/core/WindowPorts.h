@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Geometry.h"
 #include "base/Twips.h"
@@ -61,6 +62,8 @@ class ToolbarPort : public LoadedWindow {
   virtual void DoToolbarButtons() = 0;
   /// Reads the single buttons anew and draws them.
   virtual void DoSingleButtons() = 0;
+  /// Makes a new menu button with one item behind those there are.
+  virtual void AddNewButton() = 0;
   /// Empties the icon collections kept for menus.
   virtual void ResetCollections() = 0;
   /// Room between the strip's right end and the screen's, twips.
@@ -246,10 +249,15 @@ class SingleButtonsPort {
 
   /// Rewrites the files without the button of `file`.
   virtual void DeleteSingle(std::string_view file) = 0;
-  /// Rewrites the files with the clipboard's entry before the button of `file`.
+  /// Rewrites the files with the clipboard's entry before the button of `file`; behind the last
+  /// button when it is empty.
   virtual void PasteSingle(std::string_view file) = 0;
   /// Rewrites the files with the undo entry back in its place.
   virtual void UndoDeleteSB(std::string_view file) = 0;
+
+  /// Files dropped by another program at the pointer's place become buttons there; with the right
+  /// button on a button its command opens the first of them instead.
+  virtual void DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) = 0;
 };
 
 /// Looks once, at start, how the shell shows icon files.

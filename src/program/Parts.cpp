@@ -10,6 +10,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
     : TheProgram(services, windows) {
   WindowPorts& ports = TheProgram.Ports;
   ports.Toolbar = &Toolbar;
+  ports.SingleButtons = &Toolbar.Singles;
   ports.QMenu = &Menu;
   ports.Minimize = &Companion;
   ports.Startup = &Startup;

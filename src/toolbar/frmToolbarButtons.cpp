@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "core/MenuFile.h"
 #include "core/MenuFolder.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
@@ -128,19 +129,34 @@ void frmToolbar::RefreshToolbar() {
   RefreshToolbarButtons();
   picToolbar.SetVisible(visible);
   picToolbar.Refresh();
-  picSingleButton.InvalidateAll();
+  Singles.RefreshSingleButtons();
   picSingleButton.Refresh();
   DrawBorders();
   InvalidateAll();
   Refresh();
 }
 
-void frmToolbar::DoSingleButtons() {
-  SingleCount = 0;
-  LineLeft.SetVisible(false);
-  lblDate.SetVisible(false);
-  picSingleButton.SetBackground({});
-  picSingleButton.SetVisible(true);
+void frmToolbar::AddNewButton() {
+  if (!IsLoaded()) return;
+  // A disk that refuses leaves the strip as it is.
+  if (!CreateButtonFile(program_.Services.Files, program_.Services.Ansi, program_.MenusPath)) {
+    return;
+  }
+  program_.ToolbarReady = false;
+  const bool floats = Where() == Placement::TopHugging;
+  if (floats && Left() > 0) SetLeft(Left() - ToolbarButtons[0].Width - 2 * TwipsX);
+  DoToolbarButtons();
+  SetControls();
+  if (floats) {
+    if (Left() < 0) SetLeft(0);
+    SavedLeft = Left();
+    UpdateToolbarPosition();
+  } else if (program_.Ports.Docking != nullptr) {
+    program_.Ports.Docking->ResizeToEdge();
+  }
+  DrawBorders();
+  Refresh();
+  program_.ToolbarReady = true;
 }
 
 }  // namespace corvelle

@@ -38,6 +38,7 @@ class LoggingToolbar final : public ToolbarPort {
   void InitNewButtons() override { log_.push_back("InitNewButtons"); }
   void DoToolbarButtons() override { log_.push_back("DoToolbarButtons"); }
   void DoSingleButtons() override { log_.push_back("DoSingleButtons"); }
+  void AddNewButton() override { log_.push_back("AddNewButton"); }
   void ResetCollections() override { log_.push_back("ResetCollections"); }
   float FreeWidth() const override { return 1230; }
   void ResizeAfterEdit(float freeWidth) override {
@@ -139,6 +140,9 @@ class LoggingSingles final : public SingleButtonsPort {
   void DeleteSingle(std::string_view file) override { Note("delete single ", file); }
   void PasteSingle(std::string_view file) override { Note("paste single ", file); }
   void UndoDeleteSB(std::string_view file) override { Note("undo single ", file); }
+  void DropFilesOnSingles(std::vector<std::string>, forms::MouseButton) override {
+    log_.push_back("files on the singles");
+  }
 
  private:
   void Note(std::string_view what, std::string_view file) {

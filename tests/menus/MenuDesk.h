@@ -58,6 +58,7 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void InitNewButtons() override { Asked.emplace_back("InitNewButtons"); }
   void DoToolbarButtons() override { Asked.emplace_back("DoToolbarButtons"); }
   void DoSingleButtons() override { Asked.emplace_back("DoSingleButtons"); }
+  void AddNewButton() override { Asked.emplace_back("AddNewButton"); }
   void ResetCollections() override { Asked.emplace_back("ResetCollections"); }
   float FreeWidth() const override { return 0; }
   void ResizeAfterEdit(float) override { Asked.emplace_back("ResizeAfterEdit"); }
