@@ -84,6 +84,10 @@ class SimDesk final : public Desk {
   void MovePointer(PixelPoint at) override { world_.Desktop.MovePointer(at.x, at.y); }
   void Press(Button button) override { world_.Desktop.Press(ToForms(button)); }
   void Release(Button button) override { world_.Desktop.Release(ToForms(button)); }
+  void DoubleClick(PixelPoint at) override {
+    MovePointer(at);
+    world_.Desktop.DoubleClick();
+  }
   [[nodiscard]] PixelPoint Pointer() const override { return world_.Desktop.PointerPosition(); }
 
   void Key(int virtualKey) override {
@@ -168,6 +172,7 @@ class SimDesk final : public Desk {
   void WriteFile(std::string_view name, std::string_view bytes) override {
     world_.Files.Put(PathOf(name), bytes);
   }
+  void RemoveFile(std::string_view name) override { world_.Files.Vanish(PathOf(name)); }
   [[nodiscard]] bool FolderExists(std::string_view name) const override {
     return world_.Files.Has(PathOf(name)) && !world_.Files.Get(PathOf(name));
   }
