@@ -63,6 +63,8 @@ class ToolbarPort : public LoadedWindow {
   virtual void DoToolbarButtons() = 0;
   /// Reads the single buttons anew and draws them.
   virtual void DoSingleButtons() = 0;
+  /// Makes a new menu button with one item behind those there are.
+  virtual void AddNewButton() = 0;
   /// Empties the icon collections kept for menus.
   virtual void ResetCollections() = 0;
   /// Room between the strip's right end and the screen's, twips.
@@ -88,8 +90,6 @@ class ToolbarPort : public LoadedWindow {
   virtual void UpdateLabelDate() = 0;
   /// Shows the window without making it active and paints it.
   virtual void ShowAndRefresh() = 0;
-  /// Makes the file of a new menu button and shows the button, behind those there are.
-  virtual void AddNewButton() = 0;
   /// The next UnloadItems empties the icon collections kept for menus.
   virtual void MarkCollections() = 0;
   /// Flags of SetWindowPos (forms::swp).
@@ -261,12 +261,14 @@ class SingleButtonsPort {
 
   /// Rewrites the files without the button of `file`.
   virtual void DeleteSingle(std::string_view file) = 0;
-  /// Rewrites the files with the clipboard's entry before the button of `file`.
+  /// Rewrites the files with the clipboard's entry before the button of `file`; behind the last
+  /// button when it is empty.
   virtual void PasteSingle(std::string_view file) = 0;
   /// Rewrites the files with the undo entry back in its place.
   virtual void UndoDeleteSB(std::string_view file) = 0;
 
-  /// Files that another program dropped at the pointer's place in the row, dragged with `button`.
+  /// Files dropped by another program at the pointer's place become buttons there; with the right
+  /// button on a button its command opens the first of them instead.
   virtual void DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) = 0;
 };
 

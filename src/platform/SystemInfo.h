@@ -27,6 +27,14 @@ class SystemInfo {
   [[nodiscard]] virtual int CaptionHeight() const = 0;
   [[nodiscard]] virtual int CaptionButtonWidth() const = 0;
 
+  /// Today's date as the user's settings write it, short and long; empty when the system does not
+  /// tell.
+  [[nodiscard]] virtual std::string ShortDate() const = 0;
+  [[nodiscard]] virtual std::string LongDate() const = 0;
+  /// The time of day in hours and minutes of two digits each, with the user's word for before or
+  /// after noon; where there is none the hours go to 23. Empty when the system does not tell.
+  [[nodiscard]] virtual std::string TimeOfDay() const = 0;
+
   /// Bits per pixel of the screen.
   [[nodiscard]] virtual int ColourDepth() const = 0;
 

@@ -13,6 +13,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.Docking = &Docking;
   ports.Capture = &StillPicture;
   ports.ImageWindow = &StillPicture;
+  ports.SingleButtons = &Toolbar.Singles;
   ports.QMenu = &Menu;
   ports.Minimize = &Companion;
   ports.Startup = &Startup;

@@ -39,6 +39,8 @@ frmToolbar::frmToolbar(Program& program)
     : Form(program.Windows, "frmToolbar"),
       tmrDragDrop(program.Windows),
       picSingleButton(*this, "picSingleButton"),
+      Line1([this](int) { return std::make_unique<forms::Line>(picSingleButton, "Line1"); }),
+      Line2([this](int) { return std::make_unique<forms::Line>(picSingleButton, "Line2"); }),
       lblDate(picSingleButton, "lblDate"),
       LineLeft(picSingleButton, "LineLeft"),
       Timer2(program.Windows),
@@ -53,6 +55,7 @@ frmToolbar::frmToolbar(Program& program)
       bLine3(*this, "bLine3"),
       bLine1(*this, "bLine1"),
       ToolbarButtons(1),
+      Singles(program, *this),
       program_(program),
       records_(1) {
   WireEvents();
@@ -101,6 +104,13 @@ void frmToolbar::WireEvents() {
   picSingleButton.MouseDown = to(&frmToolbar::picSingleButton_MouseDown);
   picSingleButton.MouseMove = to(&frmToolbar::picSingleButton_MouseMove);
   picSingleButton.MouseUp = to(&frmToolbar::picSingleButton_MouseUp);
+  picSingleButton.DblClick = [this] { Singles.picSingleButton_DblClick(); };
+  lblDate.MouseDown = to(&frmToolbar::lblDate_MouseDown);
+  lblDate.MouseMove = to(&frmToolbar::lblDate_MouseMove);
+  lblDate.MouseUp = to(&frmToolbar::lblDate_MouseUp);
+  lblDate.DblClick = [this] { lblDate_DblClick(); };
+  lblDate.SetAutoSize(true);
+  HideDate();
   Timer1.Tick = [this] { Timer1_Timer(); };
   Timer2.Tick = [this] { Timer2_Timer(); };
   tmrDragDrop.SetInterval(kDragPoll);
@@ -189,7 +199,7 @@ void frmToolbar::UnloadItems() {
   if (CollectionsMarked) ResetCollections();
   CollectionsMarked = false;
   UnloadButtons();
-  SingleCount = 0;
+  Singles.Unload();
 }
 
 void frmToolbar::ResetCollections() {

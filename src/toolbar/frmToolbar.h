@@ -15,6 +15,7 @@
 #include "forms/PictureBox.h"
 #include "forms/Timer.h"
 #include "toolbar/CarryRules.h"
+#include "toolbar/SingleRow.h"
 #include "toolbar/StripLayout.h"
 #include "toolbar/StripLook.h"
 #include "toolbar/StripPointer.h"
@@ -60,8 +61,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void DoToolbarButtons() override;
   /// The same on a strip that keeps its size.
   void RefreshToolbarButtons();
-  /// Empties the row of single buttons.
-  void DoSingleButtons() override;
+  /// Reads the files of the single buttons and makes their row anew.
+  void DoSingleButtons() override { Singles.DoSingleButtons(); }
   /// Draws the buttons anew without moving anything, after a change of the system's colours.
   void RefreshToolbar() override;
   void MarkCollections() override { CollectionsMarked = true; }
@@ -106,11 +107,17 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x, float y);
   void picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
   void picSingleButton_MouseDown(forms::MouseButton button, forms::ShiftState shift, float x,
-                                 float y);
+                                 float y) {
+    Singles.picSingleButton_MouseDown(button, shift, x, y);
+  }
   void picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x,
-                                 float y);
+                                 float y) {
+    Singles.picSingleButton_MouseMove(down, shift, x, y);
+  }
   void picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x,
-                               float y);
+                               float y) {
+    Singles.picSingleButton_MouseUp(button, shift, x, y);
+  }
   void lblSep_MouseDown(int index, forms::MouseButton button, forms::ShiftState shift, float x,
                         float y);
   void lblSep_MouseMove(int index, forms::MouseButton down, forms::ShiftState shift, float x,
@@ -151,6 +158,10 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
 
   void DoLabelDate() override;
   void UpdateLabelDate() override;
+  void lblDate_MouseDown(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  void lblDate_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x, float y);
+  void lblDate_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  void lblDate_DblClick();
 
   // ---- keys (frmToolbarKeys.cpp) ----
 
@@ -186,6 +197,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
 
   forms::Timer tmrDragDrop;
   forms::PictureBox picSingleButton;
+  /// Lines in that box: element 0 is before the date, the others are separators.
+  forms::ControlArray<forms::Line> Line1;
+  forms::ControlArray<forms::Line> Line2;
   forms::Label lblDate;
   forms::Line LineLeft;
   forms::Timer Timer2;
@@ -241,6 +255,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   float SavedLeft = 0;
   float SavedTop = 0;
 
+  /// The single buttons, in picSingleButton.
+  SingleRow Singles;
+
  protected:
   void Form_Load() override;
   void Form_Unload() override;
@@ -255,6 +272,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void OnMoved(const PixelRect& bounds) override;
 
  private:
+  friend class SingleRow;  // what stands in picSingleButton is a part of the strip
+
   // Loading and building.
   std::unique_ptr<forms::Label> MakeSeparator(int index);
   void WireEvents();
@@ -288,6 +307,10 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void UnloadButtons();
   void ForgetMenus();
   void EmptyCurrentItem();
+
+  // The date.
+  void HideDate();
+  void ShowDate();
 
   // Layout.
   [[nodiscard]] Placement Where() const;

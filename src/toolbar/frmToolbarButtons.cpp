@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "core/MenuFile.h"
 #include "core/MenuFolder.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
@@ -128,19 +129,11 @@ void frmToolbar::RefreshToolbar() {
   RefreshToolbarButtons();
   picToolbar.SetVisible(visible);
   picToolbar.Refresh();
-  picSingleButton.InvalidateAll();
+  Singles.RefreshSingleButtons();
   picSingleButton.Refresh();
   DrawBorders();
   InvalidateAll();
   Refresh();
-}
-
-void frmToolbar::DoSingleButtons() {
-  SingleCount = 0;
-  LineLeft.SetVisible(false);
-  lblDate.SetVisible(false);
-  picSingleButton.SetBackground({});
-  picSingleButton.SetVisible(true);
 }
 
 }  // namespace corvelle

@@ -75,6 +75,7 @@ void frmToolbar::SetControls() {
                        .Template = {ToolbarButtons[0].Width, ToolbarButtons[0].Height},
                        .LastButton = {last.Left, last.Top, last.Width, last.Height},
                        .SingleCount = SingleCount,
+                       .LastSingleRight = Singles.LastEnd(),
                        .Buttons = BoundsOf(picToolbar),
                        .Singles = BoundsOf(picSingleButton),
                        .Window = BoundsOf(*this)});
@@ -154,6 +155,8 @@ void frmToolbar::ResizeAfterEdit(float freeWidth) {
     SavedLeft = std::max(program_.Windows.Screen().Width - freeWidth - Width(), 0.0F);
     SetLeft(SavedLeft);
     UpdateToolbarPosition();
+  } else if (program_.Ports.Docking != nullptr) {
+    program_.Ports.Docking->ResizeToEdge();
   }
   DrawBorders();
   InvalidateAll();

@@ -10,6 +10,7 @@
 namespace corvelle {
 
 void frmToolbar::AddNewButton() {
+  if (!IsLoaded()) return;
   const auto path =
       CreateButtonFile(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
   if (!path) {
@@ -23,12 +24,14 @@ void frmToolbar::AddNewButton() {
   if (floats && Left() > 0) SetLeft(Left() - ToolbarButtons[0].Width - 2 * TwipsX);
   DoToolbarButtons();
   SetControls();
-  DrawBorders();
   if (floats) {
     SetLeft(std::max(Left(), 0.0F));
     SavedLeft = Left();
     UpdateToolbarPosition();
+  } else if (program_.Ports.Docking != nullptr) {
+    program_.Ports.Docking->ResizeToEdge();
   }
+  DrawBorders();
   InvalidateAll();
   Refresh();
   program_.ToolbarReady = true;

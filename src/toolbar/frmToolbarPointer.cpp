@@ -240,28 +240,6 @@ void frmToolbar::ShowButtonPopup() {
   program_.Ports.Popup->ShowToolbarPopup();
 }
 
-void frmToolbar::picSingleButton_MouseDown(forms::MouseButton button, forms::ShiftState shift,
-                                           float x, float y) {
-  if (program_.Entry.ItemDragging) return;
-  program_.SetHint("");
-  Timer2.SetEnabled(false);
-  // The bare parts of the box are the strip's frame.
-  Form_MouseDown(button, shift, x + picSingleButton.Left(), y + picSingleButton.Top());
-}
-
-void frmToolbar::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftState shift,
-                                           float x, float y) {
-  Form_MouseMove(down, shift, x + picSingleButton.Left(), y + picSingleButton.Top());
-}
-
-void frmToolbar::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift,
-                                         float x, float y) {
-  program_.SetHint("");
-  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
-  if (EndCarry(program_, pointer, button, shift)) return;
-  Form_MouseUp(button, shift, x + picSingleButton.Left(), y + picSingleButton.Top());
-}
-
 void frmToolbar::Timer2_Timer() {
   if (program_.Entry.ItemDragging || program_.PosChangeRunning || program_.MenuBuilding) return;
   // What another program drags changes and closes the menu by its own events.
@@ -277,6 +255,7 @@ void frmToolbar::Timer2_Timer() {
     }
   } else if (tracksMenu && under == picSingleButton.hWnd()) {
     HideMenuWhileTracking();
+    if (IsLoaded() && !program_.Entry.ItemDragging) Singles.sMouseMove();
   }
   if (!IsLoaded()) return;
   KeepHintTimes(under);

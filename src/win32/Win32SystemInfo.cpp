@@ -12,6 +12,7 @@ namespace {
 
 constexpr wchar_t kSessionName[] = L"Local\\Corvelle";
 constexpr std::size_t kLongestPath = 32768;
+constexpr std::size_t kLongestDate = 256;
 
 /// The folder that a call of the system writes down.
 std::string FolderOf(UINT(WINAPI* ask)(LPWSTR, UINT)) {
@@ -20,6 +21,23 @@ std::string FolderOf(UINT(WINAPI* ask)(LPWSTR, UINT)) {
   const UINT length = ask(path.data(), size);
   path.resize(std::min<std::size_t>(length, path.size()));
   return Narrow(path);
+}
+
+std::string DateNow(DWORD flags) {
+  std::wstring text(kLongestDate, L'\0');
+  const int length = GetDateFormatW(LOCALE_USER_DEFAULT, flags, nullptr, nullptr, text.data(),
+                                    static_cast<int>(text.size()));
+  // The length counts the NUL at the end.
+  text.resize(length > 0 ? static_cast<std::size_t>(length) - 1 : 0);
+  return Narrow(text);
+}
+
+std::string TimeNow(const wchar_t* format) {
+  std::wstring text(kLongestDate, L'\0');
+  const int length = GetTimeFormatW(LOCALE_USER_DEFAULT, 0, nullptr, format, text.data(),
+                                    static_cast<int>(text.size()));
+  text.resize(length > 0 ? static_cast<std::size_t>(length) - 1 : 0);
+  return Narrow(text);
 }
 
 }  // namespace
@@ -72,6 +90,14 @@ bool Win32SystemInfo::AnotherInstanceRuns() {
 int Win32SystemInfo::CaptionHeight() const { return GetSystemMetrics(SM_CYCAPTION); }
 
 int Win32SystemInfo::CaptionButtonWidth() const { return GetSystemMetrics(SM_CXSIZE); }
+
+std::string Win32SystemInfo::ShortDate() const { return DateNow(DATE_SHORTDATE); }
+
+std::string Win32SystemInfo::LongDate() const { return DateNow(DATE_LONGDATE); }
+
+std::string Win32SystemInfo::TimeOfDay() const {
+  return TimeNow(L"tt").empty() ? TimeNow(L"HH':'mm") : TimeNow(L"hh':'mm tt");
+}
 
 int Win32SystemInfo::ColourDepth() const {
   const WindowDc screen(nullptr);

@@ -22,6 +22,9 @@ class Win32SystemInfo final : public SystemInfo {
   bool AnotherInstanceRuns() override;
   int CaptionHeight() const override;
   int CaptionButtonWidth() const override;
+  std::string ShortDate() const override;
+  std::string LongDate() const override;
+  std::string TimeOfDay() const override;
   int ColourDepth() const override;
   bool ShowHelpTopic(WindowId window, const std::string& file, int topic) override;
 

@@ -38,6 +38,7 @@ class LoggingToolbar final : public ToolbarPort {
   void InitNewButtons() override { log_.push_back("InitNewButtons"); }
   void DoToolbarButtons() override { log_.push_back("DoToolbarButtons"); }
   void DoSingleButtons() override { log_.push_back("DoSingleButtons"); }
+  void AddNewButton() override { log_.push_back("AddNewButton"); }
   void ResetCollections() override { log_.push_back("ResetCollections"); }
   float FreeWidth() const override { return 1230; }
   void ResizeAfterEdit(float freeWidth) override {
@@ -56,7 +57,6 @@ class LoggingToolbar final : public ToolbarPort {
   void HideWindow() override {}
   void DoLabelDate() override {}
   void UpdateLabelDate() override {}
-  void AddNewButton() override {}
   void MarkCollections() override {}
   void SetWindowPos(forms::InsertAfter, unsigned) override {}
 

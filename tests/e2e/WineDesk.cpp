@@ -191,6 +191,10 @@ void WineDesk::Release(Button button) {
   SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
 }
 
+void WineDesk::DoubleClick(PixelPoint at) {
+  for (int i = 0; i < 2; ++i) Click(at);
+}
+
 PixelPoint WineDesk::Pointer() const {
   POINT at = {};
   GetCursorPos(&at);
@@ -450,6 +454,11 @@ void WineDesk::WriteFile(std::string_view name, std::string_view bytes) {
   const std::wstring path = kAppFolder + Wide(name);
   CreateDirectoryW(path.substr(0, path.rfind(L'\\')).c_str(), nullptr);
   if (!WriteBytes(path, bytes)) std::printf("%s was not written\n", Narrow(path).c_str());
+}
+
+void WineDesk::RemoveFile(std::string_view name) {
+  if (DeleteFileW((kAppFolder + Wide(name)).c_str()) == FALSE)
+    std::printf("%.*s was not removed\n", static_cast<int>(name.size()), name.data());
 }
 
 bool WineDesk::FolderExists(std::string_view name) const {

@@ -41,6 +41,7 @@ class WineDesk final : public scenario::Desk {
   void MovePointer(PixelPoint at) override;
   void Press(scenario::Button button) override;
   void Release(scenario::Button button) override;
+  void DoubleClick(PixelPoint at) override;
   [[nodiscard]] PixelPoint Pointer() const override;
   void Key(int virtualKey) override;
   void HoldKey(int virtualKey) override;
@@ -76,6 +77,7 @@ class WineDesk final : public scenario::Desk {
 
   [[nodiscard]] std::optional<std::string> ReadFile(std::string_view name) const override;
   void WriteFile(std::string_view name, std::string_view bytes) override;
+  void RemoveFile(std::string_view name) override;
   [[nodiscard]] bool FolderExists(std::string_view name) const override;
   [[nodiscard]] std::vector<std::string> Files(std::string_view folder) const override;
 

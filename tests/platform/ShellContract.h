@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
@@ -224,6 +225,21 @@ TEST_P(ShellContract, TheMachineTellsItsFacts) {
   EXPECT_GE(system.CaptionHeight(), 0);
   EXPECT_GE(system.CaptionButtonWidth(), 0);
   EXPECT_GE(system.ColourDepth(), 8);
+}
+
+TEST_P(ShellContract, TheMachineTellsDateAndTime) {
+  SystemInfo& system = shell_->System();
+  const auto digits = [](const std::string& text) {
+    return std::count_if(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+  };
+  EXPECT_GE(digits(system.ShortDate()), 3) << system.ShortDate();
+  EXPECT_GE(digits(system.LongDate()), 3) << system.LongDate();
+  EXPECT_GT(system.LongDate().size(), system.ShortDate().size());
+  const std::string time = system.TimeOfDay();
+  ASSERT_GE(time.size(), 5U);
+  EXPECT_EQ(time[2], ':') << time;
+  EXPECT_EQ(digits(time), 4) << time;
+  EXPECT_NE(time.back(), ' ') << time;
 }
 
 }  // namespace corvelle

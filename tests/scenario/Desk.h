@@ -83,6 +83,8 @@ class Desk {
   virtual void MovePointer(PixelPoint at) = 0;
   virtual void Press(Button button) = 0;
   virtual void Release(Button button) = 0;
+  /// Two quick clicks of the left button at one place.
+  virtual void DoubleClick(PixelPoint at) = 0;
   [[nodiscard]] virtual PixelPoint Pointer() const = 0;
   /// Presses and releases a key; it goes to the foreground window.
   virtual void Key(int virtualKey) = 0;
@@ -148,6 +150,7 @@ class Desk {
 
   [[nodiscard]] virtual std::optional<std::string> ReadFile(std::string_view name) const = 0;
   virtual void WriteFile(std::string_view name, std::string_view bytes) = 0;
+  virtual void RemoveFile(std::string_view name) = 0;
   [[nodiscard]] virtual bool FolderExists(std::string_view name) const = 0;
   /// The names of a folder's files in upper case, sorted.
   [[nodiscard]] virtual std::vector<std::string> Files(std::string_view folder) const = 0;

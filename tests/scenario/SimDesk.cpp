@@ -90,6 +90,10 @@ class SimDesk final : public Desk {
     world_.Desktop.StartDrag(source_);
   }
   void Release(Button button) override { world_.Desktop.Release(ToForms(button)); }
+  void DoubleClick(PixelPoint at) override {
+    MovePointer(at);
+    world_.Desktop.DoubleClick();
+  }
   [[nodiscard]] PixelPoint Pointer() const override { return world_.Desktop.PointerPosition(); }
 
   void Key(int virtualKey) override {
@@ -208,6 +212,7 @@ class SimDesk final : public Desk {
   void WriteFile(std::string_view name, std::string_view bytes) override {
     world_.Files.Put(PathOf(name), bytes);
   }
+  void RemoveFile(std::string_view name) override { world_.Files.Vanish(PathOf(name)); }
   [[nodiscard]] bool FolderExists(std::string_view name) const override {
     return world_.Files.Has(PathOf(name)) && !world_.Files.Get(PathOf(name));
   }

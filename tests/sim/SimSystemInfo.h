@@ -26,6 +26,9 @@ class SimSystemInfo final : public SystemInfo {
   int Caption = 19;
   int CaptionButton = 18;
   int Depth = 32;
+  std::string Date = "3/14/2026";
+  std::string DateInFull = "Saturday, March 14, 2026";
+  std::string Time = "09:05 AM";
   bool HasHelpViewer = true;
   std::vector<HelpCall> HelpCalls;
 
@@ -36,6 +39,9 @@ class SimSystemInfo final : public SystemInfo {
   bool AnotherInstanceRuns() override { return OtherInstance; }
   int CaptionHeight() const override { return Caption; }
   int CaptionButtonWidth() const override { return CaptionButton; }
+  std::string ShortDate() const override { return Date; }
+  std::string LongDate() const override { return DateInFull; }
+  std::string TimeOfDay() const override { return Time; }
   int ColourDepth() const override { return Depth; }
   bool ShowHelpTopic(WindowId window, const std::string& file, int topic) override {
     HelpCalls.push_back({window, file, topic});

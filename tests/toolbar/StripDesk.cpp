@@ -61,6 +61,7 @@ void StripDesk::Install() {
   TheProgram.AppPath = "C:\\Corvelle\\";
   TheProgram.OptionFlags.Set(2, true);
   TheProgram.Ports.Toolbar = &Strip;
+  TheProgram.Ports.SingleButtons = &Strip.Singles;
   TheProgram.Ports.QMenu = &Menu;
   TheProgram.Ports.Minimize = &Companion;
 }

@@ -1,0 +1,228 @@
+#include "toolbar/SingleRow.h"
+
+#include <utility>
+
+#include "base/Text.h"
+#include "core/MenuFolder.h"
+#include "core/Program.h"
+#include "icons/IconResolution.h"
+#include "platform/FileSystem.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kSmallIcon = 16;   // pixels
+constexpr int kWatchPoll = 100;  // milliseconds
+
+TwipRect PlaceOf(const SingleRect& single) {
+  return {single.Left, single.Top, single.Width, single.Height};
+}
+
+void Set(SingleRect& single, const TwipRect& place) {
+  single.Left = place.Left;
+  single.Top = place.Top;
+  single.Width = place.Width;
+  single.Height = place.Height;
+}
+
+void Show(forms::Line& line, const TwipLine& points, LineColor color) {
+  line.SetPoints(points.X1, points.Y1, points.X2, points.Y2);
+  line.SetBorderColor(ColorValue(color));
+  line.SetVisible(true);
+}
+
+}  // namespace
+
+SingleRow::SingleRow(Program& program, frmToolbar& strip)
+    : program_(program),
+      strip_(strip),
+      hover1_(strip.picSingleButton, "Line1"),
+      hover2_(strip.picSingleButton, "Line2"),
+      watch_(program.Windows) {
+  hover1_.SetVisible(false);
+  hover2_.SetVisible(false);
+  watch_.SetInterval(kWatchPoll);
+  watch_.Tick = [this] { LookAround(); };
+  SingleButtons.push_back(SingleTemplate({}));
+}
+
+SingleScene SingleRow::Scene() const {
+  const bool twoRows = program_.OptionFlags.Is(24) && program_.OptionFlags.Is(26);
+  const ButtonRect& button = strip_.ToolbarButtons[0];
+  return {.Scale = strip_.Scale(),
+          .At = strip_.AtEdge(),
+          .TwoRows = twoRows,
+          .IconSize = twoRows ? kSmallIcon : program_.IconSize,
+          .Template = {button.Width, button.Height}};
+}
+
+float SingleRow::LastEnd() const {
+  const SingleRect& last = SingleButtons.back();
+  return program_.ToolbarVertical ? last.Bottom() : last.Right();
+}
+
+void SingleRow::Unload() {
+  strip_.SingleCount = 0;
+  LineCount = 0;
+  if (program_.CurSingle != Program::kDateArea) program_.CurSingle = 0;
+  ShowHover(0);
+  press_ = {.On = press_.On == PressOn::Nothing ? PressOn::Nothing : PressOn::Spent};
+  strip_.Line1.UnloadAbove(0);
+  strip_.Line2.UnloadAbove(0);
+  SingleButtons.assign(1, SingleTemplate(strip_.Scale()));
+}
+
+void SingleRow::DoSingleButtons() {
+  Unload();
+  program_.CurSingle = 0;
+  if (strip_.Where() == Placement::TopHugging) strip_.HideDate();
+  PlaceBox();
+  for (SingleRect& read : ReadSingles()) {
+    if (EqualNoCase(read.Icon, kSeparatorIcon)) {
+      AddSeparator();
+    } else {
+      DrawSingleButton(read.Command, read.Icon, read.Title);
+    }
+    SingleRect& added = SingleButtons.back();
+    added.Title = std::move(read.Title);
+    added.Icon = std::move(read.Icon);
+    added.Command = std::move(read.Command);
+    added.File = std::move(read.File);
+  }
+  SizeBox();
+  DrawIcons();
+  strip_.picSingleButton.SetVisible(true);
+}
+
+// Along the strip the box gets its size when the last entry is known.
+void SingleRow::PlaceBox() {
+  const forms::PictureBox& buttons = strip_.picToolbar;
+  forms::PictureBox& box = strip_.picSingleButton;
+  const ButtonRect& size = strip_.ToolbarButtons[0];
+  box.SetAutoRedraw(true);
+  if (program_.ToolbarVertical) {
+    box.Move(buttons.Left(), buttons.Bottom() + 8 * strip_.TwipsY, size.Width, box.Height());
+  } else {
+    box.Move(buttons.Right() + 8 * strip_.TwipsX, buttons.Top(), box.Width(), size.Height);
+  }
+  ShowLineLeft();
+}
+
+void SingleRow::ShowLineLeft() {
+  const ButtonRect& size = strip_.ToolbarButtons[0];
+  const TwipLine line =
+      program_.ToolbarVertical ? TwipLine{0, 0, size.Width, 0} : TwipLine{0, 0, 0, size.Height};
+  Show(strip_.LineLeft, line, LineColor::Highlight);
+}
+
+void SingleRow::SizeBox() {
+  const float length = SinglesLength(strip_.Scale(), SingleButtons.back());
+  if (program_.ToolbarVertical) {
+    strip_.picSingleButton.SetHeight(length);
+  } else {
+    strip_.picSingleButton.SetWidth(length);
+  }
+}
+
+SingleRect SingleRow::EntryOf(const MenuRecord& record, std::string path) {
+  SingleRect single;
+  single.Title = record.FTitle;
+  single.Icon = record.FIcon;
+  single.Command = record.FName;
+  single.File = std::move(path);
+  return single;
+}
+
+std::vector<SingleRect> SingleRow::ReadSingles() {
+  std::vector<SingleRect> read;
+  // A folder that cannot be listed gives an empty row.
+  const auto names = OrderedSingleFiles(program_.Services.Files, program_.MenusPath);
+  if (!names) return read;
+  for (const std::string& name : *names) {
+    const std::string path = program_.MenusPath + name;
+    const std::optional<MenuRecord> record = strip_.ReadButtonRecord(path);
+    // A button that cannot be read is left out, and the others come all the same.
+    if (!record) continue;
+    program_.ShowStartupProgress();
+    read.push_back(EntryOf(*record, path));
+  }
+  return read;
+}
+
+// Appends a button behind the last entry. Its icon is painted when the size of the box is known.
+void SingleRow::DrawSingleButton(const std::string& command, const std::string& icon,
+                                 const std::string& title) {
+  SingleRect single = EntryOf({title, icon, command}, {});
+  Set(single, PlaceSingle(Scene(), SingleButtons.back(), SingleKind::Button));
+  SingleButtons.push_back(std::move(single));
+  ++strip_.SingleCount;
+}
+
+void SingleRow::AddSeparator() {
+  SingleRect single;
+  single.Kind = SingleKind::Separator;
+  Set(single, PlaceSingle(Scene(), SingleButtons.back(), SingleKind::Separator));
+  DrawSepLine(SeparatorPosition(strip_.Scale(), PlaceOf(single)));
+  SingleButtons.push_back(std::move(single));
+  ++strip_.SingleCount;
+}
+
+void SingleRow::DrawSepLine(float position) {
+  const ButtonRect& size = strip_.ToolbarButtons[0];
+  const LinePair lines = SeparatorLines(strip_.Scale(), position, {size.Width, size.Height});
+  Show(strip_.Line1.Load(), lines.Line1, LineColor::Shadow);
+  Show(strip_.Line2.Load(), lines.Line2, LineColor::Highlight);
+  LineCount = strip_.Line1.Last();
+}
+
+void SingleRow::DrawIcon(const SingleRect& single) {
+  if (single.Kind != SingleKind::Button) return;
+  const SingleScene scene = Scene();
+  const PixelPoint at = SingleIconPlace(scene, PlaceOf(single), strip_.Where(), strip_.TopCut);
+  const PixelRect touched = RectAt(at, {scene.IconSize, scene.IconSize});
+  strip_.picSingleButton.DrawPixels(touched, [&](Canvas& canvas) {
+    if (ResolveAndDraw(program_, canvas, single.Icon, at, scene.IconSize)) return;
+    // A button without any face could not be found. Without the blank document there is none.
+    static_cast<void>(DrawFallbackIcon(program_, canvas, at, scene.IconSize));
+  });
+}
+
+void SingleRow::DrawIcons() {
+  forms::PictureBox& box = strip_.picSingleButton;
+  box.SetBackground({});
+  for (const SingleRect& single : SingleButtons) DrawIcon(single);
+  box.Refresh();
+  // From here on a repaint is a copy of this picture.
+  box.SetBackground(box.Image());
+}
+
+void SingleRow::RefreshSingleButtons() {
+  std::vector<SingleRect> read = ReadSingles();
+  if (!FitsRow(read)) {
+    // Other buttons than those there were: they need other places.
+    DoSingleButtons();
+    FitStrip();
+    return;
+  }
+  for (std::size_t i = 0; i < read.size(); ++i) {
+    SingleRect& single = SingleButtons[i + 1];
+    single.Title = std::move(read[i].Title);
+    single.Icon = std::move(read[i].Icon);
+    single.Command = std::move(read[i].Command);
+  }
+  DrawIcons();
+}
+
+bool SingleRow::FitsRow(const std::vector<SingleRect>& read) const {
+  if (read.size() + 1 != SingleButtons.size()) return false;
+  for (std::size_t i = 0; i < read.size(); ++i) {
+    const SingleRect& single = SingleButtons[i + 1];
+    const bool isSeparator = EqualNoCase(read[i].Icon, kSeparatorIcon);
+    if (isSeparator != (single.Kind == SingleKind::Separator)) return false;
+    if (!EqualNoCase(read[i].File, single.File)) return false;
+  }
+  return true;
+}
+
+}  // namespace corvelle

@@ -1,0 +1,331 @@
+// The mouse over the single buttons: hovering, running, carrying, right clicks.
+
+#include <utility>
+
+#include "base/Text.h"
+#include "core/Carry.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "launch/LaunchItem.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "toolbar/SingleRow.h"
+#include "toolbar/StripPlace.h"
+#include "toolbar/frmToolbar.h"
+
+namespace corvelle {
+namespace {
+
+constexpr std::string_view kSinglesTag = "SingleButtons";
+
+constexpr std::string_view kNoCommandText =
+    "No executable file found under this button. Check your configuration in the Customize window.";
+
+/// The icon text that a carried button shows. A folder of the shell by its number goes with the
+/// entry's title, as it does for an entry of a menu that shows such a folder.
+std::string CarriedIcon(const SingleRect& single) {
+  const std::string_view icon = single.Icon;
+  const std::size_t start = kSpecialFolderStart.size();
+  const bool byNumber =
+      StartsWithNoCase(icon, kSpecialFolderStart) && ParseNumber(icon.substr(start)).has_value();
+  return byNumber ? single.Title + "\\" + single.Icon : single.Icon;
+}
+
+}  // namespace
+
+bool SingleRow::Has(int index) const { return index > 0 && index <= strip_.SingleCount; }
+
+bool SingleRow::IsButton(int index) const {
+  return Has(index) && SingleButtons[static_cast<std::size_t>(index)].Kind == SingleKind::Button;
+}
+
+bool SingleRow::MenuUp() const {
+  return program_.Ports.QMenu != nullptr && program_.Ports.QMenu->MenuVisible();
+}
+
+int SingleRow::GetCurIndex() noexcept {
+  program_.CurSingle = 0;
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  const forms::PictureBox& box = strip_.picSingleButton;
+  if (program_.Services.Desktop.WindowAt(pointer) != box.hWnd()) return 0;
+  const TwipPoint at{static_cast<float>(pointer.x) * strip_.TwipsX - strip_.Left() - box.Left(),
+                     static_cast<float>(pointer.y) * strip_.TwipsY - strip_.Top() - box.Top()};
+  program_.CurSingle = SingleAt(SingleButtons, at);
+  return program_.CurSingle;
+}
+
+// ---- hovering ----
+
+void SingleRow::ShowHover(int index) {
+  hovered_ = index;
+  const bool shown = IsButton(index);
+  if (shown) {
+    const SingleRect& single = SingleButtons[static_cast<std::size_t>(index)];
+    const LinePair lines =
+        HoverLines(strip_.Scale(), {single.Left, single.Top, single.Width, single.Height});
+    hover1_.SetPoints(lines.Line1.X1, lines.Line1.Y1, lines.Line1.X2, lines.Line1.Y2);
+    hover2_.SetPoints(lines.Line2.X1, lines.Line2.Y1, lines.Line2.X2, lines.Line2.Y2);
+    hover1_.SetBorderColor(ColorValue(LineColor::Highlight));
+    hover2_.SetBorderColor(ColorValue(LineColor::Shadow));
+  }
+  hover1_.SetVisible(shown);
+  hover2_.SetVisible(shown);
+  watch_.SetEnabled(shown || program_.CurSingle == Program::kDateArea);
+}
+
+void SingleRow::sMouseMove() {
+  if (program_.StartingUp || program_.PosChangeRunning) return;
+  const int before = program_.CurSingle;
+  const int now = GetCurIndex();
+  if (now == before && now == hovered_) return;
+  ShowHover(now);
+  // Back on a menu button, its own hint is due anew.
+  strip_.WasHovering = false;
+  if (!program_.MenuOpen) program_.CurButton = 0;
+  program_.SetHint(IsButton(now)
+                       ? DoubleAmpersands(SingleButtons[static_cast<std::size_t>(now)].Title)
+                       : std::string());
+}
+
+// Ends the look and the hint of a button, or of the date, that the pointer has left.
+void SingleRow::LookAround() {
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  if (under == strip_.picSingleButton.hWnd()) return;
+  if (!carrying_) program_.CurSingle = 0;
+  ShowHover(0);
+  watch_.SetEnabled(false);
+  // Over the menu buttons the hint is theirs by now.
+  if (!program_.Entry.ItemDragging && under != strip_.picToolbar.hWnd()) program_.SetHint("");
+}
+
+// ---- presses ----
+
+void SingleRow::ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y) {
+  press_.On = PressOn::Frame;
+  strip_.Timer2.SetEnabled(false);
+  strip_.Form_MouseDown(button, shift, x + strip_.picSingleButton.Left(),
+                        y + strip_.picSingleButton.Top());
+}
+
+void SingleRow::picSingleButton_MouseDown(forms::MouseButton button, forms::ShiftState shift,
+                                          float x, float y) {
+  if (program_.Entry.ItemDragging) return;
+  program_.SetHint("");
+  OnDate = strip_.lblDate.Visible() && IsOnDateArea(x, strip_.lblDate.Left());
+  // The place of the press: by now the pointer may be elsewhere.
+  const int index = OnDate ? Program::kDateArea : SingleAt(SingleButtons, {x, y});
+  program_.CurSingle = index;
+  press_ = {.On = PressOn::Single, .Index = index, .X = x, .Y = y};
+  if (MenuUp()) strip_.FrameDragging = true;
+  // The bare parts of the box are the strip's frame, and so is a separator for the left button.
+  const bool bare = !Has(index) || (button == forms::MouseButton::Left && !IsButton(index));
+  if (bare) {
+    ToFrame(button, shift, x, y);
+  } else if (button == forms::MouseButton::Left && !MenuUp()) {
+    BeginCarry(index);
+  }
+}
+
+void SingleRow::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x,
+                                          float y) {
+  if (carrying_) {
+    if (FrameHasMoved({press_.X, press_.Y}, {x, y}, strip_.TwipsX, strip_.TwipsY)) {
+      press_.Moved = true;
+    }
+    if (press_.Moved) FollowCarry(down, shift);
+    return;
+  }
+  const bool anyDown = down != forms::MouseButton::None;
+  if (!anyDown) press_.On = PressOn::Nothing;
+  if (!anyDown || press_.On == PressOn::Frame) {
+    strip_.Form_MouseMove(down, shift, x + strip_.picSingleButton.Left(),
+                          y + strip_.picSingleButton.Top());
+  }
+  if (!anyDown && strip_.IsLoaded() && !program_.Entry.ItemDragging) sMouseMove();
+}
+
+void SingleRow::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x,
+                                        float y) {
+  program_.SetHint("");
+  const Press press = std::exchange(press_, {});
+  if (carrying_) {
+    // The left button is still down when the right one drops a copy.
+    if (button != forms::MouseButton::Left) press_.On = PressOn::Spent;
+    EndCarry(press, button, shift);
+    return;
+  }
+  if (program_.Entry.ItemDragging || press.On == PressOn::Spent) return;
+  if (button == forms::MouseButton::Right && OffersPopup(press)) {
+    if (const int index = GetCurIndex(); Has(index)) {
+      ShowSinglePopup(index, shift.Ctrl);
+    } else {
+      ShowRowPopup();
+    }
+  } else if (press.On == PressOn::Frame) {
+    strip_.Form_MouseUp(button, shift, x + strip_.picSingleButton.Left(),
+                        y + strip_.picSingleButton.Top());
+  } else if (strip_.FrameDragging) {
+    // Pressed while a menu was up: the release only closes it.
+    strip_.FrameDragging = false;
+    CloseMenus();
+  }
+}
+
+// True if a right release is one on the row: inside its box, beside the date, and no pull.
+bool SingleRow::OffersPopup(const Press& press) const {
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  return program_.Services.Desktop.WindowAt(pointer) == strip_.picSingleButton.hWnd() &&
+         press.Index != Program::kDateArea && !(press.On == PressOn::Frame && strip_.FrameMoved);
+}
+
+void SingleRow::picSingleButton_DblClick() {
+  // The second press of a quick pair is no press of its own on a button.
+  press_ = {.On = PressOn::Spent};
+  if (program_.Entry.ItemDragging) return;
+  if (OnDate) {
+    strip_.lblDate_DblClick();
+    return;
+  }
+  if (!IsButton(GetCurIndex())) return;
+  if (!strip_.FrameMoved && !program_.OptionFlags.Is(11)) RunSingleButton();
+}
+
+void SingleRow::CloseMenus() {
+  program_.MenuOpen = true;
+  strip_.ResetMenu();
+}
+
+// ---- running ----
+
+void SingleRow::RunSingleButton() {
+  if (program_.Entry.ItemDragging || running_ || program_.StartingUp) return;
+  const forms::FlagScope running(running_);
+  program_.RestoreBusy = false;
+  strip_.FrameDragging = false;
+  strip_.FrameMoved = false;
+  const int index = program_.CurSingle;
+  const bool runs = IsButton(index);
+  // Events run from here on, and the row may be another one after them.
+  const std::string command =
+      runs ? SingleButtons[static_cast<std::size_t>(index)].Command : std::string();
+  CloseMenus();
+  program_.SetHint("");
+  if (!runs || !strip_.IsLoaded()) return;
+  const forms::HourglassScope hourglass(program_.Windows);
+  if (command.empty()) {
+    program_.Say(strip_.hWnd(), kNoCommandText, forms::msgbox::IconStop | forms::msgbox::OnTop);
+  } else {
+    LaunchItem(program_, command);
+  }
+}
+
+// ---- carrying ----
+
+void SingleRow::BeginCarry(int index) {
+  const SingleRect& single = SingleButtons[static_cast<std::size_t>(index)];
+  carrying_ = true;
+  EntryEdit& entry = program_.Entry;
+  entry.ItemDragging = true;
+  strip_.Timer2.SetEnabled(true);
+  program_.MenuOpen = true;
+  entry.CurTitle = single.Title;
+  entry.CurIcon = single.Icon;
+  entry.CurCommand = single.Command;
+  entry.CurMenuTag = kSinglesTag;
+  entry.CurFile = single.File;
+  entry.CurRecord = 1;
+  CopyEntry(entry);
+  const std::string icon = CarriedIcon(single);
+  if (program_.Ports.DragImage != nullptr) program_.Ports.DragImage->SetDragImage(icon);
+}
+
+void SingleRow::FollowCarry(forms::MouseButton down, forms::ShiftState shift) {
+  if (down == forms::MouseButton::None || !program_.Entry.ItemDragging) {
+    // The release went to another program.
+    press_ = {};
+    StopCarry();
+    CloseMenus();
+    return;
+  }
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  const float x = static_cast<float>(pointer.x) * strip_.TwipsX;
+  const float y = static_cast<float>(pointer.y) * strip_.TwipsY;
+  ShowHover(GetCurIndex());
+  if (under == strip_.picToolbar.hWnd()) {
+    strip_.picToolbar_MouseMove(down, shift, x - strip_.Left() - strip_.picToolbar.Left(),
+                                y - strip_.Top() - strip_.picToolbar.Top());
+  } else if (strip_.IsOverMenu(under)) {
+    program_.Ports.QMenu->mMouseMove(x, y);
+  }
+}
+
+// A press that did not move is a click; anything else is a drop where the pointer is.
+void SingleRow::EndCarry(const Press& press, forms::MouseButton released, forms::ShiftState shift) {
+  carrying_ = false;
+  strip_.Timer2.SetEnabled(false);
+  if (press.Moved) {
+    const forms::FlagScope dropping(program_.ItemDropping);
+    DropCarried(released, shift);
+  }
+  StopCarry();
+  if (!strip_.IsLoaded()) return;
+  const bool clicked = !press.Moved && released == forms::MouseButton::Left;
+  if (clicked && program_.OptionFlags.Is(11)) {
+    program_.CurSingle = press.Index;
+    RunSingleButton();
+  } else if (!MenuUp()) {
+    CloseMenus();
+  }
+  program_.CurSingle = 0;
+  ShowHover(0);
+}
+
+void SingleRow::DropCarried(forms::MouseButton released, forms::ShiftState shift) {
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  if (under == strip_.picSingleButton.hWnd()) {
+    DoItemDrag(released);
+  } else if (under == strip_.picToolbar.hWnd()) {
+    const int button = ButtonAt(strip_.ToolbarButtons, strip_.PlaceOnScreen(), pointer, 0, false);
+    if (button > 0) strip_.DoButtonDrag(button, released);
+  } else if (strip_.IsOverMenu(under)) {
+    // In a menu it is Ctrl that copies.
+    if (released == forms::MouseButton::Right) shift.Ctrl = true;
+    program_.Ports.QMenu->DoItemDrag(shift);
+  }
+}
+
+void SingleRow::StopCarry() {
+  carrying_ = false;
+  AbandonCarry(program_);
+}
+
+// ---- right clicks ----
+
+// Option 19 tells which of the two popups needs the Ctrl key.
+void SingleRow::ShowSinglePopup(int index, bool ctrl) {
+  const SingleRect single = SingleButtons[static_cast<std::size_t>(index)];
+  CloseMenus();
+  if (!strip_.IsLoaded()) return;
+  EntryEdit& entry = program_.Entry;
+  entry.CurTitle = single.Title;
+  entry.CurIcon = single.Icon;
+  entry.CurCommand = single.Command;
+  entry.CurMenuTag = kSinglesTag;
+  entry.CurFile = single.File;
+  entry.CurRecord = 1;
+  const bool shell = program_.OptionFlags.Is(19) == ctrl;
+  if (!shell) {
+    if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup();
+  } else if (program_.Ports.SpecialFolders != nullptr && !single.Command.empty()) {
+    program_.Ports.SpecialFolders->ShowContextMenu(
+        single.Command, {}, program_.Services.Pointer.PointerPosition(), strip_.hWnd());
+  }
+}
+
+// On the bare row the popup can paste behind the last button.
+void SingleRow::ShowRowPopup() { strip_.ShowFramePopup(kSinglesTag); }
+
+}  // namespace corvelle

@@ -1,0 +1,342 @@
+// Single buttons carried to other places, edited through the popup's commands, and made of files.
+
+#include <gtest/gtest.h>
+
+#include "core/EntryCommands.h"
+#include "toolbar/SinglesDesk.h"
+
+namespace corvelle {
+namespace {
+
+constexpr const char* kMenus = "C:\\Corvelle\\Menus\\";
+
+struct DropDesk : SinglesDesk {
+  explicit DropDesk(const std::string& titles = "abcd") {
+    PutSingles(titles);
+    Start();
+  }
+  std::string File(int number) const { return kMenus + SingleFileName(number); }
+  /// Makes an entry of the first menu the carried one, as a carry from there does.
+  void CarryFromMenu(const MenuRecord& item) {
+    const std::string path = kMenus + MenuFileName(1);
+    World.Files.Put(path, Records({Entry("Menu 1", "Button"), item}));
+    EntryEdit& entry = TheProgram.Entry;
+    entry.CurTitle = item.FTitle;
+    entry.CurIcon = item.FIcon;
+    entry.CurCommand = item.FName;
+    entry.CurMenuTag = "F2";
+    entry.CurFile = path;
+    entry.CurRecord = 2;
+    entry.ItemDragging = true;
+  }
+  std::size_t RecordsOfMenu() const {
+    return World.Files.Get(std::string(kMenus) + MenuFileName(1))->size() / kRecordLength;
+  }
+};
+
+TEST(SingleCarry, APressShowsTheEntryAndFillsTheClipboard) {
+  DropDesk desk;
+  desk.PointAtSingle(2);
+  desk.World.Desktop.Press();
+  EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_TRUE(desk.TheProgram.MenuOpen);
+  EXPECT_EQ(desk.Parts.Asked, std::vector<std::string>{"image C:\\Tools\\b.exe"});
+  EXPECT_EQ(desk.TheProgram.Entry.ClipTitle, "b");
+  EXPECT_EQ(desk.TheProgram.Entry.CurMenuTag, "SingleButtons");
+  EXPECT_EQ(desk.TheProgram.Entry.CurFile, desk.File(2));
+  EXPECT_EQ(desk.TheProgram.Entry.CurRecord, 1);
+  EXPECT_EQ(desk.Parts.Hint, "");
+}
+
+TEST(SingleCarry, AFolderOfTheShellByItsNumberIsShownWithItsTitle) {
+  SinglesDesk desk;
+  desk.PutSingle(1, Entry("Drives", "CSIDL_17", "CSIDL_DRIVES"));
+  desk.PutSingle(2, Entry("Panel", "CSIDL_CONTROLS", "CSIDL_CONTROLS"));
+  desk.Start();
+  desk.PointAtSingle(1);
+  desk.World.Desktop.Press();
+  EXPECT_EQ(desk.Parts.Asked[0], "image Drives\\CSIDL_17");
+  EXPECT_EQ(desk.TheProgram.Entry.CurIcon, "CSIDL_17");
+  desk.PointAt(desk.BarePlace());
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.OnDisk(), "1Panel 2Drives");
+  desk.PointAtSingle(1);
+  desk.World.Desktop.Press();
+  EXPECT_EQ(desk.Parts.Asked.back(), "image CSIDL_CONTROLS");
+  desk.World.Desktop.Release();
+}
+
+TEST(SingleCarry, ToAnotherButtonMovesItInFront) {
+  DropDesk desk;
+  desk.Carry(4, desk.MiddleOf(2));
+  EXPECT_EQ(desk.Row(), "adbc");
+  EXPECT_EQ(desk.OnDisk(), "1a 2d 3b 4c");
+  desk.Carry(1, desk.MiddleOf(3));
+  EXPECT_EQ(desk.OnDisk(), "1d 2a 3b 4c");
+  EXPECT_TRUE(desk.Started().empty());
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_EQ(desk.TheProgram.CurSingle, 0);
+}
+
+TEST(SingleCarry, ToTheNextButtonChangesNothing) {
+  DropDesk desk;
+  desk.Carry(2, desk.MiddleOf(3));
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
+}
+
+TEST(SingleCarry, ToFreeSpaceMovesItToTheEnd) {
+  DropDesk desk;
+  desk.Carry(2, desk.BarePlace());
+  EXPECT_EQ(desk.OnDisk(), "1a 2c 3d 4b");
+}
+
+TEST(SingleCarry, OnItselfAndOnOtherProgramsChangesNothing) {
+  DropDesk desk;
+  const PixelPoint at = desk.MiddleOf(2);
+  desk.CarryTo(2, {at.x, 300});
+  desk.PointAt(at);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
+  desk.Carry(2, {200, 500});
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
+  EXPECT_TRUE(desk.Started().empty());
+  EXPECT_EQ(desk.Parts.Times("no image"), 2);
+}
+
+TEST(SingleCarry, TheRightButtonCopies) {
+  DropDesk desk;
+  const float width = desk.Strip.Width();
+  desk.CarryTo(4, desk.MiddleOf(2));
+  desk.World.Desktop.Click(forms::MouseButton::Right);
+  EXPECT_EQ(desk.OnDisk(), "1a 2d 3b 4c 5d");
+  EXPECT_EQ(desk.Strip.Width(), width + 18 * 15);
+  // The left button is still down: it neither pulls the strip nor starts anything.
+  const float left = desk.Strip.Left();
+  desk.PointAt({desk.MiddleOf(2).x - 60, 5});
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Strip.Left(), left);
+  EXPECT_TRUE(desk.Started().empty());
+  EXPECT_TRUE(desk.Parts.Times("popup") == 0);
+}
+
+TEST(SingleCarry, TheRightButtonCopiesToTheEnd) {
+  DropDesk desk;
+  desk.CarryTo(1, desk.BarePlace());
+  desk.World.Desktop.Click(forms::MouseButton::Right);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d 5a");
+}
+
+TEST(SingleCarry, InTwoRowsAButtonGoesToTheOtherRow) {
+  SinglesDesk desk;
+  desk.SetOption(24, true);
+  desk.SetOption(26, true);
+  desk.PutSingles("abc");
+  desk.StartAt(Edge::Right);
+  desk.Carry(3, desk.MiddleOf(2));
+  EXPECT_EQ(desk.OnDisk(), "1a 2c 3b");
+  const std::vector<SingleRect>& row = desk.Strip.Singles.SingleButtons;
+  EXPECT_EQ(row[2].Title, "c");
+  EXPECT_EQ(row[1].Top, row[2].Top);
+  EXPECT_GE(desk.Edge.Fitted, 2);
+}
+
+TEST(SingleCarry, OverAMenuButtonItsMenuOpensAndTheDropGoesThere) {
+  DropDesk desk;
+  desk.CarryTo(2, desk.Middle(3));
+  EXPECT_EQ(desk.MenuUp(), 3);
+  const PixelRect menu = desk.World.Desktop.BoundsOf(desk.Menu.hWnd());
+  desk.PointAt({menu.left + 20, menu.top + 40});
+  EXPECT_GE(desk.Menu.Times("mMouseMove"), 1);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Menu.Times("DoItemDrag"), 1);
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_TRUE(desk.Started().empty());
+}
+
+TEST(SingleCarry, ThatIsLostEndsWithTheNextMove) {
+  DropDesk desk;
+  desk.CarryTo(2, {200, 500});
+  desk.Strip.picSingleButton_MouseMove(forms::MouseButton::None, {}, 0, 0);
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_EQ(desk.Parts.Times("no image"), 1);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
+}
+
+TEST(SingleCarry, ADiskThatRefusesLeavesTheRow) {
+  DropDesk desk;
+  desk.World.Files.SetReadOnly(desk.File(3), true);
+  desk.Carry(4, desk.MiddleOf(1));
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
+  EXPECT_EQ(desk.Row(), "abcd");
+}
+
+TEST(SingleCarry, WhileAPopupCommandWritesADropWaits) {
+  DropDesk desk;
+  desk.TheProgram.ItemActionBusy = true;
+  desk.Carry(4, desk.MiddleOf(1));
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+}
+
+// ---- from a menu ----
+
+TEST(DoItemDrag, AnItemOfAMenuMovesIntoTheRow) {
+  DropDesk desk("ab");
+  desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
+  desk.PointAtSingle(2);
+  desk.TheProgram.Entry.ItemDragging = true;
+  desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
+  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
+  EXPECT_EQ(desk.RecordsOfMenu(), 1U);
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+}
+
+TEST(DoItemDrag, WithTheRightButtonItStaysInTheMenuToo) {
+  DropDesk desk("ab");
+  desk.PointAt(desk.BarePlace());
+  desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
+  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Right);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
+  EXPECT_EQ(desk.RecordsOfMenu(), 2U);
+}
+
+TEST(DoItemDrag, WhatTheRowCannotTakeStaysInTheMenu) {
+  DropDesk desk("ab");
+  desk.World.Files.SetReadOnly(desk.File(2), true);
+  desk.PointAtSingle(1);
+  desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
+  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b");
+  EXPECT_EQ(desk.RecordsOfMenu(), 2U);
+}
+
+TEST(DoItemDrag, WithoutAnEntryDropsNothing) {
+  DropDesk desk("ab");
+  desk.PointAt(desk.BarePlace());
+  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b");
+}
+
+// ---- the popup's commands ----
+
+TEST(SingleCommands, DeletingTheMiddleOneAndUndoingItBringsItBack) {
+  DropDesk desk("abc");
+  desk.ClickSingle(2, forms::MouseButton::Right);
+  RememberForUndo(desk.TheProgram.Entry);
+  const float right = desk.Strip.Left() + desk.Strip.Width();
+  DeleteItem(desk.TheProgram, false);
+  EXPECT_EQ(desk.OnDisk(), "1a 2c");
+  EXPECT_EQ(desk.Row(), "ac");
+  EXPECT_EQ(desk.Strip.Left() + desk.Strip.Width(), right);
+  UndoDeleteItem(desk.TheProgram);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c");
+  EXPECT_EQ(desk.Row(), "abc");
+}
+
+TEST(SingleCommands, UndoingTheLastOnePutsItToTheEnd) {
+  DropDesk desk("abc");
+  desk.ClickSingle(3, forms::MouseButton::Right);
+  RememberForUndo(desk.TheProgram.Entry);
+  DeleteItem(desk.TheProgram, false);
+  UndoDeleteItem(desk.TheProgram);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c");
+}
+
+TEST(SingleCommands, PasteGoesBeforeTheButtonOrBehindTheLastOnTheBareRow) {
+  DropDesk desk("ab");
+  desk.ClickSingle(2, forms::MouseButton::Right);
+  SetClipboard(desk.TheProgram.Entry, Entry("x", "", "C:\\x.exe"));
+  PasteItem(desk.TheProgram);
+  EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
+  desk.PointAt(desk.BarePlace());
+  desk.World.Desktop.Click(forms::MouseButton::Right);
+  PasteItem(desk.TheProgram);
+  EXPECT_EQ(desk.OnDisk(), "1a 2x 3b 4x");
+}
+
+TEST(AddNewButton, MakesAMenuBehindTheOthers) {
+  DropDesk desk("ab");
+  const float right = desk.Strip.Left() + desk.Strip.Width();
+  desk.Strip.AddNewButton();
+  EXPECT_EQ(desk.Strip.ButtonCount, 4);
+  EXPECT_EQ(desk.World.Files.Get(std::string(kMenus) + MenuFileName(3)),
+            Records({Entry("New Button", "Button"), Entry("New Menu Item", "New")}));
+  // The strip grew to the left by what the button takes.
+  EXPECT_EQ(desk.Strip.Left() + desk.Strip.Width(), right);
+  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_EQ(desk.Row(), "ab");
+}
+
+TEST(AddNewButton, NeverLeavesTheScreen) {
+  DropDesk desk("ab");
+  desk.Strip.SetLeft(30);
+  desk.Strip.AddNewButton();
+  EXPECT_EQ(desk.Strip.Left(), 0);
+}
+
+TEST(AddNewButton, OnADiskThatRefusesThereIsNone) {
+  DropDesk desk("ab");
+  desk.World.Files.Protect("C:\\Corvelle\\Menus");
+  desk.World.Desktop.Answer("75 - Path/File access error", forms::msgbox::AnswerOk);
+  desk.Strip.AddNewButton();
+  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+}
+
+// ---- files of other programs ----
+
+TEST(DropFilesOnSingles, PutsThemBeforeTheButtonInTheirOrder) {
+  DropDesk desk("ab");
+  desk.PointAtSingle(2);
+  desk.Strip.Singles.DropFilesOnSingles({"C:\\y.txt", "C:\\x.txt"}, forms::MouseButton::Left);
+  EXPECT_EQ(desk.OnDisk(), "1a 2x 3y 4b");
+  EXPECT_EQ(desk.World.Files.Get(desk.File(2)), Records({Entry("x", "C:\\x.txt", "C:\\x.txt")}));
+  EXPECT_EQ(desk.Row(), "axyb");
+  EXPECT_EQ(desk.Strip.Width(), desk.Strip.picSingleButton.Right() + 15);
+}
+
+TEST(DropFilesOnSingles, OnFreeSpaceTheyFollowTheLast) {
+  DropDesk desk("ab");
+  desk.PointAt(desk.BarePlace());
+  desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Right);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
+}
+
+TEST(DropFilesOnSingles, WithTheRightButtonTheButtonOpensTheFirst) {
+  DropDesk desk("ab");
+  desk.PointAtSingle(2);
+  desk.Strip.Singles.DropFilesOnSingles({"C:\\y.txt", "C:\\x.txt"}, forms::MouseButton::Right);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b");
+  ASSERT_EQ(desk.World.Shell.Log().size(), 1U);
+  EXPECT_EQ(desk.World.Shell.Log()[0].File, "C:\\Tools\\b.exe");
+  EXPECT_EQ(desk.World.Shell.Log()[0].Parameters, "\"C:\\x.txt\"");
+}
+
+TEST(DropFilesOnSingles, AtAnEdgeTheRowIsFittedAndTheStripShown) {
+  SinglesDesk desk;
+  desk.PutSingles("a");
+  desk.StartAt(Edge::Bottom);
+  desk.TheProgram.AutoHide = true;
+  const int fitted = desk.Edge.Fitted;
+  desk.PointAtSingle(1);
+  desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Left);
+  EXPECT_EQ(desk.Edge.Fitted, fitted + 1);
+  EXPECT_EQ(desk.Edge.Revealed, 1);
+  desk.TheProgram.AutoHide = false;
+}
+
+TEST(DropFilesOnSingles, ADiskThatRefusesLeavesTheRow) {
+  DropDesk desk("ab");
+  desk.World.Files.SetReadOnly(desk.File(2), true);
+  desk.PointAtSingle(1);
+  desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Left);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b");
+}
+
+}  // namespace
+}  // namespace corvelle
