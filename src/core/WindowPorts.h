@@ -324,7 +324,9 @@ class SpecialFoldersPort {
 
   /// Index of the folder's icon in the system's list; negative when the name is not known.
   virtual int SpecialFolderIconIndex(std::string_view name) = 0;
-  /// Opens the folder, or an entry of it; `argument` may be empty.
+  /// Opens the folder, or an entry of it that the name tells ("Mouse\CSIDL_CONTROLS"). `argument`
+  /// may be empty; in double quotes it is a file for the entry to open, else the title of the
+  /// entry.
   virtual void OpenSpecialFolder(std::string_view name, std::string_view argument) = 0;
   /// The shell's context menu at a point of the screen, in pixels, for an entry's command: a path,
   /// or a special folder with the title of one of its entries (empty: the folder itself). True when

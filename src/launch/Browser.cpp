@@ -6,6 +6,7 @@
 #include "launch/BrowserRules.h"
 #include "launch/CommandForm.h"
 #include "launch/OpenMail.h"
+#include "launch/RegistryValue.h"
 #include "platform/DdeClient.h"
 #include "platform/FileAssociations.h"
 #include "platform/FileSystem.h"
@@ -96,8 +97,10 @@ void Browser::InitBrowser() {
 std::string Browser::ServiceName() {
   const ServiceSource source = ServiceSourceOf(BrowserCommand);
   for (const std::string_view key : source.Keys) {
-    std::string name = program_.Services.Keys.Text(RegistryRoot::ClassesRoot, key, "").value_or("");
-    if (!name.empty()) return name;
+    std::string name;
+    const bool read =
+        ReadRegistryValue(program_.Services.Keys, RegistryRoot::ClassesRoot, key, "", name);
+    if (read && !name.empty()) return name;
   }
   return std::string(source.Fallback);
 }

@@ -4,6 +4,7 @@
 #include "core/Program.h"
 #include "launch/Browser.h"
 #include "launch/BrowserRules.h"
+#include "launch/RegistryValue.h"
 #include "platform/DesktopWindows.h"
 #include "platform/FileSystem.h"
 #include "platform/Registry.h"
@@ -86,7 +87,7 @@ std::string Browser::TitleOfAnyBrowser(std::string_view url) {
 bool Browser::IsNetscapeOnTop(WindowId window) {
   if (!netscapeKnown_) {
     netscapeKnown_ =
-        program_.Services.Keys.Text(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser") ||
+        program_.Services.Keys.Value(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser") ||
         ContainsNoCase(ProgramForPages().value_or(""), "Netscape");
   }
   if (!*netscapeKnown_) return false;
@@ -120,9 +121,12 @@ void Browser::FindBookmarkDir() {
   const Registry& keys = program_.Services.Keys;
   FileSystem& files = program_.Services.Files;
   std::string folder;
-  if (const auto user = keys.Text(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser")) {
-    const std::string userKey = std::string(kUsersKey) + "\\" + *user;
-    folder = keys.Text(RegistryRoot::LocalMachine, userKey, "DirRoot").value_or("");
+  std::string user;
+  if (ReadRegistryValue(keys, RegistryRoot::LocalMachine, kUsersKey, "CurrentUser", user)) {
+    const std::string userKey = std::string(kUsersKey) + "\\" + user;
+    // Without that value there is no folder yet.
+    static_cast<void>(
+        ReadRegistryValue(keys, RegistryRoot::LocalMachine, userKey, "DirRoot", folder));
   }
   if (folder.empty()) folder = FolderOfOnlyUser();
   if (folder.empty()) {

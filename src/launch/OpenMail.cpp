@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/Program.h"
+#include "launch/RegistryValue.h"
 #include "platform/Registry.h"
 #include "platform/ShellExec.h"
 
@@ -19,9 +20,11 @@ constexpr std::string_view kMailError = "Unable to communicate with your default
 void OpenMail(Program& program, std::string_view address) {
   ShellExec& shell = program.Services.Shell;
   if (shell.Open(address, std::nullopt, std::nullopt)) return;
-  const std::optional<std::string> command =
-      program.Services.Keys.Text(RegistryRoot::ClassesRoot, kMailKey, "");
-  if (command && shell.Open(*command, address, std::nullopt)) return;
+  std::string command;
+  if (ReadRegistryValue(program.Services.Keys, RegistryRoot::ClassesRoot, kMailKey, "", command) &&
+      shell.Open(command, address, std::nullopt)) {
+    return;
+  }
   program.Say(program.ToolbarWindow(), kMailError, forms::msgbox::OnTop);
 }
 

@@ -6,7 +6,7 @@
 #include "base/Sort.h"
 #include "base/Text.h"
 #include "core/MenuRecord.h"
-#include "core/SpecialFolderNames.h"
+#include "core/SpecialFolders.h"
 
 namespace corvelle {
 

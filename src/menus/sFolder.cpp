@@ -4,7 +4,7 @@
 #include "base/FieldText.h"
 #include "base/Text.h"
 #include "core/Program.h"
-#include "core/SpecialFolderNames.h"
+#include "core/SpecialFolders.h"
 #include "icons/RecycleIcon.h"
 #include "menus/FolderRules.h"
 #include "menus/GeneratedMenu.h"

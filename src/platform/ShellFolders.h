@@ -35,10 +35,12 @@ class ShellFolders {
   /// Path of a folder that lies on the disk; nothing for another.
   [[nodiscard]] virtual std::optional<std::string> PathOf(int folder) = 0;
 
-  /// Does what a double click on the folder, or on an entry in it, does. False when there is no
-  /// such folder or entry, or the shell refuses.
+  /// Does what a double click on the folder, or on an entry in it, does; `argument` goes with the
+  /// entry as its command line, where it takes one, and may be empty. False when there is no such
+  /// folder or entry, or the shell refuses.
   virtual bool OpenFolder(int folder, WindowId owner) = 0;
-  virtual bool OpenEntry(int folder, std::string_view name, WindowId owner) = 0;
+  virtual bool OpenEntry(int folder, std::string_view name, std::string_view argument,
+                         WindowId owner) = 0;
 
   /// Shows the shell's context menu for a folder, for an entry in it, for a file or folder of the
   /// disk, and carries out what is chosen. True when a command ran, false when none was chosen or

@@ -1,6 +1,8 @@
 #include "win32/Win32Registry.h"
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 #include "win32/UniqueHandle.h"
 #include "win32/Wide.h"
@@ -23,20 +25,42 @@ HKEY RootOf(RegistryRoot root) {
   return HKEY_LOCAL_MACHINE;
 }
 
-/// The bytes of a value as text. Whoever wrote it may have left out the zero at its end, or the
-/// second half of its last character.
-std::optional<std::wstring> RawText(HKEY key, const std::wstring& name, DWORD& type) {
-  DWORD bytes = 0;
-  if (RegQueryValueExW(key, name.c_str(), nullptr, &type, nullptr, &bytes) != ERROR_SUCCESS)
-    return std::nullopt;
-  if (type != REG_SZ && type != REG_EXPAND_SZ) return std::nullopt;
-  std::wstring text(bytes / sizeof(wchar_t) + 1, L'\0');
-  bytes = static_cast<DWORD>(text.size() * sizeof(wchar_t));
-  if (RegQueryValueExW(key, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(text.data()),
-                       &bytes) != ERROR_SUCCESS) {
+struct RawValue {
+  DWORD Type = REG_NONE;
+  std::vector<unsigned char> Bytes;
+};
+
+std::optional<RawValue> Read(RegistryRoot root, std::string_view key, std::string_view name) {
+  UniqueRegistryKey open;
+  if (RegOpenKeyExW(RootOf(root), Wide(key).c_str(), 0, KEY_QUERY_VALUE, open.Receive()) !=
+      ERROR_SUCCESS) {
     return std::nullopt;
   }
-  text.resize(bytes / sizeof(wchar_t));
+  const std::wstring wideName = Wide(name);
+  RawValue value;
+  DWORD size = 0;
+  if (RegQueryValueExW(open.Get(), wideName.c_str(), nullptr, &value.Type, nullptr, &size) !=
+      ERROR_SUCCESS) {
+    return std::nullopt;
+  }
+  // One more, so that there is a place for the bytes of an empty value too.
+  value.Bytes.resize(size + 1);
+  size = static_cast<DWORD>(value.Bytes.size());
+  if (RegQueryValueExW(open.Get(), wideName.c_str(), nullptr, &value.Type, value.Bytes.data(),
+                       &size) != ERROR_SUCCESS) {
+    return std::nullopt;
+  }
+  value.Bytes.resize(size);
+  return value;
+}
+
+bool IsText(const RawValue& value) { return value.Type == REG_SZ || value.Type == REG_EXPAND_SZ; }
+
+/// The bytes of a value as text. Whoever wrote it may have left out the zero at its end, or the
+/// second half of its last character.
+std::wstring RawText(const std::vector<unsigned char>& bytes) {
+  std::wstring text(bytes.size() / sizeof(wchar_t), L'\0');
+  std::memcpy(text.data(), bytes.data(), text.size() * sizeof(wchar_t));
   text.resize(std::min(text.find(L'\0'), text.size()));
   return text;
 }
@@ -53,15 +77,25 @@ std::wstring Expanded(const std::wstring& text) {
 
 std::optional<std::string> Win32Registry::Text(RegistryRoot root, std::string_view key,
                                                std::string_view name) const {
-  UniqueRegistryKey open;
-  if (RegOpenKeyExW(RootOf(root), Wide(key).c_str(), 0, KEY_QUERY_VALUE, open.Receive()) !=
-      ERROR_SUCCESS) {
-    return std::nullopt;
+  auto value = Value(root, key, name);
+  if (!value || !std::holds_alternative<std::string>(*value)) return std::nullopt;
+  return std::get<std::string>(std::move(*value));
+}
+
+std::optional<RegistryValue> Win32Registry::Value(RegistryRoot root, std::string_view key,
+                                                  std::string_view name) const {
+  auto value = Read(root, key, name);
+  if (!value) return std::nullopt;
+  if (IsText(*value)) {
+    const std::wstring text = RawText(value->Bytes);
+    return RegistryValue(Narrow(value->Type == REG_EXPAND_SZ ? Expanded(text) : text));
   }
-  DWORD type = 0;
-  const std::optional<std::wstring> text = RawText(open.Get(), Wide(name), type);
-  if (!text) return std::nullopt;
-  return Narrow(type == REG_EXPAND_SZ ? Expanded(*text) : *text);
+  std::uint32_t number = 0;
+  if (value->Type == REG_DWORD && value->Bytes.size() == sizeof(number)) {
+    std::memcpy(&number, value->Bytes.data(), sizeof(number));
+    return RegistryValue(number);
+  }
+  return RegistryValue(std::move(value->Bytes));
 }
 
 std::vector<std::string> Win32Registry::SubKeys(RegistryRoot root, std::string_view key) const {

@@ -9,6 +9,8 @@ class Win32Registry final : public Registry {
  public:
   std::optional<std::string> Text(RegistryRoot root, std::string_view key,
                                   std::string_view name) const override;
+  std::optional<RegistryValue> Value(RegistryRoot root, std::string_view key,
+                                     std::string_view name) const override;
   std::vector<std::string> SubKeys(RegistryRoot root, std::string_view key) const override;
 };
 

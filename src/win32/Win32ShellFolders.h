@@ -16,7 +16,8 @@ class Win32ShellFolders final : public ShellFolders {
   std::optional<ShellFolderEntry> Folder(int folder) override;
   std::optional<std::string> PathOf(int folder) override;
   bool OpenFolder(int folder, WindowId owner) override;
-  bool OpenEntry(int folder, std::string_view name, WindowId owner) override;
+  bool OpenEntry(int folder, std::string_view name, std::string_view argument,
+                 WindowId owner) override;
   bool FolderMenu(int folder, PixelPoint at, WindowId owner) override;
   bool EntryMenu(int folder, std::string_view name, PixelPoint at, WindowId owner) override;
   bool FileMenu(std::string_view path, PixelPoint at, WindowId owner) override;

@@ -1,10 +1,8 @@
 #include "win32/Win32ShellLinks.h"
 
 #include "win32/ComPointer.h"
+#include "win32/ItemIds.h"
 #include "win32/Wide.h"
-
-// After the headers of Windows that it builds on.
-#include <shlobj.h>
 
 namespace corvelle::win32 {
 
@@ -12,11 +10,6 @@ namespace {
 
 // Arguments can be longer than a path.
 constexpr int kTextSize = 4096;
-
-struct ItemTraits : NullHandleTraits<ITEMIDLIST*> {
-  static void Close(ITEMIDLIST* item) noexcept { CoTaskMemFree(item); }
-};
-using UniqueItem = UniqueHandle<ItemTraits>;
 
 bool HoldsNul(std::string_view text) { return text.find('\0') != std::string_view::npos; }
 

@@ -26,6 +26,8 @@ class ContractDesktop {
   /// Takes the other window away, as its program would.
   virtual void CloseOther() = 0;
   virtual void MinimizeOther() = 0;
+  /// A window that belongs to the other one, as a dialog does.
+  virtual WindowId OpenOwned() = 0;
   /// Lets events run for a while.
   virtual void Settle() = 0;
 };
@@ -71,6 +73,15 @@ TEST_P(DesktopContract, RemembersThatAMinimizedWindowWasMaximized) {
   desktop_->Settle();
   desktop_->MinimizeOther();
   EXPECT_TRUE(Windows().RestoresMaximized(Other()));
+}
+
+TEST_P(DesktopContract, TellsAWindowThatBelongsToAnotherFromOneThatStandsAlone) {
+  EXPECT_TRUE(Windows().HasOwner(desktop_->OpenOwned()));
+  EXPECT_FALSE(Windows().HasOwner(Other()));
+  EXPECT_FALSE(Windows().HasOwner(kNoWindow));
+  const WindowId gone = Other();
+  desktop_->CloseOther();
+  EXPECT_FALSE(Windows().HasOwner(gone));
 }
 
 TEST_P(DesktopContract, AMessageWithoutAMeaningIsAnsweredWithZero) {

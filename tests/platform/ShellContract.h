@@ -38,8 +38,8 @@ class ContractShell {
   /// A file that holds exactly `Count` icons, at least one.
   virtual std::string IconFile() = 0;
   virtual int IconCount() = 0;
-  /// Puts text values under HKEY_CURRENT_USER\Software\CorvelleContract.
-  virtual void SetValue(const std::string& name, const std::string& text) = 0;
+  /// Puts values under HKEY_CURRENT_USER\Software\CorvelleContract.
+  virtual void SetValue(const std::string& name, const RegistryValue& value) = 0;
 };
 
 using ContractShellMaker = std::unique_ptr<ContractShell> (*)();
@@ -180,7 +180,7 @@ TEST_P(ShellContract, CountsTheIconsInsideFiles) {
 // The registry.
 
 TEST_P(ShellContract, NamesTheKeysBelowAKey) {
-  shell_->SetValue("Name", "Value");
+  shell_->SetValue("Name", std::string("Value"));
   const auto holds = [&](const char* key, std::string_view name) {
     for (const std::string& found : shell_->Keys().SubKeys(RegistryRoot::CurrentUser, key)) {
       if (EqualNoCase(found, name)) return true;
@@ -195,8 +195,8 @@ TEST_P(ShellContract, NamesTheKeysBelowAKey) {
 }
 
 TEST_P(ShellContract, ReadsTextValuesWithoutRegardToCase) {
-  shell_->SetValue("Name", "Value \xC3\xA4");
-  shell_->SetValue("", "Default");
+  shell_->SetValue("Name", std::string("Value \xC3\xA4"));
+  shell_->SetValue("", std::string("Default"));
   const auto text = [&](const char* key, const char* name) {
     return shell_->Keys().Text(RegistryRoot::CurrentUser, key, name);
   };
@@ -205,8 +205,27 @@ TEST_P(ShellContract, ReadsTextValuesWithoutRegardToCase) {
   EXPECT_EQ(text("Software\\CorvelleContract", ""), "Default");
 }
 
+TEST_P(ShellContract, ReadsValuesOfAllKindsAndOnlyTextsAsText) {
+  using Bytes = std::vector<unsigned char>;
+  const RegistryValue values[] = {std::string("\xD0\x96 text"), std::uint32_t{0},
+                                  std::uint32_t{4294967295}, Bytes{0, 255, 10}, Bytes{}};
+  for (const RegistryValue& value : values) {
+    shell_->SetValue("Name", value);
+    EXPECT_EQ(shell_->Keys().Value(RegistryRoot::CurrentUser, "Software\\CorvelleContract", "NAME"),
+              value)
+        << value.index();
+    EXPECT_EQ(shell_->Keys()
+                  .Text(RegistryRoot::CurrentUser, "Software\\CorvelleContract", "NAME")
+                  .has_value(),
+              std::holds_alternative<std::string>(value))
+        << value.index();
+  }
+  EXPECT_EQ(shell_->Keys().Value(RegistryRoot::CurrentUser, "Software\\CorvelleContract", "Other"),
+            std::nullopt);
+}
+
 TEST_P(ShellContract, MissingKeysAndValuesAreNothing) {
-  shell_->SetValue("Name", "Value");
+  shell_->SetValue("Name", std::string("Value"));
   const auto text = [&](RegistryRoot root, const char* key, const char* name) {
     return shell_->Keys().Text(root, key, name);
   };

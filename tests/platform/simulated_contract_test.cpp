@@ -14,6 +14,9 @@ class SimulatedDesktop final : public ContractDesktop {
   WindowId Other() override { return other_; }
   void CloseOther() override { world_.Desktop.CloseOther(other_); }
   void MinimizeOther() override { world_.Desktop.MinimizeOther(other_); }
+  WindowId OpenOwned() override {
+    return world_.Desktop.AddOtherWindow({.Title = "Contract owned", .HasOwner = true});
+  }
   void Settle() override { world_.Desktop.Advance(100); }
 
  private:
@@ -41,8 +44,8 @@ class SimulatedShell final : public ContractShell {
   std::string Folder() override { return "C:\\Contract\\"; }
   std::string IconFile() override { return "C:\\Tools\\run.exe"; }
   int IconCount() override { return 2; }
-  void SetValue(const std::string& name, const std::string& text) override {
-    world_.Keys.Set(RegistryRoot::CurrentUser, "Software\\CorvelleContract", name, text);
+  void SetValue(const std::string& name, const RegistryValue& value) override {
+    world_.Keys.Set(RegistryRoot::CurrentUser, "Software\\CorvelleContract", name, value);
   }
 
  private:

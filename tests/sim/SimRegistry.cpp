@@ -17,7 +17,7 @@ std::tuple<RegistryRoot, std::string, std::string> KeyOf(RegistryRoot root, std:
 }  // namespace
 
 void SimRegistry::Set(RegistryRoot root, std::string_view key, std::string_view name,
-                      std::string value) {
+                      RegistryValue value) {
   values_[KeyOf(root, key, name)] = std::move(value);
 }
 
@@ -27,6 +27,13 @@ void SimRegistry::Remove(RegistryRoot root, std::string_view key, std::string_vi
 
 std::optional<std::string> SimRegistry::Text(RegistryRoot root, std::string_view key,
                                              std::string_view name) const {
+  auto value = Value(root, key, name);
+  if (!value || !std::holds_alternative<std::string>(*value)) return std::nullopt;
+  return std::get<std::string>(std::move(*value));
+}
+
+std::optional<RegistryValue> SimRegistry::Value(RegistryRoot root, std::string_view key,
+                                                std::string_view name) const {
   const auto found = values_.find(KeyOf(root, key, name));
   if (found == values_.end()) return std::nullopt;
   return found->second;

@@ -1,25 +1,117 @@
 #include "sim/SimShellFolders.h"
 
-#include <utility>
+#include <algorithm>
+
+#include "sim/Complain.h"
 
 namespace corvelle::sim {
 
+namespace {
+
+constexpr int kFirstOwnIcon = 200;
+
+}  // namespace
+
+SimShellFolders::Contents& SimShellFolders::Make(int folder) {
+  const auto [place, made] = folders_.try_emplace(folder);
+  if (made) place->second.Self = {"Folder " + std::to_string(folder), kFirstOwnIcon + folder};
+  return place->second;
+}
+
 void SimShellFolders::Put(int folder, std::vector<ShellFolderEntry> entries) {
-  entries_[folder] = std::move(entries);
+  Contents& contents = Make(folder);
+  contents.Entries = std::move(entries);
+  contents.Broken = false;
+}
+
+void SimShellFolders::SetSelf(int folder, ShellFolderEntry self) {
+  Make(folder).Self = std::move(self);
+}
+
+void SimShellFolders::SetPath(int folder, std::string path) { Make(folder).Path = std::move(path); }
+
+void SimShellFolders::Break(int folder) { Make(folder).Broken = true; }
+
+void SimShellFolders::Remove(int folder) { folders_.erase(folder); }
+
+void SimShellFolders::Refuse(int folder, std::string name) {
+  refused_.emplace(folder, std::move(name));
+}
+
+void SimShellFolders::WhenOpened(int folder, std::string name, std::function<void()> action) {
+  actions_[{folder, std::move(name)}] = std::move(action);
 }
 
 std::optional<std::vector<ShellFolderEntry>> SimShellFolders::List(int folder) {
-  const auto found = entries_.find(folder);
-  if (found == entries_.end()) return std::nullopt;
-  return found->second;
+  ++listings_;
+  const auto found = folders_.find(folder);
+  if (found == folders_.end() || found->second.Broken) return std::nullopt;
+  return found->second.Entries;
 }
 
-std::optional<ShellFolderEntry> SimShellFolders::Folder(int) { return std::nullopt; }
-std::optional<std::string> SimShellFolders::PathOf(int) { return std::nullopt; }
-bool SimShellFolders::OpenFolder(int, WindowId) { return false; }
-bool SimShellFolders::OpenEntry(int, std::string_view, WindowId) { return false; }
-bool SimShellFolders::FolderMenu(int, PixelPoint, WindowId) { return false; }
-bool SimShellFolders::EntryMenu(int, std::string_view, PixelPoint, WindowId) { return false; }
-bool SimShellFolders::FileMenu(std::string_view, PixelPoint, WindowId) { return false; }
+std::optional<ShellFolderEntry> SimShellFolders::Folder(int folder) {
+  const auto found = folders_.find(folder);
+  if (found == folders_.end()) return std::nullopt;
+  return found->second.Self;
+}
+
+std::optional<std::string> SimShellFolders::PathOf(int folder) {
+  const auto found = folders_.find(folder);
+  if (found == folders_.end()) return std::nullopt;
+  return found->second.Path;
+}
+
+bool SimShellFolders::Holds(int folder, std::string_view name) const {
+  const auto found = folders_.find(folder);
+  if (found == folders_.end() || found->second.Broken) return false;
+  const std::vector<ShellFolderEntry>& entries = found->second.Entries;
+  return std::any_of(entries.begin(), entries.end(),
+                     [name](const ShellFolderEntry& entry) { return entry.Name == name; });
+}
+
+bool SimShellFolders::OpenFolder(int folder, WindowId owner) {
+  if (!folders_.contains(folder) || refused_.contains({folder, ""})) return false;
+  opened_.push_back({.Folder = folder, .Name = {}, .Argument = {}, .Owner = owner});
+  return true;
+}
+
+bool SimShellFolders::OpenEntry(int folder, std::string_view name, std::string_view argument,
+                                WindowId owner) {
+  const std::pair<int, std::string> place{folder, name};
+  if (!Holds(folder, name) || refused_.contains(place)) return false;
+  opened_.push_back(
+      {.Folder = folder, .Name = place.second, .Argument = std::string(argument), .Owner = owner});
+  if (const auto action = actions_.find(place); action != actions_.end()) action->second();
+  return true;
+}
+
+bool SimShellFolders::Show(ShownMenu menu) {
+  if (choices_.empty()) {
+    Complain("a menu of the shell came up that nobody expected: " + menu.Name);
+    return false;
+  }
+  menu.Chosen = choices_.front();
+  choices_.pop_front();
+  const bool chosen = !menu.Chosen.empty();
+  menus_.push_back(std::move(menu));
+  if (menuAction_) menuAction_();
+  return chosen;
+}
+
+bool SimShellFolders::FolderMenu(int folder, PixelPoint at, WindowId owner) {
+  if (!folders_.contains(folder)) return false;
+  return Show({.Folder = folder, .Name = {}, .At = at, .Owner = owner, .Chosen = {}});
+}
+
+bool SimShellFolders::EntryMenu(int folder, std::string_view name, PixelPoint at, WindowId owner) {
+  if (!Holds(folder, name)) return false;
+  return Show(
+      {.Folder = folder, .Name = std::string(name), .At = at, .Owner = owner, .Chosen = {}});
+}
+
+bool SimShellFolders::FileMenu(std::string_view path, PixelPoint at, WindowId owner) {
+  if (!files_.Has(path)) return false;
+  return Show({.Folder = -1, .Name = std::string(path), .At = at, .Owner = owner, .Chosen = {}});
+}
 
 }  // namespace corvelle::sim

@@ -13,6 +13,7 @@ World::World(const WorldOptions& options)
       Icons(Files),
       FileOps(Files),
       Associations(Files),
+      Folders(Files),
       Desktop({.TwipsPerPixel = options.TwipsPerPixel, .Screen = options.Screen}) {
   System.Caption = options.CaptionHeight;
   System.CaptionButton = options.CaptionButtonWidth;

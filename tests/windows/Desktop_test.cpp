@@ -6,6 +6,7 @@
 
 #include "RealHome.h"
 #include "platform/DesktopContract.h"
+#include "win32/UniqueHandle.h"
 
 namespace corvelle {
 namespace {
@@ -66,11 +67,17 @@ class RealDesktop final : public ContractDesktop {
   WindowId Other() override { return reinterpret_cast<WindowId>(other_.Handle()); }
   void CloseOther() override { other_.Close(); }
   void MinimizeOther() override { ShowWindow(other_.Handle(), SW_MINIMIZE); }
+  WindowId OpenOwned() override {
+    owned_.Reset(CreateWindowExW(0, L"Static", L"Contract owned", WS_POPUP, 0, 0, 10, 10,
+                                 other_.Handle(), nullptr, nullptr, nullptr));
+    return reinterpret_cast<WindowId>(owned_.Get());
+  }
   void Settle() override { home_.Wait(200); }
 
  private:
   RealHome home_;
   OtherWindow other_;
+  win32::UniqueWindow owned_;
 };
 
 std::unique_ptr<ContractDesktop> MakeRealDesktop() { return std::make_unique<RealDesktop>(); }

@@ -65,9 +65,16 @@ class RealShell final : public ContractShell {
   int IconCount() override {
     return static_cast<int>(ExtractIconExW(Wide(IconFile()).c_str(), -1, nullptr, nullptr, 0));
   }
-  void SetValue(const std::string& name, const std::string& text) override {
-    const std::wstring wide = Wide(text);
-    key_.Set(Wide(name), REG_SZ, wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
+  void SetValue(const std::string& name, const RegistryValue& value) override {
+    if (const auto* const text = std::get_if<std::string>(&value)) {
+      const std::wstring wide = Wide(*text);
+      key_.Set(Wide(name), REG_SZ, wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
+    } else if (const auto* const number = std::get_if<std::uint32_t>(&value)) {
+      key_.Set(Wide(name), REG_DWORD, number, sizeof(*number));
+    } else {
+      const auto& bytes = std::get<std::vector<unsigned char>>(value);
+      key_.Set(Wide(name), REG_BINARY, bytes.data(), bytes.size());
+    }
   }
 
  private:

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/ShellFolders.h"
+
+namespace corvelle {
+
+/// The shell's number of a special folder by its name ("CSIDL_DRIVES", case apart, nothing around
+/// it). Any other text is the desktop, 0.
+[[nodiscard]] int CsidlValue(std::string_view name) noexcept;
+
+/// How a special folder opens as itself.
+enum class SpecialFolderKind {
+  None,     // no folder that the program knows
+  Disk,     // by its path
+  Desktop,  // the root of all folders, in a window of the shell
+  Shell,    // by the shell alone
+};
+
+[[nodiscard]] SpecialFolderKind KindOfSpecialFolder(int value) noexcept;
+
+/// What the command of an entry says about a special folder.
+struct SpecialFolderText {
+  std::string Name;   // "CSIDL_..."
+  std::string Title;  // of an entry in the folder; empty: the folder itself
+  std::string Options;
+
+  friend bool operator==(const SpecialFolderText&, const SpecialFolderText&) = default;
+};
+
+/// Takes a command apart: "CSIDL_DRIVES", "CSIDL_DRIVES/X", and with the title of an entry before
+/// or behind the folder and a "\" between them. A title in the command comes before `title`; the
+/// option "X" leaves the folder itself.
+[[nodiscard]] SpecialFolderText ParseSpecialFolder(std::string_view command,
+                                                   std::string_view title);
+
+/// True for the title of an entry, a "\" and the name of a known special folder, which is what a
+/// copied entry of such a folder has for its command.
+[[nodiscard]] bool IsSpecialFolderEntry(std::string_view command) noexcept;
+
+/// Index of the entry that a title stands for: the same text, or else the same but for case and
+/// blanks at its ends, or else, for a title that a record may have cut, the first that begins with
+/// it. -1 when none does.
+[[nodiscard]] int FindEntryByTitle(const std::vector<ShellFolderEntry>& entries,
+                                   std::string_view title);
+
+}  // namespace corvelle

@@ -1,0 +1,235 @@
+#include "win32/Win32ShellFolders.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <ole2.h>
+#include <shlobj.h>
+
+#include <atomic>
+#include <thread>
+
+#include "TempFolder.h"
+#include "platform/ShellFoldersContract.h"
+#include "win32/ComPointer.h"
+#include "win32/ShellMenu.h"
+#include "win32/Wide.h"
+#include "win32/Win32Files.h"
+
+namespace corvelle {
+namespace {
+
+using win32::Narrow;
+using win32::Wide;
+
+/// COM for this thread, before and after everything else of a test.
+class Com {
+ public:
+  Com() : ready_(SUCCEEDED(OleInitialize(nullptr))) {}
+  Com(const Com&) = delete;
+  Com& operator=(const Com&) = delete;
+  ~Com() {
+    if (ready_) OleUninitialize();
+  }
+
+ private:
+  bool ready_;
+};
+
+/// Another hand at the keyboard: presses a key in each menu that comes up, in the order in which
+/// the keys were asked for, and gives up on a menu after a while.
+class MenuHand {
+ public:
+  MenuHand() : thread_([this] { Run(); }) {}
+  MenuHand(const MenuHand&) = delete;
+  MenuHand& operator=(const MenuHand&) = delete;
+  ~MenuHand() {
+    end_ = true;
+    thread_.join();
+  }
+
+  void Press(int virtualKey) { key_ = virtualKey; }
+  int Menus() const { return menus_; }
+
+ private:
+  static bool MenuIsUp() {
+    HWND menu = FindWindowW(L"#32768", nullptr);
+    return menu != nullptr && IsWindowVisible(menu) != FALSE;
+  }
+  static void Send(int virtualKey) {
+    INPUT keys[2]{};
+    for (INPUT& key : keys) {
+      key.type = INPUT_KEYBOARD;
+      key.ki.wVk = static_cast<WORD>(virtualKey);
+    }
+    keys[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(2, keys, sizeof(INPUT));
+  }
+  void Run() {
+    while (!end_) {
+      Sleep(20);
+      if (!MenuIsUp()) continue;
+      Sleep(200);  // It begins to listen.
+      ++menus_;
+      // Without a wish the menu goes away again.
+      Send(key_.exchange(VK_ESCAPE));
+      for (int waited = 0; waited < 100 && MenuIsUp() && !end_; ++waited) Sleep(20);
+      if (MenuIsUp()) Send(VK_ESCAPE);
+    }
+  }
+
+  std::atomic<int> key_ = VK_ESCAPE;
+  std::atomic<int> menus_ = 0;
+  std::atomic<bool> end_ = false;
+  std::thread thread_;
+};
+
+/// A window of this thread in the foreground, for the keys that a menu wants.
+class Front {
+ public:
+  Front()
+      : window_(CreateWindowExW(0, L"Static", L"Front", WS_POPUP | WS_VISIBLE, 500, 400, 50, 50,
+                                nullptr, nullptr, nullptr, nullptr)) {
+    SetForegroundWindow(window_.Get());
+    SetFocus(window_.Get());
+  }
+
+ private:
+  win32::UniqueWindow window_;
+};
+
+class RealFolders final : public ContractFolders {
+ public:
+  RealFolders() {
+    EXPECT_TRUE(files_.Write(File(), "x"));
+    wchar_t programs[MAX_PATH] = {};
+    EXPECT_TRUE(SHGetSpecialFolderPathW(nullptr, programs, CSIDL_PROGRAMS, TRUE));
+    programs_ = Narrow(programs) + "\\";
+    Link("Contract \xD0\xB6", "one");
+    Link("Contract two", "two");
+  }
+  ~RealFolders() override {
+    for (const std::string& link : links_) static_cast<void>(files_.Remove(link));
+  }
+  ShellFolders& Folders() override { return folders_; }
+  std::string File() override { return temp_.Path() + "file \xD0\xB6.txt"; }
+  std::string MissingFile() override { return temp_.Path() + "missing.txt"; }
+  std::string Started() override {
+    // What was started takes its time to say so.
+    for (int waited = 0; waited < 60; ++waited) {
+      if (files_.FileExists(Answer())) break;
+      Sleep(50);
+    }
+    const auto text = files_.Read(Answer(), 0, 100);
+    if (!text) return {};
+    return text->substr(0, text->find_first_of(" \r\n"));
+  }
+  void DismissNextMenu() override { hand_.Press(VK_ESCAPE); }
+  void CopyInNextMenu() override { hand_.Press('C'); }
+  int Menus() override { return hand_.Menus(); }
+
+ private:
+  std::string Answer() { return temp_.Path() + "answer.txt"; }
+  /// To a program that writes a word into the file of the answer.
+  void Link(const std::string& title, const std::string& word) {
+    win32::ComPointer<IShellLinkW> link;
+    win32::ComPointer<IPersistFile> file;
+    links_.push_back(programs_ + title + ".lnk");
+    EXPECT_TRUE(SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER,
+                                           IID_IShellLinkW, link.ReceiveVoid())) &&
+                SUCCEEDED(link->QueryInterface(IID_IPersistFile, file.ReceiveVoid())) &&
+                SUCCEEDED(link->SetPath(L"C:\\windows\\system32\\cmd.exe")) &&
+                SUCCEEDED(link->SetArguments(
+                    Wide("/c echo " + word + " > \"" + Answer() + "\"").c_str())) &&
+                SUCCEEDED(file->Save(Wide(links_.back()).c_str(), TRUE)));
+  }
+
+  Com com_;
+  TempFolder temp_;
+  win32::Win32Files files_;
+  std::string programs_;
+  std::vector<std::string> links_;
+  win32::Win32ShellFolders folders_;
+  Front front_;
+  MenuHand hand_;
+};
+
+std::unique_ptr<ContractFolders> MakeReal() { return std::make_unique<RealFolders>(); }
+
+INSTANTIATE_TEST_SUITE_P(Windows, ShellFoldersContract, testing::Values(MakeReal));
+
+/// The menu of an item with a submenu that is filled, and an entry that is drawn, by the item's
+/// program; it notes what it is told. Lives on the stack of its test.
+class DrawnMenu final : public IContextMenu3 {
+ public:
+  int Filled = 0;
+  int Measured = 0;
+  int Drawn = 0;
+  int Invoked = -1;
+  HWND InvokedFor = nullptr;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+    *object = nullptr;
+    if (id != IID_IUnknown && id != IID_IContextMenu && id != IID_IContextMenu2 &&
+        id != IID_IContextMenu3) {
+      return E_NOINTERFACE;
+    }
+    *object = static_cast<IContextMenu3*>(this);
+    AddRef();
+    return S_OK;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() override { return --references_; }
+  ULONG References() const { return references_; }
+
+  HRESULT STDMETHODCALLTYPE QueryContextMenu(HMENU menu, UINT index, UINT first, UINT,
+                                             UINT) override {
+    InsertMenuW(menu, index, MF_BYPOSITION | MF_OWNERDRAW, first + 4, L"drawn");
+    return MAKE_HRESULT(SEVERITY_SUCCESS, 0, 5);
+  }
+  HRESULT STDMETHODCALLTYPE InvokeCommand(CMINVOKECOMMANDINFO* info) override {
+    Invoked = static_cast<int>(reinterpret_cast<ULONG_PTR>(info->lpVerb));
+    InvokedFor = info->hwnd;
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE GetCommandString(UINT_PTR, UINT, UINT*, LPSTR, UINT) override {
+    return E_NOTIMPL;
+  }
+  HRESULT STDMETHODCALLTYPE HandleMenuMsg(UINT message, WPARAM wParam, LPARAM lParam) override {
+    return HandleMenuMsg2(message, wParam, lParam, nullptr);
+  }
+  HRESULT STDMETHODCALLTYPE HandleMenuMsg2(UINT message, WPARAM, LPARAM lParam,
+                                           LRESULT* answer) override {
+    if (message == WM_INITMENUPOPUP) ++Filled;
+    if (message == WM_DRAWITEM) ++Drawn;
+    if (message == WM_MEASUREITEM) {
+      ++Measured;
+      auto* const item = reinterpret_cast<MEASUREITEMSTRUCT*>(lParam);
+      item->itemWidth = 80;
+      item->itemHeight = 20;
+    }
+    if (answer != nullptr) *answer = 1;
+    return S_OK;
+  }
+
+ private:
+  ULONG references_ = 1;
+};
+
+TEST(ShellMenuOnWindows, HandsOnTheMessagesOfEntriesThatTheItemsProgramDraws) {
+  const Com com;
+  const Front front;
+  MenuHand hand;
+  DrawnMenu menu;
+  hand.Press(VK_ESCAPE);
+  EXPECT_FALSE(win32::ShowShellMenu(menu, {300, 200}, nullptr));
+  EXPECT_EQ(hand.Menus(), 1);
+  EXPECT_GE(menu.Filled, 1);
+  EXPECT_GE(menu.Measured, 1);
+  EXPECT_GE(menu.Drawn, 1);
+  EXPECT_EQ(menu.Invoked, -1);
+  EXPECT_EQ(menu.References(), 1U);
+}
+
+}  // namespace
+}  // namespace corvelle
