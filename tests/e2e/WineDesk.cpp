@@ -1,5 +1,7 @@
 #include "e2e/WineDesk.h"
 
+#include <shellapi.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <set>
@@ -108,6 +110,13 @@ WineDesk::~WineDesk() {
   for (HANDLE copy : copies_) {
     TerminateProcess(copy, 99);
     CloseHandle(copy);
+  }
+  if (bar_ != nullptr) {
+    APPBARDATA bar = {};
+    bar.cbSize = sizeof(bar);
+    bar.hWnd = bar_;
+    SHAppBarMessage(ABM_REMOVE, &bar);
+    DestroyWindow(bar_);
   }
   if (HWND other = otherWindow_.load()) PostMessageW(other, WM_CLOSE, 0, 0);
   if (other_.joinable()) other_.join();
@@ -282,6 +291,49 @@ void WineDesk::OpenOtherWindow(PixelRect bounds) {
     while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
   });
   Wait([this] { return otherWindow_ != nullptr && GetForegroundWindow() == otherWindow_; }, 5000);
+}
+
+// The bar only keeps room: nobody talks to its window, so it needs no thread of its own.
+PixelRect WineDesk::OpenOtherBar(Edge at, int thickness) {
+  const PixelSize screen = ScreenSize();
+  RECT wanted = {0, 0, screen.width, screen.height};
+  UINT edge = ABE_TOP;
+  switch (at) {
+    case Edge::Left:
+      edge = ABE_LEFT;
+      wanted.right = thickness;
+      break;
+    case Edge::Right:
+      edge = ABE_RIGHT;
+      wanted.left = wanted.right - thickness;
+      break;
+    case Edge::Bottom:
+      edge = ABE_BOTTOM;
+      wanted.top = wanted.bottom - thickness;
+      break;
+    case Edge::Top:
+      wanted.bottom = thickness;
+      break;
+  }
+  if (bar_ == nullptr) {
+    bar_ = CreateWindowExW(WS_EX_TOOLWINDOW, L"Static", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                           GetModuleHandleW(nullptr), nullptr);
+  }
+  APPBARDATA bar = {};
+  bar.cbSize = sizeof(bar);
+  bar.hWnd = bar_;
+  bar.uCallbackMessage = WM_APP;
+  bar.uEdge = edge;
+  SHAppBarMessage(ABM_NEW, &bar);
+  bar.rc = wanted;
+  if (SHAppBarMessage(ABM_SETPOS, &bar) == 0) return {};
+  // The shell moves the near side; the bar keeps its thickness.
+  if (at == Edge::Left) bar.rc.right = bar.rc.left + thickness;
+  if (at == Edge::Right) bar.rc.left = bar.rc.right - thickness;
+  if (at == Edge::Top) bar.rc.bottom = bar.rc.top + thickness;
+  if (at == Edge::Bottom) bar.rc.top = bar.rc.bottom - thickness;
+  return {static_cast<int>(bar.rc.left), static_cast<int>(bar.rc.top),
+          static_cast<int>(bar.rc.right), static_cast<int>(bar.rc.bottom)};
 }
 
 std::intptr_t WineDesk::Send(std::string_view className, std::uint32_t message,

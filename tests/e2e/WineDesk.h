@@ -53,6 +53,7 @@ class WineDesk final : public scenario::Desk {
   [[nodiscard]] std::string ForegroundClass() const override;
   void BringToFront(std::string_view className) override;
   void OpenOtherWindow(PixelRect bounds) override;
+  PixelRect OpenOtherBar(Edge at, int thickness) override;
   std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
                      std::intptr_t lParam) override;
   void Post(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
@@ -94,6 +95,7 @@ class WineDesk final : public scenario::Desk {
   std::size_t answered_ = 0;
   std::vector<scenario::SeenMessage> messages_;
   std::thread other_;
+  HWND bar_ = nullptr;
   std::atomic<HWND> otherWindow_{nullptr};
 };
 

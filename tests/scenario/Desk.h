@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Edge.h"
 #include "base/Geometry.h"
 
 namespace corvelle::scenario {
@@ -107,6 +108,9 @@ class Desk {
   virtual void BringToFront(std::string_view className) = 0;
   /// Another program's window, visible and in the foreground from then on.
   virtual void OpenOtherWindow(PixelRect bounds) = 0;
+  /// Another program's bar keeps that many pixels of an edge. Gives the room that the shell let it
+  /// have; empty when it gave none.
+  virtual PixelRect OpenOtherBar(Edge at, int thickness) = 0;
   /// Sends a message and waits for its answer; posts it and does not wait. Both do nothing (and
   /// answer 0) when there is no such window.
   virtual std::intptr_t Send(std::string_view className, std::uint32_t message,

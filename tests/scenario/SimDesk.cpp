@@ -134,6 +134,9 @@ class SimDesk final : public Desk {
     world_.Desktop.TakeForeground(window);
     world_.Desktop.Pump();
   }
+  PixelRect OpenOtherBar(Edge at, int thickness) override {
+    return world_.Bars.KeptBy(world_.Bars.AddOtherBar(at, thickness, sim::BarPlacing::Last));
+  }
   std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
                      std::intptr_t lParam) override {
     const WindowId window = world_.Desktop.Find(className);

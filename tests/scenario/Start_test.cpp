@@ -26,6 +26,12 @@ TEST(Start, AFirstStartMakesTheFoldersShowsTheStripAndAsksOnce) {
   EXPECT_EQ(desk->Messages()[0].Title, "Corvelle");
   EXPECT_EQ(desk->Messages()[0].Text, kStartupQuestion);
   EXPECT_EQ(desk->StartupLinkTarget(), std::nullopt);
+  // A first start stands at the right edge, upright and as high as the screen.
+  const PixelRect strip = desk->BoundsOf("frmToolbar");
+  EXPECT_EQ(strip.right, desk->ScreenSize().width);
+  EXPECT_EQ(strip.top, 0);
+  EXPECT_EQ(strip.bottom, desk->ScreenSize().height);
+  EXPECT_LT(strip.Width(), 60);
   desk->Picture("first-start");
 
   ASSERT_TRUE(CloseAndWait(*desk));

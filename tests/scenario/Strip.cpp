@@ -10,8 +10,22 @@ namespace {
 
 const Windows1252 kAnsi;
 
-// A button takes two pixels more than the strip is high: the line at its end, and the gap.
-int Pitch(const PixelRect& strip) { return strip.Height() + 2; }
+// Even a single button upright is higher than it is wide: a line lies below it.
+bool IsUpright(const PixelRect& strip) { return strip.Height() > strip.Width(); }
+
+// On a level strip a button takes two pixels more than the strip is high: the line at its end, and
+// the gap. On an upright one buttons follow each other directly.
+int Pitch(const PixelRect& strip) { return IsUpright(strip) ? strip.Width() : strip.Height() + 2; }
+
+// The menu beside the strip at the right, or below it.
+bool StandsAtButton(const PixelRect& menu, const PixelRect& strip, PixelPoint middle) {
+  if (IsUpright(strip)) {
+    const bool beside = menu.right <= strip.left + 2 || menu.left >= strip.right - 2;
+    return beside && menu.top < middle.y && middle.y - menu.top < Pitch(strip);
+  }
+  return menu.left < middle.x && middle.x - menu.left < Pitch(strip) &&
+         (menu.top >= strip.bottom - 2 || menu.bottom <= strip.top + 3);
+}
 
 }  // namespace
 
@@ -79,12 +93,16 @@ bool CloseAndWait(Desk& desk) {
 
 int ButtonCount(const Desk& desk) {
   const PixelRect strip = desk.BoundsOf("picToolbar");
-  return strip.IsEmpty() ? 0 : strip.Width() / Pitch(strip);
+  if (strip.IsEmpty()) return 0;
+  return (IsUpright(strip) ? strip.Height() : strip.Width()) / Pitch(strip);
 }
 
 PixelPoint ButtonMiddle(const Desk& desk, int button) {
   const PixelRect strip = desk.BoundsOf("picToolbar");
   const int pitch = Pitch(strip);
+  if (IsUpright(strip)) {
+    return {(strip.left + strip.right) / 2, strip.top + (button - 1) * pitch + pitch / 2};
+  }
   return {strip.left + (button - 1) * pitch + pitch / 2, (strip.top + strip.bottom) / 2};
 }
 
@@ -99,11 +117,8 @@ PixelPoint ItemMiddle(const Desk& desk, int item, int count) {
 bool WaitForMenuAt(Desk& desk, int button) {
   const auto stands = [&desk, button] {
     if (!desk.IsVisible("frmQMenu")) return false;
-    const PixelRect menu = desk.BoundsOf("frmQMenu");
-    const PixelPoint middle = ButtonMiddle(desk, button);
-    const PixelRect strip = desk.BoundsOf("picToolbar");
-    return menu.left < middle.x && middle.x - menu.left < Pitch(strip) &&
-           menu.top >= strip.bottom - 2;
+    return StandsAtButton(desk.BoundsOf("frmQMenu"), desk.BoundsOf("picToolbar"),
+                          ButtonMiddle(desk, button));
   };
   if (!desk.Wait(stands)) return false;
   desk.Pause(200);  // Icons still arrive.
@@ -117,6 +132,23 @@ bool OpenMenu(Desk& desk, int button) {
 
 bool WaitForNoMenu(Desk& desk) {
   return desk.Wait([&desk] { return !desk.IsVisible("frmQMenu"); });
+}
+
+PixelPoint GripMiddle(const Desk& desk) {
+  const PixelRect strip = desk.BoundsOf("picToolbar");
+  if (IsUpright(strip)) return {(strip.left + strip.right) / 2, strip.bottom + 4};
+  return {strip.right + 4, (strip.top + strip.bottom) / 2};
+}
+
+void PullTo(Desk& desk, PixelPoint to) {
+  const PixelPoint from = GripMiddle(desk);
+  desk.MovePointer(from);
+  desk.Press(Button::Left);
+  for (int step = 1; step <= 5; ++step) {
+    desk.Pause(60);
+    desk.MovePointer({from.x + (to.x - from.x) * step / 5, from.y + (to.y - from.y) * step / 5});
+  }
+  desk.Pause(60);
 }
 
 PixelPoint FarAway(const Desk& desk) {

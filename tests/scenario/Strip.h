@@ -37,7 +37,7 @@ inline constexpr std::string_view kPositionFile = "toolbarp.dat";
 
 /// How many buttons the strip has, by its width.
 [[nodiscard]] int ButtonCount(const Desk& desk);
-/// The middle of a menu button, 1 being the program's own; screen pixels. For a floating strip.
+/// The middle of a menu button, 1 being the program's own; screen pixels.
 [[nodiscard]] PixelPoint ButtonMiddle(const Desk& desk, int button);
 /// The middle of item `item` (from 1) of the open menu, which has `count` items on a single page
 /// and no separator; screen pixels.
@@ -49,6 +49,11 @@ inline constexpr std::string_view kPositionFile = "toolbarp.dat";
 /// Waits until the menu is open at that button's place; and until no menu is open.
 [[nodiscard]] bool WaitForMenuAt(Desk& desk, int button);
 [[nodiscard]] bool WaitForNoMenu(Desk& desk);
+
+/// The middle of the grip between the buttons and the single buttons; screen pixels.
+[[nodiscard]] PixelPoint GripMiddle(const Desk& desk);
+/// Takes the strip by its grip and moves it there, as a hand does, without letting go.
+void PullTo(Desk& desk, PixelPoint to);
 
 /// A point far away from the strip and its menus.
 [[nodiscard]] PixelPoint FarAway(const Desk& desk);
