@@ -42,7 +42,6 @@ constexpr NamedFolder kFolders[] = {
     {"CSIDL_PRINTHOOD", 27},
 };
 
-constexpr int kDesktop = 0;
 // The control panel, the printers, the bin, the drives and the network.
 constexpr int kShellFolders[] = {3, 4, 10, 17, 18};
 
@@ -68,11 +67,6 @@ std::string_view WithoutOptions(std::string_view folder) noexcept {
   return folder.substr(0, folder.find(kOptionsMark));
 }
 
-bool IsKnownName(std::string_view name) noexcept {
-  return std::any_of(std::begin(kFolders), std::end(kFolders),
-                     [name](const NamedFolder& folder) { return EqualNoCase(name, folder.Name); });
-}
-
 // How well a name fits a title, the less the better.
 enum Fit { kSame, kSameLetters, kBegins, kNoFit };
 
@@ -85,6 +79,11 @@ Fit TitleFit(std::string_view name, std::string_view title) {
 
 }  // namespace
 
+bool IsKnownSpecialFolder(std::string_view name) noexcept {
+  return std::any_of(std::begin(kFolders), std::end(kFolders),
+                     [name](const NamedFolder& folder) { return EqualNoCase(name, folder.Name); });
+}
+
 int CsidlValue(std::string_view name) noexcept {
   for (const NamedFolder& folder : kFolders) {
     if (EqualNoCase(name, folder.Name)) return folder.Value;
@@ -93,7 +92,7 @@ int CsidlValue(std::string_view name) noexcept {
 }
 
 SpecialFolderKind KindOfSpecialFolder(int value) noexcept {
-  if (value == kDesktop) return SpecialFolderKind::Desktop;
+  if (value == kDesktopFolder) return SpecialFolderKind::Desktop;
   if (std::find(std::begin(kShellFolders), std::end(kShellFolders), value) !=
       std::end(kShellFolders)) {
     return SpecialFolderKind::Shell;
@@ -124,7 +123,7 @@ SpecialFolderText ParseSpecialFolder(std::string_view command, std::string_view 
 bool IsSpecialFolderEntry(std::string_view command) noexcept {
   const std::size_t end = TitleEnd(command);
   return end != std::string_view::npos && end > 0 &&
-         IsKnownName(WithoutOptions(command.substr(end + 1)));
+         IsKnownSpecialFolder(WithoutOptions(command.substr(end + 1)));
 }
 
 int FindEntryByTitle(const std::vector<ShellFolderEntry>& entries, std::string_view title) {

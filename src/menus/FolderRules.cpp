@@ -87,7 +87,7 @@ std::string GeneratedFileName(std::string_view menuFile) {
 std::string ListCacheName(std::string_view menuFile, std::string_view folderName) {
   const std::size_t point = menuFile.rfind('.');
   const std::string_view stem = menuFile.substr(0, point);
-  const std::string_view known = KnownCsidl(folderName) ? folderName : kDesktopName;
+  const std::string_view known = IsKnownSpecialFolder(folderName) ? folderName : kDesktopName;
   return std::string(stem) + "." + UpperCase(known.substr(kSpecialFolderStart.size()));
 }
 

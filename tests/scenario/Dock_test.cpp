@@ -24,7 +24,7 @@ PixelPoint QuarterOf(const Desk& desk, Edge at) {
 }
 
 /// A program that asks for an edge, with three buttons of its own.
-class Dock : public ::testing::TestWithParam<bool> {
+class Dock : public ::testing::Test {
  protected:
   void StartAt(Edge at, std::vector<int> turned = {}) {
     turned.push_back(14);
@@ -63,31 +63,30 @@ class Dock : public ::testing::TestWithParam<bool> {
     return desk_->Wait([=, this] { return StandsAt(at, outside); });
   }
 
+  /// From edge to edge by the grip, with a menu at each, and a restart at the last.
+  void GoToEveryEdge(bool large);
+
   std::unique_ptr<Desk> desk_ = MakeDesk();
 };
 
-/// With large icons and with small ones.
-INSTANTIATE_TEST_SUITE_P(Icons, Dock, ::testing::Values(true, false),
-                         [](const auto& info) { return info.param ? "Large" : "Small"; });
-
-TEST_P(Dock, PulledByItsGripTheStripGoesToEveryEdge) {
-  StartAt(Edge::Right, GetParam() ? std::vector<int>{} : std::vector<int>{26});
+void Dock::GoToEveryEdge(bool large) {
+  StartAt(Edge::Right, large ? std::vector<int>{} : std::vector<int>{26});
   EXPECT_TRUE(StandsAt(Edge::Right));
-  desk_->Picture(GetParam() ? "right-large" : "right-small");
+  desk_->Picture(large ? "right-large" : "right-small");
   for (const Edge at : {Edge::Bottom, Edge::Left, Edge::Top, Edge::Right}) {
     SCOPED_TRACE(std::string(EdgeText(at)));
     PullTo(*desk_, QuarterOf(*desk_, at));
     EXPECT_TRUE(desk_->Wait([this] { return desk_->IsVisible("frmImage"); }));
-    desk_->Picture("outline-" + std::string(EdgeText(at)));
+    desk_->Picture("outline-" + std::string(EdgeText(at)) + (large ? "-large" : "-small"));
     desk_->Release(Button::Left);
     ASSERT_TRUE(WaitForStripAt(at));
     EXPECT_TRUE(desk_->Wait([this] { return !desk_->Window("frmImage").has_value(); }));
     EXPECT_EQ(ButtonCount(*desk_), 4);
     desk_->MovePointer(FarAway(*desk_));
     desk_->Pause(300);
-    desk_->Picture(std::string(EdgeText(at)) + (GetParam() ? "-large" : "-small"));
+    desk_->Picture(std::string(EdgeText(at)) + (large ? "-large" : "-small"));
     ASSERT_TRUE(OpenMenu(*desk_, 2));
-    desk_->Picture(std::string(EdgeText(at)) + "-menu");
+    desk_->Picture(std::string(EdgeText(at)) + "-menu" + (large ? "-large" : "-small"));
     desk_->Key(kKeyEscape);
     ASSERT_TRUE(WaitForNoMenu(*desk_));
   }
@@ -98,10 +97,11 @@ TEST_P(Dock, PulledByItsGripTheStripGoesToEveryEdge) {
   EXPECT_TRUE(StandsAt(Edge::Right));
 }
 
-class DockOnce : public Dock {};
-INSTANTIATE_TEST_SUITE_P(Icons, DockOnce, ::testing::Values(true));
+TEST_F(Dock, PulledByItsGripTheStripGoesToEveryEdge) { GoToEveryEdge(true); }
 
-TEST_P(DockOnce, AutoHideLeavesALineAndThePointerBringsTheStripBack) {
+TEST_F(Dock, WithSmallIconsItGoesToEveryEdgeToo) { GoToEveryEdge(false); }
+
+TEST_F(Dock, AutoHideLeavesALineAndThePointerBringsTheStripBack) {
   for (const Edge at : {Edge::Right, Edge::Top}) {
     SCOPED_TRACE(std::string(EdgeText(at)));
     desk_ = nullptr;
@@ -125,7 +125,7 @@ TEST_P(DockOnce, AutoHideLeavesALineAndThePointerBringsTheStripBack) {
   }
 }
 
-TEST_P(DockOnce, ABarThatIsThereKeepsItsPlaceAndTheStripStandsInside) {
+TEST_F(Dock, ABarThatIsThereKeepsItsPlaceAndTheStripStandsInside) {
   for (const Edge at : {Edge::Left, Edge::Right, Edge::Top, Edge::Bottom}) {
     SCOPED_TRACE(std::string(EdgeText(at)));
     desk_ = nullptr;
@@ -141,7 +141,7 @@ TEST_P(DockOnce, ABarThatIsThereKeepsItsPlaceAndTheStripStandsInside) {
   }
 }
 
-TEST_P(DockOnce, AnEndAtAnEdgeGivesTheEdgeBack) {
+TEST_F(Dock, AnEndAtAnEdgeGivesTheEdgeBack) {
   StartAt(Edge::Right);
   const PixelRect inside = desk_->OpenOtherBar(Edge::Right, 30);
   EXPECT_EQ(inside.right, Strip().left);
@@ -153,7 +153,7 @@ TEST_P(DockOnce, AnEndAtAnEdgeGivesTheEdgeBack) {
   EXPECT_EQ(desk_->OpenOtherBar(Edge::Left, 30).left, 0);
 }
 
-TEST_P(DockOnce, TheNewsOfAFullScreenProgramLeaveTheStripAtItsEdge) {
+TEST_F(Dock, TheNewsOfAFullScreenProgramLeaveTheStripAtItsEdge) {
   StartAt(Edge::Top);
   desk_->Post("frmToolbar", kMessageAppBar, 2, 1);
   desk_->Pause(200);
