@@ -91,14 +91,17 @@ LinePair SeparatorLines(const StripScale& scale, float position, TwipSize box) n
 }
 
 LinePair HoverLines(const StripScale& scale, const TwipRect& button) noexcept {
+  // On the same pixels as the icon, whose place is cut to whole twips.
+  const float left = std::floor(button.Left);
+  const float top = std::floor(button.Top);
+  const float right = left + button.Width;
+  const float bottom = top + button.Height;
   if (scale.Vertical) {
-    const float above = button.Top - scale.TwipsY;
-    return {{button.Left, above, button.Right(), above},
-            {button.Left, button.Bottom(), button.Right(), button.Bottom()}};
+    const float above = top - scale.TwipsY;
+    return {{left, above, right, above}, {left, bottom, right, bottom}};
   }
-  const float left = button.Left - scale.TwipsX;
-  return {{left, button.Top, left, button.Bottom()},
-          {button.Right(), button.Top, button.Right(), button.Bottom()}};
+  const float before = left - scale.TwipsX;
+  return {{before, top, before, bottom}, {right, top, right, bottom}};
 }
 
 float SinglesLength(const StripScale& scale, const SingleRect& last) noexcept {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/Numbers.h"
 #include "toolbar/RuleText.h"
 
 namespace corvelle {
@@ -136,6 +137,18 @@ TEST(HoverLines, StandInTheGapsBesideTheButton) {
             (LinePair{{60, 0, 60, 330}, {315, 0, 315, 330}}));
   EXPECT_EQ(HoverLines({true, 12, 12}, {0, 60, 264, 192}),
             (LinePair{{0, 48, 264, 48}, {0, 252, 264, 252}}));
+}
+
+TEST(HoverLines, InTwoRowsTheyBeginWhereTheIconDoes) {
+  for (const float twips : {15.0F, 12.0F}) {
+    const SingleScene scene = Scene(Edge::Left, true, twips);
+    for (const TwipRect& place : Places(scene, "bb")) {
+      const PixelPoint icon = SingleIconPlace(scene, place, Placement::AtEdge, 7);
+      const LinePair lines = HoverLines(scene.Scale, place);
+      EXPECT_EQ(RoundToInt(lines.Line1.X1 / twips), icon.x) << twips;
+      EXPECT_EQ(RoundToInt(lines.Line2.X2 / twips), icon.x + 16) << twips;
+    }
+  }
 }
 
 TEST(SingleIconPlace, OneRowLinesUpWithTheMenuButtons) {
