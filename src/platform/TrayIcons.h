@@ -24,8 +24,8 @@ class TrayIcons {
  public:
   virtual ~TrayIcons() = default;
 
-  /// Keeps no handle. False when there is no task bar to show it, or when that icon of that window
-  /// is there already.
+  /// Keeps no handle. False when there is no task bar to show it, no such window, or when that
+  /// icon of that window is there already.
   virtual bool Add(const TrayIcon& icon) = 0;
   /// Does nothing when there is no such icon.
   virtual void Remove(WindowId window, std::uint32_t id) = 0;

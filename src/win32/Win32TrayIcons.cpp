@@ -45,6 +45,8 @@ HICON FallbackIcon() {
 
 bool Win32TrayIcons::Add(const TrayIcon& icon) {
   NOTIFYICONDATAW data = DataOf(icon.Window, icon.Id);
+  // Not every task bar refuses an icon of nobody's.
+  if (IsWindow(data.hWnd) == 0) return false;
   data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
   data.uCallbackMessage = icon.CallbackMessage;
   // The task bar takes a copy.
