@@ -142,6 +142,9 @@ class DragContract : public testing::TestWithParam<DragHomeFactory> {
   void WaitForPlace(PixelPoint at) {
     for (int i = 0; i < 20 && notes_.LastPoint != at; ++i) home_->Wait(100);
   }
+  void WaitForLeave() {
+    for (int i = 0; i < 20 && (Seen().empty() || Seen().back() != "leave"); ++i) home_->Wait(100);
+  }
   static DragData Files() {
     return {.Files = std::vector<std::string>{"C:\\b\\Zo\xC3\xAB.txt",
                                               "C:\\a\\\xD0\xBF\xD0\xB8\xD1\x81\xD1\x8C.txt"}};
@@ -191,6 +194,7 @@ TEST_P(DragContract, ADragThatGoesOnLeaves) {
   DragTo(kInside);
   home_->MovePointer(kElsewhere);
   home_->Wait(200);
+  WaitForLeave();
   EXPECT_EQ(Seen(), (Lines{"over 1", "leave"}));
   Drop();
   EXPECT_EQ(Seen(), (Lines{"over 1", "leave"}));
