@@ -23,6 +23,9 @@ namespace {
 // A drop comes right after the release of the button. When so many ticks have heard nothing of the
 // drag with no button down, its program is gone.
 constexpr int kMostQuietTicks = 5;
+// On the way from the strip into the menu a drag leaves the one before it comes to the other, and a
+// busy source takes a moment.
+constexpr int kMostLostTicks = 3;
 
 constexpr std::string_view kSinglesTag = "SingleButtons";
 
@@ -116,8 +119,13 @@ void frmToolbar::tmrDragDrop_Timer() {
   const bool over = under == picToolbar.hWnd() || IsOverMenu(under);
   // On the way from the strip into the menu lies the strip's own frame.
   if (held && under == hWnd()) return;
-  const bool heard = held || ++quietTicks_ < kMostQuietTicks;
-  if (program_.DragOverButton && over && heard) return;
+  if (program_.DragOverButton && held) {
+    quietTicks_ = 0;
+  } else {
+    ++quietTicks_;
+  }
+  const int most = program_.DragOverButton ? kMostQuietTicks : kMostLostTicks;
+  if (over && quietTicks_ < most) return;
   EndDragOver();
 }
 

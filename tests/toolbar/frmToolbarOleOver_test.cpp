@@ -155,7 +155,7 @@ TEST(ToolbarDragTimer, EscOverTheStripClosesTheMenu) {
   desk.TakeFiles({"C:\\a.txt"});
   desk.DragToButton(2);
   desk.World.Desktop.PressKey(forms::key::Escape);
-  desk.Wait(110);
+  desk.Wait(310);
   EXPECT_EQ(desk.MenuUp(), 0);
   EXPECT_FALSE(desk.Strip.tmrDragDrop.Enabled());
 }
@@ -168,6 +168,21 @@ TEST(ToolbarDragTimer, TheWayOverTheFrameIntoTheMenuKeepsIt) {
   desk.PointAt({desk.Middle(2).x, strip.bottom - 1});
   ASSERT_EQ(desk.World.Desktop.WindowAt(desk.World.Desktop.PointerPosition()), desk.Strip.hWnd());
   desk.Wait(500);
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarDragTimer, ASlowSourceMayTakeAMomentFromTheStripIntoTheMenu) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\a.txt"});
+  desk.DragToButton(2);
+  desk.World.Desktop.KillDragSource();
+  desk.TheProgram.DragOverButton = false;
+  const PixelRect menu = desk.World.Desktop.BoundsOf(desk.Menu.hWnd());
+  desk.PointAt({menu.left + 20, menu.top + 20});
+  desk.Wait(200);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  desk.TheProgram.DragOverButton = true;
+  desk.Wait(1000);
   EXPECT_EQ(desk.MenuUp(), 2);
 }
 
