@@ -4,6 +4,7 @@
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
+#include "menus/SpecialFolders.h"
 #include "menus/frmQMenu.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
@@ -40,6 +41,7 @@ class Parts {
   IconLibrary TheIconLibrary{TheProgram};
   BuiltInCommands TheBuiltIns{TheProgram};
   Browser TheBrowser{TheProgram};
+  SpecialFolders TheSpecialFolders{TheProgram};
   LinkReader Links{TheProgram};
   StartupLink TheStartupLink{TheProgram};
 };
