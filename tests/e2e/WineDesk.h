@@ -41,6 +41,8 @@ class WineDesk final : public scenario::Desk {
   void Release(scenario::Button button) override;
   [[nodiscard]] PixelPoint Pointer() const override;
   void Key(int virtualKey) override;
+  void HoldKey(int virtualKey) override;
+  void LetKeyGo(int virtualKey) override;
   void Type(char letter) override;
 
   bool Wait(const std::function<bool()>& until, int milliseconds) override;
@@ -63,6 +65,9 @@ class WineDesk final : public scenario::Desk {
   void AnswerNext(int button) override { answers_.push_back(button); }
   [[nodiscard]] std::vector<scenario::SeenMessage> Messages() const override { return messages_; }
 
+  void AnswerShellMenu(char letter) override { menuAnswers_.push_back(letter); }
+  [[nodiscard]] int ShellMenus() const override { return static_cast<int>(menusAnswered_); }
+
   [[nodiscard]] std::optional<std::string> ReadFile(std::string_view name) const override;
   void WriteFile(std::string_view name, std::string_view bytes) override;
   [[nodiscard]] bool FolderExists(std::string_view name) const override;
@@ -72,6 +77,7 @@ class WineDesk final : public scenario::Desk {
   [[nodiscard]] std::string WitnessDocument() const override;
   std::string MakeWitnessLink(std::string_view arguments, std::string_view folder) override;
   std::string MakeDamagedLink() override;
+  void MakeProgramsEntry(std::string_view title, std::string_view arguments) override;
   [[nodiscard]] std::optional<std::string> StartupLinkTarget() const override;
   [[nodiscard]] std::vector<scenario::Launch> Launched() const override;
 
@@ -87,11 +93,14 @@ class WineDesk final : public scenario::Desk {
  private:
   void SendMouse(DWORD flags);
   void AnswerMessages();
+  void AnswerMenus();
 
   std::vector<HANDLE> copies_;
   PixelPoint pointer_;
   std::vector<int> answers_;
   std::size_t answered_ = 0;
+  std::vector<char> menuAnswers_;
+  std::size_t menusAnswered_ = 0;
   std::vector<scenario::SeenMessage> messages_;
   std::thread other_;
   std::atomic<HWND> otherWindow_{nullptr};

@@ -16,6 +16,7 @@ enum class Button { Left, Right };
 
 // Virtual key codes.
 inline constexpr int kKeyEnter = 13;
+inline constexpr int kKeyControl = 17;
 inline constexpr int kKeyEscape = 27;
 inline constexpr int kKeyPageUp = 33;
 inline constexpr int kKeyPageDown = 34;
@@ -84,6 +85,9 @@ class Desk {
   [[nodiscard]] virtual PixelPoint Pointer() const = 0;
   /// Presses and releases a key; it goes to the foreground window.
   virtual void Key(int virtualKey) = 0;
+  /// Holds a key down, and lets it go.
+  virtual void HoldKey(int virtualKey) = 0;
+  virtual void LetKeyGo(int virtualKey) = 0;
   /// Types one letter.
   virtual void Type(char letter) = 0;
 
@@ -124,6 +128,12 @@ class Desk {
   /// The message boxes that were answered so far, in order.
   [[nodiscard]] virtual std::vector<SeenMessage> Messages() const = 0;
 
+  /// What the person does with the next context menu of the shell that comes up: presses that
+  /// letter, which chooses a command, or Esc for 0.
+  virtual void AnswerShellMenu(char letter) = 0;
+  /// How many of them were answered so far.
+  [[nodiscard]] virtual int ShellMenus() const = 0;
+
   // ---- files of the program's folder, named from there: "Menus\\BMENU001.MNU" ----
 
   [[nodiscard]] virtual std::optional<std::string> ReadFile(std::string_view name) const = 0;
@@ -141,6 +151,8 @@ class Desk {
   /// would make it, and gives its path. A damaged one: a file that is only named like a link.
   virtual std::string MakeWitnessLink(std::string_view arguments, std::string_view folder) = 0;
   virtual std::string MakeDamagedLink() = 0;
+  /// Puts a link to the witness into the user's folder of programs, which shows it by that title.
+  virtual void MakeProgramsEntry(std::string_view title, std::string_view arguments) = 0;
   /// The target of the program's link in the Startup folder; nothing when there is none.
   [[nodiscard]] virtual std::optional<std::string> StartupLinkTarget() const = 0;
   /// What was started so far, in order.
