@@ -63,6 +63,11 @@ std::size_t TitleEnd(std::string_view command) noexcept {
   return mark;
 }
 
+/// True for a path that begins with its drive or its machine.
+bool IsWholePath(std::string_view text) noexcept {
+  return text.substr(0, 2) == "\\\\" || (text.size() > 2 && text.substr(1, 2) == ":\\");
+}
+
 std::string_view WithoutOptions(std::string_view folder) noexcept {
   return folder.substr(0, folder.find(kOptionsMark));
 }
@@ -122,7 +127,7 @@ SpecialFolderText ParseSpecialFolder(std::string_view command, std::string_view 
 
 bool IsSpecialFolderEntry(std::string_view command) noexcept {
   const std::size_t end = TitleEnd(command);
-  return end != std::string_view::npos && end > 0 &&
+  return end != std::string_view::npos && end > 0 && !IsWholePath(command) &&
          IsKnownSpecialFolder(WithoutOptions(command.substr(end + 1)));
 }
 

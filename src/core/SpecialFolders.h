@@ -43,8 +43,8 @@ struct SpecialFolderText {
 [[nodiscard]] SpecialFolderText ParseSpecialFolder(std::string_view command,
                                                    std::string_view title);
 
-/// True for the title of an entry, a "\" and the name of a known special folder, which is what a
-/// copied entry of such a folder has for its command.
+/// True for the title of an entry (nothing that looks like a path), a "\" and the name of a known
+/// special folder, which is what a copied entry of such a folder has for its command.
 [[nodiscard]] bool IsSpecialFolderEntry(std::string_view command) noexcept;
 
 /// Index of the entry that a title stands for: the same text, or else the same but for case and

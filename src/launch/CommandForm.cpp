@@ -3,6 +3,7 @@
 #include "base/FieldText.h"
 #include "base/Text.h"
 #include "base/Utf8.h"
+#include "core/SpecialFolders.h"
 
 namespace corvelle {
 
@@ -44,7 +45,8 @@ CommandKind ClassifyRest(std::string_view text) noexcept {
 CommandForm ClassifyCommand(std::string_view command) {
   std::string text = Trim(command);
   if (text.empty()) return {};
-  if (StartsWithNoCase(text, kSpecialStart)) return {CommandKind::SpecialFolder, std::move(text)};
+  if (StartsWithNoCase(text, kSpecialStart) || IsSpecialFolderEntry(text))
+    return {CommandKind::SpecialFolder, std::move(text)};
   if (text.front() == kRawMarker) text = Trim(std::string_view(text).substr(1));
   const CommandKind kind = ClassifyRest(text);
   return {kind, std::move(text)};

@@ -11,7 +11,7 @@ class CodePage;
 /// What the command of an entry means.
 enum class CommandKind {
   Empty,
-  SpecialFolder,
+  SpecialFolder,  // or an entry in one
   NetSearch,
   FindComputer,
   MinimizeAllWindows,

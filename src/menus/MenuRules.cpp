@@ -103,6 +103,10 @@ std::optional<int> PageForKey(int keyCode, int curMenu, int slides) noexcept {
   return std::nullopt;
 }
 
+bool OffersShellMenu(bool mainMenu, char preference, bool ctrl) noexcept {
+  return !mainMenu && (preference == '0') != ctrl;
+}
+
 std::optional<int> ReturnPage(int savedPage, int slides) noexcept {
   if (savedPage < 1 || slides < 1) return std::nullopt;
   return std::min(savedPage, slides);

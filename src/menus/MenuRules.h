@@ -79,6 +79,11 @@ struct ButtonFrame {
 /// The page that a paging key (33 to 36) leads to; nothing when the menu stays as it is.
 [[nodiscard]] std::optional<int> PageForKey(int keyCode, int curMenu, int slides) noexcept;
 
+/// True when a right click on an item shows the shell's menu of what the item stands for, false for
+/// the program's popup. `preference` is position 19 of the options, which Ctrl turns over; the
+/// items of the program's own menu stand for nothing of the shell.
+[[nodiscard]] bool OffersShellMenu(bool mainMenu, char preference, bool ctrl) noexcept;
+
 /// The page to which a rebuilt menu returns; nothing for the first one.
 [[nodiscard]] std::optional<int> ReturnPage(int savedPage, int slides) noexcept;
 

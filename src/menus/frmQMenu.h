@@ -265,8 +265,9 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   [[nodiscard]] bool StillAway();
   void TakeFocus();
   void ChooseItem(float x, float y);
-  void RunItem(bool mainMenu, int index, const std::string& command);
-  void OfferItem();
+  void RunItem(bool mainMenu, int index, const std::string& command, const std::string& title);
+  void OfferItem(forms::ShiftState shift);
+  void OfferShellMenu(int index);
   [[nodiscard]] WindowId HintWindow() const;
   void Timer1_Timer();
 

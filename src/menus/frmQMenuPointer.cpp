@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "core/Carry.h"
+#include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "launch/LaunchItem.h"
 #include "menus/frmQMenu.h"
@@ -80,7 +81,7 @@ void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float
   if (EndCarry(program_, OnScreen(x, y), button, shift)) return;
   if (program_.MenuBuilding) return;
   if (button == MouseButton::Left && !PointerAway) ChooseItem(x, y);
-  if (button == MouseButton::Right) OfferItem();
+  if (button == MouseButton::Right) OfferItem(shift);
 }
 
 void frmQMenu::xMouseUp(MouseButton button, ShiftState shift, float x, float y) {
@@ -97,6 +98,7 @@ void frmQMenu::ChooseItem(float x, float y) {
     DropSelection();
     return;
   }
+  const std::string title = SingleAmpersands(Lbl[hit].Caption());
   const bool mainMenu = EqualNoCase(MenuKey, kMainMenuKey);
   // The program's own menu acts by its captions.
   const std::string command =
@@ -105,10 +107,11 @@ void frmQMenu::ChooseItem(float x, float y) {
   // The menu is gone before the item starts.
   CloseMenu();
   program_.DoEvents();
-  RunItem(mainMenu, hit, command);
+  RunItem(mainMenu, hit, command, title);
 }
 
-void frmQMenu::RunItem(bool mainMenu, int index, const std::string& command) {
+void frmQMenu::RunItem(bool mainMenu, int index, const std::string& command,
+                       const std::string& title) {
   if (mainMenu) {
     if (program_.Ports.MainMenu != nullptr) program_.Ports.MainMenu->xMainMenu(index, command);
     return;
@@ -120,16 +123,43 @@ void frmQMenu::RunItem(bool mainMenu, int index, const std::string& command) {
     return;
   }
   // A folder that is not expanded opens as itself.
-  LaunchItem(program_, Trim(command.substr(0, command.find('*'))));
+  const std::string wanted = Trim(command.substr(0, command.find('*')));
+  SpecialFoldersPort* const folders = program_.Ports.SpecialFolders;
+  if (folders != nullptr && StartsWithNoCase(wanted, kSpecialFolderStart)) {
+    folders->OpenSpecialFolder(wanted, title);
+    return;
+  }
+  LaunchItem(program_, wanted);
 }
 
-void frmQMenu::OfferItem() {
+void frmQMenu::OfferItem(ShiftState shift) {
   const int index = program_.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled()) return;
   KeyboardActive = true;
   FillCurrentItem(index);
   SavedMenuKey = MenuKey;
+  if (OffersShellMenu(EqualNoCase(MenuKey, kMainMenuKey), program_.OptionFlags.At(19),
+                      shift.Ctrl) &&
+      program_.Ports.SpecialFolders != nullptr) {
+    OfferShellMenu(index);
+    return;
+  }
   if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup();
+}
+
+void frmQMenu::OfferShellMenu(int index) {
+  // The item may be another one by the time the menu of the shell is gone, and so may the window.
+  const std::string command = GetExeName(index);
+  const std::string title = SingleAmpersands(Lbl[index].Caption());
+  const std::string key = MenuKey;
+  const auto watch = MakeWatch();
+  if (!program_.Ports.SpecialFolders->ShowContextMenu(
+          command, title, program_.Services.Pointer.PointerPosition(), hWnd()) ||
+      watch.Gone()) {
+    return;
+  }
+  // A menu that came up meanwhile is another matter.
+  if (IsLoaded() && Visible() && EqualNoCase(MenuKey, key)) CloseMenu();
 }
 
 // ---- leaving ----

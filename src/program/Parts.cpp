@@ -27,6 +27,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.IconLibrary = &TheIconLibrary;
   ports.BuiltInCommands = &TheBuiltIns;
   ports.Browser = &TheBrowser;
+  ports.SpecialFolders = &TheSpecialFolders;
   ports.ShellLinks = &Links;
   ports.StartupLink = &TheStartupLink;
   ports.DragImage = &Carried;

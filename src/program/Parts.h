@@ -7,6 +7,7 @@
 #include "launch/BuiltInCommands.h"
 #include "menus/FolderMenus.h"
 #include "menus/MainMenu.h"
+#include "menus/SpecialFolders.h"
 #include "menus/frmQMenu.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
@@ -57,6 +58,7 @@ class Parts {
   IconLibrary TheIconLibrary{TheProgram};
   BuiltInCommands TheBuiltIns{TheProgram};
   Browser TheBrowser{TheProgram};
+  SpecialFolders TheSpecialFolders{TheProgram};
   LinkReader Links{TheProgram};
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};

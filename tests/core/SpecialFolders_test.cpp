@@ -105,8 +105,9 @@ TEST(IsSpecialFolderEntry, WantsATitleAndAKnownFolder) {
                               "TCP/IP\\CSIDL_CONTROLS", "\xD0\x96\\CSIDL_FONTS/U"}) {
     EXPECT_TRUE(IsSpecialFolderEntry(command)) << command;
   }
-  for (const char* command : {"", "CSIDL_DRIVES", "\\CSIDL_DRIVES", "C:\\CSIDL_NOTES.txt",
-                              "C:\\CSIDL_DRIVES\\x.txt", "CSIDL_DRIVES\\Disk (C:)"}) {
+  for (const char* command :
+       {"", "CSIDL_DRIVES", "\\CSIDL_DRIVES", "C:\\CSIDL_NOTES.txt", "C:\\CSIDL_DRIVES",
+        "\\\\host\\CSIDL_DRIVES", "C:\\CSIDL_DRIVES\\x.txt", "CSIDL_DRIVES\\Disk (C:)"}) {
     EXPECT_FALSE(IsSpecialFolderEntry(command)) << command;
   }
 }

@@ -67,4 +67,10 @@ std::wstring StartupFolder() {
   return folder;
 }
 
+std::wstring ProgramsFolder() {
+  wchar_t folder[MAX_PATH] = {};
+  SHGetSpecialFolderPathW(nullptr, folder, CSIDL_PROGRAMS, TRUE);
+  return folder;
+}
+
 }  // namespace corvelle::e2e

@@ -10,7 +10,8 @@ namespace corvelle::e2e {
                                 const std::wstring& arguments, const std::wstring& folder);
 /// The target of a link; nothing when it is missing or damaged.
 [[nodiscard]] std::optional<std::wstring> LinkTargetOf(const std::wstring& link);
-/// The user's Startup folder, without a trailing backslash.
+/// The user's Startup folder and the one of programs, without a trailing backslash.
 [[nodiscard]] std::wstring StartupFolder();
+[[nodiscard]] std::wstring ProgramsFolder();
 
 }  // namespace corvelle::e2e

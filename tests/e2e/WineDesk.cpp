@@ -433,8 +433,23 @@ void WineDesk::ClickTrayIcon() {
   Release(Button::Left);
 }
 
+void WineDesk::AnswerMenus() {
+  if (menusAnswered_ == menuAnswers_.size()) return;
+  HWND menu = FindWindowW(L"#32768", nullptr);
+  if (menu == nullptr || IsWindowVisible(menu) == FALSE) return;
+  Sleep(300);  // It draws itself and begins to listen.
+  const char letter = menuAnswers_[menusAnswered_++];
+  Picture("menu-" + std::to_string(menusAnswered_));
+  if (letter == 0) {
+    Key(VK_ESCAPE);
+  } else {
+    Type(letter);
+  }
+}
+
 void WineDesk::AnswerMessages() {
   ChooseInPopups();
+  AnswerMenus();
   if (answered_ == answers_.size()) return;
   HWND box = OpenMessageBox();
   if (box == nullptr) return;
@@ -495,6 +510,13 @@ std::string WineDesk::MakeDamagedLink() {
   const std::wstring link = std::wstring(kDocumentFolder) + L"damaged.lnk";
   if (!WriteBytes(link, "L\x01 is no link")) std::printf("There is no damaged link\n");
   return Narrow(link);
+}
+
+void WineDesk::MakeProgramsEntry(std::string_view title, std::string_view arguments) {
+  if (!MakeLinkFile(ProgramsFolder() + L"\\" + Wide(title) + L".lnk", Wide(WitnessProgram()),
+                    Wide(arguments), L"")) {
+    std::printf("There is no entry among the programs\n");
+  }
 }
 
 std::optional<std::string> WineDesk::StartupLinkTarget() const {

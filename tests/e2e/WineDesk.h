@@ -74,6 +74,8 @@ class WineDesk final : public scenario::Desk {
   void ChooseFromPopup(std::string_view caption) override { choices_.emplace_back(caption); }
   [[nodiscard]] bool PopupIsUp() const override;
   void ClickTrayIcon() override;
+  void AnswerShellMenu(char letter) override { menuAnswers_.push_back(letter); }
+  [[nodiscard]] int ShellMenus() const override { return static_cast<int>(menusAnswered_); }
 
   [[nodiscard]] std::optional<std::string> ReadFile(std::string_view name) const override;
   void WriteFile(std::string_view name, std::string_view bytes) override;
@@ -85,6 +87,7 @@ class WineDesk final : public scenario::Desk {
   [[nodiscard]] std::string WitnessDocument() const override;
   std::string MakeWitnessLink(std::string_view arguments, std::string_view folder) override;
   std::string MakeDamagedLink() override;
+  void MakeProgramsEntry(std::string_view title, std::string_view arguments) override;
   [[nodiscard]] std::optional<std::string> StartupLinkTarget() const override;
   [[nodiscard]] std::vector<scenario::Launch> Launched() const override;
 
@@ -101,11 +104,14 @@ class WineDesk final : public scenario::Desk {
   void SendMouse(DWORD flags);
   void AnswerMessages();
   void ChooseInPopups();
+  void AnswerMenus();
 
   std::vector<HANDLE> copies_;
   PixelPoint pointer_;
   std::vector<int> answers_;
   std::size_t answered_ = 0;
+  std::vector<char> menuAnswers_;
+  std::size_t menusAnswered_ = 0;
   std::vector<scenario::SeenMessage> messages_;
   std::vector<std::string> choices_;
   std::size_t chosen_ = 0;

@@ -29,6 +29,9 @@ TEST(CommandForms, EachRowOfTheTableIsKnown) {
   const FormRow rows[] = {
       {"nothing", "", CommandKind::Empty, ""},
       {"special folder", "CSIDL_DRIVES", CommandKind::SpecialFolder, "CSIDL_DRIVES"},
+      {"entry of one", "Fonts\\CSIDL_CONTROLS", CommandKind::SpecialFolder,
+       "Fonts\\CSIDL_CONTROLS"},
+      {"a file called so", "C:\\CSIDL_x.txt", CommandKind::Other, "C:\\CSIDL_x.txt"},
       {"raw text", "?c:\\a.exe /x", CommandKind::Other, "c:\\a.exe /x"},
       {"net search", "netsearch", CommandKind::NetSearch, "netsearch"},
       {"find computer", "findcomputer", CommandKind::FindComputer, "findcomputer"},

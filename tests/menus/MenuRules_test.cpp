@@ -198,5 +198,23 @@ TEST(ReturnAfterARefresh, GoesToThePageThatWasUpOrTheLastThereIs) {
   EXPECT_EQ(ReturnPage(5, 3), 3);
 }
 
+TEST(OffersShellMenu, ByTheOptionAndTurnedOverByCtrlButNeverInTheProgramsOwnMenu) {
+  struct Row {
+    bool MainMenu;
+    char Preference;
+    bool Ctrl;
+    bool Expected;
+  };
+  const Row rows[] = {
+      {false, '0', false, true}, {false, '0', true, false}, {false, '1', false, false},
+      {false, '1', true, true},  {true, '0', false, false}, {true, '0', true, false},
+      {true, '1', false, false}, {true, '1', true, false},
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(OffersShellMenu(row.MainMenu, row.Preference, row.Ctrl), row.Expected)
+        << row.MainMenu << row.Preference << row.Ctrl;
+  }
+}
+
 }  // namespace
 }  // namespace corvelle

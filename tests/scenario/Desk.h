@@ -145,6 +145,11 @@ class Desk {
   [[nodiscard]] virtual bool PopupIsUp() const = 0;
   /// Clicks the program's icon in the tray. Does nothing when there is none.
   virtual void ClickTrayIcon() = 0;
+  /// What the person does with the next context menu of the shell that comes up: presses that
+  /// letter, which chooses a command, or Esc for 0.
+  virtual void AnswerShellMenu(char letter) = 0;
+  /// How many of them were answered so far.
+  [[nodiscard]] virtual int ShellMenus() const = 0;
 
   // ---- files of the program's folder, named from there: "Menus\\BMENU001.MNU" ----
 
@@ -164,6 +169,8 @@ class Desk {
   /// would make it, and gives its path. A damaged one: a file that is only named like a link.
   virtual std::string MakeWitnessLink(std::string_view arguments, std::string_view folder) = 0;
   virtual std::string MakeDamagedLink() = 0;
+  /// Puts a link to the witness into the user's folder of programs, which shows it by that title.
+  virtual void MakeProgramsEntry(std::string_view title, std::string_view arguments) = 0;
   /// The target of the program's link in the Startup folder; nothing when there is none.
   [[nodiscard]] virtual std::optional<std::string> StartupLinkTarget() const = 0;
   /// What was started so far, in order.

@@ -21,6 +21,8 @@ constexpr std::string_view kDamagedLink = "C:\\documents\\damaged.lnk";
 constexpr std::string_view kDamage = "L\x01 is no link";
 constexpr std::string_view kStartup = "C:\\Start Menu\\Startup";
 constexpr int kStartupFolder = 7;
+constexpr std::string_view kPrograms = "C:\\Start Menu\\Programs\\";
+constexpr int kProgramsFolder = 2;
 constexpr std::string_view kDocument =
     "C:\\documents\\letter to Zo\u00eb, \u043f\u0438\u0441\u044c\u043c\u043e.wit";
 
@@ -205,6 +207,16 @@ class SimDesk final : public Desk {
     }
     world_.Desktop.Pump();
   }
+  void AnswerShellMenu(char letter) override {
+    if (letter == 0) {
+      world_.Folders.Dismiss();
+    } else {
+      world_.Folders.Choose(std::string(1, letter));
+    }
+  }
+  [[nodiscard]] int ShellMenus() const override {
+    return static_cast<int>(world_.Folders.Menus().size());
+  }
 
   [[nodiscard]] std::optional<std::string> ReadFile(std::string_view name) const override {
     return world_.Files.Get(PathOf(name));
@@ -235,6 +247,14 @@ class SimDesk final : public Desk {
   std::string MakeDamagedLink() override {
     world_.Files.Put(kDamagedLink, kDamage);
     return std::string(kDamagedLink);
+  }
+  void MakeProgramsEntry(std::string_view title, std::string_view arguments) override {
+    const std::string link = std::string(kPrograms) + std::string(title) + ".lnk";
+    world_.Links.Put(link, {.Path = std::string(kWitness), .Arguments = std::string(arguments)});
+    world_.Folders.Put(kProgramsFolder, {{std::string(title), 1}});
+    world_.Folders.WhenOpened(kProgramsFolder, std::string(title), [this, link] {
+      world_.Shell.Open(link, std::nullopt, std::nullopt);
+    });
   }
   [[nodiscard]] std::optional<std::string> StartupLinkTarget() const override {
     const auto link = world_.Links.Get(std::string(kStartup) + "\\Corvelle.lnk");

@@ -1,0 +1,98 @@
+// Folders of the shell and its context menus, from the menus of the program.
+
+#include <gtest/gtest.h>
+
+#include "scenario/Strip.h"
+
+namespace corvelle::scenario {
+namespace {
+
+constexpr std::string_view kTitle = "Zo\u00eb's tool";
+constexpr std::string_view kUnknownDocument = "thing.qzx";
+
+/// A menu of two entries: the witness's document and one for the witness.
+void WriteDocumentMenu(Desk& desk) {
+  WriteMenu(desk, 1, "One",
+            {{.FTitle = "Document", .FIcon = "", .FName = desk.WitnessDocument()},
+             Witness(desk, "second")});
+}
+
+TEST(SpecialFolder, ItsEntryStartsByAClick) {
+  const auto desk = MakeDesk();
+  desk->WriteFile(kFlagsFile, InstalledFlags());
+  desk->MakeProgramsEntry(kTitle, "from-programs");
+  WriteMenu(*desk, 1, "One",
+            {{.FTitle = "Gone", .FIcon = "", .FName = "CSIDL_PROGRAMS\\No such entry"},
+             {.FTitle = "Tool", .FIcon = "", .FName = "CSIDL_PROGRAMS\\" + std::string(kTitle)}});
+  ASSERT_TRUE(StartAndWait(*desk));
+  ASSERT_TRUE(OpenMenu(*desk, 2));
+  desk->Click(ItemMiddle(*desk, 1, 2));
+  ASSERT_TRUE(WaitForNoMenu(*desk));
+  desk->Pause(500);
+  EXPECT_TRUE(desk->Launched().empty());
+  ASSERT_TRUE(OpenMenu(*desk, 2));
+  desk->Click(ItemMiddle(*desk, 2, 2));
+  ASSERT_TRUE(desk->Wait([&] { return !desk->Launched().empty(); }));
+  EXPECT_EQ(desk->Launched()[0].Program, desk->WitnessProgram());
+  EXPECT_EQ(desk->Launched()[0].Arguments, "from-programs");
+  EXPECT_TRUE(desk->Messages().empty());
+}
+
+TEST(ShellMenu, ComesUpByARightClickWhereTheOptionSaysSoAndItsCommandClosesTheMenu) {
+  const auto desk = MakeDesk();
+  desk->WriteFile(kFlagsFile, InstalledFlags({19}));
+  WriteDocumentMenu(*desk);
+  ASSERT_TRUE(StartAndWait(*desk));
+  ASSERT_TRUE(OpenMenu(*desk, 2));
+  desk->AnswerShellMenu('c');  // copies the file
+  desk->Click(ItemMiddle(*desk, 1, 2), Button::Right);
+  ASSERT_TRUE(desk->Wait([&] { return desk->ShellMenus() == 1; }));
+  EXPECT_TRUE(WaitForNoMenu(*desk));
+  EXPECT_EQ(desk->RunningCopies(), 1);
+  EXPECT_TRUE(desk->Messages().empty());
+}
+
+TEST(ShellMenu, ComesUpWithCtrlWhereTheOptionPrefersThePopupAndEscLeavesTheMenu) {
+  const auto desk = MakeDesk();
+  desk->WriteFile(kFlagsFile, InstalledFlags());
+  WriteDocumentMenu(*desk);
+  ASSERT_TRUE(StartAndWait(*desk));
+  ASSERT_TRUE(OpenMenu(*desk, 2));
+  desk->AnswerShellMenu(0);
+  desk->MovePointer(ItemMiddle(*desk, 1, 2));
+  desk->Pause(100);
+  desk->HoldKey(kKeyControl);
+  desk->Press(Button::Right);
+  desk->Release(Button::Right);
+  desk->Pause(100);
+  desk->LetKeyGo(kKeyControl);
+  ASSERT_TRUE(desk->Wait([&] { return desk->ShellMenus() == 1; }));
+  desk->Pause(500);
+  EXPECT_TRUE(desk->IsVisible("frmQMenu"));
+  // The menu still takes a choice.
+  desk->Click(ItemMiddle(*desk, 2, 2));
+  EXPECT_TRUE(desk->Wait([&] { return !desk->Launched().empty(); }));
+}
+
+// What the system then shows is its own affair.
+TEST(UnknownDocument, IsHandedToTheSystemAndTheProgramGoesOn) {
+  const auto desk = MakeDesk();
+  desk->WriteFile(kFlagsFile, InstalledFlags());
+  desk->WriteFile(kUnknownDocument, "some bytes");
+  WriteMenu(
+      *desk, 1, "One",
+      {{.FTitle = "Thing", .FIcon = "", .FName = "C:\\Corvelle\\" + std::string(kUnknownDocument)},
+       Witness(*desk, "second")});
+  ASSERT_TRUE(StartAndWait(*desk));
+  ASSERT_TRUE(OpenMenu(*desk, 2));
+  desk->Click(ItemMiddle(*desk, 1, 2));
+  ASSERT_TRUE(WaitForNoMenu(*desk));
+  desk->Pause(1500);
+  desk->Picture("unknown-document");
+  EXPECT_EQ(desk->RunningCopies(), 1);
+  EXPECT_TRUE(desk->Messages().empty());
+  EXPECT_EQ(desk->ReadFile(kUnknownDocument), "some bytes");
+}
+
+}  // namespace
+}  // namespace corvelle::scenario
