@@ -235,7 +235,9 @@ TEST(Carry, APopupCommandAtWorkKeepsTheEntryWhereItIs) {
   desk.Release();
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "B", "C", "D"}));
   EXPECT_FALSE(desk.Carries());
+  desk.Strip.ResetMenu();
   desk.Carry(2);
+  ASSERT_TRUE(desk.Carries());
   desk.ToButton(3);
   desk.Release();
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "B", "C", "D"}));
@@ -360,11 +362,19 @@ TEST(Carry, TheRightButtonElsewhereLeavesTheCarryAlone) {
 }
 
 TEST(Carry, TheProgramsOwnButtonTakesNothing) {
+  OwnMenu own;
   CarryDesk desk;
+  desk.TheProgram.Ports.MainMenu = &own;
   desk.Start();
   desk.Carry(2);
-  desk.ToButton(1);
+  const PixelPoint middle = desk.Middle(1);
+  const PixelPoint beside{middle.x - 8, middle.y};
+  desk.To(beside);
+  ASSERT_EQ(desk.MenuUp(), 1);
+  desk.World.Files.ClearLog();
   desk.Release();
+  EXPECT_EQ(desk.World.Files.Count("Rename"), 0);
+  EXPECT_EQ(desk.World.Desktop.PointerPosition(), beside);
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "B", "C", "D"}));
   EXPECT_FALSE(desk.Carries());
 }
@@ -443,6 +453,7 @@ TEST(Carry, WhoseReleaseAnotherProgramGotIsAbandoned) {
   desk.To(CarryDesk::kAway);
   EXPECT_TRUE(desk.Carries());
   desk.Release();
+  desk.Strip.GetCurButton();
   EXPECT_TRUE(desk.Carries()) << "the release may still be on its way";
   desk.World.Desktop.Advance(400);
   EXPECT_FALSE(desk.Carries());
@@ -506,7 +517,9 @@ TEST(CarryGuards, ASecondReleaseAClickAndTheTimersInsideADropDoNothing) {
     desk.Strip.GetCurButton();
     desk.World.Desktop.Jump(1000);
     desk.Strip.GetCurButton();
+    desk.World.Desktop.SetPointerPosition(CarryDesk::kAway);
     desk.Picture.Timer1.Tick();
+    EXPECT_EQ(desk.Pointer(), MousePointer::Hourglass);
     desk.Strip.Timer2_Timer();
     EXPECT_TRUE(desk.Carries());
     EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "B");
