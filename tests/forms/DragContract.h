@@ -14,6 +14,9 @@ class DragHome : public ContractHome {
  public:
   static constexpr PixelPoint kSource{700, 500};
 
+  /// No test of a drag opens one.
+  void ClosePopup() override {}
+
   /// From now on the other program has this to drag.
   virtual void Offer(const DragData& data, DropEffect allowed) = 0;
   virtual void MovePointer(PixelPoint at) = 0;

@@ -37,6 +37,7 @@ struct NotedRow final : SingleButtonsPort {
   }
   void PasteSingle(std::string_view) override {}
   void UndoDeleteSB(std::string_view) override {}
+  void DropFilesOnSingles(std::vector<std::string>, forms::MouseButton) override {}
 
   Program& TheProgram;
 };

@@ -269,6 +269,7 @@ TEST(SingleButtonsOLE, AnAddressIsOfferedForTheRow) {
 
 TEST(SingleButtonsOLE, WithoutTheRowFilesAreRefused) {
   DragDesk desk;
+  desk.TheProgram.Ports.SingleButtons = nullptr;
   desk.Strip.picSingleButton.SetWidth(900);
   const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
   desk.TakeFiles({"C:\\b.txt"});
