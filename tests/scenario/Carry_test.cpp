@@ -101,6 +101,8 @@ TEST_F(CarryRoad, AnItemIsCarriedUpWithinItsMenu) {
 TEST_F(CarryRoad, WithCtrlHeldItIsCopied) {
   PickUp(4);
   CarryTo(ItemMiddle(*desk_, 1, 4));
+  // A key that is held repeats itself.
+  desk_->HoldKey(kKeyControl);
   PutDown();
   EXPECT_TRUE(WaitForItems(1, {"delta", "alpha", "beta", "gamma", "delta"}));
   desk_->Picture("five-items");
