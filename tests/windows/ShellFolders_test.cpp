@@ -65,7 +65,11 @@ class MenuHand {
     thread_.join();
   }
 
-  void Press(int virtualKey) { key_ = virtualKey; }
+  /// Before the menu comes up: the one before is done with by then.
+  void Press(int virtualKey) {
+    while (busy_) Sleep(5);
+    key_ = virtualKey;
+  }
   int Menus() const { return menus_; }
 
  private:
@@ -86,6 +90,7 @@ class MenuHand {
     while (!end_) {
       Sleep(20);
       if (!MenuIsUp()) continue;
+      busy_ = true;
       Sleep(200);  // It begins to listen.
       ++menus_;
       // Without a wish the menu goes away again.
@@ -96,12 +101,14 @@ class MenuHand {
         Send(key);
         for (int waited = 0; waited < 100 && MenuIsUp() && !end_; ++waited) Sleep(20);
       }
+      busy_ = false;
     }
   }
 
   HWND front_;
   std::atomic<int> key_ = VK_ESCAPE;
   std::atomic<int> menus_ = 0;
+  std::atomic<bool> busy_ = false;
   std::atomic<bool> end_ = false;
   std::thread thread_;
 };
