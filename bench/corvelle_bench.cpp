@@ -16,6 +16,7 @@
 #include "HostFiles.h"
 #include "core/Main.h"
 #include "core/MenuRecord.h"
+#include "icons/IconResolution.h"
 #include "platform/ShellIcons.h"
 #include "program/Parts.h"
 #include "sim/Complain.h"
@@ -301,6 +302,41 @@ void MeasureFolder(int files) {
   Print("a letter that no title begins with, " + what, typed, passed);
 }
 
+/// Draws icons by their texts, first on a machine that has seen none of the files and then again,
+/// beside the calls of the shell that those texts cannot do without.
+void MeasureIcons() {
+  constexpr int kIcons = 1000;
+  constexpr int kSize = 16;
+  Ground ground;
+  Copy copy(ground);
+  copy.Start();
+  std::vector<std::string> files;
+  for (int i = 0; i < kIcons; ++i) {
+    files.push_back("C:\\Tools\\tool" + std::to_string(i) + ".exe");
+    ground.World.Files.Put(files.back(), "x");
+  }
+  const auto canvas = ground.World.Desktop.CreateCanvas({kSize, kSize});
+  ShellIcons& shell = ground.World.Icons;
+  const auto resolve = [&] {
+    for (const std::string& file : files) {
+      if (!ResolveAndDraw(copy.TheProgram, *canvas, file, {0, 0}, kSize)) GiveUp("no icon");
+    }
+  };
+  const auto bare = [&] {
+    for (const std::string& file : files) {
+      const auto info = shell.FileInfo(file, IconList::Small);
+      if (!info || !shell.DrawSystemIcon(*canvas, IconList::Small, info->SystemIndex, {0, 0},
+                                         IconStyle::Normal)) {
+        GiveUp("the shell has no icon");
+      }
+    }
+  };
+  const double cold = Time(1, nullptr, resolve);
+  const double floor = Time(21, nullptr, bare);
+  Print("1000 icon texts, the first time", cold, floor);
+  Print("the same again", Time(21, nullptr, resolve), floor);
+}
+
 }  // namespace
 }  // namespace corvelle::bench
 
@@ -315,5 +351,6 @@ int main(int argc, char** argv) {
   for (const int files : bench::kFiles) {
     if (!quick || files == bench::kFiles[0]) bench::MeasureFolder(files);
   }
+  bench::MeasureIcons();
   return 0;
 }

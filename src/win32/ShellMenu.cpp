@@ -11,11 +11,6 @@ constexpr wchar_t kHostClass[] = L"CorvelleMenuHost";
 constexpr UINT kFirstCommand = 1;
 constexpr UINT kLastCommand = 0x7FFF;
 
-struct MenuTraits : NullHandleTraits<HMENU> {
-  static void Close(HMENU menu) noexcept { DestroyMenu(menu); }
-};
-using UniqueMenu = UniqueHandle<MenuTraits>;
-
 /// A window that is never shown and gets the messages of the menu, for the entries that the item's
 /// programs draw and the submenus that they fill when they open.
 class MenuHost {

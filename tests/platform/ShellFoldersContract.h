@@ -26,7 +26,7 @@ class ContractFolders {
   /// A file that is there, and one that is not.
   virtual std::string File() = 0;
   virtual std::string MissingFile() = 0;
-  /// What "Contract two" started, once it has: the argument that it was given; empty before.
+  /// Which of the two was started first, "one" or "two"; empty when none is within seconds.
   virtual std::string Started() = 0;
   /// The user leaves the next menu without a choice; chooses its command "Copy".
   virtual void DismissNextMenu() = 0;
@@ -100,7 +100,6 @@ TEST_P(ShellFoldersContract, AnUnknownFolderIsNone) {
 TEST_P(ShellFoldersContract, OpensAnEntryByItsWholeName) {
   EXPECT_FALSE(Shell().OpenEntry(kPrograms, "Contract", {}, kNoWindow));
   EXPECT_FALSE(Shell().OpenEntry(kPrograms, "", {}, kNoWindow));
-  EXPECT_EQ(home_->Started(), "");
   EXPECT_TRUE(Shell().OpenEntry(kPrograms, kTwo, {}, kNoWindow));
   EXPECT_EQ(home_->Started(), "two");
 }

@@ -13,6 +13,7 @@
 #include "platform/ShellFoldersContract.h"
 #include "win32/ComPointer.h"
 #include "win32/ShellMenu.h"
+#include "win32/UniqueHandle.h"
 #include "win32/Wide.h"
 #include "win32/Win32Files.h"
 
@@ -36,11 +37,27 @@ class Com {
   bool ready_;
 };
 
-/// Another hand at the keyboard: presses a key in each menu that comes up, in the order in which
-/// the keys were asked for, and gives up on a menu after a while.
+/// A window of this thread in the foreground, for the keys that a menu wants.
+class Front {
+ public:
+  Front()
+      : window_(CreateWindowExW(0, L"Static", L"Front", WS_POPUP | WS_VISIBLE, 500, 400, 50, 50,
+                                nullptr, nullptr, nullptr, nullptr)) {
+    SetForegroundWindow(window_.Get());
+    SetFocus(window_.Get());
+  }
+
+  HWND Window() const { return window_.Get(); }
+
+ private:
+  win32::UniqueWindow window_;
+};
+
+/// Another hand at the keyboard: presses the wanted key in the next menu that comes up, and Esc in
+/// each for which none is wanted.
 class MenuHand {
  public:
-  MenuHand() : thread_([this] { Run(); }) {}
+  explicit MenuHand(const Front& front) : front_(front.Window()), thread_([this] { Run(); }) {}
   MenuHand(const MenuHand&) = delete;
   MenuHand& operator=(const MenuHand&) = delete;
   ~MenuHand() {
@@ -48,7 +65,11 @@ class MenuHand {
     thread_.join();
   }
 
-  void Press(int virtualKey) { key_ = virtualKey; }
+  /// Before the menu comes up: the one before is done with by then.
+  void Press(int virtualKey) {
+    while (busy_) Sleep(5);
+    key_ = virtualKey;
+  }
   int Menus() const { return menus_; }
 
  private:
@@ -69,33 +90,27 @@ class MenuHand {
     while (!end_) {
       Sleep(20);
       if (!MenuIsUp()) continue;
+      busy_ = true;
       Sleep(200);  // It begins to listen.
       ++menus_;
       // Without a wish the menu goes away again.
-      Send(key_.exchange(VK_ESCAPE));
-      for (int waited = 0; waited < 100 && MenuIsUp() && !end_; ++waited) Sleep(20);
-      if (MenuIsUp()) Send(VK_ESCAPE);
+      const int key = key_.exchange(VK_ESCAPE);
+      while (MenuIsUp() && !end_) {
+        // Keys go to the program in the foreground, whatever was started meanwhile.
+        SetForegroundWindow(front_);
+        Send(key);
+        for (int waited = 0; waited < 100 && MenuIsUp() && !end_; ++waited) Sleep(20);
+      }
+      busy_ = false;
     }
   }
 
+  HWND front_;
   std::atomic<int> key_ = VK_ESCAPE;
   std::atomic<int> menus_ = 0;
+  std::atomic<bool> busy_ = false;
   std::atomic<bool> end_ = false;
   std::thread thread_;
-};
-
-/// A window of this thread in the foreground, for the keys that a menu wants.
-class Front {
- public:
-  Front()
-      : window_(CreateWindowExW(0, L"Static", L"Front", WS_POPUP | WS_VISIBLE, 500, 400, 50, 50,
-                                nullptr, nullptr, nullptr, nullptr)) {
-    SetForegroundWindow(window_.Get());
-    SetFocus(window_.Get());
-  }
-
- private:
-  win32::UniqueWindow window_;
 };
 
 class RealFolders final : public ContractFolders {
@@ -116,32 +131,35 @@ class RealFolders final : public ContractFolders {
   std::string MissingFile() override { return temp_.Path() + "missing.txt"; }
   std::string Started() override {
     // What was started takes its time to say so.
-    for (int waited = 0; waited < 60; ++waited) {
-      if (files_.FileExists(Answer())) break;
+    for (int waited = 0; waited < 100; ++waited) {
+      for (const char* word : {"one", "two"}) {
+        if (files_.FileExists(Answer(word))) return word;
+      }
       Sleep(50);
     }
-    const auto text = files_.Read(Answer(), 0, 100);
-    if (!text) return {};
-    return text->substr(0, text->find_first_of(" \r\n"));
+    return {};
   }
   void DismissNextMenu() override { hand_.Press(VK_ESCAPE); }
   void CopyInNextMenu() override { hand_.Press('C'); }
   int Menus() override { return hand_.Menus(); }
 
  private:
-  std::string Answer() { return temp_.Path() + "answer.txt"; }
-  /// To a program that writes a word into the file of the answer.
+  std::string Answer(const std::string& word) { return temp_.Path() + word + ".xml"; }
+  /// To this program, which runs no test then but writes down that it ran.
   void Link(const std::string& title, const std::string& word) {
     win32::ComPointer<IShellLinkW> link;
     win32::ComPointer<IPersistFile> file;
+    wchar_t self[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, self, MAX_PATH);
     links_.push_back(programs_ + title + ".lnk");
-    EXPECT_TRUE(SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER,
-                                           IID_IShellLinkW, link.ReceiveVoid())) &&
-                SUCCEEDED(link->QueryInterface(IID_IPersistFile, file.ReceiveVoid())) &&
-                SUCCEEDED(link->SetPath(L"C:\\windows\\system32\\cmd.exe")) &&
-                SUCCEEDED(link->SetArguments(
-                    Wide("/c echo " + word + " > \"" + Answer() + "\"").c_str())) &&
-                SUCCEEDED(file->Save(Wide(links_.back()).c_str(), TRUE)));
+    EXPECT_TRUE(
+        SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                   link.ReceiveVoid())) &&
+        SUCCEEDED(link->QueryInterface(IID_IPersistFile, file.ReceiveVoid())) &&
+        SUCCEEDED(link->SetPath(self)) &&
+        SUCCEEDED(link->SetArguments(
+            Wide("--gtest_filter=None \"--gtest_output=xml:" + Answer(word) + "\"").c_str())) &&
+        SUCCEEDED(file->Save(Wide(links_.back()).c_str(), TRUE)));
   }
 
   Com com_;
@@ -151,12 +169,16 @@ class RealFolders final : public ContractFolders {
   std::vector<std::string> links_;
   win32::Win32ShellFolders folders_;
   Front front_;
-  MenuHand hand_;
+  MenuHand hand_{front_};
 };
 
 std::unique_ptr<ContractFolders> MakeReal() { return std::make_unique<RealFolders>(); }
 
 INSTANTIATE_TEST_SUITE_P(Windows, ShellFoldersContract, testing::Values(MakeReal));
+
+// Objects of COM are given back by Release and never by their bases.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
 /// The menu of an item with a submenu that is filled, and an entry that is drawn, by the item's
 /// program; it notes what it is told. Lives on the stack of its test.
@@ -216,10 +238,12 @@ class DrawnMenu final : public IContextMenu3 {
   ULONG references_ = 1;
 };
 
+#pragma GCC diagnostic pop
+
 TEST(ShellMenuOnWindows, HandsOnTheMessagesOfEntriesThatTheItemsProgramDraws) {
   const Com com;
   const Front front;
-  MenuHand hand;
+  MenuHand hand(front);
   DrawnMenu menu;
   hand.Press(VK_ESCAPE);
   EXPECT_FALSE(win32::ShowShellMenu(menu, {300, 200}, nullptr));
