@@ -11,22 +11,6 @@
 namespace corvelle {
 namespace {
 
-/// Covers the menu with its still picture while it is rebuilt.
-class MenuStill {
- public:
-  explicit MenuStill(CapturePort* capture) : capture_(capture) {
-    if (capture_ != nullptr) capture_->CaptureMenu();
-  }
-  MenuStill(const MenuStill&) = delete;
-  MenuStill& operator=(const MenuStill&) = delete;
-  ~MenuStill() {
-    if (capture_ != nullptr) capture_->ReleaseMenu();
-  }
-
- private:
-  CapturePort* capture_;
-};
-
 // The row takes what it is given from the clipboard; what the user has copied there stays his.
 void DropOnSingles(Program& program, forms::MouseButton released) {
   if (program.Ports.SingleButtons == nullptr || program.ItemActionBusy) return;
@@ -51,7 +35,6 @@ void Drop(Program& program, WindowId under, forms::MouseButton released, forms::
   } else if (strip != nullptr && under == strip->SingleBoxHandle()) {
     DropOnSingles(program, released);
   } else if (left && menu != nullptr && menu->MenuVisible() && under == menu->WindowHandle()) {
-    const MenuStill still(program.Ports.Capture);
     menu->DoItemDrag(shift);
   }
 }
@@ -63,6 +46,14 @@ bool TakesCopies(const Program& program, WindowId under) {
 }
 
 }  // namespace
+
+MenuStill::MenuStill(CapturePort* capture) : capture_(capture) {
+  if (capture_ != nullptr) capture_->CaptureMenu();
+}
+
+MenuStill::~MenuStill() {
+  if (capture_ != nullptr) capture_->ReleaseMenu();
+}
 
 void StartCarry(Program& program) {
   program.Entry.ItemDragging = true;

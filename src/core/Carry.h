@@ -5,6 +5,7 @@
 
 namespace corvelle {
 
+class CapturePort;
 class Program;
 
 // An entry in the hand: picked up in a menu or in the row of single buttons with the left button,
@@ -22,5 +23,18 @@ bool EndCarry(Program& program, PixelPoint at, forms::MouseButton released,
 
 /// Nothing is carried any more, and nothing was put down.
 void AbandonCarry(Program& program);
+
+/// Covers the menu that is up with its still picture until the scope ends, where the program has
+/// such pictures.
+class MenuStill {
+ public:
+  explicit MenuStill(CapturePort* capture);
+  MenuStill(const MenuStill&) = delete;
+  MenuStill& operator=(const MenuStill&) = delete;
+  ~MenuStill();
+
+ private:
+  CapturePort* capture_;
+};
 
 }  // namespace corvelle

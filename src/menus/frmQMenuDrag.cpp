@@ -41,6 +41,8 @@ void frmQMenu::DoItemDrag(ShiftState shift) {
   }
   // Both would rewrite the same files: the entry stays where it is, and can be carried again.
   if (program_.ItemActionBusy) return;
+  // Only now: the picture may take the activation, and the menu its selection back.
+  const MenuStill still(program_.Ports.Capture);
   const bool changed = DropItem(program_, key, place, shift.Ctrl);
   if (changed && program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->RefreshMenu(key);
 }

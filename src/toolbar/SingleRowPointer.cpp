@@ -111,7 +111,6 @@ void SingleRow::ToFrame(forms::MouseButton button, forms::ShiftState shift, floa
 void SingleRow::picSingleButton_MouseDown(forms::MouseButton button, forms::ShiftState shift,
                                           float x, float y) {
   if (program_.Entry.ItemDragging) return;
-  program_.SetHint("");
   OnDate = strip_.lblDate.Visible() && IsOnDateArea(x, strip_.lblDate.Left());
   // The place of the press: by now the pointer may be elsewhere.
   const int index = OnDate ? Program::kDateArea : SingleAt(SingleButtons, {x, y});
@@ -125,6 +124,8 @@ void SingleRow::picSingleButton_MouseDown(forms::MouseButton button, forms::Shif
   } else if (button == forms::MouseButton::Left && !MenuUp()) {
     BeginCarry(index);
   }
+  // Last, since a hint that goes lets events through, and the release may be among them.
+  program_.SetHint("");
 }
 
 void SingleRow::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x,

@@ -187,6 +187,21 @@ TEST(SingleClick, RunsTheButtonWhenOption11SaysSo) {
   EXPECT_EQ(desk.Parts.Times("no image"), 1);
 }
 
+TEST(SingleClick, WhoseReleaseComesWhileTheHintGoesRunsTheButton) {
+  SinglesDesk desk;
+  desk.PutSingles("ab");
+  desk.Start();
+  desk.PointAtSingle(2);
+  desk.Parts.WhileHintGoes = [&desk] {
+    desk.Parts.WhileHintGoes = nullptr;
+    desk.World.Desktop.Release();
+    desk.World.Desktop.DoEvents();
+  };
+  desk.World.Desktop.Press();
+  EXPECT_EQ(desk.Started(), std::vector<std::string>{"C:\\Tools\\b.exe"});
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+}
+
 TEST(SingleClick, WithoutOption11ADoubleClickRunsItOnce) {
   SinglesDesk desk;
   desk.SetOption(11, false);

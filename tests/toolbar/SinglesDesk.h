@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,13 @@ struct NotedParts final : HintPort, DragImagePort, PopupPort, SpecialFoldersPort
   std::vector<std::string> Asked;
   std::string Hint;
 
-  void SetHint(std::string_view text) override { Hint = text; }
+  /// What runs while a hint goes, as events do then.
+  std::function<void()> WhileHintGoes;
+
+  void SetHint(std::string_view text) override {
+    Hint = text;
+    if (text.empty() && WhileHintGoes) WhileHintGoes();
+  }
   WindowId WindowHandle() const override { return kNoWindow; }
   void SetDragImage(std::string_view icon) override {
     Asked.push_back("image " + std::string(icon));
