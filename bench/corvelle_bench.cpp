@@ -308,6 +308,7 @@ void MeasureIcons() {
   constexpr int kIcons = 1000;
   constexpr int kSize = 16;
   Ground ground;
+  ground.PutMenu(1, 1);
   Copy copy(ground);
   copy.Start();
   std::vector<std::string> files;

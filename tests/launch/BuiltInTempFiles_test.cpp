@@ -195,6 +195,7 @@ TEST_F(ClearTempFolderTest, FoldersStayWhateverTheirName) {
   world.Files.Put(std::string(kTemp) + "Setup\\a.tmp", "x");
   world.Files.Put(std::string(kTemp) + "work.tmp\\b.tmp", "x");
   ClearExpecting(0);
+  EXPECT_EQ(world.Files.Count("Remove"), 0);
   EXPECT_EQ(Left(), (Strings{"Setup", "work.tmp"}));
   EXPECT_TRUE(world.Files.Has(std::string(kTemp) + "Setup\\a.tmp"));
   EXPECT_TRUE(world.Files.Has(std::string(kTemp) + "work.tmp\\b.tmp"));
