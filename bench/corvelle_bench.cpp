@@ -83,7 +83,7 @@ class Ground {
  public:
   Ground() {
     for (const char* folder : {"C:\\Corvelle", "C:\\Corvelle\\Menus", "C:\\Corvelle\\Icons",
-                               "C:\\Corvelle\\ShellLink"}) {
+                               "C:\\Corvelle\\ShellLink", "C:\\Tools"}) {
       Must(Files.MakeFolder(folder), folder);
     }
     Must(Files.Write("C:\\Corvelle\\corvelle.exe", "x"), "corvelle.exe");
@@ -93,6 +93,9 @@ class Ground {
 
   /// The services, with the real files.
   Platform Services() { return World.Services(nullptr, &Icons, &Files); }
+
+  /// An empty program in an existing folder.
+  void PutFile(const std::string& path) { Must(Files.Write(path, ""), path); }
 
   std::string PutMenu(int number, int items) {
     // Every item has an icon of the shell's list, which no file is looked at for.
@@ -309,15 +312,16 @@ void MeasureIcons() {
   constexpr int kSize = 16;
   Ground ground;
   ground.PutMenu(1, 1);
+  ground.PutMenu(1, 1);
   Copy copy(ground);
   copy.Start();
   std::vector<std::string> files;
   for (int i = 0; i < kIcons; ++i) {
     files.push_back("C:\\Tools\\tool" + std::to_string(i) + ".exe");
-    ground.World.Files.Put(files.back(), "x");
+    ground.PutFile(files.back());
   }
   const auto canvas = ground.World.Desktop.CreateCanvas({kSize, kSize});
-  ShellIcons& shell = ground.World.Icons;
+  ShellIcons& shell = ground.Icons;
   const auto resolve = [&] {
     for (const std::string& file : files) {
       if (!ResolveAndDraw(copy.TheProgram, *canvas, file, {0, 0}, kSize)) GiveUp("no icon");

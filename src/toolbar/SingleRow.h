@@ -41,6 +41,8 @@ class SingleRow final : public SingleButtonsPort {
   /// Sets Program::CurSingle by the pointer's place on the screen, and returns it.
   int GetCurIndex() noexcept;
   /// Shows which button is under the pointer, by its look and its title as a hint.
+  /// The strip ends: nobody looks after the pointer any more.
+  void StopWatching() { watch_.SetEnabled(false); }
   void sMouseMove();
   /// Starts the button of CurSingle.
   void RunSingleButton();

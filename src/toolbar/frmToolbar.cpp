@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "base/Text.h"
+#include "core/Carry.h"
 #include "core/MenuFolder.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
@@ -185,6 +186,8 @@ void frmToolbar::Form_Unload() {
   program_.ToolbarReady = false;
   subclassed_ = false;
   StopDrag();
+  Singles.StopWatching();
+  if (program_.Entry.ItemDragging) AbandonCarry(program_);
   Timer1.SetEnabled(false);
   program_.SaveEdgeFlags();
   program_.SaveOptionFlags();
@@ -192,6 +195,7 @@ void frmToolbar::Form_Unload() {
   if (program_.Ports.Docking != nullptr) program_.Ports.Docking->EndAppBar();
   UnloadItems();
   program_.DoEvents();
+  StopTimers();
 }
 
 void frmToolbar::UnloadItems() {

@@ -86,6 +86,7 @@ bool SimShellFolders::OpenEntry(int folder, std::string_view name, std::string_v
 }
 
 bool SimShellFolders::Show(ShownMenu menu) {
+  if (choices_.empty() && dismissesAll_) return false;
   if (choices_.empty()) {
     Complain("a menu of the shell came up that nobody expected: " + menu.Name);
     return false;

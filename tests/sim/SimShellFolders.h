@@ -58,6 +58,8 @@ class SimShellFolders final : public ShellFolders {
   /// What the user does with the next menu: chooses this command, or none.
   void Choose(std::string command) { choices_.push_back(std::move(command)); }
   void Dismiss() { choices_.emplace_back(); }
+  /// Menus that nothing was said of may come or not, and nothing is chosen from them.
+  void DismissAnyOther() { dismissesAll_ = true; }
   /// Runs while each menu is up.
   void WhileMenuIsUp(std::function<void()> action) { menuAction_ = std::move(action); }
 
@@ -97,6 +99,7 @@ class SimShellFolders final : public ShellFolders {
   std::vector<OpenedEntry> opened_;
   std::vector<ShownMenu> menus_;
   int listings_ = 0;
+  bool dismissesAll_ = false;
 };
 
 }  // namespace corvelle::sim
