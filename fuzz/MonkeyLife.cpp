@@ -404,6 +404,8 @@ std::string MonkeyLife::WrongEnd() {
        {"frmToolbar", "frmQMenu", "frmMinimize", "picToolbar", "frmStartup"}) {
     if (world_->Desktop.Find(window) != kNoWindow) return std::string(window) + " outlives the end";
   }
+  if (parts_->Toolbar.Timer2.Enabled()) return "the pointer's timer outlives the end";
+  if (world_->Desktop.Clock().Running() != 0) return "a timer outlives the end";
   return {};
 }
 
