@@ -38,7 +38,7 @@ void frmHelp::Form_Load() {
   Label1.SetTop(kFirstTop);
   Timer1.SetEnabled(false);
   Timer1.SetInterval(kWatch);
-  SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
+  SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide | forms::swp::KeepActive);
 }
 
 void frmHelp::SetHint(std::string_view text) {

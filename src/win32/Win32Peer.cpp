@@ -114,11 +114,7 @@ void Win32Peer::SetZOrder(ZPlace place) {
 }
 
 void Win32Peer::SetWindowPos(InsertAfter after, unsigned flags) {
-  UINT all = flags | SWP_NOMOVE | SWP_NOSIZE;
-  // A window that goes out of sight, or stays there, takes no activation with it.
-  const bool shows = (all & SWP_SHOWWINDOW) != 0 || IsWindowVisible(Handle()) != 0;
-  if ((all & SWP_HIDEWINDOW) != 0 || !shows) all |= SWP_NOACTIVATE;
-  ::SetWindowPos(Handle(), AfterOf(after), 0, 0, 0, 0, all);
+  ::SetWindowPos(Handle(), AfterOf(after), 0, 0, 0, 0, flags | SWP_NOMOVE | SWP_NOSIZE);
 }
 
 std::unique_ptr<Canvas> Win32Peer::ScreenCanvas() {
