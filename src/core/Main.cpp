@@ -60,10 +60,11 @@ void OfferStartupLink(Program& program, StartupLinkPort& link) {
 void DoFirstRun(Program& program) {
   if (program.OptionFlags.Is(1) || program.Ports.StartupLink == nullptr) return;
   program.DoEvents();
+  if (HasEnded(program)) return;
   OfferStartupLink(program, *program.Ports.StartupLink);
   program.OptionFlags.Set(1, '1');
   program.SaveOptionFlags();
-  ShowWelcome(program);
+  if (!HasEnded(program)) ShowWelcome(program);
 }
 
 // A flag file that another program holds at this moment is no new installation: nothing is cleaned

@@ -43,6 +43,10 @@ std::optional<std::string_view> IfAny(const std::string& text) {
   return text;
 }
 
+void SayUnavailable(Program& program) {
+  program.Say(program.ToolbarWindow(), kUnavailableText, msgbox::IconStop | msgbox::OnTop);
+}
+
 /// Starts a command line. When it does not start, the user is told that its file is missing, or is
 /// offered the programs that might open the file of `command`.
 void RunCommandLine(Program& program, std::string_view commandLine, std::string_view command) {
@@ -50,7 +54,7 @@ void RunCommandLine(Program& program, std::string_view commandLine, std::string_
   const auto started = shell.Run(commandLine);
   if (started) return;
   if (started.Error() != RunError::Other) {
-    program.Say(program.ToolbarWindow(), kUnavailableText, msgbox::IconStop | msgbox::OnTop);
+    SayUnavailable(program);
     return;
   }
   if (!program.Services.Files.FileExists(command)) return;
@@ -69,7 +73,7 @@ void OpenOrRun(Program& program, const std::string& text) {
 void OpenLink(Program& program, const std::string& link) {
   std::string target;
   const std::string folder = GetLinkWorkDir(program, link, target);
-  // The system has its own words for a link that leads nowhere.
+  // What comes of a link that leads nowhere is the system's affair.
   program.Services.Shell.Open(link, std::nullopt, IfAny(folder));
 }
 
@@ -145,7 +149,13 @@ void OpenDropped(Program& program, const std::string& dropped, const std::string
     return;
   }
   if (program.Services.Shell.Open(target, dropped, std::nullopt)) return;
-  RunCommandLine(program, ProgramOf(program, target) + " " + dropped, target);
+  const std::string command = ProgramOf(program, target);
+  // Without a program the line would start what was dropped.
+  if (command.empty()) {
+    SayUnavailable(program);
+    return;
+  }
+  RunCommandLine(program, command + " " + dropped, target);
 }
 
 }  // namespace

@@ -19,6 +19,16 @@ constexpr std::string_view kRunning =
     "taskbar to activate it. If you have set it to Auto Hide, point your mouse to its previous "
     "position.";
 
+/// A look at the icons that takes its time.
+class SlowIconRule final : public IconRulePort {
+ public:
+  explicit SlowIconRule(sim::SimDesktop& desktop) : desktop_(desktop) {}
+  void DetectShellIcons() override { desktop_.Jump(10); }
+
+ private:
+  sim::SimDesktop& desktop_;
+};
+
 /// An installation with windows that only write down what happens to them.
 class MainTest : public testing::Test {
  protected:
@@ -255,9 +265,23 @@ TEST_F(MainTest, AFirstInstanceThatCannotBeWokenIsToldOf) {
 }
 
 TEST_F(MainTest, ACompanionClosedWhileTheQuestionIsUpEndsTheStart) {
+  world.Files.Put("C:\\Corvelle\\corvelle.hlp", "help");
   world.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { companion.UnloadWindow(); });
   world.Desktop.Answer(forms::msgbox::AnswerNo);
   EXPECT_FALSE(Main(program));
+  EXPECT_TRUE(world.System.HelpCalls.empty());
+}
+
+TEST_F(MainTest, ACompanionClosedBeforeTheQuestionLeavesItForTheNextStart) {
+  // The last events before the question are the only ones after the windows are loaded.
+  PutFlags("00000000100000000010000100000001");
+  SlowIconRule slow(world.Desktop);
+  program.Ports.IconRule = &slow;
+  const forms::TimerId timer = world.Desktop.StartTimer(10, [this] { companion.UnloadWindow(); });
+  EXPECT_FALSE(Main(program));
+  world.Desktop.StopTimer(timer);
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+  EXPECT_EQ(Flags()[0], '0');
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "e2e/DeskFiles.h"
 #include "e2e/WineDesk.h"
 #include "scenario/Strip.h"
 
@@ -54,6 +55,31 @@ TEST(Instance, StartsFromAFolderOfAnotherName) {
   ASSERT_TRUE(StartAndWait(desk));
   EXPECT_TRUE(desk.FolderExists("ShellLink"));
   EXPECT_EQ(GetFileAttributesW(L"C:\\windows\\ShellLink"), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST(Document, WithoutAProgramIsHandedToTheSystemsOpenWithDialog) {
+  WineDesk desk;
+  desk.WriteFile(kFlagsFile, InstalledFlags());
+  desk.WriteFile("a thing.qzx", "some bytes");
+  // The program's own folder is the first in which the system looks for what shows the dialog.
+  ASSERT_NE(CopyFileW(L"C:\\witness\\witness.exe", L"C:\\Corvelle\\rundll32.exe", TRUE), FALSE);
+  WriteMenu(desk, 1, "One",
+            {{.FTitle = "Thing", .FIcon = "", .FName = "C:\\Corvelle\\a thing.qzx"}});
+  desk.MovePointer(scenario::FarAway(desk));
+  ASSERT_TRUE(StartAndWait(desk));
+  ASSERT_TRUE(scenario::OpenMenu(desk, 2));
+  desk.Click(scenario::ItemMiddle(desk, 1, 1));
+  std::vector<std::wstring> seen;
+  ASSERT_TRUE(desk.Wait(
+      [&seen] {
+        seen = FilesIn(L"C:\\Corvelle\\", L"*.seen");
+        return !seen.empty();
+      },
+      8000));
+  const std::string text = ReadBytes(L"C:\\Corvelle\\" + seen[0]).value_or("");
+  EXPECT_NE(text.find("\nshell32.dll,OpenAs_RunDLL C:\\Corvelle\\a thing.qzx\n"), std::string::npos)
+      << text;
+  EXPECT_TRUE(desk.Messages().empty());
 }
 
 TEST(Strip, StandsOnTopOfAllWindowsWithoutATaskBarButton) {

@@ -123,6 +123,21 @@ TEST_F(LibraryDesk, EveryFifthEntryIsADotAndTheRestIsNotCounted) {
   }
 }
 
+TEST_F(LibraryDesk, EventsRunBeforeAnEntryIsRead) {
+  Pack(Entry("a.ico", "first") + End());
+  bool ran = false;
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] {
+    ran = true;
+    EXPECT_TRUE(Unpacked().empty());
+    Pack(Entry("b.ico", "2nd..") + End());
+  });
+  world.Desktop.Jump(1);
+  Unpack();
+  world.Desktop.StopTimer(timer);
+  EXPECT_TRUE(ran);
+  EXPECT_EQ(Unpacked(), std::vector<std::string>{"b.ico"});
+}
+
 TEST_F(LibraryDesk, WithTheStartupWindowTurnedOffNoDotIsCounted) {
   program.OptionFlags.Set(9, '1');
   std::string bytes;

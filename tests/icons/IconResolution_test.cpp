@@ -268,6 +268,14 @@ TEST_F(DetectShellIconsTest, OtherwiseTwoIconFilesTell) {
   }
 }
 
+TEST_F(DetectShellIconsTest, NeedsNoMoreThanTheProgramsFolder) {
+  // The start looks before the strip has set the other folders.
+  program.IconsPath.clear();
+  Put("C:\\Corvelle\\Icons\\two.ico", 42, 1);
+  DetectShellIcons(program);
+  EXPECT_TRUE(program.ShellDrawsIcons);
+}
+
 TEST_F(DetectShellIconsTest, LooksAtTwoFilesAndNoMore) {
   for (const char* name : {"a.ico", "b.ico", "c.ico"}) {
     Put(std::string("C:\\Corvelle\\Icons\\") + name, 77, 1);

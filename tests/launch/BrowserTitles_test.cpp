@@ -200,7 +200,7 @@ TEST_F(BookmarkFolder, IsThatOfTheBrowserFileAtLast) {
 TEST_F(BookmarkFolder, IsRemembered) {
   NoteBookmarkFolder("C:\\Ann");
   EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "The bookmark");
-  world.Files.Vanish("C:\\Corvelle\\openurl.ini");
+  NoteBookmarkFolder("C:\\Nobody");
   EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "The bookmark");
 }
 
@@ -247,6 +247,15 @@ TEST_F(NetscapeOnTop, AListOfBookmarksIsAHitUnlessMinimizedOrNoted) {
   EXPECT_FALSE(browser.IsNetscapeOnTop(kNoWindow));
 }
 
+TEST_F(NetscapeOnTop, TheGivenWindowIsNotedAndIsNoHitWhenItListsBookmarks) {
+  const WindowId given =
+      world.Desktop.AddOtherWindow({.Title = "Bookmarks - Netscape", .Minimized = true});
+  EXPECT_FALSE(browser.IsNetscapeOnTop(given));
+  world.Desktop.RestoreMinimized(given);
+  ASSERT_FALSE(world.Desktop.IsMinimized(given));
+  EXPECT_FALSE(browser.IsNetscapeOnTop(given));
+}
+
 TEST_F(NetscapeOnTop, HiddenAndOwnedWindowsDoNotCount) {
   world.Desktop.AddOtherWindow({.Title = "A - Netscape", .Visible = false});
   world.Desktop.AddOtherWindow({.Title = "B - Netscape", .HasOwner = true});
@@ -256,6 +265,15 @@ TEST_F(NetscapeOnTop, HiddenAndOwnedWindowsDoNotCount) {
 TEST_F(TitleDesk, WithoutThatBrowserThereIsNoHit) {
   Open("A page - Netscape");
   EXPECT_FALSE(browser.IsNetscapeOnTop(kNoWindow));
+}
+
+TEST_F(TitleDesk, ThatBrowserIsLookedForAtTheFirstCallOnly) {
+  EXPECT_FALSE(browser.IsNetscapeOnTop(kNoWindow));
+  EXPECT_EQ(world.Associations.Asked().size(), 1U);
+  world.Keys.Set(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser", "ann");
+  Open("A page - Netscape");
+  EXPECT_FALSE(browser.IsNetscapeOnTop(kNoWindow));
+  EXPECT_EQ(world.Associations.Asked().size(), 1U);
 }
 
 TEST_F(TitleDesk, ThatBrowserIsKnownByTheProgramForPagesToo) {

@@ -198,6 +198,17 @@ TEST_F(InitBrowserTest, NoFailureOfTheDiskLeavesATornChoice) {
   }
 }
 
+TEST_F(InitBrowserTest, EventsRunWhileTheProbePageIsThere) {
+  HaveBrowser(kExplorer);
+  bool there = false;
+  const forms::TimerId timer =
+      world.Desktop.StartTimer(1, [&] { there = world.Files.Has(kPageFile); });
+  world.Desktop.Jump(1);
+  browser.InitBrowser();
+  world.Desktop.StopTimer(timer);
+  EXPECT_TRUE(there);
+}
+
 // ---- opening an address ----
 
 struct OpenUrlTest : BrowserDesk {};
@@ -244,6 +255,18 @@ TEST_F(OpenUrlTest, ASecondAddressDoesNotLookForTheBrowserAgain) {
   EXPECT_EQ(world.Associations.Asked().size(), asked);
   EXPECT_EQ(world.Dde.Told().size(), 2U);
   EXPECT_EQ(world.Dde.Told()[1].Service, "IExplore");
+}
+
+TEST_F(OpenUrlTest, ASecondAddressOfTheShellDoesNotLookForTheBrowserEither) {
+  HaveBrowser(kOther);
+  world.Associations.Set(".url", "C:\\opener.exe");
+  browser.OpenUrl(kUrl);
+  const std::size_t asked = world.Associations.Asked().size();
+  HaveBrowser(kExplorer, "IExplore");
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Associations.Asked().size(), asked);
+  EXPECT_EQ(world.Shell.Log(), (std::vector<Launch>{Opened(kUrl), Opened(kUrl)}));
+  EXPECT_TRUE(world.Dde.Told().empty());
 }
 
 TEST_F(OpenUrlTest, ABrowserThatDoesNotStartLeavesTheAddressToTheShell) {

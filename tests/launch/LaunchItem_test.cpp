@@ -385,6 +385,15 @@ TEST_F(OpenWithItemTest, AFailingLinkIsTriedByItsTarget) {
   EXPECT_EQ(Launches().back(), Ran("C:\\Tools\\tool.exe \"C:\\Docs\\plan.txt\""));
 }
 
+TEST_F(OpenWithItemTest, ALinkThatLeadsNowhereIsUnavailableAndTheDroppedFileIsNotRunInItsPlace) {
+  AddServices();
+  ExpectUnavailable();
+  world.Shell.Fail("C:\\Links\\tool.lnk");
+  OpenWithItem(program, "C:\\Tools\\tool.exe", "C:\\Links\\tool.lnk");
+  EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
+  EXPECT_EQ(Boxes(), 1U);
+}
+
 TEST_F(OpenWithItemTest, WithoutAReaderOfLinksAFailingLinkIsTriedItself) {
   world.Shell.Fail("C:\\Links\\tool.lnk");
   OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Links\\tool.lnk");

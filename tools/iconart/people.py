@@ -2,7 +2,7 @@
 
 from iconart.shapes import (BLUE, BLUE_L, BROWN, GOLD, GREEN, HAIR, INK, ORANGE, PAPER, PURPLE, RED,
                             SHADE, SKIN, SLATE, STEEL, TEAL, YELLOW, box, bust, disc, dot, flat, heart,
-                            line, moved, patch, plus_badge, shape, text_lines, wire)
+                            line, moved, oval, patch, plus_badge, shape, text_lines, wire)
 
 
 def _face(fill, mouth, eyes=INK):
@@ -46,8 +46,8 @@ ICONS = {
             line("M13 6v9M17 5v10M21 8v7", INK, 1.6),
     "eye": shape("M1 16q15 -20 30 0q-15 20 -30 0", PAPER) + disc(16, 16, 8, BLUE) +
            dot(16, 16, 3, INK) + dot(18, 14, 1.5, PAPER),
-    "footprnt": "".join(moved(x, y, shape("M5 3q6 -3 7 5q0 8 -3 12q-6 3 -7 -3q2 -5 1 -8q-1 -5 2 -6",
-                                          BROWN)) for x, y in ((0, 9), (15, 0))),
+    "footprnt": "".join(moved(x, y, oval(6, 7, 6, 8, BROWN) + oval(6, 18, 5, 4, BROWN))
+                        for x, y in ((2, 10), (18, 0))),
     "crown": shape("M3 27v-18l7 7l6 -12l6 12l7 -7v18", YELLOW) + flat(4, 22, 24, 2, RED) +
              dot(16, 5, 3, RED) + dot(4, 9, 2.4, BLUE) + dot(28, 9, 2.4, BLUE),
     "team": bust(6, 11, TEAL) + bust(26, 11, ORANGE, GOLD) + bust(16, 13, RED),

@@ -82,8 +82,8 @@ ICONS = {
     "satellit": turned(-45, box(0, 10, 10, 12, BLUE) + box(22, 10, 10, 12, BLUE) +
                        box(10, 8, 12, 16, SHADE) + line("M5 11v10M27 11v10", BLUE_L)) ,
     "anchor": wire("M16 9v20M8 14h16M4 20q2 9 12 9t12 -9", STEEL, 2) + disc(16, 6, 5, STEEL),
-    "bridge": flat(0, 20, 32, 4, INK) + flat(0, 21, 32, 2, RED) + box(6, 4, 4, 24, RED) +
-              box(22, 4, 4, 24, RED) + line("M0 16q6 -2 8 -10q8 18 16 0q2 8 8 10", RED, 2),
+    "bridge": flat(0, 20, 32, 4, INK) + flat(0, 21, 32, 2, RED) + box(4, 4, 6, 24, STEEL) +
+              box(22, 4, 6, 24, STEEL) + line("M0 17q6 -4 7 -11q9 20 18 0q1 7 7 11", RED, 2),
     "planet": disc(16, 16, 10, ORANGE) + line("M8 13h14M7 18h17", "#c9631b", 2) +
               turned(-20, '<path d="M6 14q-7 4 -4 6q8 4 28 -2q4 -3 -3 -5" fill="none" '
                      f'stroke="{INK}" stroke-width="4"/><path d="M6 14q-7 4 -4 6q8 4 28 -2q4 -3 '

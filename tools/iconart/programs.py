@@ -1,9 +1,9 @@
 """Windows, games and programs."""
 
 from iconart.shapes import (BLUE, BLUE_L, GOLD, GREEN, GREEN_D, INK, ORANGE, PAPER, PURPLE, RED, SCREEN,
-                            SHADE, SLATE, STEEL, TAN, TEAL, YELLOW, box, cog, disc, dot, flat, globe,
-                            heart, landscape, line, monitor, moved, patch, shape, star, text_lines,
-                            turned, window, wire)
+                            SHADE, SLATE, STEEL, TAN, TEAL, YELLOW, YELLOW_L, box, cog, disc, dot, flat,
+                            globe, heart, landscape, line, monitor, moved, patch, shape, star_path,
+                            text_lines, turned, window, wire)
 
 
 def _tile(x, y, colour):
@@ -50,7 +50,7 @@ ICONS = {
         flat(2 + 7 * c, 2 + 7 * r, 7, 7, SLATE) for r in range(4) for c in range(4) if (r + c) % 2) +
         disc(12.5, 12.5, 5, RED) + disc(19.5, 19.5, 5, YELLOW),
     "bomb": wire("M20 9q3 -7 8 -4", TAN, 1.4) + disc(14, 19, 12, SLATE) + dot(10, 15, 3, STEEL) +
-            star(28, 5, 4),
+            patch(star_path(26.5, 5.5, 5.5), ORANGE) + dot(26.5, 5.5, 1.6, YELLOW_L),
     "ball": disc(16, 16, 15, PAPER) + patch("M16 10l6 4l-2 7h-8l-2 -7", INK) +
             line("M16 10v-8M22 14l7 -3M20 21l4 7M12 21l-4 7M10 14l-7 -3"),
     "joystick": box(14, 8, 4, 16, STEEL) + disc(16, 7, 7, RED) + box(4, 20, 24, 10, SLATE, 2) +
