@@ -29,6 +29,11 @@ void mAppBar::RemoveAppBar() {
 
 void mAppBar::EndAppBar() { Send(abm::Remove); }
 
+void mAppBar::LeaveEdge() {
+  GiveUpHiding();
+  Send(abm::Remove);
+}
+
 // The claim is given up at the side where it was made, before the record turns to another one.
 void mAppBar::GiveUpHiding() {
   if (AppBarData.lParam == 0) return;

@@ -29,6 +29,7 @@ class mAppBar final : public DockingPort {
   void RegisterAppBar() override;
   void RemoveAppBar() override;
   void EndAppBar() override;
+  void LeaveEdge() override;
   [[nodiscard]] bool AutoHideFree(std::string_view edge) override;
   void SetAppBar(std::string_view edge, bool rebuild) override;
   void HideToolbar() override;
