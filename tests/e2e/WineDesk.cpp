@@ -75,6 +75,12 @@ HWND OpenPopup() {
   return popup != nullptr && IsWindowVisible(popup) != FALSE ? popup : nullptr;
 }
 
+HWND TaskBarButton() {
+  HWND bar = FindWindowW(L"Shell_TrayWnd", nullptr);
+  HWND button = bar == nullptr ? nullptr : FindWindowExW(bar, nullptr, nullptr, L"Corvelle");
+  return button != nullptr && IsWindowVisible(button) != FALSE ? button : nullptr;
+}
+
 // The lines of the popup that the keyboard goes through, from top to bottom: a menu of another
 // program cannot be asked for them.
 constexpr std::string_view kPopupLines[] = {
@@ -123,13 +129,7 @@ WineDesk::~WineDesk() {
     TerminateProcess(copy, 99);
     CloseHandle(copy);
   }
-  if (bar_ != nullptr) {
-    APPBARDATA bar = {};
-    bar.cbSize = sizeof(bar);
-    bar.hWnd = bar_;
-    SHAppBarMessage(ABM_REMOVE, &bar);
-    DestroyWindow(bar_);
-  }
+  CloseOtherBar();
   if (HWND other = otherWindow_.load()) PostMessageW(other, WM_CLOSE, 0, 0);
   if (other_.joinable()) other_.join();
 }
@@ -153,6 +153,25 @@ int WineDesk::RunningCopies() const {
   return static_cast<int>(std::count_if(copies_.begin(), copies_.end(), [](HANDLE copy) {
     return WaitForSingleObject(copy, 0) == WAIT_TIMEOUT;
   }));
+}
+
+int WineDesk::ProcessorTime() const {
+  constexpr ULONGLONG kMillisecond = 10000;  // a file time counts 100 ns
+  const auto whole = [](const FILETIME& time) {
+    return (static_cast<ULONGLONG>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
+  };
+  ULONGLONG sum = 0;
+  for (HANDLE copy : copies_) {
+    FILETIME began = {};
+    FILETIME ended = {};
+    FILETIME kernel = {};
+    FILETIME user = {};
+    if (WaitForSingleObject(copy, 0) == WAIT_TIMEOUT &&
+        GetProcessTimes(copy, &began, &ended, &kernel, &user) != FALSE) {
+      sum += whole(kernel) + whole(user);
+    }
+  }
+  return static_cast<int>(sum / kMillisecond);
 }
 
 std::vector<DWORD> WineDesk::ExitCodes() const {
@@ -356,6 +375,16 @@ PixelRect WineDesk::OpenOtherBar(Edge at, int thickness) {
           static_cast<int>(bar.rc.right), static_cast<int>(bar.rc.bottom)};
 }
 
+void WineDesk::CloseOtherBar() {
+  if (bar_ == nullptr) return;
+  APPBARDATA bar = {};
+  bar.cbSize = sizeof(bar);
+  bar.hWnd = bar_;
+  SHAppBarMessage(ABM_REMOVE, &bar);
+  DestroyWindow(bar_);
+  bar_ = nullptr;
+}
+
 void WineDesk::OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
                               std::string_view text) {
   dragsource::Offer offer;
@@ -428,6 +457,19 @@ void WineDesk::ClickTrayIcon() {
   if (window == nullptr || GetWindowRect(window, &bar) == FALSE) return;
   MovePointer(
       {static_cast<int>(bar.right) - kHalfCell, static_cast<int>(bar.top + bar.bottom) / 2});
+  Pause(200);
+  Press(Button::Left);
+  Release(Button::Left);
+}
+
+bool WineDesk::HasTaskBarButton() const { return TaskBarButton() != nullptr; }
+
+void WineDesk::ClickTaskBarButton() {
+  RECT button = {};
+  HWND window = TaskBarButton();
+  if (window == nullptr || GetWindowRect(window, &button) == FALSE) return;
+  MovePointer({static_cast<int>(button.left + button.right) / 2,
+               static_cast<int>(button.top + button.bottom) / 2});
   Pause(200);
   Press(Button::Left);
   Release(Button::Left);
