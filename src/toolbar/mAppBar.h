@@ -52,6 +52,7 @@ class mAppBar final : public DockingPort {
  private:
   std::uintptr_t Send(std::uint32_t message);
   void GiveUpHiding();
+  void Remove();
   [[nodiscard]] bool Waits() const;
   void TurnTo(std::string_view edge, bool rebuild);
   void PlaceAt(Edge at);
@@ -75,6 +76,8 @@ class mAppBar final : public DockingPort {
   frmToolbar& strip_;
   /// Kept for the whole run. Its lParam remembers that the strip has claimed uEdge for hiding.
   AppBarRecord AppBarData;
+  /// The shell keeps room for the strip.
+  bool keepsRoom_ = false;
 };
 
 }  // namespace corvelle
