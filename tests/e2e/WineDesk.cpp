@@ -75,10 +75,13 @@ HWND OpenPopup() {
   return popup != nullptr && IsWindowVisible(popup) != FALSE ? popup : nullptr;
 }
 
-HWND TaskBarButton() {
-  HWND bar = FindWindowW(L"Shell_TrayWnd", nullptr);
-  HWND button = bar == nullptr ? nullptr : FindWindowExW(bar, nullptr, nullptr, L"Corvelle");
-  return button != nullptr && IsWindowVisible(button) != FALSE ? button : nullptr;
+BOOL CALLBACK NoteButton(HWND window, LPARAM list) {
+  RECT bounds = {};
+  if (IsWindowVisible(window) != FALSE && ClassOf(window) == L"Button" &&
+      GetWindowRect(window, &bounds) != FALSE) {
+    reinterpret_cast<std::vector<RECT>*>(list)->push_back(bounds);
+  }
+  return TRUE;
 }
 
 // The lines of the popup that the keyboard goes through, from top to bottom: a menu of another
@@ -462,14 +465,22 @@ void WineDesk::ClickTrayIcon() {
   Release(Button::Left);
 }
 
-bool WineDesk::HasTaskBarButton() const { return TaskBarButton() != nullptr; }
+bool WineDesk::HasTaskBarButton() const {
+  HWND window = Handle("frmMinimize");
+  return window != nullptr && IsWindowVisible(window) != FALSE &&
+         (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_APPWINDOW) != 0;
+}
 
 void WineDesk::ClickTaskBarButton() {
-  RECT button = {};
-  HWND window = TaskBarButton();
-  if (window == nullptr || GetWindowRect(window, &button) == FALSE) return;
-  MovePointer({static_cast<int>(button.left + button.right) / 2,
-               static_cast<int>(button.top + button.bottom) / 2});
+  // They have no names: the first stands beside the Start button, and the program came first.
+  std::vector<RECT> buttons;
+  EnumChildWindows(FindWindowW(L"Shell_TrayWnd", nullptr), NoteButton,
+                   reinterpret_cast<LPARAM>(&buttons));
+  if (!HasTaskBarButton() || buttons.size() < 2) return;
+  std::sort(buttons.begin(), buttons.end(),
+            [](const RECT& a, const RECT& b) { return a.left < b.left; });
+  MovePointer({static_cast<int>(buttons[1].left + buttons[1].right) / 2,
+               static_cast<int>(buttons[1].top + buttons[1].bottom) / 2});
   Pause(200);
   Press(Button::Left);
   Release(Button::Left);

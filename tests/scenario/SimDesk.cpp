@@ -139,7 +139,11 @@ class SimDesk final : public Desk {
     return world_.Desktop.ClassName(world_.Desktop.ForegroundWindow());
   }
   void BringToFront(std::string_view className) override {
-    world_.Desktop.TakeForeground(world_.Desktop.Find(className));
+    for (const WindowId window : world_.Desktop.TopLevel()) {
+      if (world_.Desktop.ClassName(window) != className) continue;
+      world_.Desktop.TakeForeground(window);
+      break;
+    }
     world_.Desktop.Pump();
   }
   void OpenOtherWindow(PixelRect bounds) override {
