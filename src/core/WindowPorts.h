@@ -161,6 +161,8 @@ class MinimizePort : public LoadedWindow {
   /// Puts the strip away (from its edge too) and goes into the task bar for it, from the strip's
   /// place on the screen. The companion's return brings the strip back.
   virtual void MinimizeFor(const TwipRect& strip) = 0;
+  /// Takes the window out of sight and out of the task bar.
+  virtual void HideCompanion() {}
 };
 
 /// The picture that the pointer carries while an entry is dragged.
@@ -220,6 +222,8 @@ class DockingPort {
   virtual void RemoveAppBar() = 0;
   /// Gives up the edge for good.
   virtual void EndAppBar() = 0;
+  /// Gives up the edge and the claim to hide there, until RegisterAppBar.
+  virtual void LeaveEdge() { EndAppBar(); }
   /// True if no other window hides at that edge.
   [[nodiscard]] virtual bool AutoHideFree(std::string_view edge) = 0;
   /// Puts the strip at the edge, or anew at its edge when `edge` is empty.

@@ -84,8 +84,8 @@ inline constexpr unsigned HideBit = 0x80;
 /// How a window comes up.
 enum class ShowKind { Hidden, Normal, NoActivate, Minimized, Restored };
 
-/// The screen as forms see it: its size in twips and the twips of one pixel (15 at 96 dpi, 12 at
-/// 120 dpi).
+/// The screen as forms see it, the primary one of several: its size in twips and the twips of one
+/// pixel (15 at 96 dpi, 12 at 120 dpi).
 struct ScreenInfo {
   float TwipsPerPixelX = 15;
   float TwipsPerPixelY = 15;

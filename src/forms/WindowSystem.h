@@ -107,6 +107,8 @@ class WindowPeer {
   /// Paints now what is noted, if the window is visible.
   virtual void PaintNow() = 0;
 
+  /// Does nothing for a window that cannot be seen, or while the system keeps another program in
+  /// front.
   virtual void SetFocus() = 0;
   /// Makes the window the foreground window of the whole desktop, if the system lets it.
   virtual void SetForeground() = 0;
@@ -172,6 +174,8 @@ class WindowSystem {
   [[nodiscard]] virtual Rgb SystemColor(int index) const = 0;
 
   [[nodiscard]] virtual ScreenInfo Screen() const = 0;
+  /// Bits of one pixel of that screen.
+  [[nodiscard]] virtual int ScreenBits() const = 0;
 
   /// The pointer's shape over all windows of the program, until it is set again.
   virtual void SetMousePointer(MousePointer shape) = 0;

@@ -242,22 +242,7 @@ void MainMenu::Maximize() {
 
 void MainMenu::Minimize() {
   MinimizePort* const companion = program_.Ports.Minimize;
-  if (companion == nullptr) return;
-  ToolbarPort& strip = *program_.Ports.Toolbar;
-  const TwipRect place = strip.WindowBounds();
-  program_.ToolbarMinimized = true;
-  program_.ToolbarMinimizing = true;
-  program_.ToolbarReady = false;
-  if (program_.AppBarDocked) {
-    program_.WasDocked = true;
-    program_.WasEdge = program_.ToolbarEdge;
-    program_.WasTop = place.Top;
-    if (program_.Ports.Docking != nullptr) program_.Ports.Docking->EndAppBar();
-    program_.AppBarDocked = false;
-  }
-  strip.HideWindow();
-  companion->MinimizeFor(place);
-  program_.ToolbarMinimizing = false;
+  if (companion != nullptr) companion->MinimizeFor(program_.Ports.Toolbar->WindowBounds());
 }
 
 // ---- help and the end ----

@@ -62,7 +62,8 @@ PixelRect BarWindow(Edge at, const BarPlace& place, PixelSize bar) noexcept {
   return RectAt({rc.left, rc.top - place.Lift}, {rc.right, bar.height});
 }
 
-bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner) noexcept {
+bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner, PixelSize screen) noexcept {
+  if (!RectAt({0, 0}, screen).Contains(pointer)) return true;
   switch (at) {
     case Edge::Bottom:
       return pointer.y < corner.y;
@@ -76,8 +77,8 @@ bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner) noexcept {
   return pointer.y > corner.y;
 }
 
-bool PointerReveals(Edge at, PixelPoint pointer, PixelPoint corner) noexcept {
-  return !PointerIsOff(at, pointer, corner);
+bool PointerReveals(Edge at, PixelPoint pointer, PixelPoint corner, PixelSize screen) noexcept {
+  return !PointerIsOff(at, pointer, corner, screen);
 }
 
 bool IsOffEdge(Edge at, const TwipRect& window, TwipSize screen) noexcept {

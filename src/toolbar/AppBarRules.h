@@ -33,12 +33,15 @@ struct BarPlace {
 /// says, counted from the screen's corner.
 [[nodiscard]] PixelRect BarWindow(Edge at, const BarPlace& place, PixelSize bar) noexcept;
 
-/// True if the pointer is past the inner side of a docked strip's line, so that the strip may hide;
-/// `corner` is the upper left corner of the strip's window.
-[[nodiscard]] bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner) noexcept;
+/// True if the pointer is past the inner side of a docked strip's line, or on another screen, so
+/// that the strip may hide; `corner` is the upper left corner of the strip's window, `screen` the
+/// size of the primary screen.
+[[nodiscard]] bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner,
+                                PixelSize screen) noexcept;
 
 /// True if the pointer is on or outside of a docked strip's line, which reveals the strip.
-[[nodiscard]] bool PointerReveals(Edge at, PixelPoint pointer, PixelPoint corner) noexcept;
+[[nodiscard]] bool PointerReveals(Edge at, PixelPoint pointer, PixelPoint corner,
+                                  PixelSize screen) noexcept;
 
 /// True if the line of a hidden strip does not touch its edge of the screen: another bar lies
 /// outside of it. Twips.

@@ -52,6 +52,11 @@ void frmHelp::SetHint(std::string_view text) {
   if (Load()) ShowHint(wanted);
 }
 
+// A hint that is not loaded yet comes up on top by itself.
+void frmHelp::SetHintLevel(forms::InsertAfter after, unsigned flags) {
+  if (IsLoaded()) SetWindowPos(after, flags);
+}
+
 void frmHelp::ReleaseHint() {
   ++wishes_;
   Unload();

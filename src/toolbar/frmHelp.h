@@ -20,6 +20,7 @@ class frmHelp final : public forms::Form, public HintPort {
   /// "&" in the text is an access key unless doubled. Events run when a hint that is up closes.
   void SetHint(std::string_view text) override;
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
+  void SetHintLevel(forms::InsertAfter after, unsigned flags) override;
   void ReleaseHint() override;
 
   forms::Label Label1;

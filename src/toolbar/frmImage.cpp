@@ -30,10 +30,7 @@ frmImage::frmImage(Program& program, const frmToolbar& strip)
   ShowLines(false);
 }
 
-void frmImage::Form_Load() {
-  // Hidden or not, a window is not to take the activation from what it covers.
-  SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide | forms::swp::KeepActive);
-}
+void frmImage::Form_Load() { SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide); }
 
 void frmImage::Form_Unload() {
   menuCaptured_ = false;

@@ -151,11 +151,7 @@ void frmMinimize::LeaveEdge(float top) {
   program_.WasDocked = true;
   program_.WasEdge = program_.ToolbarEdge;
   program_.WasTop = top;
-  if (DockingPort* const docking = program_.Ports.Docking) {
-    // The claim to hide at an edge is given up only by the way that registers anew.
-    if (program_.AutoHide) docking->RemoveAppBar();
-    docking->EndAppBar();
-  }
+  if (program_.Ports.Docking != nullptr) program_.Ports.Docking->LeaveEdge();
   program_.AppBarDocked = false;
 }
 

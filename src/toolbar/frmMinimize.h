@@ -25,6 +25,7 @@ class frmMinimize final : public forms::Form, public MinimizePort {
   void ActivateSysTray() override;
   void DeActivateSysTray() override;
   void MinimizeFor(const TwipRect& strip) override;
+  void HideCompanion() override { SetVisible(false); }
   /// Brings the strip to the foreground from another program's turn.
   void subShowToolbar();
 

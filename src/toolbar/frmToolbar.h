@@ -254,6 +254,12 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   float TwipsY = 15;
   float SavedLeft = 0;
   float SavedTop = 0;
+  /// The system's colour of buttons and the screen as they were looked at last: bits of a pixel,
+  /// pixels.
+  Rgb BaseColor = 0;
+  int BaseBits = 0;
+  int BaseWidth = 0;
+  int BaseHeight = 0;
 
   /// The single buttons, in picSingleButton.
   SingleRow Singles;
@@ -401,6 +407,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] bool ImageLoaded() const;
   /// The window's upper left corner in pixels.
   [[nodiscard]] PixelPoint CornerPixels() const;
+  [[nodiscard]] PixelSize ScreenPixels() const;
 
   Program& program_;
   std::vector<MenuRecord> records_;  // of the buttons, by their index
@@ -413,9 +420,6 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   bool positioned_ = false;       // SavedLeft is known
   bool subclassed_ = false;
   bool focusRequested_ = false;
-  Rgb baseColor_ = 0;
-  int baseWidth_ = 0;  // pixels of the screen
-  int baseHeight_ = 0;
 };
 
 }  // namespace corvelle

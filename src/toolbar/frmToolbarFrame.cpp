@@ -4,7 +4,6 @@
 #include <string>
 
 #include "core/Program.h"
-#include "forms/Scale.h"
 #include "platform/Input.h"
 #include "platform/SystemInfo.h"
 #include "toolbar/StripPlace.h"
@@ -101,9 +100,7 @@ void frmToolbar::FollowFrame(forms::MouseButton down, float x, float y) {
 void frmToolbar::FollowPull() {
   CapturePort* const capture = program_.Ports.Capture;
   if (program_.Ports.Docking == nullptr || capture == nullptr) return;
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  const PixelSize size = forms::ToPixels(0, 0, screen.Width, screen.Height, screen).Size();
-  const Edge wanted = ChooseEdge(program_.Services.Pointer.PointerPosition(), size);
+  const Edge wanted = ChooseEdge(program_.Services.Pointer.PointerPosition(), ScreenPixels());
   if (EdgeText(wanted) == program_.ToolbarEdge) {
     ClearOutline();
     DrawDragLook();

@@ -40,17 +40,22 @@ bool frmToolbar::MayHide(PixelPoint pointer, WindowId under) const {
   if (overOurs || ImageLoaded() || MenuUp() || !picToolbar.Visible() || IsOursActive()) {
     return false;
   }
-  return !program_.AppBarDocked || PointerIsOff(AtEdge(), pointer, CornerPixels());
+  return !program_.AppBarDocked || PointerIsOff(AtEdge(), pointer, CornerPixels(), ScreenPixels());
 }
 
 bool frmToolbar::MustReveal(PixelPoint pointer, WindowId under) const {
   if (picToolbar.Visible() && Visible()) return false;
   if (!program_.AppBarDocked) return under == hWnd() && !picToolbar.Visible();
-  return PointerReveals(AtEdge(), pointer, CornerPixels());
+  return PointerReveals(AtEdge(), pointer, CornerPixels(), ScreenPixels());
 }
 
 PixelPoint frmToolbar::CornerPixels() const {
   return forms::ToPixels(Left(), Top(), program_.Windows.Screen());
+}
+
+PixelSize frmToolbar::ScreenPixels() const {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  return forms::ToPixels(0, 0, screen.Width, screen.Height, screen).Size();
 }
 
 void frmToolbar::RevealFromLine() {

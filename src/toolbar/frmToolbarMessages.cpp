@@ -16,6 +16,7 @@ constexpr std::uintptr_t kPositionChanged = 1;
 constexpr std::uintptr_t kFullScreenProgram = 2;
 
 constexpr int kButtonFaceIndex = 15;
+constexpr int kNoHints = 22;  // option
 
 }  // namespace
 
@@ -68,17 +69,21 @@ void frmToolbar::FollowBars() {
 }
 
 void frmToolbar::FollowColours() {
-  if (program_.Windows.SystemColor(kButtonFaceIndex) == baseColor_) return;
+  if (program_.Windows.SystemColor(kButtonFaceIndex) == BaseColor) return;
   CacheDisplayMetrics();
   RefreshToolbar();
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->ResetPicIcons();
 }
 
 void frmToolbar::FollowDisplay() {
-  const PixelSize before{baseWidth_, baseHeight_};
+  const PixelSize before{BaseWidth, BaseHeight};
+  const int bits = BaseBits;
   CacheDisplayMetrics();
-  if (baseWidth_ != before.width) ResetCollections();
-  if (!IsLoaded() || before == PixelSize{baseWidth_, baseHeight_}) return;
+  if (BaseWidth != before.width || BaseBits != bits) ResetCollections();
+  if (!IsLoaded() || before == PixelSize{BaseWidth, BaseHeight}) return;
+  // A menu that is up would stand where the strip was.
+  ResetMenu();
+  if (!IsLoaded()) return;
   // Not every shell tells its bars of another screen size.
   if (program_.AppBarDocked) {
     FollowBars();
@@ -89,9 +94,10 @@ void frmToolbar::FollowDisplay() {
 
 void frmToolbar::CacheDisplayMetrics() {
   const forms::ScreenInfo screen = program_.Windows.Screen();
-  baseColor_ = program_.Windows.SystemColor(kButtonFaceIndex);
-  baseWidth_ = RoundToInt(screen.Width / screen.TwipsPerPixelX);
-  baseHeight_ = RoundToInt(screen.Height / screen.TwipsPerPixelY);
+  BaseColor = program_.Windows.SystemColor(kButtonFaceIndex);
+  BaseBits = program_.Windows.ScreenBits();
+  BaseWidth = RoundToInt(screen.Width / screen.TwipsPerPixelX);
+  BaseHeight = RoundToInt(screen.Height / screen.TwipsPerPixelY);
 }
 
 void frmToolbar::FullScreenNotify(std::intptr_t entering) {
@@ -107,6 +113,9 @@ void frmToolbar::FullScreenNotify(std::intptr_t entering) {
     SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
     if (program_.Ports.QMenu != nullptr) {
       program_.Ports.QMenu->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
+    }
+    if (program_.Ports.Hint != nullptr && !program_.OptionFlags.Is(kNoHints)) {
+      program_.Ports.Hint->SetHintLevel(forms::InsertAfter::Topmost, forms::swp::Hide);
     }
   }
 }
@@ -138,6 +147,8 @@ void frmToolbar::CheckToolbarMove() {
   } else {
     SetTop(SavedTop);
   }
+  MinimizePort* const companion = program_.Ports.Minimize;
+  if (!program_.ToolbarMinimized && companion != nullptr) companion->HideCompanion();
 }
 
 void frmToolbar::ShowToolbar() {

@@ -23,11 +23,21 @@ void mAppBar::RegisterAppBar() {
 void mAppBar::RemoveAppBar() {
   const forms::FlagScope busy(program_.AppBarBusy);
   GiveUpHiding();
-  Send(abm::Remove);
+  Remove();
   RegisterAppBar();
 }
 
-void mAppBar::EndAppBar() { Send(abm::Remove); }
+void mAppBar::EndAppBar() { Remove(); }
+
+void mAppBar::Remove() {
+  keepsRoom_ = false;
+  Send(abm::Remove);
+}
+
+void mAppBar::LeaveEdge() {
+  GiveUpHiding();
+  Remove();
+}
 
 // The claim is given up at the side where it was made, before the record turns to another one.
 void mAppBar::GiveUpHiding() {
@@ -144,9 +154,13 @@ void mAppBar::PlaceAt(Edge at) {
 }
 
 void mAppBar::FinishPlacing(Edge at) {
+  const bool hidden = !strip_.picToolbar.Visible();
+  const TwipRect line = strip_.WindowBounds();
   strip_.SetControls();
   StretchSingles(at);
   strip_.DoLabelDate();
+  // The boxes have their size for the strip in full sight, and a line stays a line.
+  if (hidden) strip_.Move(line.Left, line.Top, line.Width, line.Height);
   if (program_.AutoHide) {
     HideIfOffEdge();
   } else {
@@ -195,6 +209,7 @@ BarPlace mAppBar::AskForPlace(Edge at, PixelSize bar, bool mayLift) {
 // The shell may push the near side on; the far side follows.
 BarPlace mAppBar::KeepPlace(Edge at, PixelSize bar, bool mayLift) {
   Send(abm::SetPos);
+  keepsRoom_ = true;
   const BarPlace place = CutToBar(at, AppBarData.rc, bar, mayLift);
   AppBarData.rc = place.Reserved;
   return place;

@@ -29,6 +29,7 @@ class mAppBar final : public DockingPort {
   void RegisterAppBar() override;
   void RemoveAppBar() override;
   void EndAppBar() override;
+  void LeaveEdge() override;
   [[nodiscard]] bool AutoHideFree(std::string_view edge) override;
   void SetAppBar(std::string_view edge, bool rebuild) override;
   void HideToolbar() override;
@@ -51,6 +52,7 @@ class mAppBar final : public DockingPort {
  private:
   std::uintptr_t Send(std::uint32_t message);
   void GiveUpHiding();
+  void Remove();
   [[nodiscard]] bool Waits() const;
   void TurnTo(std::string_view edge, bool rebuild);
   void PlaceAt(Edge at);
@@ -74,6 +76,8 @@ class mAppBar final : public DockingPort {
   frmToolbar& strip_;
   /// Kept for the whole run. Its lParam remembers that the strip has claimed uEdge for hiding.
   AppBarRecord AppBarData;
+  /// The shell keeps room for the strip.
+  bool keepsRoom_ = false;
 };
 
 }  // namespace corvelle

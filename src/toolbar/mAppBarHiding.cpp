@@ -27,6 +27,11 @@ bool mAppBar::AutoHideAppBar(std::string_view edge) {
     return false;
   }
   const forms::FlagScope busy(program_.AppBarBusy);
+  // What was kept for the strip in full sight would stay kept.
+  if (keepsRoom_) {
+    Remove();
+    RegisterAppBar();
+  }
   const PixelSize bar = BarSize(at, 1, ScreenPixels());
   if (AppBarData.uEdge != ShellEdge(at)) {
     AppBarData.lParam = 0;

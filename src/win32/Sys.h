@@ -27,4 +27,9 @@ inline constexpr WORD kProgramIcon = 1;
 /// The module that this code is linked into.
 inline HINSTANCE Module() noexcept { return GetModuleHandleW(nullptr); }
 
+/// True while the window in front belongs to this thread.
+inline bool InForeground() noexcept {
+  return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) == GetCurrentThreadId();
+}
+
 }  // namespace corvelle::win32

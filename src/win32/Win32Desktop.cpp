@@ -113,7 +113,10 @@ WindowId Win32Desktop::WindowAt(PixelPoint at) const noexcept {
   return ToId(WindowFromPoint({at.x, at.y}));
 }
 
-WindowId Win32Desktop::ActiveWindow() const noexcept { return ToId(GetActiveWindow()); }
+// A thread behind others can have an active window that the user does not work with.
+WindowId Win32Desktop::ActiveWindow() const noexcept {
+  return InForeground() ? ToId(GetActiveWindow()) : kNoWindow;
+}
 
 WindowId Win32Desktop::ForegroundWindow() const noexcept { return ToId(GetForegroundWindow()); }
 

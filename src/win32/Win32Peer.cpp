@@ -103,8 +103,12 @@ void Win32Peer::Invalidate(const PixelRect& part) {
 
 void Win32Peer::PaintNow() { UpdateWindow(Handle()); }
 
+// Behind another program the focus would only make a window active that nobody types into: a click
+// on it would not bring it forward any more, and it would hold no press.
 void Win32Peer::SetFocus() {
-  if (IsWindowVisible(Handle()) != 0) ::SetFocus(Handle());
+  if (IsWindowVisible(Handle()) == 0) return;
+  if (!InForeground()) SetForegroundWindow(GetAncestor(Handle(), GA_ROOT));
+  if (InForeground()) ::SetFocus(Handle());
 }
 
 void Win32Peer::SetForeground() { SetForegroundWindow(Handle()); }
@@ -114,7 +118,10 @@ void Win32Peer::SetZOrder(ZPlace place) {
 }
 
 void Win32Peer::SetWindowPos(InsertAfter after, unsigned flags) {
-  ::SetWindowPos(Handle(), AfterOf(after), 0, 0, 0, 0, flags | SWP_NOMOVE | SWP_NOSIZE);
+  UINT all = flags | SWP_NOMOVE | SWP_NOSIZE;
+  // What goes out of sight, or stays there, takes no activation with it.
+  if ((all & SWP_HIDEWINDOW) != 0) all |= SWP_NOACTIVATE;
+  ::SetWindowPos(Handle(), AfterOf(after), 0, 0, 0, 0, all);
 }
 
 std::unique_ptr<Canvas> Win32Peer::ScreenCanvas() {

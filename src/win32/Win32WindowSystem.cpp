@@ -105,6 +105,13 @@ forms::ScreenInfo Win32WindowSystem::Screen() const {
   return info;
 }
 
+int Win32WindowSystem::ScreenBits() const {
+  const HDC screen = GetDC(nullptr);
+  const int bits = GetDeviceCaps(screen, BITSPIXEL);
+  ReleaseDC(nullptr, screen);
+  return bits;
+}
+
 HWND Win32WindowSystem::ToolOwner() {
   if (!toolOwner_) {
     toolOwner_.Reset(CreateWindowExW(WS_EX_TOOLWINDOW, L"Static", L"", WS_POPUP, 0, 0, 0, 0,

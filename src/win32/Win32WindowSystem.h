@@ -24,6 +24,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
   Rgb SystemColor(int index) const override;
   forms::ScreenInfo Screen() const override;
+  int ScreenBits() const override;
   void SetMousePointer(forms::MousePointer shape) override;
   forms::MousePointer CurrentMousePointer() const override { return pointer_; }
   void SetMouseIcon(Picture picture, PixelPoint hotSpot) override;

@@ -75,6 +75,15 @@ HWND OpenPopup() {
   return popup != nullptr && IsWindowVisible(popup) != FALSE ? popup : nullptr;
 }
 
+BOOL CALLBACK NoteButton(HWND window, LPARAM list) {
+  RECT bounds = {};
+  if (IsWindowVisible(window) != FALSE && ClassOf(window) == L"Button" &&
+      GetWindowRect(window, &bounds) != FALSE) {
+    reinterpret_cast<std::vector<RECT>*>(list)->push_back(bounds);
+  }
+  return TRUE;
+}
+
 // The lines of the popup that the keyboard goes through, from top to bottom: a menu of another
 // program cannot be asked for them.
 constexpr std::string_view kPopupLines[] = {
@@ -123,13 +132,7 @@ WineDesk::~WineDesk() {
     TerminateProcess(copy, 99);
     CloseHandle(copy);
   }
-  if (bar_ != nullptr) {
-    APPBARDATA bar = {};
-    bar.cbSize = sizeof(bar);
-    bar.hWnd = bar_;
-    SHAppBarMessage(ABM_REMOVE, &bar);
-    DestroyWindow(bar_);
-  }
+  CloseOtherBar();
   if (HWND other = otherWindow_.load()) PostMessageW(other, WM_CLOSE, 0, 0);
   if (other_.joinable()) other_.join();
 }
@@ -153,6 +156,25 @@ int WineDesk::RunningCopies() const {
   return static_cast<int>(std::count_if(copies_.begin(), copies_.end(), [](HANDLE copy) {
     return WaitForSingleObject(copy, 0) == WAIT_TIMEOUT;
   }));
+}
+
+int WineDesk::ProcessorTime() const {
+  constexpr ULONGLONG kMillisecond = 10000;  // a file time counts 100 ns
+  const auto whole = [](const FILETIME& time) {
+    return (static_cast<ULONGLONG>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
+  };
+  ULONGLONG sum = 0;
+  for (HANDLE copy : copies_) {
+    FILETIME began = {};
+    FILETIME ended = {};
+    FILETIME kernel = {};
+    FILETIME user = {};
+    if (WaitForSingleObject(copy, 0) == WAIT_TIMEOUT &&
+        GetProcessTimes(copy, &began, &ended, &kernel, &user) != FALSE) {
+      sum += whole(kernel) + whole(user);
+    }
+  }
+  return static_cast<int>(sum / kMillisecond);
 }
 
 std::vector<DWORD> WineDesk::ExitCodes() const {
@@ -359,6 +381,16 @@ PixelRect WineDesk::OpenOtherBar(Edge at, int thickness) {
           static_cast<int>(bar.rc.right), static_cast<int>(bar.rc.bottom)};
 }
 
+void WineDesk::CloseOtherBar() {
+  if (bar_ == nullptr) return;
+  APPBARDATA bar = {};
+  bar.cbSize = sizeof(bar);
+  bar.hWnd = bar_;
+  SHAppBarMessage(ABM_REMOVE, &bar);
+  DestroyWindow(bar_);
+  bar_ = nullptr;
+}
+
 void WineDesk::OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
                               std::string_view text) {
   dragsource::Offer offer;
@@ -431,6 +463,27 @@ void WineDesk::ClickTrayIcon() {
   if (window == nullptr || GetWindowRect(window, &bar) == FALSE) return;
   MovePointer(
       {static_cast<int>(bar.right) - kHalfCell, static_cast<int>(bar.top + bar.bottom) / 2});
+  Pause(200);
+  Press(Button::Left);
+  Release(Button::Left);
+}
+
+bool WineDesk::HasTaskBarButton() const {
+  HWND window = Handle("frmMinimize");
+  return window != nullptr && IsWindowVisible(window) != FALSE &&
+         (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_APPWINDOW) != 0;
+}
+
+void WineDesk::ClickTaskBarButton() {
+  // They have no names: the first stands beside the Start button, and the program came first.
+  std::vector<RECT> buttons;
+  EnumChildWindows(FindWindowW(L"Shell_TrayWnd", nullptr), NoteButton,
+                   reinterpret_cast<LPARAM>(&buttons));
+  if (!HasTaskBarButton() || buttons.size() < 2) return;
+  std::sort(buttons.begin(), buttons.end(),
+            [](const RECT& a, const RECT& b) { return a.left < b.left; });
+  MovePointer({static_cast<int>(buttons[1].left + buttons[1].right) / 2,
+               static_cast<int>(buttons[1].top + buttons[1].bottom) / 2});
   Pause(200);
   Press(Button::Left);
   Release(Button::Left);

@@ -59,6 +59,7 @@ class WineDesk final : public scenario::Desk {
   void BringToFront(std::string_view className) override;
   void OpenOtherWindow(PixelRect bounds) override;
   PixelRect OpenOtherBar(Edge at, int thickness) override;
+  void CloseOtherBar() override;
   void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
                       std::string_view text) override;
   std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
@@ -74,6 +75,8 @@ class WineDesk final : public scenario::Desk {
   void ChooseFromPopup(std::string_view caption) override { choices_.emplace_back(caption); }
   [[nodiscard]] bool PopupIsUp() const override;
   void ClickTrayIcon() override;
+  [[nodiscard]] bool HasTaskBarButton() const override;
+  void ClickTaskBarButton() override;
   void AnswerShellMenu(char letter) override { menuAnswers_.push_back(letter); }
   [[nodiscard]] int ShellMenus() const override { return static_cast<int>(menusAnswered_); }
 
@@ -96,6 +99,9 @@ class WineDesk final : public scenario::Desk {
   /// How many different colours a part of a window shows; the part in pixels of its inside. What is
   /// covered by other windows cannot be read.
   [[nodiscard]] int ColoursIn(std::string_view className, PixelRect part) const;
+
+  /// What the running copies have taken of the processor so far, in milliseconds.
+  [[nodiscard]] int ProcessorTime() const;
 
   /// The handle of a window by its class; null when there is none.
   [[nodiscard]] HWND Handle(std::string_view className) const;

@@ -213,6 +213,46 @@ TEST_P(WindowSystemContract, SetWindowPosShowsAndHides) {
   EXPECT_EQ(notes_.Moves, std::vector<PixelRect>{});
 }
 
+TEST_P(WindowSystemContract, WhatGoesOutOfSightOrStaysThereTakesNoActivation) {
+  const auto first = Make(notes_);
+  ShowAndSettle(*first);
+  EventNotes others;
+  const auto second = Make(others, "CorvelleContract2");
+  second->SetWindowPos(InsertAfter::Topmost, swp::Hide);
+  Settle();
+  EXPECT_EQ(Desktop().ActiveWindow(), first->Id());
+  EXPECT_EQ(Desktop().ForegroundWindow(), first->Id());
+  EXPECT_FALSE(others.Saw("active"));
+  // Nor does a hidden window take the focus.
+  second->SetFocus();
+  Settle();
+  EXPECT_EQ(Desktop().ActiveWindow(), first->Id());
+  second->Show(ShowKind::NoActivate);
+  second->SetWindowPos(InsertAfter::Topmost, swp::Hide);
+  Settle();
+  EXPECT_FALSE(others.Saw("active"));
+}
+
+TEST_P(WindowSystemContract, TheFocusBringsItsFormToTheForeground) {
+  const auto first = Make(notes_);
+  ShowAndSettle(*first);
+  EventNotes others;
+  const auto second = Make(others, "CorvelleContract2");
+  second->Show(ShowKind::NoActivate);
+  second->SetFocus();
+  Settle();
+  EXPECT_EQ(Desktop().ActiveWindow(), second->Id());
+  EXPECT_EQ(Desktop().ForegroundWindow(), second->Id());
+  EXPECT_TRUE(notes_.Saw("inactive"));
+}
+
+TEST_P(WindowSystemContract, TheScreenHasASizeAndColours) {
+  const ScreenInfo screen = Windows().Screen();
+  EXPECT_GT(screen.Width, 0);
+  EXPECT_GT(screen.Height, 0);
+  EXPECT_GE(Windows().ScreenBits(), 8);
+}
+
 TEST_P(WindowSystemContract, ATopmostWindowComesBeforeOthersInTheList) {
   const auto first = Make(notes_);
   EventNotes others;

@@ -117,6 +117,8 @@ class Desk {
   /// Another program's bar keeps that many pixels of an edge. Gives the room that the shell let it
   /// have; empty when it gave none.
   virtual PixelRect OpenOtherBar(Edge at, int thickness) = 0;
+  /// That bar gives up its edge again.
+  virtual void CloseOtherBar() = 0;
   /// Another program's window, visible and in the foreground from then on, from which a press of
   /// either button drags these files (full paths), or the text when there are none.
   virtual void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
@@ -145,6 +147,10 @@ class Desk {
   [[nodiscard]] virtual bool PopupIsUp() const = 0;
   /// Clicks the program's icon in the tray. Does nothing when there is none.
   virtual void ClickTrayIcon() = 0;
+  /// True if the task bar has a button for the program; a click on it, which brings a minimized
+  /// window back.
+  [[nodiscard]] virtual bool HasTaskBarButton() const = 0;
+  virtual void ClickTaskBarButton() = 0;
   /// What the person does with the next context menu of the shell that comes up: presses that
   /// letter, which chooses a command, or Esc for 0.
   virtual void AnswerShellMenu(char letter) = 0;

@@ -139,7 +139,11 @@ class SimDesk final : public Desk {
     return world_.Desktop.ClassName(world_.Desktop.ForegroundWindow());
   }
   void BringToFront(std::string_view className) override {
-    world_.Desktop.TakeForeground(world_.Desktop.Find(className));
+    for (const WindowId window : world_.Desktop.TopLevel()) {
+      if (world_.Desktop.ClassName(window) != className) continue;
+      world_.Desktop.TakeForeground(window);
+      break;
+    }
     world_.Desktop.Pump();
   }
   void OpenOtherWindow(PixelRect bounds) override {
@@ -149,8 +153,10 @@ class SimDesk final : public Desk {
     world_.Desktop.Pump();
   }
   PixelRect OpenOtherBar(Edge at, int thickness) override {
-    return world_.Bars.KeptBy(world_.Bars.AddOtherBar(at, thickness, sim::BarPlacing::Last));
+    bar_ = world_.Bars.AddOtherBar(at, thickness, sim::BarPlacing::Last);
+    return world_.Bars.KeptBy(bar_);
   }
+  void CloseOtherBar() override { world_.Bars.RemoveOtherBar(bar_); }
   void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
                       std::string_view text) override {
     source_.Window = world_.Desktop.AddOtherWindow(
@@ -205,6 +211,15 @@ class SimDesk final : public Desk {
         world_.Desktop.Post(icon.Window, icon.CallbackMessage, icon.Id, mouse);
       }
     }
+    world_.Desktop.Pump();
+  }
+  [[nodiscard]] bool HasTaskBarButton() const override {
+    return world_.Desktop.IsVisible(world_.Desktop.Find("frmMinimize"));
+  }
+  void ClickTaskBarButton() override {
+    if (!HasTaskBarButton()) return;
+    const WindowId window = world_.Desktop.Find("frmMinimize");
+    world_.Desktop.RestoreMinimized(window);
     world_.Desktop.Pump();
   }
   void AnswerShellMenu(char letter) override {
@@ -294,6 +309,7 @@ class SimDesk final : public Desk {
   sim::WorldOptions options_;
   sim::World world_{options_};
   sim::DragSource source_;
+  WindowId bar_ = kNoWindow;
   std::list<Copy> copies_;
 };
 

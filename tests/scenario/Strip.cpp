@@ -149,6 +149,38 @@ void PullTo(Desk& desk, PixelPoint to) {
   desk.Pause(60);
 }
 
+// Eleven items with lines between some; a line takes as much as two gaps.
+PixelPoint MainItem(const Desk& desk, MainChoice choice) {
+  constexpr int kItems = 11;
+  constexpr int kLine = 12;  // pixels that a line takes
+  const auto linesAbove = [](int item) {
+    int lines = 0;
+    for (const int last : {3, 5, 7, 10}) lines += item > last ? 1 : 0;
+    return lines;
+  };
+  const int item = static_cast<int>(choice);
+  const PixelRect menu = desk.BoundsOf("frmQMenu");
+  const int gap = desk.TwipsPerPixel() < 14 ? 6 : 7;
+  const int text = (menu.Height() - 19 - linesAbove(kItems) * kLine - (kItems - 1) * gap) / kItems;
+  return {menu.left + 60,
+          menu.top + 6 + (item - 1) * (text + gap) + linesAbove(item) * kLine + text / 2};
+}
+
+bool ChooseInMainMenu(Desk& desk, MainChoice choice) {
+  if (!OpenMenu(desk, 1)) return false;
+  const PixelPoint at = MainItem(desk, choice);
+  desk.MovePointer(at);
+  desk.Pause(200);
+  desk.Picture("choice-" + std::to_string(static_cast<int>(choice)));
+  desk.Click(at);
+  return true;
+}
+
+char FlagAt(const Desk& desk, int position) {
+  const auto flags = desk.ReadFile(kFlagsFile);
+  return flags && flags->size() == 32 ? (*flags)[static_cast<std::size_t>(position) - 1] : '?';
+}
+
 PixelPoint FarAway(const Desk& desk) {
   const PixelSize screen = desk.ScreenSize();
   return {screen.width / 4, screen.height * 3 / 4};

@@ -55,6 +55,26 @@ inline constexpr std::string_view kPositionFile = "toolbarp.dat";
 /// Takes the strip by its grip and moves it there, as a hand does, without letting go.
 void PullTo(Desk& desk, PixelPoint to);
 
+/// The items of the program's own menu, by their number.
+enum class MainChoice {
+  Customize = 1,
+  RefreshAll,
+  LargeIcons,
+  AutoHide,
+  NotOnTop,
+  HelpTopics,
+  About,
+  Restore,
+  Maximize,
+  Minimize,
+  Exit
+};
+/// Opens that menu and clicks an item; false when the menu does not come up.
+[[nodiscard]] bool ChooseInMainMenu(Desk& desk, MainChoice choice);
+
+/// A position of the flags as they are on the disk; '?' when there are none.
+[[nodiscard]] char FlagAt(const Desk& desk, int position);
+
 /// A point far away from the strip and its menus.
 [[nodiscard]] PixelPoint FarAway(const Desk& desk);
 

@@ -243,10 +243,11 @@ void SimDesktop::SetAnswer(
 
 // Screen.
 
-void SimDesktop::SetScreen(PixelSize size) {
+void SimDesktop::SetScreen(PixelSize size, int bits) {
   options_.Screen = size;
+  options_.ScreenBits = bits;
   SetBounds(desktopWindow_, {0, 0, size.width, size.height});
-  Broadcast(forms::message::DisplayChange, 32,
+  Broadcast(forms::message::DisplayChange, static_cast<std::uintptr_t>(bits),
             static_cast<std::intptr_t>((size.height << 16) | size.width));
 }
 

@@ -25,6 +25,7 @@ namespace corvelle::sim {
 struct DesktopOptions {
   float TwipsPerPixel = 15;  // 15 at 96 dpi, 12 at 120 dpi
   PixelSize Screen{1024, 768};
+  int ScreenBits = 32;
 };
 
 /// A desktop without a screen: windows of this program and of others, a Z order, a pointer, a
@@ -105,8 +106,9 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Broadcast(std::uint32_t message, std::uintptr_t wParam = 0, std::intptr_t lParam = 0);
   /// The session of Windows ends: every top-level window of ours is told.
   void EndSession();
-  /// Another resolution; windows are told by a display change message.
-  void SetScreen(PixelSize size);
+  /// Another resolution, or other colours; windows are told by a display change message.
+  void SetScreen(PixelSize size) { SetScreen(size, options_.ScreenBits); }
+  void SetScreen(PixelSize size, int bits);
   /// Another system colour; windows are told by a message.
   void SetSystemColor(int index, Rgb colour);
 
@@ -180,6 +182,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
   Rgb SystemColor(int index) const override;
   forms::ScreenInfo Screen() const override;
+  int ScreenBits() const override { return options_.ScreenBits; }
   void SetMousePointer(forms::MousePointer shape) override { pointerShape_ = shape; }
   forms::MousePointer CurrentMousePointer() const override { return pointerShape_; }
   void SetMouseIcon(corvelle::Picture picture, PixelPoint hotSpot) override {
@@ -238,6 +241,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Destroy(WindowId window);
   void SetBounds(WindowId window, const PixelRect& bounds);
   void TellBounds(WindowId window);
+  void TellSize(WindowId window, std::uintptr_t how);
   void Show(WindowId window, forms::ShowKind kind);
   void HideWindow(WindowId window);
   void SetWindowPos(WindowId window, forms::InsertAfter after, unsigned flags);

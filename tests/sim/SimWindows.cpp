@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "sim/SimDesktop.h"
 #include "sim/SimPeer.h"
@@ -25,6 +26,10 @@ const char* NameOf(forms::ShowKind kind) {
   }
   return "";
 }
+
+// What a size message says about the window in its first parameter.
+constexpr std::uintptr_t kSizeRestored = 0;
+constexpr std::uintptr_t kSizeMinimized = 1;
 
 std::string Numbers(const PixelRect& r) {
   return std::to_string(r.left) + ',' + std::to_string(r.top) + ',' + std::to_string(r.right) +
@@ -153,17 +158,33 @@ void SimDesktop::Show(WindowId window, forms::ShowKind kind) {
   if (kind == ShowKind::Minimized) {
     at->Minimized = true;
     at->RestoresMaximized = at->RestoresMaximized || at->Maximized;
-    WindowGone(window);
+    TellSize(window, kSizeMinimized);
+    if (Look(window) != nullptr) WindowGone(window);
     return;
   }
   if (kind == ShowKind::Restored) {
-    at->Minimized = false;
     at->RestoresMaximized = false;
+    if (std::exchange(at->Minimized, false)) {
+      TellSize(window, kSizeRestored);
+      // What it does then may hide it again, or end it.
+      at = Get(window);
+      if (at == nullptr || !at->Visible) return;
+    }
   }
   Raise(window);
   if (!wasShown) InvalidateTree(window);
   if (!at->Minimized) TellBounds(window);
   if (kind == ShowKind::Normal || kind == ShowKind::Restored) RequestForeground(window);
+}
+
+void SimDesktop::TellSize(WindowId window, std::uintptr_t how) {
+  const SimWindow* at = Look(window);
+  if (at == nullptr || at->Events == nullptr) return;
+  const PixelSize size = how == kSizeMinimized ? PixelSize{} : at->Bounds.Size();
+  const auto place = static_cast<std::intptr_t>((static_cast<std::uint32_t>(size.height) << 16) |
+                                                (static_cast<std::uint32_t>(size.width) & 0xFFFF));
+  std::intptr_t answer = 0;
+  FirstToProcedure(window, forms::message::Size, how, place, answer);
 }
 
 void SimDesktop::HideWindow(WindowId window) {

@@ -126,10 +126,15 @@ TEST(AppBarRules, ThePointerPastTheInnerSideHidesAndOnTheLineReveals) {
                       {"left, on", Edge::Left, {0, 400}, {0, 0}, false},
                       {"left, off", Edge::Left, {1, 400}, {0, 0}, true},
                       {"right, on", Edge::Right, {1023, 400}, {1023, 0}, false},
-                      {"right, off", Edge::Right, {1022, 400}, {1023, 0}, true}};
+                      {"right, off", Edge::Right, {1022, 400}, {1023, 0}, true},
+                      {"behind a bar", Edge::Left, {5, 400}, {30, 0}, false},
+                      {"screen on the left", Edge::Left, {-1, 400}, {0, 0}, true},
+                      {"screen on the right", Edge::Right, {1024, 400}, {1023, 0}, true},
+                      {"screen above", Edge::Top, {500, -1}, {0, 0}, true},
+                      {"screen below", Edge::Bottom, {500, 768}, {0, 767}, true}};
   for (const Row& row : rows) {
-    EXPECT_EQ(PointerIsOff(row.at, row.pointer, row.corner), row.off) << row.name;
-    EXPECT_EQ(PointerReveals(row.at, row.pointer, row.corner), !row.off) << row.name;
+    EXPECT_EQ(PointerIsOff(row.at, row.pointer, row.corner, kScreen), row.off) << row.name;
+    EXPECT_EQ(PointerReveals(row.at, row.pointer, row.corner, kScreen), !row.off) << row.name;
   }
 }
 

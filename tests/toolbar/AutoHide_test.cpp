@@ -99,6 +99,30 @@ TEST(AutoHide, TheClaimIsMadeOnceAndMovesWithTheEdge) {
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Left), desk.Strip.hWnd());
 }
 
+TEST(AutoHide, SwitchedOnAtAnEdgeTheStripIsALineThereAtOnce) {
+  for (const float t : {15.0F, 12.0F, 10.0F}) {
+    for (const bool rebuild : {false, true}) {
+      for (const LineRow& row : kLines) {
+        SCOPED_TRACE(std::string(row.name) + (rebuild ? ", rebuilt " : " ") + std::to_string(t));
+        DockDesk desk({.TwipsPerPixel = t});
+        desk.StartAt(row.at);
+        desk.TheProgram.AutoHide = true;
+        desk.Docking.SetAppBar("", rebuild);
+        EXPECT_EQ(desk.Bounds(), row.line);
+        EXPECT_TRUE(desk.IsLine());
+        EXPECT_TRUE(desk.Shown());
+        EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
+        desk.PointAt(row.touch);
+        desk.Poll();
+        EXPECT_EQ(desk.Bounds(), row.revealed);
+        const forms::PictureBox& box = desk.Strip.picSingleButton;
+        EXPECT_EQ(IsVertical(row.at) ? box.Bottom() : box.Right(),
+                  (IsVertical(row.at) ? desk.Strip.Height() : desk.Strip.Width()) - 2 * t);
+      }
+    }
+  }
+}
+
 TEST(AutoHide, SwitchedOffItGivesUpTheClaimAndStandsInFullSight) {
   for (const bool rebuild : {false, true}) {
     SCOPED_TRACE(rebuild);

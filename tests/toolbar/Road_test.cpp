@@ -6,6 +6,7 @@
 
 #include "menus/frmQMenu.h"
 #include "toolbar/StripDesk.h"
+#include "toolbar/frmImage.h"
 
 namespace corvelle {
 namespace {
@@ -105,6 +106,57 @@ TEST(StripAndMenu, ARebuildLetsTheMenuShowTheNewFile) {
   desk.Strip.InitNewButtons();
   desk.Click(2);
   EXPECT_EQ(desk.RealMenu.Labels, 1);
+}
+
+TEST(StripAndMenu, F5ShowsTheOldMenuUntilTheNewOneStands) {
+  RoadDesk desk;
+  frmImage picture(desk.TheProgram, desk.Strip);
+  desk.TheProgram.Ports.Capture = &picture;
+  desk.TheProgram.Ports.ImageWindow = &picture;
+  desk.Click(2);
+  desk.Wait(200);
+  ASSERT_EQ(desk.RealMenuUp(), 2);
+  const PixelRect menu = desk.World.Desktop.BoundsOf(desk.RealMenu.hWnd());
+  const auto seen = [&] {
+    std::string pixels;
+    const sim::SimCanvas screen = desk.World.Desktop.Picture();
+    for (int y = menu.top; y < menu.bottom; y += 2) {
+      for (int x = menu.left; x < menu.right; x += 2) {
+        pixels += std::to_string(screen.PixelAt({x, y})) + ' ';
+      }
+    }
+    return pixels;
+  };
+  const std::string before = seen();
+  const std::string name = "C:\\Corvelle\\Menus\\BMENU001.MNU";
+  desk.World.Files.Put(name, *desk.World.Files.Get(name) + Records({Entry("New", "", "x")}));
+  std::vector<std::string> between;
+  const forms::TimerId looks = desk.World.Desktop.StartTimer(1, [&] { between.push_back(seen()); });
+  desk.World.Desktop.Jump(5);
+  desk.World.Desktop.ClearLog();
+  desk.World.Desktop.PressKey(forms::key::F5);
+  desk.World.Desktop.StopTimer(looks);
+  desk.Wait(200);
+  ASSERT_EQ(desk.RealMenuUp(), 2);
+  EXPECT_GT(desk.World.Desktop.BoundsOf(desk.RealMenu.hWnd()).Height(), menu.Height());
+  const std::string after = seen();
+  EXPECT_NE(after, before);
+  EXPECT_FALSE(between.empty());
+  for (const std::string& look : between) EXPECT_TRUE(look == before || look == after);
+  // The picture comes before the menu goes, and goes after the menu has come.
+  std::vector<std::string> order;
+  for (const std::string& line : desk.World.Desktop.Log()) {
+    for (const char* of : {"show frmImage", "hide frmQMenu", "show frmQMenu", "hide frmImage"}) {
+      if (line.starts_with(of)) order.emplace_back(of);
+    }
+  }
+  const std::vector<std::string> wanted = {"show frmImage", "hide frmQMenu", "show frmQMenu",
+                                           "hide frmImage"};
+  EXPECT_EQ(order, wanted);
+  EXPECT_FALSE(picture.MenuCaptured());
+  EXPECT_FALSE(picture.WindowLoaded());
+  desk.TheProgram.Ports.Capture = nullptr;
+  desk.TheProgram.Ports.ImageWindow = nullptr;
 }
 
 TEST(StripAndMenu, TheKeyboardWalksFromMenuToMenu) {

@@ -91,6 +91,20 @@ TEST(StripDate, AtMidnightItChangesWhenItIsNextAskedFor) {
   EXPECT_EQ(desk.Strip.lblDate.Right(), desk.Strip.picSingleButton.Width() - 50);
 }
 
+TEST(StripDate, NothingWakesAStripThatShowsIt) {
+  for (const Edge at : {Edge::Top, Edge::Bottom}) {
+    DateDesk desk("abc", at);
+    ASSERT_TRUE(desk.Shown());
+    desk.Wait(1000);
+    EXPECT_EQ(desk.WakeUps(60'000), 0);
+    desk.PointAt(desk.OnDate());
+    desk.Wait(500);
+    desk.PointAway();
+    desk.Wait(1000);
+    EXPECT_EQ(desk.WakeUps(60'000), 0);
+  }
+}
+
 TEST(StripDate, TheHintOverItIsTheClock) {
   DateDesk desk;
   desk.PointAt(desk.OnDate());

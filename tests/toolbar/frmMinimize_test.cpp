@@ -256,6 +256,7 @@ struct NotedDocking final : DockingPort {
   void RegisterAppBar() override { Asked.emplace_back("RegisterAppBar"); }
   void RemoveAppBar() override { Asked.emplace_back("RemoveAppBar"); }
   void EndAppBar() override { Asked.emplace_back("EndAppBar"); }
+  void LeaveEdge() override { Asked.emplace_back("LeaveEdge"); }
   bool AutoHideFree(std::string_view) override { return Free; }
   void SetAppBar(std::string_view edge, bool rebuild) override {
     Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " anew" : ""));
@@ -322,6 +323,33 @@ TEST(CompanionNotOnTop, SwitchedOffPutsTheStripOnTopAgain) {
   EXPECT_FALSE(desk.TheProgram.NotOnTop);
   EXPECT_EQ((*desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat"))[22], '0');
   EXPECT_TRUE(desk.World.Tray.Shown.empty());
+}
+
+/// A hint that notes the level that it is put on.
+struct HintLevels final : HintPort {
+  void SetHint(std::string_view) override {}
+  WindowId WindowHandle() const override { return kNoWindow; }
+  void SetHintLevel(forms::InsertAfter after, unsigned flags) override {
+    Levels.push_back(std::to_string(static_cast<int>(after)) + ' ' + std::to_string(flags));
+  }
+  std::vector<std::string> Levels;
+};
+
+TEST(CompanionNotOnTop, PutsTheHintOnTopBothWaysWhereHintsAreShown) {
+  for (const bool hints : {true, false}) {
+    SCOPED_TRACE(hints);
+    HintLevels hint;
+    Started desk;
+    desk.SetOption(22, !hints);
+    desk.TheProgram.Ports.Hint = &hint;
+    desk.Companion.ActivateSysTray();
+    const std::vector<std::string> once(hints ? 1 : 0, "-1 131");
+    EXPECT_EQ(hint.Levels, once);
+    desk.Companion.DeActivateSysTray();
+    const std::vector<std::string> twice(hints ? 2 : 0, "-1 131");
+    EXPECT_EQ(hint.Levels, twice);
+    desk.TheProgram.Ports.Hint = nullptr;
+  }
 }
 
 TEST(CompanionNotOnTop, GivesTheEdgeBackAndTakesItAnewEachWay) {
@@ -398,7 +426,7 @@ struct AtEdge : Started {
 TEST(CompanionMinimize, LeavesTheEdgeAndReturnsToIt) {
   AtEdge desk;
   desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
-  EXPECT_EQ(desk.Docking.Asked, std::vector<std::string>{"EndAppBar"});
+  EXPECT_EQ(desk.Docking.Asked, std::vector<std::string>{"LeaveEdge"});
   EXPECT_FALSE(desk.TheProgram.AppBarDocked);
   EXPECT_TRUE(desk.TheProgram.WasDocked);
   EXPECT_EQ(desk.TheProgram.WasEdge, "RIGHT");
@@ -412,14 +440,6 @@ TEST(CompanionMinimize, LeavesTheEdgeAndReturnsToIt) {
   EXPECT_TRUE(desk.TheProgram.WasEdge.empty());
   EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
   EXPECT_TRUE(desk.Strip.Visible());
-}
-
-TEST(CompanionMinimize, GivesUpTheClaimToHideToo) {
-  AtEdge desk;
-  desk.TheProgram.AutoHide = true;
-  desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
-  const std::vector<std::string> asked = {"RemoveAppBar", "EndAppBar"};
-  EXPECT_EQ(desk.Docking.Asked, asked);
 }
 
 TEST(CompanionMinimize, ReturnsWithoutAutoHideWhereAnotherHidesByNow) {
@@ -442,6 +462,24 @@ TEST(CompanionMinimize, OfAStripThatHidesEndsWithItRevealed) {
   desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
   desk.ComeBack();
   EXPECT_EQ(desk.Docking.Asked.back(), "RevealToolbar");
+}
+
+TEST(CompanionMinimize, OfAFloatingStripThatMovesLeavesNoCompanionInTheTaskBar) {
+  Started desk;
+  desk.Companion.ShowNoActivate();
+  desk.TheProgram.ToolbarMinimized = true;
+  desk.Strip.SetTop(600);
+  EXPECT_TRUE(desk.Companion.Visible());
+  desk.TheProgram.ToolbarMinimized = false;
+  desk.Strip.SetTop(900);
+  EXPECT_FALSE(desk.Companion.Visible());
+}
+
+TEST(CompanionMinimize, AnEndOnTheWayRemembersTheEdge) {
+  AtEdge desk;
+  desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+  desk.Exit();
+  EXPECT_EQ(desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat")->substr(13, 3), "111");
 }
 
 TEST(CompanionMinimize, AStripThatOthersMayCoverReturnsWithItsTrayIcon) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "toolbar/StripDesk.h"
+#include "toolbar/frmHelp.h"
 
 namespace corvelle {
 namespace {
@@ -141,6 +142,18 @@ TEST(ToolbarDisplay, AnotherScreenWidthEmptiesTheIconCollections) {
   EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 1);
 }
 
+TEST(ToolbarDisplay, OtherColoursOfTheScreenEmptyThemToo) {
+  StripOfTwo desk;
+  EXPECT_EQ(desk.Strip.BaseBits, 32);
+  desk.World.Desktop.SetScreen({1024, 768}, 16);
+  desk.World.Desktop.Pump();
+  EXPECT_EQ(desk.Strip.BaseBits, 16);
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 1);
+  desk.World.Desktop.SetScreen({1024, 768}, 16);
+  desk.World.Desktop.Pump();
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 1);
+}
+
 TEST(ToolbarUnload, MarkedCollectionsAreEmptiedOnce) {
   StripOfTwo desk;
   desk.Strip.CollectionsMarked = true;
@@ -187,6 +200,27 @@ TEST(ToolbarFullScreen, TheStripSinksBelowTheProgramAndComesBackWithTheMenuWindo
   const std::vector<std::string> expected = {"setwindowpos frmToolbar -1 67",
                                              "setwindowpos frmQMenu -1 131"};
   EXPECT_EQ(desk.OrderCalls(), expected);
+}
+
+TEST(ToolbarFullScreen, TheHintIsOnTopAgainAfterwardsWhereHintsAreShown) {
+  for (const bool hints : {true, false}) {
+    SCOPED_TRACE(hints);
+    StripOfTwo desk;
+    frmHelp hint(desk.TheProgram);
+    desk.TheProgram.Ports.Hint = &hint;
+    // One that was never shown is not made for this.
+    desk.Send(message::AppBarCallback, 2, 0);
+    EXPECT_FALSE(hint.IsLoaded());
+    hint.SetHint("a title");
+    ASSERT_TRUE(hint.IsLoaded());
+    desk.SetOption(22, !hints);
+    desk.Send(message::AppBarCallback, 2, 1);
+    hint.SetWindowPos(forms::InsertAfter::NotTopmost, forms::swp::KeepActivation);
+    desk.Send(message::AppBarCallback, 2, 0);
+    EXPECT_EQ(desk.World.Desktop.IsTopmost(hint.hWnd()), hints);
+    EXPECT_EQ(hint.Visible(), !hints);
+    desk.TheProgram.Ports.Hint = nullptr;
+  }
 }
 
 TEST(ToolbarFullScreen, WithOption4TheStripStaysAbove) {

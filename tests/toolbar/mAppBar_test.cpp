@@ -432,6 +432,49 @@ TEST(AppBarGuard, AStripThatGoesWhileItIsPlacedLeavesNothingBehind) {
   EXPECT_FALSE(desk.TheProgram.AppBarBusy);
 }
 
+TEST(AppBarIdle, NothingWakesAStripAtAnEdge) {
+  for (const EdgeRow& row : kEdges) {
+    for (const bool notOnTop : {false, true}) {
+      SCOPED_TRACE(std::string(row.name) + (notOnTop ? ", not on top" : ""));
+      DockDesk desk;
+      desk.TheProgram.NotOnTop = notOnTop;
+      desk.StartAt(row.at);
+      desk.Wait(1000);
+      EXPECT_EQ(desk.WakeUps(10'000), 0);
+      desk.Click(3);
+      desk.Wait(500);
+      desk.GoElsewhere();
+      desk.Wait(1000);
+      desk.Click(3);
+      desk.Click(3);
+      desk.GoElsewhere();
+      desk.Wait(2500);
+      EXPECT_EQ(desk.WakeUps(10'000), 0);
+    }
+  }
+}
+
+TEST(AppBarIdle, NothingWakesAStripInTheTaskBar) {
+  for (const bool hides : {false, true}) {
+    SCOPED_TRACE(hides);
+    DockDesk desk;
+    desk.SetOption(3, hides);
+    desk.StartAt(Edge::Right);
+    desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+    desk.Wait(1000);
+    EXPECT_EQ(desk.WakeUps(10'000), 0);
+  }
+}
+
+TEST(AppBarIdle, AHiddenStripIsLookedAfterFourTimesASecond) {
+  DockDesk desk;
+  desk.SetOption(3, true);
+  desk.StartAt(Edge::Right);
+  desk.GoElsewhere();
+  desk.Wait(1000);
+  EXPECT_EQ(desk.WakeUps(10'000), 40);
+}
+
 TEST(AppBarGuard, ManyChangesInARowLeaveTheStripInItsPlaceAndQuiet) {
   DockDesk desk;
   desk.StartAt(Edge::Top);
