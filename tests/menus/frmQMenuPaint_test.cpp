@@ -327,27 +327,6 @@ TEST_F(Painted, OtherSystemColoursShowInOpenAndInKeptMenus) {
   EXPECT_EQ(IconColour(3), ToolColour(2));
 }
 
-TEST_F(Painted, AllIconsCanBeFetchedBeforehand) {
-  desk_.PutMenu(1, Tools(3));
-  desk_.PutMenu(2, {Item("A", Tool(7))});
-  desk_.World.Files.Put("C:\\Corvelle\\ShellLink\\a.lnk", "x");
-  desk_.Menu.InitIcons();
-  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
-  EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
-  const int lookups = desk_.World.Icons.Lookups();
-  desk_.Reopen(1);
-  desk_.Menu.HideMenu();
-  desk_.Reopen(2);
-  EXPECT_EQ(desk_.World.Icons.Lookups(), lookups);
-  EXPECT_EQ(IconColour(1), ToolColour(7));
-}
-
-TEST_F(Painted, FetchingIconsWithoutFoldersDoesNoHarm) {
-  desk_.World.Files.Vanish("C:\\Corvelle\\Menus");
-  desk_.Menu.InitIcons();
-  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
-}
-
 TEST(frmQMenuHourglass, ShowsWhileTheMenuIsBuiltUnlessAnItemIsDragged) {
   for (const bool dragging : {false, true}) {
     MenuDesk desk;
