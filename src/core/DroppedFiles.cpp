@@ -36,10 +36,6 @@ std::optional<EditOutcome> Obstacle(FileSystem& files, std::string_view path, st
   return std::nullopt;
 }
 
-EditOutcome OutcomeOf(const FileStatus& status) {
-  return status ? EditOutcome::Edited : EditOutcome::Failed;
-}
-
 }  // namespace
 
 forms::DropEffect EffectOfDrag(forms::MouseButton dragged) noexcept {

@@ -23,10 +23,6 @@ bool IsCurrentEntry(const EntryEdit& edit, const MenuRecord& record) {
          EqualNoCase(record.FName, edit.CurCommand);
 }
 
-EditOutcome OutcomeOf(const FileStatus& status) {
-  return status ? EditOutcome::Edited : EditOutcome::Failed;
-}
-
 /// Edited if the current file still holds the current entry at its place; else why it does not.
 EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
   const FileResult<int> count = CountRecords(files, edit.CurFile);
@@ -65,11 +61,15 @@ EditOutcome ChangeCommand(FileSystem& files, const CodePage& ansi, const EntryEd
 
 }  // namespace
 
+EditOutcome OutcomeOf(const FileStatus& status) noexcept {
+  return status ? EditOutcome::Edited : EditOutcome::Failed;
+}
+
 bool IsButtonTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "B"); }
 
 bool IsMenuTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "F"); }
 
-bool IsSinglesTag(std::string_view tag) noexcept { return EqualNoCase(tag, "SingleButtons"); }
+bool IsSinglesTag(std::string_view tag) noexcept { return EqualNoCase(tag, kSinglesTag); }
 
 EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                             const EntryEdit& edit) {

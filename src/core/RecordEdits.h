@@ -43,10 +43,14 @@ enum class EditOutcome {
   Failed,          // the disk refused; the file is what it was
 };
 
+/// What a step on the disk came to.
+[[nodiscard]] EditOutcome OutcomeOf(const FileStatus& status) noexcept;
+
 /// What the popup's texts call a tag.
-[[nodiscard]] bool IsButtonTag(std::string_view tag) noexcept;   // "B" and an index
-[[nodiscard]] bool IsMenuTag(std::string_view tag) noexcept;     // "F" and an index
-[[nodiscard]] bool IsSinglesTag(std::string_view tag) noexcept;  // "SingleButtons"
+[[nodiscard]] bool IsButtonTag(std::string_view tag) noexcept;  // "B" and an index
+[[nodiscard]] bool IsMenuTag(std::string_view tag) noexcept;    // "F" and an index
+inline constexpr std::string_view kSinglesTag = "SingleButtons";
+[[nodiscard]] bool IsSinglesTag(std::string_view tag) noexcept;
 
 /// Takes record CurRecord out of CurFile if it still is the current entry. Only for an entry of a
 /// menu; a generated one never leaves, silently so during a drag.

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "base/CodePage.h"
+#include "core/CoreTexts.h"
 #include "core/MenuFile.h"
 #include "sim/SimFiles.h"
 
@@ -14,18 +14,7 @@ namespace {
 using namespace std::string_literals;
 using sim::SimFiles;
 
-const Windows1252 kAnsi;
-const std::string kMenus = "C:\\Corvelle\\Menus\\";
-const std::string kFile = kMenus + "BMENU001.MNU";
-const std::string kOther = kMenus + "BMENU002.MNU";
-
 using Titles = std::vector<std::string>;
-
-std::string Record(const std::string& title) {
-  return FormatRecord({title, "icon of " + title, "C:\\" + title + ".exe"}, kAnsi);
-}
-
-const std::string kFour = Record("Button") + Record("One") + Record("Two") + Record("Three");
 
 /// The menu of four records, and an edit whose current entry is one of its items.
 struct Bench {
