@@ -219,6 +219,28 @@ TEST_F(Painted, APageIsDrawnWhenItIsFirstShownAndStandsAtOnceTheSecondTime) {
   EXPECT_EQ(desk_.World.Icons.Lookups(), 68);
 }
 
+TEST_F(Painted, APageThatIsTurnedToShowsAllItsCaptionsAndThenIconAfterIcon) {
+  desk_.Open(1, Tools(80));
+  const Rgb ink = desk_.SystemColour(forms::color::ButtonText);
+  int asked = 0;
+  desk_.World.Icons.WhileAsked([&] {
+    const forms::Label& last = desk_.Menu.Lbl[68];
+    const PixelPoint corner = desk_.OnScreen(last.Left(), last.Top());
+    const PixelRect text{corner.x, corner.y, corner.x + 40, corner.y + 13};
+    EXPECT_TRUE(desk_.World.Desktop.Picture().Shows(ink, text)) << asked;
+    if (asked > 0) {
+      EXPECT_EQ(IconColour(34 + asked), ToolColour(33 + asked));
+    }
+    ++asked;
+    EXPECT_EQ(IconColour(34 + asked), Face()) << asked;
+  });
+  desk_.World.Desktop.PressKey(forms::key::PageDown);
+  EXPECT_EQ(asked, 34);
+  for (const int key : {forms::key::PageUp, forms::key::PageDown})
+    desk_.World.Desktop.PressKey(key);
+  EXPECT_EQ(asked, 34);
+}
+
 TEST_F(Painted, NoRuleOfAnotherPageIsSeen) {
   std::vector<MenuRecord> items = Items(60);
   items.insert(items.begin() + 5, Separator());
