@@ -9,8 +9,6 @@
 #include "icons/RecycleIcon.h"
 #include "menus/FolderRules.h"
 #include "menus/GeneratedMenu.h"
-#include "menus/mFolder.h"
-#include "menus/sFolder.h"
 #include "shell/FileErrorText.h"
 
 namespace corvelle {
@@ -59,6 +57,8 @@ std::vector<MenuRecord> RecordsToExpand(FileSystem& files, const CodePage& ansi,
 std::string FolderMenus::Expand(std::string_view menuKey, std::string_view menuFile) {
   const std::string key = UpperCase(menuKey);
   built_.erase(key);
+  Listed listed = std::exchange(listed_, {});
+  if (listed.MenuKey != key) listed = {};
   const std::string source(menuFile);
   std::vector<MenuRecord> records =
       RecordsToExpand(program_.Services.Files, program_.Services.Ansi, source);
@@ -67,21 +67,42 @@ std::string FolderMenus::Expand(std::string_view menuKey, std::string_view menuF
   GeneratedMenu menu(std::move(records), program_.Services.Ansi);
   auto built = std::make_shared<Built>();
   built->Update.MenuKey = key;
-  ExpandItems(menu, source, *built);
+  ExpandItems(menu, source, listed, *built);
   std::string generated = GeneratedFileName(source);
   if (!Write(generated, menu.Bytes())) return source;
   built_.insert_or_assign(key, std::move(built));
   return generated;
 }
 
-void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Built& built) {
+const FoundFiles& FolderMenus::FilesOf(std::string_view folderName, Listed& listed) {
+  auto found = listed.Files.find(folderName);
+  if (found == listed.Files.end()) {
+    FoundFiles files = ListFolderItem(program_.Services.Files, ParseFolderItem(folderName));
+    found = listed.Files.emplace(std::string(folderName), std::move(files)).first;
+  }
+  return found->second;
+}
+
+const SpecialFolderLines& FolderMenus::LinesOf(std::string_view folderName, Listed& listed) {
+  auto found = listed.Lines.find(folderName);
+  if (found == listed.Lines.end()) {
+    SpecialFolderLines lines = ListSpecialFolder(program_, folderName);
+    found = listed.Lines.emplace(std::string(folderName), std::move(lines)).first;
+  }
+  return found->second;
+}
+
+void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Listed& listed,
+                              Built& built) {
   for (int record = 2; record <= menu.SourceCount(); ++record) {
     const MenuRecord& source = menu.Source()[static_cast<std::size_t>(record) - 1];
     if (!IsOpenFolder(source)) continue;
     std::vector<std::string> paths;
-    clsFolder folder = IsFolderItem(source.FName)
-                           ? ExpandFolderItem(program_, menu, record, paths)
-                           : ExpandSpecialFolder(program_, menu, record, menuFile);
+    const std::string& name = source.FName;
+    clsFolder folder =
+        IsFolderItem(name)
+            ? ExpandFolderItem(program_, menu, record, FilesOf(name, listed), paths)
+            : ExpandSpecialFolder(program_, menu, record, LinesOf(name, listed), menuFile);
     folder.FileTitle = menuFile;
     built.Folders.push_back(std::move(folder));
     built.Update.FileList.push_back(std::move(paths));
@@ -108,25 +129,32 @@ bool FolderMenus::Write(const std::string& path, const std::string& bytes) {
 }
 
 bool FolderMenus::UpdateMenu(std::string_view menuKey) {
+  listed_ = {};
   const auto found = built_.find(UpperCase(menuKey));
   if (found == built_.end()) return false;
   // Listing may let events through; what is looked at stays until it is done.
   const std::shared_ptr<const Built> built = found->second;
+  Listed listed;
+  listed.MenuKey = built->Update.MenuKey;
   for (std::size_t i = 0; i < built->Folders.size(); ++i) {
-    if (HasChanged(*built, i)) return true;
+    if (!HasChanged(*built, i, listed)) continue;
+    listed_ = std::move(listed);
+    return true;
   }
   return false;
 }
 
-bool FolderMenus::HasChanged(const Built& built, std::size_t index) {
+bool FolderMenus::HasChanged(const Built& built, std::size_t index, Listed& listed) {
   const clsFolder& folder = built.Folders[index];
   const bool ofShell = !IsFolderItem(folder.FolderName);
   if (!folder.UpdateFolder) {
     return ofShell && IsDesktopFolder(folder.FolderName) && BinHasChanged(built);
   }
-  if (ofShell) return SpecialFolderChanged(program_, folder.FolderName, folder.FileTitle);
-  return FolderChanged(program_.Services.Files, folder.FolderName, built.Update.FileList[index]) !=
-         folder.RecTotal;
+  const std::string& name = folder.FolderName;
+  if (ofShell) {
+    return SpecialFolderChanged(program_, name, LinesOf(name, listed), folder.FileTitle);
+  }
+  return FolderChanged(FilesOf(name, listed), built.Update.FileList[index]) != folder.RecTotal;
 }
 
 bool FolderMenus::BinHasChanged(const Built& built) {

@@ -8,6 +8,8 @@
 
 #include "core/WindowPorts.h"
 #include "menus/clsFolder.h"
+#include "menus/mFolder.h"
+#include "menus/sFolder.h"
 
 namespace corvelle {
 
@@ -36,15 +38,26 @@ class FolderMenus final : public FolderMenusPort {
     std::string RecycleIcon;  // as it was when the menu was built
   };
 
-  void ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Built& built);
+  /// What the comparison of a menu listed, by the commands of its folder items. A menu that is
+  /// built because of it is built from that, so that no folder is listed twice for one opening.
+  struct Listed {
+    std::string MenuKey;
+    std::map<std::string, FoundFiles, std::less<>> Files;
+    std::map<std::string, SpecialFolderLines, std::less<>> Lines;
+  };
+
+  void ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Listed& listed, Built& built);
+  const FoundFiles& FilesOf(std::string_view folderName, Listed& listed);
+  const SpecialFolderLines& LinesOf(std::string_view folderName, Listed& listed);
   /// False when the file could not be written, and nothing of it is left then.
   [[nodiscard]] bool Write(const std::string& path, const std::string& bytes);
-  [[nodiscard]] bool HasChanged(const Built& built, std::size_t index);
+  [[nodiscard]] bool HasChanged(const Built& built, std::size_t index, Listed& listed);
   [[nodiscard]] bool BinHasChanged(const Built& built);
 
   Program& program_;
   std::map<std::string, std::shared_ptr<const Built>, std::less<>>
-      built_;  // by the key in capitals
+      built_;      // by the key in capitals
+  Listed listed_;  // from a comparison that found a change until the next build or comparison
 };
 
 }  // namespace corvelle

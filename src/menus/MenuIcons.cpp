@@ -27,17 +27,18 @@ MenuIcons::~MenuIcons() = default;
 void MenuIcons::ResetPicIcons() {
   colIconFile_.clear();
   colIconIndex_.clear();
+  fetched_.clear();
   picIcons_.reset();
   cells_ = 0;
   room_ = 0;
 }
 
-IconForm MenuIcons::Classify(std::string_view text) const {
+IconForm MenuIcons::Classify(std::string_view text, IconCaller caller) const {
   return ClassifyIcon(text,
                       {.AppPath = program_.AppPath,
                        .IconsPath = program_.IconsPath,
                        .WebLinkIcon = program_.WebLinkIcon},
-                      IconCaller::Menu);
+                      caller);
 }
 
 void MenuIcons::DrawMenuIcon(Canvas& canvas, PixelPoint at, std::string_view iconText) {
@@ -58,6 +59,15 @@ void MenuIcons::DrawMenuIcon(Canvas& canvas, PixelPoint at, std::string_view ico
 void MenuIcons::LoadSmallIcon(std::string_view iconText) {
   const std::string text = Trim(iconText);
   LoadFileIcon(text, Classify(text));
+}
+
+void MenuIcons::FetchButtonIcon(std::string_view iconText) {
+  if (IconListOf(program_.IconSize) != IconList::Large) return;
+  const std::string text = Trim(iconText);
+  const IconForm form = Classify(text, IconCaller::Toolbar);
+  if (form.Kind != IconKind::File || !fetched_.insert(LowerCase(text)).second) return;
+  // The shell keeps what it finds; a file that is gone has no icon.
+  static_cast<void>(program_.Services.Icons.FileInfo(form.Text, IconList::Large));
 }
 
 int MenuIcons::LoadFileIcon(const std::string& text, const IconForm& form) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "base/Geometry.h"
 #include "icons/IconForm.h"
@@ -32,6 +33,10 @@ class MenuIcons {
   /// Fetches an icon into the strip without drawing it.
   void LoadSmallIcon(std::string_view iconText);
 
+  /// Has the shell fetch the large icon of a file that the strip shows on a button. Does nothing
+  /// while the strip shows small icons.
+  void FetchButtonIcon(std::string_view iconText);
+
   /// Forgets all icons, so that each is asked for again.
   void ResetPicIcons();
 
@@ -41,7 +46,8 @@ class MenuIcons {
  private:
   static constexpr int kNoCell = -1;
 
-  [[nodiscard]] IconForm Classify(std::string_view text) const;
+  [[nodiscard]] IconForm Classify(std::string_view text,
+                                  IconCaller caller = IconCaller::Menu) const;
   /// The cell of an icon text; loads the icon the first time. kNoCell for texts without one.
   int LoadFileIcon(const std::string& text, const IconForm& form);
   int LoadFile(const std::string& text, const IconForm& form);
@@ -58,6 +64,7 @@ class MenuIcons {
   int room_ = 0;
   std::unordered_map<std::string, int> colIconFile_;   // by the text in lower case
   std::unordered_map<std::string, int> colIconIndex_;  // by "i" and the index in the system's list
+  std::unordered_set<std::string> fetched_;            // large icons, by the text in lower case
 };
 
 }  // namespace corvelle

@@ -132,7 +132,7 @@ void Builder::EndLayout() {
 
 MenuLayout Builder::Build() {
   out_.ItemGap = metrics_.ItemGap;
-  out_.Pages.emplace_back();
+  out_.Pages.assign(1, MenuPage{});
   const float reserve = kPageReserve * metrics_.TwipsY;
   paged_ = EstimatedHeight() > scene_.WindowHeight - reserve;
   out_.MenuHeight =

@@ -69,8 +69,12 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void UpDownArrows();
   /// Brings the page CurMenu on the screen.
   void ShowSlide();
+
+  // ---- icons (frmQMenuIcons.cpp) ----
+
+  /// Fetches the icons of all menu files, of the files of their folder items, and of the links.
   void InitIcons() override;
-  /// Fetches the icons of one menu file.
+  /// Fetches those of one menu file.
   void InitMenuIcons(std::string_view menuFile);
   void ResetPicIcons() override;
 
@@ -247,6 +251,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void CenterGlyph(int index, std::string_view glyph);
   void ColoursChanged();
   void Form_Paint();
+
+  // Icons (frmQMenuIcons.cpp).
   void LoadIconsOf(const std::string& menuFile);
 
   // Items (frmQMenuItems.cpp).

@@ -68,7 +68,8 @@ void frmQMenu::MovePage(int keyCode) {
   const std::optional<int> page = PageForKey(keyCode, CurMenu, Slides);
   if (!page) return;
   KeyActs();
-  CurItem = LastLabel;
+  // Home and End leave the cursor where it was: no item of theirs is near it.
+  if (keyCode == forms::key::PageUp || keyCode == forms::key::PageDown) CurItem = LastLabel;
   TurnTo(*page);
   ActiveArrow = kNoArrow;
 }

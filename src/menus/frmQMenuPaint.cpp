@@ -3,13 +3,11 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/MenuFile.h"
 #include "core/Program.h"
 #include "forms/Scale.h"
 #include "forms/Scopes.h"
 #include "icons/Glyphs.h"
 #include "menus/frmQMenu.h"
-#include "platform/FileSystem.h"
 
 namespace corvelle {
 
@@ -197,35 +195,5 @@ void frmQMenu::ColoursChanged() {
   if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
   if (selected > 0) SelectItem(selected);
 }
-
-void frmQMenu::InitIcons() {
-  FileSystem& files = program_.Services.Files;
-  if (program_.MenuBuilding) return;
-  const forms::FlagScope loading(program_.IconsLoading);
-  const forms::HourglassScope hourglass(program_.Windows);
-  icons_.LoadSmallIcon(program_.AppPath + "corvelle.exe");
-  // A folder that cannot be listed has no icons to fetch.
-  const auto menus = files.List(program_.MenusPath, "*.mnu");
-  if (menus) {
-    for (const FileEntry& entry : *menus) LoadIconsOf(program_.MenusPath + entry.Name);
-  }
-  const auto links = files.List(program_.ShellLinkPath, "*.lnk");
-  if (links) {
-    for (const FileEntry& entry : *links) icons_.LoadSmallIcon(program_.ShellLinkPath + entry.Name);
-  }
-}
-
-void frmQMenu::LoadIconsOf(const std::string& menuFile) {
-  const auto records = ReadAllRecords(program_.Services.Files, program_.Services.Ansi, menuFile);
-  if (!records) return;
-  for (const MenuRecord& record : *records) icons_.LoadSmallIcon(record.FIcon);
-}
-
-void frmQMenu::InitMenuIcons(std::string_view menuFile) {
-  const forms::FlagScope loading(program_.IconsLoading);
-  LoadIconsOf(std::string(menuFile));
-}
-
-void frmQMenu::ResetPicIcons() { icons_.ResetPicIcons(); }
 
 }  // namespace corvelle

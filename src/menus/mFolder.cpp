@@ -72,14 +72,13 @@ FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item) {
 }
 
 clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
-                           std::vector<std::string>& paths) {
+                           const FoundFiles& found, std::vector<std::string>& paths) {
   clsFolder folder;
   folder.FolderName = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
   const FolderItem item = ParseFolderItem(folder.FolderName);
   folder.UpdateFolder = item.UpdateFolder;
   menu.BeginItem(record);
   folder.RecStart = menu.Count() + 1;
-  const FoundFiles found = ListFolderItem(program.Services.Files, item);
   folder.RecTotal = static_cast<int>(found.Files.size());
   std::size_t last = found.Folders.size();
   for (const FoundFiles::File& file : found.Files) {
@@ -95,9 +94,7 @@ clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
   return folder;
 }
 
-int FolderChanged(FileSystem& files, std::string_view folderName,
-                  const std::vector<std::string>& paths) {
-  const FoundFiles found = ListFolderItem(files, ParseFolderItem(folderName));
+int FolderChanged(const FoundFiles& found, const std::vector<std::string>& paths) {
   const auto count = static_cast<int>(found.Files.size());
   if (found.Files.size() != paths.size()) return count;
   const bool same = std::equal(

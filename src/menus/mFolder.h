@@ -39,13 +39,13 @@ void ScanFolder(FileSystem& files, const FolderItem& item, std::size_t folder, F
 [[nodiscard]] FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item);
 
 /// Adds the entries of the folder item at record `record` of the source, behind the records before
-/// it. `paths` gets the full paths of the files found when the item is to be compared later.
+/// it. `found`: what it holds. `paths` gets the full paths of its files when the item is to be
+/// compared later.
 [[nodiscard]] clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
-                                         std::vector<std::string>& paths);
+                                         const FoundFiles& found, std::vector<std::string>& paths);
 
-/// How many files the item has now; -1 when there are as many as `paths` but others, so that the
+/// How many files there are now; -1 when there are as many as `paths` but others, so that the
 /// answer is clsFolder::RecTotal only for a folder that did not change.
-[[nodiscard]] int FolderChanged(FileSystem& files, std::string_view folderName,
-                                const std::vector<std::string>& paths);
+[[nodiscard]] int FolderChanged(const FoundFiles& found, const std::vector<std::string>& paths);
 
 }  // namespace corvelle

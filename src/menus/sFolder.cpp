@@ -39,25 +39,31 @@ std::string ListCacheBytes(const std::vector<std::string>& lines, const CodePage
   return bytes;
 }
 
+SpecialFolderLines ListSpecialFolder(Program& program, std::string_view folderName) {
+  const std::string command = FolderWithoutOptions(folderName);
+  // Before the listing, so that what changes meanwhile is found at the next opening.
+  if (ShowsRecycleBin(command)) CheckRecycleIcon(program);
+  const auto entries = program.Services.Folders.List(CsidlValue(command));
+  if (!entries) return std::nullopt;
+  return ShellFolderLines(*entries);
+}
+
 clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
-                              std::string_view menuFile) {
+                              const SpecialFolderLines& lines, std::string_view menuFile) {
   clsFolder folder;
   folder.FolderName = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
   const std::string command = FolderWithoutOptions(folder.FolderName);
   folder.UpdateFolder = FolderOptions(folder.FolderName).find('U') != std::string::npos;
   menu.BeginItem(record);
   folder.RecStart = menu.Count() + 1;
-  // Before the listing, so that what changes meanwhile is found at the next opening.
-  if (ShowsRecycleBin(command)) CheckRecycleIcon(program);
   const std::string cache = ListCacheName(menuFile, command);
-  if (const auto entries = program.Services.Folders.List(CsidlValue(command))) {
-    const std::vector<std::string> lines = ShellFolderLines(*entries);
-    KeepList(program, cache, ListCacheBytes(lines, program.Services.Ansi));
-    for (const std::string& line : lines) {
+  if (lines) {
+    KeepList(program, cache, ListCacheBytes(*lines, program.Services.Ansi));
+    for (const std::string& line : *lines) {
       const ShellFolderLine entry = ParseShellFolderLine(line);
       menu.AddEntry(record, entry.Name, entry.Icon, command);
     }
-    folder.RecTotal = static_cast<int>(lines.size());
+    folder.RecTotal = static_cast<int>(lines->size());
   } else {
     static_cast<void>(program.Services.Files.Remove(cache));
   }
@@ -66,14 +72,12 @@ clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
 }
 
 bool SpecialFolderChanged(Program& program, std::string_view folderName,
-                          std::string_view menuFile) {
-  const std::string command = FolderWithoutOptions(folderName);
-  const auto entries = program.Services.Folders.List(CsidlValue(command));
-  if (!entries) return false;
-  const std::string now = ListCacheBytes(ShellFolderLines(*entries), program.Services.Ansi);
+                          const SpecialFolderLines& lines, std::string_view menuFile) {
+  if (!lines) return false;
+  const std::string now = ListCacheBytes(*lines, program.Services.Ansi);
   // One byte more than there should be tells a longer list.
-  const auto kept =
-      program.Services.Files.Read(ListCacheName(menuFile, command), 0, now.size() + 1);
+  const auto kept = program.Services.Files.Read(
+      ListCacheName(menuFile, FolderWithoutOptions(folderName)), 0, now.size() + 1);
   return !kept || *kept != now;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,16 +21,20 @@ class Program;
 [[nodiscard]] std::string ListCacheBytes(const std::vector<std::string>& lines,
                                          const CodePage& ansi);
 
+/// What a special folder holds now, as ShellFolderLines; nothing when it cannot be listed. The
+/// shell may let events through.
+using SpecialFolderLines = std::optional<std::vector<std::string>>;
+[[nodiscard]] SpecialFolderLines ListSpecialFolder(Program& program, std::string_view folderName);
+
 /// Adds the entries of the special folder at record `record` of the source, behind the records
-/// before it, and writes what it held. A folder that cannot be listed has no entries. The shell may
-/// let events through.
+/// before it, and writes what it holds. A folder that cannot be listed has no entries.
 [[nodiscard]] clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
+                                            const SpecialFolderLines& lines,
                                             std::string_view menuFile);
 
 /// True if the folder holds something else than what is kept of it, or if nothing is kept; false
-/// when it cannot be listed, so that such a folder is not built anew for ever. The shell may let
-/// events through.
+/// when it cannot be listed, so that such a folder is not built anew for ever.
 [[nodiscard]] bool SpecialFolderChanged(Program& program, std::string_view folderName,
-                                        std::string_view menuFile);
+                                        const SpecialFolderLines& lines, std::string_view menuFile);
 
 }  // namespace corvelle

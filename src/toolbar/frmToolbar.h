@@ -415,6 +415,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   AbandonWatch carryWatch_;
   float menuLeft_ = 0;  // where the menu window was placed
   float menuTop_ = 0;
+  std::int64_t pressedAt_ = 0;    // when the menu was last changed by hand, milliseconds
   int quietTicks_ = 0;            // of tmrDragDrop, since the drag was last heard of
   bool positionUnsaved_ = false;  // the disk refused SavedLeft
   bool positioned_ = false;       // SavedLeft is known

@@ -15,6 +15,9 @@ namespace {
 
 constexpr std::int64_t kHintDelay = 500;  // milliseconds
 constexpr std::int64_t kHintTime = 1500;
+// A press and its release in the menu are one choice for so long. Who holds the button longer is
+// looking, and may let go anywhere. Milliseconds.
+constexpr std::int64_t kClickDelay = 5000;
 constexpr int kMenuBorder = 3;  // pixels around the inside of the menu window
 
 }  // namespace
@@ -101,6 +104,7 @@ void frmToolbar::PressCurButton() {
   }
   SetButtonBorders();
   MenuOpening = true;
+  pressedAt_ = program_.Windows.Now();
   ShowMenu(program_.CurButton);
 }
 
@@ -206,6 +210,7 @@ void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState
     return;
   }
   if (IsOverMenu(under)) {
+    if (program_.Windows.Now() - pressedAt_ >= kClickDelay) return;
     const TwipPoint at = InMenu(pointer);
     program_.Ports.QMenu->xMouseUp(button, shift, at.X, at.Y);
     return;

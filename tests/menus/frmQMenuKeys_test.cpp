@@ -205,6 +205,20 @@ TEST_F(PagedMenu, TheFirstItemFollowsAPageTurnedByKey) {
   EXPECT_EQ(desk_.Started().size(), 1U);
 }
 
+TEST_F(PagedMenu, AfterEndALetterIsLookedForFromTheLastPageOn) {
+  Key(forms::key::End);
+  desk_.World.Desktop.Type("i");
+  EXPECT_EQ(Selected(), 69);
+  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+}
+
+TEST_F(PagedMenu, AfterPgDnALetterIsLookedForFromThePageThatWasLeft) {
+  Key(forms::key::PageDown);
+  desk_.World.Desktop.Type("i");
+  EXPECT_EQ(Selected(), 34);
+  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+}
+
 TEST_F(PagedMenu, ReopeningShowsThePageOnWhichItWasLeft) {
   Key(forms::key::PageDown);
   Key(forms::key::Escape);

@@ -219,6 +219,28 @@ TEST_F(Painted, APageIsDrawnWhenItIsFirstShownAndStandsAtOnceTheSecondTime) {
   EXPECT_EQ(desk_.World.Icons.Lookups(), 68);
 }
 
+TEST_F(Painted, APageThatIsTurnedToShowsAllItsCaptionsAndThenIconAfterIcon) {
+  desk_.Open(1, Tools(80));
+  const Rgb ink = desk_.SystemColour(forms::color::ButtonText);
+  int asked = 0;
+  desk_.World.Icons.WhileAsked([&] {
+    const forms::Label& last = desk_.Menu.Lbl[68];
+    const PixelPoint corner = desk_.OnScreen(last.Left(), last.Top());
+    const PixelRect text{corner.x, corner.y, corner.x + 40, corner.y + 13};
+    EXPECT_TRUE(desk_.World.Desktop.Picture().Shows(ink, text)) << asked;
+    if (asked > 0) {
+      EXPECT_EQ(IconColour(34 + asked), ToolColour(33 + asked));
+    }
+    ++asked;
+    EXPECT_EQ(IconColour(34 + asked), Face()) << asked;
+  });
+  desk_.World.Desktop.PressKey(forms::key::PageDown);
+  EXPECT_EQ(asked, 34);
+  for (const int key : {forms::key::PageUp, forms::key::PageDown})
+    desk_.World.Desktop.PressKey(key);
+  EXPECT_EQ(asked, 34);
+}
+
 TEST_F(Painted, NoRuleOfAnotherPageIsSeen) {
   std::vector<MenuRecord> items = Items(60);
   items.insert(items.begin() + 5, Separator());
@@ -325,27 +347,6 @@ TEST_F(Painted, OtherSystemColoursShowInOpenAndInKeptMenus) {
   desk_.Reopen(1);
   EXPECT_EQ(desk_.PixelInside(1, 1), green);
   EXPECT_EQ(IconColour(3), ToolColour(2));
-}
-
-TEST_F(Painted, AllIconsCanBeFetchedBeforehand) {
-  desk_.PutMenu(1, Tools(3));
-  desk_.PutMenu(2, {Item("A", Tool(7))});
-  desk_.World.Files.Put("C:\\Corvelle\\ShellLink\\a.lnk", "x");
-  desk_.Menu.InitIcons();
-  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
-  EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
-  const int lookups = desk_.World.Icons.Lookups();
-  desk_.Reopen(1);
-  desk_.Menu.HideMenu();
-  desk_.Reopen(2);
-  EXPECT_EQ(desk_.World.Icons.Lookups(), lookups);
-  EXPECT_EQ(IconColour(1), ToolColour(7));
-}
-
-TEST_F(Painted, FetchingIconsWithoutFoldersDoesNoHarm) {
-  desk_.World.Files.Vanish("C:\\Corvelle\\Menus");
-  desk_.Menu.InitIcons();
-  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
 }
 
 TEST(frmQMenuHourglass, ShowsWhileTheMenuIsBuiltUnlessAnItemIsDragged) {

@@ -219,6 +219,19 @@ TEST(frmQMenuChoice, AClickInTheRuleBetweenTwoItemsDoesNothing) {
   EXPECT_TRUE(desk.World.Shell.Log().empty());
 }
 
+TEST(frmQMenuChoice, AClickInTheRuleDoesNothingThoughTheKeysHaveSelectedAnItem) {
+  MenuDesk desk;
+  desk.Open(1, {Item("Above"), Separator(), Item("Below")});
+  const forms::Label& above = desk.Menu.Lbl[1];
+  desk.PointAt(desk.OnScreen(above.Left(), above.Bottom() + 135));
+  desk.World.Desktop.PressKey(forms::key::Down);
+  EXPECT_EQ(desk.BarredItem(), 1);
+  desk.World.Desktop.Click();
+  EXPECT_TRUE(desk.Started().empty());
+  EXPECT_TRUE(desk.Menu.MenuVisible());
+  EXPECT_EQ(desk.BarredItem(), 0);
+}
+
 TEST(frmQMenuChoice, AReleaseOutsideTheWindowChoosesNothing) {
   MenuDesk desk;
   desk.Open(1, Items(3));

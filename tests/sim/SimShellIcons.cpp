@@ -52,8 +52,10 @@ Rgb SimShellIcons::ColourOf(std::string_view file, int index) {
   return 0x00600000U | (sum & 0xFFFFU);
 }
 
-std::optional<ShellFileInfo> SimShellIcons::FileInfo(std::string_view path, IconList /*list*/) {
+std::optional<ShellFileInfo> SimShellIcons::FileInfo(std::string_view path, IconList list) {
   ++lookups_;
+  asked_[list].emplace_back(path);
+  if (action_) action_();
   if (path.empty() || path.find_first_of("<>|?*\"") != std::string_view::npos) return std::nullopt;
   if (!files_.Has(path)) return std::nullopt;
   const bool folder = !files_.Get(path).has_value();

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/ShellIcons.h"
 #include "sim/SimFiles.h"
@@ -30,7 +33,14 @@ class SimShellIcons final : public ShellIcons {
 
   [[nodiscard]] int Lookups() const noexcept { return lookups_; }
   [[nodiscard]] int Draws() const noexcept { return draws_; }
-  void ClearCounts() noexcept { lookups_ = draws_ = 0; }
+  void ClearCounts() noexcept {
+    lookups_ = draws_ = 0;
+    asked_.clear();
+  }
+  /// The paths that one of the lists was asked for, in order.
+  [[nodiscard]] const std::vector<std::string>& Asked(IconList list) { return asked_[list]; }
+  /// Runs at the beginning of each lookup.
+  void WhileAsked(std::function<void()> action) { action_ = std::move(action); }
 
   std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList list) override;
   int IconWidth(IconList list) override;
@@ -45,6 +55,8 @@ class SimShellIcons final : public ShellIcons {
   std::map<std::string, int> indexes_;
   std::map<std::string, std::string> typeNames_;
   std::map<std::string, int> iconCounts_;
+  std::map<IconList, std::vector<std::string>> asked_;
+  std::function<void()> action_;
   int nextIndex_ = 100;
   int large_ = 32;
   int lookups_ = 0;

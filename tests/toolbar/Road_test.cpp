@@ -74,6 +74,40 @@ TEST(StripAndMenu, APressHeldIntoTheMenuChoosesWhereItIsReleased) {
   }
 }
 
+TEST(StripAndMenu, APressHeldForLongChoosesNothingAndTheMenuStays) {
+  for (const int milliseconds : {4999, 5000}) {
+    SCOPED_TRACE(milliseconds);
+    RoadDesk desk;
+    desk.Press(3);
+    desk.PointAt(desk.Item(1));
+    desk.Wait(milliseconds);
+    desk.World.Desktop.Release();
+    const bool chosen = milliseconds < 5000;
+    EXPECT_EQ(desk.World.Shell.Started().size(), chosen ? 1U : 0U);
+    EXPECT_EQ(desk.RealMenuUp(), chosen ? 0 : 3);
+    if (chosen) continue;
+    // A click in the menu that stayed is a choice as ever.
+    desk.Wait(100);
+    desk.PointAt(desk.Item(2));
+    desk.World.Desktop.Click();
+    EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m2i2.exe"});
+  }
+}
+
+TEST(StripAndMenu, EachMenuThatOpensUnderAHeldButtonBeginsTheWaitAnew) {
+  RoadDesk desk;
+  desk.Press(2);
+  desk.Wait(4000);
+  desk.PointAtButton(3);
+  desk.Wait(10);
+  EXPECT_EQ(desk.RealMenuUp(), 3);
+  desk.PointAt(desk.Item(1));
+  desk.Wait(4000);
+  desk.PointAt(desk.Item(3));
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m2i3.exe"});
+}
+
 TEST(StripAndMenu, MovingAlongTheStripAndBackShowsEachMenuAtItsButton) {
   RoadDesk desk;
   desk.Click(2);

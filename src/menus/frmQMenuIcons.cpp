@@ -1,0 +1,54 @@
+// Icons fetched before a menu asks for them.
+
+#include <optional>
+
+#include "base/Text.h"
+#include "core/MenuFile.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "menus/IconWalk.h"
+#include "menus/frmQMenu.h"
+#include "platform/FileSystem.h"
+
+namespace corvelle {
+
+void frmQMenu::InitIcons() {
+  FileSystem& files = program_.Services.Files;
+  if (program_.MenuBuilding || program_.IconsLoading) return;
+  // No menu can be asked for while the strip is away.
+  std::optional<forms::FlagScope> loading;
+  if (!program_.ToolbarMinimized) loading.emplace(program_.IconsLoading);
+  const forms::HourglassScope hourglass(program_.Windows);
+  icons_.LoadSmallIcon(program_.AppPath + "corvelle.exe");
+  // A folder that cannot be listed has no icons to fetch.
+  const auto menus = files.List(program_.MenusPath, "*.mnu");
+  if (menus) {
+    for (const FileEntry& entry : *menus) LoadIconsOf(program_.MenusPath + entry.Name);
+  }
+  const auto links = files.List(program_.ShellLinkPath, "*.lnk");
+  if (links) {
+    for (const FileEntry& entry : *links) icons_.LoadSmallIcon(program_.ShellLinkPath + entry.Name);
+  }
+}
+
+void frmQMenu::LoadIconsOf(const std::string& menuFile) {
+  const IconTexts texts = IconTextsOf(program_, menuFile);
+  icons_.LoadSmallIcon(texts.Button);
+  icons_.FetchButtonIcon(texts.Button);
+  for (const std::string& text : texts.Items) icons_.LoadSmallIcon(text);
+}
+
+void frmQMenu::InitMenuIcons(std::string_view menuFile) {
+  const std::string file(menuFile);
+  if (EqualNoCase(file, program_.AppPath + std::string(kMainMenuFileName))) {
+    // Where it cannot be written the old one has the same icons.
+    static_cast<void>(
+        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.AppPath));
+  }
+  const forms::FlagScope loading(program_.IconsLoading);
+  LoadIconsOf(file);
+}
+
+void frmQMenu::ResetPicIcons() { icons_.ResetPicIcons(); }
+
+}  // namespace corvelle

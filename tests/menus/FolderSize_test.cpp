@@ -1,0 +1,124 @@
+// A folder of ten thousand files: what its menu asks of the disk and of the shell.
+
+#include "menus/FolderDesk.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kFiles = 10000;
+
+/// "a00000.txt", "b00001.txt"... : the letters change from one name to the next, sorted they stand
+/// together.
+std::string NameOf(int i) {
+  std::string number = std::to_string(100000 + i);
+  number[0] = static_cast<char>('a' + i % 5);
+  return number + ".txt";
+}
+
+class TenThousandFiles : public ::testing::Test {
+ protected:
+  TenThousandFiles() {
+    desk_.World.Files.MakeFolders("C:\\Many");
+    Strings names;
+    for (int i = 0; i < kFiles; ++i) names.push_back(NameOf(i));
+    desk_.World.Files.PutNew("C:\\Many", names);
+    std::sort(names.begin(), names.end());
+    sorted_ = std::move(names);
+  }
+  void ClearCounts() {
+    desk_.World.Files.ClearLog();
+    desk_.World.Icons.ClearCounts();
+  }
+  [[nodiscard]] int DiskCalls() const { return static_cast<int>(desk_.World.Files.Log().size()); }
+  [[nodiscard]] int ItemsOfPage() const { return desk_.Menu.LastLabel - desk_.Menu.FirstLabel + 1; }
+  /// True if the page on show has the files from its first item's place in the sorted list on.
+  [[nodiscard]] bool PageIsRight() const {
+    for (int i = desk_.Menu.FirstLabel; i <= desk_.Menu.LastLabel; ++i) {
+      const forms::Label& label = desk_.Menu.Lbl[i];
+      if (label.Caption() != sorted_[static_cast<std::size_t>(i) - 1] || !label.Visible())
+        return false;
+    }
+    return true;
+  }
+
+  FolderDesk desk_;
+  Strings sorted_;
+};
+
+TEST_F(TenThousandFiles, OpenByOneListingAndOneQuestionForEach) {
+  desk_.PutMenu(1, {Item("Many", "", "C:\\Many\\*.*")});
+  ClearCounts();
+  desk_.Reopen(1);
+  ASSERT_EQ(desk_.Menu.Labels, kFiles);
+  EXPECT_EQ(desk_.World.Files.Count("List"), 1);
+  EXPECT_EQ(desk_.World.Files.Count("Write"), 1);
+  // The menu file, and once more what was made of it.
+  EXPECT_LE(DiskCalls(), 8);
+  EXPECT_EQ(static_cast<int>(desk_.World.Icons.Asked(IconList::Large).size()), kFiles);
+  // Small icons only of the page on show.
+  EXPECT_EQ(static_cast<int>(desk_.World.Icons.Asked(IconList::Small).size()), ItemsOfPage());
+  EXPECT_TRUE(PageIsRight());
+}
+
+TEST_F(TenThousandFiles, OpenAgainWithoutAQuestionUnlessTheyAreToBeCompared) {
+  desk_.OpenCommands({"C:\\Many\\*.*"}, 1);
+  desk_.OpenCommands({"C:\\Many\\*.*/u"}, 2);
+  ClearCounts();
+  desk_.OpenAgain(1);
+  EXPECT_EQ(DiskCalls(), 0);
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 0);
+  desk_.OpenAgain(2);
+  EXPECT_EQ(DiskCalls(), 1);
+  EXPECT_EQ(desk_.World.Files.Count("List"), 1);
+  EXPECT_EQ(desk_.World.Icons.Lookups(), 0);
+  EXPECT_EQ(desk_.Menu.Labels, kFiles);
+  EXPECT_TRUE(PageIsRight());
+}
+
+TEST_F(TenThousandFiles, TurnTheirPagesAndAreFoundByTheirLetters) {
+  desk_.OpenCommands({"C:\\Many\\*.*"});
+  sim::SimDesktop& desktop = desk_.World.Desktop;
+  ClearCounts();
+  const int last = desk_.Menu.Slides;
+  EXPECT_EQ(last, (kFiles + ItemsOfPage() - 1) / ItemsOfPage() - 1);
+  for (int page = 1; page <= 3; ++page) {
+    desktop.PressKey(forms::key::PageDown);
+    EXPECT_EQ(desk_.Menu.CurMenu, page);
+    EXPECT_TRUE(PageIsRight()) << page;
+  }
+  desktop.PressKey(forms::key::End);
+  EXPECT_EQ(desk_.Menu.LastLabel, kFiles);
+  EXPECT_TRUE(PageIsRight());
+  desktop.PressKey(forms::key::Home);
+  EXPECT_EQ(desk_.Menu.FirstLabel, 1);
+  EXPECT_TRUE(PageIsRight());
+  // Each letter has two thousand names; the first key goes to the first of them, the next one on.
+  int wanted = 2 * kFiles / 5 + 1;
+  for (const char letter : {'c', 'c'}) {
+    desktop.Type(std::string(1, letter));
+    EXPECT_EQ(desk_.TheProgram.SelectedItem, wanted++);
+    EXPECT_EQ(desk_.Menu.Lbl[desk_.TheProgram.SelectedItem].Caption()[0], letter);
+    EXPECT_TRUE(PageIsRight());
+  }
+  // Past the last letter the search begins again.
+  desktop.PressKey(forms::key::End);
+  desktop.Type("a");
+  EXPECT_EQ(desk_.TheProgram.SelectedItem, 1);
+  // No page asked the disk for anything, and each asked for the icons of its own items.
+  EXPECT_EQ(DiskCalls(), 0);
+  EXPECT_LE(desk_.World.Icons.Lookups(), 8 * ItemsOfPage());
+}
+
+TEST_F(TenThousandFiles, OneThatIsNewIsFoundByOneMoreListing) {
+  desk_.OpenCommands({"C:\\Many\\*.*/u"});
+  desk_.World.Files.Put("C:\\Many\\new.txt", "x");
+  ClearCounts();
+  desk_.OpenAgain();
+  EXPECT_EQ(desk_.Menu.Labels, kFiles + 1);
+  EXPECT_EQ(desk_.World.Files.Count("List"), 1);
+  EXPECT_EQ(static_cast<int>(desk_.World.Icons.Asked(IconList::Large).size()), kFiles + 1);
+  EXPECT_LE(DiskCalls(), 8);
+}
+
+}  // namespace
+}  // namespace corvelle

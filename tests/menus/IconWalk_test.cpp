@@ -1,0 +1,230 @@
+// Icons that are fetched before a menu asks for them.
+
+#include "menus/IconWalk.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+#include "menus/FolderDesk.h"
+
+namespace corvelle {
+namespace {
+
+using sim::SimShellIcons;
+
+const std::string kNul(1, '\0');
+
+/// A desk with folder items whose small icons are counted.
+class Fetched : public ::testing::Test {
+ protected:
+  void Fetch() {
+    desk_.World.Icons.ClearCounts();
+    desk_.World.Files.ClearLog();
+    desk_.Menu.InitIcons();
+  }
+  const Strings& Small() { return desk_.World.Icons.Asked(IconList::Small); }
+  Strings Large() { return desk_.World.Icons.Asked(IconList::Large); }
+  /// How often the shell was asked for the small icon of a path, case apart.
+  int Times(const std::string& path) {
+    return static_cast<int>(std::count_if(Small().begin(), Small().end(), [&](const auto& asked) {
+      return EqualNoCase(asked, path);
+    }));
+  }
+  /// How often a folder was listed.
+  int Listed(const std::string& folder) {
+    const auto& log = desk_.World.Files.Log();
+    return static_cast<int>(std::count_if(log.begin(), log.end(), [&](const auto& call) {
+      return call.Operation == "List" && call.Path == folder;
+    }));
+  }
+
+  FolderDesk desk_;
+};
+
+TEST_F(Fetched, TheIconsOfAFolderItemsFilesComeWithThoseOfTheRecords) {
+  desk_.PutMenu(1, {Item("a", "C:\\Tools\\tool.exe"), Item("Docs", "", "C:\\Docs\\*.*"),
+                    Item("b", "C:\\Docs\\gamma.doc")});
+  Fetch();
+  EXPECT_EQ(Small(), (Strings{"C:\\Corvelle\\corvelle.exe", "Button",
+                              "C:\\Corvelle\\Icons\\W95MBX02.ICO", "C:\\Tools\\tool.exe",
+                              "C:\\Docs\\Alpha.txt", "C:\\Docs\\beta.txt", "C:\\Docs\\gamma.doc"}));
+  EXPECT_EQ(Listed("C:\\Docs\\"), 1);
+  EXPECT_EQ(desk_.World.Files.Count("Write"), 0);
+}
+
+TEST_F(Fetched, TheMenuThenAsksForNoneOfThemAndShowsThem) {
+  desk_.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*")});
+  Fetch();
+  desk_.World.Icons.ClearCounts();
+  desk_.Reopen(1);
+  EXPECT_EQ(Small(), Strings{});
+  const PixelPoint cell = desk_.IconCell(3);
+  EXPECT_EQ(desk_.PixelInside(cell.x + 8, cell.y + 8), SimShellIcons::ColourOf(6));
+}
+
+TEST_F(Fetched, NoneIsAskedForTwiceOverMenusFoldersAndWalks) {
+  desk_.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*"), Item("Texts", "", "C:\\Docs\\*.txt")});
+  desk_.PutMenu(2, {Item("Docs", "", "c:\\docs\\*.*/s")});
+  Fetch();
+  EXPECT_EQ(Times("C:\\Docs\\Alpha.txt"), 1);
+  Fetch();
+  EXPECT_EQ(Small(), Strings{});
+  desk_.World.Files.Put("C:\\Docs\\new.txt", "x");
+  Fetch();
+  EXPECT_EQ(Small().size(), 1U);
+  EXPECT_EQ(Times("C:\\Docs\\new.txt"), 1);
+  desk_.Menu.ResetPicIcons();
+  Fetch();
+  EXPECT_EQ(Times("C:\\Docs\\Alpha.txt"), 1);
+}
+
+TEST_F(Fetched, TheFoldersBelowAreListedWhereTheItemShowsThem) {
+  desk_.World.Files.Put("C:\\Docs\\inner\\deep.txt", "x");
+  desk_.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*")});
+  Fetch();
+  EXPECT_EQ(Times("C:\\Docs\\inner\\deep.txt"), 0);
+  desk_.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*/S")});
+  Fetch();
+  EXPECT_EQ(Times("C:\\Docs\\inner\\deep.txt"), 1);
+}
+
+TEST_F(Fetched, OfAFolderThatShowsNoFilesNoneIsAskedFor) {
+  const Strings commands = {"C:\\Docs\\*.*/x", "CSIDL_DESKTOP", "C:\\Docs\\", "C:\\Gone\\*.*",
+                            "*.txt"};
+  for (const std::string& command : commands) {
+    desk_.PutMenu(1, {Item("Docs", "", command)});
+    Fetch();
+    EXPECT_EQ(Times("C:\\Docs\\Alpha.txt"), 0) << command;
+    EXPECT_EQ(Listed("C:\\Docs\\"), 0) << command;
+  }
+  EXPECT_EQ(desk_.World.Folders.Listings(), 0);
+}
+
+TEST_F(Fetched, TheHeaderHasAnIconButIsNoFolder) {
+  desk_.World.Files.Put(
+      "C:\\Corvelle\\Menus\\BMENU001.MNU",
+      FormatRecord(Item("B", "C:\\Tools\\tool.exe", "C:\\Docs\\*.*"), desk_.World.Ansi));
+  Fetch();
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 1);
+  EXPECT_EQ(Listed("C:\\Docs\\"), 0);
+}
+
+TEST_F(Fetched, AFolderThatCannotBeListedHoldsTheOthersUpByNothing) {
+  desk_.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*"), Item("b", "C:\\Tools\\tool.exe")});
+  desk_.World.Files.ClearLog();
+  desk_.World.Icons.ClearCounts();
+  // The list of menus, its length and its bytes come first.
+  for (int call = 1; call <= 5; ++call) {
+    desk_.Menu.ResetPicIcons();
+    desk_.World.Icons.ClearCounts();
+    desk_.World.Files.FailCall(call, FileError::AccessDenied);
+    desk_.Menu.InitIcons();
+    desk_.World.Files.StopFailing();
+    EXPECT_FALSE(desk_.TheProgram.IconsLoading) << call;
+  }
+  desk_.World.Files.Vanish("C:\\Docs");
+  desk_.Menu.ResetPicIcons();
+  Fetch();
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 1);
+}
+
+TEST_F(Fetched, AnIconMarkedBehindItsNulIsSkippedAndAnotherIsCutThere) {
+  for (const char* mark : {"/h", " /H", "/hidden"}) {
+    EXPECT_TRUE(IsSkippedIcon("C:\\Tools\\tool.exe" + kNul + mark)) << mark;
+  }
+  for (const std::string& icon : {std::string("C:\\Tools/h"), kNul + "x/h", std::string()}) {
+    EXPECT_FALSE(IsSkippedIcon(icon)) << icon;
+  }
+  desk_.World.Files.Put("C:\\Tools\\other.exe", "x");
+  desk_.PutMenu(1, {Item("a", "C:\\Tools\\tool.exe" + kNul + "/h"),
+                    Item("b", "C:\\Tools\\other.exe" + kNul + "rest")});
+  Fetch();
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 0);
+  EXPECT_EQ(Times("C:\\Tools\\other.exe"), 1);
+}
+
+TEST_F(Fetched, LargeOnesAreThoseOfTheButtonsAndEachIsAskedForOnce) {
+  const auto put = [&](int number, const std::string& icon) {
+    desk_.World.Files.Put("C:\\Corvelle\\Menus\\" + MenuFileName(number),
+                          FormatRecord(Item("B", icon), desk_.World.Ansi) +
+                              FormatRecord(Item("Docs", "", "C:\\Docs\\*.*"), desk_.World.Ansi));
+  };
+  put(1, "C:\\Tools\\tool.exe");
+  put(2, "c:\\tools\\TOOL.exe");
+  put(3, "Button");
+  desk_.TheProgram.IconSize = 16;
+  Fetch();
+  EXPECT_EQ(Large(), Strings{});
+  desk_.TheProgram.IconSize = 32;
+  Fetch();
+  ASSERT_EQ(Large().size(), 1U);
+  EXPECT_TRUE(EqualNoCase(Large()[0], "C:\\Tools\\tool.exe"));
+  Fetch();
+  EXPECT_EQ(Large(), Strings{});
+}
+
+TEST_F(Fetched, NoMenuComesUpMeanwhileUnlessTheStripIsAway) {
+  desk_.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*")});
+  for (const bool away : {false, true}) {
+    desk_.TheProgram.ToolbarMinimized = away;
+    desk_.Menu.ResetPicIcons();
+    int asked = 0;
+    desk_.World.Icons.WhileAsked([&] {
+      ++asked;
+      EXPECT_EQ(desk_.TheProgram.IconsLoading, !away);
+      EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Hourglass);
+    });
+    Fetch();
+    EXPECT_GT(asked, 3);
+    EXPECT_FALSE(desk_.TheProgram.IconsLoading);
+    EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
+    desk_.World.Icons.WhileAsked({});
+  }
+}
+
+TEST_F(Fetched, F5FetchesTheIconsOfTheOpenMenuOnly) {
+  desk_.PutMenu(2, {Item("Other", "C:\\Tools\\tool.exe")});
+  desk_.OpenCommands({"C:\\Docs\\*.txt"});
+  desk_.World.Icons.ClearCounts();
+  desk_.Menu.RefreshQMenu();
+  EXPECT_EQ(Times("C:\\Docs\\Alpha.txt"), 1);
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 0);
+  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
+}
+
+TEST_F(Fetched, TheProgramsOwnMenuIsWrittenAnewBeforeItsIconsAre) {
+  const std::string file = "C:\\Corvelle\\mainmenu.dat";
+  for (const std::string& name : {file, std::string("c:\\corvelle\\MAINMENU.DAT")}) {
+    desk_.World.Files.Put(file, "old");
+    desk_.Menu.InitMenuIcons(name);
+    EXPECT_EQ(desk_.World.Files.Get(file).value_or("").size(), 16 * kRecordLength) << name;
+  }
+  desk_.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", "old");
+  desk_.Menu.InitMenuIcons("C:\\Corvelle\\Menus\\BMENU001.MNU");
+  EXPECT_EQ(desk_.World.Files.Get("C:\\Corvelle\\Menus\\BMENU001.MNU"), "old");
+}
+
+TEST_F(Fetched, AllIconsOfMenusAndLinksAreThereBeforehand) {
+  for (const char* name : {"C:\\a.txt", "C:\\b.doc"}) desk_.World.Files.Put(name, "x");
+  desk_.World.Files.Put("C:\\Corvelle\\ShellLink\\a.lnk", "x");
+  desk_.PutMenu(1, {Item("A", "C:\\a.txt"), Item("B", "C:\\Tools\\tool.exe")});
+  desk_.PutMenu(2, {Item("C", "C:\\b.doc")});
+  Fetch();
+  EXPECT_EQ(Times("C:\\Corvelle\\ShellLink\\a.lnk"), 1);
+  const int lookups = desk_.World.Icons.Lookups();
+  desk_.Reopen(1);
+  desk_.Menu.HideMenu();
+  desk_.Reopen(2);
+  EXPECT_EQ(desk_.World.Icons.Lookups(), lookups);
+  const PixelPoint cell = desk_.IconCell(1);
+  EXPECT_EQ(desk_.PixelInside(cell.x + 8, cell.y + 8), SimShellIcons::ColourOf(6));
+}
+
+TEST_F(Fetched, WithoutFoldersNoHarmIsDone) {
+  desk_.World.Files.Vanish("C:\\Corvelle\\Menus");
+  Fetch();
+  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
+}
+
+}  // namespace
+}  // namespace corvelle
