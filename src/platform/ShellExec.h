@@ -21,7 +21,7 @@ class ShellExec {
 
   /// Opens a file, program or address as a double click would, for the desktop window and with a
   /// normal window. `parameters` and `folder` may be absent. False when the system's answer is a
-  /// failure (below 33). Shows no message of its own.
+  /// failure (below 33), and for no text. Shows no message of its own.
   virtual bool Open(std::string_view file, std::optional<std::string_view> parameters,
                     std::optional<std::string_view> folder) = 0;
 

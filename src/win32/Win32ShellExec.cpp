@@ -40,6 +40,8 @@ RunError RunErrorOf(DWORD error) {
 
 bool Win32ShellExec::Open(std::string_view file, std::optional<std::string_view> parameters,
                           std::optional<std::string_view> folder) {
+  // For the system no name is the current folder.
+  if (Trim(file).empty()) return false;
   const std::wstring wideFile = Wide(file);
   const std::optional<std::wstring> wideParameters = WideIfAny(parameters);
   const std::optional<std::wstring> wideFolder = WideIfAny(folder);

@@ -108,6 +108,18 @@ TEST_F(InitBrowserTest, HalfAChoiceIsNone) {
   EXPECT_EQ(browser.BrowserApplication, "IExplore");
 }
 
+TEST_F(InitBrowserTest, ANameWithoutAProgramIsTriedAndTheShellGetsTheAddressNoServerTakes) {
+  world.Files.Put(kIniFile, "Application=Whatever\r\n");
+  browser.InitBrowser();
+  EXPECT_EQ(browser.BrowserCommand, "");
+  EXPECT_EQ(browser.BrowserApplication, "whatever");
+  EXPECT_TRUE(browser.BrowserUseDde);
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Dde.Tries(), 1);
+  EXPECT_EQ(world.Shell.Log(), (std::vector<Launch>{Opened("", kUrl, {}, false), Opened(kUrl)}));
+  EXPECT_FALSE(browser.BrowserUseDde);
+}
+
 TEST_F(InitBrowserTest, TheServiceNameComesFromTheRegistry) {
   struct Row {
     const char* name;

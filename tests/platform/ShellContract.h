@@ -81,6 +81,11 @@ TEST_P(ShellContract, CannotOpenWhatIsNotThere) {
   EXPECT_FALSE(shell_->Exec().Open(Missing(), std::nullopt, std::nullopt));
 }
 
+TEST_P(ShellContract, NoTextOpensNothing) {
+  EXPECT_FALSE(shell_->Exec().Open("", std::nullopt, std::nullopt));
+  EXPECT_FALSE(shell_->Exec().Open("  ", "x", shell_->Folder()));
+}
+
 TEST_P(ShellContract, CannotOpenADocumentThatNoProgramIsAssociatedWith) {
   EXPECT_FALSE(shell_->Exec().Open(shell_->UnknownDocument(), std::nullopt, std::nullopt));
 }
