@@ -22,6 +22,7 @@ class ModeRoad : public ::testing::Test {
   /// Chooses in the program's own menu and takes the pointer away.
   void Choose(MainChoice choice) {
     ASSERT_TRUE(ChooseInMainMenu(*desk_, choice));
+    ASSERT_TRUE(WaitForNoMenu(*desk_));
     desk_->MovePointer(FarAway(*desk_));
   }
   [[nodiscard]] PixelRect Strip() const { return desk_->BoundsOf("frmToolbar"); }
