@@ -111,8 +111,9 @@ Opening OpenAndWatch(WineDesk& desk, int button) {
     }
     const Look look(menu);
     const double now = Milliseconds() - pressed;
-    // The first label stands 6 pixels below the border, and 13 are left below the last.
-    const int line = (look.Height() - 6 - 19 - (kRows - 1) * gap) / kRows;
+    // The first label stands 6 pixels below the border; 13 are left below the last with the
+    // borders.
+    const int line = (look.Height() - 19 - (kRows - 1) * gap) / kRows;
     if (!look.IsRead() || line < 8) continue;
     const auto middle = [&](int row) { return 3 + 6 + row * (line + gap) + line / 2; };
     const bool captions = look.Colours(middle(kRows - 1), 29, 70) > 1;

@@ -171,6 +171,19 @@ TEST(FolderUpdates, AListFromAComparisonServesItsOwnMenuOnly) {
   EXPECT_EQ(desk.Captions(), (Strings{"Alpha.txt", "gamma.doc", "new.txt", "newer.txt"}));
 }
 
+TEST(FolderUpdates, AListOfAnEarlierComparisonIsNotBuiltFrom) {
+  FolderDesk desk;
+  desk.OpenCommands({"C:\\Docs\\*.*/u"});
+  desk.World.Files.Put("C:\\Docs\\new.txt", "x");
+  EXPECT_TRUE(desk.Items.UpdateMenu("F2"));
+  desk.World.Files.Vanish("C:\\Docs\\new.txt");
+  EXPECT_FALSE(desk.Items.UpdateMenu("F2"));
+  desk.Menu.HideMenu();
+  desk.Menu.ForgetMenu("F2");
+  desk.Reopen(1);
+  EXPECT_EQ(desk.Captions(), (Strings{"Alpha.txt", "beta.txt", "gamma.doc"}));
+}
+
 TEST(FolderUpdates, AFolderOfTheShellThatChangedIsListedOnceForOneOpening) {
   FolderDesk desk;
   desk.World.Folders.Put(17, {{"C:", 8}});
