@@ -32,7 +32,8 @@ class ShellIcons {
   /// Width of the icons of a list; 0 when the system does not tell.
   [[nodiscard]] virtual int IconWidth(IconList list) = 0;
 
-  /// Draws an icon of a list, transparent. False when there is no such icon.
+  /// Draws an icon of a list, transparent: a small one 16 pixels wide whatever the scale, a large
+  /// one in the width of its list. False when there is no such icon.
   virtual bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                               IconStyle style) = 0;
 

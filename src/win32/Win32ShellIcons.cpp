@@ -14,6 +14,8 @@ namespace {
 constexpr UINT kFileInfoFlags =
     SHGFI_SYSICONINDEX | SHGFI_DISPLAYNAME | SHGFI_TYPENAME | SHGFI_SHELLICONSIZE;
 
+constexpr int kSmallSize = 16;  // pixels
+
 /// More than any file holds: what the system answers when it cannot read the file.
 constexpr UINT kMostIcons = 0x7FFFFFFF;
 
@@ -64,6 +66,12 @@ bool Win32ShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, P
   const CanvasDc dc(target);
   if (!dc) return false;
   const UINT blend = style == IconStyle::Blend25 ? ILD_BLEND25 : 0U;
+  if (list == IconList::Small && IconWidth(list) != kSmallSize) {
+    // At a higher scale the system's small icons are larger than the places for them.
+    const UniqueIcon icon(ImageList_GetIcon(icons, index, ILD_TRANSPARENT | blend));
+    return icon && DrawIconEx(dc.Get(), at.x + target.Origin().x, at.y + target.Origin().y,
+                              icon.Get(), kSmallSize, kSmallSize, 0, nullptr, DI_NORMAL) != 0;
+  }
   return ImageList_Draw(icons, index, dc.Get(), at.x + target.Origin().x, at.y + target.Origin().y,
                         ILD_TRANSPARENT | blend) != 0;
 }
