@@ -118,6 +118,26 @@ TEST(Strip, ShowsTheIconsOfItsButtonsAndOfTheMenu) {
   desk.Picture("icons");
 }
 
+TEST(StripAtEachScale, SmallIconsFitIntoTheirButtons) {
+  WineDesk desk;
+  desk.WriteFile(kFlagsFile, InstalledFlags({26}));
+  WriteMenu(desk, 1, "One", {{.FTitle = "Program", .FIcon = "", .FName = desk.WitnessProgram()}});
+  desk.MovePointer(scenario::FarAway(desk));
+  ASSERT_TRUE(StartAndWait(desk));
+  desk.Picture("small-icons");
+  const int height = desk.BoundsOf("picToolbar").Height();
+  ASSERT_EQ(height, 22);
+  for (int button = 0; button < 2; ++button) {
+    SCOPED_TRACE(button + 1);
+    const int left = button * (height + 2);
+    EXPECT_GT(desk.ColoursIn("picToolbar", {left + 4, 6, left + 19, 19}), 4);
+    // The icon ends before the button does, on the right and below. The upper rows are above the
+    // screen.
+    EXPECT_EQ(desk.ColoursIn("picToolbar", {left + 20, 6, left + 22, 21}), 1);
+    EXPECT_EQ(desk.ColoursIn("picToolbar", {left + 2, 21, left + 22, 22}), 1);
+  }
+}
+
 TEST(Strip, GivesWayToAFullScreenProgramAndComesBackOnTop) {
   WineDesk desk;
   desk.WriteFile(kFlagsFile, InstalledFlags());
