@@ -30,14 +30,10 @@ std::optional<EditOutcome> Obstacle(FileSystem& files, std::string_view path, st
   // To ask a missing file for its records would create it.
   if (!files.FileExists(path)) return EditOutcome::NothingToDo;
   const FileResult<int> count = CountRecords(files, path);
-  if (!count) return EditOutcome::Failed;
+  if (!count) return EditOutcome::Refused(count.Error());
   const auto room = static_cast<std::size_t>(kMaxRecords - *count);
   if (*count < 1 || more > room) return EditOutcome::NothingToDo;
   return std::nullopt;
-}
-
-EditOutcome OutcomeOf(const FileStatus& status) {
-  return status ? EditOutcome::Edited : EditOutcome::Failed;
 }
 
 }  // namespace
@@ -75,7 +71,7 @@ std::string StoredMenuFile(std::string_view menuFile) {
 EditOutcome AppendDropped(FileSystem& files, const CodePage& ansi, std::string_view path,
                           const std::vector<MenuRecord>& records) {
   if (const auto obstacle = Obstacle(files, path, records.size())) return *obstacle;
-  return OutcomeOf(AppendRecords(files, ansi, path, records));
+  return EditOutcome::Of(AppendRecords(files, ansi, path, records));
 }
 
 EditOutcome InsertDropped(FileSystem& files, const CodePage& ansi, std::string_view path,
@@ -85,9 +81,9 @@ EditOutcome InsertDropped(FileSystem& files, const CodePage& ansi, std::string_v
   added.reserve(records.size() * kRecordLength);
   for (const MenuRecord& record : records) added += FormatRecord(record, ansi);
   const int before = position < 1 ? kMaxRecords : std::max(RealRecord(position), kFirstItem);
-  return OutcomeOf(RewriteMenuFileBy(files, TemporaryBeside(path), path, [&](std::string bytes) {
-    return InsertOrAppendRecord(std::move(bytes), before, added);
-  }));
+  return EditOutcome::Of(RewriteMenuFileBy(
+      files, TemporaryBeside(path), path,
+      [&](std::string bytes) { return InsertOrAppendRecord(std::move(bytes), before, added); }));
 }
 
 }  // namespace corvelle
