@@ -11,6 +11,10 @@ target_compile_options(corvelle_options INTERFACE -Wno-missing-field-initializer
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(corvelle_options INTERFACE -Wno-restrict)
 endif()
+if(CMAKE_UNITY_BUILD)
+  # Several files compiled as one: what is local to each of them is then part of an included file.
+  target_compile_options(corvelle_options INTERFACE -Wno-subobject-linkage)
+endif()
 if(CORVELLE_SANITIZE)
   target_compile_options(corvelle_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -16,7 +16,7 @@ function(corvelle_windows_tests folder program)
 endfunction()
 
 set(windows_libraries gdi32 user32 shell32 comctl32 ole32 advapi32 uuid)
-corvelle_windows_tests(windows windows_contract_tests LINKS corvelle_win32 corvelle_icons corvelle_launch corvelle_core
+corvelle_windows_tests(e2e/contract windows_contract_tests LINKS corvelle_win32 corvelle_icons corvelle_launch corvelle_core
   ${windows_libraries})
 
 # The roads of tests/scenario, walked with a hand at the mouse of a real desktop.

@@ -34,7 +34,7 @@ FLOORS = {
     "win32": ["base", "platform", "forms"],
 }
 MAIN = sorted(FLOORS)
-WINDOWS_PLACES = ("src/win32/", "tests/e2e/", "tests/windows/")
+WINDOWS_PLACES = ("src/win32/", "tests/e2e/")
 WINDOWS_HEADERS = {"windows.h", "windowsx.h", "winuser.h", "wingdi.h", "winbase.h", "windef.h", "winreg.h",
                    "commctrl.h", "commoncontrols.h", "shellapi.h", "shlobj.h", "shlwapi.h", "shobjidl.h",
                    "shlguid.h", "objbase.h", "ole2.h", "oleidl.h", "ddeml.h", "dde.h", "commdlg.h",

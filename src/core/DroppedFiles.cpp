@@ -71,7 +71,7 @@ std::string StoredMenuFile(std::string_view menuFile) {
 EditOutcome AppendDropped(FileSystem& files, const CodePage& ansi, std::string_view path,
                           const std::vector<MenuRecord>& records) {
   if (const auto obstacle = Obstacle(files, path, records.size())) return *obstacle;
-  return EditOutcome::Of(AppendRecords(files, ansi, path, records));
+  return OutcomeOf(AppendRecords(files, ansi, path, records));
 }
 
 EditOutcome InsertDropped(FileSystem& files, const CodePage& ansi, std::string_view path,
@@ -81,9 +81,9 @@ EditOutcome InsertDropped(FileSystem& files, const CodePage& ansi, std::string_v
   added.reserve(records.size() * kRecordLength);
   for (const MenuRecord& record : records) added += FormatRecord(record, ansi);
   const int before = position < 1 ? kMaxRecords : std::max(RealRecord(position), kFirstItem);
-  return EditOutcome::Of(RewriteMenuFileBy(
-      files, TemporaryBeside(path), path,
-      [&](std::string bytes) { return InsertOrAppendRecord(std::move(bytes), before, added); }));
+  return OutcomeOf(RewriteMenuFileBy(files, TemporaryBeside(path), path, [&](std::string bytes) {
+    return InsertOrAppendRecord(std::move(bytes), before, added);
+  }));
 }
 
 }  // namespace corvelle

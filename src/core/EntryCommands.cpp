@@ -29,7 +29,7 @@ EditOutcome EditSingles(Program& program, const Edit& edit) {
   const FileStatus edited = edit(*program.Ports.SingleButtons);
   if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->DoSingleButtons();
   ResizeStrip(program, freeWidth);
-  return EditOutcome::Of(edited);
+  return OutcomeOf(edited);
 }
 
 EditOutcome DeleteButton(Program& program) {

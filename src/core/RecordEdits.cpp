@@ -56,16 +56,20 @@ EditOutcome ChangeCommand(FileSystem& files, const CodePage& ansi, const EntryEd
   FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, number);
   if (!record) return EditOutcome::Refused(record.Error());
   record->FName = change(record->FName);
-  return EditOutcome::Of(WriteRecord(files, ansi, edit.CurFile, number, *record));
+  return OutcomeOf(WriteRecord(files, ansi, edit.CurFile, number, *record));
 }
 
 }  // namespace
+
+EditOutcome OutcomeOf(const FileStatus& status) noexcept {
+  return status ? EditOutcome::Edited : EditOutcome::Refused(status.Error());
+}
 
 bool IsButtonTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "B"); }
 
 bool IsMenuTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "F"); }
 
-bool IsSinglesTag(std::string_view tag) noexcept { return EqualNoCase(tag, "SingleButtons"); }
+bool IsSinglesTag(std::string_view tag) noexcept { return EqualNoCase(tag, kSinglesTag); }
 
 EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                             const EntryEdit& edit) {
@@ -75,13 +79,13 @@ EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string
   }
   const EditOutcome still = FindCurrentEntry(files, ansi, edit);
   if (still != EditOutcome::Edited) return still;
-  return EditOutcome::Of(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
+  return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
     return WithoutRecord(std::move(records), edit.CurRecord);
   }));
 }
 
 EditOutcome DeleteButtonFile(FileSystem& files, const EntryEdit& edit) {
-  return EditOutcome::Of(files.Remove(edit.CurFile));
+  return OutcomeOf(files.Remove(edit.CurFile));
 }
 
 EditOutcome PasteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
@@ -91,7 +95,7 @@ EditOutcome PasteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_
   const int place = RealRecord(edit.CurRecord);
   if (place < 1 || place > RecordCount(*length)) return EditOutcome::NothingToDo;
   const std::string record = FormatRecord(ClipboardRecord(edit), ansi);
-  return EditOutcome::Of(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
+  return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
     return InsertRecord(std::move(records), place, record);
   }));
 }
@@ -101,7 +105,7 @@ EditOutcome UndoDeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::st
   // A generated entry was never deleted, so there is nothing to bring back.
   if (edit.UndoRecord < 1 || IsGenerated(edit.UndoRecord)) return EditOutcome::NothingToDo;
   const std::string record = FormatRecord(UndoStoreRecord(edit), ansi);
-  return EditOutcome::Of(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
+  return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
     return InsertOrAppendRecord(std::move(records), edit.UndoRecord, record);
   }));
 }
@@ -121,7 +125,7 @@ EditOutcome MoveMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
   if (*before == kNoPlace) return EditOutcome::NothingToDo;
   const EditOutcome still = FindCurrentEntry(files, ansi, edit);
   if (still != EditOutcome::Edited) return still;
-  return EditOutcome::Of(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
+  return OutcomeOf(RewriteMenuFile(files, menusPath, edit.CurFile, [&](std::string records) {
     return MoveRecord(std::move(records), edit.CurRecord, *before);
   }));
 }
@@ -132,7 +136,7 @@ EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
   if (!before) return EditOutcome::Refused(before.Error());
   if (*before == kNoPlace) return EditOutcome::NothingToDo;
   const std::string record = FormatRecord({edit.CurTitle, edit.CurIcon, edit.CurCommand}, ansi);
-  return EditOutcome::Of(RewriteMenuFile(files, menusPath, place.File, [&](std::string records) {
+  return OutcomeOf(RewriteMenuFile(files, menusPath, place.File, [&](std::string records) {
     return InsertOrAppendRecord(std::move(records), *before, record);
   }));
 }

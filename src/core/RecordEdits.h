@@ -49,10 +49,6 @@ class EditOutcome {
   [[nodiscard]] static constexpr EditOutcome Refused(FileError reason) noexcept {
     return {Kind::Failed, reason};
   }
-  /// Edited, or that the disk refused.
-  [[nodiscard]] static EditOutcome Of(const FileStatus& status) noexcept {
-    return status ? Edited : Refused(status.Error());
-  }
 
   /// What the disk answered; of one that did not fail it says nothing.
   [[nodiscard]] constexpr FileError Reason() const noexcept { return reason_; }
@@ -76,10 +72,14 @@ inline constexpr EditOutcome EditOutcome::NothingToDo{Kind::NothingToDo, FileErr
 inline constexpr EditOutcome EditOutcome::RecordMismatch{Kind::RecordMismatch, FileError::Failed};
 inline constexpr EditOutcome EditOutcome::Failed{Kind::Failed, FileError::Failed};
 
+/// What a step on the disk came to.
+[[nodiscard]] EditOutcome OutcomeOf(const FileStatus& status) noexcept;
+
 /// What the popup's texts call a tag.
-[[nodiscard]] bool IsButtonTag(std::string_view tag) noexcept;   // "B" and an index
-[[nodiscard]] bool IsMenuTag(std::string_view tag) noexcept;     // "F" and an index
-[[nodiscard]] bool IsSinglesTag(std::string_view tag) noexcept;  // "SingleButtons"
+[[nodiscard]] bool IsButtonTag(std::string_view tag) noexcept;  // "B" and an index
+[[nodiscard]] bool IsMenuTag(std::string_view tag) noexcept;    // "F" and an index
+inline constexpr std::string_view kSinglesTag = "SingleButtons";
+[[nodiscard]] bool IsSinglesTag(std::string_view tag) noexcept;
 
 /// Takes record CurRecord out of CurFile if it still is the current entry. Only for an entry of a
 /// menu; a generated one never leaves, silently so during a drag.

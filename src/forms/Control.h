@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Geometry.h"
+#include "base/Twips.h"
 #include "forms/Types.h"
 
 namespace corvelle::forms {
@@ -30,6 +31,7 @@ class Control {
   float Height() const noexcept { return height_; }
   float Right() const noexcept { return left_ + width_; }
   float Bottom() const noexcept { return top_ + height_; }
+  TwipRect Bounds() const noexcept { return {left_, top_, width_, height_}; }
 
   void SetVisible(bool visible);
   void SetEnabled(bool enabled);

@@ -19,7 +19,7 @@ constexpr std::string_view kQuestion =
     "Not doing so may lead to undesirable result. "
     "\r\n\r\n"
     "Continue ?";
-constexpr std::string_view kFailureText =
+constexpr std::string_view kNothingDeletedText =
     "An error occured while trying to delete files the Temp Folder. No file has been deleted.";
 constexpr std::string_view kReportText =
     " Files have been deleted. Files in-use and non-temporary files have been skipped.";
@@ -96,13 +96,13 @@ void ClearTempFolder(Program& program) {
   if (Say(program, kQuestion, msgbox::YesNo) != msgbox::AnswerYes) return;
   const auto path = program.Services.FileOps.TempPath();
   if (!path) {
-    Say(program, kFailureText, msgbox::IconStop);
+    Say(program, kNothingDeletedText, msgbox::IconStop);
     return;
   }
   const std::string folder = EnsureBackslash(*path);
   const auto entries = program.Services.Files.List(folder, "*.*");
   if (!entries) {
-    Say(program, kFailureText, msgbox::IconStop);
+    Say(program, kNothingDeletedText, msgbox::IconStop);
     return;
   }
   const int deleted = DeleteTemporary(program, folder, *entries);

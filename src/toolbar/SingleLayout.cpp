@@ -8,7 +8,7 @@ namespace corvelle {
 namespace {
 
 constexpr float kTemplateSize = 3;   // pixels
-constexpr float kGap = 2;            // between two entries
+constexpr float kBetween = 2;        // between two entries
 constexpr float kSeparatorSize = 6;  // of a separator, along the row
 constexpr float kLineInSeparator = 2;
 constexpr float kEnd = 6;         // behind the last entry
@@ -50,10 +50,10 @@ TwipRect PlaceInTwoRows(const SingleScene& s, const SingleRect& previous) noexce
   const bool first = previous.Kind != SingleKind::Button || StandsSecond(s, previous);
   if (s.Scale.Vertical) {
     if (!first) return {rows.Second, previous.Top, size.Width, size.Height};
-    return {rows.First, previous.Bottom() + kGap * s.Scale.TwipsY, size.Width, size.Height};
+    return {rows.First, previous.Bottom() + kBetween * s.Scale.TwipsY, size.Width, size.Height};
   }
   if (!first) return {previous.Left, rows.Second, size.Width, size.Height};
-  return {previous.Right() + kGap * s.Scale.TwipsX, rows.First, size.Width, size.Height};
+  return {previous.Right() + kBetween * s.Scale.TwipsX, rows.First, size.Width, size.Height};
 }
 
 }  // namespace
@@ -71,9 +71,11 @@ TwipRect PlaceSingle(const SingleScene& s, const SingleRect& previous, SingleKin
   const float along =
       kind == SingleKind::Separator ? kSeparatorSize : static_cast<float>(s.IconSize);
   if (s.Scale.Vertical) {
-    return {0, previous.Bottom() + kGap * s.Scale.TwipsY, s.Template.Width, along * s.Scale.TwipsY};
+    return {0, previous.Bottom() + kBetween * s.Scale.TwipsY, s.Template.Width,
+            along * s.Scale.TwipsY};
   }
-  return {previous.Right() + kGap * s.Scale.TwipsX, 0, along * s.Scale.TwipsX, s.Template.Height};
+  return {previous.Right() + kBetween * s.Scale.TwipsX, 0, along * s.Scale.TwipsX,
+          s.Template.Height};
 }
 
 float SeparatorPosition(const StripScale& scale, const TwipRect& place) noexcept {

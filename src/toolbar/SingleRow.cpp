@@ -7,12 +7,12 @@
 #include "core/Program.h"
 #include "icons/IconResolution.h"
 #include "platform/FileSystem.h"
+#include "toolbar/StripLayout.h"
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
 namespace {
 
-constexpr int kSmallIcon = 16;   // pixels
 constexpr int kWatchPoll = 100;  // milliseconds
 
 TwipRect PlaceOf(const SingleRect& single) {

@@ -16,8 +16,6 @@
 namespace corvelle {
 namespace {
 
-constexpr std::string_view kSinglesTag = "SingleButtons";
-
 constexpr std::string_view kNoCommandText =
     "No executable file found under this button. Check your configuration in the Customize window.";
 

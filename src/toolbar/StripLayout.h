@@ -42,9 +42,12 @@ struct StripScale {
   float TwipsY = 15;
 };
 
+/// The side of a small icon, in pixels.
+inline constexpr int kSmallIcon = 16;
+
 struct TemplateScene {
-  bool LargeIcons = false;  // option 26
-  int IconSize = 16;        // pixels
+  bool LargeIcons = false;    // option 26
+  int IconSize = kSmallIcon;  // pixels
   float TwipsX = 15;
   float TwipsY = 15;
   int CaptionHeight = 25;  // SM_CYCAPTION in pixels, 0 when the system does not tell
@@ -106,7 +109,7 @@ struct StripContents {
 
 struct IconScene {
   TwipRect Button;
-  int IconSize = 16;  // pixels
+  int IconSize = kSmallIcon;  // pixels
   float TwipsX = 15;
   float TwipsY = 15;
   Placement Where = Placement::TopHugging;

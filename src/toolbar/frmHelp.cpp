@@ -10,9 +10,8 @@
 namespace corvelle {
 namespace {
 
-constexpr int kWatch = 250;         // milliseconds
-constexpr float kFirstTop = 10;     // twips
-constexpr int kDisablesHints = 22;  // position of the options
+constexpr int kWatch = 250;      // milliseconds
+constexpr float kFirstTop = 10;  // twips
 
 }  // namespace
 

@@ -16,7 +16,7 @@ constexpr std::size_t kMostDots = 50;
 constexpr float kWidth = 5000;
 constexpr float kPictureTop = 600;  // before the window has its height
 constexpr float kRoomBelow = 360;
-constexpr float kGap = 120;
+constexpr float kMargin = 120;
 
 // The first icon of a file; empty when it has none to show.
 Picture FilePicture(Program& program, std::string_view file) {
@@ -45,12 +45,12 @@ void frmStartup::Form_Load() {
   const float height = kPictureTop + kRoomBelow;
   Move((screen.Width - kWidth) / 2, screen.Height / 2 - height, kWidth, height);
 
-  Image1.Move(kGap, (height - picture * screen.TwipsPerPixelY) / 2, picture * screen.TwipsPerPixelX,
-              picture * screen.TwipsPerPixelY);
+  Image1.Move(kMargin, (height - picture * screen.TwipsPerPixelY) / 2,
+              picture * screen.TwipsPerPixelX, picture * screen.TwipsPerPixelY);
   Image1.SetPicture(FilePicture(program_, program_.AppPath + "corvelle.exe"));
   Label1.SetCaption("");
   Label2.SetCaption("Initializing ");
-  Label2.Move(Image1.Right() + kGap, Image1.Bottom() - Label2.Height(), Label2.Width(),
+  Label2.Move(Image1.Right() + kMargin, Image1.Bottom() - Label2.Height(), Label2.Width(),
               Label2.Height());
   Label1.Move(Label2.Right(), Label2.Top(), Label1.Width(), Label1.Height());
 

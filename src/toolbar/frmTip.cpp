@@ -13,8 +13,8 @@ namespace corvelle {
 namespace {
 
 // Pixels of a screen of 96 dots an inch; all grow with the scale of the screen.
-constexpr float kMargin = 14;
-constexpr float kGap = 10;
+constexpr float kTipMargin = 14;
+constexpr float kSpacing = 10;
 constexpr float kTextWidth = 330;
 constexpr float kButtonWidth = 80;
 constexpr float kButtonHeight = 25;
@@ -22,7 +22,7 @@ constexpr float kBoxHeight = 20;
 constexpr float kTwipsOfOne = 15;
 constexpr int kPicture = 32;  // pixels of any screen
 constexpr float kTitlePoints = 9.75F;
-constexpr int kFrame = 3;  // pixels of the window's own frame
+constexpr int kBorder = 3;  // pixels of the window's own frame
 
 }  // namespace
 
@@ -70,14 +70,14 @@ void frmTip::ShowTip(std::string_view title, std::string_view text, int field) {
 
 void frmTip::LayOut(std::string_view text) {
   const forms::ScreenInfo screen = program_.Windows.Screen();
-  const float left = 2 * kMargin * kTwipsOfOne + kPicture * screen.TwipsPerPixelX;
+  const float left = 2 * kTipMargin * kTwipsOfOne + kPicture * screen.TwipsPerPixelX;
   const std::vector<std::string> lines =
       WrapText(text, kTextWidth * kTwipsOfOne, [&](std::string_view line) {
         return static_cast<float>(program_.Windows.MeasureText(line, {}).width) *
                screen.TwipsPerPixelX;
       });
-  lblTitle.Move(left, kMargin * kTwipsOfOne, lblTitle.Width(), lblTitle.Height());
-  float bottom = lblTitle.Bottom() + kGap * kTwipsOfOne / 2;
+  lblTitle.Move(left, kTipMargin * kTwipsOfOne, lblTitle.Width(), lblTitle.Height());
+  float bottom = lblTitle.Bottom() + kSpacing * kTwipsOfOne / 2;
   float right = std::max(lblTitle.Right(), left + kTextWidth * kTwipsOfOne);
   lblTip.clear();
   for (const std::string& line : lines) {
@@ -88,16 +88,16 @@ void frmTip::LayOut(std::string_view text) {
     bottom = label->Bottom();
     right = std::max(right, label->Right());
   }
-  Picture1.Move(kMargin * kTwipsOfOne, kMargin * kTwipsOfOne, kPicture * screen.TwipsPerPixelX,
-                kPicture * screen.TwipsPerPixelY);
-  bottom = std::max(bottom, Picture1.Bottom()) + kGap * kTwipsOfOne;
+  Picture1.Move(kTipMargin * kTwipsOfOne, kTipMargin * kTwipsOfOne,
+                kPicture * screen.TwipsPerPixelX, kPicture * screen.TwipsPerPixelY);
+  bottom = std::max(bottom, Picture1.Bottom()) + kSpacing * kTwipsOfOne;
   Check1.Move(left, bottom, right - left, kBoxHeight * kTwipsOfOne);
-  cmdOK.Move(right - kButtonWidth * kTwipsOfOne, Check1.Bottom() + kGap * kTwipsOfOne,
+  cmdOK.Move(right - kButtonWidth * kTwipsOfOne, Check1.Bottom() + kSpacing * kTwipsOfOne,
              kButtonWidth * kTwipsOfOne, kButtonHeight * kTwipsOfOne);
-  const float frameX = 2 * kFrame * screen.TwipsPerPixelX;
-  const float frameY = 2 * kFrame * screen.TwipsPerPixelY;
-  Move(Left(), Top(), right + kMargin * kTwipsOfOne + frameX,
-       cmdOK.Bottom() + kMargin * kTwipsOfOne + frameY);
+  const float frameX = 2 * kBorder * screen.TwipsPerPixelX;
+  const float frameY = 2 * kBorder * screen.TwipsPerPixelY;
+  Move(Left(), Top(), right + kTipMargin * kTwipsOfOne + frameX,
+       cmdOK.Bottom() + kTipMargin * kTwipsOfOne + frameY);
 }
 
 void frmTip::DrawPicture() {

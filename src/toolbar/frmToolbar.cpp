@@ -17,7 +17,6 @@ namespace {
 constexpr int kAutoHidePoll = 250;  // milliseconds
 constexpr int kPointerPoll = 1;
 constexpr int kDragPoll = 100;
-constexpr int kSmallIcon = 16;  // pixels
 constexpr int kLargeIcon = 32;
 
 // True if the folder was not there before. One that cannot be made is met again as a folder that

@@ -13,8 +13,8 @@
 namespace corvelle {
 namespace {
 
-constexpr int kLeftKey = 1;
-constexpr int kRightKey = 2;
+constexpr int kLeftButtonKey = 1;
+constexpr int kRightButtonKey = 2;
 constexpr int kNoKey = 0;
 
 }  // namespace
@@ -42,7 +42,7 @@ void frmToolbar::WatchCarry() {
     return;
   }
   const Input& input = program_.Services.Pointer;
-  const bool anyDown = input.IsKeyDown(kLeftKey) || input.IsKeyDown(kRightKey);
+  const bool anyDown = input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey);
   if (carryWatch_.Look(anyDown, program_.Windows.Now())) AbandonDrag();
 }
 

@@ -11,10 +11,6 @@
 namespace corvelle {
 namespace {
 
-TwipRect BoundsOf(const forms::Control& control) {
-  return {control.Left(), control.Top(), control.Width(), control.Height()};
-}
-
 void Place(forms::Control& control, const TwipRect& bounds) {
   control.Move(bounds.Left, bounds.Top, bounds.Width, bounds.Height);
 }
@@ -76,9 +72,9 @@ void frmToolbar::SetControls() {
                        .LastButton = {last.Left, last.Top, last.Width, last.Height},
                        .SingleCount = SingleCount,
                        .LastSingleRight = Singles.LastEnd(),
-                       .Buttons = BoundsOf(picToolbar),
-                       .Singles = BoundsOf(picSingleButton),
-                       .Window = BoundsOf(*this)});
+                       .Buttons = picToolbar.Bounds(),
+                       .Singles = picSingleButton.Bounds(),
+                       .Window = Bounds()});
   // Known before the window moves, since a move is checked against it.
   if (Where() == Placement::TopHugging) SavedTop = controls.Window.Top;
   Place(picToolbar, controls.Buttons);
@@ -97,7 +93,7 @@ void frmToolbar::SetToolbarPosition() {
                        .TwipsY = TwipsY,
                        .CaptionButtonWidth = program_.Services.System.CaptionButtonWidth(),
                        .WindowWidth = Width(),
-                       .Singles = BoundsOf(picSingleButton),
+                       .Singles = picSingleButton.Bounds(),
                        .ButtonsHeight = picToolbar.Height(),
                        .TopCut = TopCut});
   SavedLeft = position.SavedLeft;
@@ -135,10 +131,10 @@ void frmToolbar::DrawBorders() {
                                                 .At = AtEdge(),
                                                 .TwipsX = TwipsX,
                                                 .TwipsY = TwipsY,
-                                                .Window = BoundsOf(*this),
+                                                .Window = Bounds(),
                                                 .ScreenWidth = program_.Windows.Screen().Width,
                                                 .SingleCount = SingleCount,
-                                                .Singles = BoundsOf(picSingleButton)});
+                                                .Singles = picSingleButton.Bounds()});
   picSingleButton.SetHeight(borders.SinglesHeight);
   ShowBorder(bLine1, borders.bLine1);
   ShowBorder(bLine2, borders.bLine2);
@@ -173,7 +169,7 @@ void frmToolbar::SetMenuPosition() {
   const MenuSpot spot =
       MenuPosition({.Where = program_.AppBarDocked ? Placement::AtEdge : Placement::TopHugging,
                     .At = AtEdge(),
-                    .Window = BoundsOf(*this),
+                    .Window = Bounds(),
                     .ButtonLeft = button.Left,
                     .ButtonTop = button.Top,
                     .MenuWidth = menu->MenuWidth(),

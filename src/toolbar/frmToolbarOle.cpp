@@ -27,8 +27,6 @@ constexpr int kMostQuietTicks = 5;
 // busy source takes a moment.
 constexpr int kMostLostTicks = 3;
 
-constexpr std::string_view kSinglesTag = "SingleButtons";
-
 }  // namespace
 
 void frmToolbar::WireDrags() {

@@ -7,12 +7,12 @@
 #include "forms/Scale.h"
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
+#include "toolbar/HintPlace.h"
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
 namespace {
 
-constexpr int kDisablesHints = 22;        // position of the options
 constexpr std::int64_t kHintDelay = 500;  // milliseconds
 constexpr std::int64_t kHintTime = 1500;
 constexpr int kMenuBorder = 3;  // pixels around the inside of the menu window

@@ -6,13 +6,7 @@
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
-namespace {
-
-TwipRect BoundsOf(const forms::Control& control) {
-  return {control.Left(), control.Top(), control.Width(), control.Height()};
-}
-
-}  // namespace
+namespace {}  // namespace
 
 // What is said to the shell.
 
@@ -168,7 +162,7 @@ void mAppBar::FinishPlacing(Edge at) {
 
 void mAppBar::StretchSingles(Edge at) {
   const TwipSize size =
-      StretchedSingles(at, BoundsOf(strip_), BoundsOf(strip_.picSingleButton), Twips().Width);
+      StretchedSingles(at, strip_.Bounds(), strip_.picSingleButton.Bounds(), Twips().Width);
   strip_.picSingleButton.Move(strip_.picSingleButton.Left(), strip_.picSingleButton.Top(),
                               size.Width, size.Height);
 }

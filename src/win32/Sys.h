@@ -21,6 +21,9 @@ inline PixelRect FromRect(const RECT& r) noexcept {
           static_cast<int>(r.bottom)};
 }
 
+/// The number of the program's own icon among its resources.
+inline constexpr WORD kProgramIcon = 1;
+
 /// The module that this code is linked into.
 inline HINSTANCE Module() noexcept { return GetModuleHandleW(nullptr); }
 

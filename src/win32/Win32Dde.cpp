@@ -13,7 +13,7 @@ namespace corvelle::win32 {
 
 namespace {
 
-constexpr wchar_t kClassName[] = L"CorvelleDdeClient";
+constexpr wchar_t kClientClass[] = L"CorvelleDdeClient";
 constexpr WORD kAcknowledged = 0x8000;
 
 struct GlobalAtomTraits {
@@ -75,7 +75,7 @@ bool RegisterClient() {
   windowClass.cbSize = sizeof(windowClass);
   windowClass.lpfnWndProc = &ClientProcedure;
   windowClass.hInstance = Module();
-  windowClass.lpszClassName = kClassName;
+  windowClass.lpszClassName = kClientClass;
   return RegisterClassExW(&windowClass) != 0 || GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
 }
 
@@ -178,7 +178,7 @@ DdeOutcome Win32Dde::Execute(std::string_view service, std::string_view topic,
   const UniqueGlobalAtom topicAtom(MakeAtom(topic));
   // A name that is none stands for any program, which would be the wrong one.
   if (!serviceAtom || !topicAtom || !RegisterClient()) return DdeOutcome::NoServer;
-  const UniqueWindow window(CreateWindowExW(0, kClassName, nullptr, WS_POPUP, 0, 0, 0, 0, nullptr,
+  const UniqueWindow window(CreateWindowExW(0, kClientClass, nullptr, WS_POPUP, 0, 0, 0, 0, nullptr,
                                             nullptr, Module(), nullptr));
   if (!window) return DdeOutcome::NoServer;
   Conversation talk{.Client = window.Get(), .Searching = true};

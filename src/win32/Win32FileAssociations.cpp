@@ -11,7 +11,7 @@ namespace corvelle::win32 {
 
 namespace {
 
-constexpr std::intptr_t kLowestSuccess = 33;
+constexpr std::intptr_t kLowestFound = 33;
 
 }  // namespace
 
@@ -20,7 +20,7 @@ std::optional<std::string> Win32FileAssociations::ProgramFor(std::string_view fi
   wchar_t program[32768] = {};
   const auto result =
       reinterpret_cast<std::intptr_t>(FindExecutableW(Wide(file).c_str(), nullptr, program));
-  if (result < kLowestSuccess) return std::nullopt;
+  if (result < kLowestFound) return std::nullopt;
   const auto* const end = std::find(std::begin(program), std::end(program), L'\0');
   if (end == std::begin(program)) return std::nullopt;
   return Narrow({program, static_cast<std::size_t>(end - program)});

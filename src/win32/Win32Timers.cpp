@@ -7,17 +7,17 @@ namespace corvelle::win32 {
 
 namespace {
 
-constexpr wchar_t kClassName[] = L"CorvelleTimers";
+constexpr wchar_t kTimersClass[] = L"CorvelleTimers";
 
 void RegisterTimerClass(WNDPROC procedure) {
   WNDCLASSEXW known{};
   known.cbSize = sizeof(known);
-  if (GetClassInfoExW(Module(), kClassName, &known) != 0) return;
+  if (GetClassInfoExW(Module(), kTimersClass, &known) != 0) return;
   WNDCLASSEXW made{};
   made.cbSize = sizeof(made);
   made.lpfnWndProc = procedure;
   made.hInstance = Module();
-  made.lpszClassName = kClassName;
+  made.lpszClassName = kTimersClass;
   RegisterClassExW(&made);
 }
 
@@ -25,8 +25,8 @@ void RegisterTimerClass(WNDPROC procedure) {
 
 Win32Timers::Win32Timers() {
   RegisterTimerClass(&Win32Timers::Procedure);
-  window_ =
-      CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, Module(), nullptr);
+  window_ = CreateWindowExW(0, kTimersClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, Module(),
+                            nullptr);
   if (window_ != nullptr)
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }

@@ -11,7 +11,6 @@ namespace corvelle::win32 {
 
 namespace {
 
-constexpr int kProgramIcon = 1;  // its number in the program's resources
 constexpr std::size_t kLongestTip = 63;
 
 NOTIFYICONDATAW DataOf(WindowId window, std::uint32_t id) {

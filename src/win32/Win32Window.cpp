@@ -24,8 +24,6 @@ WindowStyle StyleOf(const forms::PeerSpec& wanted) {
   return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, WS_EX_APPWINDOW};
 }
 
-constexpr WORD kProgramIcon = 1;
-
 }  // namespace
 
 bool Win32Window::RegisterClassNamed(const wchar_t* name) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/CoreDoubles.h"
+#include "core/CoreTexts.h"
 #include "core/EntryCommands.h"
 #include "core/MenuFile.h"
 #include "core/MenuFolder.h"
@@ -11,9 +12,6 @@
 
 namespace corvelle {
 namespace {
-
-constexpr char kFile[] = "C:\\Corvelle\\Menus\\BMENU001.MNU";
-constexpr char kOther[] = "C:\\Corvelle\\Menus\\BMENU002.MNU";
 
 std::string Raw(char letter) { return std::string(kRecordLength, letter); }
 
@@ -74,14 +72,14 @@ class CarriedEdits : public testing::Test {
     log.clear();
     world.Files.ClearLog();
   }
-  void Put(const char* file, const std::vector<std::string>& titles) {
+  void Put(const std::string& file, const std::vector<std::string>& titles) {
     std::string bytes;
     for (const std::string& title : titles) {
       bytes += FormatRecord({title, "icon " + title, "run " + title}, world.Ansi);
     }
     world.Files.Put(file, bytes);
   }
-  std::string TitlesOf(const char* file) {
+  std::string TitlesOf(const std::string& file) {
     std::string all;
     const std::string bytes = world.Files.Get(file).value_or("");
     for (std::size_t at = 0; at < bytes.size(); at += kRecordLength) {
@@ -111,7 +109,7 @@ TEST_F(CarriedEdits, GoWhereTheyArePut) {
   struct Row {
     const char* name;
     int record;
-    const char* file;
+    std::string file;
     int before;
     bool copies;
     const char* expected;       // of the first menu
@@ -223,7 +221,7 @@ TEST_F(CarriedEdits, NothingInTheHandIsPutNowhere) {
 TEST_F(CarriedEdits, NoOneFailureLosesAnEntry) {
   struct Row {
     const char* name;
-    const char* file;
+    std::string file;
     int before;
     bool copies;
   };

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/CodePage.h"
+#include "core/CoreTexts.h"
 #include "core/MenuFile.h"
 #include "sim/SimFiles.h"
 
@@ -11,16 +11,6 @@ namespace {
 
 using sim::SimFiles;
 using Names = std::vector<std::string>;
-
-const Windows1252 kAnsi;
-const std::string kMenus = "C:\\Corvelle\\Menus\\";
-const std::string kFile = kMenus + "BMENU001.MNU";
-
-std::string Record(const std::string& title) {
-  return FormatRecord({title, "icon of " + title, "C:\\" + title + ".exe"}, kAnsi);
-}
-
-const std::string kFour = Record("Button") + Record("One") + Record("Two") + Record("Three");
 
 std::string PlainTitle(std::string_view path) { return "title of " + std::string(path); }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/CoreDoubles.h"
+#include "core/CoreTexts.h"
 #include "core/MenuFile.h"
 #include "core/Program.h"
 #include "sim/World.h"
@@ -10,7 +11,6 @@
 namespace corvelle {
 namespace {
 
-constexpr char kFile[] = "C:\\Corvelle\\Menus\\BMENU001.MNU";
 constexpr char kMismatch[] = "Cannot delete/cut this item. Record mismatch.";
 constexpr char kButtonQuestion[] =
     "If you delete a button, you cannot Undo Delete. Do you want to continue ?";

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/CodePage.h"
+#include "core/CoreTexts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle {
@@ -10,13 +10,10 @@ namespace {
 
 using sim::SimFiles;
 
-const Windows1252 kAnsi;
-const std::string kMenus = "C:\\Corvelle\\Menus\\";
-const std::string kFile = kMenus + "BMENU001.MNU";
 const std::string kTemporary = kMenus + "TTTTTTTT";
 
 /// A record of bytes that say nothing to anybody, all of them different from its neighbours'.
-std::string Raw(char mark) {
+std::string Distinct(char mark) {
   std::string bytes(570, mark);
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     bytes[i] = static_cast<char>(static_cast<unsigned char>(mark) * 7U + i);
@@ -152,16 +149,16 @@ TEST(CountRecords, CountsAndCreatesAMissingFile) {
 
 TEST(WriteRecord, ChangesNoOtherRecord) {
   SimFiles disk;
-  disk.Put(kFile, Raw('a') + Raw('b') + Raw('c'));
+  disk.Put(kFile, Distinct('a') + Distinct('b') + Distinct('c'));
   ASSERT_TRUE(WriteRecord(disk, kAnsi, kFile, 2, {"New", "icon", "name"}));
-  EXPECT_EQ(disk.Get(kFile), Raw('a') + Plain("New") + Raw('c'));
+  EXPECT_EQ(disk.Get(kFile), Distinct('a') + Plain("New") + Distinct('c'));
 }
 
 TEST(WriteRecord, FillsAGapWithBlanks) {
   SimFiles disk;
-  disk.Put(kFile, Raw('a').substr(0, 560));
+  disk.Put(kFile, Distinct('a').substr(0, 560));
   ASSERT_TRUE(WriteRecord(disk, kAnsi, kFile, 3, {"New", "icon", "name"}));
-  EXPECT_EQ(disk.Get(kFile), Raw('a').substr(0, 560) + std::string(580, ' ') + Plain("New"));
+  EXPECT_EQ(disk.Get(kFile), Distinct('a').substr(0, 560) + std::string(580, ' ') + Plain("New"));
   EXPECT_FALSE(WriteRecord(disk, kAnsi, kFile, 0, {"New", "", ""}));
 }
 
@@ -177,22 +174,22 @@ TEST(AppendRecords, AddsToTheEndAndMakesAMissingFile) {
 TEST(AppendRecords, AFullDiskOrAnyFailureLeavesTheFileAsItWas) {
   for (int n = 1;; ++n) {
     SimFiles disk;
-    disk.Put(kFile, Raw('a'));
+    disk.Put(kFile, Distinct('a'));
     disk.FailCall(n, FileError::DiskFull);
     const FileStatus status = AppendRecords(disk, kAnsi, kFile, {{"New", "icon", "name"}});
     EXPECT_EQ(static_cast<bool>(status), !disk.Hit());
-    EXPECT_EQ(disk.Get(kFile), disk.Hit() ? Raw('a') : Raw('a') + Plain("New")) << n;
+    EXPECT_EQ(disk.Get(kFile), disk.Hit() ? Distinct('a') : Distinct('a') + Plain("New")) << n;
     if (!disk.Hit()) break;
   }
   SimFiles disk;
-  disk.Put(kFile, Raw('a'));
+  disk.Put(kFile, Distinct('a'));
   disk.FillDisk(1000);
   EXPECT_FALSE(AppendRecords(disk, kAnsi, kFile, {{"New", "icon", "name"}}));
-  EXPECT_EQ(disk.Get(kFile), Raw('a'));
+  EXPECT_EQ(disk.Get(kFile), Distinct('a'));
 }
 
 TEST(WholeRecords, FillsUpOrDropsAShortLastRecord) {
-  const std::string a = Raw('a');
+  const std::string a = Distinct('a');
   struct Row {
     const char* name;
     std::string bytes;
@@ -213,9 +210,9 @@ TEST(WholeRecords, FillsUpOrDropsAShortLastRecord) {
 }
 
 TEST(RecordsEdits, ChangeOnlyTheirPlace) {
-  const std::string a = Raw('a');
-  const std::string b = Raw('b');
-  const std::string n = Raw('n');
+  const std::string a = Distinct('a');
+  const std::string b = Distinct('b');
+  const std::string n = Distinct('n');
   struct Row {
     const char* name;
     std::string result;
@@ -247,10 +244,10 @@ RecordsEdit DropSecond() {
 
 TEST(RewriteMenuFile, TakesItsStepsInOrder) {
   SimFiles disk;
-  disk.Put(kFile, Raw('a') + Raw('b') + Raw('c'));
+  disk.Put(kFile, Distinct('a') + Distinct('b') + Distinct('c'));
   disk.Put(kTemporary, "stale");
   ASSERT_TRUE(RewriteMenuFile(disk, kMenus, kFile, DropSecond()));
-  EXPECT_EQ(disk.Get(kFile), Raw('a') + Raw('c'));
+  EXPECT_EQ(disk.Get(kFile), Distinct('a') + Distinct('c'));
   EXPECT_EQ(disk.Names(kMenus), std::vector<std::string>{"BMENU001.MNU"});
   const std::vector<SimFiles::Call> expected = {
       {"FileExists", kTemporary, ""}, {"Remove", kTemporary, ""}, {"Rename", kFile, kTemporary},
@@ -263,7 +260,7 @@ TEST(RewriteMenuFile, TakesItsStepsInOrder) {
 TEST(RewriteMenuFile, CopiesUnchangedRecordsByteForByte) {
   SimFiles disk;
   std::string all;
-  for (int i = 0; i < 256; ++i) all += Raw(static_cast<char>(i));
+  for (int i = 0; i < 256; ++i) all += Distinct(static_cast<char>(i));
   disk.Put(kFile, all);
   ASSERT_TRUE(RewriteMenuFile(disk, kMenus, kFile, DropSecond()));
   EXPECT_EQ(disk.Get(kFile), all.substr(0, 570) + all.substr(1140));
@@ -271,15 +268,16 @@ TEST(RewriteMenuFile, CopiesUnchangedRecordsByteForByte) {
 
 TEST(RewriteMenuFile, KeepsRecordsBeyondTheLastNumber) {
   SimFiles disk;
-  const std::string all = Raw('a') + Raw('b') + std::string(570U * 32767U, 'x') + Raw('z');
+  const std::string all =
+      Distinct('a') + Distinct('b') + std::string(570U * 32767U, 'x') + Distinct('z');
   disk.Put(kFile, all);
   ASSERT_TRUE(RewriteMenuFile(disk, kMenus, kFile, DropSecond()));
   EXPECT_EQ(disk.Get(kFile), all.substr(0, 570) + all.substr(1140));
 }
 
 TEST(RewriteMenuFile, AnyOneFailureLeavesTheOldFileOrTheNew) {
-  const std::string old = Raw('a') + Raw('b') + Raw('c');
-  const std::string edited = Raw('a') + Raw('c');
+  const std::string old = Distinct('a') + Distinct('b') + Distinct('c');
+  const std::string edited = Distinct('a') + Distinct('c');
   for (const FileError error : {FileError::DiskFull, FileError::InUse, FileError::Failed}) {
     for (const bool stale : {false, true}) {
       for (int n = 1;; ++n) {
@@ -302,7 +300,7 @@ TEST(RewriteMenuFile, AnyOneFailureLeavesTheOldFileOrTheNew) {
 }
 
 TEST(RewriteMenuFile, AFullDiskLeavesTheOldFile) {
-  const std::string old = Raw('a') + Raw('b') + Raw('c');
+  const std::string old = Distinct('a') + Distinct('b') + Distinct('c');
   for (const std::uint64_t left : {0U, 1U, 569U, 1139U}) {
     SimFiles disk;
     disk.Put(kFile, old);
@@ -317,12 +315,12 @@ TEST(RewriteMenuFile, AFullDiskLeavesTheOldFile) {
 
 TEST(RewriteMenuFile, AReadOnlyFileStaysAsItWas) {
   SimFiles disk;
-  disk.Put(kFile, Raw('a') + Raw('b'));
+  disk.Put(kFile, Distinct('a') + Distinct('b'));
   disk.SetReadOnly(kFile, true);
   const FileStatus status = RewriteMenuFile(disk, kMenus, kFile, DropSecond());
   ASSERT_FALSE(status);
   EXPECT_EQ(status.Error(), FileError::AccessDenied);
-  EXPECT_EQ(disk.Get(kFile), Raw('a') + Raw('b'));
+  EXPECT_EQ(disk.Get(kFile), Distinct('a') + Distinct('b'));
   EXPECT_FALSE(disk.Has(kTemporary));
 }
 
@@ -334,7 +332,7 @@ TEST(RewriteMenuFile, AMissingFileIsAFailureAndIsNotMade) {
 }
 
 TEST(RewriteMenuFile, AProgramThatEndsInTheMiddleLeavesTheOldContentSomewhere) {
-  const std::string old = Raw('a') + Raw('b') + Raw('c');
+  const std::string old = Distinct('a') + Distinct('b') + Distinct('c');
   for (int n = 1;; ++n) {
     SimFiles disk;
     disk.Put(kFile, old);
@@ -351,11 +349,11 @@ TEST(RewriteMenuFile, AProgramThatEndsInTheMiddleLeavesTheOldContentSomewhere) {
 
 TEST(RewriteMenuFile, AStaleTemporaryFileThatCannotBeRemovedStopsTheEdit) {
   SimFiles disk;
-  disk.Put(kFile, Raw('a') + Raw('b'));
+  disk.Put(kFile, Distinct('a') + Distinct('b'));
   disk.Put(kTemporary, "stale");
   disk.HoldOpen(kTemporary);
   EXPECT_FALSE(RewriteMenuFile(disk, kMenus, kFile, DropSecond()));
-  EXPECT_EQ(disk.Get(kFile), Raw('a') + Raw('b'));
+  EXPECT_EQ(disk.Get(kFile), Distinct('a') + Distinct('b'));
 }
 
 TEST(CreateButtonFile, TakesTheNextNumberAndTwoRecords) {
@@ -382,14 +380,14 @@ TEST(CreateButtonFile, NeverTakesAFileThatIsThere) {
 TEST(CreateButtonFile, AnyFailureLeavesNoHalfButton) {
   for (int n = 1;; ++n) {
     SimFiles disk;
-    disk.Put(kFile, Raw('a'));
+    disk.Put(kFile, Distinct('a'));
     disk.FailCall(n, FileError::DiskFull);
     const auto path = CreateButtonFile(disk, kAnsi, kMenus);
     if (!disk.Hit()) {
       EXPECT_TRUE(path);
       break;
     }
-    EXPECT_EQ(disk.Get(kFile), Raw('a'));
+    EXPECT_EQ(disk.Get(kFile), Distinct('a'));
     EXPECT_EQ(disk.Names(kMenus).size(), path ? 2U : 1U) << "failing call " << n;
   }
 }

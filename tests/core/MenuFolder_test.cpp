@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Numbers.h"
+#include "core/CoreTexts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle {
@@ -10,8 +11,6 @@ namespace {
 
 using sim::SimFiles;
 using Names = std::vector<std::string>;
-
-const std::string kMenus = "C:\\Corvelle\\Menus\\";
 
 void PutEach(SimFiles& disk, const Names& names) {
   disk.MakeFolders(kMenus);

@@ -2,15 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include "base/CodePage.h"
 #include "base/Text.h"
+#include "core/CoreTexts.h"
 
 namespace corvelle {
 namespace {
 
 using namespace std::string_literals;
-
-const Windows1252 kAnsi;
 
 std::string Field(std::string text, std::size_t width) {
   text.resize(width, ' ');

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/CoreTexts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle {
@@ -9,7 +10,6 @@ namespace {
 
 using sim::SimFiles;
 
-const std::string kApp = "C:\\Corvelle\\";
 const std::string kFlagFile = kApp + "tmenu425.dat";
 
 TEST(OptionFlags, StartAsThirtyTwoZeros) { EXPECT_EQ(OptionFlags().Text(), std::string(32, '0')); }

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "base/CodePage.h"
+#include "core/CoreTexts.h"
 #include "core/MenuFile.h"
 #include "sim/SimFiles.h"
 
@@ -14,18 +14,7 @@ namespace {
 using namespace std::string_literals;
 using sim::SimFiles;
 
-const Windows1252 kAnsi;
-const std::string kMenus = "C:\\Corvelle\\Menus\\";
-const std::string kFile = kMenus + "BMENU001.MNU";
-const std::string kOther = kMenus + "BMENU002.MNU";
-
 using Titles = std::vector<std::string>;
-
-std::string Record(const std::string& title) {
-  return FormatRecord({title, "icon of " + title, "C:\\" + title + ".exe"}, kAnsi);
-}
-
-const std::string kFour = Record("Button") + Record("One") + Record("Two") + Record("Three");
 
 /// The menu of four records, and an edit whose current entry is one of its items.
 struct Bench {
@@ -405,9 +394,9 @@ TEST(EditOutcome, IsWhatAnEditCameToWhateverTheReason) {
   EXPECT_NE(refused, EditOutcome::Edited);
   EXPECT_NE(EditOutcome::NothingToDo, EditOutcome::RecordMismatch);
   EXPECT_EQ(refused.Reason(), FileError::DiskFull);
-  EXPECT_EQ(EditOutcome::Of(Done()), EditOutcome::Edited);
-  EXPECT_EQ(EditOutcome::Of(FileError::InUse).Reason(), FileError::InUse);
-  EXPECT_EQ(EditOutcome::Of(FileError::InUse), EditOutcome::Failed);
+  EXPECT_EQ(OutcomeOf(Done()), EditOutcome::Edited);
+  EXPECT_EQ(OutcomeOf(FileError::InUse).Reason(), FileError::InUse);
+  EXPECT_EQ(OutcomeOf(FileError::InUse), EditOutcome::Failed);
 }
 
 TEST(RecordEdits, AFullDiskCostsNoEntry) {

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "base/CodePage.h"
+#include "core/CoreTexts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle {
@@ -14,8 +14,6 @@ namespace {
 using namespace std::string_literals;
 using sim::SimFiles;
 
-const Windows1252 kAnsi;
-const std::string kApp = "C:\\Corvelle\\";
 const std::string kPosition = kApp + "toolbarp.dat";
 const std::string kIconIni = kApp + "httpicon.ini";
 const std::string kPage = kApp + "httpicon.htm";

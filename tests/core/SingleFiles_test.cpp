@@ -6,20 +6,19 @@
 #include <map>
 #include <set>
 
-#include "base/CodePage.h"
+#include "core/CoreTexts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle {
 namespace {
 
-constexpr const char* kMenus = "C:\\Menus\\";
-const Windows1252 kAnsi;
+constexpr const char* kRowFolder = "C:\\Menus\\";
 
 MenuRecord Named(const std::string& title) { return {title, title + ".ico", title + ".exe"}; }
 
 std::string Bytes(const std::string& title) { return FormatRecord(Named(title), kAnsi); }
 
-std::string PathOf(const std::string& name) { return kMenus + name; }
+std::string PathOf(const std::string& name) { return kRowFolder + name; }
 
 /// A row whose buttons are called by the letters of `titles`, in the files of those numbers.
 SingleFiles Row(const std::vector<int>& numbers, const std::string& titles) {
@@ -39,7 +38,7 @@ void Put(sim::SimFiles& disk, const SingleFiles& row) {
 std::string OnDisk(sim::SimFiles& disk) {
   std::string text;
   for (const std::string& name : disk.Names("C:\\Menus")) {
-    const MenuRecord record = ParseRecord(disk.Get(kMenus + name).value_or(""), kAnsi);
+    const MenuRecord record = ParseRecord(disk.Get(kRowFolder + name).value_or(""), kAnsi);
     text += (text.empty() ? "" : " ") + std::to_string(std::stoi(name.substr(5))) + record.FTitle;
   }
   return text;
@@ -70,7 +69,7 @@ TEST(SingleFiles, EditsOfARow) {
 TEST(SingleFiles, DeletingTheMiddleOneOfThreeClosesTheNumbers) {
   sim::SimFiles disk;
   Put(disk, Row({1, 2, 3}, "abc"));
-  EXPECT_TRUE(DeleteSingleFile(disk, kMenus, PathOf("BMENU002.BTN")));
+  EXPECT_TRUE(DeleteSingleFile(disk, kRowFolder, PathOf("BMENU002.BTN")));
   EXPECT_EQ(OnDisk(disk), "1a 2c");
   EXPECT_EQ(disk.Get(PathOf("BMENU002.BTN")), Bytes("c"));
 }
@@ -78,11 +77,11 @@ TEST(SingleFiles, DeletingTheMiddleOneOfThreeClosesTheNumbers) {
 TEST(SingleFiles, PastingPutsTheEntryBeforeAndTheOthersFollow) {
   sim::SimFiles disk;
   Put(disk, Row({1, 2}, "ab"));
-  EXPECT_TRUE(PasteSingleFile(disk, kAnsi, kMenus, PathOf("BMENU002.BTN"), Named("x")));
+  EXPECT_TRUE(PasteSingleFile(disk, kAnsi, kRowFolder, PathOf("BMENU002.BTN"), Named("x")));
   EXPECT_EQ(OnDisk(disk), "1a 2x 3b");
-  EXPECT_TRUE(PasteSingleFile(disk, kAnsi, kMenus, "", Named("y")));
+  EXPECT_TRUE(PasteSingleFile(disk, kAnsi, kRowFolder, "", Named("y")));
   EXPECT_EQ(OnDisk(disk), "1a 2x 3b 4y");
-  EXPECT_EQ(PasteSingleFile(disk, kAnsi, kMenus, PathOf("BMENU009.BTN"), Named("z")).Error(),
+  EXPECT_EQ(PasteSingleFile(disk, kAnsi, kRowFolder, PathOf("BMENU009.BTN"), Named("z")).Error(),
             FileError::NotFound);
   EXPECT_EQ(OnDisk(disk), "1a 2x 3b 4y");
 }
@@ -90,14 +89,14 @@ TEST(SingleFiles, PastingPutsTheEntryBeforeAndTheOthersFollow) {
 TEST(SingleFiles, UndoPutsTheEntryBackToItsPlace) {
   sim::SimFiles disk;
   Put(disk, Row({1, 2}, "ac"));
-  EXPECT_TRUE(UndoDeleteSingleFile(disk, kAnsi, kMenus, PathOf("BMENU002.BTN"), Named("b")));
+  EXPECT_TRUE(UndoDeleteSingleFile(disk, kAnsi, kRowFolder, PathOf("BMENU002.BTN"), Named("b")));
   EXPECT_EQ(OnDisk(disk), "1a 2b 3c");
 }
 
 TEST(SingleFiles, UndoPastTheLastButtonWritesThatVeryFile) {
   sim::SimFiles disk;
   Put(disk, Row({1, 2}, "ab"));
-  EXPECT_TRUE(UndoDeleteSingleFile(disk, kAnsi, kMenus, PathOf("BMENU007.BTN"), Named("x")));
+  EXPECT_TRUE(UndoDeleteSingleFile(disk, kAnsi, kRowFolder, PathOf("BMENU007.BTN"), Named("x")));
   EXPECT_EQ(OnDisk(disk), "1a 2b 7x");
 }
 
@@ -112,7 +111,7 @@ TEST(SingleFiles, AMoveGoesForwardBackwardAndToTheEnd) {
     sim::SimFiles disk;
     Put(disk, Row({1, 2, 3, 4}, "abcd"));
     const std::string before = c.before == 0 ? "" : PathOf(SingleFileName(c.before));
-    EXPECT_TRUE(MoveSingleFile(disk, kMenus, PathOf(SingleFileName(c.from)), before));
+    EXPECT_TRUE(MoveSingleFile(disk, kRowFolder, PathOf(SingleFileName(c.from)), before));
     EXPECT_EQ(OnDisk(disk), c.expected) << c.from << " before " << c.before;
   }
 }
@@ -120,15 +119,15 @@ TEST(SingleFiles, AMoveGoesForwardBackwardAndToTheEnd) {
 TEST(SingleFiles, AMoveOfAButtonThatIsGoneChangesNothing) {
   sim::SimFiles disk;
   Put(disk, Row({1, 2}, "ab"));
-  EXPECT_FALSE(MoveSingleFile(disk, kMenus, PathOf("BMENU003.BTN"), PathOf("BMENU001.BTN")));
-  EXPECT_FALSE(MoveSingleFile(disk, kMenus, PathOf("BMENU001.BTN"), PathOf("BMENU003.BTN")));
+  EXPECT_FALSE(MoveSingleFile(disk, kRowFolder, PathOf("BMENU003.BTN"), PathOf("BMENU001.BTN")));
+  EXPECT_FALSE(MoveSingleFile(disk, kRowFolder, PathOf("BMENU001.BTN"), PathOf("BMENU003.BTN")));
   EXPECT_EQ(OnDisk(disk), "1a 2b");
 }
 
 TEST(SingleFiles, ARewriteClosesGapsAndTakesOtherNamesIn) {
   sim::SimFiles disk;
   Put(disk, Row({2, 5, 9}, "abc"));
-  EXPECT_TRUE(InsertSingleFiles(disk, kAnsi, kMenus, 1, {Named("x"), Named("y")}));
+  EXPECT_TRUE(InsertSingleFiles(disk, kAnsi, kRowFolder, 1, {Named("x"), Named("y")}));
   EXPECT_EQ(OnDisk(disk), "1a 2x 3y 4b 5c");
 }
 
@@ -136,7 +135,7 @@ TEST(SingleFiles, OfAFileWithSeveralRecordsTheFirstIsTheButton) {
   sim::SimFiles disk;
   Put(disk,
       {{PathOf("BMENU001.BTN"), Bytes("a")}, {PathOf("BMENU002.BTN"), Bytes("b") + Bytes("z")}});
-  EXPECT_TRUE(DeleteSingleFile(disk, kMenus, PathOf("BMENU001.BTN")));
+  EXPECT_TRUE(DeleteSingleFile(disk, kRowFolder, PathOf("BMENU001.BTN")));
   EXPECT_EQ(disk.Get(PathOf("BMENU001.BTN")), Bytes("b"));
   EXPECT_EQ(disk.Names("C:\\Menus").size(), 1U);
 }
@@ -151,11 +150,11 @@ TEST(SingleFiles, AFileThatCannotBeReadLeavesTheRowAlone) {
   sim::SimFiles disk;
   Put(disk, Row({1, 2, 3}, "abc"));
   disk.HoldOpen(PathOf("BMENU003.BTN"));
-  EXPECT_EQ(DeleteSingleFile(disk, kMenus, PathOf("BMENU001.BTN")).Error(), FileError::InUse);
+  EXPECT_EQ(DeleteSingleFile(disk, kRowFolder, PathOf("BMENU001.BTN")).Error(), FileError::InUse);
   disk.LetGo(PathOf("BMENU003.BTN"));
   EXPECT_EQ(OnDisk(disk), "1a 2b 3c");
   disk.Put(PathOf("BMENU002.BTN"), std::string((1U << 20U) + 1, 'x'));
-  EXPECT_EQ(DeleteSingleFile(disk, kMenus, PathOf("BMENU001.BTN")).Error(), FileError::Failed);
+  EXPECT_EQ(DeleteSingleFile(disk, kRowFolder, PathOf("BMENU001.BTN")).Error(), FileError::Failed);
   EXPECT_EQ(disk.Names("C:\\Menus").size(), 3U);
 }
 
@@ -163,7 +162,7 @@ TEST(SingleFiles, AReadOnlyFileUndoesTheWholeRewrite) {
   sim::SimFiles disk;
   Put(disk, Row({1, 2, 3}, "abc"));
   disk.SetReadOnly(PathOf("BMENU002.BTN"), true);
-  EXPECT_FALSE(DeleteSingleFile(disk, kMenus, PathOf("BMENU001.BTN")));
+  EXPECT_FALSE(DeleteSingleFile(disk, kRowFolder, PathOf("BMENU001.BTN")));
   EXPECT_EQ(OnDisk(disk), "1a 2b 3c");
 }
 
@@ -198,14 +197,14 @@ std::vector<Rewrite> Rewrites() {
 std::set<std::string> Buttons(sim::SimFiles& disk) {
   std::set<std::string> all;
   for (const std::string& name : disk.Names("C:\\Menus"))
-    all.insert(SingleBytes(disk.Get(kMenus + name).value_or("")));
+    all.insert(SingleBytes(disk.Get(kRowFolder + name).value_or("")));
   return all;
 }
 
 std::map<std::string, std::string> Contents(sim::SimFiles& disk) {
   std::map<std::string, std::string> all;
   for (const std::string& name : disk.Names("C:\\Menus"))
-    all[name] = disk.Get(kMenus + name).value_or("");
+    all[name] = disk.Get(kRowFolder + name).value_or("");
   return all;
 }
 
@@ -226,8 +225,8 @@ TEST(SingleFilesRewrite, EachPlanLeadsToItsRow) {
   for (const Rewrite& r : Rewrites()) {
     sim::SimFiles disk;
     Put(disk, r.before);
-    EXPECT_TRUE(RewriteSingleFiles(disk, kMenus, r.before, r.after)) << r.name;
-    const auto row = ReadSingleFiles(disk, kMenus);
+    EXPECT_TRUE(RewriteSingleFiles(disk, kRowFolder, r.before, r.after)) << r.name;
+    const auto row = ReadSingleFiles(disk, kRowFolder);
     ASSERT_TRUE(row) << r.name;
     ASSERT_EQ(row->size(), r.after.size()) << r.name;
     for (std::size_t i = 0; i < row->size(); ++i) {
@@ -242,13 +241,13 @@ TEST(SingleFilesRewrite, AnyOneFailureLeavesTheOldRowOrTheNew) {
     sim::SimFiles fine;
     Put(fine, r.before);
     const auto oldRow = Contents(fine);
-    ASSERT_TRUE(RewriteSingleFiles(fine, kMenus, r.before, r.after)) << r.name;
+    ASSERT_TRUE(RewriteSingleFiles(fine, kRowFolder, r.before, r.after)) << r.name;
     const auto newRow = Contents(fine);
     for (int n = 1;; ++n) {
       sim::SimFiles disk;
       Put(disk, r.before);
       disk.FailCall(n, FileError::DiskFull);
-      const bool done = RewriteSingleFiles(disk, kMenus, r.before, r.after).HasValue();
+      const bool done = RewriteSingleFiles(disk, kRowFolder, r.before, r.after).HasValue();
       if (!disk.Hit()) break;
       EXPECT_FALSE(done) << r.name << ", failing call " << n;
       EXPECT_EQ(Contents(disk), done ? newRow : oldRow) << r.name << ", failing call " << n;
@@ -263,7 +262,7 @@ TEST(SingleFilesRewrite, AnEndAtAnyMomentLosesNoButton) {
       sim::SimFiles disk;
       Put(disk, r.before);
       disk.FailFrom(n);
-      static_cast<void>(RewriteSingleFiles(disk, kMenus, r.before, r.after));
+      static_cast<void>(RewriteSingleFiles(disk, kRowFolder, r.before, r.after));
       const bool hit = disk.Hit();
       disk.StopFailing();
       EXPECT_TRUE(HoldsAll(Buttons(disk), Kept(r))) << r.name << ", ended before call " << n;
@@ -279,7 +278,7 @@ TEST(SingleFilesRewrite, TwoHundredButtonsAreRewrittenInOneWriteEach) {
   for (int i = 1; i <= 200; ++i) numbers.push_back(i);
   Put(disk, Row(numbers, std::string(200, 'a')));
   disk.ClearLog();
-  EXPECT_TRUE(DeleteSingleFile(disk, kMenus, PathOf("BMENU001.BTN")));
+  EXPECT_TRUE(DeleteSingleFile(disk, kRowFolder, PathOf("BMENU001.BTN")));
   EXPECT_EQ(disk.Names("C:\\Menus").size(), 199U);
   EXPECT_EQ(disk.Count("Replace"), 199);
   EXPECT_EQ(disk.Count("Remove"), 1);

@@ -2,8 +2,8 @@
 
 #include "e2e/DeskFiles.h"
 #include "e2e/WineDesk.h"
+#include "e2e/contract/DdeServer.h"
 #include "scenario/Strip.h"
-#include "windows/DdeServer.h"
 
 // Web and mail entries, on a machine whose browser and mail program are made by the test: the
 // browser is a witness of another name, which says of itself what it was started with, and while it

@@ -6,9 +6,9 @@
 namespace corvelle::forms {
 namespace {
 
-class SimulatedHome final : public DragHome {
+class SimulatedDragHome final : public DragHome {
  public:
-  SimulatedHome() {
+  SimulatedDragHome() {
     source_ = world_.Desktop.AddOtherWindow({.Title = "Source", .Bounds = {600, 450, 800, 550}});
   }
   WindowSystem& Windows() override { return world_.Desktop; }
@@ -33,7 +33,7 @@ class SimulatedHome final : public DragHome {
 };
 
 INSTANTIATE_TEST_SUITE_P(Simulated, DragContract,
-                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+                         testing::Values([] { return std::make_unique<SimulatedDragHome>(); }));
 
 TEST(SimulatedDrag, ASourceThatDiesTellsNothing) {
   sim::World world;

@@ -47,7 +47,7 @@ std::string Meaning(std::string_view text, IconCaller caller) {
   return Told(ClassifyIcon(text, kPlaces, caller));
 }
 
-struct Row {
+struct FormRow {
   const char* name;
   std::string text;
   IconForm expected;
@@ -56,7 +56,7 @@ struct Row {
 }  // namespace
 
 TEST(IconForms, MeanTheSameForAllCallers) {
-  const Row rows[] = {
+  const FormRow rows[] = {
       {"nothing", "", Form(IconKind::Empty)},
       {"below the program's folder", "\\icons\\x.ico", Own("C:\\Corvelle\\icons\\x.ico")},
       {"web link", "http", Form(IconKind::File, "C:\\Corvelle\\httpicon.htm")},
@@ -77,7 +77,7 @@ TEST(IconForms, MeanTheSameForAllCallers) {
        Own("c:\\CORVELLE\\icons\\x.ico")},
       {"number too large for any list", "99999999999", Form(IconKind::File, "99999999999")},
   };
-  for (const Row& row : rows) {
+  for (const FormRow& row : rows) {
     for (const IconCaller caller : kAllCallers) {
       EXPECT_EQ(Meaning(row.text, caller), Told(row.expected))
           << row.name << ", caller " << static_cast<int>(caller);
@@ -86,12 +86,12 @@ TEST(IconForms, MeanTheSameForAllCallers) {
 }
 
 TEST(IconForms, InAnyCaseMeanTheSameForAllButThePreview) {
-  const Row rows[] = {
+  const FormRow rows[] = {
       {"below the program's folder", "\\ICONS\\X.ICO", Own("C:\\Corvelle\\ICONS\\X.ICO")},
       {"web link", "HTTP", Form(IconKind::File, "C:\\Corvelle\\httpicon.htm")},
       {"special folder", "csidl_drives", Form(IconKind::SpecialFolder, "csidl_drives")},
   };
-  for (const Row& row : rows) {
+  for (const FormRow& row : rows) {
     for (const IconCaller caller : kCallersWithoutCase) {
       EXPECT_EQ(Meaning(row.text, caller), Told(row.expected))
           << row.name << ", caller " << static_cast<int>(caller);

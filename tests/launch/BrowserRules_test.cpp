@@ -14,7 +14,7 @@ namespace {
 
 const Windows1252 kAnsi;
 
-constexpr char kNetscape[] = "NetscapeMarkup\\shell\\open\\ddeexec\\Application";
+constexpr char kNetscapeMarkup[] = "NetscapeMarkup\\shell\\open\\ddeexec\\Application";
 constexpr char kWeb[] = "http\\shell\\open\\ddeexec\\Application";
 constexpr char kPage[] = "htmlfile\\shell\\open\\ddeexec\\Application";
 
@@ -31,8 +31,8 @@ TEST(ServiceSourceOf, EachBrowserHasItsPlaces) {
     ServiceSource expected;
   };
   const Row rows[] = {
-      {"netscape", "C:\\Netscape\\Program\\netscape.exe", {{kNetscape, kPage}, "NSShell"}},
-      {"netscape in capitals", "C:\\NETSCAPE.EXE", {{kNetscape, kPage}, "NSShell"}},
+      {"netscape", "C:\\Netscape\\Program\\netscape.exe", {{kNetscapeMarkup, kPage}, "NSShell"}},
+      {"netscape in capitals", "C:\\NETSCAPE.EXE", {{kNetscapeMarkup, kPage}, "NSShell"}},
       {"internet explorer", "C:\\IE\\iexplore.exe", {{kWeb, kPage}, "IExplore"}},
       {"another browser", "C:\\Other\\other.exe", {{kWeb, kPage}, ""}},
       {"the shell's own program", "C:\\windows\\explorer.exe", {{kWeb, kPage}, ""}},

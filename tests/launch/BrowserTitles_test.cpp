@@ -11,7 +11,7 @@ namespace corvelle {
 
 namespace {
 
-constexpr char kUrl[] = "http://a.example/";
+constexpr char kPageAddress[] = "http://a.example/";
 constexpr char kBookmarks[] =
     "<TITLE>Bookmarks</TITLE>\r\n<A HREF=\"http://a.example/\">The bookmark</A>\r\n</DL><p>\r\n";
 constexpr char kUsersKey[] = "SOFTWARE\\Netscape\\Netscape Navigator\\Users";
@@ -43,26 +43,26 @@ struct DropSource : TitleDesk {};
 
 TEST_F(DropSource, ItsCaptionWithoutTheBrowsersNameIsTheTitle) {
   browser.NoteDropSource(Open("A page - Any Browser"));
-  EXPECT_EQ(browser.WindowTitle(kUrl), "A page ");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "A page ");
 }
 
 TEST_F(DropSource, AWholeCaptionWithoutADashIsTheTitle) {
   browser.NoteDropSource(Open("  A page  "));
-  EXPECT_EQ(browser.WindowTitle(kUrl), "A page");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "A page");
 }
 
 TEST_F(DropSource, CountsForOneDropOnly) {
   browser.NoteDropSource(Open("A page"));
-  EXPECT_EQ(browser.WindowTitle(kUrl), "A page");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "A page");
   EXPECT_FALSE(browser.DropSourceKnown);
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
 }
 
 TEST_F(DropSource, AWindowThatListsBookmarksGivesTheTitleOfTheBookmark) {
   HaveBookmarks();
   NoteBookmarkFolder("C:\\Ann");
   browser.NoteDropSource(Open("Bookmarks - Ann"));
-  EXPECT_EQ(browser.WindowTitle(kUrl), "The bookmark");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "The bookmark");
 }
 
 TEST_F(DropSource, WithoutThatBookmarkItsCaptionServes) {
@@ -76,22 +76,22 @@ TEST_F(DropSource, TheBrowsersOwnBookmarkWindowIsAPageLikeAnyOther) {
   HaveBookmarks();
   NoteBookmarkFolder("C:\\Ann");
   browser.NoteDropSource(Open("Bookmarks - Netscape"));
-  EXPECT_EQ(browser.WindowTitle(kUrl), "Bookmarks ");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "Bookmarks ");
 }
 
 TEST_F(DropSource, OwnedAndUnnamedAndVanishedWindowsTellNothing) {
   browser.NoteDropSource(world.Desktop.AddOtherWindow({.Title = "Owned - x", .HasOwner = true}));
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
   EXPECT_TRUE(browser.DropSourceKnown);
   browser.NoteDropSource(Open("   "));
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
   const WindowId gone = Open("Gone - x");
   world.Desktop.CloseOther(gone);
   browser.NoteDropSource(gone);
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
   browser.NoteDropSource(kNoWindow);
   EXPECT_FALSE(browser.DropSourceKnown);
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
 }
 
 TEST_F(DropSource, TheStripItselfTellsNothing) {
@@ -104,7 +104,7 @@ TEST_F(DropSource, TheStripItselfTellsNothing) {
   program.Ports.Toolbar = &strip;
   for (const WindowId own : {strip.Window, strip.ButtonBox, strip.SingleBox}) {
     browser.NoteDropSource(own);
-    EXPECT_EQ(browser.WindowTitle(kUrl), "");
+    EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
   }
 }
 
@@ -116,7 +116,7 @@ TEST_F(OpenBrowsers, TheUppermostOneGivesTheTitle) {
   Open("Below - Netscape");
   Open("Above - Internet Explorer");
   Open("A text - Editor");
-  EXPECT_EQ(browser.WindowTitle(kUrl), "Above ");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "Above ");
 }
 
 TEST_F(OpenBrowsers, WhatIsNotSeenDoesNotCount) {
@@ -124,9 +124,9 @@ TEST_F(OpenBrowsers, WhatIsNotSeenDoesNotCount) {
   world.Desktop.AddOtherWindow({.Title = "Minimized - Netscape", .Minimized = true});
   world.Desktop.AddOtherWindow({.Title = "Owned - Netscape", .HasOwner = true});
   Open("Netscape");
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
   Open("Seen - Netscape");
-  EXPECT_EQ(browser.WindowTitle(kUrl), "Seen ");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "Seen ");
 }
 
 TEST_F(OpenBrowsers, AWindowThatListsBookmarksGivesTheTitleOfTheBookmark) {
@@ -134,21 +134,21 @@ TEST_F(OpenBrowsers, AWindowThatListsBookmarksGivesTheTitleOfTheBookmark) {
   NoteBookmarkFolder("C:\\Ann");
   Open("Below - Netscape");
   Open("Bookmarks for Ann");
-  EXPECT_EQ(browser.WindowTitle(kUrl), "The bookmark");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "The bookmark");
   EXPECT_EQ(browser.WindowTitle("http://other.example/"), "Below ");
 }
 
 TEST_F(OpenBrowsers, TheProgramItselfIsNone) {
   program.Title = "Explorer - by name";
   Open(program.Title);
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
 }
 
 TEST_F(OpenBrowsers, TheBrowserIsLookedForOnce) {
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
   EXPECT_EQ(browser.BrowserApplication, "IExplore");
   const std::size_t asked = world.Associations.Asked().size();
-  EXPECT_EQ(browser.WindowTitle(kUrl), "");
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "");
   EXPECT_EQ(world.Associations.Asked().size(), asked);
 }
 
@@ -165,7 +165,7 @@ struct BookmarkFolder : TitleDesk {
 TEST_F(BookmarkFolder, IsThatOfTheCurrentUserInTheRegistry) {
   SetValue(kUsersKey, "CurrentUser", "ann");
   SetValue(std::string(kUsersKey) + "\\ann", "DirRoot", "C:\\Ann");
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "The bookmark");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "The bookmark");
   EXPECT_EQ(browser.BookmarkDir, "C:\\Ann\\");
 }
 
@@ -173,7 +173,7 @@ TEST_F(BookmarkFolder, IsThatOfTheOnlyUserBesideTheBrowser) {
   world.Associations.Set(".htm", "C:\\N\\Program\\Netscape.exe");
   world.Files.Put("C:\\N\\Users\\ann\\bookmark.htm", kBookmarks);
   world.Files.Put("C:\\N\\Users\\readme.txt", "x");
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "The bookmark");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "The bookmark");
   EXPECT_EQ(browser.BookmarkDir, "C:\\N\\Users\\ann\\");
 }
 
@@ -181,35 +181,35 @@ TEST_F(BookmarkFolder, IsNoneOfTwoUsersBesideTheBrowser) {
   world.Associations.Set(".htm", "C:\\N\\Program\\netscape.exe");
   world.Files.Put("C:\\N\\Users\\ann\\bookmark.htm", kBookmarks);
   world.Files.MakeFolders("C:\\N\\Users\\bob");
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "");
   EXPECT_EQ(browser.BookmarkDir, "");
 }
 
 TEST_F(BookmarkFolder, OfAnotherBrowserIsNotLookedForBesideIt) {
   world.Associations.Set(".htm", "C:\\N\\Program\\other.exe");
   world.Files.Put("C:\\N\\Users\\ann\\bookmark.htm", kBookmarks);
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "");
 }
 
 TEST_F(BookmarkFolder, IsThatOfTheBrowserFileAtLast) {
   NoteBookmarkFolder("C:\\Ann\\");
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "The bookmark");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "The bookmark");
   EXPECT_EQ(browser.BookmarkDir, "C:\\Ann\\");
 }
 
 TEST_F(BookmarkFolder, IsRemembered) {
   NoteBookmarkFolder("C:\\Ann");
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "The bookmark");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "The bookmark");
   world.Files.Vanish("C:\\Corvelle\\openurl.ini");
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "The bookmark");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "The bookmark");
 }
 
 TEST_F(BookmarkFolder, MayHoldTheFileUnderItsLongName) {
   NoteBookmarkFolder("C:\\Ann");
   world.Files.Vanish("C:\\Ann\\bookmark.htm");
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "");
   world.Files.Put("C:\\Ann\\bookmark.html", kBookmarks);
-  EXPECT_EQ(browser.BookmarkTitle(kUrl), "The bookmark");
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "The bookmark");
 }
 
 TEST_F(BookmarkFolder, NoFailureOfTheDiskIsMoreThanAMissingTitle) {
@@ -217,13 +217,15 @@ TEST_F(BookmarkFolder, NoFailureOfTheDiskIsMoreThanAMissingTitle) {
   for (int n = 1; n < 12; ++n) {
     browser.BookmarkDir.clear();
     world.Files.FailCall(n);
-    const std::string title = browser.BookmarkTitle(kUrl);
+    const std::string title = browser.BookmarkTitle(kPageAddress);
     world.Files.StopFailing();
     EXPECT_TRUE(title.empty() || title == "The bookmark") << n;
   }
 }
 
-TEST_F(BookmarkFolder, WithoutOneThereIsNoTitle) { EXPECT_EQ(browser.BookmarkTitle(kUrl), ""); }
+TEST_F(BookmarkFolder, WithoutOneThereIsNoTitle) {
+  EXPECT_EQ(browser.BookmarkTitle(kPageAddress), "");
+}
 
 // ---- the other browser ----
 

@@ -12,7 +12,7 @@ using namespace std::string_literals;
 const MenuRecord kHeader{"Programs", "Button", ""};
 const MenuRecord kSeparator{"Separator", "MenuLineSeparator", ""};
 
-MenuRecord Item(std::string title) { return {std::move(title), "icon.ico", "run.exe"}; }
+MenuRecord Titled(std::string title) { return {std::move(title), "icon.ico", "run.exe"}; }
 
 /// A menu file by a pattern: 'i' an item, 's' a separator, 'b' an old breaker, 'h' the entry that
 /// no menu shows.
@@ -24,7 +24,7 @@ std::vector<MenuRecord> File(std::string_view pattern) {
     } else if (c == 'b') {
       records.push_back({"", "MenuBreaker", ""});
     } else {
-      records.push_back(Item(c == 'h' ? "Corvelle" : "Item"));
+      records.push_back(Titled(c == 'h' ? "Corvelle" : "Titled"));
     }
   }
   return records;
@@ -115,7 +115,7 @@ TEST(InitQMenu, WithLargeSystemFonts) {
 }
 
 TEST(InitQMenu, TheHeaderIsNoItem) {
-  std::vector<MenuRecord> records{kSeparator, Item("First")};
+  std::vector<MenuRecord> records{kSeparator, Titled("First")};
   const MenuLayout menu = LayOutMenu({.Records = records});
   ASSERT_EQ(menu.Labels, 1);
   EXPECT_EQ(menu.Items[0].Caption, "First");
@@ -130,8 +130,8 @@ TEST(InitQMenu, TagsCarryCommandIconAndPlaceInTheFile) {
 }
 
 TEST(InitQMenu, TitlesOfAnExpandedFileCarryTheRecordNumber) {
-  const std::vector<MenuRecord> records{kHeader, Item("Notes.txt\0005007"s), Item("Plain"),
-                                        Item("Cut\000"s), Item("A & B\00012"s)};
+  const std::vector<MenuRecord> records{kHeader, Titled("Notes.txt\0005007"s), Titled("Plain"),
+                                        Titled("Cut\000"s), Titled("A & B\00012"s)};
   const MenuLayout menu = LayOutMenu({.Records = records, .HasFolderItems = true});
   ASSERT_EQ(menu.Labels, 4);
   EXPECT_EQ(menu.Items[0].Caption, "Notes.txt");
@@ -145,14 +145,14 @@ TEST(InitQMenu, TitlesOfAnExpandedFileCarryTheRecordNumber) {
 }
 
 TEST(InitQMenu, ElsewhereANulInATitleIsADamagedRest) {
-  const std::vector<MenuRecord> records{kHeader, Item("Notes.txt\0005007"s)};
+  const std::vector<MenuRecord> records{kHeader, Titled("Notes.txt\0005007"s)};
   const MenuLayout menu = LayOutMenu({.Records = records});
   EXPECT_EQ(menu.Items[0].Caption, "Notes.txt");
   EXPECT_EQ(TagRecordNumber(menu.Items[0].Tag), 2);
 }
 
 TEST(InitQMenu, AnAmpersandIsShownAndMeasuredAsItIs) {
-  const std::vector<MenuRecord> records{kHeader, Item("Tom & Jerry"), Item("R&&D")};
+  const std::vector<MenuRecord> records{kHeader, Titled("Tom & Jerry"), Titled("R&&D")};
   std::vector<std::string> measured;
   const MenuLayout menu = LayOutMenu({.Records = records, .TextWidth = [&](std::string_view text) {
                                         measured.emplace_back(text);
@@ -164,7 +164,8 @@ TEST(InitQMenu, AnAmpersandIsShownAndMeasuredAsItIs) {
 }
 
 TEST(MenuWidth, IsThatOfTheWidestCaptionWithRoomOnBothSides) {
-  const std::vector<MenuRecord> records{kHeader, Item("short"), Item("longest of all"), Item("x")};
+  const std::vector<MenuRecord> records{kHeader, Titled("short"), Titled("longest of all"),
+                                        Titled("x")};
   const auto hundred = [](std::string_view text) {
     return 110.0F * static_cast<float>(text.size());
   };
@@ -255,8 +256,11 @@ TEST(MenuSeparators, AtTheEndOfASinglePageTheRuleIsSeen) {
 }
 
 TEST(MenuSeparators, AreKnownInAnyCase) {
-  const std::vector<MenuRecord> records{
-      kHeader, Item("One"), {"", " menulineseparator ", ""}, {"", "MENUBREAKER", ""}, Item("Two")};
+  const std::vector<MenuRecord> records{kHeader,
+                                        Titled("One"),
+                                        {"", " menulineseparator ", ""},
+                                        {"", "MENUBREAKER", ""},
+                                        Titled("Two")};
   EXPECT_EQ(Tops(LayOutMenu({.Records = records})), (std::vector<float>{90, 570}));
 }
 

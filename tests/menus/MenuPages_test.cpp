@@ -6,13 +6,13 @@
 namespace corvelle {
 namespace {
 
-const MenuRecord kHeader{"Programs", "Button", ""};
-const MenuRecord kSeparator{"Separator", "MenuLineSeparator", ""};
+const MenuRecord kFirstRecord{"Programs", "Button", ""};
+const MenuRecord kRule{"Separator", "MenuLineSeparator", ""};
 const MenuRecord kItem{"Item", "icon.ico", "run.exe"};
 
 std::vector<MenuRecord> FileOf(int items) {
   std::vector<MenuRecord> records(static_cast<std::size_t>(items) + 1, kItem);
-  records[0] = kHeader;
+  records[0] = kFirstRecord;
   return records;
 }
 
@@ -91,7 +91,7 @@ TEST(MenuPages, AnItemThatReachesTheReserveGoesToTheNextPage) {
 TEST(MenuPages, SeparatorsCountTwelvePixelsEachRunInTheEstimate) {
   // Nine items and a run of separators: 2700 + 180.
   std::vector<MenuRecord> records = FileOf(9);
-  records.insert(records.begin() + 3, 4, kSeparator);
+  records.insert(records.begin() + 3, 4, kRule);
   EXPECT_EQ(LayOutMenu({.Records = records, .WindowHeight = 2925}).Slides, 0);
   EXPECT_EQ(LayOutMenu({.Records = records, .WindowHeight = 2924}).Slides, 1);
 }
@@ -107,7 +107,7 @@ TEST(MenuPages, TheEntryThatIsNotShownCountsInTheEstimateAllTheSame) {
 
 TEST(MenuPages, ASeparatorBetweenTwoPagesDrawsNoRuleButMarksTheItem) {
   std::vector<MenuRecord> records = FileOf(11);
-  records.insert(records.begin() + 9, kSeparator);  // after item 8
+  records.insert(records.begin() + 9, kRule);  // after item 8
   const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
   EXPECT_EQ(Ranges(menu), (Pages{{1, 8}, {9, 11}}));
   EXPECT_TRUE(menu.Pages[0].Rules.empty());
@@ -118,7 +118,7 @@ TEST(MenuPages, ASeparatorBetweenTwoPagesDrawsNoRuleButMarksTheItem) {
 
 TEST(MenuPages, ASeparatorsGapCanPushAnItemToTheNextPage) {
   std::vector<MenuRecord> records = FileOf(20);
-  records.insert(records.begin() + 8, kSeparator);  // after item 7
+  records.insert(records.begin() + 8, kRule);  // after item 7
   const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
   EXPECT_EQ(menu.Pages[0].LastLabel, 7);
   EXPECT_TRUE(menu.Pages[0].Rules.empty());
@@ -126,8 +126,8 @@ TEST(MenuPages, ASeparatorsGapCanPushAnItemToTheNextPage) {
 
 TEST(MenuPages, RulesBelongToTheirPage) {
   std::vector<MenuRecord> records = FileOf(11);
-  records.insert(records.begin() + 11, kSeparator);  // after item 10
-  records.insert(records.begin() + 3, kSeparator);   // after item 2
+  records.insert(records.begin() + 11, kRule);  // after item 10
+  records.insert(records.begin() + 3, kRule);   // after item 2
   const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
   // The first page holds a separator and therefore one item less.
   EXPECT_EQ(Ranges(menu), (Pages{{1, 7}, {8, 11}}));
@@ -137,7 +137,7 @@ TEST(MenuPages, RulesBelongToTheirPage) {
 
 TEST(MenuPages, ASeparatorAfterTheLastItemOfAPagedMenuDrawsNoRule) {
   std::vector<MenuRecord> records = FileOf(11);
-  records.push_back(kSeparator);
+  records.push_back(kRule);
   const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
   ASSERT_EQ(menu.Slides, 1);
   EXPECT_TRUE(menu.Pages[1].Rules.empty());
@@ -188,9 +188,9 @@ void ForEveryMenu(const Check& check) {
   for (const SweepScene& sweep : {SweepScene{15, 195}, SweepScene{12, 192}, SweepScene{12, 156}}) {
     for (int items = 1; items <= 70; items += 6) {
       for (int every = 0; every <= 4; ++every) {
-        std::vector<MenuRecord> records{kHeader};
+        std::vector<MenuRecord> records{kFirstRecord};
         for (int i = 0; i < items; ++i) {
-          if (every != 0 && i % every == 0) records.push_back(kSeparator);
+          if (every != 0 && i % every == 0) records.push_back(kRule);
           records.push_back(kItem);
         }
         for (float pixels = 100; pixels <= 800; pixels += 89) {

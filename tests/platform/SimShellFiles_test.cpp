@@ -25,11 +25,11 @@ class SimulatedShellFiles final : public ContractShellFiles {
   sim::SimShellFiles shell_{disk_};
 };
 
-std::unique_ptr<ContractShellFiles> MakeSimulated() {
+std::unique_ptr<ContractShellFiles> MakeSimulatedFiles() {
   return std::make_unique<SimulatedShellFiles>();
 }
 
-INSTANTIATE_TEST_SUITE_P(Simulated, ShellFilesContract, testing::Values(MakeSimulated));
+INSTANTIATE_TEST_SUITE_P(Simulated, ShellFilesContract, testing::Values(MakeSimulatedFiles));
 
 /// Collects what the doubles complain of instead of failing.
 class Complaints {

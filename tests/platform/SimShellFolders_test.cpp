@@ -31,9 +31,11 @@ class SimulatedFolders final : public ContractFolders {
   std::string started_;
 };
 
-std::unique_ptr<ContractFolders> MakeSimulated() { return std::make_unique<SimulatedFolders>(); }
+std::unique_ptr<ContractFolders> MakeSimulatedFolders() {
+  return std::make_unique<SimulatedFolders>();
+}
 
-INSTANTIATE_TEST_SUITE_P(Simulated, ShellFoldersContract, testing::Values(MakeSimulated));
+INSTANTIATE_TEST_SUITE_P(Simulated, ShellFoldersContract, testing::Values(MakeSimulatedFolders));
 
 TEST(SimShellFolders, AMenuThatNobodyExpectedIsComplainedOf) {
   sim::SimFiles files;

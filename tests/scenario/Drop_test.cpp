@@ -6,8 +6,6 @@
 namespace corvelle::scenario {
 namespace {
 
-const Windows1252 kAnsi;
-
 /// A desk with two menus and another program's window, from which things are dragged.
 class Drop : public ::testing::Test {
  protected:
@@ -38,7 +36,7 @@ class Drop : public ::testing::Test {
     const std::string bytes = ReadMenu(number);
     std::vector<std::string> commands;
     for (std::size_t at = kRecordLength; at + kRecordLength <= bytes.size(); at += kRecordLength) {
-      commands.push_back(ParseRecord(std::string_view(bytes).substr(at), kAnsi).FName);
+      commands.push_back(ParseRecord(std::string_view(bytes).substr(at), Windows1252()).FName);
     }
     return commands;
   }

@@ -6,8 +6,6 @@
 namespace corvelle::scenario {
 namespace {
 
-const Windows1252 kAnsi;
-
 constexpr int kRunOnClick = 11;  // options
 constexpr int kLargeFloating = 25;
 
@@ -32,7 +30,7 @@ class Singles : public ::testing::Test {
 
   void Put(int number, const std::string& name) {
     desk_->WriteFile("Menus\\" + SingleFileName(number),
-                     FormatRecord(Witness(*desk_, name), kAnsi));
+                     FormatRecord(Witness(*desk_, name), Windows1252()));
   }
 
   /// The names on the disk in the order of the files, with a blank between.
@@ -40,7 +38,8 @@ class Singles : public ::testing::Test {
     std::string names;
     for (const std::string& file : desk_->Files("Menus")) {
       if (!file.ends_with(".BTN")) continue;
-      const MenuRecord record = ParseRecord(desk_->ReadFile("Menus\\" + file).value_or(""), kAnsi);
+      const MenuRecord record =
+          ParseRecord(desk_->ReadFile("Menus\\" + file).value_or(""), Windows1252());
       names += (names.empty() ? "" : " ") + record.FTitle;
     }
     return names;

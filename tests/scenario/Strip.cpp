@@ -8,8 +8,6 @@
 namespace corvelle::scenario {
 namespace {
 
-const Windows1252 kAnsi;
-
 // Even a single button upright is higher than it is wide: a line lies below it.
 bool IsUpright(const PixelRect& strip) { return strip.Height() > strip.Width(); }
 
@@ -31,8 +29,8 @@ bool StandsAtButton(const PixelRect& menu, const PixelRect& strip, PixelPoint mi
 
 std::string MenuBytes(std::string_view title, const std::vector<MenuRecord>& items) {
   std::string bytes =
-      FormatRecord({.FTitle = std::string(title), .FIcon = "\\icons\\folder.ico"}, kAnsi);
-  for (const MenuRecord& item : items) bytes += FormatRecord(item, kAnsi);
+      FormatRecord({.FTitle = std::string(title), .FIcon = "\\icons\\folder.ico"}, Windows1252());
+  for (const MenuRecord& item : items) bytes += FormatRecord(item, Windows1252());
   return bytes;
 }
 

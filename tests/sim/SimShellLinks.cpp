@@ -11,7 +11,7 @@ constexpr std::string_view kHead = "link of the simulated shell\n";
 constexpr std::string_view kEnd = "end\n";
 constexpr std::string_view kPathItem = "path:";
 constexpr std::string_view kFolderItem = "folder:";
-constexpr std::size_t kLongestPath = 259;
+constexpr std::size_t kLongestTarget = 259;
 constexpr std::size_t kLongestFile = 65536;
 
 // A field is its length, a colon, its bytes and a line end.
@@ -84,7 +84,7 @@ class SimShellLinks::Object final : public ShellLinkObject {
   ~Object() override { --shell_.alive_; }
 
   bool SetPath(std::string_view file) override {
-    if (!shell_.Enter("SetPath", file) || file.size() > kLongestPath) return false;
+    if (!shell_.Enter("SetPath", file) || file.size() > kLongestTarget) return false;
     link_.Path = file;
     link_.Item = file.empty() ? ItemIdList{} : ItemOf(file);
     return true;

@@ -12,7 +12,7 @@ namespace corvelle {
 namespace {
 
 constexpr char kMismatch[] = "Cannot delete/cut this item. Record mismatch.";
-constexpr char kQuestion[] =
+constexpr char kDeleteQuestion[] =
     "If you delete a button, you cannot Undo Delete. Do you want to continue ?";
 
 // ---- the popup itself ----
@@ -290,7 +290,7 @@ TEST(PopupOnTheStrip, ADiskThatTakesNoNewButtonSaysSo) {
 
 TEST(PopupOnAButton, DeleteAsksAndTakesTheButtonWithItsMenu) {
   PopupDesk desk;
-  desk.World.Desktop.Answer(kQuestion, forms::msgbox::AnswerYes);
+  desk.World.Desktop.Answer(kDeleteQuestion, forms::msgbox::AnswerYes);
   desk.RightClickButton(2, "Delete Item");
   EXPECT_EQ(desk.World.Desktop.Boxes().back().Flags & 0xFU, forms::msgbox::YesNo);
   EXPECT_EQ(desk.Strip.ButtonCount, 2);
@@ -303,7 +303,7 @@ TEST(PopupOnAButton, DeleteWithANoChangesNothing) {
   PopupDesk desk;
   desk.OpenMenuOf(2);
   desk.RightClickItem(1, "Delete Item");
-  desk.World.Desktop.Answer(kQuestion, forms::msgbox::AnswerNo);
+  desk.World.Desktop.Answer(kDeleteQuestion, forms::msgbox::AnswerNo);
   desk.RightClickButton(3, "Delete Item");
   EXPECT_EQ(desk.Strip.ButtonCount, 3);
   EXPECT_EQ(desk.Titles(2), "Others|Other|");

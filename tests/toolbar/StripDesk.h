@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <functional>
 #include <set>
 #include <string>
@@ -16,6 +17,14 @@
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
+
+/// Where the strip's place along the edge is kept, and what stands there for a place in twips.
+inline constexpr const char* kPositionFile = "C:\\Corvelle\\toolbarp.dat";
+inline std::string PositionBytes(float twips) {
+  std::string bytes(sizeof twips, '\0');
+  std::memcpy(bytes.data(), &twips, sizeof twips);
+  return bytes;
+}
 
 /// A menu window that notes what the strip asks of it and comes up as a plain box.
 class StandInMenu final : public forms::Form, public QMenuPort {

@@ -25,8 +25,8 @@ struct NotedWindow final : LoadedWindow {
   bool Loaded;
 };
 
-struct NotedProperties final : PropertiesPort {
-  NotedProperties(std::vector<std::string>& order, bool loaded = true)
+struct PropertiesInOrder final : PropertiesPort {
+  PropertiesInOrder(std::vector<std::string>& order, bool loaded = true)
       : Window("Properties", order, loaded) {}
   void LoadWindow() override { Window.LoadWindow(); }
   void UnloadWindow() override { Window.UnloadWindow(); }
@@ -56,7 +56,7 @@ TEST(CompanionEnd, UnloadsEveryWindowInItsOrderAndQuits) {
   Started desk;
   std::vector<std::string> order;
   NotedWindow netSearch("NetSearch", order);
-  NotedProperties properties(order);
+  PropertiesInOrder properties(order);
   NotedWindow customize("Customize", order);
   NotedWindow image("Image", order);
   NotedWindow library("Library", order);
@@ -86,7 +86,7 @@ TEST(CompanionEnd, UnloadsEveryWindowInItsOrderAndQuits) {
 TEST(CompanionEnd, LeavesWindowsAloneThatAreNotLoaded) {
   Started desk;
   std::vector<std::string> order;
-  NotedProperties properties(order, false);
+  PropertiesInOrder properties(order, false);
   desk.TheProgram.Ports.Properties = &properties;
   desk.Exit();
   EXPECT_TRUE(order.empty());

@@ -13,7 +13,7 @@ namespace {
 namespace message = forms::message;
 
 /// Docking that notes what it is asked and stands the strip nowhere.
-struct NotedDocking final : DockingPort {
+struct DockingWithEvents final : DockingPort {
   std::vector<std::string> Asked;
   bool Free = true;
   std::function<void()> WhileDocking;
@@ -50,7 +50,7 @@ struct DockingDesk : StripDesk {
   std::intptr_t Send(std::uint32_t what, std::uintptr_t wParam = 0, std::intptr_t lParam = 0) {
     return World.Desktop.Send(Strip.hWnd(), what, wParam, lParam);
   }
-  NotedDocking Docking;
+  DockingWithEvents Docking;
 };
 
 using Calls = std::vector<std::string>;

@@ -12,14 +12,6 @@ namespace {
 
 using forms::MouseButton;
 
-constexpr const char* kPositionFile = "C:\\Corvelle\\toolbarp.dat";
-
-std::string PositionBytes(float twips) {
-  std::string bytes(sizeof twips, '\0');
-  std::memcpy(bytes.data(), &twips, sizeof twips);
-  return bytes;
-}
-
 struct NotedPopup final : PopupPort {
   explicit NotedPopup(Program& program) : TheProgram(program) {}
   void ShowToolbarPopup() override { Tags.push_back(TheProgram.Entry.CurMenuTag); }

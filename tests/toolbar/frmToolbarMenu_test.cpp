@@ -12,14 +12,14 @@ namespace {
 using forms::MouseButton;
 
 /// A program's own menu that notes nothing.
-struct OwnMenu final : MainMenuPort {
+struct MainMenuDouble final : MainMenuPort {
   void xMainMenu(int, std::string_view) override {}
   void CheckLabels() override {}
 };
 
 /// A popup that notes the entry it was shown for.
-struct NotedPopup final : PopupPort {
-  explicit NotedPopup(Program& program) : TheProgram(program) {}
+struct PopupEntries final : PopupPort {
+  explicit PopupEntries(Program& program) : TheProgram(program) {}
   void ShowToolbarPopup() override { Shown.push_back(TheProgram.Entry); }
   Program& TheProgram;
   std::vector<EntryEdit> Shown;
@@ -413,7 +413,7 @@ TEST(ToolbarMainMenu, APressClosesTheMenuOfAnother) {
 
 TEST(ToolbarMainMenu, ItsFileIsWrittenAnewOnlyWhenTheMenuIsNotBuilt) {
   ThreeMenus desk;
-  OwnMenu own;
+  MainMenuDouble own;
   desk.TheProgram.Ports.MainMenu = &own;
   desk.Click(1);
   EXPECT_EQ(desk.Menu.CurrentKey(), "Q1");
@@ -531,7 +531,7 @@ TEST(ToolbarCarry, IsAbandonedWhenNoMouseButtonIsDown) {
 
 TEST(ToolbarPopup, ARightClickOnAButtonNamesItsRecord) {
   ThreeMenus desk;
-  NotedPopup popup(desk.TheProgram);
+  PopupEntries popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
   desk.Click(4);
   desk.PointAtButton(3);
@@ -547,7 +547,7 @@ TEST(ToolbarPopup, ARightClickOnAButtonNamesItsRecord) {
 
 TEST(ToolbarPopup, ItsButtonsMenuIsTheOneThatIsReadAnewWithoutATag) {
   ThreeMenus desk;
-  NotedPopup popup(desk.TheProgram);
+  PopupEntries popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
   desk.PointAtButton(3);
   desk.World.Desktop.Click(MouseButton::Right);
@@ -557,7 +557,7 @@ TEST(ToolbarPopup, ItsButtonsMenuIsTheOneThatIsReadAnewWithoutATag) {
 
 TEST(ToolbarPopup, TheMainButtonHasNoRecord) {
   ThreeMenus desk;
-  NotedPopup popup(desk.TheProgram);
+  PopupEntries popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
   desk.PointAtButton(1);
   desk.World.Desktop.Click(MouseButton::Right);
@@ -569,7 +569,7 @@ TEST(ToolbarPopup, TheMainButtonHasNoRecord) {
 
 TEST(ToolbarPopup, OfAButtonWhoseFileIsGoneHasEmptyTexts) {
   ThreeMenus desk;
-  NotedPopup popup(desk.TheProgram);
+  PopupEntries popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
   desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU002.MNU");
   desk.PointAtButton(3);

@@ -12,8 +12,8 @@ namespace {
 
 namespace message = forms::message;
 
-struct Started : StripDesk {
-  Started() {
+struct StripOfTwo : StripDesk {
+  StripOfTwo() {
     PutButtons(2);
     Start();
   }
@@ -42,7 +42,7 @@ TEST(ToolbarLoad, TheWindowIsTopmostUnlessOthersMayCoverIt) {
 }
 
 TEST(ToolbarLoad, TheWindowHasItsTagNoCaptionAndTheKeyboard) {
-  Started desk;
+  StripOfTwo desk;
   EXPECT_EQ(desk.Strip.Tag, "ToolbarWindow");
   EXPECT_EQ(desk.Strip.Caption(), "");
   EXPECT_EQ(desk.Strip.BackColor(), forms::color::ButtonFace);
@@ -62,7 +62,7 @@ TEST(ToolbarLoad, NothingOfItIsSeenBeforeItStands) {
 }
 
 TEST(ToolbarColours, AChangeDrawsTheButtonsAnewAndMovesNothing) {
-  Started desk;
+  StripOfTwo desk;
   const float left = desk.Strip.picToolbar.Left();
   const float width = desk.Strip.picToolbar.Width();
   const float singlesLeft = desk.Strip.picSingleButton.Left();
@@ -83,7 +83,7 @@ TEST(ToolbarColours, AChangeDrawsTheButtonsAnewAndMovesNothing) {
 }
 
 TEST(ToolbarColours, AnotherColourThanTheFaceDrawsNothingAnew) {
-  Started desk;
+  StripOfTwo desk;
   desk.World.Icons.ClearCounts();
   desk.World.Files.ClearLog();
   desk.Send(message::SysColorChange);
@@ -92,14 +92,14 @@ TEST(ToolbarColours, AnotherColourThanTheFaceDrawsNothingAnew) {
 }
 
 TEST(ToolbarColours, ARefreshKeepsABoxThatIsHidden) {
-  Started desk;
+  StripOfTwo desk;
   desk.Strip.picToolbar.SetVisible(false);
   desk.Strip.RefreshToolbar();
   EXPECT_FALSE(desk.Strip.picToolbar.Visible());
 }
 
 TEST(ToolbarRepaint, OfAStandingStripAsksForNoIcons) {
-  Started desk;
+  StripOfTwo desk;
   EXPECT_NE(desk.Strip.picToolbar.Background(), nullptr);
   desk.World.Icons.ClearCounts();
   desk.World.Files.ClearLog();
@@ -129,7 +129,7 @@ TEST(ToolbarIcons, TheIconOfAFileStandsInItsButton) {
 }
 
 TEST(ToolbarDisplay, AnotherScreenWidthEmptiesTheIconCollections) {
-  Started desk;
+  StripOfTwo desk;
   desk.Click(2);
   desk.Menu.Built.insert("F3");
   desk.World.Desktop.SetScreen({1280, 1024});
@@ -142,7 +142,7 @@ TEST(ToolbarDisplay, AnotherScreenWidthEmptiesTheIconCollections) {
 }
 
 TEST(ToolbarUnload, MarkedCollectionsAreEmptiedOnce) {
-  Started desk;
+  StripOfTwo desk;
   desk.Strip.CollectionsMarked = true;
   desk.Strip.InitNewButtons();
   desk.Strip.InitNewButtons();
@@ -150,7 +150,7 @@ TEST(ToolbarUnload, MarkedCollectionsAreEmptiedOnce) {
 }
 
 TEST(ToolbarMove, WhoeverMovesAFloatingStripItKeepsItsHeightOnTheScreen) {
-  Started desk;
+  StripOfTwo desk;
   desk.Strip.SetTop(3000);
   EXPECT_EQ(desk.Strip.Top(), -7 * 15);
   desk.Strip.SetLeft(1500);
@@ -167,7 +167,7 @@ TEST(ToolbarMove, IsLeftAloneWhileTheStripIsPlacedAnew) {
                       {"a restore", &Program::RestoreBusy}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
-    Started desk;
+    StripOfTwo desk;
     desk.TheProgram.*row.flag = true;
     desk.Strip.SetTop(3000);
     EXPECT_EQ(desk.Strip.Top(), 3000);
@@ -176,7 +176,7 @@ TEST(ToolbarMove, IsLeftAloneWhileTheStripIsPlacedAnew) {
 }
 
 TEST(ToolbarFullScreen, TheStripSinksBelowTheProgramAndComesBackWithTheMenuWindow) {
-  Started desk;
+  StripOfTwo desk;
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
   EXPECT_TRUE(desk.TheProgram.FullScreenApp);
@@ -190,7 +190,7 @@ TEST(ToolbarFullScreen, TheStripSinksBelowTheProgramAndComesBackWithTheMenuWindo
 }
 
 TEST(ToolbarFullScreen, WithOption4TheStripStaysAbove) {
-  Started desk;
+  StripOfTwo desk;
   desk.SetOption(4, true);
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
@@ -202,7 +202,7 @@ TEST(ToolbarFullScreen, WithOption4TheStripStaysAbove) {
 }
 
 TEST(ToolbarFullScreen, AStripThatOthersMayCoverDoesNothing) {
-  Started desk;
+  StripOfTwo desk;
   desk.TheProgram.NotOnTop = true;
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
@@ -211,7 +211,7 @@ TEST(ToolbarFullScreen, AStripThatOthersMayCoverDoesNothing) {
 }
 
 TEST(ToolbarGuard, AStripThatIsNotReadyOnlyNotesFullScreenPrograms) {
-  Started desk;
+  StripOfTwo desk;
   desk.TheProgram.ToolbarReady = false;
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
@@ -222,7 +222,7 @@ TEST(ToolbarGuard, AStripThatIsNotReadyOnlyNotesFullScreenPrograms) {
 }
 
 TEST(ToolbarGuard, AMinimizedStripThatIsPlacedAnewOnlyNotesFullScreenPrograms) {
-  Started desk;
+  StripOfTwo desk;
   desk.TheProgram.AppBarBusy = true;
   desk.TheProgram.ToolbarMinimized = true;
   desk.World.Desktop.ClearLog();
@@ -234,20 +234,20 @@ TEST(ToolbarGuard, AMinimizedStripThatIsPlacedAnewOnlyNotesFullScreenPrograms) {
 }
 
 TEST(ToolbarGuard, ACloseFromOutsideLeavesTheStripStanding) {
-  Started desk;
+  StripOfTwo desk;
   desk.Send(message::Close);
   EXPECT_TRUE(desk.Strip.IsLoaded());
   EXPECT_TRUE(desk.Strip.Visible());
 }
 
 TEST(ToolbarIdle, NothingWakesTheProgram) {
-  Started desk;
+  StripOfTwo desk;
   desk.Wait(1000);
   EXPECT_EQ(desk.WakeUps(10'000), 0);
 }
 
 TEST(ToolbarIdle, NothingWakesItAfterAMenuEither) {
-  Started desk;
+  StripOfTwo desk;
   desk.Click(2);
   desk.Wait(500);
   desk.Click(2);
@@ -260,7 +260,7 @@ TEST(ToolbarIdle, NothingWakesItAfterAMenuEither) {
 }
 
 TEST(ToolbarForeground, TheStripComesForwardFromAnotherProgramsTurn) {
-  Started desk;
+  StripOfTwo desk;
   const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
   desk.World.Desktop.TakeForeground(other);
   desk.World.Desktop.LockForeground(true);
@@ -271,7 +271,7 @@ TEST(ToolbarForeground, TheStripComesForwardFromAnotherProgramsTurn) {
 }
 
 TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromAnOpenMenu) {
-  Started desk;
+  StripOfTwo desk;
   desk.Strip.BringToForeground();
   desk.Click(2);
   desk.Wait(400);

@@ -15,7 +15,7 @@ namespace {
 using forms::msgbox::AnswerNo;
 using forms::msgbox::AnswerYes;
 
-constexpr const char* kQuestion =
+constexpr const char* kDefaultsQuestion =
     "Corvelle doesn't contain any entries. Would you like to add the default entries to Corvelle?";
 
 /// Default entries that are one menu file.
@@ -44,19 +44,11 @@ struct BusyStartup final : StartupPort {
   std::function<void()> Action;
 };
 
-std::string PositionBytes(float twips) {
-  std::string bytes(sizeof twips, '\0');
-  std::memcpy(bytes.data(), &twips, sizeof twips);
-  return bytes;
-}
-
-constexpr const char* kPositionFile = "C:\\Corvelle\\toolbarp.dat";
-
 TEST(ToolbarStart, MakesItsFoldersWhereTheyAreMissing) {
   StripDesk desk;
   desk.World.Files.Vanish("C:\\Corvelle\\Menus");
   desk.World.Files.Vanish("C:\\Corvelle\\Icons");
-  desk.World.Desktop.Answer(kQuestion, AnswerNo);
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerNo);
   desk.Start();
   EXPECT_TRUE(desk.World.Files.FolderExists("C:\\Corvelle\\Menus"));
   EXPECT_TRUE(desk.World.Files.FolderExists("C:\\Corvelle\\Icons"));
@@ -147,7 +139,7 @@ TEST(ToolbarStart, TheGripStandsOnTheWindowBetweenTheBoxes) {
 
 TEST(ToolbarStart, NoEntriesAndTheAnswerNoLeaveTheMainButtonAlone) {
   StripDesk desk;
-  desk.World.Desktop.Answer(kQuestion, AnswerNo);
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerNo);
   desk.Start();
   ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(desk.World.Desktop.Boxes()[0].Flags, 262180U);
@@ -160,7 +152,7 @@ TEST(ToolbarStart, NoEntriesAndTheAnswerYesBringTheDefaultEntries) {
   StripDesk desk;
   OneDefaultEntry entries(desk);
   desk.TheProgram.Ports.DefaultEntries = &entries;
-  desk.World.Desktop.Answer(kQuestion, AnswerYes);
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerYes);
   desk.Start();
   EXPECT_EQ(entries.Times, 1);
   EXPECT_EQ(desk.Strip.ButtonCount, 2);
@@ -327,7 +319,7 @@ TEST(ToolbarPosition, AnExitSavesThePlaceAndTheFlags) {
 TEST(ToolbarPosition, AnEndBeforeTheStripWasPlacedLeavesTheSavedPlace) {
   StripDesk desk;
   desk.World.Files.Put(kPositionFile, PositionBytes(3000));
-  desk.World.Desktop.Answer(kQuestion, AnswerNo);
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerNo);
   desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { desk.Strip.Unload(); });
   desk.Start();
   EXPECT_FALSE(desk.Strip.IsLoaded());
@@ -404,7 +396,7 @@ TEST(ToolbarBadInput, AMenusFolderThatCannotBeMadeLeavesTheMainButton) {
   desk.World.Files.Vanish("C:\\Corvelle\\Menus");
   // A file stands where the folder should be.
   desk.World.Files.Put("C:\\Corvelle\\Menus", "in the way");
-  desk.World.Desktop.Answer(kQuestion, AnswerNo);
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerNo);
   desk.Start();
   EXPECT_EQ(desk.ButtonFiles(), std::vector<std::string>{"QMenu"});
   EXPECT_TRUE(desk.Strip.Visible());
@@ -484,7 +476,7 @@ TEST(ToolbarRebuild, AnotherOneWithinARebuildWaitsForNothing) {
   desk.PutButtons(1);
   desk.Start();
   desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU001.MNU");
-  desk.World.Desktop.Answer(kQuestion, AnswerNo);
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerNo);
   // The question lets events through: a rebuild that arrives there must not start a second one.
   desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { desk.Strip.InitNewButtons(); });
   desk.Strip.InitNewButtons();
@@ -497,7 +489,7 @@ TEST(ToolbarRebuild, TheProgramMayEndWhileTheQuestionIsUp) {
   desk.PutButtons(1);
   desk.Start();
   desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU001.MNU");
-  desk.World.Desktop.Answer(kQuestion, AnswerYes);
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerYes);
   desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { desk.Exit(); });
   desk.Strip.InitNewButtons();
   EXPECT_FALSE(desk.Strip.IsLoaded());

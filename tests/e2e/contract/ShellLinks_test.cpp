@@ -6,6 +6,7 @@
 #include <ole2.h>
 #include <shlobj.h>
 
+#include "Com.h"
 #include "TempFolder.h"
 #include "platform/ShellLinksContract.h"
 #include "win32/ComPointer.h"
@@ -15,20 +16,6 @@ namespace corvelle {
 namespace {
 
 using win32::Wide;
-
-/// COM for this thread, before and after everything else of a test.
-class Com {
- public:
-  Com() : ready_(SUCCEEDED(OleInitialize(nullptr))) {}
-  Com(const Com&) = delete;
-  Com& operator=(const Com&) = delete;
-  ~Com() {
-    if (ready_) OleUninitialize();
-  }
-
- private:
-  bool ready_;
-};
 
 class RealLinks final : public ContractLinks {
  public:

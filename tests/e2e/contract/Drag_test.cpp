@@ -16,7 +16,7 @@ class OleScope {
   ~OleScope() { OleUninitialize(); }
 };
 
-class WindowsHome final : public DragHome {
+class WindowsDragHome final : public DragHome {
  public:
   WindowSystem& Windows() override { return home_.Windows(); }
   DesktopWindows& Desktop() override { return home_.Desktop(); }
@@ -43,7 +43,7 @@ class WindowsHome final : public DragHome {
 };
 
 INSTANTIATE_TEST_SUITE_P(Windows, DragContract,
-                         testing::Values([] { return std::make_unique<WindowsHome>(); }));
+                         testing::Values([] { return std::make_unique<WindowsDragHome>(); }));
 
 TEST(DropTarget, EndsWithItsWindowAndCanBeMadeAnew) {
   const OleScope ole;

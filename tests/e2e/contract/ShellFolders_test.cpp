@@ -9,6 +9,7 @@
 #include <atomic>
 #include <thread>
 
+#include "Com.h"
 #include "TempFolder.h"
 #include "platform/ShellFoldersContract.h"
 #include "win32/ComPointer.h"
@@ -22,20 +23,6 @@ namespace {
 
 using win32::Narrow;
 using win32::Wide;
-
-/// COM for this thread, before and after everything else of a test.
-class Com {
- public:
-  Com() : ready_(SUCCEEDED(OleInitialize(nullptr))) {}
-  Com(const Com&) = delete;
-  Com& operator=(const Com&) = delete;
-  ~Com() {
-    if (ready_) OleUninitialize();
-  }
-
- private:
-  bool ready_;
-};
 
 /// A window of this thread in the foreground, for the keys that a menu wants.
 class Front {
