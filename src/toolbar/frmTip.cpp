@@ -71,7 +71,7 @@ void frmTip::ShowTip(std::string_view title, std::string_view text, int field) {
 void frmTip::LayOut(std::string_view text) {
   const forms::ScreenInfo screen = program_.Windows.Screen();
   const float left = 2 * kTipMargin * kTwipsOfOne + kPicture * screen.TwipsPerPixelX;
-  const std::vector<std::string> lines =
+  std::vector<std::string> lines =
       WrapText(text, kTextWidth * kTwipsOfOne, [&](std::string_view line) {
         return static_cast<float>(program_.Windows.MeasureText(line, {}).width) *
                screen.TwipsPerPixelX;

@@ -180,7 +180,10 @@ void frmToolbar::Form_Activate() {
 void frmToolbar::Timer1_Timer() {
   if (focusRequested_) {
     focusRequested_ = false;
-    if (!MenuUp()) SetFocus();
+    // A menu or a notice that came up meanwhile keeps the keyboard.
+    const DesktopWindows& desktop = program_.Services.Desktop;
+    const WindowId active = desktop.ActiveWindow();
+    if (active == kNoWindow || active == hWnd() || !desktop.IsVisible(active)) SetFocus();
   }
   if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
       program_.PosChangeRunning || program_.ButtonDragging || program_.RestoreBusy) {

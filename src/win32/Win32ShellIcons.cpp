@@ -63,9 +63,16 @@ bool Win32ShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, P
   const Win32Canvas& target = AsWin32(canvas);
   const CanvasDc dc(target);
   if (!dc) return false;
-  const UINT blend = style == IconStyle::Blend25 ? ILD_BLEND25 : 0U;
-  return ImageList_Draw(icons, index, dc.Get(), at.x + target.Origin().x, at.y + target.Origin().y,
-                        ILD_TRANSPARENT | blend) != 0;
+  const UINT flags = ILD_TRANSPARENT | (style == IconStyle::Blend25 ? ILD_BLEND25 : 0U);
+  const int x = at.x + target.Origin().x;
+  const int y = at.y + target.Origin().y;
+  if (list == IconList::Large || IconWidth(list) == kSmallIconSize) {
+    return ImageList_Draw(icons, index, dc.Get(), x, y, flags) != 0;
+  }
+  // On a screen of another scale the list has larger ones.
+  const UniqueIcon icon(ImageList_GetIcon(icons, index, flags));
+  return icon && DrawIconEx(dc.Get(), x, y, icon.Get(), kSmallIconSize, kSmallIconSize, 0, nullptr,
+                            DI_NORMAL) != 0;
 }
 
 bool Win32ShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "base/CodePage.h"
+#include "core/MenuRecord.h"
 #include "e2e/WineDesk.h"
 #include "scenario/Strip.h"
 
@@ -90,6 +92,28 @@ TEST(Strip, ShowsTheIconsOfItsButtonsAndOfTheMenu) {
   EXPECT_GT(desk.ColoursIn("frmQMenu", {3, 6, 18, 21}), 5);
   EXPECT_EQ(desk.ColoursIn("frmQMenu", {3, 27, 18, 40}), 1);
   desk.Picture("icons");
+}
+
+TEST(SmallIconsAtEachScale, OfTwoRowsStandApart) {
+  WineDesk desk;
+  // Large icons and small single buttons, also in a floating strip.
+  desk.WriteFile(kFlagsFile, InstalledFlags({25}));
+  desk.WriteFile(scenario::kPositionFile,
+                 scenario::PositionBytes(static_cast<float>(300 * desk.TwipsPerPixel())));
+  WriteMenu(desk, 1, "One", {{.FTitle = "Program", .FIcon = "", .FName = desk.WitnessProgram()}});
+  const Windows1252 ansi;
+  for (int single = 1; single <= 4; ++single) {
+    desk.WriteFile("Menus\\" + SingleFileName(single),
+                   FormatRecord({"Wide", "\\icons\\Explorer.ico", desk.WitnessProgram()}, ansi));
+  }
+  desk.MovePointer(scenario::FarAway(desk));
+  ASSERT_TRUE(StartAndWait(desk));
+  desk.Picture("two-rows");
+  // The first column of icons, the two pixels behind it, the second.
+  const int height = desk.BoundsOf("picSingleButton").Height();
+  EXPECT_GT(desk.ColoursIn("picSingleButton", {5, 0, 21, height}), 5);
+  EXPECT_EQ(desk.ColoursIn("picSingleButton", {21, 0, 23, height}), 1);
+  EXPECT_GT(desk.ColoursIn("picSingleButton", {23, 0, 39, height}), 5);
 }
 
 TEST(Strip, GivesWayToAFullScreenProgramAndComesBackOnTop) {
