@@ -76,6 +76,8 @@ void frmTip::LayOut(std::string_view text) {
         return static_cast<float>(program_.Windows.MeasureText(line, {}).width) *
                screen.TwipsPerPixelX;
       });
+  // What follows has its own distance.
+  while (!lines.empty() && lines.back().empty()) lines.pop_back();
   lblTitle.Move(left, kTipMargin * kTwipsOfOne, lblTitle.Width(), lblTitle.Height());
   float bottom = lblTitle.Bottom() + kSpacing * kTwipsOfOne / 2;
   float right = std::max(lblTitle.Right(), left + kTextWidth * kTwipsOfOne);

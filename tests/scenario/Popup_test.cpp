@@ -48,6 +48,9 @@ class RightClick : public ::testing::Test {
 
   /// A right click, and the choice in the popup that comes up.
   void ChooseAt(PixelPoint at, std::string_view choice) {
+    // A hand moves before it presses, also where it is already.
+    desk_->MovePointer({at.x + 4, at.y});
+    desk_->Pause(50);
     desk_->MovePointer(at);
     desk_->Pause(200);
     desk_->ChooseFromPopup(choice);
