@@ -46,7 +46,7 @@ void frmStartup::Form_Load() {
   const float height = kPictureTop + kRoomBelow;
   Move((screen.Width - kWidth) / 2, screen.Height / 2 - height, kWidth, height);
 
-  Image1.Move(kMargin, (height - picture * screen.TwipsPerPixelY) / 2,
+  Image1.Move(kMargin, (ScaleHeight() - picture * screen.TwipsPerPixelY) / 2,
               picture * screen.TwipsPerPixelX, picture * screen.TwipsPerPixelY);
   Image1.SetPicture(FilePicture(program_, program_.AppPath + "corvelle.exe"));
   Label1.SetCaption("");

@@ -76,7 +76,6 @@ TEST(StartupWindow, ShowsTheProgramsIconWhereItHasOne) {
   desk.TheProgram.ShowStartupProgress();
   ASSERT_NE(desk.Window.Image1.Source(), nullptr);
   EXPECT_EQ(desk.Window.Image1.Source()->Size(), (PixelSize{32, 32}));
-  // What the icon leaves out is the window's own colour, so that a soft edge has no fringe.
   EXPECT_EQ(desk.Window.Image1.Top(),
             (desk.Window.ScaleHeight() - desk.Window.Image1.Height()) / 2);
   StartupDesk bare;
