@@ -30,7 +30,7 @@ std::optional<EditOutcome> Obstacle(FileSystem& files, std::string_view path, st
   // To ask a missing file for its records would create it.
   if (!files.FileExists(path)) return EditOutcome::NothingToDo;
   const FileResult<int> count = CountRecords(files, path);
-  if (!count) return EditOutcome::Failed;
+  if (!count) return EditOutcome::Refused(count.Error());
   const auto room = static_cast<std::size_t>(kMaxRecords - *count);
   if (*count < 1 || more > room) return EditOutcome::NothingToDo;
   return std::nullopt;

@@ -20,13 +20,16 @@ bool ConfirmsButtonDelete(Program& program) {
                      forms::msgbox::YesNo | forms::msgbox::OnTop) == forms::msgbox::AnswerYes;
 }
 
-// The row of single buttons is rewritten as a whole, by whoever owns it.
+// The row of single buttons is rewritten as a whole, by whoever owns it, and read anew whatever
+// came of it.
 template <class Edit>
-void EditSingles(Program& program, const Edit& edit) {
+EditOutcome EditSingles(Program& program, const Edit& edit) {
+  if (program.Ports.SingleButtons == nullptr) return EditOutcome::NothingToDo;
   const float freeWidth = FreeWidth(program);
-  if (program.Ports.SingleButtons != nullptr) edit(*program.Ports.SingleButtons);
+  const FileStatus edited = edit(*program.Ports.SingleButtons);
   if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->DoSingleButtons();
   ResizeStrip(program, freeWidth);
+  return OutcomeOf(edited);
 }
 
 EditOutcome DeleteButton(Program& program) {
@@ -73,8 +76,8 @@ EditOutcome DeleteItem(Program& program, bool skipConfirm) {
   const bool ask = !program.Entry.ItemDragging && !skipConfirm && IsButtonTag(tag);
   if (ask && !ConfirmsButtonDelete(program)) return EditOutcome::NothingToDo;
   if (IsSinglesTag(tag)) {
-    EditSingles(program, [&](SingleButtonsPort& row) { row.DeleteSingle(program.Entry.CurFile); });
-    return EditOutcome::Edited;
+    return EditSingles(
+        program, [&](SingleButtonsPort& row) { return row.DeleteSingle(program.Entry.CurFile); });
   }
   if (IsButtonTag(tag)) return DeleteButton(program);
   if (IsMenuTag(tag)) return DeleteMenuItem(program);
@@ -84,8 +87,8 @@ EditOutcome DeleteItem(Program& program, bool skipConfirm) {
 EditOutcome PasteItem(Program& program) {
   program.Entry.UndoMenuTag.clear();
   if (IsSinglesTag(program.Entry.CurMenuTag)) {
-    EditSingles(program, [&](SingleButtonsPort& row) { row.PasteSingle(program.Entry.CurFile); });
-    return EditOutcome::Edited;
+    return EditSingles(
+        program, [&](SingleButtonsPort& row) { return row.PasteSingle(program.Entry.CurFile); });
   }
   const EditOutcome outcome = PasteMenuEntry(program.Services.Files, program.Services.Ansi,
                                              program.MenusPath, program.Entry);
@@ -114,18 +117,20 @@ bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bo
   return true;
 }
 
+// A disk that refuses now may take the entry a moment later: it is not given up.
 EditOutcome UndoDeleteItem(Program& program) {
   if (IsSinglesTag(program.Entry.UndoMenuTag)) {
-    EditSingles(program, [&](SingleButtonsPort& row) { row.UndoDeleteSB(program.Entry.UndoFile); });
+    const EditOutcome outcome = EditSingles(
+        program, [&](SingleButtonsPort& row) { return row.UndoDeleteSB(program.Entry.UndoFile); });
+    if (outcome == EditOutcome::Failed) return outcome;
     if (program.Ports.Toolbar != nullptr) {
       program.Ports.Toolbar->RefreshMenu(program.Entry.UndoMenuTag);
     }
     program.Entry.UndoMenuTag.clear();
-    return EditOutcome::Edited;
+    return outcome;
   }
   const EditOutcome outcome = UndoDeleteMenuEntry(program.Services.Files, program.Services.Ansi,
                                                   program.MenusPath, program.Entry);
-  // A disk that refuses now may take it a moment later: the entry is not given up.
   if (outcome == EditOutcome::Failed) return outcome;
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program);
   program.Entry.UndoMenuTag.clear();

@@ -26,11 +26,11 @@ bool IsCurrentEntry(const EntryEdit& edit, const MenuRecord& record) {
 /// Edited if the current file still holds the current entry at its place; else why it does not.
 EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
   const FileResult<int> count = CountRecords(files, edit.CurFile);
-  if (!count) return EditOutcome::Failed;
+  if (!count) return EditOutcome::Refused(count.Error());
   // A place that the file does not have reads as a blank entry, which is not the one meant.
   if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
-  if (!record) return EditOutcome::Failed;
+  if (!record) return EditOutcome::Refused(record.Error());
   return IsCurrentEntry(edit, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
 }
 
@@ -51,10 +51,10 @@ FileResult<int> PlaceInFile(FileSystem& files, const DropPlace& place) {
 EditOutcome ChangeCommand(FileSystem& files, const CodePage& ansi, const EntryEdit& edit,
                           int number, std::string (*change)(std::string_view)) {
   const FileResult<int> count = CountRecords(files, edit.CurFile);
-  if (!count) return EditOutcome::Failed;
+  if (!count) return EditOutcome::Refused(count.Error());
   if (number < 1 || number > *count) return EditOutcome::NothingToDo;
   FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, number);
-  if (!record) return EditOutcome::Failed;
+  if (!record) return EditOutcome::Refused(record.Error());
   record->FName = change(record->FName);
   return OutcomeOf(WriteRecord(files, ansi, edit.CurFile, number, *record));
 }
@@ -62,7 +62,7 @@ EditOutcome ChangeCommand(FileSystem& files, const CodePage& ansi, const EntryEd
 }  // namespace
 
 EditOutcome OutcomeOf(const FileStatus& status) noexcept {
-  return status ? EditOutcome::Edited : EditOutcome::Failed;
+  return status ? EditOutcome::Edited : EditOutcome::Refused(status.Error());
 }
 
 bool IsButtonTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "B"); }
@@ -91,7 +91,7 @@ EditOutcome DeleteButtonFile(FileSystem& files, const EntryEdit& edit) {
 EditOutcome PasteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                            const EntryEdit& edit) {
   const FileResult<std::uint64_t> length = files.Length(edit.CurFile);
-  if (!length) return EditOutcome::Failed;
+  if (!length) return EditOutcome::Refused(length.Error());
   const int place = RealRecord(edit.CurRecord);
   if (place < 1 || place > RecordCount(*length)) return EditOutcome::NothingToDo;
   const std::string record = FormatRecord(ClipboardRecord(edit), ansi);
@@ -121,7 +121,7 @@ EditOutcome MoveMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
     return EditOutcome::NothingToDo;
   }
   const FileResult<int> before = PlaceInFile(files, place);
-  if (!before) return EditOutcome::Failed;
+  if (!before) return EditOutcome::Refused(before.Error());
   if (*before == kNoPlace) return EditOutcome::NothingToDo;
   const EditOutcome still = FindCurrentEntry(files, ansi, edit);
   if (still != EditOutcome::Edited) return still;
@@ -133,7 +133,7 @@ EditOutcome MoveMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
 EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                           const EntryEdit& edit, const DropPlace& place) {
   const FileResult<int> before = PlaceInFile(files, place);
-  if (!before) return EditOutcome::Failed;
+  if (!before) return EditOutcome::Refused(before.Error());
   if (*before == kNoPlace) return EditOutcome::NothingToDo;
   const std::string record = FormatRecord({edit.CurTitle, edit.CurIcon, edit.CurCommand}, ansi);
   return OutcomeOf(RewriteMenuFile(files, menusPath, place.File, [&](std::string records) {
@@ -190,7 +190,7 @@ EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryE
   const int place = RealRecord(edit.CurRecord) - 1;
   if (place < 1) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, place);
-  if (!record) return EditOutcome::Failed;
+  if (!record) return EditOutcome::Refused(record.Error());
   // The rule above a generated entry can be a generated one too, and what stands in the file before
   // its folder item is then no separator.
   if (!IsSeparatorIcon(record->FIcon)) return EditOutcome::RecordMismatch;

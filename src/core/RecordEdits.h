@@ -35,13 +35,42 @@ struct EntryEdit {
   friend bool operator==(const EntryEdit&, const EntryEdit&) = default;
 };
 
-/// What an edit came to.
-enum class EditOutcome {
-  Edited,          // the file is changed
-  NothingToDo,     // there is no such place, or no edit for such an entry; the file is untouched
-  RecordMismatch,  // the file does not hold the entry any more; the file is untouched
-  Failed,          // the disk refused; the file is what it was
+/// What an edit came to, and what the disk answered where it refused.
+class EditOutcome {
+ public:
+  static const EditOutcome Edited;          // the file is changed
+  static const EditOutcome NothingToDo;     // there is no such place, or no edit for such an entry;
+                                            // the file is untouched
+  static const EditOutcome RecordMismatch;  // the file does not hold the entry any more; the file
+                                            // is untouched
+  static const EditOutcome Failed;          // the disk refused; the file is what it was
+
+  /// The disk refused with this answer.
+  [[nodiscard]] static constexpr EditOutcome Refused(FileError reason) noexcept {
+    return {Kind::Failed, reason};
+  }
+
+  /// What the disk answered; of one that did not fail it says nothing.
+  [[nodiscard]] constexpr FileError Reason() const noexcept { return reason_; }
+
+  /// Two that came to the same are equal, whatever the disk's reason.
+  friend constexpr bool operator==(const EditOutcome& a, const EditOutcome& b) noexcept {
+    return a.kind_ == b.kind_;
+  }
+
+ private:
+  enum class Kind { Edited, NothingToDo, RecordMismatch, Failed };
+
+  constexpr EditOutcome(Kind kind, FileError reason) noexcept : kind_(kind), reason_(reason) {}
+
+  Kind kind_;
+  FileError reason_;
 };
+
+inline constexpr EditOutcome EditOutcome::Edited{Kind::Edited, FileError::Failed};
+inline constexpr EditOutcome EditOutcome::NothingToDo{Kind::NothingToDo, FileError::Failed};
+inline constexpr EditOutcome EditOutcome::RecordMismatch{Kind::RecordMismatch, FileError::Failed};
+inline constexpr EditOutcome EditOutcome::Failed{Kind::Failed, FileError::Failed};
 
 /// What a step on the disk came to.
 [[nodiscard]] EditOutcome OutcomeOf(const FileStatus& status) noexcept;

@@ -8,6 +8,7 @@
 #include "base/Twips.h"
 #include "core/CommandPorts.h"
 #include "forms/Types.h"
+#include "platform/FileSystem.h"
 #include "platform/WindowId.h"
 
 namespace corvelle {
@@ -263,13 +264,15 @@ class SingleButtonsPort {
   /// Drops the carried entry at the pointer's place in the row; the right button copies.
   virtual void DoItemDrag(forms::MouseButton released) = 0;
 
+  // A disk that refuses leaves the files as they were.
+
   /// Rewrites the files without the button of `file`.
-  virtual void DeleteSingle(std::string_view file) = 0;
+  virtual FileStatus DeleteSingle(std::string_view file) = 0;
   /// Rewrites the files with the clipboard's entry before the button of `file`; behind the last
   /// button when it is empty.
-  virtual void PasteSingle(std::string_view file) = 0;
+  virtual FileStatus PasteSingle(std::string_view file) = 0;
   /// Rewrites the files with the undo entry back in its place.
-  virtual void UndoDeleteSB(std::string_view file) = 0;
+  virtual FileStatus UndoDeleteSB(std::string_view file) = 0;
 
   /// Files dropped by another program at the pointer's place become buttons there; with the right
   /// button on a button its command opens the first of them instead.

@@ -31,15 +31,25 @@ Description Describe(FileError error) noexcept {
   return {57, "Device I/O error"};
 }
 
+constexpr Description kNoFolder = {76, "Path not found"};
+
+std::string Numbered(const Description& description) {
+  return std::to_string(description.Number) + " - " + std::string(description.Text);
+}
+
 }  // namespace
 
 std::string FileErrorDescription(FileError error) { return std::string(Describe(error).Text); }
 
 std::string FileErrorText(FileError error) { return "Error: " + NumberedFileError(error); }
 
-std::string NumberedFileError(FileError error) {
-  const Description description = Describe(error);
-  return std::to_string(description.Number) + " - " + std::string(description.Text);
+std::string NumberedFileError(FileError error) { return Numbered(Describe(error)); }
+
+std::string NumberedFileError(FileSystem& files, std::string_view path, FileError error) {
+  const std::size_t slash = path.rfind('\\');
+  const bool noFolder = error == FileError::NotFound && slash != std::string_view::npos &&
+                        !files.FolderExists(path.substr(0, slash + 1));
+  return noFolder ? Numbered(kNoFolder) : NumberedFileError(error);
 }
 
 }  // namespace corvelle

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/FileSystem.h"
 
@@ -13,5 +14,9 @@ namespace corvelle {
 
 /// The same without its first word.
 [[nodiscard]] std::string NumberedFileError(FileError error);
+/// The same for what failed with the file of that full path: a folder that is missing on the way to
+/// it is told from a missing file.
+[[nodiscard]] std::string NumberedFileError(FileSystem& files, std::string_view path,
+                                            FileError error);
 
 }  // namespace corvelle

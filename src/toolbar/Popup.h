@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/RecordEdits.h"
@@ -65,7 +66,7 @@ class Popup final : public PopupPort {
   void Insert(const MenuRecord& record);
   void AfterFolderEdit(EditOutcome outcome);
   void Settle(EditOutcome outcome);
-  void ShowError(FileError error);
+  void ShowError(std::string_view path, FileError error);
 
   Program& program_;
   bool busy_ = false;

@@ -40,14 +40,14 @@ void Popup::mnuItem_Click(int index) {
   if (command != nullptr) (this->*command)();
 }
 
-void Popup::ShowError(FileError error) {
-  program_.Say(program_.ToolbarWindow(), NumberedFileError(error),
+void Popup::ShowError(std::string_view path, FileError error) {
+  program_.Say(program_.ToolbarWindow(), NumberedFileError(program_.Services.Files, path, error),
                forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
 // A disk that refused has left the file as it was; the user learns that nothing was done.
 void Popup::Settle(EditOutcome outcome) {
-  if (outcome == EditOutcome::Failed) ShowError(FileError::Failed);
+  if (outcome == EditOutcome::Failed) ShowError(program_.Entry.CurFile, outcome.Reason());
 }
 
 void Popup::ShowIconLibrary() {
@@ -184,7 +184,7 @@ void Popup::ShowFolderProperties() {
   const FileResult<MenuRecord> record =
       ReadRecord(program_.Services.Files, program_.Services.Ansi, entry.CurFile, number);
   if (!record) {
-    ShowError(record.Error());
+    ShowError(entry.CurFile, record.Error());
     return;
   }
   entry.CurRecord = number;

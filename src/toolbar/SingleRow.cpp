@@ -7,7 +7,7 @@
 #include "core/Program.h"
 #include "icons/IconResolution.h"
 #include "platform/FileSystem.h"
-#include "toolbar/StripLayout.h"
+#include "platform/ShellIcons.h"
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
@@ -53,7 +53,7 @@ SingleScene SingleRow::Scene() const {
   return {.Scale = strip_.Scale(),
           .At = strip_.AtEdge(),
           .TwoRows = twoRows,
-          .IconSize = twoRows ? kSmallIcon : program_.IconSize,
+          .IconSize = twoRows ? kSmallIconSize : program_.IconSize,
           .Template = {button.Width, button.Height}};
 }
 

@@ -60,12 +60,12 @@ class SingleRow final : public SingleButtonsPort {
 
   void DoItemDrag(forms::MouseButton released) override;
   void DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) override;
-  void DeleteSingle(std::string_view file) override { DeletePasteSB(file, kDelete); }
-  void PasteSingle(std::string_view file) override { DeletePasteSB(file, kPaste); }
-  void UndoDeleteSB(std::string_view file) override;
+  FileStatus DeleteSingle(std::string_view file) override { return DeletePasteSB(file, kDelete); }
+  FileStatus PasteSingle(std::string_view file) override { return DeletePasteSB(file, kPaste); }
+  FileStatus UndoDeleteSB(std::string_view file) override;
   /// Rewrites the files without the button of `file`, or with the clipboard's entry before it.
-  /// Whoever calls it reads the row anew.
-  void DeletePasteSB(std::string_view file, int action);
+  /// Whoever calls it reads the row anew. A disk that refuses leaves the row as it was.
+  FileStatus DeletePasteSB(std::string_view file, int action);
 
   static constexpr int kDelete = 0;
   static constexpr int kPaste = 1;

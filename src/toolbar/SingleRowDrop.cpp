@@ -22,26 +22,21 @@ MenuRecord CarriedRecord(const EntryEdit& carried) {
 
 }  // namespace
 
-// A disk that refuses leaves the row as it was, and the user sees that.
-void SingleRow::DeletePasteSB(std::string_view file, int action) {
+FileStatus SingleRow::DeletePasteSB(std::string_view file, int action) {
   strip_.Timer2.SetEnabled(false);
   FileSystem& files = program_.Services.Files;
-  if (action == kDelete) {
-    static_cast<void>(DeleteSingleFile(files, program_.MenusPath, file));
-    return;
-  }
+  if (action == kDelete) return DeleteSingleFile(files, program_.MenusPath, file);
   const EntryEdit& entry = program_.Entry;
-  static_cast<void>(PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, file,
-                                    {entry.ClipTitle, entry.ClipIcon, entry.ClipCommand}));
+  return PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, file,
+                         {entry.ClipTitle, entry.ClipIcon, entry.ClipCommand});
 }
 
-void SingleRow::UndoDeleteSB(std::string_view file) {
+FileStatus SingleRow::UndoDeleteSB(std::string_view file) {
   strip_.Timer2.SetEnabled(false);
-  if (file.empty()) return;
+  if (file.empty()) return FileError::BadName;
   const EntryEdit& entry = program_.Entry;
-  static_cast<void>(UndoDeleteSingleFile(program_.Services.Files, program_.Services.Ansi,
-                                         program_.MenusPath, file,
-                                         {entry.UndoTitle, entry.UndoIcon, entry.UndoCommand}));
+  return UndoDeleteSingleFile(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
+                              file, {entry.UndoTitle, entry.UndoIcon, entry.UndoCommand});
 }
 
 void SingleRow::DoItemDrag(forms::MouseButton released) {

@@ -8,6 +8,7 @@
 #include "base/Edge.h"
 #include "base/Geometry.h"
 #include "base/Twips.h"
+#include "platform/ShellIcons.h"
 
 namespace corvelle {
 
@@ -42,12 +43,9 @@ struct StripScale {
   float TwipsY = 15;
 };
 
-/// The side of a small icon, in pixels.
-inline constexpr int kSmallIcon = 16;
-
 struct TemplateScene {
-  bool LargeIcons = false;    // option 26
-  int IconSize = kSmallIcon;  // pixels
+  bool LargeIcons = false;        // option 26
+  int IconSize = kSmallIconSize;  // pixels
   float TwipsX = 15;
   float TwipsY = 15;
   int CaptionHeight = 25;  // SM_CYCAPTION in pixels, 0 when the system does not tell
@@ -109,7 +107,7 @@ struct StripContents {
 
 struct IconScene {
   TwipRect Button;
-  int IconSize = kSmallIcon;  // pixels
+  int IconSize = kSmallIconSize;  // pixels
   float TwipsX = 15;
   float TwipsY = 15;
   Placement Where = Placement::TopHugging;

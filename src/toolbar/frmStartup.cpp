@@ -10,18 +10,19 @@
 namespace corvelle {
 namespace {
 
-constexpr int kPictureSize = 32;         // pixels
-constexpr Rgb kMaskColour = 0x00FF00FF;  // pixels that the picture leaves out
+constexpr int kPictureSize = 32;  // pixels
+constexpr int kFaceColour = 15;   // of the system's colours: the window's own
 constexpr std::size_t kMostDots = 50;
 constexpr float kWidth = 5000;
 constexpr float kPictureTop = 600;  // before the window has its height
 constexpr float kRoomBelow = 360;
 constexpr float kMargin = 120;
 
-// The first icon of a file; empty when it has none to show.
+// The first icon of a file on the window's colour, as its edge may be half transparent; empty when
+// it has none to show.
 Picture FilePicture(Program& program, std::string_view file) {
   std::unique_ptr<Canvas> canvas = program.Windows.CreateCanvas({kPictureSize, kPictureSize});
-  canvas->FillBox({0, 0, kPictureSize, kPictureSize}, kMaskColour);
+  canvas->FillBox({0, 0, kPictureSize, kPictureSize}, program.Windows.SystemColor(kFaceColour));
   if (!program.Services.Icons.DrawFileIcon(*canvas, file, 0, {0, 0}, kPictureSize)) return {};
   return Picture(std::move(canvas));
 }
@@ -29,7 +30,7 @@ Picture FilePicture(Program& program, std::string_view file) {
 }  // namespace
 
 frmStartup::frmStartup(Program& program)
-    : Form(program.Windows, "frmStartup"),
+    : Form(program.Windows, "frmStartup", forms::BorderStyle::Raised),
       Label2(*this, "Label2"),
       Image1(*this, "Image1"),
       Label1(*this, "Label1"),
@@ -45,7 +46,7 @@ void frmStartup::Form_Load() {
   const float height = kPictureTop + kRoomBelow;
   Move((screen.Width - kWidth) / 2, screen.Height / 2 - height, kWidth, height);
 
-  Image1.Move(kMargin, (height - picture * screen.TwipsPerPixelY) / 2,
+  Image1.Move(kMargin, (ScaleHeight() - picture * screen.TwipsPerPixelY) / 2,
               picture * screen.TwipsPerPixelX, picture * screen.TwipsPerPixelY);
   Image1.SetPicture(FilePicture(program_, program_.AppPath + "corvelle.exe"));
   Label1.SetCaption("");

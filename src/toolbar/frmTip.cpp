@@ -71,11 +71,13 @@ void frmTip::ShowTip(std::string_view title, std::string_view text, int field) {
 void frmTip::LayOut(std::string_view text) {
   const forms::ScreenInfo screen = program_.Windows.Screen();
   const float left = 2 * kTipMargin * kTwipsOfOne + kPicture * screen.TwipsPerPixelX;
-  const std::vector<std::string> lines =
+  std::vector<std::string> lines =
       WrapText(text, kTextWidth * kTwipsOfOne, [&](std::string_view line) {
         return static_cast<float>(program_.Windows.MeasureText(line, {}).width) *
                screen.TwipsPerPixelX;
       });
+  // What follows has its own distance.
+  while (!lines.empty() && lines.back().empty()) lines.pop_back();
   lblTitle.Move(left, kTipMargin * kTwipsOfOne, lblTitle.Width(), lblTitle.Height());
   float bottom = lblTitle.Bottom() + kSpacing * kTwipsOfOne / 2;
   float right = std::max(lblTitle.Right(), left + kTextWidth * kTwipsOfOne);

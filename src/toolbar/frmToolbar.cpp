@@ -263,7 +263,7 @@ void frmToolbar::ReadTwips() {
 }
 
 void frmToolbar::ChooseIconSize() {
-  program_.IconSize = kSmallIcon;
+  program_.IconSize = kSmallIconSize;
   if (!program_.OptionFlags.Is(26)) return;
   const int large = program_.Services.Icons.IconWidth(IconList::Large);
   program_.IconSize = large != 0 ? large : kLargeIcon;

@@ -126,11 +126,21 @@ void frmToolbar::RefreshToolbarButtons() {
 
 void frmToolbar::RefreshToolbar() {
   const bool visible = picToolbar.Visible();
+  const float freeWidth = FreeWidth();
+  const int buttons = ButtonCount;
+  const int separators = SepCount;
   RefreshToolbarButtons();
+  // Other buttons than those there were: they need other places.
+  const bool others = visible && (ButtonCount != buttons || SepCount != separators);
+  if (others) DoToolbarButtons();
   picToolbar.SetVisible(visible);
   picToolbar.Refresh();
   Singles.RefreshSingleButtons();
   picSingleButton.Refresh();
+  if (others) {
+    ResizeAfterEdit(freeWidth);
+    return;
+  }
   DrawBorders();
   InvalidateAll();
   Refresh();

@@ -6,6 +6,7 @@
 #include "platform/AppBars.h"
 #include "platform/DesktopWindows.h"
 #include "platform/SystemInfo.h"
+#include "toolbar/HintPlace.h"
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
@@ -16,7 +17,6 @@ constexpr std::uintptr_t kPositionChanged = 1;
 constexpr std::uintptr_t kFullScreenProgram = 2;
 
 constexpr int kButtonFaceIndex = 15;
-constexpr int kNoHints = 22;  // option
 
 }  // namespace
 
@@ -114,7 +114,7 @@ void frmToolbar::FullScreenNotify(std::intptr_t entering) {
     if (program_.Ports.QMenu != nullptr) {
       program_.Ports.QMenu->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
     }
-    if (program_.Ports.Hint != nullptr && !program_.OptionFlags.Is(kNoHints)) {
+    if (program_.Ports.Hint != nullptr && !program_.OptionFlags.Is(kDisablesHints)) {
       program_.Ports.Hint->SetHintLevel(forms::InsertAfter::Topmost, forms::swp::Hide);
     }
   }
@@ -191,7 +191,10 @@ void frmToolbar::Form_Activate() {
 void frmToolbar::Timer1_Timer() {
   if (focusRequested_) {
     focusRequested_ = false;
-    if (!MenuUp()) SetFocus();
+    // A menu or a notice that came up meanwhile keeps the keyboard.
+    const DesktopWindows& desktop = program_.Services.Desktop;
+    const WindowId active = desktop.ActiveWindow();
+    if (active == kNoWindow || active == hWnd() || !desktop.IsVisible(active)) SetFocus();
   }
   if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
       program_.PosChangeRunning || program_.ButtonDragging || program_.RestoreBusy) {

@@ -14,7 +14,8 @@ void frmToolbar::AddNewButton() {
   const auto path =
       CreateButtonFile(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
   if (!path) {
-    program_.Say(hWnd(), NumberedFileError(path.Error()),
+    program_.Say(hWnd(),
+                 NumberedFileError(program_.Services.Files, program_.MenusPath, path.Error()),
                  forms::msgbox::IconInformation | forms::msgbox::OnTop);
     return;
   }

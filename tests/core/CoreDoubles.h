@@ -139,16 +139,18 @@ class LoggingSingles final : public SingleButtonsPort {
  public:
   explicit LoggingSingles(CallLog& log) : log_(log) {}
   void DoItemDrag(forms::MouseButton) override { log_.push_back("drop on the singles"); }
-  void DeleteSingle(std::string_view file) override { Note("delete single ", file); }
-  void PasteSingle(std::string_view file) override { Note("paste single ", file); }
-  void UndoDeleteSB(std::string_view file) override { Note("undo single ", file); }
+  FileStatus Answer = Done();  // to every edit
+  FileStatus DeleteSingle(std::string_view file) override { return Note("delete single ", file); }
+  FileStatus PasteSingle(std::string_view file) override { return Note("paste single ", file); }
+  FileStatus UndoDeleteSB(std::string_view file) override { return Note("undo single ", file); }
   void DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton) override {
-    for (const std::string& name : names) Note("files on the singles ", name);
+    for (const std::string& name : names) static_cast<void>(Note("files on the singles ", name));
   }
 
  private:
-  void Note(std::string_view what, std::string_view file) {
+  FileStatus Note(std::string_view what, std::string_view file) {
     log_.push_back(std::string(what) + std::string(file));
+    return Answer;
   }
   CallLog& log_;
 };

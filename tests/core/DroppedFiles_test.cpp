@@ -217,6 +217,9 @@ TEST(Dropped, AnyOneFailureLeavesTheOldFileOrTheWholeNewOne) {
         EXPECT_TRUE(now == kFour || now == row.whole) << row.name << ", failing call " << n;
         EXPECT_EQ(outcome == EditOutcome::Edited, now == row.whole)
             << row.name << ", failing call " << n;
+        if (outcome == EditOutcome::Failed) {
+          EXPECT_EQ(outcome.Reason(), error) << row.name << ", failing call " << n;
+        }
       }
       EXPECT_GE(calls, 3) << row.name;
     }

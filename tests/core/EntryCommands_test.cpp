@@ -202,6 +202,20 @@ TEST_F(EntryCommandsTest, UndoingASingleButtonGoesToItsRow) {
   EXPECT_EQ(program.Entry.UndoMenuTag, "");
 }
 
+TEST_F(EntryCommandsTest, ARowThatTheDiskRefusesIsReadAnewAndTheUndoCanBeTriedAgain) {
+  program.Entry.CurMenuTag = "SingleButtons";
+  program.Entry.UndoMenuTag = "SingleButtons";
+  program.Entry.UndoFile = "two.btn";
+  singles.Answer = FileError::DiskFull;
+  const EditOutcome outcome = UndoDeleteItem(program);
+  EXPECT_EQ(outcome, EditOutcome::Failed);
+  EXPECT_EQ(outcome.Reason(), FileError::DiskFull);
+  EXPECT_EQ(log, (CallLog{"undo single two.btn", "DoSingleButtons", "resize, free 1230"}));
+  EXPECT_EQ(program.Entry.UndoMenuTag, "SingleButtons");
+  EXPECT_EQ(DeleteItem(program, false).Reason(), FileError::DiskFull);
+  EXPECT_EQ(PasteItem(program).Reason(), FileError::DiskFull);
+}
+
 TEST_F(EntryCommandsTest, AnyOneFailureWhileDeletingLeavesTheOldFileOrTheNew) {
   const std::string old = Titles();
   for (int n = 1; n < 100; ++n) {

@@ -368,6 +368,37 @@ TEST(RecordEdits, AnyOneFailureLeavesTheOldFileOrTheNew) {
   }
 }
 
+TEST(RecordEdits, AFailureTellsWhatTheDiskAnswered) {
+  for (const FileError error : {FileError::DiskFull, FileError::InUse, FileError::BadName}) {
+    for (const Writer& writer : kWriters) {
+      int failures = 0;
+      for (int n = 1;; ++n) {
+        Bench bench;
+        RememberForUndo(bench.edit);
+        bench.disk.FailCall(n, error);
+        const EditOutcome outcome = writer.run(bench);
+        if (!bench.disk.Hit()) break;
+        if (outcome != EditOutcome::Failed) continue;  // the edit did without that call
+        ++failures;
+        EXPECT_EQ(outcome.Reason(), error) << writer.name << ", failing call " << n;
+      }
+      EXPECT_GT(failures, 1) << writer.name;
+    }
+  }
+}
+
+TEST(EditOutcome, IsWhatAnEditCameToWhateverTheReason) {
+  const EditOutcome refused = EditOutcome::Refused(FileError::DiskFull);
+  EXPECT_EQ(refused, EditOutcome::Failed);
+  EXPECT_EQ(refused, EditOutcome::Refused(FileError::InUse));
+  EXPECT_NE(refused, EditOutcome::Edited);
+  EXPECT_NE(EditOutcome::NothingToDo, EditOutcome::RecordMismatch);
+  EXPECT_EQ(refused.Reason(), FileError::DiskFull);
+  EXPECT_EQ(OutcomeOf(Done()), EditOutcome::Edited);
+  EXPECT_EQ(OutcomeOf(FileError::InUse).Reason(), FileError::InUse);
+  EXPECT_EQ(OutcomeOf(FileError::InUse), EditOutcome::Failed);
+}
+
 TEST(RecordEdits, AFullDiskCostsNoEntry) {
   for (const Writer& writer : kWriters) {
     Bench bench;
@@ -389,7 +420,9 @@ TEST(RecordEdits, AReadOnlyMenuStaysAsItIs) {
     Bench bench;
     RememberForUndo(bench.edit);
     bench.disk.SetReadOnly(kFile, true);
-    EXPECT_EQ(writer.run(bench), EditOutcome::Failed) << writer.name;
+    const EditOutcome outcome = writer.run(bench);
+    EXPECT_EQ(outcome, EditOutcome::Failed) << writer.name;
+    EXPECT_EQ(outcome.Reason(), FileError::AccessDenied) << writer.name;
     EXPECT_EQ(bench.Bytes(), kFour) << writer.name;
   }
 }
@@ -399,7 +432,9 @@ TEST(RecordEdits, AMenuThatAnotherProgramHoldsStaysAsItIs) {
     Bench bench;
     RememberForUndo(bench.edit);
     bench.disk.HoldOpen(kFile, SimFiles::Hold::ForReading);
-    EXPECT_EQ(writer.run(bench), EditOutcome::Failed) << writer.name;
+    const EditOutcome outcome = writer.run(bench);
+    EXPECT_EQ(outcome, EditOutcome::Failed) << writer.name;
+    EXPECT_EQ(outcome.Reason(), FileError::InUse) << writer.name;
     bench.disk.LetGo(kFile);
     EXPECT_EQ(bench.Bytes(), kFour) << writer.name;
   }

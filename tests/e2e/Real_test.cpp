@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "e2e/DeskFiles.h"
+#include "base/CodePage.h"
+#include "core/MenuRecord.h"
 #include "e2e/WineDesk.h"
 #include "scenario/Strip.h"
 
@@ -118,24 +119,26 @@ TEST(Strip, ShowsTheIconsOfItsButtonsAndOfTheMenu) {
   desk.Picture("icons");
 }
 
-TEST(StripAtEachScale, SmallIconsFitIntoTheirButtons) {
+TEST(SmallIconsAtEachScale, OfTwoRowsStandApart) {
   WineDesk desk;
-  desk.WriteFile(kFlagsFile, InstalledFlags({26}));
+  // Large icons and small single buttons, also in a floating strip.
+  desk.WriteFile(kFlagsFile, InstalledFlags({25}));
+  desk.WriteFile(scenario::kPositionFile,
+                 scenario::PositionBytes(static_cast<float>(300 * desk.TwipsPerPixel())));
   WriteMenu(desk, 1, "One", {{.FTitle = "Program", .FIcon = "", .FName = desk.WitnessProgram()}});
+  const Windows1252 ansi;
+  for (int single = 1; single <= 4; ++single) {
+    desk.WriteFile("Menus\\" + SingleFileName(single),
+                   FormatRecord({"Wide", "\\icons\\Explorer.ico", desk.WitnessProgram()}, ansi));
+  }
   desk.MovePointer(scenario::FarAway(desk));
   ASSERT_TRUE(StartAndWait(desk));
-  desk.Picture("small-icons");
-  const int height = desk.BoundsOf("picToolbar").Height();
-  ASSERT_EQ(height, 22);
-  for (int button = 0; button < 2; ++button) {
-    SCOPED_TRACE(button + 1);
-    const int left = button * (height + 2);
-    EXPECT_GT(desk.ColoursIn("picToolbar", {left + 4, 6, left + 19, 19}), 4);
-    // The icon ends before the button does, on the right and below. The upper rows are above the
-    // screen.
-    EXPECT_EQ(desk.ColoursIn("picToolbar", {left + 20, 6, left + 22, 21}), 1);
-    EXPECT_EQ(desk.ColoursIn("picToolbar", {left + 2, 21, left + 22, 22}), 1);
-  }
+  desk.Picture("two-rows");
+  // The first column of icons, the two pixels behind it, the second; without what is above the
+  // screen.
+  EXPECT_GT(desk.ColoursIn("picSingleButton", {5, 8, 21, 34}), 5);
+  EXPECT_EQ(desk.ColoursIn("picSingleButton", {21, 8, 23, 34}), 1);
+  EXPECT_GT(desk.ColoursIn("picSingleButton", {23, 8, 39, 34}), 5);
 }
 
 TEST(Strip, GivesWayToAFullScreenProgramAndComesBackOnTop) {

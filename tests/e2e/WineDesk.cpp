@@ -212,7 +212,8 @@ void WineDesk::Press(Button button) {
 void WineDesk::Release(Button button) {
   const bool dragging = source_ != nullptr && source_->Dragging();
   SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
-  // Until the source has heard that its drag is over, the pointer is its own, and so the next click.
+  // Until the source has heard that its drag is over, the pointer is its own, and so the next
+  // click.
   if (dragging) Wait([this] { return !source_->Dragging(); }, 5000);
 }
 

@@ -50,5 +50,55 @@ TEST_F(HintsRoad, APressTakesTheHintAwayAndOpensTheMenu) {
   EXPECT_FALSE(desk_->IsVisible("frmHelp"));
 }
 
+/// The notice that comes with the change to a strip that is not on top.
+class TipAtEachScale : public HintsAtEachScale {
+ protected:
+  static constexpr int kKeyTab = 9;
+  static constexpr int kKeySpace = 32;
+  static constexpr int kNotOnTop = 23;  // options
+  static constexpr int kNoNotice = 29;
+
+  [[nodiscard]] bool FlagIs(int position, char value) const {
+    const auto flags = desk_->ReadFile(kFlagsFile);
+    return flags && flags->size() == 32 &&
+           (*flags)[static_cast<std::size_t>(position) - 1] == value;
+  }
+  /// Chooses "Not On Top" in the program's own menu, and waits until it is on or off.
+  bool Switch(bool on) {
+    if (!OpenMenu(*desk_, 1)) return false;
+    for (int item = 1; item <= 5; ++item) {
+      desk_->Key(kKeyDown);
+      desk_->Pause(50);
+    }
+    desk_->Key(kKeyEnter);
+    const bool switched = desk_->Wait([&] { return FlagIs(kNotOnTop, on ? '1' : '0'); });
+    desk_->MovePointer(FarAway(*desk_));
+    return switched;
+  }
+};
+
+TEST_F(TipAtEachScale, TheNoticeIsReadTickedAndClosedByKeysAndDoesNotComeAgain) {
+  Start({});
+  ASSERT_TRUE(Switch(true));
+  ASSERT_TRUE(desk_->Wait([this] { return desk_->ForegroundClass() == "frmTip"; }));
+  desk_->Pause(300);
+  desk_->Picture("tip");
+  const PixelRect tip = desk_->BoundsOf("frmTip");
+  EXPECT_NEAR(tip.left + tip.right, desk_->ScreenSize().width, 2);
+  EXPECT_NEAR(tip.top + tip.bottom, desk_->ScreenSize().height, 2);
+  desk_->Key(kKeyTab);
+  desk_->Pause(100);
+  desk_->Key(kKeySpace);
+  desk_->Pause(300);
+  desk_->Picture("tip-ticked");
+  desk_->Key(kKeyEnter);
+  ASSERT_TRUE(desk_->Wait([this] { return !desk_->IsVisible("frmTip"); }));
+  EXPECT_TRUE(desk_->Wait([this] { return FlagIs(kNoNotice, '1'); }));
+  ASSERT_TRUE(Switch(false));
+  ASSERT_TRUE(Switch(true));
+  desk_->Pause(600);
+  EXPECT_FALSE(desk_->IsVisible("frmTip"));
+}
+
 }  // namespace
 }  // namespace corvelle::scenario

@@ -40,13 +40,25 @@ class RightClick : public ::testing::Test {
     return desk_->Wait([&] { return Titles(number) == titles; });
   }
 
-  /// A right click on item `item` of `count` in the open menu, and the choice in its popup.
-  void Choose(int item, int count, std::string_view choice) {
-    const PixelPoint at = ItemMiddle(*desk_, item, count);
+  bool WaitForButtons(int count) {
+    if (!desk_->Wait([&] { return ButtonCount(*desk_) == count; })) return false;
+    desk_->Pause(300);  // The strip gets its place and its icons.
+    return ButtonCount(*desk_) == count;
+  }
+
+  /// A right click, and the choice in the popup that comes up.
+  void ChooseAt(PixelPoint at, std::string_view choice) {
+    // A hand moves before it presses, also where it is already.
+    desk_->MovePointer({at.x + 4, at.y});
+    desk_->Pause(50);
     desk_->MovePointer(at);
     desk_->Pause(200);
     desk_->ChooseFromPopup(choice);
     desk_->Click(at, Button::Right);
+  }
+  /// The same on item `item` of `count` in the open menu.
+  void Choose(int item, int count, std::string_view choice) {
+    ChooseAt(ItemMiddle(*desk_, item, count), choice);
   }
   [[nodiscard]] PixelPoint Frame() const {
     const PixelRect strip = desk_->BoundsOf("frmToolbar");
@@ -70,7 +82,7 @@ TEST_F(RightClickAtEachScale, DeleteItemTakesAnItemAwayAndUndoDeleteBringsItBack
   desk_->Picture("after-the-undo");
 }
 
-TEST_F(RightClick, CopyItemAndPasteItemCarryItIntoAnotherMenu) {
+TEST_F(RightClick, CopyItemAndPasteItemCarryItIntoAnotherMenuAndCutItemWithinOne) {
   ASSERT_TRUE(OpenMenu(*desk_, 2));
   Choose(1, 3, "Copy Item");
   desk_->Pause(1500);
@@ -80,27 +92,74 @@ TEST_F(RightClick, CopyItemAndPasteItemCarryItIntoAnotherMenu) {
   Choose(1, 1, "Paste Item");
   ASSERT_TRUE(WaitForTitles(2, "Others|alpha|delta|"));
   EXPECT_EQ(Titles(1), "Letters|alpha|beta|gamma|");
+  ASSERT_TRUE(WaitForMenuAt(*desk_, 3));
+  Choose(2, 2, "Cut Item");
+  ASSERT_TRUE(WaitForTitles(2, "Others|alpha|"));
+  ASSERT_TRUE(WaitForMenuAt(*desk_, 3));
+  Choose(1, 1, "Paste Item");
+  EXPECT_TRUE(WaitForTitles(2, "Others|delta|alpha|"));
 }
 
-TEST_F(RightClick, ANewItemAndASeparatorComeBeforeTheItem) {
+TEST_F(RightClick, ANewItemAndASeparatorComeBeforeTheItemAndDeleteSeparatorTakesTheOneAbove) {
   ASSERT_TRUE(OpenMenu(*desk_, 2));
   Choose(2, 3, "Insert Menu Item");
   ASSERT_TRUE(WaitForTitles(1, "Letters|alpha|New Menu Item|beta|gamma|"));
   ASSERT_TRUE(WaitForMenuAt(*desk_, 2));
-  Choose(3, 4, "Insert Separator");
-  ASSERT_TRUE(WaitForTitles(1, "Letters|alpha|New Menu Item|Separator|beta|gamma|"));
+  Choose(4, 4, "Insert Separator");
+  ASSERT_TRUE(WaitForTitles(1, "Letters|alpha|New Menu Item|beta|Separator|gamma|"));
   ASSERT_TRUE(WaitForMenuAt(*desk_, 2));
   desk_->Picture("with-both");
+  const PixelRect menu = desk_->BoundsOf("frmQMenu");
+  ChooseAt({menu.left + 40, menu.bottom - 20}, "Delete Separator");
+  ASSERT_TRUE(WaitForTitles(1, "Letters|alpha|New Menu Item|beta|gamma|"));
+  ASSERT_TRUE(WaitForMenuAt(*desk_, 2));
+  Choose(4, 4, "Undo Delete");
+  EXPECT_TRUE(WaitForTitles(1, "Letters|alpha|New Menu Item|beta|Separator|gamma|"));
 }
 
-TEST_F(RightClick, OnTheFrameAddsAButtonWithAMenu) {
-  desk_->ChooseFromPopup("Add Button");
-  desk_->Click(Frame(), Button::Right);
+TEST_F(RightClick, RefreshReadsTheMenuAnewAndAFolderInItIsClosedAndOpened) {
+  const auto command = [this] {
+    const std::string bytes = desk_->ReadFile("Menus\\" + MenuFileName(2)).value_or("");
+    return bytes.size() < 3 * kRecordLength
+               ? std::string()
+               : ParseRecord(std::string_view(bytes).substr(2 * kRecordLength), Windows1252())
+                     .FName;
+  };
+  desk_->WriteFile("Work\\one.txt", "x");
+  desk_->WriteFile("Work\\two.txt", "x");
+  ASSERT_TRUE(OpenMenu(*desk_, 3));
+  const int before = desk_->BoundsOf("frmQMenu").Height();
+  WriteMenu(*desk_, 2, "Others",
+            {Witness(*desk_, "delta"), {.FTitle = "Work", .FName = "C:\\Corvelle\\Work\\*.*"}});
+  Choose(1, 1, "Refresh");
+  ASSERT_TRUE(desk_->Wait([&] { return desk_->BoundsOf("frmQMenu").Height() > before; }));
+  ASSERT_TRUE(WaitForMenuAt(*desk_, 3));
+  const int open = desk_->BoundsOf("frmQMenu").Height();
+  desk_->Picture("folder-open");
+  Choose(2, 3, "Close Folder");
+  ASSERT_TRUE(desk_->Wait([&] { return command() == "C:\\Corvelle\\Work\\*.* /X"; }));
+  ASSERT_TRUE(desk_->Wait([&] { return desk_->BoundsOf("frmQMenu").Height() < open; }));
+  ASSERT_TRUE(WaitForMenuAt(*desk_, 3));
+  desk_->Picture("folder-closed");
+  Choose(2, 2, "Open Folder");
+  ASSERT_TRUE(desk_->Wait([&] { return command() == "C:\\Corvelle\\Work\\*.*"; }));
+  EXPECT_TRUE(desk_->Wait([&] { return desk_->BoundsOf("frmQMenu").Height() == open; }));
+  EXPECT_EQ(Titles(2), "Others|delta|Work|");
+}
+
+TEST_F(RightClick, OnTheFrameAndOnAButtonItAddsButtonsAndReadsThemAnew) {
+  ChooseAt(Frame(), "Add Button");
   ASSERT_TRUE(WaitForTitles(3, "New Button|New Menu Item|"));
-  ASSERT_TRUE(desk_->Wait([this] { return ButtonCount(*desk_) == 4; }));
-  desk_->Pause(300);
+  ASSERT_TRUE(WaitForButtons(4));
   desk_->Picture("with-a-fourth-button");
-  EXPECT_TRUE(OpenMenu(*desk_, 4));
+  ChooseAt(ButtonMiddle(*desk_, 2), "Add Button");
+  ASSERT_TRUE(WaitForTitles(4, "New Button|New Menu Item|"));
+  ASSERT_TRUE(WaitForButtons(5));
+  WriteMenu(*desk_, 5, "Fifth", {Witness(*desk_, "epsilon")});
+  ChooseAt(ButtonMiddle(*desk_, 3), "Refresh");
+  ASSERT_TRUE(WaitForButtons(6));
+  desk_->Picture("with-a-sixth-button");
+  EXPECT_TRUE(OpenMenu(*desk_, 6));
 }
 
 TEST_F(RightClick, OnAButtonDeletesItAfterAQuestion) {

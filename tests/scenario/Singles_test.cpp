@@ -128,6 +128,41 @@ TEST_F(Singles, TheRightButtonDropsACopy) {
   EXPECT_TRUE(desk_->Launched().empty());
 }
 
+TEST_F(Singles, RightClicksCutPasteDeleteAndBringBack) {
+  Begin({kRunOnClick});
+  const auto choose = [this](PixelPoint at, std::string_view choice) {
+    desk_->MovePointer(at);
+    desk_->Pause(200);
+    desk_->ChooseFromPopup(choice);
+    desk_->Click(at, Button::Right);
+  };
+  const auto becomes = [this](const std::string& names) {
+    const bool came = WaitForNames(names);
+    desk_->Pause(300);  // The strip gets its place.
+    return came;
+  };
+  choose(Middle(2), "Cut Item");
+  ASSERT_TRUE(becomes("one three")) << Names();
+  choose(Middle(1), "Paste Item");
+  ASSERT_TRUE(becomes("two one three")) << Names();
+  choose(Middle(3), "Delete Item");
+  ASSERT_TRUE(becomes("two one")) << Names();
+  choose(Middle(1), "Undo Delete");
+  ASSERT_TRUE(becomes("two one three")) << Names();
+  choose(Middle(2), "Copy Item");
+  desk_->Pause(1500);
+  ASSERT_FALSE(desk_->PopupIsUp());
+  // Behind the last button the row is bare.
+  const PixelRect box = desk_->BoundsOf("picSingleButton");
+  choose({box.right - 3, (box.top + box.bottom) / 2}, "Paste Item");
+  ASSERT_TRUE(becomes("two one three one")) << Names();
+  desk_->Picture("singles-pasted");
+  EXPECT_TRUE(desk_->Launched().empty());
+  desk_->Click(Middle(4));
+  ASSERT_TRUE(WaitForLaunches(1));
+  EXPECT_EQ(desk_->Launched()[0].Arguments, "one");
+}
+
 TEST_F(Singles, ADropOnAnotherProgramChangesNothing) {
   Begin({kRunOnClick});
   CarryTo(2, FarAway(*desk_));

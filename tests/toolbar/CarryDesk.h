@@ -32,11 +32,12 @@ struct NotedRow final : SingleButtonsPort {
                     " of " + entry.CurMenuTag);
     if (WhileDropping) WhileDropping();
   }
-  void DeleteSingle(std::string_view file) override {
+  FileStatus DeleteSingle(std::string_view file) override {
     Asked.push_back("delete " + std::string(file));
+    return Done();
   }
-  void PasteSingle(std::string_view) override {}
-  void UndoDeleteSB(std::string_view) override {}
+  FileStatus PasteSingle(std::string_view) override { return Done(); }
+  FileStatus UndoDeleteSB(std::string_view) override { return Done(); }
   void DropFilesOnSingles(std::vector<std::string>, forms::MouseButton) override {}
 
   Program& TheProgram;

@@ -38,9 +38,9 @@ struct NotedBrowser final : BrowserPort {
 struct NotedSingles final : SingleButtonsPort {
   std::vector<std::string> Dropped;
   void DoItemDrag(forms::MouseButton) override {}
-  void DeleteSingle(std::string_view) override {}
-  void PasteSingle(std::string_view) override {}
-  void UndoDeleteSB(std::string_view) override {}
+  FileStatus DeleteSingle(std::string_view) override { return Done(); }
+  FileStatus PasteSingle(std::string_view) override { return Done(); }
+  FileStatus UndoDeleteSB(std::string_view) override { return Done(); }
   void DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) override {
     for (const std::string& name : names) {
       Dropped.push_back(std::to_string(static_cast<int>(button)) + " " + name);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "core/CoreDoubles.h"
@@ -166,29 +167,126 @@ TEST(PopupCommands, AreFoundWithoutRegardToCase) {
 
 // ---- failures ----
 
+/// A command of the popup on an item of a menu.
+struct Edit {
+  const char* choice;
+  int item;
+};
+constexpr Edit kEdits[] = {{"Cut Item", 1},         {"Delete Item", 1},
+                           {"Delete Separator", 3}, {"Insert Menu Item", 1},
+                           {"Insert Separator", 2}, {"Open Folder", 4}};
+
+/// A way of the disk to refuse, and what the user reads of it.
+struct Refusal {
+  const char* text;
+  std::function<void(sim::SimFiles& disk, const std::string& file)> begin;
+  std::function<void(sim::SimFiles& disk, const std::string& file)> end;
+};
+const Refusal kRefusals[] = {
+    {"75 - Path/File access error",
+     [](sim::SimFiles& disk, const std::string&) { disk.Protect("C:\\Corvelle\\Menus"); },
+     [](sim::SimFiles& disk, const std::string&) { disk.Protect("C:\\Corvelle\\Menus", false); }},
+    {"75 - Path/File access error",
+     [](sim::SimFiles& disk, const std::string& file) { disk.SetReadOnly(file, true); },
+     [](sim::SimFiles& disk, const std::string& file) { disk.SetReadOnly(file, false); }},
+    {"70 - Permission denied",
+     [](sim::SimFiles& disk, const std::string& file) {
+       disk.HoldOpen(file, sim::SimFiles::Hold::ForReading);
+     },
+     [](sim::SimFiles& disk, const std::string& file) { disk.LetGo(file); }},
+};
+
 TEST(PopupFailures, ADiskThatRefusesIsSaidToAndTheFileStaysWhatItWas) {
+  for (const Refusal& refusal : kRefusals) {
+    for (const Edit& edit : kEdits) {
+      SCOPED_TRACE(std::string(edit.choice) + ", " + refusal.text);
+      PopupDesk desk;
+      desk.PutMenu(
+          1, {Entry("Letters"), Entry("One"), Entry("Two"), Entry("Separator", "MenuLineSeparator"),
+              Entry("Three"), Entry("Docs", "", "C:\\Docs\\*.* /X")});
+      desk.OpenMenuOf(2);
+      const std::string file = PopupDesk::FileOf(1);
+      const auto before = desk.World.Files.Get(file);
+      desk.World.Desktop.Answer(refusal.text, forms::msgbox::AnswerOk);
+      desk.World.Desktop.WhilePopupIsUp(
+          [&](const sim::Popup&) { refusal.begin(desk.World.Files, file); });
+      desk.RightClickItem(edit.item, edit.choice);
+      refusal.end(desk.World.Files, file);
+      ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+      EXPECT_EQ(desk.World.Desktop.Boxes().back().Flags, 0x40040U);
+      EXPECT_EQ(desk.World.Files.Get(file), before);
+      EXPECT_TRUE(desk.TheProgram.Entry.UndoMenuTag.empty());
+      EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+    }
+  }
+}
+
+TEST(PopupFailures, AFullDiskAndAFolderThatIsGoneAreSaidToBeThat) {
   struct Row {
-    const char* choice;
-    int item;
+    const char* text;
+    std::function<void(sim::SimFiles& disk)> begin;
   };
-  const Row rows[] = {{"Cut Item", 1},         {"Delete Item", 1},      {"Delete Separator", 3},
-                      {"Insert Menu Item", 1}, {"Insert Separator", 2}, {"Open Folder", 4}};
+  const Row rows[] = {
+      {"61 - Disk full", [](sim::SimFiles& disk) { disk.FillDisk(0); }},
+      {"76 - Path not found", [](sim::SimFiles& disk) { disk.Vanish("C:\\Corvelle\\Menus"); }},
+      {"53 - File not found",
+       [](sim::SimFiles& disk) { disk.Vanish("C:\\Corvelle\\Menus\\BMENU001.MNU"); }},
+  };
   for (const Row& row : rows) {
-    SCOPED_TRACE(row.choice);
+    SCOPED_TRACE(row.text);
     PopupDesk desk;
-    desk.PutMenu(
-        1, {Entry("Letters"), Entry("One"), Entry("Two"), Entry("Separator", "MenuLineSeparator"),
-            Entry("Three"), Entry("Docs", "", "C:\\Docs\\*.* /X")});
     desk.OpenMenuOf(2);
-    const auto before = desk.World.Files.Get(PopupDesk::FileOf(1));
-    desk.World.Desktop.Answer("57 - Device I/O error", forms::msgbox::AnswerOk);
-    desk.World.Desktop.WhilePopupIsUp(
-        [&](const sim::Popup&) { desk.World.Files.Protect("C:\\Corvelle\\Menus"); });
-    desk.RightClickItem(row.item, row.choice);
-    desk.World.Files.Protect("C:\\Corvelle\\Menus", false);
-    EXPECT_EQ(desk.World.Files.Get(PopupDesk::FileOf(1)), before);
-    EXPECT_TRUE(desk.TheProgram.Entry.UndoMenuTag.empty());
+    desk.World.Desktop.Answer(row.text, forms::msgbox::AnswerOk);
+    desk.World.Desktop.WhilePopupIsUp([&](const sim::Popup&) { row.begin(desk.World.Files); });
+    desk.RightClickItem(1, "Insert Menu Item");
+    desk.World.Files.FreeDisk();
+    EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
     EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+  }
+}
+
+TEST(PopupFailures, AButtonWhoseFileIsHeldStaysAndThatIsSaid) {
+  PopupDesk desk;
+  desk.World.Files.HoldOpen(PopupDesk::FileOf(1), sim::SimFiles::Hold::ForReading);
+  desk.World.Desktop.Answer(kQuestion, forms::msgbox::AnswerYes);
+  desk.World.Desktop.Answer("70 - Permission denied", forms::msgbox::AnswerOk);
+  desk.RightClickButton(2, "Delete Item");
+  desk.World.Files.LetGo(PopupDesk::FileOf(1));
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 2U);
+  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+}
+
+TEST(PopupFailures, ASingleButtonThatCannotBeWrittenStaysAndThatIsSaid) {
+  struct Row {
+    const char* text;
+    FileError answer;
+  };
+  for (const Row& row : {Row{"61 - Disk full", FileError::DiskFull},
+                         Row{"70 - Permission denied", FileError::InUse}}) {
+    for (const char* choice : {"Cut Item", "Paste Item", "Delete Item", "Undo Delete"}) {
+      SCOPED_TRACE(choice);
+      CallLog log;
+      LoggingSingles singles(log);
+      singles.Answer = row.answer;
+      PopupDesk desk;
+      desk.TheProgram.Ports.SingleButtons = &singles;
+      desk.World.Desktop.Answer(row.text, forms::msgbox::AnswerOk);
+      const EntryEdit single{.CurTitle = "Single",
+                             .CurMenuTag = "SingleButtons",
+                             .CurFile = "C:\\Corvelle\\Menus\\BMENU001.BTN",
+                             .CurRecord = 1,
+                             .ClipTitle = "Other",
+                             .UndoTitle = "Gone",
+                             .UndoMenuTag = "SingleButtons",
+                             .UndoFile = "C:\\Corvelle\\Menus\\BMENU002.BTN"};
+      desk.ChooseFor(single, choice);
+      EXPECT_EQ(log.size(), 1U);
+      EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+      // What was deleted before can still be brought back, but for a paste, which ends that.
+      const bool pasted = std::string_view(choice) == "Paste Item";
+      EXPECT_EQ(desk.TheProgram.Entry.UndoMenuTag, pasted ? "" : "SingleButtons");
+      EXPECT_EQ(desk.TheProgram.Entry.UndoTitle, "Gone");
+    }
   }
 }
 

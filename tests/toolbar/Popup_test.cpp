@@ -336,14 +336,32 @@ TEST(PopupRefresh, ReadsTheMenuAnew) {
 TEST(PopupRefresh, ReadsTheButtonsAnew) {
   for (const bool onFrame : {true, false}) {
     PopupDesk desk;
-    desk.PutMenu(3, {Entry("Third", "Button")});
+    desk.PutMenu(3, {Entry("Third", "Button"), Entry("Newest")});
     if (onFrame) {
       desk.RightClickFrame("Refresh");
     } else {
       desk.RightClickButton(2, "Refresh");
     }
     EXPECT_EQ(desk.Strip.ButtonCount, 4);
+    // The new one has its place on the strip.
+    desk.OpenMenuOf(4);
+    EXPECT_EQ(desk.Shown(), "Newest|");
   }
+}
+
+TEST(PopupRefresh, MovesTheStripForOtherButtonsAlone) {
+  PopupDesk desk;
+  const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+  const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd());
+  desk.RightClickFrame("Refresh");
+  EXPECT_EQ(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()), strip);
+  EXPECT_EQ(desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd()), box);
+  // A button less takes its width from the left, as the edit of a button does.
+  desk.World.Files.Vanish(PopupDesk::FileOf(2));
+  desk.RightClickFrame("Refresh");
+  EXPECT_EQ(desk.Strip.ButtonCount, 2);
+  EXPECT_LT(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).Width(), strip.Width());
+  EXPECT_EQ(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).right, strip.right);
 }
 
 TEST(PopupRefresh, OnAnItemOfTheMainMenuClosesItAndNothingElse) {

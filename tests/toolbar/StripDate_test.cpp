@@ -105,6 +105,34 @@ TEST(StripDate, NothingWakesAStripThatShowsIt) {
   }
 }
 
+TEST(StripDate, ClocksThatAreSetChangeItAtOnce) {
+  DateDesk desk;
+  desk.World.System.Date = "12/15/2026";
+  desk.World.Desktop.Send(desk.Strip.hWnd(), forms::message::TimeChange, 0, 0);
+  EXPECT_EQ(desk.Strip.lblDate.Caption(), "12/15/2026");
+  EXPECT_EQ(desk.Strip.lblDate.Right(), desk.Strip.picSingleButton.Width() - 50);
+  // Without the date there is nothing to change.
+  desk.SetOption(21, false);
+  desk.World.System.Date = "12/16/2026";
+  desk.World.Desktop.Send(desk.Strip.hWnd(), forms::message::TimeChange, 0, 0);
+  EXPECT_EQ(desk.Strip.lblDate.Caption(), "12/15/2026");
+}
+
+TEST(StripDate, AnotherWayToWriteItKeepsItOnTheStripOrHidesIt) {
+  DateDesk desk;
+  desk.World.System.Date = "14. M\u00e4rz 2026";
+  desk.PointAt(desk.OnDate());
+  EXPECT_EQ(desk.Strip.lblDate.Caption(), "14. M\u00e4rz 2026");
+  EXPECT_TRUE(desk.Shown());
+  EXPECT_EQ(desk.Strip.lblDate.Right(), desk.Strip.picSingleButton.Width() - 50);
+  EXPECT_EQ(desk.Strip.Line1[0].X1(), desk.Strip.lblDate.Left() - 100);
+  // One that leaves no room between the buttons and the end.
+  desk.World.System.Date = std::string(400, '9');
+  desk.PointAway();
+  desk.PointAt(desk.OnDate());
+  EXPECT_TRUE(desk.Hidden());
+}
+
 TEST(StripDate, TheHintOverItIsTheClock) {
   DateDesk desk;
   desk.PointAt(desk.OnDate());

@@ -76,6 +76,8 @@ TEST(StartupWindow, ShowsTheProgramsIconWhereItHasOne) {
   desk.TheProgram.ShowStartupProgress();
   ASSERT_NE(desk.Window.Image1.Source(), nullptr);
   EXPECT_EQ(desk.Window.Image1.Source()->Size(), (PixelSize{32, 32}));
+  EXPECT_EQ(desk.Window.Image1.Top(),
+            (desk.Window.ScaleHeight() - desk.Window.Image1.Height()) / 2);
   StartupDesk bare;
   bare.TheProgram.ShowStartupProgress();
   EXPECT_EQ(bare.Window.Image1.Source(), nullptr);

@@ -31,7 +31,8 @@ class Tip : public testing::Test {
   }
 
   void Show() {
-    tip.ShowTip("Not On Top", "Any window can cover the strip.\r\n\r\nA second paragraph.", kField);
+    tip.ShowTip("Not On Top", "Any window can cover the strip.\r\n\r\nA second paragraph.\r\n\r\n",
+                kField);
     desk.World.Desktop.Pump();
   }
   PixelPoint Middle(const char* name) {
@@ -67,6 +68,7 @@ TEST_F(Tip, StandsInTheMiddleOnTopWithItsTexts) {
   EXPECT_TRUE(Focused("cmdOK"));
   // Nothing reaches over another or over the window's side.
   EXPECT_LE(tip.lblTip.back()->Bottom(), tip.Check1.Top());
+  EXPECT_EQ(tip.lblTip.back()->Caption(), "A second paragraph.");
   EXPECT_LE(tip.Check1.Bottom(), tip.cmdOK.Top());
   EXPECT_LE(tip.cmdOK.Right(), tip.ScaleWidth());
   EXPECT_LE(tip.cmdOK.Bottom(), tip.ScaleHeight());

@@ -7,6 +7,7 @@
 
 #include "toolbar/StripDesk.h"
 #include "toolbar/frmHelp.h"
+#include "toolbar/frmTip.h"
 
 namespace corvelle {
 namespace {
@@ -311,6 +312,17 @@ TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromAnOpenMenu) {
   desk.Wait(400);
   EXPECT_EQ(desk.MenuUp(), 2);
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Menu.hWnd());
+}
+
+TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromANotice) {
+  StripOfTwo desk;
+  frmTip tip(desk.TheProgram);
+  desk.Strip.BringToForeground();
+  tip.ShowTip("Title", "Text", 0);
+  desk.Wait(400);
+  EXPECT_EQ(desk.World.Desktop.ActiveWindow(), tip.hWnd());
+  desk.World.Desktop.PressKey(forms::key::Enter);
+  EXPECT_FALSE(tip.IsLoaded());
 }
 
 }  // namespace
