@@ -41,11 +41,45 @@ class TenThousandFiles : public ::testing::Test {
     return true;
   }
 
+  /// Turns pages of the open menu and looks for letters in it.
+  void TurnAndSearch() {
+    sim::SimDesktop& desktop = desk_.World.Desktop;
+    ClearCounts();
+    const int last = desk_.Menu.Slides;
+    EXPECT_EQ(last, (kFiles + ItemsOfPage() - 1) / ItemsOfPage() - 1);
+    for (int page = 1; page <= 3; ++page) {
+      desktop.PressKey(forms::key::PageDown);
+      EXPECT_EQ(desk_.Menu.CurMenu, page);
+      EXPECT_TRUE(PageIsRight()) << page;
+    }
+    desktop.PressKey(forms::key::End);
+    EXPECT_EQ(desk_.Menu.LastLabel, kFiles);
+    EXPECT_TRUE(PageIsRight());
+    desktop.PressKey(forms::key::Home);
+    EXPECT_EQ(desk_.Menu.FirstLabel, 1);
+    EXPECT_TRUE(PageIsRight());
+    // Each letter has two thousand names; the first key goes to the first of them, the next one on.
+    int wanted = 2 * kFiles / 5 + 1;
+    for (const char letter : {'c', 'c'}) {
+      desktop.Type(std::string(1, letter));
+      EXPECT_EQ(desk_.TheProgram.SelectedItem, wanted++);
+      EXPECT_EQ(desk_.Menu.Lbl[desk_.TheProgram.SelectedItem].Caption()[0], letter);
+      EXPECT_TRUE(PageIsRight());
+    }
+    // Past the last letter the search begins again.
+    desktop.PressKey(forms::key::End);
+    desktop.Type("a");
+    EXPECT_EQ(desk_.TheProgram.SelectedItem, 1);
+    // No page asked the disk for anything, and each asked for the icons of its own items.
+    EXPECT_EQ(DiskCalls(), 0);
+    EXPECT_LE(desk_.World.Icons.Lookups(), 8 * ItemsOfPage());
+  }
+
   FolderDesk desk_;
   Strings sorted_;
 };
 
-TEST_F(TenThousandFiles, OpenByOneListingAndOneQuestionForEach) {
+TEST_F(TenThousandFiles, OpenByOneListingTurnTheirPagesAndAreFoundByTheirLetters) {
   desk_.PutMenu(1, {Item("Many", "", "C:\\Many\\*.*")});
   ClearCounts();
   desk_.Reopen(1);
@@ -58,6 +92,7 @@ TEST_F(TenThousandFiles, OpenByOneListingAndOneQuestionForEach) {
   // Small icons only of the page on show.
   EXPECT_EQ(static_cast<int>(desk_.World.Icons.Asked(IconList::Small).size()), ItemsOfPage());
   EXPECT_TRUE(PageIsRight());
+  TurnAndSearch();
 }
 
 TEST_F(TenThousandFiles, OpenAgainWithoutAQuestionUnlessTheyAreToBeCompared) {
@@ -73,47 +108,10 @@ TEST_F(TenThousandFiles, OpenAgainWithoutAQuestionUnlessTheyAreToBeCompared) {
   EXPECT_EQ(desk_.World.Icons.Lookups(), 0);
   EXPECT_EQ(desk_.Menu.Labels, kFiles);
   EXPECT_TRUE(PageIsRight());
-}
-
-TEST_F(TenThousandFiles, TurnTheirPagesAndAreFoundByTheirLetters) {
-  desk_.OpenCommands({"C:\\Many\\*.*"});
-  sim::SimDesktop& desktop = desk_.World.Desktop;
-  ClearCounts();
-  const int last = desk_.Menu.Slides;
-  EXPECT_EQ(last, (kFiles + ItemsOfPage() - 1) / ItemsOfPage() - 1);
-  for (int page = 1; page <= 3; ++page) {
-    desktop.PressKey(forms::key::PageDown);
-    EXPECT_EQ(desk_.Menu.CurMenu, page);
-    EXPECT_TRUE(PageIsRight()) << page;
-  }
-  desktop.PressKey(forms::key::End);
-  EXPECT_EQ(desk_.Menu.LastLabel, kFiles);
-  EXPECT_TRUE(PageIsRight());
-  desktop.PressKey(forms::key::Home);
-  EXPECT_EQ(desk_.Menu.FirstLabel, 1);
-  EXPECT_TRUE(PageIsRight());
-  // Each letter has two thousand names; the first key goes to the first of them, the next one on.
-  int wanted = 2 * kFiles / 5 + 1;
-  for (const char letter : {'c', 'c'}) {
-    desktop.Type(std::string(1, letter));
-    EXPECT_EQ(desk_.TheProgram.SelectedItem, wanted++);
-    EXPECT_EQ(desk_.Menu.Lbl[desk_.TheProgram.SelectedItem].Caption()[0], letter);
-    EXPECT_TRUE(PageIsRight());
-  }
-  // Past the last letter the search begins again.
-  desktop.PressKey(forms::key::End);
-  desktop.Type("a");
-  EXPECT_EQ(desk_.TheProgram.SelectedItem, 1);
-  // No page asked the disk for anything, and each asked for the icons of its own items.
-  EXPECT_EQ(DiskCalls(), 0);
-  EXPECT_LE(desk_.World.Icons.Lookups(), 8 * ItemsOfPage());
-}
-
-TEST_F(TenThousandFiles, OneThatIsNewIsFoundByOneMoreListing) {
-  desk_.OpenCommands({"C:\\Many\\*.*/u"});
+  // One that is new is found by one more listing.
   desk_.World.Files.Put("C:\\Many\\new.txt", "x");
   ClearCounts();
-  desk_.OpenAgain();
+  desk_.OpenAgain(2);
   EXPECT_EQ(desk_.Menu.Labels, kFiles + 1);
   EXPECT_EQ(desk_.World.Files.Count("List"), 1);
   EXPECT_EQ(static_cast<int>(desk_.World.Icons.Asked(IconList::Large).size()), kFiles + 1);
