@@ -12,10 +12,6 @@ namespace corvelle {
 /// The two lists of icons that the shell keeps for the whole system.
 enum class IconList { Small, Large };
 
-/// Width and height of what is drawn of the small list, in pixels, whatever the scale of the
-/// screen: everything around small icons has its place by it.
-inline constexpr int kSmallIconSize = 16;
-
 enum class IconStyle { Normal, Blend25 };
 
 struct ShellFileInfo {
@@ -36,8 +32,8 @@ class ShellIcons {
   /// Width of the icons of a list; 0 when the system does not tell.
   [[nodiscard]] virtual int IconWidth(IconList list) = 0;
 
-  /// Draws an icon of a list, transparent; one of the small list at kSmallIconSize. False when
-  /// there is no such icon.
+  /// Draws an icon of a list, transparent; a small one is 16 by 16 whatever the list holds. False
+  /// when there is no such icon.
   virtual bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                               IconStyle style) = 0;
 
