@@ -107,8 +107,8 @@ class WindowPeer {
   /// Paints now what is noted, if the window is visible.
   virtual void PaintNow() = 0;
 
-  /// Does nothing for a window that cannot be seen, or while the system keeps another program in
-  /// front.
+  /// For a window that can be seen, of a program in front. Behind others SetForeground comes first:
+  /// what the focus does there is left to the system.
   virtual void SetFocus() = 0;
   /// Makes the window the foreground window of the whole desktop, if the system lets it.
   virtual void SetForeground() = 0;

@@ -171,6 +171,8 @@ void mAppBar::FinishPlacing(Edge at) {
   if (program_.StartingUp && program_.AutoHide) RevealToolbar();
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->InitIcons();
   program_.Windows.SetMousePointer(forms::MousePointer::Default);
+  // Who starts the program wants it in front.
+  if (program_.StartingUp) strip_.SetForeground();
   strip_.SetFocus();
 }
 

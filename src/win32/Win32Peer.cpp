@@ -106,9 +106,7 @@ void Win32Peer::PaintNow() { UpdateWindow(Handle()); }
 // Behind another program the focus would only make a window active that nobody types into: a click
 // on it would not bring it forward any more, and it would hold no press.
 void Win32Peer::SetFocus() {
-  if (IsWindowVisible(Handle()) == 0) return;
-  if (!InForeground()) SetForegroundWindow(GetAncestor(Handle(), GA_ROOT));
-  if (InForeground()) ::SetFocus(Handle());
+  if (IsWindowVisible(Handle()) != 0 && InForeground()) ::SetFocus(Handle());
 }
 
 void Win32Peer::SetForeground() { SetForegroundWindow(Handle()); }
