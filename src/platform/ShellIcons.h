@@ -14,6 +14,9 @@ enum class IconList { Small, Large };
 
 enum class IconStyle { Normal, Blend25 };
 
+/// The side of a small icon in pixels, at every scale.
+inline constexpr int kSmallIconSize = 16;
+
 struct ShellFileInfo {
   int SystemIndex = 0;  // index in both lists
   std::string DisplayName;

@@ -14,9 +14,6 @@ namespace {
 constexpr UINT kFileInfoFlags =
     SHGFI_SYSICONINDEX | SHGFI_DISPLAYNAME | SHGFI_TYPENAME | SHGFI_SHELLICONSIZE;
 
-/// Pixels of a small icon, whatever the system's fonts.
-constexpr int kSmallIcon = 16;
-
 /// More than any file holds: what the system answers when it cannot read the file.
 constexpr UINT kMostIcons = 0x7FFFFFFF;
 
@@ -68,14 +65,14 @@ bool Win32ShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, P
   if (!dc) return false;
   const UINT form = ILD_TRANSPARENT | (style == IconStyle::Blend25 ? ILD_BLEND25 : 0U);
   const PixelPoint place{at.x + target.Origin().x, at.y + target.Origin().y};
-  if (list == IconList::Large || IconWidth(list) == kSmallIcon) {
+  if (list == IconList::Large || IconWidth(list) == kSmallIconSize) {
     return ImageList_Draw(icons, index, dc.Get(), place.x, place.y, form) != 0;
   }
   // With large system fonts the list holds larger ones.
   UniqueIcon icon;
   *icon.Receive() = ImageList_GetIcon(icons, index, form);
-  return icon && DrawIconEx(dc.Get(), place.x, place.y, icon.Get(), kSmallIcon, kSmallIcon, 0,
-                            nullptr, DI_NORMAL) != 0;
+  return icon && DrawIconEx(dc.Get(), place.x, place.y, icon.Get(), kSmallIconSize, kSmallIconSize,
+                            0, nullptr, DI_NORMAL) != 0;
 }
 
 bool Win32ShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
