@@ -360,22 +360,6 @@ int HoverLinesShown(const SinglesDesk& desk) {
   return shown;
 }
 
-TEST(SingleHover, ThatBeginsWhileTheStripEndsIsNotWatched) {
-  SinglesDesk desk;
-  desk.PutSingles("ab");
-  desk.Start();
-  sim::SimClock& clock = desk.World.Desktop.Clock();
-  const PixelPoint single = desk.MiddleOf(2);
-  const forms::TimerId hand =
-      clock.Start(1, [&] { desk.World.Desktop.MovePointer(single.x, single.y); });
-  desk.World.Desktop.Jump(5);
-  // The menus close first, which lets the move through.
-  desk.TheProgram.MenuOpen = true;
-  desk.Exit();
-  clock.Stop(hand);
-  EXPECT_EQ(clock.Running(), 0);
-}
-
 TEST(SingleHover, ShowsTheTitleAndTwoLinesAndEndsWithThePointer) {
   SinglesDesk desk;
   desk.PutSingles("ab");
