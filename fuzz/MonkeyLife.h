@@ -2,69 +2,178 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <random>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "EntryLedger.h"
+#include "MonkeyTally.h"
 #include "program/Parts.h"
+#include "sim/Complain.h"
 #include "sim/World.h"
 
 namespace corvelle::fuzz {
 
-/// One life of the monkey: an installation of random menus and options, a start, random events, an
-/// end. The same seed gives the same life.
+/// One life of the monkey: an installation of random menus, single buttons and options, a start,
+/// random events, an end. The same seed gives the same life.
 class MonkeyLife {
  public:
   /// `tell`: every event is printed before it happens.
-  MonkeyLife(std::uint64_t seed, bool tell);
+  MonkeyLife(std::uint64_t seed, bool tell, MonkeyTally& tally);
   ~MonkeyLife();
+  MonkeyLife(const MonkeyLife&) = delete;
+  MonkeyLife& operator=(const MonkeyLife&) = delete;
 
   /// Lives through so many events. Empty when all was well, else what was wrong, with the events
   /// that led there.
   [[nodiscard]] std::string Live(int events);
+  /// How many of them it came to: some lives end themselves.
+  [[nodiscard]] int Lived() const noexcept { return lived_; }
 
  private:
-  // The world before the start.
+  /// What the disk of a life is like.
+  enum class Disk {
+    Well,       // nothing fails
+    Stumbling,  // one call fails now and then
+    Failing,    // files are held, calls fail for good, the disk fills up
+  };
+  using Step = std::function<void()>;
+
+  static constexpr std::string_view kMenus = "C:\\Corvelle\\Menus\\";
+  static constexpr int kMenuFiles = 6;  // that the monkey writes
+  static constexpr std::string_view kDamage = "broken by a monkey";
+
+  // ---- the world before the start, and the choice of events (MonkeyLife.cpp) ----
+
   void Furnish();
   void WriteMenu(int number);
+  void WriteSingle(int number);
   [[nodiscard]] std::string RandomRecords(int count);
-
-  // One event each.
   void Act();
+  void Begin();
+  void ActAtRandom();
+  [[nodiscard]] std::string MenuPath(int number) const;
+  [[nodiscard]] std::string SinglePath(int number) const;
+
+  // ---- single gestures (MonkeyHand.cpp) ----
+
+  void MoveTo(PixelPoint at);
   void MoveSomewhere();
   void PressOrRelease();
+  void ClickAt(PixelPoint at, forms::MouseButton button);
+  void DoubleClickAt(PixelPoint at);
   void ClickSomewhere();
   void UseKeys();
+  void HoldControl(bool down);
   void LetTimePass();
+  void LetPass(int milliseconds);
+  void Press(forms::MouseButton button);
+  void Release(forms::MouseButton button);
+  /// Lets go of everything.
+  void LetGo();
+
+  // Places, in pixels of the screen.
+  [[nodiscard]] PixelPoint InWindow(std::string_view className, float x, float y) const;
+  [[nodiscard]] PixelPoint PointIn(std::string_view className);
+  [[nodiscard]] PixelPoint SomePoint();
+  [[nodiscard]] PixelPoint OnScreen();
+  [[nodiscard]] PixelPoint ButtonPoint(int index) const;
+  [[nodiscard]] PixelPoint SinglePoint(int index) const;
+  [[nodiscard]] PixelPoint ItemPoint(int index) const;
+  [[nodiscard]] PixelPoint GripPoint() const;
+  [[nodiscard]] PixelPoint DatePoint() const;
+  [[nodiscard]] PixelPoint EdgePoint(Edge edge);
+  [[nodiscard]] PixelPoint DropPoint();
+  [[nodiscard]] int AnyButton();
+  [[nodiscard]] int AnySingle();
+  [[nodiscard]] int AnyItem();
+
+  // ---- gestures in several steps (MonkeyPlans.cpp) ----
+
+  void Plan(Step step) { plan_.push_back(std::move(step)); }
+  void PlanMove(std::function<PixelPoint()> place);
+  void PlanStripInSight();
+  void PlanMenu(int button);
+  void PlanPull();
+  void PlanMainMenu();
+  void PlanPopup();
+  void PlanCarry();
+  void PlanPutDown();
+  void PlanSingle();
+  void PlanDrag();
+  void PlanDragEnd();
+  void PlanHint();
+  void PlanReturn();
+  void Rest();
+  void ChooseFrom(const sim::Popup& popup);
+  [[nodiscard]] std::string PickFrom(const std::vector<const forms::PopupItem*>& offered);
+  void WhileUp(std::string_view what);
+
+  // ---- what happens without the user (MonkeyWorld.cpp) ----
+
   void ChangeFiles();
+  void ChangeMenuFile();
+  void SpoilDisk();
+  void ChangeFolders();
   void ChangeWindows();
   void ChangeSystem();
+  void ChangeBars();
+  void EndFromOutside();
 
-  // What must hold when nothing runs. Empty when it does.
+  // ---- what must hold when nothing runs (MonkeyOrder.cpp); empty when it does ----
+
   [[nodiscard]] std::string WhatIsWrong();
   [[nodiscard]] std::string WrongRest();
   [[nodiscard]] std::string WrongState() const;
   [[nodiscard]] std::string WrongMenu() const;
-  [[nodiscard]] std::string WrongFiles() const;
+  [[nodiscard]] std::string WrongCarry();
+  [[nodiscard]] std::string WrongDrag();
+  [[nodiscard]] std::string WrongWindows() const;
+  [[nodiscard]] std::string WrongPlace() const;
+  [[nodiscard]] std::string WrongBars() const;
+  [[nodiscard]] std::string WrongOptions() const;
+  [[nodiscard]] std::string WrongFiles();
+  [[nodiscard]] std::string DiskCalls() const;
+  [[nodiscard]] std::string WrongQuiet() const;
   [[nodiscard]] std::string WrongEnd();
+  /// What the monkey changes on the disk itself is no loss.
+  void TakeStock();
+  void NotePlace();
 
   [[nodiscard]] int Number(int below);
   [[nodiscard]] bool Chance(int percent) { return Number(100) < percent; }
-  [[nodiscard]] PixelPoint SomePoint();
-  [[nodiscard]] PixelPoint PointIn(std::string_view className);
-  [[nodiscard]] std::string MenuPath(int number) const;
   void Tell(std::string event);
+  [[nodiscard]] bool StripStands() const;
+  [[nodiscard]] bool MenuUp() const;
+  [[nodiscard]] bool IsDown(forms::MouseButton button) const;
 
   std::mt19937_64 random_;
   bool tell_;
+  MonkeyTally& tally_;
+  std::vector<std::string> complaints_;
+  sim::ComplaintHandler handlerBefore_;
   std::unique_ptr<sim::World> world_;
   std::unique_ptr<Parts> parts_;
+  WindowId strip_ = kNoWindow;
+  Disk disk_ = Disk::Well;
   std::vector<WindowId> others_;
+  std::vector<WindowId> bars_;
+  bool taskBar_ = false;
   std::set<int> keysDown_;
-  bool diskFails_ = false;
+  std::deque<Step> plan_;
+  bool quiet_ = false;  // everything was let go a while ago
+  bool insideUp_ = false;
+  EntryLedger entries_;
+  int stockTaken_ = -1;    // SimFiles::Changes when entries_ was read
+  int lossesAllowed_ = 0;  // in this event
+  std::string placeBefore_;
+  std::size_t boxesBefore_ = 0;
+  int lived_ = 0;
   std::deque<std::string> last_;  // events
 };
 

@@ -123,6 +123,7 @@ class SingleRow final : public SingleButtonsPort {
   [[nodiscard]] bool OffersPopup(const Press& press) const;
   void ShowSinglePopup(int index, bool ctrl);
   void ShowRowPopup();
+  [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y);
 
   bool DropBehind(const EntryEdit& carried, forms::MouseButton released);

@@ -106,9 +106,13 @@ void SingleRow::ToFrame(forms::MouseButton button, forms::ShiftState shift, floa
                         y + strip_.picSingleButton.Top());
 }
 
+bool SingleRow::IsBesidePull(forms::MouseButton button) const {
+  return press_.On == PressOn::Frame && strip_.IsBesidePull(button);
+}
+
 void SingleRow::picSingleButton_MouseDown(forms::MouseButton button, forms::ShiftState shift,
                                           float x, float y) {
-  if (program_.Entry.ItemDragging) return;
+  if (program_.Entry.ItemDragging || IsBesidePull(button)) return;
   OnDate = strip_.lblDate.Visible() && IsOnDateArea(x, strip_.lblDate.Left());
   // The place of the press: by now the pointer may be elsewhere.
   const int index = OnDate ? Program::kDateArea : SingleAt(SingleButtons, {x, y});
@@ -147,6 +151,7 @@ void SingleRow::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftS
 void SingleRow::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x,
                                         float y) {
   program_.SetHint("");
+  if (IsBesidePull(button)) return;
   const Press press = std::exchange(press_, {});
   if (carrying_) {
     // The left button is still down when the right one drops a copy.

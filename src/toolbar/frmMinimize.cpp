@@ -189,6 +189,8 @@ std::optional<std::intptr_t> frmMinimize::WindowProc(std::uint32_t message, std:
 }
 
 void frmMinimize::Form_Resize() {
+  // On its way into the task bar it takes the strip's size, which is no return.
+  if (program_.ToolbarMinimizing) return;
   if (program_.StartingUp || program_.AppBarBusy || IsMinimized()) return;
   ToolbarPort* const strip = program_.Ports.Toolbar;
   if (strip == nullptr || !strip->WindowLoaded()) return;

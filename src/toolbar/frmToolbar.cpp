@@ -195,6 +195,8 @@ void frmToolbar::Form_Unload() {
   UnloadItems();
   program_.DoEvents();
   StopTimers();
+  // The pointer may have moved over the row meanwhile.
+  Singles.StopWatching();
 }
 
 void frmToolbar::UnloadItems() {

@@ -239,6 +239,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// The pointer went more than 3 pixels from the press on the frame.
   bool FrameMoved = false;
   bool FrameDragging = false;
+  /// A mouse button went down on the frame and is still down.
+  bool FrameHeld = false;
 
   /// The window in front when a drag came over the strip.
   WindowId SavedForeground = kNoWindow;
@@ -363,6 +365,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void ShowButtonPopup();
   void ShowFramePopup(std::string_view tag);
   void FollowFrame(forms::MouseButton down, float x, float y);
+  [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
+  void LetFrameGo();
+  void AbandonPull();
   void RevealFromLine();
   /// Shows where the strip would go, and what a pull along its own edge looks like.
   void FollowPull();

@@ -31,7 +31,7 @@ void frmToolbar::lblSep_MouseMove(int index, forms::MouseButton down, forms::Shi
     if (MenuUp()) FrameDragging = true;
     return;
   }
-  if (index != kGrip || !forms::Has(down, forms::MouseButton::Left)) return;
+  if (index != kGrip || !FrameHeld || !forms::Has(down, forms::MouseButton::Left)) return;
   // While the grip is held nothing else may place the strip.
   program_.RestoreBusy = true;
   if (!program_.AppBarBusy) FollowFrame(down, x + lblSep[kGrip].Left(), y + lblSep[kGrip].Top());
@@ -50,14 +50,23 @@ void frmToolbar::lblSep_MouseUp(int index, forms::MouseButton button, forms::Shi
   }
 }
 
-void frmToolbar::Form_MouseDown(forms::MouseButton /*button*/, forms::ShiftState /*shift*/, float x,
+// The other button does nothing to a strip that the left one pulls.
+bool frmToolbar::IsBesidePull(forms::MouseButton button) const {
+  constexpr int kLeftButtonKey = 1;
+  return FrameMoved && button != forms::MouseButton::Left &&
+         program_.Services.Pointer.IsKeyDown(kLeftButtonKey);
+}
+
+void frmToolbar::Form_MouseDown(forms::MouseButton button, forms::ShiftState /*shift*/, float x,
                                 float y) {
   if (program_.Entry.ItemDragging) return;
+  if (IsBesidePull(button)) return;
   program_.SetHint("");
   if (!IsLoaded()) return;
   ResetMenu();
   if (!IsLoaded()) return;
   FrameMoved = false;
+  FrameHeld = true;
   DownX = x;
   DownY = y;
   GrabX = x - picToolbar.Width();
@@ -70,6 +79,7 @@ void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shi
   if (down == forms::MouseButton::None) {
     FrameDragging = false;
     FrameMoved = false;
+    LetFrameGo();
     DrawBorders();
     return;
   }
@@ -81,6 +91,8 @@ void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shi
 }
 
 void frmToolbar::FollowFrame(forms::MouseButton down, float x, float y) {
+  // A button that went down elsewhere pulls nothing.
+  if (!FrameHeld) return;
   if (FrameHasMoved({DownX, DownY}, {x, y}, TwipsX, TwipsY)) FrameMoved = true;
   if (!FrameMoved || !forms::Has(down, forms::MouseButton::Left)) {
     DrawBorders();
@@ -145,6 +157,8 @@ void frmToolbar::DrawDragLook() {
 
 void frmToolbar::Form_MouseUp(forms::MouseButton button, forms::ShiftState /*shift*/, float /*x*/,
                               float /*y*/) {
+  if (IsBesidePull(button)) return;
+  LetFrameGo();
   if (button == forms::MouseButton::Right && !FrameMoved) {
     ShowFramePopup("Toolbar");
     return;
@@ -158,6 +172,23 @@ void frmToolbar::Form_MouseUp(forms::MouseButton button, forms::ShiftState /*shi
   }
   FrameMoved = false;
   FrameDragging = false;
+}
+
+// A strip that hides under the hand is held no more, and its release will not come.
+void frmToolbar::AbandonPull() {
+  if (!FrameHeld) return;
+  LetFrameGo();
+  FrameMoved = false;
+  FrameDragging = false;
+  ClearOutline();
+  LoadedWindow* const image = program_.Ports.ImageWindow;
+  if (image != nullptr) image->UnloadWindow();
+}
+
+// The release of the grip itself may have gone elsewhere.
+void frmToolbar::LetFrameGo() {
+  if (FrameHeld) program_.RestoreBusy = false;
+  FrameHeld = false;
 }
 
 void frmToolbar::ShowFramePopup(std::string_view tag) {

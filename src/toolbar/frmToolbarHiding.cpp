@@ -15,6 +15,7 @@ bool frmToolbar::ImageLoaded() const {
 }
 
 void frmToolbar::HideContents() {
+  AbandonPull();
   picToolbar.SetVisible(false);
   picSingleButton.SetVisible(false);
   for (forms::Line* line : {&bLine1, &bLine2, &bLine3, &bLine4, &bLineXY}) line->SetVisible(false);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 #include "base/Utf8.h"
 #include "sim/Complain.h"
@@ -31,23 +32,28 @@ PixelSize TextSize(std::string_view text, const FontSpec& font, float twipsPerPi
 
 SimCanvas::SimCanvas(PixelSize size, float twipsPerPixel)
     : size_{std::max(size.width, 1), std::max(size.height, 1)},
+      room_(size_),
       twipsPerPixel_(twipsPerPixel),
       pixels_(static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(size_.height)) {}
 
 Rgb* SimCanvas::Row(int y) {
-  return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width);
+  return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(room_.width);
 }
 
 const Rgb* SimCanvas::Row(int y) const {
-  return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width);
+  return pixels_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(room_.width);
 }
 
 void SimCanvas::FillBox(const PixelRect& box, Rgb colour) {
   const PixelRect shifted{box.left + origin_.x, box.top + origin_.y, box.right + origin_.x,
                           box.bottom + origin_.y};
   const PixelRect inside = Intersect(shifted, {0, 0, size_.width, size_.height});
-  for (int y = inside.top; y < inside.bottom; ++y) {
-    std::fill(Row(y) + inside.left, Row(y) + inside.right, colour);
+  if (inside.IsEmpty()) return;
+  const Rgb* const first = Row(inside.top) + inside.left;
+  std::fill(Row(inside.top) + inside.left, Row(inside.top) + inside.right, colour);
+  // To copy a row is cheaper than to fill it.
+  for (int y = inside.top + 1; y < inside.bottom; ++y) {
+    std::copy(first, first + inside.Width(), Row(y) + inside.left);
   }
 }
 
@@ -121,10 +127,25 @@ Rgb SimCanvas::PixelAt(PixelPoint at) const {
 }
 
 void SimCanvas::Resize(PixelSize size) {
-  SimCanvas other(size, twipsPerPixel_);
-  other.DrawCanvas(*this, {0, 0, size_.width, size_.height}, {0, 0});
-  size_ = other.size_;
-  pixels_ = std::move(other.pixels_);
+  const PixelSize old = size_;
+  const PixelSize wanted{std::max(size.width, 1), std::max(size.height, 1)};
+  if (wanted.width > room_.width || wanted.height > room_.height) {
+    SimCanvas larger({std::max(wanted.width, room_.width), std::max(wanted.height, room_.height)},
+                     twipsPerPixel_);
+    larger.DrawCanvas(*this, {0, 0, old.width, old.height}, {0, 0});
+    room_ = larger.room_;
+    pixels_ = std::move(larger.pixels_);
+    size_ = wanted;
+    return;
+  }
+  size_ = wanted;
+  // What a larger picture left here before this one was small.
+  for (int y = 0; y < wanted.height; ++y) {
+    const int kept = y < old.height ? std::min(old.width, wanted.width) : 0;
+    if (kept < wanted.width) {
+      std::memset(Row(y) + kept, 0, static_cast<std::size_t>(wanted.width - kept) * sizeof(Rgb));
+    }
+  }
 }
 
 bool SimCanvas::Shows(Rgb colour, const PixelRect& part) const {

@@ -22,7 +22,8 @@ class SimCanvas final : public Canvas {
   void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) override;
   Rgb PixelAt(PixelPoint at) const override;
 
-  /// Another size; what fits stays, the rest is black.
+  /// Another size; what fits stays, the rest is black. Memory is taken for a size that is larger
+  /// than any before, and only then.
   void Resize(PixelSize size);
 
   /// True if a pixel of `part` (without regard to the origin) has this colour.
@@ -34,6 +35,7 @@ class SimCanvas final : public Canvas {
   void DrawGlyph(const PixelRect& cell, char32_t character, Rgb colour);
 
   PixelSize size_;
+  PixelSize room_;  // of pixels_, which size_ is a part of
   PixelPoint origin_;
   float twipsPerPixel_;
   std::vector<Rgb> pixels_;

@@ -277,6 +277,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   bool PaintSomething();
   void PaintControl(SimCanvas& canvas, const SimWindow& window) const;
   void Compose(SimCanvas& screen, const SimWindow& window) const;
+  void ComposeAll(SimCanvas& screen) const;
 
   // Events
   void UserEvent(std::function<void()> event);

@@ -36,13 +36,6 @@ std::string ReadHost(const fs::path& host, std::uint64_t offset, std::size_t cou
   return bytes;
 }
 
-void WriteHost(const fs::path& host, std::string_view bytes) {
-  std::ofstream file(host, std::ios::binary | std::ios::trunc);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.flush();
-  if (!file) EndTest("the host cannot write", host.string());
-}
-
 std::uint64_t HostLength(const fs::path& host) {
   std::error_code error;
   const std::uint64_t length = fs::file_size(host, error);
@@ -62,6 +55,14 @@ fs::path FindEntry(const fs::path& folder, const std::string& name) {
 std::string KeyOf(const SimPath& path) { return UpperCase(FormatPath(path)); }
 
 }  // namespace
+
+void SimFiles::WriteHost(const fs::path& host, std::string_view bytes) {
+  ++changes_;
+  std::ofstream file(host, std::ios::binary | std::ios::trunc);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.flush();
+  if (!file) EndTest("the host cannot write", host.string());
+}
 
 SimFiles::SimFiles() {
   std::string pattern = (fs::temp_directory_path() / "corvelle-disk-XXXXXX").string();
@@ -87,7 +88,10 @@ void SimFiles::MakeFolders(std::string_view path) {
   for (const std::string& part : parsed.Path.Parts) {
     const fs::path found = FindEntry(host, part);
     host = found.empty() ? host / part : found;
-    if (found.empty()) fs::create_directory(host);
+    if (found.empty()) {
+      fs::create_directory(host);
+      ++changes_;
+    }
   }
 }
 
@@ -148,6 +152,7 @@ void SimFiles::LinkFolder(std::string_view link, std::string_view target) {
   const Place place = MustFind(link);
   const Place there = MustFind(target);
   if (!there.IsFolder) EndTest("is no folder to link to", target);
+  ++changes_;
   fs::create_directory_symlink(there.Host, place.Host);
 }
 
@@ -171,6 +176,7 @@ void SimFiles::Protect(std::string_view folder, bool isProtected) {
 
 void SimFiles::Vanish(std::string_view path) {
   const Place place = MustFind(path);
+  ++changes_;
   fs::remove_all(place.Host);
   std::erase_if(attributes_, [&](const auto& entry) {
     return entry.first == place.Key || entry.first.starts_with(place.Key + "\\");
@@ -413,6 +419,7 @@ FileStatus SimFiles::Remove(std::string_view path) {
   const FileResult<Place> place = FindWritable(path);
   if (!place) return place.Error();
   if (bytesLeft_) *bytesLeft_ += HostLength(place->Host);
+  ++changes_;
   fs::remove(place->Host);
   attributes_.erase(place->Key);
   return Done();
@@ -444,6 +451,7 @@ FileStatus SimFiles::Rename(std::string_view from, std::string_view to) {
   if (target->Exists && target->Key != source->Key) return FileError::AlreadyExists;
   const fs::path host = target->Host.parent_path() / target->Path.Parts.back();
   std::error_code error;
+  ++changes_;
   fs::rename(source->Host, host, error);
   if (error) return FileError::Failed;  // a folder into itself
   MoveAttributes(source->Key, target->Key);
@@ -473,6 +481,7 @@ FileStatus SimFiles::MakeFolder(std::string_view path) {
   if (place->Exists) return FileError::AlreadyExists;
   if (!place->ParentExists) return FileError::NotFound;
   if (IsProtected(place->Key)) return FileError::AccessDenied;
+  ++changes_;
   fs::create_directory(place->Host);
   return Done();
 }

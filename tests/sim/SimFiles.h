@@ -52,6 +52,9 @@ class SimFiles final : public FileSystem {
   [[nodiscard]] std::optional<std::string> Get(std::string_view path) const;
   /// Of a path that the disk cannot hold there is nothing.
   [[nodiscard]] bool Has(std::string_view path) const;
+  /// Grows with every change of a file or folder, whoever made it. What was found out about the
+  /// disk is true as long as this stays the same.
+  [[nodiscard]] int Changes() const noexcept { return changes_; }
   /// Names in a folder in the order of their bytes, in the disk's case.
   [[nodiscard]] std::vector<std::string> Names(std::string_view folder) const;
   void SetReadOnly(std::string_view path, bool readOnly);
@@ -143,6 +146,7 @@ class SimFiles final : public FileSystem {
 
   /// Makes `content` that of a file within the space left, all or a part.
   FileStatus Store(const Place& place, std::string_view content);
+  void WriteHost(const std::filesystem::path& host, std::string_view bytes);
   FileStatus FailWrite(FileError error, std::string_view path, std::uint64_t offset,
                        std::string_view bytes, bool cut);
 
@@ -157,6 +161,7 @@ class SimFiles final : public FileSystem {
   bool hit_ = false;
   FileError failWith_ = FileError::Failed;
   std::vector<Call> log_;
+  int changes_ = 0;
 };
 
 }  // namespace corvelle::sim

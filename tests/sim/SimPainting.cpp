@@ -118,26 +118,40 @@ void SimDesktop::Compose(SimCanvas& screen, const SimWindow& window) const {
 
 forms::WindowPicture SimDesktop::PictureOfWindow(WindowId window) {
   if (!IsShown(window)) return {};
-  // The window by itself on a screen that is large enough for it.
+  // The window by itself; nothing is to be seen of what lies left of the screen or above it.
   const PixelRect bounds = BoundsOf(window);
-  SimCanvas alone({std::max(bounds.right, 1), std::max(bounds.bottom, 1)}, options_.TwipsPerPixel);
-  Compose(alone, *Look(window));
-  auto copy = std::make_unique<SimCanvas>(bounds.Size(), options_.TwipsPerPixel);
-  copy->DrawCanvas(alone, bounds, {0, 0});
-  return {std::move(copy), bounds};
+  auto picture = std::make_unique<SimCanvas>(bounds.Size(), options_.TwipsPerPixel);
+  picture->SetOrigin({-bounds.left, -bounds.top});
+  Compose(*picture, *Look(window));
+  picture->FillBox({bounds.left, bounds.top, 0, bounds.bottom}, 0);
+  picture->FillBox({bounds.left, bounds.top, bounds.right, 0}, 0);
+  picture->SetOrigin({0, 0});
+  return {std::move(picture), bounds};
 }
 
 std::unique_ptr<Canvas> SimDesktop::PictureOfScreen(const PixelRect& part) {
   if (part.IsEmpty()) return nullptr;
-  auto copy = std::make_unique<SimCanvas>(part.Size(), options_.TwipsPerPixel);
-  copy->DrawCanvas(Picture(), part, {0, 0});
-  return copy;
+  auto picture = std::make_unique<SimCanvas>(part.Size(), options_.TwipsPerPixel);
+  picture->SetOrigin({-part.left, -part.top});
+  ComposeAll(*picture);
+  // Beyond the screen there is nothing.
+  const PixelSize screen = options_.Screen;
+  picture->FillBox({part.left, part.top, 0, part.bottom}, 0);
+  picture->FillBox({part.left, part.top, part.right, 0}, 0);
+  picture->FillBox({screen.width, part.top, part.right, part.bottom}, 0);
+  picture->FillBox({part.left, screen.height, part.right, part.bottom}, 0);
+  picture->SetOrigin({0, 0});
+  return picture;
 }
 
 SimCanvas SimDesktop::Picture() const {
   SimCanvas screen(options_.Screen, options_.TwipsPerPixel);
-  for (auto id = order_.rbegin(); id != order_.rend(); ++id) Compose(screen, *Look(*id));
+  ComposeAll(screen);
   return screen;
+}
+
+void SimDesktop::ComposeAll(SimCanvas& screen) const {
+  for (auto id = order_.rbegin(); id != order_.rend(); ++id) Compose(screen, *Look(*id));
 }
 
 }  // namespace corvelle::sim

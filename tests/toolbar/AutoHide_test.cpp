@@ -140,6 +140,21 @@ TEST(AutoHide, SwitchedOffItGivesUpTheClaimAndStandsInFullSight) {
   }
 }
 
+TEST(AutoHide, SwitchedOnAtAnEdgeItGivesUpTheRoomThatItKept) {
+  for (const Edge at : {Edge::Top, Edge::Bottom, Edge::Left, Edge::Right}) {
+    SCOPED_TRACE(std::string(EdgeText(at)));
+    DockDesk desk;
+    desk.StartAt(at);
+    ASSERT_FALSE(desk.World.Bars.KeptBy(desk.Strip.hWnd()).IsEmpty());
+    desk.TheProgram.AutoHide = true;
+    desk.Docking.SetAppBar("", false);
+    EXPECT_TRUE(desk.World.Bars.KeptBy(desk.Strip.hWnd()).IsEmpty());
+    EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
+    EXPECT_TRUE(desk.World.Bars.IsRegistered(desk.Strip.hWnd()));
+    EXPECT_EQ(desk.World.Bars.HiddenBar(at), desk.Strip.hWnd());
+  }
+}
+
 TEST(AutoHide, SwitchedOffOnTheWayToAnotherEdgeItGivesUpTheOldSide) {
   HidingDesk desk;
   desk.StartHidden(Edge::Right);

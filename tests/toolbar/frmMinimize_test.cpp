@@ -442,6 +442,18 @@ TEST(CompanionMinimize, LeavesTheEdgeAndReturnsToIt) {
   EXPECT_TRUE(desk.Strip.Visible());
 }
 
+TEST(CompanionMinimize, TakesTheSizeThatTheStripHasByNow) {
+  AtEdge desk;
+  TwipRect place = desk.Strip.WindowBounds();
+  place.Width += 1500;
+  desk.Companion.MinimizeFor(place);
+  EXPECT_TRUE(desk.TheProgram.ToolbarMinimized);
+  EXPECT_TRUE(desk.TheProgram.WasDocked);
+  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+  EXPECT_FALSE(desk.Strip.Visible());
+  EXPECT_EQ(desk.Companion.Width(), place.Width);
+}
+
 TEST(CompanionMinimize, ReturnsWithoutAutoHideWhereAnotherHidesByNow) {
   AtEdge desk;
   desk.TheProgram.AutoHide = true;

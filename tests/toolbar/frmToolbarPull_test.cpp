@@ -184,6 +184,64 @@ TEST(ToolbarPull, WhileTheGripIsHeldOtherBarsWait) {
   EXPECT_EQ(desk.TheProgram.ToolbarEdge, "BOTTOM");
 }
 
+TEST(ToolbarPull, TheOtherButtonDoesNotDisturbIt) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Pull(QuarterOf(Edge::Bottom));
+  desk.World.Desktop.Click(forms::MouseButton::Right);
+  EXPECT_TRUE(desk.World.Desktop.Popups().empty());
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "BOTTOM");
+  desk.PointAt(QuarterOf(Edge::Right));
+  EXPECT_EQ(desk.Picture.OutlineEdge(), "RIGHT");
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
+  EXPECT_FALSE(desk.Picture.IsLoaded());
+}
+
+TEST(ToolbarPull, TheOtherButtonDoesNotDisturbItOnTheBareRowEither) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+  desk.PointAt({row.left + 10, row.bottom - 100});
+  desk.World.Desktop.Press();
+  desk.PointAt(QuarterOf(Edge::Bottom));
+  ASSERT_EQ(desk.Picture.OutlineEdge(), "BOTTOM");
+  desk.World.Desktop.Click(forms::MouseButton::Right);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "BOTTOM");
+  EXPECT_FALSE(desk.Picture.IsLoaded());
+}
+
+TEST(ToolbarPull, AStripThatHidesUnderTheHandIsLetGo) {
+  DockDesk desk;
+  desk.SetOption(3, true);
+  desk.StartAt(Edge::Left);
+  const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+  desk.PointAt({row.left + 10, row.bottom - 100});
+  desk.World.Desktop.Press();
+  desk.PointAt(QuarterOf(Edge::Bottom));
+  ASSERT_EQ(desk.Picture.OutlineEdge(), "BOTTOM");
+  desk.World.Bars.TellBars();
+  ASSERT_TRUE(desk.IsLine());
+  EXPECT_FALSE(desk.Picture.IsLoaded());
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
+}
+
+TEST(ToolbarPull, AButtonThatWentDownElsewhereDoesNotPull) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.GoElsewhere();
+  desk.World.Desktop.Press();
+  const PixelRect strip = desk.Bounds();
+  for (const int y : {strip.top + 20, strip.top + 60, strip.bottom - 20}) {
+    // As the other program does not keep the mouse, the strip is told of the moves.
+    desk.Strip.Form_MouseMove(MouseButton::Left, {}, 15, static_cast<float>(y) * 15);
+  }
+  EXPECT_FALSE(desk.Strip.FrameMoved);
+  EXPECT_FALSE(desk.Picture.IsLoaded());
+}
+
 TEST(ToolbarPull, AMoveThatArrivesWhileTheOutlineIsShownDecides) {
   DockDesk desk;
   desk.StartAt(Edge::Left);

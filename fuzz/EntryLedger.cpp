@@ -1,0 +1,45 @@
+#include "EntryLedger.h"
+
+#include <algorithm>
+
+#include "base/CodePage.h"
+#include "base/Text.h"
+#include "core/MenuRecord.h"
+
+namespace corvelle::fuzz {
+
+bool HoldsEntries(std::string_view name) {
+  const std::string capitals = UpperCase(name);
+  return capitals.ends_with(".MNU") || capitals.ends_with(".BTN");
+}
+
+EntryLedger::EntryLedger(const sim::SimFiles& files, std::string_view folder) {
+  if (!files.Has(folder)) return;
+  const Windows1252 ansi;
+  for (const std::string& name : files.Names(folder)) {
+    if (!HoldsEntries(name)) continue;
+    const auto bytes = files.Get(std::string(folder) + name);
+    if (!bytes) continue;
+    for (std::size_t at = 0; at + kRecordLength <= bytes->size(); at += kRecordLength) {
+      const MenuRecord record =
+          ParseRecord(std::string_view(*bytes).substr(at, kRecordLength), ansi);
+      // Blanks at the ends are lost on the way through the windows, which is no loss.
+      ++entries_[Trim(record.FTitle) + '\n' + Trim(record.FIcon) + '\n' + Trim(record.FName)];
+      ++size_;
+    }
+  }
+}
+
+int EntryLedger::Lost(const EntryLedger& before, std::string& first) const {
+  int lost = 0;
+  for (const auto& [record, count] : before.entries_) {
+    const auto found = entries_.find(record);
+    const int missing = count - (found == entries_.end() ? 0 : found->second);
+    if (missing <= 0) continue;
+    if (lost == 0) first = record;
+    lost += missing;
+  }
+  return lost;
+}
+
+}  // namespace corvelle::fuzz

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "sim/SimFiles.h"
+
+namespace corvelle::fuzz {
+
+/// The entries that stand in the menu files and single buttons of a folder: the three texts of
+/// each, as often as it stands there.
+class EntryLedger {
+ public:
+  EntryLedger() = default;
+  /// Nothing when the folder is missing.
+  EntryLedger(const sim::SimFiles& files, std::string_view folder);
+
+  /// How many entries of `before` are not here any more; `first` becomes the texts of one of them.
+  [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
+  [[nodiscard]] int Size() const noexcept { return size_; }
+
+ private:
+  std::map<std::string, int> entries_;
+  int size_ = 0;
+};
+
+/// True for the files that hold entries of the user, by the end of their name.
+[[nodiscard]] bool HoldsEntries(std::string_view name);
+
+}  // namespace corvelle::fuzz

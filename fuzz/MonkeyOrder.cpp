@@ -1,0 +1,303 @@
+// What must hold after every event.
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+#include "MonkeyLife.h"
+#include "base/Text.h"
+#include "core/MenuFile.h"
+#include "core/MenuRecord.h"
+#include "forms/Types.h"
+
+namespace corvelle::fuzz {
+namespace {
+
+constexpr int kTwoPolls = 200;       // milliseconds
+constexpr int kMostTimers = 9;       // that the program has
+constexpr int kMostThickness = 150;  // pixels
+
+}  // namespace
+
+void MonkeyLife::TakeStock() {
+  entries_ = EntryLedger(world_->Files, kMenus);
+  stockTaken_ = world_->Files.Changes();
+}
+
+std::string MonkeyLife::WrongState() const {
+  const Program& program = parts_->TheProgram;
+  if (program.StartingUp) return "the start has not ended";
+  if (program.MenuBuilding) return "a menu is still being built";
+  if (program.AppBarBusy) return "the strip is still being placed";
+  if (program.PosChangeRunning) return "the edge is still being changed";
+  if (program.IconsLoading) return "icons are still being loaded";
+  if (program.HideBusy) return "the strip is still being hidden";
+  if (program.ChangingMode) return "the mode is still being changed";
+  if (program.ItemActionBusy) return "an entry is still being edited";
+  if (program.ItemDropping) return "an entry is still being put down";
+  if (program.MenuFormBusy) return "a window still edits a menu";
+  if (program.MovingToolbar) return "the outline is still being moved";
+  if (program.ToolbarMinimizing) return "the strip is still on its way into the task bar";
+  if (program.WebLinkPending) return "an address waits for a window that is not there";
+  if (parts_->Toolbar.MenuRefreshing) return "a menu is still being reread";
+  if (!program.ToolbarMinimized && !program.ToolbarReady) return "the strip does not listen";
+  if (!parts_->Toolbar.Enabled()) return "the strip is disabled";
+  if (program.CurButton < 0 || program.CurButton > parts_->Toolbar.ButtonCount)
+    return "there is no current button " + std::to_string(program.CurButton);
+  if (program.CurSingle != Program::kDateArea && program.CurSingle > parts_->Toolbar.SingleCount)
+    return "there is no current single button " + std::to_string(program.CurSingle);
+  if (world_->Desktop.CurrentMousePointer() == forms::MousePointer::Hourglass)
+    return "the hourglass stays";
+  if (world_->Desktop.Clock().Running() > kMostTimers) return "timers pile up";
+  return {};
+}
+
+std::string MonkeyLife::WrongMenu() const {
+  const Program& program = parts_->TheProgram;
+  const frmQMenu& menu = parts_->Menu;
+  if (!menu.MenuVisible()) return {};
+  if (!menu.Timer1.Enabled()) return "a menu is up without its poll";
+  if (!menu.MenuReady) return "a menu is up without being ready";
+  if (menu.OwnerTag() == "0" || menu.OwnerTag().empty()) return "a menu is up that no button owns";
+  if (program.ToolbarMinimized) return "a menu is up without its strip";
+  if (menu.CurMenu < 0 || menu.CurMenu > menu.Slides) return "there is no such page";
+  if (menu.Labels > 0 && (menu.FirstLabel < 1 || menu.LastLabel > menu.Labels))
+    return "the page has items that the menu has not";
+  const int selected = program.SelectedItem;
+  if (selected != 0 && (selected < menu.FirstLabel || selected > menu.LastLabel))
+    return "the selection " + std::to_string(selected) + " is not on the page";
+  if (menu.Shape1.Visible() && selected == 0) return "a bar is shown without a selection";
+  return {};
+}
+
+// What a tick of the poll has to end: a menu that the desktop hid.
+std::string MonkeyLife::WrongRest() {
+  if (parts_->Menu.MenuVisible() || !parts_->Menu.Timer1.Enabled()) return {};
+  world_->Desktop.Advance(kTwoPolls);
+  const bool stays = !parts_->Menu.MenuVisible() && parts_->Menu.Timer1.Enabled();
+  return stays ? "the poll runs on without a menu" : "";
+}
+
+std::string MonkeyLife::WrongCarry() {
+  const Program& program = parts_->TheProgram;
+  const auto pointer = [this] { return world_->Desktop.CurrentMousePointer(); };
+  const auto carries = [&] {
+    return pointer() == forms::MousePointer::Custom || pointer() == forms::MousePointer::NoDrop;
+  };
+  if (!program.Entry.ItemDragging) return carries() ? "the pointer still carries something" : "";
+  if (IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right)) return {};
+  constexpr int kNoticed = 500;
+  world_->Desktop.Advance(kNoticed);
+  if (!StripStands()) return {};
+  if (program.Entry.ItemDragging) return "an entry is carried by a hand that let go";
+  return carries() ? "the pointer still carries something" : "";
+}
+
+std::string MonkeyLife::WrongDrag() {
+  const Program& program = parts_->TheProgram;
+  if (world_->Desktop.Dragging()) return {};
+  const auto open = [&] {
+    // A menu that the drag came to straight away forgets it when it goes.
+    return (program.DragOverButton && !MenuUp()) || program.DragEntered ||
+           parts_->Toolbar.tmrDragDrop.Enabled();
+  };
+  if (!open() || IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right)) return {};
+  constexpr int kNoticed = 2500;
+  world_->Desktop.Advance(kNoticed);
+  if (!StripStands()) return {};
+  if (!open()) return {};
+  return std::string("a drag that is over still counts: ") +
+         (program.DragOverButton ? "over " : "") + (program.DragEntered ? "entered " : "") +
+         (parts_->Toolbar.tmrDragDrop.Enabled() ? "watched" : "");
+}
+
+std::string MonkeyLife::WrongWindows() const {
+  constexpr std::array<std::string_view, 7> kKnown = {
+      "frmToolbar", "frmQMenu", "frmMinimize", "frmHelp", "frmImage", "frmTip", "frmStartup"};
+  std::map<std::string, int> seen;
+  for (const WindowId id : world_->Desktop.TopLevel()) {
+    const sim::SimWindow* const window = world_->Desktop.Look(id);
+    if (!window->Own || id == world_->Desktop.DesktopWindow()) continue;
+    if (std::find(kKnown.begin(), kKnown.end(), window->ClassName) == kKnown.end())
+      return "a window " + window->ClassName + " stays";
+    if (++seen[window->ClassName] > 1) return "there are two of " + window->ClassName;
+  }
+  for (const std::string_view name : {"frmToolbar", "frmQMenu", "frmMinimize"}) {
+    if (!seen.contains(std::string(name))) return std::string(name) + " is gone";
+  }
+  if (seen.contains("frmStartup")) return "the window of the start stays";
+  const bool pulled = IsDown(forms::MouseButton::Left);
+  if (parts_->StillPicture.IsLoaded() && !pulled) return "a still picture stays";
+  return {};
+}
+
+std::string MonkeyLife::WrongPlace() const {
+  const Program& program = parts_->TheProgram;
+  const frmToolbar& strip = parts_->Toolbar;
+  if (program.ToolbarMinimized) {
+    if (strip.Visible()) return "a strip in the task bar is to be seen";
+    if (program.AppBarDocked) return "a strip in the task bar stands at an edge";
+    return {};
+  }
+  if (!strip.Visible() && !program.AutoHide) return "the strip is not to be seen";
+  if (!strip.Visible()) return {};
+  const PixelRect bounds = world_->Desktop.BoundsOf(strip.WindowHandle());
+  const forms::ScreenInfo info = world_->Desktop.Screen();
+  const PixelRect screen{0, 0, static_cast<int>(info.Width / info.TwipsPerPixelX),
+                         static_cast<int>(info.Height / info.TwipsPerPixelY)};
+  const bool slides = IsDown(forms::MouseButton::Left);
+  if (!slides && Intersect(bounds, screen).IsEmpty()) return "the strip is off the screen";
+  if (!program.AppBarDocked) return {};
+  const int thickness = program.ToolbarVertical ? bounds.Width() : bounds.Height();
+  if (thickness > kMostThickness)
+    return "the strip at an edge is " + std::to_string(thickness) + " pixels thick";
+  const auto edge = EdgeFromText(program.ToolbarEdge);
+  if (!edge) return "there is no edge " + program.ToolbarEdge;
+  if (IsVertical(*edge) != program.ToolbarVertical) return "the strip stands across its edge";
+  const bool pinned = strip.Left() == program.PinnedLeft && strip.Top() == program.PinnedTop;
+  if (!program.AutoHide && !pinned) return "the strip is not where it is pinned";
+  return {};
+}
+
+std::string MonkeyLife::WrongBars() const {
+  const Program& program = parts_->TheProgram;
+  const WindowId strip = parts_->Toolbar.WindowHandle();
+  const bool docked = program.AppBarDocked && !program.ToolbarMinimized;
+  const bool hides = docked && program.AutoHide;
+  for (const Edge edge : {Edge::Top, Edge::Bottom, Edge::Left, Edge::Right}) {
+    const bool claims = world_->Bars.HiddenBar(edge) == strip;
+    const bool should = hides && EdgeText(edge) == program.ToolbarEdge;
+    if (claims != should)
+      return std::string(claims ? "a claim that was not given up at " : "no claim at ") +
+             std::string(EdgeText(edge));
+  }
+  const bool keeps = !world_->Bars.KeptBy(strip).IsEmpty();
+  const bool should = docked && !program.AutoHide && !program.NotOnTop;
+  if (keeps != should) return keeps ? "room is kept for no strip" : "no room is kept for the strip";
+  if (program.ToolbarMinimized && program.WasDocked && world_->Bars.IsRegistered(strip))
+    return "a strip in the task bar is still a bar";
+  const std::size_t icons = program.NotOnTop ? 1 : 0;
+  if (world_->Tray.Shown.size() != icons)
+    return "the tray shows " + std::to_string(world_->Tray.Shown.size()) + " icons";
+  return {};
+}
+
+std::string MonkeyLife::WrongOptions() const {
+  const Program& program = parts_->TheProgram;
+  if (program.OptionFlags.Is(3) != program.AutoHide) return "the option of Auto Hide differs";
+  if (program.OptionFlags.Is(23) != program.NotOnTop) return "the option of Not On Top differs";
+  if (program.AutoHide && program.NotOnTop) return "the strip hides and can be covered";
+  return {};
+}
+
+// The last calls, to be seen beside what they did.
+std::string MonkeyLife::DiskCalls() const {
+  constexpr int kCalls = 20;
+  const auto& log = world_->Files.Log();
+  std::string text;
+  int told = 0;
+  for (auto call = log.rbegin(); call != log.rend() && told < kCalls; ++call) {
+    const std::string& what = call->Operation;
+    if (what == "Read" || what == "List" || what == "Length" || what.ends_with("Exists")) continue;
+    text = "\n  disk: " + what + " " + call->Path + " " + call->Other + text;
+    ++told;
+  }
+  return text;
+}
+
+std::string MonkeyLife::WrongFiles() {
+  if (world_->Files.Changes() == stockTaken_) return {};
+  const EntryLedger before = entries_;
+  TakeStock();
+  std::string first;
+  const int lost = entries_.Lost(before, first);
+  if (disk_ != Disk::Failing && lost > lossesAllowed_) {
+    std::string added;
+    const int more = before.Lost(entries_, added);
+    return std::to_string(lost) + " entries are lost, one is\n" + first + "\n" +
+           std::to_string(more) + " are new, one is\n" + added + DiskCalls();
+  }
+  if (!world_->Files.Has(kMenus) || disk_ == Disk::Failing) return {};
+  for (const std::string& name : world_->Files.Names(kMenus)) {
+    const std::string path = std::string(kMenus) + name;
+    if (HoldsEntries(name)) {
+      // What the monkey broke itself stays broken, also under another number.
+      const auto bytes = world_->Files.Get(path);
+      if (bytes && bytes->size() % kRecordLength != 0 && bytes->find(kDamage) == std::string::npos)
+        return name + " is no whole number of records any more";
+    }
+    const bool temporary = UpperCase(name).ends_with(".TMP") || name == kRewriteFileName;
+    if (temporary && disk_ == Disk::Well) return name + " was left behind";
+  }
+  return {};
+}
+
+// Nobody has touched anything for some seconds.
+std::string MonkeyLife::WrongQuiet() const {
+  if (!quiet_) return {};
+  const Program& program = parts_->TheProgram;
+  if (MenuUp()) return "a menu stays though the user has turned away";
+  if (program.MenuOpen) return "a menu counts as open";
+  const WindowId hint = parts_->Hint.WindowHandle();
+  if (hint != kNoWindow && world_->Desktop.IsShown(hint)) return "a hint stays";
+  const int running = world_->Desktop.Clock().Running();
+  const int expected = program.AutoHide && !program.ToolbarMinimized ? 1 : 0;
+  if (running > expected) return std::to_string(running) + " timers run for nothing";
+  if (expected == 1 && running == 0) return "nobody watches for a strip that hides";
+  return {};
+}
+
+void MonkeyLife::NotePlace() {
+  const Program& program = parts_->TheProgram;
+  std::string place = program.ToolbarMinimized ? "in the task bar"
+                      : program.AppBarDocked   ? "at " + program.ToolbarEdge
+                                               : "at no edge";
+  if (program.AutoHide) place += ", hiding";
+  if (program.NotOnTop) place += ", not on top";
+  if (place == placeBefore_) return;
+  Tell("(strip " + place + ")");
+  placeBefore_ = place;
+  tally_.Note("strip " + place);
+}
+
+std::string MonkeyLife::WhatIsWrong() {
+  if (!complaints_.empty()) return complaints_.front();
+  if (std::string wrong = WrongRest(); !wrong.empty()) return wrong;
+  if (std::string wrong = WrongCarry(); !wrong.empty()) return wrong;
+  if (std::string wrong = WrongDrag(); !wrong.empty()) return wrong;
+  if (!StripStands() || world_->Desktop.QuitCalled()) return {};
+  NotePlace();
+  for (const auto check :
+       {&MonkeyLife::WrongState, &MonkeyLife::WrongMenu, &MonkeyLife::WrongWindows,
+        &MonkeyLife::WrongPlace, &MonkeyLife::WrongBars, &MonkeyLife::WrongOptions,
+        &MonkeyLife::WrongQuiet}) {
+    if (std::string wrong = (this->*check)(); !wrong.empty()) return wrong;
+  }
+  return WrongFiles();
+}
+
+std::string MonkeyLife::WrongEnd() {
+  if (parts_->Companion.WindowLoaded()) parts_->Companion.UnloadWindow();
+  if (!complaints_.empty()) return complaints_.front();
+  if (!world_->Desktop.QuitCalled()) return "the end of the companion is not the end";
+  for (const std::string_view window :
+       {"frmToolbar", "frmQMenu", "frmMinimize", "picToolbar", "frmStartup", "frmImage"}) {
+    if (world_->Desktop.Find(window) != kNoWindow) return std::string(window) + " outlives the end";
+  }
+  if (world_->Bars.IsRegistered(strip_)) return "the strip's bar outlives the end";
+  if (!world_->Tray.Shown.empty()) return "an icon in the tray outlives the end";
+  const std::pair<const char*, const forms::Timer*> timers[] = {
+      {"Timer1 of the strip", &parts_->Toolbar.Timer1},
+      {"Timer2 of the strip", &parts_->Toolbar.Timer2},
+      {"tmrDragDrop", &parts_->Toolbar.tmrDragDrop},
+      {"the poll of the menu", &parts_->Menu.Timer1},
+      {"the timer of the hint", &parts_->Hint.Timer1}};
+  for (const auto& [name, timer] : timers) {
+    if (timer->Enabled()) return std::string(name) + " outlives the end";
+  }
+  if (world_->Desktop.Clock().Running() > (world_->Desktop.Dragging() ? 1 : 0))
+    return "a timer outlives the end";
+  return WrongFiles();
+}
+
+}  // namespace corvelle::fuzz

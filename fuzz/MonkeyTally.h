@@ -1,0 +1,25 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace corvelle::fuzz {
+
+/// What the monkey has done and what came of it, over all lives of a run: a monkey that has stopped
+/// reaching something finds nothing there.
+class MonkeyTally {
+ public:
+  void Note(std::string_view deed) { ++counts_[std::string(deed)]; }
+  [[nodiscard]] int Count(std::string_view deed) const;
+  /// Deeds that every run of some ten thousand events has to come to, and this one has not.
+  [[nodiscard]] std::vector<std::string> Missing() const;
+  /// One line for each deed.
+  void Print() const;
+
+ private:
+  std::map<std::string, int, std::less<>> counts_;
+};
+
+}  // namespace corvelle::fuzz
