@@ -126,7 +126,7 @@ std::string MonkeyLife::WrongWindows() const {
     if (!seen.contains(std::string(name))) return std::string(name) + " is gone";
   }
   if (seen.contains("frmStartup")) return "the window of the start stays";
-  const bool pulled = IsDown(forms::MouseButton::Left);
+  const bool pulled = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
   if (parts_->StillPicture.IsLoaded() && !pulled) return "a still picture stays";
   return {};
 }
@@ -145,8 +145,12 @@ std::string MonkeyLife::WrongPlace() const {
   const forms::ScreenInfo info = world_->Desktop.Screen();
   const PixelRect screen{0, 0, static_cast<int>(info.Width / info.TwipsPerPixelX),
                          static_cast<int>(info.Height / info.TwipsPerPixelY)};
-  const bool slides = IsDown(forms::MouseButton::Left);
-  if (!slides && Intersect(bounds, screen).IsEmpty()) return "the strip is off the screen";
+  const bool slides = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
+  // Two options let a strip at no edge pass the sides of the screen, without an end.
+  const bool mayPass =
+      !program.AppBarDocked && (program.OptionFlags.Is(13) || program.OptionFlags.Is(27));
+  if (!slides && !mayPass && Intersect(bounds, screen).IsEmpty())
+    return "the strip is off the screen";
   if (!program.AppBarDocked) return {};
   const int thickness = program.ToolbarVertical ? bounds.Width() : bounds.Height();
   if (thickness > kMostThickness)
@@ -236,6 +240,9 @@ std::string MonkeyLife::WrongFiles() {
 std::string MonkeyLife::WrongQuiet() const {
   if (!quiet_) return {};
   const Program& program = parts_->TheProgram;
+  const PixelPoint pointer = world_->Desktop.PointerPosition();
+  const bool over = world_->Desktop.WindowAt(pointer) == parts_->Menu.WindowHandle();
+  if (MenuUp() && over) return {};  // where the pointer rests a menu stays
   if (MenuUp()) return "a menu stays though the user has turned away";
   if (program.MenuOpen) return "a menu counts as open";
   const WindowId hint = parts_->Hint.WindowHandle();

@@ -53,7 +53,6 @@ std::vector<std::string> MonkeyTally::Missing() const {
                                                 "popup of Toolbar: Add Button",
                                                 "popup of B: Delete Item",
                                                 "popup of B: Add Button",
-                                                "popup of F: Refresh",
                                                 "popup of F: Cut Item",
                                                 "popup of F: Copy Item",
                                                 "popup of F: Paste Item",

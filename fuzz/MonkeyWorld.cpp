@@ -3,6 +3,7 @@
 #include <array>
 
 #include "MonkeyLife.h"
+#include "core/MenuRecord.h"
 #include "forms/Types.h"
 
 namespace corvelle::fuzz {
@@ -43,6 +44,9 @@ void MonkeyLife::ChangeMenuFile() {
       }
   }
   TakeStock();
+  // The button that is about to be deleted may be this one.
+  if (const auto bytes = world_->Files.Get(path); insideUp_ && bytes && lossesAllowed_ > 1)
+    lossesAllowed_ += static_cast<int>(bytes->size() / kRecordLength);
 }
 
 void MonkeyLife::SpoilDisk() {
