@@ -194,11 +194,10 @@ void frmToolbar::DropFiles(std::vector<std::string> names, int button) {
     EndDragOver();
     return;
   }
-  RefreshMenu("F" + std::to_string(button));
-  // The menu stays open only in front, and the system leaves that to the program dragged from.
-  if (IsLoaded() && MenuUp() && !IsOursActive()) {
-    program_.Services.Desktop.BringForward(program_.Ports.QMenu->WindowHandle());
-  }
+  // The menu comes up and stays only in front, and the system leaves that to the program dragged
+  // from.
+  if (!IsOursActive()) program_.Services.Desktop.BringForward(hWnd());
+  if (IsLoaded()) RefreshMenu("F" + std::to_string(button));
 }
 
 void frmToolbar::DropAddress(std::string_view text, int button) {

@@ -27,9 +27,11 @@ inline constexpr WORD kProgramIcon = 1;
 /// The module that this code is linked into.
 inline HINSTANCE Module() noexcept { return GetModuleHandleW(nullptr); }
 
-/// True while the window in front belongs to this thread.
+/// True unless the window in front belongs to another thread. While the foreground changes hands
+/// there is none, and no other program holds this one back.
 inline bool InForeground() noexcept {
-  return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) == GetCurrentThreadId();
+  HWND front = GetForegroundWindow();
+  return front == nullptr || GetWindowThreadProcessId(front, nullptr) == GetCurrentThreadId();
 }
 
 }  // namespace corvelle::win32
