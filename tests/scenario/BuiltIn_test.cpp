@@ -19,7 +19,7 @@ TEST(BuiltInWord, IsCarriedOutByTheProgramItselfAndNoStopsIt) {
   desk->AnswerNext(kButtonNo);
   ASSERT_TRUE(StartAndWait(*desk));
   ASSERT_TRUE(OpenMenu(*desk, 2));
-  desk->Click(ItemMiddle(*desk, 1, 1));
+  ClickItem(*desk, ItemMiddle(*desk, 1, 1));
   ASSERT_TRUE(desk->Wait([&] { return !desk->Messages().empty(); }));
   desk->Pause(300);
   ASSERT_EQ(desk->Messages().size(), 1U);

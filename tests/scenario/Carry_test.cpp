@@ -84,7 +84,7 @@ TEST_F(CarryRoadAtEachScale, AnItemIsCarriedDownWithinItsMenu) {
   desk_->Picture("put-down");
   EXPECT_TRUE(desk_->Launched().empty());
   // The menu works as before: its first item is the one that was the second.
-  desk_->Click(ItemMiddle(*desk_, 1, 4));
+  ClickItem(*desk_, ItemMiddle(*desk_, 1, 4));
   ASSERT_TRUE(desk_->Wait([this] { return !desk_->Launched().empty(); }));
   EXPECT_EQ(desk_->Launched()[0].Arguments, "beta");
 }
@@ -185,9 +185,7 @@ TEST_F(CarryRoad, AReleaseThatAnotherProgramGotEndsTheCarry) {
   desk_->Key(kKeyEscape);
   desk_->Pause(300);
   ASSERT_TRUE(OpenMenu(*desk_, 2));
-  desk_->MovePointer(ItemMiddle(*desk_, 3, 4));
-  desk_->Pause(150);
-  desk_->Click(ItemMiddle(*desk_, 3, 4));
+  ClickItem(*desk_, ItemMiddle(*desk_, 3, 4));
   ASSERT_TRUE(desk_->Wait([this] { return !desk_->Launched().empty(); }));
   EXPECT_EQ(desk_->Launched()[0].Arguments, "gamma");
 }

@@ -26,12 +26,12 @@ TEST(SpecialFolder, ItsEntryStartsByAClick) {
              {.FTitle = "Tool", .FIcon = "", .FName = "CSIDL_PROGRAMS\\" + std::string(kTitle)}});
   ASSERT_TRUE(StartAndWait(*desk));
   ASSERT_TRUE(OpenMenu(*desk, 2));
-  desk->Click(ItemMiddle(*desk, 1, 2));
+  ClickItem(*desk, ItemMiddle(*desk, 1, 2));
   ASSERT_TRUE(WaitForNoMenu(*desk));
   desk->Pause(500);
   EXPECT_TRUE(desk->Launched().empty());
   ASSERT_TRUE(OpenMenu(*desk, 2));
-  desk->Click(ItemMiddle(*desk, 2, 2));
+  ClickItem(*desk, ItemMiddle(*desk, 2, 2));
   ASSERT_TRUE(desk->Wait([&] { return !desk->Launched().empty(); }));
   EXPECT_EQ(desk->Launched()[0].Program, desk->WitnessProgram());
   EXPECT_EQ(desk->Launched()[0].Arguments, "from-programs");
@@ -45,7 +45,7 @@ TEST(ShellMenu, ComesUpByARightClickWhereTheOptionSaysSoAndItsCommandClosesTheMe
   ASSERT_TRUE(StartAndWait(*desk));
   ASSERT_TRUE(OpenMenu(*desk, 2));
   desk->AnswerShellMenu('c');  // copies the file
-  desk->Click(ItemMiddle(*desk, 1, 2), Button::Right);
+  ClickItem(*desk, ItemMiddle(*desk, 1, 2), Button::Right);
   ASSERT_TRUE(desk->Wait([&] { return desk->ShellMenus() == 1; }));
   EXPECT_TRUE(WaitForNoMenu(*desk));
   EXPECT_EQ(desk->RunningCopies(), 1);
@@ -70,7 +70,7 @@ TEST(ShellMenu, ComesUpWithCtrlWhereTheOptionPrefersThePopupAndEscLeavesTheMenu)
   desk->Pause(500);
   EXPECT_TRUE(desk->IsVisible("frmQMenu"));
   // The menu still takes a choice.
-  desk->Click(ItemMiddle(*desk, 2, 2));
+  ClickItem(*desk, ItemMiddle(*desk, 2, 2));
   EXPECT_TRUE(desk->Wait([&] { return !desk->Launched().empty(); }));
 }
 
@@ -85,7 +85,7 @@ TEST(UnknownDocument, IsHandedToTheSystemAndTheProgramGoesOn) {
        Witness(*desk, "second")});
   ASSERT_TRUE(StartAndWait(*desk));
   ASSERT_TRUE(OpenMenu(*desk, 2));
-  desk->Click(ItemMiddle(*desk, 1, 2));
+  ClickItem(*desk, ItemMiddle(*desk, 1, 2));
   ASSERT_TRUE(WaitForNoMenu(*desk));
   desk->Pause(1500);
   desk->Picture("unknown-document");

@@ -132,6 +132,12 @@ bool WaitForNoMenu(Desk& desk) {
   return desk.Wait([&desk] { return !desk.IsVisible("frmQMenu"); });
 }
 
+void ClickItem(Desk& desk, PixelPoint at, Button button) {
+  desk.MovePointer(at);
+  desk.Pause(200);
+  desk.Click(at, button);
+}
+
 PixelPoint GripMiddle(const Desk& desk) {
   const PixelRect strip = desk.BoundsOf("picToolbar");
   if (IsUpright(strip)) return {(strip.left + strip.right) / 2, strip.bottom + 4};

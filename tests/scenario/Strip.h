@@ -49,6 +49,8 @@ inline constexpr std::string_view kPositionFile = "toolbarp.dat";
 /// Waits until the menu is open at that button's place; and until no menu is open.
 [[nodiscard]] bool WaitForMenuAt(Desk& desk, int button);
 [[nodiscard]] bool WaitForNoMenu(Desk& desk);
+/// Points at an item, and clicks when the menu has had time to select it, as a hand does.
+void ClickItem(Desk& desk, PixelPoint at, Button button = Button::Left);
 
 /// The middle of the grip between the buttons and the single buttons; screen pixels.
 [[nodiscard]] PixelPoint GripMiddle(const Desk& desk);
