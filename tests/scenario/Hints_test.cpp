@@ -66,12 +66,15 @@ class TipAtEachScale : public HintsAtEachScale {
   /// Chooses "Not On Top" in the program's own menu, and waits until it is on or off.
   bool Switch(bool on) {
     if (!OpenMenu(*desk_, 1)) return false;
+    desk_->Pause(250);
     for (int item = 1; item <= 5; ++item) {
       desk_->Key(kKeyDown);
-      desk_->Pause(50);
+      desk_->Pause(100);
     }
+    desk_->Pause(150);
     desk_->Key(kKeyEnter);
-    const bool switched = desk_->Wait([&] { return FlagIs(kNotOnTop, on ? '1' : '0'); });
+    const bool switched =
+        desk_->Wait([&] { return FlagIs(kNotOnTop, on ? '1' : '0'); }) && WaitForNoMenu(*desk_);
     desk_->MovePointer(FarAway(*desk_));
     return switched;
   }
