@@ -368,6 +368,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void LetFrameGo();
   void AbandonPull();
+  void EndLostPull();
+  /// Notices when the release of the frame went to another program.
+  void WatchPull();
   void RevealFromLine();
   /// Shows where the strip would go, and what a pull along its own edge looks like.
   void FollowPull();
@@ -418,6 +421,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   std::vector<MenuRecord> records_;  // of the buttons, by their index
   std::string lastTag_;              // of the menu that was opened last
   AbandonWatch carryWatch_;
+  AbandonWatch pullWatch_;
   float menuLeft_ = 0;  // where the menu window was placed
   float menuTop_ = 0;
   std::int64_t pressedAt_ = 0;    // when the menu was last changed by hand, milliseconds

@@ -196,6 +196,7 @@ void frmToolbar::Timer1_Timer() {
     const WindowId active = desktop.ActiveWindow();
     if (active == kNoWindow || active == hWnd() || !desktop.IsVisible(active)) SetFocus();
   }
+  WatchPull();
   if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
       program_.PosChangeRunning || program_.ButtonDragging || program_.RestoreBusy) {
     return;
@@ -205,7 +206,8 @@ void frmToolbar::Timer1_Timer() {
     if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
     Timer1.SetEnabled(false);
   } else if (!program_.AutoHide) {
-    Timer1.SetEnabled(false);
+    // Who holds the frame may let it go elsewhere.
+    Timer1.SetEnabled(FrameHeld);
   } else if (program_.Ports.Docking != nullptr && !program_.HideBusy) {
     const forms::FlagScope busy(program_.HideBusy);
     HideAndReveal();
