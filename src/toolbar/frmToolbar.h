@@ -189,6 +189,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void EnsureToolbarVisible();
   /// Ends a move of the strip: it takes the place that the screen and the options let it have.
   void AdjustToolbarPosition();
+  /// Bars or the screen have changed at a moment when the strip could not be placed: it is placed
+  /// as soon as it can be.
+  void FollowBarsLater();
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
     Form::SetWindowPos(after, flags);
   }
@@ -430,6 +433,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   bool positioned_ = false;       // SavedLeft is known
   bool subclassed_ = false;
   bool focusRequested_ = false;
+  bool barsWait_ = false;  // bars or the screen have changed since the strip was placed
 };
 
 }  // namespace corvelle

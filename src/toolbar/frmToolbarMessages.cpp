@@ -64,8 +64,14 @@ std::optional<std::intptr_t> frmToolbar::ShellNotify(std::uintptr_t what, std::i
 
 void frmToolbar::FollowBars() {
   if (program_.Ports.Docking == nullptr || program_.PosChangeRunning) return;
+  barsWait_ = false;
   const forms::FlagScope running(program_.PosChangeRunning);
   program_.Ports.Docking->SetAppBar("", false);
+}
+
+void frmToolbar::FollowBarsLater() {
+  barsWait_ = true;
+  Timer1.SetEnabled(true);
 }
 
 void frmToolbar::FollowColours() {
@@ -201,6 +207,11 @@ void frmToolbar::Timer1_Timer() {
       program_.PosChangeRunning || program_.ButtonDragging || program_.RestoreBusy) {
     return;
   }
+  if (barsWait_ && program_.AppBarDocked && !program_.ToolbarMinimized) {
+    FollowBars();
+    return;
+  }
+  barsWait_ = false;
   if (program_.ToolbarMinimized) {
     Timer2.SetEnabled(false);
     if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
