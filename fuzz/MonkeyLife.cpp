@@ -14,7 +14,6 @@ namespace corvelle::fuzz {
 namespace {
 
 constexpr char kApp[] = "C:\\Corvelle\\";
-constexpr int kSingles = 7;
 constexpr std::size_t kRemembered = 30;  // events
 
 const std::array<std::string, 12> kTitles = {

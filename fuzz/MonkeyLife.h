@@ -46,6 +46,7 @@ class MonkeyLife {
 
   static constexpr std::string_view kMenus = "C:\\Corvelle\\Menus\\";
   static constexpr int kMenuFiles = 6;  // that the monkey writes
+  static constexpr int kSingles = 7;    // that stand in the row at most when a life begins
   static constexpr std::string_view kDamage = "broken by a monkey";
 
   // ---- the world before the start, and the choice of events (MonkeyLife.cpp) ----
@@ -132,6 +133,8 @@ class MonkeyLife {
   [[nodiscard]] std::string WrongState() const;
   [[nodiscard]] std::string WrongMenu() const;
   [[nodiscard]] std::string WrongCarry();
+  [[nodiscard]] std::string WrongHold();
+  [[nodiscard]] bool IsOffScreen() const;
   [[nodiscard]] std::string WrongDrag();
   [[nodiscard]] std::string WrongWindows() const;
   [[nodiscard]] std::string WrongPlace() const;

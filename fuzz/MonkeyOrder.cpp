@@ -70,6 +70,35 @@ std::string MonkeyLife::WrongMenu() const {
   return {};
 }
 
+// What has to be in order a moment after the last button went up: a hold whose release went to
+// another program is noticed, and a strip that could not be placed while something was carried is.
+std::string MonkeyLife::WrongHold() {
+  if (IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right)) return {};
+  const auto wrong = [this]() -> std::string {
+    if (parts_->TheProgram.RestoreBusy) return "the grip is still held";
+    if (parts_->Toolbar.FrameHeld) return "the frame is still held";
+    return IsOffScreen() ? "the strip is off the screen" : "";
+  };
+  if (wrong().empty()) return {};
+  constexpr int kNoticed = 800;
+  world_->Desktop.Advance(kNoticed);
+  return StripStands() ? wrong() : "";
+}
+
+bool MonkeyLife::IsOffScreen() const {
+  const Program& program = parts_->TheProgram;
+  const frmToolbar& strip = parts_->Toolbar;
+  if (program.ToolbarMinimized || !strip.Visible()) return false;
+  // Two options let a strip at no edge pass the sides of the screen, without an end.
+  if (!program.AppBarDocked && (program.OptionFlags.Is(13) || program.OptionFlags.Is(27)))
+    return false;
+  const PixelRect bounds = world_->Desktop.BoundsOf(strip.WindowHandle());
+  const forms::ScreenInfo info = world_->Desktop.Screen();
+  const PixelRect screen{0, 0, static_cast<int>(info.Width / info.TwipsPerPixelX),
+                         static_cast<int>(info.Height / info.TwipsPerPixelY)};
+  return Intersect(bounds, screen).IsEmpty();
+}
+
 // What a tick of the poll has to end: a menu that the desktop hid.
 std::string MonkeyLife::WrongRest() {
   if (parts_->Menu.MenuVisible() || !parts_->Menu.Timer1.Enabled()) return {};
@@ -141,17 +170,8 @@ std::string MonkeyLife::WrongPlace() const {
   }
   if (!strip.Visible() && !program.AutoHide) return "the strip is not to be seen";
   if (!strip.Visible()) return {};
-  const PixelRect bounds = world_->Desktop.BoundsOf(strip.WindowHandle());
-  const forms::ScreenInfo info = world_->Desktop.Screen();
-  const PixelRect screen{0, 0, static_cast<int>(info.Width / info.TwipsPerPixelX),
-                         static_cast<int>(info.Height / info.TwipsPerPixelY)};
-  const bool slides = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
-  // Two options let a strip at no edge pass the sides of the screen, without an end.
-  const bool mayPass =
-      !program.AppBarDocked && (program.OptionFlags.Is(13) || program.OptionFlags.Is(27));
-  if (!slides && !mayPass && Intersect(bounds, screen).IsEmpty())
-    return "the strip is off the screen";
   if (!program.AppBarDocked) return {};
+  const PixelRect bounds = world_->Desktop.BoundsOf(strip.WindowHandle());
   const int thickness = program.ToolbarVertical ? bounds.Width() : bounds.Height();
   if (thickness > kMostThickness)
     return "the strip at an edge is " + std::to_string(thickness) + " pixels thick";
@@ -272,6 +292,9 @@ std::string MonkeyLife::WhatIsWrong() {
   if (std::string wrong = WrongRest(); !wrong.empty()) return wrong;
   if (std::string wrong = WrongCarry(); !wrong.empty()) return wrong;
   if (std::string wrong = WrongDrag(); !wrong.empty()) return wrong;
+  if (StripStands()) {
+    if (std::string wrong = WrongHold(); !wrong.empty()) return wrong;
+  }
   if (!StripStands() || world_->Desktop.QuitCalled()) return {};
   NotePlace();
   for (const auto check :

@@ -34,10 +34,11 @@ void MonkeyLife::ChangeMenuFile() {
                                   std::string(static_cast<std::size_t>(Number(500)), ' '));
       break;
     default:
-      // Never one that stands in the row: an edit there goes by what the row has read.
-      if (const int fresh = 8 + Number(2); Chance(50) && !world_->Files.Has(SinglePath(fresh))) {
-        Tell("write single button " + std::to_string(fresh));
-        WriteSingle(fresh);
+      if (Chance(50)) {
+        // Also one that stands in the row, which has read what was in it before.
+        const int single = 1 + Number(kSingles + 2);
+        Tell("write single button " + std::to_string(single));
+        WriteSingle(single);
       } else {
         Tell("a single button vanishes");
         world_->Files.Vanish(SinglePath(1));

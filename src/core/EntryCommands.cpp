@@ -32,6 +32,24 @@ EditOutcome EditSingles(Program& program, const Edit& edit) {
   return OutcomeOf(edited);
 }
 
+// Another program may have changed the file since the row was read. Its entry is not the one that
+// the user meant, and it stays; the row shows it from now on.
+EditOutcome DeleteSingle(Program& program) {
+  const EditOutcome still =
+      FindCurrentEntry(program.Services.Files, program.Services.Ansi, program.Entry);
+  if (still == EditOutcome::Edited) {
+    return EditSingles(
+        program, [&](SingleButtonsPort& row) { return row.DeleteSingle(program.Entry.CurFile); });
+  }
+  const float freeWidth = FreeWidth(program);
+  if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->DoSingleButtons();
+  ResizeStrip(program, freeWidth);
+  if (still == EditOutcome::RecordMismatch && !program.Entry.ItemDragging) {
+    SayRecordMismatch(program);
+  }
+  return still;
+}
+
 EditOutcome DeleteButton(Program& program) {
   const float freeWidth = FreeWidth(program);
   // A file that cannot be deleted leaves its button on the strip, where the user sees it.
@@ -75,10 +93,7 @@ EditOutcome DeleteItem(Program& program, bool skipConfirm) {
   const std::string& tag = program.Entry.CurMenuTag;
   const bool ask = !program.Entry.ItemDragging && !skipConfirm && IsButtonTag(tag);
   if (ask && !ConfirmsButtonDelete(program)) return EditOutcome::NothingToDo;
-  if (IsSinglesTag(tag)) {
-    return EditSingles(
-        program, [&](SingleButtonsPort& row) { return row.DeleteSingle(program.Entry.CurFile); });
-  }
+  if (IsSinglesTag(tag)) return DeleteSingle(program);
   if (IsButtonTag(tag)) return DeleteButton(program);
   if (IsMenuTag(tag)) return DeleteMenuItem(program);
   return EditOutcome::NothingToDo;

@@ -23,17 +23,6 @@ bool IsCurrentEntry(const EntryEdit& edit, const MenuRecord& record) {
          EqualNoCase(record.FName, edit.CurCommand);
 }
 
-/// Edited if the current file still holds the current entry at its place; else why it does not.
-EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
-  const FileResult<int> count = CountRecords(files, edit.CurFile);
-  if (!count) return EditOutcome::Refused(count.Error());
-  // A place that the file does not have reads as a blank entry, which is not the one meant.
-  if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
-  const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
-  if (!record) return EditOutcome::Refused(record.Error());
-  return IsCurrentEntry(edit, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
-}
-
 constexpr int kNoPlace = 0;
 
 /// The record that a drop comes to stand before, one behind the last for the end of the file;
@@ -70,6 +59,16 @@ bool IsButtonTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "
 bool IsMenuTag(std::string_view tag) noexcept { return StartsWithNoCase(tag, "F"); }
 
 bool IsSinglesTag(std::string_view tag) noexcept { return EqualNoCase(tag, kSinglesTag); }
+
+EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
+  const FileResult<int> count = CountRecords(files, edit.CurFile);
+  if (!count) return EditOutcome::Refused(count.Error());
+  // A place that the file does not have reads as a blank entry, which is not the one meant.
+  if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
+  const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
+  if (!record) return EditOutcome::Refused(record.Error());
+  return IsCurrentEntry(edit, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
+}
 
 EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                             const EntryEdit& edit) {

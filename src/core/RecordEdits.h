@@ -81,6 +81,10 @@ inline constexpr EditOutcome EditOutcome::Failed{Kind::Failed, FileError::Failed
 inline constexpr std::string_view kSinglesTag = "SingleButtons";
 [[nodiscard]] bool IsSinglesTag(std::string_view tag) noexcept;
 
+/// Edited if CurFile still holds the current entry as its record CurRecord, RecordMismatch if it
+/// does not.
+EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const EntryEdit& edit);
+
 /// Takes record CurRecord out of CurFile if it still is the current entry. Only for an entry of a
 /// menu; a generated one never leaves, silently so during a drag.
 EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,

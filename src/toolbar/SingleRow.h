@@ -128,6 +128,7 @@ class SingleRow final : public SingleButtonsPort {
 
   bool DropBehind(const EntryEdit& carried, forms::MouseButton released);
   bool DropBefore(const std::string& target, const EntryEdit& carried, forms::MouseButton released);
+  [[nodiscard]] bool IsAnother(const EntryEdit& carried) const;
   void TakeFromMenu(const EntryEdit& carried);
   void FitStrip();
 

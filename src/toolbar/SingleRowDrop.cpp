@@ -68,11 +68,19 @@ void SingleRow::DoItemDrag(forms::MouseButton released) {
 bool SingleRow::DropBehind(const EntryEdit& carried, forms::MouseButton released) {
   FileSystem& files = program_.Services.Files;
   if (released != forms::MouseButton::Right && IsSinglesTag(carried.CurMenuTag)) {
+    if (IsAnother(carried)) return true;
     return MoveSingleFile(files, program_.MenusPath, carried.CurFile, {}).HasValue();
   }
   return PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, {},
                          CarriedRecord(carried))
       .HasValue();
+}
+
+// True if another program has put another entry into the file of the carried one. That one stays
+// where it is, and is to be shown.
+bool SingleRow::IsAnother(const EntryEdit& carried) const {
+  return FindCurrentEntry(program_.Services.Files, program_.Services.Ansi, carried) ==
+         EditOutcome::RecordMismatch;
 }
 
 // Puts the entry in front of the button of `target`. True if the row is another one now.
@@ -83,6 +91,7 @@ bool SingleRow::DropBefore(const std::string& target, const EntryEdit& carried,
   // Dropped where it came from, nothing changes.
   if (ofRow && EqualNoCase(target, carried.CurFile)) return false;
   if (ofRow && released != forms::MouseButton::Right) {
+    if (IsAnother(carried)) return true;
     return MoveSingleFile(files, program_.MenusPath, carried.CurFile, target).HasValue();
   }
   return PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, target,

@@ -153,6 +153,8 @@ void SingleRow::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftS
   program_.SetHint("");
   if (IsBesidePull(button)) return;
   const Press press = std::exchange(press_, {});
+  // Wherever on the row the press ends, it was the frame's; a pull is ended by the frame itself.
+  if (press.On == PressOn::Frame && !strip_.FrameMoved) strip_.LetFrameGo();
   if (carrying_) {
     // The left button is still down when the right one drops a copy.
     if (button != forms::MouseButton::Left) press_.On = PressOn::Spent;

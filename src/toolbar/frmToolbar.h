@@ -189,6 +189,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void EnsureToolbarVisible();
   /// Ends a move of the strip: it takes the place that the screen and the options let it have.
   void AdjustToolbarPosition();
+  /// Bars or the screen have changed at a moment when the strip could not be placed: it is placed
+  /// as soon as it can be.
+  void FollowBarsLater();
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
     Form::SetWindowPos(after, flags);
   }
@@ -368,6 +371,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void LetFrameGo();
   void AbandonPull();
+  void EndLostPull();
+  /// Notices when the release of the frame went to another program.
+  void WatchPull();
   void RevealFromLine();
   /// Shows where the strip would go, and what a pull along its own edge looks like.
   void FollowPull();
@@ -418,6 +424,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   std::vector<MenuRecord> records_;  // of the buttons, by their index
   std::string lastTag_;              // of the menu that was opened last
   AbandonWatch carryWatch_;
+  AbandonWatch pullWatch_;
   float menuLeft_ = 0;  // where the menu window was placed
   float menuTop_ = 0;
   std::int64_t pressedAt_ = 0;    // when the menu was last changed by hand, milliseconds
@@ -426,6 +433,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   bool positioned_ = false;       // SavedLeft is known
   bool subclassed_ = false;
   bool focusRequested_ = false;
+  bool barsWait_ = false;  // bars or the screen have changed since the strip was placed
 };
 
 }  // namespace corvelle

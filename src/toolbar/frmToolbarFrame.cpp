@@ -61,12 +61,14 @@ void frmToolbar::Form_MouseDown(forms::MouseButton button, forms::ShiftState /*s
                                 float y) {
   if (program_.Entry.ItemDragging) return;
   if (IsBesidePull(button)) return;
+  EndLostPull();
   program_.SetHint("");
   if (!IsLoaded()) return;
   ResetMenu();
   if (!IsLoaded()) return;
   FrameMoved = false;
   FrameHeld = true;
+  Timer1.SetEnabled(true);
   DownX = x;
   DownY = y;
   GrabX = x - picToolbar.Width();
@@ -77,9 +79,9 @@ void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shi
                                 float y) {
   if (program_.AutoHide && !picToolbar.Visible() && Visible()) RevealFromLine();
   if (down == forms::MouseButton::None) {
+    EndLostPull();
     FrameDragging = false;
     FrameMoved = false;
-    LetFrameGo();
     DrawBorders();
     return;
   }
@@ -185,13 +187,37 @@ void frmToolbar::AbandonPull() {
   if (image != nullptr) image->UnloadWindow();
 }
 
-// The release of the grip itself may have gone elsewhere.
+// The release went to another program. A strip that was slid stays where the screen and the options
+// let it.
+void frmToolbar::EndLostPull() {
+  if (!FrameHeld) return;
+  const bool slid = FrameMoved && !program_.AppBarDocked;
+  AbandonPull();
+  if (slid) EndSlide();
+}
+
+void frmToolbar::WatchPull() {
+  constexpr int kLeftButtonKey = 1;
+  constexpr int kRightButtonKey = 2;
+  const Input& input = program_.Services.Pointer;
+  const bool anyDown = input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey);
+  if (!FrameHeld) {
+    pullWatch_.Reset();
+  } else if (pullWatch_.Look(anyDown, program_.Windows.Now())) {
+    pullWatch_.Reset();
+    EndLostPull();
+    if (picToolbar.Visible()) DrawBorders();
+  }
+}
+
 void frmToolbar::LetFrameGo() {
   if (FrameHeld) program_.RestoreBusy = false;
   FrameHeld = false;
 }
 
 void frmToolbar::ShowFramePopup(std::string_view tag) {
+  // The press that asked for the popup holds nothing any more.
+  LetFrameGo();
   ResetMenu();
   if (!IsLoaded() || program_.Ports.Popup == nullptr) return;
   EmptyCurrentItem();

@@ -64,8 +64,14 @@ std::optional<std::intptr_t> frmToolbar::ShellNotify(std::uintptr_t what, std::i
 
 void frmToolbar::FollowBars() {
   if (program_.Ports.Docking == nullptr || program_.PosChangeRunning) return;
+  barsWait_ = false;
   const forms::FlagScope running(program_.PosChangeRunning);
   program_.Ports.Docking->SetAppBar("", false);
+}
+
+void frmToolbar::FollowBarsLater() {
+  barsWait_ = true;
+  Timer1.SetEnabled(true);
 }
 
 void frmToolbar::FollowColours() {
@@ -196,16 +202,23 @@ void frmToolbar::Timer1_Timer() {
     const WindowId active = desktop.ActiveWindow();
     if (active == kNoWindow || active == hWnd() || !desktop.IsVisible(active)) SetFocus();
   }
+  WatchPull();
   if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
       program_.PosChangeRunning || program_.ButtonDragging || program_.RestoreBusy) {
     return;
   }
+  if (barsWait_ && program_.AppBarDocked && !program_.ToolbarMinimized) {
+    FollowBars();
+    return;
+  }
+  barsWait_ = false;
   if (program_.ToolbarMinimized) {
     Timer2.SetEnabled(false);
     if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
     Timer1.SetEnabled(false);
   } else if (!program_.AutoHide) {
-    Timer1.SetEnabled(false);
+    // Who holds the frame may let it go elsewhere.
+    Timer1.SetEnabled(FrameHeld);
   } else if (program_.Ports.Docking != nullptr && !program_.HideBusy) {
     const forms::FlagScope busy(program_.HideBusy);
     HideAndReveal();

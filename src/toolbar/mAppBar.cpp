@@ -98,7 +98,12 @@ bool mAppBar::Waits() const {
 }
 
 void mAppBar::SetAppBar(std::string_view edge, bool rebuild) {
-  if (!strip_.IsLoaded() || Waits()) return;
+  if (!strip_.IsLoaded()) return;
+  if (Waits()) {
+    // A change of bars is not told again; one in the task bar is placed anew when it comes back.
+    if (program_.PosChangeRunning && !program_.ToolbarMinimized) strip_.FollowBarsLater();
+    return;
+  }
   program_.ToolbarReady = false;
   if (program_.PosChangeRunning && AppBarPosChanged()) {
     program_.ToolbarReady = strip_.IsLoaded();

@@ -203,12 +203,28 @@ TEST_F(CarriedEdits, AnEntryOfTheRowLeavesIt) {
   program.Entry.CurMenuTag = "SingleButtons";
   program.Entry.CurFile = "C:\\Corvelle\\Menus\\BMENU001.BTN";
   program.Entry.CurRecord = 1;
+  world.Files.Put(
+      program.Entry.CurFile,
+      FormatRecord({program.Entry.CurTitle, program.Entry.CurIcon, program.Entry.CurCommand},
+                   world.Ansi));
   EXPECT_TRUE(DropItem(program, "F3", {.File = kOther, .Before = 2}, false));
   EXPECT_EQ(TitlesOf(kOther), "Button Two Alpha Beta");
   EXPECT_EQ(log.front(), "delete single C:\\Corvelle\\Menus\\BMENU001.BTN");
   log.clear();
   EXPECT_TRUE(DropItem(program, "F3", {.File = kOther, .Before = 2}, true));
   EXPECT_EQ(log, (CallLog{"RemoveQMenu F3"}));
+}
+
+TEST_F(CarriedEdits, AnotherEntryInTheRowStaysThereAndNothingIsLost) {
+  program.Entry.CurMenuTag = "SingleButtons";
+  program.Entry.CurFile = "C:\\Corvelle\\Menus\\BMENU001.BTN";
+  program.Entry.CurRecord = 1;
+  program.Entry.ItemDragging = true;
+  world.Files.Put(program.Entry.CurFile, FormatRecord({"Newer", "", "c"}, world.Ansi));
+  EXPECT_TRUE(DropItem(program, "F3", {.File = kOther, .Before = 2}, false));
+  EXPECT_EQ(TitlesOf(kOther), "Button Two Alpha Beta");
+  EXPECT_EQ(log, (CallLog{"DoSingleButtons", "resize, free 1230", "RemoveQMenu F3"}));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
 TEST_F(CarriedEdits, NothingInTheHandIsPutNowhere) {

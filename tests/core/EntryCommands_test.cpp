@@ -12,6 +12,7 @@ namespace corvelle {
 namespace {
 
 constexpr char kMismatch[] = "Cannot delete/cut this item. Record mismatch.";
+constexpr char kSingle[] = "C:\\Corvelle\\Menus\\BMENU002.BTN";
 constexpr char kButtonQuestion[] =
     "If you delete a button, you cannot Undo Delete. Do you want to continue ?";
 
@@ -131,10 +132,40 @@ TEST_F(EntryCommandsTest, NothingIsDeletedFromTheMainMenuOrTheBareStrip) {
 
 TEST_F(EntryCommandsTest, ASingleButtonIsDeletedByItsRow) {
   program.Entry.CurMenuTag = "SingleButtons";
-  program.Entry.CurFile = "C:\\Corvelle\\Menus\\BMENU002.BTN";
+  program.Entry.CurFile = kSingle;
+  world.Files.Put(kSingle, FormatRecord({"One", "i1", "c1"}, world.Ansi));
+  PointAt(1, "One", "I1", "c1");
   DeleteItem(program, false);
   EXPECT_EQ(log, (CallLog{"delete single C:\\Corvelle\\Menus\\BMENU002.BTN", "DoSingleButtons",
                           "resize, free 1230"}));
+}
+
+TEST_F(EntryCommandsTest, ASingleButtonThatAnotherProgramHasChangedStaysAndIsReadAnew) {
+  const MenuRecord others[] = {{"Other", "i1", "c1"}, {"One", "other", "c1"}, {"One", "i1", "o"}};
+  for (const bool dragged : {false, true}) {
+    for (const MenuRecord& other : others) {
+      program.Entry.CurMenuTag = "SingleButtons";
+      program.Entry.CurFile = kSingle;
+      program.Entry.ItemDragging = dragged;
+      world.Files.Put(kSingle, FormatRecord(other, world.Ansi));
+      PointAt(1, "One", "i1", "c1");
+      if (!dragged) world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
+      log.clear();
+      EXPECT_EQ(DeleteItem(program, true), EditOutcome::RecordMismatch);
+      EXPECT_EQ(log, (CallLog{"DoSingleButtons", "resize, free 1230"}));
+    }
+  }
+  // A drag stays silent.
+  EXPECT_EQ(world.Desktop.Boxes().size(), 3U);
+}
+
+TEST_F(EntryCommandsTest, ASingleButtonWhoseFileIsGoneIsNoneToDelete) {
+  program.Entry.CurMenuTag = "SingleButtons";
+  program.Entry.CurFile = kSingle;
+  PointAt(1, "One", "i1", "c1");
+  world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
+  EXPECT_EQ(DeleteItem(program, true), EditOutcome::RecordMismatch);
+  EXPECT_EQ(log, (CallLog{"DoSingleButtons", "resize, free 1230"}));
 }
 
 TEST_F(EntryCommandsTest, PastingPutsTheClipboardBeforeTheItemAndEndsTheUndo) {
@@ -212,6 +243,9 @@ TEST_F(EntryCommandsTest, ARowThatTheDiskRefusesIsReadAnewAndTheUndoCanBeTriedAg
   EXPECT_EQ(outcome.Reason(), FileError::DiskFull);
   EXPECT_EQ(log, (CallLog{"undo single two.btn", "DoSingleButtons", "resize, free 1230"}));
   EXPECT_EQ(program.Entry.UndoMenuTag, "SingleButtons");
+  program.Entry.CurFile = kSingle;
+  world.Files.Put(kSingle, FormatRecord({"One", "i1", "c1"}, world.Ansi));
+  PointAt(1, "One", "i1", "c1");
   EXPECT_EQ(DeleteItem(program, false).Reason(), FileError::DiskFull);
   EXPECT_EQ(PasteItem(program).Reason(), FileError::DiskFull);
 }

@@ -417,6 +417,7 @@ TEST(Carry, AnEntryOfTheRowGoesIntoAMenuAndLeavesTheRow) {
   EntryEdit& entry = desk.TheProgram.Entry;
   entry.ItemDragging = true;
   entry.CurTitle = "Single";
+  desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.BTN", Records({Entry("Single", "")}));
   entry.CurMenuTag = "SingleButtons";
   entry.CurFile = "C:\\Corvelle\\Menus\\BMENU001.BTN";
   entry.CurRecord = 1;

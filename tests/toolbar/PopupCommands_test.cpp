@@ -78,16 +78,17 @@ TEST(PopupOnASingleButton, EditsTheRow) {
                    .CurIcon = "i",
                    .CurCommand = "c",
                    .CurMenuTag = "SingleButtons",
-                   .CurFile = "one.btn",
+                   .CurFile = "C:\\one.btn",
                    .CurRecord = 1};
+  desk.World.Files.Put("C:\\one.btn", Records({Entry("Single", "i", "c")}));
   desk.ChooseFor(single, "Cut Item");
   EXPECT_EQ(desk.TheProgram.Entry.ClipTitle, "Single");
   desk.ChooseFor(desk.TheProgram.Entry, "Paste Item");
   desk.ChooseFor(desk.TheProgram.Entry, "Delete Item");
   EXPECT_EQ(desk.TheProgram.Entry.UndoMenuTag, "SingleButtons");
   desk.ChooseFor(desk.TheProgram.Entry, "Undo Delete");
-  const CallLog expected = {"delete single one.btn", "paste single one.btn",
-                            "delete single one.btn", "undo single one.btn"};
+  const CallLog expected = {"delete single C:\\one.btn", "paste single C:\\one.btn",
+                            "delete single C:\\one.btn", "undo single C:\\one.btn"};
   EXPECT_EQ(log, expected);
 }
 
@@ -270,6 +271,7 @@ TEST(PopupFailures, ASingleButtonThatCannotBeWrittenStaysAndThatIsSaid) {
       singles.Answer = row.answer;
       PopupDesk desk;
       desk.TheProgram.Ports.SingleButtons = &singles;
+      desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.BTN", Records({Entry("Single", "")}));
       desk.World.Desktop.Answer(row.text, forms::msgbox::AnswerOk);
       const EntryEdit single{.CurTitle = "Single",
                              .CurMenuTag = "SingleButtons",

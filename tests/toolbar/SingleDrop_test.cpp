@@ -174,6 +174,21 @@ TEST(SingleCarry, ADiskThatRefusesLeavesTheRow) {
   EXPECT_EQ(desk.Row(), "abcd");
 }
 
+TEST(SingleCarry, WhatAnotherProgramHasPutInItsPlaceStaysThereAndIsShown) {
+  for (const bool toTheEnd : {false, true}) {
+    SCOPED_TRACE(toTheEnd);
+    DropDesk desk;
+    desk.PutSingle(2, "x");
+    desk.Carry(2, toTheEnd ? desk.BarePlace() : desk.MiddleOf(4));
+    EXPECT_EQ(desk.OnDisk(), "1a 2x 3c 4d");
+    EXPECT_EQ(desk.Row(), "axcd");
+    EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
+    // From here on it is the one that is carried.
+    desk.Carry(2, desk.MiddleOf(1));
+    EXPECT_EQ(desk.OnDisk(), "1x 2a 3c 4d");
+  }
+}
+
 TEST(SingleCarry, WhileAPopupCommandWritesADropWaits) {
   DropDesk desk;
   desk.TheProgram.ItemActionBusy = true;
@@ -236,6 +251,18 @@ TEST(SingleCommands, DeletingTheMiddleOneAndUndoingItBringsItBack) {
   UndoDeleteItem(desk.TheProgram);
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3c");
   EXPECT_EQ(desk.Row(), "abc");
+}
+
+TEST(SingleCommands, WhatAnotherProgramHasPutInItsPlaceIsNotDeleted) {
+  DropDesk desk("abc");
+  desk.ClickSingle(2, forms::MouseButton::Right);
+  desk.PutSingle(2, "x");
+  desk.World.Desktop.Answer("Cannot delete/cut this item. Record mismatch.",
+                            forms::msgbox::AnswerOk);
+  DeleteItem(desk.TheProgram, false);
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(desk.OnDisk(), "1a 2x 3c");
+  EXPECT_EQ(desk.Row(), "axc");
 }
 
 TEST(SingleCommands, UndoingTheLastOnePutsItToTheEnd) {

@@ -242,6 +242,88 @@ TEST(ToolbarPull, AButtonThatWentDownElsewhereDoesNotPull) {
   EXPECT_FALSE(desk.Picture.IsLoaded());
 }
 
+/// The left button goes up over another program, which gets to know of it alone.
+void LoseRelease(DockDesk& desk) { desk.World.Desktop.KeyUp(1); }
+
+TEST(ToolbarPull, WhoseReleaseAnotherProgramGotIsGivenUp) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Pull(QuarterOf(Edge::Bottom));
+  ASSERT_TRUE(desk.TheProgram.RestoreBusy);
+  desk.Wait(2000);
+  ASSERT_TRUE(desk.Picture.IsLoaded());
+  LoseRelease(desk);
+  desk.Wait(600);
+  EXPECT_FALSE(desk.Picture.IsLoaded());
+  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+  EXPECT_FALSE(desk.Strip.FrameHeld);
+  EXPECT_FALSE(desk.Strip.FrameMoved);
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
+  desk.Wait(600);
+  EXPECT_FALSE(desk.Strip.Timer1.Enabled());
+}
+
+TEST(ToolbarPull, WhoseReleaseAnotherProgramGotEndsWithTheNextMoveOrPress) {
+  for (const bool press : {false, true}) {
+    SCOPED_TRACE(press);
+    DockDesk desk;
+    desk.StartAt(Edge::Left);
+    desk.Pull(QuarterOf(Edge::Bottom));
+    LoseRelease(desk);
+    if (press) {
+      desk.Strip.Form_MouseDown(MouseButton::Left, {}, 15, 15);
+    } else {
+      desk.Strip.Form_MouseMove(MouseButton::None, {}, 15, 15);
+    }
+    EXPECT_FALSE(desk.Picture.IsLoaded());
+    EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+    EXPECT_EQ(desk.Strip.FrameHeld, press);
+  }
+}
+
+TEST(ToolbarPull, ASlideWhoseReleaseAnotherProgramGotEndsOnTheScreen) {
+  DockDesk desk;
+  desk.Start();
+  desk.Pull({1020, 5});
+  const int before = desk.Bounds().left;
+  LoseRelease(desk);
+  desk.Wait(600);
+  EXPECT_LT(desk.Bounds().left, before);
+  EXPECT_LE(desk.Bounds().right, 1024);
+  EXPECT_EQ(desk.Strip.SavedLeft, desk.Strip.Left());
+  EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
+}
+
+TEST(ToolbarPull, AHoldWithoutAMoveIsGivenUpToo) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Strip.Form_MouseDown(MouseButton::Left, {}, 15, 15);
+  EXPECT_TRUE(desk.Strip.FrameHeld);
+  desk.Wait(600);
+  EXPECT_FALSE(desk.Strip.FrameHeld);
+}
+
+TEST(ToolbarPull, ARightClickOnTheGripOrTheBareRowHoldsNothing) {
+  for (const bool grip : {true, false}) {
+    SCOPED_TRACE(grip);
+    DockDesk desk;
+    desk.StartAt(Edge::Left);
+    if (grip) {
+      desk.Strip.lblSep[0].MouseDown(MouseButton::Right, {}, 15, 15);
+      desk.Strip.lblSep[0].MouseUp(MouseButton::Right, {}, 15, 15);
+    } else {
+      const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+      desk.PointAt({row.left + 10, row.bottom - 100});
+      desk.World.Desktop.Click(MouseButton::Right);
+    }
+    EXPECT_FALSE(desk.Strip.FrameHeld);
+    // A button that goes down elsewhere now, and comes over the strip, pulls nothing.
+    desk.PointAt(QuarterOf(Edge::Bottom));
+    desk.Strip.Form_MouseMove(MouseButton::Left, {}, 9000, 9000);
+    EXPECT_FALSE(desk.Picture.IsLoaded());
+  }
+}
+
 TEST(ToolbarPull, AMoveThatArrivesWhileTheOutlineIsShownDecides) {
   DockDesk desk;
   desk.StartAt(Edge::Left);

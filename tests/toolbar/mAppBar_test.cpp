@@ -421,6 +421,35 @@ TEST(AppBarGuard, NoPlacingWhileSomethingIsCarriedOrEditedOrMinimized) {
   }
 }
 
+TEST(AppBarGuard, AScreenThatShrinksWhileSomethingIsCarriedIsFollowedAfterwards) {
+  struct Row {
+    const char* name;
+    std::function<bool&(Program&)> flag;
+  };
+  const Row rows[] = {
+      {"an item", [](Program& p) -> bool& { return p.Entry.ItemDragging; }},
+      {"a button", [](Program& p) -> bool& { return p.ButtonDragging; }},
+      {"an edit", [](Program& p) -> bool& { return p.MenuFormBusy; }},
+      {"the grip", [](Program& p) -> bool& { return p.RestoreBusy; }},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    DockDesk desk;
+    desk.StartAt(Edge::Right);
+    bool& flag = row.flag(desk.TheProgram);
+    flag = true;
+    desk.World.Desktop.SetScreen({800, 600});
+    desk.World.Bars.TellBars();
+    desk.World.Desktop.Pump();
+    EXPECT_EQ(desk.Bounds().left, 982);
+    flag = false;
+    desk.Poll();
+    EXPECT_EQ(desk.Bounds(), (PixelRect{758, 0, 800, 600}));
+    desk.Poll();
+    EXPECT_FALSE(desk.Strip.Timer1.Enabled());
+  }
+}
+
 TEST(AppBarGuard, AStripThatGoesWhileItIsPlacedLeavesNothingBehind) {
   DockDesk desk;
   desk.StartAt(Edge::Right);
