@@ -192,6 +192,7 @@ void frmToolbar::LetFrameGo() {
 }
 
 void frmToolbar::ShowFramePopup(std::string_view tag) {
+  LetFrameGo();
   ResetMenu();
   if (!IsLoaded() || program_.Ports.Popup == nullptr) return;
   EmptyCurrentItem();
