@@ -112,8 +112,10 @@ TEST(ToolbarOLEDragOver, ClosesTheHintOnceAndEndsACarriedItem) {
   desk.TheProgram.Ports.Hint = &hint;
   desk.TakeFiles({"C:\\a.txt"});
   desk.TheProgram.Entry.ItemDragging = true;
+  desk.World.Desktop.SetMousePointer(forms::MousePointer::Custom);
   desk.DragToButton(2);
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
   const int closed = hint.Closed;
   EXPECT_GE(closed, 1);
   desk.Wait(500);
