@@ -152,6 +152,22 @@ TEST(ToolbarDragTimer, ADragThatComesBackOpensTheMenuAgain) {
   EXPECT_EQ(desk.Effect(), DropEffect::Copy);
 }
 
+TEST(ToolbarDragTimer, AMenuThatWasHiddenUnderTheDragComesUpAgain) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\a.txt"});
+  desk.DragToButton(2);
+  ASSERT_EQ(desk.MenuUp(), 2);
+  // A full-screen program goes, and the poll of the menu closes what that has hidden.
+  desk.Menu.HideMenu();
+  desk.Strip.ResetMenu();
+  desk.Wait(50);
+  desk.PointAt(
+      {desk.World.Desktop.PointerPosition().x + 1, desk.World.Desktop.PointerPosition().y});
+  desk.Wait(10);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  EXPECT_EQ(desk.Effect(), DropEffect::Copy);
+}
+
 TEST(ToolbarDragTimer, EscOverTheStripClosesTheMenu) {
   DragDesk desk;
   desk.TakeFiles({"C:\\a.txt"});
