@@ -204,6 +204,7 @@ std::string MonkeyLife::Live(int events) {
   std::string wrong = started ? WhatIsWrong() : std::string();
   for (lived_ = 0; started && lived_ < events && wrong.empty(); ++lived_) {
     lossesAllowed_ = 0;
+    deleting_.clear();
     Act();
     if (world_->Desktop.QuitCalled() || !parts_->Companion.WindowLoaded()) break;
     wrong = WhatIsWrong();

@@ -174,6 +174,7 @@ class MonkeyLife {
   EntryLedger entries_;
   int stockTaken_ = -1;    // SimFiles::Changes when entries_ was read
   int lossesAllowed_ = 0;  // in this event
+  std::string deleting_;   // the file that goes with its button in this event
   std::string placeBefore_;
   std::size_t boxesBefore_ = 0;
   int lived_ = 0;

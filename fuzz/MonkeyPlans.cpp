@@ -149,7 +149,8 @@ void MonkeyLife::ChooseFrom(const sim::Popup& popup) {
   tally_.Note("popup of " + kind + ": " + caption);
   world_->Desktop.ChooseFromPopup(caption);
   if (caption == "Delete Item" && IsButtonTag(tag)) {
-    const auto bytes = world_->Files.Get(entry.CurFile);
+    deleting_ = entry.CurFile;
+    const auto bytes = world_->Files.Get(deleting_);
     lossesAllowed_ += bytes ? static_cast<int>(bytes->size() / kRecordLength) : 0;
   } else if (caption == "Delete Item" || caption == "Cut Item" || caption == "Delete Separator" ||
              caption == "Open Folder" || caption == "Close Folder") {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "MonkeyLife.h"
+#include "base/Text.h"
 #include "core/MenuRecord.h"
 #include "forms/Types.h"
 
@@ -46,7 +47,7 @@ void MonkeyLife::ChangeMenuFile() {
   }
   TakeStock();
   // The button that is about to be deleted may be this one.
-  if (const auto bytes = world_->Files.Get(path); insideUp_ && bytes && lossesAllowed_ > 1)
+  if (const auto bytes = world_->Files.Get(path); bytes && EqualNoCase(path, deleting_))
     lossesAllowed_ += static_cast<int>(bytes->size() / kRecordLength);
 }
 

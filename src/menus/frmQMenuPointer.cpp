@@ -165,7 +165,9 @@ void frmQMenu::OfferShellMenu(int index) {
 // ---- leaving ----
 
 void frmQMenu::Timer1_Timer() {
-  if (program_.MenuBuilding || program_.DragHolds()) return;
+  if (program_.MenuBuilding) return;
+  // A drag decides which menu is up, but one that is hidden under it has to go, to come up again.
+  if (program_.DragHolds() && Visible()) return;
   // A still picture of the menu does not outlive the rebuild that it was made for.
   if (CapturePort* const capture = program_.Ports.Capture) {
     if (capture->MenuCaptured()) capture->ReleaseMenu();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "core/Carry.h"
 #include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
@@ -96,7 +97,7 @@ void frmToolbar::EnterDrag() {
 
 void frmToolbar::NoteDrag(const DragData& data, MouseButton down) {
   program_.DragButtons = down;
-  program_.Entry.ItemDragging = false;
+  if (program_.Entry.ItemDragging) AbandonCarry(program_);
   if (program_.DragIsUrl || !data.Text || !DroppedAddress(*data.Text)) return;
   program_.DragIsUrl = true;
   if (program_.Ports.Browser != nullptr) {

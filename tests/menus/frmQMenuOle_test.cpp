@@ -370,5 +370,18 @@ TEST(MenuPoll, LeavesTheMenuToADragThatGoesOn) {
   EXPECT_FALSE(desk.Menu.Visible());
 }
 
+TEST(MenuPoll, ClosesAMenuThatIsHiddenUnderADrag) {
+  DragDesk desk;
+  desk.PointAway();
+  desk.TheProgram.DragEntered = true;
+  desk.World.Desktop.Press();
+  // As when a full-screen program goes.
+  desk.Menu.SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
+  desk.Poll();
+  EXPECT_EQ(desk.Strip.Times("ResetMenu"), 1);
+  EXPECT_FALSE(desk.Menu.Timer1.Enabled());
+  desk.World.Desktop.Release();
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +32,15 @@ class SimCanvas final : public Canvas {
   [[nodiscard]] bool Shows(Rgb colour, const PixelRect& part) const;
 
  private:
+  /// Leaves new pixels as they are: under a sanitizer to set each by itself is most of a canvas.
+  struct UnsetPixels : std::allocator<Rgb> {
+    template <class T>
+    struct rebind {
+      using other = UnsetPixels;
+    };
+    void construct(Rgb* pixel) { ::new (static_cast<void*>(pixel)) Rgb; }
+  };
+
   [[nodiscard]] Rgb* Row(int y);
   [[nodiscard]] const Rgb* Row(int y) const;
   void DrawGlyph(const PixelRect& cell, char32_t character, Rgb colour);
@@ -38,7 +49,7 @@ class SimCanvas final : public Canvas {
   PixelSize room_;  // of pixels_, which size_ is a part of
   PixelPoint origin_;
   float twipsPerPixel_;
-  std::vector<Rgb> pixels_;
+  std::vector<Rgb, UnsetPixels> pixels_;
 };
 
 /// Size of one character of the built-in font.

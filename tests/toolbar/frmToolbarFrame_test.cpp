@@ -205,5 +205,21 @@ TEST(ToolbarFrame, RightClicksNameTheStripAndTheGripNamesTheMainButton) {
   EXPECT_EQ(popup.Tags, expected);
 }
 
+TEST(ToolbarFrame, AfterThePopupOfTheGripNobodyHoldsTheStrip) {
+  Floating desk;
+  NotedPopup popup(desk.TheProgram);
+  desk.TheProgram.Ports.Popup = &popup;
+  desk.PointAt(desk.Grip());
+  desk.World.Desktop.Click(MouseButton::Right);
+  ASSERT_EQ(popup.Tags.size(), 1U);
+  const float left = desk.Strip.Left();
+  // Another program's press that comes over the grip without its keeping the mouse.
+  desk.Strip.lblSep_MouseMove(0, MouseButton::Left, {}, 900, 60);
+  EXPECT_EQ(desk.Strip.Left(), left);
+  EXPECT_FALSE(desk.Strip.FrameMoved);
+  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+  desk.TheProgram.Ports.Popup = nullptr;
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -112,8 +112,10 @@ TEST(ToolbarOLEDragOver, ClosesTheHintOnceAndEndsACarriedItem) {
   desk.TheProgram.Ports.Hint = &hint;
   desk.TakeFiles({"C:\\a.txt"});
   desk.TheProgram.Entry.ItemDragging = true;
+  desk.World.Desktop.SetMousePointer(forms::MousePointer::Custom);
   desk.DragToButton(2);
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
   const int closed = hint.Closed;
   EXPECT_GE(closed, 1);
   desk.Wait(500);
@@ -147,6 +149,22 @@ TEST(ToolbarDragTimer, ADragThatComesBackOpensTheMenuAgain) {
   desk.Wait(200);
   desk.DragToButton(3);
   EXPECT_EQ(desk.MenuUp(), 3);
+  EXPECT_EQ(desk.Effect(), DropEffect::Copy);
+}
+
+TEST(ToolbarDragTimer, AMenuThatWasHiddenUnderTheDragComesUpAgain) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\a.txt"});
+  desk.DragToButton(2);
+  ASSERT_EQ(desk.MenuUp(), 2);
+  // A full-screen program goes, and the poll of the menu closes what that has hidden.
+  desk.Menu.HideMenu();
+  desk.Strip.ResetMenu();
+  desk.Wait(50);
+  desk.PointAt(
+      {desk.World.Desktop.PointerPosition().x + 1, desk.World.Desktop.PointerPosition().y});
+  desk.Wait(10);
+  EXPECT_EQ(desk.MenuUp(), 2);
   EXPECT_EQ(desk.Effect(), DropEffect::Copy);
 }
 
