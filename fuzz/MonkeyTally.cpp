@@ -1,6 +1,8 @@
 #include "MonkeyTally.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <fstream>
 
 namespace corvelle::fuzz {
 
@@ -95,6 +97,24 @@ std::vector<std::string> MonkeyTally::Missing() const {
 
 void MonkeyTally::Print() const {
   for (const auto& [deed, count] : counts_) std::printf("%8d  %s\n", count, deed.c_str());
+}
+
+bool MonkeyTally::Keep(const std::string& file) const {
+  std::ofstream out(file);
+  for (const auto& [deed, count] : counts_) {
+    // The text of a message has several lines.
+    std::string line = deed;
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    out << line << '\n';
+  }
+  return out.flush().good();
+}
+
+bool MonkeyTally::Add(const std::string& file) {
+  std::ifstream in(file);
+  if (!in) return false;
+  for (std::string deed; std::getline(in, deed);) Note(deed);
+  return true;
 }
 
 }  // namespace corvelle::fuzz

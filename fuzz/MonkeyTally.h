@@ -13,10 +13,13 @@ class MonkeyTally {
  public:
   void Note(std::string_view deed) { ++counts_[std::string(deed)]; }
   [[nodiscard]] int Count(std::string_view deed) const;
-  /// Deeds that every run of some ten thousand events has to come to, and this one has not.
+  /// Deeds that every run of some hundred thousand events has to come to, and this one has not.
   [[nodiscard]] std::vector<std::string> Missing() const;
   /// One line for each deed.
   void Print() const;
+  /// Writes the deeds to a file, one a line, and adds those of such a file. False on failure.
+  [[nodiscard]] bool Keep(const std::string& file) const;
+  [[nodiscard]] bool Add(const std::string& file);
 
  private:
   std::map<std::string, int, std::less<>> counts_;

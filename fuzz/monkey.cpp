@@ -5,8 +5,9 @@
 //   corvelle_monkey --events 200000 --seed 1
 //   corvelle_monkey --life 17 --seed 1 --tell
 // With --go-on a life that fails is told in one line and the next one begins.
-// With --tally it says what it came to; a run of some ten thousand events that came past something
-// that it should know fails.
+// With --tally it says what it came to; a long run that came past something that it should know
+// fails. Several shorter runs are judged together: each leaves its tally with --keep FILE, and
+// --judge FILE... adds them up.
 
 #include <algorithm>
 #include <cstdio>
@@ -27,9 +28,11 @@ struct Wish {
   bool Tell = false;
   bool Tally = false;
   bool GoOn = false;
+  std::string Keep;                // where the tally goes
+  std::vector<std::string> Judge;  // tallies of earlier runs
 };
 
-constexpr int kLongRun = 40'000;  // events in which the monkey comes to everything
+constexpr int kLongRun = 200'000;  // events in which the monkey comes to everything
 
 Wish ReadWish(int argc, char** argv) {
   Wish wish;
@@ -47,9 +50,15 @@ Wish ReadWish(int argc, char** argv) {
       wish.Tally = true;
     } else if (std::strcmp(argv[i], "--go-on") == 0) {
       wish.GoOn = true;
+    } else if (std::strcmp(argv[i], "--keep") == 0 && i + 1 < argc) {
+      wish.Keep = argv[++i];
+    } else if (std::strcmp(argv[i], "--judge") == 0 && i + 1 < argc) {
+      wish.Judge.assign(argv + i + 1, argv + argc);
+      break;
     } else {
       std::fprintf(stderr,
-                   "usage: %s [--events N] [--seed N] [--life N] [--tell] [--tally] [--go-on]\n",
+                   "usage: %s [--events N] [--seed N] [--life N] [--tell] [--tally] [--go-on] "
+                   "[--keep FILE] | --judge FILE...\n",
                    argv[0]);
       std::exit(2);
     }
@@ -57,10 +66,29 @@ Wish ReadWish(int argc, char** argv) {
   return wish;
 }
 
+/// 0 if nothing is missing; says what is.
+int Judge(const corvelle::fuzz::MonkeyTally& tally) {
+  const std::vector<std::string> missing = tally.Missing();
+  for (const std::string& deed : missing)
+    std::fprintf(stderr, "the monkey did not come to this: %s\n", deed.c_str());
+  return missing.empty() ? 0 : 1;
+}
+
+int JudgeKept(const std::vector<std::string>& files) {
+  corvelle::fuzz::MonkeyTally tally;
+  for (const std::string& file : files) {
+    if (tally.Add(file)) continue;
+    std::fprintf(stderr, "%s: no tally\n", file.c_str());
+    return 1;
+  }
+  return Judge(tally);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const Wish wish = ReadWish(argc, argv);
+  if (!wish.Judge.empty()) return JudgeKept(wish.Judge);
   corvelle::fuzz::MonkeyTally tally;
   int lived = 0;
   int failed = 0;
@@ -81,10 +109,10 @@ int main(int argc, char** argv) {
   }
   if (wish.Tally) tally.Print();
   std::printf("%d events\n", lived);
+  if (!wish.Keep.empty() && !tally.Keep(wish.Keep)) {
+    std::fprintf(stderr, "%s: not written\n", wish.Keep.c_str());
+    return 1;
+  }
   if (failed > 0) return 1;
-  if (lived < kLongRun) return 0;
-  const std::vector<std::string> missing = tally.Missing();
-  for (const std::string& deed : missing)
-    std::fprintf(stderr, "the monkey did not come to this: %s\n", deed.c_str());
-  return missing.empty() ? 0 : 1;
+  return lived < kLongRun ? 0 : Judge(tally);
 }
