@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "e2e/UserNumbers.h"
+
 namespace corvelle::e2e {
 
 namespace {
@@ -47,20 +49,6 @@ int CountGdiEntries(HANDLE process) {
   }
   return static_cast<int>(std::count_if(entries.begin(), entries.end(),
                                         [](const GdiEntry& entry) { return entry.Type != 0; }));
-}
-
-/// Numbers are given out over all processes.
-int HighestUserNumber() {
-  constexpr int kProbes = 200;
-  HICON probes[kProbes];
-  const BYTE mask[2 * 8]{};
-  int highest = 0;
-  for (HICON& probe : probes) {
-    probe = CreateIcon(GetModuleHandleW(nullptr), 8, 8, 1, 1, mask, mask);
-    highest = std::max(highest, static_cast<int>(LOWORD(reinterpret_cast<ULONG_PTR>(probe))));
-  }
-  for (HICON probe : probes) DestroyIcon(probe);
-  return highest;
 }
 
 /// For a system that does not tell: what the process has committed for itself alone.

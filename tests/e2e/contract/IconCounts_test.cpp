@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <algorithm>
 #include <string>
 
 #include "core/Program.h"
+#include "e2e/UserNumbers.h"
 #include "icons/IconResolution.h"
 #include "win32/Win32Platform.h"
 
@@ -25,21 +25,6 @@ struct ObjectCounts {
   DWORD Gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
   DWORD User = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
 };
-
-/// The highest number in the table of icons and windows that a new icon gets. It rises with each
-/// one that is not given back, also where the system does not count objects.
-int HighestIconNumber() {
-  constexpr int kProbes = 200;
-  HICON probes[kProbes];
-  const BYTE mask[2 * 8]{};
-  int highest = 0;
-  for (HICON& probe : probes) {
-    probe = CreateIcon(GetModuleHandleW(nullptr), 8, 8, 1, 1, mask, mask);
-    highest = std::max(highest, static_cast<int>(LOWORD(reinterpret_cast<ULONG_PTR>(probe))));
-  }
-  for (HICON probe : probes) DestroyIcon(probe);
-  return highest;
-}
 
 TEST(ObjectCounts, TenThousandIconsOfAllKindsLeaveNothingBehind) {
   constexpr int kRounds = 1250;  // of eight icons
@@ -71,12 +56,12 @@ TEST(ObjectCounts, TenThousandIconsOfAllKindsLeaveNothingBehind) {
   // The first draws load what the system keeps for good.
   for (const int size : {16, 32}) ASSERT_GE(drawAll(size), 5);
   const ObjectCounts before;
-  const int numberBefore = HighestIconNumber();
+  const int numberBefore = e2e::HighestUserNumber();
   for (int round = 0; round < kRounds; ++round) ASSERT_GE(drawAll(round % 2 == 0 ? 16 : 32), 5);
   const ObjectCounts after;
   EXPECT_LE(after.Gdi, before.Gdi + 5);
   EXPECT_LE(after.User, before.User + 5);
-  EXPECT_LT(HighestIconNumber() - numberBefore, 250);
+  EXPECT_LT(e2e::HighestUserNumber() - numberBefore, 250);
 }
 
 }  // namespace
