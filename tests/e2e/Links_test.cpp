@@ -66,9 +66,7 @@ class Links : public ::testing::Test {
     ASSERT_TRUE(StartAndWait(desk_));
     ASSERT_TRUE(scenario::OpenMenu(desk_, 2));
     const PixelPoint at = scenario::ItemMiddle(desk_, item, 3);
-    desk_.MovePointer(at);
-    desk_.Pause(100);
-    desk_.Click(at);
+    scenario::ClickItem(desk_, at);
   }
   bool WaitForLaunch() {
     return desk_.Wait([this] { return !desk_.Launched().empty(); }, 8000);

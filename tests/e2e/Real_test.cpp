@@ -69,7 +69,7 @@ TEST(Document, WithoutAProgramIsHandedToTheSystemsOpenWithDialog) {
   desk.MovePointer(scenario::FarAway(desk));
   ASSERT_TRUE(StartAndWait(desk));
   ASSERT_TRUE(scenario::OpenMenu(desk, 2));
-  desk.Click(scenario::ItemMiddle(desk, 1, 1));
+  scenario::ClickItem(desk, scenario::ItemMiddle(desk, 1, 1));
   std::vector<std::wstring> seen;
   ASSERT_TRUE(desk.Wait(
       [&seen] {

@@ -46,9 +46,7 @@ class Folders : public ::testing::Test {
 
   void Choose(int item, int count) {
     const PixelPoint at = ItemMiddle(*desk_, item, count);
-    desk_->MovePointer(at);
-    desk_->Pause(100);
-    desk_->Click(at);
+    ClickItem(*desk_, at);
     ASSERT_TRUE(WaitForNoMenu(*desk_));
     desk_->MovePointer(FarAway(*desk_));
   }

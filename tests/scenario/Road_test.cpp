@@ -38,9 +38,7 @@ class Road : public ::testing::Test {
   void Choose(int button, int item, int count) {
     ASSERT_TRUE(OpenMenu(*desk_, button));
     const PixelPoint at = ItemMiddle(*desk_, item, count);
-    desk_->MovePointer(at);
-    desk_->Pause(100);
-    desk_->Click(at);
+    ClickItem(*desk_, at);
   }
 
   std::unique_ptr<Desk> desk_;
