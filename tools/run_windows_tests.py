@@ -8,11 +8,19 @@ e2e: each test of e2e_tests.exe in a fresh session, beside a fresh copy of the p
      (BUILD/package). Tests whose suite ends in AtEachScale run at 96 and at 120 dpi. Logs and pictures
      go below --out (build/e2e), one folder for each test.
 
+A session in which the test program did not come to its first line tells nothing of Corvelle: another one
+takes its place, and the run says so.
+
+The desktops of a run share the processor, while the pauses of a hand are real time. One or two roads that
+failed beside others are therefore walked once more by themselves; what fails there too, and anything
+beyond two, has failed. Both walks are printed, and the road counts as unsteady in the last lines.
+
 Ends with the line `wine: N passed, M failed`; exit code 0 only if nothing failed and something ran.
 """
 
 import argparse
 import concurrent.futures
+import os
 import pathlib
 import re
 import shutil
@@ -20,6 +28,7 @@ import signal
 import sys
 import threading
 import time
+import typing
 import xml.etree.ElementTree
 
 from wine_session import ROOT, Session, SessionError, end_quietly
@@ -27,6 +36,10 @@ from wine_session import ROOT, Session, SessionError, end_quietly
 E2E_SECONDS = 90
 CONTRACT_SECONDS = 300
 SCALES = (96, 120)
+SESSIONS = 3  # for one test program to come to its first line
+UNSTEADY = 2  # roads that may be walked once more
+# Wine's own errors go to a log of their own.
+os.environ.setdefault("CORVELLE_WINEDEBUG", "err+all,fixme-all")
 printing = threading.Lock()
 
 
@@ -48,11 +61,40 @@ def wait(session, process, seconds, pictures=None):
     return process.returncode
 
 
+class Run(typing.NamedTuple):
+    """What a test program left: its exit code (None when the time ran out or nothing started), what it
+    said, and what Wine said beside it."""
+    code: int | None
+    text: str
+    errors: str
+
+    def tell(self, most):
+        """The end of both, for whoever looks for the reason."""
+        code = "none, the time ran out or nothing started" if self.code is None else self.code
+        return f"exit code {code}\n{self.errors[-1000:]}\n{self.text[-most:]}"
+
+
 def run_program(session, folder, command, log, seconds, pictures=None):
-    with open(log, "wb") as output:
-        process = session.start([f"C:\\{folder}\\{command[0]}", *command[1:]], stdout=output, stderr=output)
+    errors = log.with_name(f"{log.stem}-wine.txt")
+    with open(log, "wb") as output, open(errors, "wb") as beside:
+        process = session.start([f"C:\\{folder}\\{command[0]}", *command[1:]], stdout=output, stderr=beside)
         code = wait(session, process, seconds, pictures)
-    return code, log.read_text(encoding="utf-8", errors="replace")
+    return Run(code, log.read_text(encoding="utf-8", errors="replace"),
+               errors.read_text(encoding="utf-8", errors="replace"))
+
+
+def in_session(what, run, dpi=96):
+    """What run(session) gives, in the first session in which the program comes to its first line."""
+    for _ in range(SESSIONS):
+        try:
+            with Session(dpi=dpi) as session:
+                outcome = run(session)
+        except (OSError, SessionError) as error:
+            outcome = Run(None, "", str(error))
+        if outcome.text:
+            break
+        say(f"  again  {what}: the session did not come up, {outcome.tell(0)}")
+    return outcome
 
 
 # ---- the contract suites ----
@@ -64,29 +106,34 @@ def run_contract(arguments):
         say(f"wine: {program} is not there")
         return 0, 1
     arguments.out.mkdir(parents=True, exist_ok=True)
-    log = arguments.out / "contract.txt"
-    with Session() as session:
+    counts = None
+
+    def run(session):
+        nonlocal counts
         place = session.drive / "tests"
         place.mkdir()
         shutil.copy2(program, place)
-        code, text = run_program(session, "tests",
-                                 [program.name, f"--gtest_filter={arguments.filter}",
-                                  "--gtest_output=xml:C:\\tests\\result.xml"], log, CONTRACT_SECONDS)
-        if code is None:
+        outcome = run_program(session, "tests",
+                              [program.name, f"--gtest_filter={arguments.filter}",
+                               "--gtest_output=xml:C:\\tests\\result.xml"],
+                              arguments.out / "contract.txt", CONTRACT_SECONDS)
+        if outcome.code is None:
             session.picture(arguments.out / "contract.png")
         result = place / "result.xml"
         counts = counts_of(result) if result.is_file() else None
+        return outcome
+
+    outcome = in_session("contract", run)
     if counts is None:
         # It died or hung before it could sum up: what it said so far counts, and the end is a failure.
-        passed = len(re.findall(r"^\[       OK \]", text, re.MULTILINE))
-        failed = len(set(re.findall(r"^\[  FAILED  \] ([\w/]+\.[\w/]+)", text, re.MULTILINE))) + 1
+        passed = len(re.findall(r"^\[       OK \]", outcome.text, re.MULTILINE))
+        failed = len(set(re.findall(r"^\[  FAILED  \] ([\w/]+\.[\w/]+)", outcome.text, re.MULTILINE))) + 1
         counts = (passed, failed)
     passed, failed = counts
-    if code != 0 and failed == 0:
+    if outcome.code != 0 and failed == 0:
         failed = 1
     if failed:
-        say(text[-6000:])
-        say(f"contract: exit code {'none, the time ran out' if code is None else code}")
+        say(f"contract: {outcome.tell(6000)}")
     say(f"contract: {passed} passed, {failed} failed")
     return passed, failed
 
@@ -112,17 +159,18 @@ def counts_of(result):
 
 def list_tests(arguments):
     """The names of the tests, in the order of the program."""
-    log = arguments.out / "list.txt"
-    with Session() as session:
+    def run(session):
         place = session.drive / "e2e"
         place.mkdir()
         shutil.copy2(arguments.build / "e2e_tests.exe", place)
-        code, text = run_program(session, "e2e", ["e2e_tests.exe", f"--gtest_filter={arguments.filter}",
-                                                  "--gtest_list_tests"], log, 60)
-    if code != 0:
-        raise SessionError(f"the tests could not be listed (exit code {code}): {text[-500:]}")
+        return run_program(session, "e2e", ["e2e_tests.exe", f"--gtest_filter={arguments.filter}",
+                                            "--gtest_list_tests"], arguments.out / "list.txt", 60)
+
+    outcome = in_session("the list of roads", run)
+    if outcome.code != 0:
+        raise SessionError(f"the tests could not be listed: {outcome.tell(500)}")
     names, suite = [], ""
-    for line in text.splitlines():
+    for line in outcome.text.splitlines():
         line = line.split("#")[0].rstrip()
         if line.endswith(".") and not line.startswith(" "):
             suite = line
@@ -131,36 +179,56 @@ def list_tests(arguments):
     return names
 
 
-def run_road(arguments, name, dpi):
-    """True if the test passed."""
-    folder = arguments.out / (name if dpi == 96 else f"{name}-{dpi}dpi")
+class Road(typing.NamedTuple):
+    name: str
+    dpi: int
+
+    def __str__(self):
+        return self.name if self.dpi == 96 else f"{self.name} at {self.dpi} dpi"
+
+    def folder(self):
+        return self.name if self.dpi == 96 else f"{self.name}-{self.dpi}dpi"
+
+
+def walk(arguments, road, mark=""):
+    """True if the test passed. Its log and pictures lie in a folder of its own."""
+    folder = arguments.out / (road.folder() + mark)
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     began = time.monotonic()
-    try:
-        with Session(dpi=dpi) as session:
-            shutil.copytree(arguments.build / "package", session.drive / "Corvelle",
-                            ignore=shutil.ignore_patterns("Menus", "ShellLink"))
-            for place, program in (("witness", "witness.exe"), ("e2e", "e2e_tests.exe")):
-                (session.drive / place).mkdir()
-                shutil.copy2(arguments.build / program, session.drive / place)
-            requests = session.drive / "e2e" / "pictures"
-            requests.mkdir()
-            code, text = run_program(session, "e2e", ["e2e_tests.exe", f"--gtest_filter={name}"],
-                                     folder / "log.txt", E2E_SECONDS, (requests, folder))
-            passed = code == 0 and "[  PASSED  ] 1 test." in text
-            if not passed:
-                session.picture(folder / "at-the-end.png")
-    except (OSError, SessionError) as error:
-        passed, code, text = False, None, str(error)
+
+    def passed(outcome):
+        return outcome.code == 0 and "[  PASSED  ] 1 test." in outcome.text
+
+    def run(session):
+        shutil.copytree(arguments.build / "package", session.drive / "Corvelle",
+                        ignore=shutil.ignore_patterns("Menus", "ShellLink"))
+        for place, program in (("witness", "witness.exe"), ("e2e", "e2e_tests.exe")):
+            (session.drive / place).mkdir()
+            shutil.copy2(arguments.build / program, session.drive / place)
+        requests = session.drive / "e2e" / "pictures"
+        requests.mkdir()
+        outcome = run_program(session, "e2e", ["e2e_tests.exe", f"--gtest_filter={road.name}"],
+                              folder / "log.txt", E2E_SECONDS, (requests, folder))
+        if not passed(outcome):
+            session.picture(folder / "at-the-end.png")
+        return outcome
+
+    outcome = in_session(str(road), run, road.dpi)
+    good = passed(outcome)
     with printing:
-        scale = "" if dpi == 96 else f" at {dpi} dpi"
-        print(f"  {'ok    ' if passed else 'FAILED'} {name}{scale} ({time.monotonic() - began:.1f} s)",
-              flush=True)
-        if not passed:
-            print(f"  exit code {'none, the time ran out' if code is None else code}; pictures in {folder}")
-            print(text[-3000:], flush=True)
-    return passed
+        print(f"  {'ok    ' if good else 'FAILED'} {road} ({time.monotonic() - began:.1f} s)", flush=True)
+        if not good:
+            print(f"  pictures in {folder}; {outcome.tell(3000)}", flush=True)
+    return good
+
+
+def walk_once_more(failed, walk_alone):
+    """(unsteady, failed): the roads that failed beside others, parted by a walk of their own."""
+    if len(failed) > UNSTEADY:
+        return [], failed
+    unsteady = [road for road in failed if walk_alone(road)]
+    return unsteady, [road for road in failed if road not in unsteady]
 
 
 def run_e2e(arguments):
@@ -170,20 +238,25 @@ def run_e2e(arguments):
             say(f"wine: {arguments.build / needed} is not there")
             return 0, 1
     arguments.out.mkdir(parents=True, exist_ok=True)
-    runs = []
+    roads = []
     for name in list_tests(arguments):
         scales = SCALES if name.split(".")[0].endswith("AtEachScale") else SCALES[:1]
-        runs += [(name, dpi) for dpi in scales]
+        roads += [Road(name, dpi) for dpi in scales]
     with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
-        waiting = [pool.submit(run_road, arguments, name, dpi) for name, dpi in runs]
+        waiting = [pool.submit(walk, arguments, road) for road in roads]
         try:
-            results = [future.result() for future in waiting]
+            good = [future.result() for future in waiting]
         except BaseException:
             pool.shutdown(wait=True, cancel_futures=True)
             raise
-    passed = sum(results)
-    say(f"e2e: {passed} passed, {len(results) - passed} failed")
-    return passed, len(results) - passed
+    first = [road for road, passed in zip(roads, good) if not passed]
+    unsteady, failed = walk_once_more(first, lambda road: walk(arguments, road, "-alone"))
+    for road in unsteady:
+        say(f"e2e: unsteady: {road} failed beside others and passed alone")
+    for road in failed:
+        say(f"e2e: failed: {road}")
+    say(f"e2e: {len(roads) - len(failed)} passed, {len(failed)} failed")
+    return len(roads) - len(failed), len(failed)
 
 
 def main():
