@@ -73,6 +73,23 @@ FileResult<DWORD> WritableAttributes(const std::wstring& path) {
   return attributes;
 }
 
+/// Calls until it is done. Indexers and virus scanners hold a file for a moment just when it has
+/// changed; one that is held for longer, or that may not be changed at all, stays refused, with the
+/// thread's last error set.
+template <class Call>
+bool DonePatiently(Call call) {
+  constexpr int kTries = 10;
+  constexpr DWORD kBetween = 20;  // milliseconds
+  for (int i = 1; !call(); ++i) {
+    const DWORD error = GetLastError();
+    if (i == kTries || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED)) {
+      return false;
+    }
+    Sleep(kBetween);
+  }
+  return true;
+}
+
 /// A file of new content on its way to its name. Unless it gets there, it is removed again.
 class TemporaryFile {
  public:
@@ -97,12 +114,12 @@ class TemporaryFile {
 
   [[nodiscard]] bool MoveTo(const std::wstring& target, DWORD attributes) {
     SetFileAttributesW(name_.c_str(), attributes);
-    if (MoveFileExW(name_.c_str(), target.c_str(),
-                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
-      return false;
-    }
-    made_ = false;
-    return true;
+    const bool moved = DonePatiently([&] {
+      return MoveFileExW(name_.c_str(), target.c_str(),
+                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    });
+    if (moved) made_ = false;
+    return moved;
   }
 
  private:
@@ -244,7 +261,8 @@ FileStatus Win32Files::Rename(std::string_view from, std::string_view to) {
   const auto wideFrom = PathOf(from);
   const auto wideTo = PathOf(to);
   if (!wideFrom || !wideTo) return FileError::BadName;
-  return StatusOf(MoveFileExW(wideFrom->c_str(), wideTo->c_str(), 0) != 0);
+  return StatusOf(
+      DonePatiently([&] { return MoveFileExW(wideFrom->c_str(), wideTo->c_str(), 0) != 0; }));
 }
 
 FileStatus Win32Files::Copy(std::string_view from, std::string_view to) {

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <map>
+#include <thread>
 
 #include "TempFolder.h"
 #include "platform/FileSystemContract.h"
@@ -80,6 +81,45 @@ TEST_F(FilesTest, AReplaceThatFailsLeavesNothingBesideTheFile) {
   EXPECT_FALSE(Files.Replace(Root + "a|b", "new"));
   EXPECT_EQ(Files.Read(Root + "a.dat", 0, 10).ValueOr("(none)"), "old");
   EXPECT_EQ(Count(), 1U);
+}
+
+/// Another program that looks at a file and is done with it after 60 ms.
+class Looker {
+ public:
+  Looker(const std::string& path, DWORD shares)
+      : file_(CreateFileW(Wide(path).c_str(), GENERIC_READ, shares, nullptr, OPEN_EXISTING,
+                          FILE_ATTRIBUTE_NORMAL, nullptr)),
+        looks_(static_cast<bool>(file_)),
+        done_([this] {
+          Sleep(60);
+          file_.Reset();
+        }) {}
+  Looker(const Looker&) = delete;
+  Looker& operator=(const Looker&) = delete;
+  ~Looker() { done_.join(); }
+  [[nodiscard]] bool Looks() const { return looks_; }
+
+ private:
+  win32::UniqueFile file_;
+  bool looks_;
+  std::thread done_;
+};
+
+TEST_F(FilesTest, ReplaceWaitsForAProgramThatLooksAtTheFile) {
+  ASSERT_TRUE(Files.Write(Root + "a.dat", "old"));
+  const Looker looker(Root + "a.dat", FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+  ASSERT_TRUE(looker.Looks());
+  EXPECT_TRUE(Files.Replace(Root + "a.dat", "new"));
+  EXPECT_EQ(Files.Read(Root + "a.dat", 0, 10).ValueOr("(none)"), "new");
+  EXPECT_EQ(Count(), 1U);
+}
+
+TEST_F(FilesTest, RenameWaitsForAProgramThatLooksAtTheFile) {
+  ASSERT_TRUE(Files.Write(Root + "a.dat", "old"));
+  const Looker looker(Root + "a.dat", FILE_SHARE_READ);
+  ASSERT_TRUE(looker.Looks());
+  EXPECT_TRUE(Files.Rename(Root + "a.dat", Root + "b.dat"));
+  EXPECT_TRUE(Files.FileExists(Root + "b.dat"));
 }
 
 TEST_F(FilesTest, ShortNamesOfLongNamesFitNoPattern) {
