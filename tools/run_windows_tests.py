@@ -39,7 +39,7 @@ SCALES = (96, 120)
 SESSIONS = 3  # for one test program to come to its first line
 UNSTEADY = 2  # roads that may be walked once more
 # Wine's own errors go to a log of their own.
-os.environ.setdefault("CORVELLE_WINEDEBUG", "err+all,fixme-all")
+os.environ.setdefault("CORVELLE_WINEDEBUG", "-all,err+all")
 printing = threading.Lock()
 
 

@@ -115,7 +115,7 @@ std::string Narrow(std::wstring_view text) {
   return narrow;
 }
 
-WineDesk::WineDesk() {
+WineDesk::WineDesk() : pointer_(Pointer()), before_(pointer_) {
   // Whoever asks for the desktop first brings it up, with its shell; nothing may start before it.
   GetDesktopWindow();
   Wait([] { return FindWindowW(L"Shell_TrayWnd", nullptr) != nullptr; }, 10000);
@@ -201,15 +201,29 @@ void WineDesk::SendMouse(DWORD flags) {
 }
 
 void WineDesk::MovePointer(PixelPoint at) {
+  before_ = pointer_;
   pointer_ = at;
   SendMouse(0);
 }
 
+// News of where the pointer was before a move can arrive after it and put the pointer back, where a
+// hand's would stay. Elsewhere it is because the program put it there, and a window that is pulled
+// along has its own news.
+void WineDesk::HoldPointer() {
+  const PixelPoint at = Pointer();
+  if (buttonDown_ || at != before_ || at == pointer_) return;
+  std::printf("The pointer was at %d,%d again and not at %d,%d\n", at.x, at.y, pointer_.x,
+              pointer_.y);
+  SendMouse(0);
+}
+
 void WineDesk::Press(Button button) {
+  buttonDown_ = true;
   SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN);
 }
 
 void WineDesk::Release(Button button) {
+  buttonDown_ = false;
   const bool dragging = source_ != nullptr && source_->Dragging();
   SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
   // Until the source has heard that its drag is over, the pointer is its own, and so the next
@@ -242,6 +256,7 @@ bool WineDesk::Wait(const std::function<bool()>& until, int milliseconds) {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
   while (true) {
     AnswerMessages();
+    HoldPointer();
     if (until()) return true;
     if (GetTickCount64() >= end) break;
     Sleep(10);
@@ -256,6 +271,7 @@ void WineDesk::Pause(int milliseconds) {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
   while (GetTickCount64() < end) {
     AnswerMessages();
+    HoldPointer();
     Sleep(10);
   }
 }

@@ -108,12 +108,15 @@ class WineDesk final : public scenario::Desk {
 
  private:
   void SendMouse(DWORD flags);
+  void HoldPointer();
   void AnswerMessages();
   void ChooseInPopups();
   void AnswerMenus();
 
   std::vector<HANDLE> copies_;
-  PixelPoint pointer_;
+  PixelPoint pointer_;  // where the hand put it
+  PixelPoint before_;   // and where it was until then
+  bool buttonDown_ = false;
   std::vector<int> answers_;
   std::size_t answered_ = 0;
   std::vector<char> menuAnswers_;
