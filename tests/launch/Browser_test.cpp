@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/Program.h"
@@ -224,6 +225,25 @@ TEST_F(InitBrowserTest, EventsRunWhileTheProbePageIsThere) {
 // ---- opening an address ----
 
 struct OpenUrlTest : BrowserDesk {};
+
+TEST_F(OpenUrlTest, ASecondAddressWhileTheBrowserIsLookedForGoesTheSameWay) {
+  HaveBrowser(kExplorer);
+  bool nested = false;
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] {
+    if (std::exchange(nested, true)) return;
+    browser.OpenUrl("http://second.example/");
+  });
+  world.Desktop.Jump(1);
+  browser.OpenUrl(kUrl);
+  world.Desktop.StopTimer(timer);
+  EXPECT_TRUE(nested);
+  EXPECT_EQ(world.Shell.Log(),
+            (std::vector<Launch>{Opened(kExplorer, "http://second.example/", "C:\\IE\\"),
+                                 Opened(kExplorer, kUrl, "C:\\IE\\")}));
+  EXPECT_EQ(browser.BrowserCommand, kExplorer);
+  EXPECT_TRUE(browser.BrowserUseDde);
+  ExpectNoTempFiles();
+}
 
 TEST_F(OpenUrlTest, ARunningBrowserGetsTheAddressByDde) {
   HaveBrowser(kExplorer, "IExplore");
