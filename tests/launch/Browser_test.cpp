@@ -109,6 +109,14 @@ TEST_F(InitBrowserTest, HalfAChoiceIsNone) {
   EXPECT_EQ(browser.BrowserApplication, "IExplore");
 }
 
+TEST_F(InitBrowserTest, TheOtherHalfIsNoneEither) {
+  world.Files.Put(kIniFile, "Application=Whatever\r\n");
+  HaveBrowser(kExplorer);
+  browser.InitBrowser();
+  EXPECT_EQ(browser.BrowserCommand, kExplorer);
+  EXPECT_EQ(browser.BrowserApplication, "IExplore");
+}
+
 TEST_F(InitBrowserTest, ANameWithoutAProgramIsTriedAndTheShellGetsTheAddressNoServerTakes) {
   world.Files.Put(kIniFile, "Application=Whatever\r\n");
   browser.InitBrowser();
@@ -259,6 +267,17 @@ TEST_F(OpenUrlTest, AClosedBrowserIsStartedWithTheAddressAsItsArgument) {
   EXPECT_EQ(world.Dde.Tries(), 1);
   EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened(kExplorer, kUrl, "C:\\IE\\")});
   EXPECT_TRUE(browser.BrowserUseDde);
+}
+
+TEST_F(OpenUrlTest, AnAddressWhoseTextGoesAwayMeanwhileIsOpenedAllTheSame) {
+  HaveBrowser(kExplorer);
+  std::string text = kUrl;
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] { text.assign(text.size(), 'x'); });
+  world.Desktop.Jump(1);
+  browser.OpenUrl(text);
+  world.Desktop.StopTimer(timer);
+  EXPECT_NE(text, kUrl);
+  EXPECT_EQ(world.Shell.Log(), std::vector{Opened(kExplorer, kUrl, "C:\\IE\\")});
 }
 
 TEST_F(OpenUrlTest, ABrowserWithoutADriveInItsPathStartsWithoutAFolder) {
