@@ -38,8 +38,8 @@ constexpr std::string_view kUnsupportedBrowser =
 class MomentaryFile {
  public:
   MomentaryFile(FileSystem& files, std::string path, std::string_view bytes)
-      : files_(files), path_(std::move(path)) {
-    static_cast<void>(files_.Write(path_, bytes));
+      : files_(files), path_(std::move(path)), bytes_(bytes) {
+    Write();
   }
   MomentaryFile(const MomentaryFile&) = delete;
   MomentaryFile& operator=(const MomentaryFile&) = delete;
@@ -50,10 +50,17 @@ class MomentaryFile {
 
   const std::string& Path() const noexcept { return path_; }
   void Keep() noexcept { kept_ = true; }
+  /// Brings it back when somebody else has removed it meanwhile.
+  void Renew() {
+    if (!files_.FileExists(path_)) Write();
+  }
 
  private:
+  void Write() { static_cast<void>(files_.Write(path_, bytes_)); }
+
   FileSystem& files_;
   std::string path_;
+  std::string bytes_;
   bool kept_ = false;
 };
 
@@ -64,8 +71,10 @@ std::string Browser::PathOf(std::string_view name) const {
 }
 
 std::optional<std::string> Browser::ProgramForPages() {
-  const MomentaryFile page(program_.Services.Files, PathOf(kPageFile), kEmptyHtml);
+  MomentaryFile page(program_.Services.Files, PathOf(kPageFile), kEmptyHtml);
   program_.DoEvents();
+  // An address that was opened in these events has used the same file and removed it.
+  page.Renew();
   return program_.Services.Associations.ProgramFor(page.Path());
 }
 

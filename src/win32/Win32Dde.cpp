@@ -193,7 +193,8 @@ DdeOutcome Win32Dde::Execute(std::string_view service, std::string_view topic,
   DdeOutcome outcome = DdeOutcome::NoServer;
   if (talk.Server != nullptr) {
     outcome = Tell(talk, command, waits_.Answer);
-    if (!talk.Ended) EndWith(talk.Server, talk.Client);
+    // A server that has ended it waits for the answer to that.
+    EndWith(talk.Server, talk.Client);
   }
   SetWindowLongPtrW(window.Get(), GWLP_USERDATA, 0);
   return outcome;

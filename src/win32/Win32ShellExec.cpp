@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Text.h"
+#include "win32/FileErrors.h"
 #include "win32/UniqueHandle.h"
 #include "win32/Wide.h"
 
@@ -23,13 +24,10 @@ const wchar_t* PointerTo(const std::optional<std::wstring>& text) {
 }
 
 RunError RunErrorOf(DWORD error) {
-  switch (error) {
-    case ERROR_FILE_NOT_FOUND:
-    case ERROR_PATH_NOT_FOUND:
+  switch (FileErrorOf(error)) {
+    case FileError::NotFound:
       return RunError::FileNotFound;
-    case ERROR_INVALID_NAME:
-    case ERROR_BAD_PATHNAME:
-    case ERROR_FILENAME_EXCED_RANGE:
+    case FileError::BadName:
       return RunError::BadFileName;
     default:
       return RunError::Other;

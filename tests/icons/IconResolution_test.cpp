@@ -285,6 +285,12 @@ TEST_F(DetectShellIconsTest, LooksAtTwoFilesAndNoMore) {
   EXPECT_EQ(world.Icons.Lookups(), 2);
 }
 
+TEST_F(DetectShellIconsTest, AFolderIsNoIconFileWhateverItsName) {
+  world.Files.MakeFolders("C:\\Corvelle\\Icons\\a.ico");
+  DetectShellIcons(program);
+  EXPECT_FALSE(program.ShellDrawsIcons);
+}
+
 TEST_F(DetectShellIconsTest, NeitherFolderNorTwoFilesMeansThatItDoesNot) {
   program.ShellDrawsIcons = true;
   DetectShellIcons(program);

@@ -62,6 +62,8 @@ TEST_F(OthersDesk, ShellFilesThatAreNotThereAreLeftOut) {
 
 TEST_F(OthersDesk, QuotesComeOffAndAProgramIsListedOnce) {
   Register("a.exe", "C:\\Tools\\a.exe", 1);
+  world.Keys.Set(RegistryRoot::LocalMachine, std::string(kAppPaths) + "a.exe", "",
+                 "\"C:\\Tools\\a.exe\"");
   world.Keys.Set(RegistryRoot::LocalMachine, std::string(kAppPaths) + "b.exe", "",
                  "\"C:\\TOOLS\\A.EXE\"");
   EXPECT_EQ(InitOthers(program), Rows{"a.exe |C:\\tools\\a.exe"});

@@ -51,6 +51,12 @@ TEST_F(DropSource, AWholeCaptionWithoutADashIsTheTitle) {
   EXPECT_EQ(browser.WindowTitle(kPageAddress), "A page");
 }
 
+TEST_F(DropSource, ItsCaptionEndsAtTheFirstNul) {
+  using std::string_literals::operator""s;
+  browser.NoteDropSource(Open("A page\0 - Any Browser"s));
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "A page");
+}
+
 TEST_F(DropSource, CountsForOneDropOnly) {
   browser.NoteDropSource(Open("A page"));
   EXPECT_EQ(browser.WindowTitle(kPageAddress), "A page");

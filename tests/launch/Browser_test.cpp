@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/Program.h"
@@ -102,6 +103,14 @@ TEST_F(InitBrowserTest, AnUnknownApplicationOfTheUsersChoiceIsTakenAsItStands) {
 
 TEST_F(InitBrowserTest, HalfAChoiceIsNone) {
   world.Files.Put(kIniFile, "Command=c:\\x.exe\r\n");
+  HaveBrowser(kExplorer);
+  browser.InitBrowser();
+  EXPECT_EQ(browser.BrowserCommand, kExplorer);
+  EXPECT_EQ(browser.BrowserApplication, "IExplore");
+}
+
+TEST_F(InitBrowserTest, TheOtherHalfIsNoneEither) {
+  world.Files.Put(kIniFile, "Application=Whatever\r\n");
   HaveBrowser(kExplorer);
   browser.InitBrowser();
   EXPECT_EQ(browser.BrowserCommand, kExplorer);
@@ -225,6 +234,25 @@ TEST_F(InitBrowserTest, EventsRunWhileTheProbePageIsThere) {
 
 struct OpenUrlTest : BrowserDesk {};
 
+TEST_F(OpenUrlTest, ASecondAddressWhileTheBrowserIsLookedForGoesTheSameWay) {
+  HaveBrowser(kExplorer);
+  bool nested = false;
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] {
+    if (std::exchange(nested, true)) return;
+    browser.OpenUrl("http://second.example/");
+  });
+  world.Desktop.Jump(1);
+  browser.OpenUrl(kUrl);
+  world.Desktop.StopTimer(timer);
+  EXPECT_TRUE(nested);
+  EXPECT_EQ(world.Shell.Log(),
+            (std::vector<Launch>{Opened(kExplorer, "http://second.example/", "C:\\IE\\"),
+                                 Opened(kExplorer, kUrl, "C:\\IE\\")}));
+  EXPECT_EQ(browser.BrowserCommand, kExplorer);
+  EXPECT_TRUE(browser.BrowserUseDde);
+  ExpectNoTempFiles();
+}
+
 TEST_F(OpenUrlTest, ARunningBrowserGetsTheAddressByDde) {
   HaveBrowser(kExplorer, "IExplore");
   browser.OpenUrl(kUrl);
@@ -239,6 +267,17 @@ TEST_F(OpenUrlTest, AClosedBrowserIsStartedWithTheAddressAsItsArgument) {
   EXPECT_EQ(world.Dde.Tries(), 1);
   EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened(kExplorer, kUrl, "C:\\IE\\")});
   EXPECT_TRUE(browser.BrowserUseDde);
+}
+
+TEST_F(OpenUrlTest, AnAddressWhoseTextGoesAwayMeanwhileIsOpenedAllTheSame) {
+  HaveBrowser(kExplorer);
+  std::string text = kUrl;
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] { text.assign(text.size(), 'x'); });
+  world.Desktop.Jump(1);
+  browser.OpenUrl(text);
+  world.Desktop.StopTimer(timer);
+  EXPECT_NE(text, kUrl);
+  EXPECT_EQ(world.Shell.Log(), std::vector{Opened(kExplorer, kUrl, "C:\\IE\\")});
 }
 
 TEST_F(OpenUrlTest, ABrowserWithoutADriveInItsPathStartsWithoutAFolder) {

@@ -363,6 +363,24 @@ TEST_F(OpenWithItemTest, ADroppedFileIsTheProgramsParameter) {
   EXPECT_EQ(Launches(), std::vector{expected});
 }
 
+TEST_F(OpenWithItemTest, EventsRunFirstAndMayTakeTheTextsAway) {
+  std::string dropped = "C:\\Docs\\plan.txt";
+  std::string target = "C:\\Tools\\tool.exe";
+  bool ran = false;
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] {
+    ran = Launches().empty();
+    dropped.assign(dropped.size(), 'x');
+    target.assign(target.size(), 'x');
+  });
+  world.Desktop.Jump(1);
+  OpenWithItem(program, dropped, target);
+  world.Desktop.StopTimer(timer);
+  EXPECT_TRUE(ran);
+  Launch expected = Opened("C:\\Tools\\tool.exe");
+  expected.Parameters = "\"C:\\Docs\\plan.txt\"";
+  EXPECT_EQ(Launches(), std::vector{expected});
+}
+
 TEST_F(OpenWithItemTest, ASpecialFolderTakesTheDroppedFile) {
   AddServices();
   OpenWithItem(program, "C:\\Docs\\plan.txt", "csidl_bitbucket");
@@ -434,6 +452,13 @@ TEST_F(LaunchItemTest, ReadUrlFileGivesThePathWhereThereIsNoAddress) {
   EXPECT_EQ(ReadUrlFile(program, "C:\\gone.url"), "C:\\gone.url");
   world.Files.FailCall(1);
   EXPECT_EQ(ReadUrlFile(program, "C:\\a.url"), "C:\\a.url");
+}
+
+TEST_F(LaunchItemTest, ReadUrlFileFindsTheAddressBehindAnyNumberOfOtherLines) {
+  std::string content;
+  for (int i = 0; i < 2000; ++i) content += "Modified=00000000000000000000\r\n";
+  world.Files.Put("C:\\a.url", content + "URL=http://a.example\r\n");
+  EXPECT_EQ(ReadUrlFile(program, "C:\\a.url"), "http://a.example");
 }
 
 TEST_F(LaunchItemTest, GetLinkWorkDirGivesTargetAndFolder) {

@@ -101,6 +101,12 @@ TEST_P(ShellContract, RunTellsThatAProgramIsMissing) {
   EXPECT_EQ(ErrorOf("\"" + Missing() + "\" one"), RunError::FileNotFound);
 }
 
+TEST_P(ShellContract, RunTellsThatADriveOrAServerIsMissing) {
+  EXPECT_EQ(ErrorOf("Q:\\Missing.exe"), RunError::FileNotFound);
+  EXPECT_EQ(ErrorOf("\\\\corvelle.invalid\\share\\Missing.exe one"), RunError::FileNotFound);
+  EXPECT_EQ(ErrorOf(shell_->UnknownDocument() + "\\Missing.exe"), RunError::FileNotFound);
+}
+
 TEST_P(ShellContract, RunTellsThatAFileIsNoProgram) {
   EXPECT_EQ(ErrorOf(shell_->UnknownDocument()), RunError::Other);
 }

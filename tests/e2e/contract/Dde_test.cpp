@@ -67,6 +67,12 @@ class MessageServer {
   MessageServer& operator=(const MessageServer&) = delete;
   ~MessageServer() { thread_.reset(); }
 
+  /// How often a client has said goodbye, once it has or when a second is over.
+  [[nodiscard]] int Goodbyes() const {
+    for (int i = 0; i < 100 && goodbyes_ == 0; ++i) Sleep(10);
+    return goodbyes_;
+  }
+
  private:
   void Begin() {
     WNDCLASSW windowClass{};
@@ -98,12 +104,17 @@ class MessageServer {
       server->execute_(window, client, lParam);
       return 0;
     }
+    if (server != nullptr && message == WM_DDE_TERMINATE) {
+      ++server->goodbyes_;
+      return 0;
+    }
     return DefWindowProcW(window, message, wParam, lParam);
   }
 
   Execute execute_;
   DWORD initiatePause_;
   HWND window_ = nullptr;
+  std::atomic<int> goodbyes_ = 0;
   std::unique_ptr<OtherThread> thread_;
 };
 
@@ -140,6 +151,8 @@ TEST_F(DdeOnWindows, AServerThatEndsTheConversationIsGivenUpAtOnce) {
   win32::Win32Dde patient{{.Answer = 60000}};
   EXPECT_EQ(patient.Execute("CorvelleContract", "WWW_OpenURL", "x"), DdeOutcome::NoAnswer);
   EXPECT_LT(Elapsed(), 20000U);
+  // It keeps the conversation until the client has said goodbye too.
+  EXPECT_EQ(server.Goodbyes(), 1);
 }
 
 TEST_F(DdeOnWindows, AServerWhoseWindowGoesAwayIsGivenUpAtOnce) {
