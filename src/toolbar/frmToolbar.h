@@ -363,6 +363,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] std::string HintOf(int button) const;
   /// A hint for the button under the pointer is due in a moment.
   void AnnounceHint();
+  /// No hint is up, and none is due.
+  void TakeHintDown();
   void KeepHintTimes(WindowId under);
   void HoverButton(int button);
   void ShowButtonPopup();
