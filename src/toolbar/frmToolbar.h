@@ -127,6 +127,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void Form_MouseDown(forms::MouseButton button, forms::ShiftState shift, float x, float y);
   void Form_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x, float y);
   void Form_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  void Form_DblClick();
   /// Follows the pointer while a menu or a hint is up.
   void Timer2_Timer();
   /// Carries out a pending focus request. With Auto Hide it hides a strip that the pointer left and
