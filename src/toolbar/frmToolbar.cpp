@@ -344,6 +344,8 @@ void frmToolbar::RebuildAtTop() {
 }
 
 void frmToolbar::RestoreToolbar() {
+  // A strip that is just being placed would be left half at its edge.
+  if (!IsLoaded() || program_.AppBarBusy) return;
   program_.RestoreBusy = true;
   if (program_.AppBarDocked) {
     program_.SaveEdgeFlags();
