@@ -99,6 +99,7 @@ TEST(ToolbarOLEDragDrop, BetweenTheButtonsNothingIsTaken) {
   desk.Drop();
   EXPECT_TRUE(desk.FileUnchanged(1));
   EXPECT_TRUE(desk.FileUnchanged(3));
+  desk.Wait(600);
   EXPECT_FALSE(desk.TheProgram.MenuOpen);
 }
 
@@ -327,7 +328,7 @@ TEST(SingleButtonsOLE, ClosesTheHintWhenItComesAndWhenItIsDropped) {
   DragDesk desk;
   NotedHint hint;
   desk.TheProgram.Ports.Hint = &hint;
-  forms::DragData data{.Files = Names{"C:\\c.txt"}};
+  forms::DragData data{.Text = "a text"};
   DropEffect effect = DropEffect::Copy;
   desk.Strip.picSingleButton_OLEDragOver(data, effect, MouseButton::Left, {}, 5, 5);
   EXPECT_EQ(hint.Closed, 1);
