@@ -78,6 +78,7 @@ std::unique_ptr<forms::Label> frmToolbar::MakeSeparator(int index) {
   label->MouseUp = [this, index](MouseButton button, ShiftState shift, float x, float y) {
     lblSep_MouseUp(index, button, shift, x, y);
   };
+  if (index == 0) label->DblClick = [this] { Form_DblClick(); };
   return label;
 }
 
@@ -93,6 +94,7 @@ void frmToolbar::WireEvents() {
   MouseDown = to(&frmToolbar::Form_MouseDown);
   MouseMove = to(&frmToolbar::Form_MouseMove);
   MouseUp = to(&frmToolbar::Form_MouseUp);
+  DblClick = [this] { Form_DblClick(); };
   picToolbar.MouseDown = to(&frmToolbar::picToolbar_MouseDown);
   picToolbar.MouseMove = to(&frmToolbar::picToolbar_MouseMove);
   picToolbar.MouseUp = to(&frmToolbar::picToolbar_MouseUp);
@@ -342,6 +344,8 @@ void frmToolbar::RebuildAtTop() {
 }
 
 void frmToolbar::RestoreToolbar() {
+  // A strip that is just being placed would be left half at its edge.
+  if (!IsLoaded() || program_.AppBarBusy) return;
   program_.RestoreBusy = true;
   if (program_.AppBarDocked) {
     program_.SaveEdgeFlags();

@@ -127,6 +127,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void Form_MouseDown(forms::MouseButton button, forms::ShiftState shift, float x, float y);
   void Form_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x, float y);
   void Form_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y);
+  void Form_DblClick();
   /// Follows the pointer while a menu or a hint is up.
   void Timer2_Timer();
   /// Carries out a pending focus request. With Auto Hide it hides a strip that the pointer left and
@@ -363,6 +364,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] std::string HintOf(int button) const;
   /// A hint for the button under the pointer is due in a moment.
   void AnnounceHint();
+  /// No hint is up, and none is due.
+  void TakeHintDown();
   void KeepHintTimes(WindowId under);
   void HoverButton(int button);
   void ShowButtonPopup();

@@ -75,6 +75,13 @@ void frmToolbar::Form_MouseDown(forms::MouseButton button, forms::ShiftState /*s
   GrabY = y - picToolbar.Height();
 }
 
+// The second press of a quick pair takes hold of the strip like any other press.
+void frmToolbar::Form_DblClick() {
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  Form_MouseDown(forms::MouseButton::Left, {}, static_cast<float>(pointer.x) * TwipsX - Left(),
+                 static_cast<float>(pointer.y) * TwipsY - Top());
+}
+
 void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/, float x,
                                 float y) {
   if (program_.AutoHide && !picToolbar.Visible() && Visible()) RevealFromLine();
@@ -162,7 +169,8 @@ void frmToolbar::Form_MouseUp(forms::MouseButton button, forms::ShiftState /*shi
   if (IsBesidePull(button)) return;
   LetFrameGo();
   if (button == forms::MouseButton::Right && !FrameMoved) {
-    ShowFramePopup("Toolbar");
+    // The popup would act on what is being carried.
+    if (!program_.Entry.ItemDragging) ShowFramePopup("Toolbar");
     return;
   }
   if (FrameMoved && !EndPull()) {

@@ -56,7 +56,7 @@ void frmToolbar::ShowMenuOf(int button) {
   QMenuPort& menu = *program_.Ports.QMenu;
   Timer2.SetEnabled(false);
   LastOpenFlag = false;
-  program_.SetHint("");
+  TakeHintDown();
   // Events ran if a hint was up.
   if (!IsLoaded() || button > ButtonCount) return;
   // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.

@@ -43,6 +43,8 @@ void frmToolbar::WireDrags() {
   picToolbar.OLEDragLeave = [this] { program_.DragOverButton = false; };
   picSingleButton.OLEDragOver = to(&frmToolbar::picSingleButton_OLEDragOver);
   picSingleButton.OLEDragDrop = to(&frmToolbar::picSingleButton_OLEDragDrop);
+  // No timer watches the row, and the next address may come from another window.
+  picSingleButton.OLEDragLeave = [this] { program_.DragIsUrl = false; };
   picToolbar.SetTakesDrops(true);
   picSingleButton.SetTakesDrops(true);
   tmrDragDrop.Tick = [this] { tmrDragDrop_Timer(); };

@@ -159,6 +159,12 @@ void frmToolbar::AnnounceHint() {
   Timer2.SetEnabled(true);
 }
 
+void frmToolbar::TakeHintDown() {
+  TipDueAt = 0;
+  TipHideAt = 0;
+  program_.SetHint("");
+}
+
 void frmToolbar::KeepHintTimes(WindowId under) {
   const std::int64_t now = program_.Windows.Now();
   if (TipHideAt != 0 && now > TipHideAt) {

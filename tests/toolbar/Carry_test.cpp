@@ -323,6 +323,21 @@ TEST(Carry, ADropOnAButtonMovesToTheEndOfItsMenuAndShowsIt) {
   }
 }
 
+TEST(Carry, ADropOnAButtonOfADockedStripLeavesThePointerWhereItIs) {
+  CarryDesk desk;
+  desk.Start();
+  desk.Carry(2);
+  desk.ToButton(3);
+  const PixelPoint at{desk.Middle(3).x - 9, desk.Middle(3).y};
+  desk.PointAt(at);
+  desk.TheProgram.AppBarDocked = true;
+  desk.Release();
+  EXPECT_EQ(desk.ItemsOf(2), (Titles{"X", "Y", "B"}));
+  EXPECT_EQ(desk.MenuUp(), 3);
+  EXPECT_EQ(desk.World.Desktop.PointerPosition(), at);
+  desk.TheProgram.AppBarDocked = false;
+}
+
 TEST(Carry, ADropOnItsOwnButtonMovesToTheEnd) {
   CarryDesk desk;
   desk.Start();

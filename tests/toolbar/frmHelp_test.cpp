@@ -162,6 +162,53 @@ TEST_F(Hint, AButtonWhoseMenuAPressClosedTellsItsTitleForAWhile) {
   EXPECT_FALSE(desk.Strip.Timer2.Enabled());
 }
 
+TEST_F(Hint, AMenuThatIsOpenedAgainMeanwhileIsNotCovered) {
+  desk.Click(2);
+  desk.Wait();
+  desk.Click(2);
+  desk.Wait(200);
+  desk.Click(2);
+  ASSERT_EQ(desk.MenuUp(), 2);
+  desk.Wait(600);
+  EXPECT_FALSE(Up());
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST_F(Hint, WithOption22NoneIsDueAfterASecondPressEither) {
+  desk.SetOption(22, true);
+  desk.Click(2);
+  desk.Wait();
+  desk.Click(2);
+  EXPECT_EQ(desk.Strip.TipDueAt, 0);
+  EXPECT_FALSE(desk.Strip.Timer2.Enabled());
+}
+
+TEST_F(Hint, NoneComesWhileTheProgramStartsOrTheStripIsPlacedAnew) {
+  for (bool Program::*const flag : {&Program::StartingUp, &Program::PosChangeRunning}) {
+    desk.TheProgram.*flag = true;
+    desk.PointAtButton(2);
+    EXPECT_FALSE(Up());
+    desk.TheProgram.*flag = false;
+    desk.PointAway();
+  }
+}
+
+TEST_F(Hint, GoesAtOnceWhenThePointerComesToTheGrip) {
+  desk.PointAtButton(2);
+  ASSERT_TRUE(Up());
+  const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+  const float middle = desk.Strip.lblSep[0].Left() + desk.Strip.lblSep[0].Width() / 2;
+  desk.PointAt({strip.left + static_cast<int>(middle / desk.Strip.TwipsX), strip.bottom - 10});
+  EXPECT_FALSE(Up());
+}
+
+TEST_F(Hint, APressOnTheFrameTakesItAway) {
+  hint.SetHint("a hint");
+  ASSERT_TRUE(Up());
+  desk.Strip.Form_MouseDown(forms::MouseButton::Left, {}, 5, 5);
+  EXPECT_FALSE(Up());
+}
+
 TEST_F(Hint, TheEndOfTheProgramReleasesIt) {
   desk.PointAtButton(2);
   desk.Exit();

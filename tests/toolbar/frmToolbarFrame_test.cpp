@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <functional>
 #include <string>
 
 #include "toolbar/StripDesk.h"
@@ -66,6 +67,31 @@ TEST(ToolbarSlide, TheBareBoxOfSingleButtonsIsAHandleToo) {
   desk.PointAt({box.left + 43, box.top + 8});
   desk.World.Desktop.Release();
   EXPECT_EQ(desk.Strip.Left(), 3000 + 40 * 15);
+}
+
+TEST(ToolbarSlide, TheSecondPressOfAQuickPairTakesHoldToo) {
+  for (const bool byGrip : {true, false}) {
+    SCOPED_TRACE(byGrip);
+    Floating desk;
+    const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+    const PixelPoint from = byGrip ? desk.Grip() : PixelPoint{strip.left + 3, strip.bottom - 2};
+    desk.PointAt(from);
+    desk.World.Desktop.DoubleClick();
+    EXPECT_FALSE(desk.Strip.FrameHeld);
+    EXPECT_EQ(desk.Strip.Left(), 3000);
+    // Held this time.
+    const std::function<void()>& second =
+        byGrip ? desk.Strip.lblSep[0].DblClick : desk.Strip.DblClick;
+    ASSERT_TRUE(second);
+    second();
+    const float x = static_cast<float>(from.x - strip.left + 50) * 15;
+    const float y = static_cast<float>(from.y - strip.top) * 15;
+    desk.Strip.Form_MouseMove(MouseButton::Left, {}, x, y);
+    EXPECT_EQ(desk.Strip.Left(), 3000 + 50 * 15);
+    desk.Strip.Form_MouseUp(MouseButton::Left, {}, x, y);
+    EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000 + 50 * 15));
+    EXPECT_FALSE(desk.LooksDragged());
+  }
 }
 
 TEST(ToolbarSlide, ThreePixelsAreNoMove) {
@@ -196,13 +222,71 @@ TEST(ToolbarFrame, RightClicksNameTheStripAndTheGripNamesTheMainButton) {
   Floating desk;
   NotedPopup popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
+  EntryEdit& entry = desk.TheProgram.Entry;
+  entry.CurTitle = entry.CurIcon = entry.CurCommand = entry.CurFile = "of another entry";
+  entry.CurRecord = 3;
   desk.PointAt(desk.Grip());
   desk.World.Desktop.Click(MouseButton::Right);
+  EXPECT_EQ(entry.CurTitle + entry.CurIcon + entry.CurCommand + entry.CurFile, "");
+  EXPECT_EQ(entry.CurRecord, 0);
   const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
   desk.PointAt({strip.left, strip.bottom - 2});
   desk.World.Desktop.Click(MouseButton::Right);
   const std::vector<std::string> expected = {"B1", "Toolbar"};
   EXPECT_EQ(popup.Tags, expected);
+}
+
+TEST(ToolbarFrame, ARightPressOnTheGripThatIsLetGoBesideItMeansTheStrip) {
+  Floating desk;
+  NotedPopup popup(desk.TheProgram);
+  desk.TheProgram.Ports.Popup = &popup;
+  desk.PointAt(desk.Grip());
+  desk.World.Desktop.Press(MouseButton::Right);
+  desk.PointAt({desk.Grip().x + 60, desk.Grip().y});
+  desk.World.Desktop.Release(MouseButton::Right);
+  EXPECT_EQ(popup.Tags, std::vector<std::string>{"Toolbar"});
+  EXPECT_EQ(desk.Strip.Left(), 3000);
+}
+
+TEST(ToolbarFrame, ARightClickDuringACarryBringsNoPopupAndKeepsWhatIsCarried) {
+  Floating desk;
+  NotedPopup popup(desk.TheProgram);
+  desk.TheProgram.Ports.Popup = &popup;
+  desk.TheProgram.Entry.CurTitle = "Carried";
+  desk.TheProgram.Entry.ItemDragging = true;
+  const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+  for (const PixelPoint at : {desk.Grip(), PixelPoint{strip.left, strip.bottom - 2}}) {
+    desk.PointAt(at);
+    desk.World.Desktop.Click(MouseButton::Right);
+    EXPECT_TRUE(popup.Tags.empty());
+    EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "Carried");
+  }
+  desk.TheProgram.Entry.ItemDragging = false;
+}
+
+TEST(ToolbarFrame, AMoveOverItWithTheMenuUpLeavesMenuAndStripAlone) {
+  Floating desk;
+  desk.Click(2);
+  ASSERT_EQ(desk.MenuUp(), 2);
+  desk.Strip.FrameHeld = true;
+  desk.Strip.Form_MouseMove(MouseButton::Left, {}, desk.Strip.DownX + 900, desk.Strip.DownY);
+  EXPECT_TRUE(desk.Strip.FrameDragging);
+  EXPECT_FALSE(desk.Strip.FrameMoved);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  EXPECT_EQ(desk.Strip.Left(), 3000);
+}
+
+TEST(ToolbarFrame, TheBareFrameMovesNothingWhileTheStripIsPlacedAnew) {
+  for (bool Program::*const flag : {&Program::RestoreBusy, &Program::AppBarBusy}) {
+    Floating desk;
+    desk.Strip.Form_MouseDown(MouseButton::Left, {}, 30, 30);
+    desk.TheProgram.*flag = true;
+    desk.Strip.Form_MouseMove(MouseButton::Left, {}, 930, 30);
+    EXPECT_EQ(desk.Strip.Left(), 3000);
+    desk.TheProgram.*flag = false;
+    desk.Strip.Form_MouseMove(MouseButton::Left, {}, 930, 30);
+    EXPECT_EQ(desk.Strip.Left(), 3900);
+  }
 }
 
 TEST(ToolbarFrame, AfterThePopupOfTheGripNobodyHoldsTheStrip) {

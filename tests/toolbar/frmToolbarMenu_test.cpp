@@ -559,12 +559,56 @@ TEST(ToolbarPopup, TheMainButtonHasNoRecord) {
   ThreeMenus desk;
   PopupEntries popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
+  EntryEdit& entry = desk.TheProgram.Entry;
+  entry.CurTitle = entry.CurIcon = entry.CurCommand = entry.CurFile = "of another entry";
+  entry.CurRecord = 3;
   desk.PointAtButton(1);
   desk.World.Desktop.Click(MouseButton::Right);
   ASSERT_EQ(popup.Shown.size(), 1U);
-  EXPECT_EQ(popup.Shown[0].CurMenuTag, "B1");
-  EXPECT_EQ(popup.Shown[0].CurRecord, 0);
-  EXPECT_TRUE(popup.Shown[0].CurFile.empty());
+  const EntryEdit& shown = popup.Shown[0];
+  EXPECT_EQ(shown.CurMenuTag, "B1");
+  EXPECT_EQ(shown.CurRecord, 0);
+  EXPECT_EQ(shown.CurTitle + shown.CurIcon + shown.CurCommand + shown.CurFile, "");
+}
+
+TEST(ToolbarPopup, ARightPressOnAButtonThatIsLetGoElsewhereMeansWhatIsThere) {
+  struct Row {
+    const char* name;
+    PixelPoint (*at)(const StripDesk&);
+    std::vector<std::string> tags;
+  };
+  const Row rows[] = {
+      {"the frame",
+       [](const StripDesk& desk) {
+         const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
+         return PixelPoint{strip.left, strip.bottom - 2};
+       },
+       {"Toolbar"}},
+      {"the row",
+       [](const StripDesk& desk) {
+         const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+         return PixelPoint{row.left + 2, row.bottom - 4};
+       },
+       {"SingleButtons"}},
+      {"another program",
+       [](const StripDesk&) {
+         return PixelPoint{20, 700};
+       },
+       {}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    ThreeMenus desk;
+    PopupEntries popup(desk.TheProgram);
+    desk.TheProgram.Ports.Popup = &popup;
+    desk.PointAtButton(2);
+    desk.World.Desktop.Press(MouseButton::Right);
+    desk.PointAt(row.at(desk));
+    desk.World.Desktop.Release(MouseButton::Right);
+    std::vector<std::string> tags;
+    for (const EntryEdit& shown : popup.Shown) tags.push_back(shown.CurMenuTag);
+    EXPECT_EQ(tags, row.tags);
+  }
 }
 
 TEST(ToolbarPopup, OfAButtonWhoseFileIsGoneHasEmptyTexts) {

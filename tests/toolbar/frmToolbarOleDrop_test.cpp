@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "toolbar/DragDesk.h"
+#include "toolbar/frmImage.h"
 
 namespace corvelle {
 namespace {
@@ -70,6 +71,50 @@ TEST(ToolbarOLEDragDrop, AThousandFilesAndLongNamesCome) {
   EXPECT_EQ(records[2].FName, "C:\\f19001.txt");
   EXPECT_EQ(records[1001].FTitle, "f20000");
   EXPECT_EQ(records[1002].FName.size(), 260U);
+}
+
+TEST(ToolbarOLEDragDrop, MeansTheButtonThatIsUnderThePointerByThen) {
+  DragDesk desk;
+  desk.PointAtButton(3);
+  desk.TheProgram.CurButton = 2;
+  forms::DragData data{.Files = Names{"C:\\c.txt"}};
+  DropEffect effect = DropEffect::Copy;
+  desk.Strip.picToolbar_OLEDragDrop(data, effect, MouseButton::None, {}, 0, 0);
+  EXPECT_TRUE(desk.FileUnchanged(1));
+  EXPECT_EQ(desk.RecordsOf(2).size(), 3U);
+}
+
+TEST(ToolbarOLEDragDrop, BetweenTheButtonsNothingIsTaken) {
+  DragDesk desk;
+  desk.PutButton(2, "Separator", "MenuLineSeparator");
+  desk.Strip.InitNewButtons();
+  ASSERT_EQ(desk.Strip.SepCount, 1);
+  const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd());
+  const forms::Label& gap = desk.Strip.lblSep[1];
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.PointAt({box.left + static_cast<int>((gap.Left() + gap.Width() / 2) / desk.Strip.TwipsX),
+                box.top + 10});
+  EXPECT_EQ(desk.TheProgram.CurButton, 0);
+  EXPECT_EQ(desk.Effect(), DropEffect::None);
+  desk.Drop();
+  EXPECT_TRUE(desk.FileUnchanged(1));
+  EXPECT_TRUE(desk.FileUnchanged(3));
+  desk.Wait(600);
+  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+}
+
+TEST(ToolbarOLEDragDrop, AStillPictureOfTheMenuGoes) {
+  DragDesk desk;
+  frmImage picture(desk.TheProgram, desk.Strip);
+  desk.TheProgram.Ports.Capture = &picture;
+  desk.TakeText("http://example.com");
+  desk.DragToButton(2);
+  picture.CaptureMenu();
+  ASSERT_TRUE(picture.MenuCaptured());
+  desk.Drop();
+  EXPECT_FALSE(picture.MenuCaptured());
+  EXPECT_FALSE(picture.IsLoaded());
+  desk.TheProgram.Ports.Capture = nullptr;
 }
 
 TEST(ToolbarOLEDragDrop, AMenuFileThatVanishedIsNotMadeOfTheDrop) {
@@ -186,6 +231,17 @@ TEST(ToolbarOLE, WhileAFileOrMenuIsBeingWorkedOnADropIsRefused) {
   }
 }
 
+TEST(ToolbarOLE, WhileTheMenuIsReadAnewADropIsRefused) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.Strip.MenuRefreshing = true;
+  desk.DragToButton(2);
+  EXPECT_EQ(desk.Effect(), DropEffect::None);
+  desk.Drop();
+  desk.Strip.MenuRefreshing = false;
+  EXPECT_TRUE(desk.FileUnchanged(1));
+}
+
 TEST(ToolbarOLE, TimersAndClicksInsideTheDropChangeNothing) {
   BusyIcons icons;
   DragDesk desk({}, &icons);
@@ -264,7 +320,42 @@ TEST(SingleButtonsOLE, AnAddressIsOfferedForTheRow) {
   EXPECT_EQ(desk.Effect(), DropEffect::Copy);
   desk.Drop();
   EXPECT_EQ(links.Offered, Names{"http://example.com||SingleButtons|"});
+  EXPECT_FALSE(desk.TheProgram.DragIsUrl);
   desk.TheProgram.Ports.WebLink = nullptr;
+}
+
+TEST(SingleButtonsOLE, ClosesTheHintWhenItComesAndWhenItIsDropped) {
+  DragDesk desk;
+  NotedHint hint;
+  desk.TheProgram.Ports.Hint = &hint;
+  forms::DragData data{.Text = "a text"};
+  DropEffect effect = DropEffect::Copy;
+  desk.Strip.picSingleButton_OLEDragOver(data, effect, MouseButton::Left, {}, 5, 5);
+  EXPECT_EQ(hint.Closed, 1);
+  desk.Strip.picSingleButton_OLEDragDrop(data, effect, MouseButton::None, {}, 5, 5);
+  EXPECT_EQ(hint.Closed, 2);
+  desk.TheProgram.Ports.Hint = nullptr;
+}
+
+TEST(SingleButtonsOLE, AnAddressThatLeavesIsForgottenAndTheNextComesFromItsOwnWindow) {
+  DragDesk desk;
+  NotedBrowser browser;
+  desk.TheProgram.Ports.Browser = &browser;
+  desk.Strip.picSingleButton.SetWidth(900);
+  const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+  desk.TakeText("http://example.com");
+  desk.PointAt({row.left + 5, row.top + 5});
+  EXPECT_TRUE(desk.TheProgram.DragIsUrl);
+  desk.PointAt(kDragSource);
+  EXPECT_FALSE(desk.TheProgram.DragIsUrl);
+  desk.Drop();
+  const WindowId other =
+      desk.World.Desktop.AddOtherWindow({.Title = "Mail", .Bounds = {600, 500, 900, 700}});
+  desk.World.Desktop.TakeForeground(other);
+  desk.World.Desktop.StartDrag({.Data = {.Text = "http://example.org"}, .Window = other});
+  desk.DragToButton(2);
+  EXPECT_EQ(browser.Sources, (std::vector<WindowId>{desk.Source, other}));
+  desk.TheProgram.Ports.Browser = nullptr;
 }
 
 TEST(SingleButtonsOLE, WithoutTheRowFilesAreRefused) {

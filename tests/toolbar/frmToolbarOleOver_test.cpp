@@ -123,6 +123,19 @@ TEST(ToolbarOLEDragOver, ClosesTheHintOnceAndEndsACarriedItem) {
   desk.TheProgram.Ports.Hint = nullptr;
 }
 
+TEST(ToolbarOLEDragOver, ClosesTheHintAlsoWhereThePointerWasOnTheStripBefore) {
+  DragDesk desk;
+  NotedHint hint;
+  desk.TheProgram.Ports.Hint = &hint;
+  desk.Strip.WasHovering = true;
+  forms::DragData data{.Files = Names{"C:\\a.txt"}};
+  DropEffect effect = DropEffect::Copy;
+  // Beside the buttons, where no menu opens that would close the hint as well.
+  desk.Strip.picToolbar_OLEDragOver(data, effect, MouseButton::Left, {}, 5, 5);
+  EXPECT_EQ(hint.Closed, 1);
+  desk.TheProgram.Ports.Hint = nullptr;
+}
+
 // ---- leaving ----
 
 TEST(ToolbarDragTimer, ADragThatLeavesClosesTheMenuWithinATick) {

@@ -91,6 +91,17 @@ TEST(ToolbarPull, BackOverItsOwnEdgeTheOutlineIsGone) {
   EXPECT_FALSE(desk.Picture.IsLoaded());
 }
 
+TEST(ToolbarPull, OverAnotherEdgeTheStripItselfIsAtRest) {
+  DockDesk desk;
+  desk.StartAt(Edge::Left);
+  desk.Pull(QuarterOf(Edge::Left));
+  EXPECT_EQ(desk.Strip.bLine3.BorderColor(), 255U);
+  desk.PointAt(QuarterOf(Edge::Bottom));
+  EXPECT_NE(desk.Strip.bLine3.BorderColor(), 255U);
+  EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
+  desk.World.Desktop.Release();
+}
+
 TEST(ToolbarPull, AcrossTheCornersTheLastEdgeHoldsUntilAnotherWins) {
   DockDesk desk;
   desk.StartAt(Edge::Left);

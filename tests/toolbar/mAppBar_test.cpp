@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "toolbar/DockDesk.h"
 
@@ -448,6 +449,27 @@ TEST(AppBarGuard, AScreenThatShrinksWhileSomethingIsCarriedIsFollowedAfterwards)
     desk.Poll();
     EXPECT_FALSE(desk.Strip.Timer1.Enabled());
   }
+}
+
+TEST(AppBarGuard, ARestoreThatArrivesWhileTheStripIsPlacedLeavesItAtItsEdge) {
+  DockDesk desk;
+  desk.StartAt(Edge::Right);
+  // The placing lets events through.
+  bool came = false;
+  desk.World.Desktop.StartTimer(1, [&] {
+    if (std::exchange(came, true)) return;
+    EXPECT_TRUE(desk.TheProgram.AppBarBusy);
+    desk.Strip.RestoreToolbar();
+  });
+  desk.World.Desktop.Jump(5);
+  desk.Docking.SetAppBar("LEFT", true);
+  EXPECT_TRUE(came);
+  EXPECT_TRUE(desk.TheProgram.AppBarDocked);
+  EXPECT_TRUE(desk.TheProgram.ToolbarVertical);
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
+  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+  EXPECT_EQ(desk.Bounds().left, 0);
+  EXPECT_EQ(desk.Bounds().Height(), 768);
 }
 
 TEST(AppBarGuard, AStripThatGoesWhileItIsPlacedLeavesNothingBehind) {
