@@ -257,7 +257,10 @@ void frmQMenu::CloseMenu() {
 }
 
 void frmQMenu::HideMenu() {
-  if (IsLoaded()) Hide();
+  if (!IsLoaded()) return;
+  // A refresh hides the menu first, and comes back to the page that was up.
+  if (Visible()) SavedPage = CurMenu;
+  Hide();
 }
 
 void frmQMenu::ResetQMenu() {

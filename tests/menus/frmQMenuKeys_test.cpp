@@ -253,6 +253,20 @@ TEST_F(PagedMenu, AShorterMenuGoesBackToItsLastPage) {
   EXPECT_EQ(desk_.Menu.CurMenu, 1);
 }
 
+TEST_F(PagedMenu, AfterARefreshThePageIsTheOneThatWasUpAndNoneOfLongAgo) {
+  Key(forms::key::End);
+  Key(forms::key::Escape);
+  // Something that changed the menu meanwhile: it begins at its first page again.
+  desk_.Menu.ForgetMenu("F2");
+  desk_.Reopen(1);
+  ASSERT_EQ(desk_.Menu.CurMenu, 0);
+  desk_.Menu.HideMenu();
+  desk_.Menu.ForgetMenu("F2");
+  desk_.Reopen(1);
+  desk_.Menu.GetCurMenu();
+  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+}
+
 TEST_F(PagedMenu, ThePageOfOneMenuIsNoneOfAnother) {
   Key(forms::key::End);
   desk_.Open(2, Items(100));
