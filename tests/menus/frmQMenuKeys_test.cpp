@@ -357,6 +357,17 @@ TEST(frmQMenuTypeAhead, FindsTheNextItemWithThatLetterAndWrapsAround) {
   EXPECT_EQ(desk.World.Desktop.Beeps(), 0);
 }
 
+TEST(frmQMenuTypeAhead, AnArrowGoesOnFromTheItemBehindTheOneFound) {
+  MenuDesk desk;
+  desk.Open(1, {Item("Beta"), Item("Alpha"), Item("Gamma"), Item("Delta")});
+  desk.World.Desktop.Type("b");
+  desk.World.Desktop.PressKey(forms::key::Down);
+  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  desk.World.Desktop.Type("b");
+  desk.World.Desktop.PressKey(forms::key::Up);
+  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+}
+
 TEST(frmQMenuTypeAhead, ALetterThatNoItemStartsWithBeeps) {
   MenuDesk desk;
   desk.Open(1, {Item("Alpha"), Item("Beta")});
