@@ -284,6 +284,7 @@ void frmQMenu::ResetQMenu() {
   program_.SelectedItem = 0;
   CurItem = 0;
   PrevItem = 0;
+  rebuilt_ = false;
   HideArrows();
   HideUpDownButton();
   ActiveArrow = kNoArrow;

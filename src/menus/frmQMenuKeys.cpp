@@ -25,6 +25,7 @@ void frmQMenu::KeyActs() {
   // The selection stays though the pointer is elsewhere.
   KeyboardActive = true;
   PointerAway = false;
+  rebuilt_ = false;
 }
 
 void frmQMenu::Form_KeyDown(int keyCode, ShiftState /*shift*/) {
