@@ -38,6 +38,7 @@ void frmQMenu::TakeFocus() {
 void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*/, float y) {
   PrevItem = program_.SelectedItem;
   if (program_.MenuBuilding) return;
+  program_.KeyboardOnToolbar = false;
   const bool dragging = program_.Entry.ItemDragging || program_.DragOverButton;
   if (down == MouseButton::None && !dragging &&
       program_.Services.Desktop.ActiveWindow() != hWnd()) {
@@ -90,6 +91,7 @@ void frmQMenu::mMouseMove(float x, float y) {
 // ---- releases ----
 
 void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float y) {
+  program_.KeyboardOnToolbar = false;
   if (EndCarry(program_, OnScreen(x, y), button, shift)) return;
   if (program_.MenuBuilding) return;
   if (button == MouseButton::Left && !PointerAway) ChooseItem(x, y);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "menus/MenuDesk.h"
 
 namespace corvelle {
@@ -96,6 +98,27 @@ TEST(frmQMenuKeys, AKeyOfTheStripStartsFromTheTop) {
   EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
   desk.Menu.xKeyPress('i');
   EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+}
+
+TEST(frmQMenuKeys, EachActInTheMenuTakesTheKeyboardFromTheStrip) {
+  MenuDesk desk;
+  desk.Open(1, Items(3));
+  struct Row {
+    const char* name;
+    std::function<void()> act;
+  };
+  const Row rows[] = {
+      {"a move", [&] { desk.PointAtItem(2); }},
+      {"a press", [&] { desk.World.Desktop.Press(MouseButton::Right); }},
+      {"a release", [&] { desk.World.Desktop.Release(MouseButton::Right); }},
+      {"a key", [&] { desk.World.Desktop.KeyDown(forms::key::Down); }},
+      {"a character", [&] { desk.Menu.Form_KeyPress('i'); }},
+  };
+  for (const Row& row : rows) {
+    desk.TheProgram.KeyboardOnToolbar = true;
+    row.act();
+    EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar) << row.name;
+  }
 }
 
 TEST(frmQMenuKeys, AnEmptyMenuTakesEveryKeyQuietly) {
