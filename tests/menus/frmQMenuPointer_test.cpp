@@ -434,6 +434,37 @@ TEST(frmQMenuPoll, LeavingItAfterTheArrowKeysKeepsTheSelection) {
   EXPECT_EQ(desk.BarredItem(), 2);
 }
 
+TEST(frmQMenuPoll, AMoveAfterTheKeysCountsAgain) {
+  MenuDesk desk;
+  desk.Open(1, Items(3));
+  desk.PointAtItem(1);
+  desk.World.Desktop.PressKey(forms::key::Down);
+  desk.PointAtItem(3);
+  desk.PointAway();
+  desk.Poll();
+  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+}
+
+TEST(frmQMenuPoll, AnArrowBeginsAtTheTopOnceThePointerHasLeftTheItems) {
+  MenuDesk desk;
+  desk.Open(1, Items(4));
+  const auto next = [&] {
+    desk.World.Desktop.PressKey(forms::key::Down);
+    return desk.TheProgram.SelectedItem;
+  };
+  desk.PointAtItem(2);
+  desk.PointAway();
+  desk.Poll();
+  EXPECT_EQ(next(), 1) << "away";
+  desk.PointAtItem(2);
+  desk.PointAt(desk.OnScreen(600, desk.Menu.Lbl[4].Bottom() + 60));
+  EXPECT_EQ(next(), 1) << "below the last one";
+  desk.PointAtItem(2);
+  desk.PointAt({20, 10});
+  desk.Menu.xMouseMove(desk.Menu.Lbl[3].Top());
+  EXPECT_EQ(next(), 1) << "over the strip";
+}
+
 TEST(frmQMenuPoll, AnotherProgramInFrontClosesTheMenuUnlessThePointerIsOverIt) {
   MenuDesk desk;
   desk.Open(1, Items(3));
