@@ -257,7 +257,10 @@ void frmQMenu::CloseMenu() {
 }
 
 void frmQMenu::HideMenu() {
-  if (IsLoaded()) Hide();
+  if (!IsLoaded()) return;
+  // A refresh hides the menu first, and comes back to the page that was up.
+  if (Visible()) SavedPage = CurMenu;
+  Hide();
 }
 
 void frmQMenu::ResetQMenu() {
@@ -281,6 +284,7 @@ void frmQMenu::ResetQMenu() {
   program_.SelectedItem = 0;
   CurItem = 0;
   PrevItem = 0;
+  rebuilt_ = false;
   HideArrows();
   HideUpDownButton();
   ActiveArrow = kNoArrow;

@@ -269,6 +269,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   [[nodiscard]] bool PointerOver() const;
   /// True while label events are to be ignored.
   [[nodiscard]] bool StillAway();
+  /// Selects what a pointer that stands still over a rebuilt menu is on.
+  void FollowPointer();
   void TakeFocus();
   void ChooseItem(float x, float y);
   void RunItem(bool mainMenu, int index, const std::string& command, const std::string& title);
@@ -311,6 +313,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   std::shared_ptr<BuiltMenu> menu_ = std::make_shared<BuiltMenu>();
   /// The items of the page on show, from top to bottom.
   std::vector<ItemBox> pageBoxes_;
+  /// The menu was rebuilt, and neither the pointer nor a key has done anything in it since.
+  bool rebuilt_ = false;
   std::map<std::string, Picture, std::less<>> glyphs_;
 };
 

@@ -13,7 +13,9 @@ using forms::MouseButton;
 using forms::ShiftState;
 
 // With Ctrl held a press picks the item up instead of choosing it at the release.
-void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float /*x*/, float y) {
+void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, float y) {
+  program_.KeyboardOnToolbar = false;
+  if (rebuilt_) Form_MouseMove(MouseButton::None, shift, x, y);
   if (button != MouseButton::Left || !shift.Ctrl) return;
   if (program_.MenuBuilding || program_.Entry.ItemDragging || program_.ItemDropping) return;
   if (EqualNoCase(MenuKey, kMainMenuKey)) return;

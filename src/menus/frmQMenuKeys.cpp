@@ -25,6 +25,7 @@ void frmQMenu::KeyActs() {
   // The selection stays though the pointer is elsewhere.
   KeyboardActive = true;
   PointerAway = false;
+  rebuilt_ = false;
 }
 
 void frmQMenu::Form_KeyDown(int keyCode, ShiftState /*shift*/) {
@@ -76,6 +77,7 @@ void frmQMenu::MovePage(int keyCode) {
 
 void frmQMenu::Form_KeyPress(char32_t character) {
   if (program_.Entry.ItemDragging || program_.MenuBuilding) return;
+  program_.KeyboardOnToolbar = false;
   if (character == forms::key::Enter) {
     const int index = program_.SelectedItem;
     if (index == 0) return;

@@ -20,6 +20,7 @@ void frmQMenu::LblButton_DblClick(int index) {
 
 void frmQMenu::LblButton_MouseMove(int index, MouseButton down) {
   if (down != MouseButton::None || program_.MenuBuilding) return;
+  rebuilt_ = false;
   program_.KeyboardOnToolbar = false;
   if (program_.Services.Desktop.ActiveWindow() != hWnd()) SetFocus();
   if (ActiveArrow == index) return;
@@ -57,6 +58,7 @@ void frmQMenu::GetCurMenu() {
   if (const std::optional<int> page = ReturnPage(SavedPage, Slides)) TurnTo(*page);
   for (int i = std::max(FirstLabel, 1); i <= LastLabel; ++i) SetNormal(i);
   DropSelection();
+  rebuilt_ = true;
 }
 
 // ---- the frame of an arrow button ----

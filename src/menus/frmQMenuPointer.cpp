@@ -1,9 +1,12 @@
 // The pointer: selection, choice, right click, and what the strip hands on.
 
+#include <utility>
+
 #include "base/Text.h"
 #include "core/Carry.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
+#include "forms/Scale.h"
 #include "launch/LaunchItem.h"
 #include "menus/frmQMenu.h"
 #include "platform/DesktopWindows.h"
@@ -35,6 +38,7 @@ void frmQMenu::TakeFocus() {
 void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*/, float y) {
   PrevItem = program_.SelectedItem;
   if (program_.MenuBuilding) return;
+  program_.KeyboardOnToolbar = false;
   const bool dragging = program_.Entry.ItemDragging || program_.DragOverButton;
   if (down == MouseButton::None && !dragging &&
       program_.Services.Desktop.ActiveWindow() != hWnd()) {
@@ -53,6 +57,7 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*
   }
   PointerAway = false;
   KeyboardActive = false;
+  rebuilt_ = false;
   if (IsBelowItems(Page(), y)) {
     DropSelection();
     CurItem = 0;
@@ -68,6 +73,14 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*
   program_.PointerBelowItems = false;
 }
 
+// Not every system tells a window of a move when it comes up under a pointer that stands still.
+void frmQMenu::FollowPointer() {
+  if (!std::exchange(rebuilt_, false)) return;
+  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  const PixelPoint corner = forms::ToPixels(Left(), Top(), program_.Windows.Screen());
+  OnMouseMove(MouseButton::None, {}, {pointer.x - corner.x, pointer.y - corner.y});
+}
+
 void frmQMenu::xMouseMove(float y) { Form_MouseMove(MouseButton::Left, {}, 0, y); }
 
 void frmQMenu::mMouseMove(float x, float y) {
@@ -78,6 +91,7 @@ void frmQMenu::mMouseMove(float x, float y) {
 // ---- releases ----
 
 void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float y) {
+  program_.KeyboardOnToolbar = false;
   if (EndCarry(program_, OnScreen(x, y), button, shift)) return;
   if (program_.MenuBuilding) return;
   if (button == MouseButton::Left && !PointerAway) ChooseItem(x, y);
@@ -187,6 +201,7 @@ void frmQMenu::Timer1_Timer() {
     DropSelection();
     CurItem = 0;
   }
+  if (over) FollowPointer();
   if (Slides > 0 && !over) {
     HideUpDownButton();
     ActiveArrow = kNoArrow;

@@ -248,11 +248,13 @@ TEST(MenuSeparators, AtTheVeryTopOneDrawsNoRuleButMarksTheFirstItem) {
   }
 }
 
-TEST(MenuSeparators, AtTheEndOfASinglePageTheRuleIsSeen) {
+TEST(MenuSeparators, AtTheEndOfASinglePageTheRuleLiesUnderTheFrameAndIsNotSeen) {
   const auto records = File("iis");
   const MenuLayout menu = LayOutMenu({.Records = records});
   EXPECT_EQ(menu.Pages[0].Rules, (std::vector<float>{720}));
   EXPECT_FLOAT_EQ(menu.Height, 780);
+  const float frame = 2 * 3 * 15;
+  EXPECT_LT(menu.Height - frame, 720);
 }
 
 TEST(MenuSeparators, AreKnownInAnyCase) {

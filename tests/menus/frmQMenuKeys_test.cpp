@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "menus/MenuDesk.h"
 
 namespace corvelle {
@@ -96,6 +98,27 @@ TEST(frmQMenuKeys, AKeyOfTheStripStartsFromTheTop) {
   EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
   desk.Menu.xKeyPress('i');
   EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+}
+
+TEST(frmQMenuKeys, EachActInTheMenuTakesTheKeyboardFromTheStrip) {
+  MenuDesk desk;
+  desk.Open(1, Items(3));
+  struct Row {
+    const char* name;
+    std::function<void()> act;
+  };
+  const Row rows[] = {
+      {"a move", [&] { desk.PointAtItem(2); }},
+      {"a press", [&] { desk.World.Desktop.Press(MouseButton::Right); }},
+      {"a release", [&] { desk.World.Desktop.Release(MouseButton::Right); }},
+      {"a key", [&] { desk.World.Desktop.KeyDown(forms::key::Down); }},
+      {"a character", [&] { desk.Menu.Form_KeyPress('i'); }},
+  };
+  for (const Row& row : rows) {
+    desk.TheProgram.KeyboardOnToolbar = true;
+    row.act();
+    EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar) << row.name;
+  }
 }
 
 TEST(frmQMenuKeys, AnEmptyMenuTakesEveryKeyQuietly) {
@@ -253,6 +276,20 @@ TEST_F(PagedMenu, AShorterMenuGoesBackToItsLastPage) {
   EXPECT_EQ(desk_.Menu.CurMenu, 1);
 }
 
+TEST_F(PagedMenu, AfterARefreshThePageIsTheOneThatWasUpAndNoneOfLongAgo) {
+  Key(forms::key::End);
+  Key(forms::key::Escape);
+  // Something that changed the menu meanwhile: it begins at its first page again.
+  desk_.Menu.ForgetMenu("F2");
+  desk_.Reopen(1);
+  ASSERT_EQ(desk_.Menu.CurMenu, 0);
+  desk_.Menu.HideMenu();
+  desk_.Menu.ForgetMenu("F2");
+  desk_.Reopen(1);
+  desk_.Menu.GetCurMenu();
+  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+}
+
 TEST_F(PagedMenu, ThePageOfOneMenuIsNoneOfAnother) {
   Key(forms::key::End);
   desk_.Open(2, Items(100));
@@ -341,6 +378,17 @@ TEST(frmQMenuTypeAhead, FindsTheNextItemWithThatLetterAndWrapsAround) {
     EXPECT_EQ(desk.BarredItem(), expected);
   }
   EXPECT_EQ(desk.World.Desktop.Beeps(), 0);
+}
+
+TEST(frmQMenuTypeAhead, AnArrowGoesOnFromTheItemBehindTheOneFound) {
+  MenuDesk desk;
+  desk.Open(1, {Item("Beta"), Item("Alpha"), Item("Gamma"), Item("Delta")});
+  desk.World.Desktop.Type("b");
+  desk.World.Desktop.PressKey(forms::key::Down);
+  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  desk.World.Desktop.Type("b");
+  desk.World.Desktop.PressKey(forms::key::Up);
+  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
 }
 
 TEST(frmQMenuTypeAhead, ALetterThatNoItemStartsWithBeeps) {

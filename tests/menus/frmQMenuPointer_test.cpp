@@ -331,6 +331,85 @@ TEST(frmQMenuRightClick, WithoutAnItemOrOnADisabledOneDoesNothing) {
   EXPECT_EQ(popup.Shown, 0);
 }
 
+/// A menu that was read anew, as after an edit, while the pointer stands on its second item.
+class Rebuilt : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    desk_.TheProgram.Ports.Popup = &popup_;
+    desk_.Open(1, Items(3));
+    desk_.PointAtItem(2);
+    Rebuild();
+  }
+  void Rebuild() {
+    desk_.Menu.HideMenu();
+    desk_.Menu.ForgetMenu("F2");
+    desk_.Reopen(1);
+    desk_.Menu.GetCurMenu();
+    ASSERT_EQ(desk_.TheProgram.SelectedItem, 0);
+  }
+
+  MenuDesk desk_;
+  NotingPopup popup_{desk_.TheProgram};
+};
+
+TEST_F(Rebuilt, TheItemUnderTheStillPointerIsSelectedAtTheNextTick) {
+  desk_.Poll();
+  EXPECT_EQ(desk_.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk_.BarredItem(), 2);
+  EXPECT_EQ(desk_.Menu.CurItem, 2);
+}
+
+TEST_F(Rebuilt, ARightClickDoesNotWaitForThat) {
+  desk_.World.Desktop.Click(MouseButton::Right);
+  EXPECT_EQ(popup_.Shown, 1);
+  EXPECT_EQ(popup_.SelectedThen, 2);
+}
+
+TEST_F(Rebuilt, NorDoesAChoice) {
+  desk_.World.Desktop.Click();
+  EXPECT_EQ(desk_.Started().size(), 1U);
+}
+
+TEST_F(Rebuilt, AKeyComesBeforeThePointer) {
+  desk_.World.Desktop.PressKey(forms::key::Up);
+  EXPECT_EQ(desk_.TheProgram.SelectedItem, 3);
+  desk_.Poll();
+  EXPECT_EQ(desk_.TheProgram.SelectedItem, 3);
+}
+
+TEST_F(Rebuilt, OnlyOnceIsItSelected) {
+  desk_.Poll();
+  desk_.World.Desktop.PressKey(forms::key::Down);
+  desk_.Poll();
+  EXPECT_EQ(desk_.TheProgram.SelectedItem, 3);
+}
+
+TEST_F(Rebuilt, APointerElsewhereSelectsNothing) {
+  desk_.PointAway();
+  Rebuild();
+  desk_.Poll();
+  EXPECT_EQ(desk_.TheProgram.SelectedItem, 0);
+}
+
+TEST_F(Rebuilt, AnotherProgramInFrontStaysThere) {
+  const WindowId other = desk_.World.Desktop.AddOtherWindow({.Bounds = {600, 500, 1000, 760}});
+  desk_.World.Desktop.TakeForeground(other);
+  desk_.Poll();
+  EXPECT_EQ(desk_.World.Desktop.ForegroundWindow(), other);
+  EXPECT_EQ(desk_.TheProgram.SelectedItem, 0);
+}
+
+TEST_F(Rebuilt, AnArrowUnderTheStillPointerIsFramed) {
+  desk_.Menu.ForgetMenu("F2");
+  desk_.Open(1, Items(100));
+  desk_.PointAt(desk_.ArrowPoint(1));
+  Rebuild();
+  desk_.Menu.ActiveArrow = frmQMenu::kNoArrow;
+  desk_.Poll();
+  EXPECT_EQ(desk_.Menu.ActiveArrow, 1);
+  EXPECT_TRUE(desk_.Menu.LineLeft.Visible());
+}
+
 TEST(frmQMenuPoll, LeavingTheMenuWithThePointerClearsTheSelection) {
   MenuDesk desk;
   desk.Open(1, Items(3));
@@ -353,6 +432,37 @@ TEST(frmQMenuPoll, LeavingItAfterTheArrowKeysKeepsTheSelection) {
   desk.Poll();
   EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
   EXPECT_EQ(desk.BarredItem(), 2);
+}
+
+TEST(frmQMenuPoll, AMoveAfterTheKeysCountsAgain) {
+  MenuDesk desk;
+  desk.Open(1, Items(3));
+  desk.PointAtItem(1);
+  desk.World.Desktop.PressKey(forms::key::Down);
+  desk.PointAtItem(3);
+  desk.PointAway();
+  desk.Poll();
+  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+}
+
+TEST(frmQMenuPoll, AnArrowBeginsAtTheTopOnceThePointerHasLeftTheItems) {
+  MenuDesk desk;
+  desk.Open(1, Items(4));
+  const auto next = [&] {
+    desk.World.Desktop.PressKey(forms::key::Down);
+    return desk.TheProgram.SelectedItem;
+  };
+  desk.PointAtItem(2);
+  desk.PointAway();
+  desk.Poll();
+  EXPECT_EQ(next(), 1) << "away";
+  desk.PointAtItem(2);
+  desk.PointAt(desk.OnScreen(600, desk.Menu.Lbl[4].Bottom() + 60));
+  EXPECT_EQ(next(), 1) << "below the last one";
+  desk.PointAtItem(2);
+  desk.PointAt({20, 10});
+  desk.Menu.xMouseMove(desk.Menu.Lbl[3].Top());
+  EXPECT_EQ(next(), 1) << "over the strip";
 }
 
 TEST(frmQMenuPoll, AnotherProgramInFrontClosesTheMenuUnlessThePointerIsOverIt) {

@@ -82,6 +82,18 @@ TEST_F(RightClickAtEachScale, DeleteItemTakesAnItemAwayAndUndoDeleteBringsItBack
   desk_->Picture("after-the-undo");
 }
 
+TEST_F(RightClick, ItemsAreDeletedOneAfterTheOtherUnderAStillPointer) {
+  ASSERT_TRUE(OpenMenu(*desk_, 2));
+  Choose(1, 3, "Delete Item");
+  ASSERT_TRUE(WaitForTitles(1, "Letters|beta|gamma|"));
+  ASSERT_TRUE(WaitForMenuAt(*desk_, 2));
+  desk_->Picture("the-next-one-selected");
+  desk_->ChooseFromPopup("Delete Item");
+  desk_->Press(Button::Right);
+  desk_->Release(Button::Right);
+  EXPECT_TRUE(WaitForTitles(1, "Letters|gamma|"));
+}
+
 TEST_F(RightClick, CopyItemAndPasteItemCarryItIntoAnotherMenuAndCutItemWithinOne) {
   ASSERT_TRUE(OpenMenu(*desk_, 2));
   Choose(1, 3, "Copy Item");
