@@ -55,15 +55,6 @@ FileResult<std::string> ReadWhole(FileSystem& files, std::string_view path) {
   return files.Read(path, 0, static_cast<std::size_t>(*length));
 }
 
-/// Gives the old file its name back. Should a broken new file keep hold of the name, the old
-/// content goes into it.
-void PutBack(FileSystem& files, const std::string& temporary, std::string_view path,
-             const std::string* oldBytes) {
-  static_cast<void>(files.Remove(path));
-  if (files.Rename(temporary, path) || oldBytes == nullptr) return;
-  if (files.Replace(path, *oldBytes)) static_cast<void>(files.Remove(temporary));
-}
-
 }  // namespace
 
 FileResult<std::vector<MenuRecord>> ReadAllRecords(FileSystem& files, const CodePage& ansi,
@@ -172,17 +163,12 @@ FileStatus RewriteMenuFileBy(FileSystem& files, const std::string& temporary, st
     const FileStatus removed = files.Remove(temporary);
     if (!removed) return removed;
   }
-  const FileStatus renamed = files.Rename(path, temporary);
-  if (!renamed) return renamed;
-
-  const FileResult<std::string> old = ReadWhole(files, temporary);
-  if (!old) {
-    PutBack(files, temporary, path, nullptr);
-    return old.Error();
-  }
-  FileStatus done = files.Write(path, edit(WholeRecords(*old)));
-  if (done) done = files.Remove(temporary);
-  if (!done) PutBack(files, temporary, path, &*old);
+  const FileResult<std::string> old = ReadWhole(files, path);
+  if (!old) return old.Error();
+  FileStatus done = files.Write(temporary, *old);
+  if (done) done = files.Replace(path, edit(WholeRecords(*old)));
+  // Should it stay, it is no part of the menu, and goes before the next edit or at the next start.
+  static_cast<void>(files.Remove(temporary));
   return done;
 }
 

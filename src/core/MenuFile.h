@@ -12,7 +12,7 @@ namespace corvelle {
 
 class CodePage;
 
-/// Name of the menu file while it is rewritten, in the folder of the menu files.
+/// Name of the old content while a menu file is rewritten, in the folder of the menu files.
 inline constexpr std::string_view kRewriteFileName = "TTTTTTTT";
 
 /// All records of a file, read at once. A missing file is created empty, as opening it for records
@@ -59,9 +59,9 @@ using RecordsEdit = std::function<std::string(std::string records)>;
 /// one. Nothing changes when there is no such record or place, or when it stands there already.
 [[nodiscard]] std::string MoveRecord(std::string records, int from, int before);
 
-/// Rewrites a menu file: it takes the name kRewriteFileName in `menusPath` (with its trailing
-/// backslash), its edited content goes to a new file at `path`, and the old one is deleted. When a
-/// step fails the old file gets its name back and the error is returned.
+/// Rewrites a menu file: its old content stays in kRewriteFileName in `menusPath` (with its
+/// trailing backslash) until the edited one has taken its place in one step. When a step fails, or
+/// the program ends between two, the file is what it was.
 FileStatus RewriteMenuFile(FileSystem& files, std::string_view menusPath, std::string_view path,
                            const RecordsEdit& edit);
 

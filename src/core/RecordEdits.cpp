@@ -36,14 +36,23 @@ FileResult<int> PlaceInFile(FileSystem& files, const DropPlace& place) {
   return before >= 2 && before <= count ? before : kNoPlace;
 }
 
-/// Writes record `number` of the current file back with another command.
-EditOutcome ChangeCommand(FileSystem& files, const CodePage& ansi, const EntryEdit& edit,
-                          int number, std::string (*change)(std::string_view)) {
+bool IsFolder(std::string_view command) noexcept {
+  return IsFolderItem(command) || IsSpecialFolder(command);
+}
+
+/// Writes record `number` of the current file back with another command, if it is a folder item
+/// that is `closed` or not. Another program may have put another entry there since the menu was
+/// built.
+EditOutcome ChangeFolder(FileSystem& files, const CodePage& ansi, const EntryEdit& edit, int number,
+                         bool closed, std::string (*change)(std::string_view)) {
   const FileResult<int> count = CountRecords(files, edit.CurFile);
   if (!count) return EditOutcome::Refused(count.Error());
   if (number < 1 || number > *count) return EditOutcome::NothingToDo;
   FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, number);
   if (!record) return EditOutcome::Refused(record.Error());
+  if (!IsFolder(record->FName) || IsClosedFolder(record->FName) != closed) {
+    return EditOutcome::RecordMismatch;
+  }
   record->FName = change(record->FName);
   return OutcomeOf(WriteRecord(files, ansi, edit.CurFile, number, *record));
 }
@@ -150,11 +159,11 @@ void ForgetCurrentEntry(EntryEdit& edit) {
 }
 
 EditOutcome CloseFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
-  return ChangeCommand(files, ansi, edit, RealRecord(edit.CurRecord), CloseFolderText);
+  return ChangeFolder(files, ansi, edit, RealRecord(edit.CurRecord), false, CloseFolderText);
 }
 
 EditOutcome OpenFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
-  return ChangeCommand(files, ansi, edit, edit.CurRecord, OpenFolderText);
+  return ChangeFolder(files, ansi, edit, edit.CurRecord, true, OpenFolderText);
 }
 
 void CopyEntry(EntryEdit& edit) {

@@ -128,7 +128,7 @@ EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
 void ForgetCurrentEntry(EntryEdit& edit);
 
 /// Keeps a folder item from being expanded: edits the command of the item that a generated entry
-/// came from.
+/// came from. RecordMismatch, here and below, where there is no such folder item any more.
 EditOutcome CloseFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit);
 /// Lets the folder item at CurRecord be expanded again.
 EditOutcome OpenFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit);

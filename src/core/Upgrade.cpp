@@ -36,11 +36,9 @@ void DeleteDataFiles(FileSystem& files, const std::string& folder) {
 FileResult<OptionFlags> ReadFlagsAtStart(FileSystem& files, std::string_view appPath) {
   const std::string folder(appPath);
   const std::string current = folder + std::string(kOptionFlagsFileName);
-  if (files.FileExists(current)) {
-    const FileResult<std::string> bytes = files.Read(current, 0, OptionFlags::kLength);
-    if (!bytes) return bytes.Error();
-    return OptionFlags::Clean(*bytes);
-  }
+  const FileResult<std::string> saved = files.Read(current, 0, OptionFlags::kLength);
+  if (saved) return OptionFlags::Clean(*saved);
+  if (saved.Error() != FileError::NotFound) return saved.Error();
   const std::vector<std::string> older = OlderFlagFiles(files, folder);
   if (older.empty()) return OptionFlags();
   const FileResult<std::string> bytes = files.Read(folder + older.front(), 0, OptionFlags::kLength);
@@ -48,8 +46,10 @@ FileResult<OptionFlags> ReadFlagsAtStart(FileSystem& files, std::string_view app
   OptionFlags flags = OptionFlags::Clean(*bytes);
   flags.Set(1, false);
   flags.Set(2, false);
-  // Should the old file stay, this version's file outweighs it from its first save on.
-  static_cast<void>(files.Remove(folder + older.front()));
+  // Only once they are kept; should the old file stay then, this version's file outweighs it.
+  if (SaveOptionFlags(files, appPath, flags)) {
+    static_cast<void>(files.Remove(folder + older.front()));
+  }
   return flags;
 }
 

@@ -20,10 +20,13 @@ void GeneratedMenu::BeginItem(int record) {
   nextSource_ = std::max(nextSource_, record + 1);
 }
 
+bool GeneratedMenu::Takes(const std::string& command) const {
+  return !IsFull() && EncodeText(command, ansi_).size() <= kNameWidth;
+}
+
 bool GeneratedMenu::AddEntry(int record, const std::string& title, const std::string& icon,
                              const std::string& command) {
-  if (IsFull()) return false;
-  if (EncodeText(command, ansi_).size() > kNameWidth) return false;
+  if (!Takes(command)) return false;
   Add({JoinTitle(title, kGeneratedBase + record, ansi_), icon, command});
   return true;
 }

@@ -26,9 +26,11 @@ class GeneratedMenu {
   /// Copies what stands before folder item `record` and takes the item itself away.
   void BeginItem(int record);
 
+  /// False for an entry of this command when record numbers end, or when the command does not fit
+  /// into its field and would mean another file.
+  [[nodiscard]] bool Takes(const std::string& command) const;
   /// Adds an entry of the folder item at `record`, and a rule between two folders of one. False
-  /// when the file cannot take it: record numbers end there, or a text does not fit into its field
-  /// and would mean another file.
+  /// when the file does not take it.
   bool AddEntry(int record, const std::string& title, const std::string& icon,
                 const std::string& command);
   void AddRule();

@@ -38,8 +38,8 @@ struct FileEntry {
 /// The disk. Paths are Windows paths in UTF-8, with or without a trailing backslash for folders;
 /// case does not count. No operation leaves a file open. A missing folder on the way to a file
 /// gives NotFound, a folder in the place of a file AccessDenied, a name that no file can have (a
-/// NUL in it, "<", ">", "|"...) BadName. Replace and Rename wait a fifth of a second for another
-/// program that holds the file.
+/// NUL in it, "<", ">", "|"...) BadName. Read, the writers and Rename wait a fifth of a second for
+/// another program that holds the file; then it is InUse.
 class FileSystem {
  public:
   virtual ~FileSystem() = default;

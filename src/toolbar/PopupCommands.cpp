@@ -142,7 +142,8 @@ void Popup::InsertSeparator() { Insert(NewSeparatorRecord()); }
 // ---- folder items ----
 
 void Popup::AfterFolderEdit(EditOutcome outcome) {
-  if (outcome == EditOutcome::Edited) {
+  // A file that no longer holds the item is not what the menu shows.
+  if (outcome != EditOutcome::Failed) {
     program_.Ports.Toolbar->RefreshMenu(program_.Entry.CurMenuTag);
   }
   Settle(outcome);

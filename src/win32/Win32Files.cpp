@@ -33,9 +33,45 @@ bool IsFolder(DWORD attributes) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+/// Calls until it is done. Indexers and virus scanners hold a file for a moment just when it has
+/// changed; one that is held for longer, or that may not be changed at all, stays refused, with the
+/// thread's last error set. `alsoDenied`: the call tells of a held file as of one without the right
+/// to it.
+template <class Call>
+bool DonePatiently(Call call, bool alsoDenied) {
+  constexpr int kTries = 10;
+  constexpr DWORD kBetween = 20;  // milliseconds
+  for (int i = 1; !call(); ++i) {
+    const DWORD error = GetLastError();
+    const bool held = error == ERROR_SHARING_VIOLATION;
+    if (i == kTries || (!held && !(alsoDenied && error == ERROR_ACCESS_DENIED))) return false;
+    Sleep(kBetween);
+  }
+  return true;
+}
+
+/// An empty handle, with the thread's last error set, when it cannot be opened.
+UniqueFile OpenPatiently(const std::wstring& path, DWORD access, DWORD shares, DWORD disposition) {
+  UniqueFile file;
+  static_cast<void>(DonePatiently(
+      [&] {
+        file.Reset(CreateFileW(path.c_str(), access, shares, nullptr, disposition,
+                               FILE_ATTRIBUTE_NORMAL, nullptr));
+        return static_cast<bool>(file);
+      },
+      false));
+  return file;
+}
+
 UniqueFile OpenForWriting(const std::wstring& path, DWORD disposition) {
-  return UniqueFile(CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, disposition,
-                                FILE_ATTRIBUTE_NORMAL, nullptr));
+  return OpenPatiently(path, GENERIC_WRITE, FILE_SHARE_READ, disposition);
+}
+
+/// True if a file is there and somebody has it open.
+bool IsHeld(const std::wstring& path) {
+  const UniqueFile file(
+      CreateFileW(path.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  return !file && GetLastError() == ERROR_SHARING_VIOLATION;
 }
 
 bool Seek(HANDLE file, std::uint64_t offset) {
@@ -73,23 +109,6 @@ FileResult<DWORD> WritableAttributes(const std::wstring& path) {
   return attributes;
 }
 
-/// Calls until it is done. Indexers and virus scanners hold a file for a moment just when it has
-/// changed; one that is held for longer, or that may not be changed at all, stays refused, with the
-/// thread's last error set.
-template <class Call>
-bool DonePatiently(Call call) {
-  constexpr int kTries = 10;
-  constexpr DWORD kBetween = 20;  // milliseconds
-  for (int i = 1; !call(); ++i) {
-    const DWORD error = GetLastError();
-    if (i == kTries || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED)) {
-      return false;
-    }
-    Sleep(kBetween);
-  }
-  return true;
-}
-
 /// A file of new content on its way to its name. Unless it gets there, it is removed again.
 class TemporaryFile {
  public:
@@ -114,11 +133,17 @@ class TemporaryFile {
 
   [[nodiscard]] bool MoveTo(const std::wstring& target, DWORD attributes) {
     SetFileAttributesW(name_.c_str(), attributes);
-    const bool moved = DonePatiently([&] {
-      return MoveFileExW(name_.c_str(), target.c_str(),
-                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
-    });
-    if (moved) made_ = false;
+    const bool moved = DonePatiently(
+        [&] {
+          return MoveFileExW(name_.c_str(), target.c_str(),
+                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+        },
+        true);
+    if (moved) {
+      made_ = false;
+    } else if (const DWORD error = GetLastError(); error == ERROR_ACCESS_DENIED) {
+      SetLastError(IsHeld(target) ? ERROR_SHARING_VIOLATION : error);
+    }
     return moved;
   }
 
@@ -191,8 +216,7 @@ FileResult<std::string> Win32Files::Read(std::string_view path, std::uint64_t of
                                          std::size_t count) {
   const auto wide = PathOf(path);
   if (!wide) return FileError::BadName;
-  const UniqueFile file(CreateFileW(wide->c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+  const UniqueFile file = OpenPatiently(*wide, GENERIC_READ, kShareAll, OPEN_EXISTING);
   if (!file) return LastFileError();
   LARGE_INTEGER length{};
   if (GetFileSizeEx(file.Get(), &length) == 0) return LastFileError();
@@ -262,7 +286,7 @@ FileStatus Win32Files::Rename(std::string_view from, std::string_view to) {
   const auto wideTo = PathOf(to);
   if (!wideFrom || !wideTo) return FileError::BadName;
   return StatusOf(
-      DonePatiently([&] { return MoveFileExW(wideFrom->c_str(), wideTo->c_str(), 0) != 0; }));
+      DonePatiently([&] { return MoveFileExW(wideFrom->c_str(), wideTo->c_str(), 0) != 0; }, true));
 }
 
 FileStatus Win32Files::Copy(std::string_view from, std::string_view to) {

@@ -104,9 +104,14 @@ TEST(InsertDropped, GoesThroughItsTemporaryNameBesideTheFile) {
   disk.Put(kFile, kFour);
   disk.Put(kMenus + "tFile.tmp", "left over");
   EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 2, {{"A", "", ""}}), EditOutcome::Edited);
+  const std::vector<SimFiles::Call> log = disk.Log();
+  ASSERT_GT(log.size(), 3U);
+  const std::vector<SimFiles::Call> expected = {{"Write", kMenus + "tFile.tmp", ""},
+                                                {"Replace", kFile, ""},
+                                                {"Remove", kMenus + "tFile.tmp", ""}};
+  EXPECT_EQ(std::vector<SimFiles::Call>(log.end() - 3, log.end()), expected);
   EXPECT_EQ(TitlesIn(disk), (Names{"Button", "A", "One", "Two", "Three"}));
   EXPECT_FALSE(disk.Has(kMenus + "tFile.tmp"));
-  EXPECT_EQ(disk.Count("Rename"), 1);
 }
 
 TEST(Dropped, NothingIsAddedWhereThereIsNoMenu) {

@@ -6,6 +6,7 @@
 
 #include "core/CoreDoubles.h"
 #include "core/Program.h"
+#include "core/Upgrade.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -168,6 +169,22 @@ TEST_F(MainTest, FlagsOfAnOlderVersionStayButAskForTheFirstRunAgain) {
   EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
 }
 
+TEST_F(MainTest, FlagsOfAnOlderVersionAreNeverNowhere) {
+  const std::string older = "C:\\Corvelle\\tmenu421.dat";
+  for (int n = 1;; ++n) {
+    sim::SimFiles disk;
+    disk.Put(older, "11100000100000000000000000000001");
+    disk.FailFrom(n, FileError::DiskFull);
+    static_cast<void>(ReadFlagsAtStart(disk, "C:\\Corvelle\\"));
+    const bool ended = disk.Hit();
+    disk.StopFailing();
+    const auto flags = ReadFlagsAtStart(disk, "C:\\Corvelle\\");
+    ASSERT_TRUE(flags);
+    EXPECT_EQ(flags->Text(), "00100000100000000000000000000001") << "ended at call " << n;
+    if (!ended) break;
+  }
+}
+
 TEST_F(MainTest, FlagsOfAnOlderVersionWithoutTheUpgradeMarkAreReset) {
   world.Files.Put("C:\\Corvelle\\tmenu421.dat", "11111111111111111111111111111110");
   world.Desktop.Answer(forms::msgbox::AnswerNo);
@@ -213,6 +230,15 @@ TEST_F(MainTest, AFlagFileThatIsHeldForTheMomentCleansNothingAway) {
   PutFlags(kInstalled);
   world.Files.Put("C:\\Corvelle\\toolbarp.dat", "1234");
   world.Files.HoldOpen("C:\\Corvelle\\tmenu425.dat");
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\toolbarp.dat"));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(MainTest, AFlagFileThatCannotBeReachedIsNoNewInstallation) {
+  // A folder stands where the file should be.
+  world.Files.MakeFolders("C:\\Corvelle\\tmenu425.dat");
+  world.Files.Put("C:\\Corvelle\\toolbarp.dat", "1234");
   EXPECT_TRUE(Main(program));
   EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\toolbarp.dat"));
   EXPECT_TRUE(world.Desktop.Boxes().empty());

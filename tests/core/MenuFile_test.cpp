@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/CoreTexts.h"
+#include "core/MenuFolder.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle {
@@ -250,8 +251,9 @@ TEST(RewriteMenuFile, TakesItsStepsInOrder) {
   EXPECT_EQ(disk.Get(kFile), Distinct('a') + Distinct('c'));
   EXPECT_EQ(disk.Names(kMenus), std::vector<std::string>{"BMENU001.MNU"});
   const std::vector<SimFiles::Call> expected = {
-      {"FileExists", kTemporary, ""}, {"Remove", kTemporary, ""}, {"Rename", kFile, kTemporary},
-      {"Length", kTemporary, ""},     {"Read", kTemporary, ""},   {"Write", kFile, ""},
+      {"FileExists", kTemporary, ""}, {"Remove", kTemporary, ""},
+      {"Length", kFile, ""},          {"Read", kFile, ""},
+      {"Write", kTemporary, ""},      {"Replace", kFile, ""},
       {"Remove", kTemporary, ""},
   };
   EXPECT_EQ(disk.Log(), expected);
@@ -331,20 +333,53 @@ TEST(RewriteMenuFile, AMissingFileIsAFailureAndIsNotMade) {
   EXPECT_TRUE(disk.Names(kMenus).empty());
 }
 
-TEST(RewriteMenuFile, AProgramThatEndsInTheMiddleLeavesTheOldContentSomewhere) {
+TEST(RewriteMenuFile, AProgramThatEndsBetweenTwoStepsLeavesTheMenuToTheNextStart) {
   const std::string old = Distinct('a') + Distinct('b') + Distinct('c');
-  for (int n = 1;; ++n) {
-    SimFiles disk;
-    disk.Put(kFile, old);
-    disk.FailFrom(n, FileError::DiskFull);
-    const FileStatus status = RewriteMenuFile(disk, kMenus, kFile, DropSecond());
-    if (!disk.Hit()) {
-      EXPECT_TRUE(status);
-      break;
+  const std::string edited = Distinct('a') + Distinct('c');
+  for (const bool stale : {false, true}) {
+    for (int n = 1;; ++n) {
+      SimFiles disk;
+      disk.Put(kFile, old);
+      if (stale) disk.Put(kTemporary, "stale");
+      disk.FailFrom(n, FileError::DiskFull);
+      const FileStatus status = RewriteMenuFile(disk, kMenus, kFile, DropSecond());
+      if (!disk.Hit()) {
+        EXPECT_TRUE(status);
+        break;
+      }
+      disk.StopFailing();
+      EXPECT_TRUE(PurgeMenus(disk, kMenus));
+      EXPECT_EQ(disk.Names(kMenus), std::vector<std::string>{"BMENU001.MNU"}) << "ended at " << n;
+      EXPECT_TRUE(disk.Get(kFile) == old || disk.Get(kFile) == edited) << "ended at call " << n;
     }
-    const bool whole = disk.Get(kFile) == old || disk.Get(kTemporary) == old;
-    EXPECT_TRUE(whole) << "ended at call " << n;
   }
+}
+
+TEST(RewriteMenuFile, TheOldContentIsAsideUntilTheNewOneIsThere) {
+  SimFiles disk;
+  const std::string old = Distinct('a') + Distinct('b');
+  disk.Put(kFile, old);
+  disk.HoldOpen(kFile, SimFiles::Hold::ForReading);
+  std::string aside;
+  const FileStatus status = RewriteMenuFile(disk, kMenus, kFile, [&](std::string records) {
+    aside = disk.Get(kTemporary).value_or("");
+    return WithoutRecord(std::move(records), 2);
+  });
+  EXPECT_FALSE(status);
+  EXPECT_EQ(aside, old);
+  EXPECT_EQ(disk.Get(kFile), old);
+  EXPECT_FALSE(disk.Has(kTemporary));
+}
+
+TEST(RewriteMenuFile, KeepsTheFilesMarks) {
+  SimFiles disk;
+  disk.Put(kFile, Distinct('a') + Distinct('b'));
+  disk.SetHidden(kFile, true);
+  ASSERT_TRUE(RewriteMenuFile(disk, kMenus, kFile, DropSecond()));
+  const auto entries = disk.List(kMenus, "*.MNU");
+  ASSERT_TRUE(entries);
+  ASSERT_EQ(entries->size(), 1U);
+  EXPECT_TRUE(entries->front().Hidden);
 }
 
 TEST(RewriteMenuFile, AStaleTemporaryFileThatCannotBeRemovedStopsTheEdit) {

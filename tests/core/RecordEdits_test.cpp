@@ -21,8 +21,8 @@ struct Bench {
   SimFiles disk;
   EntryEdit edit;
 
-  explicit Bench(int record = 3) {
-    disk.Put(kFile, kFour);
+  explicit Bench(int record = 3, const std::string& bytes = kFour) {
+    disk.Put(kFile, bytes);
     disk.Put(kOther, "untouched");
     edit.CurMenuTag = "F2";
     edit.CurFile = kFile;
@@ -333,34 +333,56 @@ TEST(FolderItem, PastTheEndIsNotMade) {
   EXPECT_EQ(bench.Bytes(), kFour);
 }
 
+std::string WithFolder(const std::string& command) {
+  return Record("Button") + Record("One") + FormatRecord({"Docs", "icon", command}, kAnsi) +
+         Record("Three");
+}
+
+TEST(FolderItem, AnotherEntryThatTookItsPlaceIsLeftAlone) {
+  for (const char* command : {"c:\\two.exe", "C:\\Docs\\*.*/X", ""}) {
+    Bench bench(3, WithFolder(command));
+    bench.edit.CurRecord = 5003;
+    EXPECT_EQ(CloseFolderItem(bench.disk, kAnsi, bench.edit), EditOutcome::RecordMismatch);
+    EXPECT_EQ(bench.Bytes(), WithFolder(command)) << command;
+  }
+  for (const char* command : {"c:\\two.exe /X", "C:\\Docs\\*.*/u", ""}) {
+    Bench bench(3, WithFolder(command));
+    EXPECT_EQ(OpenFolderItem(bench.disk, kAnsi, bench.edit), EditOutcome::RecordMismatch);
+    EXPECT_EQ(bench.Bytes(), WithFolder(command)) << command;
+  }
+}
+
 struct Writer {
   const char* name;
   EditOutcome (*run)(Bench&);
+  std::string bytes = kFour;
 };
 
 const Writer kWriters[] = {
     {"delete", [](Bench& bench) { return bench.Delete(); }},
     {"paste", [](Bench& bench) { return bench.Paste(); }},
     {"undo", [](Bench& bench) { return bench.Undo(); }},
-    {"close folder", [](Bench& bench) { return CloseFolderItem(bench.disk, kAnsi, bench.edit); }},
-    {"open folder", [](Bench& bench) { return OpenFolderItem(bench.disk, kAnsi, bench.edit); }},
+    {"close folder", [](Bench& bench) { return CloseFolderItem(bench.disk, kAnsi, bench.edit); },
+     WithFolder("C:\\Docs\\*.*/u")},
+    {"open folder", [](Bench& bench) { return OpenFolderItem(bench.disk, kAnsi, bench.edit); },
+     WithFolder("C:\\Docs\\*.*/u X")},
 };
 
 TEST(RecordEdits, AnyOneFailureLeavesTheOldFileOrTheNew) {
   for (const Writer& writer : kWriters) {
-    Bench reference;
+    Bench reference(3, writer.bytes);
     RememberForUndo(reference.edit);
     ASSERT_EQ(writer.run(reference), EditOutcome::Edited) << writer.name;
     const std::string edited = reference.Bytes();
     int failures = 0;
     for (int n = 1;; ++n) {
-      Bench bench;
+      Bench bench(3, writer.bytes);
       RememberForUndo(bench.edit);
       bench.disk.FailCall(n);
       const EditOutcome outcome = writer.run(bench);
       if (!bench.disk.Hit()) break;
       ++failures;
-      const std::string expected = outcome == EditOutcome::Edited ? edited : kFour;
+      const std::string expected = outcome == EditOutcome::Edited ? edited : writer.bytes;
       EXPECT_EQ(bench.Bytes(), expected) << writer.name << ", failing call " << n;
       EXPECT_EQ(bench.disk.Get(kOther), "untouched") << writer.name;
     }
@@ -373,7 +395,7 @@ TEST(RecordEdits, AFailureTellsWhatTheDiskAnswered) {
     for (const Writer& writer : kWriters) {
       int failures = 0;
       for (int n = 1;; ++n) {
-        Bench bench;
+        Bench bench(3, writer.bytes);
         RememberForUndo(bench.edit);
         bench.disk.FailCall(n, error);
         const EditOutcome outcome = writer.run(bench);
@@ -401,7 +423,7 @@ TEST(EditOutcome, IsWhatAnEditCameToWhateverTheReason) {
 
 TEST(RecordEdits, AFullDiskCostsNoEntry) {
   for (const Writer& writer : kWriters) {
-    Bench bench;
+    Bench bench(3, writer.bytes);
     RememberForUndo(bench.edit);
     bench.disk.FillDisk(0);
     const std::string before = bench.Bytes();
@@ -417,42 +439,42 @@ TEST(RecordEdits, AFullDiskCostsNoEntry) {
 
 TEST(RecordEdits, AReadOnlyMenuStaysAsItIs) {
   for (const Writer& writer : kWriters) {
-    Bench bench;
+    Bench bench(3, writer.bytes);
     RememberForUndo(bench.edit);
     bench.disk.SetReadOnly(kFile, true);
     const EditOutcome outcome = writer.run(bench);
     EXPECT_EQ(outcome, EditOutcome::Failed) << writer.name;
     EXPECT_EQ(outcome.Reason(), FileError::AccessDenied) << writer.name;
-    EXPECT_EQ(bench.Bytes(), kFour) << writer.name;
+    EXPECT_EQ(bench.Bytes(), writer.bytes) << writer.name;
   }
 }
 
 TEST(RecordEdits, AMenuThatAnotherProgramHoldsStaysAsItIs) {
   for (const Writer& writer : kWriters) {
-    Bench bench;
+    Bench bench(3, writer.bytes);
     RememberForUndo(bench.edit);
     bench.disk.HoldOpen(kFile, SimFiles::Hold::ForReading);
     const EditOutcome outcome = writer.run(bench);
     EXPECT_EQ(outcome, EditOutcome::Failed) << writer.name;
     EXPECT_EQ(outcome.Reason(), FileError::InUse) << writer.name;
     bench.disk.LetGo(kFile);
-    EXPECT_EQ(bench.Bytes(), kFour) << writer.name;
+    EXPECT_EQ(bench.Bytes(), writer.bytes) << writer.name;
   }
 }
 
 TEST(RecordEdits, AFolderWithoutTheRightToWriteKeepsItsMenus) {
   for (const Writer& writer : kWriters) {
-    Bench bench;
+    Bench bench(3, writer.bytes);
     RememberForUndo(bench.edit);
     bench.disk.Protect(kMenus);
     EXPECT_EQ(writer.run(bench), EditOutcome::Failed) << writer.name;
-    EXPECT_EQ(bench.Bytes(), kFour) << writer.name;
+    EXPECT_EQ(bench.Bytes(), writer.bytes) << writer.name;
   }
 }
 
 TEST(RecordEdits, AMissingFolderIsAFailure) {
   for (const Writer& writer : kWriters) {
-    Bench bench;
+    Bench bench(3, writer.bytes);
     RememberForUndo(bench.edit);
     bench.disk.Vanish("C:\\Corvelle");
     EXPECT_EQ(writer.run(bench), EditOutcome::Failed) << writer.name;

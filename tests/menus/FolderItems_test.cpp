@@ -235,6 +235,17 @@ TEST_F(SubFolderItems, WithoutFilesOfItsOwnAFolderBeginsWithNoRule) {
   EXPECT_EQ(Shown("C:\\Many\\*.*/s"), (Strings{"three.txt", "-", "one.txt", "two.txt"}));
 }
 
+TEST_F(SubFolderItems, AFolderOfWhichNoRecordHoldsAFileIsSetOffByNoRule) {
+  // Three bytes a character in the record.
+  std::string longName;
+  for (int k = 0; k < 50; ++k) longName += "\xE6\x97\xA5";
+  for (const char* folder : {"a2", "z"}) {
+    desk_.World.Files.Put("C:\\Many\\" + (folder + longName) + "\\" + longName, "x");
+  }
+  EXPECT_EQ(Shown("C:\\Many\\*.*/s"),
+            (Strings{"root.txt", "-", "three.txt", "-", "one.txt", "two.txt"}));
+}
+
 TEST_F(SubFolderItems, MergedIntoOneListThereIsNoRule) {
   for (const char* options : {"/s-", "/_S"}) {
     EXPECT_EQ(Shown("C:\\Many\\*.*" + std::string(options)),

@@ -405,8 +405,7 @@ FileStatus SimFiles::WriteAt(std::string_view path, std::uint64_t offset, std::s
 FileStatus SimFiles::Replace(std::string_view path, std::string_view bytes) {
   if (const auto error = Enter("Replace", path)) return *error;
   const FileResult<Place> place = FindWritable(path);
-  // The system tells of an open file that is to be replaced as of one without the right to it.
-  if (!place) return place.Error() == FileError::InUse ? FileError::AccessDenied : place.Error();
+  if (!place) return place.Error();
   // Old and new content stand beside each other for a moment.
   if (bytesLeft_ && bytes.size() > *bytesLeft_) return FileError::DiskFull;
   return Store(*place, bytes);

@@ -58,6 +58,15 @@ TEST(PopupOnAGeneratedEntry, CannotBeCutOrDeletedAndItsFolderCanBeClosed) {
   EXPECT_FALSE(desk.HasMenuFile("BMENU001.mfd"));
 }
 
+TEST(PopupOnAGeneratedEntry, WhatTookTheFoldersPlaceMeanwhileStaysAsItIs) {
+  PopupDesk desk;
+  desk.PutMenu(1, {Entry("Letters"), Entry("One"), Entry("Two"), Entry("Three")});
+  desk.ChooseFor(GeneratedEntry(), "Close Folder");
+  EXPECT_EQ(desk.RecordOf(1, 3), Entry("Two"));
+  EXPECT_EQ(desk.Titles(1), "Letters|One|Two|Three|");
+  EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
+}
+
 TEST(PopupOnAGeneratedEntry, APasteGoesBeforeItsFolderItemInTheMenusOwnFile) {
   PopupDesk desk;
   desk.PutMenu(1, {Entry("Letters"), Entry("One"), Entry("Docs", "", "C:\\Docs\\*.*")});

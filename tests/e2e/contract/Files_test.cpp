@@ -122,6 +122,26 @@ TEST_F(FilesTest, RenameWaitsForAProgramThatLooksAtTheFile) {
   EXPECT_TRUE(Files.FileExists(Root + "b.dat"));
 }
 
+TEST_F(FilesTest, ReadingAndWritingWaitForAProgramThatLooksAtTheFile) {
+  ASSERT_TRUE(Files.Write(Root + "a.dat", "old"));
+  {
+    const Looker looker(Root + "a.dat", 0);
+    ASSERT_TRUE(looker.Looks());
+    EXPECT_EQ(Files.Read(Root + "a.dat", 0, 10).ValueOr("(none)"), "old");
+  }
+  {
+    const Looker looker(Root + "a.dat", FILE_SHARE_READ);
+    ASSERT_TRUE(looker.Looks());
+    EXPECT_TRUE(Files.Write(Root + "a.dat", "new"));
+  }
+  {
+    const Looker looker(Root + "a.dat", FILE_SHARE_READ);
+    ASSERT_TRUE(looker.Looks());
+    EXPECT_TRUE(Files.WriteAt(Root + "a.dat", 0, "N"));
+  }
+  EXPECT_EQ(Files.Read(Root + "a.dat", 0, 10).ValueOr("(none)"), "New");
+}
+
 TEST_F(FilesTest, ShortNamesOfLongNamesFitNoPattern) {
   ASSERT_TRUE(Files.Write(Root + "a long name.menus", "x"));
   EXPECT_EQ(Files.List(Root, "*.MEN").ValueOr({}).size(), 0U);
