@@ -187,6 +187,15 @@ TEST_F(DefaultEntriesTest, AFolderWithEntriesIsLeftAlone) {
   }
 }
 
+TEST_F(DefaultEntriesTest, AFolderWithTheNameOfAMenuIsNoEntry) {
+  for (const char* name : {"old.mnu", "old.btn"}) {
+    world.Files.MakeFolders(program.MenusPath + name);
+    Fill();
+    EXPECT_TRUE(world.Files.Has(program.MenusPath + "BMENU005.MNU")) << name;
+    for (const std::string& made : Names()) world.Files.Vanish(program.MenusPath + made);
+  }
+}
+
 TEST_F(DefaultEntriesTest, AFirstMenuOfTheInstallationComesBeforeTheOthers) {
   world.Files.Put("C:\\Corvelle\\BMENU001.MNU", "shipped");
   Fill();
