@@ -47,6 +47,15 @@ TEST(StripDate, AnUprightOrFloatingStripNeverShowsIt) {
   EXPECT_EQ(floating.Strip.lblDate.Caption(), "");
 }
 
+TEST(StripDate, GoesWithItsLinesWhenTheStripLeavesTheEdge) {
+  DateDesk desk;
+  ASSERT_TRUE(desk.Shown());
+  desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.AppBarRequested = false;
+  desk.Strip.DoSingleButtons();
+  EXPECT_TRUE(desk.Hidden());
+}
+
 TEST(StripDate, WithLargeIconsItIsBold) {
   SinglesDesk desk;
   desk.SetOption(21, true);
