@@ -156,6 +156,33 @@ TEST_F(DefaultEntriesTest, TheStartMenuBecomesTheMenuOfPrograms) {
   EXPECT_EQ(zebra.FName, zebra.FIcon);
 }
 
+struct DotCounter final : StartupPort {
+  int Dots = 0;
+  void LoadWindow() override {}
+  void UnloadWindow() override {}
+  bool WindowLoaded() const override { return true; }
+  void AddDot() override { ++Dots; }
+  void HideWindow() override {}
+  void ShowProgress(std::string_view, std::string_view) override {}
+};
+
+TEST_F(DefaultEntriesTest, EachItemOfTheStartMenuTicksTheStartupWindow) {
+  DotCounter startup;
+  program.Ports.Startup = &startup;
+  program.StartingUp = true;
+  Fill();
+  const int without = startup.Dots;
+  for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+  world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
+  Link("C:\\Start\\Programs\\Writer.lnk", "C:\\w\\a.exe");
+  Link("C:\\Start\\Programs\\Games\\Zebra.lnk", "C:\\w\\a.exe");
+  Link("C:\\Start\\Programs\\Games\\Yak.lnk", "C:\\w\\a.exe");
+  startup.Dots = 0;
+  Fill();
+  EXPECT_EQ(startup.Dots, without + 3);
+  program.Ports.Startup = nullptr;
+}
+
 TEST_F(DefaultEntriesTest, ASeparatorNeedsFilesAboveItAndFoldersBelow) {
   world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
   Link("C:\\Start\\Programs\\Tools\\axe.lnk", "C:\\w\\a.exe");
