@@ -65,7 +65,8 @@ FileStatus DefaultEntries::Fill() {
 FileResult<int> DefaultEntries::Count(std::string_view pattern) {
   const auto found = program_.Services.Files.List(program_.MenusPath, pattern);
   if (!found) return found.Error();
-  return static_cast<int>(found->size());
+  return static_cast<int>(std::count_if(found->begin(), found->end(),
+                                        [](const FileEntry& entry) { return !entry.IsFolder; }));
 }
 
 // An installation may bring a first menu of its own.

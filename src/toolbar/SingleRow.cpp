@@ -92,7 +92,8 @@ void SingleRow::DoSingleButtons() {
   }
   SizeBox();
   DrawIcons();
-  strip_.picSingleButton.SetVisible(true);
+  // A strip that is a line shows nothing.
+  strip_.picSingleButton.SetVisible(strip_.picToolbar.Visible());
 }
 
 // Along the strip the box gets its size when the last entry is known.

@@ -1,5 +1,6 @@
 #include "toolbar/frmToolbar.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "base/Text.h"
@@ -30,7 +31,9 @@ bool MakeMissingFolder(FileSystem& files, const std::string& path) {
 // A folder that is there but cannot be listed now is no empty one.
 bool HoldsAny(FileSystem& files, const std::string& folder, std::string_view pattern) {
   const auto found = files.List(folder, pattern);
-  return found ? !found->empty() : found.Error() != FileError::NotFound;
+  if (!found) return found.Error() != FileError::NotFound;
+  return std::any_of(found->begin(), found->end(),
+                     [](const FileEntry& entry) { return !entry.IsFolder; });
 }
 
 }  // namespace

@@ -131,12 +131,14 @@ void frmToolbar::RefreshToolbar() {
   const int separators = SepCount;
   RefreshToolbarButtons();
   // Other buttons than those there were: they need other places.
-  const bool others = visible && (ButtonCount != buttons || SepCount != separators);
+  const bool others = ButtonCount != buttons || SepCount != separators;
   if (others) DoToolbarButtons();
   picToolbar.SetVisible(visible);
   picToolbar.Refresh();
   Singles.RefreshSingleButtons();
   picSingleButton.Refresh();
+  // A line is fitted when it comes back.
+  if (!visible) return;
   if (others) {
     ResizeAfterEdit(freeWidth);
     return;

@@ -189,6 +189,8 @@ void mAppBar::StretchSingles(Edge at) {
 }
 
 void mAppBar::ResizeToEdge() {
+  // A line is fitted when it comes back.
+  if (!strip_.picToolbar.Visible()) return;
   strip_.SetControls();
   StretchSingles(CurrentEdge());
   strip_.DrawBorders();

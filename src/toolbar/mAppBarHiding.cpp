@@ -72,11 +72,14 @@ void mAppBar::RevealToolbar() {
   if (strip_.picToolbar.Visible()) return;
   strip_.picToolbar.SetVisible(true);
   strip_.picSingleButton.SetVisible(true);
-  strip_.SetControls();
-  strip_.DrawBorders();
   if (program_.AppBarDocked) {
+    // What was read anew for the line has its places from here on.
+    ResizeToEdge();
     const TwipPoint corner = RevealedCorner(CurrentEdge(), strip_.WindowBounds(), Twips());
     strip_.Move(corner.X, corner.Y, strip_.Width(), strip_.Height());
+  } else {
+    strip_.SetControls();
+    strip_.DrawBorders();
   }
   strip_.ShowNoActivate();
   strip_.Refresh();

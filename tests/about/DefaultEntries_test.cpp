@@ -156,6 +156,33 @@ TEST_F(DefaultEntriesTest, TheStartMenuBecomesTheMenuOfPrograms) {
   EXPECT_EQ(zebra.FName, zebra.FIcon);
 }
 
+struct DotCounter final : StartupPort {
+  int Dots = 0;
+  void LoadWindow() override {}
+  void UnloadWindow() override {}
+  bool WindowLoaded() const override { return true; }
+  void AddDot() override { ++Dots; }
+  void HideWindow() override {}
+  void ShowProgress(std::string_view, std::string_view) override {}
+};
+
+TEST_F(DefaultEntriesTest, EachItemOfTheStartMenuTicksTheStartupWindow) {
+  DotCounter startup;
+  program.Ports.Startup = &startup;
+  program.StartingUp = true;
+  Fill();
+  const int without = startup.Dots;
+  for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+  world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
+  Link("C:\\Start\\Programs\\Writer.lnk", "C:\\w\\a.exe");
+  Link("C:\\Start\\Programs\\Games\\Zebra.lnk", "C:\\w\\a.exe");
+  Link("C:\\Start\\Programs\\Games\\Yak.lnk", "C:\\w\\a.exe");
+  startup.Dots = 0;
+  Fill();
+  EXPECT_EQ(startup.Dots, without + 3);
+  program.Ports.Startup = nullptr;
+}
+
 TEST_F(DefaultEntriesTest, ASeparatorNeedsFilesAboveItAndFoldersBelow) {
   world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
   Link("C:\\Start\\Programs\\Tools\\axe.lnk", "C:\\w\\a.exe");
@@ -184,6 +211,15 @@ TEST_F(DefaultEntriesTest, AFolderWithEntriesIsLeftAlone) {
     Fill();
     EXPECT_EQ(Names(), Texts{name});
     world.Files.Vanish(program.MenusPath + name);
+  }
+}
+
+TEST_F(DefaultEntriesTest, AFolderWithTheNameOfAMenuIsNoEntry) {
+  for (const char* name : {"old.mnu", "old.btn"}) {
+    world.Files.MakeFolders(program.MenusPath + name);
+    Fill();
+    EXPECT_TRUE(world.Files.Has(program.MenusPath + "BMENU005.MNU")) << name;
+    for (const std::string& made : Names()) world.Files.Vanish(program.MenusPath + made);
   }
 }
 

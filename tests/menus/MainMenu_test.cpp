@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
+
 #include "core/MenuFile.h"
 #include "menus/MenuDesk.h"
 
@@ -51,6 +54,7 @@ class NotedCompanion final : public MinimizePort {
     program_.OptionFlags.Set(23, true);
   }
   void DeActivateSysTray() override {
+    Asked.emplace_back("DeActivateSysTray");
     program_.NotOnTop = false;
     program_.OptionFlags.Set(23, false);
   }
@@ -63,9 +67,34 @@ class NotedCompanion final : public MinimizePort {
 class NotedWindow final : public LoadedWindow {
  public:
   int Loads = 0;
-  void LoadWindow() override { ++Loads; }
+  std::function<void()> WhileLoading;
+  void LoadWindow() override {
+    ++Loads;
+    if (WhileLoading) WhileLoading();
+  }
   void UnloadWindow() override {}
   bool WindowLoaded() const override { return Loads > 0; }
+};
+
+/// Notes the still pictures of the strip among what the strip is asked.
+class NotedPicture final : public CapturePort {
+ public:
+  NotedPicture(const Program& program, Texts& asked) : program_(program), asked_(asked) {}
+  void CaptureMenu() override {}
+  void ReleaseMenu() override {}
+  bool MenuCaptured() const override { return false; }
+  // A change of mode that runs already takes none.
+  void SetPicture1() override {
+    if (!program_.ChangingMode) asked_.emplace_back("SetPicture1");
+  }
+  void ResetPicture1() override { asked_.emplace_back("ResetPicture1"); }
+  void SetPosition(std::string_view) override {}
+  void ClearBg() override {}
+  std::string OutlineEdge() const override { return {}; }
+
+ private:
+  const Program& program_;
+  Texts& asked_;
 };
 
 class MainMenuTest : public testing::Test {
@@ -74,6 +103,7 @@ class MainMenuTest : public testing::Test {
     program.Ports.MainMenu = &mainMenu;
     program.Ports.Docking = &edge;
     program.Ports.Minimize = &companion;
+    program.Ports.Capture = &still;
     program.OptionFlags.Set(2, true);
   }
 
@@ -112,7 +142,17 @@ class MainMenuTest : public testing::Test {
   Program& program = desk.TheProgram;
   NotedEdge edge{program};
   NotedCompanion companion{program};
+  NotedPicture still{program, desk.Strip.Asked};
   MainMenu mainMenu{program, desk.Menu};
+
+  /// Stands between its two still pictures, after the one and before the other.
+  bool IsBehindAPicture(const std::string& call) const {
+    const Texts& asked = desk.Strip.Asked;
+    const auto at = std::find(asked.begin(), asked.end(), call);
+    return at != asked.end() && std::count(asked.begin(), at, "SetPicture1") == 1 &&
+           std::count(asked.begin(), at, "ResetPicture1") == 0 &&
+           std::count(at, asked.end(), "ResetPicture1") == 1;
+  }
 };
 
 TEST_F(MainMenuTest, MarksFollowTheOptionsAtEachOpening) {
@@ -151,6 +191,37 @@ TEST_F(MainMenuTest, AFloatingStripHasNoUseForRestoreAndADockedOneNoneForMaximiz
   EXPECT_FALSE(Enabled(kMaximizeLabel));
   EXPECT_TRUE(Enabled(kMinimizeLabel));
   EXPECT_EQ(desk.Menu.ShadowCount, 1);
+}
+
+TEST_F(MainMenuTest, AMenuThatIsCheckedAgainEnablesWhatIsOfUseNow) {
+  Open();
+  program.AppBarDocked = true;
+  mainMenu.CheckLabels();
+  EXPECT_TRUE(Enabled(kRestoreLabel));
+  EXPECT_FALSE(Enabled(kMaximizeLabel));
+  program.AppBarDocked = false;
+  mainMenu.CheckLabels();
+  EXPECT_FALSE(Enabled(kRestoreLabel));
+  EXPECT_TRUE(Enabled(kMaximizeLabel));
+}
+
+TEST_F(MainMenuTest, TheMenuIsGoneAndEventsHaveRunBeforeAChoiceIsCarriedOut) {
+  NotedWindow about;
+  program.Ports.About = &about;
+  Open();
+  int ticks = 0;
+  const forms::TimerId timer = desk.World.Desktop.StartTimer(1, [&ticks] { ++ticks; });
+  desk.World.Desktop.Jump(5);
+  ASSERT_EQ(ticks, 0);
+  about.WhileLoading = [&] {
+    EXPECT_FALSE(desk.Menu.MenuVisible());
+    EXPECT_GT(ticks, 0);
+  };
+  Choose("About...");
+  EXPECT_EQ(about.Loads, 1);
+  // The strip's state of the menu ends with the choice.
+  EXPECT_EQ(desk.Strip.Times("ResetMenu"), 1);
+  desk.World.Desktop.StopTimer(timer);
 }
 
 TEST_F(MainMenuTest, ADisabledChoiceDoesNothing) {
@@ -199,7 +270,9 @@ TEST_F(MainMenuTest, LargeIconsOnAVerticalStripRebuildsTheButtonsAtOnce) {
   EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 1);
   EXPECT_EQ(desk.Strip.Times("UnloadItems"), 0);
   EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
+  desk.Strip.WhileRebuilding = [this] { EXPECT_TRUE(program.ChangingMode); };
   Choose("Large Icons");
+  EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 2);
   EXPECT_EQ(SavedFlags()[25], '0');
   EXPECT_FALSE(program.ChangingMode);
 }
@@ -210,6 +283,9 @@ TEST_F(MainMenuTest, LargeIconsElsewhereUnloadsAndBuildsAnewAndTakesTheEdgeAgain
   EXPECT_EQ(desk.Strip.Times("UnloadItems"), 1);
   EXPECT_EQ(desk.Strip.Times("InitButtons"), 1);
   EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 0);
+  EXPECT_TRUE(IsBehindAPicture("UnloadItems"));
+  EXPECT_TRUE(IsBehindAPicture("InitButtons"));
+  EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
   EXPECT_EQ(edge.Asked, Texts{});
   program.AppBarDocked = true;
   program.ToolbarEdge = "BOTTOM";
@@ -227,7 +303,10 @@ TEST_F(MainMenuTest, AutoHideDocksAFloatingStripAndPutsItOnTop) {
   EXPECT_EQ(edge.Asked, Texts{"SetAppBar TOP anew"});
   EXPECT_EQ(SavedFlags()[2], '1');
   EXPECT_EQ(SavedFlags()[22], '0');
+  EXPECT_EQ(companion.Asked, Texts{"DeActivateSysTray"});
+  EXPECT_TRUE(IsBehindAPicture("RemoveQMenu Q1"));
   EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
+  EXPECT_EQ(desk.Strip.Watches, (std::vector<bool>{false, true}));
   Choose("Auto Hide");
   EXPECT_FALSE(program.AutoHide);
   EXPECT_EQ(SavedFlags()[2], '0');
@@ -259,6 +338,8 @@ TEST_F(MainMenuTest, NoChangeOfModeBeginsInsideAnother) {
   desk.World.Desktop.Advance(20);
   EXPECT_FALSE(program.OptionFlags.Is(26));
   EXPECT_EQ(desk.Strip.Times("InitButtons"), 0);
+  Choose("Refresh All");
+  EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 0);
   program.ChangingMode = false;
   desk.World.Desktop.Advance(1);
   EXPECT_EQ(desk.Strip.Times("InitButtons"), 1);
@@ -266,8 +347,12 @@ TEST_F(MainMenuTest, NoChangeOfModeBeginsInsideAnother) {
 }
 
 TEST_F(MainMenuTest, RefreshAllReadsTheStripAnew) {
+  desk.Strip.WhileRebuilding = [this] {
+    EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Hourglass);
+  };
   Choose("Refresh All");
   EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 1);
+  EXPECT_TRUE(IsBehindAPicture("InitNewButtons"));
   EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
 }
 
@@ -278,6 +363,7 @@ TEST_F(MainMenuTest, RestoreClearsTheEdgeAndTheLargeIconsThatTheTopIsNotToHave) 
   EXPECT_FALSE(program.OptionFlags.Is(14));
   EXPECT_FALSE(program.OptionFlags.Is(26));
   EXPECT_EQ(desk.Strip.Times("RestoreToolbar"), 1);
+  EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
   for (const int position : {25, 26}) program.OptionFlags.Set(position, true);
   Choose("Restore");
   EXPECT_TRUE(program.OptionFlags.Is(26));
@@ -323,6 +409,8 @@ TEST_F(MainMenuTest, ExitUnloadsTheStripAndThenTheCompanion) {
   Open();
   desk.ClickItem(11);
   EXPECT_FALSE(desk.Strip.WindowLoaded());
+  EXPECT_EQ(desk.Strip.Times("HideWindow"), 1);
+  EXPECT_FALSE(desk.Strip.Watches.empty() || desk.Strip.Watches.back());
   EXPECT_EQ(companion.Asked, Texts{"UnloadWindow"});
 }
 

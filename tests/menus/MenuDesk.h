@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,10 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
       : Form(program.Windows, "frmToolbar"), program_(program), menu_(menu) {}
 
   std::vector<std::string> Asked;
+  /// Each time the watch on the pointer was switched, and how.
+  std::vector<bool> Watches;
+  /// What happens while all buttons are made anew.
+  std::function<void()> WhileRebuilding;
   /// Where the menu goes, twips.
   float MenuLeft = 3000;
   float MenuTop = 450;
@@ -55,7 +60,10 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void ActivateKeyDown(int keyCode) override {
     Asked.push_back("ActivateKeyDown " + std::to_string(keyCode));
   }
-  void InitNewButtons() override { Asked.emplace_back("InitNewButtons"); }
+  void InitNewButtons() override {
+    Asked.emplace_back("InitNewButtons");
+    if (WhileRebuilding) WhileRebuilding();
+  }
   void DoToolbarButtons() override { Asked.emplace_back("DoToolbarButtons"); }
   void DoSingleButtons() override { Asked.emplace_back("DoSingleButtons"); }
   void ResetCollections() override { Asked.emplace_back("ResetCollections"); }
@@ -68,7 +76,7 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void DoButtonDrag(int button, forms::MouseButton) override {
     Asked.push_back("DoButtonDrag " + std::to_string(button));
   }
-  void SetPointerWatch(bool) override {}
+  void SetPointerWatch(bool on) override { Watches.push_back(on); }
   void RestoreToolbar() override { Asked.emplace_back("RestoreToolbar"); }
   void UnloadItems() override { Asked.emplace_back("UnloadItems"); }
   void InitButtons() override { Asked.emplace_back("InitButtons"); }

@@ -84,6 +84,45 @@ TEST(AutoHide, WhoGoesElsewhereLeavesALineAndATouchBringsTheStripBack) {
   }
 }
 
+TEST(AutoHide, ColoursAndFilesThatChangeLeaveALineALineUntilItIsTouched) {
+  for (const LineRow& row : kLines) {
+    SCOPED_TRACE(row.name);
+    HidingDesk desk;
+    desk.SetOption(21, true);
+    const std::string menus = "C:\\Corvelle\\Menus\\";
+    for (int i = 1; i <= 3; ++i) {
+      desk.World.Files.Put(menus + SingleFileName(i), Records({Entry("s", "", "C:\\s.exe")}));
+    }
+    desk.StartHidden(row.at);
+    ASSERT_EQ(desk.Bounds(), row.line);
+    desk.World.Files.Vanish(menus + MenuFileName(2));
+    desk.World.Files.Vanish(menus + SingleFileName(2));
+    desk.World.Desktop.SetSystemColor(15, 0x00123456);
+    desk.World.Desktop.Send(desk.Strip.hWnd(), forms::message::SysColorChange, 0, 0);
+    desk.World.Desktop.Pump();
+    EXPECT_TRUE(desk.IsLine());
+    EXPECT_EQ(desk.Bounds(), row.line);
+    desk.PointAt(row.touch);
+    desk.Poll();
+    EXPECT_EQ(desk.Bounds(), row.revealed);
+    const frmToolbar& strip = desk.Strip;
+    EXPECT_EQ(strip.ButtonCount, 5);
+    EXPECT_EQ(strip.SingleCount, 2);
+    EXPECT_TRUE(strip.picSingleButton.Visible());
+    // Both boxes have the places of what is left.
+    const ButtonRect& last = strip.ToolbarButtons.back();
+    if (IsVertical(row.at)) {
+      EXPECT_EQ(strip.picToolbar.Height(), last.Bottom() + strip.TwipsY);
+      EXPECT_EQ(strip.picSingleButton.Bottom(), strip.Height() - 2 * strip.TwipsY);
+    } else {
+      EXPECT_EQ(strip.picToolbar.Width(), last.Right() + strip.TwipsX);
+      EXPECT_EQ(strip.picSingleButton.Right(), strip.Width() - 2 * strip.TwipsX);
+      EXPECT_EQ(strip.lblDate.Right(), strip.picSingleButton.Width() - 50);
+    }
+    EXPECT_EQ(strip.lblDate.Visible(), !IsVertical(row.at));
+  }
+}
+
 TEST(AutoHide, TheClaimIsMadeOnceAndMovesWithTheEdge) {
   HidingDesk desk;
   desk.StartHidden(Edge::Right);

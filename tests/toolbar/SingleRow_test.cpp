@@ -163,6 +163,29 @@ TEST(SingleRow, ARefreshWithOtherFilesMakesTheRowAnew) {
   EXPECT_EQ(desk.Strip.Width(), desk.Strip.picSingleButton.Right() + 15);
 }
 
+TEST(SingleRow, ARefreshKnowsTheFilesThatWereNumberedAnew) {
+  SinglesDesk desk;
+  desk.PutSingles("ab");
+  desk.Start();
+  desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU002.BTN");
+  desk.PutSingle(3, "b");
+  desk.Strip.RefreshToolbar();
+  EXPECT_EQ(desk.Strip.Singles.SingleButtons[2].File, "C:\\Corvelle\\Menus\\BMENU003.BTN");
+}
+
+TEST(SingleRow, BeginsWithAHighlightAndIsRepaintedFromItsPicture) {
+  for (const Edge at : {Edge::Top, Edge::Left}) {
+    SinglesDesk desk;
+    desk.PutSingles("a");
+    desk.StartAt(at);
+    EXPECT_TRUE(desk.Strip.LineLeft.Visible());
+    EXPECT_EQ(desk.Strip.LineLeft.BorderColor(), forms::color::Highlight3D);
+    EXPECT_EQ(desk.Strip.LineLeft.X2() > 0, IsVertical(at));
+    EXPECT_EQ(desk.Strip.LineLeft.Y2() > 0, !IsVertical(at));
+    EXPECT_NE(desk.Strip.picSingleButton.Background(), nullptr);
+  }
+}
+
 TEST(SingleRow, AnUnloadedStripHasNone) {
   SinglesDesk desk;
   desk.PutSingles("a-");

@@ -14,12 +14,14 @@ struct NotedParts final : HintPort, DragImagePort, PopupPort, SpecialFoldersPort
   std::vector<std::string> Asked;
   std::string Hint;
 
-  /// What runs while a hint goes, as events do then.
+  /// What runs while a hint goes, as events do then, and while one comes in another's place.
   std::function<void()> WhileHintGoes;
+  std::function<void()> WhileHintComes;
 
   void SetHint(std::string_view text) override {
     Hint = text;
-    if (text.empty() && WhileHintGoes) WhileHintGoes();
+    const std::function<void()> meanwhile = text.empty() ? WhileHintGoes : WhileHintComes;
+    if (meanwhile) meanwhile();
   }
   WindowId WindowHandle() const override { return kNoWindow; }
   void SetDragImage(std::string_view icon) override {

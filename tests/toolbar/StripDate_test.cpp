@@ -47,6 +47,15 @@ TEST(StripDate, AnUprightOrFloatingStripNeverShowsIt) {
   EXPECT_EQ(floating.Strip.lblDate.Caption(), "");
 }
 
+TEST(StripDate, GoesWithItsLinesWhenTheStripLeavesTheEdge) {
+  DateDesk desk;
+  ASSERT_TRUE(desk.Shown());
+  desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.AppBarRequested = false;
+  desk.Strip.DoSingleButtons();
+  EXPECT_TRUE(desk.Hidden());
+}
+
 TEST(StripDate, WithLargeIconsItIsBold) {
   SinglesDesk desk;
   desk.SetOption(21, true);
@@ -143,6 +152,18 @@ TEST(StripDate, TheHintOverItIsTheClock) {
   EXPECT_EQ(desk.Parts.Hint, "");
   EXPECT_EQ(desk.TheProgram.CurSingle, 0);
   desk.Wait(500);  // the end of the start
+  EXPECT_EQ(desk.WakeUps(5000), 0);
+}
+
+TEST(StripDate, TheEndOfTheProgramInsideItsHintLeavesNoTimerBehind) {
+  DateDesk desk;
+  const PixelPoint at = desk.OnDate();
+  desk.Parts.WhileHintComes = [&desk] {
+    desk.Parts.WhileHintComes = nullptr;
+    desk.Exit();
+  };
+  desk.PointAt(at);
+  EXPECT_FALSE(desk.Strip.IsLoaded());
   EXPECT_EQ(desk.WakeUps(5000), 0);
 }
 

@@ -166,6 +166,17 @@ TEST(ToolbarStart, ASingleButtonAloneIsAnEntryToo) {
   EXPECT_TRUE(desk.HasMenuFile("BMENU001.BTN"));
 }
 
+TEST(ToolbarStart, AFolderWithTheNameOfAMenuIsNoEntry) {
+  StripDesk desk;
+  OneDefaultEntry entries(desk);
+  desk.TheProgram.Ports.DefaultEntries = &entries;
+  desk.World.Files.MakeFolders("C:\\Corvelle\\Menus\\old.mnu");
+  desk.World.Files.MakeFolders("C:\\Corvelle\\Menus\\old.btn");
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerYes);
+  desk.Start();
+  EXPECT_EQ(entries.Times, 1);
+}
+
 TEST(ToolbarStart, TheFirstUseBringsTheDefaultEntriesWithoutAQuestion) {
   StripDesk desk;
   OneDefaultEntry entries(desk);
