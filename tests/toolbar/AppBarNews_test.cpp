@@ -205,6 +205,22 @@ TEST(AppBarNews, ALineThatIsHiddenWhollyStaysSoAfterAFullScreenProgram) {
   EXPECT_TRUE(desk.IsTopmost());
 }
 
+TEST(AppBarNews, AHiddenStripStaysABareLineWhenTheColoursChange) {
+  for (const Edge at : kEdges) {
+    SCOPED_TRACE(std::string(EdgeText(at)));
+    NewsDesk desk;
+    desk.SetOption(3, true);
+    desk.StartAt(at);
+    desk.GoElsewhere();
+    desk.Poll();
+    ASSERT_TRUE(desk.IsLine());
+    desk.World.Desktop.SetSystemColor(15, 0x00123456);
+    desk.World.Desktop.Pump();
+    EXPECT_TRUE(desk.IsLine());
+    EXPECT_FALSE(desk.Strip.bLine3.Visible());
+  }
+}
+
 // The shell ends and comes up anew.
 
 struct NewShellDesk : NewsDesk {
