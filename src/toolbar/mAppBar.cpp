@@ -127,7 +127,7 @@ void mAppBar::SetAppBar(std::string_view edge, bool rebuild) {
   }
   if (!strip_.IsLoaded()) return;
   PinHere();
-  program_.ToolbarReady = true;
+  program_.ToolbarReady = !program_.ToolbarMinimized;
 }
 
 // A strip that turns, or has not stood at an edge yet, is built anew.

@@ -301,5 +301,30 @@ TEST(AppBarNews, AStripThatReturnsToItsEdgeUnderANewTaskBarKeepsItsRoom) {
   desk.ExpectQuiet();
 }
 
+// The user goes on while a box is up.
+
+TEST(AutoHide, AStripThatGoesIntoTheTaskBarWhileTheMessageIsUpStaysThere) {
+  NewsDesk desk;
+  desk.SetOption(3, true);
+  desk.StartAt(Edge::Right);
+  desk.World.Bars.ClaimAutoHide(Edge::Right, desk.World.Desktop.AddOtherWindow({.Title = "Bar"}));
+  desk.World.Desktop.Answer(forms::msgbox::AnswerOk);
+  desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) {
+    desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
+    desk.World.Desktop.Advance(600);
+  });
+  desk.GoElsewhere();
+  desk.Poll();
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_FALSE(desk.Shown());
+  EXPECT_FALSE(desk.TheProgram.ToolbarReady);
+  EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
+  desk.ComeBack();
+  EXPECT_TRUE(desk.Shown());
+  EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+  EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 982, 768}));
+  desk.ExpectQuiet();
+}
+
 }  // namespace
 }  // namespace corvelle
