@@ -233,6 +233,10 @@ void frmMinimize::ReturnToEdge() {
     if (!IsLoaded()) return;
   }
   docking.RegisterAppBar();
+  // Whether the full-screen program from before is still there was not told meanwhile.
+  if (std::exchange(program_.FullScreenApp, false) && !program_.NotOnTop) {
+    strip.SetWindowPos(forms::InsertAfter::Topmost, forms::swp::KeepActivation);
+  }
   strip.MarkCollections();
   docking.SetAppBar(program_.ToolbarEdge, false);
   if (!IsLoaded()) return;

@@ -141,9 +141,9 @@ void frmToolbar::Form_Load() {
   picToolbar.SetAutoRedraw(true);
   picSingleButton.SetAutoRedraw(true);
   ReadPlacement();
+  CacheDisplayMetrics();
   PlaceFirst();
   if (!IsLoaded()) return;
-  CacheDisplayMetrics();
   subclassed_ = true;
   Timer1.SetEnabled(true);
 }

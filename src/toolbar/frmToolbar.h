@@ -232,6 +232,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// Pointer tracking has started.
   bool WasHovering = false;
   bool MenuRefreshing = false;
+  /// A message to the shell is on its way.
+  bool TellingShell = false;
   /// When a hint is to come up, and when it is to go; milliseconds of the clock, 0 for never.
   std::int64_t TipDueAt = 0;
   std::int64_t TipHideAt = 0;
@@ -410,6 +412,14 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
 
   // Messages.
   std::optional<std::intptr_t> ShellNotify(std::uintptr_t what, std::intptr_t lParam);
+  std::optional<std::intptr_t> NoteForLater(std::uint32_t message, std::uintptr_t wParam,
+                                            std::intptr_t lParam);
+  [[nodiscard]] bool IsNewTaskBar(std::uint32_t message) const;
+  [[nodiscard]] bool NewsWait() const;
+  /// Deals with the news that came while the strip could not.
+  void CatchUp();
+  /// The place in the Z order that goes with a full-screen program, or with none.
+  void TakeLevel();
   void FollowColours();
   void FollowDisplay();
   /// Finds the strip's place anew after bars or the screen have changed.
@@ -436,7 +446,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   bool positioned_ = false;       // SavedLeft is known
   bool subclassed_ = false;
   bool focusRequested_ = false;
-  bool barsWait_ = false;  // bars or the screen have changed since the strip was placed
+  bool barsWait_ = false;    // bars or the screen have changed since the strip was placed
+  bool levelWaits_ = false;  // a full-screen program came or went meanwhile
+  bool newTaskBar_ = false;  // the strip is not registered with the shell any more
 };
 
 }  // namespace corvelle

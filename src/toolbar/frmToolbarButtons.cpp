@@ -143,7 +143,8 @@ void frmToolbar::RefreshToolbar() {
     ResizeAfterEdit(freeWidth);
     return;
   }
-  DrawBorders();
+  // A hidden strip stays a bare line.
+  if (visible) DrawBorders();
   InvalidateAll();
   Refresh();
 }

@@ -1,11 +1,14 @@
 // What the system and other programs say to the strip, and its place on the desktop.
 
+#include <utility>
+
 #include "base/Numbers.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
 #include "platform/AppBars.h"
 #include "platform/DesktopWindows.h"
 #include "platform/SystemInfo.h"
+#include "platform/TrayIcons.h"
 #include "toolbar/HintPlace.h"
 #include "toolbar/frmToolbar.h"
 
@@ -17,24 +20,30 @@ constexpr std::uintptr_t kPositionChanged = 1;
 constexpr std::uintptr_t kFullScreenProgram = 2;
 
 constexpr int kButtonFaceIndex = 15;
+constexpr int kStaysAbove = 4;  // option: above full-screen programs
 
 }  // namespace
 
 std::optional<std::intptr_t> frmToolbar::WindowProc(std::uint32_t message, std::uintptr_t wParam,
                                                     std::intptr_t lParam) {
-  return subclassed_ ? ToolbarWndProc(message, wParam, lParam) : std::nullopt;
+  return subclassed_ ? ToolbarWndProc(message, wParam, lParam)
+                     : NoteForLater(message, wParam, lParam);
 }
 
 std::optional<std::intptr_t> frmToolbar::ToolbarWndProc(std::uint32_t message,
                                                         std::uintptr_t wParam,
                                                         std::intptr_t lParam) {
-  const bool fromShell = message == forms::message::AppBarCallback;
   if (!program_.ToolbarReady || (program_.AppBarBusy && program_.ToolbarMinimized)) {
-    if (!fromShell || wParam != kFullScreenProgram) return std::nullopt;
-    program_.FullScreenApp = lParam != 0;
-    return 0;
+    const auto answer = NoteForLater(message, wParam, lParam);
+    if (NewsWait() && !program_.ToolbarMinimized) Timer1.SetEnabled(true);
+    return answer;
   }
-  if (fromShell) return ShellNotify(wParam, lParam);
+  if (message == forms::message::AppBarCallback) return ShellNotify(wParam, lParam);
+  if (IsNewTaskBar(message)) {
+    newTaskBar_ = true;
+    FollowBarsLater();
+    return std::nullopt;
+  }
   switch (message) {
     case forms::message::SysColorChange:
       FollowColours();
@@ -52,6 +61,41 @@ std::optional<std::intptr_t> frmToolbar::ToolbarWndProc(std::uint32_t message,
       break;
   }
   return std::nullopt;
+}
+
+bool frmToolbar::IsNewTaskBar(std::uint32_t message) const {
+  return message != 0 && message == program_.Services.Tray.TaskbarCreatedMessage();
+}
+
+bool frmToolbar::NewsWait() const { return barsWait_ || levelWaits_ || newTaskBar_; }
+
+// A strip that is being built or placed looks afterwards at what has changed meanwhile: nobody
+// says it again.
+std::optional<std::intptr_t> frmToolbar::NoteForLater(std::uint32_t message, std::uintptr_t wParam,
+                                                      std::intptr_t lParam) {
+  if (IsNewTaskBar(message)) newTaskBar_ = true;
+  // One in the task bar looks at the screen when it comes back.
+  if (message == forms::message::DisplayChange) barsWait_ = !program_.ToolbarMinimized;
+  if (message != forms::message::AppBarCallback) return std::nullopt;
+  // What the shell says about the strip's own message is no news, and a strip that hides asks for
+  // its place each time.
+  if (wParam == kPositionChanged && !TellingShell && !program_.AutoHide) barsWait_ = true;
+  if (wParam != kFullScreenProgram) return std::nullopt;
+  program_.FullScreenApp = lParam != 0;
+  levelWaits_ = true;
+  return 0;
+}
+
+void frmToolbar::CatchUp() {
+  if (std::exchange(levelWaits_, false) && !program_.NotOnTop) TakeLevel();
+  if (std::exchange(newTaskBar_, false)) {
+    // It knows nothing of the bars of the one before.
+    barsWait_ = true;
+    if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RemoveAppBar();
+  }
+  if (!std::exchange(barsWait_, false)) return;
+  FollowDisplay();
+  if (IsLoaded() && program_.AppBarDocked) FollowBars();
 }
 
 // A docked strip answers the shell itself; without an edge the message goes on.
@@ -108,15 +152,21 @@ void frmToolbar::CacheDisplayMetrics() {
 
 void frmToolbar::FullScreenNotify(std::intptr_t entering) {
   if (program_.NotOnTop) return;
-  const bool staysAbove = program_.OptionFlags.Is(4);
+  const bool staysAbove = program_.OptionFlags.Is(kStaysAbove);
   if (staysAbove && entering != 0 && program_.FullScreenApp) return;
   program_.FullScreenApp = entering != 0;
-  if (staysAbove) {
+  TakeLevel();
+}
+
+void frmToolbar::TakeLevel() {
+  if (program_.OptionFlags.Is(kStaysAbove)) {
     SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
-  } else if (entering != 0) {
+  } else if (program_.FullScreenApp) {
     SetWindowPos(forms::InsertAfter::Bottom, forms::swp::KeepActivation);
   } else {
-    SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
+    // A line that is hidden wholly stays so.
+    SetWindowPos(forms::InsertAfter::Topmost,
+                 Visible() ? forms::swp::Show : forms::swp::KeepActivation);
     if (program_.Ports.QMenu != nullptr) {
       program_.Ports.QMenu->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
     }
@@ -207,8 +257,8 @@ void frmToolbar::Timer1_Timer() {
       program_.PosChangeRunning || program_.ButtonDragging || program_.RestoreBusy) {
     return;
   }
-  if (barsWait_ && program_.AppBarDocked && !program_.ToolbarMinimized) {
-    FollowBars();
+  if (NewsWait() && !program_.ToolbarMinimized) {
+    if (program_.ToolbarReady) CatchUp();
     return;
   }
   barsWait_ = false;

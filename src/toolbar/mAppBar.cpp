@@ -6,12 +6,12 @@
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
-namespace {}  // namespace
 
 // What is said to the shell.
 
 std::uintptr_t mAppBar::Send(std::uint32_t message) {
   AppBarData.hWnd = strip_.hWnd();
+  const forms::FlagScope telling(strip_.TellingShell);
   return program_.Services.Bars.Message(message, AppBarData);
 }
 
@@ -127,7 +127,7 @@ void mAppBar::SetAppBar(std::string_view edge, bool rebuild) {
   }
   if (!strip_.IsLoaded()) return;
   PinHere();
-  program_.ToolbarReady = true;
+  program_.ToolbarReady = !program_.ToolbarMinimized;
 }
 
 // A strip that turns, or has not stood at an edge yet, is built anew.
@@ -273,9 +273,10 @@ bool mAppBar::AppBarPosChanged() {
   const PixelSize bar = WholeEdge(at);
   const bool lifts = !program_.AutoHide;
   BarPlace place = AskForPlace(at, bar, lifts);
-  if (place.Reserved != before) {
-    // A strip that hides keeps no room.
-    if (!program_.NotOnTop && !program_.AutoHide) place = KeepPlace(at, bar, lifts);
+  // A strip that hides keeps no room.
+  const bool keepsRoom = !program_.NotOnTop && !program_.AutoHide;
+  if (place.Reserved != before || keepsRoom != keepsRoom_) {
+    if (keepsRoom) place = KeepPlace(at, bar, lifts);
     MoveWindow(BarWindow(at, place, bar));
     StretchSingles(at);
     program_.DoEvents();

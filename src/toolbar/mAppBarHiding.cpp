@@ -17,7 +17,8 @@ bool mAppBar::AutoHideAppBar(std::string_view edge) {
     strip_.Timer1.SetEnabled(false);
     program_.ToolbarReady = false;
     ShowAutoHideTaken();
-    if (!strip_.IsLoaded()) return false;
+    // One that went into the task bar meanwhile is placed when it comes back.
+    if (!strip_.IsLoaded() || program_.ToolbarMinimized) return false;
     SetAppBar(program_.ToolbarEdge, true);
     if (!strip_.IsLoaded()) return false;
     strip_.ShowNoActivate();

@@ -38,6 +38,11 @@ class SimAppBars final : public AppBars {
   void SetFullScreen(bool there);
   /// Tells every bar that bars have moved.
   void TellBars();
+  /// The shell ended and came up anew: it knows no bar and no claim any more.
+  void StartAnew() {
+    bars_.clear();
+    hidden_.clear();
+  }
 
   // Asking.
   /// The screen less what bars keep.
