@@ -137,14 +137,13 @@ void frmToolbar::RefreshToolbar() {
   picToolbar.Refresh();
   Singles.RefreshSingleButtons();
   picSingleButton.Refresh();
-  // A line is fitted when it comes back.
+  // A line stays bare, and is fitted when it comes back.
   if (!visible) return;
   if (others) {
     ResizeAfterEdit(freeWidth);
     return;
   }
-  // A hidden strip stays a bare line.
-  if (visible) DrawBorders();
+  DrawBorders();
   InvalidateAll();
   Refresh();
 }
