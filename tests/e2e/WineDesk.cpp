@@ -225,6 +225,8 @@ void WineDesk::Press(Button button) {
 void WineDesk::Release(Button button) {
   buttonDown_ = false;
   const bool dragging = source_ != nullptr && source_->Dragging();
+  // A window that went along with the pointer may have been told of a wrong place since.
+  SendMouse(0);
   SendMouse(button == Button::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP);
   // Until the source has heard that its drag is over, the pointer is its own, and so the next
   // click.
