@@ -68,6 +68,23 @@ class ClaimFolder(InAFolder):
         new.lock.close()
 
 
+class FixAddresses(unittest.TestCase):
+    @staticmethod
+    def heap_of_a_child():
+        maps = subprocess.run(["cat", "/proc/self/maps"], capture_output=True, text=True, check=True).stdout
+        return next(line.split()[0] for line in maps.splitlines() if line.endswith("[heap]"))
+
+    def test_programs_that_are_started_then_have_their_heap_at_one_place(self):
+        def try_it():
+            fixed = wine_session.fix_addresses()
+            return fixed, {self.heap_of_a_child() for _ in range(4)}
+
+        # It holds for the thread that asked.
+        with concurrent.futures.ThreadPoolExecutor(1) as pool:
+            fixed, heaps = pool.submit(try_it).result()
+        self.assertEqual(len(heaps) == 1, fixed)
+
+
 class ReplaceIn(InAFolder):
     def test_a_setting_that_is_not_there_is_an_error_and_not_a_silence(self):
         path = self.folder / "user.reg"
