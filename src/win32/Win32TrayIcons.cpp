@@ -62,7 +62,9 @@ void Win32TrayIcons::Remove(WindowId window, std::uint32_t id) {
 }
 
 std::uint32_t Win32TrayIcons::TaskbarCreatedMessage() const {
-  return RegisterWindowMessageW(L"TaskbarCreated");
+  // Asked with each message of a window, and the same as long as Windows runs.
+  static const UINT number = RegisterWindowMessageW(L"TaskbarCreated");
+  return number;
 }
 
 }  // namespace corvelle::win32
