@@ -120,6 +120,12 @@ std::string WholeRecords(std::string bytes) {
   return bytes;
 }
 
+FileResult<std::string> ReadWholeRecords(FileSystem& files, std::string_view path) {
+  FileResult<std::string> bytes = ReadWhole(files, path);
+  if (!bytes) return bytes;
+  return WholeRecords(*std::move(bytes));
+}
+
 std::string WithoutRecord(std::string records, int number) {
   if (number < 1 || OffsetOf(number) >= records.size()) return records;
   return records.erase(OffsetOf(number), kRecordLength);
