@@ -72,6 +72,17 @@ void RefreshAfterEdit(Program& program) {
   }
 }
 
+// What the carried entry was taken from shows it no longer. The row is read again whatever came of
+// it: another program may have changed it.
+void ShowSourceAfterMove(Program& program, const EditOutcome& outcome, float freeWidth) {
+  if (IsSinglesTag(program.Entry.CurMenuTag)) {
+    if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->DoSingleButtons();
+    ResizeStrip(program, freeWidth);
+  } else if (outcome == EditOutcome::Edited) {
+    RefreshAfterEdit(program);
+  }
+}
+
 EditOutcome DeleteMenuItem(Program& program) {
   const EditOutcome outcome = DeleteMenuEntry(program.Services.Files, program.Services.Ansi,
                                               program.MenusPath, program.Entry);
@@ -116,16 +127,21 @@ bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bo
   const CodePage& ansi = program.Services.Ansi;
   const EntryEdit& entry = program.Entry;
   if (entry.CurFile.empty() || IsDropOnItself(entry, place)) return false;
-  // Within one file in one step, so that no failure leaves the entry twice or nowhere.
+  // Within one file in one step, between two as one change, so that neither a failure nor an end of
+  // the program leaves the entry twice or nowhere.
   EditOutcome outcome = EditOutcome::NothingToDo;
   const bool within = !copies && IsMenuTag(entry.CurMenuTag);
   if (within) outcome = MoveMenuEntry(files, ansi, program.MenusPath, entry, place);
+  if (outcome == EditOutcome::NothingToDo && !copies) {
+    const float freeWidth = FreeWidth(program);
+    outcome = MoveEntryToMenu(files, ansi, program.MenusPath, entry, place);
+    ShowSourceAfterMove(program, outcome, freeWidth);
+  }
   if (outcome == EditOutcome::Failed) return false;
+  // What cannot be taken away is copied.
   if (outcome != EditOutcome::Edited) {
     outcome = CopyMenuEntry(files, ansi, program.MenusPath, entry, place);
     if (outcome != EditOutcome::Edited) return false;
-    // Only now, so that the entry is always somewhere.
-    if (!copies) DeleteItem(program, true);
   }
   program.Entry.UndoMenuTag.clear();
   if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->RemoveQMenu(tag);

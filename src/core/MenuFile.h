@@ -49,6 +49,9 @@ using RecordsEdit = std::function<std::string(std::string records)>;
 /// not amount to half a record is dropped.
 [[nodiscard]] std::string WholeRecords(std::string bytes);
 
+/// A menu file as whole records, so that it can be edited. NotFound for a missing one.
+[[nodiscard]] FileResult<std::string> ReadWholeRecords(FileSystem& files, std::string_view path);
+
 /// Edits on whole records. A place that the file does not have changes nothing, but for the append.
 [[nodiscard]] std::string WithoutRecord(std::string records, int number);
 [[nodiscard]] std::string InsertRecord(std::string records, int before, std::string_view record);

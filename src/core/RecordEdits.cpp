@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "core/FileTransaction.h"
 #include "core/MenuFile.h"
+#include "core/SingleFiles.h"
 
 namespace corvelle {
 
@@ -55,6 +57,30 @@ EditOutcome ChangeFolder(FileSystem& files, const CodePage& ansi, const EntryEdi
   }
   record->FName = change(record->FName);
   return OutcomeOf(WriteRecord(files, ansi, edit.CurFile, number, *record));
+}
+
+std::string CurrentRecord(const EntryEdit& edit, const CodePage& ansi) {
+  return FormatRecord({edit.CurTitle, edit.CurIcon, edit.CurCommand}, ansi);
+}
+
+/// True for an entry of a menu that has a record of its own.
+bool IsStoredItem(const EntryEdit& edit) {
+  return IsMenuTag(edit.CurMenuTag) && !IsGenerated(edit.CurRecord);
+}
+
+FileStatus TakeOutOfMenu(FileSystem& files, const EntryEdit& edit, FileTransaction& move) {
+  FileResult<std::string> records = ReadWholeRecords(files, edit.CurFile);
+  if (!records) return records.Error();
+  move.Write(edit.CurFile, WithoutRecord(*std::move(records), edit.CurRecord));
+  return Done();
+}
+
+FileStatus TakeOutOfRow(FileSystem& files, std::string_view menusPath, const EntryEdit& edit,
+                        FileTransaction& move) {
+  const FileResult<SingleFiles> row = ReadSingleFiles(files, menusPath);
+  if (!row) return row.Error();
+  AddSingleRewrite(move, menusPath, *row, WithoutSingle(*row, edit.CurFile));
+  return Done();
 }
 
 }  // namespace
@@ -143,10 +169,46 @@ EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
   const FileResult<int> before = PlaceInFile(files, place);
   if (!before) return EditOutcome::Refused(before.Error());
   if (*before == kNoPlace) return EditOutcome::NothingToDo;
-  const std::string record = FormatRecord({edit.CurTitle, edit.CurIcon, edit.CurCommand}, ansi);
+  const std::string record = CurrentRecord(edit, ansi);
   return OutcomeOf(RewriteMenuFile(files, menusPath, place.File, [&](std::string records) {
     return InsertOrAppendRecord(std::move(records), *before, record);
   }));
+}
+
+EditOutcome MoveEntryToMenu(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                            const EntryEdit& edit, const DropPlace& place) {
+  const bool single = IsSinglesTag(edit.CurMenuTag);
+  if (!single && !IsStoredItem(edit)) return EditOutcome::NothingToDo;
+  if (EqualNoCase(place.File, edit.CurFile)) return EditOutcome::NothingToDo;
+  const FileResult<int> before = PlaceInFile(files, place);
+  if (!before) return EditOutcome::Refused(before.Error());
+  if (*before == kNoPlace) return EditOutcome::NothingToDo;
+  const EditOutcome still = FindCurrentEntry(files, ansi, edit);
+  if (still != EditOutcome::Edited) return still;
+  FileResult<std::string> target = ReadWholeRecords(files, place.File);
+  if (!target) return EditOutcome::Refused(target.Error());
+  FileTransaction move(files, menusPath);
+  move.Write(place.File,
+             InsertOrAppendRecord(*std::move(target), *before, CurrentRecord(edit, ansi)));
+  const FileStatus taken =
+      single ? TakeOutOfRow(files, menusPath, edit, move) : TakeOutOfMenu(files, edit, move);
+  return OutcomeOf(taken ? move.Commit() : taken);
+}
+
+EditOutcome MoveEntryToSingles(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                               const EntryEdit& edit, std::string_view before) {
+  if (!IsStoredItem(edit)) return EditOutcome::NothingToDo;
+  const EditOutcome still = FindCurrentEntry(files, ansi, edit);
+  if (still != EditOutcome::Edited) return still;
+  const FileResult<SingleFiles> row = ReadSingleFiles(files, menusPath);
+  if (!row) return EditOutcome::Refused(row.Error());
+  const std::size_t at = PlaceOfSingle(*row, before);
+  if (at == row->size() && !before.empty()) return EditOutcome::NothingToDo;
+  FileTransaction move(files, menusPath);
+  const MenuRecord record{edit.CurTitle, edit.CurIcon, edit.CurCommand};
+  AddSingleRewrite(move, menusPath, *row, WithSingles(*row, at, {record}, ansi));
+  const FileStatus taken = TakeOutOfMenu(files, edit, move);
+  return OutcomeOf(taken ? move.Commit() : taken);
 }
 
 void ForgetCurrentEntry(EntryEdit& edit) {

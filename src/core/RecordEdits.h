@@ -124,6 +124,17 @@ EditOutcome MoveMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
 EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                           const EntryEdit& edit, const DropPlace& place);
 
+/// Moves the current entry out of another file, of a menu or of a single button: both files change,
+/// or neither, even when the program ends meanwhile. NothingToDo within one file, for a generated
+/// entry and for a place that takes none; RecordMismatch if the entry is not there to be taken.
+EditOutcome MoveEntryToMenu(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                            const EntryEdit& edit, const DropPlace& place);
+
+/// The same out of a menu into the row of single buttons: in front of the button of that file,
+/// behind the last one for an empty path.
+EditOutcome MoveEntryToSingles(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                               const EntryEdit& edit, std::string_view before);
+
 /// Empties the current entry: nothing is carried or acted on any more.
 void ForgetCurrentEntry(EntryEdit& edit);
 

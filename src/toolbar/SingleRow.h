@@ -126,10 +126,10 @@ class SingleRow final : public SingleButtonsPort {
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y);
 
+  bool MoveFromMenu(const std::string& before, const EntryEdit& carried);
   bool DropBehind(const EntryEdit& carried, forms::MouseButton released);
   bool DropBefore(const std::string& target, const EntryEdit& carried, forms::MouseButton released);
   [[nodiscard]] bool IsAnother(const EntryEdit& carried) const;
-  void TakeFromMenu(const EntryEdit& carried);
   void FitStrip();
 
   Program& program_;

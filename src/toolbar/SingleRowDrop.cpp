@@ -4,7 +4,6 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
-#include "core/EntryCommands.h"
 #include "core/Program.h"
 #include "core/SingleFiles.h"
 #include "launch/FileTitle.h"
@@ -49,19 +48,35 @@ void SingleRow::DoItemDrag(forms::MouseButton released) {
   program_.Entry = carried;
   strip_.Timer2.SetEnabled(false);
   const int target = GetCurIndex();
+  const std::string before =
+      Has(target) ? SingleButtons[static_cast<std::size_t>(target)].File : std::string();
+  const bool copies = released == forms::MouseButton::Right;
   bool changed = false;
-  if (!Has(target)) {
+  if (!copies && IsMenuTag(carried.CurMenuTag)) {
+    changed = MoveFromMenu(before, carried);
+  } else if (before.empty()) {
     changed = DropBehind(carried, released);
   } else {
-    const std::string file = SingleButtons[static_cast<std::size_t>(target)].File;
-    changed = DropBefore(file, carried, released);
+    changed = DropBefore(before, carried, released);
   }
-  if (changed) {
-    DoSingleButtons();
-    if (released != forms::MouseButton::Right) TakeFromMenu(carried);
-  }
+  if (changed) DoSingleButtons();
   program_.Entry.ItemDragging = false;
   if (changed && strip_.IsLoaded()) FitStrip();
+}
+
+// What cannot be taken out of its menu is copied. True if the row is another one now.
+bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried) {
+  FileSystem& files = program_.Services.Files;
+  const CodePage& ansi = program_.Services.Ansi;
+  const EditOutcome moved = MoveEntryToSingles(files, ansi, program_.MenusPath, carried, before);
+  if (moved == EditOutcome::Failed) return false;
+  if (moved == EditOutcome::Edited) {
+    // The menu is built again when it opens.
+    strip_.RemoveQMenu(carried.CurMenuTag);
+    return true;
+  }
+  return PasteSingleFile(files, ansi, program_.MenusPath, before, CarriedRecord(carried))
+      .HasValue();
 }
 
 // True if the row is another one now.
@@ -97,13 +112,6 @@ bool SingleRow::DropBefore(const std::string& target, const EntryEdit& carried,
   return PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, target,
                          CarriedRecord(carried))
       .HasValue();
-}
-
-// What came from a menu has arrived, and leaves the menu.
-void SingleRow::TakeFromMenu(const EntryEdit& carried) {
-  if (!IsMenuTag(carried.CurMenuTag)) return;
-  program_.Entry = carried;
-  DeleteItem(program_, true);
 }
 
 void SingleRow::FitStrip() {

@@ -5,6 +5,7 @@
 
 #include "base/Text.h"
 #include "core/Carry.h"
+#include "core/FileTransaction.h"
 #include "core/MenuFolder.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
@@ -227,6 +228,9 @@ void frmToolbar::ForgetMenus() {
 void frmToolbar::InitButtons() {
   const forms::HourglassScope hourglass(program_.Windows);
   SetVisible(false);
+  // A change that was cut short is taken back before anything looks into the folder. Where the disk
+  // refuses, the next change of files tries again, and the next start.
+  static_cast<void>(RecoverFiles(program_.Services.Files, program_.MenusPath));
   // What cannot be deleted is deleted another time.
   static_cast<void>(PurgeMenus(program_.Services.Files, program_.MenusPath));
   StopTimers();

@@ -438,7 +438,7 @@ TEST(Carry, AnEntryOfTheRowGoesIntoAMenuAndLeavesTheRow) {
   entry.CurRecord = 1;
   desk.Menu.DoItemDrag({});
   EXPECT_EQ(desk.ItemsOf(2), (Titles{"X", "Single", "Y"}));
-  EXPECT_EQ(desk.Row.Asked, (Titles{"delete C:\\Corvelle\\Menus\\BMENU001.BTN"}));
+  EXPECT_FALSE(desk.World.Files.Has("C:\\Corvelle\\Menus\\BMENU001.BTN"));
 }
 
 // ---- elsewhere ----
