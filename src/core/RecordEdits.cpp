@@ -149,6 +149,15 @@ EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
   }));
 }
 
+void SetCurrentEntry(EntryEdit& live, EntryEdit entry) {
+  entry.ClipTitle = live.ClipTitle;
+  entry.ClipIcon = live.ClipIcon;
+  entry.ClipCommand = live.ClipCommand;
+  RestoreUndo(entry, live);
+  entry.ItemDragging = live.ItemDragging;
+  live = std::move(entry);
+}
+
 void ForgetCurrentEntry(EntryEdit& edit) {
   edit.CurTitle.clear();
   edit.CurIcon.clear();

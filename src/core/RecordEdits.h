@@ -124,6 +124,10 @@ EditOutcome MoveMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
 EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                           const EntryEdit& edit, const DropPlace& place);
 
+/// Makes the current entry of `entry` that of `live`, which keeps its clipboard, its undo store and
+/// what it says of a carry.
+void SetCurrentEntry(EntryEdit& live, EntryEdit entry);
+
 /// Empties the current entry: nothing is carried or acted on any more.
 void ForgetCurrentEntry(EntryEdit& edit);
 

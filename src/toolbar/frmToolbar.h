@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/MenuRecord.h"
+#include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
@@ -37,6 +38,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void UnloadWindow() override;
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
+  void HoldForMessage(bool owns) override { owns ? HoldInputOfOwner() : HoldInput(); }
+  void ReleaseAfterMessage() override { ReleaseInput(); }
   [[nodiscard]] WindowId ButtonBoxHandle() const override { return picToolbar.hWnd(); }
   [[nodiscard]] WindowId SingleBoxHandle() const override { return picSingleButton.hWnd(); }
   [[nodiscard]] TwipRect WindowBounds() const override {
@@ -371,6 +374,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void KeepHintTimes(WindowId under);
   void HoverButton(int button);
   void ShowButtonPopup();
+  [[nodiscard]] EntryEdit EntryOfButton(int button);
   void ShowFramePopup(std::string_view tag);
   void FollowFrame(forms::MouseButton down, float x, float y);
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
