@@ -246,6 +246,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void ShowPage();
   /// Draws the page on show; `watched`: the captions come first and then one icon after the other.
   void DrawPage(bool watched);
+  void DrawPageOnce(bool watched);
   void DrawItemIcon(int index);
   void DrawRules();
   void PrintCaptions();
@@ -320,6 +321,9 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   std::vector<ItemBox> pageBoxes_;
   /// The menu was rebuilt, and neither the pointer nor a key has done anything in it since.
   bool rebuilt_ = false;
+  /// A page is being drawn, and the colours have changed since that began.
+  bool drawingPage_ = false;
+  bool coloursChanged_ = false;
   /// A menu of the shell is up for an item, or its command runs.
   bool shellMenuUp_ = false;
   std::map<std::string, Picture, std::less<>> glyphs_;
