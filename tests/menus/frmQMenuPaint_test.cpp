@@ -272,7 +272,8 @@ TEST_F(Painted, AnIconWithoutAFaceShowsTheNewColourOfItsGround) {
   desk_.World.Icons.WhileAsked([&] {
     if (!std::exchange(changed, true)) desk_.World.Desktop.SetSystemColor(15, kGreen);
   });
-  desk_.Open(1, {Item("Missing", "C:\\nowhere.exe"), Item("There", Tool(3))});
+  // The shell is asked for it only when the file has no icon of that number.
+  desk_.Open(1, {Item("Missing", "C:\\nowhere.exe|3"), Item("There", Tool(3))});
   EXPECT_EQ(IconColour(1), kGreen);
   EXPECT_EQ(IconColour(2), ToolColour(3));
 }
@@ -282,7 +283,10 @@ TEST_F(Painted, IconsThatAreForgottenWhileOneIsFetchedAreFetchedAgain) {
   desk_.World.Icons.WhileAsked([&] {
     if (asked++ < 3) desk_.Menu.ResetPicIcons();
   });
-  desk_.Open(1, Tools(5));
+  std::vector<MenuRecord> items;
+  // As above: it is asked while the icon is being drawn.
+  for (int i = 0; i < 5; ++i) items.push_back(Item("Tool", Tool(i) + "|9"));
+  desk_.Open(1, items);
   for (int i = 1; i <= 5; ++i) EXPECT_EQ(IconColour(i), ToolColour(i - 1)) << i;
 }
 
