@@ -8,7 +8,8 @@ namespace corvelle {
 
 class Program;
 
-// The editing commands of the popup, of drags and of keys, on the entry that Program::Entry names.
+// The editing commands of the popup, of drags and of keys, on the entry that Program::Entry names
+// when they are called: what becomes current while they ask or let events run changes nothing.
 // Each leaves the file as it was when it fails, and says so itself but for a disk that refused:
 // that is the caller's to say or to pass over. What is done on the strip as a whole counts as
 // edited.

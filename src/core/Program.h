@@ -71,6 +71,9 @@ class Program {
   bool IconsLoading = false;
   /// A popup command rewrites a menu file; a drop waits.
   bool ItemActionBusy = false;
+  /// How many popups, messages and menus of the shell wait for the user's answer: until then no
+  /// pointer that passes opens or closes a menu, and nothing is dropped.
+  int OpenQuestions = 0;
   /// An edit of a menu from a window is under way; docking waits.
   bool MenuFormBusy = false;
   /// The outline of the strip is being moved to another edge.
@@ -148,11 +151,16 @@ class Program {
   void SaveEdgeFlags();
   void ReadEdgeFlags();
 
-  /// Message box with the application's title. `owner` may be none, for the desktop.
+  /// Message box with the application's title. `owner` may be none, for the desktop. Until it is
+  /// answered neither the strip nor the menu window takes input; events run all the same, so that
+  /// whoever asks works on copies.
   int Say(WindowId owner, std::string_view text, unsigned flags);
 
   /// The strip's window, none before it is loaded.
   [[nodiscard]] WindowId ToolbarWindow() const;
+  /// The window in which the user acts, to which what is asked belongs: the menu that is up, else
+  /// the strip.
+  [[nodiscard]] WindowId WindowInUse() const;
 };
 
 }  // namespace corvelle

@@ -211,6 +211,15 @@ EditOutcome MoveEntryToSingles(FileSystem& files, const CodePage& ansi, std::str
   return OutcomeOf(taken ? move.Commit() : taken);
 }
 
+void SetCurrentEntry(EntryEdit& live, EntryEdit entry) {
+  entry.ClipTitle = live.ClipTitle;
+  entry.ClipIcon = live.ClipIcon;
+  entry.ClipCommand = live.ClipCommand;
+  RestoreUndo(entry, live);
+  entry.ItemDragging = live.ItemDragging;
+  live = std::move(entry);
+}
+
 void ForgetCurrentEntry(EntryEdit& edit) {
   edit.CurTitle.clear();
   edit.CurIcon.clear();

@@ -135,6 +135,10 @@ EditOutcome MoveEntryToMenu(FileSystem& files, const CodePage& ansi, std::string
 EditOutcome MoveEntryToSingles(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                                const EntryEdit& edit, std::string_view before);
 
+/// Makes the current entry of `entry` that of `live`, which keeps its clipboard, its undo store and
+/// what it says of a carry.
+void SetCurrentEntry(EntryEdit& live, EntryEdit entry);
+
 /// Empties the current entry: nothing is carried or acted on any more.
 void ForgetCurrentEntry(EntryEdit& edit);
 

@@ -13,6 +13,8 @@
 
 namespace corvelle {
 
+struct EntryEdit;
+
 // What the windows of the program may ask of one another. Each port lists what others need and no
 // more; the windows behind them stand on higher floors.
 
@@ -27,10 +29,19 @@ class LoadedWindow {
   [[nodiscard]] virtual bool WindowLoaded() const = 0;
 };
 
-/// The strip.
-class ToolbarPort : public LoadedWindow {
+/// A window that takes no input while a message of the program is up. A side without a window has
+/// nothing to do.
+class AskingWindow : public LoadedWindow {
  public:
   [[nodiscard]] virtual WindowId WindowHandle() const = 0;
+  /// `owns`: the message belongs to this window, and the system disables it by itself.
+  virtual void HoldForMessage(bool /*owns*/) {}
+  virtual void ReleaseAfterMessage() {}
+};
+
+/// The strip.
+class ToolbarPort : public AskingWindow {
+ public:
   [[nodiscard]] virtual WindowId ButtonBoxHandle() const = 0;  // picToolbar
   [[nodiscard]] virtual WindowId SingleBoxHandle() const = 0;  // picSingleButton
 
@@ -98,9 +109,8 @@ class ToolbarPort : public LoadedWindow {
 };
 
 /// The one menu window.
-class QMenuPort : public LoadedWindow {
+class QMenuPort : public AskingWindow {
  public:
-  [[nodiscard]] virtual WindowId WindowHandle() const = 0;
   [[nodiscard]] virtual bool MenuVisible() const = 0;
 
   /// Index of the button that owns the menu, as decimal text; "0" when none, empty before the
@@ -356,8 +366,9 @@ class MainMenuPort {
 class PopupPort {
  public:
   virtual ~PopupPort() = default;
-  /// Fills the popup for the current item and shows it at the pointer.
-  virtual void ShowToolbarPopup() = 0;
+  /// Makes the entry the current one (Program::Entry), fills the popup for it, shows it at the
+  /// pointer and carries out the choice. While one is up, or its command runs, nothing is changed.
+  virtual void ShowToolbarPopup(EntryEdit entry) = 0;
 };
 
 /// The window in which an entry is edited.

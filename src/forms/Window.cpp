@@ -35,7 +35,7 @@ bool Window::CreatePeer(PeerKind kind, WindowPeer* parent, bool inTaskbar) {
                                .InTaskbar = inTaskbar},
                               *this);
   if (!peer_) return false;
-  if (!Enabled()) peer_->SetEnabled(false);
+  if (!Enabled() || inputHolds_ > 0) peer_->SetEnabled(false);
   if (takesDrops_) static_cast<void>(peer_->SetTakesDrops(true));
   return true;
 }
@@ -54,7 +54,16 @@ void Window::VisibleChanged() {
 }
 
 void Window::EnabledChanged() {
-  if (peer_) peer_->SetEnabled(Enabled());
+  if (peer_ && inputHolds_ == 0) peer_->SetEnabled(Enabled());
+}
+
+void Window::HoldInput() {
+  ++inputHolds_;
+  if (peer_) peer_->SetEnabled(false);
+}
+
+void Window::ReleaseInput() {
+  if (--inputHolds_ == 0) EnabledChanged();
 }
 
 void Window::BoundsChanged(float /*oldLeft*/, float /*oldTop*/, float /*oldWidth*/,

@@ -28,6 +28,14 @@ class Window : public Control, protected WindowEvents {
 
   WindowSystem& Windows() const noexcept { return windows_; }
 
+  /// From here to ReleaseInput the window takes neither mouse nor keyboard, whatever Enabled says;
+  /// changes of Enabled take effect afterwards. Several holds count.
+  void HoldInput();
+  /// The same for the owner of a message box, which the box itself disables and enables again:
+  /// only the changes of Enabled wait.
+  void HoldInputOfOwner() { ++inputHolds_; }
+  void ReleaseInput();
+
   /// Drags of other programs come to this window. Without it, as at first, they go to the window
   /// around it, if that takes them.
   [[nodiscard]] bool TakesDrops() const noexcept { return takesDrops_; }
@@ -75,6 +83,7 @@ class Window : public Control, protected WindowEvents {
   Alive alive_;
   std::unique_ptr<WindowPeer> peer_;
   bool takesDrops_ = false;
+  int inputHolds_ = 0;
   PixelRect shownBounds_;  // as the peer last told
 };
 

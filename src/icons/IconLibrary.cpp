@@ -89,7 +89,7 @@ void ExtractIconLibrary(Program& program, std::string_view target, std::string_v
   const std::string folder = EnsureBackslash(target);
   const std::string container = EnsureBackslash(source) + std::string(kLibraryFile);
   if (!files.FileExists(container)) {
-    program.Say(kNoWindow, kMissing, kMissingFlags);
+    program.Say(program.ToolbarWindow(), kMissing, kMissingFlags);
     return;
   }
   const std::uint64_t end = files.Length(container).ValueOr(0);

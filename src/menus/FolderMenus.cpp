@@ -124,7 +124,7 @@ bool FolderMenus::Write(const std::string& path, const std::string& bytes) {
   const FileStatus written = files.Write(path, bytes);
   if (written) return true;
   static_cast<void>(files.Remove(path));
-  program_.Say(program_.ToolbarWindow(), NumberedFileError(written.Error()), forms::msgbox::OnTop);
+  program_.Say(program_.WindowInUse(), NumberedFileError(written.Error()), forms::msgbox::OnTop);
   return false;
 }
 

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
@@ -35,6 +36,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void UnloadWindow() override;
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
+  void HoldForMessage(bool owns) override { owns ? HoldInputOfOwner() : HoldInput(); }
+  void ReleaseAfterMessage() override { ReleaseInput(); }
   [[nodiscard]] bool MenuVisible() const override { return IsLoaded() && Visible(); }
   [[nodiscard]] const std::string& OwnerTag() const override { return Tag; }
   void SetOwnerTag(std::string tag) override { Tag = std::move(tag); }
@@ -243,6 +246,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void ShowPage();
   /// Draws the page on show; `watched`: the captions come first and then one icon after the other.
   void DrawPage(bool watched);
+  void DrawPageOnce(bool watched);
   void DrawItemIcon(int index);
   void DrawRules();
   void PrintCaptions();
@@ -263,6 +267,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void DrawBox(int index);
   void HideBox();
   static void SetLine(forms::Line& line, const TwipLine& at);
+  /// The entry that an item stands for; tells whether it follows a separator.
+  [[nodiscard]] EntryEdit EntryOf(int index);
   void FillCurrentItem(int index);
 
   // Pointer (frmQMenuPointer.cpp).
@@ -315,6 +321,11 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   std::vector<ItemBox> pageBoxes_;
   /// The menu was rebuilt, and neither the pointer nor a key has done anything in it since.
   bool rebuilt_ = false;
+  /// A page is being drawn, and the colours have changed since that began.
+  bool drawingPage_ = false;
+  bool coloursChanged_ = false;
+  /// A menu of the shell is up for an item, or its command runs.
+  bool shellMenuUp_ = false;
   std::map<std::string, Picture, std::less<>> glyphs_;
 };
 

@@ -128,8 +128,10 @@ void frmQMenu::EnableLabel(int index) {
 
 // ---- the current item ----
 
-void frmQMenu::FillCurrentItem(int index) {
-  EntryEdit& entry = program_.Entry;
+void frmQMenu::FillCurrentItem(int index) { SetCurrentEntry(program_.Entry, EntryOf(index)); }
+
+EntryEdit frmQMenu::EntryOf(int index) {
+  EntryEdit entry;
   entry.CurIcon = GetIconName(index);
   entry.CurTitle = SingleAmpersands(Lbl[index].Caption());
   entry.CurCommand = GetExeName(index);
@@ -142,6 +144,7 @@ void frmQMenu::FillCurrentItem(int index) {
     entry.CurCommand = entry.CurTitle + "\\" + entry.CurCommand;
     entry.CurIcon = entry.CurCommand;
   }
+  return entry;
 }
 
 void frmQMenu::RefreshQMenu() {

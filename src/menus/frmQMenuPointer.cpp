@@ -7,6 +7,7 @@
 #include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "forms/Scale.h"
+#include "forms/Scopes.h"
 #include "launch/LaunchItem.h"
 #include "menus/frmQMenu.h"
 #include "platform/DesktopWindows.h"
@@ -150,7 +151,6 @@ void frmQMenu::OfferItem(ShiftState shift) {
   const int index = program_.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled()) return;
   KeyboardActive = true;
-  FillCurrentItem(index);
   SavedMenuKey = MenuKey;
   if (OffersShellMenu(EqualNoCase(MenuKey, kMainMenuKey), program_.OptionFlags.At(19),
                       shift.Ctrl) &&
@@ -158,20 +158,24 @@ void frmQMenu::OfferItem(ShiftState shift) {
     OfferShellMenu(index);
     return;
   }
-  if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup();
+  if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup(EntryOf(index));
 }
 
 void frmQMenu::OfferShellMenu(int index) {
+  FillCurrentItem(index);
   // The item may be another one by the time the menu of the shell is gone, and so may the window.
   const std::string command = GetExeName(index);
   const std::string title = SingleAmpersands(Lbl[index].Caption());
   const std::string key = MenuKey;
   const auto watch = MakeWatch();
-  if (!program_.Ports.SpecialFolders->ShowContextMenu(
-          command, title, program_.Services.Pointer.PointerPosition(), hWnd()) ||
-      watch.Gone()) {
-    return;
-  }
+  const auto runs = [&] {
+    // Until the user has chosen, a pointer that passes over the strip opens no other menu.
+    const forms::CountScope asking(program_.OpenQuestions);
+    const forms::FlagScope offering(shellMenuUp_);
+    return program_.Ports.SpecialFolders->ShowContextMenu(
+        command, title, program_.Services.Pointer.PointerPosition(), hWnd());
+  };
+  if (!runs() || watch.Gone()) return;
   // A menu that came up meanwhile is another matter.
   if (IsLoaded() && Visible() && EqualNoCase(MenuKey, key)) CloseMenu();
 }
@@ -180,6 +184,8 @@ void frmQMenu::OfferShellMenu(int index) {
 
 void frmQMenu::Timer1_Timer() {
   if (program_.MenuBuilding) return;
+  // A message or a popup of the menu is no going away; what a command of the shell shows is.
+  if (program_.OpenQuestions > 0 && !shellMenuUp_) return;
   // A drag decides which menu is up, but one that is hidden under it has to go, to come up again.
   if (program_.DragHolds() && Visible()) return;
   // A still picture of the menu does not outlive the rebuild that it was made for.

@@ -140,6 +140,7 @@ class SingleRow final : public SingleButtonsPort {
   /// Runs while the pointer is over a button or the date: nobody tells that it left.
   forms::Timer watch_;
   int hovered_ = 0;
+  unsigned iconRounds_ = 0;  // times that the row's icons were drawn
   Press press_;
   bool carrying_ = false;  // the entry that is carried began here
   bool running_ = false;

@@ -301,7 +301,7 @@ void frmToolbar::OfferDefaultEntries() {
     return;
   }
   const int answer =
-      program_.Say(kNoWindow,
+      program_.Say(hWnd(),
                    "Corvelle doesn't contain any entries. Would you like to add the default "
                    "entries to Corvelle?",
                    forms::msgbox::YesNo | forms::msgbox::IconQuestion | forms::msgbox::OnTop);

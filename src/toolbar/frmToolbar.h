@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "core/MenuRecord.h"
+#include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
@@ -37,6 +39,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void UnloadWindow() override;
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
+  void HoldForMessage(bool owns) override { owns ? HoldInputOfOwner() : HoldInput(); }
+  void ReleaseAfterMessage() override { ReleaseInput(); }
   [[nodiscard]] WindowId ButtonBoxHandle() const override { return picToolbar.hWnd(); }
   [[nodiscard]] WindowId SingleBoxHandle() const override { return picSingleButton.hWnd(); }
   [[nodiscard]] TwipRect WindowBounds() const override {
@@ -66,6 +70,11 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// Draws the buttons anew without moving anything, after a change of the system's colours.
   void RefreshToolbar() override;
   void MarkCollections() override { CollectionsMarked = true; }
+  /// Draws an icon in a box: `draw` gets a canvas of the size of `place` with what stands there.
+  /// `rounds` counts the times that all icons of the box are drawn: when it changes meanwhile the
+  /// icon is given up.
+  void DrawIconIn(forms::PictureBox& box, const PixelRect& place, const unsigned& rounds,
+                  const std::function<void(Canvas&)>& draw);
 
   // ---- new buttons (frmToolbarNewButton.cpp) ----
 
@@ -371,6 +380,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void KeepHintTimes(WindowId under);
   void HoverButton(int button);
   void ShowButtonPopup();
+  [[nodiscard]] EntryEdit EntryOfButton(int button);
   void ShowFramePopup(std::string_view tag);
   void FollowFrame(forms::MouseButton down, float x, float y);
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
@@ -435,6 +445,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
 
   Program& program_;
   std::vector<MenuRecord> records_;  // of the buttons, by their index
+  unsigned iconRounds_ = 0;          // times that the buttons' icons were drawn
   std::string lastTag_;              // of the menu that was opened last
   AbandonWatch carryWatch_;
   AbandonWatch pullWatch_;

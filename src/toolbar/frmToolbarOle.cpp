@@ -227,7 +227,7 @@ void frmToolbar::picSingleButton_OLEDragOver(DragData& data, DropEffect& effect,
   const bool wanted = data.Files ? program_.Ports.SingleButtons != nullptr
                                  : data.Text && program_.Ports.WebLink != nullptr;
   effect = wanted && TakesDrag(data) ? effect & EffectOfDrag(down) : DropEffect::None;
-  if (!IsOfUse(data)) return;
+  if (!IsOfUse(data) || program_.OpenQuestions > 0) return;
   program_.SetHint("");
   NoteDrag(data, down);
   ResetMenu();

@@ -182,6 +182,8 @@ void frmToolbar::KeepHintTimes(WindowId under) {
 // Moving along the strip changes the menu. The button of the program's own menu has none to show
 // where that menu is not part of the program: the one that is up goes.
 void frmToolbar::HoverButton(int button) {
+  // A popup, a message or a menu of the shell stands over the menu that is up.
+  if (program_.OpenQuestions > 0) return;
   if (!OpensMenu(button)) {
     HideMenuWhileTracking();
   } else if (!MenuUp() || MenuOwner() != button) {
@@ -234,24 +236,30 @@ void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState
 void frmToolbar::ShowButtonPopup() {
   GetCurButton();
   const int button = program_.CurButton;
+  if (program_.Ports.Popup == nullptr || button < 1 || button > ButtonCount) return ResetMenu();
+  // Events run while the menu closes, and the button may be another one after them.
+  const EntryEdit entry = EntryOfButton(button);
   ResetMenu();
-  if (!IsLoaded() || program_.Ports.Popup == nullptr || button < 1 || button > ButtonCount) return;
-  EmptyCurrentItem();
-  program_.Entry.CurMenuTag = "B" + std::to_string(button);
+  if (!IsLoaded()) return;
   lastTag_ = (button > 1 ? "F" : "B") + std::to_string(button);
-  if (button > 1) {
-    program_.Entry.CurFile = ToolbarButtons[static_cast<std::size_t>(button)].Path;
-    // A file that cannot be read now leaves the texts empty, and no edit will find its record.
-    const MenuRecord record = ReadButtonRecord(program_.Entry.CurFile).value_or(MenuRecord{});
-    program_.Entry.CurRecord = 1;
-    program_.Entry.CurTitle = record.FTitle;
-    program_.Entry.CurIcon = record.FIcon;
-    program_.Entry.CurCommand = record.FName;
-  }
-  program_.Ports.Popup->ShowToolbarPopup();
+  program_.Ports.Popup->ShowToolbarPopup(entry);
+}
+
+EntryEdit frmToolbar::EntryOfButton(int button) {
+  EntryEdit entry{.CurMenuTag = "B" + std::to_string(button)};
+  if (button == 1) return entry;
+  entry.CurFile = ToolbarButtons[static_cast<std::size_t>(button)].Path;
+  // A file that cannot be read now leaves the texts empty, and no edit will find its record.
+  const MenuRecord record = ReadButtonRecord(entry.CurFile).value_or(MenuRecord{});
+  entry.CurRecord = 1;
+  entry.CurTitle = record.FTitle;
+  entry.CurIcon = record.FIcon;
+  entry.CurCommand = record.FName;
+  return entry;
 }
 
 void frmToolbar::Timer2_Timer() {
+  if (program_.OpenQuestions > 0) return;
   if (program_.Entry.ItemDragging || program_.PosChangeRunning || program_.MenuBuilding) return;
   // What another program drags changes and closes the menu by its own events.
   if (program_.DragHolds()) return;

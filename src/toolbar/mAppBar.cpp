@@ -55,10 +55,10 @@ bool mAppBar::AutoHideFree(std::string_view edge) {
 }
 
 void mAppBar::ShowAutoHideTaken() {
-  program_.Windows.ShowMessage(kNoWindow,
-                               "A toolbar is already hidden on this side of your screen.\r\n"
-                               "You can have only one auto-hide toolbar per side.",
-                               "Corvelle", forms::msgbox::IconStop | forms::msgbox::OnTop);
+  program_.Say(program_.WindowInUse(),
+               "A toolbar is already hidden on this side of your screen.\r\n"
+               "You can have only one auto-hide toolbar per side.",
+               forms::msgbox::IconStop | forms::msgbox::OnTop);
 }
 
 // Measures.

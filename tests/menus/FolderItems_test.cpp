@@ -284,17 +284,21 @@ TEST(FolderItems, AnEditGoesToTheMenuFileItself) {
   desk.OpenCommands({"C:\\Docs\\*.*", "a.exe"});
   class Popup final : public PopupPort {
    public:
-    void ShowToolbarPopup() override { ++Shown; }
+    void ShowToolbarPopup(EntryEdit entry) override {
+      ++Shown;
+      Seen = std::move(entry);
+    }
     int Shown = 0;
+    EntryEdit Seen;
   } popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.TheProgram.OptionFlags.Set(19, '1');
   desk.PointAtItem(4);
   desk.World.Desktop.Click(forms::MouseButton::Right);
   EXPECT_EQ(popup.Shown, 1);
-  EXPECT_EQ(desk.TheProgram.Entry.CurFile, "C:\\Corvelle\\Menus\\BMENU001.MNU");
-  EXPECT_EQ(desk.TheProgram.Entry.CurRecord, 3);
-  EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "Item 3");
+  EXPECT_EQ(popup.Seen.CurFile, "C:\\Corvelle\\Menus\\BMENU001.MNU");
+  EXPECT_EQ(popup.Seen.CurRecord, 3);
+  EXPECT_EQ(popup.Seen.CurTitle, "Item 3");
 }
 
 }  // namespace

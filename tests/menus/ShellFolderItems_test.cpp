@@ -151,10 +151,15 @@ TEST_F(ShellFolderItems, TheBinIsNotLookedAtForOtherFolders) {
 TEST_F(ShellFolderItems, ARightClickNamesTheEntryByItsTitle) {
   desk_.OpenCommands({"CSIDL_DRIVES/u"});
   desk_.TheProgram.OptionFlags.Set(19, '1');
+  struct Popup final : PopupPort {
+    void ShowToolbarPopup(EntryEdit entry) override { Seen = std::move(entry); }
+    EntryEdit Seen;
+  } popup;
+  desk_.TheProgram.Ports.Popup = &popup;
   desk_.PointAtItem(1);
   desk_.World.Desktop.Click(forms::MouseButton::Right);
-  EXPECT_EQ(desk_.TheProgram.Entry.CurCommand, "c: Drive\\CSIDL_DRIVES");
-  EXPECT_EQ(desk_.TheProgram.Entry.CurRecord, 5002);
+  EXPECT_EQ(popup.Seen.CurCommand, "c: Drive\\CSIDL_DRIVES");
+  EXPECT_EQ(popup.Seen.CurRecord, 5002);
 }
 
 }  // namespace

@@ -271,9 +271,9 @@ TEST(frmQMenuChoice, AMenuOpenedWhileTheOldOneClosesKeepsItsOwnSelection) {
 class NotingPopup final : public PopupPort {
  public:
   explicit NotingPopup(Program& program) : program_(program) {}
-  void ShowToolbarPopup() override {
+  void ShowToolbarPopup(EntryEdit entry) override {
     ++Shown;
-    Seen = program_.Entry;
+    Seen = std::move(entry);
     SelectedThen = program_.SelectedItem;
   }
   int Shown = 0;

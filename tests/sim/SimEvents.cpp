@@ -173,7 +173,8 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   box.Answer = answer->Button;
   boxes_.push_back(box);
 
-  // The box is a window of ours that has the foreground, and its owner gets no input meanwhile.
+  // The box is a window of ours that has the foreground. Its owner gets no input meanwhile; other
+  // windows of ours do.
   const WindowId before = foreground_;
   const PixelPoint corner{(options_.Screen.width - kClassicBoxWidth) / 2,
                           (options_.Screen.height - kClassicBoxHeight) / 2};
@@ -199,7 +200,12 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   depth_ = depth;
 
   if ((blocked = Get(owner)) != nullptr) blocked->Enabled = wasEnabled;
-  if (foreground_ == window && Look(before) != nullptr && IsShown(before)) Activate(before);
+  // The owner comes to the foreground after the box, if it can be seen and takes input again.
+  const bool toOwner = blocked != nullptr && blocked->Enabled && IsShown(owner);
+  const WindowId next = toOwner ? TopOf(owner) : before;
+  if (foreground_ == window && Look(next) != nullptr && IsShown(next) && Look(next)->Enabled) {
+    Activate(next);
+  }
   Destroy(window);
   return box.Answer;
 }

@@ -235,7 +235,7 @@ TEST(AutoHide, ASideTakenByAnotherIsToldOfOnceAndTheStripDocksInFullSight) {
   ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(desk.World.Desktop.Boxes()[0].Title, "Corvelle");
   EXPECT_EQ(desk.World.Desktop.Boxes()[0].Flags, 262160U);
-  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Owner, kNoWindow);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Owner, desk.Strip.hWnd());
   EXPECT_EQ(desk.Bounds(), (PixelRect{0, 0, 41, 768}));
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{41, 0, 1024, 768}));
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Left), other);

@@ -150,6 +150,37 @@ TEST(SingleRow, AChangeOfColoursDrawsTheRowAnewAndMovesNothing) {
   EXPECT_NE(desk.Strip.picSingleButton.Image()->PixelAt({13, 12}), 0x00123456U);
 }
 
+// The shell lets messages in while it is asked for an icon, be it one of a button or of the row.
+TEST(SingleRow, ColoursAndFilesThatChangeWhileIconsAreFetchedShowInTheWholeStrip) {
+  for (int at = 0; at < 5; ++at) {
+    SCOPED_TRACE(at);
+    SinglesDesk desk;
+    desk.PutButton(1, "One", "C:\\Tools\\a.exe");
+    desk.PutSingles("abc");
+    desk.Start();
+    int asked = 0;
+    desk.World.Icons.WhileAsked([&] {
+      if (asked++ != at) return;
+      // More buttons than there was room for.
+      for (int i = 4; i < 20; ++i) desk.PutSingle(i, "d");
+      for (int i = 2; i < 20; ++i) desk.PutButton(i, "More", "C:\\Tools\\a.exe");
+      desk.World.Desktop.SetSystemColor(15, 0x00123456);
+    });
+    desk.Strip.RefreshToolbar();
+    EXPECT_GT(asked, at);
+    EXPECT_EQ(desk.Row(), "abc" + std::string(16, 'd'));
+    EXPECT_EQ(desk.Strip.ButtonCount, 20);
+    const auto row = desk.Strip.picSingleButton.Image();
+    EXPECT_EQ(row->PixelAt({1, 2}), 0x00123456U);
+    for (int i = 1; i <= 19; ++i) {
+      const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+      const PixelPoint middle = desk.MiddleOf(i);
+      EXPECT_NE(row->PixelAt({middle.x - box.left, middle.y - box.top}), 0x00123456U) << i;
+    }
+    EXPECT_EQ(desk.Strip.picToolbar.Image()->PixelAt({20, 1}), 0x00123456U);
+  }
+}
+
 TEST(SingleRow, ARefreshWithOtherFilesMakesTheRowAnew) {
   SinglesDesk desk;
   desk.PutSingles("ab");

@@ -28,7 +28,12 @@ struct NotedParts final : HintPort, DragImagePort, PopupPort, SpecialFoldersPort
     Asked.push_back("image " + std::string(icon));
   }
   void RemoveDragImage() override { Asked.emplace_back("no image"); }
-  void ShowToolbarPopup() override { Asked.emplace_back("popup"); }
+  void ShowToolbarPopup(EntryEdit entry) override {
+    Asked.emplace_back("popup");
+    if (Current != nullptr) SetCurrentEntry(*Current, std::move(entry));
+  }
+  /// Takes the entry of each popup.
+  EntryEdit* Current = nullptr;
   int SpecialFolderIconIndex(std::string_view) override { return -1; }
   void OpenSpecialFolder(std::string_view, std::string_view) override {}
   bool ShowContextMenu(std::string_view command, std::string_view title, PixelPoint,

@@ -19,9 +19,7 @@ struct MainMenuDouble final : MainMenuPort {
 
 /// A popup that notes the entry it was shown for.
 struct PopupEntries final : PopupPort {
-  explicit PopupEntries(Program& program) : TheProgram(program) {}
-  void ShowToolbarPopup() override { Shown.push_back(TheProgram.Entry); }
-  Program& TheProgram;
+  void ShowToolbarPopup(EntryEdit entry) override { Shown.push_back(std::move(entry)); }
   std::vector<EntryEdit> Shown;
 };
 
@@ -531,7 +529,7 @@ TEST(ToolbarCarry, IsAbandonedWhenNoMouseButtonIsDown) {
 
 TEST(ToolbarPopup, ARightClickOnAButtonNamesItsRecord) {
   ThreeMenus desk;
-  PopupEntries popup(desk.TheProgram);
+  PopupEntries popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.Click(4);
   desk.PointAtButton(3);
@@ -547,7 +545,7 @@ TEST(ToolbarPopup, ARightClickOnAButtonNamesItsRecord) {
 
 TEST(ToolbarPopup, ItsButtonsMenuIsTheOneThatIsReadAnewWithoutATag) {
   ThreeMenus desk;
-  PopupEntries popup(desk.TheProgram);
+  PopupEntries popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.PointAtButton(3);
   desk.World.Desktop.Click(MouseButton::Right);
@@ -557,7 +555,7 @@ TEST(ToolbarPopup, ItsButtonsMenuIsTheOneThatIsReadAnewWithoutATag) {
 
 TEST(ToolbarPopup, TheMainButtonHasNoRecord) {
   ThreeMenus desk;
-  PopupEntries popup(desk.TheProgram);
+  PopupEntries popup;
   desk.TheProgram.Ports.Popup = &popup;
   EntryEdit& entry = desk.TheProgram.Entry;
   entry.CurTitle = entry.CurIcon = entry.CurCommand = entry.CurFile = "of another entry";
@@ -599,7 +597,7 @@ TEST(ToolbarPopup, ARightPressOnAButtonThatIsLetGoElsewhereMeansWhatIsThere) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     ThreeMenus desk;
-    PopupEntries popup(desk.TheProgram);
+    PopupEntries popup;
     desk.TheProgram.Ports.Popup = &popup;
     desk.PointAtButton(2);
     desk.World.Desktop.Press(MouseButton::Right);
@@ -613,7 +611,7 @@ TEST(ToolbarPopup, ARightPressOnAButtonThatIsLetGoElsewhereMeansWhatIsThere) {
 
 TEST(ToolbarPopup, OfAButtonWhoseFileIsGoneHasEmptyTexts) {
   ThreeMenus desk;
-  PopupEntries popup(desk.TheProgram);
+  PopupEntries popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU002.MNU");
   desk.PointAtButton(3);
