@@ -44,5 +44,18 @@ TEST(DesktopOnWindows, SendGivesTheAnswerAndGivesUpAfterTwoSeconds) {
   EXPECT_LT(waited, 3500U);
 }
 
+TEST(DesktopOnWindows, AnotherProgramsWindowIsNotAskedToPaint) {
+  const OtherWindow other;
+  win32::Win32Desktop desktop;
+  // It is busy for a while, and owes a paint.
+  PostMessageW(other.Handle(), kNotAnswered, 0, 0);
+  Sleep(200);
+  InvalidateRect(other.Handle(), nullptr, TRUE);
+  const ULONGLONG before = GetTickCount64();
+  desktop.PaintVisibleWindows();
+  EXPECT_LT(GetTickCount64() - before, 1000U);
+  EXPECT_NE(GetUpdateRect(other.Handle(), nullptr, FALSE), 0);
+}
+
 }  // namespace
 }  // namespace corvelle
