@@ -81,12 +81,15 @@ class Keyboard : public ::testing::Test {
     desk_->Key(kKeyF10);
     ASSERT_TRUE(
         desk_->Wait([this] { return desk_->BoundsOf("picToolbar").Contains(desk_->Pointer()); }));
+    desk_->Pause(300);
     desk_->Key(kKeyRight);
     const PixelPoint second = ButtonMiddle(*desk_, 2);
     ASSERT_TRUE(desk_->Wait([&] {
       return std::abs(desk_->Pointer().x - second.x) < 8 &&
              std::abs(desk_->Pointer().y - second.y) < 8;
-    }));
+    })) << "the pointer is at "
+        << desk_->Pointer().x << ',' << desk_->Pointer().y << " and not at " << second.x << ','
+        << second.y << "; in front is " << desk_->ForegroundClass();
     desk_->Pause(250);
     desk_->Key(kKeyEnter);
     ASSERT_TRUE(WaitForMenuAt(*desk_, 2));
