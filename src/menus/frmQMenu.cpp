@@ -239,9 +239,15 @@ void frmQMenu::PresentMenu() {
 void frmQMenu::BringUp() {
   if (Visible()) return;
   ShowNoActivate();
-  // A menu that is rebuilt behind its still picture leaves the foreground alone, and so does one
-  // that opens under another program's drag.
-  if (!IsCaptured() && !program_.DragHolds()) SetForeground();
+  // Another program's drag keeps the foreground.
+  if (program_.DragHolds()) return;
+  // A menu that was rebuilt behind its still picture has the keyboard again, if the program still
+  // has it.
+  if (IsCaptured()) {
+    SetFocus();
+  } else {
+    SetForeground();
+  }
 }
 
 void frmQMenu::PlaceMenu() {

@@ -12,6 +12,7 @@
 #include "platform/FileSystem.h"
 #include "platform/ShellIcons.h"
 #include "platform/SystemInfo.h"
+#include "toolbar/ForegroundScope.h"
 
 namespace corvelle {
 namespace {
@@ -313,11 +314,18 @@ void frmToolbar::OfferDefaultEntries() {
 }
 
 void frmToolbar::InitNewButtons() {
-  // One rebuild at a time: the one that runs reads the files as they are by then.
-  if (!IsLoaded() || program_.AppBarBusy) return;
+  if (!IsLoaded()) return;
+  // One rebuild at a time. The one that runs may have read the options and files already.
+  if (program_.AppBarBusy) {
+    rebuildWaits_ = true;
+    Timer1.SetEnabled(true);
+    return;
+  }
+  rebuildWaits_ = false;
   const forms::HourglassScope hourglass(program_.Windows);
   program_.DoEvents();
   if (!IsLoaded()) return;
+  const ForegroundScope foreground(program_, *this);
   program_.SaveEdgeFlags();
   program_.SaveOptionFlags();
   UpdateToolbarPosition();
@@ -351,8 +359,15 @@ void frmToolbar::RebuildAtTop() {
 }
 
 void frmToolbar::RestoreToolbar() {
-  // A strip that is just being placed would be left half at its edge.
-  if (!IsLoaded() || program_.AppBarBusy) return;
+  if (!IsLoaded()) return;
+  // A strip that is just being placed would be left half at its edge: it leaves the edge
+  // afterwards.
+  if (program_.AppBarBusy) {
+    restoreWaits_ = true;
+    Timer1.SetEnabled(true);
+    return;
+  }
+  restoreWaits_ = false;
   program_.RestoreBusy = true;
   if (program_.AppBarDocked) {
     program_.SaveEdgeFlags();

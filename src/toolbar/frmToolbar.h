@@ -194,9 +194,14 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void HideWindow() override { Hide(); }
   /// Hides all that is on the strip: what remains is a line, or bare.
   void HideContents();
-  /// After a strip came out of hiding under a full-screen program: puts it before the window that
-  /// covers it.
+  /// After a strip came out of hiding under a full-screen program: it is topmost until it hides
+  /// again.
   void EnsureToolbarVisible();
+  /// After a strip went into hiding: under a full-screen program it is behind all again.
+  void SinkAgain();
+  /// Where the window stands, and the size of the primary screen. Pixels.
+  [[nodiscard]] PixelRect WindowPixels() const;
+  [[nodiscard]] PixelSize ScreenPixels() const;
   /// Ends a move of the strip: it takes the place that the screen and the options let it have.
   void AdjustToolbarPosition();
   /// Bars or the screen have changed at a moment when the strip could not be placed: it is placed
@@ -354,6 +359,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void ShowMenuOf(int button);
   [[nodiscard]] std::string MainMenuFile();
   void ReopenMenu(const std::string& tag);
+  /// The strip becomes active if the menu is.
+  void TakeOverFromMenu();
   void HideMenuWindow();
   void HideMenuWhileTracking();
 
@@ -439,9 +446,6 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] bool MayHide(PixelPoint pointer, WindowId under) const;
   [[nodiscard]] bool MustReveal(PixelPoint pointer, WindowId under) const;
   [[nodiscard]] bool ImageLoaded() const;
-  /// The window's upper left corner in pixels.
-  [[nodiscard]] PixelPoint CornerPixels() const;
-  [[nodiscard]] PixelSize ScreenPixels() const;
 
   Program& program_;
   std::vector<MenuRecord> records_;  // of the buttons, by their index
@@ -460,6 +464,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   bool barsWait_ = false;    // bars or the screen have changed since the strip was placed
   bool levelWaits_ = false;  // a full-screen program came or went meanwhile
   bool newTaskBar_ = false;  // the strip is not registered with the shell any more
+  // A rebuild, or the way to the top, was asked for while the strip was being placed.
+  bool rebuildWaits_ = false;
+  bool restoreWaits_ = false;
 };
 
 }  // namespace corvelle

@@ -31,8 +31,15 @@ bool frmToolbar::OpensMenu(int button) const {
   return button != 1 || program_.Ports.MainMenu != nullptr;
 }
 
+// An active window that hides hands the activation to whatever window Windows finds next, of
+// another program too.
+void frmToolbar::TakeOverFromMenu() {
+  if (program_.Services.Desktop.ActiveWindow() == program_.Ports.QMenu->WindowHandle()) SetFocus();
+}
+
 void frmToolbar::HideMenuWindow() {
   if (!MenuUp()) return;
+  TakeOverFromMenu();
   program_.Ports.QMenu->HideMenu();
   program_.Services.Desktop.PaintVisibleWindows();
 }
@@ -110,10 +117,11 @@ void frmToolbar::RefreshMenu(std::string_view tag) {
   const forms::FlagScope refreshing(MenuRefreshing);
   Timer2.SetEnabled(false);
   menu->SetPoll(false);
-  SetEnabled(false);
   ReopenMenu(tag.empty() ? lastTag_ : std::string(tag));
   if (!IsLoaded()) return;
   SetEnabled(true);
+  // A window that was disabled has lost the keyboard, though it is active.
+  if (program_.Services.Desktop.ActiveWindow() == hWnd()) SetFocus();
   if (MenuUp()) Timer2.SetEnabled(true);
 }
 
@@ -122,6 +130,9 @@ void frmToolbar::ReopenMenu(const std::string& tag) {
   CapturePort* const capture = program_.Ports.Capture;
   const bool captures = capture != nullptr && MenuUp() && !capture->MenuCaptured();
   if (captures) capture->CaptureMenu();
+  // While it is still enabled: a disabled window takes no activation.
+  if (MenuUp()) TakeOverFromMenu();
+  SetEnabled(false);
   if (MenuUp()) menu.HideMenu();
   ShowToolbar();
   if (ButtonOfTag(tag) != 0) {

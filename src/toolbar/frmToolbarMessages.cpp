@@ -67,7 +67,9 @@ bool frmToolbar::IsNewTaskBar(std::uint32_t message) const {
   return message != 0 && message == program_.Services.Tray.TaskbarCreatedMessage();
 }
 
-bool frmToolbar::NewsWait() const { return barsWait_ || levelWaits_ || newTaskBar_; }
+bool frmToolbar::NewsWait() const {
+  return barsWait_ || levelWaits_ || newTaskBar_ || rebuildWaits_ || restoreWaits_;
+}
 
 // A strip that is being built or placed looks afterwards at what has changed meanwhile: nobody
 // says it again.
@@ -87,6 +89,13 @@ std::optional<std::intptr_t> frmToolbar::NoteForLater(std::uint32_t message, std
 }
 
 void frmToolbar::CatchUp() {
+  if (std::exchange(restoreWaits_, false)) {
+    rebuildWaits_ = false;
+    RestoreToolbar();
+  } else if (std::exchange(rebuildWaits_, false)) {
+    InitNewButtons();
+  }
+  if (!IsLoaded()) return;
   if (std::exchange(levelWaits_, false) && !program_.NotOnTop) TakeLevel();
   if (std::exchange(newTaskBar_, false)) {
     // It knows nothing of the bars of the one before.

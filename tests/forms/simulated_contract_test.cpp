@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/InputContract.h"
 #include "forms/PostContract.h"
@@ -9,7 +10,7 @@
 namespace corvelle::forms {
 namespace {
 
-class SimulatedHome final : public InputHome {
+class SimulatedHome final : public ActivationHome {
  public:
   WindowSystem& Windows() override { return world_.Desktop; }
   DesktopWindows& Desktop() override { return world_.Desktop; }
@@ -24,6 +25,16 @@ class SimulatedHome final : public InputHome {
     world_.Desktop.WhilePopupIsUp([action = std::move(action)](const sim::Popup&) { action(); });
   }
   void ClosePopup() override { world_.Desktop.PressKey(key::Escape); }
+  WindowId OpenOther() override {
+    const WindowId other = world_.Desktop.AddOtherWindow({.Title = "Contract other"});
+    world_.Desktop.TakeForeground(other);
+    return other;
+  }
+  void AnswerBox(std::function<void()> whileUp) override {
+    world_.Desktop.Answer(msgbox::AnswerOk);
+    world_.Desktop.WhileBoxIsUp(
+        [whileUp = std::move(whileUp)](const sim::MessageBox&) { whileUp(); });
+  }
 
  private:
   sim::World world_;
@@ -36,6 +47,8 @@ INSTANTIATE_TEST_SUITE_P(Simulated, PostContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, CanvasContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, InputContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ActivationContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, ControlContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));

@@ -255,7 +255,10 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Lower(WindowId window);
   void Activate(WindowId window);
   void TellActivation(WindowId window, bool active);
+  [[nodiscard]] bool CanBeActive(WindowId window) const;
   void ActivateAnother(WindowId than);
+  void SetEnabled(WindowId window, bool enabled);
+  void ReleaseMouse(WindowId window);
   WindowId FocusOf(const SimWindow& form) const;
   void WindowGone(WindowId window);
   void Note(std::string_view verb, const SimWindow& window, std::string_view rest = {});
@@ -300,6 +303,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void DeliverMove(const Mouse& mouse);
   void DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second);
   void DeliverRelease(const Mouse& mouse, forms::MouseButton button);
+  [[nodiscard]] const SimWindow* KeyTarget() const;
   void DeliverKey(int virtualKey, forms::ShiftState shift);
   void DeliverCharacter(char32_t character);
 

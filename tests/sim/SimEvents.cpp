@@ -175,18 +175,17 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
 
   // The box is a window of ours that has the foreground. Its owner gets no input meanwhile; other
   // windows of ours do.
-  const WindowId before = foreground_;
   const PixelPoint corner{(options_.Screen.width - kClassicBoxWidth) / 2,
                           (options_.Screen.height - kClassicBoxHeight) / 2};
-  const WindowId window = Add({.Own = true,
+  const WindowId window = Add({.Owner = owner,
+                               .Own = true,
                                .ClassName = "#32770",
                                .Text = box.Title,
                                .Bounds = RectAt(corner, {kClassicBoxWidth, kClassicBoxHeight}),
                                .Visible = true,
                                .Topmost = (flags & forms::msgbox::OnTop) != 0});
-  SimWindow* blocked = Get(owner);
-  const bool wasEnabled = blocked != nullptr && blocked->Enabled;
-  if (blocked != nullptr) blocked->Enabled = false;
+  const bool wasEnabled = Get(owner) != nullptr && Get(owner)->Enabled;
+  if (Get(owner) != nullptr) SetEnabled(owner, false);
   capture_ = kNoWindow;
   Activate(window);
 
@@ -199,13 +198,7 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   }
   depth_ = depth;
 
-  if ((blocked = Get(owner)) != nullptr) blocked->Enabled = wasEnabled;
-  // The owner comes to the foreground after the box, if it can be seen and takes input again.
-  const bool toOwner = blocked != nullptr && blocked->Enabled && IsShown(owner);
-  const WindowId next = toOwner ? TopOf(owner) : before;
-  if (foreground_ == window && Look(next) != nullptr && IsShown(next) && Look(next)->Enabled) {
-    Activate(next);
-  }
+  if (Get(owner) != nullptr) SetEnabled(owner, wasEnabled);
   Destroy(window);
   return box.Answer;
 }

@@ -198,14 +198,21 @@ void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
   if (wasHeld && over && button == forms::MouseButton::Left) at->Events->OnPress();
 }
 
+/// The window that hears the keys: the one with the focus, unless its form is disabled.
+const SimWindow* SimDesktop::KeyTarget() const {
+  const SimWindow* at = Look(focus_);
+  const bool hears = at != nullptr && at->Events != nullptr && Look(TopOf(focus_))->Enabled;
+  return hears ? at : nullptr;
+}
+
 void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   if (drag_ && virtualKey == forms::key::Escape) return EndDrag(false);
   if (popup_ != kNoWindow) {
     if (virtualKey == forms::key::Escape) Destroy(std::exchange(popup_, kNoWindow));
     return;
   }
-  const SimWindow* at = Look(focus_);
-  if (at == nullptr || at->Events == nullptr) return;
+  const SimWindow* at = KeyTarget();
+  if (at == nullptr) return;
   if (IsSystemControl(*at) && virtualKey == forms::key::Space && !shift.Alt) {
     at->Events->OnPress();
   } else {
@@ -215,8 +222,7 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
 
 void SimDesktop::DeliverCharacter(char32_t character) {
   if (popup_ != kNoWindow) return;
-  const SimWindow* at = Look(focus_);
-  if (at != nullptr && at->Events != nullptr) at->Events->OnKeyPress(character);
+  if (const SimWindow* at = KeyTarget()) at->Events->OnKeyPress(character);
 }
 
 }  // namespace corvelle::sim

@@ -43,9 +43,8 @@ void SimPeer::SetCaption(std::string_view caption) {
 }
 
 void SimPeer::SetEnabled(bool enabled) {
-  SimWindow& window = *desktop_.Get(window_);
-  window.Enabled = enabled;
-  if (IsSystemControl(window)) desktop_.InvalidateTree(window_);
+  desktop_.SetEnabled(window_, enabled);
+  if (IsSystemControl(*desktop_.Get(window_))) desktop_.InvalidateTree(window_);
 }
 
 void SimPeer::SetChecked(bool checked) {

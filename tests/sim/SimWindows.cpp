@@ -90,10 +90,7 @@ void SimDesktop::Destroy(WindowId window) {
 /// A window is not visible any more: the press that it had and its place as the active one go.
 void SimDesktop::WindowGone(WindowId window) {
   windowsMoved_ = true;
-  for (WindowId at = capture_; at != kNoWindow;
-       at = Look(at) != nullptr ? Look(at)->Parent : kNoWindow) {
-    if (at == window) capture_ = kNoWindow;
-  }
+  ReleaseMouse(window);
   if (focus_ == window) focus_ = Look(window)->Parent;
   if (foreground_ == window) ActivateAnother(window);
 }
@@ -286,7 +283,7 @@ void SimDesktop::Activate(WindowId window) {
   const WindowId before = foreground_;
   foreground_ = window;
   const SimWindow* at = Look(window);
-  focus_ = at->Own ? FocusOf(*at) : kNoWindow;
+  focus_ = at->Own && at->Enabled ? FocusOf(*at) : kNoWindow;
   TellActivation(before, false);
   if (foreground_ == window) TellActivation(window, true);
 }
@@ -296,18 +293,19 @@ void SimDesktop::TellActivation(WindowId window, bool active) {
   if (at != nullptr && at->Events != nullptr) at->Events->OnActivated(active);
 }
 
-/// The active window went away: the next of its program's windows that can be seen takes its place,
-/// else the next of any.
+bool SimDesktop::CanBeActive(WindowId window) const {
+  return IsShown(window) && Look(window)->Enabled;
+}
+
+/// The active window went away: its owner takes its place, else the next window below it that can,
+/// else the first from the top. Whose program that is does not count.
 void SimDesktop::ActivateAnother(WindowId than) {
-  const bool own = Look(than)->Own;
-  WindowId next = kNoWindow;
-  for (const WindowId id : order_) {
-    if (id == than || !IsShown(id) || !Look(id)->Enabled) continue;
-    if (next == kNoWindow) next = id;
-    if (own && Look(id)->Own) {
-      next = id;
-      break;
-    }
+  const auto may = [this, than](WindowId id) { return id != than && CanBeActive(id); };
+  WindowId next = Look(than)->Owner;
+  if (!may(next)) {
+    auto found = std::find_if(std::find(order_.begin(), order_.end(), than), order_.end(), may);
+    if (found == order_.end()) found = std::find_if(order_.begin(), order_.end(), may);
+    next = found != order_.end() ? *found : kNoWindow;
   }
   if (next != kNoWindow) {
     Activate(next);
@@ -315,6 +313,22 @@ void SimDesktop::ActivateAnother(WindowId than) {
     foreground_ = kNoWindow;
     focus_ = kNoWindow;
     TellActivation(than, false);
+  }
+}
+
+/// A window that is disabled stays the active one, but has neither the keyboard nor the mouse.
+void SimDesktop::SetEnabled(WindowId window, bool enabled) {
+  Get(window)->Enabled = enabled;
+  if (enabled) return;
+  ReleaseMouse(window);
+  if (focus_ == window) focus_ = kNoWindow;
+}
+
+/// Ends the hold of a window or its children on the mouse.
+void SimDesktop::ReleaseMouse(WindowId window) {
+  for (WindowId at = capture_; at != kNoWindow;
+       at = Look(at) != nullptr ? Look(at)->Parent : kNoWindow) {
+    if (at == window) capture_ = kNoWindow;
   }
 }
 
@@ -331,8 +345,11 @@ void SimDesktop::SetFocusTo(WindowId window) {
   if (at == nullptr || !IsShown(window)) return;
   Note("focus", *at);
   const WindowId top = TopOf(window);
+  // Behind another program, and on a window that is disabled, the focus is not to be had.
+  const SimWindow* front = Look(foreground_);
+  if ((front != nullptr && !front->Own) || !at->Enabled || !Look(top)->Enabled) return;
   Get(top)->Focus = window;
-  RequestForeground(window);
+  Activate(top);
   if (foreground_ == top && Look(window) != nullptr) {
     // A control shows whether it has the focus.
     InvalidateTree(focus_);

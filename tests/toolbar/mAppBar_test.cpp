@@ -87,7 +87,7 @@ TEST(AppBar, FromEveryEdgeToEveryOther) {
 }
 
 TEST(AppBar, TheBoxOfSingleButtonsReachesToTheEnd) {
-  for (const float t : {15.0F, 12.0F, 10.0F}) {
+  for (const float t : kScales) {
     for (const EdgeRow& row : kEdges) {
       SCOPED_TRACE(std::string(row.name) + " " + std::to_string(t));
       DockDesk desk({.TwipsPerPixel = t});
@@ -95,20 +95,23 @@ TEST(AppBar, TheBoxOfSingleButtonsReachesToTheEnd) {
       EXPECT_EQ(desk.Bounds(), row.window);
       const forms::PictureBox& box = desk.Strip.picSingleButton;
       if (IsVertical(row.at)) {
-        EXPECT_EQ(box.Bottom(), desk.Strip.Height() - 2 * t);
+        EXPECT_FLOAT_EQ(box.Bottom(), desk.Strip.Height() - 2 * t);
       } else {
-        EXPECT_EQ(box.Right(), desk.Strip.Width() - 2 * t);
+        EXPECT_FLOAT_EQ(box.Right(), desk.Strip.Width() - 2 * t);
       }
     }
   }
 }
 
 TEST(AppBar, AtAHorizontalEdgeTheSidesAgainstTheScreenHaveNoLine) {
-  DockDesk desk;
-  desk.StartAt(Edge::Bottom);
-  EXPECT_FALSE(desk.Strip.bLine2.Visible());
-  EXPECT_FALSE(desk.Strip.bLine4.Visible());
-  EXPECT_TRUE(desk.Strip.bLineXY.Visible());
+  for (const float t : kScales) {
+    SCOPED_TRACE(t);
+    DockDesk desk({.TwipsPerPixel = t});
+    desk.StartAt(Edge::Bottom);
+    EXPECT_FALSE(desk.Strip.bLine2.Visible());
+    EXPECT_FALSE(desk.Strip.bLine4.Visible());
+    EXPECT_TRUE(desk.Strip.bLineXY.Visible());
+  }
 }
 
 TEST(AppBar, BelowAnotherBarTheTopEdgeIsNotLifted) {

@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <optional>
+
+#include "OtherWindow.h"
 #include "RealHome.h"
+#include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/InputContract.h"
 #include "forms/PostContract.h"
@@ -9,7 +13,7 @@
 namespace corvelle::forms {
 namespace {
 
-class WindowsHome final : public InputHome {
+class WindowsHome final : public ActivationHome {
  public:
   explicit WindowsHome(int shortestWait) : shortestWait_(shortestWait) {}
 
@@ -32,10 +36,27 @@ class WindowsHome final : public InputHome {
     keys[1].ki.dwFlags = KEYEVENTF_KEYUP;
     SendInput(2, keys, sizeof(INPUT));
   }
+  WindowId OpenOther() override {
+    const auto other = reinterpret_cast<WindowId>(other_.emplace().Handle());
+    home_.Desktop().BringForward(other);
+    Wait(200);
+    return other;
+  }
+  void AnswerBox(std::function<void()> whileUp) override {
+    timer_ = home_.Windows().StartTimer(50, [this, whileUp = std::move(whileUp)] {
+      const HWND box = FindWindowW(L"#32770", nullptr);
+      if (box == nullptr || IsWindowVisible(box) == 0) return;
+      home_.Windows().StopTimer(timer_);
+      whileUp();
+      SendMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+  }
 
  private:
   int shortestWait_;
   RealHome home_;
+  std::optional<OtherWindow> other_;
+  TimerId timer_ = 0;
 };
 
 INSTANTIATE_TEST_SUITE_P(Windows, WindowSystemContract,
@@ -45,6 +66,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, PostContract,
 INSTANTIATE_TEST_SUITE_P(Windows, CanvasContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(0); }));
 INSTANTIATE_TEST_SUITE_P(Windows, InputContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(250); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ActivationContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
