@@ -412,18 +412,26 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
   // Under a full-screen program a reveal lets events through, and the pointer has gone on by then.
   desk.TheProgram.FullScreenApp = true;
   desk.World.Desktop.MoveOther(desk.World.Desktop.ForegroundWindow(), {0, 0, 1024, 768});
-  const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk] {
+  int ticks = 0;
+  const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk, &ticks] {
+    ++ticks;
     EXPECT_TRUE(desk.TheProgram.HideBusy);
+    // The strip is in full sight already, and the pointer and the foreground are elsewhere: a tick
+    // that did its work would hide it.
+    EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
     desk.World.Bars.ClearLog();
     desk.Strip.Timer1_Timer();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
   });
   desk.World.Desktop.Jump(5);
-  desk.TheProgram.HideBusy = false;
   desk.Strip.Form_MouseMove(forms::MouseButton::None, {}, 0, 0);
   desk.World.Desktop.StopTimer(inside);
+  EXPECT_EQ(ticks, 1);
   EXPECT_FALSE(desk.TheProgram.HideBusy);
   EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  // The same tick outside of the reveal hides the strip again.
+  desk.Strip.Timer1_Timer();
+  EXPECT_TRUE(desk.IsLine());
 }
 
 TEST(AutoHide, ARevealUnderAFullScreenProgramComesBeforeTheWindowThatCovers) {

@@ -275,5 +275,34 @@ TEST(ToolbarDocking, TheTimerStandsAsideWhileAGuardIsSet) {
   }
 }
 
+TEST(ToolbarDocking, TheNewsOfAMovePutsBackAFloatingStripAndLeavesADockedOne) {
+  for (const bool docked : {false, true}) {
+    SCOPED_TRACE(docked);
+    DockingDesk desk;
+    desk.Start();
+    const float top = desk.Strip.SavedTop;
+    // While the grip is held the strip may be anywhere.
+    desk.TheProgram.RestoreBusy = true;
+    desk.Strip.SetTop(300);
+    desk.TheProgram.RestoreBusy = false;
+    desk.TheProgram.AppBarDocked = docked;
+    EXPECT_FALSE(desk.Strip.ToolbarWndProc(message::Move, 0, 0).has_value());
+    EXPECT_EQ(desk.Strip.Top(), docked ? 300 : top);
+    desk.TheProgram.AppBarDocked = false;
+  }
+}
+
+TEST(ToolbarDocking, WhileItIsDockedItsEdgeStaysAskedFor) {
+  for (const bool docked : {false, true}) {
+    SCOPED_TRACE(docked);
+    DockingDesk desk;
+    desk.Start();
+    desk.TheProgram.AppBarDocked = docked;
+    desk.Strip.DrawBorders();
+    EXPECT_EQ(desk.TheProgram.AppBarRequested, docked);
+    desk.TheProgram.AppBarDocked = false;
+  }
+}
+
 }  // namespace
 }  // namespace corvelle
