@@ -133,9 +133,7 @@ void Browser::OpenByDde(std::string_view url) {
     return;
   }
   if (StartBrowser(url, GetItemWorkDir(BrowserCommand))) return;
-  const bool opened =
-      ProgramForPages() &&
-      (program_.Services.Shell.Open(url, std::nullopt, std::nullopt) || StartBrowser(url, {}));
+  const bool opened = ProgramForPages() && (Open(url) || StartBrowser(url, {}));
   if (opened) return;
   BrowserUseDde = false;
   BrowserUseShell = true;
@@ -145,15 +143,20 @@ bool Browser::StartBrowser(std::string_view url, std::string_view folder) {
   const std::string address = EscapeAddress(url);
   std::optional<std::string_view> startIn;
   if (!folder.empty()) startIn = folder;
-  return program_.Services.Shell.Open(BrowserCommand, address, startIn);
+  return Open(BrowserCommand, address, startIn);
+}
+
+bool Browser::Open(std::string_view file, std::optional<std::string_view> parameters,
+                   std::optional<std::string_view> folder) {
+  const auto opened = program_.Services.Shell.Open(file, parameters, folder);
+  return opened || opened.Error() == OpenError::Cancelled;
 }
 
 void Browser::OpenByShell(std::string_view url) {
-  ShellExec& shell = program_.Services.Shell;
-  if (shell.Open(url, std::nullopt, std::nullopt)) return;
+  if (Open(url)) return;
   MomentaryFile link(program_.Services.Files, PathOf(kUrlFile),
                      FormatUrlFile(url, program_.Services.Ansi));
-  BrowserUseShell = shell.Open(link.Path(), std::nullopt, std::nullopt);
+  BrowserUseShell = Open(link.Path());
   // Whoever took the file reads it after this call; the next look for a browser removes it.
   if (BrowserUseShell) link.Keep();
 }

@@ -54,6 +54,10 @@ class Browser final : public BrowserPort {
   [[nodiscard]] std::optional<std::string> ProgramForPages();
   [[nodiscard]] std::string ServiceName();
   bool StartBrowser(std::string_view url, std::string_view folder);
+  /// True when the shell has started it, or when the user has refused that: nothing else is tried.
+  [[nodiscard]] bool Open(std::string_view file,
+                          std::optional<std::string_view> parameters = std::nullopt,
+                          std::optional<std::string_view> folder = std::nullopt);
   void OpenByDde(std::string_view url);
   void OpenByShell(std::string_view url);
   void ShowBrowserError();

@@ -79,6 +79,22 @@ std::string LinkFolder(std::string_view target) {
   return path.substr(0, path.rfind('\\') + 1);
 }
 
+CommandLineParts SplitCommandLine(std::string_view line,
+                                  const std::function<bool(const std::string&)>& exists) {
+  const std::string text = Trim(line);
+  const auto splitAt = [&text](std::size_t from, std::size_t end) {
+    if (end == std::string::npos) return CommandLineParts{text.substr(from), {}};
+    return CommandLineParts{text.substr(from, end - from),
+                            Trim(std::string_view(text).substr(end + 1))};
+  };
+  if (text.starts_with('"')) return splitAt(1, text.find('"', 1));
+  for (std::size_t end = text.find(' ');; end = text.find(' ', end + 1)) {
+    const std::string program = text.substr(0, end);
+    if (exists(program) || exists(program + ".exe")) return splitAt(0, end);
+    if (end == std::string::npos) return splitAt(0, text.find(' '));
+  }
+}
+
 std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 }  // namespace corvelle

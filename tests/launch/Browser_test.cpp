@@ -382,6 +382,22 @@ TEST_F(OpenUrlTest, WithoutAnyBrowserTheMessageComesAndTheNextAddressLooksAgain)
   EXPECT_EQ(world.Dde.Told().size(), 1U);
 }
 
+TEST_F(OpenUrlTest, ABrowserThatTheUserRefusesEndsItQuietly) {
+  HaveBrowser(kExplorer);
+  world.Shell.FailToOpen(kExplorer, OpenError::Cancelled);
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Shell.Log().size(), 1U);
+  EXPECT_TRUE(browser.BrowserUseDde);
+}
+
+TEST_F(OpenUrlTest, AnAddressThatTheUserRefusesToOpenEndsItQuietly) {
+  world.Associations.Set(".url", kOther);
+  world.Shell.FailToOpen(kUrl, OpenError::Cancelled);
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Shell.Log().size(), 1U);
+  EXPECT_TRUE(browser.BrowserUseShell);
+}
+
 TEST_F(OpenUrlTest, AnAddressCannotEndItsArgument) {
   HaveBrowser(kExplorer);
   browser.OpenUrl("http://a\" -flag");
@@ -458,6 +474,17 @@ TEST_F(OpenMailTest, ThenTheRegisteredProgramIsTried) {
   browser.OpenMail("mailto:ann@a.example");
   EXPECT_EQ(world.Shell.Log(), (std::vector<Launch>{Opened("mailto:ann@a.example", {}, {}, false),
                                                     Opened(kOther, "mailto:ann@a.example")}));
+}
+
+TEST_F(OpenMailTest, AMailProgramThatTheUserRefusesEndsItQuietly) {
+  SetKey("mailto\\shell\\open\\command", kOther);
+  world.Shell.FailToOpen("mailto:a@b.example", OpenError::Cancelled);
+  browser.OpenMail("mailto:a@b.example");
+  EXPECT_EQ(world.Shell.Log().size(), 1U);
+  world.Shell.FailToOpen("mailto:a@b.example", OpenError::Other);
+  world.Shell.FailToOpen(kOther, OpenError::Cancelled);
+  browser.OpenMail("mailto:a@b.example");
+  EXPECT_EQ(world.Shell.Log().size(), 3U);
 }
 
 TEST_F(OpenMailTest, WithoutAMailProgramItIsTheMailMessage) {

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "base/CodePage.h"
 
@@ -195,6 +197,34 @@ TEST(LinkFolders, EndAtTheTargetsLastBackslash) {
   EXPECT_EQ(LinkFolder("  c:\\a.exe  "), "c:\\");
   EXPECT_EQ(LinkFolder("a.exe"), "");
   EXPECT_EQ(LinkFolder(""), "");
+}
+
+TEST(CommandLineSplit, TheProgramEndsWhereTheSystemWouldEndIt) {
+  struct Row {
+    const char* name;
+    std::string line;
+    std::vector<std::string> files;
+    CommandLineParts expected;
+  };
+  const Row rows[] = {
+      {"in quotes", "\"c:\\a b\\c.exe\"  /x y", {}, {"c:\\a b\\c.exe", "/x y"}},
+      {"quotes without an end", "\"c:\\a.exe", {}, {"c:\\a.exe", ""}},
+      {"the first word", "c:\\a.exe /x", {"c:\\a.exe"}, {"c:\\a.exe", "/x"}},
+      {"blanks in the path", "c:\\a b.exe /x", {"c:\\a b.exe"}, {"c:\\a b.exe", "/x"}},
+      {"the shorter of two", "c:\\a b /x", {"c:\\a.exe", "c:\\a b"}, {"c:\\a", "b /x"}},
+      {"without its ending", "c:\\a /x", {"c:\\a.exe"}, {"c:\\a", "/x"}},
+      {"the whole line", "c:\\a b", {"c:\\a b"}, {"c:\\a b", ""}},
+      {"a name that is looked up elsewhere", "regedit /s x", {}, {"regedit", "/s x"}},
+      {"one word", "regedit", {}, {"regedit", ""}},
+      {"blanks around it", "  a  b ", {}, {"a", "b"}},
+      {"nothing", "", {}, {"", ""}},
+  };
+  for (const Row& row : rows) {
+    const auto exists = [&row](const std::string& path) {
+      return std::find(row.files.begin(), row.files.end(), path) != row.files.end();
+    };
+    EXPECT_EQ(SplitCommandLine(row.line, exists), row.expected) << row.name;
+  }
 }
 
 TEST(Quotes, StandAroundTheText) {
