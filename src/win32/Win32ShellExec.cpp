@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Text.h"
+#include "win32/ErrorMode.h"
 #include "win32/FileErrors.h"
 #include "win32/UniqueHandle.h"
 #include "win32/Wide.h"
@@ -70,6 +71,7 @@ Result<Done, OpenError> Win32ShellExec::Open(std::string_view file,
   info.lpParameters = PointerTo(wideParameters);
   info.lpDirectory = PointerTo(wideFolder);
   info.nShow = SW_SHOWNORMAL;
+  const ErrorModeForChildren errorMode;
   if (ShellExecuteExW(&info) == 0) return OpenErrorOf(GetLastError());
   // Not every failure of the old DDE road makes the call itself fail.
   if (reinterpret_cast<std::intptr_t>(info.hInstApp) < kLowestSuccess) return OpenError::Other;
@@ -86,6 +88,7 @@ Result<Done, RunError> Win32ShellExec::Run(std::string_view commandLine) {
   PROCESS_INFORMATION process{};
   // The call writes into the line while it looks for the program's name.
   std::wstring line = Wide(commandLine);
+  const ErrorModeForChildren errorMode;
   if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                      &process) == 0) {
     return RunErrorOf(GetLastError());
