@@ -7,6 +7,7 @@
 #include "launch/CommandForm.h"
 #include "launch/OpenMail.h"
 #include "launch/RegistryValue.h"
+#include "launch/UserChoice.h"
 #include "platform/DdeClient.h"
 #include "platform/FileAssociations.h"
 #include "platform/FileSystem.h"
@@ -88,6 +89,7 @@ void Browser::InitBrowser() {
   BrowserApplication = choice.BrowserApplication;
   if (choice.IsComplete()) {
     BrowserUseDde = true;
+    ownBrowser_ = true;
     return;
   }
   const std::optional<std::string> found = ProgramForPages();
@@ -118,6 +120,11 @@ void Browser::OpenUrl(std::string_view url) {
   // The text may go with the window that it came from while events run.
   const std::string address(url);
   if (!BrowserUseDde && !BrowserUseShell) InitBrowser();
+  // The shell knows the user's choice, also where no program was found or another one was.
+  if (!BrowserUseDde || AnotherIsChosen()) {
+    BrowserUseDde = false;
+    BrowserUseShell = true;
+  }
   if (BrowserUseDde) {
     OpenByDde(address);
     // An address that a browser has taken is not given to another one.
@@ -125,6 +132,14 @@ void Browser::OpenUrl(std::string_view url) {
   }
   if (BrowserUseShell) OpenByShell(address);
   if (!BrowserUseDde && !BrowserUseShell) ShowBrowserError();
+}
+
+bool Browser::AnotherIsChosen() {
+  if (ownBrowser_) return false;
+  const UserChoice choice = UserChoiceFor(program_.Services.Keys, "http");
+  FileSystem& files = program_.Services.Files;
+  return choice.Made &&
+         !EqualNoCase(files.LongPath(choice.Program), files.LongPath(BrowserCommand));
 }
 
 void Browser::OpenByDde(std::string_view url) {
@@ -172,6 +187,7 @@ void Browser::ForgetBrowser() {
   BrowserApplication.clear();
   BrowserUseDde = false;
   BrowserUseShell = false;
+  ownBrowser_ = false;
 }
 
 void Browser::UseDefaultBrowser() {
@@ -199,6 +215,7 @@ bool Browser::UseBrowser(std::string_view path) {
   BrowserCommand = choice.BrowserCommand;
   BrowserApplication = choice.BrowserApplication;
   BrowserUseDde = true;
+  ownBrowser_ = true;
   return true;
 }
 

@@ -42,7 +42,8 @@ struct CommandForm {
 /// The meaning of what a .url file led to: an address, a link or a file, never another .url file.
 [[nodiscard]] CommandKind ClassifyAddress(std::string_view text) noexcept;
 
-/// The web address that the bytes of a .url file hold, if any.
+/// The web address that the bytes of a .url file hold, if any. One inside an address of another
+/// kind does not count.
 [[nodiscard]] std::optional<std::string> ParseUrlFile(std::string_view bytes, const CodePage& ansi);
 
 /// The folder in which a command starts: up to and with its last "\" when it begins with a drive;

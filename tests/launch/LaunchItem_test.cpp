@@ -314,11 +314,18 @@ TEST_F(LaunchItemTest, WithoutABrowserOfItsOwnTheSystemOpensAddresses) {
   EXPECT_EQ(Launches(), (std::vector{Opened("http://a.example"), Opened("mailto:a@b.example")}));
 }
 
-TEST_F(LaunchItemTest, ASecureAddressIsTheSystemsBusiness) {
+TEST_F(LaunchItemTest, ASecureAddressGoesToTheBrowserToo) {
   AddServices();
   LaunchItem(program, "https://a.example");
-  EXPECT_EQ(log, CallLog());
-  EXPECT_EQ(Launches(), std::vector{Opened("https://a.example")});
+  EXPECT_EQ(log, CallLog{"OpenUrl https://a.example"});
+  EXPECT_TRUE(Launches().empty());
+}
+
+TEST_F(LaunchItemTest, AUrlFileOpensTheWholeOfAnAddressThatHoldsAnother) {
+  AddServices();
+  world.Files.Put("C:\\Docs\\old.url", "[InternetShortcut]\r\nURL=https://a.example/http://b\r\n");
+  LaunchItem(program, "C:\\Docs\\old.url");
+  EXPECT_EQ(log, CallLog{"OpenUrl https://a.example/http://b"});
 }
 
 TEST_F(LaunchItemTest, AUrlFileOpensItsAddress) {
@@ -332,7 +339,7 @@ TEST_F(LaunchItemTest, AUrlFileOpensItsAddress) {
 TEST_F(LaunchItemTest, AUrlFileWithoutAnAddressGoesOnAsAFile) {
   AddServices();
   world.Shell.Associate(".url", "browser.exe");
-  world.Files.Put("C:\\Docs\\site.url", "[InternetShortcut]\r\nURL=https://a.example\r\n");
+  world.Files.Put("C:\\Docs\\site.url", "[InternetShortcut]\r\nURL=ftp://a/?http://b\r\n");
   LaunchItem(program, "C:\\Docs\\site.url");
   EXPECT_EQ(log, CallLog());
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Docs\\site.url", "C:\\Docs\\")});
