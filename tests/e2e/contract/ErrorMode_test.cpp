@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include "Diversion.h"
 #include "win32/ErrorMode.h"
 #include "win32/Win32ShellExec.h"
 
@@ -43,26 +44,6 @@ BOOL WINAPI AnswerCreateProcess(LPCWSTR, LPWSTR, LPSECURITY_ATTRIBUTES, LPSECURI
                                 DWORD, LPVOID, LPCWSTR, LPSTARTUPINFOW, LPPROCESS_INFORMATION) {
   return Answer();
 }
-
-/// Leads the calls of one routine of the system to another as long as it lives.
-class Diversion {
- public:
-  Diversion(void*& slot, void* to) : slot_(slot), before_(slot) { Lead(to); }
-  Diversion(const Diversion&) = delete;
-  Diversion& operator=(const Diversion&) = delete;
-  ~Diversion() { Lead(before_); }
-
- private:
-  void Lead(void* to) {
-    DWORD before = 0;
-    VirtualProtect(&slot_, sizeof(slot_), PAGE_READWRITE, &before);
-    slot_ = to;
-    VirtualProtect(&slot_, sizeof(slot_), before, &before);
-  }
-
-  void*& slot_;
-  void* before_;
-};
 
 class DivertedStart : public testing::Test {
  protected:
