@@ -6,13 +6,13 @@
 #include "base/CodePage.h"
 #include "base/Sort.h"
 #include "base/Text.h"
+#include "base/WebAddress.h"
 #include "core/MenuFile.h"
 
 namespace corvelle {
 
 namespace {
 
-constexpr std::string_view kAddressStart = "http://";
 constexpr std::string_view kLineEnds("\r\n\0", 3);
 constexpr std::string_view kGeneratedEnd = ".mfd";
 constexpr std::string_view kStoredEnd = ".MNU";
@@ -58,7 +58,7 @@ std::vector<MenuRecord> DroppedRecords(
 }
 
 std::optional<std::string> DroppedAddress(std::string_view text) {
-  if (!text.starts_with(kAddressStart)) return std::nullopt;
+  if (!IsPlainWebAddress(text)) return std::nullopt;
   return Trim(text.substr(0, text.find_first_of(kLineEnds)));
 }
 

@@ -28,7 +28,8 @@ inline constexpr std::string_view kDropFileName = "tFile.tmp";
 [[nodiscard]] std::vector<MenuRecord> DroppedRecords(
     std::vector<std::string> names, const std::function<std::string(std::string_view)>& titleOf);
 
-/// The web address in a dropped text: its first line, when it begins with "http://" in lower case.
+/// The web address in a dropped text: its first line, when it begins with "http://" or
+/// "https://" in lower case.
 [[nodiscard]] std::optional<std::string> DroppedAddress(std::string_view text);
 
 /// The file in which the entries of a menu are stored: for the generated file of an expanded menu

@@ -21,6 +21,7 @@ namespace msgbox = forms::msgbox;
 
 constexpr int kRecentFolder = 8;  // CSIDL_RECENT
 constexpr std::string_view kAllFiles = "*.*";
+constexpr std::string_view kFolderLook = "desktop.ini";
 constexpr std::string_view kFailureText =
     "An error occured while trying to clear the Recent Documents Folder.";
 
@@ -35,9 +36,11 @@ std::optional<std::string> RecentFolder(Program& program) {
   return EnsureBackslash(*path);
 }
 
+/// True if there is a file besides the shell's own, which tells how the folder looks.
 bool HoldsFile(const std::vector<FileEntry>& entries) {
-  return std::any_of(entries.begin(), entries.end(),
-                     [](const FileEntry& entry) { return !entry.IsFolder; });
+  return std::any_of(entries.begin(), entries.end(), [](const FileEntry& entry) {
+    return !entry.IsFolder && !EqualNoCase(entry.Name, kFolderLook);
+  });
 }
 
 /// False when the files, or some of them, stay.

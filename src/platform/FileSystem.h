@@ -78,6 +78,13 @@ class FileSystem {
   /// was before, or still missing, and nothing lies beside it. AccessDenied for a read-only file.
   virtual FileStatus Replace(std::string_view path, std::string_view bytes) = 0;
 
+  /// The same for one of many files that can be made again: it returns before the bytes are on the
+  /// disk, so that only a loss of power can leave the file without them.
+  virtual FileStatus ReplaceUnflushed(std::string_view path, std::string_view bytes) = 0;
+
+  /// Returns when what was written to a file before is on the disk.
+  virtual FileStatus Flush(std::string_view path) = 0;
+
   /// Removes a file. AccessDenied for a read-only one, InUse for one that is held open.
   virtual FileStatus Remove(std::string_view path) = 0;
 

@@ -17,6 +17,8 @@ class Win32Files final : public FileSystem {
   FileStatus Write(std::string_view path, std::string_view bytes) override;
   FileStatus WriteAt(std::string_view path, std::uint64_t offset, std::string_view bytes) override;
   FileStatus Replace(std::string_view path, std::string_view bytes) override;
+  FileStatus ReplaceUnflushed(std::string_view path, std::string_view bytes) override;
+  FileStatus Flush(std::string_view path) override;
   FileStatus Remove(std::string_view path) override;
   FileStatus ClearAttributes(std::string_view path) override;
   FileStatus Rename(std::string_view from, std::string_view to) override;
@@ -25,6 +27,8 @@ class Win32Files final : public FileSystem {
   std::string LongPath(std::string_view path) override;
 
  private:
+  FileStatus ReplaceWith(std::string_view path, std::string_view bytes, bool flush);
+
   unsigned temporary_ = 0;  // how many files were replaced, for the names of their new contents
 };
 

@@ -2,6 +2,7 @@
 
 #include <ole2.h>
 
+#include "win32/ErrorMode.h"
 #include "win32/Win32AppBars.h"
 #include "win32/Win32CodePage.h"
 #include "win32/Win32Dde.h"
@@ -39,10 +40,16 @@ class OleScope {
   bool ready_;
 };
 
+/// Set before any part of the shell is asked for anything.
+struct NoCriticalErrorBoxes {
+  NoCriticalErrorBoxes() noexcept { SuppressCriticalErrorBoxes(); }
+};
+
 }  // namespace
 
 // In the order in which they are made; the last ones end first.
 struct Win32Platform::Parts {
+  NoCriticalErrorBoxes NoBoxes;
   OleScope Ole;
   Win32Files Files;
   Win32CodePage Ansi;

@@ -244,9 +244,18 @@ TEST_F(MainTest, AFlagFileThatCannotBeReachedIsNoNewInstallation) {
   EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
+TEST_F(MainTest, WhereTheFlagsCannotBeKeptTheQuestionIsNotAskedAtEachStart) {
+  world.Files.Put("C:\\Corvelle\\corvelle.hlp", "help");
+  world.Files.Protect("C:\\Corvelle");
+  link.There = true;
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+  EXPECT_FALSE(Happened("link removed"));
+  EXPECT_EQ(Flags(), "none");
+}
+
 TEST_F(MainTest, AFullDiskDoesNotStopTheStart) {
   world.Files.FillDisk(0);
-  world.Desktop.Answer(forms::msgbox::AnswerNo);
   EXPECT_TRUE(Main(program));
   EXPECT_TRUE(program.OptionFlags.Is(32));
   EXPECT_TRUE(toolbar.WindowLoaded());

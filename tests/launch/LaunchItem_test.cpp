@@ -18,6 +18,7 @@ namespace {
 using sim::Launch;
 
 constexpr char kUnavailable[] = "File/Device unavailable.";
+constexpr char kNoAccess[] = "Error: 70 - Permission denied";
 constexpr char kEmpty[] =
     "Empty string in the File Field. Check your entries in the Customize window.";
 
@@ -207,6 +208,73 @@ TEST_F(LaunchItemTest, AMissingOpenWithDialogIsQuiet) {
   EXPECT_EQ(Boxes(), 0U);
 }
 
+TEST_F(LaunchItemTest, WhatTheUserRefusesEndsThere) {
+  AddServices();
+  links.Set("C:\\Links\\tool.lnk", "C:\\Tools\\tool.exe");
+  for (const char* command : {"C:\\Tools\\tool.exe", "C:\\Docs\\odd.xyz", "C:\\Docs\\plan.txt",
+                              "C:\\Links\\tool.lnk", "ftp://a.example"}) {
+    world.Shell.ClearLog();
+    world.Shell.FailToOpen(command, OpenError::Cancelled);
+    LaunchItem(program, command);
+    ASSERT_EQ(Launches().size(), 1U) << command;
+    EXPECT_FALSE(Launches()[0].Started) << command;
+  }
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(LaunchItemTest, WithoutAccessTheUserIsToldAndNothingElseIsTried) {
+  AddServices();
+  links.Set("C:\\Links\\tool.lnk", "C:\\Tools\\tool.exe");
+  for (const char* command : {"C:\\Tools\\tool.exe", "C:\\Docs\\odd.xyz", "C:\\Links\\tool.lnk"}) {
+    world.Shell.ClearLog();
+    world.Shell.FailToOpen(command, OpenError::AccessDenied);
+    world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
+    LaunchItem(program, command);
+    ASSERT_EQ(Launches().size(), 1U) << command;
+    EXPECT_EQ(world.Desktop.Boxes().back().Flags, 262160U) << command;
+  }
+  EXPECT_EQ(Boxes(), 3U);
+}
+
+TEST_F(LaunchItemTest, ACommandLineWithoutAccessSaysSoAndOffersNoOtherProgram) {
+  world.Shell.FailToOpen("C:\\Docs\\odd.xyz", OpenError::Other);
+  world.Shell.Fail("C:\\Docs\\odd.xyz", RunError::AccessDenied);
+  world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
+  LaunchItem(program, "C:\\Docs\\odd.xyz");
+  EXPECT_EQ(Launches().size(), 2U);
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LaunchItemTest, ACommandLineThatNeedsElevationIsGivenToTheShellInItsParts) {
+  const std::string line = "C:\\Tools\\tool.exe /all users";
+  world.Shell.Fail(line, RunError::NeedsElevation);
+  LaunchItem(program, "?" + line);
+  Launch elevated = Opened("C:\\Tools\\tool.exe", "C:\\Tools\\");
+  elevated.Parameters = "/all users";
+  EXPECT_EQ(Launches(), (std::vector{NotOpened(line, "C:\\Tools\\"), NotRun(line), elevated}));
+
+  // The user's "no" to it is the end.
+  world.Shell.ClearLog();
+  world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::Cancelled);
+  LaunchItem(program, "?" + line);
+  EXPECT_EQ(Launches().size(), 3U);
+  EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(OpenWithItemTest, WhatTheUserRefusesOrMayNotOpenEndsThere) {
+  world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::Cancelled);
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches().size(), 1U);
+  EXPECT_EQ(Boxes(), 0U);
+
+  world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::AccessDenied);
+  world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches().size(), 2U);
+  EXPECT_EQ(Boxes(), 1U);
+}
+
 TEST_F(LaunchItemTest, NothingButBlanksGivesTheEmptyMessage) {
   for (const char* command : {"", "     "}) {
     world.Desktop.Answer(kEmpty, forms::msgbox::AnswerOk);
@@ -246,11 +314,18 @@ TEST_F(LaunchItemTest, WithoutABrowserOfItsOwnTheSystemOpensAddresses) {
   EXPECT_EQ(Launches(), (std::vector{Opened("http://a.example"), Opened("mailto:a@b.example")}));
 }
 
-TEST_F(LaunchItemTest, ASecureAddressIsTheSystemsBusiness) {
+TEST_F(LaunchItemTest, ASecureAddressGoesToTheBrowserToo) {
   AddServices();
   LaunchItem(program, "https://a.example");
-  EXPECT_EQ(log, CallLog());
-  EXPECT_EQ(Launches(), std::vector{Opened("https://a.example")});
+  EXPECT_EQ(log, CallLog{"OpenUrl https://a.example"});
+  EXPECT_TRUE(Launches().empty());
+}
+
+TEST_F(LaunchItemTest, AUrlFileOpensTheWholeOfAnAddressThatHoldsAnother) {
+  AddServices();
+  world.Files.Put("C:\\Docs\\old.url", "[InternetShortcut]\r\nURL=https://a.example/http://b\r\n");
+  LaunchItem(program, "C:\\Docs\\old.url");
+  EXPECT_EQ(log, CallLog{"OpenUrl https://a.example/http://b"});
 }
 
 TEST_F(LaunchItemTest, AUrlFileOpensItsAddress) {
@@ -264,7 +339,7 @@ TEST_F(LaunchItemTest, AUrlFileOpensItsAddress) {
 TEST_F(LaunchItemTest, AUrlFileWithoutAnAddressGoesOnAsAFile) {
   AddServices();
   world.Shell.Associate(".url", "browser.exe");
-  world.Files.Put("C:\\Docs\\site.url", "[InternetShortcut]\r\nURL=https://a.example\r\n");
+  world.Files.Put("C:\\Docs\\site.url", "[InternetShortcut]\r\nURL=ftp://a/?http://b\r\n");
   LaunchItem(program, "C:\\Docs\\site.url");
   EXPECT_EQ(log, CallLog());
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Docs\\site.url", "C:\\Docs\\")});

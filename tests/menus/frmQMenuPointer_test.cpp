@@ -133,12 +133,12 @@ TEST(frmQMenuChoice, StartsTheItemAfterTheMenuIsGone) {
 /// A shell that notes whether the menu was still up, and whether events had run, when it was asked.
 class WatchingShell final : public ShellExec {
  public:
-  bool Open(std::string_view, std::optional<std::string_view>,
-            std::optional<std::string_view>) override {
+  Result<Done, OpenError> Open(std::string_view, std::optional<std::string_view>,
+                               std::optional<std::string_view>) override {
     ++Opened;
     MenuWasUp = Desk->Menu.MenuVisible();
     WaitingEventsRan = EventRan;
-    return true;
+    return Done{};
   }
   Result<Done, RunError> Run(std::string_view) override { return Done{}; }
 

@@ -230,6 +230,27 @@ TEST_P(FileSystemContract, ReplaceGivesAFileItsContentAndLeavesNothingBeside) {
   EXPECT_EQ(Names().size(), 1U);
 }
 
+TEST_P(FileSystemContract, ReplaceUnflushedDoesTheSame) {
+  ASSERT_TRUE(files.ReplaceUnflushed(root + "a.txt", "first"));
+  ASSERT_TRUE(files.ReplaceUnflushed(root + "A.TXT", "second, longer"));
+  EXPECT_EQ(Content("a.txt"), "second, longer");
+  EXPECT_EQ(Names(), Strings{"a.txt"});
+  Disk().SetReadOnly(root + "a.txt", true);
+  EXPECT_TRUE(FailsWith(files.ReplaceUnflushed(root + "a.txt", "x"), FileError::AccessDenied));
+  EXPECT_TRUE(FailsWith(files.ReplaceUnflushed(root + "no\\a.txt", "x"), FileError::NotFound));
+  EXPECT_EQ(Content("a.txt"), "second, longer");
+  Disk().SetReadOnly(root + "a.txt", false);
+}
+
+TEST_P(FileSystemContract, FlushTakesAFileThatIsThere) {
+  Put("a.txt", "kept");
+  EXPECT_TRUE(files.Flush(root + "a.txt"));
+  EXPECT_EQ(Content("a.txt"), "kept");
+  EXPECT_TRUE(FailsWith(files.Flush(root + "b.txt"), FileError::NotFound));
+  EXPECT_TRUE(FailsWith(files.Flush(root), FileError::AccessDenied));
+  EXPECT_EQ(Names(), Strings{"a.txt"});
+}
+
 TEST_P(FileSystemContract, AReadOnlyFileCanBeReadAndRenamedButNotChanged) {
   Put("a.txt", "kept");
   Disk().SetReadOnly(root + "a.txt", true);

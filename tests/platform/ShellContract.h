@@ -111,6 +111,19 @@ TEST_P(ShellContract, RunTellsThatAFileIsNoProgram) {
   EXPECT_EQ(ErrorOf(shell_->UnknownDocument()), RunError::Other);
 }
 
+TEST_P(ShellContract, RunTellsThatThereIsNoAccess) {
+  // No folder is a program, and nobody may run one.
+  EXPECT_EQ(ErrorOf("\"" + shell_->Folder() + "\""), RunError::AccessDenied);
+}
+
+TEST_P(ShellContract, WhatFailsToOpenWasNotRefusedByTheUser) {
+  for (const std::string& file : {Missing(), shell_->UnknownDocument(), std::string()}) {
+    const auto opened = shell_->Exec().Open(file, std::nullopt, std::nullopt);
+    ASSERT_FALSE(opened) << file;
+    EXPECT_EQ(opened.Error(), OpenError::Other) << file;
+  }
+}
+
 // Looking.
 
 TEST_P(ShellContract, KnowsAnExistingFile) {

@@ -268,7 +268,7 @@ class SimDesk final : public Desk {
     world_.Links.Put(link, {.Path = std::string(kWitness), .Arguments = std::string(arguments)});
     world_.Folders.Put(kProgramsFolder, {{std::string(title), 1}});
     world_.Folders.WhenOpened(kProgramsFolder, std::string(title), [this, link] {
-      world_.Shell.Open(link, std::nullopt, std::nullopt);
+      static_cast<void>(world_.Shell.Open(link, std::nullopt, std::nullopt));
     });
   }
   [[nodiscard]] std::optional<std::string> StartupLinkTarget() const override {

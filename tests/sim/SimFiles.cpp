@@ -403,7 +403,23 @@ FileStatus SimFiles::WriteAt(std::string_view path, std::uint64_t offset, std::s
 }
 
 FileStatus SimFiles::Replace(std::string_view path, std::string_view bytes) {
-  if (const auto error = Enter("Replace", path)) return *error;
+  return ReplaceAs("Replace", path, bytes);
+}
+
+FileStatus SimFiles::ReplaceUnflushed(std::string_view path, std::string_view bytes) {
+  return ReplaceAs("ReplaceUnflushed", path, bytes);
+}
+
+FileStatus SimFiles::Flush(std::string_view path) {
+  if (const auto error = Enter("Flush", path)) return *error;
+  const FileResult<Place> place = FindWritable(path);
+  if (!place) return place.Error();
+  return place->IsFile() ? FileStatus(Done()) : FileStatus(FileError::NotFound);
+}
+
+FileStatus SimFiles::ReplaceAs(std::string_view operation, std::string_view path,
+                               std::string_view bytes) {
+  if (const auto error = Enter(operation, path)) return *error;
   const FileResult<Place> place = FindWritable(path);
   if (!place) return place.Error();
   // Old and new content stand beside each other for a moment.

@@ -100,6 +100,8 @@ class SimFiles final : public FileSystem {
   FileStatus Write(std::string_view path, std::string_view bytes) override;
   FileStatus WriteAt(std::string_view path, std::uint64_t offset, std::string_view bytes) override;
   FileStatus Replace(std::string_view path, std::string_view bytes) override;
+  FileStatus ReplaceUnflushed(std::string_view path, std::string_view bytes) override;
+  FileStatus Flush(std::string_view path) override;
   FileStatus Remove(std::string_view path) override;
   FileStatus ClearAttributes(std::string_view path) override;
   FileStatus Rename(std::string_view from, std::string_view to) override;
@@ -144,6 +146,7 @@ class SimFiles final : public FileSystem {
   [[nodiscard]] bool HoldsSomethingIn(const std::string& folderKey) const;
   void MoveAttributes(const std::string& from, const std::string& to);
 
+  FileStatus ReplaceAs(std::string_view operation, std::string_view path, std::string_view bytes);
   /// Makes `content` that of a file within the space left, all or a part.
   FileStatus Store(const Place& place, std::string_view content);
   void WriteHost(const std::filesystem::path& host, std::string_view bytes);

@@ -167,11 +167,12 @@ TEST(ToolbarOLEDragDrop, AnAddressIsOfferedWithItsPageTitleForTheButton) {
 }
 
 TEST(ToolbarOLEDragDrop, OtherTextAndAnAddressWithoutItsDialogAreIgnored) {
-  for (const char* text : {"HTTP://EXAMPLE.COM", "some words", "", "http://example.com"}) {
+  for (const char* text :
+       {"HTTP://EXAMPLE.COM", "some words", "", "http://example.com", "https://example.com"}) {
     SCOPED_TRACE(text);
     DragDesk desk;
     NotedLinks links;
-    const bool address = std::string_view(text).starts_with("http://");
+    const bool address = std::string_view(text).starts_with("http");
     if (!address) desk.TheProgram.Ports.WebLink = &links;
     desk.TakeText(text);
     desk.DragToButton(2);

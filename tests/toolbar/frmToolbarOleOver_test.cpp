@@ -91,7 +91,8 @@ TEST(ToolbarOLEDragOver, AnAddressIsKnownByItsBeginningAndItsWindow) {
     bool expected;
   };
   for (const Row& row :
-       {Row{"an address", "http://example.com", true}, Row{"upper case", "HTTP://E", false},
+       {Row{"an address", "http://example.com", true},
+        Row{"a secure one", "https://example.com", true}, Row{"upper case", "HTTP://E", false},
         Row{"in the middle", "see http://example.com", false}}) {
     SCOPED_TRACE(row.name);
     DragDesk desk;

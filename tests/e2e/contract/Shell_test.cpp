@@ -149,6 +149,46 @@ TEST(OpenOnWindows, AFolderThatIsMissingOpensNoBox) {
   EXPECT_EQ(FindWindowW(L"#32770", nullptr), nullptr);
 }
 
+TEST(OpenOnWindows, TheErrorsOfTheSystemAreToldApart) {
+  struct Row {
+    DWORD Error;
+    OpenError Expected;
+  };
+  const Row rows[] = {
+      {ERROR_CANCELLED, OpenError::Cancelled},
+      {ERROR_ACCESS_DENIED, OpenError::AccessDenied},
+      {ERROR_SHARING_VIOLATION, OpenError::AccessDenied},
+      {ERROR_NETWORK_ACCESS_DENIED, OpenError::AccessDenied},
+      {ERROR_ACCESS_DISABLED_BY_POLICY, OpenError::AccessDenied},
+      {ERROR_FILE_NOT_FOUND, OpenError::Other},
+      {ERROR_PATH_NOT_FOUND, OpenError::Other},
+      {ERROR_NO_ASSOCIATION, OpenError::Other},
+      {ERROR_DDE_FAIL, OpenError::Other},
+      {ERROR_DLL_NOT_FOUND, OpenError::Other},
+      {ERROR_NOT_ENOUGH_MEMORY, OpenError::Other},
+      {ERROR_SUCCESS, OpenError::Other},
+  };
+  for (const Row& row : rows) EXPECT_EQ(win32::OpenErrorOf(row.Error), row.Expected) << row.Error;
+}
+
+TEST(RunOnWindows, TheErrorsOfTheSystemAreToldApart) {
+  struct Row {
+    DWORD Error;
+    RunError Expected;
+  };
+  const Row rows[] = {
+      {740, RunError::NeedsElevation},
+      {ERROR_ACCESS_DENIED, RunError::AccessDenied},
+      {ERROR_SHARING_VIOLATION, RunError::AccessDenied},
+      {ERROR_ACCESS_DISABLED_BY_POLICY, RunError::AccessDenied},
+      {ERROR_FILE_NOT_FOUND, RunError::FileNotFound},
+      {ERROR_INVALID_NAME, RunError::BadFileName},
+      {ERROR_BAD_EXE_FORMAT, RunError::Other},
+      {ERROR_SUCCESS, RunError::Other},
+  };
+  for (const Row& row : rows) EXPECT_EQ(win32::RunErrorOf(row.Error), row.Expected) << row.Error;
+}
+
 // The code page.
 
 TEST(AnsiCodePage, WhatItCannotHoldIsRefused) {
