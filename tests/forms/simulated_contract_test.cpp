@@ -3,6 +3,7 @@
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/InputContract.h"
+#include "forms/PostContract.h"
 #include "forms/WindowSystemContract.h"
 #include "sim/World.h"
 
@@ -40,6 +41,8 @@ class SimulatedHome final : public ActivationHome {
 };
 
 INSTANTIATE_TEST_SUITE_P(Simulated, WindowSystemContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, PostContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, CanvasContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));

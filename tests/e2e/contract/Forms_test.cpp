@@ -7,6 +7,7 @@
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/InputContract.h"
+#include "forms/PostContract.h"
 #include "forms/WindowSystemContract.h"
 
 namespace corvelle::forms {
@@ -59,6 +60,8 @@ class WindowsHome final : public ActivationHome {
 };
 
 INSTANTIATE_TEST_SUITE_P(Windows, WindowSystemContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(0); }));
+INSTANTIATE_TEST_SUITE_P(Windows, PostContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(0); }));
 INSTANTIATE_TEST_SUITE_P(Windows, CanvasContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(0); }));
