@@ -132,6 +132,13 @@ REGISTRY = r"""REGEDIT4
 
 [HKEY_LOCAL_MACHINE\Software\Classes\witnessfile\shell\open\command]
 @="C:\\witness\\witness.exe \"%1\""
+
+[HKEY_LOCAL_MACHINE\Software\Classes\search-ms]
+@="URL:search-ms"
+"URL Protocol"=""
+
+[HKEY_LOCAL_MACHINE\Software\Classes\search-ms\shell\open\command]
+@="C:\\witness\\witness.exe \"%1\""
 """
 
 

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "core/Program.h"
 #include "launch/BuiltInTempFiles.h"
+#include "launch/FileSearch.h"
 #include "platform/FileSystem.h"
 #include "platform/KeySynthesis.h"
 #include "platform/ShellFiles.h"
@@ -68,6 +69,8 @@ void BuiltInCommands::ClearRecentDocs() {
   if (ClearRecentFolder(program_)) return;
   program_.Say(program_.ToolbarWindow(), kFailureText, msgbox::IconStop | msgbox::OnTop);
 }
+
+void BuiltInCommands::FileFind() { OpenFileSearch(program_); }
 
 void BuiltInCommands::ClearTempFolder() { corvelle::ClearTempFolder(program_); }
 
