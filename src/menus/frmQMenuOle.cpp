@@ -103,7 +103,7 @@ void frmQMenu::OpenDropped(const std::string& file, int item) {
   std::string command = GetExeName(item);
   // A folder of the shell goes with the title of the entry in it; any other one opens as itself.
   if (StartsWithNoCase(command, kSpecialFolderStart)) {
-    command += "\\" + SingleAmpersands(Lbl[item].Caption());
+    command += "\\" + NameOf(item);
   } else {
     command = Trim(command.substr(0, command.find('*')));
   }

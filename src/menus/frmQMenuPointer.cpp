@@ -112,7 +112,7 @@ void frmQMenu::ChooseItem(float x, float y) {
     DropSelection();
     return;
   }
-  const std::string title = SingleAmpersands(Lbl[hit].Caption());
+  const std::string title = NameOf(hit);
   const bool mainMenu = EqualNoCase(MenuKey, kMainMenuKey);
   // The program's own menu acts by its captions.
   const std::string command =
@@ -164,7 +164,7 @@ void frmQMenu::OfferItem(ShiftState shift) {
 void frmQMenu::OfferShellMenu(int index) {
   // The item may be another one by the time the menu of the shell is gone, and so may the window.
   const std::string command = GetExeName(index);
-  const std::string title = SingleAmpersands(Lbl[index].Caption());
+  const std::string title = NameOf(index);
   const std::string key = MenuKey;
   const auto watch = MakeWatch();
   if (!program_.Ports.SpecialFolders->ShowContextMenu(

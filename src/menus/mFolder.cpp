@@ -85,10 +85,10 @@ clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
     const std::string path = found.PathOf(file);
     if (item.UpdateFolder) paths.push_back(path);
     // The shell is not asked for what no menu can show.
-    if (!menu.Takes(path)) continue;
+    if (menu.IsFull()) break;
     if (!item.Merged && last != found.Folders.size() && last != file.Folder) menu.AddRule();
     last = file.Folder;
-    menu.AddEntry(record, TitleOf(program, item, path, file.Name), path, path);
+    menu.AddEntry(record, {TitleOf(program, item, path, file.Name), path, path});
   }
   folder.RecEnd = menu.Count();
   return folder;
