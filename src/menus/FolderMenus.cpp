@@ -110,6 +110,7 @@ void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Li
   if (!showsBin) return;
   // The bin is shown as it is now.
   built.RecycleIcon = program_.RecycleIconPath;
+  built.RecycleIndex = program_.RecycleIconIndex;
   program_.RecycleIconChanged = false;
 }
 
@@ -145,7 +146,9 @@ bool FolderMenus::HasChanged(const Built& built, std::size_t index, Listed& list
 bool FolderMenus::BinHasChanged(const Built& built) {
   CheckRecycleIcon(program_);
   // Several menus may show the desktop, and the flag is taken down by the first that is built anew.
-  const bool changed = program_.RecycleIconChanged || built.RecycleIcon != program_.RecycleIconPath;
+  const bool changed = program_.RecycleIconChanged ||
+                       built.RecycleIcon != program_.RecycleIconPath ||
+                       built.RecycleIndex != program_.RecycleIconIndex;
   program_.RecycleIconChanged = false;
   return changed;
 }

@@ -35,7 +35,9 @@ class FolderMenus final : public FolderMenusPort {
   struct Built {
     std::vector<clsFolder> Folders;
     clsFolderUpdate Update;
-    std::string RecycleIcon;  // as it was when the menu was built
+    // The bin's icon as it was when the menu was built.
+    std::string RecycleIcon;
+    int RecycleIndex = -1;
   };
 
   /// What the comparison of a menu listed, by the commands of its folder items. A menu that is
