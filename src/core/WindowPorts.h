@@ -62,6 +62,9 @@ class ToolbarPort : public LoadedWindow {
 
   /// Saves the options and rebuilds the strip after a change in the menus or the options.
   virtual void InitNewButtons() = 0;
+  /// Tells the user, once the current event is over, that these dropped files were not taken (see
+  /// RefusedFilesText). Nothing is told when there are none.
+  virtual void TellRefused(std::vector<std::string> files) = 0;
   /// Reads the menu buttons anew and draws them, without sizing the strip.
   virtual void DoToolbarButtons() = 0;
   /// Reads the single buttons anew and draws them.

@@ -122,10 +122,15 @@ void frmQMenu::InsertFiles(const std::vector<std::string>& names, int item) {
   auto outcome = EditOutcome::NothingToDo;
   {
     const forms::FlagScope busy(program_.ItemActionBusy);
-    const std::vector<MenuRecord> records = DroppedRecords(
-        names, [this](std::string_view name) { return Trim(GetFileTitle(program_, name)); });
-    outcome =
-        InsertDropped(program_.Services.Files, program_.Services.Ansi, file, position, records);
+    FileSystem& files = program_.Services.Files;
+    const CodePage& ansi = program_.Services.Ansi;
+    DroppedEntries dropped = DroppedRecords(files, ansi, names, [this](std::string_view name) {
+      return Trim(GetFileTitle(program_, name));
+    });
+    outcome = InsertDropped(files, ansi, file, position, dropped.Records);
+    if (program_.Ports.Toolbar != nullptr) {
+      program_.Ports.Toolbar->TellRefused(std::move(dropped.Refused));
+    }
   }
   // After a failure the menu shows what the file still holds.
   if (outcome == EditOutcome::Edited && program_.Ports.Toolbar != nullptr) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "menus/GeneratedMenu.h"
 #include "platform/ShellIcons.h"
@@ -88,7 +89,10 @@ clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
     if (menu.IsFull()) break;
     if (!item.Merged && last != found.Folders.size() && last != file.Folder) menu.AddRule();
     last = file.Folder;
-    menu.AddEntry(record, {TitleOf(program, item, path, file.Name), path, path});
+    // What no record can hold starts from the menu all the same.
+    const std::string stored =
+        PathForRecord(program.Services.Files, program.Services.Ansi, path).value_or(path);
+    menu.AddEntry(record, {TitleOf(program, item, path, file.Name), stored, stored});
   }
   folder.RecEnd = menu.Count();
   return folder;

@@ -23,6 +23,7 @@ class Win32Files final : public FileSystem {
   FileStatus Copy(std::string_view from, std::string_view to) override;
   FileStatus MakeFolder(std::string_view path) override;
   std::string LongPath(std::string_view path) override;
+  std::string ShortPath(std::string_view path) override;
 
  private:
   unsigned temporary_ = 0;  // how many files were replaced, for the names of their new contents

@@ -198,6 +198,35 @@ TEST(FolderItems, AFileWhosePathNoRecordHoldsStartsFromTheMenuAndIsMissingInTheF
   EXPECT_TRUE(desk.Started()[0].ends_with("\\a.exe and more.exe"));
 }
 
+TEST(FolderItems, AFileWhosePathNoRecordHoldsGoesByItsShortNameOrIsNotCopied) {
+  FolderDesk desk;
+  std::string folder = "C:\\";
+  for (int i = 0; i < 85; ++i) folder += "\xE6\x97\xA5";
+  desk.World.Files.Put(folder + "\\a.exe", "x");
+  desk.OpenCommands({folder + "\\*.*"});
+  // Ctrl and a press would pick it up.
+  desk.PointAtItem(1);
+  desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk.Menu.Form_MouseDown(forms::MouseButton::Left, {.Ctrl = true}, 600,
+                           desk.Menu.Lbl[1].Top() + 60);
+  ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_NE(desk.World.Desktop.Boxes()[0].Text.find(folder + "\\a.exe"), std::string::npos);
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+
+  desk.World.Files.GiveShortName(folder, "6A2F~1");
+  desk.Menu.HideMenu();
+  desk.Menu.ForgetMenu("F2");
+  desk.OpenCommands({folder + "\\*.*"});
+  EXPECT_EQ(desk.Menu.GetExeName(1), "C:\\6A2F~1\\a.exe");
+  ASSERT_EQ(desk.Generated().size(), 2U);
+  EXPECT_EQ(desk.Generated()[1].FName, "C:\\6A2F~1\\a.exe");
+  desk.PointAtItem(1);
+  desk.Menu.Form_MouseDown(forms::MouseButton::Left, {.Ctrl = true}, 600,
+                           desk.Menu.Lbl[1].Top() + 60);
+  EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging);
+  desk.TheProgram.Entry.ItemDragging = false;
+}
+
 // ---- subfolders ----
 
 class SubFolderItems : public ::testing::Test {

@@ -184,6 +184,16 @@ TEST(MenuOLEDragDrop, WithNothingSelectedFilesGoToTheEnd) {
   EXPECT_EQ(desk.Titles(), (Names{"Button", "Item 1", "Item 2", "Item 3", "b"}));
 }
 
+TEST(MenuOLEDragDrop, WhatNoRecordHoldsIsRefusedAndTheOthersAreTaken) {
+  DragDesk desk;
+  const std::string refused = "C:\\docs\\" + std::string(280, 'n') + ".txt";
+  desk.TakeFiles({refused, "C:\\docs\\a.txt"});
+  desk.DragToItem(2);
+  desk.Drop();
+  EXPECT_EQ(desk.Titles(), (Names{"Button", "Item 1", "a", "Item 2", "Item 3"}));
+  EXPECT_EQ(desk.Strip.Refused, Names{refused});
+}
+
 TEST(MenuOLEDragDrop, AnEntryOfAFolderItemStandsForTheItemInTheStoredFile) {
   DragDesk desk;
   // An expanded copy: the record behind "Item 1" is a folder item, which gave two entries.
