@@ -46,6 +46,7 @@ class HostFiles final : public FileSystem {
   FileStatus Copy(std::string_view from, std::string_view to) override;
   FileStatus MakeFolder(std::string_view path) override;
   std::string LongPath(std::string_view path) override { return std::string(path); }
+  std::string ShortPath(std::string_view path) override { return std::string(path); }
 
  private:
   [[nodiscard]] std::filesystem::path Host(std::string_view path) const;

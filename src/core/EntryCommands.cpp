@@ -1,5 +1,7 @@
 #include "core/EntryCommands.h"
 
+#include "base/FieldText.h"
+#include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "core/RecordEdits.h"
 
@@ -94,6 +96,14 @@ EditOutcome DeleteMenuItem(Program& program, const EntryEdit& entry) {
 }
 
 }  // namespace
+
+bool MayBeCopied(Program& program, WindowId owner) {
+  const std::string& command = program.Entry.CurCommand;
+  if (EncodeText(command, program.Services.Ansi).size() <= kNameWidth) return true;
+  program.Say(owner, RefusedFilesText({command}),
+              forms::msgbox::IconInformation | forms::msgbox::OnTop);
+  return false;
+}
 
 void SayRecordMismatch(Program& program) {
   program.Say(program.WindowInUse(), "Cannot delete/cut this item. Record mismatch.",

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "core/RecordEdits.h"
+#include "platform/WindowId.h"
 
 namespace corvelle {
 
@@ -28,6 +29,10 @@ bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bo
 
 /// Puts the last deleted entry back at its place.
 EditOutcome UndoDeleteItem(Program& program);
+
+/// True if a record can hold a copy of the current entry. Where its path is too long for that, the
+/// user is told which one it is.
+[[nodiscard]] bool MayBeCopied(Program& program, WindowId owner);
 
 /// Tells the user that the file does not hold the entry any more.
 void SayRecordMismatch(Program& program);

@@ -62,16 +62,31 @@ FileResult<std::string> ReadWhole(FileSystem& files, std::string_view path) {
 
 FileResult<std::vector<MenuRecord>> ReadAllRecords(FileSystem& files, const CodePage& ansi,
                                                    std::string_view path) {
-  const FileResult<std::string> bytes = ReadOrCreate(files, path, 0, kReadLimit);
+  const FileResult<std::string> stored = ReadStoredRecords(files, path);
+  if (!stored) return stored.Error();
+  return ParseRecords(*stored, ansi);
+}
+
+FileResult<std::string> ReadStoredRecords(FileSystem& files, std::string_view path) {
+  FileResult<std::string> bytes = ReadOrCreate(files, path, 0, kReadLimit);
   if (!bytes) return bytes.Error();
-  const std::string_view all = *bytes;
+  std::string stored = WholeRecords(*std::move(bytes));
+  stored.resize(std::min(stored.size(), kMaxRecords * kRecordLength));
+  return stored;
+}
+
+std::vector<MenuRecord> ParseRecords(std::string_view stored, const CodePage& ansi) {
   std::vector<MenuRecord> records;
-  const int count = RecordCount(all.size());
-  records.reserve(static_cast<std::size_t>(count));
-  for (int number = 1; number <= count; ++number) {
-    records.push_back(ParseRecord(all.substr(OffsetOf(number), kRecordLength), ansi));
+  records.reserve(stored.size() / kRecordLength);
+  for (; !stored.empty(); stored.remove_prefix(std::min(stored.size(), kRecordLength))) {
+    records.push_back(ParseRecord(stored.substr(0, kRecordLength), ansi));
   }
   return records;
+}
+
+std::string StoredRecord(std::string_view stored, int number) {
+  if (number < 1 || OffsetOf(number) >= stored.size()) return {};
+  return std::string(stored.substr(OffsetOf(number), kRecordLength));
 }
 
 FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi, std::string_view path,

@@ -126,6 +126,7 @@ class Program {
   bool ShellDrawsIcons = false;
   /// The Recycle Bin's icon as it was last seen, and whether it has changed since the last look.
   std::string RecycleIconPath;
+  int RecycleIconIndex = -1;
   bool RecycleIconChanged = false;
 
   /// Lets waiting events run. Whoever calls it must be ready for anything to have happened.

@@ -20,9 +20,25 @@ MenuRecord UndoStoreRecord(const EntryEdit& edit) {
   return {edit.UndoTitle, edit.UndoIcon, edit.UndoCommand};
 }
 
-bool IsCurrentEntry(const EntryEdit& edit, const MenuRecord& record) {
-  return EqualNoCase(record.FTitle, edit.CurTitle) && EqualNoCase(record.FIcon, edit.CurIcon) &&
-         EqualNoCase(record.FName, edit.CurCommand);
+MenuRecord CurrentRecord(const EntryEdit& edit) {
+  return {edit.CurTitle, edit.CurIcon, edit.CurCommand};
+}
+
+bool IsSameEntry(const MenuRecord& a, const MenuRecord& b) {
+  return EqualNoCase(a.FTitle, b.FTitle) && EqualNoCase(a.FIcon, b.FIcon) &&
+         EqualNoCase(a.FName, b.FName);
+}
+
+/// True if `record` is the one that the current entry was read from.
+bool IsCurrentEntry(const EntryEdit& edit, const CodePage& ansi, const MenuRecord& record) {
+  return IsSameEntry(
+      record, edit.CurStored.empty() ? CurrentRecord(edit) : ParseRecord(edit.CurStored, ansi));
+}
+
+/// The bytes that a copy of the current entry has.
+std::string CopyOfCurrent(const EntryEdit& edit, const CodePage& ansi) {
+  const bool stored = !edit.CurStored.empty() && !IsGenerated(edit.CurRecord);
+  return stored ? edit.CurStored : FormatRecord(CurrentRecord(edit), ansi);
 }
 
 constexpr int kNoPlace = 0;
@@ -55,12 +71,11 @@ EditOutcome ChangeFolder(FileSystem& files, const CodePage& ansi, const EntryEdi
   if (!IsFolder(record->FName) || IsClosedFolder(record->FName) != closed) {
     return EditOutcome::RecordMismatch;
   }
+  if (!edit.CurStored.empty() && !IsCurrentEntry(edit, ansi, *record)) {
+    return EditOutcome::RecordMismatch;
+  }
   record->FName = change(record->FName);
   return OutcomeOf(WriteRecord(files, ansi, edit.CurFile, number, *record));
-}
-
-std::string CurrentRecord(const EntryEdit& edit, const CodePage& ansi) {
-  return FormatRecord({edit.CurTitle, edit.CurIcon, edit.CurCommand}, ansi);
 }
 
 /// True for an entry of a menu that has a record of its own.
@@ -102,7 +117,7 @@ EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const Entr
   if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
   if (!record) return EditOutcome::Refused(record.Error());
-  return IsCurrentEntry(edit, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
+  return IsCurrentEntry(edit, ansi, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
 }
 
 EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
@@ -169,7 +184,7 @@ EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
   const FileResult<int> before = PlaceInFile(files, place);
   if (!before) return EditOutcome::Refused(before.Error());
   if (*before == kNoPlace) return EditOutcome::NothingToDo;
-  const std::string record = CurrentRecord(edit, ansi);
+  const std::string record = CopyOfCurrent(edit, ansi);
   return OutcomeOf(RewriteMenuFile(files, menusPath, place.File, [&](std::string records) {
     return InsertOrAppendRecord(std::move(records), *before, record);
   }));
@@ -189,7 +204,7 @@ EditOutcome MoveEntryToMenu(FileSystem& files, const CodePage& ansi, std::string
   if (!target) return EditOutcome::Refused(target.Error());
   FileTransaction move(files, menusPath);
   move.Write(place.File,
-             InsertOrAppendRecord(*std::move(target), *before, CurrentRecord(edit, ansi)));
+             InsertOrAppendRecord(*std::move(target), *before, CopyOfCurrent(edit, ansi)));
   const FileStatus taken =
       single ? TakeOutOfRow(files, menusPath, edit, move) : TakeOutOfMenu(files, edit, move);
   return OutcomeOf(taken ? move.Commit() : taken);
@@ -205,7 +220,7 @@ EditOutcome MoveEntryToSingles(FileSystem& files, const CodePage& ansi, std::str
   const std::size_t at = PlaceOfSingle(*row, before);
   if (at == row->size() && !before.empty()) return EditOutcome::NothingToDo;
   FileTransaction move(files, menusPath);
-  const MenuRecord record{edit.CurTitle, edit.CurIcon, edit.CurCommand};
+  const MenuRecord record = ParseRecord(CopyOfCurrent(edit, ansi), ansi);
   AddSingleRewrite(move, menusPath, *row, WithSingles(*row, at, {record}, ansi));
   const FileStatus taken = TakeOutOfMenu(files, edit, move);
   return OutcomeOf(taken ? move.Commit() : taken);
@@ -227,6 +242,7 @@ void ForgetCurrentEntry(EntryEdit& edit) {
   edit.CurMenuTag.clear();
   edit.CurFile.clear();
   edit.CurRecord = 0;
+  edit.CurStored.clear();
 }
 
 EditOutcome CloseFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
@@ -274,6 +290,7 @@ EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryE
   // its folder item is then no separator.
   if (!IsSeparatorIcon(record->FIcon)) return EditOutcome::RecordMismatch;
   edit.CurRecord = place;
+  edit.CurStored.clear();
   edit.CurTitle = record->FTitle;
   edit.CurIcon = record->FIcon;
   edit.CurCommand = record->FName;

@@ -18,6 +18,9 @@ struct EntryEdit {
   std::string CurMenuTag;  // "B" or "F" and an index, "Q1", "SingleButtons" or "Toolbar"
   std::string CurFile;     // full path
   int CurRecord = 0;       // above kGeneratedBase for a generated entry
+  /// The record that CurRecord leads to, as it was stored when the menu was built; empty where only
+  /// the texts above tell the entry. Texts can be cut or shortened for the screen, this is not.
+  std::string CurStored;
 
   std::string ClipTitle;
   std::string ClipIcon;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "base/Geometry.h"
 #include "base/Twips.h"
 #include "core/CommandPorts.h"
+#include "core/MenuRecord.h"
 #include "forms/Types.h"
 #include "platform/FileSystem.h"
 #include "platform/WindowId.h"
@@ -71,6 +73,9 @@ class ToolbarPort : public AskingWindow {
 
   /// Saves the options and rebuilds the strip after a change in the menus or the options.
   virtual void InitNewButtons() = 0;
+  /// Tells the user, once the current event is over, that these dropped files were not taken (see
+  /// RefusedFilesText). Nothing is told when there are none.
+  virtual void TellRefused(std::vector<std::string> files) = 0;
   /// Reads the menu buttons anew and draws them, without sizing the strip.
   virtual void DoToolbarButtons() = 0;
   /// Reads the single buttons anew and draws them.
@@ -322,14 +327,26 @@ class CapturePort {
   [[nodiscard]] virtual std::string OutlineEdge() const = 0;
 };
 
-/// Folder items, which expand into a generated file when their menu opens.
+/// A menu whose open folder items are replaced by what they hold.
+struct ExpandedMenu {
+  std::string File;                  // full path of the generated file that holds a copy
+  std::vector<MenuRecord> Records;   // the first one is the menu's button
+  std::vector<EntryOrigin> Origins;  // of each record
+  std::string Stored;                // the menu file as it was read, in whole records
+};
+
+/// Folder items, which expand when their menu opens.
 class FolderMenusPort {
  public:
   virtual ~FolderMenusPort() = default;
 
-  /// The file to build the menu from: the generated one when `menuFile` has open folder items, else
-  /// `menuFile` itself.
-  virtual std::string Expand(std::string_view menuKey, std::string_view menuFile) = 0;
+  /// What the menu is built from; nothing for a file without open folder items, and for one that
+  /// cannot be read.
+  [[nodiscard]] virtual std::optional<ExpandedMenu> Expand(std::string_view menuKey,
+                                                           std::string_view menuFile) = 0;
+  /// Writes the generated file, for other programs; the menu itself does not need it. False, and
+  /// nothing is told, when it cannot be written.
+  virtual bool WriteGenerated(const ExpandedMenu& menu) = 0;
   /// True if the folders of a built menu changed since.
   virtual bool UpdateMenu(std::string_view menuKey) = 0;
 };

@@ -86,6 +86,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   /// The command of an item; tells whether it follows a separator.
   [[nodiscard]] std::string GetExeName(int index);
   [[nodiscard]] std::string GetIconName(int index) const;
+  /// What an item is called: its caption, or its whole name in a folder of the shell.
+  [[nodiscard]] std::string NameOf(int index) const;
   [[nodiscard]] int GetRecordNum(int index) const;
   /// Gives an item its disabled look, and takes that of all items away.
   void DisableLabel(int index);
@@ -234,8 +236,11 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   [[nodiscard]] float PlaceForRoom();
 
   // Building (frmQMenuBuild.cpp).
-  /// The file to read, with its folder items expanded where there is a service for that.
-  [[nodiscard]] std::string ExpandFolders(std::string_view menuFile);
+  /// The menu with its folder items expanded, where it has open ones and there is a service for
+  /// that.
+  [[nodiscard]] std::optional<ExpandedMenu> ExpandFolders(std::string_view menuFile);
+  /// Writes the generated file, once the menu is up.
+  void KeepGenerated(const ExpandedMenu& expanded);
   void TakeLayout(const MenuLayout& layout);
   void DisplayFirstPage();
 

@@ -22,7 +22,7 @@ void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, flo
   const int index = program_.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled() || HitItem(Page(), y) != index) return;
   FillCurrentItem(index);
-  StartCarry(program_);
+  if (MayBeCopied(program_, hWnd())) StartCarry(program_);
 }
 
 PixelPoint frmQMenu::OnScreen(float x, float y) const {

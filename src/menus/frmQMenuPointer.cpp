@@ -113,7 +113,7 @@ void frmQMenu::ChooseItem(float x, float y) {
     DropSelection();
     return;
   }
-  const std::string title = SingleAmpersands(Lbl[hit].Caption());
+  const std::string title = NameOf(hit);
   const bool mainMenu = EqualNoCase(MenuKey, kMainMenuKey);
   // The program's own menu acts by its captions.
   const std::string command =
@@ -165,7 +165,7 @@ void frmQMenu::OfferShellMenu(int index) {
   FillCurrentItem(index);
   // The item may be another one by the time the menu of the shell is gone, and so may the window.
   const std::string command = GetExeName(index);
-  const std::string title = SingleAmpersands(Lbl[index].Caption());
+  const std::string title = NameOf(index);
   const std::string key = MenuKey;
   const auto watch = MakeWatch();
   const auto runs = [&] {

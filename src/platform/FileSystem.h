@@ -106,6 +106,10 @@ class FileSystem {
   /// The path in its long form with the case that the disk keeps; the path as given when the disk
   /// does not know it.
   [[nodiscard]] virtual std::string LongPath(std::string_view path) = 0;
+
+  /// The path of a file or folder with the short names ("LETTER~1.TXT") that the disk keeps for its
+  /// parts; a part without one stays as it is. Empty when there is no such file or folder.
+  [[nodiscard]] virtual std::string ShortPath(std::string_view path) = 0;
 };
 
 }  // namespace corvelle

@@ -83,7 +83,9 @@ void Popup::CutEntry() {
   Settle(DeleteItem(program_, true), file);
 }
 
-void Popup::CopyCurrentEntry() { CopyEntry(program_.Entry); }
+void Popup::CopyCurrentEntry() {
+  if (MayBeCopied(program_, program_.ToolbarWindow())) CopyEntry(program_.Entry);
+}
 
 void Popup::PasteEntry() {
   const forms::FlagScope rewriting(program_.ItemActionBusy);

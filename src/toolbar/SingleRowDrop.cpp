@@ -4,6 +4,7 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
+#include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "core/SingleFiles.h"
 #include "launch/FileTitle.h"
@@ -135,12 +136,13 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
                  std::string(SingleButtons[static_cast<std::size_t>(target)].Command));
     return;
   }
-  std::vector<MenuRecord> records;
-  records.reserve(names.size());
-  for (const std::string& name : names) {
-    records.push_back({GetFileTitle(program_, name), name, name});
-  }
   FileSystem& files = program_.Services.Files;
+  DroppedEntries dropped =
+      DroppedRecords(files, program_.Services.Ansi, std::move(names),
+                     [this](std::string_view name) { return GetFileTitle(program_, name); });
+  strip_.TellRefused(std::move(dropped.Refused));
+  const std::vector<MenuRecord>& records = dropped.Records;
+  if (records.empty()) return;
   const auto row = ReadSingleFiles(files, program_.MenusPath);
   if (!row) return;
   const std::size_t at =

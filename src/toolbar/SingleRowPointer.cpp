@@ -241,6 +241,7 @@ void SingleRow::BeginCarry(int index) {
   entry.CurMenuTag = kSinglesTag;
   entry.CurFile = single.File;
   entry.CurRecord = 1;
+  entry.CurStored.clear();
   CopyEntry(entry);
   const std::string icon = CarriedIcon(single);
   if (program_.Ports.DragImage != nullptr) program_.Ports.DragImage->SetDragImage(icon);

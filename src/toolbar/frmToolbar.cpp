@@ -43,6 +43,7 @@ bool HoldsAny(FileSystem& files, const std::string& folder, std::string_view pat
 frmToolbar::frmToolbar(Program& program)
     : Form(program.Windows, "frmToolbar"),
       tmrDragDrop(program.Windows),
+      tmrRefused(program.Windows),
       picSingleButton(*this, "picSingleButton"),
       Line1([this](int) { return std::make_unique<forms::Line>(picSingleButton, "Line1"); }),
       Line2([this](int) { return std::make_unique<forms::Line>(picSingleButton, "Line2"); }),
@@ -121,6 +122,7 @@ void frmToolbar::WireEvents() {
   Timer1.Tick = [this] { Timer1_Timer(); };
   Timer2.Tick = [this] { Timer2_Timer(); };
   tmrDragDrop.SetInterval(kDragPoll);
+  tmrRefused.SetInterval(1);
   WireDrags();
 }
 

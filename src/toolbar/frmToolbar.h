@@ -163,6 +163,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
                                    float y);
   /// Looks each 100 ms whether a drag that came over the strip is still there.
   void tmrDragDrop_Timer();
+  void TellRefused(std::vector<std::string> files) override;
+  void tmrRefused_Timer();
 
   // ---- the date (frmToolbarDate.cpp) ----
 
@@ -214,6 +216,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   // ---- controls, from the back to the front ----
 
   forms::Timer tmrDragDrop;
+  /// Ticks once, after a drop of which files were refused.
+  forms::Timer tmrRefused;
   forms::PictureBox picSingleButton;
   /// Lines in that box: element 0 is before the date, the others are separators.
   forms::ControlArray<forms::Line> Line1;
@@ -455,10 +459,11 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   AbandonWatch pullWatch_;
   float menuLeft_ = 0;  // where the menu window was placed
   float menuTop_ = 0;
-  std::int64_t pressedAt_ = 0;    // when the menu was last changed by hand, milliseconds
-  int quietTicks_ = 0;            // of tmrDragDrop, since the drag was last heard of
-  bool positionUnsaved_ = false;  // the disk refused SavedLeft
-  bool positioned_ = false;       // SavedLeft is known
+  std::int64_t pressedAt_ = 0;        // when the menu was last changed by hand, milliseconds
+  std::vector<std::string> refused_;  // of a drop, not told yet
+  int quietTicks_ = 0;                // of tmrDragDrop, since the drag was last heard of
+  bool positionUnsaved_ = false;      // the disk refused SavedLeft
+  bool positioned_ = false;           // SavedLeft is known
   bool subclassed_ = false;
   bool focusRequested_ = false;
   bool barsWait_ = false;    // bars or the screen have changed since the strip was placed

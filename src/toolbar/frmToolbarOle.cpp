@@ -1,5 +1,7 @@
 // What other programs drag over the strip and drop on it.
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "base/Text.h"
@@ -48,6 +50,7 @@ void frmToolbar::WireDrags() {
   picToolbar.SetTakesDrops(true);
   picSingleButton.SetTakesDrops(true);
   tmrDragDrop.Tick = [this] { tmrDragDrop_Timer(); };
+  tmrRefused.Tick = [this] { tmrRefused_Timer(); };
 }
 
 bool frmToolbar::TakesDrag(const DragData& data) const {
@@ -186,10 +189,13 @@ void frmToolbar::DropFiles(std::vector<std::string> names, int button) {
   {
     const forms::FlagScope dragging(program_.Entry.ItemDragging);
     const forms::FlagScope busy(program_.ItemActionBusy);
-    const std::vector<MenuRecord> records = DroppedRecords(
-        std::move(names),
+    FileSystem& files = program_.Services.Files;
+    const CodePage& ansi = program_.Services.Ansi;
+    DroppedEntries dropped = DroppedRecords(
+        files, ansi, std::move(names),
         [this](std::string_view name) { return Trim(GetFileTitle(program_, name)); });
-    outcome = AppendDropped(program_.Services.Files, program_.Services.Ansi, path, records);
+    outcome = AppendDropped(files, ansi, path, dropped.Records);
+    TellRefused(std::move(dropped.Refused));
   }
   if (!IsLoaded()) return;
   // The menu as it is shows that nothing was added.
@@ -201,6 +207,21 @@ void frmToolbar::DropFiles(std::vector<std::string> names, int button) {
   // from.
   if (!IsOursActive()) program_.Services.Desktop.BringForward(hWnd());
   if (IsLoaded()) RefreshMenu("F" + std::to_string(button));
+}
+
+// A source that drags waits until the drop returns, and a message would hold it.
+void frmToolbar::TellRefused(std::vector<std::string> files) {
+  if (files.empty()) return;
+  std::move(files.begin(), files.end(), std::back_inserter(refused_));
+  tmrRefused.SetEnabled(true);
+}
+
+void frmToolbar::tmrRefused_Timer() {
+  tmrRefused.SetEnabled(false);
+  const std::vector<std::string> files = std::exchange(refused_, {});
+  if (files.empty() || !IsLoaded()) return;
+  program_.Say(hWnd(), RefusedFilesText(files),
+               forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
 void frmToolbar::DropAddress(std::string_view text, int button) {

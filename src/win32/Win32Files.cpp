@@ -354,4 +354,16 @@ std::string Win32Files::LongPath(std::string_view path) {
   return Narrow(result);
 }
 
+std::string Win32Files::ShortPath(std::string_view path) {
+  const auto wide = PathOf(path);
+  if (!wide || wide->empty() || AttributesOf(*wide) == INVALID_FILE_ATTRIBUTES) return {};
+  const DWORD room = GetShortPathNameW(wide->c_str(), nullptr, 0);
+  std::wstring text(room, L'\0');
+  // The count without a buffer includes the NUL at the end, that of what was written does not.
+  const DWORD length = room == 0 ? 0 : GetShortPathNameW(wide->c_str(), text.data(), room);
+  if (length == 0 || length >= room) return {};
+  text.resize(length);
+  return Narrow(text);
+}
+
 }  // namespace corvelle::win32

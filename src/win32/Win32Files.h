@@ -25,6 +25,7 @@ class Win32Files final : public FileSystem {
   FileStatus Copy(std::string_view from, std::string_view to) override;
   FileStatus MakeFolder(std::string_view path) override;
   std::string LongPath(std::string_view path) override;
+  std::string ShortPath(std::string_view path) override;
 
  private:
   FileStatus ReplaceWith(std::string_view path, std::string_view bytes, bool flush);

@@ -110,6 +110,17 @@ TEST_F(ShellFolderItems, TheDesktopIsBuiltAnewOnlyWhenTheBinsIconChanged) {
   EXPECT_TRUE(desk_.World.Files.Log().empty());
 }
 
+TEST_F(ShellFolderItems, TheDesktopFollowsABinThatOnlyTheShellKnowsToBeFull) {
+  desk_.World.Folders.SetSelf(10, {"Bin", 31});
+  desk_.OpenCommands({"CSIDL_DESKTOP"});
+  desk_.World.Folders.Put(0, {{"My Computer", 15}, {"Bin", 32}});
+  desk_.OpenAgain();
+  EXPECT_EQ(desk_.Menu.GetIconName(1), "31");
+  desk_.World.Folders.SetSelf(10, {"Bin", 32});
+  desk_.OpenAgain();
+  EXPECT_EQ(desk_.Menu.GetIconName(1), "32");
+}
+
 TEST_F(ShellFolderItems, AChangeOfTheBinReachesEachMenuOfTheDesktop) {
   desk_.SetBin("empty.ico");
   desk_.OpenCommands({"CSIDL_DESKTOP"}, 1);

@@ -435,10 +435,11 @@ TEST(frmQMenuHourglass, ShowsWhileTheMenuIsBuiltUnlessAnItemIsDragged) {
     class Looking final : public FolderMenusPort {
      public:
       explicit Looking(MenuDesk& desk) : desk_(desk) {}
-      std::string Expand(std::string_view, std::string_view menuFile) override {
+      std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
         Then = desk_.World.Desktop.CurrentMousePointer();
-        return std::string(menuFile);
+        return std::nullopt;
       }
+      bool WriteGenerated(const ExpandedMenu&) override { return true; }
       bool UpdateMenu(std::string_view) override { return false; }
       forms::MousePointer Then = forms::MousePointer::Default;
 

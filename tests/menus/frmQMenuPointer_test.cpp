@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "menus/FolderMenus.h"
 #include "menus/MenuDesk.h"
 #include "platform/ShellExec.h"
 
@@ -307,15 +308,19 @@ TEST(frmQMenuRightClick, AnEntryOfAFolderOfTheShellIsNamedByItsTitleInIt) {
   MenuDesk desk;
   NotingPopup popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
-  desk.Open(1, {Item("Fonts", "37", "CSIDL_CONTROLS"), Item("Drives", "", "CSIDL_DRIVES")});
+  FolderMenus folders(desk.TheProgram);
+  desk.TheProgram.Ports.FolderMenus = &folders;
+  desk.World.Folders.Put(3, {{"Fonts", 37}});
+  desk.Open(1, {Item("Panel", "", "CSIDL_CONTROLS"), Item("Drives", "15", "CSIDL_DRIVES/X")});
   desk.PointAtItem(1);
   desk.World.Desktop.Click(MouseButton::Right);
   EXPECT_EQ(popup.Seen.CurCommand, "Fonts\\CSIDL_CONTROLS");
   EXPECT_EQ(popup.Seen.CurIcon, "Fonts\\CSIDL_CONTROLS");
   desk.PointAtItem(2);
   desk.World.Desktop.Click(MouseButton::Right);
-  EXPECT_EQ(popup.Seen.CurCommand, "CSIDL_DRIVES");
-  EXPECT_EQ(popup.Seen.CurIcon, "");
+  // A folder that is not expanded is an item of the file.
+  EXPECT_EQ(popup.Seen.CurCommand, "CSIDL_DRIVES/X");
+  EXPECT_EQ(popup.Seen.CurIcon, "15");
 }
 
 TEST(frmQMenuRightClick, WithoutAnItemOrOnADisabledOneDoesNothing) {

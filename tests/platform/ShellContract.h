@@ -38,6 +38,9 @@ class ContractShell {
   /// A file that holds exactly `Count` icons, at least one.
   virtual std::string IconFile() = 0;
   virtual int IconCount() = 0;
+  /// A file that has an icon in the resource of that number.
+  virtual std::string ResourceFile() = 0;
+  virtual int IconResource() = 0;
   /// Puts values under HKEY_CURRENT_USER\Software\CorvelleContract.
   virtual void SetValue(const std::string& name, const RegistryValue& value) = 0;
 };
@@ -183,6 +186,22 @@ TEST_P(ShellContract, DrawsIconsInsideFilesAtAnySize) {
     EXPECT_EQ(canvas->PixelAt({1, 1}), 0x00FF00FFU);
     EXPECT_EQ(canvas->PixelAt({size + 2, size + 2}), 0x00FF00FFU);
   }
+}
+
+TEST_P(ShellContract, DrawsTheIconOfAResourceByItsNegativeNumber) {
+  ASSERT_GT(shell_->IconResource(), 0);
+  for (const int size : {16, 32}) {
+    const auto canvas = Sheet();
+    EXPECT_TRUE(shell_->Icons().DrawFileIcon(*canvas, shell_->ResourceFile(),
+                                             -shell_->IconResource(), {2, 2}, size));
+    EXPECT_TRUE(Touched(*canvas));
+    EXPECT_EQ(canvas->PixelAt({1, 1}), 0x00FF00FFU);
+    EXPECT_EQ(canvas->PixelAt({size + 2, size + 2}), 0x00FF00FFU);
+  }
+  const auto canvas = Sheet();
+  EXPECT_FALSE(shell_->Icons().DrawFileIcon(*canvas, shell_->ResourceFile(), -64999, {0, 0}, 16));
+  EXPECT_FALSE(shell_->Icons().DrawFileIcon(*canvas, Missing(), -1, {0, 0}, 16));
+  EXPECT_FALSE(Touched(*canvas));
 }
 
 TEST_P(ShellContract, DrawsNoIconThatAFileDoesNotHold) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/DroppedFiles.h"
 #include "toolbar/DragDesk.h"
 #include "toolbar/frmImage.h"
 
@@ -58,19 +59,28 @@ TEST(ToolbarOLEDragDrop, TheRightButtonStoresLikewise) {
   EXPECT_EQ(desk.MenuUp(), 2);
 }
 
-TEST(ToolbarOLEDragDrop, AThousandFilesAndLongNamesCome) {
+TEST(ToolbarOLEDragDrop, AThousandFilesComeAndOneThatNoRecordHoldsIsNamedAfterwards) {
   DragDesk desk;
   Names files;
   for (int i = 0; i < 1000; ++i) files.push_back("C:\\f" + std::to_string(20000 - i) + ".txt");
-  files.push_back("C:\\" + std::string(297, 'z'));
+  const std::string refused = "C:\\" + std::string(297, 'z');
+  files.push_back(refused);
   desk.TakeFiles(files);
   desk.DragToButton(2);
   desk.Drop();
+  // The source has its answer by now.
+  EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
   const auto records = desk.RecordsOf(1);
-  ASSERT_EQ(records.size(), 1003U);
+  ASSERT_EQ(records.size(), 1002U);
   EXPECT_EQ(records[2].FName, "C:\\f19001.txt");
   EXPECT_EQ(records[1001].FTitle, "f20000");
-  EXPECT_EQ(records[1002].FName.size(), 260U);
+  desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk.Wait(100);
+  ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Text, RefusedFilesText({refused}));
+  desk.Wait(1000);
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_FALSE(desk.Strip.tmrRefused.Enabled());
 }
 
 TEST(ToolbarOLEDragDrop, MeansTheButtonThatIsUnderThePointerByThen) {

@@ -65,6 +65,21 @@ class RealShell final : public ContractShell {
   int IconCount() override {
     return static_cast<int>(ExtractIconExW(Wide(IconFile()).c_str(), -1, nullptr, nullptr, 0));
   }
+  std::string ResourceFile() override { return "C:\\windows\\system32\\shell32.dll"; }
+  int IconResource() override {
+    int number = 0;
+    const HMODULE library =
+        LoadLibraryExW(L"C:\\windows\\system32\\shell32.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    if (library == nullptr) return number;
+    const auto take = [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR found) -> BOOL {
+      if (!IS_INTRESOURCE(name)) return TRUE;
+      *reinterpret_cast<int*>(found) = static_cast<int>(reinterpret_cast<ULONG_PTR>(name));
+      return FALSE;
+    };
+    EnumResourceNamesW(library, RT_GROUP_ICON, take, reinterpret_cast<LONG_PTR>(&number));
+    FreeLibrary(library);
+    return number;
+  }
   void SetValue(const std::string& name, const RegistryValue& value) override {
     if (const auto* const text = std::get_if<std::string>(&value)) {
       const std::wstring wide = Wide(*text);
