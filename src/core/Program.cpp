@@ -1,6 +1,7 @@
 #include "core/Program.h"
 
 #include "core/OptionFlags.h"
+#include "forms/Scopes.h"
 #include "platform/Input.h"
 
 namespace corvelle {
@@ -15,6 +16,15 @@ bool Program::DragHolds() const {
 bool Program::TakesDrops() const noexcept {
   return !StartingUp && !MenuBuilding && !IconsLoading && !ItemActionBusy && !MenuFormBusy &&
          !AppBarBusy && !PosChangeRunning;
+}
+
+void Program::DoEvents() {
+  if (EventsRunning) {
+    Windows.PaintWaiting();
+    return;
+  }
+  const forms::FlagScope running(EventsRunning);
+  Windows.DoEvents();
 }
 
 void Program::SetHint(std::string_view text) {

@@ -188,6 +188,8 @@ class WindowSystem {
 
   /// Runs the events that are waiting, timers that are due included, and returns.
   virtual void DoEvents() = 0;
+  /// Paints what the windows of the program owe to paint, and runs nothing else.
+  virtual void PaintWaiting() = 0;
   /// Runs events until Quit. Returns at once if Quit was called before.
   virtual void Run() = 0;
   virtual void Quit() = 0;

@@ -29,6 +29,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   forms::MousePointer CurrentMousePointer() const override { return pointer_; }
   void SetMouseIcon(Picture picture, PixelPoint hotSpot) override;
   void DoEvents() override;
+  void PaintWaiting() override;
   void Run() override;
   void Quit() override;
   forms::TimerId StartTimer(int milliseconds, std::function<void()> tick) override;
