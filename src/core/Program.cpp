@@ -38,6 +38,15 @@ bool Program::TakesDrops() const noexcept {
          !MenuFormBusy && !AppBarBusy && !PosChangeRunning;
 }
 
+void Program::DoEvents() {
+  if (EventsRunning) {
+    Windows.PaintWaiting();
+    return;
+  }
+  const forms::FlagScope running(EventsRunning);
+  Windows.DoEvents();
+}
+
 void Program::SetHint(std::string_view text) {
   if (Ports.Hint != nullptr) Ports.Hint->SetHint(text);
 }

@@ -78,6 +78,8 @@ class Program {
   bool MenuFormBusy = false;
   /// The outline of the strip is being moved to another edge.
   bool MovingToolbar = false;
+  /// A call of DoEvents runs.
+  bool EventsRunning = false;
 
   /// A full-screen program was last reported.
   bool FullScreenApp = false;
@@ -129,8 +131,10 @@ class Program {
   int RecycleIconIndex = -1;
   bool RecycleIconChanged = false;
 
-  /// Lets waiting events run. Whoever calls it must be ready for anything to have happened.
-  void DoEvents() { Windows.DoEvents(); }
+  /// Lets waiting events run. Whoever calls it must be ready for anything to have happened. Called
+  /// from what another call of it lets run, it only shows what waits to be painted: that other call
+  /// goes on with the events, and however quickly they come, there is never a third.
+  void DoEvents();
 
   /// True while another program's drag that came over the strip goes on: it decides which menu is
   /// up, and the source keeps the foreground.

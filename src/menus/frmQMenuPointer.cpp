@@ -119,9 +119,8 @@ void frmQMenu::ChooseItem(float x, float y) {
   const std::string command =
       mainMenu ? Trim(SingleAmpersands(Lbl[hit].Caption())) : GetExeName(hit);
   DropSelection();
-  // The menu is gone before the item starts.
+  // The menu is gone before the item starts, and nothing comes between the two.
   CloseMenu();
-  program_.DoEvents();
   RunItem(mainMenu, hit, command, title);
 }
 

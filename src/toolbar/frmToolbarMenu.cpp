@@ -64,8 +64,6 @@ void frmToolbar::ShowMenuOf(int button) {
   Timer2.SetEnabled(false);
   LastOpenFlag = false;
   TakeHintDown();
-  // Events ran if a hint was up.
-  if (!IsLoaded() || button > ButtonCount) return;
   // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.
   if (MenuUp() && !program_.DragHolds()) SetFocus();
   HideMenuWindow();
@@ -171,7 +169,8 @@ void frmToolbar::ResetMenu() {
     CheckToolbarMove();
     menu->SetOwnerTag("0");
   }
-  program_.DoEvents();
+  // What the menu covered is seen again, but the next press waits until this one is dealt with.
+  program_.Windows.PaintWaiting();
 }
 
 }  // namespace corvelle

@@ -128,8 +128,6 @@ void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState
       TipDueAt = 0;
       TipHideAt = 0;
       program_.SetHint(HintOf(current));
-      // Events ran while an old hint closed, and the strip may not be what it was.
-      if (!IsLoaded() || program_.CurButton != current) return;
     }
   }
   if ((program_.MenuOpen || program_.Entry.ItemDragging) && LooksAtRest(current) &&

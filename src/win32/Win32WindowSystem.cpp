@@ -169,6 +169,17 @@ void Win32WindowSystem::DoEvents() {
   }
 }
 
+// The paint messages go straight to the windows: the queue is not asked for anything.
+void Win32WindowSystem::PaintWaiting() {
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM) -> BOOL {
+        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        return TRUE;
+      },
+      0);
+}
+
 void Win32WindowSystem::Run() {
   MSG message{};
   while (!quit_ && GetMessageW(&message, nullptr, 0, 0) > 0) Deliver(message);

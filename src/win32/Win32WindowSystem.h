@@ -32,6 +32,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   void SetMouseIcon(Picture picture, PixelPoint hotSpot) override;
   void DoEvents() override;
   void Post(std::function<void()> work) override { posts_->Post(std::move(work)); }
+  void PaintWaiting() override;
   void Run() override;
   void Quit() override;
   forms::TimerId StartTimer(int milliseconds, std::function<void()> tick) override;

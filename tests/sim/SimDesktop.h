@@ -49,6 +49,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Jump(int milliseconds);
   /// Runs what waits: posted events, paints, timers that are due. Moves no time.
   void Pump();
+  /// The most event loops that may run inside each other: that of the program, a yield in one of
+  /// its events, a popup menu or a question in an event of that, and one question out of them. What
+  /// goes deeper has no bound, and uses up the stack when events come quickly enough.
+  static constexpr int kMostLoops = 4;
+  /// The most that ran inside each other so far.
+  [[nodiscard]] int DeepestLoops() const noexcept { return deepestLoops_; }
   SimClock& Clock() noexcept { return clock_; }
 
   // The user.
@@ -192,6 +198,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   }
   void DoEvents() override { Pump(); }
   void Post(std::function<void()> work) override;
+  void PaintWaiting() override { PaintVisibleWindows(); }
   void Run() override;
   void Quit() override { quit_ = true; }
   forms::TimerId StartTimer(int milliseconds, std::function<void()> tick) override;
@@ -286,6 +293,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void ComposeAll(SimCanvas& screen) const;
 
   // Events
+  void RunWaiting();
   void UserEvent(std::function<void()> event);
   /// The pointer and what is held down at the moment of a user's action.
   struct Mouse {
@@ -337,6 +345,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::deque<std::function<void()>> events_;
   forms::PostedWork postedWork_;
   int depth_ = 0;  // handlers that are running
+  int loops_ = 0;  // loops that run inside each other
+  int deepestLoops_ = 0;
   std::function<void()> runScript_;
   bool quit_ = false;
   std::deque<ScriptedAnswer> answers_;

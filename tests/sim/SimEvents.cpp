@@ -1,5 +1,6 @@
 // The event loop, messages and message boxes.
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -21,6 +22,13 @@ constexpr int kClassicBoxHeight = 120;
 // The loop.
 
 void SimDesktop::Pump() {
+  if (++loops_ == kMostLoops + 1) Complain("event loops run inside each other without a bound");
+  deepestLoops_ = std::max(deepestLoops_, loops_);
+  RunWaiting();
+  --loops_;
+}
+
+void SimDesktop::RunWaiting() {
   for (int count = 0; count < kEndlessLoop; ++count) {
     if (!events_.empty()) {
       const std::function<void()> event = std::move(events_.front());

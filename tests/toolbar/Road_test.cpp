@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "menus/frmQMenu.h"
 #include "toolbar/StripDesk.h"
@@ -58,6 +60,66 @@ TEST(StripAndMenu, AChoiceClosesTheMenuAndStartsItsProgram) {
   EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i2.exe"});
   EXPECT_EQ(desk.RealMenuUp(), 0);
   EXPECT_TRUE(desk.AtRest(2));
+}
+
+// ---- more events than the program has dealt with ----
+
+/// Puts what a user does into the queue of events at once, and lets the program come to it.
+void AtOnce(RoadDesk& desk, const std::function<void()>& deeds) {
+  forms::WindowSystem& windows = desk.World.Desktop;
+  forms::TimerId timer{};
+  timer = windows.StartTimer(1, [&] {
+    windows.StopTimer(timer);
+    deeds();
+  });
+  desk.Wait(1);
+}
+
+TEST(QuickHand, PressesThatWaitAreDealtWithOneAfterTheOther) {
+  RoadDesk desk;
+  desk.PointAtButton(2);
+  AtOnce(desk, [&desk] {
+    for (int press = 0; press < 100; ++press) {
+      desk.World.Desktop.Click();
+    }
+  });
+  EXPECT_LE(desk.World.Desktop.DeepestLoops(), 2);
+  desk.Wait(200);
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+  desk.Click(3);
+  EXPECT_EQ(desk.RealMenuUp(), 3);
+}
+
+TEST(QuickHand, PressesOnTwoButtonsInTurnRunNoLoopsInsideEachOther) {
+  RoadDesk desk;
+  AtOnce(desk, [&desk] {
+    for (int press = 0; press < 100; ++press) {
+      desk.PointAtButton(2 + press / 2 % 2);
+      desk.World.Desktop.Click();
+    }
+  });
+  EXPECT_LE(desk.World.Desktop.DeepestLoops(), 2);
+}
+
+TEST(QuickHand, AYieldInWhatAYieldLetsRunPaintsAndRunsNothing) {
+  RoadDesk desk;
+  forms::WindowSystem& windows = desk.World.Desktop;
+  std::vector<std::string> order;
+  const forms::TimerId outer = windows.StartTimer(1, [&] {
+    order.emplace_back("outer");
+    desk.Strip.Refresh();
+    const int before = desk.World.Desktop.PaintCount();
+    desk.Strip.picToolbar.Invalidate({0, 0, 9000, 900});
+    desk.TheProgram.DoEvents();
+    EXPECT_GT(desk.World.Desktop.PaintCount(), before);
+    order.emplace_back("outer is over");
+  });
+  const forms::TimerId inner = windows.StartTimer(1, [&] { order.emplace_back("inner"); });
+  desk.World.Desktop.Jump(1);
+  desk.TheProgram.DoEvents();
+  windows.StopTimer(outer);
+  windows.StopTimer(inner);
+  EXPECT_EQ(order, (std::vector<std::string>{"outer", "outer is over", "inner"}));
 }
 
 TEST(StripAndMenu, APressHeldIntoTheMenuChoosesWhereItIsReleased) {

@@ -14,14 +14,12 @@ struct NotedParts final : HintPort, DragImagePort, PopupPort, SpecialFoldersPort
   std::vector<std::string> Asked;
   std::string Hint;
 
-  /// What runs while a hint goes, as events do then, and while one comes in another's place.
+  /// What happens while a hint goes.
   std::function<void()> WhileHintGoes;
-  std::function<void()> WhileHintComes;
 
   void SetHint(std::string_view text) override {
     Hint = text;
-    const std::function<void()> meanwhile = text.empty() ? WhileHintGoes : WhileHintComes;
-    if (meanwhile) meanwhile();
+    if (text.empty() && WhileHintGoes) WhileHintGoes();
   }
   WindowId WindowHandle() const override { return kNoWindow; }
   void SetDragImage(std::string_view icon) override {
