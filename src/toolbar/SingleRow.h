@@ -126,6 +126,8 @@ class SingleRow final : public SingleButtonsPort {
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y);
 
+  /// A copy of the entry under the pointer; without a file when there is none.
+  [[nodiscard]] SingleRect Under();
   bool DropBehind(const EntryEdit& carried, forms::MouseButton released);
   bool DropBefore(const std::string& target, const EntryEdit& carried, forms::MouseButton released);
   [[nodiscard]] bool IsAnother(const EntryEdit& carried) const;
