@@ -127,6 +127,8 @@ class SingleRow final : public SingleButtonsPort {
   void ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y);
 
   bool MoveFromMenu(const std::string& before, const EntryEdit& carried);
+  /// A copy of the entry under the pointer; without a file when there is none.
+  [[nodiscard]] SingleRect Under();
   bool DropBehind(const EntryEdit& carried, forms::MouseButton released);
   bool DropBefore(const std::string& target, const EntryEdit& carried, forms::MouseButton released);
   [[nodiscard]] bool IsAnother(const EntryEdit& carried) const;

@@ -39,26 +39,29 @@ FileStatus SingleRow::UndoDeleteSB(std::string_view file) {
                               file, {entry.UndoTitle, entry.UndoIcon, entry.UndoCommand});
 }
 
+SingleRect SingleRow::Under() {
+  const int index = GetCurIndex();
+  return Has(index) ? SingleButtons[static_cast<std::size_t>(index)] : SingleRect();
+}
+
 void SingleRow::DoItemDrag(forms::MouseButton released) {
   if (program_.ItemActionBusy || !strip_.IsLoaded()) return;
   // Events run while the menu closes, and a carry that seems over then is emptied.
   const EntryEdit carried = program_.Entry;
   if (carried.CurMenuTag.empty()) return;
+  const SingleRect target = Under();
   CloseMenus();
   if (!strip_.IsLoaded()) return;
   program_.Entry = carried;
   strip_.Timer2.SetEnabled(false);
-  const int target = GetCurIndex();
-  const std::string before =
-      Has(target) ? SingleButtons[static_cast<std::size_t>(target)].File : std::string();
   const bool copies = released == forms::MouseButton::Right;
   bool changed = false;
   if (!copies && IsMenuTag(carried.CurMenuTag)) {
-    changed = MoveFromMenu(before, carried);
-  } else if (before.empty()) {
+    changed = MoveFromMenu(target.File, carried);
+  } else if (target.File.empty()) {
     changed = DropBehind(carried, released);
   } else {
-    changed = DropBefore(before, carried, released);
+    changed = DropBefore(target.File, carried, released);
   }
   if (changed) DoSingleButtons();
   program_.Entry.ItemDragging = false;
@@ -126,14 +129,15 @@ void SingleRow::FitStrip() {
 
 void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) {
   if (names.empty() || !strip_.IsLoaded() || program_.ItemActionBusy) return;
+  // Events run from here on: the pointer may go on, and the row may be another one.
+  const SingleRect target = Under();
+  const bool onButton = !target.File.empty() && target.Kind == SingleKind::Button;
   program_.SetHint("");
   CloseMenus();
   if (!strip_.IsLoaded()) return;
-  const int target = GetCurIndex();
   SortTexts(names);
-  if (button == forms::MouseButton::Right && IsButton(target)) {
-    OpenWithItem(program_, names.front(),
-                 std::string(SingleButtons[static_cast<std::size_t>(target)].Command));
+  if (button == forms::MouseButton::Right && onButton) {
+    OpenWithItem(program_, names.front(), target.Command);
     return;
   }
   FileSystem& files = program_.Services.Files;
@@ -145,9 +149,7 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
   if (records.empty()) return;
   const auto row = ReadSingleFiles(files, program_.MenusPath);
   if (!row) return;
-  const std::size_t at =
-      Has(target) ? PlaceOfSingle(*row, SingleButtons[static_cast<std::size_t>(target)].File)
-                  : row->size();
+  const std::size_t at = target.File.empty() ? row->size() : PlaceOfSingle(*row, target.File);
   const SingleFiles after = WithSingles(*row, at, records, program_.Services.Ansi);
   // A disk that refuses leaves the row as it was.
   if (!RewriteSingleFiles(files, program_.MenusPath, *row, after)) return;

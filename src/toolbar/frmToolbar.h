@@ -423,6 +423,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void DropAddress(std::string_view text, int button);
   void OfferAddress(const std::string& address, const std::string& tag, const std::string& file);
   [[nodiscard]] bool IsItemButton(int button) const noexcept;
+  /// Index of the item button with that menu file, 0 for none.
+  [[nodiscard]] int ItemButtonOf(std::string_view path) const;
 
   // Keys.
   [[nodiscard]] bool KeyboardMoves() const;

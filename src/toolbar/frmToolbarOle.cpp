@@ -61,6 +61,13 @@ bool frmToolbar::IsItemButton(int button) const noexcept {
   return button > 1 && button <= ButtonCount;
 }
 
+int frmToolbar::ItemButtonOf(std::string_view path) const {
+  for (int i = 2; i <= ButtonCount; ++i) {
+    if (EqualNoCase(ToolbarButtons[static_cast<std::size_t>(i)].Path, path)) return i;
+  }
+  return 0;
+}
+
 // ---- over the buttons ----
 
 void frmToolbar::picToolbar_OLEDragOver(DragData& data, DropEffect& effect, MouseButton down,
@@ -163,17 +170,21 @@ void frmToolbar::picToolbar_OLEDragDrop(DragData& data, DropEffect& effect, Mous
                                         ShiftState /*shift*/, float /*x*/, float /*y*/) {
   const bool takes = TakesDrag(data);
   effect = takes ? effect & EffectOfDrag(program_.DragButtons) : DropEffect::None;
+  GetCurButton();
+  // Events run from here on: the pointer may go on, and the buttons may be other ones.
+  const std::string path = IsItemButton(program_.CurButton)
+                               ? ToolbarButtons[static_cast<std::size_t>(program_.CurButton)].Path
+                               : std::string();
   StopDrag();
   Timer2.SetEnabled(false);
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
   program_.SetHint("");
-  GetCurButton();
-  const int button = program_.CurButton;
   if (program_.DragButtons == MouseButton::Right) ResetMenu();
   if (!IsLoaded()) return;
   CapturePort* const capture = program_.Ports.Capture;
   if (capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
-  if (!takes || !IsItemButton(button)) {
+  const int button = ItemButtonOf(path);
+  if (!takes || button == 0) {
     effect = DropEffect::None;
     EndDragOver();
   } else if (data.Files) {
@@ -259,15 +270,17 @@ void frmToolbar::picSingleButton_OLEDragDrop(DragData& data, DropEffect& effect,
                                              float /*x*/, float /*y*/) {
   const bool takes = TakesDrag(data);
   effect = takes ? effect & EffectOfDrag(program_.DragButtons) : DropEffect::None;
-  program_.SetHint("");
   StopDrag();
+  SingleButtonsPort* const singles = program_.Ports.SingleButtons;
+  if (takes && data.Files && singles != nullptr) {
+    // First of all it looks where the drop is; then it closes the hint and the menu.
+    singles->DropFilesOnSingles(std::exchange(*data.Files, {}), program_.DragButtons);
+    return;
+  }
+  program_.SetHint("");
   ResetMenu();
   if (!takes || !IsLoaded()) return;
-  SingleButtonsPort* const singles = program_.Ports.SingleButtons;
-  if (data.Files) {
-    if (singles == nullptr) return;
-    singles->DropFilesOnSingles(std::exchange(*data.Files, {}), program_.DragButtons);
-  } else if (data.Text) {
+  if (data.Text) {
     const auto address = DroppedAddress(*data.Text);
     if (address) OfferAddress(*address, std::string(kSinglesTag), {});
   }

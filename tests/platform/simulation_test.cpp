@@ -348,6 +348,25 @@ TEST_F(Simulation, ABoxTakesTheForegroundBlocksItsOwnerAndGivesItBack) {
   EXPECT_EQ(presses, 1);
 }
 
+TEST_F(Simulation, OtherWindowsOfOursTakeInputWhileABoxIsUpAndItsOwnerComesAfterIt) {
+  PlainForm owner(TheWorld);
+  owner.Show();
+  PlainForm other(TheWorld);
+  other.Move(6000, 6000, 1500, 1500);
+  other.Show();
+  const PixelRect place = Desktop.BoundsOf(other.hWnd());
+  int presses = 0;
+  other.MouseDown = [&](forms::MouseButton, forms::ShiftState, float, float) { ++presses; };
+  Desktop.Answer(forms::msgbox::AnswerOk);
+  Desktop.ShowMessage(owner.hWnd(), "text", "title", forms::msgbox::Ok);
+  EXPECT_EQ(Desktop.ActiveWindow(), owner.hWnd());
+  Desktop.Answer(forms::msgbox::AnswerOk);
+  Desktop.WhileBoxIsUp([&](const MessageBox&) { Desktop.ClickAt(place.left + 9, place.top + 9); });
+  Desktop.ShowMessage(owner.hWnd(), "text", "title", forms::msgbox::Ok);
+  EXPECT_EQ(presses, 1);
+  EXPECT_EQ(Desktop.ActiveWindow(), other.hWnd());
+}
+
 TEST_F(Simulation, TheOwnerOfABoxMayGoAwayUnderIt) {
   auto form = std::make_unique<PlainForm>(TheWorld);
   form->Show();

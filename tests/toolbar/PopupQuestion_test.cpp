@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -281,6 +282,30 @@ TEST(WhileTheShellsMenuIsUp, NorDoesOneThatPassesWhileItsCommandRuns) {
   desk.Shell.WhileItRuns = [&] { desk.PassOverTheStrip(); };
   desk.RightClickItem(1, "Open");
   desk.ExpectHoverAfterwards();
+}
+
+TEST(WhileTheShellsMenuIsUp, WhatOtherProgramsDragIsRefusedAndClosesNoMenu) {
+  ShellMenuDesk desk;
+  desk.Strip.ResetMenu();
+  desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.BTN",
+                       Records({Entry("Single", "", "C:\\Tools\\tool.exe")}));
+  desk.Strip.RefreshToolbar();
+  desk.OpenMenuOf(2);
+  desk.Shell.WhileItRuns = [&] {
+    const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+    const PixelPoint single{row.left + 8, (std::max(row.top, 0) + row.bottom) / 2};
+    EXPECT_EQ(desk.World.Desktop.WindowAt(single), desk.Strip.picSingleButton.hWnd());
+    for (const PixelPoint at : {desk.Middle(3), single}) {
+      desk.World.Desktop.DragFilesOver({"C:\\Tools\\tool.exe"}, at);
+      desk.Wait(60);
+      EXPECT_EQ(desk.World.Desktop.DragEffect(), forms::DropEffect::None);
+      EXPECT_EQ(desk.Shown(), "One|Two|Three|");
+      desk.World.Desktop.Release();
+      desk.Wait(60);
+    }
+  };
+  desk.RightClickItem(1, "Open");
+  EXPECT_EQ(desk.Shell.Shown, 1);
 }
 
 }  // namespace

@@ -328,6 +328,38 @@ TEST(DropFilesOnSingles, PutsThemBeforeTheButtonInTheirOrder) {
   EXPECT_EQ(desk.Strip.Width(), desk.Strip.picSingleButton.Right() + 15);
 }
 
+TEST(DropFilesOnSingles, APointerThatGoesOnWhileAHintClosesChangesNoPlace) {
+  for (const auto button : {forms::MouseButton::Left, forms::MouseButton::Right}) {
+    DropDesk desk("ab");
+    desk.PointAtSingle(2);
+    desk.Parts.WhileHintGoes = [&] { desk.PointAtSingle(1); };
+    desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, button);
+    desk.Parts.WhileHintGoes = {};
+    if (button == forms::MouseButton::Left) {
+      EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
+    } else {
+      EXPECT_EQ(desk.World.Shell.Log().at(0).File, "C:\\Tools\\b.exe");
+    }
+  }
+}
+
+TEST(DoItemDrag, APointerThatGoesOnWhileTheMenusCloseChangesNoPlace) {
+  DropDesk desk("ab");
+  desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
+  desk.PointAtSingle(2);
+  bool moved = false;
+  forms::TimerId timer = 0;
+  timer = desk.World.Desktop.StartTimer(1, [&] {
+    desk.World.Desktop.StopTimer(timer);
+    desk.PointAtSingle(1);
+    moved = true;
+  });
+  desk.World.Desktop.Jump(5);
+  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  EXPECT_TRUE(moved);
+  EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
+}
+
 TEST(DropFilesOnSingles, OnFreeSpaceTheyFollowTheLast) {
   DropDesk desk("ab");
   desk.PointAt(desk.BarePlace());

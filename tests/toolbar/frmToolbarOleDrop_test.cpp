@@ -273,6 +273,19 @@ TEST(ToolbarOLE, TimersAndClicksInsideTheDropChangeNothing) {
   EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
 }
 
+TEST(ToolbarOLE, APointerThatGoesOnInsideTheDropChangesNoButton) {
+  DragDesk desk;
+  NotedHint hint;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.DragToButton(2);
+  desk.TheProgram.Ports.Hint = &hint;
+  hint.WhileItGoes = [&] { desk.World.Desktop.SetPointerPosition(desk.Middle(3)); };
+  desk.Drop();
+  desk.TheProgram.Ports.Hint = nullptr;
+  EXPECT_EQ(desk.RecordsOf(1).size(), 3U);
+  EXPECT_TRUE(desk.FileUnchanged(2));
+}
+
 TEST(ToolbarOLE, TheProgramMayEndInsideTheDrop) {
   BusyIcons icons;
   DragDesk desk({}, &icons);
