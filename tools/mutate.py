@@ -229,6 +229,7 @@ class Tests:
                                   env=os.environ | {"CORVELLE_MUTANT_TRACE": str(file)})
             after = resource.getrusage(resource.RUSAGE_CHILDREN)
             self.seconds[suite] = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+            print(f"{suite}_tests: {self.seconds[suite]:.1f} s", flush=True)
             if done.returncode != 0:
                 sys.exit(f"{suite}_tests fail without a mutant:\n" + done.stdout.decode(errors="replace")[-2000:])
             self.read_trace(suite, file)
@@ -261,7 +262,7 @@ class Tests:
         return ""
 
     def passes(self, suite, number, names):
-        limit = int(10 + 5 * self.seconds[suite])
+        limit = int(3 + 3 * self.seconds[suite])
 
         def lower():
             os.nice(10)
@@ -344,8 +345,11 @@ def main():
     chosen = [m for m in chosen if (m.file, m.source, change_of(m)) not in same]
 
     survivors, killed = [], 0
+    print(f"{len(chosen)} of them are tried", flush=True)
     with concurrent.futures.ThreadPoolExecutor(args.jobs) as pool:
-        for mutant, suite in zip(chosen, pool.map(tests.killer, chosen)):
+        for done, (mutant, suite) in enumerate(zip(chosen, pool.map(tests.killer, chosen)), 1):
+            if done % 50 == 0:
+                print(f"{done} tried", flush=True)
             if suite:
                 killed += 1
                 continue
