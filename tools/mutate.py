@@ -107,6 +107,13 @@ def blamed(line, column):
     return None
 
 
+def told_line(lines, number):
+    """The source line, after the one above it where the file has several lines like it."""
+    line = lines[number - 1].strip()
+    alone = sum(1 for other in lines if other.strip() == line) == 1
+    return line if alone else f"{lines[number - 2].strip()} / {line}"
+
+
 class Tree:
     """The copy of the sources with the mutants in it, and its build."""
 
@@ -148,7 +155,7 @@ class Tree:
                 mutant.id = len(self.mutants) + len(here) + 1
                 mutant.file, mutant.number, mutant.sha = str(name), number, sha
                 mutant.last_line = mutant.line + text[mutant.start:mutant.end].count("\n")
-                mutant.source = lines[mutant.line - 1].strip()
+                mutant.source = told_line(lines, mutant.line)
                 if number not in known.get("numbers", ()):
                     here.append(mutant)
             self.mutants += here
@@ -341,6 +348,8 @@ def main():
         args.count = 0
     chosen = draw(candidates, args.seed, args.count)
     same = read_same(ROOT / "tools" / "mutants_same.txt")
+    for entry in same.keys() - {(m.file, m.source, change_of(m)) for m in tree.mutants}:
+        print("in mutants_same.txt, but there is no such mutant: " + " | ".join(entry))
     known = [m for m in chosen if (m.file, m.source, change_of(m)) in same]
     chosen = [m for m in chosen if (m.file, m.source, change_of(m)) not in same]
 

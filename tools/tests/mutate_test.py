@@ -147,6 +147,11 @@ int main() { for (int a = 8; a < 12; ++a) for (int b = 0; b < 6; ++b) std::print
         self.assertEqual(mutate.blamed(line, line.index("- e") + 1), 6)
         self.assertIsNone(mutate.blamed(line, line.index("a + b") + 3))
 
+    def test_lines_that_are_alike_are_told_by_the_one_above(self):
+        lines = ["case 1:", "  break;", "case 2:", "  break;", "f();"]
+        self.assertEqual(mutate.told_line(lines, 4), "case 2: / break;")
+        self.assertEqual(mutate.told_line(lines, 5), "f();")
+
     def test_places_are_read_from_a_log(self):
         log = ("In file included from U.cxx:3:\n/t/src/core/A.cpp: In function 'f':\n"
                "/t/src/core/A.cpp:12:7: error: no match\n"
