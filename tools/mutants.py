@@ -89,11 +89,7 @@ class Mutant:
     id: int = 0
     file: str = ""
     line: int = 0
-    before: str = ""
-
-    def key(self):
-        """What names the mutant as long as its line stays as it is."""
-        return f"{self.file}: {self.before} => {self.changed}"
+    before: str = ""  # what it replaces, for people
 
 
 def tokens_of(text):
@@ -148,7 +144,7 @@ class Finder:
         kept = []
         for mutant in sorted(self.mutants, key=lambda m: (m.start, -m.end)):
             mutant.line = sum(1 for start in lines if start <= mutant.start)
-            mutant.before = " ".join(self.text[mutant.start:mutant.end].split())
+            mutant.before = mutant.before or " ".join(self.text[mutant.start:mutant.end].split())
             kept.append(mutant)
         return kept
 
@@ -425,11 +421,11 @@ class Finder:
 
     # ---- what is noted ----
 
-    def note(self, kind, start, end, changed):
+    def note(self, kind, start, end, changed, before=""):
         mark = (kind, start, end, changed)
         if mark not in self.taken:
             self.taken.add(mark)
-            self.mutants.append(Mutant(kind, start, end, changed))
+            self.mutants.append(Mutant(kind, start, end, changed, before=before))
 
     def span(self, first, stop):
         return self.tokens[first].start, self.tokens[stop - 1].end
@@ -458,7 +454,10 @@ class Finder:
 
     def shift(self, at, changed):
         token = self.tokens[at]
-        self.note("shift", token.start, token.end, changed)
+        # With the two tokens before it, to tell the numbers of a line apart.
+        around = self.text[self.tokens[max(at - 2, 0)].start:token.start]
+        around = " ".join(around.split()) + (" " if around[-1:].isspace() else "")
+        self.note("shift", token.start, token.end, around + changed, around + token.text)
 
     def drop(self, first, stop):
         start = self.tokens[first].start

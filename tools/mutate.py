@@ -107,6 +107,13 @@ def blamed(line, column):
     return None
 
 
+def told_line(lines, number):
+    """The source line, after the one above it where the file has several lines like it."""
+    line = lines[number - 1].strip()
+    alone = sum(1 for other in lines if other.strip() == line) == 1
+    return line if alone else f"{lines[number - 2].strip()} / {line}"
+
+
 class Tree:
     """The copy of the sources with the mutants in it, and its build."""
 
@@ -148,7 +155,7 @@ class Tree:
                 mutant.id = len(self.mutants) + len(here) + 1
                 mutant.file, mutant.number, mutant.sha = str(name), number, sha
                 mutant.last_line = mutant.line + text[mutant.start:mutant.end].count("\n")
-                mutant.source = lines[mutant.line - 1].strip()
+                mutant.source = told_line(lines, mutant.line)
                 if number not in known.get("numbers", ()):
                     here.append(mutant)
             self.mutants += here
@@ -229,6 +236,7 @@ class Tests:
                                   env=os.environ | {"CORVELLE_MUTANT_TRACE": str(file)})
             after = resource.getrusage(resource.RUSAGE_CHILDREN)
             self.seconds[suite] = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+            print(f"{suite}_tests: {self.seconds[suite]:.1f} s", flush=True)
             if done.returncode != 0:
                 sys.exit(f"{suite}_tests fail without a mutant:\n" + done.stdout.decode(errors="replace")[-2000:])
             self.read_trace(suite, file)
@@ -261,7 +269,7 @@ class Tests:
         return ""
 
     def passes(self, suite, number, names):
-        limit = int(10 + 5 * self.seconds[suite])
+        limit = int(3 + 3 * self.seconds[suite])
 
         def lower():
             os.nice(10)
@@ -340,12 +348,17 @@ def main():
         args.count = 0
     chosen = draw(candidates, args.seed, args.count)
     same = read_same(ROOT / "tools" / "mutants_same.txt")
+    for entry in same.keys() - {(m.file, m.source, change_of(m)) for m in tree.mutants}:
+        print("in mutants_same.txt, but there is no such mutant: " + " | ".join(entry))
     known = [m for m in chosen if (m.file, m.source, change_of(m)) in same]
     chosen = [m for m in chosen if (m.file, m.source, change_of(m)) not in same]
 
     survivors, killed = [], 0
+    print(f"{len(chosen)} of them are tried", flush=True)
     with concurrent.futures.ThreadPoolExecutor(args.jobs) as pool:
-        for mutant, suite in zip(chosen, pool.map(tests.killer, chosen)):
+        for done, (mutant, suite) in enumerate(zip(chosen, pool.map(tests.killer, chosen)), 1):
+            if done % 50 == 0:
+                print(f"{done} tried", flush=True)
             if suite:
                 killed += 1
                 continue

@@ -283,7 +283,8 @@ void RestoreUndo(EntryEdit& edit, const EntryEdit& before) {
 
 EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit) {
   const int place = RealRecord(edit.CurRecord) - 1;
-  if (place < 1) return EditOutcome::RecordMismatch;
+  // Record 1 is the button's, whatever icon it has.
+  if (place < 2) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, place);
   if (!record) return EditOutcome::Refused(record.Error());
   // The rule above a generated entry can be a generated one too, and what stands in the file before

@@ -389,5 +389,11 @@ TEST_F(DefaultEntriesTest, GetExeAsksWithASampleAndTakesItAwayAgain) {
   EXPECT_EQ(entries.GetExe("htm"), std::nullopt);
 }
 
+TEST_F(DefaultEntriesTest, WithoutAProgramsFolderNoOtherFolderStandsForIt) {
+  Link("C:\\Accessories\\Paint.lnk", "C:\\w\\a.exe");
+  Fill();
+  EXPECT_EQ(Titles("BMENU004.MNU"), Texts{"Accessories"});
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -281,5 +281,12 @@ TEST(Dropped, AnyOneFailureLeavesTheOldFileOrTheWholeNewOne) {
   }
 }
 
+TEST(Dropped, AMenuThatHoldsItsButtonOnlyTakesThem) {
+  SimFiles disk;
+  disk.Put(kFile, kFour.substr(0, kRecordLength));
+  EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, {{"A", "a", "a"}}), EditOutcome::Edited);
+  EXPECT_EQ(TitlesIn(disk), (Names{"Button", "A"}));
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -340,5 +340,15 @@ TEST_F(MainTest, ACompanionClosedBeforeTheQuestionLeavesItForTheNextStart) {
   EXPECT_EQ(Flags()[0], '0');
 }
 
+TEST_F(MainTest, ACompanionClosedWithTheStartupWindowEndsTheStartBeforeTheQuestion) {
+  SlowIconRule slow(world.Desktop);
+  program.Ports.IconRule = &slow;
+  const forms::TimerId timer = world.Desktop.StartTimer(10, [this] { companion.UnloadWindow(); });
+  EXPECT_FALSE(Main(program));
+  world.Desktop.StopTimer(timer);
+  ASSERT_TRUE(Happened("startup window hides"));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -515,5 +515,16 @@ TEST(SetCurrentEntry, LeavesTheClipboardTheUndoStoreAndTheCarry) {
   EXPECT_EQ(live, expected);
 }
 
+TEST(DeleteSeparator, NeverTakesTheButtonsRecordThoughItHasTheLinesIcon) {
+  Bench bench;
+  std::string bytes = bench.Bytes();
+  bytes.replace(0, kRecordLength, FormatRecord({"Button", "MenuLineSeparator", ""}, kAnsi));
+  bench.disk.Put(kFile, bytes);
+  bench.edit.CurRecord = 2;
+  const EntryEdit before = bench.edit;
+  EXPECT_EQ(SelectSeparatorAbove(bench.disk, kAnsi, bench.edit), EditOutcome::RecordMismatch);
+  EXPECT_EQ(bench.edit, before);
+}
+
 }  // namespace
 }  // namespace corvelle

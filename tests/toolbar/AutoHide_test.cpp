@@ -173,6 +173,7 @@ TEST(AutoHide, SwitchedOffItGivesUpTheClaimAndStandsInFullSight) {
               (Messages{"setautohide 2 0", "querypos 2", "setpos 2 982,0,1024,768"}));
     EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
     EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+    EXPECT_TRUE(desk.Strip.picSingleButton.Visible());
     EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
     desk.Poll();
     EXPECT_EQ(desk.WakeUps(2000), 0);

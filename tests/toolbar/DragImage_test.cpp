@@ -27,7 +27,9 @@ TEST(DragImage, ShowsTheIconOfTheEntryAroundThePointersPoint) {
   const corvelle::Picture picture = desk.World.Desktop.MouseIcon();
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->Size(), (PixelSize{32, 32}));
-  EXPECT_EQ(picture->PixelAt({16, 16}), sim::SimShellIcons::ColourOf(9));
+  for (const PixelPoint at : {PixelPoint{0, 0}, {16, 16}, {31, 31}}) {
+    EXPECT_EQ(picture->PixelAt(at), sim::SimShellIcons::ColourOf(9));
+  }
   EXPECT_EQ(desk.World.Desktop.MouseIconHotSpot(), (PixelPoint{16, 16}));
   EXPECT_TRUE(desk.Picture.DragCursorOk);
 }

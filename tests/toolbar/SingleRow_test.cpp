@@ -554,5 +554,37 @@ TEST(GetCurIndex, AsksForThePlaceOnceAndSeesOtherWindows) {
   EXPECT_EQ(desk.TheProgram.CurSingle, 0);
 }
 
+TEST(SingleRow, ItsEndTakesTheLinesOfTheSeparatorsAway) {
+  SinglesDesk desk;
+  desk.PutSingles("a-b");
+  desk.Start();
+  ASSERT_TRUE(desk.Strip.Line1.Has(1));
+  ASSERT_TRUE(desk.Strip.Line2.Has(1));
+  desk.Strip.Singles.Unload();
+  EXPECT_FALSE(desk.Strip.Line1.Has(1));
+  EXPECT_FALSE(desk.Strip.Line2.Has(1));
+}
+
+TEST(SingleHover, EndsWhenThePointerComesToTheDate) {
+  SinglesDesk desk;
+  desk.PutSingles("ab");
+  desk.Start();
+  desk.PointAtSingle(2);
+  ASSERT_EQ(HoverLinesShown(desk), 2);
+  desk.Strip.Singles.EnterDate();
+  EXPECT_EQ(HoverLinesShown(desk), 0);
+}
+
+TEST(SingleRightClick, AnEntryWithoutACommandHasNoShellMenu) {
+  SinglesDesk desk;
+  desk.SetOption(19, true);
+  desk.PutSingle(1, Entry("a"));
+  desk.Start();
+  desk.World.Desktop.KeyDown(17);
+  desk.ClickSingle(1, forms::MouseButton::Right);
+  desk.World.Desktop.KeyUp(17);
+  EXPECT_EQ(desk.Parts.Asked, std::vector<std::string>{});
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -621,5 +621,43 @@ TEST(ToolbarPopup, OfAButtonWhoseFileIsGoneHasEmptyTexts) {
   EXPECT_FALSE(desk.HasMenuFile("BMENU002.MNU"));
 }
 
+TEST(ToolbarPress, TheRightButtonOpensNoMenu) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  desk.PointAtButton(2);
+  desk.World.Desktop.Press(forms::MouseButton::Right);
+  EXPECT_EQ(desk.MenuUp(), 0);
+  desk.World.Desktop.Release(forms::MouseButton::Right);
+}
+
+TEST(ToolbarKeys, EscAloneSelectsNoButton) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  desk.Strip.Form_KeyDown(forms::key::Escape, {});
+  EXPECT_EQ(desk.TheProgram.CurButton, 0);
+  EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar);
+}
+
+TEST(ToolbarRefresh, AMenuThatIsBuiltAgainIsPolledAgain) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  desk.Click(2);
+  ASSERT_EQ(desk.MenuUp(), 2);
+  desk.Strip.RefreshMenu("F2");
+  ASSERT_EQ(desk.MenuUp(), 2);
+  EXPECT_TRUE(desk.Menu.Poll);
+}
+
+TEST(ToolbarCarry, WithoutAFileOfItsOwnWhatIsPutOnAButtonOpensNoMenu) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  desk.Strip.DoButtonDrag(2, forms::MouseButton::Left);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
 }  // namespace
 }  // namespace corvelle

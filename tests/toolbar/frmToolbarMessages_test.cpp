@@ -325,5 +325,20 @@ TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromANotice) {
   EXPECT_FALSE(tip.IsLoaded());
 }
 
+TEST(ToolbarMessages, NewsThatHasToWaitStartsThePollAndOtherMessagesDoNot) {
+  for (const bool news : {true, false}) {
+    SCOPED_TRACE(news);
+    StripDesk desk;
+    desk.PutButtons(1);
+    desk.Start();
+    desk.TheProgram.ToolbarReady = false;
+    desk.Strip.Timer1.SetEnabled(false);
+    const std::uint32_t message = news ? forms::message::DisplayChange : forms::message::Move;
+    EXPECT_FALSE(desk.Strip.ToolbarWndProc(message, 0, 0).has_value());
+    EXPECT_EQ(desk.Strip.Timer1.Enabled(), news);
+    desk.TheProgram.ToolbarReady = true;
+  }
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -541,5 +541,37 @@ TEST(AppBarGuard, ManyChangesInARowLeaveTheStripInItsPlaceAndQuiet) {
   EXPECT_EQ(desk.WakeUps(2000), 0);
 }
 
+TEST(AppBar, AStripThatHasBeenPlacedHasNoEdgeAskedForAnyMore) {
+  DockDesk desk;
+  desk.StartAt(Edge::Top);
+  desk.Docking.SetAppBar("LEFT", true);
+  EXPECT_FALSE(desk.TheProgram.AppBarRequested);
+}
+
+TEST(AppBar, OnlyUprightLargeSingleButtonsAreMadeAgainWhenTheBarsMove) {
+  struct Row {
+    const char* name;
+    Edge at;
+    bool large;
+    bool option24;
+    bool again;
+  };
+  const Row rows[] = {{"upright, large", Edge::Left, true, true, true},
+                      {"upright, small", Edge::Left, false, true, false},
+                      {"upright, without option 24", Edge::Left, true, false, false},
+                      {"lying", Edge::Top, true, true, false}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    DockDesk desk;
+    desk.SetOption(26, row.large);
+    desk.SetOption(24, row.option24);
+    desk.StartAt(row.at);
+    desk.World.Files.Put("C:\\Corvelle\\Menus\\" + SingleFileName(1),
+                         Records({Entry("s", "", "C:\\s.exe")}));
+    desk.Docking.SetAppBar("", false);
+    EXPECT_EQ(desk.Strip.SingleCount, row.again ? 1 : 0);
+  }
+}
+
 }  // namespace
 }  // namespace corvelle

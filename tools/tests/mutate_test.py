@@ -66,7 +66,7 @@ class Finding(unittest.TestCase):
             "constexpr int kA = 4;\nconstexpr char kText[] = \"7\";\n"
             "int F(int n) { switch (n) { case 3: return n + kA; } constexpr int k = 9; "
             "std::array<int, kA> a{}; return true ? 5 : 0; }") if kind == "shift"]
-        self.assertEqual(found, ["kA", "true", "5", "0"])
+        self.assertEqual(found, ["n + kA", "; return true", "true ? 5", "5 : 0"])
 
     def test_templates_comments_and_texts_hold_no_operators(self):
         self.assertEqual([kind for kind, _, _ in body(
@@ -131,8 +131,8 @@ int main() { for (int a = 8; a < 12; ++a) for (int b = 0; b < 6; ++b) std::print
         self.assertEqual(self.output(0), self.expected())
 
     def test_each_mutant_changes_its_own_place(self):
-        rows = [("shift", "kLimit", "kLimit + 1", {"limit": 11}),
-                ("shift", "3", "3 + 1", {"three": 4}),
+        rows = [("shift", "A < kLimit", "A < kLimit + 1", {"limit": 11}),
+                ("shift", "B == 3", "B == 3 + 1", {"three": 4}),
                 ("swap", "sum > 50", "sum >= 50", {"most": 49}),
                 ("drop", "break;", ";", {"most": 1000}),
                 ("swap", "s.A < kLimit && !(s.B == 3)", "s.A < kLimit || !(s.B == 3)",
@@ -146,6 +146,11 @@ int main() { for (int a = 8; a < 12; ++a) for (int b = 0; b < 6; ++b) std::print
         self.assertEqual(mutate.blamed(line, line.index("a - b") + 3), 5)
         self.assertEqual(mutate.blamed(line, line.index("- e") + 1), 6)
         self.assertIsNone(mutate.blamed(line, line.index("a + b") + 3))
+
+    def test_lines_that_are_alike_are_told_by_the_one_above(self):
+        lines = ["case 1:", "  break;", "case 2:", "  break;", "f();"]
+        self.assertEqual(mutate.told_line(lines, 4), "case 2: / break;")
+        self.assertEqual(mutate.told_line(lines, 5), "f();")
 
     def test_places_are_read_from_a_log(self):
         log = ("In file included from U.cxx:3:\n/t/src/core/A.cpp: In function 'f':\n"
