@@ -33,6 +33,8 @@ struct FileEntry {
   bool System = false;
   bool Temporary = false;
   std::uint64_t Length = 0;  // bytes
+
+  friend bool operator==(const FileEntry&, const FileEntry&) = default;
 };
 
 /// The disk. Paths are Windows paths in UTF-8, with or without a trailing backslash for folders;

@@ -57,6 +57,7 @@ Win32WindowSystem::Win32WindowSystem() {
 }
 
 Win32WindowSystem::~Win32WindowSystem() {
+  posts_->Close();
   if (quit_) ForgetQuit();
 }
 

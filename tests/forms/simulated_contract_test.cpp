@@ -2,6 +2,7 @@
 
 #include "forms/CanvasContract.h"
 #include "forms/InputContract.h"
+#include "forms/PostContract.h"
 #include "forms/WindowSystemContract.h"
 #include "sim/World.h"
 
@@ -29,6 +30,8 @@ class SimulatedHome final : public InputHome {
 };
 
 INSTANTIATE_TEST_SUITE_P(Simulated, WindowSystemContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, PostContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, CanvasContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "forms/PostedWork.h"
 #include "forms/WindowSystem.h"
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
@@ -190,6 +191,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
     hotSpot_ = hotSpot;
   }
   void DoEvents() override { Pump(); }
+  void Post(std::function<void()> work) override;
   void Run() override;
   void Quit() override { quit_ = true; }
   forms::TimerId StartTimer(int milliseconds, std::function<void()> tick) override;
@@ -228,6 +230,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
 
  private:
   friend class SimPeer;
+  void RunPostedWork();
 
   struct ScriptedAnswer {
     std::optional<std::string> Text;
@@ -328,6 +331,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   corvelle::Picture mouseIcon_;
   PixelPoint hotSpot_;
   std::deque<std::function<void()>> events_;
+  forms::PostedWork postedWork_;
   int depth_ = 0;  // handlers that are running
   std::function<void()> runScript_;
   bool quit_ = false;

@@ -81,6 +81,14 @@ void SimDesktop::Run() {
   if (!quit_) Complain("Run without anything that ends the program");
 }
 
+void SimDesktop::Post(std::function<void()> work) {
+  if (postedWork_.Add(std::move(work))) events_.emplace_back([this] { RunPostedWork(); });
+}
+
+void SimDesktop::RunPostedWork() {
+  if (postedWork_.Run()) events_.emplace_back([this] { RunPostedWork(); });
+}
+
 // Messages.
 
 bool SimDesktop::FirstToProcedure(WindowId window, std::uint32_t message, std::uintptr_t wParam,

@@ -40,7 +40,8 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
           .System = System,
           .Folders = Folders,
           .Bars = Bars,
-          .Tray = Tray};
+          .Tray = Tray,
+          .SlowAnswers = SlowAnswers};
 }
 
 bool World::SavePicture(const std::string& hostPath) const {

@@ -3,6 +3,7 @@
 #include "RealHome.h"
 #include "forms/CanvasContract.h"
 #include "forms/InputContract.h"
+#include "forms/PostContract.h"
 #include "forms/WindowSystemContract.h"
 
 namespace corvelle::forms {
@@ -38,6 +39,8 @@ class WindowsHome final : public InputHome {
 };
 
 INSTANTIATE_TEST_SUITE_P(Windows, WindowSystemContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(0); }));
+INSTANTIATE_TEST_SUITE_P(Windows, PostContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(0); }));
 INSTANTIATE_TEST_SUITE_P(Windows, CanvasContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(0); }));
