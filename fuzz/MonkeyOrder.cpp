@@ -263,7 +263,12 @@ std::string MonkeyLife::WrongQuiet() const {
   const PixelPoint pointer = world_->Desktop.PointerPosition();
   const bool over = world_->Desktop.WindowAt(pointer) == parts_->Menu.WindowHandle();
   if (MenuUp() && over) return {};  // where the pointer rests a menu stays
-  if (MenuUp()) return "a menu stays though the user has turned away";
+  if (MenuUp()) {
+    const WindowId active = world_->Desktop.ActiveWindow();
+    return "a menu stays though the user has turned away; active is " +
+           (active == kNoWindow ? "no window" : world_->Desktop.ClassName(active)) +
+           (program.DragHolds() ? ", a drag holds" : "");
+  }
   if (program.MenuOpen) return "a menu counts as open";
   const WindowId hint = parts_->Hint.WindowHandle();
   if (hint != kNoWindow && world_->Desktop.IsShown(hint)) return "a hint stays";

@@ -468,6 +468,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   bool positioned_ = false;           // SavedLeft is known
   bool subclassed_ = false;
   bool focusRequested_ = false;
+  WindowId frontAtRequest_ = kNoWindow;  // the foreground then
   bool barsWait_ = false;    // bars or the screen have changed since the strip was placed
   bool levelWaits_ = false;  // a full-screen program came or went meanwhile
   bool newTaskBar_ = false;  // the strip is not registered with the shell any more

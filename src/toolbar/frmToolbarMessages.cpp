@@ -238,6 +238,7 @@ void frmToolbar::BringToForeground() {
   ZOrder(forms::ZPlace::Front);
   SetFocus();
   focusRequested_ = true;
+  frontAtRequest_ = desktop.ForegroundWindow();
   Timer1.SetEnabled(true);
 }
 
@@ -259,7 +260,11 @@ void frmToolbar::Timer1_Timer() {
     // A menu or a notice that came up meanwhile keeps the keyboard.
     const DesktopWindows& desktop = program_.Services.Desktop;
     const WindowId active = desktop.ActiveWindow();
-    if (active == kNoWindow || active == hWnd() || !desktop.IsVisible(active)) SetFocus();
+    const bool free = active == kNoWindow || active == hWnd() || !desktop.IsVisible(active);
+    // And a user who has turned to another program since then stays there.
+    const WindowId front = desktop.ForegroundWindow();
+    const bool turned = active == kNoWindow && front != kNoWindow && front != frontAtRequest_;
+    if (free && !turned) SetFocus();
   }
   WatchPull();
   if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||

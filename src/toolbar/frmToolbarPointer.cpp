@@ -199,6 +199,8 @@ void frmToolbar::HideMenuWhileTracking() {
   // The strip stays active, so that it hears when the user goes elsewhere.
   SetFocus();
   HideMenuWindow();
+  // A drag that came straight into the menu, and whose source has died there, is over with it.
+  if (!program_.DragEntered) program_.DragOverButton = false;
   program_.Ports.QMenu->SetOwnerTag("0");
   ShowRestingLook();
 }

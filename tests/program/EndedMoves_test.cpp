@@ -4,159 +4,23 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <map>
-#include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "base/Numbers.h"
 #include "core/FileTransaction.h"
-#include "core/Main.h"
-#include "core/MenuRecord.h"
-#include "program/Parts.h"
-#include "sim/World.h"
+#include "program/ProgramDesk.h"
 
 namespace corvelle {
 namespace {
 
-constexpr int kCtrl = 17;
-constexpr const char* kMenus = "C:\\Corvelle\\Menus\\";
-
-using Folder = std::map<std::string, std::string>;  // bytes by the names of the files
-
-/// A running program with two menus and four single buttons, and its user.
-class Desk {
- public:
-  Desk() {
-    world.Files.Put("C:\\Corvelle\\corvelle.exe", "program");
-    world.Files.Put("C:\\Tools\\tool.exe", "x");
-    world.System.WorkFolder = "C:\\Corvelle\\";
-    world.Desktop.AnswerAnyOther(forms::msgbox::AnswerYes);
-    OptionFlags flags;
-    for (const int position : {1, 2, 9, 19, 32}) flags.Set(position, true);
-    world.Files.Put("C:\\Corvelle\\" + std::string(kOptionFlagsFileName), flags.Text());
-    PutMenu(1, {"A", "B", "C", "D"});
-    PutMenu(2, {"X", "Y"});
-    const std::vector<std::string> singles = {"one", "two", "three", "four"};
-    for (std::size_t i = 0; i < singles.size(); ++i) {
-      world.Files.Put(kMenus + SingleFileName(static_cast<int>(i) + 1), Record(singles[i]));
-    }
-    Start();
-  }
-
-  sim::World world;
-  std::unique_ptr<Parts> parts;
-
-  void Start() {
-    parts = std::make_unique<Parts>(world.Services(), world.Windows());
-    ASSERT_TRUE(Main(parts->TheProgram));
-    world.Desktop.Pump();
-    ASSERT_EQ(parts->Toolbar.ButtonCount, 3);
-  }
-  /// The program is gone, without another word to the disk.
-  void End() {
-    parts.reset();
-    world.Files.StopFailing();
-    world.Desktop.KeyUp(kCtrl);
-    world.Desktop.Release();
-    world.Desktop.MovePointer(500, 600);
-  }
-
-  [[nodiscard]] Folder Files() const {
-    Folder all;
-    for (const std::string& name : world.Files.Names(kMenus)) {
-      if (!name.ends_with(".MNU") && !name.ends_with(".BTN")) continue;
-      all[name] = world.Files.Get(kMenus + name).value_or("");
-    }
-    return all;
-  }
-
-  // ---- the user ----
-
-  void PointAt(PixelPoint at) { world.Desktop.MovePointer(at.x, at.y); }
-  void OpenMenu(int button) {
-    PointAt(MenuButton(button));
-    world.Desktop.Click();
-    world.Desktop.Advance(20);
-    ASSERT_TRUE(parts->Menu.MenuVisible());
-  }
-  void PickUpItem(int item) {
-    OpenMenu(2);
-    PointAt(Item(item));
-    world.Desktop.KeyDown(kCtrl);
-    world.Desktop.Press();
-    world.Desktop.KeyUp(kCtrl);
-    ASSERT_TRUE(parts->TheProgram.Entry.ItemDragging);
-  }
-  void PickUpSingle(int single) {
-    PointAt(Single(single));
-    world.Desktop.Advance(100);
-    world.Desktop.Press();
-    world.Desktop.Advance(100);
-    ASSERT_TRUE(parts->TheProgram.Entry.ItemDragging);
-  }
-  /// Carries over a button, whose menu opens.
-  void CarryOver(int button) {
-    PointAt(MenuButton(button));
-    world.Desktop.Advance(400);
-    ASSERT_TRUE(parts->Menu.MenuVisible());
-  }
-  void RightClick(PixelPoint at, const std::string& choice) {
-    PointAt(at);
-    world.Desktop.Advance(50);
-    world.Desktop.ChooseFromPopup(choice);
-    world.Desktop.Click(forms::MouseButton::Right);
-    world.Desktop.Advance(50);
-  }
-  void DragFiles(PixelPoint at) {
-    world.Desktop.DragFilesOver({"C:\\Tools\\tool.exe", "C:\\Tools\\other.exe"}, at);
-    world.Desktop.Advance(100);
-  }
-
-  // ---- places on the screen ----
-
-  [[nodiscard]] PixelPoint MenuButton(int index) const {
-    const ButtonRect& at = parts->Toolbar.ToolbarButtons[static_cast<std::size_t>(index)];
-    return In("picToolbar", at.Left + at.Width / 2, at.Top + at.Height / 2);
-  }
-  [[nodiscard]] PixelPoint Single(int index) const {
-    const SingleRect& at = parts->Toolbar.Singles.SingleButtons[static_cast<std::size_t>(index)];
-    return In("picSingleButton", at.Left + at.Width / 2, at.Top + at.Height / 2);
-  }
-  [[nodiscard]] PixelPoint BehindSingles() const {
-    const PixelRect box = world.Desktop.BoundsOf(world.Desktop.Find("picSingleButton"));
-    return {box.right - 2, box.bottom - 2};
-  }
-  [[nodiscard]] PixelPoint Item(int index) const {
-    const forms::Label& label = parts->Menu.Lbl[index];
-    return In("frmQMenu", label.Left() + 300, label.Top() + label.Height() / 2);
-  }
-
- private:
-  [[nodiscard]] PixelPoint In(std::string_view window, float x, float y) const {
-    const PixelRect bounds = world.Desktop.BoundsOf(world.Desktop.Find(window));
-    return {bounds.left + RoundToInt(x / parts->Toolbar.TwipsX),
-            bounds.top + RoundToInt(y / parts->Toolbar.TwipsY)};
-  }
-  [[nodiscard]] std::string Record(const std::string& title) const {
-    return FormatRecord({title, "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe " + title}, world.Ansi);
-  }
-  void PutMenu(int number, const std::vector<std::string>& titles) {
-    std::string bytes = FormatRecord({"Menu", "Button", ""}, world.Ansi);
-    for (const std::string& title : titles) bytes += Record(title);
-    world.Files.Put(kMenus + MenuFileName(number), bytes);
-  }
-};
-
 /// A change of the user's: all but its last gesture, and that one, in which the files change.
 struct Change {
   const char* name;
-  std::function<void(Desk&)> prepare;
-  std::function<void(Desk&)> doIt;
+  std::function<void(ProgramDesk&)> prepare;
+  std::function<void(ProgramDesk&)> doIt;
 };
 
-void Release(Desk& desk) {
+void Release(ProgramDesk& desk) {
   desk.world.Desktop.Release();
   desk.world.Desktop.Advance(50);
 }
@@ -166,89 +30,90 @@ void PrintTo(const Change& change, std::ostream* out) { *out << change.name; }
 std::vector<Change> Changes() {
   return {
       {"SingleToSingle",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpSingle(3);
          desk.PointAt(desk.Single(1));
        },
        Release},
       {"SingleBehindTheLast",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpSingle(2);
          desk.PointAt(desk.BehindSingles());
        },
        Release},
       {"ItemToItemOfAnotherMenu",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpItem(2);
          desk.CarryOver(3);
          desk.PointAt(desk.Item(1));
        },
        Release},
       {"ItemToAnotherButton",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpItem(4);
          desk.PointAt(desk.MenuButton(3));
        },
        Release},
       {"ItemWithinItsMenu",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpItem(4);
          desk.PointAt(desk.Item(1));
        },
        Release},
       {"ItemToItsOwnButton",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpItem(1);
          desk.PointAt(desk.MenuButton(2));
        },
        Release},
       {"ItemToSingle",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpItem(3);
          desk.PointAt(desk.Single(2));
        },
        Release},
       {"ItemBehindTheSingles",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpItem(1);
          desk.PointAt(desk.BehindSingles());
        },
        Release},
       {"SingleToItem",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpSingle(2);
          desk.CarryOver(2);
          desk.PointAt(desk.Item(3));
        },
        Release},
       {"SingleToButton",
-       [](Desk& desk) {
+       [](ProgramDesk& desk) {
          desk.PickUpSingle(4);
          desk.PointAt(desk.MenuButton(3));
        },
        Release},
-      {"DeletingASingle", [](Desk&) {},
-       [](Desk& desk) { desk.RightClick(desk.Single(2), "Delete Item"); }},
-      {"CuttingASingle", [](Desk&) {},
-       [](Desk& desk) { desk.RightClick(desk.Single(1), "Cut Item"); }},
-      {"PastingASingle", [](Desk& desk) { desk.RightClick(desk.Single(3), "Copy Item"); },
-       [](Desk& desk) { desk.RightClick(desk.Single(1), "Paste Item"); }},
+      {"DeletingASingle", [](ProgramDesk&) {},
+       [](ProgramDesk& desk) { desk.RightClick(desk.Single(2), "Delete Item"); }},
+      {"CuttingASingle", [](ProgramDesk&) {},
+       [](ProgramDesk& desk) { desk.RightClick(desk.Single(1), "Cut Item"); }},
+      {"PastingASingle", [](ProgramDesk& desk) { desk.RightClick(desk.Single(3), "Copy Item"); },
+       [](ProgramDesk& desk) { desk.RightClick(desk.Single(1), "Paste Item"); }},
       {"BringingADeletedSingleBack",
-       [](Desk& desk) { desk.RightClick(desk.Single(2), "Delete Item"); },
-       [](Desk& desk) { desk.RightClick(desk.Single(1), "Undo Delete"); }},
-      {"DeletingAnItem", [](Desk& desk) { desk.OpenMenu(2); },
-       [](Desk& desk) { desk.RightClick(desk.Item(2), "Delete Item"); }},
-      {"FilesDroppedOnSingles", [](Desk& desk) { desk.DragFiles(desk.Single(2)); }, Release},
-      {"FilesDroppedBehindTheSingles", [](Desk& desk) { desk.DragFiles(desk.BehindSingles()); },
+       [](ProgramDesk& desk) { desk.RightClick(desk.Single(2), "Delete Item"); },
+       [](ProgramDesk& desk) { desk.RightClick(desk.Single(1), "Undo Delete"); }},
+      {"DeletingAnItem", [](ProgramDesk& desk) { desk.OpenMenu(2); },
+       [](ProgramDesk& desk) { desk.RightClick(desk.Item(2), "Delete Item"); }},
+      {"FilesDroppedOnSingles", [](ProgramDesk& desk) { desk.DragFiles(desk.Single(2)); }, Release},
+      {"FilesDroppedBehindTheSingles",
+       [](ProgramDesk& desk) { desk.DragFiles(desk.BehindSingles()); }, Release},
+      {"FilesDroppedOnAButton", [](ProgramDesk& desk) { desk.DragFiles(desk.MenuButton(2)); },
        Release},
-      {"FilesDroppedOnAButton", [](Desk& desk) { desk.DragFiles(desk.MenuButton(2)); }, Release},
   };
 }
 
 class EndedMoves : public testing::TestWithParam<Change> {
  protected:
   /// Runs the change with the disk prepared by `spoil`; the folder before it.
-  Folder Run(Desk& desk, const std::function<void(sim::SimFiles&)>& spoil) {
+  Folder Run(ProgramDesk& desk, const std::function<void(sim::SimFiles&)>& spoil) {
     GetParam().prepare(desk);
     if (HasFatalFailure()) return {};
     const Folder before = desk.Files();
@@ -259,7 +124,7 @@ class EndedMoves : public testing::TestWithParam<Change> {
 };
 
 TEST_P(EndedMoves, AreWholeAfterTheNextStartWhereverTheProgramEnded) {
-  Desk fine;
+  ProgramDesk fine;
   const Folder before = Run(fine, [](sim::SimFiles& disk) { disk.ClearLog(); });
   const Folder after = fine.Files();
   const auto calls = static_cast<int>(fine.world.Files.Log().size());
@@ -273,7 +138,7 @@ TEST_P(EndedMoves, AreWholeAfterTheNextStartWhereverTheProgramEnded) {
     const bool changes = next == "Write" || next == "WriteAt" || next == "Replace" ||
                          next == "Remove" || next == "Rename" || next == "Copy";
     if (!changes && n > 1 && n < calls) continue;
-    Desk desk;
+    ProgramDesk desk;
     Run(desk, [n](sim::SimFiles& disk) { disk.FailFrom(n); });
     if (HasFatalFailure()) return;
     EXPECT_TRUE(desk.world.Files.Hit()) << n;
@@ -293,7 +158,7 @@ TEST_P(EndedMoves, AreWholeWhicheverCallOfTheDiskFails) {
   Folder before;
   Folder after;
   for (int n = 0;; ++n) {
-    Desk desk;
+    ProgramDesk desk;
     before = Run(desk, [n](sim::SimFiles& disk) {
       if (n > 0) disk.FailCall(n, n % 2 == 0 ? FileError::DiskFull : FileError::InUse);
     });

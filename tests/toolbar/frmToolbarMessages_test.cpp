@@ -314,6 +314,29 @@ TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromAnOpenMenu) {
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Menu.hWnd());
 }
 
+TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromAUserWhoHasTurnedElsewhere) {
+  StripOfTwo desk;
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
+  desk.Strip.BringToForeground();
+  desk.Click(2);
+  desk.World.Desktop.TakeForeground(other);
+  desk.World.Desktop.MovePointer(900, 700);
+  desk.Wait(600);
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), other);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarForeground, ALateFocusRequestIsGrantedWhereTheFirstWasRefused) {
+  StripOfTwo desk;
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
+  desk.Strip.BringToForeground();
+  // As if the system had not let it come forward.
+  desk.World.Desktop.TakeForeground(other);
+  desk.Strip.BringToForeground();
+  desk.Wait(400);
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Strip.hWnd());
+}
+
 TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromANotice) {
   StripOfTwo desk;
   frmTip tip(desk.TheProgram);
