@@ -35,9 +35,7 @@ constexpr Script kScripts[] = {{"ASCII", "a", 1},
 
 /// Notes the entry that a right click named.
 struct NotedEntry final : PopupPort {
-  explicit NotedEntry(Program& program) : TheProgram(program) {}
-  void ShowToolbarPopup() override { Seen = TheProgram.Entry; }
-  Program& TheProgram;
+  void ShowToolbarPopup(EntryEdit entry) override { Seen = std::move(entry); }
   EntryEdit Seen;
 };
 
@@ -71,7 +69,7 @@ class StoredTitles : public ::testing::TestWithParam<Script> {
   std::string NowStored() { return *desk_.World.Files.Get(file_); }
 
   FolderDesk desk_;
-  NotedEntry popup_{desk_.TheProgram};
+  NotedEntry popup_;
   std::string file_ = "C:\\Corvelle\\Menus\\BMENU001.MNU";
   std::string stored_;
 };
@@ -115,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(Scripts, StoredTitles, ::testing::ValuesIn(kScripts),
 
 TEST(StoredEntry, OneThatIsAnotherNowIsNotTakenThoughItsTitleIsTheSame) {
   FolderDesk desk;
-  NotedEntry popup(desk.TheProgram);
+  NotedEntry popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.OpenCommands({"C:\\a.exe", "C:\\Docs\\*.*"});
   desk.PointAtItem(1);
@@ -130,7 +128,7 @@ TEST(StoredEntry, OneThatIsAnotherNowIsNotTakenThoughItsTitleIsTheSame) {
 
 TEST(StoredEntry, AFolderItemIsClosedOnlyIfItIsStillTheOneThatWasOpened) {
   FolderDesk desk;
-  NotedEntry popup(desk.TheProgram);
+  NotedEntry popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.OpenCommands({"C:\\Docs\\*.*"});
   desk.PointAtItem(2);
@@ -168,7 +166,7 @@ class LongNames : public ::testing::TestWithParam<Script> {
 
   FolderDesk desk_;
   SpecialFolders folders_{desk_.TheProgram};
-  NotedEntry popup_{desk_.TheProgram};
+  NotedEntry popup_;
 };
 
 TEST_P(LongNames, OfEntriesOfTheShellStartTheRightOne) {
