@@ -28,7 +28,7 @@ void CheckUrlFile(const std::string& bytes) {
   const auto address = ParseUrlFile(bytes, kAnsi);
   if (!address) return;
   CORVELLE_CHECK(IsValidUtf8(*address));
-  CORVELLE_CHECK(StartsWithNoCase(*address, "http://"));
+  CORVELLE_CHECK(StartsWithNoCase(*address, "http://") || StartsWithNoCase(*address, "https://"));
   CORVELLE_CHECK(IsOneLine(*address));
   CORVELLE_CHECK(ClassifyAddress(*address) == CommandKind::WebAddress);
   // What the program writes for it says the same, but for what no address may hold.

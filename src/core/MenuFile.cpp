@@ -205,7 +205,8 @@ FileResult<std::string> CreateButtonFile(FileSystem& files, const CodePage& ansi
   const FileStatus written = WriteRecords(files, ansi, made, {NewButtonRecord(), NewItemRecord()});
   if (!written) return written.Error();
   // With a gap in the numbering the next number can be taken, and its menu must not be lost: a new
-  // name takes no other file's place, and does not rely on what a disk says that fails now and then.
+  // name takes no other file's place, and does not rely on what a disk says that fails now and
+  // then.
   int number = static_cast<int>(names->size());
   std::string path;
   FileStatus named = FileError::AlreadyExists;

@@ -1,5 +1,7 @@
 // Which entry an act meets never hangs on how much of its title is shown or stored.
 
+#include <utility>
+
 #include "base/CodePage.h"
 #include "core/EntryCommands.h"
 #include "core/SpecialFolders.h"

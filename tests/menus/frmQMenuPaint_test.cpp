@@ -287,7 +287,9 @@ TEST_F(Painted, IconsThatAreForgottenWhileOneIsFetchedAreFetchedAgain) {
   // As above: it is asked while the icon is being drawn.
   for (int i = 0; i < 5; ++i) items.push_back(Item("Tool", Tool(i) + "|9"));
   desk_.Open(1, items);
-  for (int i = 1; i <= 5; ++i) EXPECT_EQ(IconColour(i), ToolColour(i - 1)) << i;
+  // A number that the file lacks shows the blank document.
+  for (int i = 1; i <= 5; ++i) EXPECT_EQ(IconColour(i), SimShellIcons::ColourOf(7)) << i;
+  EXPECT_GE(asked, 3);
 }
 
 TEST_F(Painted, AnotherMenuThatIsAskedForWhileAPageIsDrawnFromTheCacheComesAfterwards) {

@@ -133,17 +133,6 @@ TEST_F(Simulation, TheDesktopLiesBehindEverything) {
   EXPECT_EQ(Desktop.WindowAt({110, 110}), form.hWnd());
 }
 
-TEST_F(Simulation, TheNextWindowOfTheProgramBecomesActiveWhenOneHides) {
-  PlainForm first(TheWorld, "First");
-  PlainForm second(TheWorld, "Second");
-  const WindowId other = Desktop.AddOtherWindow({});
-  first.Show();
-  Desktop.TakeForeground(other);
-  second.Show();
-  second.Hide();
-  EXPECT_EQ(Desktop.ActiveWindow(), first.hWnd());
-}
-
 TEST_F(Simulation, ALockedForegroundRefusesWindowsThatAreNotActive) {
   PlainForm form(TheWorld);
   const WindowId other = Desktop.AddOtherWindow({});
@@ -352,7 +341,8 @@ TEST_F(Simulation, OtherWindowsOfOursTakeInputWhileABoxIsUpAndItsOwnerComesAfter
   PlainForm owner(TheWorld);
   owner.Show();
   PlainForm other(TheWorld);
-  other.Move(6000, 6000, 1500, 1500);
+  // The box covers the middle of the screen.
+  other.Move(12000, 9000, 1500, 1500);
   other.Show();
   const PixelRect place = Desktop.BoundsOf(other.hWnd());
   int presses = 0;

@@ -343,23 +343,6 @@ TEST(DropFilesOnSingles, APointerThatGoesOnWhileAHintClosesChangesNoPlace) {
   }
 }
 
-TEST(DoItemDrag, APointerThatGoesOnWhileTheMenusCloseChangesNoPlace) {
-  DropDesk desk("ab");
-  desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
-  desk.PointAtSingle(2);
-  bool moved = false;
-  forms::TimerId timer = 0;
-  timer = desk.World.Desktop.StartTimer(1, [&] {
-    desk.World.Desktop.StopTimer(timer);
-    desk.PointAtSingle(1);
-    moved = true;
-  });
-  desk.World.Desktop.Jump(5);
-  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
-  EXPECT_TRUE(moved);
-  EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
-}
-
 TEST(DropFilesOnSingles, OnFreeSpaceTheyFollowTheLast) {
   DropDesk desk("ab");
   desk.PointAt(desk.BarePlace());

@@ -67,15 +67,15 @@ TEST(ToolbarOLEDragDrop, AThousandFilesComeAndOneThatNoRecordHoldsIsNamedAfterwa
   files.push_back(refused);
   desk.TakeFiles(files);
   desk.DragToButton(2);
-  desk.Drop();
+  desk.World.Desktop.Release(MouseButton::Left);
   // The source has its answer by now.
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
+  desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk.Wait(100);
   const auto records = desk.RecordsOf(1);
   ASSERT_EQ(records.size(), 1002U);
   EXPECT_EQ(records[2].FName, "C:\\f19001.txt");
   EXPECT_EQ(records[1001].FTitle, "f20000");
-  desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
-  desk.Wait(100);
   ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(desk.World.Desktop.Boxes()[0].Text, RefusedFilesText({refused}));
   desk.Wait(1000);

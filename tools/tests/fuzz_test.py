@@ -37,9 +37,9 @@ class Fuzz(unittest.TestCase):
 
     def test_a_target_ends_after_its_processor_time(self):
         self.target(BUSY)
-        status, used = fuzz.run_for([str(self.folder / "edits_fuzz")], 0.3, self.work / "log", poll=0.05)
+        status, used = fuzz.run_for([str(self.folder / "edits_fuzz")], 2, self.work / "log", poll=0.05)
         self.assertEqual(status, 0)
-        self.assertGreaterEqual(used, 0.3)
+        self.assertGreaterEqual(used, 2)
 
     def test_a_target_that_ends_early_has_found_something(self):
         self.target(FINDS)
