@@ -133,6 +133,20 @@ TEST_F(Simulation, TheDesktopLiesBehindEverything) {
   EXPECT_EQ(Desktop.WindowAt({110, 110}), form.hWnd());
 }
 
+// Windows documents this, and Wine leaves a minimized window without a caption active.
+TEST_F(Simulation, TheNextWindowBelowBecomesActiveWhenOneIsMinimized) {
+  PlainForm below(TheWorld, "Below");
+  PlainForm minimized(TheWorld, "Minimized");
+  PlainForm top(TheWorld, "Top");
+  below.Show();
+  minimized.Show();
+  top.Show();
+  minimized.Minimize();
+  EXPECT_EQ(Desktop.ActiveWindow(), top.hWnd());
+  top.Minimize();
+  EXPECT_EQ(Desktop.ActiveWindow(), below.hWnd());
+}
+
 TEST_F(Simulation, ALockedForegroundRefusesWindowsThatAreNotActive) {
   PlainForm form(TheWorld);
   const WindowId other = Desktop.AddOtherWindow({});
