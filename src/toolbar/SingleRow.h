@@ -131,6 +131,8 @@ class SingleRow final : public SingleButtonsPort {
   [[nodiscard]] bool IsAnother(const EntryEdit& carried) const;
   void TakeFromMenu(const EntryEdit& carried);
   void FitStrip();
+  /// Puts records before the button `target`, or behind the last.
+  void AddDropped(const std::vector<MenuRecord>& records, int target);
 
   Program& program_;
   frmToolbar& strip_;

@@ -67,7 +67,7 @@ TEST(ToolbarOLEDragDrop, AThousandFilesComeAndOneThatNoRecordHoldsIsNamedAfterwa
   files.push_back(refused);
   desk.TakeFiles(files);
   desk.DragToButton(2);
-  desk.Drop();
+  desk.World.Desktop.Release(MouseButton::Left);
   // The source has its answer by now.
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
   const auto records = desk.RecordsOf(1);
