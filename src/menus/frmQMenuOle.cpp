@@ -120,23 +120,24 @@ void frmQMenu::InsertFiles(const std::vector<std::string>& names, int item) {
   const bool captures = capture != nullptr && !capture->MenuCaptured();
   if (captures) capture->CaptureMenu();
   auto outcome = EditOutcome::NothingToDo;
+  DroppedEntries dropped;
   {
     const forms::FlagScope busy(program_.ItemActionBusy);
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
-    DroppedEntries dropped = DroppedRecords(files, ansi, names, [this](std::string_view name) {
+    dropped = DroppedRecords(files, ansi, names, [this](std::string_view name) {
       return Trim(GetFileTitle(program_, name));
     });
     outcome = InsertDropped(files, ansi, file, position, dropped.Records);
-    if (program_.Ports.Toolbar != nullptr) {
-      program_.Ports.Toolbar->TellRefused(std::move(dropped.Refused));
-    }
   }
   // After a failure the menu shows what the file still holds.
   if (outcome == EditOutcome::Edited && program_.Ports.Toolbar != nullptr) {
     program_.Ports.Toolbar->RefreshMenu(key);
   }
   if (captures) capture->ReleaseMenu();
+  if (program_.Ports.Toolbar != nullptr) {
+    program_.Ports.Toolbar->TellRefused(std::move(dropped.Refused));
+  }
 }
 
 // The dialog writes the entry before the item under the drop, or at the end of the button's menu.

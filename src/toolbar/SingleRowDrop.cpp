@@ -140,13 +140,17 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
     OpenWithItem(program_, names.front(), target.Command);
     return;
   }
-  FileSystem& files = program_.Services.Files;
   DroppedEntries dropped =
-      DroppedRecords(files, program_.Services.Ansi, std::move(names),
+      DroppedRecords(program_.Services.Files, program_.Services.Ansi, std::move(names),
                      [this](std::string_view name) { return GetFileTitle(program_, name); });
-  strip_.TellRefused(std::move(dropped.Refused));
-  const std::vector<MenuRecord>& records = dropped.Records;
+  AddDropped(dropped.Records, target);
+  // Last, so that nothing here lets its timer through.
+  if (strip_.IsLoaded()) strip_.TellRefused(std::move(dropped.Refused));
+}
+
+void SingleRow::AddDropped(const std::vector<MenuRecord>& records, int target) {
   if (records.empty()) return;
+  FileSystem& files = program_.Services.Files;
   const auto row = ReadSingleFiles(files, program_.MenusPath);
   if (!row) return;
   const std::size_t at = target.File.empty() ? row->size() : PlaceOfSingle(*row, target.File);

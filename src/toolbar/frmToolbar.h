@@ -420,6 +420,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void StopDrag();
   void GiveForegroundBack();
   void DropFiles(std::vector<std::string> names, int button);
+  void ShowDropped(int button);
   void DropAddress(std::string_view text, int button);
   void OfferAddress(const std::string& address, const std::string& tag, const std::string& file);
   [[nodiscard]] bool IsItemButton(int button) const noexcept;

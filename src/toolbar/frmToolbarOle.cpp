@@ -197,25 +197,31 @@ void frmToolbar::picToolbar_OLEDragDrop(DragData& data, DropEffect& effect, Mous
 void frmToolbar::DropFiles(std::vector<std::string> names, int button) {
   const std::string path = ToolbarButtons[static_cast<std::size_t>(button)].Path;
   auto outcome = EditOutcome::NothingToDo;
+  DroppedEntries dropped;
   {
     const forms::FlagScope dragging(program_.Entry.ItemDragging);
     const forms::FlagScope busy(program_.ItemActionBusy);
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
-    DroppedEntries dropped = DroppedRecords(
-        files, ansi, std::move(names),
-        [this](std::string_view name) { return Trim(GetFileTitle(program_, name)); });
+    dropped = DroppedRecords(files, ansi, std::move(names), [this](std::string_view name) {
+      return Trim(GetFileTitle(program_, name));
+    });
     outcome = AppendDropped(files, ansi, path, dropped.Records);
-    TellRefused(std::move(dropped.Refused));
   }
   if (!IsLoaded()) return;
-  // The menu as it is shows that nothing was added.
-  if (outcome != EditOutcome::Edited) {
+  if (outcome == EditOutcome::Edited) {
+    ShowDropped(button);
+  } else {
+    // The menu as it is shows that nothing was added.
     EndDragOver();
-    return;
   }
-  // The menu comes up and stays only in front, and the system leaves that to the program dragged
-  // from.
+  // Last, so that nothing here lets its timer through.
+  if (IsLoaded()) TellRefused(std::move(dropped.Refused));
+}
+
+// The menu comes up and stays only in front, and the system leaves that to the program dragged
+// from.
+void frmToolbar::ShowDropped(int button) {
   if (!IsOursActive()) program_.Services.Desktop.BringForward(hWnd());
   if (IsLoaded()) RefreshMenu("F" + std::to_string(button));
 }
