@@ -278,8 +278,10 @@ class frmQMenu final : public forms::Form, public QMenuPort {
 
   // Pointer (frmQMenuPointer.cpp).
   [[nodiscard]] bool PointerOver() const;
-  /// True while label events are to be ignored.
-  [[nodiscard]] bool StillAway();
+  /// True if the window is what lies at that place of it, twips.
+  [[nodiscard]] bool IsOver(float x, float y) const;
+  /// True while events at that place are to be ignored.
+  [[nodiscard]] bool StillAway(float x, float y);
   /// Selects what a pointer that stands still over a rebuilt menu is on.
   void FollowPointer();
   void TakeFocus();
@@ -331,6 +333,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   bool coloursChanged_ = false;
   /// A menu of the shell is up for an item, or its command runs.
   bool shellMenuUp_ = false;
+  /// The left button went down in this menu and has not come up again.
+  bool pressed_ = false;
   std::map<std::string, Picture, std::less<>> glyphs_;
 };
 

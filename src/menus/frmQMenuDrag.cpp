@@ -16,6 +16,7 @@ using forms::ShiftState;
 void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, float y) {
   program_.KeyboardOnToolbar = false;
   if (rebuilt_) Form_MouseMove(MouseButton::None, shift, x, y);
+  pressed_ = button == MouseButton::Left;
   if (button != MouseButton::Left || !shift.Ctrl) return;
   if (program_.MenuBuilding || program_.Entry.ItemDragging || program_.ItemDropping) return;
   if (EqualNoCase(MenuKey, kMainMenuKey)) return;

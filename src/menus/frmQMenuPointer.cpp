@@ -24,8 +24,13 @@ bool frmQMenu::PointerOver() const {
   return under != kNoWindow && under == hWnd();
 }
 
-bool frmQMenu::StillAway() {
-  if (PointerAway && PointerOver()) PointerAway = false;
+// The place that an event tells: by the time the event is dealt with the pointer may be elsewhere.
+bool frmQMenu::IsOver(float x, float y) const {
+  return program_.Services.Desktop.WindowAt(OnScreen(x, y)) == hWnd();
+}
+
+bool frmQMenu::StillAway(float x, float y) {
+  if (PointerAway && IsOver(x, y)) PointerAway = false;
   return PointerAway;
 }
 
@@ -36,7 +41,7 @@ void frmQMenu::TakeFocus() {
 
 // ---- moves ----
 
-void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*/, float y) {
+void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, float y) {
   PrevItem = program_.SelectedItem;
   if (program_.MenuBuilding) return;
   program_.KeyboardOnToolbar = false;
@@ -49,7 +54,7 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*
     HideUpDownButton();
     ActiveArrow = kNoArrow;
   }
-  if (!PointerOver()) {
+  if (!IsOver(x, y)) {
     DropSelection();
     CurItem = 0;
     ActiveArrow = kNoArrow;
@@ -95,7 +100,12 @@ void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float
   program_.KeyboardOnToolbar = false;
   if (EndCarry(program_, OnScreen(x, y), button, shift)) return;
   if (program_.MenuBuilding) return;
-  if (button == MouseButton::Left && !PointerAway) ChooseItem(x, y);
+  const bool pressedHere = std::exchange(pressed_, false);
+  if (button == MouseButton::Left && !StillAway(x, y)) {
+    // A click says itself where the hand was, though the selection may have gone since.
+    if (pressedHere && program_.SelectedItem == 0) Form_MouseMove(button, shift, x, y);
+    ChooseItem(x, y);
+  }
   if (button == MouseButton::Right) OfferItem(shift);
 }
 

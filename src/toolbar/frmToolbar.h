@@ -380,6 +380,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] bool IsOverMenu(WindowId window) const;
   /// A point of the screen in the inside of the menu.
   [[nodiscard]] TwipPoint InMenu(PixelPoint pointer) const;
+  /// The point of the screen that a place in the buttons' box, twips, was when an event told it.
+  [[nodiscard]] PixelPoint InBox(float x, float y) const;
   [[nodiscard]] bool HasLeft(WindowId under) const;
   void StartHovering();
   /// The title of a button in the form that a hint takes; empty for none.
@@ -429,6 +431,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
 
   // Keys.
   [[nodiscard]] bool KeyboardMoves() const;
+  [[nodiscard]] bool EnterIsOfMenu() const;
   void StartKeyboard();
   void SelectButton(int button);
   void PressCurButton();
@@ -462,6 +465,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   AbandonWatch pullWatch_;
   float menuLeft_ = 0;  // where the menu window was placed
   float menuTop_ = 0;
+  PixelPoint pressedPlace_;           // where the buttons' box was pressed last, on the screen
   std::int64_t pressedAt_ = 0;        // when the menu was last changed by hand, milliseconds
   std::vector<std::string> refused_;  // of a drop, not told yet
   int quietTicks_ = 0;                // of tmrDragDrop, since the drag was last heard of

@@ -85,12 +85,17 @@ bool frmToolbar::LooksAtRest(int button) const {
   return button > 0 && LinTB1.Has(button) && LinTB1[button].Visible();
 }
 
+PixelPoint frmToolbar::InBox(float x, float y) const {
+  return forms::ToPixels(Left() + picToolbar.Left() + x, Top() + picToolbar.Top() + y,
+                         program_.Windows.Screen());
+}
+
 void frmToolbar::picToolbar_MouseDown(forms::MouseButton button, forms::ShiftState /*shift*/,
                                       float x, float y) {
   if (button != forms::MouseButton::Left) return;
   // The place of the press: by now the pointer may be elsewhere, or not be known to be here yet.
-  FindCurButton(forms::ToPixels(Left() + picToolbar.Left() + x, Top() + picToolbar.Top() + y,
-                                program_.Windows.Screen()));
+  pressedPlace_ = InBox(x, y);
+  FindCurButton(pressedPlace_);
   PressCurButton();
 }
 
@@ -108,8 +113,8 @@ void frmToolbar::PressCurButton() {
   ShowMenu(program_.CurButton);
 }
 
-void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/,
-                                      float /*x*/, float /*y*/) {
+void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/, float x,
+                                      float y) {
   if (program_.PosChangeRunning || program_.StartingUp) return;
   const bool anyDown = down != forms::MouseButton::None;
   if (!anyDown && !WasHovering) {
@@ -134,8 +139,9 @@ void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState
       (IsOursActive() || program_.DragHolds())) {
     HoverButton(current);
   } else if (forms::Has(down, forms::MouseButton::Left) &&
-             IsOverMenu(program_.Services.Desktop.WindowAt(pointer))) {
-    program_.Ports.QMenu->xMouseMove(InMenu(pointer).Y);
+             IsOverMenu(program_.Services.Desktop.WindowAt(InBox(x, y)))) {
+    // What was passed over is selected, wherever the pointer is by now.
+    program_.Ports.QMenu->xMouseMove(InMenu(InBox(x, y)).Y);
   }
 }
 
@@ -217,9 +223,13 @@ void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState
     if (under == picToolbar.hWnd()) ShowButtonPopup();
     return;
   }
-  if (IsOverMenu(under)) {
+  // A release in the menu is a choice though the pointer may have gone on since.
+  if (IsOverMenu(program_.Services.Desktop.WindowAt(InBox(x, y)))) {
     if (program_.Windows.Now() - pressedAt_ >= kClickDelay) return;
-    const TwipPoint at = InMenu(pointer);
+    const TwipPoint at = InMenu(InBox(x, y));
+    // A release says once more where the hand is: the selection may have gone since it came there.
+    // A menu that came up under a hand that rests has none.
+    if (InBox(x, y) != pressedPlace_) program_.Ports.QMenu->xMouseMove(at.Y);
     program_.Ports.QMenu->xMouseUp(button, shift, at.X, at.Y);
     return;
   }
