@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "core/MenuRecord.h"
+#include "e2e/DeskFiles.h"
 #include "e2e/WineDesk.h"
 #include "scenario/Strip.h"
 
