@@ -154,14 +154,18 @@ void frmToolbar::EndDragOver() {
   if (IsLoaded()) GiveForegroundBack();
 }
 
-// Only what the strip or its menu took is given back: the user may be elsewhere by now.
+// Only what the strip or its menu took is given back: the user may be elsewhere by now. A window
+// that has gone off the screen meanwhile, such as a menu that was up when the drag came, gets
+// nothing.
 void frmToolbar::GiveForegroundBack() {
   DesktopWindows& desktop = program_.Services.Desktop;
   const WindowId before = std::exchange(SavedForeground, kNoWindow);
   const WindowId now = desktop.ForegroundWindow();
   const QMenuPort* const menu = program_.Ports.QMenu;
   const bool ours = now == hWnd() || (menu != nullptr && now == menu->WindowHandle());
-  if (ours && before != kNoWindow && before != now) desktop.BringForward(before);
+  if (ours && before != kNoWindow && before != now && desktop.IsVisible(before)) {
+    desktop.BringForward(before);
+  }
 }
 
 // ---- dropped on the buttons ----

@@ -253,6 +253,22 @@ TEST(ToolbarDragTimer, ASourceThatDiesElsewhereClosesTheMenu) {
   EXPECT_EQ(desk.MenuUp(), 0);
 }
 
+TEST(ToolbarDragTimer, GivesTheForegroundToNoMenuThatIsGone) {
+  DragDesk desk;
+  desk.World.Desktop.LockForeground(false);
+  desk.Click(2);
+  desk.Menu.SetForeground();
+  // The source has no window in the foreground.
+  desk.World.Desktop.StartDrag({.Data = {.Files = std::vector<std::string>{"C:\\a.txt"}}});
+  desk.DragToButton(3);
+  ASSERT_EQ(desk.Strip.SavedForeground, desk.Menu.hWnd());
+  desk.World.Desktop.TakeForeground(desk.Strip.hWnd());
+  desk.PointAway();
+  desk.Wait(110);
+  ASSERT_EQ(desk.MenuUp(), 0);
+  EXPECT_EQ(desk.Foreground(), desk.Strip.hWnd());
+}
+
 TEST(ToolbarDragTimer, GivesTheForegroundBackThatTheMenuTook) {
   DragDesk desk;
   desk.TakeFiles({"C:\\a.txt"});
