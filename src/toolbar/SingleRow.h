@@ -133,8 +133,8 @@ class SingleRow final : public SingleButtonsPort {
   bool DropBefore(const std::string& target, const EntryEdit& carried, forms::MouseButton released);
   [[nodiscard]] bool IsAnother(const EntryEdit& carried) const;
   void FitStrip();
-  /// Puts records before the button `target`, or behind the last.
-  void AddDropped(const std::vector<MenuRecord>& records, int target);
+  /// Puts records before the button of the file `before`, behind the last one when it is empty.
+  void AddDropped(const std::vector<MenuRecord>& records, const std::string& before);
 
   Program& program_;
   frmToolbar& strip_;

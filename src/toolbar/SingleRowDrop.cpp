@@ -143,17 +143,17 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
   DroppedEntries dropped =
       DroppedRecords(program_.Services.Files, program_.Services.Ansi, std::move(names),
                      [this](std::string_view name) { return GetFileTitle(program_, name); });
-  AddDropped(dropped.Records, target);
+  AddDropped(dropped.Records, target.File);
   // Last, so that nothing here lets its timer through.
   if (strip_.IsLoaded()) strip_.TellRefused(std::move(dropped.Refused));
 }
 
-void SingleRow::AddDropped(const std::vector<MenuRecord>& records, int target) {
+void SingleRow::AddDropped(const std::vector<MenuRecord>& records, const std::string& before) {
   if (records.empty()) return;
   FileSystem& files = program_.Services.Files;
   const auto row = ReadSingleFiles(files, program_.MenusPath);
   if (!row) return;
-  const std::size_t at = target.File.empty() ? row->size() : PlaceOfSingle(*row, target.File);
+  const std::size_t at = before.empty() ? row->size() : PlaceOfSingle(*row, before);
   const SingleFiles after = WithSingles(*row, at, records, program_.Services.Ansi);
   // A disk that refuses leaves the row as it was.
   if (!RewriteSingleFiles(files, program_.MenusPath, *row, after)) return;
