@@ -23,6 +23,11 @@ void Deliver(const MSG& message) {
   DispatchMessageW(&message);
 }
 
+BOOL CALLBACK PaintWindow(HWND window, LPARAM /*parameter*/) noexcept {
+  RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  return TRUE;
+}
+
 /// The wish to end stays in the thread's queue and would end the next loop too.
 void ForgetQuit() {
   MSG message{};
@@ -170,15 +175,7 @@ void Win32WindowSystem::DoEvents() {
 }
 
 // The paint messages go straight to the windows: the queue is not asked for anything.
-void Win32WindowSystem::PaintWaiting() {
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM) -> BOOL {
-        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        return TRUE;
-      },
-      0);
-}
+void Win32WindowSystem::PaintWaiting() { EnumThreadWindows(GetCurrentThreadId(), &PaintWindow, 0); }
 
 void Win32WindowSystem::Run() {
   MSG message{};
