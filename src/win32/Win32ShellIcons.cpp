@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "win32/FileNames.h"
 #include "win32/UniqueHandle.h"
 #include "win32/Wide.h"
 #include "win32/Win32Canvas.h"
@@ -49,7 +50,7 @@ UniqueIcon ResourceIcon(std::string_view file, int index, int size) {
 }  // namespace
 
 std::optional<ShellFileInfo> Win32ShellIcons::FileInfo(std::string_view path, IconList list) {
-  if (path.empty() || path.find('\0') != std::string_view::npos) return std::nullopt;
+  if (!CanNameFile(path)) return std::nullopt;
   SHFILEINFOW info{};
   const DWORD_PTR handle =
       SHGetFileInfoW(Wide(path).c_str(), 0, &info, sizeof(info), kFileInfoFlags | SizeFlag(list));

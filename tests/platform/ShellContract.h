@@ -143,6 +143,13 @@ TEST_P(ShellContract, KnowsNothingOfAMissingFile) {
   }
 }
 
+TEST_P(ShellContract, KnowsNothingOfATextThatNamesNoFile) {
+  for (const std::string path :
+       {"/:", "/:\xDA and more", "a\x07 b", "C:\\<>", "a|b", "*", "?", "\"C:\\\"", "//", "\\\\"}) {
+    EXPECT_FALSE(shell_->Icons().FileInfo(path, IconList::Small).has_value()) << path;
+  }
+}
+
 TEST_P(ShellContract, KnowsAFolderWithAndWithoutItsBackslash) {
   const std::string folder = shell_->Folder();
   const auto with = shell_->Icons().FileInfo(folder, IconList::Large);
