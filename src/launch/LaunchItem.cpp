@@ -91,9 +91,9 @@ void RunCommandLine(Program& program, std::string_view commandLine, std::string_
     case RunError::Other:
       break;
   }
-  if (!program.Services.Files.FileExists(command)) return;
-  // A system without that dialog leaves the file unopened, as before the question.
-  static_cast<void>(shell.Run(std::string(kOpenWithCommand) + std::string(command)));
+  const bool offered = program.Services.Files.FileExists(command) &&
+                       shell.Run(std::string(kOpenWithCommand) + std::string(command));
+  if (!offered) SayUnavailable(program);
 }
 
 /// A file or folder; failing that, a program with arguments.
@@ -107,8 +107,8 @@ void OpenOrRun(Program& program, const std::string& text) {
 void OpenLink(Program& program, const std::string& link) {
   std::string target;
   const std::string folder = GetLinkWorkDir(program, link, target);
-  // What comes of a link that leads nowhere is the system's affair.
-  static_cast<void>(OpenSettled(program, link, std::nullopt, IfAny(folder)));
+  // The system was asked to say nothing itself.
+  if (!OpenSettled(program, link, std::nullopt, IfAny(folder))) SayUnavailable(program);
 }
 
 /// False when the command is no word of the program, or the program cannot carry it out.

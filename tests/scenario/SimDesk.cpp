@@ -69,6 +69,7 @@ class SimDesk final : public Desk {
     world_.Files.Put(kWitness, "x");
     world_.Files.Put(kDocument, "A document.\r\n");
     world_.Shell.Associate(".wit", kWitness);
+    world_.Shell.AddToPath("rundll32.exe");
     world_.Links.SetFolder(kStartupFolder, kStartup);
     world_.System.WorkFolder = kAppFolder;
   }
