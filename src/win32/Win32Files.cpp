@@ -355,15 +355,20 @@ std::string Win32Files::LongPath(std::string_view path) {
 }
 
 std::string Win32Files::ShortPath(std::string_view path) {
-  const auto wide = PathOf(path);
-  if (!wide || wide->empty() || AttributesOf(*wide) == INVALID_FILE_ATTRIBUTES) return {};
+  constexpr std::wstring_view kAnyLength = L"\\\\?\\";
+  auto wide = PathOf(path);
+  if (!wide || wide->empty()) return {};
+  // Without the prefix the system takes no longer path of a drive.
+  const bool prefixed = wide->size() >= MAX_PATH && wide->substr(1, 2) == L":\\";
+  if (prefixed) wide->insert(0, kAnyLength);
+  if (AttributesOf(*wide) == INVALID_FILE_ATTRIBUTES) return {};
   const DWORD room = GetShortPathNameW(wide->c_str(), nullptr, 0);
   std::wstring text(room, L'\0');
   // The count without a buffer includes the NUL at the end, that of what was written does not.
   const DWORD length = room == 0 ? 0 : GetShortPathNameW(wide->c_str(), text.data(), room);
   if (length == 0 || length >= room) return {};
   text.resize(length);
-  return Narrow(text);
+  return Narrow(text.substr(prefixed ? kAnyLength.size() : 0));
 }
 
 }  // namespace corvelle::win32
