@@ -22,9 +22,10 @@ constexpr int kClassicBoxHeight = 120;
 
 void SimDesktop::Pump() {
   for (int count = 0; count < kEndlessLoop; ++count) {
-    if (!events_.empty()) {
-      const std::function<void()> event = std::move(events_.front());
-      events_.pop_front();
+    std::deque<std::function<void()>>& next = !afterEvent_.empty() ? afterEvent_ : events_;
+    if (!next.empty()) {
+      const std::function<void()> event = std::move(next.front());
+      next.pop_front();
       ++depth_;
       event();
       --depth_;
@@ -178,7 +179,7 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   SimWindow* blocked = Get(owner);
   const bool wasEnabled = blocked != nullptr && blocked->Enabled;
   if (blocked != nullptr) blocked->Enabled = false;
-  capture_ = kNoWindow;
+  LoseCapture();
   Activate(window);
 
   const int depth = std::exchange(depth_, 0);

@@ -2,6 +2,15 @@
 
 #include "RealHome.h"
 #include "forms/CanvasContract.h"
+#include "forms/ControlsContract.h"
+#include "forms/ToolBarContract.h"
+#include "forms/FrameContract.h"
+#include "forms/TreeContract.h"
+#include "forms/TabStripContract.h"
+#include "forms/ScrollBarContract.h"
+#include "forms/ComboBoxContract.h"
+#include "forms/ListBoxContract.h"
+#include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
 #include "forms/WindowSystemContract.h"
 
@@ -22,6 +31,10 @@ class WindowsHome final : public InputHome {
   void Release(MouseButton button) override { home_.Release(button); }
   void DoubleClick() override { home_.DoubleClick(); }
   void PressKey(int virtualKey) override { home_.PressKey(virtualKey); }
+  void KeyDown(int virtualKey) override { home_.KeyDown(virtualKey); }
+  void KeyUp(int virtualKey) override { home_.KeyUp(virtualKey); }
+  void Type(std::string_view text) override { home_.Type(text); }
+  void TurnWheel(int delta) override { home_.TurnWheel(delta); }
   void ClosePopup() override {
     INPUT keys[2]{};
     for (INPUT& key : keys) {
@@ -45,6 +58,24 @@ INSTANTIATE_TEST_SUITE_P(Windows, InputContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ButtonsContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TextBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ListBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ComboBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ScrollBarContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TabStripContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TreeContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, FrameContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ToolBarContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
 }  // namespace corvelle::forms
