@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/CanvasContract.h"
+#include "forms/ControlsContract.h"
 #include "forms/InputContract.h"
 #include "forms/WindowSystemContract.h"
 #include "sim/World.h"
@@ -19,6 +20,10 @@ class SimulatedHome final : public InputHome {
   void Release(MouseButton button) override { world_.Desktop.Release(button); }
   void DoubleClick() override { world_.Desktop.DoubleClick(); }
   void PressKey(int virtualKey) override { world_.Desktop.PressKey(virtualKey); }
+  void KeyDown(int virtualKey) override { world_.Desktop.KeyDown(virtualKey); }
+  void KeyUp(int virtualKey) override { world_.Desktop.KeyUp(virtualKey); }
+  void Type(std::string_view text) override { world_.Desktop.Type(text); }
+  void TurnWheel(int delta) override { world_.Desktop.TurnWheel(delta); }
   void WhilePopupIsUp(std::function<void()> action) override {
     world_.Desktop.WhilePopupIsUp([action = std::move(action)](const sim::Popup&) { action(); });
   }
@@ -35,6 +40,8 @@ INSTANTIATE_TEST_SUITE_P(Simulated, CanvasContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, InputContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, ControlContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ButtonsContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

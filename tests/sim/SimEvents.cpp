@@ -178,7 +178,7 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   SimWindow* blocked = Get(owner);
   const bool wasEnabled = blocked != nullptr && blocked->Enabled;
   if (blocked != nullptr) blocked->Enabled = false;
-  capture_ = kNoWindow;
+  LoseCapture();
   Activate(window);
 
   const int depth = std::exchange(depth_, 0);

@@ -2,6 +2,7 @@
 
 #include "RealHome.h"
 #include "forms/CanvasContract.h"
+#include "forms/ControlsContract.h"
 #include "forms/InputContract.h"
 #include "forms/WindowSystemContract.h"
 
@@ -22,6 +23,10 @@ class WindowsHome final : public InputHome {
   void Release(MouseButton button) override { home_.Release(button); }
   void DoubleClick() override { home_.DoubleClick(); }
   void PressKey(int virtualKey) override { home_.PressKey(virtualKey); }
+  void KeyDown(int virtualKey) override { home_.KeyDown(virtualKey); }
+  void KeyUp(int virtualKey) override { home_.KeyUp(virtualKey); }
+  void Type(std::string_view text) override { home_.Type(text); }
+  void TurnWheel(int delta) override { home_.TurnWheel(delta); }
   void ClosePopup() override {
     INPUT keys[2]{};
     for (INPUT& key : keys) {
@@ -45,6 +50,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, InputContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ButtonsContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
 }  // namespace corvelle::forms
