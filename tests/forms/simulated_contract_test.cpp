@@ -2,6 +2,7 @@
 
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
 #include "forms/WindowSystemContract.h"
 #include "sim/World.h"
@@ -42,6 +43,8 @@ INSTANTIATE_TEST_SUITE_P(Simulated, InputContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, ControlContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, ButtonsContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, TextBoxContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "RealHome.h"
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
 #include "forms/WindowSystemContract.h"
 
@@ -51,6 +52,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, InputContract,
 INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ButtonsContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TextBoxContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
