@@ -148,6 +148,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void WhileRunning(std::function<void()> script) { runScript_ = std::move(script); }
   bool QuitCalled() const noexcept { return quit_; }
 
+  /// For controls: runs after the user's action that is being carried out.
+  void AfterEvent(std::function<void()> action) { afterEvent_.push_back(std::move(action)); }
   /// The text that was cut or copied last, by whichever program.
   std::string& Clipboard() noexcept { return clipboard_; }
 
@@ -353,6 +355,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   corvelle::Picture mouseIcon_;
   PixelPoint hotSpot_;
   std::deque<std::function<void()>> events_;
+  std::deque<std::function<void()>> afterEvent_;  // before the next of them
   int depth_ = 0;  // handlers that are running
   std::function<void()> runScript_;
   bool quit_ = false;

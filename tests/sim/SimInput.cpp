@@ -208,7 +208,8 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   if (at == nullptr || at->Events == nullptr) return;
   if (at->Control == nullptr) return at->Events->OnKeyDown(virtualKey, shift);
   usedUp_ = false;
-  const bool used = at->Events->OnControlKey(virtualKey, shift);
+  const bool used =
+      !at->Control->TakesAllKeys() && at->Events->OnControlKey(virtualKey, shift);
   usedUp_ = used;
   at = Look(target);
   if (!used && at != nullptr && at->Control != nullptr) at->Control->Key(virtualKey, shift);
@@ -220,9 +221,12 @@ void SimDesktop::DeliverCharacter(char32_t character) {
   const SimWindow* at = Look(target);
   if (at == nullptr || at->Events == nullptr) return;
   if (at->Control == nullptr) return at->Events->OnKeyPress(character);
-  const bool used = at->Events->OnControlCharacter(character) || usedUp_;
+  const bool keep = usedUp_;
+  const bool used =
+      !at->Control->TakesAllKeys() && at->Events->OnControlCharacter(character);
+  if (used || keep) return;
   at = Look(target);
-  if (!used && at != nullptr && at->Control != nullptr) at->Control->Character(character);
+  if (at != nullptr && at->Control != nullptr) at->Control->Character(character);
 }
 
 }  // namespace corvelle::sim

@@ -3,6 +3,11 @@
 #include "RealHome.h"
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/TreeContract.h"
+#include "forms/TabStripContract.h"
+#include "forms/ScrollBarContract.h"
+#include "forms/ComboBoxContract.h"
+#include "forms/ListBoxContract.h"
 #include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
 #include "forms/WindowSystemContract.h"
@@ -54,6 +59,16 @@ INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
 INSTANTIATE_TEST_SUITE_P(Windows, ButtonsContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 INSTANTIATE_TEST_SUITE_P(Windows, TextBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ListBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ComboBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ScrollBarContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TabStripContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TreeContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
