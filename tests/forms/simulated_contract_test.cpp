@@ -1,15 +1,17 @@
 #include <gtest/gtest.h>
 
 #include "forms/CanvasContract.h"
+#include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
 #include "forms/FrameContract.h"
-#include "forms/TreeContract.h"
-#include "forms/TabStripContract.h"
-#include "forms/ScrollBarContract.h"
-#include "forms/ComboBoxContract.h"
-#include "forms/ListBoxContract.h"
-#include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
+#include "forms/ListBoxContract.h"
+#include "forms/PictureContract.h"
+#include "forms/ScrollBarContract.h"
+#include "forms/TabStripContract.h"
+#include "forms/TextBoxContract.h"
+#include "forms/ToolBarContract.h"
+#include "forms/TreeContract.h"
 #include "forms/WindowSystemContract.h"
 #include "sim/World.h"
 
@@ -63,6 +65,10 @@ INSTANTIATE_TEST_SUITE_P(Simulated, TabStripContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, TreeContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, FrameContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ToolBarContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, PictureContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

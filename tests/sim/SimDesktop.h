@@ -168,6 +168,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   /// The text that was cut or copied last, by whichever program.
   std::string& Clipboard() noexcept { return clipboard_; }
 
+  /// For peers: the menu bar of a form.
+  void SetMenuBar(WindowId window, const std::vector<forms::PopupItem>& items);
+  /// The user chooses a line of a form's menu bar: the captions on the way to it with ">" between
+  /// them. The running test fails when it cannot be chosen.
+  void ChooseFromMenuBar(WindowId window, std::string_view path);
+
   // Asking.
   /// The first window of ours with this class, which is the name of its form or box; none if there
   /// is none.
@@ -199,7 +205,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   // forms::WindowSystem
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
-  forms::FrameMargins MarginsOf(forms::FrameStyle frame) const override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar) const override;
   forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
@@ -374,7 +380,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId toldFocus_ = kNoWindow;  // who knows that it has the focus
   bool usedUp_ = false;             // the last key, and what it types with it
   WindowId capture_ = kNoWindow;
-  enum class FramePart { None, Caption, Close, Minimize, Right, Bottom, Corner };
+  enum class FramePart { None, Caption, Menu, Close, Minimize, Right, Bottom, Corner };
   [[nodiscard]] static FramePart FramePartAt(const SimWindow& window, PixelPoint at);
   FramePart framePart_ = FramePart::None;  // that is pressed
   WindowId framePressed_ = kNoWindow;
@@ -392,7 +398,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   PixelPoint hotSpot_;
   std::deque<std::function<void()>> events_;
   std::deque<std::function<void()>> afterEvent_;  // before the next of them
-  int depth_ = 0;  // handlers that are running
+  int depth_ = 0;                                 // handlers that are running
   std::function<void()> runScript_;
   bool quit_ = false;
   std::deque<ScriptedAnswer> answers_;

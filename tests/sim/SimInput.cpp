@@ -213,8 +213,7 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   if (at == nullptr || at->Events == nullptr) return;
   if (at->Control == nullptr) return at->Events->OnKeyDown(virtualKey, shift);
   usedUp_ = false;
-  const bool used =
-      !at->Control->TakesAllKeys() && at->Events->OnControlKey(virtualKey, shift);
+  const bool used = !at->Control->TakesAllKeys() && at->Events->OnControlKey(virtualKey, shift);
   usedUp_ = used;
   at = Look(target);
   if (!used && at != nullptr && at->Control != nullptr) at->Control->Key(virtualKey, shift);
@@ -227,8 +226,7 @@ void SimDesktop::DeliverCharacter(char32_t character) {
   if (at == nullptr || at->Events == nullptr) return;
   if (at->Control == nullptr) return at->Events->OnKeyPress(character);
   const bool keep = usedUp_;
-  const bool used =
-      !at->Control->TakesAllKeys() && at->Events->OnControlCharacter(character);
+  const bool used = !at->Control->TakesAllKeys() && at->Events->OnControlCharacter(character);
   if (used || keep) return;
   at = Look(target);
   if (at != nullptr && at->Control != nullptr) at->Control->Character(character);

@@ -31,6 +31,7 @@ struct SimWindow {
   forms::FrameMargins Margins;  // of the frame
   bool MinimizeBox = false;
   PixelSize LeastSize{1, 1};
+  std::vector<forms::PopupItem> MenuBar;
   bool Visible = false;
   bool Enabled = true;
   bool Topmost = false;

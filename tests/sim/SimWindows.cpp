@@ -44,7 +44,7 @@ WindowId SimDesktop::Add(SimWindow window) {
   const WindowId id = ++lastId_;
   window.Id = id;
   window.Told = window.Bounds;
-  window.Margins = MarginsOf(window.Frame);
+  window.Margins = MarginsOf(window.Frame, !window.MenuBar.empty());
   if (window.Own) window.Content = std::make_shared<SimCanvas>(InsideOf(window));
   const WindowId parent = window.Parent;
   windows_.emplace(id, std::move(window));

@@ -2,15 +2,17 @@
 
 #include "RealHome.h"
 #include "forms/CanvasContract.h"
+#include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
 #include "forms/FrameContract.h"
-#include "forms/TreeContract.h"
-#include "forms/TabStripContract.h"
-#include "forms/ScrollBarContract.h"
-#include "forms/ComboBoxContract.h"
-#include "forms/ListBoxContract.h"
-#include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
+#include "forms/ListBoxContract.h"
+#include "forms/PictureContract.h"
+#include "forms/ScrollBarContract.h"
+#include "forms/TabStripContract.h"
+#include "forms/TextBoxContract.h"
+#include "forms/ToolBarContract.h"
+#include "forms/TreeContract.h"
 #include "forms/WindowSystemContract.h"
 
 namespace corvelle::forms {
@@ -72,6 +74,10 @@ INSTANTIATE_TEST_SUITE_P(Windows, TabStripContract,
 INSTANTIATE_TEST_SUITE_P(Windows, TreeContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 INSTANTIATE_TEST_SUITE_P(Windows, FrameContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ToolBarContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, PictureContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
