@@ -44,6 +44,9 @@ build_windows() {
 build_windows32() { configure windows32 && build windows32; }
 
 run_native() {
+  # Beside the fixed ones, two monkeys of each run have seeds of their own: this number and 1 or 2.
+  export CORVELLE_MONKEY_SEED="${CORVELLE_MONKEY_SEED:-$(date +%s)}"
+  say "the monkeys' own seeds: $((CORVELLE_MONKEY_SEED + 1)) and $((CORVELLE_MONKEY_SEED + 2))"
   rm -rf build/asan/results build/asan/ctest.xml
   GTEST_OUTPUT="xml:$PWD/build/asan/results/" ctest --test-dir build/asan -j "$CMAKE_BUILD_PARALLEL_LEVEL" \
     --output-on-failure --no-tests=error --output-junit "$PWD/build/asan/ctest.xml" >build/asan-tests.log 2>&1 ||

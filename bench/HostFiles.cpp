@@ -116,6 +116,14 @@ FileStatus HostFiles::Replace(std::string_view path, std::string_view bytes) {
   return Write(path, bytes);
 }
 
+FileStatus HostFiles::ReplaceUnflushed(std::string_view path, std::string_view bytes) {
+  return Write(path, bytes);
+}
+
+FileStatus HostFiles::Flush(std::string_view path) {
+  return FileExists(path) ? FileStatus(Done()) : FileStatus(FileError::NotFound);
+}
+
 FileStatus HostFiles::Remove(std::string_view path) {
   std::error_code error;
   if (!fs::remove(Host(path), error)) return FileError::NotFound;

@@ -1,9 +1,10 @@
 // What a user waits for, each beside its floor: the same bytes read by plain calls, or the one call
 // that cannot be spared. The windows are those of the simulated desktop, which draws every pixel
-// into memory by itself; the files are real ones.
+// into memory by itself; the files are real ones. The floor of "menu/built/20" is
+// "menu/built/20/floor"; tools/bench_ratios.py prints both side by side.
 
-#include <algorithm>
-#include <chrono>
+#include <benchmark/benchmark.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -11,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "HostFiles.h"
@@ -29,27 +31,43 @@ constexpr int kButtons = 200;
 constexpr int kItems[] = {20, 200, 2000};
 constexpr int kFiles[] = {100, 1000, 10000};
 
+using Step = std::function<void()>;
+
 [[noreturn]] void GiveUp(const std::string& why) {
   std::fprintf(stderr, "corvelle_bench: %s\n", why.c_str());
   std::exit(1);
 }
 
-/// Microseconds of one run: the middle one of many.
-double Time(int runs, const std::function<void()>& prepare, const std::function<void()>& run) {
-  std::vector<double> times;
-  for (int i = 0; i < runs; ++i) {
-    if (prepare) prepare();
-    const auto start = std::chrono::steady_clock::now();
+/// Measures `run`; `prepare` goes before each run and is not measured.
+void Repeat(benchmark::State& state, const Step& prepare, const Step& run) {
+  for ([[maybe_unused]] auto turn : state) {
+    state.PauseTiming();
+    prepare();
+    state.ResumeTiming();
     run();
-    const std::chrono::duration<double, std::micro> took = std::chrono::steady_clock::now() - start;
-    times.push_back(took.count());
   }
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
 }
 
-void Print(const std::string& name, double time, double floor) {
-  std::printf("%-44s %12.3f us %12.3f us %9.1f\n", name.c_str(), time, floor, time / floor);
+void Repeat(benchmark::State& state, const Step& run) {
+  for ([[maybe_unused]] auto turn : state) run();
+}
+
+using Measurement = std::function<void(benchmark::State&)>;
+
+/// Registers a measurement and its floor.
+void Register(const std::string& name, const Measurement& time, const Measurement& floor) {
+  benchmark::RegisterBenchmark(name.c_str(), time)->Unit(benchmark::kMicrosecond);
+  benchmark::RegisterBenchmark((name + "/floor").c_str(), floor)->Unit(benchmark::kMicrosecond);
+}
+
+/// An object that several measurements share: made when the first of them runs, with the same
+/// arguments each time.
+template <class T, class... Arguments>
+std::function<T&()> Shared(Arguments... arguments) {
+  return [made = std::make_shared<std::unique_ptr<T>>(), arguments...]() -> T& {
+    if (*made == nullptr) *made = std::make_unique<T>(arguments...);
+    return **made;
+  };
 }
 
 /// A shell that knows of a file what its name tells, once the disk has said that it is there.
@@ -151,72 +169,144 @@ class Copy : public Parts {
   }
 };
 
-void MeasureStart() {
-  Ground ground;
-  for (int i = 1; i <= kButtons; ++i) ground.PutMenu(i, 20);
-  std::unique_ptr<Copy> copy;
-  const auto prepare = [&] {
-    copy.reset();
-    copy = std::make_unique<Copy>(ground);
-    ground.Files.ClearReads();
-  };
-  const double time = Time(11, prepare, [&] {
-    copy->Start();
-    ground.World.Desktop.Pump();
-  });
-  if (copy->Toolbar.ButtonCount != kButtons + 1) GiveUp("the strip lacks buttons");
-  const std::vector<HostFiles::ReadCall> reads = ground.Files.Reads();
-  const double floor = Time(101, nullptr, [&] {
-    if (ReadBare(reads) == 0) GiveUp("nothing was read");
-  });
-  Print("start until 200 buttons stand", time, floor);
+/// A disk with 200 menus, and the copies of the program that start on it.
+class StartGround {
+ public:
+  StartGround() {
+    for (int i = 1; i <= kButtons; ++i) desk_.PutMenu(i, 20);
+  }
 
-  const PixelRect strip = ground.World.Desktop.BoundsOf(ground.World.Desktop.Find("picToolbar"));
-  ground.World.Desktop.MovePointer(strip.left + 900, strip.top + 10);
-  constexpr int kTimes = 10000;
-  const double hit = Time(21, nullptr, [&] {
-    for (int i = 0; i < kTimes; ++i) copy->Toolbar.GetCurButton();
-  });
-  if (copy->TheProgram.CurButton < 2) GiveUp("no button was hit");
-  int seen = 0;
-  Input& pointer = ground.World.Desktop;
-  const double bare = Time(21, nullptr, [&] {
-    for (int i = 0; i < kTimes; ++i) seen += pointer.PointerPosition().x;
-  });
-  if (seen == 0) GiveUp("the pointer was not read");
-  Print("hit test on the strip (floor: pointer read)", hit / kTimes, bare / kTimes);
+  /// Ends the last copy and makes one that has not started.
+  void Prepare() {
+    copy_.reset();
+    copy_ = std::make_unique<Copy>(desk_);
+    desk_.Files.ClearReads();
+  }
+  void Start() {
+    copy_->Start();
+    desk_.World.Desktop.Pump();
+    if (copy_->Toolbar.ButtonCount != kButtons + 1) GiveUp("the strip lacks buttons");
+  }
+  /// What a start reads.
+  const std::vector<HostFiles::ReadCall>& Reads() {
+    if (reads_.empty()) {
+      Prepare();
+      Start();
+      reads_ = desk_.Files.Reads();
+    }
+    return reads_;
+  }
+  /// A started copy with the pointer on one of its buttons.
+  Copy& Pointed() {
+    if (Reads().empty()) GiveUp("a start reads nothing");
+    sim::SimDesktop& desktop = desk_.World.Desktop;
+    const PixelRect strip = desktop.BoundsOf(desktop.Find("picToolbar"));
+    desktop.MovePointer(strip.left + 900, strip.top + 10);
+    return *copy_;
+  }
+  Input& Pointer() { return desk_.World.Desktop; }
+
+ private:
+  Ground desk_;
+  std::unique_ptr<Copy> copy_;
+  std::vector<HostFiles::ReadCall> reads_;
+};
+
+Measurement ReadingBare(const std::function<const std::vector<HostFiles::ReadCall>&()>& reads) {
+  return [reads](benchmark::State& state) {
+    const std::vector<HostFiles::ReadCall>& calls = reads();
+    Repeat(state, [&] {
+      if (ReadBare(calls) == 0) GiveUp("nothing was read");
+    });
+  };
 }
 
-void MeasureMenu(int items) {
-  Ground ground;
-  const std::string file = ground.PutMenu(1, items);
-  Copy copy(ground);
-  copy.Start();
-  const auto drop = [&] {
-    copy.Menu.HideMenu();
-    copy.Menu.ForgetMenu("F2");
-    ground.Files.ClearReads();
-  };
-  const auto open = [&] {
-    copy.Menu.ShowMenu("F2", file);
-    ground.World.Desktop.Pump();
-  };
-  const double built = Time(21, drop, open);
-  if (copy.Menu.Labels != items) GiveUp("the menu lacks items");
-  const std::vector<HostFiles::ReadCall> reads = ground.Files.Reads();
-  const double floor = Time(101, nullptr, [&] {
-    if (ReadBare(reads) == 0) GiveUp("nothing was read");
-  });
-  const std::string what = std::to_string(items) + " items";
-  Print("build of a menu of " + what, built, floor);
+void RegisterStart() {
+  const auto ground = Shared<StartGround>();
+  Register(
+      "start/200_buttons",
+      [ground](benchmark::State& state) {
+        StartGround& desk = ground();
+        Repeat(
+            state, [&] { desk.Prepare(); }, [&] { desk.Start(); });
+      },
+      ReadingBare([ground]() -> const auto& { return ground().Reads(); }));
+  Register(
+      "strip/hit_test",
+      [ground](benchmark::State& state) {
+        Copy& copy = ground().Pointed();
+        Repeat(state, [&] { copy.Toolbar.GetCurButton(); });
+        if (copy.TheProgram.CurButton < 2) GiveUp("no button was hit");
+      },
+      [ground](benchmark::State& state) {
+        Input& pointer = ground().Pointer();
+        Repeat(state, [&] { benchmark::DoNotOptimize(pointer.PointerPosition().x); });
+      });
+}
 
-  const auto hide = [&] {
-    copy.Menu.HideMenu();
-    ground.Files.ClearReads();
-  };
-  const double reopened = Time(21, hide, open);
-  if (!ground.Files.Reads().empty()) GiveUp("a menu from the cache read its file");
-  Print("the same from the cache, " + what, reopened, floor);
+/// A copy of the program with one menu of so many items.
+class MenuGround {
+ public:
+  explicit MenuGround(int items) : file_(desk_.PutMenu(1, items)), copy_(desk_), items_(items) {
+    copy_.Start();
+  }
+
+  void Hide() {
+    copy_.Menu.HideMenu();
+    desk_.Files.ClearReads();
+  }
+  void Drop() {
+    Hide();
+    copy_.Menu.ForgetMenu("F2");
+  }
+  void Open() {
+    copy_.Menu.ShowMenu("F2", file_);
+    desk_.World.Desktop.Pump();
+    if (copy_.Menu.Labels != items_) GiveUp("the menu lacks items");
+  }
+  void OpenFromCache() {
+    Open();
+    if (!desk_.Files.Reads().empty()) GiveUp("a menu from the cache read its file");
+  }
+  /// What the building of the menu reads.
+  const std::vector<HostFiles::ReadCall>& Reads() {
+    if (reads_.empty()) {
+      Drop();
+      Open();
+      reads_ = desk_.Files.Reads();
+    }
+    return reads_;
+  }
+
+ private:
+  Ground desk_;
+  std::string file_;
+  Copy copy_;
+  int items_;
+  std::vector<HostFiles::ReadCall> reads_;
+};
+
+void RegisterMenu(int items) {
+  const auto ground = Shared<MenuGround>(items);
+  const Measurement floor = ReadingBare([ground]() -> const auto& { return ground().Reads(); });
+  const std::string end = "/" + std::to_string(items);
+  Register(
+      "menu/built" + end,
+      [ground](benchmark::State& state) {
+        MenuGround& desk = ground();
+        Repeat(
+            state, [&] { desk.Drop(); }, [&] { desk.Open(); });
+      },
+      floor);
+  Register(
+      "menu/cached" + end,
+      [ground](benchmark::State& state) {
+        MenuGround& desk = ground();
+        desk.Open();
+        Repeat(
+            state, [&] { desk.Hide(); }, [&] { desk.OpenFromCache(); });
+      },
+      floor);
 }
 
 /// One copy of the program with one menu, that of a folder.
@@ -241,6 +331,17 @@ class FolderGround {
     Program.Menu.Form_KeyDown(key, {});
     Desk.World.Desktop.Pump();
   }
+  void Paint() {
+    Program.Menu.InvalidateAll();
+    Desk.World.Desktop.Pump();
+  }
+  /// Types a letter that no title begins with.
+  void TypeUnknownLetter() {
+    const int beeps = Desk.World.Desktop.Beeps();
+    Program.Menu.Form_KeyPress('z');
+    if (Desk.World.Desktop.Beeps() != beeps + 1) GiveUp("a letter was found");
+  }
+  [[nodiscard]] bool OnLastPage() const { return Program.Menu.CurMenu == Program.Menu.Slides; }
   /// Enumerates the folder, and asks the shell for each file.
   void ListBare(bool ask) {
     const auto listed = Desk.Files.List("C:\\Many", "*.*");
@@ -259,103 +360,169 @@ class FolderGround {
   int count_;
 };
 
-void MeasureFolder(int files) {
-  const std::string what = std::to_string(files) + " files";
-  FolderGround ground(files, "");
-  const double listed = Time(11, nullptr, [&] { ground.ListBare(true); });
-  const double built = Time(
-      11, [&] { ground.Drop(); }, [&] { ground.Open(); });
-  Print("first opening of a folder of " + what, built, listed);
-  const double cached = Time(
-      21, [&] { ground.Hide(); }, [&] { ground.Open(); });
-  Print("the same from the cache, " + what, cached, listed);
+void RegisterFolder(int files) {
+  const std::string end = "/" + std::to_string(files);
+  const auto ground = Shared<FolderGround>(files, "");
+  const Measurement listing = [ground](benchmark::State& state) {
+    FolderGround& desk = ground();
+    Repeat(state, [&] { desk.ListBare(true); });
+  };
+  Register(
+      "folder/first_opening" + end,
+      [ground](benchmark::State& state) {
+        FolderGround& desk = ground();
+        Repeat(
+            state, [&] { desk.Drop(); }, [&] { desk.Open(); });
+      },
+      listing);
+  Register(
+      "folder/cached" + end,
+      [ground](benchmark::State& state) {
+        FolderGround& desk = ground();
+        desk.Open();
+        Repeat(
+            state, [&] { desk.Hide(); }, [&] { desk.Open(); });
+      },
+      listing);
 
-  FolderGround followed(files, "/u");
-  followed.Open();
-  const double looked = Time(11, nullptr, [&] { followed.ListBare(false); });
-  const double compared = Time(
-      11, [&] { followed.Hide(); }, [&] { followed.Open(); });
-  Print("the same compared with the disk, " + what, compared, looked);
+  const auto followed = Shared<FolderGround>(files, "/u");
+  Register(
+      "folder/compared_with_the_disk" + end,
+      [followed](benchmark::State& state) {
+        FolderGround& desk = followed();
+        desk.Open();
+        Repeat(
+            state, [&] { desk.Hide(); }, [&] { desk.Open(); });
+      },
+      [followed](benchmark::State& state) {
+        FolderGround& desk = followed();
+        Repeat(state, [&] { desk.ListBare(false); });
+      });
 
   // The floor of a page is its picture alone.
-  Copy& copy = ground.Program;
-  const double painted = Time(21, nullptr, [&] {
-    copy.Menu.InvalidateAll();
-    ground.Desk.World.Desktop.Pump();
-  });
-  if (copy.Menu.Slides > 0) {
-    const double turned = Time(
-        21, [&] { ground.Key(forms::key::Home); }, [&] { ground.Key(forms::key::PageDown); });
-    Print("page turn, known page (floor: a paint), " + what, turned, painted);
-    const double ended = Time(
-        21, [&] { ground.Key(forms::key::Home); }, [&] { ground.Key(forms::key::End); });
-    if (copy.Menu.CurMenu != copy.Menu.Slides) GiveUp("End did not turn to the last page");
-    Print("the same to the last page, " + what, ended, painted);
-    ground.Key(forms::key::Home);
-  }
-  const int beeps = ground.Desk.World.Desktop.Beeps();
-  const double typed = Time(101, nullptr, [&] { copy.Menu.Form_KeyPress('z'); });
-  if (ground.Desk.World.Desktop.Beeps() != beeps + 101) GiveUp("a letter was found");
-  std::size_t seen = 0;
-  const std::vector<std::string> keys(static_cast<std::size_t>(files), "f0");
-  const double passed = Time(101, nullptr, [&] {
-    for (const std::string& key : keys) seen += key[0] == 'z' ? 0 : 1;
-  });
-  if (seen == 0) GiveUp("nothing was passed over");
-  Print("a letter that no title begins with, " + what, typed, passed);
+  const Measurement painting = [ground](benchmark::State& state) {
+    FolderGround& desk = ground();
+    desk.Open();
+    Repeat(state, [&] { desk.Paint(); });
+  };
+  Register(
+      "folder/page_turn" + end,
+      [ground](benchmark::State& state) {
+        FolderGround& desk = ground();
+        desk.Open();
+        Repeat(
+            state, [&] { desk.Key(forms::key::Home); }, [&] { desk.Key(forms::key::PageDown); });
+      },
+      painting);
+  Register(
+      "folder/last_page" + end,
+      [ground](benchmark::State& state) {
+        FolderGround& desk = ground();
+        desk.Open();
+        Repeat(
+            state, [&] { desk.Key(forms::key::Home); }, [&] { desk.Key(forms::key::End); });
+        if (!desk.OnLastPage()) GiveUp("End did not turn to the last page");
+        desk.Key(forms::key::Home);
+      },
+      painting);
+  Register(
+      "folder/letter_without_a_hit" + end,
+      [ground](benchmark::State& state) {
+        FolderGround& desk = ground();
+        desk.Open();
+        Repeat(state, [&] { desk.TypeUnknownLetter(); });
+      },
+      [files](benchmark::State& state) {
+        const std::vector<std::string> keys(static_cast<std::size_t>(files), "f0");
+        Repeat(state, [&] {
+          std::size_t seen = 0;
+          for (const std::string& key : keys) seen += key[0] == 'z' ? 0 : 1;
+          benchmark::DoNotOptimize(seen);
+        });
+      });
 }
 
-/// Draws icons by their texts, first on a machine that has seen none of the files and then again,
-/// beside the calls of the shell that those texts cannot do without.
-void MeasureIcons() {
-  constexpr int kIcons = 1000;
-  constexpr int kSize = 16;
-  Ground ground;
-  ground.PutMenu(1, 1);
-  ground.PutMenu(1, 1);
-  Copy copy(ground);
-  copy.Start();
-  std::vector<std::string> files;
-  for (int i = 0; i < kIcons; ++i) {
-    files.push_back("C:\\Tools\\tool" + std::to_string(i) + ".exe");
-    ground.PutFile(files.back());
-  }
-  const auto canvas = ground.World.Desktop.CreateCanvas({kSize, kSize});
-  ShellIcons& shell = ground.Icons;
-  const auto resolve = [&] {
-    for (const std::string& file : files) {
-      if (!ResolveAndDraw(copy.TheProgram, *canvas, file, {0, 0}, kSize)) GiveUp("no icon");
+/// Icon texts of a thousand programs, drawn by the program and by the shell's calls alone.
+class IconGround {
+ public:
+  IconGround() : copy_(Prepared(desk_)) {
+    copy_.Start();
+    for (int i = 0; i < kIcons; ++i) {
+      files_.push_back("C:\\Tools\\tool" + std::to_string(i) + ".exe");
+      desk_.PutFile(files_.back());
     }
-  };
-  const auto bare = [&] {
-    for (const std::string& file : files) {
+    canvas_ = desk_.World.Desktop.CreateCanvas({kSize, kSize});
+  }
+
+  void Resolve() {
+    for (const std::string& file : files_) {
+      if (!ResolveAndDraw(copy_.TheProgram, *canvas_, file, {0, 0}, kSize)) GiveUp("no icon");
+    }
+  }
+  /// The calls of the shell that those texts cannot do without.
+  void DrawBare() {
+    ShellIcons& shell = desk_.Icons;
+    for (const std::string& file : files_) {
       const auto info = shell.FileInfo(file, IconList::Small);
-      if (!info || !shell.DrawSystemIcon(*canvas, IconList::Small, info->SystemIndex, {0, 0},
+      if (!info || !shell.DrawSystemIcon(*canvas_, IconList::Small, info->SystemIndex, {0, 0},
                                          IconStyle::Normal)) {
         GiveUp("the shell has no icon");
       }
     }
+  }
+
+ private:
+  static constexpr int kIcons = 1000;
+  static constexpr int kSize = 16;
+
+  static Ground& Prepared(Ground& desk) {
+    desk.PutMenu(1, 1);
+    return desk;
+  }
+
+  Ground desk_;
+  Copy copy_;
+  std::vector<std::string> files_;
+  std::unique_ptr<Canvas> canvas_;
+};
+
+void RegisterIcons() {
+  const auto ground = Shared<IconGround>();
+  const Measurement bare = [ground](benchmark::State& state) {
+    IconGround& desk = ground();
+    Repeat(state, [&] { desk.DrawBare(); });
   };
-  const double cold = Time(1, nullptr, resolve);
-  const double floor = Time(21, nullptr, bare);
-  Print("1000 icon texts, the first time", cold, floor);
-  Print("the same again", Time(21, nullptr, resolve), floor);
+  // A program that has seen none of the files: a new one for each turn.
+  Register(
+      "icons/1000_texts_first_time",
+      [](benchmark::State& state) {
+        std::unique_ptr<IconGround> fresh;
+        Repeat(
+            state, [&] { fresh = std::make_unique<IconGround>(); }, [&] { fresh->Resolve(); });
+      },
+      bare);
+  Register(
+      "icons/1000_texts_again",
+      [ground](benchmark::State& state) {
+        IconGround& desk = ground();
+        desk.Resolve();
+        Repeat(state, [&] { desk.Resolve(); });
+      },
+      bare);
 }
 
 }  // namespace
 }  // namespace corvelle::bench
 
-/// "quick" leaves the large folders out: in a checked build they take minutes.
 int main(int argc, char** argv) {
   using namespace corvelle;
   sim::SetComplaintHandler([](const std::string& what) { bench::GiveUp(what); });
-  std::printf("%-44s %15s %15s %9s\n", "", "time", "floor", "ratio");
-  bench::MeasureStart();
-  for (const int items : bench::kItems) bench::MeasureMenu(items);
-  const bool quick = argc > 1 && std::string_view(argv[1]) == "quick";
-  for (const int files : bench::kFiles) {
-    if (!quick || files == bench::kFiles[0]) bench::MeasureFolder(files);
-  }
-  bench::MeasureIcons();
-  return 0;
+  bench::RegisterStart();
+  for (const int items : bench::kItems) bench::RegisterMenu(items);
+  for (const int files : bench::kFiles) bench::RegisterFolder(files);
+  bench::RegisterIcons();
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+  // A filter that meets nothing is a mistake, not a quick run.
+  return benchmark::RunSpecifiedBenchmarks() == 0 ? 1 : 0;
 }

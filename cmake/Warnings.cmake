@@ -11,7 +11,7 @@ target_compile_options(corvelle_options INTERFACE -Wno-missing-field-initializer
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(corvelle_options INTERFACE -Wno-restrict)
 endif()
-if(CMAKE_UNITY_BUILD)
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # Several files compiled as one: what is local to each of them is then part of an included file.
   target_compile_options(corvelle_options INTERFACE -Wno-subobject-linkage)
 endif()

@@ -1,21 +1,25 @@
+#include <algorithm>
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
-// Runs a fuzz target on inputs made from a seed: bytes of several kinds, and changed copies of the
-// files that the command line names. The same seed gives the same inputs on every machine.
+// Runs a fuzz target on the files that the command line names (of a folder: on all in it), and then
+// on inputs made from a seed: bytes of several kinds, and changed copies of those files. The same
+// seed and the same files give the same inputs on every machine.
 //
-//   records_fuzz --count 20000 [--seed N] [files...]
+//   records_fuzz --count 20000 [--seed N] [files and folders...]
 //
-// Each input has the seed "first seed + its number", so that a failing one runs again alone with
-// --seed S --count 1.
+// Each made input has the seed "first seed + its number", so that a failing one runs again alone
+// with --seed S --count 1 and the same files. A file that fails is named.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -23,12 +27,20 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-unsigned long currentSeed = 0;
+// The input that runs, as told to whoever has to find it again.
+std::string currentInput;
 bool inputRuns = false;
 
 void SayWhichInput() {
   if (!inputRuns) return;
-  std::fprintf(stderr, "the failing input: --seed %lu --count 1\n", currentSeed);
+  std::fprintf(stderr, "the failing input: %s\n", currentInput.c_str());
+}
+
+void Run(const Bytes& bytes, std::string name) {
+  currentInput = std::move(name);
+  inputRuns = true;
+  LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+  inputRuns = false;
 }
 
 // A broken property ends in abort, a sanitizer's finding in an exit; the message goes with both.
@@ -105,8 +117,33 @@ class Maker {
   std::mt19937_64 random_;
 };
 
+struct File {
+  std::string path;
+  Bytes bytes;
+};
+
+/// Adds the file at the path, or every file of the folder there in the order of their names. False
+/// if there is none.
+bool AddFiles(const std::string& path, std::vector<File>& files) {
+  std::error_code error;
+  if (!std::filesystem::is_directory(path, error)) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return false;
+    files.push_back({path, Bytes(std::istreambuf_iterator<char>(file), {})});
+    return true;
+  }
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(path, error)) {
+    names.push_back(entry.path().string());
+  }
+  std::sort(names.begin(), names.end());
+  return !names.empty() && std::all_of(names.begin(), names.end(), [&files](const auto& name) {
+    return AddFiles(name, files);
+  });
+}
+
 int Usage(const char* program) {
-  std::fprintf(stderr, "%s [--count N] [--seed N] [files...]\n", program);
+  std::fprintf(stderr, "%s [--count N] [--seed N] [files and folders...]\n", program);
   return 2;
 }
 
@@ -115,7 +152,7 @@ int Usage(const char* program) {
 int main(int argc, char** argv) {
   unsigned long count = 10000;
   unsigned long firstSeed = 1;
-  std::vector<Bytes> corpus;
+  std::vector<File> files;
   for (int i = 1; i < argc; ++i) {
     const bool isCount = std::strcmp(argv[i], "--count") == 0;
     const bool isSeed = std::strcmp(argv[i], "--seed") == 0;
@@ -124,20 +161,23 @@ int main(int argc, char** argv) {
       (isCount ? count : firstSeed) = std::strtoul(argv[i], nullptr, 10);
       continue;
     }
-    std::ifstream file(argv[i], std::ios::binary);
-    if (!file) return Usage(argv[0]);
-    corpus.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    if (!AddFiles(argv[i], files)) {
+      std::fprintf(stderr, "%s: no such file, or a folder without files\n", argv[i]);
+      return Usage(argv[0]);
+    }
   }
 
-  for (const Bytes& bytes : corpus) LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
   std::atexit(SayWhichInput);
   std::signal(SIGABRT, OnAbort);
+  std::vector<Bytes> corpus;
+  for (const File& file : files) {
+    Run(file.bytes, file.path);
+    corpus.push_back(file.bytes);
+  }
   for (unsigned long n = 0; n < count; ++n) {
-    currentSeed = firstSeed + n;
-    const Bytes bytes = Maker(currentSeed).Make(corpus);
-    inputRuns = true;
-    LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
-    inputRuns = false;
+    const unsigned long seed = firstSeed + n;
+    Run(Maker(seed).Make(corpus),
+        "--seed " + std::to_string(seed) + " --count 1" + (files.empty() ? "" : " and all files"));
   }
   std::printf("%lu inputs from seed %lu and %zu files: all properties hold\n", count, firstSeed,
               corpus.size());

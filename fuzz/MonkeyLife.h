@@ -137,6 +137,7 @@ class MonkeyLife {
   [[nodiscard]] bool IsOffScreen() const;
   [[nodiscard]] std::string WrongDrag();
   [[nodiscard]] std::string WrongWindows() const;
+  [[nodiscard]] std::string WrongForeground() const;
   [[nodiscard]] std::string WrongPlace() const;
   [[nodiscard]] std::string WrongBars() const;
   [[nodiscard]] std::string WrongOptions() const;

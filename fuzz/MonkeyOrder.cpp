@@ -160,6 +160,31 @@ std::string MonkeyLife::WrongWindows() const {
   return {};
 }
 
+// Somebody has the foreground and can take what the user does, and the keyboard is there. A window
+// that was disabled for a question or a rebuild is enabled again.
+std::string MonkeyLife::WrongForeground() const {
+  const sim::SimDesktop& desktop = world_->Desktop;
+  for (const WindowId id : desktop.TopLevel()) {
+    const sim::SimWindow& window = *desktop.Look(id);
+    if (window.Own && !window.Enabled) return window.ClassName + " is disabled";
+  }
+  const WindowId front = desktop.ForegroundWindow();
+  const sim::SimWindow* const owner = desktop.Look(front);
+  if (owner == nullptr) return front == kNoWindow ? "" : "the foreground is a window that is gone";
+  if (owner->Own && owner->Parent != kNoWindow)
+    return owner->ClassName + " is no window of its own";
+  if (owner->Own && !owner->Visible) return owner->ClassName + " has the foreground, hidden";
+  WindowId keys = desktop.FocusWindow();
+  while (keys != kNoWindow && keys != front) {
+    const sim::SimWindow* const window = desktop.Look(keys);
+    if (window == nullptr) return "the keys go to a window that is gone";
+    if (window->Parent == kNoWindow)
+      return "the keys go to " + window->ClassName + ", the foreground is " + owner->ClassName;
+    keys = window->Parent;
+  }
+  return {};
+}
+
 std::string MonkeyLife::WrongPlace() const {
   const Program& program = parts_->TheProgram;
   const frmToolbar& strip = parts_->Toolbar;
@@ -263,7 +288,12 @@ std::string MonkeyLife::WrongQuiet() const {
   const PixelPoint pointer = world_->Desktop.PointerPosition();
   const bool over = world_->Desktop.WindowAt(pointer) == parts_->Menu.WindowHandle();
   if (MenuUp() && over) return {};  // where the pointer rests a menu stays
-  if (MenuUp()) return "a menu stays though the user has turned away";
+  if (MenuUp()) {
+    const WindowId active = world_->Desktop.ActiveWindow();
+    return "a menu stays though the user has turned away; active is " +
+           (active == kNoWindow ? "no window" : world_->Desktop.ClassName(active)) +
+           (program.DragHolds() ? ", a drag holds" : "");
+  }
   if (program.MenuOpen) return "a menu counts as open";
   const WindowId hint = parts_->Hint.WindowHandle();
   if (hint != kNoWindow && world_->Desktop.IsShown(hint)) return "a hint stays";
@@ -299,8 +329,8 @@ std::string MonkeyLife::WhatIsWrong() {
   NotePlace();
   for (const auto check :
        {&MonkeyLife::WrongState, &MonkeyLife::WrongMenu, &MonkeyLife::WrongWindows,
-        &MonkeyLife::WrongPlace, &MonkeyLife::WrongBars, &MonkeyLife::WrongOptions,
-        &MonkeyLife::WrongQuiet}) {
+        &MonkeyLife::WrongForeground, &MonkeyLife::WrongPlace, &MonkeyLife::WrongBars,
+        &MonkeyLife::WrongOptions, &MonkeyLife::WrongQuiet}) {
     if (std::string wrong = (this->*check)(); !wrong.empty()) return wrong;
   }
   return WrongFiles();

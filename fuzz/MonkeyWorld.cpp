@@ -155,9 +155,10 @@ void MonkeyLife::ChangeWindows() {
   } else if (!others_.empty()) {
     Tell("another window takes the foreground");
     world_->Desktop.TakeForeground(others_.front());
-  } else if (!parts_->TheProgram.ToolbarMinimized) {
+  } else if (const WindowId strip = world_->Desktop.Find("frmToolbar");
+             world_->Desktop.IsShown(strip)) {
     Tell("the strip comes to the foreground");
-    world_->Desktop.TakeForeground(world_->Desktop.Find("frmToolbar"));
+    world_->Desktop.TakeForeground(strip);
   }
   if (Chance(10)) world_->Desktop.LockForeground(Chance(50));
   world_->Desktop.Pump();

@@ -40,18 +40,32 @@ struct Home {
   FolderMenus folders;
 };
 
-void CheckGenerated(Home& home, const std::string& path, const std::vector<MenuRecord>& source) {
-  const auto records = ReadAllRecords(home.world.Files, home.world.Ansi, path);
-  CORVELLE_CHECK(static_cast<bool>(records));
-  for (const MenuRecord& record : *records) {
-    if (record.FTitle.empty() && record.FIcon == kSeparatorIcon) continue;
-    const int number = SplitTitle(record.FTitle, -1).Record;
+void CheckOrigins(const ExpandedMenu& menu, const std::vector<MenuRecord>& source) {
+  CORVELLE_CHECK(menu.Records.size() == menu.Origins.size());
+  for (std::size_t i = 0; i < menu.Records.size(); ++i) {
+    const int number = menu.Origins[i].Record;
+    const MenuRecord& record = menu.Records[i];
+    if (number == 0 && record.FTitle.empty() && record.FIcon == kSeparatorIcon) continue;
     const int real = RealRecord(number);
     CORVELLE_CHECK(real >= 1 && real <= static_cast<int>(source.size()));
     const std::string& command = source[static_cast<std::size_t>(real) - 1].FName;
     const bool open =
         real > 1 && (IsFolderItem(command) || IsSpecialFolder(command)) && !IsClosedFolder(command);
     CORVELLE_CHECK(IsGenerated(number) == open);
+  }
+}
+
+// Each title of the generated file carries the number of the record that it stands for.
+void CheckGenerated(Home& home, const ExpandedMenu& menu) {
+  const auto records = ReadAllRecords(home.world.Files, home.world.Ansi, menu.File);
+  CORVELLE_CHECK(records && records->size() <= menu.Records.size());
+  std::size_t at = 0;
+  for (const MenuRecord& record : *records) {
+    const int number = SplitTitle(record.FTitle, 0).Record;
+    const int written = record.FTitle.find('\0') == std::string::npos ? 0 : number;
+    while (at < menu.Origins.size() && menu.Origins[at].Record != written) ++at;
+    CORVELLE_CHECK(at < menu.Origins.size());
+    ++at;
   }
 }
 
@@ -78,12 +92,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   disk.Put(kOther, "untouched");
   if (fault < 24)
     disk.FailCall(1 + fault % 12, fault < 12 ? FileError::DiskFull : FileError::InUse);
-  const std::string expanded = home.folders.Expand("F2", kFile);
+  const std::optional<ExpandedMenu> expanded = home.folders.Expand("F2", kFile);
+  const bool written = expanded && home.folders.WriteGenerated(*expanded);
   disk.StopFailing();
   CORVELLE_CHECK(disk.Get(kFile) == bytes && disk.Get(kOther) == "untouched");
   const auto source = ReadAllRecords(disk, home.world.Ansi, kFile);
-  if (expanded != kFile) CheckGenerated(home, expanded, *source);
-  if (expanded != kFile && fault >= 24) CORVELLE_CHECK(!home.folders.UpdateMenu("F2"));
+  if (expanded) CheckOrigins(*expanded, *source);
+  if (expanded && fault >= 24) CORVELLE_CHECK(written && !home.folders.UpdateMenu("F2"));
+  if (written) CheckGenerated(home, *expanded);
   for (const MenuRecord& item : *source) {
     const FolderItem parsed = ParseFolderItem(item.FName);
     CORVELLE_CHECK(parsed.Folder.empty() || parsed.Folder.ends_with('\\'));

@@ -28,7 +28,7 @@ void CheckUrlFile(const std::string& bytes) {
   const auto address = ParseUrlFile(bytes, kAnsi);
   if (!address) return;
   CORVELLE_CHECK(IsValidUtf8(*address));
-  CORVELLE_CHECK(StartsWithNoCase(*address, "http://"));
+  CORVELLE_CHECK(StartsWithNoCase(*address, "http://") || StartsWithNoCase(*address, "https://"));
   CORVELLE_CHECK(IsOneLine(*address));
   CORVELLE_CHECK(ClassifyAddress(*address) == CommandKind::WebAddress);
   // What the program writes for it says the same, but for what no address may hold.
@@ -62,7 +62,10 @@ void CheckBookmarks(const std::string& bytes, const std::string& url) {
 void CheckBrowserFile(const std::string& bytes) {
   CORVELLE_CHECK(IsValidUtf8(ParseBookmarkFolder(bytes, kAnsi)));
   const BrowserChoice choice = ParseBrowserChoice(bytes, kAnsi);
-  CORVELLE_CHECK(ParseBrowserChoice(FormatBrowserChoice(choice, kAnsi), kAnsi) == choice);
+  // A line is known by a word anywhere in it. No service that the program writes has it in its
+  // name.
+  CORVELLE_CHECK(ParseBrowserChoice(FormatBrowserChoice(choice, kAnsi), kAnsi) == choice ||
+                 choice.BrowserApplication.find("command=") != std::string::npos);
   for (const std::string& folder : UsersFolders(choice.BrowserCommand))
     CORVELLE_CHECK(folder.ends_with("\\Users\\"));
 }

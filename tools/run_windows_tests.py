@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 """Runs the tests that need Windows in Wine desktops of their own.
 
-  tools/run_windows_tests.py --build build/windows [--filter PATTERN] [--jobs N] [contract] [e2e]
+  tools/run_windows_tests.py --build build/windows [--filter PATTERN] [--jobs N] [--times N] [contract] [e2e]
 
 contract: windows_contract_tests.exe as a whole, in one session.
 e2e: each test of e2e_tests.exe in a fresh session, beside a fresh copy of the program's folder
      (BUILD/package). Tests whose suite ends in AtEachScale run at 96 and at 120 dpi. Logs and pictures
-     go below --out (build/e2e), one folder for each test.
+     go below --out (build/e2e), one folder for each test. --times 10 lets the tests that repeat an act
+     (QuickMenus, Choices, DamagedMenus) go on ten times as long.
 
 A session in which the test program did not come to its first line tells nothing of Corvelle: another one
 takes its place, and the run says so.
@@ -209,7 +210,7 @@ def walk(arguments, road, mark=""):
         requests = session.drive / "e2e" / "pictures"
         requests.mkdir()
         outcome = run_program(session, "e2e", ["e2e_tests.exe", f"--gtest_filter={road.name}"],
-                              folder / "log.txt", E2E_SECONDS, (requests, folder))
+                              folder / "log.txt", E2E_SECONDS * arguments.times, (requests, folder))
         if not passed(outcome):
             session.picture(folder / "at-the-end.png")
         return outcome
@@ -265,10 +266,12 @@ def main():
     parser.add_argument("--out", type=pathlib.Path, default=ROOT / "build" / "e2e")
     parser.add_argument("--filter", default="*", help="as GoogleTest has it")
     parser.add_argument("--jobs", type=int, default=2)
+    parser.add_argument("--times", type=int, default=1, help="how often tests repeat what they repeat")
     parser.add_argument("which", nargs="*", choices=["contract", "e2e", []], default=[])
     arguments = parser.parse_args()
     for sign in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
         signal.signal(sign, end_quietly)
+    os.environ["CORVELLE_TEST_TIMES"] = str(arguments.times)
     which = arguments.which or ["contract", "e2e"]
     passed = failed = 0
     try:

@@ -132,6 +132,13 @@ REGISTRY = r"""REGEDIT4
 
 [HKEY_LOCAL_MACHINE\Software\Classes\witnessfile\shell\open\command]
 @="C:\\witness\\witness.exe \"%1\""
+
+[HKEY_LOCAL_MACHINE\Software\Classes\search-ms]
+@="URL:search-ms"
+"URL Protocol"=""
+
+[HKEY_LOCAL_MACHINE\Software\Classes\search-ms\shell\open\command]
+@="C:\\witness\\witness.exe \"%1\""
 """
 
 
@@ -302,6 +309,9 @@ class Session:
             "WINEDLLOVERRIDES": "mscoree=;mshtml=;winemenubuilder.exe=d",
             "CORVELLE_SESSION": self.token,
         }
+        # How much longer than usual a test goes on.
+        if "CORVELLE_TEST_TIMES" in os.environ:
+            environment["CORVELLE_TEST_TIMES"] = os.environ["CORVELLE_TEST_TIMES"]
         if self.given_display:
             environment["DISPLAY"] = self.given_display
             if "XAUTHORITY" in os.environ:

@@ -8,8 +8,10 @@
 #include "base/Text.h"
 #include "core/MenuFile.h"
 #include "core/Program.h"
+#include "launch/FileSearch.h"
 #include "launch/FileTitle.h"
 #include "launch/LaunchItem.h"
+#include "launch/UserChoice.h"
 #include "platform/FileAssociations.h"
 #include "platform/Registry.h"
 #include "shell/FileErrorText.h"
@@ -18,8 +20,9 @@
 namespace corvelle {
 namespace {
 
-constexpr int kProgramsFolder = 2;  // CSIDL_PROGRAMS
-constexpr int kRecentFolder = 8;    // CSIDL_RECENT
+constexpr int kProgramsFolder = 2;         // CSIDL_PROGRAMS
+constexpr int kRecentFolder = 8;           // CSIDL_RECENT
+constexpr int kCommonProgramsFolder = 23;  // CSIDL_COMMON_PROGRAMS
 constexpr std::string_view kFirstMenu = "BMENU001.MNU";
 constexpr std::string_view kMailKey = "mailto\\shell\\open\\command";
 constexpr std::string_view kFailure =
@@ -30,6 +33,14 @@ FileStatus Success() { return Done{}; }
 // A file that is not there needs no removing.
 FileStatus RemoveIfThere(FileSystem& files, const std::string& path) {
   return files.FileExists(path) ? files.Remove(path) : Success();
+}
+
+/// The folders of one name in several folders.
+std::vector<std::string> Below(const std::vector<std::string>& folders, std::string_view name) {
+  std::vector<std::string> below;
+  for (const std::string& folder : folders)
+    below.push_back(EnsureBackslash(folder) + std::string(name));
+  return below;
 }
 
 }  // namespace
@@ -84,18 +95,22 @@ FileStatus DefaultEntries::CopyFirstMenu() {
 // ---- single buttons ----
 
 FileStatus DefaultEntries::WriteSingles() {
-  for (const MenuRecord& record : FixedSingles()) {
+  const MachineFacts facts{.HasFileSearch = HasFileSearch(program_.Services.Keys),
+                           .HasNetSearch = program_.Ports.NetSearch != nullptr};
+  for (const MenuRecord& record : FixedSingles(facts)) {
     if (auto written = WriteSingle(record); !written) return written;
   }
   program_.ShowStartupProgress();
-  if (const auto browser = GetExe("htm")) {
+  if (const auto browser = FindBrowser()) {
     const std::string title = GetFileTitle(program_, *browser);
     const MenuRecord record = BrowserSingle({.Path = *browser, .FileTitle = title});
     if (auto written = WriteSingle(record); !written) return written;
   }
   program_.ShowStartupProgress();
-  if (const auto mail = FindMailSingle()) {
-    if (auto written = WriteSingle(*mail); !written) return written;
+  if (const auto mail = FindMailProgram()) {
+    const std::string title = GetFileTitle(program_, *mail);
+    const MenuRecord record = MailSingle({.Path = *mail, .FileTitle = title});
+    if (auto written = WriteSingle(record); !written) return written;
   }
   for (const std::string_view extension : ProgramExtensions()) {
     program_.ShowStartupProgress();
@@ -115,13 +130,21 @@ FileStatus DefaultEntries::WriteProgramSingle(std::string_view extension) {
   return WriteSingle(ProgramSingle({.Path = *path, .FileTitle = title}));
 }
 
-std::optional<MenuRecord> DefaultEntries::FindMailSingle() {
+std::optional<std::string> DefaultEntries::FindBrowser() {
+  const UserChoice choice = UserChoiceFor(program_.Services.Keys, "http");
+  return choice.Made ? IfOnDisk(choice.Program) : GetExe("htm");
+}
+
+std::optional<std::string> DefaultEntries::FindMailProgram() {
+  const UserChoice choice = UserChoiceFor(program_.Services.Keys, "mailto");
+  if (choice.Made) return IfOnDisk(choice.Program);
   const auto command = program_.Services.Keys.Text(RegistryRoot::ClassesRoot, kMailKey, "");
-  if (!command) return std::nullopt;
-  const std::string path = MailProgramPath(*command);
-  if (path.empty() || !program_.Services.Files.FileExists(path)) return std::nullopt;
-  const std::string title = GetFileTitle(program_, path);
-  return MailSingle({.Path = path, .FileTitle = title});
+  return command ? IfOnDisk(ProgramOfCommand(*command)) : std::nullopt;
+}
+
+std::optional<std::string> DefaultEntries::IfOnDisk(std::string path) {
+  if (!IsProgramAnswer(path) || !program_.Services.Files.FileExists(path)) return std::nullopt;
+  return path;
 }
 
 FileStatus DefaultEntries::WriteSingle(const MenuRecord& record) {
@@ -147,15 +170,13 @@ std::optional<std::string> DefaultEntries::GetExe(std::string_view extension) {
   // One that stays behind is used again by the next question.
   static_cast<void>(files.Remove(sample));
   if (!found) return std::nullopt;
-  std::string path = StripAtNull(*found);
-  if (path.empty() || !files.FileExists(path)) return std::nullopt;
-  return path;
+  return IfOnDisk(StripAtNull(*found));
 }
 
 // ---- menus ----
 
 FileStatus DefaultEntries::WriteMenus() {
-  const std::string programs = GetSpecialFolder(program_, kProgramsFolder);
+  const Folders programs = ProgramsFolders();
   program_.ShowStartupProgress();
   if (auto written = WriteMenu(DesktopMenu()); !written) return written;
   program_.ShowStartupProgress();
@@ -182,61 +203,89 @@ FileStatus DefaultEntries::WriteMenu(const std::vector<MenuRecord>& records) {
   return Success();
 }
 
-std::vector<MenuRecord> DefaultEntries::ProgramsMenu(const std::string& folder) {
+DefaultEntries::Folders DefaultEntries::ProgramsFolders() {
+  Folders folders;
+  for (const int number : {kProgramsFolder, kCommonProgramsFolder}) {
+    std::string folder = GetSpecialFolder(program_, number);
+    if (!folder.empty()) folders.push_back(std::move(folder));
+  }
+  return folders;
+}
+
+std::vector<MenuRecord> DefaultEntries::ProgramsMenu(const Folders& folders) {
   std::vector<MenuRecord> records{ProgramsButton()};
-  if (folder.empty()) return records;
-  AddFiles(records, folder);
-  const std::vector<std::string> subFolders = Names(folder, true);
+  AddFiles(records, folders);
+  const std::vector<std::string> subFolders = SubFoldersOf(folders);
   if (records.size() > 1 && !subFolders.empty()) records.push_back(NewSeparatorRecord());
 
-  struct Found {
-    std::string Folder;
-    std::string Name;
-  };
   std::vector<Found> found;
   for (const std::string& name : subFolders) {
     if (IsSkippedFolder(name)) continue;
-    const std::string subFolder = EnsureBackslash(folder) + name;
-    for (std::string& file : Names(subFolder, false)) {
-      if (IsWorthAnItem(subFolder, file)) found.push_back({subFolder, std::move(file)});
+    for (Found& file : FilesOf(Below(folders, name))) {
+      if (IsWorthAnItem(file)) found.push_back(std::move(file));
     }
   }
   // One name in two folders keeps the order of the folders.
   std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
     return CompareNoCase(a.Name, b.Name) < 0;
   });
-  for (const Found& file : found) {
-    records.push_back(FileItem(file.Folder, file.Name));
-    program_.ShowStartupProgress();
-  }
+  for (const Found& file : found) AddItem(records, file);
   return records;
 }
 
-bool DefaultEntries::IsWorthAnItem(const std::string& folder, const std::string& name) {
-  if (IsSkippedFile(name)) return false;
-  if (!EndsWithNoCase(name, ".lnk")) return true;
+bool DefaultEntries::IsWorthAnItem(const Found& file) {
+  if (IsSkippedFile(file.Name)) return false;
+  if (!EndsWithNoCase(file.Name, ".lnk")) return true;
   std::string target;
-  static_cast<void>(GetLinkWorkDir(program_, EnsureBackslash(folder) + name, target));
+  static_cast<void>(GetLinkWorkDir(program_, EnsureBackslash(file.Folder) + file.Name, target));
   return !IsSkippedTarget(target);
 }
 
-std::vector<MenuRecord> DefaultEntries::AccessoriesMenu(const std::string& programs) {
+std::vector<MenuRecord> DefaultEntries::AccessoriesMenu(const Folders& programs) {
   std::vector<MenuRecord> records{AccessoriesButton()};
-  if (programs.empty()) return records;
-  const std::string folder = EnsureBackslash(programs) + "Accessories\\";
-  AddFiles(records, folder);
-  const std::vector<std::string> subFolders = Names(folder, true);
+  const Folders folders = Below(programs, "Accessories");
+  AddFiles(records, folders);
+  const std::vector<std::string> subFolders = SubFoldersOf(folders);
   if (records.size() > 1 && !subFolders.empty()) records.push_back(NewSeparatorRecord());
-  for (const std::string& name : subFolders) AddFiles(records, folder + name);
+  for (const std::string& name : subFolders) AddFiles(records, Below(folders, name));
   return records;
 }
 
-void DefaultEntries::AddFiles(std::vector<MenuRecord>& records, const std::string& folder) {
-  for (const std::string& name : Names(folder, false)) {
-    if (IsOwnFile(name)) continue;
-    records.push_back(FileItem(folder, name));
-    program_.ShowStartupProgress();
+void DefaultEntries::AddItem(std::vector<MenuRecord>& records, const Found& file) {
+  records.push_back(FileItem(file.Folder, file.Name));
+  program_.ShowStartupProgress();
+}
+
+void DefaultEntries::AddFiles(std::vector<MenuRecord>& records, const Folders& folders) {
+  for (const Found& file : FilesOf(folders)) {
+    if (!IsOwnFile(file.Name)) AddItem(records, file);
   }
+}
+
+std::vector<DefaultEntries::Found> DefaultEntries::FilesOf(const Folders& folders) {
+  std::vector<Found> files;
+  for (const std::string& folder : folders) {
+    for (std::string& name : Names(folder, false)) files.push_back({folder, std::move(name)});
+  }
+  const auto before = [](const Found& a, const Found& b) {
+    return CompareNoCase(a.Name, b.Name) < 0;
+  };
+  std::stable_sort(files.begin(), files.end(), before);
+  const auto same = [](const Found& a, const Found& b) { return EqualNoCase(a.Name, b.Name); };
+  files.erase(std::unique(files.begin(), files.end(), same), files.end());
+  return files;
+}
+
+std::vector<std::string> DefaultEntries::SubFoldersOf(const Folders& folders) {
+  std::vector<std::string> all;
+  for (const std::string& folder : folders) {
+    for (std::string& name : Names(folder, true)) all.push_back(std::move(name));
+  }
+  std::stable_sort(all.begin(), all.end(), [](const std::string& a, const std::string& b) {
+    return CompareNoCase(a, b) < 0;
+  });
+  all.erase(std::unique(all.begin(), all.end(), EqualNoCase), all.end());
+  return all;
 }
 
 std::vector<std::string> DefaultEntries::Names(const std::string& folder, bool folders) {

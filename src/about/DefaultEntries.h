@@ -35,15 +35,33 @@ class DefaultEntries final : public DefaultEntriesPort {
   [[nodiscard]] FileStatus WriteSingles();
   [[nodiscard]] FileStatus WriteSingle(const MenuRecord& record);
   [[nodiscard]] FileStatus WriteProgramSingle(std::string_view extension);
-  [[nodiscard]] std::optional<MenuRecord> FindMailSingle();
+  /// The programs of the user's choice in the system's settings; where there is no choice, those
+  /// that the system's classes name.
+  [[nodiscard]] std::optional<std::string> FindBrowser();
+  [[nodiscard]] std::optional<std::string> FindMailProgram();
+  /// The path, if it is that of a program that is there.
+  [[nodiscard]] std::optional<std::string> IfOnDisk(std::string path);
 
   [[nodiscard]] FileStatus WriteMenus();
   [[nodiscard]] FileStatus WriteMenu(const std::vector<MenuRecord>& records);
-  [[nodiscard]] std::vector<MenuRecord> ProgramsMenu(const std::string& folder);
-  [[nodiscard]] std::vector<MenuRecord> AccessoriesMenu(const std::string& folder);
-  [[nodiscard]] bool IsWorthAnItem(const std::string& folder, const std::string& name);
-  /// Adds an item for each file of a folder.
-  void AddFiles(std::vector<MenuRecord>& records, const std::string& folder);
+  using Folders = std::vector<std::string>;
+  struct Found {
+    std::string Folder;
+    std::string Name;
+  };
+  /// Where the Start menu keeps its programs: the user's folder before that of all users.
+  [[nodiscard]] Folders ProgramsFolders();
+  [[nodiscard]] std::vector<MenuRecord> ProgramsMenu(const Folders& folders);
+  [[nodiscard]] std::vector<MenuRecord> AccessoriesMenu(const Folders& folders);
+  [[nodiscard]] bool IsWorthAnItem(const Found& file);
+  void AddItem(std::vector<MenuRecord>& records, const Found& file);
+  /// Adds an item for each file of the folders.
+  void AddFiles(std::vector<MenuRecord>& records, const Folders& folders);
+  /// The files of several folders as if they were one, sorted by name. Of two with the same name
+  /// the first folder's is taken.
+  [[nodiscard]] std::vector<Found> FilesOf(const Folders& folders);
+  /// The names of the folders in several folders, likewise.
+  [[nodiscard]] std::vector<std::string> SubFoldersOf(const Folders& folders);
 
   /// Visible files or folders of a folder, sorted by name; none of one that cannot be listed.
   [[nodiscard]] std::vector<std::string> Names(const std::string& folder, bool folders);

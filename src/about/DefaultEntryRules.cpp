@@ -17,6 +17,14 @@ constexpr std::array<std::string_view, 5> kNotStarted = {"Help", "Read me", "Rea
 constexpr std::array<std::string_view, 4> kNoTargets = {"notepad.exe", "wordpad.exe",
                                                         "corvelle.exe", "winhelp.exe"};
 constexpr std::string_view kExe = ".exe";
+constexpr std::array<std::string_view, 4> kStartable = {kExe, ".com", ".bat", ".cmd"};
+constexpr std::array<std::string_view, 8> kStandIns = {
+    "OpenWith.exe",      "rundll32.exe",     "dllhost.exe",
+    "svchost.exe",       "LaunchWinApp.exe", "ApplicationFrameHost.exe",
+    "RuntimeBroker.exe", "explorer.exe"};
+// Packaged programs, and the fixed names that some of them are started by.
+constexpr std::string_view kPackages = "\\WindowsApps\\";
+constexpr std::string_view kPackageAliases = "\\Microsoft\\WindowsApps\\";
 
 bool HoldsAny(std::string_view text, std::span<const std::string_view> words) {
   return std::any_of(words.begin(), words.end(),
@@ -35,15 +43,22 @@ MenuRecord OwnIcon(std::string title, std::string_view path) {
 
 }  // namespace
 
-std::vector<MenuRecord> FixedSingles() {
-  return {
-      {.FTitle = "Find Files", .FIcon = "\\icons\\filefind.ico", .FName = "FileFind"},
-      {.FTitle = "Find Computer", .FIcon = "\\icons\\comp02.ico", .FName = "FindComputer"},
-      {.FTitle = "Windows Explorer",
-       .FIcon = "\\icons\\Explorer.ico",
-       .FName = "?explorer.exe /e,/root,,::{20D04FE0-3AEA-1069-A2D8-08002B30309D}"},
-      {.FTitle = "Net Search", .FIcon = "\\icons\\netsrch.ico", .FName = "NetSearch"},
-  };
+std::vector<MenuRecord> FixedSingles(const MachineFacts& facts) {
+  std::vector<MenuRecord> singles;
+  if (facts.HasFileSearch) {
+    singles.push_back(
+        {.FTitle = "Find Files", .FIcon = "\\icons\\filefind.ico", .FName = "FileFind"});
+  }
+  singles.push_back(
+      {.FTitle = "Find Computer", .FIcon = "\\icons\\comp02.ico", .FName = "FindComputer"});
+  singles.push_back({.FTitle = "Windows Explorer",
+                     .FIcon = "\\icons\\Explorer.ico",
+                     .FName = "?explorer.exe /e,/root,,::{20D04FE0-3AEA-1069-A2D8-08002B30309D}"});
+  if (facts.HasNetSearch) {
+    singles.push_back(
+        {.FTitle = "Net Search", .FIcon = "\\icons\\netsrch.ico", .FName = "NetSearch"});
+  }
+  return singles;
 }
 
 MenuRecord MyComputerSingle() {
@@ -67,10 +82,15 @@ MenuRecord ProgramSingle(const ProgramFacts& program) {
   return OwnIcon(WithCapital(program.FileTitle), program.Path);
 }
 
-std::string MailProgramPath(std::string_view command) {
-  const std::size_t exe = FindNoCase(command, kExe);
-  if (exe != std::string_view::npos) command = command.substr(0, exe + kExe.size());
-  return StripQuotes(command);
+bool IsProgramAnswer(std::string_view path) {
+  const bool startable =
+      std::any_of(kStartable.begin(), kStartable.end(),
+                  [path](std::string_view end) { return EndsWithNoCase(path, end); });
+  const bool inPackage = ContainsNoCase(path, kPackages) && !ContainsNoCase(path, kPackageAliases);
+  const std::string_view name = path.substr(path.rfind('\\') + 1);
+  const bool standIn = std::any_of(kStandIns.begin(), kStandIns.end(),
+                                   [name](std::string_view n) { return EqualNoCase(name, n); });
+  return startable && !inPackage && !standIn;
 }
 
 const std::vector<std::string_view>& ProgramExtensions() {

@@ -10,8 +10,14 @@ namespace corvelle {
 
 // What a new user finds on the strip. All comparisons ignore case.
 
-/// The single buttons that every machine gets, in their order.
-[[nodiscard]] std::vector<MenuRecord> FixedSingles();
+/// What a machine and this build of the program can do.
+struct MachineFacts {
+  bool HasFileSearch = true;
+  bool HasNetSearch = true;
+};
+
+/// The single buttons that every machine gets which can do what they say, in their order.
+[[nodiscard]] std::vector<MenuRecord> FixedSingles(const MachineFacts& facts);
 /// The one that makes an odd row even when nothing else does.
 [[nodiscard]] MenuRecord MyComputerSingle();
 
@@ -28,9 +34,11 @@ struct ProgramFacts {
 /// The same for any other program: the title begins with a capital.
 [[nodiscard]] MenuRecord ProgramSingle(const ProgramFacts& program);
 
-/// Path of the mail program in the command with which it is registered: without the arguments that
-/// follow ".exe", and without quotes.
-[[nodiscard]] std::string MailProgramPath(std::string_view command);
+/// True if an answer of the system to "which program opens this?" is a program that a button can
+/// start. It is none when it only stands for others (the dialog that asks the user for a program,
+/// hosts of libraries and of packaged programs), is no program at all, or lies where its folder
+/// changes its name with each update.
+[[nodiscard]] bool IsProgramAnswer(std::string_view path);
 
 /// Extensions whose programs become single buttons, in their order, after browser and mail.
 [[nodiscard]] const std::vector<std::string_view>& ProgramExtensions();

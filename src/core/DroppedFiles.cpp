@@ -4,15 +4,16 @@
 #include <utility>
 
 #include "base/CodePage.h"
+#include "base/FieldText.h"
 #include "base/Sort.h"
 #include "base/Text.h"
+#include "base/WebAddress.h"
 #include "core/MenuFile.h"
 
 namespace corvelle {
 
 namespace {
 
-constexpr std::string_view kAddressStart = "http://";
 constexpr std::string_view kLineEnds("\r\n\0", 3);
 constexpr std::string_view kGeneratedEnd = ".mfd";
 constexpr std::string_view kStoredEnd = ".MNU";
@@ -46,19 +47,48 @@ bool IsOfUse(const forms::DragData& data) noexcept {
   return data.Files.has_value() || data.Text.has_value();
 }
 
-std::vector<MenuRecord> DroppedRecords(
-    std::vector<std::string> names, const std::function<std::string(std::string_view)>& titleOf) {
+std::optional<std::string> PathForRecord(FileSystem& files, const CodePage& ansi,
+                                         std::string_view path) {
+  const auto fits = [&ansi](std::string_view text) {
+    return EncodeText(text, ansi).size() <= kNameWidth;
+  };
+  if (fits(path)) return std::string(path);
+  std::string shorter = files.ShortPath(path);
+  if (shorter.empty() || !fits(shorter)) return std::nullopt;
+  return shorter;
+}
+
+DroppedEntries DroppedRecords(FileSystem& files, const CodePage& ansi,
+                              std::vector<std::string> names,
+                              const std::function<std::string(std::string_view)>& titleOf) {
   SortTexts(names);
-  std::vector<MenuRecord> records;
-  records.reserve(names.size());
+  DroppedEntries dropped;
   for (std::string& name : names) {
-    records.push_back({.FTitle = titleOf(name), .FIcon = name, .FName = std::move(name)});
+    const std::optional<std::string> path = PathForRecord(files, ansi, name);
+    if (path) {
+      dropped.Records.push_back({.FTitle = titleOf(name), .FIcon = *path, .FName = *path});
+    } else {
+      dropped.Refused.push_back(std::move(name));
+    }
   }
-  return records;
+  return dropped;
+}
+
+std::string RefusedFilesText(const std::vector<std::string>& names) {
+  constexpr std::size_t kMostNamed = 10;
+  std::string text = names.size() == 1
+                         ? "This file cannot be added, because its path is too long:"
+                         : "These files cannot be added, because their paths are too long:";
+  text += "\n";
+  for (std::size_t i = 0; i < std::min(names.size(), kMostNamed); ++i) text += "\n" + names[i];
+  if (names.size() > kMostNamed) {
+    text += "\nand " + std::to_string(names.size() - kMostNamed) + " more";
+  }
+  return text;
 }
 
 std::optional<std::string> DroppedAddress(std::string_view text) {
-  if (!text.starts_with(kAddressStart)) return std::nullopt;
+  if (!IsPlainWebAddress(text)) return std::nullopt;
   return Trim(text.substr(0, text.find_first_of(kLineEnds)));
 }
 

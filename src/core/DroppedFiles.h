@@ -23,12 +23,29 @@ inline constexpr std::string_view kDropFileName = "tFile.tmp";
 /// True if there is anything in the data that a button or a menu can take.
 [[nodiscard]] bool IsOfUse(const forms::DragData& data) noexcept;
 
+/// The path of a file as a record can hold it: itself, or with the short names of the disk where it
+/// is too long. Nothing when neither fits.
+[[nodiscard]] std::optional<std::string> PathForRecord(FileSystem& files, const CodePage& ansi,
+                                                       std::string_view path);
+
+/// What becomes of dropped files.
+struct DroppedEntries {
+  std::vector<MenuRecord> Records;
+  std::vector<std::string> Refused;  // full paths that no record can hold
+};
+
 /// One record for each file, in ascending order of the names: its title by `titleOf`, its icon and
 /// its command the full path.
-[[nodiscard]] std::vector<MenuRecord> DroppedRecords(
-    std::vector<std::string> names, const std::function<std::string(std::string_view)>& titleOf);
+[[nodiscard]] DroppedEntries DroppedRecords(
+    FileSystem& files, const CodePage& ansi, std::vector<std::string> names,
+    const std::function<std::string(std::string_view)>& titleOf);
 
-/// The web address in a dropped text: its first line, when it begins with "http://" in lower case.
+/// What the user is told of the files that were refused; there is one at least. Names the first
+/// ten.
+[[nodiscard]] std::string RefusedFilesText(const std::vector<std::string>& names);
+
+/// The web address in a dropped text: its first line, when it begins with "http://" or
+/// "https://" in lower case.
 [[nodiscard]] std::optional<std::string> DroppedAddress(std::string_view text);
 
 /// The file in which the entries of a menu are stored: for the generated file of an expanded menu

@@ -3,12 +3,14 @@
 #include <string_view>
 
 #include "core/RecordEdits.h"
+#include "platform/WindowId.h"
 
 namespace corvelle {
 
 class Program;
 
-// The editing commands of the popup, of drags and of keys, on the entry that Program::Entry names.
+// The editing commands of the popup, of drags and of keys, on the entry that Program::Entry names
+// when they are called: what becomes current while they ask or let events run changes nothing.
 // Each leaves the file as it was when it fails, and says so itself but for a disk that refused:
 // that is the caller's to say or to pass over. What is done on the strip as a whole counts as
 // edited.
@@ -27,6 +29,10 @@ bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bo
 
 /// Puts the last deleted entry back at its place.
 EditOutcome UndoDeleteItem(Program& program);
+
+/// True if a record can hold a copy of the current entry. Where its path is too long for that, the
+/// user is told which one it is.
+[[nodiscard]] bool MayBeCopied(Program& program, WindowId owner);
 
 /// Tells the user that the file does not hold the entry any more.
 void SayRecordMismatch(Program& program);

@@ -56,11 +56,13 @@ void OfferStartupLink(Program& program, StartupLinkPort& link) {
   if (answer == forms::msgbox::AnswerYes) link.Create(executable);
 }
 
-// Without shell links the question cannot be kept, so it waits, and position 1 with it.
+// Without shell links the question cannot be kept, so it waits, and position 1 with it. Where the
+// flags cannot be kept the answer could not be either: it would be asked for at each start.
 void DoFirstRun(Program& program) {
   if (program.OptionFlags.Is(1) || program.Ports.StartupLink == nullptr) return;
   program.DoEvents();
   if (HasEnded(program)) return;
+  if (!SaveOptionFlags(program.Services.Files, program.AppPath, program.OptionFlags)) return;
   OfferStartupLink(program, *program.Ports.StartupLink);
   program.OptionFlags.Set(1, '1');
   program.SaveOptionFlags();

@@ -18,6 +18,9 @@ constexpr std::size_t kReadLimit = (static_cast<std::size_t>(kMaxRecords) + 1) *
 // A menu file larger than this is none, and is not taken into memory to be rewritten.
 constexpr std::uint64_t kRewriteLimit = 256ULL << 20U;
 
+// Behind it no free number is looked for any more.
+constexpr int kMaxMenus = 9999;
+
 std::size_t OffsetOf(int number) noexcept {
   return (static_cast<std::size_t>(number) - 1) * kRecordLength;
 }
@@ -59,16 +62,31 @@ FileResult<std::string> ReadWhole(FileSystem& files, std::string_view path) {
 
 FileResult<std::vector<MenuRecord>> ReadAllRecords(FileSystem& files, const CodePage& ansi,
                                                    std::string_view path) {
-  const FileResult<std::string> bytes = ReadOrCreate(files, path, 0, kReadLimit);
+  const FileResult<std::string> stored = ReadStoredRecords(files, path);
+  if (!stored) return stored.Error();
+  return ParseRecords(*stored, ansi);
+}
+
+FileResult<std::string> ReadStoredRecords(FileSystem& files, std::string_view path) {
+  FileResult<std::string> bytes = ReadOrCreate(files, path, 0, kReadLimit);
   if (!bytes) return bytes.Error();
-  const std::string_view all = *bytes;
+  std::string stored = WholeRecords(*std::move(bytes));
+  stored.resize(std::min(stored.size(), kMaxRecords * kRecordLength));
+  return stored;
+}
+
+std::vector<MenuRecord> ParseRecords(std::string_view stored, const CodePage& ansi) {
   std::vector<MenuRecord> records;
-  const int count = RecordCount(all.size());
-  records.reserve(static_cast<std::size_t>(count));
-  for (int number = 1; number <= count; ++number) {
-    records.push_back(ParseRecord(all.substr(OffsetOf(number), kRecordLength), ansi));
+  records.reserve(stored.size() / kRecordLength);
+  for (; !stored.empty(); stored.remove_prefix(std::min(stored.size(), kRecordLength))) {
+    records.push_back(ParseRecord(stored.substr(0, kRecordLength), ansi));
   }
   return records;
+}
+
+std::string StoredRecord(std::string_view stored, int number) {
+  if (number < 1 || OffsetOf(number) >= stored.size()) return {};
+  return std::string(stored.substr(OffsetOf(number), kRecordLength));
 }
 
 FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi, std::string_view path,
@@ -118,6 +136,12 @@ std::string WholeRecords(std::string bytes) {
   const std::size_t whole = bytes.size() / kRecordLength + (half ? 1 : restCount);
   bytes.resize(whole * kRecordLength, ' ');
   return bytes;
+}
+
+FileResult<std::string> ReadWholeRecords(FileSystem& files, std::string_view path) {
+  FileResult<std::string> bytes = ReadWhole(files, path);
+  if (!bytes) return bytes;
+  return WholeRecords(*std::move(bytes));
 }
 
 std::string WithoutRecord(std::string records, int number) {
@@ -176,13 +200,23 @@ FileResult<std::string> CreateButtonFile(FileSystem& files, const CodePage& ansi
                                          std::string_view menusPath) {
   const FileResult<std::vector<std::string>> names = ListMenuFiles(files, menusPath);
   if (!names) return names.Error();
-  int number = static_cast<int>(names->size()) + 1;
-  std::string path = std::string(menusPath) + MenuFileName(number);
-  // With a gap in the numbering the next number can be taken, and its menu must not be lost.
-  while (files.FileExists(path)) path = std::string(menusPath) + MenuFileName(++number);
-  const FileStatus written = WriteRecords(files, ansi, path, {NewButtonRecord(), NewItemRecord()});
+  const std::string folder(menusPath);
+  const std::string made = folder + std::string(kRewriteFileName);
+  const FileStatus written = WriteRecords(files, ansi, made, {NewButtonRecord(), NewItemRecord()});
   if (!written) return written.Error();
-  return path;
+  // With a gap in the numbering the next number can be taken, and its menu must not be lost: a new
+  // name takes no other file's place, and does not rely on what a disk says that fails now and
+  // then.
+  int number = static_cast<int>(names->size());
+  std::string path;
+  FileStatus named = FileError::AlreadyExists;
+  do {
+    path = folder + MenuFileName(++number);
+    named = files.Rename(made, path);
+  } while (!named && named.Error() == FileError::AlreadyExists && number < kMaxMenus);
+  if (named) return path;
+  static_cast<void>(files.Remove(made));
+  return named.Error();
 }
 
 FileResult<std::string> WriteMainMenuFile(FileSystem& files, const CodePage& ansi,

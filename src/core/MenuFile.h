@@ -21,6 +21,16 @@ inline constexpr std::string_view kRewriteFileName = "TTTTTTTT";
                                                                  const CodePage& ansi,
                                                                  std::string_view path);
 
+/// All records of a file as they are stored, 570 bytes each (see WholeRecords), up to kMaxRecords.
+/// A missing file is created empty.
+[[nodiscard]] FileResult<std::string> ReadStoredRecords(FileSystem& files, std::string_view path);
+
+/// The records in bytes that hold nothing but whole ones.
+[[nodiscard]] std::vector<MenuRecord> ParseRecords(std::string_view stored, const CodePage& ansi);
+
+/// The bytes of record `number` among stored records; empty where there is no such record.
+[[nodiscard]] std::string StoredRecord(std::string_view stored, int number);
+
 /// Record `number` (from 1) of a file; blank past the file's end, Failed below 1. A missing file is
 /// created empty.
 [[nodiscard]] FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi,
@@ -48,6 +58,9 @@ using RecordsEdit = std::function<std::string(std::string records)>;
 /// The bytes of a file as whole records: a short last one is filled up with blanks, and what does
 /// not amount to half a record is dropped.
 [[nodiscard]] std::string WholeRecords(std::string bytes);
+
+/// A menu file as whole records, so that it can be edited. NotFound for a missing one.
+[[nodiscard]] FileResult<std::string> ReadWholeRecords(FileSystem& files, std::string_view path);
 
 /// Edits on whole records. A place that the file does not have changes nothing, but for the append.
 [[nodiscard]] std::string WithoutRecord(std::string records, int number);

@@ -2,6 +2,7 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
+#include "core/FileTransaction.h"
 #include "core/MenuRecord.h"
 
 namespace corvelle {
@@ -27,7 +28,7 @@ FileStatus PurgeMenus(FileSystem& files, std::string_view menusPath) {
   if (!entries) return entries.Error();
   for (const FileEntry& entry : *entries) {
     if (entry.IsFolder || EndsWithNoCase(entry.Name, ".btn") ||
-        EndsWithNoCase(entry.Name, ".mnu")) {
+        EndsWithNoCase(entry.Name, ".mnu") || EqualNoCase(entry.Name, kJournalFileName)) {
       continue;
     }
     // What is held open or protected does no harm by staying until the next start.

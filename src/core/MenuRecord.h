@@ -84,6 +84,14 @@ inline constexpr std::string_view kSpecialFolderStart = "CSIDL_";
   return IsGenerated(recordNumber) ? recordNumber - kGeneratedBase : recordNumber;
 }
 
+/// What an entry of a menu stands for. Neither part hangs on the title shown, which may be cut.
+struct EntryOrigin {
+  int Record = 0;    // its number in the menu file, see RealRecord; 0 for none
+  std::string Name;  // of an entry of a folder of the shell its whole name there, else empty
+
+  friend bool operator==(const EntryOrigin&, const EntryOrigin&) = default;
+};
+
 /// A title of an expanded menu file: what is shown, and the record that the entry stands for.
 struct NumberedTitle {
   std::string Title;

@@ -1,9 +1,30 @@
 #include "core/Program.h"
 
 #include "core/OptionFlags.h"
+#include "forms/Scopes.h"
 #include "platform/Input.h"
 
 namespace corvelle {
+
+namespace {
+
+/// Holds a window's input while a message is up.
+class InputHold {
+ public:
+  InputHold(AskingWindow* window, WindowId owner) : window_(window) {
+    if (window_ != nullptr) window_->HoldForMessage(window_->WindowHandle() == owner);
+  }
+  InputHold(const InputHold&) = delete;
+  InputHold& operator=(const InputHold&) = delete;
+  ~InputHold() {
+    if (window_ != nullptr) window_->ReleaseAfterMessage();
+  }
+
+ private:
+  AskingWindow* window_;
+};
+
+}  // namespace
 
 bool Program::DragHolds() const {
   constexpr int kLeftButtonKey = 1;
@@ -13,8 +34,17 @@ bool Program::DragHolds() const {
 }
 
 bool Program::TakesDrops() const noexcept {
-  return !StartingUp && !MenuBuilding && !IconsLoading && !ItemActionBusy && !MenuFormBusy &&
-         !AppBarBusy && !PosChangeRunning;
+  return OpenQuestions == 0 && !StartingUp && !MenuBuilding && !IconsLoading && !ItemActionBusy &&
+         !MenuFormBusy && !AppBarBusy && !PosChangeRunning;
+}
+
+void Program::DoEvents() {
+  if (EventsRunning) {
+    Windows.PaintWaiting();
+    return;
+  }
+  const forms::FlagScope running(EventsRunning);
+  Windows.DoEvents();
 }
 
 void Program::SetHint(std::string_view text) {
@@ -45,11 +75,19 @@ void Program::ReadEdgeFlags() {
 }
 
 int Program::Say(WindowId owner, std::string_view text, unsigned flags) {
+  const forms::CountScope asking(OpenQuestions);
+  const InputHold strip(Ports.Toolbar, owner);
+  const InputHold menu(Ports.QMenu, owner);
   return Windows.ShowMessage(owner, text, Title, flags);
 }
 
 WindowId Program::ToolbarWindow() const {
   return Ports.Toolbar != nullptr ? Ports.Toolbar->WindowHandle() : kNoWindow;
+}
+
+WindowId Program::WindowInUse() const {
+  const bool menuUp = Ports.QMenu != nullptr && Ports.QMenu->MenuVisible();
+  return menuUp ? Ports.QMenu->WindowHandle() : ToolbarWindow();
 }
 
 }  // namespace corvelle

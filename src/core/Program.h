@@ -71,10 +71,15 @@ class Program {
   bool IconsLoading = false;
   /// A popup command rewrites a menu file; a drop waits.
   bool ItemActionBusy = false;
+  /// How many popups, messages and menus of the shell wait for the user's answer: until then no
+  /// pointer that passes opens or closes a menu, and nothing is dropped.
+  int OpenQuestions = 0;
   /// An edit of a menu from a window is under way; docking waits.
   bool MenuFormBusy = false;
   /// The outline of the strip is being moved to another edge.
   bool MovingToolbar = false;
+  /// A call of DoEvents runs.
+  bool EventsRunning = false;
 
   /// A full-screen program was last reported.
   bool FullScreenApp = false;
@@ -123,10 +128,13 @@ class Program {
   bool ShellDrawsIcons = false;
   /// The Recycle Bin's icon as it was last seen, and whether it has changed since the last look.
   std::string RecycleIconPath;
+  int RecycleIconIndex = -1;
   bool RecycleIconChanged = false;
 
-  /// Lets waiting events run. Whoever calls it must be ready for anything to have happened.
-  void DoEvents() { Windows.DoEvents(); }
+  /// Lets waiting events run. Whoever calls it must be ready for anything to have happened. Called
+  /// from what another call of it lets run, it only shows what waits to be painted: that other call
+  /// goes on with the events, and however quickly they come, there is never a third.
+  void DoEvents();
 
   /// True while another program's drag that came over the strip goes on: it decides which menu is
   /// up, and the source keeps the foreground.
@@ -148,11 +156,16 @@ class Program {
   void SaveEdgeFlags();
   void ReadEdgeFlags();
 
-  /// Message box with the application's title. `owner` may be none, for the desktop.
+  /// Message box with the application's title. `owner` may be none, for the desktop. Until it is
+  /// answered neither the strip nor the menu window takes input; events run all the same, so that
+  /// whoever asks works on copies.
   int Say(WindowId owner, std::string_view text, unsigned flags);
 
   /// The strip's window, none before it is loaded.
   [[nodiscard]] WindowId ToolbarWindow() const;
+  /// The window in which the user acts, to which what is asked belongs: the menu that is up, else
+  /// the strip.
+  [[nodiscard]] WindowId WindowInUse() const;
 };
 
 }  // namespace corvelle

@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "core/FileTransaction.h"
 #include "core/MenuFile.h"
+#include "core/SingleFiles.h"
 
 namespace corvelle {
 
@@ -18,9 +20,25 @@ MenuRecord UndoStoreRecord(const EntryEdit& edit) {
   return {edit.UndoTitle, edit.UndoIcon, edit.UndoCommand};
 }
 
-bool IsCurrentEntry(const EntryEdit& edit, const MenuRecord& record) {
-  return EqualNoCase(record.FTitle, edit.CurTitle) && EqualNoCase(record.FIcon, edit.CurIcon) &&
-         EqualNoCase(record.FName, edit.CurCommand);
+MenuRecord CurrentRecord(const EntryEdit& edit) {
+  return {edit.CurTitle, edit.CurIcon, edit.CurCommand};
+}
+
+bool IsSameEntry(const MenuRecord& a, const MenuRecord& b) {
+  return EqualNoCase(a.FTitle, b.FTitle) && EqualNoCase(a.FIcon, b.FIcon) &&
+         EqualNoCase(a.FName, b.FName);
+}
+
+/// True if `record` is the one that the current entry was read from.
+bool IsCurrentEntry(const EntryEdit& edit, const CodePage& ansi, const MenuRecord& record) {
+  return IsSameEntry(
+      record, edit.CurStored.empty() ? CurrentRecord(edit) : ParseRecord(edit.CurStored, ansi));
+}
+
+/// The bytes that a copy of the current entry has.
+std::string CopyOfCurrent(const EntryEdit& edit, const CodePage& ansi) {
+  const bool stored = !edit.CurStored.empty() && !IsGenerated(edit.CurRecord);
+  return stored ? edit.CurStored : FormatRecord(CurrentRecord(edit), ansi);
 }
 
 constexpr int kNoPlace = 0;
@@ -53,8 +71,31 @@ EditOutcome ChangeFolder(FileSystem& files, const CodePage& ansi, const EntryEdi
   if (!IsFolder(record->FName) || IsClosedFolder(record->FName) != closed) {
     return EditOutcome::RecordMismatch;
   }
+  if (!edit.CurStored.empty() && !IsCurrentEntry(edit, ansi, *record)) {
+    return EditOutcome::RecordMismatch;
+  }
   record->FName = change(record->FName);
   return OutcomeOf(WriteRecord(files, ansi, edit.CurFile, number, *record));
+}
+
+/// True for an entry of a menu that has a record of its own.
+bool IsStoredItem(const EntryEdit& edit) {
+  return IsMenuTag(edit.CurMenuTag) && !IsGenerated(edit.CurRecord);
+}
+
+FileStatus TakeOutOfMenu(FileSystem& files, const EntryEdit& edit, FileTransaction& move) {
+  FileResult<std::string> records = ReadWholeRecords(files, edit.CurFile);
+  if (!records) return records.Error();
+  move.Write(edit.CurFile, WithoutRecord(*std::move(records), edit.CurRecord));
+  return Done();
+}
+
+FileStatus TakeOutOfRow(FileSystem& files, std::string_view menusPath, const EntryEdit& edit,
+                        FileTransaction& move) {
+  const FileResult<SingleFiles> row = ReadSingleFiles(files, menusPath);
+  if (!row) return row.Error();
+  AddSingleRewrite(move, menusPath, *row, WithoutSingle(*row, edit.CurFile));
+  return Done();
 }
 
 }  // namespace
@@ -76,7 +117,7 @@ EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const Entr
   if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
   if (!record) return EditOutcome::Refused(record.Error());
-  return IsCurrentEntry(edit, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
+  return IsCurrentEntry(edit, ansi, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
 }
 
 EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
@@ -143,10 +184,55 @@ EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
   const FileResult<int> before = PlaceInFile(files, place);
   if (!before) return EditOutcome::Refused(before.Error());
   if (*before == kNoPlace) return EditOutcome::NothingToDo;
-  const std::string record = FormatRecord({edit.CurTitle, edit.CurIcon, edit.CurCommand}, ansi);
+  const std::string record = CopyOfCurrent(edit, ansi);
   return OutcomeOf(RewriteMenuFile(files, menusPath, place.File, [&](std::string records) {
     return InsertOrAppendRecord(std::move(records), *before, record);
   }));
+}
+
+EditOutcome MoveEntryToMenu(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                            const EntryEdit& edit, const DropPlace& place) {
+  const bool single = IsSinglesTag(edit.CurMenuTag);
+  if (!single && !IsStoredItem(edit)) return EditOutcome::NothingToDo;
+  if (EqualNoCase(place.File, edit.CurFile)) return EditOutcome::NothingToDo;
+  const FileResult<int> before = PlaceInFile(files, place);
+  if (!before) return EditOutcome::Refused(before.Error());
+  if (*before == kNoPlace) return EditOutcome::NothingToDo;
+  const EditOutcome still = FindCurrentEntry(files, ansi, edit);
+  if (still != EditOutcome::Edited) return still;
+  FileResult<std::string> target = ReadWholeRecords(files, place.File);
+  if (!target) return EditOutcome::Refused(target.Error());
+  FileTransaction move(files, menusPath);
+  move.Write(place.File,
+             InsertOrAppendRecord(*std::move(target), *before, CopyOfCurrent(edit, ansi)));
+  const FileStatus taken =
+      single ? TakeOutOfRow(files, menusPath, edit, move) : TakeOutOfMenu(files, edit, move);
+  return OutcomeOf(taken ? move.Commit() : taken);
+}
+
+EditOutcome MoveEntryToSingles(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                               const EntryEdit& edit, std::string_view before) {
+  if (!IsStoredItem(edit)) return EditOutcome::NothingToDo;
+  const EditOutcome still = FindCurrentEntry(files, ansi, edit);
+  if (still != EditOutcome::Edited) return still;
+  const FileResult<SingleFiles> row = ReadSingleFiles(files, menusPath);
+  if (!row) return EditOutcome::Refused(row.Error());
+  const std::size_t at = PlaceOfSingle(*row, before);
+  if (at == row->size() && !before.empty()) return EditOutcome::NothingToDo;
+  FileTransaction move(files, menusPath);
+  const MenuRecord record = ParseRecord(CopyOfCurrent(edit, ansi), ansi);
+  AddSingleRewrite(move, menusPath, *row, WithSingles(*row, at, {record}, ansi));
+  const FileStatus taken = TakeOutOfMenu(files, edit, move);
+  return OutcomeOf(taken ? move.Commit() : taken);
+}
+
+void SetCurrentEntry(EntryEdit& live, EntryEdit entry) {
+  entry.ClipTitle = live.ClipTitle;
+  entry.ClipIcon = live.ClipIcon;
+  entry.ClipCommand = live.ClipCommand;
+  RestoreUndo(entry, live);
+  entry.ItemDragging = live.ItemDragging;
+  live = std::move(entry);
 }
 
 void ForgetCurrentEntry(EntryEdit& edit) {
@@ -156,6 +242,7 @@ void ForgetCurrentEntry(EntryEdit& edit) {
   edit.CurMenuTag.clear();
   edit.CurFile.clear();
   edit.CurRecord = 0;
+  edit.CurStored.clear();
 }
 
 EditOutcome CloseFolderItem(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
@@ -196,13 +283,15 @@ void RestoreUndo(EntryEdit& edit, const EntryEdit& before) {
 
 EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit) {
   const int place = RealRecord(edit.CurRecord) - 1;
-  if (place < 1) return EditOutcome::RecordMismatch;
+  // Record 1 is the button's, whatever icon it has.
+  if (place < 2) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, place);
   if (!record) return EditOutcome::Refused(record.Error());
   // The rule above a generated entry can be a generated one too, and what stands in the file before
   // its folder item is then no separator.
   if (!IsSeparatorIcon(record->FIcon)) return EditOutcome::RecordMismatch;
   edit.CurRecord = place;
+  edit.CurStored.clear();
   edit.CurTitle = record->FTitle;
   edit.CurIcon = record->FIcon;
   edit.CurCommand = record->FName;

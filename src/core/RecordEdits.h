@@ -18,6 +18,9 @@ struct EntryEdit {
   std::string CurMenuTag;  // "B" or "F" and an index, "Q1", "SingleButtons" or "Toolbar"
   std::string CurFile;     // full path
   int CurRecord = 0;       // above kGeneratedBase for a generated entry
+  /// The record that CurRecord leads to, as it was stored when the menu was built; empty where only
+  /// the texts above tell the entry. Texts can be cut or shortened for the screen, this is not.
+  std::string CurStored;
 
   std::string ClipTitle;
   std::string ClipIcon;
@@ -123,6 +126,21 @@ EditOutcome MoveMenuEntry(FileSystem& files, const CodePage& ansi, std::string_v
 /// button's own record, take none.
 EditOutcome CopyMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                           const EntryEdit& edit, const DropPlace& place);
+
+/// Moves the current entry out of another file, of a menu or of a single button: both files change,
+/// or neither, even when the program ends meanwhile. NothingToDo within one file, for a generated
+/// entry and for a place that takes none; RecordMismatch if the entry is not there to be taken.
+EditOutcome MoveEntryToMenu(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                            const EntryEdit& edit, const DropPlace& place);
+
+/// The same out of a menu into the row of single buttons: in front of the button of that file,
+/// behind the last one for an empty path.
+EditOutcome MoveEntryToSingles(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                               const EntryEdit& edit, std::string_view before);
+
+/// Makes the current entry of `entry` that of `live`, which keeps its clipboard, its undo store and
+/// what it says of a carry.
+void SetCurrentEntry(EntryEdit& live, EntryEdit entry);
 
 /// Empties the current entry: nothing is carried or acted on any more.
 void ForgetCurrentEntry(EntryEdit& edit);

@@ -1,10 +1,10 @@
 #include "core/SingleFiles.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 #include "base/Text.h"
+#include "core/FileTransaction.h"
 #include "core/MenuFile.h"
 #include "core/MenuFolder.h"
 
@@ -14,76 +14,8 @@ namespace {
 // What is longer is no button's file, and is not taken into memory to be put back.
 constexpr std::size_t kLongestFile = std::size_t{1} << 20U;
 
-constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
-
-std::string KeyOf(std::string_view path) { return UpperCase(path); }
-
 std::string NumberedPath(std::string_view menusPath, std::size_t number) {
   return std::string(menusPath) + SingleFileName(static_cast<int>(number));
-}
-
-/// Which file a new place overwrites, and where that file's button goes.
-class Moves {
- public:
-  Moves(std::string_view menusPath, const SingleFiles& before, const SingleFiles& after)
-      : before_(before), next_(after.size(), kNowhere), stays_(after.size()) {
-    std::map<std::string, std::size_t> newPlace;
-    for (std::size_t i = 0; i < after.size(); ++i) {
-      if (!after[i].Path.empty()) newPlace[KeyOf(after[i].Path)] = i;
-      targets_.push_back(NumberedPath(menusPath, i + 1));
-      targetKeys_[KeyOf(targets_.back())] = i;
-    }
-    for (const SingleFile& old : before) {
-      const std::string key = KeyOf(old.Path);
-      const auto target = targetKeys_.find(key);
-      const auto place = newPlace.find(key);
-      if (target == targetKeys_.end() || place == newPlace.end()) continue;
-      if (target->second == place->second) {
-        stays_[target->second] = true;
-      } else {
-        next_[target->second] = place->second;
-      }
-    }
-  }
-
-  [[nodiscard]] const std::string& Target(std::size_t place) const { return targets_[place]; }
-  /// The file of this place is right as it is.
-  [[nodiscard]] bool Stays(std::size_t place) const { return stays_[place]; }
-  /// The place that must be written first, since its button stands in this place's file; kNowhere
-  /// when there is none.
-  [[nodiscard]] std::size_t Before(std::size_t place) const { return next_[place]; }
-  [[nodiscard]] bool IsTarget(std::string_view path) const {
-    return targetKeys_.contains(KeyOf(path));
-  }
-  /// A path that neither row has, another one at each call.
-  [[nodiscard]] std::string SparePath(std::string_view menusPath) {
-    std::string path;
-    do {
-      path = NumberedPath(menusPath, targets_.size() + ++spares_);
-    } while (PlaceOfSingle(before_, path) != before_.size());
-    return path;
-  }
-
- private:
-  const SingleFiles& before_;
-  std::vector<std::string> targets_;
-  std::map<std::string, std::size_t> targetKeys_;
-  std::vector<std::size_t> next_;
-  std::vector<bool> stays_;
-  std::size_t spares_ = 0;
-};
-
-/// Takes back the first `done` steps, the last one first.
-void UndoSteps(FileSystem& files, const SingleFiles& before, const std::vector<SingleStep>& steps,
-               std::size_t done) {
-  while (done > 0) {
-    const std::string& path = steps[--done].Path;
-    const std::size_t old = PlaceOfSingle(before, path);
-    const bool undone = old != before.size() ? files.Replace(path, before[old].Bytes).HasValue()
-                                             : files.Remove(path).HasValue();
-    // Farther back a button could get lost. As it is, one may stand there twice.
-    if (!undone && files.FileExists(path)) return;
-  }
 }
 
 }  // namespace
@@ -143,49 +75,23 @@ SingleFiles WithSingleMoved(SingleFiles row, std::string_view path, std::string_
   return row;
 }
 
-std::vector<SingleStep> PlanSingleRewrite(std::string_view menusPath, const SingleFiles& before,
-                                          const SingleFiles& after) {
-  Moves moves(menusPath, before, after);
-  std::vector<SingleStep> steps;
-  std::vector<std::string> spares;
-  std::vector<bool> planned(after.size());
-  for (std::size_t first = 0; first < after.size(); ++first) {
-    // From each place to the one that must be written before it; written from the far end.
-    std::vector<std::size_t> chain;
-    std::size_t place = first;
-    while (place != kNowhere && !planned[place] && !moves.Stays(place)) {
-      planned[place] = true;
-      chain.push_back(place);
-      place = moves.Before(place);
-    }
-    // A chain that comes back to its own beginning has no free end: one button waits aside.
-    if (!chain.empty() && place == first) {
-      spares.push_back(moves.SparePath(menusPath));
-      steps.push_back({spares.back(), SingleBytes(after[first].Bytes)});
-    }
-    for (auto at = chain.rbegin(); at != chain.rend(); ++at) {
-      steps.push_back({moves.Target(*at), SingleBytes(after[*at].Bytes)});
-    }
+void AddSingleRewrite(FileTransaction& change, std::string_view menusPath,
+                      const SingleFiles& before, const SingleFiles& after) {
+  for (const SingleFile& old : before) change.Remove(old.Path);
+  std::size_t number = 0;
+  for (const SingleFile& single : after) {
+    const std::string path = NumberedPath(menusPath, ++number);
+    // A file that has its number already may hold more than a button, and stays.
+    const bool stays = EqualNoCase(single.Path, path);
+    change.Write(path, stays ? single.Bytes : SingleBytes(single.Bytes));
   }
-  for (const SingleFile& old : before) {
-    if (!moves.IsTarget(old.Path)) steps.push_back({old.Path, std::nullopt});
-  }
-  for (const std::string& spare : spares) steps.push_back({spare, std::nullopt});
-  return steps;
 }
 
 FileStatus RewriteSingleFiles(FileSystem& files, std::string_view menusPath,
                               const SingleFiles& before, const SingleFiles& after) {
-  const std::vector<SingleStep> steps = PlanSingleRewrite(menusPath, before, after);
-  for (std::size_t i = 0; i < steps.size(); ++i) {
-    const SingleStep& step = steps[i];
-    const FileStatus status =
-        step.Bytes ? files.Replace(step.Path, *step.Bytes) : files.Remove(step.Path);
-    if (status) continue;
-    UndoSteps(files, before, steps, i);
-    return status;
-  }
-  return Done();
+  FileTransaction change(files, menusPath);
+  AddSingleRewrite(change, menusPath, before, after);
+  return change.Commit();
 }
 
 FileStatus DeleteSingleFile(FileSystem& files, std::string_view menusPath, std::string_view path) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +11,7 @@
 namespace corvelle {
 
 class CodePage;
+class FileTransaction;
 
 // The row of single buttons on the disk: one file a button, in the order of the files' names. An
 // edit renumbers the row from 001 on. `menusPath` ends in a backslash.
@@ -45,21 +45,11 @@ using SingleFiles = std::vector<SingleFile>;
 [[nodiscard]] SingleFiles WithSingleMoved(SingleFiles row, std::string_view path,
                                           std::string_view before);
 
-/// One step of a rewrite: a file becomes these bytes, or goes.
-struct SingleStep {
-  std::string Path;
-  std::optional<std::string> Bytes;
+/// Adds to a change of files what makes one row of the other, numbered from 001 on.
+void AddSingleRewrite(FileTransaction& change, std::string_view menusPath,
+                      const SingleFiles& before, const SingleFiles& after);
 
-  friend bool operator==(const SingleStep&, const SingleStep&) = default;
-};
-
-/// The steps from one row to another, numbered from 001 on. In this order every button that both
-/// rows have stands in some file after each step, so that whatever ends the work loses none.
-[[nodiscard]] std::vector<SingleStep> PlanSingleRewrite(std::string_view menusPath,
-                                                        const SingleFiles& before,
-                                                        const SingleFiles& after);
-
-/// Carries the plan out. When a step fails, what was done is undone and its error returned.
+/// Makes one row of the other, as a whole or not at all.
 FileStatus RewriteSingleFiles(FileSystem& files, std::string_view menusPath,
                               const SingleFiles& before, const SingleFiles& after);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "base/FieldText.h"
 #include "base/Text.h"
 #include "core/MenuRecord.h"
 
@@ -49,9 +50,10 @@ constexpr char kEntryMark = '\\';
 constexpr char kOptionsMark = '/';
 constexpr char kNotExpanded = 'X';
 
-// A record's title holds 50 bytes. A name that needs more is cut there, before a character that
-// does not fit.
-constexpr std::size_t kShortestCutTitle = 47;
+// The shortest that a name can have been cut to. A title holds 50 bytes, of which a generated menu
+// file of earlier versions left 45 to the name, and a character that does not fit can take three
+// more with it.
+constexpr std::size_t kShortestCutTitle = 42;
 
 /// Where a title before the folder ends in a command; npos when there is none.
 std::size_t TitleEnd(std::string_view command) noexcept {
@@ -129,6 +131,13 @@ bool IsSpecialFolderEntry(std::string_view command) noexcept {
   const std::size_t end = TitleEnd(command);
   return end != std::string_view::npos && end > 0 && !IsWholePath(command) &&
          IsKnownSpecialFolder(WithoutOptions(command.substr(end + 1)));
+}
+
+std::string SpecialFolderEntryCommand(std::string_view name, std::string_view folder,
+                                      const CodePage& ansi) {
+  const std::size_t taken = std::min(folder.size() + 1, kNameWidth);
+  return DecodeField(EncodeField(name, kNameWidth - taken, ansi), ansi) + kEntryMark +
+         std::string(folder);
 }
 
 int FindEntryByTitle(const std::vector<ShellFolderEntry>& entries, std::string_view title) {

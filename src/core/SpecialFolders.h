@@ -8,6 +8,8 @@
 
 namespace corvelle {
 
+class CodePage;
+
 inline constexpr int kDesktopFolder = 0;
 inline constexpr int kRecycleBinFolder = 10;
 
@@ -46,6 +48,11 @@ struct SpecialFolderText {
 /// True for the title of an entry (nothing that looks like a path), a "\" and the name of a known
 /// special folder, which is what a copied entry of such a folder has for its command.
 [[nodiscard]] bool IsSpecialFolderEntry(std::string_view command) noexcept;
+
+/// The command of a copy of an entry: its name, a "\" and the folder. A name that would not leave
+/// room for the folder in a record is cut; FindEntryByTitle still finds it.
+[[nodiscard]] std::string SpecialFolderEntryCommand(std::string_view name, std::string_view folder,
+                                                    const CodePage& ansi);
 
 /// Index of the entry that a title stands for: the same text, or else the same but for case and
 /// blanks at its ends, or else, for a title that a record may have cut, the first that begins with

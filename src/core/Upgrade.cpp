@@ -1,14 +1,38 @@
 #include "core/Upgrade.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <vector>
 
 #include "base/Sort.h"
+#include "base/Text.h"
 
 namespace corvelle {
 namespace {
 
 constexpr std::string_view kOlderFlagFiles = "tmenu4*.dat";
+constexpr std::string_view kFlagFileStart = "tmenu4";
+constexpr std::string_view kDataEnd = ".dat";
+
+// The program may have been unpacked among files of others, so that only its own names count.
+constexpr std::string_view kDataFiles[] = {"toolbarp.dat", "mainmenu.dat", "sfdata.dat",
+                                           "nsearch.dat",  "clrlib.dat",   "others.dat"};
+
+/// "tmenu4", a number and ".dat": the option flags of one version or another.
+bool IsFlagFile(std::string_view name) {
+  if (!StartsWithNoCase(name, kFlagFileStart) || !EndsWithNoCase(name, kDataEnd)) return false;
+  name.remove_prefix(kFlagFileStart.size());
+  name.remove_suffix(std::min(name.size(), kDataEnd.size()));
+  return !name.empty() &&
+         std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+bool IsOwnDataFile(std::string_view name) {
+  return IsFlagFile(name) ||
+         std::any_of(std::begin(kDataFiles), std::end(kDataFiles),
+                     [name](std::string_view own) { return EqualNoCase(name, own); });
+}
 
 // The names of the older versions' flag files, sorted, so that the choice does not hang on the
 // disk.
@@ -16,7 +40,7 @@ std::vector<std::string> OlderFlagFiles(FileSystem& files, const std::string& fo
   std::vector<std::string> names;
   // A folder that cannot be listed holds no older flags to take over.
   for (const FileEntry& entry : files.List(folder, kOlderFlagFiles).ValueOr({})) {
-    if (!entry.IsFolder) names.push_back(entry.Name);
+    if (!entry.IsFolder && IsFlagFile(entry.Name)) names.push_back(entry.Name);
   }
   SortTexts(names);
   return names;
@@ -27,7 +51,9 @@ void DeleteDataFiles(FileSystem& files, const std::string& folder) {
   if (!entries) return;
   for (const FileEntry& entry : *entries) {
     // A locked file is left for the next time.
-    if (!entry.IsFolder) static_cast<void>(files.Remove(folder + entry.Name));
+    if (!entry.IsFolder && IsOwnDataFile(entry.Name)) {
+      static_cast<void>(files.Remove(folder + entry.Name));
+    }
   }
 }
 

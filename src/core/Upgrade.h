@@ -12,8 +12,9 @@ namespace corvelle {
 /// error is that of a flag file which is there but could not be read.
 [[nodiscard]] FileResult<OptionFlags> ReadFlagsAtStart(FileSystem& files, std::string_view appPath);
 
-/// Removes what older versions left in the program's folder and gives it a list of search engines.
-/// A file that cannot be removed stays, without a word: it does no harm.
+/// Removes what older versions left in the program's folder and in its folder of icons, by their
+/// names: data files of others stay. Gives it a list of search engines. A file that cannot be
+/// removed stays, without a word: it does no harm.
 void CleanInstallation(FileSystem& files, std::string_view appPath);
 
 }  // namespace corvelle

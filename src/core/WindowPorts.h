@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,11 +8,14 @@
 #include "base/Geometry.h"
 #include "base/Twips.h"
 #include "core/CommandPorts.h"
+#include "core/MenuRecord.h"
 #include "forms/Types.h"
 #include "platform/FileSystem.h"
 #include "platform/WindowId.h"
 
 namespace corvelle {
+
+struct EntryEdit;
 
 // What the windows of the program may ask of one another. Each port lists what others need and no
 // more; the windows behind them stand on higher floors.
@@ -27,10 +31,19 @@ class LoadedWindow {
   [[nodiscard]] virtual bool WindowLoaded() const = 0;
 };
 
-/// The strip.
-class ToolbarPort : public LoadedWindow {
+/// A window that takes no input while a message of the program is up. A side without a window has
+/// nothing to do.
+class AskingWindow : public LoadedWindow {
  public:
   [[nodiscard]] virtual WindowId WindowHandle() const = 0;
+  /// `owns`: the message belongs to this window, and the system disables it by itself.
+  virtual void HoldForMessage(bool /*owns*/) {}
+  virtual void ReleaseAfterMessage() {}
+};
+
+/// The strip.
+class ToolbarPort : public AskingWindow {
+ public:
   [[nodiscard]] virtual WindowId ButtonBoxHandle() const = 0;  // picToolbar
   [[nodiscard]] virtual WindowId SingleBoxHandle() const = 0;  // picSingleButton
 
@@ -60,6 +73,9 @@ class ToolbarPort : public LoadedWindow {
 
   /// Saves the options and rebuilds the strip after a change in the menus or the options.
   virtual void InitNewButtons() = 0;
+  /// Tells the user, once the current event is over, that these dropped files were not taken (see
+  /// RefusedFilesText). Nothing is told when there are none.
+  virtual void TellRefused(std::vector<std::string> files) = 0;
   /// Reads the menu buttons anew and draws them, without sizing the strip.
   virtual void DoToolbarButtons() = 0;
   /// Reads the single buttons anew and draws them.
@@ -98,9 +114,8 @@ class ToolbarPort : public LoadedWindow {
 };
 
 /// The one menu window.
-class QMenuPort : public LoadedWindow {
+class QMenuPort : public AskingWindow {
  public:
-  [[nodiscard]] virtual WindowId WindowHandle() const = 0;
   [[nodiscard]] virtual bool MenuVisible() const = 0;
 
   /// Index of the button that owns the menu, as decimal text; "0" when none, empty before the
@@ -312,14 +327,26 @@ class CapturePort {
   [[nodiscard]] virtual std::string OutlineEdge() const = 0;
 };
 
-/// Folder items, which expand into a generated file when their menu opens.
+/// A menu whose open folder items are replaced by what they hold.
+struct ExpandedMenu {
+  std::string File;                  // full path of the generated file that holds a copy
+  std::vector<MenuRecord> Records;   // the first one is the menu's button
+  std::vector<EntryOrigin> Origins;  // of each record
+  std::string Stored;                // the menu file as it was read, in whole records
+};
+
+/// Folder items, which expand when their menu opens.
 class FolderMenusPort {
  public:
   virtual ~FolderMenusPort() = default;
 
-  /// The file to build the menu from: the generated one when `menuFile` has open folder items, else
-  /// `menuFile` itself.
-  virtual std::string Expand(std::string_view menuKey, std::string_view menuFile) = 0;
+  /// What the menu is built from; nothing for a file without open folder items, and for one that
+  /// cannot be read.
+  [[nodiscard]] virtual std::optional<ExpandedMenu> Expand(std::string_view menuKey,
+                                                           std::string_view menuFile) = 0;
+  /// Writes the generated file, for other programs; the menu itself does not need it. False, and
+  /// nothing is told, when it cannot be written.
+  virtual bool WriteGenerated(const ExpandedMenu& menu) = 0;
   /// True if the folders of a built menu changed since.
   virtual bool UpdateMenu(std::string_view menuKey) = 0;
 };
@@ -356,8 +383,9 @@ class MainMenuPort {
 class PopupPort {
  public:
   virtual ~PopupPort() = default;
-  /// Fills the popup for the current item and shows it at the pointer.
-  virtual void ShowToolbarPopup() = 0;
+  /// Makes the entry the current one (Program::Entry), fills the popup for it, shows it at the
+  /// pointer and carries out the choice. While one is up, or its command runs, nothing is changed.
+  virtual void ShowToolbarPopup(EntryEdit entry) = 0;
 };
 
 /// The window in which an entry is edited.

@@ -33,4 +33,16 @@ class FlagScope {
   bool before_;
 };
 
+/// Counts itself for the length of a scope.
+class CountScope {
+ public:
+  explicit CountScope(int& count) : count_(count) { ++count_; }
+  CountScope(const CountScope&) = delete;
+  CountScope& operator=(const CountScope&) = delete;
+  ~CountScope() { --count_; }
+
+ private:
+  int& count_;
+};
+
 }  // namespace corvelle::forms

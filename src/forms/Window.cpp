@@ -51,7 +51,7 @@ bool Window::CreateWindows(WindowPeer* parent) {
   shownBounds_ = PixelBounds();
   peer_ = NewPeer(parent);
   if (!peer_) return false;
-  if (!Enabled()) peer_->SetEnabled(false);
+  if (!Enabled() || inputHolds_ > 0) peer_->SetEnabled(false);
   if (takesDrops_) static_cast<void>(peer_->SetTakesDrops(true));
   PeerMade();
   for (Window* child : children_) {
@@ -81,7 +81,16 @@ void Window::VisibleChanged() {
 }
 
 void Window::EnabledChanged() {
-  if (peer_) peer_->SetEnabled(Enabled());
+  if (peer_ && inputHolds_ == 0) peer_->SetEnabled(Enabled());
+}
+
+void Window::HoldInput() {
+  ++inputHolds_;
+  if (peer_) peer_->SetEnabled(false);
+}
+
+void Window::ReleaseInput() {
+  if (--inputHolds_ == 0) EnabledChanged();
 }
 
 void Window::BoundsChanged(float /*oldLeft*/, float /*oldTop*/, float /*oldWidth*/,

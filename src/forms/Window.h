@@ -55,6 +55,14 @@ class Window : public Control, protected WindowEvents {
   /// container gets it.
   std::function<bool(int delta, ShiftState shift)> Wheel;
 
+  /// From here to ReleaseInput the window takes neither mouse nor keyboard, whatever Enabled says;
+  /// changes of Enabled take effect afterwards. Several holds count.
+  void HoldInput();
+  /// The same for the owner of a message box, which the box itself disables and enables again:
+  /// only the changes of Enabled wait.
+  void HoldInputOfOwner() { ++inputHolds_; }
+  void ReleaseInput();
+
   /// Drags of other programs come to this window. Without it, as at first, they go to the window
   /// around it, if that takes them.
   [[nodiscard]] bool TakesDrops() const noexcept { return takesDrops_; }
@@ -142,6 +150,7 @@ class Window : public Control, protected WindowEvents {
   bool takesDrops_ = false;
   bool tabStop_ = false;
   bool hasFocus_ = false;
+  int inputHolds_ = 0;
   PixelRect shownBounds_;  // as the peer last told
 };
 

@@ -231,6 +231,12 @@ class WindowSystem {
 
   /// Runs the events that are waiting, timers that are due included, and returns.
   virtual void DoEvents() = 0;
+  /// Runs `work` on the thread of the windows, by a later turn of the message loop and in the order
+  /// of these calls: the one call that other threads may make. While posted work runs, no other
+  /// does, even if it lets events through. What waits when the window system ends is dropped.
+  virtual void Post(std::function<void()> work) = 0;
+  /// Paints what the windows of the program owe to paint, and runs nothing else.
+  virtual void PaintWaiting() = 0;
   /// Runs events until Quit. Returns at once if Quit was called before.
   virtual void Run() = 0;
   virtual void Quit() = 0;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 #include "base/Sort.h"
 #include "base/Text.h"
@@ -24,18 +25,20 @@ constexpr std::string_view kDisplayFile = "clrlib.dat";
 constexpr forms::OleColor kWindowColour = 0x80000005;
 constexpr std::string_view kCategoryEnding = ".ini";
 
-/// Writes one entry. A file that cannot be written keeps its old content, and the others follow:
-/// one icon that is held open must not cost the rest.
+/// Writes one entry, and notes its path in `written`. A file that cannot be written keeps its old
+/// content, and the others follow: one icon that is held open must not cost the rest.
 void WriteEntry(Program& program, const std::string& folder, const LibraryEntry& entry,
-                std::string_view data) {
+                std::string_view data, std::string& written) {
   if (!IsPlainFileName(entry.Name)) return;
-  static_cast<void>(program.Services.Files.Replace(folder + entry.Name, data));
+  std::string path = folder + entry.Name;
+  if (program.Services.Files.ReplaceUnflushed(path, data)) written = std::move(path);
 }
 
 /// Reads and writes the entry at `offset`. The offset behind it; nothing when the unpacking ends
 /// there.
 std::optional<std::uint64_t> ExtractEntry(Program& program, const std::string& container,
-                                          const std::string& folder, std::uint64_t offset) {
+                                          const std::string& folder, std::uint64_t offset,
+                                          std::string& written) {
   FileSystem& files = program.Services.Files;
   const auto header = files.Read(container, offset, kLibraryHeader);
   if (!header) return std::nullopt;
@@ -46,7 +49,7 @@ std::optional<std::uint64_t> ExtractEntry(Program& program, const std::string& c
   const auto data =
       files.Read(container, offset + kLibraryHeader, static_cast<std::size_t>(length));
   if (!data || data->size() != length) return std::nullopt;
-  WriteEntry(program, folder, *entry, *data);
+  WriteEntry(program, folder, *entry, *data, written);
   return offset + kLibraryHeader + length;
 }
 
@@ -89,16 +92,20 @@ void ExtractIconLibrary(Program& program, std::string_view target, std::string_v
   const std::string folder = EnsureBackslash(target);
   const std::string container = EnsureBackslash(source) + std::string(kLibraryFile);
   if (!files.FileExists(container)) {
-    program.Say(kNoWindow, kMissing, kMissingFlags);
+    program.Say(program.ToolbarWindow(), kMissing, kMissingFlags);
     return;
   }
   const std::uint64_t end = files.Length(container).ValueOr(0);
   std::optional<std::uint64_t> offset = 0;
+  std::string written;
   for (int count = 1; offset && *offset < end; ++count) {
     program.DoEvents();
     if (count % kEntriesPerDot == 0) program.ShowStartupProgress();
-    offset = ExtractEntry(program, container, folder, *offset);
+    offset = ExtractEntry(program, container, folder, *offset, written);
   }
+  // The icons can be unpacked again, so that one wait for the disk is enough. Should even that
+  // fail, the icons are there until the power goes.
+  if (!written.empty()) static_cast<void>(files.Flush(written));
 }
 
 void IconLibrary::ExtractIconLibrary() {

@@ -18,9 +18,10 @@ class Program;
 inline constexpr std::string_view kLibraryFile = "icon.lib";
 
 /// Unpacks the container of `source` into the folder `target`. Files of the same name are replaced,
-/// each in one step, and others stay. An entry whose name would leave the folder is passed over;
-/// one that is longer than the container ends the unpacking. Lets events run and counts every fifth
-/// entry in the startup window. Without a container the user is told.
+/// each in one step, and others stay; the disk is waited for once, at the end. An entry whose name
+/// would leave the folder is passed over; one that is longer than the container ends the unpacking.
+/// Lets events run and counts every fifth entry in the startup window. Without a container the user
+/// is told.
 void ExtractIconLibrary(Program& program, std::string_view target, std::string_view source);
 
 /// The port of it: from the program's folder into its folder of icons.

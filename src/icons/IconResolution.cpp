@@ -8,16 +8,12 @@
 #include "core/Program.h"
 #include "platform/Canvas.h"
 #include "platform/FileSystem.h"
-#include "platform/Registry.h"
 
 namespace corvelle {
 
 namespace {
 
 constexpr std::string_view kFallbackFile = "W95MBX02.ICO";
-constexpr std::string_view kIconFileKey = "icofile\\DefaultIcon";
-// What the shell puts there when each icon file is its own picture.
-constexpr std::string_view kOwnPicture = "%1";
 constexpr int kSmallSize = 16;
 
 bool DrawSystemIcon(Program& program, Canvas& canvas, int index, PixelPoint at, int size) {
@@ -88,12 +84,8 @@ bool ShellTellsApart(Program& program, const std::vector<std::string>& paths) {
 }  // namespace
 
 void DetectShellIcons(Program& program) {
-  program.ShellDrawsIcons = false;
-  const auto shown = program.Services.Keys.Text(RegistryRoot::ClassesRoot, kIconFileKey, {});
-  if (shown && StripQuotes(StripAtNull(*shown)) == kOwnPicture) {
-    program.ShellDrawsIcons = true;
-    return;
-  }
+  // The registry's "icofile" says nothing: the user may have given icon files to another program,
+  // and the shell then shows that program's picture for all of them.
   program.ShellDrawsIcons =
       ShellTellsApart(program, TwoIconFiles(program, program.AppPath + "Icons\\"));
 }

@@ -5,7 +5,9 @@
 
 #include "base/Text.h"
 #include "core/Program.h"
+#include "core/SpecialFolders.h"
 #include "platform/Registry.h"
+#include "platform/ShellFolders.h"
 
 namespace corvelle {
 
@@ -13,16 +15,35 @@ namespace {
 
 constexpr std::string_view kRecycleBinIconKey =
     "CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}\\DefaultIcon";
+// Where the shell keeps what the user chose and what the bin shows at present.
+constexpr std::string_view kUsersKeys = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
+
+/// What the registry says; empty when it says nothing.
+std::string RegisteredIcon(const Registry& keys) {
+  std::string path = Trim(keys.Text(RegistryRoot::CurrentUser,
+                                    std::string(kUsersKeys) + std::string(kRecycleBinIconKey), {})
+                              .value_or(std::string()));
+  if (!path.empty()) return path;
+  return Trim(keys.Text(RegistryRoot::ClassesRoot, kRecycleBinIconKey, {}).value_or(std::string()));
+}
+
+/// The icon that the shell draws; -1 when it does not tell.
+int DrawnIcon(ShellFolders& folders) {
+  const auto bin = folders.Folder(kRecycleBinFolder);
+  return bin ? bin->IconIndex : -1;
+}
 
 }  // namespace
 
 void CheckRecycleIcon(Program& program) {
-  const auto value = program.Services.Keys.Text(RegistryRoot::ClassesRoot, kRecycleBinIconKey, {});
+  std::string path = RegisteredIcon(program.Services.Keys);
+  int index = DrawnIcon(program.Services.Folders);
   // A bin whose icon is not told keeps the one it had.
-  if (!value) return;
-  std::string path = Trim(*value);
-  if (path.empty() || path == program.RecycleIconPath) return;
+  if (path.empty()) path = program.RecycleIconPath;
+  if (index < 0) index = program.RecycleIconIndex;
+  if (path == program.RecycleIconPath && index == program.RecycleIconIndex) return;
   program.RecycleIconPath = std::move(path);
+  program.RecycleIconIndex = index;
   program.RecycleIconChanged = true;
 }
 

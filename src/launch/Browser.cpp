@@ -7,6 +7,7 @@
 #include "launch/CommandForm.h"
 #include "launch/OpenMail.h"
 #include "launch/RegistryValue.h"
+#include "launch/UserChoice.h"
 #include "platform/DdeClient.h"
 #include "platform/FileAssociations.h"
 #include "platform/FileSystem.h"
@@ -88,6 +89,7 @@ void Browser::InitBrowser() {
   BrowserApplication = choice.BrowserApplication;
   if (choice.IsComplete()) {
     BrowserUseDde = true;
+    ownBrowser_ = true;
     return;
   }
   const std::optional<std::string> found = ProgramForPages();
@@ -118,6 +120,11 @@ void Browser::OpenUrl(std::string_view url) {
   // The text may go with the window that it came from while events run.
   const std::string address(url);
   if (!BrowserUseDde && !BrowserUseShell) InitBrowser();
+  // The shell knows the user's choice, also where no program was found or another one was.
+  if (!BrowserUseDde || AnotherIsChosen()) {
+    BrowserUseDde = false;
+    BrowserUseShell = true;
+  }
   if (BrowserUseDde) {
     OpenByDde(address);
     // An address that a browser has taken is not given to another one.
@@ -127,15 +134,21 @@ void Browser::OpenUrl(std::string_view url) {
   if (!BrowserUseDde && !BrowserUseShell) ShowBrowserError();
 }
 
+bool Browser::AnotherIsChosen() {
+  if (ownBrowser_) return false;
+  const UserChoice choice = UserChoiceFor(program_.Services.Keys, "http");
+  FileSystem& files = program_.Services.Files;
+  return choice.Made &&
+         !EqualNoCase(files.LongPath(choice.Program), files.LongPath(BrowserCommand));
+}
+
 void Browser::OpenByDde(std::string_view url) {
   if (program_.Services.Dde.Execute(BrowserApplication, BrowserTopic, BrowserItem(url)) ==
       DdeOutcome::Done) {
     return;
   }
   if (StartBrowser(url, GetItemWorkDir(BrowserCommand))) return;
-  const bool opened =
-      ProgramForPages() &&
-      (program_.Services.Shell.Open(url, std::nullopt, std::nullopt) || StartBrowser(url, {}));
+  const bool opened = ProgramForPages() && (Open(url) || StartBrowser(url, {}));
   if (opened) return;
   BrowserUseDde = false;
   BrowserUseShell = true;
@@ -145,15 +158,20 @@ bool Browser::StartBrowser(std::string_view url, std::string_view folder) {
   const std::string address = EscapeAddress(url);
   std::optional<std::string_view> startIn;
   if (!folder.empty()) startIn = folder;
-  return program_.Services.Shell.Open(BrowserCommand, address, startIn);
+  return Open(BrowserCommand, address, startIn);
+}
+
+bool Browser::Open(std::string_view file, std::optional<std::string_view> parameters,
+                   std::optional<std::string_view> folder) {
+  const auto opened = program_.Services.Shell.Open(file, parameters, folder);
+  return opened || opened.Error() == OpenError::Cancelled;
 }
 
 void Browser::OpenByShell(std::string_view url) {
-  ShellExec& shell = program_.Services.Shell;
-  if (shell.Open(url, std::nullopt, std::nullopt)) return;
+  if (Open(url)) return;
   MomentaryFile link(program_.Services.Files, PathOf(kUrlFile),
                      FormatUrlFile(url, program_.Services.Ansi));
-  BrowserUseShell = shell.Open(link.Path(), std::nullopt, std::nullopt);
+  BrowserUseShell = Open(link.Path());
   // Whoever took the file reads it after this call; the next look for a browser removes it.
   if (BrowserUseShell) link.Keep();
 }
@@ -169,6 +187,7 @@ void Browser::ForgetBrowser() {
   BrowserApplication.clear();
   BrowserUseDde = false;
   BrowserUseShell = false;
+  ownBrowser_ = false;
 }
 
 void Browser::UseDefaultBrowser() {
@@ -196,6 +215,7 @@ bool Browser::UseBrowser(std::string_view path) {
   BrowserCommand = choice.BrowserCommand;
   BrowserApplication = choice.BrowserApplication;
   BrowserUseDde = true;
+  ownBrowser_ = true;
   return true;
 }
 

@@ -54,6 +54,13 @@ class Browser final : public BrowserPort {
   [[nodiscard]] std::optional<std::string> ProgramForPages();
   [[nodiscard]] std::string ServiceName();
   bool StartBrowser(std::string_view url, std::string_view folder);
+  /// True when the shell has started it, or when the user has refused that: nothing else is tried.
+  [[nodiscard]] bool Open(std::string_view file,
+                          std::optional<std::string_view> parameters = std::nullopt,
+                          std::optional<std::string_view> folder = std::nullopt);
+  /// True if the user has chosen another browser in the system's settings than the one that was
+  /// found. A browser chosen in this program is the user's choice.
+  [[nodiscard]] bool AnotherIsChosen();
   void OpenByDde(std::string_view url);
   void OpenByShell(std::string_view url);
   void ShowBrowserError();
@@ -67,6 +74,7 @@ class Browser final : public BrowserPort {
   [[nodiscard]] std::string FolderOfOnlyUser();
 
   Program& program_;
+  bool ownBrowser_ = false;
   std::optional<bool> netscapeKnown_;
   WindowId notedNetscape_ = kNoWindow;
 };

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "core/Program.h"
 #include "launch/BuiltInTempFiles.h"
+#include "launch/FileSearch.h"
 #include "platform/FileSystem.h"
 #include "platform/KeySynthesis.h"
 #include "platform/ShellFiles.h"
@@ -21,6 +22,7 @@ namespace msgbox = forms::msgbox;
 
 constexpr int kRecentFolder = 8;  // CSIDL_RECENT
 constexpr std::string_view kAllFiles = "*.*";
+constexpr std::string_view kFolderLook = "desktop.ini";
 constexpr std::string_view kFailureText =
     "An error occured while trying to clear the Recent Documents Folder.";
 
@@ -35,9 +37,11 @@ std::optional<std::string> RecentFolder(Program& program) {
   return EnsureBackslash(*path);
 }
 
+/// True if there is a file besides the shell's own, which tells how the folder looks.
 bool HoldsFile(const std::vector<FileEntry>& entries) {
-  return std::any_of(entries.begin(), entries.end(),
-                     [](const FileEntry& entry) { return !entry.IsFolder; });
+  return std::any_of(entries.begin(), entries.end(), [](const FileEntry& entry) {
+    return !entry.IsFolder && !EqualNoCase(entry.Name, kFolderLook);
+  });
 }
 
 /// False when the files, or some of them, stay.
@@ -65,6 +69,8 @@ void BuiltInCommands::ClearRecentDocs() {
   if (ClearRecentFolder(program_)) return;
   program_.Say(program_.ToolbarWindow(), kFailureText, msgbox::IconStop | msgbox::OnTop);
 }
+
+void BuiltInCommands::FileFind() { OpenFileSearch(program_); }
 
 void BuiltInCommands::ClearTempFolder() { corvelle::ClearTempFolder(program_); }
 

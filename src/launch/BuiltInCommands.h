@@ -14,11 +14,12 @@ class BuiltInCommands final : public BuiltInCommandsPort {
 
   /// Loads the search window; does nothing in a program that has none.
   void ShowNetSearch() override;
-  // These four press keys that the shell acts on, if it knows them.
+  // These three press keys that the shell acts on, if it knows them.
   void FindComputer() override { Press(ShellKeys::FindComputer); }
   void MinimizeAllWindows() override { Press(ShellKeys::MinimizeAllWindows); }
   void UndoMinimizeAll() override { Press(ShellKeys::UndoMinimizeAll); }
-  void FileFind() override { Press(ShellKeys::FileFind); }
+  /// Opens the system's search for files.
+  void FileFind() override;
   /// Moves what the user's folder of recent documents holds into the Recycle Bin. A failure is
   /// told.
   void ClearRecentDocs() override;

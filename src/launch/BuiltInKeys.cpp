@@ -16,8 +16,6 @@ std::vector<int> Chord(ShellKeys keys) {
   switch (keys) {
     case ShellKeys::FindComputer:
       return {kControl, kLeftWindows, kLetterF};
-    case ShellKeys::FileFind:
-      return {kLeftWindows, kLetterF};
     case ShellKeys::MinimizeAllWindows:
       return {kLeftWindows, kLetterM};
     case ShellKeys::UndoMinimizeAll:

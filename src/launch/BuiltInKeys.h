@@ -7,7 +7,6 @@ namespace corvelle {
 /// What the program has the shell do by pressing its keys.
 enum class ShellKeys {
   FindComputer,        // Ctrl + Windows + F
-  FileFind,            // Windows + F
   MinimizeAllWindows,  // Windows + M
   UndoMinimizeAll,     // Shift + Windows + M
 };

@@ -3,6 +3,7 @@
 #include "base/FieldText.h"
 #include "base/Text.h"
 #include "base/Utf8.h"
+#include "base/WebAddress.h"
 #include "core/SpecialFolders.h"
 
 namespace corvelle {
@@ -10,10 +11,10 @@ namespace corvelle {
 namespace {
 
 constexpr std::string_view kSpecialStart = "CSIDL_";
-constexpr std::string_view kWebStart = "http://";
 constexpr std::string_view kMailStart = "mailto:";
 constexpr std::string_view kUrlEnd = ".url";
 constexpr std::string_view kLinkEnd = ".lnk";
+constexpr std::string_view kBeforeAddress = " \t\"";
 constexpr char kRawMarker = '?';
 
 struct BuiltInWord {
@@ -30,6 +31,15 @@ constexpr BuiltInWord kBuiltIns[] = {
     {"ClearTempFolder", CommandKind::ClearTempFolder},
     {"filefind", CommandKind::FileFind},
 };
+
+/// True if what stands at `at` of a line is a part of an address of another kind: the value before
+/// it, back to a blank or a quote, is not empty.
+bool IsInsideAddress(std::string_view line, std::size_t at) noexcept {
+  const std::size_t equals = line.find('=');
+  const std::size_t value = equals < at ? equals + 1 : 0;
+  const std::string_view before = line.substr(value, at - value);
+  return !before.empty() && kBeforeAddress.find(before.back()) == std::string_view::npos;
+}
 
 /// The meaning of a text that is neither empty nor a special folder, or raw.
 CommandKind ClassifyRest(std::string_view text) noexcept {
@@ -53,7 +63,7 @@ CommandForm ClassifyCommand(std::string_view command) {
 }
 
 CommandKind ClassifyAddress(std::string_view text) noexcept {
-  if (StartsWithNoCase(text, kWebStart)) return CommandKind::WebAddress;
+  if (IsWebAddress(text)) return CommandKind::WebAddress;
   if (StartsWithNoCase(text, kMailStart)) return CommandKind::MailAddress;
   if (EndsWithNoCase(text, kLinkEnd)) return CommandKind::ShellLink;
   return CommandKind::Other;
@@ -62,8 +72,8 @@ CommandKind ClassifyAddress(std::string_view text) noexcept {
 std::optional<std::string> ParseUrlFile(std::string_view bytes, const CodePage& ansi) {
   for (const std::string& line : SplitLines(bytes)) {
     if (!ContainsNoCase(line, "url=")) continue;
-    const std::size_t start = FindNoCase(line, kWebStart);
-    if (start == std::string::npos) continue;
+    const std::size_t start = FindWebAddress(line);
+    if (start == std::string::npos || IsInsideAddress(line, start)) continue;
     return StripAtNull(DecodeText(std::string_view(line).substr(start), ansi));
   }
   return std::nullopt;
@@ -77,6 +87,22 @@ std::string GetItemWorkDir(std::string_view path) {
 std::string LinkFolder(std::string_view target) {
   const std::string path = StripAtNull(target);
   return path.substr(0, path.rfind('\\') + 1);
+}
+
+CommandLineParts SplitCommandLine(std::string_view line,
+                                  const std::function<bool(const std::string&)>& exists) {
+  const std::string text = Trim(line);
+  const auto splitAt = [&text](std::size_t from, std::size_t end) {
+    if (end == std::string::npos) return CommandLineParts{text.substr(from), {}};
+    return CommandLineParts{text.substr(from, end - from),
+                            Trim(std::string_view(text).substr(end + 1))};
+  };
+  if (text.starts_with('"')) return splitAt(1, text.find('"', 1));
+  for (std::size_t end = text.find(' ');; end = text.find(' ', end + 1)) {
+    const std::string program = text.substr(0, end);
+    if (exists(program) || exists(program + ".exe")) return splitAt(0, end);
+    if (end == std::string::npos) return splitAt(0, text.find(' '));
+  }
 }
 
 std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }

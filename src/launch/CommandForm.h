@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,7 +42,8 @@ struct CommandForm {
 /// The meaning of what a .url file led to: an address, a link or a file, never another .url file.
 [[nodiscard]] CommandKind ClassifyAddress(std::string_view text) noexcept;
 
-/// The web address that the bytes of a .url file hold, if any.
+/// The web address that the bytes of a .url file hold, if any. One inside an address of another
+/// kind does not count.
 [[nodiscard]] std::optional<std::string> ParseUrlFile(std::string_view bytes, const CodePage& ansi);
 
 /// The folder in which a command starts: up to and with its last "\" when it begins with a drive;
@@ -50,6 +52,20 @@ struct CommandForm {
 
 /// The folder of a link's target: up to and with its last "\"; empty without one.
 [[nodiscard]] std::string LinkFolder(std::string_view target);
+
+/// A command line as the system would take it apart.
+struct CommandLineParts {
+  std::string Program;  // without quotes
+  std::string Arguments;
+
+  friend bool operator==(const CommandLineParts&, const CommandLineParts&) = default;
+};
+
+/// The program of a command line and what follows it. Without quotes each blank may end the
+/// program's name, tried from the left: it is the first that `exists`, as it stands or with ".exe";
+/// when none does, the first word.
+[[nodiscard]] CommandLineParts SplitCommandLine(
+    std::string_view line, const std::function<bool(const std::string&)>& exists);
 
 /// The text in double quotes.
 [[nodiscard]] std::string Quoted(std::string_view text);

@@ -19,6 +19,7 @@ namespace msgbox = forms::msgbox;
 constexpr std::string_view kEmptyText =
     "Empty string in the File Field. Check your entries in the Customize window.";
 constexpr std::string_view kUnavailableText = "File/Device unavailable.";
+constexpr std::string_view kNoAccessText = "Error: 70 - Permission denied";
 constexpr std::string_view kOpenWithCommand = "rundll32.exe shell32.dll,OpenAs_RunDLL ";
 // No file of an address has a use for more.
 constexpr std::size_t kUrlFileLimit = 1'048'576;
@@ -47,25 +48,58 @@ void SayUnavailable(Program& program) {
   program.Say(program.ToolbarWindow(), kUnavailableText, msgbox::IconStop | msgbox::OnTop);
 }
 
-/// Starts a command line. When it does not start, the user is told that its file is missing, or is
-/// offered the programs that might open the file of `command`.
+void SayNoAccess(Program& program) {
+  program.Say(program.ToolbarWindow(), kNoAccessText, msgbox::IconStop | msgbox::OnTop);
+}
+
+/// Opens through the shell. True when that settles it: it is started, the user has refused it, or
+/// is told that there is no access. What failed otherwise may be started another way.
+bool OpenSettled(Program& program, std::string_view file,
+                 std::optional<std::string_view> parameters,
+                 std::optional<std::string_view> folder) {
+  const auto opened = program.Services.Shell.Open(file, parameters, folder);
+  if (!opened && opened.Error() == OpenError::AccessDenied) SayNoAccess(program);
+  return opened || opened.Error() != OpenError::Other;
+}
+
+/// Only the shell can ask the user for the elevation that a program needs.
+void OpenElevated(Program& program, std::string_view commandLine) {
+  FileSystem& files = program.Services.Files;
+  const CommandLineParts parts = SplitCommandLine(
+      commandLine, [&files](const std::string& path) { return files.FileExists(path); });
+  const std::string folder = GetItemWorkDir(parts.Program);
+  if (!OpenSettled(program, parts.Program, parts.Arguments, IfAny(folder))) SayUnavailable(program);
+}
+
+/// Starts a command line. When it does not start, the user is told why, or is offered the programs
+/// that might open the file of `command`.
 void RunCommandLine(Program& program, std::string_view commandLine, std::string_view command) {
   ShellExec& shell = program.Services.Shell;
   const auto started = shell.Run(commandLine);
   if (started) return;
-  if (started.Error() != RunError::Other) {
-    SayUnavailable(program);
-    return;
+  switch (started.Error()) {
+    case RunError::BadFileName:
+    case RunError::FileNotFound:
+      SayUnavailable(program);
+      return;
+    case RunError::AccessDenied:
+      SayNoAccess(program);
+      return;
+    case RunError::NeedsElevation:
+      OpenElevated(program, commandLine);
+      return;
+    case RunError::Other:
+      break;
   }
-  if (!program.Services.Files.FileExists(command)) return;
-  // A system without that dialog leaves the file unopened, as before the question.
-  static_cast<void>(shell.Run(std::string(kOpenWithCommand) + std::string(command)));
+  const bool offered = program.Services.Files.FileExists(command) &&
+                       shell.Run(std::string(kOpenWithCommand) + std::string(command));
+  if (!offered) SayUnavailable(program);
 }
 
 /// A file or folder; failing that, a program with arguments.
 void OpenOrRun(Program& program, const std::string& text) {
   const std::string folder = Trim(GetItemWorkDir(text));
-  if (program.Services.Shell.Open(text, std::nullopt, IfAny(folder))) return;
+  if (OpenSettled(program, text, std::nullopt, IfAny(folder))) return;
   program.DoEvents();
   RunCommandLine(program, text, text);
 }
@@ -73,8 +107,8 @@ void OpenOrRun(Program& program, const std::string& text) {
 void OpenLink(Program& program, const std::string& link) {
   std::string target;
   const std::string folder = GetLinkWorkDir(program, link, target);
-  // What comes of a link that leads nowhere is the system's affair.
-  program.Services.Shell.Open(link, std::nullopt, IfAny(folder));
+  // The system was asked to say nothing itself.
+  if (!OpenSettled(program, link, std::nullopt, IfAny(folder))) SayUnavailable(program);
 }
 
 /// False when the command is no word of the program, or the program cannot carry it out.
@@ -148,7 +182,7 @@ void OpenDropped(Program& program, const std::string& dropped, const std::string
       OpenSpecialFolder(program, target, dropped)) {
     return;
   }
-  if (program.Services.Shell.Open(target, dropped, std::nullopt)) return;
+  if (OpenSettled(program, target, dropped, std::nullopt)) return;
   const std::string command = ProgramOf(program, target);
   // Without a program the line would start what was dropped.
   if (command.empty()) {

@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "core/MenuFile.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "icons/RecycleIcon.h"
 #include "menus/FolderRules.h"
 #include "menus/GeneratedMenu.h"
-#include "shell/FileErrorText.h"
 
 namespace corvelle {
 
@@ -20,9 +20,6 @@ bool IsOpenFolder(const MenuRecord& record) {
   return (IsFolderItem(name) || IsSpecialFolder(name)) && !IsClosedFolder(name);
 }
 
-// More than record numbers reach.
-constexpr std::size_t kReadLimit = (static_cast<std::size_t>(kMaxRecords) + 1) * kRecordLength;
-
 /// True if the bytes of a record may be those of a folder item. Most menus have none, and are told
 /// by this without taking their records apart.
 bool MayBeFolder(std::string_view record) {
@@ -32,46 +29,45 @@ bool MayBeFolder(std::string_view record) {
   return IsFolderItem(name) || StartsWithNoCase(name, kSpecialFolderStart);
 }
 
-/// The records of a menu file; none when it has no open folder item or cannot be read.
-std::vector<MenuRecord> RecordsToExpand(FileSystem& files, const CodePage& ansi,
-                                        std::string_view path) {
-  const std::string bytes = files.Read(path, 0, kReadLimit).ValueOr({});
-  const auto count = static_cast<std::size_t>(RecordCount(bytes.size()));
-  const auto at = [&](std::size_t i) {
-    return std::string_view(bytes).substr(i * kRecordLength, kRecordLength);
-  };
-  // The first record is the menu's button.
-  bool opens = false;
-  for (std::size_t i = 1; i < count && !opens; ++i) {
-    opens = MayBeFolder(at(i)) && IsOpenFolder(ParseRecord(at(i), ansi));
+/// True if one of the stored records is an open folder item. The first one is the menu's button.
+bool HasOpenFolder(std::string_view stored, const CodePage& ansi) {
+  for (std::size_t at = kRecordLength; at < stored.size(); at += kRecordLength) {
+    const std::string_view record = stored.substr(at, kRecordLength);
+    if (MayBeFolder(record) && IsOpenFolder(ParseRecord(record, ansi))) return true;
   }
-  std::vector<MenuRecord> records;
-  if (!opens) return records;
-  records.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) records.push_back(ParseRecord(at(i), ansi));
-  return records;
+  return false;
 }
 
 }  // namespace
 
-std::string FolderMenus::Expand(std::string_view menuKey, std::string_view menuFile) {
+std::optional<ExpandedMenu> FolderMenus::Expand(std::string_view menuKey,
+                                                std::string_view menuFile) {
   const std::string key = UpperCase(menuKey);
   built_.erase(key);
   Listed listed = std::exchange(listed_, {});
   if (listed.MenuKey != key) listed = {};
+  const CodePage& ansi = program_.Services.Ansi;
   const std::string source(menuFile);
-  std::vector<MenuRecord> records =
-      RecordsToExpand(program_.Services.Files, program_.Services.Ansi, source);
-  if (records.empty()) return source;
+  std::string stored = ReadStoredRecords(program_.Services.Files, source).ValueOr({});
+  if (!HasOpenFolder(stored, ansi)) return std::nullopt;
 
-  GeneratedMenu menu(std::move(records), program_.Services.Ansi);
+  GeneratedMenu menu(ParseRecords(stored, ansi), ansi);
   auto built = std::make_shared<Built>();
   built->Update.MenuKey = key;
   ExpandItems(menu, source, listed, *built);
-  std::string generated = GeneratedFileName(source);
-  if (!Write(generated, menu.Bytes())) return source;
   built_.insert_or_assign(key, std::move(built));
-  return generated;
+  return ExpandedMenu{GeneratedFileName(source), menu.Records(), menu.Origins(), std::move(stored)};
+}
+
+// Quiet: the menu is up, and nothing of it comes from this file.
+bool FolderMenus::WriteGenerated(const ExpandedMenu& menu) {
+  FileSystem& files = program_.Services.Files;
+  if (files.Write(menu.File, GeneratedBytes(menu.Records, menu.Origins, program_.Services.Ansi))) {
+    return true;
+  }
+  // What is left of it would be of another time, or half a menu.
+  static_cast<void>(files.Remove(menu.File));
+  return false;
 }
 
 const FoundFiles& FolderMenus::FilesOf(std::string_view folderName, Listed& listed) {
@@ -114,18 +110,8 @@ void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Li
   if (!showsBin) return;
   // The bin is shown as it is now.
   built.RecycleIcon = program_.RecycleIconPath;
+  built.RecycleIndex = program_.RecycleIconIndex;
   program_.RecycleIconChanged = false;
-}
-
-bool FolderMenus::Write(const std::string& path, const std::string& bytes) {
-  FileSystem& files = program_.Services.Files;
-  // What cannot be removed cannot be written either, and that is told.
-  if (files.FileExists(path)) static_cast<void>(files.Remove(path));
-  const FileStatus written = files.Write(path, bytes);
-  if (written) return true;
-  static_cast<void>(files.Remove(path));
-  program_.Say(program_.ToolbarWindow(), NumberedFileError(written.Error()), forms::msgbox::OnTop);
-  return false;
 }
 
 bool FolderMenus::UpdateMenu(std::string_view menuKey) {
@@ -160,7 +146,9 @@ bool FolderMenus::HasChanged(const Built& built, std::size_t index, Listed& list
 bool FolderMenus::BinHasChanged(const Built& built) {
   CheckRecycleIcon(program_);
   // Several menus may show the desktop, and the flag is taken down by the first that is built anew.
-  const bool changed = program_.RecycleIconChanged || built.RecycleIcon != program_.RecycleIconPath;
+  const bool changed = program_.RecycleIconChanged ||
+                       built.RecycleIcon != program_.RecycleIconPath ||
+                       built.RecycleIndex != program_.RecycleIconIndex;
   program_.RecycleIconChanged = false;
   return changed;
 }

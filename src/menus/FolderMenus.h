@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,15 +17,14 @@ namespace corvelle {
 class GeneratedMenu;
 class Program;
 
-/// Folder items: a menu file that has open ones is expanded into a generated file beside it, and
-/// what they held is remembered for each menu until it is built again.
+/// Folder items: a menu that has open ones is built from memory, with what they hold in their
+/// places, and that is remembered for each menu until it is built again.
 class FolderMenus final : public FolderMenusPort {
  public:
   explicit FolderMenus(Program& program) : program_(program) {}
 
-  /// A file that cannot be read is given back as it is. When the generated file cannot be written,
-  /// the user is told, and the menu shows its folder items as plain ones.
-  std::string Expand(std::string_view menuKey, std::string_view menuFile) override;
+  std::optional<ExpandedMenu> Expand(std::string_view menuKey, std::string_view menuFile) override;
+  bool WriteGenerated(const ExpandedMenu& menu) override;
   bool UpdateMenu(std::string_view menuKey) override;
 
   /// The folder items of a built menu; none for a menu without.
@@ -35,7 +35,9 @@ class FolderMenus final : public FolderMenusPort {
   struct Built {
     std::vector<clsFolder> Folders;
     clsFolderUpdate Update;
-    std::string RecycleIcon;  // as it was when the menu was built
+    // The bin's icon as it was when the menu was built.
+    std::string RecycleIcon;
+    int RecycleIndex = -1;
   };
 
   /// What the comparison of a menu listed, by the commands of its folder items. A menu that is
@@ -49,8 +51,6 @@ class FolderMenus final : public FolderMenusPort {
   void ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Listed& listed, Built& built);
   const FoundFiles& FilesOf(std::string_view folderName, Listed& listed);
   const SpecialFolderLines& LinesOf(std::string_view folderName, Listed& listed);
-  /// False when the file could not be written, and nothing of it is left then.
-  [[nodiscard]] bool Write(const std::string& path, const std::string& bytes);
   [[nodiscard]] bool HasChanged(const Built& built, std::size_t index, Listed& listed);
   [[nodiscard]] bool BinHasChanged(const Built& built);
 

@@ -50,6 +50,7 @@ struct BuiltMenu {
   std::vector<clsMenu> SlideList;   // by page number
   std::vector<clsLabel> LabelList;  // item 1 first
   std::string Source;               // the file as it was given, before its folder items expanded
+  std::string Stored;               // its records as they were stored then
   float Room = 0;                   // greatest height of the window when it was laid out, twips
 };
 

@@ -15,6 +15,8 @@ namespace corvelle {
 namespace {
 
 constexpr int kFirstRoom = 16;
+/// How often an icon is drawn whose colours change each time meanwhile.
+constexpr int kMostTries = 3;
 /// Under which the fallback icon is kept; no icon text is like it.
 const std::string kFallbackKey(1, '\0');
 
@@ -25,6 +27,7 @@ MenuIcons::MenuIcons(Program& program) : program_(program) {}
 MenuIcons::~MenuIcons() = default;
 
 void MenuIcons::ResetPicIcons() {
+  ++resets_;
   colIconFile_.clear();
   colIconIndex_.clear();
   fetched_.clear();
@@ -114,13 +117,22 @@ int MenuIcons::LoadFallback() {
   return cell;
 }
 
+// The shell may let messages in while it is asked, and they may empty the strip or add to it: the
+// icon is drawn aside, and comes into the strip when it is done.
 int MenuIcons::AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw) {
+  const PixelRect whole{0, 0, kCell, kCell};
+  const std::unique_ptr<Canvas> icon = program_.Windows.CreateCanvas(whole.Size());
+  unsigned resets = resets_;
+  for (int tries = 0; tries < kMostTries; ++tries) {
+    resets = resets_;
+    icon->FillBox(whole, forms::Resolve(program_.Windows, forms::color::ButtonFace));
+    // What has no icon at all keeps its empty cell, and is not asked for again.
+    draw(*icon, {0, 0});
+    // After a reset the ground may have another colour.
+    if (resets == resets_) break;
+  }
   MakeRoom();
-  const PixelPoint at{cells_ * kCell, 0};
-  picIcons_->FillBox(RectAt(at, {kCell, kCell}),
-                     forms::Resolve(program_.Windows, forms::color::ButtonFace));
-  // What has no icon at all keeps its empty cell, and is not asked for again.
-  draw(*picIcons_, at);
+  picIcons_->DrawCanvas(*icon, whole, {cells_ * kCell, 0});
   return cells_++;
 }
 

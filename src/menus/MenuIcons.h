@@ -27,7 +27,8 @@ class MenuIcons {
   MenuIcons(const MenuIcons&) = delete;
   MenuIcons& operator=(const MenuIcons&) = delete;
 
-  /// Draws what an icon text means into the cell at `at`.
+  /// Draws what an icon text means into the cell at `at`. Messages may come in while the shell is
+  /// asked for an icon; one that LoadSmallIcon has fetched is drawn without.
   void DrawMenuIcon(Canvas& canvas, PixelPoint at, std::string_view iconText);
 
   /// Fetches an icon into the strip without drawing it.
@@ -54,7 +55,7 @@ class MenuIcons {
   /// The cell of an icon of the system's list, which all texts that mean it share.
   int LoadSystemIcon(int index);
   int LoadFallback();
-  /// Widens the strip by one cell of the menu's ground and draws into it.
+  /// Draws on a cell of the menu's ground and appends it to the strip.
   int AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw);
   void MakeRoom();
 
@@ -62,6 +63,7 @@ class MenuIcons {
   std::unique_ptr<Canvas> picIcons_;
   int cells_ = 0;
   int room_ = 0;
+  unsigned resets_ = 0;
   std::unordered_map<std::string, int> colIconFile_;   // by the text in lower case
   std::unordered_map<std::string, int> colIconIndex_;  // by "i" and the index in the system's list
   std::unordered_set<std::string> fetched_;            // large icons, by the text in lower case

@@ -79,15 +79,16 @@ void Builder::AddSeparator() {
 }
 
 void Builder::AddItem(const MenuRecord& record, int place) {
-  // Only an expanded file has numbers in its titles; elsewhere what follows a NUL is a damaged
-  // rest.
-  NumberedTitle title = SplitTitle(record.FTitle, place);
-  if (!scene_.HasFolderItems) title.Record = place;
+  // What follows a NUL is a damaged rest.
+  const std::string title = StripAtNull(record.FTitle);
+  const auto index = static_cast<std::size_t>(place) - 1;
+  const EntryOrigin origin =
+      index < scene_.Origins.size() ? scene_.Origins[index] : EntryOrigin{place, {}};
   MenuItem item;
   item.Top = NextTop();
-  item.Caption = DoubleAmpersands(title.Title);
-  item.Tag = JoinTag({afterSeparator_, record.FName, record.FIcon, title.Record});
-  item.Width = scene_.TextWidth ? scene_.TextWidth(title.Title) : 0;
+  item.Caption = DoubleAmpersands(title);
+  item.Tag = JoinTag({afterSeparator_, record.FName, record.FIcon, origin.Record, origin.Name});
+  item.Width = scene_.TextWidth ? scene_.TextWidth(title) : 0;
   out_.MaxLabelWidth = std::max(out_.MaxLabelWidth, item.Width);
   afterSeparator_ = false;
   const int number = static_cast<int>(out_.Items.size()) + 1;
@@ -98,7 +99,7 @@ void Builder::AddItem(const MenuRecord& record, int place) {
   }
   out_.Pages.back().LastLabel = number;
   item.Page = static_cast<int>(out_.Pages.size()) - 1;
-  item.TypeAheadKey = TypeAheadKey(title.Title, item.Page);
+  item.TypeAheadKey = TypeAheadKey(title, item.Page);
   out_.Items.push_back(std::move(item));
 }
 

@@ -58,8 +58,8 @@ struct MenuScene {
   /// The whole file. The first record is the menu's own header and no item.
   std::span<const MenuRecord> Records;
   std::string_view Key = "F2";
-  /// Titles may carry a record number behind a NUL.
-  bool HasFolderItems = false;
+  /// What each record stands for in the menu file; empty: for itself.
+  std::span<const EntryOrigin> Origins = {};
   float TwipsX = 15;
   float TwipsY = 15;
   float LineHeight = 195;     // of a label of one line

@@ -13,6 +13,7 @@ struct TagParts {
   std::string_view Command;
   std::string_view Icon;
   std::string_view Number;
+  std::string_view Name;
 };
 
 /// Takes what stands before the first NUL off the text, and the NUL with it.
@@ -31,7 +32,8 @@ TagParts SplitTag(std::string_view tag) noexcept {
     parts.Command.remove_prefix(1);
   }
   parts.Icon = TakePart(tag);
-  parts.Number = tag;
+  parts.Number = TakePart(tag);
+  parts.Name = tag;
   return parts;
 }
 
@@ -44,6 +46,10 @@ std::string JoinTag(const MenuTag& tag) {
   text += StripAtNull(tag.Icon);
   text += '\0';
   text += std::to_string(tag.RecordNumber);
+  if (!tag.Name.empty()) {
+    text += '\0';
+    text += tag.Name;
+  }
   return text;
 }
 
@@ -52,6 +58,8 @@ std::string TagCommand(std::string_view tag) { return std::string(SplitTag(tag).
 std::string TagIcon(std::string_view tag) { return std::string(SplitTag(tag).Icon); }
 
 int TagRecordNumber(std::string_view tag) { return ParseNumber(SplitTag(tag).Number).value_or(0); }
+
+std::string TagName(std::string_view tag) { return std::string(SplitTag(tag).Name); }
 
 bool TagFollowsSeparator(std::string_view tag) noexcept {
   return SplitTag(tag).Kind.starts_with(kAfterSeparator);

@@ -66,13 +66,17 @@ std::unique_ptr<forms::Label> frmQMenu::MakeItemLabel(int index) {
     Form_MouseDown(button, shift, x + Lbl[index].Left(), y + Lbl[index].Top());
   };
   label->MouseMove = [this, index](MouseButton down, ShiftState shift, float x, float y) {
-    if (StillAway()) return;
+    const float left = x + Lbl[index].Left();
+    const float top = y + Lbl[index].Top();
+    if (StillAway(left, top)) return;
     program_.PointerBelowItems = false;
-    Form_MouseMove(down, shift, x + Lbl[index].Left(), y + Lbl[index].Top());
+    Form_MouseMove(down, shift, left, top);
   };
   label->MouseUp = [this, index](MouseButton button, ShiftState shift, float x, float y) {
-    if (!program_.Entry.ItemDragging && StillAway()) return;
-    Form_MouseUp(button, shift, x + Lbl[index].Left(), y + Lbl[index].Top());
+    const float left = x + Lbl[index].Left();
+    const float top = y + Lbl[index].Top();
+    if (!program_.Entry.ItemDragging && StillAway(left, top)) return;
+    Form_MouseUp(button, shift, left, top);
   };
   WireDrags(*label, index);
   return label;
@@ -239,9 +243,15 @@ void frmQMenu::PresentMenu() {
 void frmQMenu::BringUp() {
   if (Visible()) return;
   ShowNoActivate();
-  // A menu that is rebuilt behind its still picture leaves the foreground alone, and so does one
-  // that opens under another program's drag.
-  if (!IsCaptured() && !program_.DragHolds()) SetForeground();
+  // Another program's drag keeps the foreground.
+  if (program_.DragHolds()) return;
+  // A menu that was rebuilt behind its still picture has the keyboard again, if the program still
+  // has it.
+  if (IsCaptured()) {
+    SetFocus();
+  } else {
+    SetForeground();
+  }
 }
 
 void frmQMenu::PlaceMenu() {
@@ -285,6 +295,7 @@ void frmQMenu::ResetQMenu() {
   CurItem = 0;
   PrevItem = 0;
   rebuilt_ = false;
+  pressed_ = false;
   HideArrows();
   HideUpDownButton();
   ActiveArrow = kNoArrow;

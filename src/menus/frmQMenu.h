@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
@@ -35,6 +36,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void UnloadWindow() override;
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
+  void HoldForMessage(bool owns) override { owns ? HoldInputOfOwner() : HoldInput(); }
+  void ReleaseAfterMessage() override { ReleaseInput(); }
   [[nodiscard]] bool MenuVisible() const override { return IsLoaded() && Visible(); }
   [[nodiscard]] const std::string& OwnerTag() const override { return Tag; }
   void SetOwnerTag(std::string tag) override { Tag = std::move(tag); }
@@ -83,6 +86,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   /// The command of an item; tells whether it follows a separator.
   [[nodiscard]] std::string GetExeName(int index);
   [[nodiscard]] std::string GetIconName(int index) const;
+  /// What an item is called: its caption, or its whole name in a folder of the shell.
+  [[nodiscard]] std::string NameOf(int index) const;
   [[nodiscard]] int GetRecordNum(int index) const;
   /// Gives an item its disabled look, and takes that of all items away.
   void DisableLabel(int index);
@@ -231,8 +236,11 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   [[nodiscard]] float PlaceForRoom();
 
   // Building (frmQMenuBuild.cpp).
-  /// The file to read, with its folder items expanded where there is a service for that.
-  [[nodiscard]] std::string ExpandFolders(std::string_view menuFile);
+  /// The menu with its folder items expanded, where it has open ones and there is a service for
+  /// that.
+  [[nodiscard]] std::optional<ExpandedMenu> ExpandFolders(std::string_view menuFile);
+  /// Writes the generated file, once the menu is up.
+  void KeepGenerated(const ExpandedMenu& expanded);
   void TakeLayout(const MenuLayout& layout);
   void DisplayFirstPage();
 
@@ -243,6 +251,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void ShowPage();
   /// Draws the page on show; `watched`: the captions come first and then one icon after the other.
   void DrawPage(bool watched);
+  void DrawPageOnce(bool watched);
   void DrawItemIcon(int index);
   void DrawRules();
   void PrintCaptions();
@@ -263,12 +272,16 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void DrawBox(int index);
   void HideBox();
   static void SetLine(forms::Line& line, const TwipLine& at);
+  /// The entry that an item stands for; tells whether it follows a separator.
+  [[nodiscard]] EntryEdit EntryOf(int index);
   void FillCurrentItem(int index);
 
   // Pointer (frmQMenuPointer.cpp).
   [[nodiscard]] bool PointerOver() const;
-  /// True while label events are to be ignored.
-  [[nodiscard]] bool StillAway();
+  /// True if the window is what lies at that place of it, twips.
+  [[nodiscard]] bool IsOver(float x, float y) const;
+  /// True while events at that place are to be ignored.
+  [[nodiscard]] bool StillAway(float x, float y);
   /// Selects what a pointer that stands still over a rebuilt menu is on.
   void FollowPointer();
   void TakeFocus();
@@ -315,6 +328,13 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   std::vector<ItemBox> pageBoxes_;
   /// The menu was rebuilt, and neither the pointer nor a key has done anything in it since.
   bool rebuilt_ = false;
+  /// A page is being drawn, and the colours have changed since that began.
+  bool drawingPage_ = false;
+  bool coloursChanged_ = false;
+  /// A menu of the shell is up for an item, or its command runs.
+  bool shellMenuUp_ = false;
+  /// The left button went down in this menu and has not come up again.
+  bool pressed_ = false;
   std::map<std::string, Picture, std::less<>> glyphs_;
 };
 

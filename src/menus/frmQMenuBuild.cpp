@@ -26,43 +26,52 @@ void frmQMenu::InitQMenu(std::string_view menuFile) {
   Lbl[0].SetCaption("lbl(0)");
 
   const std::string given(menuFile.substr(0, menuFile.find('\0')));
-  const std::string file = IsMenuFile(given) ? ExpandFolders(given) : given;
+  const std::optional<ExpandedMenu> expanded = ExpandFolders(given);
   // The folders' listing lets events through.
   if (!IsLoaded()) return;
-  const bool hasFolderItems = !EqualNoCase(file, given);
 
   menu_ = std::make_shared<BuiltMenu>();
   menu_->Source = given;
-  MenuFile = file;
+  MenuFile = expanded ? expanded->File : given;
   Hide();
   SetCaption("");
   Cls();
   ActiveArrow = kNoArrow;
   menu_->Room = PlaceForRoom();
   // What cannot be read gives a menu without items.
-  const std::vector<MenuRecord> records =
-      ReadAllRecords(program_.Services.Files, program_.Services.Ansi, file)
-          .ValueOr(std::vector<MenuRecord>{});
-  TakeLayout(LayOutMenu({.Records = records,
-                         .Key = MenuKey,
-                         .HasFolderItems = hasFolderItems,
-                         .TwipsX = TwipsX,
-                         .TwipsY = TwipsY,
-                         .LineHeight = Lbl[0].Height(),
-                         .WindowHeight = menu_->Room,
-                         .TextWidth = [this](std::string_view text) {
-                           const PixelSize size = program_.Windows.MeasureText(text, Lbl[0].Font());
-                           return static_cast<float>(size.width) *
-                                  program_.Windows.Screen().TwipsPerPixelX;
-                         }}));
+  menu_->Stored =
+      expanded ? expanded->Stored : ReadStoredRecords(program_.Services.Files, given).ValueOr({});
+  const std::vector<MenuRecord> stored =
+      expanded ? std::vector<MenuRecord>{} : ParseRecords(menu_->Stored, program_.Services.Ansi);
+  TakeLayout(LayOutMenu(
+      {.Records = expanded ? expanded->Records : stored,
+       .Key = MenuKey,
+       .Origins = expanded ? std::span(expanded->Origins) : std::span<const EntryOrigin>(),
+       .TwipsX = TwipsX,
+       .TwipsY = TwipsY,
+       .LineHeight = Lbl[0].Height(),
+       .WindowHeight = menu_->Room,
+       .TextWidth = [this](std::string_view text) {
+         const PixelSize size = program_.Windows.MeasureText(text, Lbl[0].Font());
+         return static_cast<float>(size.width) * program_.Windows.Screen().TwipsPerPixelX;
+       }}));
   PlaceMenu();
   DisplayFirstPage();
   cache_.Add(menu_);
+  if (expanded) KeepGenerated(*expanded);
 }
 
-std::string frmQMenu::ExpandFolders(std::string_view menuFile) {
+std::optional<ExpandedMenu> frmQMenu::ExpandFolders(std::string_view menuFile) {
   FolderMenusPort* const folders = program_.Ports.FolderMenus;
-  return folders != nullptr ? folders->Expand(MenuKey, menuFile) : std::string(menuFile);
+  if (folders == nullptr || !IsMenuFile(menuFile)) return std::nullopt;
+  return folders->Expand(MenuKey, menuFile);
+}
+
+void frmQMenu::KeepGenerated(const ExpandedMenu& expanded) {
+  FolderMenusPort* const folders = program_.Ports.FolderMenus;
+  if (folders == nullptr || folders->WriteGenerated(expanded)) return;
+  MenuFile = menu_->Source;
+  menu_->MenuInfo.File = MenuFile;
 }
 
 float frmQMenu::PlaceForRoom() {

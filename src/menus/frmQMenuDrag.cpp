@@ -16,13 +16,14 @@ using forms::ShiftState;
 void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, float y) {
   program_.KeyboardOnToolbar = false;
   if (rebuilt_) Form_MouseMove(MouseButton::None, shift, x, y);
+  pressed_ = button == MouseButton::Left;
   if (button != MouseButton::Left || !shift.Ctrl) return;
   if (program_.MenuBuilding || program_.Entry.ItemDragging || program_.ItemDropping) return;
   if (EqualNoCase(MenuKey, kMainMenuKey)) return;
   const int index = program_.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled() || HitItem(Page(), y) != index) return;
   FillCurrentItem(index);
-  StartCarry(program_);
+  if (MayBeCopied(program_, hWnd())) StartCarry(program_);
 }
 
 PixelPoint frmQMenu::OnScreen(float x, float y) const {

@@ -3,8 +3,10 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "core/MenuFile.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
+#include "core/SpecialFolders.h"
 #include "menus/MenuTag.h"
 #include "menus/frmQMenu.h"
 
@@ -18,6 +20,12 @@ std::string frmQMenu::GetExeName(int index) {
 
 std::string frmQMenu::GetIconName(int index) const {
   return Lbl.Has(index) ? TagIcon(Lbl[index].Tag) : std::string();
+}
+
+std::string frmQMenu::NameOf(int index) const {
+  if (!Lbl.Has(index)) return {};
+  std::string name = TagName(Lbl[index].Tag);
+  return name.empty() ? SingleAmpersands(Lbl[index].Caption()) : name;
 }
 
 int frmQMenu::GetRecordNum(int index) const {
@@ -128,8 +136,10 @@ void frmQMenu::EnableLabel(int index) {
 
 // ---- the current item ----
 
-void frmQMenu::FillCurrentItem(int index) {
-  EntryEdit& entry = program_.Entry;
+void frmQMenu::FillCurrentItem(int index) { SetCurrentEntry(program_.Entry, EntryOf(index)); }
+
+EntryEdit frmQMenu::EntryOf(int index) {
+  EntryEdit entry;
   entry.CurIcon = GetIconName(index);
   entry.CurTitle = SingleAmpersands(Lbl[index].Caption());
   entry.CurCommand = GetExeName(index);
@@ -137,11 +147,14 @@ void frmQMenu::FillCurrentItem(int index) {
   // Edits go to the menu file itself, by the record numbers that a generated one carries.
   entry.CurFile = menu_->Source;
   entry.CurMenuTag = MenuKey;
-  // An entry that a shell's folder was expanded to is named by its title in that folder.
-  if (StartsWithNoCase(entry.CurCommand, kSpecialFolderStart) && ParseNumber(entry.CurIcon)) {
-    entry.CurCommand = entry.CurTitle + "\\" + entry.CurCommand;
+  entry.CurStored = StoredRecord(menu_->Stored, RealRecord(entry.CurRecord));
+  // An entry that a folder of the shell was expanded to is told by its name in that folder.
+  if (!TagName(Lbl[index].Tag).empty()) {
+    entry.CurCommand =
+        SpecialFolderEntryCommand(NameOf(index), entry.CurCommand, program_.Services.Ansi);
     entry.CurIcon = entry.CurCommand;
   }
+  return entry;
 }
 
 void frmQMenu::RefreshQMenu() {

@@ -7,7 +7,6 @@
 
 namespace corvelle {
 
-using forms::MouseButton;
 using forms::ShiftState;
 
 void frmQMenu::ActivateKeyDown(int keyCode) {
@@ -81,8 +80,7 @@ void frmQMenu::Form_KeyPress(char32_t character) {
   if (character == forms::key::Enter) {
     const int index = program_.SelectedItem;
     if (index == 0) return;
-    PointerAway = false;
-    Form_MouseUp(MouseButton::Left, {}, Lbl[index].Left(), Lbl[index].Top());
+    ChooseItem(Lbl[index].Left(), Lbl[index].Top());
     return;
   }
   if (IsTypeAheadCharacter(character)) TypeAheadTo(character);

@@ -103,7 +103,7 @@ void frmQMenu::OpenDropped(const std::string& file, int item) {
   std::string command = GetExeName(item);
   // A folder of the shell goes with the title of the entry in it; any other one opens as itself.
   if (StartsWithNoCase(command, kSpecialFolderStart)) {
-    command += "\\" + SingleAmpersands(Lbl[item].Caption());
+    command += "\\" + NameOf(item);
   } else {
     command = Trim(command.substr(0, command.find('*')));
   }
@@ -120,18 +120,24 @@ void frmQMenu::InsertFiles(const std::vector<std::string>& names, int item) {
   const bool captures = capture != nullptr && !capture->MenuCaptured();
   if (captures) capture->CaptureMenu();
   auto outcome = EditOutcome::NothingToDo;
+  DroppedEntries dropped;
   {
     const forms::FlagScope busy(program_.ItemActionBusy);
-    const std::vector<MenuRecord> records = DroppedRecords(
-        names, [this](std::string_view name) { return Trim(GetFileTitle(program_, name)); });
-    outcome =
-        InsertDropped(program_.Services.Files, program_.Services.Ansi, file, position, records);
+    FileSystem& files = program_.Services.Files;
+    const CodePage& ansi = program_.Services.Ansi;
+    dropped = DroppedRecords(files, ansi, names, [this](std::string_view name) {
+      return Trim(GetFileTitle(program_, name));
+    });
+    outcome = InsertDropped(files, ansi, file, position, dropped.Records);
   }
   // After a failure the menu shows what the file still holds.
   if (outcome == EditOutcome::Edited && program_.Ports.Toolbar != nullptr) {
     program_.Ports.Toolbar->RefreshMenu(key);
   }
   if (captures) capture->ReleaseMenu();
+  if (program_.Ports.Toolbar != nullptr) {
+    program_.Ports.Toolbar->TellRefused(std::move(dropped.Refused));
+  }
 }
 
 // The dialog writes the entry before the item under the drop, or at the end of the button's menu.

@@ -45,6 +45,8 @@ void frmQMenu::LblButton_MouseUp(int index, MouseButton button, float x, float y
 }
 
 void frmQMenu::TurnTo(int page) {
+  // A page that is being drawn stays until it is done.
+  if (drawingPage_) return;
   DropSelection();
   PrevPage = CurMenu;
   CurMenu = page;

@@ -15,6 +15,8 @@ namespace {
 
 /// Pictures of pages that a menu keeps besides its first page and the one on show.
 constexpr int kKeptPictures = 32;
+/// How often a page is drawn whose colours change each time meanwhile.
+constexpr int kMostRedraws = 3;
 
 }  // namespace
 
@@ -61,7 +63,20 @@ void frmQMenu::ShowSlide() {
   if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
 }
 
+// The shell may let messages in while it is asked for icons: meanwhile nobody puts another menu or
+// page into the window, and colours that change have the page drawn once more.
 void frmQMenu::DrawPage(bool watched) {
+  if (std::exchange(drawingPage_, true)) return;
+  const forms::FlagScope building(program_.MenuBuilding);
+  for (int tries = 0; tries < kMostRedraws; ++tries) {
+    coloursChanged_ = false;
+    DrawPageOnce(watched && tries == 0);
+    if (!coloursChanged_ || !IsLoaded()) break;
+  }
+  drawingPage_ = false;
+}
+
+void frmQMenu::DrawPageOnce(bool watched) {
   // What is painted meanwhile shows what is drawn here, and nothing of another page.
   MenuReady = false;
   SetAutoRedraw(true);
@@ -75,6 +90,7 @@ void frmQMenu::DrawPage(bool watched) {
   }
   for (int i = FirstLabel; i <= LastLabel; ++i) {
     DrawItemIcon(i);
+    if (!IsLoaded()) return;
     if (watched) Refresh();
   }
   if (watched) WipeCaptions();
@@ -113,8 +129,11 @@ void frmQMenu::KeepPage() {
 void frmQMenu::DrawItemIcon(int index) {
   const PixelPoint at = forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH),
                                         program_.Windows.Screen());
+  const std::string icon = GetIconName(index);
+  // No canvas is lent while the shell is asked.
+  icons_.LoadSmallIcon(icon);
   DrawPixels(RectAt(at, {MenuIcons::kCell, MenuIcons::kCell}),
-             [&](Canvas& canvas) { icons_.DrawMenuIcon(canvas, at, GetIconName(index)); });
+             [&](Canvas& canvas) { icons_.DrawMenuIcon(canvas, at, icon); });
 }
 
 void frmQMenu::DrawRules() {
@@ -188,6 +207,7 @@ void frmQMenu::ColoursChanged() {
   glyphs_.clear();
   icons_.ResetPicIcons();
   cache_.DropPictures();
+  coloursChanged_ = true;
   if (!MenuReady || Labels == 0) return;
   UpDownArrows();
   const int selected = program_.SelectedItem;

@@ -7,6 +7,7 @@
 #include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "forms/Scale.h"
+#include "forms/Scopes.h"
 #include "launch/LaunchItem.h"
 #include "menus/frmQMenu.h"
 #include "platform/DesktopWindows.h"
@@ -23,8 +24,13 @@ bool frmQMenu::PointerOver() const {
   return under != kNoWindow && under == hWnd();
 }
 
-bool frmQMenu::StillAway() {
-  if (PointerAway && PointerOver()) PointerAway = false;
+// The place that an event tells: by the time the event is dealt with the pointer may be elsewhere.
+bool frmQMenu::IsOver(float x, float y) const {
+  return program_.Services.Desktop.WindowAt(OnScreen(x, y)) == hWnd();
+}
+
+bool frmQMenu::StillAway(float x, float y) {
+  if (PointerAway && IsOver(x, y)) PointerAway = false;
   return PointerAway;
 }
 
@@ -35,7 +41,7 @@ void frmQMenu::TakeFocus() {
 
 // ---- moves ----
 
-void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*/, float y) {
+void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, float y) {
   PrevItem = program_.SelectedItem;
   if (program_.MenuBuilding) return;
   program_.KeyboardOnToolbar = false;
@@ -48,7 +54,7 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float /*x*
     HideUpDownButton();
     ActiveArrow = kNoArrow;
   }
-  if (!PointerOver()) {
+  if (!IsOver(x, y)) {
     DropSelection();
     CurItem = 0;
     ActiveArrow = kNoArrow;
@@ -94,7 +100,12 @@ void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float
   program_.KeyboardOnToolbar = false;
   if (EndCarry(program_, OnScreen(x, y), button, shift)) return;
   if (program_.MenuBuilding) return;
-  if (button == MouseButton::Left && !PointerAway) ChooseItem(x, y);
+  const bool pressedHere = std::exchange(pressed_, false);
+  if (button == MouseButton::Left && !StillAway(x, y)) {
+    // A click says itself where the hand was, though the selection may have gone since.
+    if (pressedHere && program_.SelectedItem == 0) Form_MouseMove(button, shift, x, y);
+    ChooseItem(x, y);
+  }
   if (button == MouseButton::Right) OfferItem(shift);
 }
 
@@ -112,15 +123,14 @@ void frmQMenu::ChooseItem(float x, float y) {
     DropSelection();
     return;
   }
-  const std::string title = SingleAmpersands(Lbl[hit].Caption());
+  const std::string title = NameOf(hit);
   const bool mainMenu = EqualNoCase(MenuKey, kMainMenuKey);
   // The program's own menu acts by its captions.
   const std::string command =
       mainMenu ? Trim(SingleAmpersands(Lbl[hit].Caption())) : GetExeName(hit);
   DropSelection();
-  // The menu is gone before the item starts.
+  // The menu is gone before the item starts, and nothing comes between the two.
   CloseMenu();
-  program_.DoEvents();
   RunItem(mainMenu, hit, command, title);
 }
 
@@ -150,7 +160,6 @@ void frmQMenu::OfferItem(ShiftState shift) {
   const int index = program_.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled()) return;
   KeyboardActive = true;
-  FillCurrentItem(index);
   SavedMenuKey = MenuKey;
   if (OffersShellMenu(EqualNoCase(MenuKey, kMainMenuKey), program_.OptionFlags.At(19),
                       shift.Ctrl) &&
@@ -158,20 +167,24 @@ void frmQMenu::OfferItem(ShiftState shift) {
     OfferShellMenu(index);
     return;
   }
-  if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup();
+  if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup(EntryOf(index));
 }
 
 void frmQMenu::OfferShellMenu(int index) {
+  FillCurrentItem(index);
   // The item may be another one by the time the menu of the shell is gone, and so may the window.
   const std::string command = GetExeName(index);
-  const std::string title = SingleAmpersands(Lbl[index].Caption());
+  const std::string title = NameOf(index);
   const std::string key = MenuKey;
   const auto watch = MakeWatch();
-  if (!program_.Ports.SpecialFolders->ShowContextMenu(
-          command, title, program_.Services.Pointer.PointerPosition(), hWnd()) ||
-      watch.Gone()) {
-    return;
-  }
+  const auto runs = [&] {
+    // Until the user has chosen, a pointer that passes over the strip opens no other menu.
+    const forms::CountScope asking(program_.OpenQuestions);
+    const forms::FlagScope offering(shellMenuUp_);
+    return program_.Ports.SpecialFolders->ShowContextMenu(
+        command, title, program_.Services.Pointer.PointerPosition(), hWnd());
+  };
+  if (!runs() || watch.Gone()) return;
   // A menu that came up meanwhile is another matter.
   if (IsLoaded() && Visible() && EqualNoCase(MenuKey, key)) CloseMenu();
 }
@@ -180,6 +193,8 @@ void frmQMenu::OfferShellMenu(int index) {
 
 void frmQMenu::Timer1_Timer() {
   if (program_.MenuBuilding) return;
+  // A message or a popup of the menu is no going away; what a command of the shell shows is.
+  if (program_.OpenQuestions > 0 && !shellMenuUp_) return;
   // A drag decides which menu is up, but one that is hidden under it has to go, to come up again.
   if (program_.DragHolds() && Visible()) return;
   // A still picture of the menu does not outlive the rebuild that it was made for.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "menus/GeneratedMenu.h"
 #include "platform/ShellIcons.h"
@@ -85,10 +86,13 @@ clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
     const std::string path = found.PathOf(file);
     if (item.UpdateFolder) paths.push_back(path);
     // The shell is not asked for what no menu can show.
-    if (!menu.Takes(path)) continue;
+    if (menu.IsFull()) break;
     if (!item.Merged && last != found.Folders.size() && last != file.Folder) menu.AddRule();
     last = file.Folder;
-    menu.AddEntry(record, TitleOf(program, item, path, file.Name), path, path);
+    // What no record can hold starts from the menu all the same.
+    const std::string stored =
+        PathForRecord(program.Services.Files, program.Services.Ansi, path).value_or(path);
+    menu.AddEntry(record, {TitleOf(program, item, path, file.Name), stored, stored});
   }
   folder.RecEnd = menu.Count();
   return folder;

@@ -61,7 +61,7 @@ clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
     KeepList(program, cache, ListCacheBytes(*lines, program.Services.Ansi));
     for (const std::string& line : *lines) {
       const ShellFolderLine entry = ParseShellFolderLine(line);
-      menu.AddEntry(record, entry.Name, entry.Icon, command);
+      menu.AddEntry(record, {entry.Name, entry.Icon, command}, entry.Name);
     }
     folder.RecTotal = static_cast<int>(lines->size());
   } else {

@@ -44,7 +44,8 @@ class DesktopWindows {
   [[nodiscard]] virtual WindowId ActiveWindow() const noexcept = 0;
   [[nodiscard]] virtual WindowId ForegroundWindow() const noexcept = 0;
 
-  /// Makes every visible top-level window paint what it still owes.
+  /// Makes every visible top-level window of the program paint what it still owes. Those of other
+  /// programs are left alone.
   virtual void PaintVisibleWindows() = 0;
 };
 

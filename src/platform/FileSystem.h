@@ -33,6 +33,8 @@ struct FileEntry {
   bool System = false;
   bool Temporary = false;
   std::uint64_t Length = 0;  // bytes
+
+  friend bool operator==(const FileEntry&, const FileEntry&) = default;
 };
 
 /// The disk. Paths are Windows paths in UTF-8, with or without a trailing backslash for folders;
@@ -76,6 +78,13 @@ class FileSystem {
   /// was before, or still missing, and nothing lies beside it. AccessDenied for a read-only file.
   virtual FileStatus Replace(std::string_view path, std::string_view bytes) = 0;
 
+  /// The same for one of many files that can be made again: it returns before the bytes are on the
+  /// disk, so that only a loss of power can leave the file without them.
+  virtual FileStatus ReplaceUnflushed(std::string_view path, std::string_view bytes) = 0;
+
+  /// Returns when what was written to a file before is on the disk.
+  virtual FileStatus Flush(std::string_view path) = 0;
+
   /// Removes a file. AccessDenied for a read-only one, InUse for one that is held open.
   virtual FileStatus Remove(std::string_view path) = 0;
 
@@ -97,6 +106,10 @@ class FileSystem {
   /// The path in its long form with the case that the disk keeps; the path as given when the disk
   /// does not know it.
   [[nodiscard]] virtual std::string LongPath(std::string_view path) = 0;
+
+  /// The path of a file or folder with the short names ("LETTER~1.TXT") that the disk keeps for its
+  /// parts; a part without one stays as it is. Empty when there is no such file or folder.
+  [[nodiscard]] virtual std::string ShortPath(std::string_view path) = 0;
 };
 
 }  // namespace corvelle

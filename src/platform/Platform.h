@@ -10,6 +10,7 @@ class FileAssociations;
 class FileSystem;
 class Input;
 class KeySynthesis;
+class Lookups;
 class Registry;
 class ShellExec;
 class ShellFiles;
@@ -38,6 +39,7 @@ struct Platform {
   ShellFolders& Folders;
   AppBars& Bars;
   TrayIcons& Tray;
+  Lookups& SlowAnswers;
 };
 
 }  // namespace corvelle

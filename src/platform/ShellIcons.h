@@ -40,8 +40,8 @@ class ShellIcons {
   virtual bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                               IconStyle style) = 0;
 
-  /// Draws icon `index` of an icon file or program at `size` by `size`. False when the file has no
-  /// such icon. Keeps no handle.
+  /// Draws icon `index` of an icon file or program at `size` by `size`; below 0 the one whose
+  /// resource has the number -`index`. False when the file has no such icon. Keeps no handle.
   virtual bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                             int size) = 0;
 

@@ -1,19 +1,11 @@
 #include "toolbar/AppBarRules.h"
 
-#include "base/Numbers.h"
-
 namespace corvelle {
 namespace {
 
-constexpr int kTopFrame = 3;     // pixels of the frame that a bar at the top hides above the screen
-constexpr float kProbeFar = 50;  // pixels along the strip: beyond its first button
-constexpr float kProbeNear = 10;
+constexpr int kTopFrame = 3;    // pixels of the frame that a bar at the top hides above the screen
 constexpr float kFrame = 3;     // pixels of the strip's thickness besides its buttons
 constexpr float kFarFrame = 4;  // the same at the bottom and on the right
-
-int Pixels(float twips, float twipsOfAPixel) noexcept {
-  return RoundToInt(static_cast<double>(twips / twipsOfAPixel));
-}
 
 }  // namespace
 
@@ -62,37 +54,38 @@ PixelRect BarWindow(Edge at, const BarPlace& place, PixelSize bar) noexcept {
   return RectAt({rc.left, rc.top - place.Lift}, {rc.right, bar.height});
 }
 
-bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner, PixelSize screen) noexcept {
+bool PointerIsOff(Edge at, PixelPoint pointer, const PixelRect& window, PixelSize screen) noexcept {
   if (!RectAt({0, 0}, screen).Contains(pointer)) return true;
   switch (at) {
     case Edge::Bottom:
-      return pointer.y < corner.y;
+      return pointer.y < window.top || pointer.y >= window.bottom;
     case Edge::Left:
-      return pointer.x > corner.x;
+      return pointer.x != window.left;
     case Edge::Right:
-      return pointer.x < corner.x;
+      return pointer.x < window.left || pointer.x >= window.right;
     case Edge::Top:
       break;
   }
-  return pointer.y > corner.y;
+  return pointer.y != window.top;
 }
 
-bool PointerReveals(Edge at, PixelPoint pointer, PixelPoint corner, PixelSize screen) noexcept {
-  return !PointerIsOff(at, pointer, corner, screen);
+bool PointerReveals(Edge at, PixelPoint pointer, const PixelRect& window,
+                    PixelSize screen) noexcept {
+  return !PointerIsOff(at, pointer, window, screen);
 }
 
-bool IsOffEdge(Edge at, const TwipRect& window, TwipSize screen) noexcept {
+bool IsOffEdge(Edge at, const PixelRect& window, PixelSize screen) noexcept {
   switch (at) {
     case Edge::Bottom:
-      return window.Bottom() < screen.Height;
+      return window.bottom < screen.height;
     case Edge::Left:
-      return window.Left > 0;
+      return window.left > 0;
     case Edge::Right:
-      return window.Right() < screen.Width;
+      return window.right < screen.width;
     case Edge::Top:
       break;
   }
-  return window.Top > 0;
+  return window.top > 0;
 }
 
 TwipPoint RevealedCorner(Edge at, const TwipRect& window, TwipSize twips) noexcept {
@@ -107,24 +100,6 @@ TwipPoint RevealedCorner(Edge at, const TwipRect& window, TwipSize twips) noexce
       break;
   }
   return {window.Left, window.Top == 0 ? -kTopFrame * twips.Height : window.Top};
-}
-
-PixelPoint ProbePoint(Edge at, const TwipRect& window, TwipSize twips) noexcept {
-  const float left = window.Left / twips.Width;
-  const float top = window.Top / twips.Height;
-  switch (at) {
-    case Edge::Left:
-      return {Pixels(window.Width / 2 + window.Left, twips.Width),
-              RoundToInt(static_cast<double>(top + kProbeFar))};
-    case Edge::Right:
-    case Edge::Bottom:
-      return {RoundToInt(static_cast<double>(left + kProbeNear)),
-              RoundToInt(static_cast<double>(top + kProbeNear))};
-    case Edge::Top:
-      break;
-  }
-  return {RoundToInt(static_cast<double>(left + kProbeFar)),
-          Pixels(window.Height / 2 + window.Top, twips.Height)};
 }
 
 TwipSize StretchedSingles(Edge at, const TwipRect& window, const TwipRect& singles,

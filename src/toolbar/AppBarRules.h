@@ -33,27 +33,23 @@ struct BarPlace {
 /// says, counted from the screen's corner.
 [[nodiscard]] PixelRect BarWindow(Edge at, const BarPlace& place, PixelSize bar) noexcept;
 
-/// True if the pointer is past the inner side of a docked strip's line, or on another screen, so
-/// that the strip may hide; `corner` is the upper left corner of the strip's window, `screen` the
-/// size of the primary screen.
-[[nodiscard]] bool PointerIsOff(Edge at, PixelPoint pointer, PixelPoint corner,
+/// True if the pointer is past the inner side of a docked strip's line, or outside of the line
+/// where another bar lies there, or on another screen, so that the strip may hide; `window` is
+/// where the strip's window is, `screen` the size of the primary screen.
+[[nodiscard]] bool PointerIsOff(Edge at, PixelPoint pointer, const PixelRect& window,
                                 PixelSize screen) noexcept;
 
-/// True if the pointer is on or outside of a docked strip's line, which reveals the strip.
-[[nodiscard]] bool PointerReveals(Edge at, PixelPoint pointer, PixelPoint corner,
+/// True if the pointer is on a docked strip's line, which reveals the strip.
+[[nodiscard]] bool PointerReveals(Edge at, PixelPoint pointer, const PixelRect& window,
                                   PixelSize screen) noexcept;
 
 /// True if the line of a hidden strip does not touch its edge of the screen: another bar lies
-/// outside of it. Twips.
-[[nodiscard]] bool IsOffEdge(Edge at, const TwipRect& window, TwipSize screen) noexcept;
+/// outside of it.
+[[nodiscard]] bool IsOffEdge(Edge at, const PixelRect& window, PixelSize screen) noexcept;
 
 /// Where a strip goes that comes out of its line; `window` has the strip's full size already.
 /// Twips; `twips` are those of a pixel on both axes.
 [[nodiscard]] TwipPoint RevealedCorner(Edge at, const TwipRect& window, TwipSize twips) noexcept;
-
-/// A point of the strip at which another window would show that it covers the strip. `window` in
-/// twips; a strip at no edge is looked at like one at the top.
-[[nodiscard]] PixelPoint ProbePoint(Edge at, const TwipRect& window, TwipSize twips) noexcept;
 
 /// Size of the box of single buttons when it reaches to the end of the window. Twips. The room left
 /// at the end is two of the horizontal pixels on both axes.

@@ -1,5 +1,6 @@
 #include "toolbar/DragImage.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -11,15 +12,14 @@
 #include "icons/IconResolution.h"
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
+#include "platform/ShellIcons.h"
 
 namespace corvelle {
 namespace {
 
 constexpr int kFollowMilliseconds = 100;
-constexpr int kSize = 32;  // pixels
-constexpr PixelPoint kMiddle{kSize / 2, kSize / 2};
-constexpr PixelRect kWhole{0, 0, kSize, kSize};
-constexpr int kGlyphScale = 2;  // the program's own pictures are half as large
+constexpr int kLeastSize = 32;  // pixels
+constexpr int kGlyphSize = 16;
 constexpr Rgb kBlack = 0x00000000;
 constexpr Rgb kWhite = 0x00FFFFFF;
 
@@ -33,7 +33,9 @@ DragImage::DragImage(Program& program) : Timer1(program.Windows), program_(progr
 
 void DragImage::SetDragImage(std::string_view icon) {
   forms::WindowSystem& windows = program_.Windows;
-  windows.SetMouseIcon(MakePicture(Trim(icon)), kMiddle);
+  const Picture picture = MakePicture(Trim(icon));
+  const PixelSize size = picture ? picture->Size() : PixelSize{};
+  windows.SetMouseIcon(picture, {size.width / 2, size.height / 2});
   windows.SetMousePointer(forms::MousePointer::Custom);
   DragCursorOk = true;
   Timer1.SetEnabled(true);
@@ -46,32 +48,38 @@ void DragImage::RemoveDragImage() {
   program_.Windows.SetMouseIcon(nullptr, {});
 }
 
+int DragImage::PictureSize() const {
+  return std::max(program_.Services.Icons.IconWidth(IconList::Large), kLeastSize);
+}
+
 Picture DragImage::MakePicture(std::string_view icon) {
+  const int scale = PictureSize() / kGlyphSize;
   const IconForm form = ClassifyIcon(icon,
                                      {.AppPath = program_.AppPath,
                                       .IconsPath = program_.IconsPath,
                                       .WebLinkIcon = program_.WebLinkIcon},
                                      IconCaller::Menu);
-  Picture picture = form.Kind == IconKind::BuiltIn
-                        ? MakeGlyph(program_.Windows, form.Text, kGlyphScale)
-                        : CutOutIcon(icon);
-  return picture ? picture : MakeGlyph(program_.Windows, "hand", kGlyphScale);
+  Picture picture = form.Kind == IconKind::BuiltIn ? MakeGlyph(program_.Windows, form.Text, scale)
+                                                   : CutOutIcon(icon);
+  return picture ? picture : MakeGlyph(program_.Windows, "hand", scale);
 }
 
 // Icons have soft edges, and a pointer has none: each pixel is shown whole or not at all.
 Picture DragImage::CutOutIcon(std::string_view icon) {
   forms::WindowSystem& windows = program_.Windows;
-  const std::unique_ptr<Canvas> onBlack = windows.CreateCanvas(kWhole.Size());
-  const std::unique_ptr<Canvas> onWhite = windows.CreateCanvas(kWhole.Size());
-  onBlack->FillBox(kWhole, kBlack);
-  onWhite->FillBox(kWhole, kWhite);
-  if (!ResolveAndDraw(program_, *onBlack, icon, {0, 0}, kSize) ||
-      !ResolveAndDraw(program_, *onWhite, icon, {0, 0}, kSize)) {
+  const int side = PictureSize();
+  const PixelRect whole{0, 0, side, side};
+  const std::unique_ptr<Canvas> onBlack = windows.CreateCanvas(whole.Size());
+  const std::unique_ptr<Canvas> onWhite = windows.CreateCanvas(whole.Size());
+  onBlack->FillBox(whole, kBlack);
+  onWhite->FillBox(whole, kWhite);
+  if (!ResolveAndDraw(program_, *onBlack, icon, {0, 0}, side) ||
+      !ResolveAndDraw(program_, *onWhite, icon, {0, 0}, side)) {
     return nullptr;
   }
-  std::shared_ptr<Canvas> picture = windows.CreateCanvas(kWhole.Size());
-  for (int y = 0; y < kSize; ++y) {
-    for (int x = 0; x < kSize; ++x) {
+  std::shared_ptr<Canvas> picture = windows.CreateCanvas(whole.Size());
+  for (int y = 0; y < side; ++y) {
+    for (int x = 0; x < side; ++x) {
       const Rgb pixel =
           CutOut(onBlack->PixelAt({x, y}), onWhite->PixelAt({x, y}), forms::Image::kMask);
       picture->FillBox({x, y, x + 1, y + 1}, pixel);

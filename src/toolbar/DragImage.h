@@ -29,6 +29,8 @@ class DragImage final : public DragImagePort {
   void Timer1_Timer();
   [[nodiscard]] CarryScene Scene(int button) const;
   void ShowPointer();
+  /// The side of the picture in pixels: that of the shell's large icons, which follows the scale.
+  [[nodiscard]] int PictureSize() const;
   /// The icon cut out of its ground; a hand where the icon cannot be drawn.
   [[nodiscard]] Picture MakePicture(std::string_view icon);
   [[nodiscard]] Picture CutOutIcon(std::string_view icon);

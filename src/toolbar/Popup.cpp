@@ -2,7 +2,6 @@
 
 #include "core/Program.h"
 #include "forms/Scopes.h"
-#include "platform/DesktopWindows.h"
 #include "platform/Input.h"
 #include "toolbar/PopupRules.h"
 
@@ -43,28 +42,24 @@ void Popup::DoButtonMenu() {
   mnuItem.front().Visible = false;
 }
 
-void Popup::ShowToolbarPopup() {
+void Popup::ShowToolbarPopup(EntryEdit entry) {
+  // A right click that arrives meanwhile leaves the entry that the popup is for.
   if (busy_ || program_.ToolbarWindow() == kNoWindow) return;
   const forms::FlagScope busy(busy_);
-  program_.SetHint("");
-  program_.Entry.CurFile = SourceMenuFile(program_.Entry.CurFile);
+  entry.CurFile = SourceMenuFile(entry.CurFile);
+  SetCurrentEntry(program_.Entry, entry);
   DoButtonMenu();
+  program_.SetHint("");
   const int chosen = LetChoose();
   // Anything can have happened meanwhile, the end of the program too.
-  if (chosen > 0 && program_.ToolbarWindow() != kNoWindow) mnuItem_Click(chosen);
+  if (chosen > 0 && program_.ToolbarWindow() != kNoWindow) {
+    SetCurrentEntry(program_.Entry, entry);
+    mnuItem_Click(chosen);
+  }
   ClearButtonMenu();
 }
 
 // The popup belongs to the menu window when that is up, so that its selection stays to be seen.
-WindowId Popup::Owner() const {
-  return MenuUp() ? program_.Ports.QMenu->WindowHandle() : program_.ToolbarWindow();
-}
-
-bool Popup::MenuUp() const {
-  return program_.Ports.QMenu != nullptr && program_.Ports.QMenu->MenuVisible();
-}
-
-// While the user chooses, a pointer that passes over the strip opens no other menu.
 int Popup::LetChoose() {
   std::vector<forms::PopupItem> lines;
   lines.reserve(mnuItem.size());
@@ -74,18 +69,10 @@ int Popup::LetChoose() {
                      .Checked = element.Checked,
                      .Visible = element.Visible});
   }
-  const bool overMenu = MenuUp();
-  if (overMenu) {
-    program_.Ports.Toolbar->SetPointerWatch(false);
-    program_.Ports.QMenu->SetPoll(false);
-  }
-  const int chosen = program_.Windows.ShowPopup(
-      Owner(), lines, program_.Services.Pointer.PointerPosition(), forms::popup::RightButton);
-  if (overMenu && MenuUp() && program_.ToolbarWindow() != kNoWindow) {
-    program_.Ports.QMenu->SetPoll(true);
-    program_.Ports.Toolbar->SetPointerWatch(true);
-  }
-  return chosen;
+  const forms::CountScope asking(program_.OpenQuestions);
+  return program_.Windows.ShowPopup(program_.WindowInUse(), lines,
+                                    program_.Services.Pointer.PointerPosition(),
+                                    forms::popup::RightButton);
 }
 
 }  // namespace corvelle

@@ -11,14 +11,13 @@ namespace corvelle {
 
 class Program;
 
-/// The popup menu of right clicks. It acts on the current entry (Program::Entry).
+/// The popup menu of right clicks. Its commands act on the entry that is current (Program::Entry)
+/// when they begin.
 class Popup final : public PopupPort {
  public:
   explicit Popup(Program& program);
 
-  /// Fills the popup for the current entry, shows it at the pointer and carries out the choice.
-  /// Does nothing while one is up or carries out its choice.
-  void ShowToolbarPopup() override;
+  void ShowToolbarPopup(EntryEdit entry) override;
 
   /// Fills the lines for the current entry.
   void DoButtonMenu();
@@ -40,8 +39,6 @@ class Popup final : public PopupPort {
 
  private:
   [[nodiscard]] int LetChoose();
-  [[nodiscard]] WindowId Owner() const;
-  [[nodiscard]] bool MenuUp() const;
 
   // The commands (PopupCommands.cpp).
   using Command = void (Popup::*)();
@@ -64,8 +61,8 @@ class Popup final : public PopupPort {
   void ShowFolderProperties();
 
   void Insert(const MenuRecord& record);
-  void AfterFolderEdit(EditOutcome outcome);
-  void Settle(EditOutcome outcome);
+  void AfterFolderEdit(EditOutcome outcome, const EntryEdit& entry);
+  void Settle(EditOutcome outcome, const std::string& file);
   void ShowError(std::string_view path, FileError error);
 
   Program& program_;

@@ -41,13 +41,13 @@ void Popup::mnuItem_Click(int index) {
 }
 
 void Popup::ShowError(std::string_view path, FileError error) {
-  program_.Say(program_.ToolbarWindow(), NumberedFileError(program_.Services.Files, path, error),
+  program_.Say(program_.WindowInUse(), NumberedFileError(program_.Services.Files, path, error),
                forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
 // A disk that refused has left the file as it was; the user learns that nothing was done.
-void Popup::Settle(EditOutcome outcome) {
-  if (outcome == EditOutcome::Failed) ShowError(program_.Entry.CurFile, outcome.Reason());
+void Popup::Settle(EditOutcome outcome, const std::string& file) {
+  if (outcome == EditOutcome::Failed) ShowError(file, outcome.Reason());
 }
 
 void Popup::ShowIconLibrary() {
@@ -55,16 +55,16 @@ void Popup::ShowIconLibrary() {
 }
 
 void Popup::OpenEntry() {
-  const std::string tag = program_.Entry.CurMenuTag;
-  if (IsButtonTag(tag)) {
-    program_.Ports.Toolbar->OpenMenu(tag);
+  const EntryEdit entry = program_.Entry;
+  if (IsButtonTag(entry.CurMenuTag)) {
+    program_.Ports.Toolbar->OpenMenu(entry.CurMenuTag);
   } else {
-    LaunchItem(program_, program_.Entry.CurCommand);
+    LaunchItem(program_, entry.CurCommand);
   }
 }
 
 void Popup::Refresh() {
-  const std::string& tag = program_.Entry.CurMenuTag;
+  const std::string tag = program_.Entry.CurMenuTag;
   if (EqualNoCase(tag, "Q1")) {
     program_.Ports.Toolbar->ResetMenu();
   } else if (IsMenuTag(tag)) {
@@ -78,29 +78,33 @@ void Popup::Refresh() {
 
 void Popup::CutEntry() {
   const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const std::string file = program_.Entry.CurFile;
   CopyEntry(program_.Entry);
-  Settle(DeleteItem(program_, true));
+  Settle(DeleteItem(program_, true), file);
 }
 
-void Popup::CopyCurrentEntry() { CopyEntry(program_.Entry); }
+void Popup::CopyCurrentEntry() {
+  if (MayBeCopied(program_, program_.ToolbarWindow())) CopyEntry(program_.Entry);
+}
 
 void Popup::PasteEntry() {
   const forms::FlagScope rewriting(program_.ItemActionBusy);
-  Settle(PasteItem(program_));
+  const std::string file = program_.Entry.CurFile;
+  Settle(PasteItem(program_), file);
 }
 
 // ---- deleting ----
 
 // What was not deleted cannot be brought back: the undo store then keeps what it had.
 void Popup::DeleteEntry() {
-  const std::string& tag = program_.Entry.CurMenuTag;
+  const EntryEdit before = program_.Entry;
+  const std::string& tag = before.CurMenuTag;
   if (!IsSinglesTag(tag) && !IsButtonTag(tag) && !IsMenuTag(tag)) return;
   const forms::FlagScope rewriting(program_.ItemActionBusy);
-  const EntryEdit before = program_.Entry;
   RememberForUndo(program_.Entry);
   const EditOutcome outcome = DeleteItem(program_, false);
   if (outcome != EditOutcome::Edited) RestoreUndo(program_.Entry, before);
-  Settle(outcome);
+  Settle(outcome, before.CurFile);
 }
 
 void Popup::DeleteSeparator() {
@@ -113,12 +117,13 @@ void Popup::DeleteSeparator() {
     outcome = DeleteItem(program_, false);
     if (outcome != EditOutcome::Edited) RestoreUndo(program_.Entry, before);
   }
-  Settle(outcome);
+  Settle(outcome, before.CurFile);
 }
 
 void Popup::UndoDelete() {
   const forms::FlagScope rewriting(program_.ItemActionBusy);
-  Settle(UndoDeleteItem(program_));
+  const std::string file = program_.Entry.CurFile;
+  Settle(UndoDeleteItem(program_), file);
 }
 
 // ---- new entries ----
@@ -130,8 +135,9 @@ void Popup::AddButton() {
 
 void Popup::Insert(const MenuRecord& record) {
   const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const std::string file = program_.Entry.CurFile;
   SetClipboard(program_.Entry, record);
-  Settle(PasteItem(program_));
+  Settle(PasteItem(program_), file);
   SetClipboard(program_.Entry);
 }
 
@@ -141,31 +147,33 @@ void Popup::InsertSeparator() { Insert(NewSeparatorRecord()); }
 
 // ---- folder items ----
 
-void Popup::AfterFolderEdit(EditOutcome outcome) {
+void Popup::AfterFolderEdit(EditOutcome outcome, const EntryEdit& entry) {
   // A file that no longer holds the item is not what the menu shows.
-  if (outcome != EditOutcome::Failed) {
-    program_.Ports.Toolbar->RefreshMenu(program_.Entry.CurMenuTag);
-  }
-  Settle(outcome);
+  if (outcome != EditOutcome::Failed) program_.Ports.Toolbar->RefreshMenu(entry.CurMenuTag);
+  Settle(outcome, entry.CurFile);
 }
 
 void Popup::OpenFolder() {
   const forms::FlagScope rewriting(program_.ItemActionBusy);
-  AfterFolderEdit(OpenFolderItem(program_.Services.Files, program_.Services.Ansi, program_.Entry));
+  const EntryEdit entry = program_.Entry;
+  AfterFolderEdit(OpenFolderItem(program_.Services.Files, program_.Services.Ansi, entry), entry);
 }
 
 void Popup::CloseFolder() {
   const forms::FlagScope rewriting(program_.ItemActionBusy);
-  AfterFolderEdit(CloseFolderItem(program_.Services.Files, program_.Services.Ansi, program_.Entry));
+  const EntryEdit entry = program_.Entry;
+  AfterFolderEdit(CloseFolderItem(program_.Services.Files, program_.Services.Ansi, entry), entry);
 }
 
 // ---- properties ----
 
 void Popup::ShowProperties() {
+  const EntryEdit entry = program_.Entry;
   program_.Ports.Toolbar->ResetMenu();
   PropertiesPort* const properties = program_.Ports.Properties;
   if (properties == nullptr || program_.ToolbarWindow() == kNoWindow) return;
-  const EntryEdit entry = program_.Entry;
+  // Events ran while the menu closed, and the window reads the current entry.
+  SetCurrentEntry(program_.Entry, entry);
   if (IsSinglesTag(entry.CurMenuTag) && entry.CurRecord == 0) {
     // The bare row has no entry of its own: the window edits the strip.
     program_.Entry.CurMenuTag = "Toolbar";
@@ -177,10 +185,10 @@ void Popup::ShowProperties() {
 
 // The folder item that the generated entry came from takes its place.
 void Popup::ShowFolderProperties() {
+  EntryEdit entry = program_.Entry;
   program_.Ports.Toolbar->ResetMenu();
   PropertiesPort* const properties = program_.Ports.Properties;
   if (properties == nullptr || program_.ToolbarWindow() == kNoWindow) return;
-  EntryEdit& entry = program_.Entry;
   const int number = RealRecord(entry.CurRecord);
   const FileResult<MenuRecord> record =
       ReadRecord(program_.Services.Files, program_.Services.Ansi, entry.CurFile, number);
@@ -192,6 +200,7 @@ void Popup::ShowFolderProperties() {
   entry.CurTitle = record->FTitle;
   entry.CurIcon = record->FIcon;
   entry.CurCommand = record->FName;
+  SetCurrentEntry(program_.Entry, entry);
   properties->ShowProperties(entry.CurTitle, entry.CurIcon, entry.CurCommand);
 }
 

@@ -182,17 +182,22 @@ void SingleRow::DrawIcon(const SingleRect& single) {
   const SingleScene scene = Scene();
   const PixelPoint at = SingleIconPlace(scene, PlaceOf(single), strip_.Where(), strip_.TopCut);
   const PixelRect touched = RectAt(at, {scene.IconSize, scene.IconSize});
-  strip_.picSingleButton.DrawPixels(touched, [&](Canvas& canvas) {
-    if (ResolveAndDraw(program_, canvas, single.Icon, at, scene.IconSize)) return;
+  strip_.DrawIconIn(strip_.picSingleButton, touched, iconRounds_, [&](Canvas& canvas) {
+    if (ResolveAndDraw(program_, canvas, single.Icon, {0, 0}, scene.IconSize)) return;
     // A button without any face could not be found. Without the blank document there is none.
-    static_cast<void>(DrawFallbackIcon(program_, canvas, at, scene.IconSize));
+    static_cast<void>(DrawFallbackIcon(program_, canvas, {0, 0}, scene.IconSize));
   });
 }
 
 void SingleRow::DrawIcons() {
   forms::PictureBox& box = strip_.picSingleButton;
+  const unsigned round = ++iconRounds_;
   box.SetBackground({});
-  for (const SingleRect& single : SingleButtons) DrawIcon(single);
+  for (std::size_t i = 0; i < SingleButtons.size(); ++i) {
+    DrawIcon(SingleRect(SingleButtons[i]));
+    // Messages that came in meanwhile have had all of them drawn again, perhaps other ones.
+    if (round != iconRounds_ || !strip_.IsLoaded()) return;
+  }
   box.Refresh();
   // From here on a repaint is a copy of this picture.
   box.SetBackground(box.Image());

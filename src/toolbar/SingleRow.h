@@ -126,11 +126,15 @@ class SingleRow final : public SingleButtonsPort {
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y);
 
+  bool MoveFromMenu(const std::string& before, const EntryEdit& carried);
+  /// A copy of the entry under the pointer; without a file when there is none.
+  [[nodiscard]] SingleRect Under();
   bool DropBehind(const EntryEdit& carried, forms::MouseButton released);
   bool DropBefore(const std::string& target, const EntryEdit& carried, forms::MouseButton released);
   [[nodiscard]] bool IsAnother(const EntryEdit& carried) const;
-  void TakeFromMenu(const EntryEdit& carried);
   void FitStrip();
+  /// Puts records before the button of the file `before`, behind the last one when it is empty.
+  void AddDropped(const std::vector<MenuRecord>& records, const std::string& before);
 
   Program& program_;
   frmToolbar& strip_;
@@ -140,6 +144,7 @@ class SingleRow final : public SingleButtonsPort {
   /// Runs while the pointer is over a button or the date: nobody tells that it left.
   forms::Timer watch_;
   int hovered_ = 0;
+  unsigned iconRounds_ = 0;  // times that the row's icons were drawn
   Press press_;
   bool carrying_ = false;  // the entry that is carried began here
   bool running_ = false;

@@ -4,7 +4,7 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
-#include "core/EntryCommands.h"
+#include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "core/SingleFiles.h"
 #include "launch/FileTitle.h"
@@ -39,29 +39,48 @@ FileStatus SingleRow::UndoDeleteSB(std::string_view file) {
                               file, {entry.UndoTitle, entry.UndoIcon, entry.UndoCommand});
 }
 
+SingleRect SingleRow::Under() {
+  const int index = GetCurIndex();
+  return Has(index) ? SingleButtons[static_cast<std::size_t>(index)] : SingleRect();
+}
+
 void SingleRow::DoItemDrag(forms::MouseButton released) {
   if (program_.ItemActionBusy || !strip_.IsLoaded()) return;
   // Events run while the menu closes, and a carry that seems over then is emptied.
   const EntryEdit carried = program_.Entry;
   if (carried.CurMenuTag.empty()) return;
+  const SingleRect target = Under();
   CloseMenus();
   if (!strip_.IsLoaded()) return;
   program_.Entry = carried;
   strip_.Timer2.SetEnabled(false);
-  const int target = GetCurIndex();
+  const bool copies = released == forms::MouseButton::Right;
   bool changed = false;
-  if (!Has(target)) {
+  if (!copies && IsMenuTag(carried.CurMenuTag)) {
+    changed = MoveFromMenu(target.File, carried);
+  } else if (target.File.empty()) {
     changed = DropBehind(carried, released);
   } else {
-    const std::string file = SingleButtons[static_cast<std::size_t>(target)].File;
-    changed = DropBefore(file, carried, released);
+    changed = DropBefore(target.File, carried, released);
   }
-  if (changed) {
-    DoSingleButtons();
-    if (released != forms::MouseButton::Right) TakeFromMenu(carried);
-  }
+  if (changed) DoSingleButtons();
   program_.Entry.ItemDragging = false;
   if (changed && strip_.IsLoaded()) FitStrip();
+}
+
+// What cannot be taken out of its menu is copied. True if the row is another one now.
+bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried) {
+  FileSystem& files = program_.Services.Files;
+  const CodePage& ansi = program_.Services.Ansi;
+  const EditOutcome moved = MoveEntryToSingles(files, ansi, program_.MenusPath, carried, before);
+  if (moved == EditOutcome::Failed) return false;
+  if (moved == EditOutcome::Edited) {
+    // The menu is built again when it opens.
+    strip_.RemoveQMenu(carried.CurMenuTag);
+    return true;
+  }
+  return PasteSingleFile(files, ansi, program_.MenusPath, before, CarriedRecord(carried))
+      .HasValue();
 }
 
 // True if the row is another one now.
@@ -99,13 +118,6 @@ bool SingleRow::DropBefore(const std::string& target, const EntryEdit& carried,
       .HasValue();
 }
 
-// What came from a menu has arrived, and leaves the menu.
-void SingleRow::TakeFromMenu(const EntryEdit& carried) {
-  if (!IsMenuTag(carried.CurMenuTag)) return;
-  program_.Entry = carried;
-  DeleteItem(program_, true);
-}
-
 void SingleRow::FitStrip() {
   DockingPort* const docking = program_.Ports.Docking;
   if (strip_.Where() == Placement::TopHugging) {
@@ -117,27 +129,31 @@ void SingleRow::FitStrip() {
 
 void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) {
   if (names.empty() || !strip_.IsLoaded() || program_.ItemActionBusy) return;
+  // Events run from here on: the pointer may go on, and the row may be another one.
+  const SingleRect target = Under();
+  const bool onButton = !target.File.empty() && target.Kind == SingleKind::Button;
   program_.SetHint("");
   CloseMenus();
   if (!strip_.IsLoaded()) return;
-  const int target = GetCurIndex();
   SortTexts(names);
-  if (button == forms::MouseButton::Right && IsButton(target)) {
-    OpenWithItem(program_, names.front(),
-                 std::string(SingleButtons[static_cast<std::size_t>(target)].Command));
+  if (button == forms::MouseButton::Right && onButton) {
+    OpenWithItem(program_, names.front(), target.Command);
     return;
   }
-  std::vector<MenuRecord> records;
-  records.reserve(names.size());
-  for (const std::string& name : names) {
-    records.push_back({GetFileTitle(program_, name), name, name});
-  }
+  DroppedEntries dropped =
+      DroppedRecords(program_.Services.Files, program_.Services.Ansi, std::move(names),
+                     [this](std::string_view name) { return GetFileTitle(program_, name); });
+  AddDropped(dropped.Records, target.File);
+  // Last, so that nothing here lets its timer through.
+  if (strip_.IsLoaded()) strip_.TellRefused(std::move(dropped.Refused));
+}
+
+void SingleRow::AddDropped(const std::vector<MenuRecord>& records, const std::string& before) {
+  if (records.empty()) return;
   FileSystem& files = program_.Services.Files;
   const auto row = ReadSingleFiles(files, program_.MenusPath);
   if (!row) return;
-  const std::size_t at =
-      Has(target) ? PlaceOfSingle(*row, SingleButtons[static_cast<std::size_t>(target)].File)
-                  : row->size();
+  const std::size_t at = before.empty() ? row->size() : PlaceOfSingle(*row, before);
   const SingleFiles after = WithSingles(*row, at, records, program_.Services.Ansi);
   // A disk that refuses leaves the row as it was.
   if (!RewriteSingleFiles(files, program_.MenusPath, *row, after)) return;

@@ -241,6 +241,7 @@ void SingleRow::BeginCarry(int index) {
   entry.CurMenuTag = kSinglesTag;
   entry.CurFile = single.File;
   entry.CurRecord = 1;
+  entry.CurStored.clear();
   CopyEntry(entry);
   const std::string icon = CarriedIcon(single);
   if (program_.Ports.DragImage != nullptr) program_.Ports.DragImage->SetDragImage(icon);
@@ -315,17 +316,18 @@ void SingleRow::ShowSinglePopup(int index, bool ctrl) {
   const SingleRect single = SingleButtons[static_cast<std::size_t>(index)];
   CloseMenus();
   if (!strip_.IsLoaded()) return;
-  EntryEdit& entry = program_.Entry;
-  entry.CurTitle = single.Title;
-  entry.CurIcon = single.Icon;
-  entry.CurCommand = single.Command;
-  entry.CurMenuTag = kSinglesTag;
-  entry.CurFile = single.File;
-  entry.CurRecord = 1;
+  const EntryEdit entry{.CurTitle = single.Title,
+                        .CurIcon = single.Icon,
+                        .CurCommand = single.Command,
+                        .CurMenuTag = std::string(kSinglesTag),
+                        .CurFile = single.File,
+                        .CurRecord = 1};
   const bool shell = program_.OptionFlags.Is(19) == ctrl;
   if (!shell) {
-    if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup();
+    if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup(entry);
   } else if (program_.Ports.SpecialFolders != nullptr && !single.Command.empty()) {
+    SetCurrentEntry(program_.Entry, entry);
+    const forms::CountScope asking(program_.OpenQuestions);
     program_.Ports.SpecialFolders->ShowContextMenu(
         single.Command, {}, program_.Services.Pointer.PointerPosition(), strip_.hWnd());
   }

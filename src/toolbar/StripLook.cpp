@@ -1,5 +1,7 @@
 #include "toolbar/StripLook.h"
 
+#include <cmath>
+
 namespace corvelle {
 namespace {
 
@@ -39,8 +41,8 @@ StripBorders HorizontalBorders(const BorderScene& s) noexcept {
   const float y = s.TwipsY;
   const bool atEdge = s.Where == Placement::AtEdge;
   const float upper = !atEdge || s.At == Edge::Top ? 0 : y;
-  const bool leftEnd = atEdge && s.Window.Left == 0;
-  const bool rightEnd = atEdge && s.Window.Right() >= s.ScreenWidth;
+  const bool leftEnd = atEdge && std::abs(s.Window.Left) < x / 2;
+  const bool rightEnd = atEdge && s.Window.Right() > s.ScreenWidth - x / 2;
   StripBorders out;
   out.bLine1 = {{x, upper, w - x, upper}, kHighlight};
   out.bLine2 = {{0, 0, 0, h - y}, {!leftEnd, LineColor::DarkShadow}};

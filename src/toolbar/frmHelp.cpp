@@ -41,14 +41,13 @@ void frmHelp::Form_Load() {
 }
 
 void frmHelp::SetHint(std::string_view text) {
-  const unsigned wish = ++wishes_;
   const std::string wanted(text);
   if (IsLoaded() && Visible()) {
     // The old hint is gone from the screen before the new one is measured.
     CloseHint();
-    program_.DoEvents();
+    program_.Windows.PaintWaiting();
   }
-  if (wish != wishes_ || wanted.empty() || program_.OptionFlags.Is(kDisablesHints)) return;
+  if (wanted.empty() || program_.OptionFlags.Is(kDisablesHints)) return;
   if (Load()) ShowHint(wanted);
 }
 
@@ -57,10 +56,7 @@ void frmHelp::SetHintLevel(forms::InsertAfter after, unsigned flags) {
   if (IsLoaded()) SetWindowPos(after, flags);
 }
 
-void frmHelp::ReleaseHint() {
-  ++wishes_;
-  Unload();
-}
+void frmHelp::ReleaseHint() { Unload(); }
 
 void frmHelp::CloseHint() {
   Hide();

@@ -17,7 +17,7 @@ class frmHelp final : public forms::Form, public HintPort {
  public:
   explicit frmHelp(Program& program);
 
-  /// "&" in the text is an access key unless doubled. Events run when a hint that is up closes.
+  /// "&" in the text is an access key unless doubled.
   void SetHint(std::string_view text) override;
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
   void SetHintLevel(forms::InsertAfter after, unsigned flags) override;
@@ -41,8 +41,6 @@ class frmHelp final : public forms::Form, public HintPort {
   void Form_Paint();
 
   Program& program_;
-  /// Counts the hints asked for: what is asked for while events run is the newer wish.
-  unsigned wishes_ = 0;
 };
 
 }  // namespace corvelle

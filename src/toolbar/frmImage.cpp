@@ -16,6 +16,7 @@ namespace corvelle {
 namespace {
 
 constexpr int kBand = 4;  // pixels of the outline's sides
+constexpr int kNoKey = 0;
 
 }  // namespace
 
@@ -81,10 +82,15 @@ void frmImage::CaptureMenu() {
 void frmImage::ReleaseMenu() {
   if (menuCaptured_) {
     menuCaptured_ = false;
+    QMenuPort* const menu = program_.Ports.QMenu;
+    // The user has pressed the picture, and meant the menu.
+    const WindowId active = program_.Services.Desktop.ActiveWindow();
+    if (active != kNoWindow && active == hWnd() && menu != nullptr && menu->MenuVisible()) {
+      menu->ActivateKeyDown(kNoKey);
+    }
     Hide();
     program_.DoEvents();
     program_.Windows.SetMousePointer(forms::MousePointer::Default);
-    QMenuPort* const menu = program_.Ports.QMenu;
     if (menu != nullptr && menu->MenuVisible()) {
       menu->SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
       program_.Services.Desktop.PaintVisibleWindows();

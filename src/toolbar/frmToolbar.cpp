@@ -5,12 +5,14 @@
 
 #include "base/Text.h"
 #include "core/Carry.h"
+#include "core/FileTransaction.h"
 #include "core/MenuFolder.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
 #include "platform/FileSystem.h"
 #include "platform/ShellIcons.h"
 #include "platform/SystemInfo.h"
+#include "toolbar/ForegroundScope.h"
 
 namespace corvelle {
 namespace {
@@ -41,6 +43,7 @@ bool HoldsAny(FileSystem& files, const std::string& folder, std::string_view pat
 frmToolbar::frmToolbar(Program& program)
     : Form(program.Windows, "frmToolbar"),
       tmrDragDrop(program.Windows),
+      tmrRefused(program.Windows),
       picSingleButton(*this, "picSingleButton"),
       Line1([this](int) { return std::make_unique<forms::Line>(picSingleButton, "Line1"); }),
       Line2([this](int) { return std::make_unique<forms::Line>(picSingleButton, "Line2"); }),
@@ -119,6 +122,7 @@ void frmToolbar::WireEvents() {
   Timer1.Tick = [this] { Timer1_Timer(); };
   Timer2.Tick = [this] { Timer2_Timer(); };
   tmrDragDrop.SetInterval(kDragPoll);
+  tmrRefused.SetInterval(1);
   WireDrags();
 }
 
@@ -227,6 +231,9 @@ void frmToolbar::ForgetMenus() {
 void frmToolbar::InitButtons() {
   const forms::HourglassScope hourglass(program_.Windows);
   SetVisible(false);
+  // A change that was cut short is taken back before anything looks into the folder. Where the disk
+  // refuses, the next change of files tries again, and the next start.
+  static_cast<void>(RecoverFiles(program_.Services.Files, program_.MenusPath));
   // What cannot be deleted is deleted another time.
   static_cast<void>(PurgeMenus(program_.Services.Files, program_.MenusPath));
   StopTimers();
@@ -297,7 +304,7 @@ void frmToolbar::OfferDefaultEntries() {
     return;
   }
   const int answer =
-      program_.Say(kNoWindow,
+      program_.Say(hWnd(),
                    "Corvelle doesn't contain any entries. Would you like to add the default "
                    "entries to Corvelle?",
                    forms::msgbox::YesNo | forms::msgbox::IconQuestion | forms::msgbox::OnTop);
@@ -309,11 +316,18 @@ void frmToolbar::OfferDefaultEntries() {
 }
 
 void frmToolbar::InitNewButtons() {
-  // One rebuild at a time: the one that runs reads the files as they are by then.
-  if (!IsLoaded() || program_.AppBarBusy) return;
+  if (!IsLoaded()) return;
+  // One rebuild at a time. The one that runs may have read the options and files already.
+  if (program_.AppBarBusy) {
+    rebuildWaits_ = true;
+    Timer1.SetEnabled(true);
+    return;
+  }
+  rebuildWaits_ = false;
   const forms::HourglassScope hourglass(program_.Windows);
   program_.DoEvents();
   if (!IsLoaded()) return;
+  const ForegroundScope foreground(program_, *this);
   program_.SaveEdgeFlags();
   program_.SaveOptionFlags();
   UpdateToolbarPosition();
@@ -347,8 +361,15 @@ void frmToolbar::RebuildAtTop() {
 }
 
 void frmToolbar::RestoreToolbar() {
-  // A strip that is just being placed would be left half at its edge.
-  if (!IsLoaded() || program_.AppBarBusy) return;
+  if (!IsLoaded()) return;
+  // A strip that is just being placed would be left half at its edge: it leaves the edge
+  // afterwards.
+  if (program_.AppBarBusy) {
+    restoreWaits_ = true;
+    Timer1.SetEnabled(true);
+    return;
+  }
+  restoreWaits_ = false;
   program_.RestoreBusy = true;
   if (program_.AppBarDocked) {
     program_.SaveEdgeFlags();

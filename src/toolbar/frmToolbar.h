@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "core/MenuRecord.h"
+#include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
@@ -37,6 +39,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void UnloadWindow() override;
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
+  void HoldForMessage(bool owns) override { owns ? HoldInputOfOwner() : HoldInput(); }
+  void ReleaseAfterMessage() override { ReleaseInput(); }
   [[nodiscard]] WindowId ButtonBoxHandle() const override { return picToolbar.hWnd(); }
   [[nodiscard]] WindowId SingleBoxHandle() const override { return picSingleButton.hWnd(); }
   [[nodiscard]] TwipRect WindowBounds() const override {
@@ -66,6 +70,11 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// Draws the buttons anew without moving anything, after a change of the system's colours.
   void RefreshToolbar() override;
   void MarkCollections() override { CollectionsMarked = true; }
+  /// Draws an icon in a box: `draw` gets a canvas of the size of `place` with what stands there.
+  /// `rounds` counts the times that all icons of the box are drawn: when it changes meanwhile the
+  /// icon is given up.
+  void DrawIconIn(forms::PictureBox& box, const PixelRect& place, const unsigned& rounds,
+                  const std::function<void(Canvas&)>& draw);
 
   // ---- new buttons (frmToolbarNewButton.cpp) ----
 
@@ -154,6 +163,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
                                    float y);
   /// Looks each 100 ms whether a drag that came over the strip is still there.
   void tmrDragDrop_Timer();
+  void TellRefused(std::vector<std::string> files) override;
+  void tmrRefused_Timer();
 
   // ---- the date (frmToolbarDate.cpp) ----
 
@@ -185,9 +196,14 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void HideWindow() override { Hide(); }
   /// Hides all that is on the strip: what remains is a line, or bare.
   void HideContents();
-  /// After a strip came out of hiding under a full-screen program: puts it before the window that
-  /// covers it.
+  /// After a strip came out of hiding under a full-screen program: it is topmost until it hides
+  /// again.
   void EnsureToolbarVisible();
+  /// After a strip went into hiding: under a full-screen program it is behind all again.
+  void SinkAgain();
+  /// Where the window stands, and the size of the primary screen. Pixels.
+  [[nodiscard]] PixelRect WindowPixels() const;
+  [[nodiscard]] PixelSize ScreenPixels() const;
   /// Ends a move of the strip: it takes the place that the screen and the options let it have.
   void AdjustToolbarPosition();
   /// Bars or the screen have changed at a moment when the strip could not be placed: it is placed
@@ -200,6 +216,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   // ---- controls, from the back to the front ----
 
   forms::Timer tmrDragDrop;
+  /// Ticks once, after a drop of which files were refused.
+  forms::Timer tmrRefused;
   forms::PictureBox picSingleButton;
   /// Lines in that box: element 0 is before the date, the others are separators.
   forms::ControlArray<forms::Line> Line1;
@@ -345,6 +363,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void ShowMenuOf(int button);
   [[nodiscard]] std::string MainMenuFile();
   void ReopenMenu(const std::string& tag);
+  /// The strip becomes active if the menu is.
+  void TakeOverFromMenu();
   void HideMenuWindow();
   void HideMenuWhileTracking();
 
@@ -360,6 +380,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] bool IsOverMenu(WindowId window) const;
   /// A point of the screen in the inside of the menu.
   [[nodiscard]] TwipPoint InMenu(PixelPoint pointer) const;
+  /// The point of the screen that a place in the buttons' box, twips, was when an event told it.
+  [[nodiscard]] PixelPoint InBox(float x, float y) const;
   [[nodiscard]] bool HasLeft(WindowId under) const;
   void StartHovering();
   /// The title of a button in the form that a hint takes; empty for none.
@@ -371,6 +393,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void KeepHintTimes(WindowId under);
   void HoverButton(int button);
   void ShowButtonPopup();
+  [[nodiscard]] EntryEdit EntryOfButton(int button);
   void ShowFramePopup(std::string_view tag);
   void FollowFrame(forms::MouseButton down, float x, float y);
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
@@ -399,12 +422,16 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void StopDrag();
   void GiveForegroundBack();
   void DropFiles(std::vector<std::string> names, int button);
+  void ShowDropped(int button);
   void DropAddress(std::string_view text, int button);
   void OfferAddress(const std::string& address, const std::string& tag, const std::string& file);
   [[nodiscard]] bool IsItemButton(int button) const noexcept;
+  /// Index of the item button with that menu file, 0 for none.
+  [[nodiscard]] int ItemButtonOf(std::string_view path) const;
 
   // Keys.
   [[nodiscard]] bool KeyboardMoves() const;
+  [[nodiscard]] bool EnterIsOfMenu() const;
   void StartKeyboard();
   void SelectButton(int button);
   void PressCurButton();
@@ -429,26 +456,30 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] bool MayHide(PixelPoint pointer, WindowId under) const;
   [[nodiscard]] bool MustReveal(PixelPoint pointer, WindowId under) const;
   [[nodiscard]] bool ImageLoaded() const;
-  /// The window's upper left corner in pixels.
-  [[nodiscard]] PixelPoint CornerPixels() const;
-  [[nodiscard]] PixelSize ScreenPixels() const;
 
   Program& program_;
   std::vector<MenuRecord> records_;  // of the buttons, by their index
+  unsigned iconRounds_ = 0;          // times that the buttons' icons were drawn
   std::string lastTag_;              // of the menu that was opened last
   AbandonWatch carryWatch_;
   AbandonWatch pullWatch_;
   float menuLeft_ = 0;  // where the menu window was placed
   float menuTop_ = 0;
-  std::int64_t pressedAt_ = 0;    // when the menu was last changed by hand, milliseconds
-  int quietTicks_ = 0;            // of tmrDragDrop, since the drag was last heard of
-  bool positionUnsaved_ = false;  // the disk refused SavedLeft
-  bool positioned_ = false;       // SavedLeft is known
+  PixelPoint pressedPlace_;           // where the buttons' box was pressed last, on the screen
+  std::int64_t pressedAt_ = 0;        // when the menu was last changed by hand, milliseconds
+  std::vector<std::string> refused_;  // of a drop, not told yet
+  int quietTicks_ = 0;                // of tmrDragDrop, since the drag was last heard of
+  bool positionUnsaved_ = false;      // the disk refused SavedLeft
+  bool positioned_ = false;           // SavedLeft is known
   bool subclassed_ = false;
   bool focusRequested_ = false;
+  WindowId frontAtRequest_ = kNoWindow;  // the foreground then
   bool barsWait_ = false;    // bars or the screen have changed since the strip was placed
   bool levelWaits_ = false;  // a full-screen program came or went meanwhile
   bool newTaskBar_ = false;  // the strip is not registered with the shell any more
+  // A rebuild, or the way to the top, was asked for while the strip was being placed.
+  bool rebuildWaits_ = false;
+  bool restoreWaits_ = false;
 };
 
 }  // namespace corvelle

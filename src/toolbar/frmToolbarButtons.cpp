@@ -85,14 +85,30 @@ void frmToolbar::AddButton(const ButtonRect& button) {
 }
 
 void frmToolbar::DrawIcons() {
+  const unsigned round = ++iconRounds_;
   picToolbar.SetBackground({});
   for (int i = 1; i <= ButtonCount; ++i) {
     const auto at = static_cast<std::size_t>(i);
-    DrawButtonIcon(records_[at].FIcon, ToolbarButtons[at]);
+    DrawButtonIcon(std::string(records_[at].FIcon), ButtonRect(ToolbarButtons[at]));
+    // Messages that came in meanwhile have had all of them drawn again, perhaps other ones.
+    if (round != iconRounds_ || !IsLoaded()) return;
   }
   picToolbar.Refresh();
   // From here on a repaint is a copy of this picture.
   picToolbar.SetBackground(picToolbar.Image());
+}
+
+// The shell may let messages in while it is asked for an icon, and they may draw in the box: the
+// icon is drawn aside, on what it will stand on.
+void frmToolbar::DrawIconIn(forms::PictureBox& box, const PixelRect& place, const unsigned& rounds,
+                            const std::function<void(Canvas&)>& draw) {
+  const std::unique_ptr<Canvas> icon = program_.Windows.CreateCanvas(place.Size());
+  box.DrawPixels(place, [&](Canvas& canvas) { icon->DrawCanvas(canvas, place, {0, 0}); });
+  const unsigned round = rounds;
+  draw(*icon);
+  if (round != rounds || !IsLoaded()) return;
+  const PixelRect whole{0, 0, place.Width(), place.Height()};
+  box.DrawPixels(place, [&](Canvas& canvas) { canvas.DrawCanvas(*icon, whole, place.TopLeft()); });
 }
 
 void frmToolbar::DrawButtonIcon(const std::string& iconText, const ButtonRect& button) {
@@ -105,9 +121,9 @@ void frmToolbar::DrawButtonIcon(const std::string& iconText, const ButtonRect& b
                                    .Vertical = program_.ToolbarVertical,
                                    .TopCut = TopCut});
   const PixelRect touched = RectAt(at, {program_.IconSize, program_.IconSize});
-  picToolbar.DrawPixels(touched, [&](Canvas& canvas) {
+  DrawIconIn(picToolbar, touched, iconRounds_, [&](Canvas& canvas) {
     // What has no icon at all keeps an empty face.
-    static_cast<void>(ResolveAndDraw(program_, canvas, iconText, at, program_.IconSize));
+    static_cast<void>(ResolveAndDraw(program_, canvas, iconText, {0, 0}, touched.Width()));
   });
 }
 

@@ -91,8 +91,6 @@ void frmToolbar::lblDate_MouseMove(forms::MouseButton down, forms::ShiftState /*
   program_.CurSingle = Program::kDateArea;
   const SystemInfo& system = program_.Services.System;
   program_.SetHint(system.TimeOfDay() + ", " + system.LongDate());
-  // Events ran while an old hint closed.
-  if (!IsLoaded()) return;
   UpdateLabelDate();
   Singles.EnterDate();
 }

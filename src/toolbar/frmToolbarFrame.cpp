@@ -228,9 +228,7 @@ void frmToolbar::ShowFramePopup(std::string_view tag) {
   LetFrameGo();
   ResetMenu();
   if (!IsLoaded() || program_.Ports.Popup == nullptr) return;
-  EmptyCurrentItem();
-  program_.Entry.CurMenuTag = tag;
-  program_.Ports.Popup->ShowToolbarPopup();
+  program_.Ports.Popup->ShowToolbarPopup({.CurMenuTag = std::string(tag)});
 }
 
 void frmToolbar::AdjustToolbarPosition() {

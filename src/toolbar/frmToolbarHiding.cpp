@@ -41,17 +41,17 @@ bool frmToolbar::MayHide(PixelPoint pointer, WindowId under) const {
   if (overOurs || ImageLoaded() || MenuUp() || !picToolbar.Visible() || IsOursActive()) {
     return false;
   }
-  return !program_.AppBarDocked || PointerIsOff(AtEdge(), pointer, CornerPixels(), ScreenPixels());
+  return !program_.AppBarDocked || PointerIsOff(AtEdge(), pointer, WindowPixels(), ScreenPixels());
 }
 
 bool frmToolbar::MustReveal(PixelPoint pointer, WindowId under) const {
   if (picToolbar.Visible() && Visible()) return false;
   if (!program_.AppBarDocked) return under == hWnd() && !picToolbar.Visible();
-  return PointerReveals(AtEdge(), pointer, CornerPixels(), ScreenPixels());
+  return PointerReveals(AtEdge(), pointer, WindowPixels(), ScreenPixels());
 }
 
-PixelPoint frmToolbar::CornerPixels() const {
-  return forms::ToPixels(Left(), Top(), program_.Windows.Screen());
+PixelRect frmToolbar::WindowPixels() const {
+  return forms::ToPixels(Left(), Top(), Width(), Height(), program_.Windows.Screen());
 }
 
 PixelSize frmToolbar::ScreenPixels() const {
@@ -70,11 +70,12 @@ void frmToolbar::EnsureToolbarVisible() {
   if (!program_.FullScreenApp || program_.OptionFlags.Is(4)) return;
   program_.DoEvents();
   if (!IsLoaded()) return;
-  const Edge at = program_.AppBarDocked ? AtEdge() : Edge::Top;
-  const WindowId there =
-      program_.Services.Desktop.WindowAt(ProbePoint(at, WindowBounds(), {TwipsX, TwipsY}));
-  if (there == hWnd() || there == picToolbar.hWnd()) return;
-  SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
+  SetWindowPos(forms::InsertAfter::Topmost, forms::swp::KeepActivation);
+}
+
+void frmToolbar::SinkAgain() {
+  if (!program_.FullScreenApp || program_.NotOnTop || program_.OptionFlags.Is(4)) return;
+  SetWindowPos(forms::InsertAfter::Bottom, forms::swp::KeepActivation);
 }
 
 }  // namespace corvelle

@@ -14,6 +14,8 @@ constexpr char32_t kBlank = 32;
 
 void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
   if (program_.Entry.ItemDragging) return;
+  // A menu that is being built is not up yet, and Enter is meant for it: it must not close it.
+  if (program_.MenuBuilding && keyCode != forms::key::Escape) return;
   switch (keyCode) {
     case forms::key::Escape:
       ResetMenu();
@@ -26,7 +28,11 @@ void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
       if (KeyboardMoves()) SelectButton(NextButton(program_.CurButton, ButtonCount, keyCode));
       return;
     case forms::key::Enter:
-      if (KeyboardMoves()) EnterCurButton();
+      if (EnterIsOfMenu()) {
+        program_.Ports.QMenu->xKeyPress(static_cast<char32_t>(forms::key::Enter));
+      } else if (KeyboardMoves()) {
+        EnterCurButton();
+      }
       return;
     default:
       if (MenuUp()) program_.Ports.QMenu->ActivateKeyDown(keyCode);
@@ -36,6 +42,12 @@ void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
 bool frmToolbar::KeyboardMoves() const {
   return program_.CurButton > 0 && program_.CurButton <= ButtonCount &&
          program_.Services.Desktop.ActiveWindow() == hWnd();
+}
+
+// The system may leave the focus with the strip when a menu opens, or when a key selects an item
+// there. The item that the user sees selected is what Enter means, until arrow keys walk the strip.
+bool frmToolbar::EnterIsOfMenu() const {
+  return MenuUp() && program_.SelectedItem != 0 && !program_.KeyboardOnToolbar;
 }
 
 // A user without a mouse begins at the first button, as in a menu bar.

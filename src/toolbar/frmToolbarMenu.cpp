@@ -31,8 +31,15 @@ bool frmToolbar::OpensMenu(int button) const {
   return button != 1 || program_.Ports.MainMenu != nullptr;
 }
 
+// An active window that hides hands the activation to whatever window Windows finds next, of
+// another program too.
+void frmToolbar::TakeOverFromMenu() {
+  if (program_.Services.Desktop.ActiveWindow() == program_.Ports.QMenu->WindowHandle()) SetFocus();
+}
+
 void frmToolbar::HideMenuWindow() {
   if (!MenuUp()) return;
+  TakeOverFromMenu();
   program_.Ports.QMenu->HideMenu();
   program_.Services.Desktop.PaintVisibleWindows();
 }
@@ -57,8 +64,6 @@ void frmToolbar::ShowMenuOf(int button) {
   Timer2.SetEnabled(false);
   LastOpenFlag = false;
   TakeHintDown();
-  // Events ran if a hint was up.
-  if (!IsLoaded() || button > ButtonCount) return;
   // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.
   if (MenuUp() && !program_.DragHolds()) SetFocus();
   HideMenuWindow();
@@ -110,10 +115,11 @@ void frmToolbar::RefreshMenu(std::string_view tag) {
   const forms::FlagScope refreshing(MenuRefreshing);
   Timer2.SetEnabled(false);
   menu->SetPoll(false);
-  SetEnabled(false);
   ReopenMenu(tag.empty() ? lastTag_ : std::string(tag));
   if (!IsLoaded()) return;
   SetEnabled(true);
+  // A window that was disabled has lost the keyboard, though it is active.
+  if (program_.Services.Desktop.ActiveWindow() == hWnd()) SetFocus();
   if (MenuUp()) Timer2.SetEnabled(true);
 }
 
@@ -122,6 +128,9 @@ void frmToolbar::ReopenMenu(const std::string& tag) {
   CapturePort* const capture = program_.Ports.Capture;
   const bool captures = capture != nullptr && MenuUp() && !capture->MenuCaptured();
   if (captures) capture->CaptureMenu();
+  // While it is still enabled: a disabled window takes no activation.
+  if (MenuUp()) TakeOverFromMenu();
+  SetEnabled(false);
   if (MenuUp()) menu.HideMenu();
   ShowToolbar();
   if (ButtonOfTag(tag) != 0) {
@@ -160,7 +169,8 @@ void frmToolbar::ResetMenu() {
     CheckToolbarMove();
     menu->SetOwnerTag("0");
   }
-  program_.DoEvents();
+  // What the menu covered is seen again, but the next press waits until this one is dealt with.
+  program_.Windows.PaintWaiting();
 }
 
 }  // namespace corvelle

@@ -67,7 +67,9 @@ bool frmToolbar::IsNewTaskBar(std::uint32_t message) const {
   return message != 0 && message == program_.Services.Tray.TaskbarCreatedMessage();
 }
 
-bool frmToolbar::NewsWait() const { return barsWait_ || levelWaits_ || newTaskBar_; }
+bool frmToolbar::NewsWait() const {
+  return barsWait_ || levelWaits_ || newTaskBar_ || rebuildWaits_ || restoreWaits_;
+}
 
 // A strip that is being built or placed looks afterwards at what has changed meanwhile: nobody
 // says it again.
@@ -87,6 +89,13 @@ std::optional<std::intptr_t> frmToolbar::NoteForLater(std::uint32_t message, std
 }
 
 void frmToolbar::CatchUp() {
+  if (std::exchange(restoreWaits_, false)) {
+    rebuildWaits_ = false;
+    RestoreToolbar();
+  } else if (std::exchange(rebuildWaits_, false)) {
+    InitNewButtons();
+  }
+  if (!IsLoaded()) return;
   if (std::exchange(levelWaits_, false) && !program_.NotOnTop) TakeLevel();
   if (std::exchange(newTaskBar_, false)) {
     // It knows nothing of the bars of the one before.
@@ -229,6 +238,7 @@ void frmToolbar::BringToForeground() {
   ZOrder(forms::ZPlace::Front);
   SetFocus();
   focusRequested_ = true;
+  frontAtRequest_ = desktop.ForegroundWindow();
   Timer1.SetEnabled(true);
 }
 
@@ -250,7 +260,11 @@ void frmToolbar::Timer1_Timer() {
     // A menu or a notice that came up meanwhile keeps the keyboard.
     const DesktopWindows& desktop = program_.Services.Desktop;
     const WindowId active = desktop.ActiveWindow();
-    if (active == kNoWindow || active == hWnd() || !desktop.IsVisible(active)) SetFocus();
+    const bool free = active == kNoWindow || active == hWnd() || !desktop.IsVisible(active);
+    // And a user who has turned to another program since then stays there.
+    const WindowId front = desktop.ForegroundWindow();
+    const bool turned = active == kNoWindow && front != kNoWindow && front != frontAtRequest_;
+    if (free && !turned) SetFocus();
   }
   WatchPull();
   if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||

@@ -1,5 +1,7 @@
 // What other programs drag over the strip and drop on it.
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "base/Text.h"
@@ -48,6 +50,7 @@ void frmToolbar::WireDrags() {
   picToolbar.SetTakesDrops(true);
   picSingleButton.SetTakesDrops(true);
   tmrDragDrop.Tick = [this] { tmrDragDrop_Timer(); };
+  tmrRefused.Tick = [this] { tmrRefused_Timer(); };
 }
 
 bool frmToolbar::TakesDrag(const DragData& data) const {
@@ -56,6 +59,13 @@ bool frmToolbar::TakesDrag(const DragData& data) const {
 
 bool frmToolbar::IsItemButton(int button) const noexcept {
   return button > 1 && button <= ButtonCount;
+}
+
+int frmToolbar::ItemButtonOf(std::string_view path) const {
+  for (int i = 2; i <= ButtonCount; ++i) {
+    if (EqualNoCase(ToolbarButtons[static_cast<std::size_t>(i)].Path, path)) return i;
+  }
+  return 0;
 }
 
 // ---- over the buttons ----
@@ -144,14 +154,18 @@ void frmToolbar::EndDragOver() {
   if (IsLoaded()) GiveForegroundBack();
 }
 
-// Only what the strip or its menu took is given back: the user may be elsewhere by now.
+// Only what the strip or its menu took is given back: the user may be elsewhere by now. A window
+// that has gone off the screen meanwhile, such as a menu that was up when the drag came, gets
+// nothing.
 void frmToolbar::GiveForegroundBack() {
   DesktopWindows& desktop = program_.Services.Desktop;
   const WindowId before = std::exchange(SavedForeground, kNoWindow);
   const WindowId now = desktop.ForegroundWindow();
   const QMenuPort* const menu = program_.Ports.QMenu;
   const bool ours = now == hWnd() || (menu != nullptr && now == menu->WindowHandle());
-  if (ours && before != kNoWindow && before != now) desktop.BringForward(before);
+  if (ours && before != kNoWindow && before != now && desktop.IsVisible(before)) {
+    desktop.BringForward(before);
+  }
 }
 
 // ---- dropped on the buttons ----
@@ -160,17 +174,21 @@ void frmToolbar::picToolbar_OLEDragDrop(DragData& data, DropEffect& effect, Mous
                                         ShiftState /*shift*/, float /*x*/, float /*y*/) {
   const bool takes = TakesDrag(data);
   effect = takes ? effect & EffectOfDrag(program_.DragButtons) : DropEffect::None;
+  GetCurButton();
+  // Events run from here on: the pointer may go on, and the buttons may be other ones.
+  const std::string path = IsItemButton(program_.CurButton)
+                               ? ToolbarButtons[static_cast<std::size_t>(program_.CurButton)].Path
+                               : std::string();
   StopDrag();
   Timer2.SetEnabled(false);
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
   program_.SetHint("");
-  GetCurButton();
-  const int button = program_.CurButton;
   if (program_.DragButtons == MouseButton::Right) ResetMenu();
   if (!IsLoaded()) return;
   CapturePort* const capture = program_.Ports.Capture;
   if (capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
-  if (!takes || !IsItemButton(button)) {
+  const int button = ItemButtonOf(path);
+  if (!takes || button == 0) {
     effect = DropEffect::None;
     EndDragOver();
   } else if (data.Files) {
@@ -183,24 +201,48 @@ void frmToolbar::picToolbar_OLEDragDrop(DragData& data, DropEffect& effect, Mous
 void frmToolbar::DropFiles(std::vector<std::string> names, int button) {
   const std::string path = ToolbarButtons[static_cast<std::size_t>(button)].Path;
   auto outcome = EditOutcome::NothingToDo;
+  DroppedEntries dropped;
   {
     const forms::FlagScope dragging(program_.Entry.ItemDragging);
     const forms::FlagScope busy(program_.ItemActionBusy);
-    const std::vector<MenuRecord> records = DroppedRecords(
-        std::move(names),
-        [this](std::string_view name) { return Trim(GetFileTitle(program_, name)); });
-    outcome = AppendDropped(program_.Services.Files, program_.Services.Ansi, path, records);
+    FileSystem& files = program_.Services.Files;
+    const CodePage& ansi = program_.Services.Ansi;
+    dropped = DroppedRecords(files, ansi, std::move(names), [this](std::string_view name) {
+      return Trim(GetFileTitle(program_, name));
+    });
+    outcome = AppendDropped(files, ansi, path, dropped.Records);
   }
   if (!IsLoaded()) return;
-  // The menu as it is shows that nothing was added.
-  if (outcome != EditOutcome::Edited) {
+  if (outcome == EditOutcome::Edited) {
+    ShowDropped(button);
+  } else {
+    // The menu as it is shows that nothing was added.
     EndDragOver();
-    return;
   }
-  // The menu comes up and stays only in front, and the system leaves that to the program dragged
-  // from.
+  // Last, so that nothing here lets its timer through.
+  if (IsLoaded()) TellRefused(std::move(dropped.Refused));
+}
+
+// The menu comes up and stays only in front, and the system leaves that to the program dragged
+// from.
+void frmToolbar::ShowDropped(int button) {
   if (!IsOursActive()) program_.Services.Desktop.BringForward(hWnd());
   if (IsLoaded()) RefreshMenu("F" + std::to_string(button));
+}
+
+// A source that drags waits until the drop returns, and a message would hold it.
+void frmToolbar::TellRefused(std::vector<std::string> files) {
+  if (files.empty()) return;
+  std::move(files.begin(), files.end(), std::back_inserter(refused_));
+  tmrRefused.SetEnabled(true);
+}
+
+void frmToolbar::tmrRefused_Timer() {
+  tmrRefused.SetEnabled(false);
+  const std::vector<std::string> files = std::exchange(refused_, {});
+  if (files.empty() || !IsLoaded()) return;
+  program_.Say(hWnd(), RefusedFilesText(files),
+               forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
 void frmToolbar::DropAddress(std::string_view text, int button) {
@@ -227,7 +269,7 @@ void frmToolbar::picSingleButton_OLEDragOver(DragData& data, DropEffect& effect,
   const bool wanted = data.Files ? program_.Ports.SingleButtons != nullptr
                                  : data.Text && program_.Ports.WebLink != nullptr;
   effect = wanted && TakesDrag(data) ? effect & EffectOfDrag(down) : DropEffect::None;
-  if (!IsOfUse(data)) return;
+  if (!IsOfUse(data) || program_.OpenQuestions > 0) return;
   program_.SetHint("");
   NoteDrag(data, down);
   ResetMenu();
@@ -238,15 +280,17 @@ void frmToolbar::picSingleButton_OLEDragDrop(DragData& data, DropEffect& effect,
                                              float /*x*/, float /*y*/) {
   const bool takes = TakesDrag(data);
   effect = takes ? effect & EffectOfDrag(program_.DragButtons) : DropEffect::None;
-  program_.SetHint("");
   StopDrag();
+  SingleButtonsPort* const singles = program_.Ports.SingleButtons;
+  if (takes && data.Files && singles != nullptr) {
+    // First of all it looks where the drop is; then it closes the hint and the menu.
+    singles->DropFilesOnSingles(std::exchange(*data.Files, {}), program_.DragButtons);
+    return;
+  }
+  program_.SetHint("");
   ResetMenu();
   if (!takes || !IsLoaded()) return;
-  SingleButtonsPort* const singles = program_.Ports.SingleButtons;
-  if (data.Files) {
-    if (singles == nullptr) return;
-    singles->DropFilesOnSingles(std::exchange(*data.Files, {}), program_.DragButtons);
-  } else if (data.Text) {
+  if (data.Text) {
     const auto address = DroppedAddress(*data.Text);
     if (address) OfferAddress(*address, std::string(kSinglesTag), {});
   }

@@ -85,12 +85,17 @@ bool frmToolbar::LooksAtRest(int button) const {
   return button > 0 && LinTB1.Has(button) && LinTB1[button].Visible();
 }
 
+PixelPoint frmToolbar::InBox(float x, float y) const {
+  return forms::ToPixels(Left() + picToolbar.Left() + x, Top() + picToolbar.Top() + y,
+                         program_.Windows.Screen());
+}
+
 void frmToolbar::picToolbar_MouseDown(forms::MouseButton button, forms::ShiftState /*shift*/,
                                       float x, float y) {
   if (button != forms::MouseButton::Left) return;
   // The place of the press: by now the pointer may be elsewhere, or not be known to be here yet.
-  FindCurButton(forms::ToPixels(Left() + picToolbar.Left() + x, Top() + picToolbar.Top() + y,
-                                program_.Windows.Screen()));
+  pressedPlace_ = InBox(x, y);
+  FindCurButton(pressedPlace_);
   PressCurButton();
 }
 
@@ -108,8 +113,8 @@ void frmToolbar::PressCurButton() {
   ShowMenu(program_.CurButton);
 }
 
-void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/,
-                                      float /*x*/, float /*y*/) {
+void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/, float x,
+                                      float y) {
   if (program_.PosChangeRunning || program_.StartingUp) return;
   const bool anyDown = down != forms::MouseButton::None;
   if (!anyDown && !WasHovering) {
@@ -128,16 +133,15 @@ void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState
       TipDueAt = 0;
       TipHideAt = 0;
       program_.SetHint(HintOf(current));
-      // Events ran while an old hint closed, and the strip may not be what it was.
-      if (!IsLoaded() || program_.CurButton != current) return;
     }
   }
   if ((program_.MenuOpen || program_.Entry.ItemDragging) && LooksAtRest(current) &&
       (IsOursActive() || program_.DragHolds())) {
     HoverButton(current);
   } else if (forms::Has(down, forms::MouseButton::Left) &&
-             IsOverMenu(program_.Services.Desktop.WindowAt(pointer))) {
-    program_.Ports.QMenu->xMouseMove(InMenu(pointer).Y);
+             IsOverMenu(program_.Services.Desktop.WindowAt(InBox(x, y)))) {
+    // What was passed over is selected, wherever the pointer is by now.
+    program_.Ports.QMenu->xMouseMove(InMenu(InBox(x, y)).Y);
   }
 }
 
@@ -182,6 +186,8 @@ void frmToolbar::KeepHintTimes(WindowId under) {
 // Moving along the strip changes the menu. The button of the program's own menu has none to show
 // where that menu is not part of the program: the one that is up goes.
 void frmToolbar::HoverButton(int button) {
+  // A popup, a message or a menu of the shell stands over the menu that is up.
+  if (program_.OpenQuestions > 0) return;
   if (!OpensMenu(button)) {
     HideMenuWhileTracking();
   } else if (!MenuUp() || MenuOwner() != button) {
@@ -199,6 +205,8 @@ void frmToolbar::HideMenuWhileTracking() {
   // The strip stays active, so that it hears when the user goes elsewhere.
   SetFocus();
   HideMenuWindow();
+  // A drag that came straight into the menu, and whose source has died there, is over with it.
+  if (!program_.DragEntered) program_.DragOverButton = false;
   program_.Ports.QMenu->SetOwnerTag("0");
   ShowRestingLook();
 }
@@ -215,9 +223,13 @@ void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState
     if (under == picToolbar.hWnd()) ShowButtonPopup();
     return;
   }
-  if (IsOverMenu(under)) {
+  // A release in the menu is a choice though the pointer may have gone on since.
+  if (IsOverMenu(program_.Services.Desktop.WindowAt(InBox(x, y)))) {
     if (program_.Windows.Now() - pressedAt_ >= kClickDelay) return;
-    const TwipPoint at = InMenu(pointer);
+    const TwipPoint at = InMenu(InBox(x, y));
+    // A release says once more where the hand is: the selection may have gone since it came there.
+    // A menu that came up under a hand that rests has none.
+    if (InBox(x, y) != pressedPlace_) program_.Ports.QMenu->xMouseMove(at.Y);
     program_.Ports.QMenu->xMouseUp(button, shift, at.X, at.Y);
     return;
   }
@@ -234,24 +246,30 @@ void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState
 void frmToolbar::ShowButtonPopup() {
   GetCurButton();
   const int button = program_.CurButton;
+  if (program_.Ports.Popup == nullptr || button < 1 || button > ButtonCount) return ResetMenu();
+  // Events run while the menu closes, and the button may be another one after them.
+  const EntryEdit entry = EntryOfButton(button);
   ResetMenu();
-  if (!IsLoaded() || program_.Ports.Popup == nullptr || button < 1 || button > ButtonCount) return;
-  EmptyCurrentItem();
-  program_.Entry.CurMenuTag = "B" + std::to_string(button);
+  if (!IsLoaded()) return;
   lastTag_ = (button > 1 ? "F" : "B") + std::to_string(button);
-  if (button > 1) {
-    program_.Entry.CurFile = ToolbarButtons[static_cast<std::size_t>(button)].Path;
-    // A file that cannot be read now leaves the texts empty, and no edit will find its record.
-    const MenuRecord record = ReadButtonRecord(program_.Entry.CurFile).value_or(MenuRecord{});
-    program_.Entry.CurRecord = 1;
-    program_.Entry.CurTitle = record.FTitle;
-    program_.Entry.CurIcon = record.FIcon;
-    program_.Entry.CurCommand = record.FName;
-  }
-  program_.Ports.Popup->ShowToolbarPopup();
+  program_.Ports.Popup->ShowToolbarPopup(entry);
+}
+
+EntryEdit frmToolbar::EntryOfButton(int button) {
+  EntryEdit entry{.CurMenuTag = "B" + std::to_string(button)};
+  if (button == 1) return entry;
+  entry.CurFile = ToolbarButtons[static_cast<std::size_t>(button)].Path;
+  // A file that cannot be read now leaves the texts empty, and no edit will find its record.
+  const MenuRecord record = ReadButtonRecord(entry.CurFile).value_or(MenuRecord{});
+  entry.CurRecord = 1;
+  entry.CurTitle = record.FTitle;
+  entry.CurIcon = record.FIcon;
+  entry.CurCommand = record.FName;
+  return entry;
 }
 
 void frmToolbar::Timer2_Timer() {
+  if (program_.OpenQuestions > 0) return;
   if (program_.Entry.ItemDragging || program_.PosChangeRunning || program_.MenuBuilding) return;
   // What another program drags changes and closes the menu by its own events.
   if (program_.DragHolds()) return;

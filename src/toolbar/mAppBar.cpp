@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
+#include "toolbar/ForegroundScope.h"
 #include "toolbar/frmToolbar.h"
 
 namespace corvelle {
@@ -55,10 +56,10 @@ bool mAppBar::AutoHideFree(std::string_view edge) {
 }
 
 void mAppBar::ShowAutoHideTaken() {
-  program_.Windows.ShowMessage(kNoWindow,
-                               "A toolbar is already hidden on this side of your screen.\r\n"
-                               "You can have only one auto-hide toolbar per side.",
-                               "Corvelle", forms::msgbox::IconStop | forms::msgbox::OnTop);
+  program_.Say(program_.WindowInUse(),
+               "A toolbar is already hidden on this side of your screen.\r\n"
+               "You can have only one auto-hide toolbar per side.",
+               forms::msgbox::IconStop | forms::msgbox::OnTop);
 }
 
 // Measures.
@@ -109,6 +110,7 @@ void mAppBar::SetAppBar(std::string_view edge, bool rebuild) {
     program_.ToolbarReady = strip_.IsLoaded();
     return;
   }
+  const ForegroundScope foreground(program_, strip_);
   program_.AppBarBusy = true;
   program_.AppBarRequested = true;
   CapturePort* const capture = program_.Ports.Capture;
@@ -233,6 +235,7 @@ void mAppBar::DockNotOnTop(std::string_view edge) {
 }
 
 void mAppBar::StandAt(Edge at, bool keepsRoom) {
+  const ForegroundScope foreground(program_, strip_);
   strip_.SetVisible(false);
   ComeOutOfHiding();
   const PixelSize bar = WholeEdge(at);

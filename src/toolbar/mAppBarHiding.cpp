@@ -53,20 +53,21 @@ bool mAppBar::AutoHideAppBar(std::string_view edge) {
 }
 
 void mAppBar::HideIfOffEdge() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  const TwipRect window = strip_.WindowBounds();
-  if (IsOffEdge(CurrentEdge(), window, {screen.Width, screen.Height})) strip_.SetVisible(false);
+  if (IsOffEdge(CurrentEdge(), strip_.WindowPixels(), ScreenPixels())) strip_.SetVisible(false);
 }
 
 void mAppBar::HideToolbar() {
   if (program_.AppBarDocked) {
-    if (AutoHideAppBar(program_.ToolbarEdge)) HideIfOffEdge();
+    if (!AutoHideAppBar(program_.ToolbarEdge)) return;
+    HideIfOffEdge();
+    strip_.SinkAgain();
     return;
   }
   strip_.HideContents();
   strip_.Timer1.SetEnabled(true);
   strip_.ShowNoActivate();
   strip_.Move(strip_.Left(), 0, strip_.Width(), Twips().Height);
+  strip_.SinkAgain();
 }
 
 void mAppBar::RevealToolbar() {

@@ -70,4 +70,13 @@ bool NamesDevice(std::string_view path) {
          base[3] >= '1' && base[3] <= '9';
 }
 
+bool CanNameFile(std::string_view text) {
+  constexpr unsigned char kFirstPrintable = 0x20;
+  if (text.empty() || text.starts_with("/:")) return false;
+  return std::none_of(text.begin(), text.end(), [](char character) {
+    return static_cast<unsigned char>(character) < kFirstPrintable ||
+           std::string_view("<>|?*\"").find(character) != std::string_view::npos;
+  });
+}
+
 }  // namespace corvelle::win32

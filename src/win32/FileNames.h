@@ -12,4 +12,9 @@ namespace corvelle::win32 {
 /// True if the last name of a path stands for a device (CON, NUL, COM1...), with an extension too.
 [[nodiscard]] bool NamesDevice(std::string_view path);
 
+/// False for a text that no file or folder can be named by, because it is empty or holds characters
+/// that no path holds. The shell is not to be asked about it: one that begins with "/:" ends the
+/// program on some systems, and the others are a waste of time.
+[[nodiscard]] bool CanNameFile(std::string_view text);
+
 }  // namespace corvelle::win32

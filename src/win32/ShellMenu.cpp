@@ -1,4 +1,5 @@
 #include "win32/ShellMenu.h"
+#include "win32/ErrorMode.h"
 
 #include "win32/ComPointer.h"
 
@@ -78,6 +79,7 @@ bool Invoke(IContextMenu& menu, UINT command, POINT at, HWND owner) {
   info.lpVerbW = MAKEINTRESOURCEW(offset);
   info.nShow = SW_SHOWNORMAL;
   info.ptInvoke = at;
+  const ErrorModeForChildren errorMode;
   return SUCCEEDED(menu.InvokeCommand(reinterpret_cast<CMINVOKECOMMANDINFO*>(&info)));
 }
 

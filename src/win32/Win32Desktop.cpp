@@ -123,8 +123,9 @@ WindowId Win32Desktop::ForegroundWindow() const noexcept { return ToId(GetForegr
 void Win32Desktop::PaintVisibleWindows() {
   for (const WindowId window : TopLevel()) {
     const HWND handle = ToHwnd(window);
-    // A program that hangs paints nothing, and waiting for it would hang this one too.
-    if (IsWindowVisible(handle) != 0 && IsHungAppWindow(handle) == 0) UpdateWindow(handle);
+    // Another program paints when it has time, and waiting for it could take for ever.
+    const bool own = GetWindowThreadProcessId(handle, nullptr) == GetCurrentThreadId();
+    if (own && IsWindowVisible(handle) != 0) UpdateWindow(handle);
   }
 }
 

@@ -125,20 +125,17 @@ class TemporaryFile {
   }
 
   /// False with the thread's last error set, here and below.
-  [[nodiscard]] bool Fill(std::string_view bytes) {
+  [[nodiscard]] bool Fill(std::string_view bytes, bool flush) {
     const UniqueFile file = OpenForWriting(name_, CREATE_ALWAYS);
     made_ = static_cast<bool>(file);
-    return made_ && WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get()) != 0;
+    return made_ && WriteAll(file.Get(), bytes) && (!flush || FlushFileBuffers(file.Get()) != 0);
   }
 
-  [[nodiscard]] bool MoveTo(const std::wstring& target, DWORD attributes) {
+  [[nodiscard]] bool MoveTo(const std::wstring& target, DWORD attributes, bool flush) {
+    const DWORD flags = MOVEFILE_REPLACE_EXISTING | (flush ? MOVEFILE_WRITE_THROUGH : 0);
     SetFileAttributesW(name_.c_str(), attributes);
-    const bool moved = DonePatiently(
-        [&] {
-          return MoveFileExW(name_.c_str(), target.c_str(),
-                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
-        },
-        true);
+    const bool moved =
+        DonePatiently([&] { return MoveFileExW(name_.c_str(), target.c_str(), flags) != 0; }, true);
     if (moved) {
       made_ = false;
     } else if (const DWORD error = GetLastError(); error == ERROR_ACCESS_DENIED) {
@@ -258,12 +255,28 @@ FileStatus Win32Files::WriteAt(std::string_view path, std::uint64_t offset,
 }
 
 FileStatus Win32Files::Replace(std::string_view path, std::string_view bytes) {
+  return ReplaceWith(path, bytes, true);
+}
+
+FileStatus Win32Files::ReplaceUnflushed(std::string_view path, std::string_view bytes) {
+  return ReplaceWith(path, bytes, false);
+}
+
+FileStatus Win32Files::ReplaceWith(std::string_view path, std::string_view bytes, bool flush) {
   const auto wide = PathOf(path);
   if (!wide) return FileError::BadName;
   const FileResult<DWORD> attributes = WritableAttributes(*wide);
   if (!attributes) return attributes.Error();
   TemporaryFile content(*wide, ++temporary_);
-  return StatusOf(content.Fill(bytes) && content.MoveTo(*wide, *attributes));
+  return StatusOf(content.Fill(bytes, flush) && content.MoveTo(*wide, *attributes, flush));
+}
+
+FileStatus Win32Files::Flush(std::string_view path) {
+  const auto wide = PathOf(path);
+  if (!wide) return FileError::BadName;
+  if (IsFolder(AttributesOf(*wide))) return FileError::AccessDenied;
+  const UniqueFile file = OpenForWriting(*wide, OPEN_EXISTING);
+  return StatusOf(file && FlushFileBuffers(file.Get()) != 0);
 }
 
 FileStatus Win32Files::Remove(std::string_view path) {
@@ -339,6 +352,23 @@ std::string Win32Files::LongPath(std::string_view path) {
     at = end + 1;
   }
   return Narrow(result);
+}
+
+std::string Win32Files::ShortPath(std::string_view path) {
+  constexpr std::wstring_view kAnyLength = L"\\\\?\\";
+  auto wide = PathOf(path);
+  if (!wide || wide->empty()) return {};
+  // Without the prefix the system takes no longer path of a drive.
+  const bool prefixed = wide->size() >= MAX_PATH && wide->substr(1, 2) == L":\\";
+  if (prefixed) wide->insert(0, kAnyLength);
+  if (AttributesOf(*wide) == INVALID_FILE_ATTRIBUTES) return {};
+  const DWORD room = GetShortPathNameW(wide->c_str(), nullptr, 0);
+  std::wstring text(room, L'\0');
+  // The count without a buffer includes the NUL at the end, that of what was written does not.
+  const DWORD length = room == 0 ? 0 : GetShortPathNameW(wide->c_str(), text.data(), room);
+  if (length == 0 || length >= room) return {};
+  text.resize(length);
+  return Narrow(text.substr(prefixed ? kAnyLength.size() : 0));
 }
 
 }  // namespace corvelle::win32

@@ -17,14 +17,19 @@ class Win32Files final : public FileSystem {
   FileStatus Write(std::string_view path, std::string_view bytes) override;
   FileStatus WriteAt(std::string_view path, std::uint64_t offset, std::string_view bytes) override;
   FileStatus Replace(std::string_view path, std::string_view bytes) override;
+  FileStatus ReplaceUnflushed(std::string_view path, std::string_view bytes) override;
+  FileStatus Flush(std::string_view path) override;
   FileStatus Remove(std::string_view path) override;
   FileStatus ClearAttributes(std::string_view path) override;
   FileStatus Rename(std::string_view from, std::string_view to) override;
   FileStatus Copy(std::string_view from, std::string_view to) override;
   FileStatus MakeFolder(std::string_view path) override;
   std::string LongPath(std::string_view path) override;
+  std::string ShortPath(std::string_view path) override;
 
  private:
+  FileStatus ReplaceWith(std::string_view path, std::string_view bytes, bool flush);
+
   unsigned temporary_ = 0;  // how many files were replaced, for the names of their new contents
 };
 

@@ -113,9 +113,12 @@ void Win32PeerCore::SetZOrder(ZPlace place) {
 
 void Win32PeerCore::SetWindowPos(InsertAfter after, unsigned flags) {
   UINT all = flags | SWP_NOMOVE | SWP_NOSIZE;
-  // What goes out of sight, or stays there, takes no activation with it.
-  if ((all & SWP_HIDEWINDOW) != 0) all |= SWP_NOACTIVATE;
+  const bool hides = (all & SWP_HIDEWINDOW) != 0;
+  // What goes out of sight, or stays there, takes no activation with it; and only ShowWindow gives
+  // away the one that it had.
+  if (hides) all = (all & ~UINT{SWP_HIDEWINDOW}) | SWP_NOACTIVATE;
   ::SetWindowPos(Handle(), AfterOf(after), 0, 0, 0, 0, all);
+  if (hides) Show(ShowKind::Hidden);
 }
 
 std::unique_ptr<Canvas> Win32PeerCore::ScreenCanvas() {

@@ -2,6 +2,7 @@
 
 #include <ole2.h>
 
+#include "win32/ErrorMode.h"
 #include "win32/Win32AppBars.h"
 #include "win32/Win32CodePage.h"
 #include "win32/Win32Dde.h"
@@ -10,6 +11,7 @@
 #include "win32/Win32Files.h"
 #include "win32/Win32Input.h"
 #include "win32/Win32KeySynthesis.h"
+#include "win32/Win32Lookups.h"
 #include "win32/Win32Registry.h"
 #include "win32/Win32ShellExec.h"
 #include "win32/Win32ShellFiles.h"
@@ -38,10 +40,16 @@ class OleScope {
   bool ready_;
 };
 
+/// Set before any part of the shell is asked for anything.
+struct NoCriticalErrorBoxes {
+  NoCriticalErrorBoxes() noexcept { SuppressCriticalErrorBoxes(); }
+};
+
 }  // namespace
 
-// In the order in which they are made; the windows end first.
+// In the order in which they are made; the last ones end first.
 struct Win32Platform::Parts {
+  NoCriticalErrorBoxes NoBoxes;
   OleScope Ole;
   Win32Files Files;
   Win32CodePage Ansi;
@@ -60,6 +68,7 @@ struct Win32Platform::Parts {
   Win32AppBars Bars;
   Win32TrayIcons Tray;
   Win32WindowSystem Windows;
+  Win32Lookups SlowAnswers{Windows.Posts()};
 };
 
 Win32Platform::Win32Platform() : parts_(std::make_unique<Parts>()) {}
@@ -81,7 +90,8 @@ Platform Win32Platform::Services() const {
           .System = parts_->System,
           .Folders = parts_->Folders,
           .Bars = parts_->Bars,
-          .Tray = parts_->Tray};
+          .Tray = parts_->Tray,
+          .SlowAnswers = parts_->SlowAnswers};
 }
 
 forms::WindowSystem& Win32Platform::Windows() const { return parts_->Windows; }

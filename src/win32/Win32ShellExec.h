@@ -7,9 +7,13 @@ namespace corvelle::win32 {
 /// The shell of the machine.
 class Win32ShellExec final : public ShellExec {
  public:
-  bool Open(std::string_view file, std::optional<std::string_view> parameters,
-            std::optional<std::string_view> folder) override;
+  Result<Done, OpenError> Open(std::string_view file, std::optional<std::string_view> parameters,
+                               std::optional<std::string_view> folder) override;
   Result<Done, RunError> Run(std::string_view commandLine) override;
 };
+
+/// What the last errors of ShellExecuteEx and of CreateProcess mean.
+[[nodiscard]] OpenError OpenErrorOf(unsigned long error) noexcept;
+[[nodiscard]] RunError RunErrorOf(unsigned long error) noexcept;
 
 }  // namespace corvelle::win32

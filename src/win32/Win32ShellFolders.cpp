@@ -1,4 +1,5 @@
 #include "win32/Win32ShellFolders.h"
+#include "win32/ErrorMode.h"
 
 #include <algorithm>
 
@@ -117,6 +118,7 @@ bool Open(ITEMIDLIST* item, std::string_view argument, WindowId owner) {
   info.lpIDList = item;
   info.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
   info.nShow = SW_SHOWNORMAL;
+  const ErrorModeForChildren errorMode;
   return ShellExecuteExW(&info) != FALSE;
 }
 

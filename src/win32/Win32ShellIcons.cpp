@@ -1,7 +1,9 @@
 #include "win32/Win32ShellIcons.h"
 
 #include <string>
+#include <utility>
 
+#include "win32/FileNames.h"
 #include "win32/UniqueHandle.h"
 #include "win32/Wide.h"
 #include "win32/Win32Canvas.h"
@@ -23,10 +25,32 @@ std::size_t PlaceOf(IconList list) { return list == IconList::Small ? 0 : 1; }
 
 HIMAGELIST ToList(std::uintptr_t handle) { return reinterpret_cast<HIMAGELIST>(handle); }
 
+UniqueIcon IndexedIcon(std::string_view file, int index, int size) {
+  UniqueIcon large;
+  UniqueIcon small;
+  ExtractIconExW(Wide(file).c_str(), index, large.Receive(), small.Receive(), 1);
+  const bool smallFits = size <= GetSystemMetrics(SM_CXSMICON);
+  UniqueIcon& better = smallFits ? small : large;
+  UniqueIcon& other = smallFits ? large : small;
+  return better ? std::move(better) : std::move(other);
+}
+
+/// The icon whose resource has the number -`index`. ExtractIconEx would count the icons for -1.
+UniqueIcon ResourceIcon(std::string_view file, int index, int size) {
+  UniqueIcon icon;
+  UINT id = 0;
+  const std::wstring path = Wide(file);
+  // The call copies the path into a field of that length.
+  if (path.size() >= MAX_PATH) return icon;
+  const UINT got = PrivateExtractIconsW(path.c_str(), index, size, size, icon.Receive(), &id, 1, 0);
+  if (got != 1) static_cast<void>(icon.Release());
+  return icon;
+}
+
 }  // namespace
 
 std::optional<ShellFileInfo> Win32ShellIcons::FileInfo(std::string_view path, IconList list) {
-  if (path.empty() || path.find('\0') != std::string_view::npos) return std::nullopt;
+  if (!CanNameFile(path)) return std::nullopt;
   SHFILEINFOW info{};
   const DWORD_PTR handle =
       SHGetFileInfoW(Wide(path).c_str(), 0, &info, sizeof(info), kFileInfoFlags | SizeFlag(list));
@@ -77,14 +101,9 @@ bool Win32ShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, P
 
 bool Win32ShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                                    int size) {
-  // Below 0 the system takes the index for the number of a resource, or counts the icons.
-  if (index < 0 || file.find('\0') != std::string_view::npos) return false;
-  UniqueIcon large;
-  UniqueIcon small;
-  ExtractIconExW(Wide(file).c_str(), index, large.Receive(), small.Receive(), 1);
-  const bool smallFits = size <= GetSystemMetrics(SM_CXSMICON);
-  const UniqueIcon& better = smallFits ? small : large;
-  const UniqueIcon& icon = better ? better : (smallFits ? large : small);
+  if (file.find('\0') != std::string_view::npos) return false;
+  const UniqueIcon icon =
+      index < 0 ? ResourceIcon(file, index, size) : IndexedIcon(file, index, size);
   if (!icon) return false;
   const Win32Canvas& target = AsWin32(canvas);
   const CanvasDc dc(target);

@@ -277,6 +277,11 @@ LRESULT Win32Window::ReleaseButton(UINT message, WPARAM wParam, LPARAM lParam) {
 // The keyboard.
 
 std::optional<LRESULT> Win32Window::TreatKeys(UINT message, WPARAM wParam, LPARAM lParam) {
+  // The active window is told of the keys even while it is disabled, and so is a child of it.
+  if (message >= WM_KEYFIRST && message <= WM_KEYLAST &&
+      IsWindowEnabled(GetAncestor(handle_, GA_ROOT)) == 0) {
+    return 0;
+  }
   switch (message) {
     case WM_KEYDOWN:
       events_->OnKeyDown(static_cast<int>(wParam), ShiftOfKeyboard());

@@ -23,6 +23,11 @@ void Deliver(const MSG& message) {
   DispatchMessageW(&message);
 }
 
+BOOL CALLBACK PaintWindow(HWND window, LPARAM /*parameter*/) noexcept {
+  RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  return TRUE;
+}
+
 /// The wish to end stays in the thread's queue and would end the next loop too.
 void ForgetQuit() {
   MSG message{};
@@ -57,6 +62,7 @@ Win32WindowSystem::Win32WindowSystem() {
 }
 
 Win32WindowSystem::~Win32WindowSystem() {
+  posts_->Close();
   if (quit_) ForgetQuit();
 }
 
@@ -175,6 +181,9 @@ void Win32WindowSystem::DoEvents() {
     ticked.push_back(message.wParam);
   }
 }
+
+// The paint messages go straight to the windows: the queue is not asked for anything.
+void Win32WindowSystem::PaintWaiting() { EnumThreadWindows(GetCurrentThreadId(), &PaintWindow, 0); }
 
 void Win32WindowSystem::Run() {
   MSG message{};

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 #include "forms/WindowSystem.h"
 #include "win32/DrawingTools.h"
+#include "win32/PostBox.h"
 #include "win32/Win32ControlMaker.h"
 #include "win32/Win32Timers.h"
 
@@ -32,6 +34,8 @@ class Win32WindowSystem final : public forms::WindowSystem {
   forms::MousePointer CurrentMousePointer() const override { return pointer_; }
   void SetMouseIcon(Picture picture, PixelPoint hotSpot) override;
   void DoEvents() override;
+  void Post(std::function<void()> work) override { posts_->Post(std::move(work)); }
+  void PaintWaiting() override;
   void Run() override;
   void Quit() override;
   forms::TimerId StartTimer(int milliseconds, std::function<void()> tick) override;
@@ -50,12 +54,15 @@ class Win32WindowSystem final : public forms::WindowSystem {
   /// owner gets none, in whichever task bar. Null when the system refuses it.
   HWND ToolOwner();
   const std::shared_ptr<DrawingTools>& Tools() const noexcept { return tools_; }
+  /// For threads that may come back after the window system has ended.
+  const std::shared_ptr<PostBox>& Posts() const noexcept { return posts_; }
 
  private:
   std::shared_ptr<DrawingTools> tools_ = std::make_shared<DrawingTools>();
   forms::ScreenInfo scale_;  // its size is asked anew
   UniqueWindow toolOwner_;
   Win32Timers timers_;
+  std::shared_ptr<PostBox> posts_ = std::make_shared<PostBox>();
   Win32ControlMaker controls_{*this};
   forms::MousePointer pointer_ = forms::MousePointer::Default;
   UniqueCursor mouseIcon_;

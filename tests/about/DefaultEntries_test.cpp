@@ -14,7 +14,15 @@ namespace {
 
 constexpr int kPrograms = 2;
 constexpr int kRecent = 8;
+constexpr int kCommonPrograms = 23;
+constexpr char kChoices[] = "Software\\Microsoft\\Windows\\Shell\\Associations\\UrlAssociations\\";
 constexpr char kMailKey[] = "mailto\\shell\\open\\command";
+
+struct SearchWindow final : LoadedWindow {
+  void LoadWindow() override {}
+  void UnloadWindow() override {}
+  bool WindowLoaded() const override { return false; }
+};
 
 /// A machine with an empty folder of menus.
 class DefaultEntriesTest : public testing::Test {
@@ -24,6 +32,7 @@ class DefaultEntriesTest : public testing::Test {
     program.AppPath = "C:\\Corvelle\\";
     program.MenusPath = "C:\\Corvelle\\Menus\\";
     program.Ports.ShellLinks = &links;
+    program.Ports.NetSearch = &search;
     world.Files.MakeFolders("C:\\Corvelle\\Menus");
   }
 
@@ -53,7 +62,20 @@ class DefaultEntriesTest : public testing::Test {
     return titles;
   }
 
+  /// The user's choice in the system's settings for addresses of a kind.
+  void Prefer(const std::string& protocol, const char* command) {
+    world.Keys.Set(RegistryRoot::CurrentUser, kChoices + protocol + "\\UserChoice", "ProgId",
+                   "Chosen." + protocol);
+    if (command == nullptr) return;
+    world.Keys.Set(RegistryRoot::ClassesRoot, "Chosen." + protocol + "\\shell\\open\\command", "",
+                   command);
+  }
+  void Clear() {
+    for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+  }
+
   sim::World world;
+  SearchWindow search;
   Program program{world.Services(), world.Windows()};
   LinkReader links{program};
   DefaultEntries entries{program};
@@ -132,6 +154,107 @@ TEST_F(DefaultEntriesTest, TheMailProgramIsTheRegisteredOneIfItIsThere) {
   Fill();
   EXPECT_EQ(Singles().at(4), "Post");
   EXPECT_EQ(Read("BMENU005.BTN").at(0).FName, "C:\\My Mail\\post.exe");
+}
+
+TEST_F(DefaultEntriesTest, TheButtonsForBrowserAndMailFollowTheUsersChoice) {
+  Register(".htm", "C:\\net\\pages.exe");
+  world.Files.Put("C:\\m\\old.exe", "x");
+  world.Keys.Set(RegistryRoot::ClassesRoot, kMailKey, "", "C:\\m\\old.exe %1");
+  for (const char* path : {"C:\\net\\fox.exe", "C:\\m\\new.exe"}) world.Files.Put(path, "x");
+  Fill();
+  EXPECT_EQ(Singles(), (Texts{"Find Files", "Find Computer", "Windows Explorer", "Net Search",
+                              "pages", "Old"}));
+  Clear();
+  Prefer("http", "\"C:\\net\\fox.exe\" -url \"%1\"");
+  Prefer("mailto", "\"C:\\m\\new.exe\" %1");
+  Fill();
+  EXPECT_EQ(Read("BMENU005.BTN").at(0).FName, "C:\\net\\fox.exe");
+  EXPECT_EQ(Read("BMENU006.BTN").at(0).FName, "C:\\m\\new.exe");
+  EXPECT_EQ(Singles().size(), 6U);
+}
+
+TEST_F(DefaultEntriesTest, AChoiceThatIsNoProgramGivesNoButtonRatherThanAnother) {
+  Register(".htm", "C:\\net\\pages.exe");
+  world.Files.Put("C:\\m\\old.exe", "x");
+  world.Files.Put("C:\\Windows\\System32\\rundll32.exe", "x");
+  world.Keys.Set(RegistryRoot::ClassesRoot, kMailKey, "", "C:\\m\\old.exe %1");
+  Prefer("http", nullptr);
+  Prefer("mailto", "C:\\Windows\\System32\\rundll32.exe mail.dll,Open %1");
+  Fill();
+  EXPECT_EQ(Singles(), (Texts{"Find Files", "Find Computer", "Windows Explorer", "Net Search"}));
+}
+
+TEST_F(DefaultEntriesTest, WhatIsNoAnswerMakesNoButton) {
+  for (const char* extension : {".htm", ".txt", ".doc", ".xls", ".ppt", ".bmp"})
+    Register(extension, "C:\\Windows\\System32\\OpenWith.exe");
+  world.Files.Put("C:\\Windows\\System32\\rundll32.exe", "x");
+  world.Keys.Set(RegistryRoot::ClassesRoot, kMailKey, "",
+                 "C:\\Windows\\System32\\rundll32.exe mail.dll,Open %1");
+  Fill();
+  EXPECT_EQ(Singles(), (Texts{"Find Files", "Find Computer", "Windows Explorer", "Net Search"}));
+}
+
+TEST_F(DefaultEntriesTest, WhatCannotWorkIsLeftOutAndTheRowStaysEven) {
+  program.Ports.NetSearch = nullptr;
+  Fill();
+  EXPECT_EQ(Singles(), (Texts{"Find Files", "Find Computer", "Windows Explorer", "My Computer"}));
+  Clear();
+  world.Keys.Remove(RegistryRoot::ClassesRoot, "search-ms", "URL Protocol");
+  Fill();
+  EXPECT_EQ(Singles(), (Texts{"Find Computer", "Windows Explorer"}));
+}
+
+TEST_F(DefaultEntriesTest, TheProgramsOfAllUsersStandBesideTheUsersOwn) {
+  world.Links.SetFolder(kPrograms, "C:\\Me\\Programs");
+  world.Links.SetFolder(kCommonPrograms, "C:\\All\\Programs");
+  Link("C:\\Me\\Programs\\Writer.lnk", "C:\\w\\mine.exe");
+  Link("C:\\All\\Programs\\writer.lnk", "C:\\w\\all.exe");
+  Link("C:\\All\\Programs\\Browser.lnk", "C:\\w\\all.exe");
+  Link("C:\\All\\Programs\\Corvelle.lnk", "C:\\w\\all.exe");
+  Link("C:\\Me\\Programs\\Games\\Yak.lnk", "C:\\w\\mine.exe");
+  Link("C:\\All\\Programs\\GAMES\\yak.lnk", "C:\\w\\all.exe");
+  Link("C:\\All\\Programs\\Games\\Ant.lnk", "C:\\w\\all.exe");
+  Link("C:\\All\\Programs\\Tools\\axe.lnk", "C:\\w\\all.exe");
+  Link("C:\\All\\Programs\\Tools\\Page.lnk", "C:\\w\\page.htm");
+  Link("C:\\All\\Programs\\StartUp\\Daemon.lnk", "C:\\w\\all.exe");
+  Link("C:\\Me\\Programs\\Accessories\\Paint.lnk", "C:\\w\\mine.exe");
+  Link("C:\\All\\Programs\\Accessories\\Notes.lnk", "C:\\w\\all.exe");
+  Link("C:\\All\\Programs\\Accessories\\System\\Disk.lnk", "C:\\w\\all.exe");
+  Fill();
+  EXPECT_EQ(Titles("BMENU002.MNU"),
+            (Texts{"Programs", "Browser", "Writer", "Separator", "Ant", "axe", "Yak"}));
+  EXPECT_EQ(Read("BMENU002.MNU").at(1).FName, "C:\\All\\Programs\\Browser.lnk");
+  // Of two of one name the user's own.
+  EXPECT_EQ(Read("BMENU002.MNU").at(2).FName, "C:\\Me\\Programs\\Writer.lnk");
+  EXPECT_EQ(Read("BMENU002.MNU").at(6).FName, "C:\\Me\\Programs\\Games\\Yak.lnk");
+  EXPECT_EQ(Titles("BMENU004.MNU"), (Texts{"Accessories", "Notes", "Paint", "Separator", "Disk"}));
+}
+
+TEST_F(DefaultEntriesTest, AMachineWithProgramsOfAllUsersOnlyHasThose) {
+  world.Links.SetFolder(kCommonPrograms, "C:\\All\\Programs");
+  Link("C:\\All\\Programs\\Browser.lnk", "C:\\w\\all.exe");
+  Fill();
+  EXPECT_EQ(Titles("BMENU002.MNU"), (Texts{"Programs", "Browser"}));
+}
+
+TEST_F(DefaultEntriesTest, EntriesOfAnOlderInstallationStay) {
+  const MenuRecord old[] = {{"OpenWith", "x", "C:\\Windows\\System32\\OpenWith.exe"},
+                            {"Net Search", "\\icons\\netsrch.ico", "NetSearch"},
+                            {"Find Files", "\\icons\\filefind.ico", "FileFind"}};
+  world.Keys.Remove(RegistryRoot::ClassesRoot, "search-ms", "URL Protocol");
+  program.Ports.NetSearch = nullptr;
+  std::vector<std::string> before;
+  for (int i = 0; i < 3; ++i) {
+    const std::string path = program.MenusPath + "BMENU00" + std::to_string(i + 1) + ".BTN";
+    ASSERT_TRUE(WriteRecords(world.Files, world.Ansi, path, {old[i]}));
+    before.push_back(world.Files.Get(path).value_or(""));
+  }
+  Fill();
+  EXPECT_EQ(Names(), (Texts{"BMENU001.BTN", "BMENU002.BTN", "BMENU003.BTN"}));
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(world.Files.Get(program.MenusPath + Names()[static_cast<std::size_t>(i)]),
+              before[static_cast<std::size_t>(i)]);
+  }
 }
 
 TEST_F(DefaultEntriesTest, TheStartMenuBecomesTheMenuOfPrograms) {
@@ -264,6 +387,12 @@ TEST_F(DefaultEntriesTest, GetExeAsksWithASampleAndTakesItAwayAgain) {
   EXPECT_EQ(entries.GetExe("xyz"), std::nullopt);
   world.Files.Vanish("C:\\net\\browse.exe");
   EXPECT_EQ(entries.GetExe("htm"), std::nullopt);
+}
+
+TEST_F(DefaultEntriesTest, WithoutAProgramsFolderNoOtherFolderStandsForIt) {
+  Link("C:\\Accessories\\Paint.lnk", "C:\\w\\a.exe");
+  Fill();
+  EXPECT_EQ(Titles("BMENU004.MNU"), Texts{"Accessories"});
 }
 
 }  // namespace

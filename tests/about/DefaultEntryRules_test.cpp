@@ -5,7 +5,7 @@
 namespace corvelle {
 namespace {
 
-TEST(DefaultSingles, FourStandOnEveryMachine) {
+TEST(DefaultSingles, FourStandOnAWholeMachine) {
   const std::vector<MenuRecord> expected = {
       {"Find Files", "\\icons\\filefind.ico", "FileFind"},
       {"Find Computer", "\\icons\\comp02.ico", "FindComputer"},
@@ -13,7 +13,7 @@ TEST(DefaultSingles, FourStandOnEveryMachine) {
        "?explorer.exe /e,/root,,::{20D04FE0-3AEA-1069-A2D8-08002B30309D}"},
       {"Net Search", "\\icons\\netsrch.ico", "NetSearch"},
   };
-  EXPECT_EQ(FixedSingles(), expected);
+  EXPECT_EQ(FixedSingles({}), expected);
   EXPECT_EQ(MyComputerSingle(),
             (MenuRecord{"My Computer", "\\icons\\MyComp.ico",
                         "?explorer.exe /root,,::{20D04FE0-3AEA-1069-A2D8-08002B30309D}"}));
@@ -42,12 +42,53 @@ TEST(DefaultSingles, TitlesOfPrograms) {
   }
 }
 
-TEST(MailProgram, StandsBeforeItsArgumentsAndWithoutQuotes) {
-  EXPECT_EQ(MailProgramPath("\"C:\\Program Files\\Post\\post.EXE\" -mail %1"),
-            "C:\\Program Files\\Post\\post.EXE");
-  EXPECT_EQ(MailProgramPath("C:\\post.exe %1"), "C:\\post.exe");
-  EXPECT_EQ(MailProgramPath("\"C:\\post.com\""), "C:\\post.com");
-  EXPECT_EQ(MailProgramPath(""), "");
+TEST(DefaultSingles, WhatTheMachineCannotDoIsLeftOut) {
+  struct Row {
+    MachineFacts Facts;
+    std::vector<std::string> Expected;
+  };
+  const Row rows[] = {
+      {{}, {"Find Files", "Find Computer", "Windows Explorer", "Net Search"}},
+      {{.HasFileSearch = false}, {"Find Computer", "Windows Explorer", "Net Search"}},
+      {{.HasNetSearch = false}, {"Find Files", "Find Computer", "Windows Explorer"}},
+      {{.HasFileSearch = false, .HasNetSearch = false}, {"Find Computer", "Windows Explorer"}},
+  };
+  for (const Row& row : rows) {
+    std::vector<std::string> titles;
+    for (const MenuRecord& record : FixedSingles(row.Facts)) titles.push_back(record.FTitle);
+    EXPECT_EQ(titles, row.Expected);
+  }
+}
+
+TEST(ProgramAnswers, AreProgramsThatAButtonCanStart) {
+  struct Row {
+    std::string_view Path;
+    bool Expected;
+  };
+  const Row rows[] = {
+      {"C:\\w\\editor.exe", true},
+      {"C:\\w\\EDITOR.EXE", true},
+      {"editor.exe", true},
+      {"C:\\w\\edit.com", true},
+      {"C:\\w\\edit.bat", true},
+      {"C:\\w\\edit.cmd", true},
+      {"C:\\Windows\\System32\\OpenWith.exe", false},
+      {"openwith.EXE", false},
+      {"C:\\w\\NotOpenWith.exe", true},
+      {"C:\\Windows\\System32\\rundll32.exe", false},
+      {"C:\\Windows\\System32\\dllhost.exe", false},
+      {"C:\\Windows\\System32\\svchost.exe", false},
+      {"C:\\Windows\\System32\\LaunchWinApp.exe", false},
+      {"C:\\Windows\\System32\\ApplicationFrameHost.exe", false},
+      {"C:\\Windows\\System32\\RuntimeBroker.exe", false},
+      {"C:\\Windows\\explorer.exe", false},
+      {"C:\\Pictures\\Viewer.dll", false},
+      {"C:\\Corvelle\\dummy.txt", false},
+      {"C:\\Program Files\\WindowsApps\\Maker.Notes_11.2\\Notes.exe", false},
+      {"C:\\Users\\A\\AppData\\Local\\Microsoft\\WindowsApps\\notes.exe", true},
+      {"", false},
+  };
+  for (const Row& row : rows) EXPECT_EQ(IsProgramAnswer(row.Path), row.Expected) << row.Path;
 }
 
 TEST(DefaultMenus, HaveTheirButtonsAndItems) {

@@ -31,6 +31,7 @@ class LoggingToolbar final : public ToolbarPort {
   TwipRect WindowBounds() const override { return {}; }
   void ResetMenu() override { log_.push_back("ResetMenu"); }
   void RefreshMenu(std::string_view tag) override { Note("RefreshMenu ", tag); }
+  void TellRefused(std::vector<std::string>) override { log_.push_back("TellRefused"); }
   void OpenMenu(std::string_view tag) override { Note("OpenMenu ", tag); }
   void RemoveQMenu(std::string_view tag) override { Note("RemoveQMenu ", tag); }
   void SetMenuPosition() override {}

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "core/CoreTexts.h"
 #include "core/MenuFile.h"
 #include "sim/SimFiles.h"
@@ -29,11 +31,68 @@ TEST(EffectOfDrag, TheRightButtonLinksAndTheOthersCopy) {
 }
 
 TEST(DroppedRecords, StandInAscendingOrderOfTheNamesWithTheirExtensions) {
-  const auto records = DroppedRecords({"C:\\b.txt", "c:\\C.doc", "C:\\a.exe"}, PlainTitle);
+  SimFiles disk;
+  const auto records =
+      DroppedRecords(disk, kAnsi, {"C:\\b.txt", "c:\\C.doc", "C:\\a.exe"}, PlainTitle).Records;
   ASSERT_EQ(records.size(), 3U);
   EXPECT_EQ(records[0], (MenuRecord{"title of C:\\a.exe", "C:\\a.exe", "C:\\a.exe"}));
   EXPECT_EQ(records[1], (MenuRecord{"title of C:\\b.txt", "C:\\b.txt", "C:\\b.txt"}));
   EXPECT_EQ(records[2], (MenuRecord{"title of c:\\C.doc", "c:\\C.doc", "c:\\C.doc"}));
+}
+
+/// A folder whose name takes 255 bytes, three a character.
+std::string WideFolder() {
+  std::string folder = "C:\\";
+  for (int i = 0; i < 85; ++i) folder += "\xE6\x97\xA5";
+  return folder + "\\";
+}
+
+TEST(PathForRecord, IsThePathItselfWhileItFits) {
+  SimFiles disk;
+  const std::string longest = "C:\\" + std::string(257, 'n');
+  EXPECT_EQ(PathForRecord(disk, kAnsi, longest), longest);
+  std::string german = "C:\\";
+  for (int i = 0; i < 257; ++i) german += "\xC3\xA4";
+  EXPECT_EQ(PathForRecord(disk, kAnsi, german), german) << "one byte a letter in a record";
+  EXPECT_TRUE(disk.Log().empty());
+}
+
+TEST(PathForRecord, IsTheShortOneWhereTheVolumeHasOne) {
+  SimFiles disk;
+  const std::string path = WideFolder() + "letter.txt";
+  disk.Put(path, "x");
+  EXPECT_EQ(PathForRecord(disk, kAnsi, path), std::nullopt);
+  disk.GiveShortName(WideFolder(), "6A2F~1");
+  EXPECT_EQ(PathForRecord(disk, kAnsi, path), "C:\\6A2F~1\\letter.txt");
+  EXPECT_EQ(disk.Get("C:\\6A2F~1\\letter.txt"), "x");
+  EXPECT_EQ(PathForRecord(disk, kAnsi, WideFolder() + "gone.txt"), std::nullopt);
+}
+
+TEST(DroppedRecords, RefuseWhatNoRecordHoldsAndTakeTheOthers) {
+  SimFiles disk;
+  disk.Put(WideFolder() + "b.txt", "x");
+  disk.Put("C:\\a.txt", "x");
+  const std::string refused = WideFolder() + "b.txt";
+  DroppedEntries dropped = DroppedRecords(disk, kAnsi, {refused, "C:\\a.txt"}, PlainTitle);
+  ASSERT_EQ(dropped.Records.size(), 1U);
+  EXPECT_EQ(dropped.Records[0].FName, "C:\\a.txt");
+  EXPECT_EQ(dropped.Refused, Names{refused});
+  disk.GiveShortName(WideFolder(), "6A2F~1");
+  dropped = DroppedRecords(disk, kAnsi, {refused}, PlainTitle);
+  EXPECT_TRUE(dropped.Refused.empty());
+  EXPECT_EQ(
+      dropped.Records,
+      std::vector{(MenuRecord{PlainTitle(refused), "C:\\6A2F~1\\b.txt", "C:\\6A2F~1\\b.txt"})});
+}
+
+TEST(RefusedFilesText, NamesTheFilesAndNoMoreThanTen) {
+  EXPECT_EQ(RefusedFilesText({"C:\\a"}),
+            "This file cannot be added, because its path is too long:\n\nC:\\a");
+  EXPECT_EQ(RefusedFilesText({"C:\\a", "C:\\b"}),
+            "These files cannot be added, because their paths are too long:\n\nC:\\a\nC:\\b");
+  const std::string text = RefusedFilesText(Names(13, "C:\\a"));
+  EXPECT_TRUE(text.ends_with("\nC:\\a\nand 3 more"));
+  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 12);
 }
 
 TEST(DroppedAddress, MustBeginInLowerCaseAndIsOneLine) {
@@ -46,7 +105,9 @@ TEST(DroppedAddress, MustBeginInLowerCaseAndIsOneLine) {
       {"an address", "http://example.com/a", "http://example.com/a"},
       {"upper case", "HTTP://example.com/a", std::nullopt},
       {"a blank before it", " http://example.com", std::nullopt},
-      {"another kind", "https://example.com", std::nullopt},
+      {"a secure one", "https://example.com/a", "https://example.com/a"},
+      {"a secure one in capitals", "HTTPS://example.com", std::nullopt},
+      {"another kind", "ftp://example.com", std::nullopt},
       {"a second line", "http://example.com/\r\nExample", "http://example.com/"},
       {"a line feed alone", "http://example.com/\nExample", "http://example.com/"},
       {"a NUL", std::string("http://e.com\0rest", 17), "http://e.com"},
@@ -151,25 +212,13 @@ TEST(Dropped, NoFilesChangeNothing) {
   EXPECT_EQ(disk.Get(kFile), kFour);
 }
 
-TEST(Dropped, LongNamesAreCutToTheirField) {
-  SimFiles disk;
-  disk.Put(kFile, kFour);
-  const std::string longName = "C:\\" + std::string(297, 'n');
-  const auto records = DroppedRecords({longName}, PlainTitle);
-  EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, records), EditOutcome::Edited);
-  EXPECT_EQ(disk.Get(kFile)->size(), 5U * 570U);
-  const MenuRecord stored = ReadRecord(disk, kAnsi, kFile, 5).ValueOr({});
-  EXPECT_EQ(stored.FName, longName.substr(0, 260));
-  EXPECT_EQ(stored.FIcon, longName.substr(0, 260));
-  EXPECT_EQ(stored.FTitle, PlainTitle(longName).substr(0, 50));
-}
-
 TEST(Dropped, NamesOfAnyScriptSurvive) {
   SimFiles disk;
   disk.Put(kFile, kFour);
   const std::string name = "C:\\\xD0\xBF\xD0\xB8\xD1\x81\xD1\x8C\xD0\xBC\xD0\xBE.txt";
-  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 0, DroppedRecords({name}, PlainTitle)),
-            EditOutcome::Edited);
+  EXPECT_EQ(
+      InsertDropped(disk, kAnsi, kFile, 0, DroppedRecords(disk, kAnsi, {name}, PlainTitle).Records),
+      EditOutcome::Edited);
   EXPECT_EQ(ReadRecord(disk, kAnsi, kFile, 5).ValueOr({}).FName, name);
 }
 
@@ -178,8 +227,9 @@ TEST(Dropped, AThousandFilesComeAtOnce) {
   disk.Put(kFile, kFour);
   Names names;
   for (int i = 1000; i >= 1; --i) names.push_back("C:\\f" + std::to_string(10000 + i));
-  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 3, DroppedRecords(names, PlainTitle)),
-            EditOutcome::Edited);
+  EXPECT_EQ(
+      InsertDropped(disk, kAnsi, kFile, 3, DroppedRecords(disk, kAnsi, names, PlainTitle).Records),
+      EditOutcome::Edited);
   const auto all = ReadAllRecords(disk, kAnsi, kFile).ValueOr({});
   ASSERT_EQ(all.size(), 1004U);
   EXPECT_EQ(all[2].FName, "C:\\f10001");
@@ -229,6 +279,13 @@ TEST(Dropped, AnyOneFailureLeavesTheOldFileOrTheWholeNewOne) {
       EXPECT_GE(calls, 3) << row.name;
     }
   }
+}
+
+TEST(Dropped, AMenuThatHoldsItsButtonOnlyTakesThem) {
+  SimFiles disk;
+  disk.Put(kFile, kFour.substr(0, kRecordLength));
+  EXPECT_EQ(AppendDropped(disk, kAnsi, kFile, {{"A", "a", "a"}}), EditOutcome::Edited);
+  EXPECT_EQ(TitlesIn(disk), (Names{"Button", "A"}));
 }
 
 }  // namespace

@@ -106,6 +106,46 @@ TEST_F(EntryCommandsTest, DeletingAWholeButtonAsksFirstAndNoKeepsIt) {
   EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 4U + 0x40000U);
 }
 
+TEST_F(EntryCommandsTest, WhatBecomesCurrentWhileTheQuestionIsUpIsNotDeletedInstead) {
+  program.Entry.CurMenuTag = "B1";
+  const std::string other = "C:\\Corvelle\\Menus\\BMENU002.MNU";
+  world.Files.Put(other, FormatRecord({"Other", "", ""}, world.Ansi));
+  world.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) {
+    program.Entry.CurMenuTag = "B2";
+    program.Entry.CurFile = other;
+  });
+  world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
+  EXPECT_EQ(DeleteItem(program, false), EditOutcome::Edited);
+  EXPECT_TRUE(world.Files.Has(other));
+  EXPECT_FALSE(world.Files.Has(kFile));
+}
+
+TEST_F(EntryCommandsTest, AProgramThatEndsWhileTheQuestionIsUpDeletesNothing) {
+  toolbar.LoadWindow();
+  log.clear();
+  program.Entry.CurMenuTag = "B1";
+  world.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { toolbar.UnloadWindow(); });
+  world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
+  EXPECT_EQ(DeleteItem(program, false), EditOutcome::NothingToDo);
+  EXPECT_TRUE(world.Files.Has(kFile));
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(EntryCommandsTest, WhatIsAskedAndToldBelongsToTheStrip) {
+  toolbar.LoadWindow();
+  program.Entry.CurMenuTag = "B1";
+  world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerNo);
+  DeleteItem(program, false);
+  program.Entry.CurMenuTag = "F1";
+  PointAt(3, "Two", "i2", "other");
+  world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
+  DeleteItem(program, false);
+  ASSERT_EQ(world.Desktop.Boxes().size(), 2U);
+  for (const sim::MessageBox& box : world.Desktop.Boxes()) {
+    EXPECT_EQ(box.Owner, toolbar.WindowHandle()) << box.Text;
+  }
+}
+
 TEST_F(EntryCommandsTest, DeletingAWholeButtonRebuildsAndResizesTheStrip) {
   program.Entry.CurMenuTag = "B1";
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);

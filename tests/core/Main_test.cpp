@@ -197,7 +197,7 @@ TEST_F(MainTest, TheUpgradeCleansDataFilesAndNothingElse) {
   for (const char* name : {"toolbarp.dat", "OTHERS.DAT", "netsrch.ini", "notes.txt"}) {
     world.Files.Put(std::string("C:\\Corvelle\\") + name, "x");
   }
-  world.Files.Put("C:\\Corvelle\\Icons\\old.dat", "x");
+  world.Files.Put("C:\\Corvelle\\Icons\\Others.dat", "x");
   world.Files.Put("C:\\Corvelle\\Icons\\keep.ico", "x");
   world.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", "x");
   world.Files.HoldOpen("C:\\Corvelle\\OTHERS.DAT");
@@ -205,9 +205,30 @@ TEST_F(MainTest, TheUpgradeCleansDataFilesAndNothingElse) {
   EXPECT_TRUE(Main(program));
   EXPECT_FALSE(world.Files.Has("C:\\Corvelle\\toolbarp.dat"));
   EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\OTHERS.DAT")) << "a locked file is skipped";
-  EXPECT_FALSE(world.Files.Has("C:\\Corvelle\\Icons\\old.dat"));
+  EXPECT_FALSE(world.Files.Has("C:\\Corvelle\\Icons\\Others.dat"));
   for (const char* name : {"notes.txt", "netsrch.ini", "Icons\\keep.ico", "Menus\\BMENU001.MNU"}) {
     EXPECT_TRUE(world.Files.Has(std::string("C:\\Corvelle\\") + name)) << name;
+  }
+}
+
+TEST_F(MainTest, TheUpgradeTouchesNoDataFileOfOthersWhereverItIsUnpacked) {
+  const std::string others[] = {"ntuser.dat",       "photos.dat",       "tmenu4.dat",
+                                "tmenu4 notes.dat", "tmenu425.dat.dat", "mytoolbarp.dat",
+                                "mainmenu.dat.dat", "Icons\\cache.dat", "Icons\\tmenu4x.dat"};
+  const std::string own[] = {"tmenu418.dat", "mainmenu.dat", "SFDATA.dat",
+                             "nsearch.dat",  "clrlib.dat",   "Icons\\clrlib.dat"};
+  for (const bool first : {true, false}) {
+    if (!first) PutFlags(std::string(32, '0'));
+    for (const std::string& name : others) world.Files.Put("C:\\Corvelle\\" + name, "x");
+    for (const std::string& name : own) world.Files.Put("C:\\Corvelle\\" + name, "x");
+    world.Desktop.Answer(forms::msgbox::AnswerNo);
+    EXPECT_TRUE(Main(program));
+    for (const std::string& name : others) {
+      EXPECT_EQ(world.Files.Get("C:\\Corvelle\\" + name), "x") << name;
+    }
+    for (const std::string& name : own) {
+      EXPECT_FALSE(world.Files.Has("C:\\Corvelle\\" + name)) << name;
+    }
   }
 }
 
@@ -244,9 +265,18 @@ TEST_F(MainTest, AFlagFileThatCannotBeReachedIsNoNewInstallation) {
   EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
+TEST_F(MainTest, WhereTheFlagsCannotBeKeptTheQuestionIsNotAskedAtEachStart) {
+  world.Files.Put("C:\\Corvelle\\corvelle.hlp", "help");
+  world.Files.Protect("C:\\Corvelle");
+  link.There = true;
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+  EXPECT_FALSE(Happened("link removed"));
+  EXPECT_EQ(Flags(), "none");
+}
+
 TEST_F(MainTest, AFullDiskDoesNotStopTheStart) {
   world.Files.FillDisk(0);
-  world.Desktop.Answer(forms::msgbox::AnswerNo);
   EXPECT_TRUE(Main(program));
   EXPECT_TRUE(program.OptionFlags.Is(32));
   EXPECT_TRUE(toolbar.WindowLoaded());
@@ -308,6 +338,16 @@ TEST_F(MainTest, ACompanionClosedBeforeTheQuestionLeavesItForTheNextStart) {
   world.Desktop.StopTimer(timer);
   EXPECT_TRUE(world.Desktop.Boxes().empty());
   EXPECT_EQ(Flags()[0], '0');
+}
+
+TEST_F(MainTest, ACompanionClosedWithTheStartupWindowEndsTheStartBeforeTheQuestion) {
+  SlowIconRule slow(world.Desktop);
+  program.Ports.IconRule = &slow;
+  const forms::TimerId timer = world.Desktop.StartTimer(10, [this] { companion.UnloadWindow(); });
+  EXPECT_FALSE(Main(program));
+  world.Desktop.StopTimer(timer);
+  ASSERT_TRUE(Happened("startup window hides"));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
 }  // namespace

@@ -412,6 +412,21 @@ TEST(CreateButtonFile, NeverTakesAFileThatIsThere) {
   EXPECT_EQ(disk.Get(kMenus + "BMENU002.MNU"), "kept");
 }
 
+// A disk that fails may say of a file that is there that it is not.
+TEST(CreateButtonFile, NoOneFailureCostsTheMenuOfTheNextNumber) {
+  for (int n = 1;; ++n) {
+    sim::SimFiles disk;
+    disk.Put("C:\\Menus\\BMENU001.MNU", "one");
+    disk.Put("C:\\Menus\\BMENU003.MNU", "three");
+    disk.FailCall(n);
+    static_cast<void>(CreateButtonFile(disk, kAnsi, "C:\\Menus\\"));
+    if (!disk.Hit()) break;
+    EXPECT_EQ(disk.Get("C:\\Menus\\BMENU001.MNU"), "one") << "failing call " << n;
+    EXPECT_EQ(disk.Get("C:\\Menus\\BMENU003.MNU"), "three") << "failing call " << n;
+    ASSERT_LT(n, 20);
+  }
+}
+
 TEST(CreateButtonFile, AnyFailureLeavesNoHalfButton) {
   for (int n = 1;; ++n) {
     SimFiles disk;

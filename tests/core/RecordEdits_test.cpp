@@ -482,5 +482,49 @@ TEST(RecordEdits, AMissingFolderIsAFailure) {
   }
 }
 
+TEST(SetCurrentEntry, LeavesTheClipboardTheUndoStoreAndTheCarry) {
+  EntryEdit live{.CurTitle = "old",
+                 .CurFile = "old.mnu",
+                 .CurRecord = 2,
+                 .ClipTitle = "clip",
+                 .ClipIcon = "clip icon",
+                 .ClipCommand = "clip command",
+                 .UndoTitle = "undo",
+                 .UndoIcon = "undo icon",
+                 .UndoCommand = "undo command",
+                 .UndoMenuTag = "F3",
+                 .UndoFile = "undo.mnu",
+                 .UndoRecord = 7,
+                 .ItemDragging = true};
+  EntryEdit expected = live;
+  const EntryEdit entry{.CurTitle = "title",
+                        .CurIcon = "icon",
+                        .CurCommand = "command",
+                        .CurMenuTag = "F9",
+                        .CurFile = "new.mnu",
+                        .CurRecord = 4,
+                        .ClipTitle = "not taken",
+                        .UndoMenuTag = "not taken"};
+  expected.CurTitle = "title";
+  expected.CurIcon = "icon";
+  expected.CurCommand = "command";
+  expected.CurMenuTag = "F9";
+  expected.CurFile = "new.mnu";
+  expected.CurRecord = 4;
+  SetCurrentEntry(live, entry);
+  EXPECT_EQ(live, expected);
+}
+
+TEST(DeleteSeparator, NeverTakesTheButtonsRecordThoughItHasTheLinesIcon) {
+  Bench bench;
+  std::string bytes = bench.Bytes();
+  bytes.replace(0, kRecordLength, FormatRecord({"Button", "MenuLineSeparator", ""}, kAnsi));
+  bench.disk.Put(kFile, bytes);
+  bench.edit.CurRecord = 2;
+  const EntryEdit before = bench.edit;
+  EXPECT_EQ(SelectSeparatorAbove(bench.disk, kAnsi, bench.edit), EditOutcome::RecordMismatch);
+  EXPECT_EQ(bench.edit, before);
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -136,6 +136,44 @@ TEST_F(Links, WithoutAProgramForPagesTheAddressGoesToItsOwnHandler) {
   ExpectNoTempFiles();
 }
 
+TEST_F(Links, WithoutAnyProgramForLinksTheAddressGoesToItsHandlerToo) {
+  InstallProtocol(L"http", L"C:\\witness\\witness.exe address \"%1\"");
+  Choose(1);
+  ASSERT_TRUE(WaitForLaunch());
+  EXPECT_EQ(desk_.Launched()[0].Arguments, std::string("address \"") + kUrl + "\"");
+  desk_.Pause(500);
+  EXPECT_TRUE(desk_.Messages().empty());
+  ExpectNoTempFiles();
+}
+
+TEST_F(Links, TheUsersChoiceComesBeforeABrowserThatOnlyLeftItsKeys) {
+  InstallBrowser();
+  SetClass(L"htmlfile\\shell\\open\\ddeexec\\Application", L"IExplore");
+  InstallProtocol(L"http", L"C:\\witness\\witness.exe address \"%1\"");
+  SetClass(L"Chosen\\shell\\open\\command", L"C:\\witness\\witness.exe address \"%1\"");
+  const wchar_t chosen[] = L"Chosen";
+  ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER,
+                            L"Software\\Microsoft\\Windows\\Shell\\Associations\\"
+                            L"UrlAssociations\\http\\UserChoice",
+                            L"ProgId", REG_SZ, chosen, sizeof(chosen)),
+            0);
+  Choose(1);
+  ASSERT_TRUE(WaitForLaunch());
+  EXPECT_EQ(desk_.Launched()[0].Program, desk_.WitnessProgram());
+  EXPECT_EQ(desk_.Launched()[0].Arguments, std::string("address \"") + kUrl + "\"");
+}
+
+TEST_F(Links, ASecureAddressGoesToTheRunningBrowserWhole) {
+  desk_.WriteFile("page.url",
+                  "[InternetShortcut]\r\nURL=https://a.example/?to=http://b.example\r\n");
+  InstallBrowser();
+  LibraryServer server(L"IExplore", L"WWW_OpenURL", Manner::Takes);
+  Choose(3);
+  ASSERT_TRUE(desk_.Wait([&] { return !server.Told().empty(); }, 8000));
+  EXPECT_EQ(server.Told(),
+            std::vector<std::wstring>{L"\"https://a.example/?to=http://b.example\",,-1,0,,,,"});
+}
+
 TEST_F(Links, AMailAddressGoesToTheMailProgram) {
   InstallProtocol(L"mailto", L"C:\\witness\\witness.exe \"%1\"");
   Choose(2);

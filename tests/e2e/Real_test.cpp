@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "core/MenuRecord.h"
+#include "e2e/DeskFiles.h"
 #include "e2e/WineDesk.h"
 #include "scenario/Strip.h"
 
@@ -81,6 +82,44 @@ TEST(Document, WithoutAProgramIsHandedToTheSystemsOpenWithDialog) {
   EXPECT_NE(text.find("\nshell32.dll,OpenAs_RunDLL C:\\Corvelle\\a thing.qzx\n"), std::string::npos)
       << text;
   EXPECT_TRUE(desk.Messages().empty());
+}
+
+TEST(Question, ARightClickElsewhereWhileItIsUpLeavesItTheButtonThatWasAskedFor) {
+  WineDesk desk;
+  desk.WriteFile(kFlagsFile, InstalledFlags());
+  for (int menu = 1; menu <= 3; ++menu) {
+    WriteMenu(desk, menu, "Menu " + std::to_string(menu),
+              {{.FTitle = "Program", .FIcon = "", .FName = desk.WitnessProgram()}});
+  }
+  desk.MovePointer(scenario::FarAway(desk));
+  ASSERT_TRUE(StartAndWait(desk));
+  desk.ChooseFromPopup("Delete Item");
+  desk.Click(scenario::ButtonMiddle(desk, 2), scenario::Button::Right);
+  HWND box = nullptr;
+  ASSERT_TRUE(desk.Wait(
+      [&] {
+        return (box = FindWindowW(L"#32770", L"Corvelle")) != nullptr && IsWindowVisible(box);
+      },
+      8000));
+  EXPECT_EQ(GetWindow(box, GW_OWNER), desk.Handle("frmToolbar"));
+  EXPECT_FALSE(IsWindowEnabled(desk.Handle("frmToolbar")));
+  EXPECT_FALSE(IsWindowEnabled(desk.Handle("frmQMenu")));
+  for (const int button : {4, 3}) {
+    desk.Click(scenario::ButtonMiddle(desk, button), scenario::Button::Right);
+    desk.Pause(500);
+    EXPECT_FALSE(desk.PopupIsUp()) << button;
+  }
+  desk.Picture("question");
+  desk.AnswerNext(scenario::kButtonYes);
+  ASSERT_TRUE(desk.Wait([&] { return scenario::ButtonCount(desk) == 3; }, 8000));
+  const Windows1252 ansi;
+  std::string titles;
+  for (const std::string& name : desk.Files("Menus")) {
+    titles += ParseRecord(desk.ReadFile("Menus\\" + name).value_or(""), ansi).FTitle + "|";
+  }
+  EXPECT_EQ(titles, "Menu 2|Menu 3|");
+  EXPECT_TRUE(IsWindowEnabled(desk.Handle("frmToolbar")));
+  EXPECT_TRUE(IsWindowEnabled(desk.Handle("frmQMenu")));
 }
 
 TEST(Strip, StandsOnTopOfAllWindowsWithoutATaskBarButton) {

@@ -152,6 +152,11 @@ void WineDesk::StartCorvelle() {
   copies_.push_back(process.hProcess);
 }
 
+void WineDesk::Kill() {
+  for (HANDLE copy : copies_) TerminateProcess(copy, 99);
+  for (HANDLE copy : copies_) WaitForSingleObject(copy, 5000);
+}
+
 int WineDesk::RunningCopies() const {
   return static_cast<int>(std::count_if(copies_.begin(), copies_.end(), [](HANDLE copy) {
     return WaitForSingleObject(copy, 0) == WAIT_TIMEOUT;

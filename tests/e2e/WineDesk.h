@@ -35,6 +35,8 @@ class WineDesk final : public scenario::Desk {
 
   void StartCorvelle() override;
   [[nodiscard]] int RunningCopies() const override;
+  /// Ends all copies from outside, at this moment, and waits until they are gone.
+  void Kill();
   /// The exit codes of the copies that have ended, in the order in which they were started.
   [[nodiscard]] std::vector<DWORD> ExitCodes() const;
 

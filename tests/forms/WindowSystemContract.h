@@ -3,6 +3,9 @@
 // What every home for forms must do, the simulated desktop and Windows alike. A test program
 // includes this header once and instantiates the suite with makers of its own homes.
 
+#include <chrono>
+#include <thread>
+
 #include "forms/ContractHome.h"
 #include "forms/Graphic.h"
 #include "forms/Scopes.h"
@@ -498,6 +501,22 @@ TEST_P(WindowSystemContract, ATimerTicksWhileEventsAreLetThroughInAnother) {
   home_->Wait(300);
   Windows().StopTimer(second);
   EXPECT_GE(outer, 2);
+}
+
+TEST_P(WindowSystemContract, WhatIsOwedIsPaintedAndNothingElseRuns) {
+  const auto peer = Make(notes_);
+  ShowAndSettle(*peer);
+  int ticks = 0;
+  const TimerId timer = Windows().StartTimer(1, [&] { ++ticks; });
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));  // by then a tick waits
+  const int before = notes_.Paints;
+  peer->Invalidate({0, 0, 5, 5});
+  Windows().PaintWaiting();
+  EXPECT_EQ(notes_.Paints, before + 1);
+  EXPECT_EQ(ticks, 0);
+  Windows().PaintWaiting();
+  EXPECT_EQ(notes_.Paints, before + 1);
+  Windows().StopTimer(timer);
 }
 
 TEST_P(WindowSystemContract, TheClockGoesOnWithTime) {

@@ -90,6 +90,10 @@ TEST_F(Controls, EnterPressesTheButtonInFocusOrElseTheDefaultOne) {
   Press(key::Enter);
   EXPECT_EQ(sheet.Events, (Texts{"first", "last"}));
   EXPECT_EQ(sheet.Tick.Value(), 0);
+  // The cancel button has a key of its own.
+  sheet.First.SetCancel(true);
+  Press(key::Enter);
+  EXPECT_EQ(sheet.Events, (Texts{"first", "last", "last"}));
 }
 
 TEST_F(Controls, EscPressesTheCancelButton) {

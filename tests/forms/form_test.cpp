@@ -61,6 +61,27 @@ TEST_F(FormTest, AFormThatUnloadsInItsOwnLoadIsNotLoaded) {
   EXPECT_FALSE(Form.Visible());
 }
 
+TEST_F(FormTest, WhileItsInputIsHeldItTakesNoneAndChangesOfEnabledWait) {
+  const auto takesInput = [this] { return Desktop().Look(Form.hWnd())->Enabled; };
+  Form.HoldInput();
+  Form.Load();
+  EXPECT_FALSE(takesInput());
+  Form.HoldInput();
+  Form.ReleaseInput();
+  Form.SetEnabled(false);
+  Form.SetEnabled(true);
+  EXPECT_FALSE(takesInput());
+  Form.ReleaseInput();
+  EXPECT_TRUE(takesInput());
+  // A message box disables and enables its owner by itself.
+  Form.HoldInputOfOwner();
+  EXPECT_TRUE(takesInput());
+  Form.SetEnabled(false);
+  EXPECT_TRUE(takesInput());
+  Form.ReleaseInput();
+  EXPECT_FALSE(takesInput());
+}
+
 TEST_F(FormTest, PropertiesSetBeforeLoadAreHandedOver) {
   Form.SetCaption("Caption");
   Form.Move(150, 300, 1500, 750);

@@ -195,5 +195,18 @@ TEST_F(GraphicTest, ContainersKnowTheirControlsFromBackToFront) {
   EXPECT_EQ(Form.Graphics(), (std::vector<Graphic*>{&a}));
 }
 
+TEST_F(GraphicTest, PartsOfAnImageThatAreAsWideButApartStayApart) {
+  auto canvas = World.Windows().CreateCanvas({2, 3});
+  canvas->FillBox({0, 0, 2, 3}, kRed);
+  canvas->FillBox({0, 1, 2, 2}, Image::kMask);
+  Image image(Form, "Image");
+  image.SetPicture(std::move(canvas));
+  Sheet.FillBox({0, 0, 100, 50}, kGreen);
+  image.Paint(Sheet);
+  EXPECT_EQ(At(0, 0), kRed);
+  EXPECT_EQ(At(0, 1), kGreen);
+  EXPECT_EQ(At(0, 2), kRed);
+}
+
 }  // namespace
 }  // namespace corvelle::forms

@@ -81,6 +81,19 @@ TEST(SimPopup, IsClosedByEscByAPressElsewhereAndByAnotherForegroundWindow) {
   }
 }
 
+TEST(SimPopup, IsTheOnlyOne) {
+  PopupHome home;
+  int inner = 0;
+  home.World.Desktop.WhilePopupIsUp([&](const sim::Popup&) {
+    home.World.Desktop.WhilePopupIsUp({});
+    inner = home.Show();
+  });
+  home.World.Desktop.ChooseFromPopup("First");
+  EXPECT_NE(home.Show(), popup::kNothing);
+  EXPECT_EQ(inner, popup::kNothing);
+  EXPECT_EQ(home.World.Desktop.Popups().size(), 1U);
+}
+
 TEST(SimPopup, TakesTheMouseAndTheKeyboard) {
   PopupHome home;
   sim::SimDesktop& desktop = home.World.Desktop;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
@@ -7,6 +8,7 @@
 #include "forms/InputContract.h"
 #include "forms/ListBoxContract.h"
 #include "forms/PictureContract.h"
+#include "forms/PostContract.h"
 #include "forms/ScrollBarContract.h"
 #include "forms/TabStripContract.h"
 #include "forms/TextBoxContract.h"
@@ -18,7 +20,7 @@
 namespace corvelle::forms {
 namespace {
 
-class SimulatedHome final : public InputHome {
+class SimulatedHome final : public ActivationHome {
  public:
   WindowSystem& Windows() override { return world_.Desktop; }
   DesktopWindows& Desktop() override { return world_.Desktop; }
@@ -37,6 +39,16 @@ class SimulatedHome final : public InputHome {
     world_.Desktop.WhilePopupIsUp([action = std::move(action)](const sim::Popup&) { action(); });
   }
   void ClosePopup() override { world_.Desktop.PressKey(key::Escape); }
+  WindowId OpenOther() override {
+    const WindowId other = world_.Desktop.AddOtherWindow({.Title = "Contract other"});
+    world_.Desktop.TakeForeground(other);
+    return other;
+  }
+  void AnswerBox(std::function<void()> whileUp) override {
+    world_.Desktop.Answer(msgbox::AnswerOk);
+    world_.Desktop.WhileBoxIsUp(
+        [whileUp = std::move(whileUp)](const sim::MessageBox&) { whileUp(); });
+  }
 
  private:
   sim::World world_;
@@ -44,9 +56,13 @@ class SimulatedHome final : public InputHome {
 
 INSTANTIATE_TEST_SUITE_P(Simulated, WindowSystemContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, PostContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, CanvasContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, InputContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ActivationContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, ControlContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));

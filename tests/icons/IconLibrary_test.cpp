@@ -50,6 +50,18 @@ TEST_F(LibraryDesk, EveryEntryBecomesAFile) {
   EXPECT_EQ(Content("Tools.ini"), "a.ico\r\n");
 }
 
+TEST_F(LibraryDesk, TheDiskIsWaitedForOnceHoweverManyFilesThereAre) {
+  std::string bytes;
+  for (int i = 0; i < 40; ++i) bytes += Entry("a" + std::to_string(i) + ".ico", "icon");
+  Pack(bytes + End());
+  Unpack();
+  EXPECT_EQ(Unpacked().size(), 40U);
+  EXPECT_EQ(world.Files.Count("Replace"), 0);
+  EXPECT_EQ(world.Files.Count("Flush"), 1);
+  EXPECT_EQ(world.Files.Log().back(),
+            (sim::SimFiles::Call{"Flush", "C:\\Corvelle\\Icons\\a39.ico", {}}));
+}
+
 TEST_F(LibraryDesk, TheContainerIsTheOneThatThePackerWrites) {
   Pack(
       "a.ico               \4\0\0\0first"

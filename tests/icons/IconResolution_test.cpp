@@ -80,6 +80,15 @@ TEST_F(ResolveAndDrawTest, AFileIsDrawnAsTheShellShowsIt) {
   EXPECT_TRUE(drawn);
 }
 
+TEST_F(ResolveAndDrawTest, ANegativeIndexIsTheNumberOfAResource) {
+  world.Icons.AddResource("C:\\Tools\\tool.exe", 16);
+  world.Icons.AddResource("shell32.dll", 1);
+  EXPECT_EQ(Drawn("C:\\Tools\\tool.exe|-16"), InFile("C:\\Tools\\tool.exe", -16));
+  EXPECT_EQ(Drawn("C:\\Tools\\tool.exe | -16"), InFile("C:\\Tools\\tool.exe", -16));
+  EXPECT_EQ(Drawn("shell32.dll|-1"), InFile("shell32.dll", -1));
+  EXPECT_EQ(Drawn("C:\\Tools\\tool.exe|-17"), FallbackColour());
+}
+
 TEST_F(ResolveAndDrawTest, TheIconFillsItsPlaceAndNoMore) {
   for (const int size : {16, 32}) {
     EXPECT_EQ(Drawn("C:\\Tools\\tool.exe", size), System(12));
@@ -236,35 +245,20 @@ TEST_F(ResolveAndDrawTest, IconFilesAreNotTakenApartWhereTheShellShowsThem) {
   EXPECT_EQ(canvas.PixelAt(kAt), InFile("C:\\Tools\\tool.exe", 1));
 }
 
-TEST_F(DetectShellIconsTest, TheRegistrySaysThatTheShellShowsThem) {
-  for (const char* value : {"%1", "\"%1\"", " \"%1\" "}) {
-    program.ShellDrawsIcons = false;
-    world.Keys.Set(RegistryRoot::ClassesRoot, "icofile\\DefaultIcon", "", value);
-    DetectShellIcons(program);
-    EXPECT_TRUE(program.ShellDrawsIcons) << value;
-  }
-  EXPECT_EQ(world.Icons.Lookups(), 0);
-}
-
-TEST_F(DetectShellIconsTest, ATextBehindANulDoesNotCount) {
-  using std::string_literals::operator""s;
-  world.Keys.Set(RegistryRoot::ClassesRoot, "icofile\\DefaultIcon", "", "%1\0,0"s);
-  DetectShellIcons(program);
-  EXPECT_TRUE(program.ShellDrawsIcons);
-}
-
-TEST_F(DetectShellIconsTest, OtherwiseTwoIconFilesTell) {
+TEST_F(DetectShellIconsTest, TwoIconFilesTellWhateverTheRegistrySays) {
   struct Row {
     const char* name;
     int second;
     bool expected;
   };
   for (const Row& row : {Row{"two pictures", 42, true}, Row{"one for both", 41, false}}) {
-    world.Keys.Set(RegistryRoot::ClassesRoot, "icofile\\DefaultIcon", "", "shell32.dll,1");
-    Put("C:\\Corvelle\\Icons\\two.ico", row.second, 1);
-    program.ShellDrawsIcons = !row.expected;
-    DetectShellIcons(program);
-    EXPECT_EQ(program.ShellDrawsIcons, row.expected) << row.name;
+    for (const char* value : {"%1", "\"%1\"", "shell32.dll,1"}) {
+      world.Keys.Set(RegistryRoot::ClassesRoot, "icofile\\DefaultIcon", "", value);
+      Put("C:\\Corvelle\\Icons\\two.ico", row.second, 1);
+      program.ShellDrawsIcons = !row.expected;
+      DetectShellIcons(program);
+      EXPECT_EQ(program.ShellDrawsIcons, row.expected) << row.name << ", " << value;
+    }
   }
 }
 

@@ -55,6 +55,36 @@ TEST_F(CheckRecycleIconTest, FollowsTheBinWhenItFillsAndWhenItIsEmptied) {
   EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
 }
 
+TEST_F(CheckRecycleIconTest, FollowsTheCurrentUsersKeyBeforeThatOfAll) {
+  const std::string users =
+      std::string("Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\") + kKey;
+  SetIcon(kEmptyBin);
+  Look();
+  world.Keys.Set(RegistryRoot::CurrentUser, users, {}, kFullBin);
+  EXPECT_TRUE(Look());
+  EXPECT_EQ(program.RecycleIconPath, kFullBin);
+  // The key of all users stays as it was installed.
+  SetIcon("other.ico");
+  EXPECT_FALSE(Look());
+  world.Keys.Set(RegistryRoot::CurrentUser, users, {}, " ");
+  EXPECT_TRUE(Look());
+  EXPECT_EQ(program.RecycleIconPath, "other.ico");
+}
+
+TEST_F(CheckRecycleIconTest, FollowsWhatTheShellDrawsThoughNoKeyChanges) {
+  SetIcon(kEmptyBin);
+  world.Folders.SetSelf(10, {"Bin", 31});
+  EXPECT_TRUE(Look());
+  EXPECT_FALSE(Look());
+  world.Folders.SetSelf(10, {"Bin", 32});
+  EXPECT_TRUE(Look());
+  EXPECT_EQ(program.RecycleIconIndex, 32);
+  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+  world.Folders.Remove(10);
+  EXPECT_FALSE(Look()) << "one that is not told";
+  EXPECT_EQ(program.RecycleIconIndex, 32);
+}
+
 TEST_F(CheckRecycleIconTest, AChangeThatNobodyLookedAtYetStays) {
   SetIcon(kEmptyBin);
   CheckRecycleIcon(program);

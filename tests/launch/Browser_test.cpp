@@ -31,6 +31,8 @@ constexpr char kOther[] = "C:\\Other\\other.exe";
 constexpr char kWebKey[] = "http\\shell\\open\\ddeexec\\Application";
 constexpr char kHtmlKey[] = "htmlfile\\shell\\open\\ddeexec\\Application";
 constexpr char kNetscapeKey[] = "NetscapeMarkup\\shell\\open\\ddeexec\\Application";
+constexpr char kChoiceKey[] =
+    "Software\\Microsoft\\Windows\\Shell\\Associations\\UrlAssociations\\http\\UserChoice";
 constexpr char kBrowserError[] =
     "Unable to communicate with your default browser. \r\n"
     "This program should work with Netscape 4.02 or later and MS Explorer 4.0 or later. \r\n"
@@ -371,7 +373,74 @@ TEST_F(OpenUrlTest, TheShellThatRefusesTheAddressGetsAFileOfIt) {
   EXPECT_EQ(world.Dde.Tries(), 0);
 }
 
+TEST_F(OpenUrlTest, WithoutAnyProgramTheShellGetsTheAddressBeforeAnyError) {
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened(kUrl)});
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(OpenUrlTest, TheUsersChoiceComesBeforeAnotherProgramForPages) {
+  struct Row {
+    const char* Name;
+    const char* Chosen;   // the class that the user has chosen; null for none
+    const char* Command;  // of that class; null for none
+    bool AsksByDde;
+    std::vector<Launch> Expected;
+  };
+  const std::vector<Launch> byShell = {Opened(kUrl)};
+  const std::vector<Launch> started = {Opened(kExplorer, kUrl, "C:\\IE\\")};
+  const Row rows[] = {
+      {"no choice", nullptr, nullptr, true, started},
+      {"a blank choice", " ", nullptr, true, started},
+      {"the class of all addresses", "HTTP", nullptr, true, started},
+      {"the same", "Chosen", "\"C:\\ie\\IExplore.exe\" %1", true, started},
+      {"another program", "Chosen", "\"C:\\Other\\other.exe\" -url \"%1\"", false, byShell},
+      {"a program that no command starts", "Chosen", nullptr, false, byShell},
+  };
+  for (const Row& row : rows) {
+    world.Shell.ClearLog();
+    world.Keys.Remove(RegistryRoot::CurrentUser, kChoiceKey, "ProgId");
+    world.Keys.Remove(RegistryRoot::ClassesRoot, "Chosen\\shell\\open\\command", "");
+    if (row.Chosen != nullptr)
+      world.Keys.Set(RegistryRoot::CurrentUser, kChoiceKey, "ProgId", row.Chosen);
+    if (row.Command != nullptr) SetKey("Chosen\\shell\\open\\command", row.Command);
+    // Left behind by the browser that opens pages, and does not run.
+    SetKey(kWebKey, "IExplore");
+    HaveBrowser(kExplorer);
+    const int tries = world.Dde.Tries();
+    Browser fresh(program);
+    fresh.OpenUrl(kUrl);
+    EXPECT_EQ(world.Dde.Tries() - tries, row.AsksByDde ? 1 : 0) << row.Name;
+    EXPECT_EQ(world.Shell.Log(), row.Expected) << row.Name;
+  }
+}
+
+TEST_F(OpenUrlTest, AChoiceThatChangesMeanwhileIsFollowed) {
+  HaveBrowser(kExplorer, "IExplore");
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Dde.Told().size(), 1U);
+  world.Keys.Set(RegistryRoot::CurrentUser, kChoiceKey, "ProgId", "Chosen");
+  SetKey("Chosen\\shell\\open\\command", kOther);
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Dde.Told().size(), 1U);
+  EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened(kUrl)});
+}
+
+TEST_F(OpenUrlTest, ABrowserChosenInThisProgramIsTheUsersChoice) {
+  world.Files.Put(kIniFile, "Command=c:\\ie\\iexplore.exe\r\nApplication=IExplore\r\n");
+  world.Keys.Set(RegistryRoot::CurrentUser, kChoiceKey, "ProgId", "Chosen");
+  SetKey("Chosen\\shell\\open\\command", kOther);
+  world.Dde.AddServer("IExplore", kTopic);
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Dde.Told().size(), 1U);
+  ASSERT_TRUE(browser.UseBrowser(kNetscape));
+  world.Dde.AddServer("NSShell", kTopic);
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Dde.Told().size(), 2U);
+}
+
 TEST_F(OpenUrlTest, WithoutAnyBrowserTheMessageComesAndTheNextAddressLooksAgain) {
+  world.Shell.Fail(kUrl);
   world.Desktop.Answer(kBrowserError, forms::msgbox::AnswerOk);
   browser.OpenUrl(kUrl);
   ASSERT_EQ(world.Desktop.Boxes().size(), 1U);
@@ -380,6 +449,22 @@ TEST_F(OpenUrlTest, WithoutAnyBrowserTheMessageComesAndTheNextAddressLooksAgain)
   HaveBrowser(kExplorer, "IExplore");
   browser.OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().size(), 1U);
+}
+
+TEST_F(OpenUrlTest, ABrowserThatTheUserRefusesEndsItQuietly) {
+  HaveBrowser(kExplorer);
+  world.Shell.FailToOpen(kExplorer, OpenError::Cancelled);
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Shell.Log().size(), 1U);
+  EXPECT_TRUE(browser.BrowserUseDde);
+}
+
+TEST_F(OpenUrlTest, AnAddressThatTheUserRefusesToOpenEndsItQuietly) {
+  world.Associations.Set(".url", kOther);
+  world.Shell.FailToOpen(kUrl, OpenError::Cancelled);
+  browser.OpenUrl(kUrl);
+  EXPECT_EQ(world.Shell.Log().size(), 1U);
+  EXPECT_TRUE(browser.BrowserUseShell);
 }
 
 TEST_F(OpenUrlTest, AnAddressCannotEndItsArgument) {
@@ -458,6 +543,17 @@ TEST_F(OpenMailTest, ThenTheRegisteredProgramIsTried) {
   browser.OpenMail("mailto:ann@a.example");
   EXPECT_EQ(world.Shell.Log(), (std::vector<Launch>{Opened("mailto:ann@a.example", {}, {}, false),
                                                     Opened(kOther, "mailto:ann@a.example")}));
+}
+
+TEST_F(OpenMailTest, AMailProgramThatTheUserRefusesEndsItQuietly) {
+  SetKey("mailto\\shell\\open\\command", kOther);
+  world.Shell.FailToOpen("mailto:a@b.example", OpenError::Cancelled);
+  browser.OpenMail("mailto:a@b.example");
+  EXPECT_EQ(world.Shell.Log().size(), 1U);
+  world.Shell.FailToOpen("mailto:a@b.example", OpenError::Other);
+  world.Shell.FailToOpen(kOther, OpenError::Cancelled);
+  browser.OpenMail("mailto:a@b.example");
+  EXPECT_EQ(world.Shell.Log().size(), 3U);
 }
 
 TEST_F(OpenMailTest, WithoutAMailProgramItIsTheMailMessage) {

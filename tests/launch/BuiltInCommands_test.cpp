@@ -77,8 +77,17 @@ TEST_F(ClearRecentDocsTest, AFolderWithFoldersOnlyCountsAsEmpty) {
 }
 
 TEST_F(ClearRecentDocsTest, AHiddenFileIsAFileToo) {
-  Put("desktop.ini");
-  world.Files.SetHidden(std::string(kRecent) + "desktop.ini", true);
+  Put("notes.lnk");
+  world.Files.SetHidden(std::string(kRecent) + "notes.lnk", true);
+  Clear();
+  EXPECT_EQ(world.FileOps.Log().size(), 1U);
+}
+
+TEST_F(ClearRecentDocsTest, TheShellsOwnFileIsNoDocument) {
+  Put("Desktop.ini");
+  Clear();
+  EXPECT_TRUE(world.FileOps.Log().empty());
+  Put("desktop.ini.lnk");
   Clear();
   EXPECT_EQ(world.FileOps.Log().size(), 1U);
 }

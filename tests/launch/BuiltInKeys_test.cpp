@@ -23,7 +23,6 @@ struct WordRow {
 
 const WordRow kWords[] = {
     {"FindComputer", {"+17", "+91", "+70", "-17", "-91", "-70"}},
-    {"FileFind", {"+91", "+70", "-91", "-70"}},
     {"MinimizeAllWindows", {"+91", "+77", "-91", "-77"}},
     {"UndoMinimizeAll", {"+16", "+91", "+77", "-16", "-91", "-77"}},
 };
@@ -40,7 +39,6 @@ TEST(KeySequence, AllKeysGoDownAndThenUpInTheSameOrder) {
       {"find computer",
        ShellKeys::FindComputer,
        {{17, 0}, {91, 0}, {70, 0}, {17, 2}, {91, 2}, {70, 2}}},
-      {"find files", ShellKeys::FileFind, {{91, 0}, {70, 0}, {91, 2}, {70, 2}}},
       {"minimize all", ShellKeys::MinimizeAllWindows, {{91, 0}, {77, 0}, {91, 2}, {77, 2}}},
       {"undo minimize all",
        ShellKeys::UndoMinimizeAll,
@@ -59,16 +57,16 @@ TEST_F(BuiltInKeysTest, EachWordPressesItsKeys) {
 }
 
 TEST_F(BuiltInKeysTest, TheCaseOfAWordDoesNotCount) {
-  for (const char* word : {"filefind", "FILEFIND", "FileFind", " fileFIND ", "?FileFind"}) {
+  for (const char* word : {"findcomputer", "FINDCOMPUTER", " findCOMPUTER ", "?FindComputer"}) {
     world.Keyboard.ClearLog();
     LaunchItem(program, word);
-    EXPECT_EQ(world.Keyboard.Log(), kWords[1].Keys) << word;
+    EXPECT_EQ(world.Keyboard.Log(), kWords[0].Keys) << word;
   }
 }
 
 TEST_F(BuiltInKeysTest, AWordWithMoreBehindItIsNone) {
   world.Desktop.Answer("File/Device unavailable.", kOk);
-  LaunchItem(program, "FileFind x");
+  LaunchItem(program, "FindComputer x");
   EXPECT_TRUE(world.Keyboard.Log().empty());
 }
 

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "base/CodePage.h"
 
@@ -42,6 +44,9 @@ TEST(CommandForms, EachRowOfTheTableIsKnown) {
       {"find file", "filefind", CommandKind::FileFind, "filefind"},
       {"url file", "c:\\site.url", CommandKind::UrlFile, "c:\\site.url"},
       {"web address", "http://a.example", CommandKind::WebAddress, "http://a.example"},
+      {"secure address", "https://a.example", CommandKind::WebAddress, "https://a.example"},
+      {"secure address in capitals", "HTTPS://A.EXAMPLE", CommandKind::WebAddress,
+       "HTTPS://A.EXAMPLE"},
       {"mail address", "mailto:a@b.example", CommandKind::MailAddress, "mailto:a@b.example"},
       {"link", "c:\\a.lnk", CommandKind::ShellLink, "c:\\a.lnk"},
       {"program", "c:\\a.exe", CommandKind::Other, "c:\\a.exe"},
@@ -108,7 +113,7 @@ TEST(CommandForms, NearMissesAreFiles) {
   const FormRow rows[] = {
       {"word with more", "netsearch now", CommandKind::Other, "netsearch now"},
       {"word that no test knows", "RunDialog", CommandKind::Other, "RunDialog"},
-      {"secure address", "https://a.example", CommandKind::Other, "https://a.example"},
+      {"a longer word", "httpss://a", CommandKind::Other, "httpss://a"},
       {"one slash", "http:/a", CommandKind::Other, "http:/a"},
       {"link with arguments", "c:\\a.lnk /x", CommandKind::Other, "c:\\a.lnk /x"},
       {"url with more", "c:\\a.url.txt", CommandKind::Other, "c:\\a.url.txt"},
@@ -127,6 +132,7 @@ TEST(CommandForms, AnUnknownSpecialFolderIsOneAllTheSame) {
 
 TEST(CommandForms, WhatAUrlFileLedToIsNeverAnotherUrlFile) {
   EXPECT_EQ(ClassifyAddress("http://a.example/b.url"), CommandKind::WebAddress);
+  EXPECT_EQ(ClassifyAddress("https://a.example/b.lnk"), CommandKind::WebAddress);
   EXPECT_EQ(ClassifyAddress("c:\\a.url"), CommandKind::Other);
   EXPECT_EQ(ClassifyAddress("MailTo:a@b"), CommandKind::MailAddress);
   EXPECT_EQ(ClassifyAddress("c:\\a.lnk"), CommandKind::ShellLink);
@@ -155,7 +161,16 @@ TEST(UrlFiles, GiveTheFirstAddress) {
       {"the word is missing", "http://a.example\r\n", std::nullopt},
       {"word and address on two lines", "URL=\r\nhttp://a.example\r\n", std::nullopt},
       {"another kind of address", "URL=ftp://a.example\r\n", std::nullopt},
-      {"secure", "URL=https://a.example\r\n", std::nullopt},
+      {"secure", "URL=https://a.example\r\n", "https://a.example"},
+      {"secure in capitals", "URL=HTTPS://A.example\r\n", "HTTPS://A.example"},
+      {"one address in another", "URL=https://a/?to=http://b/c", "https://a/?to=http://b/c"},
+      {"two of a kind", "URL=http://a/http://b", "http://a/http://b"},
+      {"secure in a plain one", "URL=http://a/https://b", "http://a/https://b"},
+      {"its word in the address", "URL=https://a/?url=http://b", "https://a/?url=http://b"},
+      {"in quotes", "URL=\"https://a\"", "https://a\""},
+      {"inside another kind", "URL=ftp://a/?to=http://b", std::nullopt},
+      {"behind another kind", "URL=view:https://b", std::nullopt},
+      {"another kind, then a plain line", "URL=ftp://a/http://b\r\nURL=http://c", "http://c"},
       {"empty", "", std::nullopt},
   };
   const Windows1252 ansi;
@@ -195,6 +210,34 @@ TEST(LinkFolders, EndAtTheTargetsLastBackslash) {
   EXPECT_EQ(LinkFolder("  c:\\a.exe  "), "c:\\");
   EXPECT_EQ(LinkFolder("a.exe"), "");
   EXPECT_EQ(LinkFolder(""), "");
+}
+
+TEST(CommandLineSplit, TheProgramEndsWhereTheSystemWouldEndIt) {
+  struct Row {
+    const char* name;
+    std::string line;
+    std::vector<std::string> files;
+    CommandLineParts expected;
+  };
+  const Row rows[] = {
+      {"in quotes", "\"c:\\a b\\c.exe\"  /x y", {}, {"c:\\a b\\c.exe", "/x y"}},
+      {"quotes without an end", "\"c:\\a.exe", {}, {"c:\\a.exe", ""}},
+      {"the first word", "c:\\a.exe /x", {"c:\\a.exe"}, {"c:\\a.exe", "/x"}},
+      {"blanks in the path", "c:\\a b.exe /x", {"c:\\a b.exe"}, {"c:\\a b.exe", "/x"}},
+      {"the shorter of two", "c:\\a b /x", {"c:\\a.exe", "c:\\a b"}, {"c:\\a", "b /x"}},
+      {"without its ending", "c:\\a /x", {"c:\\a.exe"}, {"c:\\a", "/x"}},
+      {"the whole line", "c:\\a b", {"c:\\a b"}, {"c:\\a b", ""}},
+      {"a name that is looked up elsewhere", "regedit /s x", {}, {"regedit", "/s x"}},
+      {"one word", "regedit", {}, {"regedit", ""}},
+      {"blanks around it", "  a  b ", {}, {"a", "b"}},
+      {"nothing", "", {}, {"", ""}},
+  };
+  for (const Row& row : rows) {
+    const auto exists = [&row](const std::string& path) {
+      return std::find(row.files.begin(), row.files.end(), path) != row.files.end();
+    };
+    EXPECT_EQ(SplitCommandLine(row.line, exists), row.expected) << row.name;
+  }
 }
 
 TEST(Quotes, StandAroundTheText) {

@@ -18,6 +18,7 @@ namespace {
 using sim::Launch;
 
 constexpr char kUnavailable[] = "File/Device unavailable.";
+constexpr char kNoAccess[] = "Error: 70 - Permission denied";
 constexpr char kEmpty[] =
     "Empty string in the File Field. Check your entries in the Customize window.";
 
@@ -184,27 +185,97 @@ TEST_F(LaunchItemTest, ADocumentWithoutAProgramBringsTheOpenWithDialog) {
   EXPECT_EQ(Boxes(), 0U);
 }
 
-TEST_F(LaunchItemTest, AnotherFailureWithoutAFileIsQuiet) {
+TEST_F(LaunchItemTest, AnotherFailureWithoutAFileIsToldOf) {
+  ExpectUnavailable();
   world.Shell.Fail("C:\\Tools\\tool.exe /x", RunError::Other);
   LaunchItem(program, "C:\\Tools\\tool.exe /x");
   EXPECT_EQ(Launches(), (std::vector{NotOpened("C:\\Tools\\tool.exe /x", "C:\\Tools\\"),
                                      NotRun("C:\\Tools\\tool.exe /x")}));
-  EXPECT_EQ(Boxes(), 0U);
+  EXPECT_EQ(Boxes(), 1U);
 }
 
-TEST_F(LaunchItemTest, AnotherFailureOfAFolderIsQuiet) {
+TEST_F(LaunchItemTest, AnotherFailureOfAFolderIsToldOf) {
+  ExpectUnavailable();
   world.Shell.Fail("C:\\Docs", RunError::Other);
   LaunchItem(program, "C:\\Docs");
   EXPECT_EQ(Launches(), (std::vector{NotOpened("C:\\Docs", "C:\\"), NotRun("C:\\Docs")}));
-  EXPECT_EQ(Boxes(), 0U);
+  EXPECT_EQ(Boxes(), 1U);
 }
 
-TEST_F(LaunchItemTest, AMissingOpenWithDialogIsQuiet) {
+TEST_F(LaunchItemTest, AMissingOpenWithDialogIsToldOf) {
+  ExpectUnavailable();
   world.Shell.Fail("rundll32.exe shell32.dll,OpenAs_RunDLL C:\\Docs\\odd.xyz",
                    RunError::FileNotFound);
   LaunchItem(program, "C:\\Docs\\odd.xyz");
   EXPECT_EQ(Launches().size(), 3U);
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LaunchItemTest, WhatTheUserRefusesEndsThere) {
+  AddServices();
+  links.Set("C:\\Links\\tool.lnk", "C:\\Tools\\tool.exe");
+  for (const char* command : {"C:\\Tools\\tool.exe", "C:\\Docs\\odd.xyz", "C:\\Docs\\plan.txt",
+                              "C:\\Links\\tool.lnk", "ftp://a.example"}) {
+    world.Shell.ClearLog();
+    world.Shell.FailToOpen(command, OpenError::Cancelled);
+    LaunchItem(program, command);
+    ASSERT_EQ(Launches().size(), 1U) << command;
+    EXPECT_FALSE(Launches()[0].Started) << command;
+  }
   EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(LaunchItemTest, WithoutAccessTheUserIsToldAndNothingElseIsTried) {
+  AddServices();
+  links.Set("C:\\Links\\tool.lnk", "C:\\Tools\\tool.exe");
+  for (const char* command : {"C:\\Tools\\tool.exe", "C:\\Docs\\odd.xyz", "C:\\Links\\tool.lnk"}) {
+    world.Shell.ClearLog();
+    world.Shell.FailToOpen(command, OpenError::AccessDenied);
+    world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
+    LaunchItem(program, command);
+    ASSERT_EQ(Launches().size(), 1U) << command;
+    EXPECT_EQ(world.Desktop.Boxes().back().Flags, 262160U) << command;
+  }
+  EXPECT_EQ(Boxes(), 3U);
+}
+
+TEST_F(LaunchItemTest, ACommandLineWithoutAccessSaysSoAndOffersNoOtherProgram) {
+  world.Shell.FailToOpen("C:\\Docs\\odd.xyz", OpenError::Other);
+  world.Shell.Fail("C:\\Docs\\odd.xyz", RunError::AccessDenied);
+  world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
+  LaunchItem(program, "C:\\Docs\\odd.xyz");
+  EXPECT_EQ(Launches().size(), 2U);
+  EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LaunchItemTest, ACommandLineThatNeedsElevationIsGivenToTheShellInItsParts) {
+  const std::string line = "C:\\Tools\\tool.exe /all users";
+  world.Shell.Fail(line, RunError::NeedsElevation);
+  LaunchItem(program, "?" + line);
+  Launch elevated = Opened("C:\\Tools\\tool.exe", "C:\\Tools\\");
+  elevated.Parameters = "/all users";
+  EXPECT_EQ(Launches(), (std::vector{NotOpened(line, "C:\\Tools\\"), NotRun(line), elevated}));
+
+  // The user's "no" to it is the end.
+  world.Shell.ClearLog();
+  world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::Cancelled);
+  LaunchItem(program, "?" + line);
+  EXPECT_EQ(Launches().size(), 3U);
+  EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+TEST_F(OpenWithItemTest, WhatTheUserRefusesOrMayNotOpenEndsThere) {
+  world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::Cancelled);
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches().size(), 1U);
+  EXPECT_EQ(Boxes(), 0U);
+
+  world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::AccessDenied);
+  world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches().size(), 2U);
+  EXPECT_EQ(Boxes(), 1U);
 }
 
 TEST_F(LaunchItemTest, NothingButBlanksGivesTheEmptyMessage) {
@@ -246,11 +317,18 @@ TEST_F(LaunchItemTest, WithoutABrowserOfItsOwnTheSystemOpensAddresses) {
   EXPECT_EQ(Launches(), (std::vector{Opened("http://a.example"), Opened("mailto:a@b.example")}));
 }
 
-TEST_F(LaunchItemTest, ASecureAddressIsTheSystemsBusiness) {
+TEST_F(LaunchItemTest, ASecureAddressGoesToTheBrowserToo) {
   AddServices();
   LaunchItem(program, "https://a.example");
-  EXPECT_EQ(log, CallLog());
-  EXPECT_EQ(Launches(), std::vector{Opened("https://a.example")});
+  EXPECT_EQ(log, CallLog{"OpenUrl https://a.example"});
+  EXPECT_TRUE(Launches().empty());
+}
+
+TEST_F(LaunchItemTest, AUrlFileOpensTheWholeOfAnAddressThatHoldsAnother) {
+  AddServices();
+  world.Files.Put("C:\\Docs\\old.url", "[InternetShortcut]\r\nURL=https://a.example/http://b\r\n");
+  LaunchItem(program, "C:\\Docs\\old.url");
+  EXPECT_EQ(log, CallLog{"OpenUrl https://a.example/http://b"});
 }
 
 TEST_F(LaunchItemTest, AUrlFileOpensItsAddress) {
@@ -264,7 +342,7 @@ TEST_F(LaunchItemTest, AUrlFileOpensItsAddress) {
 TEST_F(LaunchItemTest, AUrlFileWithoutAnAddressGoesOnAsAFile) {
   AddServices();
   world.Shell.Associate(".url", "browser.exe");
-  world.Files.Put("C:\\Docs\\site.url", "[InternetShortcut]\r\nURL=https://a.example\r\n");
+  world.Files.Put("C:\\Docs\\site.url", "[InternetShortcut]\r\nURL=ftp://a/?http://b\r\n");
   LaunchItem(program, "C:\\Docs\\site.url");
   EXPECT_EQ(log, CallLog());
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Docs\\site.url", "C:\\Docs\\")});
@@ -295,11 +373,12 @@ TEST_F(LaunchItemTest, WithoutAReaderOfLinksTheSystemOpensThem) {
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Links\\tool.lnk")});
 }
 
-TEST_F(LaunchItemTest, AFailingLinkIsNotTriedAgainAndQuiet) {
+TEST_F(LaunchItemTest, AFailingLinkIsNotTriedAgainButToldOf) {
+  ExpectUnavailable();
   AddServices();
   LaunchItem(program, "C:\\Links\\gone.lnk");
   EXPECT_EQ(Launches(), std::vector{NotOpened("C:\\Links\\gone.lnk")});
-  EXPECT_EQ(Boxes(), 0U);
+  EXPECT_EQ(Boxes(), 1U);
 }
 
 TEST_F(LaunchItemTest, ASpecialFolderIsHandedOnAsItIs) {

@@ -163,7 +163,7 @@ TEST(FolderItems, NamesInAnyScriptAreShownAndStarted) {
   EXPECT_EQ(desk.Started(), Strings{"C:\\Scripts\\" + russian + "\\run " + russian + ".exe"});
 }
 
-TEST(FolderItems, ATitleLongerThanItsFieldIsCutAndKeepsItsNumber) {
+TEST(FolderItems, ATitleIsShownAsARecordWouldHoldItAndKeepsItsNumber) {
   FolderDesk desk;
   const std::string name(80, 'n');
   std::string wide;
@@ -171,13 +171,13 @@ TEST(FolderItems, ATitleLongerThanItsFieldIsCutAndKeepsItsNumber) {
   desk.World.Files.Put("C:\\Long\\" + name + ".exe", "x");
   desk.World.Files.Put("C:\\Long\\" + wide + ".exe", "x");
   desk.OpenCommands({"C:\\Long\\*.*"});
-  EXPECT_EQ(desk.Captions(), (Strings{std::string(45, 'n'), wide.substr(0, 45)}));
+  EXPECT_EQ(desk.Captions(), (Strings{std::string(50, 'n'), wide.substr(0, 48)}));
   EXPECT_EQ(desk.Numbers(), (std::vector<int>{5002, 5002}));
   desk.ClickItem(1);
   EXPECT_EQ(desk.Started(), Strings{"C:\\Long\\" + name + ".exe"});
 }
 
-TEST(FolderItems, AFileWhosePathNoRecordHoldsIsLeftOutRatherThanMistaken) {
+TEST(FolderItems, AFileWhosePathNoRecordHoldsStartsFromTheMenuAndIsMissingInTheFile) {
   FolderDesk desk;
   // Short enough for the disk, but three bytes a character in the record.
   std::string folder = "C:\\Deep";
@@ -190,7 +190,41 @@ TEST(FolderItems, AFileWhosePathNoRecordHoldsIsLeftOutRatherThanMistaken) {
   folder.resize(folder.rfind('\\'));
   desk.World.Files.Put(folder + "\\fits.exe", "x");
   desk.OpenCommands({folder + "\\*.*/s"});
-  EXPECT_EQ(desk.Captions(), Strings{"fits.exe"});
+  EXPECT_EQ(desk.Captions(), (Strings{"fits.exe", "a.exe", "a.exe and more.exe"}));
+  ASSERT_EQ(desk.Generated().size(), 2U);
+  EXPECT_EQ(SplitTitle(desk.Generated()[1].FTitle, 0), (NumberedTitle{"fits.exe", 5002}));
+  desk.ClickItem(3);
+  ASSERT_EQ(desk.Started().size(), 1U);
+  EXPECT_TRUE(desk.Started()[0].ends_with("\\a.exe and more.exe"));
+}
+
+TEST(FolderItems, AFileWhosePathNoRecordHoldsGoesByItsShortNameOrIsNotCopied) {
+  FolderDesk desk;
+  std::string folder = "C:\\";
+  for (int i = 0; i < 85; ++i) folder += "\xE6\x97\xA5";
+  desk.World.Files.Put(folder + "\\a.exe", "x");
+  desk.OpenCommands({folder + "\\*.*"});
+  // Ctrl and a press would pick it up.
+  desk.PointAtItem(1);
+  desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk.Menu.Form_MouseDown(forms::MouseButton::Left, {.Ctrl = true}, 600,
+                           desk.Menu.Lbl[1].Top() + 60);
+  ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_NE(desk.World.Desktop.Boxes()[0].Text.find(folder + "\\a.exe"), std::string::npos);
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+
+  desk.World.Files.GiveShortName(folder, "6A2F~1");
+  desk.Menu.HideMenu();
+  desk.Menu.ForgetMenu("F2");
+  desk.OpenCommands({folder + "\\*.*"});
+  EXPECT_EQ(desk.Menu.GetExeName(1), "C:\\6A2F~1\\a.exe");
+  ASSERT_EQ(desk.Generated().size(), 2U);
+  EXPECT_EQ(desk.Generated()[1].FName, "C:\\6A2F~1\\a.exe");
+  desk.PointAtItem(1);
+  desk.Menu.Form_MouseDown(forms::MouseButton::Left, {.Ctrl = true}, 600,
+                           desk.Menu.Lbl[1].Top() + 60);
+  EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging);
+  desk.TheProgram.Entry.ItemDragging = false;
 }
 
 // ---- subfolders ----
@@ -284,17 +318,21 @@ TEST(FolderItems, AnEditGoesToTheMenuFileItself) {
   desk.OpenCommands({"C:\\Docs\\*.*", "a.exe"});
   class Popup final : public PopupPort {
    public:
-    void ShowToolbarPopup() override { ++Shown; }
+    void ShowToolbarPopup(EntryEdit entry) override {
+      ++Shown;
+      Seen = std::move(entry);
+    }
     int Shown = 0;
+    EntryEdit Seen;
   } popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.TheProgram.OptionFlags.Set(19, '1');
   desk.PointAtItem(4);
   desk.World.Desktop.Click(forms::MouseButton::Right);
   EXPECT_EQ(popup.Shown, 1);
-  EXPECT_EQ(desk.TheProgram.Entry.CurFile, "C:\\Corvelle\\Menus\\BMENU001.MNU");
-  EXPECT_EQ(desk.TheProgram.Entry.CurRecord, 3);
-  EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "Item 3");
+  EXPECT_EQ(popup.Seen.CurFile, "C:\\Corvelle\\Menus\\BMENU001.MNU");
+  EXPECT_EQ(popup.Seen.CurRecord, 3);
+  EXPECT_EQ(popup.Seen.CurTitle, "Item 3");
 }
 
 }  // namespace

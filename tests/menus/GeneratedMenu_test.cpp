@@ -3,45 +3,57 @@
 #include <gtest/gtest.h>
 
 #include "base/CodePage.h"
+#include "core/MenuFile.h"
 
 namespace corvelle {
 namespace {
 
+using namespace std::string_literals;
+
 const Windows1252 kAnsi;
 
-MenuRecord RecordAt(const GeneratedMenu& menu, int number) {
-  const std::size_t at = (static_cast<std::size_t>(number) - 1) * kRecordLength;
-  return ParseRecord(std::string_view(menu.Bytes()).substr(at), kAnsi);
+std::vector<MenuRecord> InTheFile(const GeneratedMenu& menu) {
+  return ParseRecords(GeneratedBytes(menu.Records(), menu.Origins(), kAnsi), kAnsi);
 }
 
 TEST(GeneratedMenu, EndsWhereRecordNumbersEnd) {
   GeneratedMenu menu({{"Button", "", ""}, {"Folder", "", "C:\\*"}, {"Last", "", ""}}, kAnsi);
   menu.BeginItem(2);
   int added = 0;
-  while (menu.AddEntry(2, "x", "x", "x")) ++added;
+  while (menu.AddEntry(2, {"x", "x", "x"})) ++added;
   EXPECT_EQ(added, kMaxRecords - 1);
   EXPECT_TRUE(menu.IsFull());
   menu.AddRule();
   menu.CopySource(menu.SourceCount());
   EXPECT_EQ(menu.Count(), kMaxRecords);
-  EXPECT_EQ(menu.Bytes().size(), static_cast<std::size_t>(kMaxRecords) * kRecordLength);
+  EXPECT_EQ(GeneratedBytes(menu.Records(), menu.Origins(), kAnsi).size(),
+            static_cast<std::size_t>(kMaxRecords) * kRecordLength);
 }
 
 TEST(GeneratedMenu, TakesADamagedTitleAsWhatIsShownOfIt) {
   GeneratedMenu menu({{"Button", "", ""}, {std::string("a\0b", 3), "i", "c"}}, kAnsi);
   menu.CopySource(2);
-  EXPECT_EQ(RecordAt(menu, 2), (MenuRecord{std::string("a\0"
-                                                       "2",
-                                                       3),
-                                           "i", "c"}));
+  EXPECT_EQ(menu.Records()[1], (MenuRecord{"a", "i", "c"}));
+  EXPECT_EQ(InTheFile(menu)[1], (MenuRecord{"a\0002"s, "i", "c"}));
 }
 
-TEST(GeneratedMenu, RefusesACommandThatItsFieldWouldCut) {
+TEST(GeneratedMenu, ShowsATitleAsItsFieldHoldsItAndKeepsTheNameWhole) {
+  const std::string name = std::string(49, 'n') + "\xE6\x97\xA5";
   GeneratedMenu menu({{"Button", "", ""}}, kAnsi);
-  EXPECT_TRUE(menu.AddEntry(2, "fits", "", std::string(kNameWidth, 'n')));
-  EXPECT_FALSE(menu.AddEntry(2, "too long", "", std::string(kNameWidth + 1, 'n')));
-  EXPECT_EQ(menu.Count(), 1);
-  EXPECT_EQ(RecordAt(menu, 1).FName, std::string(kNameWidth, 'n'));
+  menu.CopySource(1);
+  menu.AddEntry(2, {name, "3", "CSIDL_DRIVES"}, name);
+  EXPECT_EQ(menu.Records()[1].FTitle, std::string(49, 'n'));
+  EXPECT_EQ(menu.Origins(), (std::vector<EntryOrigin>{{1, ""}, {5002, name}}));
+  EXPECT_EQ(InTheFile(menu)[1].FTitle, std::string(45, 'n') + "\0005002"s);
+}
+
+TEST(GeneratedMenu, TheFileLeavesOutACommandThatItsFieldWouldCut) {
+  GeneratedMenu menu({{"Button", "", ""}}, kAnsi);
+  EXPECT_TRUE(menu.AddEntry(2, {"fits", "", std::string(kNameWidth, 'n')}));
+  EXPECT_TRUE(menu.AddEntry(2, {"too long", "", std::string(kNameWidth + 1, 'n')}));
+  EXPECT_EQ(menu.Count(), 2);
+  ASSERT_EQ(InTheFile(menu).size(), 1U);
+  EXPECT_EQ(InTheFile(menu)[0].FName, std::string(kNameWidth, 'n'));
 }
 
 }  // namespace

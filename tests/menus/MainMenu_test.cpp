@@ -395,6 +395,7 @@ TEST_F(MainMenuTest, HelpTopicsWithoutTheFileSaysSoAndStartsNothing) {
 TEST_F(MainMenuTest, HelpTopicsStartsTheFileUnlessItsWindowIsOpen) {
   const std::string help = program.AppPath + "corvelle.hlp";
   desk.World.Files.Put(help, "x");
+  desk.World.Shell.Associate(".hlp", "C:\\Windows\\winhlp32.exe");
   const WindowId window = desk.World.Desktop.AddOtherWindow({.Title = "Corvelle Help"});
   Choose("Help Topics");
   EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), window);

@@ -22,6 +22,7 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
       : Form(program.Windows, "frmToolbar"), program_(program), menu_(menu) {}
 
   std::vector<std::string> Asked;
+  std::vector<std::string> Refused;
   /// Each time the watch on the pointer was switched, and how.
   std::vector<bool> Watches;
   /// What happens while all buttons are made anew.
@@ -55,6 +56,9 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void RemoveQMenu(std::string_view tag) override {
     Asked.push_back("RemoveQMenu " + std::string(tag));
     menu_.ForgetMenu(tag);
+  }
+  void TellRefused(std::vector<std::string> files) override {
+    for (std::string& file : files) Refused.push_back(std::move(file));
   }
   void SetMenuPosition() override { menu_.MoveMenu(MenuLeft, MenuTop); }
   void ActivateKeyDown(int keyCode) override {

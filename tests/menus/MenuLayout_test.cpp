@@ -129,19 +129,20 @@ TEST(InitQMenu, TagsCarryCommandIconAndPlaceInTheFile) {
   EXPECT_EQ(menu.Items[1].Tag, "srun.exe\0icon.ico\0004"s);
 }
 
-TEST(InitQMenu, TitlesOfAnExpandedFileCarryTheRecordNumber) {
-  const std::vector<MenuRecord> records{kHeader, Titled("Notes.txt\0005007"s), Titled("Plain"),
-                                        Titled("Cut\000"s), Titled("A & B\00012"s)};
-  const MenuLayout menu = LayOutMenu({.Records = records, .HasFolderItems = true});
-  ASSERT_EQ(menu.Labels, 4);
+TEST(InitQMenu, WhatAnEntryStandsForIsTakenFromItsOrigin) {
+  const std::vector<MenuRecord> records{kHeader, Titled("Notes.txt"), Titled("A & B"),
+                                        Titled("Plain")};
+  const std::vector<EntryOrigin> origins{{1, ""}, {5007, "Notes.txt and more"}, {12, ""}};
+  const MenuLayout menu = LayOutMenu({.Records = records, .Origins = origins});
+  ASSERT_EQ(menu.Labels, 3);
   EXPECT_EQ(menu.Items[0].Caption, "Notes.txt");
   EXPECT_EQ(TagRecordNumber(menu.Items[0].Tag), 5007);
-  EXPECT_EQ(menu.Items[1].Caption, "Plain");
-  EXPECT_EQ(TagRecordNumber(menu.Items[1].Tag), 3);
-  EXPECT_EQ(menu.Items[2].Caption, "Cut");
-  EXPECT_EQ(TagRecordNumber(menu.Items[2].Tag), 0);
-  EXPECT_EQ(menu.Items[3].Caption, "A && B");
-  EXPECT_EQ(TagRecordNumber(menu.Items[3].Tag), 12);
+  EXPECT_EQ(TagName(menu.Items[0].Tag), "Notes.txt and more");
+  EXPECT_EQ(menu.Items[1].Caption, "A && B");
+  EXPECT_EQ(TagRecordNumber(menu.Items[1].Tag), 12);
+  EXPECT_EQ(TagName(menu.Items[1].Tag), "");
+  EXPECT_EQ(menu.Items[2].Caption, "Plain");
+  EXPECT_EQ(TagRecordNumber(menu.Items[2].Tag), 4);
 }
 
 TEST(InitQMenu, ElsewhereANulInATitleIsADamagedRest) {

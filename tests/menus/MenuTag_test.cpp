@@ -19,12 +19,14 @@ TEST(MenuTag, IsTakenApartAgain) {
       {false, "", "", 0},
       {true, "s", "n", 32767},
       {false, "\xC3\xA4.exe", "", 2},
+      {false, "CSIDL_DRIVES", "8", 5003, "Disk (C:)"},
   };
   for (const MenuTag& tag : tags) {
     const std::string text = JoinTag(tag);
     EXPECT_EQ(TagCommand(text), tag.Command);
     EXPECT_EQ(TagIcon(text), tag.Icon) << tag.Command;
     EXPECT_EQ(TagRecordNumber(text), tag.RecordNumber) << tag.Command;
+    EXPECT_EQ(TagName(text), tag.Name) << tag.Command;
     EXPECT_EQ(TagFollowsSeparator(text), tag.FollowsSeparator) << tag.Command;
   }
 }

@@ -110,6 +110,17 @@ TEST_F(ShellFolderItems, TheDesktopIsBuiltAnewOnlyWhenTheBinsIconChanged) {
   EXPECT_TRUE(desk_.World.Files.Log().empty());
 }
 
+TEST_F(ShellFolderItems, TheDesktopFollowsABinThatOnlyTheShellKnowsToBeFull) {
+  desk_.World.Folders.SetSelf(10, {"Bin", 31});
+  desk_.OpenCommands({"CSIDL_DESKTOP"});
+  desk_.World.Folders.Put(0, {{"My Computer", 15}, {"Bin", 32}});
+  desk_.OpenAgain();
+  EXPECT_EQ(desk_.Menu.GetIconName(1), "31");
+  desk_.World.Folders.SetSelf(10, {"Bin", 32});
+  desk_.OpenAgain();
+  EXPECT_EQ(desk_.Menu.GetIconName(1), "32");
+}
+
 TEST_F(ShellFolderItems, AChangeOfTheBinReachesEachMenuOfTheDesktop) {
   desk_.SetBin("empty.ico");
   desk_.OpenCommands({"CSIDL_DESKTOP"}, 1);
@@ -151,10 +162,15 @@ TEST_F(ShellFolderItems, TheBinIsNotLookedAtForOtherFolders) {
 TEST_F(ShellFolderItems, ARightClickNamesTheEntryByItsTitle) {
   desk_.OpenCommands({"CSIDL_DRIVES/u"});
   desk_.TheProgram.OptionFlags.Set(19, '1');
+  struct Popup final : PopupPort {
+    void ShowToolbarPopup(EntryEdit entry) override { Seen = std::move(entry); }
+    EntryEdit Seen;
+  } popup;
+  desk_.TheProgram.Ports.Popup = &popup;
   desk_.PointAtItem(1);
   desk_.World.Desktop.Click(forms::MouseButton::Right);
-  EXPECT_EQ(desk_.TheProgram.Entry.CurCommand, "c: Drive\\CSIDL_DRIVES");
-  EXPECT_EQ(desk_.TheProgram.Entry.CurRecord, 5002);
+  EXPECT_EQ(popup.Seen.CurCommand, "c: Drive\\CSIDL_DRIVES");
+  EXPECT_EQ(popup.Seen.CurRecord, 5002);
 }
 
 }  // namespace

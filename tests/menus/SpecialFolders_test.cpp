@@ -200,7 +200,7 @@ TEST(SpecialFolderInAMenu, WithoutFoldersOfTheShellItIsUnavailable) {
 class CountingPopup final : public PopupPort {
  public:
   int Shown = 0;
-  void ShowToolbarPopup() override { ++Shown; }
+  void ShowToolbarPopup(EntryEdit) override { ++Shown; }
 };
 
 /// A menu with a file, an entry of a folder of the shell and two folder items.

@@ -51,6 +51,7 @@ TEST(TypeAhead, GoldenSearches) {
   };
   const Row rows[] = {
       {"from the first item", 0, 1, U'b', {2, 0, 3}},
+      {"without a page from the first item", 0, 0, U'a', {1, 0, 2}},
       {"a repeat walks on", 3, 1, U'b', {3, 0, 4}},
       {"and around the end", 4, 1, U'b', {2, 0, 3}},
       {"a capital finds the same", 0, 1, U'B', {2, 0, 3}},

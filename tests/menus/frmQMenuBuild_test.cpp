@@ -295,12 +295,13 @@ TEST(frmQMenuBuildGuard, TheFlagIsClearedHoweverTheBuildEnds) {
 class SlowFolders final : public FolderMenusPort {
  public:
   explicit SlowFolders(MenuDesk& desk) : desk_(desk) {}
-  std::string Expand(std::string_view, std::string_view menuFile) override {
+  std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
     ++Expanded;
     if (While) While();
     desk_.TheProgram.DoEvents();
-    return std::string(menuFile);
+    return std::nullopt;
   }
+  bool WriteGenerated(const ExpandedMenu&) override { return true; }
   bool UpdateMenu(std::string_view) override { return Changed; }
 
   std::function<void()> While;
@@ -383,18 +384,18 @@ TEST(frmQMenuFolders, WithoutTheirServiceAFolderItemIsAPlainItem) {
   EXPECT_EQ(desk.Menu.Lbl[1].Caption(), "Tools");
 }
 
-TEST(frmQMenuFolders, AnExpandedTitleGivesCaptionAndRecordNumber) {
+TEST(frmQMenuFolders, AnExpandedMenuTellsWhatItsEntriesStandFor) {
   MenuDesk desk;
   const std::string expanded = "C:\\Corvelle\\Menus\\BMENU001.mfd";
-  std::string bytes = FormatRecord(Item("Button"), desk.World.Ansi);
-  bytes += FormatRecord(Item(JoinTitle("Plain", 2, desk.World.Ansi)), desk.World.Ansi);
-  bytes += FormatRecord(Item(JoinTitle("Found", 5003, desk.World.Ansi)), desk.World.Ansi);
-  desk.World.Files.Put(expanded, bytes);
   class Expander final : public FolderMenusPort {
    public:
-    std::string Expand(std::string_view, std::string_view) override {
-      return "C:\\Corvelle\\Menus\\BMENU001.mfd";
+    std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
+      return ExpandedMenu{"C:\\Corvelle\\Menus\\BMENU001.mfd",
+                          {Item("Button"), Item("Plain"), Item("Found")},
+                          {{1, ""}, {2, ""}, {5003, "Found in a folder"}},
+                          ""};
     }
+    bool WriteGenerated(const ExpandedMenu&) override { return true; }
     bool UpdateMenu(std::string_view) override { return false; }
   } expander;
   desk.TheProgram.Ports.FolderMenus = &expander;
@@ -402,6 +403,8 @@ TEST(frmQMenuFolders, AnExpandedTitleGivesCaptionAndRecordNumber) {
   EXPECT_EQ(Captions(desk.Menu), (std::vector<std::string>{"Plain", "Found"}));
   EXPECT_EQ(desk.Menu.GetRecordNum(1), 2);
   EXPECT_EQ(desk.Menu.GetRecordNum(2), 5003);
+  EXPECT_EQ(desk.Menu.NameOf(1), "Plain");
+  EXPECT_EQ(desk.Menu.NameOf(2), "Found in a folder");
   EXPECT_EQ(desk.Menu.MenuFile, expanded);
 }
 

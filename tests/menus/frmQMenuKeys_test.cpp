@@ -444,5 +444,21 @@ TEST(frmQMenuTypeAhead, DigitsAndSignsCountAndBlanksDoNot) {
   EXPECT_EQ(desk.World.Desktop.Beeps(), 0);
 }
 
+TEST_F(PagedMenu, AReleaseJustPastTheArrowsSideTurnsNothing) {
+  const forms::Label& arrow = desk_.Menu.LblButton[1];
+  desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, arrow.Width(), 0);
+  desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 0, arrow.Height());
+  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, arrow.Width() - 1, arrow.Height() - 1);
+  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+}
+
+TEST_F(PagedMenu, TheSecondPressOfADoubleClickSinksTheArrowToo) {
+  desk_.PointAt(desk_.ArrowPoint(1));
+  EXPECT_EQ(desk_.Menu.LineLeft.BorderColor(), forms::color::Highlight3D);
+  desk_.Menu.LblButton[1].DblClick();
+  EXPECT_EQ(desk_.Menu.LineLeft.BorderColor(), forms::color::ButtonShadow);
+}
+
 }  // namespace
 }  // namespace corvelle

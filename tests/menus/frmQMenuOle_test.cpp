@@ -55,10 +55,13 @@ struct NotedFolders final : SpecialFoldersPort {
   }
 };
 
-/// Expands every menu to the same file.
+/// Expands every menu to the same one.
 struct ExpandedMenus final : FolderMenusPort {
-  std::string Generated;
-  std::string Expand(std::string_view, std::string_view) override { return Generated; }
+  ExpandedMenu Generated;
+  std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
+    return Generated;
+  }
+  bool WriteGenerated(const ExpandedMenu&) override { return true; }
   bool UpdateMenu(std::string_view) override { return false; }
 };
 
@@ -181,17 +184,27 @@ TEST(MenuOLEDragDrop, WithNothingSelectedFilesGoToTheEnd) {
   EXPECT_EQ(desk.Titles(), (Names{"Button", "Item 1", "Item 2", "Item 3", "b"}));
 }
 
+TEST(MenuOLEDragDrop, WhatNoRecordHoldsIsRefusedAndTheOthersAreTaken) {
+  DragDesk desk;
+  const std::string refused = "C:\\docs\\" + std::string(280, 'n') + ".txt";
+  desk.TakeFiles({refused, "C:\\docs\\a.txt"});
+  desk.DragToItem(2);
+  desk.Drop();
+  EXPECT_EQ(desk.Titles(), (Names{"Button", "Item 1", "a", "Item 2", "Item 3"}));
+  EXPECT_EQ(desk.Strip.Refused, Names{refused});
+}
+
 TEST(MenuOLEDragDrop, AnEntryOfAFolderItemStandsForTheItemInTheStoredFile) {
   DragDesk desk;
   // An expanded copy: the record behind "Item 1" is a folder item, which gave two entries.
   const std::string generated = desk.TheProgram.MenusPath + "BMENU001.mfd";
-  std::string bytes = FormatRecord(Item("Button", "Button", ""), desk.World.Ansi);
-  bytes += FormatRecord({JoinTitle("Item 1", 2, desk.World.Ansi), "", "x"}, desk.World.Ansi);
-  bytes += FormatRecord({JoinTitle("First", 5003, desk.World.Ansi), "", "x"}, desk.World.Ansi);
-  bytes += FormatRecord({JoinTitle("Second", 5003, desk.World.Ansi), "", "x"}, desk.World.Ansi);
-  desk.World.Files.Put(generated, bytes);
+  desk.World.Files.Put(generated, "for others");
   ExpandedMenus folders;
-  folders.Generated = generated;
+  folders.Generated = {
+      generated,
+      {Item("Button", "Button", ""), Item("Item 1"), Item("First"), Item("Second")},
+      {{1, ""}, {2, ""}, {5003, ""}, {5003, ""}},
+      ""};
   desk.TheProgram.Ports.FolderMenus = &folders;
   desk.Menu.ForgetMenu("F2");
   desk.Reopen(1);
@@ -200,7 +213,7 @@ TEST(MenuOLEDragDrop, AnEntryOfAFolderItemStandsForTheItemInTheStoredFile) {
   desk.DragToItem(3);
   desk.Drop();
   EXPECT_EQ(desk.Titles(), (Names{"Button", "Item 1", "b", "Item 2", "Item 3"}));
-  EXPECT_EQ(desk.World.Files.Get(generated), bytes);
+  EXPECT_EQ(desk.World.Files.Get(generated), "for others");
   desk.TheProgram.Ports.FolderMenus = nullptr;
 }
 

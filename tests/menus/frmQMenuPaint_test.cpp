@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <utility>
 
 #include "menus/MenuDesk.h"
 
@@ -241,6 +242,86 @@ TEST_F(Painted, APageThatIsTurnedToShowsAllItsCaptionsAndThenIconAfterIcon) {
   EXPECT_EQ(asked, 34);
 }
 
+// The shell lets messages in while it is asked for an icon.
+
+TEST_F(Painted, ColoursThatChangeWhileIconsAreFetchedShowInTheWholeMenu) {
+  constexpr Rgb kGreen = 0x0080C0A0;
+  for (const int at : {0, 1, 17}) {
+    SCOPED_TRACE(at);
+    MenuDesk desk;
+    for (int i = 0; i < 20; ++i) desk.World.Files.Put(Tool(i), "x");
+    int asked = 0;
+    desk.World.Icons.WhileAsked([&] {
+      if (asked++ == at) desk.World.Desktop.SetSystemColor(15, kGreen);
+    });
+    desk.Open(1, Tools(20));
+    for (int i = 1; i <= 20; ++i) {
+      const PixelPoint cell = desk.IconCell(i);
+      EXPECT_NE(desk.PixelInside(cell.x + 8, cell.y + 8), kGreen) << i;
+      EXPECT_EQ(desk.PixelInside(cell.x + 17, cell.y + 8), kGreen) << i;
+    }
+    EXPECT_TRUE(desk.Menu.MenuReady);
+    EXPECT_FALSE(desk.TheProgram.MenuBuilding);
+  }
+}
+
+TEST_F(Painted, AnIconWithoutAFaceShowsTheNewColourOfItsGround) {
+  constexpr Rgb kGreen = 0x0080C0A0;
+  bool changed = false;
+  desk_.World.Files.Vanish("C:\\Corvelle\\Icons\\W95MBX02.ICO");
+  desk_.World.Icons.WhileAsked([&] {
+    if (!std::exchange(changed, true)) desk_.World.Desktop.SetSystemColor(15, kGreen);
+  });
+  // The shell is asked for it only when the file has no icon of that number.
+  desk_.Open(1, {Item("Missing", "C:\\nowhere.exe|3"), Item("There", Tool(3))});
+  EXPECT_EQ(IconColour(1), kGreen);
+  EXPECT_EQ(IconColour(2), ToolColour(3));
+}
+
+TEST_F(Painted, IconsThatAreForgottenWhileOneIsFetchedAreFetchedAgain) {
+  int asked = 0;
+  desk_.World.Icons.WhileAsked([&] {
+    if (asked++ < 3) desk_.Menu.ResetPicIcons();
+  });
+  std::vector<MenuRecord> items;
+  // As above: it is asked while the icon is being drawn.
+  for (int i = 0; i < 5; ++i) items.push_back(Item("Tool", Tool(i) + "|9"));
+  desk_.Open(1, items);
+  // A number that the file lacks shows the blank document.
+  for (int i = 1; i <= 5; ++i) EXPECT_EQ(IconColour(i), SimShellIcons::ColourOf(7)) << i;
+  EXPECT_GE(asked, 3);
+}
+
+TEST_F(Painted, AnotherMenuThatIsAskedForWhileAPageIsDrawnFromTheCacheComesAfterwards) {
+  desk_.Open(1, Tools(3));
+  desk_.Open(2, {Item("Other", Tool(9))});
+  // Both menus are kept, and their pages are to be drawn once more.
+  desk_.World.Desktop.SetSystemColor(15, 0x0080C0A0);
+  desk_.Menu.HideMenu();
+  bool asked = false;
+  desk_.World.Icons.WhileAsked([&] {
+    if (!std::exchange(asked, true)) desk_.Menu.ShowMenu("F3", "C:\\Corvelle\\Menus\\BMENU002.MNU");
+  });
+  desk_.Menu.ShowMenu("F2", "C:\\Corvelle\\Menus\\BMENU001.MNU");
+  desk_.World.Desktop.Pump();
+  EXPECT_TRUE(asked);
+  EXPECT_EQ(desk_.Menu.MenuKey, "F2");
+  for (int i = 1; i <= 3; ++i) EXPECT_EQ(IconColour(i), ToolColour(i - 1)) << i;
+  desk_.Menu.ShowMenu("F3", "C:\\Corvelle\\Menus\\BMENU002.MNU");
+  desk_.World.Desktop.Pump();
+  EXPECT_EQ(IconColour(1), ToolColour(9));
+}
+
+TEST_F(Painted, AProgramThatEndsWhileIconsAreFetchedDrawsNoMore) {
+  int asked = 0;
+  desk_.World.Icons.WhileAsked([&] {
+    if (++asked == 2) desk_.Menu.UnloadWindow();
+  });
+  desk_.Open(1, Tools(5));
+  EXPECT_EQ(asked, 2);
+  EXPECT_FALSE(desk_.Menu.IsLoaded());
+}
+
 TEST_F(Painted, NoRuleOfAnotherPageIsSeen) {
   std::vector<MenuRecord> items = Items(60);
   items.insert(items.begin() + 5, Separator());
@@ -356,10 +437,11 @@ TEST(frmQMenuHourglass, ShowsWhileTheMenuIsBuiltUnlessAnItemIsDragged) {
     class Looking final : public FolderMenusPort {
      public:
       explicit Looking(MenuDesk& desk) : desk_(desk) {}
-      std::string Expand(std::string_view, std::string_view menuFile) override {
+      std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
         Then = desk_.World.Desktop.CurrentMousePointer();
-        return std::string(menuFile);
+        return std::nullopt;
       }
+      bool WriteGenerated(const ExpandedMenu&) override { return true; }
       bool UpdateMenu(std::string_view) override { return false; }
       forms::MousePointer Then = forms::MousePointer::Default;
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "menus/FolderMenus.h"
 #include "menus/MenuDesk.h"
 #include "platform/ShellExec.h"
 
@@ -98,9 +99,8 @@ TEST(frmQMenuPointer, AMoveOverAnotherWindowDropsTheSelection) {
   MenuDesk desk;
   desk.Open(1, Items(5));
   desk.PointAtItem(2);
-  // The strip hands on a drag whose pointer stands over itself.
-  desk.PointAt({20, 10});
-  desk.Menu.xMouseMove(desk.Menu.Lbl[3].Top());
+  // A drag that is handed on when it has left the menu upwards.
+  desk.Menu.xMouseMove(-600);
   EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
   EXPECT_TRUE(desk.Menu.PointerAway);
 }
@@ -133,12 +133,12 @@ TEST(frmQMenuChoice, StartsTheItemAfterTheMenuIsGone) {
 /// A shell that notes whether the menu was still up, and whether events had run, when it was asked.
 class WatchingShell final : public ShellExec {
  public:
-  bool Open(std::string_view, std::optional<std::string_view>,
-            std::optional<std::string_view>) override {
+  Result<Done, OpenError> Open(std::string_view, std::optional<std::string_view>,
+                               std::optional<std::string_view>) override {
     ++Opened;
     MenuWasUp = Desk->Menu.MenuVisible();
     WaitingEventsRan = EventRan;
-    return true;
+    return Done{};
   }
   Result<Done, RunError> Run(std::string_view) override { return Done{}; }
 
@@ -271,9 +271,9 @@ TEST(frmQMenuChoice, AMenuOpenedWhileTheOldOneClosesKeepsItsOwnSelection) {
 class NotingPopup final : public PopupPort {
  public:
   explicit NotingPopup(Program& program) : program_(program) {}
-  void ShowToolbarPopup() override {
+  void ShowToolbarPopup(EntryEdit entry) override {
     ++Shown;
-    Seen = program_.Entry;
+    Seen = std::move(entry);
     SelectedThen = program_.SelectedItem;
   }
   int Shown = 0;
@@ -307,15 +307,19 @@ TEST(frmQMenuRightClick, AnEntryOfAFolderOfTheShellIsNamedByItsTitleInIt) {
   MenuDesk desk;
   NotingPopup popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
-  desk.Open(1, {Item("Fonts", "37", "CSIDL_CONTROLS"), Item("Drives", "", "CSIDL_DRIVES")});
+  FolderMenus folders(desk.TheProgram);
+  desk.TheProgram.Ports.FolderMenus = &folders;
+  desk.World.Folders.Put(3, {{"Fonts", 37}});
+  desk.Open(1, {Item("Panel", "", "CSIDL_CONTROLS"), Item("Drives", "15", "CSIDL_DRIVES/X")});
   desk.PointAtItem(1);
   desk.World.Desktop.Click(MouseButton::Right);
   EXPECT_EQ(popup.Seen.CurCommand, "Fonts\\CSIDL_CONTROLS");
   EXPECT_EQ(popup.Seen.CurIcon, "Fonts\\CSIDL_CONTROLS");
   desk.PointAtItem(2);
   desk.World.Desktop.Click(MouseButton::Right);
-  EXPECT_EQ(popup.Seen.CurCommand, "CSIDL_DRIVES");
-  EXPECT_EQ(popup.Seen.CurIcon, "");
+  // A folder that is not expanded is an item of the file.
+  EXPECT_EQ(popup.Seen.CurCommand, "CSIDL_DRIVES/X");
+  EXPECT_EQ(popup.Seen.CurIcon, "15");
 }
 
 TEST(frmQMenuRightClick, WithoutAnItemOrOnADisabledOneDoesNothing) {
@@ -460,9 +464,8 @@ TEST(frmQMenuPoll, AnArrowBeginsAtTheTopOnceThePointerHasLeftTheItems) {
   desk.PointAt(desk.OnScreen(600, desk.Menu.Lbl[4].Bottom() + 60));
   EXPECT_EQ(next(), 1) << "below the last one";
   desk.PointAtItem(2);
-  desk.PointAt({20, 10});
-  desk.Menu.xMouseMove(desk.Menu.Lbl[3].Top());
-  EXPECT_EQ(next(), 1) << "over the strip";
+  desk.Menu.xMouseMove(-600);
+  EXPECT_EQ(next(), 1) << "above the menu";
 }
 
 TEST(frmQMenuPoll, AnotherProgramInFrontClosesTheMenuUnlessThePointerIsOverIt) {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Text.h"
 #include "platform/FileSystem.h"
 
 // What every disk must do for the program. One file of each test program includes this header and
@@ -30,6 +31,8 @@ class ContractDisk {
   /// Opens a file so that nobody else can, and lets go of it again.
   virtual void HoldOpen(const std::string& path) = 0;
   virtual void LetGo(const std::string& path) = 0;
+  /// Sees to it that a file has a short name beside its own; false where the disk keeps none.
+  virtual bool HasShortName(const std::string& path) = 0;
 };
 
 using ContractDiskMaker = std::unique_ptr<ContractDisk> (*)();
@@ -230,6 +233,27 @@ TEST_P(FileSystemContract, ReplaceGivesAFileItsContentAndLeavesNothingBeside) {
   EXPECT_EQ(Names().size(), 1U);
 }
 
+TEST_P(FileSystemContract, ReplaceUnflushedDoesTheSame) {
+  ASSERT_TRUE(files.ReplaceUnflushed(root + "a.txt", "first"));
+  ASSERT_TRUE(files.ReplaceUnflushed(root + "A.TXT", "second, longer"));
+  EXPECT_EQ(Content("a.txt"), "second, longer");
+  EXPECT_EQ(Names(), Strings{"a.txt"});
+  Disk().SetReadOnly(root + "a.txt", true);
+  EXPECT_TRUE(FailsWith(files.ReplaceUnflushed(root + "a.txt", "x"), FileError::AccessDenied));
+  EXPECT_TRUE(FailsWith(files.ReplaceUnflushed(root + "no\\a.txt", "x"), FileError::NotFound));
+  EXPECT_EQ(Content("a.txt"), "second, longer");
+  Disk().SetReadOnly(root + "a.txt", false);
+}
+
+TEST_P(FileSystemContract, FlushTakesAFileThatIsThere) {
+  Put("a.txt", "kept");
+  EXPECT_TRUE(files.Flush(root + "a.txt"));
+  EXPECT_EQ(Content("a.txt"), "kept");
+  EXPECT_TRUE(FailsWith(files.Flush(root + "b.txt"), FileError::NotFound));
+  EXPECT_TRUE(FailsWith(files.Flush(root), FileError::AccessDenied));
+  EXPECT_EQ(Names(), Strings{"a.txt"});
+}
+
 TEST_P(FileSystemContract, AReadOnlyFileCanBeReadAndRenamedButNotChanged) {
   Put("a.txt", "kept");
   Disk().SetReadOnly(root + "a.txt", true);
@@ -415,6 +439,25 @@ TEST_P(FileSystemContract, LongPathHasTheCaseOfTheDisk) {
   EXPECT_TRUE(
       files.LongPath(root + "shelllink\\SOME FILE.TXT").ends_with("\\ShellLink\\Some File.txt"));
   EXPECT_EQ(files.LongPath(root + "No Such\\file.txt"), root + "No Such\\file.txt");
+}
+
+TEST_P(FileSystemContract, ShortPathLeadsToTheSameFile) {
+  ASSERT_TRUE(files.MakeFolder(root + "A folder of a longer name"));
+  Put("A folder of a longer name\\A letter to them.txt", "x");
+  const std::string longPath = root + "A folder of a longer name\\A letter to them.txt";
+  const bool named = Disk().HasShortName(longPath);
+  const std::string shortPath = files.ShortPath(longPath);
+  ASSERT_FALSE(shortPath.empty());
+  EXPECT_LE(shortPath.size(), longPath.size());
+  EXPECT_EQ(files.Read(shortPath, 0, 10).ValueOr("none"), "x");
+  EXPECT_TRUE(EqualNoCase(files.LongPath(shortPath), files.LongPath(longPath))) << shortPath;
+  EXPECT_EQ(shortPath.find("them") == std::string::npos, named) << shortPath;
+}
+
+TEST_P(FileSystemContract, ThereIsNoShortPathOfWhatIsMissing) {
+  EXPECT_EQ(files.ShortPath(root + "No such file of that name.txt"), "");
+  EXPECT_EQ(files.ShortPath(root + "*.txt"), "");
+  EXPECT_EQ(files.ShortPath(""), "");
 }
 
 TEST_P(FileSystemContract, NothingStaysOpen) {

@@ -38,6 +38,9 @@ class ContractShell {
   /// A file that holds exactly `Count` icons, at least one.
   virtual std::string IconFile() = 0;
   virtual int IconCount() = 0;
+  /// A file that has an icon in the resource of that number.
+  virtual std::string ResourceFile() = 0;
+  virtual int IconResource() = 0;
   /// Puts values under HKEY_CURRENT_USER\Software\CorvelleContract.
   virtual void SetValue(const std::string& name, const RegistryValue& value) = 0;
 };
@@ -111,6 +114,19 @@ TEST_P(ShellContract, RunTellsThatAFileIsNoProgram) {
   EXPECT_EQ(ErrorOf(shell_->UnknownDocument()), RunError::Other);
 }
 
+TEST_P(ShellContract, RunTellsThatThereIsNoAccess) {
+  // No folder is a program, and nobody may run one.
+  EXPECT_EQ(ErrorOf("\"" + shell_->Folder() + "\""), RunError::AccessDenied);
+}
+
+TEST_P(ShellContract, WhatFailsToOpenWasNotRefusedByTheUser) {
+  for (const std::string& file : {Missing(), shell_->UnknownDocument(), std::string()}) {
+    const auto opened = shell_->Exec().Open(file, std::nullopt, std::nullopt);
+    ASSERT_FALSE(opened) << file;
+    EXPECT_EQ(opened.Error(), OpenError::Other) << file;
+  }
+}
+
 // Looking.
 
 TEST_P(ShellContract, KnowsAnExistingFile) {
@@ -124,6 +140,13 @@ TEST_P(ShellContract, KnowsNothingOfAMissingFile) {
   for (const std::string& path : {Missing(), std::string(), std::string("*.mnu")}) {
     EXPECT_FALSE(shell_->Icons().FileInfo(path, IconList::Small).has_value()) << path;
     EXPECT_FALSE(shell_->Icons().FileInfo(path, IconList::Large).has_value()) << path;
+  }
+}
+
+TEST_P(ShellContract, KnowsNothingOfATextThatNamesNoFile) {
+  for (const std::string path :
+       {"/:", "/:\xDA and more", "a\x07 b", "C:\\<>", "a|b", "*", "?", "\"C:\\\"", "//", "\\\\"}) {
+    EXPECT_FALSE(shell_->Icons().FileInfo(path, IconList::Small).has_value()) << path;
   }
 }
 
@@ -170,6 +193,22 @@ TEST_P(ShellContract, DrawsIconsInsideFilesAtAnySize) {
     EXPECT_EQ(canvas->PixelAt({1, 1}), 0x00FF00FFU);
     EXPECT_EQ(canvas->PixelAt({size + 2, size + 2}), 0x00FF00FFU);
   }
+}
+
+TEST_P(ShellContract, DrawsTheIconOfAResourceByItsNegativeNumber) {
+  ASSERT_GT(shell_->IconResource(), 0);
+  for (const int size : {16, 32}) {
+    const auto canvas = Sheet();
+    EXPECT_TRUE(shell_->Icons().DrawFileIcon(*canvas, shell_->ResourceFile(),
+                                             -shell_->IconResource(), {2, 2}, size));
+    EXPECT_TRUE(Touched(*canvas));
+    EXPECT_EQ(canvas->PixelAt({1, 1}), 0x00FF00FFU);
+    EXPECT_EQ(canvas->PixelAt({size + 2, size + 2}), 0x00FF00FFU);
+  }
+  const auto canvas = Sheet();
+  EXPECT_FALSE(shell_->Icons().DrawFileIcon(*canvas, shell_->ResourceFile(), -64999, {0, 0}, 16));
+  EXPECT_FALSE(shell_->Icons().DrawFileIcon(*canvas, Missing(), -1, {0, 0}, 16));
+  EXPECT_FALSE(Touched(*canvas));
 }
 
 TEST_P(ShellContract, DrawsNoIconThatAFileDoesNotHold) {

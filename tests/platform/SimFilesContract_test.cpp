@@ -17,6 +17,10 @@ class SimContractDisk final : public ContractDisk {
   void SetSystem(const std::string& path, bool system) override { disk_.SetSystem(path, system); }
   void HoldOpen(const std::string& path) override { disk_.HoldOpen(path); }
   void LetGo(const std::string& path) override { disk_.LetGo(path); }
+  bool HasShortName(const std::string& path) override {
+    disk_.GiveShortName(path, "ALETTE~1.TXT");
+    return true;
+  }
 
  private:
   sim::SimFiles disk_;

@@ -31,6 +31,7 @@ class SimulatedShell final : public ContractShell {
     world_.Files.Put("C:\\Tools\\run.exe", "");
     world_.Files.Put("C:\\Contract\\Contract.qzx", "text");
     world_.Icons.SetIconCount("C:\\Tools\\run.exe", 2);
+    world_.Icons.AddResource("C:\\Tools\\run.exe", 16);
   }
   ShellExec& Exec() override { return world_.Shell; }
   ShellIcons& Icons() override { return world_.Icons; }
@@ -44,6 +45,8 @@ class SimulatedShell final : public ContractShell {
   std::string Folder() override { return "C:\\Contract\\"; }
   std::string IconFile() override { return "C:\\Tools\\run.exe"; }
   int IconCount() override { return 2; }
+  std::string ResourceFile() override { return "C:\\Tools\\run.exe"; }
+  int IconResource() override { return 16; }
   void SetValue(const std::string& name, const RegistryValue& value) override {
     world_.Keys.Set(RegistryRoot::CurrentUser, "Software\\CorvelleContract", name, value);
   }

@@ -133,15 +133,18 @@ TEST_F(Simulation, TheDesktopLiesBehindEverything) {
   EXPECT_EQ(Desktop.WindowAt({110, 110}), form.hWnd());
 }
 
-TEST_F(Simulation, TheNextWindowOfTheProgramBecomesActiveWhenOneHides) {
-  PlainForm first(TheWorld, "First");
-  PlainForm second(TheWorld, "Second");
-  const WindowId other = Desktop.AddOtherWindow({});
-  first.Show();
-  Desktop.TakeForeground(other);
-  second.Show();
-  second.Hide();
-  EXPECT_EQ(Desktop.ActiveWindow(), first.hWnd());
+// Windows documents this, and Wine leaves a minimized window without a caption active.
+TEST_F(Simulation, TheNextWindowBelowBecomesActiveWhenOneIsMinimized) {
+  PlainForm below(TheWorld, "Below");
+  PlainForm minimized(TheWorld, "Minimized");
+  PlainForm top(TheWorld, "Top");
+  below.Show();
+  minimized.Show();
+  top.Show();
+  minimized.Minimize();
+  EXPECT_EQ(Desktop.ActiveWindow(), top.hWnd());
+  top.Minimize();
+  EXPECT_EQ(Desktop.ActiveWindow(), below.hWnd());
 }
 
 TEST_F(Simulation, ALockedForegroundRefusesWindowsThatAreNotActive) {
@@ -346,6 +349,26 @@ TEST_F(Simulation, ABoxTakesTheForegroundBlocksItsOwnerAndGivesItBack) {
   EXPECT_EQ(form.Events, (Texts{"deactivate", "activate"}));
   Desktop.ClickAt(110, 110);
   EXPECT_EQ(presses, 1);
+}
+
+TEST_F(Simulation, OtherWindowsOfOursTakeInputWhileABoxIsUpAndItsOwnerComesAfterIt) {
+  PlainForm owner(TheWorld);
+  owner.Show();
+  PlainForm other(TheWorld);
+  // The box covers the middle of the screen.
+  other.Move(12000, 9000, 1500, 1500);
+  other.Show();
+  const PixelRect place = Desktop.BoundsOf(other.hWnd());
+  int presses = 0;
+  other.MouseDown = [&](forms::MouseButton, forms::ShiftState, float, float) { ++presses; };
+  Desktop.Answer(forms::msgbox::AnswerOk);
+  Desktop.ShowMessage(owner.hWnd(), "text", "title", forms::msgbox::Ok);
+  EXPECT_EQ(Desktop.ActiveWindow(), owner.hWnd());
+  Desktop.Answer(forms::msgbox::AnswerOk);
+  Desktop.WhileBoxIsUp([&](const MessageBox&) { Desktop.ClickAt(place.left + 9, place.top + 9); });
+  Desktop.ShowMessage(owner.hWnd(), "text", "title", forms::msgbox::Ok);
+  EXPECT_EQ(presses, 1);
+  EXPECT_EQ(Desktop.ActiveWindow(), other.hWnd());
 }
 
 TEST_F(Simulation, TheOwnerOfABoxMayGoAwayUnderIt) {

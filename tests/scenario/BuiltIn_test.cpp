@@ -34,5 +34,22 @@ TEST(BuiltInWord, IsCarriedOutByTheProgramItselfAndNoStopsIt) {
   EXPECT_TRUE(desk->Launched().empty());
 }
 
+TEST(BuiltInWord, TheSearchForFilesIsTheSystemsOwn) {
+  const auto desk = MakeDesk();
+  desk->WriteFile(kFlagsFile, InstalledFlags());
+  WriteMenu(*desk, 1, "Words", {{.FTitle = "Find", .FIcon = "", .FName = "FileFind"}});
+  desk->MovePointer(FarAway(*desk));
+  ASSERT_TRUE(StartAndWait(*desk));
+  ASSERT_TRUE(OpenMenu(*desk, 2));
+  ClickItem(*desk, ItemMiddle(*desk, 1, 1));
+  ASSERT_TRUE(desk->Wait([&] { return !desk->Launched().empty(); }));
+  desk->Pause(300);
+  ASSERT_EQ(desk->Launched().size(), 1U);
+  const Launch search = desk->Launched()[0];
+  EXPECT_NE((search.Program + " " + search.Arguments).find("search-ms:query=&"), std::string::npos)
+      << search.Program << " " << search.Arguments;
+  EXPECT_TRUE(desk->Messages().empty());
+}
+
 }  // namespace
 }  // namespace corvelle::scenario

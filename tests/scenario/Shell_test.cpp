@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/MenuRecord.h"
 #include "scenario/Strip.h"
 
 namespace corvelle::scenario {
@@ -35,6 +36,33 @@ TEST(SpecialFolder, ItsEntryStartsByAClick) {
   ASSERT_TRUE(desk->Wait([&] { return !desk->Launched().empty(); }));
   EXPECT_EQ(desk->Launched()[0].Program, desk->WitnessProgram());
   EXPECT_EQ(desk->Launched()[0].Arguments, "from-programs");
+  EXPECT_TRUE(desk->Messages().empty());
+}
+
+TEST(SpecialFolder, AnEntryWhoseNameNoTitleHoldsStartsFromItsMenu) {
+  const auto desk = MakeDesk();
+  desk->WriteFile(kFlagsFile, InstalledFlags());
+  const std::string start = "A tool with a name that is a good deal longer";
+  desk->MakeProgramsEntry(start + " than any title in a file, and its end counts", "long-name");
+  WriteMenu(*desk, 1, "One", {{.FTitle = "All", .FIcon = "", .FName = "CSIDL_PROGRAMS"}});
+  ASSERT_TRUE(StartAndWait(*desk));
+  ASSERT_TRUE(OpenMenu(*desk, 2));
+  // Other entries may stand there too: the generated file tells the order.
+  int item = 0;
+  int count = 0;
+  ASSERT_TRUE(desk->Wait([&] {
+    const std::string bytes = desk->ReadFile("Menus\\BMENU001.mfd").value_or("");
+    count = RecordCount(bytes.size()) - 1;
+    for (int i = 1; i <= count; ++i) {
+      if (bytes.compare(static_cast<std::size_t>(i) * kRecordLength, start.size(), start) == 0) {
+        item = i;
+      }
+    }
+    return item != 0;
+  }));
+  ClickItem(*desk, ItemMiddle(*desk, item, count));
+  ASSERT_TRUE(desk->Wait([&] { return !desk->Launched().empty(); }));
+  EXPECT_EQ(desk->Launched()[0].Arguments, "long-name");
   EXPECT_TRUE(desk->Messages().empty());
 }
 

@@ -69,6 +69,7 @@ class SimDesk final : public Desk {
     world_.Files.Put(kWitness, "x");
     world_.Files.Put(kDocument, "A document.\r\n");
     world_.Shell.Associate(".wit", kWitness);
+    world_.Shell.AddToPath("rundll32.exe");
     world_.Links.SetFolder(kStartupFolder, kStartup);
     world_.System.WorkFolder = kAppFolder;
   }
@@ -268,7 +269,7 @@ class SimDesk final : public Desk {
     world_.Links.Put(link, {.Path = std::string(kWitness), .Arguments = std::string(arguments)});
     world_.Folders.Put(kProgramsFolder, {{std::string(title), 1}});
     world_.Folders.WhenOpened(kProgramsFolder, std::string(title), [this, link] {
-      world_.Shell.Open(link, std::nullopt, std::nullopt);
+      static_cast<void>(world_.Shell.Open(link, std::nullopt, std::nullopt));
     });
   }
   [[nodiscard]] std::optional<std::string> StartupLinkTarget() const override {

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "forms/PostedWork.h"
 #include "forms/WindowSystem.h"
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
@@ -49,6 +50,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Jump(int milliseconds);
   /// Runs what waits: posted events, paints, timers that are due. Moves no time.
   void Pump();
+  /// The most event loops that may run inside each other: that of the program, a yield in one of
+  /// its events, a popup menu or a question in an event of that, and one question out of them. What
+  /// goes deeper has no bound, and uses up the stack when events come quickly enough.
+  static constexpr int kMostLoops = 4;
+  /// The most that ran inside each other so far.
+  [[nodiscard]] int DeepestLoops() const noexcept { return deepestLoops_; }
   SimClock& Clock() noexcept { return clock_; }
 
   // The user.
@@ -221,6 +228,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
     hotSpot_ = hotSpot;
   }
   void DoEvents() override { Pump(); }
+  void Post(std::function<void()> work) override;
+  void PaintWaiting() override { PaintVisibleWindows(); }
   void Run() override;
   void Quit() override { quit_ = true; }
   forms::TimerId StartTimer(int milliseconds, std::function<void()> tick) override;
@@ -262,6 +271,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
  private:
   friend class SimPeerCore;
   friend class SimControlMaker;
+  void RunPostedWork();
 
   /// The pointer and what is held down at the moment of a user's action.
   struct Mouse {
@@ -292,7 +302,10 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Lower(WindowId window);
   void Activate(WindowId window);
   void TellActivation(WindowId window, bool active);
+  [[nodiscard]] bool CanBeActive(WindowId window) const;
   void ActivateAnother(WindowId than);
+  void SetEnabled(WindowId window, bool enabled);
+  void ReleaseMouse(WindowId window);
   WindowId FocusOf(const SimWindow& form) const;
   void WindowGone(WindowId window);
   void Note(std::string_view verb, const SimWindow& window, std::string_view rest = {});
@@ -346,6 +359,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void ComposeAll(SimCanvas& screen) const;
 
   // Events
+  void RunWaiting();
   void UserEvent(std::function<void()> event);
   Mouse MouseNow() const { return {pointer_, ButtonsDown(), Shift()}; }
   WindowId MouseTarget(PixelPoint at) const;
@@ -357,6 +371,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void DeliverMove(const Mouse& mouse);
   void DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second);
   void DeliverRelease(const Mouse& mouse, forms::MouseButton button);
+  [[nodiscard]] const SimWindow* KeyTarget() const;
   void DeliverKey(int virtualKey, forms::ShiftState shift);
   void DeliverCharacter(char32_t character);
 
@@ -398,7 +413,10 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   PixelPoint hotSpot_;
   std::deque<std::function<void()>> events_;
   std::deque<std::function<void()>> afterEvent_;  // before the next of them
-  int depth_ = 0;                                 // handlers that are running
+  forms::PostedWork postedWork_;
+  int depth_ = 0;  // handlers that are running
+  int loops_ = 0;  // loops that run inside each other
+  int deepestLoops_ = 0;
   std::function<void()> runScript_;
   bool quit_ = false;
   std::deque<ScriptedAnswer> answers_;

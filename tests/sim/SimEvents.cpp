@@ -1,5 +1,6 @@
 // The event loop, messages and message boxes.
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -21,6 +22,13 @@ constexpr int kClassicBoxHeight = 120;
 // The loop.
 
 void SimDesktop::Pump() {
+  if (++loops_ == kMostLoops + 1) Complain("event loops run inside each other without a bound");
+  deepestLoops_ = std::max(deepestLoops_, loops_);
+  RunWaiting();
+  --loops_;
+}
+
+void SimDesktop::RunWaiting() {
   for (int count = 0; count < kEndlessLoop; ++count) {
     std::deque<std::function<void()>>& next = !afterEvent_.empty() ? afterEvent_ : events_;
     if (!next.empty()) {
@@ -80,6 +88,14 @@ void SimDesktop::Run() {
     clock_.MoveTo(*next);
   }
   if (!quit_) Complain("Run without anything that ends the program");
+}
+
+void SimDesktop::Post(std::function<void()> work) {
+  if (postedWork_.Add(std::move(work))) events_.emplace_back([this] { RunPostedWork(); });
+}
+
+void SimDesktop::RunPostedWork() {
+  if (postedWork_.Run()) events_.emplace_back([this] { RunPostedWork(); });
 }
 
 // Messages.
@@ -166,19 +182,19 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   box.Answer = answer->Button;
   boxes_.push_back(box);
 
-  // The box is a window of ours that has the foreground, and its owner gets no input meanwhile.
-  const WindowId before = foreground_;
+  // The box is a window of ours that has the foreground. Its owner gets no input meanwhile; other
+  // windows of ours do.
   const PixelPoint corner{(options_.Screen.width - kClassicBoxWidth) / 2,
                           (options_.Screen.height - kClassicBoxHeight) / 2};
-  const WindowId window = Add({.Own = true,
+  const WindowId window = Add({.Owner = owner,
+                               .Own = true,
                                .ClassName = "#32770",
                                .Text = box.Title,
                                .Bounds = RectAt(corner, {kClassicBoxWidth, kClassicBoxHeight}),
                                .Visible = true,
                                .Topmost = (flags & forms::msgbox::OnTop) != 0});
-  SimWindow* blocked = Get(owner);
-  const bool wasEnabled = blocked != nullptr && blocked->Enabled;
-  if (blocked != nullptr) blocked->Enabled = false;
+  const bool wasEnabled = Get(owner) != nullptr && Get(owner)->Enabled;
+  if (Get(owner) != nullptr) SetEnabled(owner, false);
   LoseCapture();
   Activate(window);
 
@@ -191,8 +207,7 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   }
   depth_ = depth;
 
-  if ((blocked = Get(owner)) != nullptr) blocked->Enabled = wasEnabled;
-  if (foreground_ == window && Look(before) != nullptr && IsShown(before)) Activate(before);
+  if (Get(owner) != nullptr) SetEnabled(owner, wasEnabled);
   Destroy(window);
   return box.Answer;
 }

@@ -225,12 +225,32 @@ FileResult<SimFiles::Place> SimFiles::Find(std::string_view path) const {
       place.Exists = place.IsFolder = false;
       return place;
     }
-    const fs::path found = FindEntry(place.Host, part);
+    fs::path found = FindEntry(place.Host, part);
+    if (found.empty()) found = FindShort(place.Host, part);
     place.Exists = !found.empty();
     place.Host = place.Exists ? found : place.Host / part;
     place.IsFolder = place.Exists && fs::is_directory(place.Host, error);
   }
+  if (place.Exists && !shortNames_.empty()) {
+    // What is known of a file is known of it under either name.
+    SimPath named = parsed.Path;
+    fs::path host = place.Host;
+    for (auto part = named.Parts.rbegin(); part != named.Parts.rend(); ++part) {
+      *part = host.filename().string();
+      host = host.parent_path();
+    }
+    place.Key = KeyOf(named);
+  }
   return place;
+}
+
+fs::path SimFiles::FindShort(const fs::path& folder, std::string_view name) const {
+  for (const auto& [host, shortName] : shortNames_) {
+    std::error_code error;
+    const bool here = host.parent_path() == folder && EqualNoCase(shortName, name);
+    if (here && fs::exists(host, error)) return host;
+  }
+  return {};
 }
 
 SimFiles::Place SimFiles::MustFind(std::string_view path) const {
@@ -403,7 +423,23 @@ FileStatus SimFiles::WriteAt(std::string_view path, std::uint64_t offset, std::s
 }
 
 FileStatus SimFiles::Replace(std::string_view path, std::string_view bytes) {
-  if (const auto error = Enter("Replace", path)) return *error;
+  return ReplaceAs("Replace", path, bytes);
+}
+
+FileStatus SimFiles::ReplaceUnflushed(std::string_view path, std::string_view bytes) {
+  return ReplaceAs("ReplaceUnflushed", path, bytes);
+}
+
+FileStatus SimFiles::Flush(std::string_view path) {
+  if (const auto error = Enter("Flush", path)) return *error;
+  const FileResult<Place> place = FindWritable(path);
+  if (!place) return place.Error();
+  return place->IsFile() ? FileStatus(Done()) : FileStatus(FileError::NotFound);
+}
+
+FileStatus SimFiles::ReplaceAs(std::string_view operation, std::string_view path,
+                               std::string_view bytes) {
+  if (const auto error = Enter(operation, path)) return *error;
   const FileResult<Place> place = FindWritable(path);
   if (!place) return place.Error();
   // Old and new content stand beside each other for a moment.
@@ -496,6 +532,28 @@ std::string SimFiles::LongPath(std::string_view path) {
     host = host.parent_path();
   }
   std::string text = FormatPath(stored);
+  if (place->Path.EndsInBackslash && !text.ends_with('\\')) text += "\\";
+  return text;
+}
+
+void SimFiles::GiveShortName(std::string_view path, std::string_view shortName) {
+  const Place place = MustFind(path);
+  if (!place.Exists) EndTest("no such file", path);
+  shortNames_[place.Host] = std::string(shortName);
+}
+
+std::string SimFiles::ShortPath(std::string_view path) {
+  if (Enter("ShortPath", path)) return {};
+  const FileResult<Place> place = Find(path);
+  if (!place || !place->Exists) return {};
+  SimPath named = place->Path;
+  fs::path host = place->Host;
+  for (auto part = named.Parts.rbegin(); part != named.Parts.rend(); ++part) {
+    const auto known = shortNames_.find(host);
+    if (known != shortNames_.end()) *part = known->second;
+    host = host.parent_path();
+  }
+  std::string text = FormatPath(named);
   if (place->Path.EndsInBackslash && !text.ends_with('\\')) text += "\\";
   return text;
 }

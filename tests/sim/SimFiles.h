@@ -63,6 +63,9 @@ class SimFiles final : public FileSystem {
   void SetTemporary(std::string_view path, bool temporary);
   /// Makes a link that stands for another folder and what is in it.
   void LinkFolder(std::string_view link, std::string_view target);
+  /// Gives an existing file or folder a short name beside its own. None has one at first, as on a
+  /// volume that keeps none.
+  void GiveShortName(std::string_view path, std::string_view shortName);
   void HoldOpen(std::string_view path, Hold hold = Hold::Exclusively);
   void LetGo(std::string_view path);
   /// Takes the right to change anything in a folder and below it, or gives it back.
@@ -100,12 +103,15 @@ class SimFiles final : public FileSystem {
   FileStatus Write(std::string_view path, std::string_view bytes) override;
   FileStatus WriteAt(std::string_view path, std::uint64_t offset, std::string_view bytes) override;
   FileStatus Replace(std::string_view path, std::string_view bytes) override;
+  FileStatus ReplaceUnflushed(std::string_view path, std::string_view bytes) override;
+  FileStatus Flush(std::string_view path) override;
   FileStatus Remove(std::string_view path) override;
   FileStatus ClearAttributes(std::string_view path) override;
   FileStatus Rename(std::string_view from, std::string_view to) override;
   FileStatus Copy(std::string_view from, std::string_view to) override;
   FileStatus MakeFolder(std::string_view path) override;
   std::string LongPath(std::string_view path) override;
+  std::string ShortPath(std::string_view path) override;
 
  private:
   /// Where a path leads to on the host.
@@ -128,6 +134,9 @@ class SimFiles final : public FileSystem {
   };
 
   [[nodiscard]] FileResult<Place> Find(std::string_view path) const;
+  /// The entry of a folder on the host that has that short name; empty when none has.
+  [[nodiscard]] std::filesystem::path FindShort(const std::filesystem::path& folder,
+                                                std::string_view name) const;
   /// For the test's own doings.
   [[nodiscard]] Place MustFind(std::string_view path) const;
   /// A file that can be opened for reading.
@@ -144,6 +153,7 @@ class SimFiles final : public FileSystem {
   [[nodiscard]] bool HoldsSomethingIn(const std::string& folderKey) const;
   void MoveAttributes(const std::string& from, const std::string& to);
 
+  FileStatus ReplaceAs(std::string_view operation, std::string_view path, std::string_view bytes);
   /// Makes `content` that of a file within the space left, all or a part.
   FileStatus Store(const Place& place, std::string_view content);
   void WriteHost(const std::filesystem::path& host, std::string_view bytes);
@@ -154,6 +164,7 @@ class SimFiles final : public FileSystem {
   std::string currentFolder_ = "C:\\";
   std::map<std::string, Attributes> attributes_;
   std::map<std::string, Hold> held_;
+  std::map<std::filesystem::path, std::string> shortNames_;
   std::set<std::string> protected_;  // folders
   std::optional<std::uint64_t> bytesLeft_;
   int failIn_ = 0;

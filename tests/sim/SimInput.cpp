@@ -202,15 +202,22 @@ void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
   at->Events->OnMouseUp(button, mouse.Shift, InWindow(target, mouse.At));
 }
 
+/// The window that hears the keys: the one with the focus, unless its form is disabled.
+const SimWindow* SimDesktop::KeyTarget() const {
+  const SimWindow* at = Look(focus_);
+  const bool hears = at != nullptr && at->Events != nullptr && Look(TopOf(focus_))->Enabled;
+  return hears ? at : nullptr;
+}
+
 void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   if (drag_ && virtualKey == forms::key::Escape) return EndDrag(false);
   if (popup_ != kNoWindow) {
     if (virtualKey == forms::key::Escape) Destroy(std::exchange(popup_, kNoWindow));
     return;
   }
-  const WindowId target = focus_;
-  const SimWindow* at = Look(target);
-  if (at == nullptr || at->Events == nullptr) return;
+  const SimWindow* at = KeyTarget();
+  if (at == nullptr) return;
+  const WindowId target = at->Id;
   if (at->Control == nullptr) return at->Events->OnKeyDown(virtualKey, shift);
   usedUp_ = false;
   const bool used = !at->Control->TakesAllKeys() && at->Events->OnControlKey(virtualKey, shift);
@@ -221,9 +228,9 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
 
 void SimDesktop::DeliverCharacter(char32_t character) {
   if (popup_ != kNoWindow) return;
-  const WindowId target = focus_;
-  const SimWindow* at = Look(target);
-  if (at == nullptr || at->Events == nullptr) return;
+  const SimWindow* at = KeyTarget();
+  if (at == nullptr) return;
+  const WindowId target = at->Id;
   if (at->Control == nullptr) return at->Events->OnKeyPress(character);
   const bool keep = usedUp_;
   const bool used = !at->Control->TakesAllKeys() && at->Events->OnControlCharacter(character);

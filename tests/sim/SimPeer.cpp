@@ -43,9 +43,8 @@ void SimPeerCore::SetCaption(std::string_view caption) {
 }
 
 void SimPeerCore::SetEnabled(bool enabled) {
-  SimWindow& window = *desktop_.Get(window_);
-  window.Enabled = enabled;
-  if (IsSystemControl(window)) desktop_.InvalidateTree(window_);
+  desktop_.SetEnabled(window_, enabled);
+  if (IsSystemControl(*desktop_.Get(window_))) desktop_.InvalidateTree(window_);
 }
 
 bool SimPeerCore::SetTakesDrops(bool takesDrops) {

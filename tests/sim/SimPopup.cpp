@@ -103,6 +103,8 @@ int SimDesktop::ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& i
     Complain("a popup menu without an owner");
     return forms::popup::kNothing;
   }
+  // The system shows one popup menu at a time.
+  if (popup_ != kNoWindow) return forms::popup::kNothing;
   Popup popup{.Owner = owner, .Items = items, .At = at, .Flags = flags};
   RequestForeground(owner);
 

@@ -49,6 +49,10 @@ void SimShellExec::Fail(std::string_view file, RunError error) {
   failures_[UpperCase(file)] = error;
 }
 
+void SimShellExec::FailToOpen(std::string_view file, OpenError error) {
+  openFailures_[UpperCase(file)] = error;
+}
+
 std::vector<std::string> SimShellExec::Started() const {
   std::vector<std::string> started;
   for (const Launch& launch : log_) {
@@ -83,13 +87,23 @@ bool SimShellExec::CanFollow(std::string_view link) const {
   return content && (content->Path.empty() ? !content->Item.IsEmpty() : Exists(content->Path));
 }
 
-bool SimShellExec::Open(std::string_view file, std::optional<std::string_view> parameters,
-                        std::optional<std::string_view> folder) {
-  Launch launch{.How = Launch::Kind::Open, .File = std::string(file), .Started = CanOpen(file)};
+std::optional<OpenError> SimShellExec::WhyNotOpened(std::string_view file) const {
+  const auto scripted = openFailures_.find(UpperCase(file));
+  if (scripted != openFailures_.end()) return scripted->second;
+  if (CanOpen(file)) return std::nullopt;
+  return OpenError::Other;
+}
+
+Result<Done, OpenError> SimShellExec::Open(std::string_view file,
+                                           std::optional<std::string_view> parameters,
+                                           std::optional<std::string_view> folder) {
+  const std::optional<OpenError> error = WhyNotOpened(file);
+  Launch launch{.How = Launch::Kind::Open, .File = std::string(file), .Started = !error};
   if (parameters) launch.Parameters = std::string(*parameters);
   if (folder) launch.Folder = std::string(*folder);
   Note(launch);
-  return launch.Started;
+  if (error) return *error;
+  return Done{};
 }
 
 std::optional<RunError> SimShellExec::WhyNotRun(std::string_view commandLine) const {
@@ -116,6 +130,8 @@ std::optional<RunError> SimShellExec::WhyNotRun(std::string_view commandLine) co
       return RunError::Other;
     }
   }
+  const std::string whole = names.back();
+  if (files_.Has(whole) && !files_.Get(whole)) return RunError::AccessDenied;  // a folder
   const bool bad = std::all_of(names.begin(), names.end(),
                                [](const std::string& name) { return HasBadCharacter(name); });
   return bad ? RunError::BadFileName : RunError::FileNotFound;

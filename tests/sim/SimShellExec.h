@@ -39,6 +39,8 @@ class SimShellExec final : public ShellExec {
   void AddToPath(std::string_view program);
   /// Opening or running this text fails, whatever it is; for Run with this error.
   void Fail(std::string_view file, RunError error = RunError::Other);
+  /// Opening this text fails like this; running it is as ever.
+  void FailToOpen(std::string_view file, OpenError error);
 
   /// Runs at each attempt, when it is in the log and before its answer.
   void WhileAsked(std::function<void(const Launch&)> action) { whileAsked_ = std::move(action); }
@@ -49,14 +51,15 @@ class SimShellExec final : public ShellExec {
   /// Texts of what was started, in order.
   [[nodiscard]] std::vector<std::string> Started() const;
 
-  bool Open(std::string_view file, std::optional<std::string_view> parameters,
-            std::optional<std::string_view> folder) override;
+  Result<Done, OpenError> Open(std::string_view file, std::optional<std::string_view> parameters,
+                               std::optional<std::string_view> folder) override;
   Result<Done, RunError> Run(std::string_view commandLine) override;
 
  private:
   void Note(const Launch& launch);
   [[nodiscard]] bool Exists(std::string_view file) const;
   [[nodiscard]] bool CanOpen(std::string_view file) const;
+  [[nodiscard]] std::optional<OpenError> WhyNotOpened(std::string_view file) const;
   [[nodiscard]] bool CanFollow(std::string_view link) const;
   [[nodiscard]] std::optional<RunError> WhyNotRun(std::string_view commandLine) const;
 
@@ -65,6 +68,7 @@ class SimShellExec final : public ShellExec {
   std::map<std::string, std::string> associations_;
   std::set<std::string> path_;
   std::map<std::string, RunError> failures_;
+  std::map<std::string, OpenError> openFailures_;
   std::function<void(const Launch&)> whileAsked_;
   std::vector<Launch> log_;
 };

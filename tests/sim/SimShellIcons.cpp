@@ -41,6 +41,10 @@ void SimShellIcons::SetIconCount(std::string_view file, int count) {
   iconCounts_[UpperCase(file)] = count;
 }
 
+void SimShellIcons::AddResource(std::string_view file, int number) {
+  resources_.emplace(UpperCase(file), number);
+}
+
 Rgb SimShellIcons::ColourOf(int index) noexcept {
   // Blue is never 0xC0 or 0, so that no icon has the colour of a face, a line or a text.
   return 0x00400000U | ((static_cast<Rgb>(index) * 37U + 1U) & 0xFFFFU);
@@ -86,8 +90,11 @@ bool SimShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, Pix
 bool SimShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                                  int size) {
   ++draws_;
-  const auto count = iconCounts_.find(UpperCase(file));
-  if (count == iconCounts_.end() || index < 0 || index >= count->second) return false;
+  const std::string key = UpperCase(file);
+  const auto count = iconCounts_.find(key);
+  const bool inside = index < 0 ? resources_.contains({key, -index})
+                                : count != iconCounts_.end() && index < count->second;
+  if (!inside) return false;
   canvas.FillBox(RectAt(at, {size, size}), ColourOf(file, index));
   return true;
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,6 +25,8 @@ class SimShellIcons final : public ShellIcons {
   void SetTypeName(std::string_view extension, std::string name);
   /// This file holds so many icons of its own; none at first.
   void SetIconCount(std::string_view file, int count);
+  /// This file holds an icon whose resource has that number.
+  void AddResource(std::string_view file, int number);
   /// The shell's large size, 32 at first; 0: it does not tell.
   void SetLargeSize(int pixels) noexcept { large_ = pixels; }
 
@@ -55,6 +58,7 @@ class SimShellIcons final : public ShellIcons {
   std::map<std::string, int> indexes_;
   std::map<std::string, std::string> typeNames_;
   std::map<std::string, int> iconCounts_;
+  std::set<std::pair<std::string, int>> resources_;
   std::map<IconList, std::vector<std::string>> asked_;
   std::function<void()> action_;
   int nextIndex_ = 100;

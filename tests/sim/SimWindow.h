@@ -18,6 +18,7 @@ namespace corvelle::sim {
 struct SimWindow {
   WindowId Id = kNoWindow;
   WindowId Parent = kNoWindow;            // none: a top-level window
+  WindowId Owner = kNoWindow;             // of a message box or a form that has one
   forms::WindowEvents* Events = nullptr;  // null for other programs' windows and message boxes
   bool Own = false;
   forms::PeerKind Kind = forms::PeerKind::Form;

@@ -60,6 +60,7 @@ WindowId SimDesktop::Add(SimWindow window) {
 WindowId SimDesktop::AddOwn(const forms::PeerSpec& wanted, forms::WindowEvents& events) {
   if (std::exchange(refuseWindow_, false)) return kNoWindow;
   const WindowId id = Add({.Parent = wanted.Parent != nullptr ? wanted.Parent->Id() : kNoWindow,
+                           .Owner = wanted.Owner != nullptr ? wanted.Owner->Id() : kNoWindow,
                            .Events = &events,
                            .Own = true,
                            .Kind = wanted.Kind,
@@ -98,12 +99,7 @@ void SimDesktop::Destroy(WindowId window) {
 /// A window is not visible any more: the press that it had and its place as the active one go.
 void SimDesktop::WindowGone(WindowId window) {
   windowsMoved_ = true;
-  for (WindowId at = capture_; at != kNoWindow;
-       at = Look(at) != nullptr ? Look(at)->Parent : kNoWindow) {
-    if (at != window) continue;
-    LoseCapture();
-    break;
-  }
+  ReleaseMouse(window);
   if (focus_ == window) focus_ = Look(window)->Parent;
   if (foreground_ == window) ActivateAnother(window);
 }
@@ -296,7 +292,7 @@ void SimDesktop::Activate(WindowId window) {
   const WindowId before = foreground_;
   foreground_ = window;
   const SimWindow* at = Look(window);
-  focus_ = at->Own ? FocusOf(*at) : kNoWindow;
+  focus_ = at->Own && at->Enabled ? FocusOf(*at) : kNoWindow;
   TellActivation(before, false);
   if (foreground_ == window) TellActivation(window, true);
   TellFocus();
@@ -307,18 +303,19 @@ void SimDesktop::TellActivation(WindowId window, bool active) {
   if (at != nullptr && at->Events != nullptr) at->Events->OnActivated(active);
 }
 
-/// The active window went away: the next of its program's windows that can be seen takes its place,
-/// else the next of any.
+bool SimDesktop::CanBeActive(WindowId window) const {
+  return IsShown(window) && Look(window)->Enabled;
+}
+
+/// The active window went away: its owner takes its place, else the next window below it that can,
+/// else the first from the top. Whose program that is does not count.
 void SimDesktop::ActivateAnother(WindowId than) {
-  const bool own = Look(than)->Own;
-  WindowId next = kNoWindow;
-  for (const WindowId id : order_) {
-    if (id == than || !IsShown(id) || !Look(id)->Enabled) continue;
-    if (next == kNoWindow) next = id;
-    if (own && Look(id)->Own) {
-      next = id;
-      break;
-    }
+  const auto may = [this, than](WindowId id) { return id != than && CanBeActive(id); };
+  WindowId next = Look(than)->Owner;
+  if (!may(next)) {
+    auto found = std::find_if(std::find(order_.begin(), order_.end(), than), order_.end(), may);
+    if (found == order_.end()) found = std::find_if(order_.begin(), order_.end(), may);
+    next = found != order_.end() ? *found : kNoWindow;
   }
   if (next != kNoWindow) {
     Activate(next);
@@ -327,6 +324,25 @@ void SimDesktop::ActivateAnother(WindowId than) {
     focus_ = kNoWindow;
     TellActivation(than, false);
     TellFocus();
+  }
+}
+
+/// A window that is disabled stays the active one, but has neither the keyboard nor the mouse.
+void SimDesktop::SetEnabled(WindowId window, bool enabled) {
+  Get(window)->Enabled = enabled;
+  if (enabled) return;
+  ReleaseMouse(window);
+  if (focus_ == window) focus_ = kNoWindow;
+  TellFocus();
+}
+
+/// Ends the hold of a window or its children on the mouse.
+void SimDesktop::ReleaseMouse(WindowId window) {
+  for (WindowId at = capture_; at != kNoWindow;
+       at = Look(at) != nullptr ? Look(at)->Parent : kNoWindow) {
+    if (at != window) continue;
+    LoseCapture();
+    return;
   }
 }
 

@@ -17,6 +17,8 @@ World::World(const WorldOptions& options)
       Desktop({.TwipsPerPixel = options.TwipsPerPixel, .Screen = options.Screen}) {
   System.Caption = options.CaptionHeight;
   System.CaptionButton = options.CaptionButtonWidth;
+  // The search for files of the system.
+  Keys.Set(RegistryRoot::ClassesRoot, "search-ms", "URL Protocol", "");
 }
 
 World::~World() {
@@ -40,7 +42,8 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
           .System = System,
           .Folders = Folders,
           .Bars = Bars,
-          .Tray = Tray};
+          .Tray = Tray,
+          .SlowAnswers = SlowAnswers};
 }
 
 bool World::SavePicture(const std::string& hostPath) const {

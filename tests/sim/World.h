@@ -10,6 +10,7 @@
 #include "sim/SimFileAssociations.h"
 #include "sim/SimFiles.h"
 #include "sim/SimKeySynthesis.h"
+#include "sim/SimLookups.h"
 #include "sim/SimRegistry.h"
 #include "sim/SimShellExec.h"
 #include "sim/SimShellFiles.h"
@@ -53,6 +54,7 @@ class World {
   SimTrayIcons Tray;
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
+  SimLookups SlowAnswers{Desktop, Files, Links};
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
   /// has some.

@@ -111,43 +111,58 @@ TEST(AppBarRules, TheRoomIsCutToTheBarAndTheWindowStandsInIt) {
   }
 }
 
-TEST(AppBarRules, ThePointerPastTheInnerSideHidesAndOnTheLineReveals) {
+TEST(AppBarRules, OffTheLineThePointerHidesAndOnTheLineItReveals) {
   struct Row {
     const char* name;
     Edge at;
     PixelPoint pointer;
-    PixelPoint corner;
+    PixelRect window;
     bool off;
   };
-  const Row rows[] = {{"top, on", Edge::Top, {500, 0}, {0, 0}, false},
-                      {"top, off", Edge::Top, {500, 1}, {0, 0}, true},
-                      {"bottom, on", Edge::Bottom, {500, 767}, {0, 767}, false},
-                      {"bottom, off", Edge::Bottom, {500, 766}, {0, 767}, true},
-                      {"left, on", Edge::Left, {0, 400}, {0, 0}, false},
-                      {"left, off", Edge::Left, {1, 400}, {0, 0}, true},
-                      {"right, on", Edge::Right, {1023, 400}, {1023, 0}, false},
-                      {"right, off", Edge::Right, {1022, 400}, {1023, 0}, true},
-                      {"behind a bar", Edge::Left, {5, 400}, {30, 0}, false},
-                      {"screen on the left", Edge::Left, {-1, 400}, {0, 0}, true},
-                      {"screen on the right", Edge::Right, {1024, 400}, {1023, 0}, true},
-                      {"screen above", Edge::Top, {500, -1}, {0, 0}, true},
-                      {"screen below", Edge::Bottom, {500, 768}, {0, 767}, true}};
+  constexpr PixelRect top{0, 0, 1024, 1};
+  constexpr PixelRect bottom{0, 767, 1024, 768};
+  constexpr PixelRect left{0, 0, 1, 768};
+  constexpr PixelRect right{1023, 0, 1024, 768};
+  const Row rows[] = {
+      {"top, on", Edge::Top, {500, 0}, top, false},
+      {"top, off", Edge::Top, {500, 1}, top, true},
+      {"bottom, on", Edge::Bottom, {500, 767}, bottom, false},
+      {"bottom, off", Edge::Bottom, {500, 766}, bottom, true},
+      {"left, on", Edge::Left, {0, 400}, left, false},
+      {"left, off", Edge::Left, {1, 400}, left, true},
+      {"right, on", Edge::Right, {1023, 400}, right, false},
+      {"right, off", Edge::Right, {1022, 400}, right, true},
+      {"screen on the left", Edge::Left, {-1, 400}, left, true},
+      {"screen on the right", Edge::Right, {1024, 400}, right, true},
+      {"screen above", Edge::Top, {500, -1}, top, true},
+      {"screen below", Edge::Bottom, {500, 768}, bottom, true},
+      {"in full sight at the bottom", Edge::Bottom, {500, 740}, {0, 726, 1024, 768}, false},
+      {"in full sight on the right", Edge::Right, {990, 400}, {982, 0, 1024, 768}, false},
+      // Another bar, 30 pixels across, lies outside of the line.
+      {"inside of a bar at the top", Edge::Top, {500, 30}, {0, 30, 1024, 31}, false},
+      {"over a bar at the top", Edge::Top, {500, 29}, {0, 30, 1024, 31}, true},
+      {"inside of a bar at the bottom", Edge::Bottom, {500, 737}, {0, 737, 1024, 738}, false},
+      {"over a bar at the bottom", Edge::Bottom, {500, 738}, {0, 737, 1024, 738}, true},
+      {"the edge behind a bar", Edge::Bottom, {500, 767}, {0, 737, 1024, 738}, true},
+      {"inside of a bar on the left", Edge::Left, {30, 400}, {30, 0, 31, 768}, false},
+      {"over a bar on the left", Edge::Left, {29, 400}, {30, 0, 31, 768}, true},
+      {"inside of a bar on the right", Edge::Right, {993, 400}, {993, 0, 994, 768}, false},
+      {"over a bar on the right", Edge::Right, {994, 400}, {993, 0, 994, 768}, true}};
   for (const Row& row : rows) {
-    EXPECT_EQ(PointerIsOff(row.at, row.pointer, row.corner, kScreen), row.off) << row.name;
-    EXPECT_EQ(PointerReveals(row.at, row.pointer, row.corner, kScreen), !row.off) << row.name;
+    EXPECT_EQ(PointerIsOff(row.at, row.pointer, row.window, kScreen), row.off) << row.name;
+    EXPECT_EQ(PointerReveals(row.at, row.pointer, row.window, kScreen), !row.off) << row.name;
   }
 }
 
 TEST(AppBarRules, ALineThatDoesNotTouchItsEdgeIsOff) {
-  constexpr TwipSize screen{15360, 11520};
-  EXPECT_FALSE(IsOffEdge(Edge::Top, {0, 0, 15360, 15}, screen));
-  EXPECT_TRUE(IsOffEdge(Edge::Top, {0, 15, 15360, 15}, screen));
-  EXPECT_FALSE(IsOffEdge(Edge::Bottom, {0, 11505, 15360, 15}, screen));
-  EXPECT_TRUE(IsOffEdge(Edge::Bottom, {0, 11490, 15360, 15}, screen));
-  EXPECT_FALSE(IsOffEdge(Edge::Right, {15345, 0, 15, 11520}, screen));
-  EXPECT_TRUE(IsOffEdge(Edge::Right, {15330, 0, 15, 11520}, screen));
-  EXPECT_FALSE(IsOffEdge(Edge::Left, {0, 0, 15, 11520}, screen));
-  EXPECT_TRUE(IsOffEdge(Edge::Left, {15, 0, 15, 11520}, screen));
+  EXPECT_FALSE(IsOffEdge(Edge::Top, {0, 0, 1024, 1}, kScreen));
+  EXPECT_TRUE(IsOffEdge(Edge::Top, {0, 1, 1024, 2}, kScreen));
+  EXPECT_FALSE(IsOffEdge(Edge::Bottom, {0, 767, 1024, 768}, kScreen));
+  EXPECT_TRUE(IsOffEdge(Edge::Bottom, {0, 766, 1024, 767}, kScreen));
+  EXPECT_FALSE(IsOffEdge(Edge::Right, {1023, 0, 1024, 768}, kScreen));
+  EXPECT_TRUE(IsOffEdge(Edge::Right, {1022, 0, 1023, 768}, kScreen));
+  EXPECT_FALSE(IsOffEdge(Edge::Left, {0, 0, 1, 768}, kScreen));
+  EXPECT_TRUE(IsOffEdge(Edge::Left, {1, 0, 2, 768}, kScreen));
 }
 
 TEST(AppBarRules, ARevealedStripComesInFromItsEdge) {
@@ -162,14 +177,6 @@ TEST(AppBarRules, ARevealedStripComesInFromItsEdge) {
               (TwipPoint{984 * t, 0}));
     EXPECT_EQ(RevealedCorner(Edge::Left, {0, 0, 40 * t, 700 * t}, twips), (TwipPoint{0, 0}));
   }
-}
-
-TEST(AppBarRules, ACoveringWindowIsLookedForOnTheStrip) {
-  constexpr TwipSize twips{15, 15};
-  EXPECT_EQ(ProbePoint(Edge::Top, {0, -45, 15360, 630}, twips), (PixelPoint{50, 18}));
-  EXPECT_EQ(ProbePoint(Edge::Left, {0, 0, 630, 11520}, twips), (PixelPoint{21, 50}));
-  EXPECT_EQ(ProbePoint(Edge::Right, {14730, 0, 630, 11520}, twips), (PixelPoint{992, 10}));
-  EXPECT_EQ(ProbePoint(Edge::Bottom, {0, 10890, 15360, 630}, twips), (PixelPoint{10, 736}));
 }
 
 TEST(AppBarRules, TheBoxOfSingleButtonsReachesToTheEndOfTheWindow) {

@@ -55,7 +55,7 @@ TEST(AutoHide, AStartShowsTheStripAndClaimsTheSideWithoutKeepingRoom) {
 }
 
 TEST(AutoHide, WhoGoesElsewhereLeavesALineAndATouchBringsTheStripBack) {
-  for (const float t : {15.0F, 12.0F, 10.0F}) {
+  for (const float t : kScales) {
     for (const LineRow& row : kLines) {
       SCOPED_TRACE(std::string(row.name) + " " + std::to_string(t));
       HidingDesk desk({.TwipsPerPixel = t});
@@ -132,14 +132,14 @@ TEST(AutoHide, TheClaimIsMadeOnceAndMovesWithTheEdge) {
   EXPECT_EQ(desk.World.Bars.Log(), (Messages{"getautohide 2", "querypos 2"}));
   desk.World.Bars.ClearLog();
   desk.Docking.SetAppBar("LEFT", true);
-  EXPECT_EQ(desk.World.Bars.Log(), (Messages{"getautohide 0", "setautohide 2 0", "setautohide 0 1",
-                                             "querypos 0", "activate"}));
+  EXPECT_EQ(desk.World.Bars.Log(),
+            (Messages{"getautohide 0", "setautohide 2 0", "setautohide 0 1", "querypos 0"}));
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Left), desk.Strip.hWnd());
 }
 
 TEST(AutoHide, SwitchedOnAtAnEdgeTheStripIsALineThereAtOnce) {
-  for (const float t : {15.0F, 12.0F, 10.0F}) {
+  for (const float t : kScales) {
     for (const bool rebuild : {false, true}) {
       for (const LineRow& row : kLines) {
         SCOPED_TRACE(std::string(row.name) + (rebuild ? ", rebuilt " : " ") + std::to_string(t));
@@ -155,8 +155,8 @@ TEST(AutoHide, SwitchedOnAtAnEdgeTheStripIsALineThereAtOnce) {
         desk.Poll();
         EXPECT_EQ(desk.Bounds(), row.revealed);
         const forms::PictureBox& box = desk.Strip.picSingleButton;
-        EXPECT_EQ(IsVertical(row.at) ? box.Bottom() : box.Right(),
-                  (IsVertical(row.at) ? desk.Strip.Height() : desk.Strip.Width()) - 2 * t);
+        EXPECT_FLOAT_EQ(IsVertical(row.at) ? box.Bottom() : box.Right(),
+                        (IsVertical(row.at) ? desk.Strip.Height() : desk.Strip.Width()) - 2 * t);
       }
     }
   }
@@ -170,9 +170,10 @@ TEST(AutoHide, SwitchedOffItGivesUpTheClaimAndStandsInFullSight) {
     desk.TheProgram.AutoHide = false;
     desk.Docking.SetAppBar("", rebuild);
     EXPECT_EQ(desk.World.Bars.Log(),
-              (Messages{"setautohide 2 0", "querypos 2", "setpos 2 982,0,1024,768", "activate"}));
+              (Messages{"setautohide 2 0", "querypos 2", "setpos 2 982,0,1024,768"}));
     EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
     EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+    EXPECT_TRUE(desk.Strip.picSingleButton.Visible());
     EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
     desk.Poll();
     EXPECT_EQ(desk.WakeUps(2000), 0);
@@ -235,7 +236,7 @@ TEST(AutoHide, ASideTakenByAnotherIsToldOfOnceAndTheStripDocksInFullSight) {
   ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(desk.World.Desktop.Boxes()[0].Title, "Corvelle");
   EXPECT_EQ(desk.World.Desktop.Boxes()[0].Flags, 262160U);
-  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Owner, kNoWindow);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Owner, desk.Strip.hWnd());
   EXPECT_EQ(desk.Bounds(), (PixelRect{0, 0, 41, 768}));
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{41, 0, 1024, 768}));
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Left), other);
@@ -280,31 +281,57 @@ TEST(AutoHide, AStripThatGoesWhileTheMessageIsUpIsNotTouchedAnyMore) {
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
 }
 
-TEST(AutoHide, BehindAnotherBarTheLineIsHiddenWhollyAndTheEdgeBringsItBack) {
+TEST(AutoHide, BehindAnotherBarTheLineLiesAtTheEdgeOfTheFreeRoomAndTheBarIsNoLine) {
   struct Row {
     const char* name;
     Edge at;
     PixelRect revealed;
     PixelPoint touch;
+    PixelPoint overBar;
   };
-  const Row rows[] = {{"top", Edge::Top, {0, 30, 1024, 71}, {500, 5}},
-                      {"bottom", Edge::Bottom, {0, 696, 1024, 738}, {500, 760}},
-                      {"left", Edge::Left, {30, 0, 71, 768}, {5, 400}},
-                      {"right", Edge::Right, {952, 0, 994, 768}, {1020, 400}}};
+  const Row rows[] = {{"top", Edge::Top, {0, 30, 1024, 71}, {500, 30}, {500, 0}},
+                      {"bottom", Edge::Bottom, {0, 696, 1024, 738}, {500, 737}, {500, 767}},
+                      {"left", Edge::Left, {30, 0, 71, 768}, {30, 400}, {0, 400}},
+                      {"right", Edge::Right, {952, 0, 994, 768}, {993, 400}, {1023, 400}}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     HidingDesk desk;
     desk.World.Bars.AddOtherBar(row.at, 30);
     desk.StartHidden(row.at);
     EXPECT_FALSE(desk.Shown());
+    desk.PointAt(row.overBar);
+    desk.Poll();
+    EXPECT_FALSE(desk.Shown());
     desk.PointAt(row.touch);
     desk.Poll();
     EXPECT_TRUE(desk.Shown());
     EXPECT_EQ(desk.Bounds(), row.revealed);
+    // Who goes on to the other bar has done with the strip.
+    desk.PointAt(row.overBar);
+    desk.Poll();
+    EXPECT_FALSE(desk.Shown());
+    desk.PointAt(row.touch);
+    desk.Poll();
+    EXPECT_TRUE(desk.Shown());
     desk.GoElsewhere();
     desk.Poll();
     EXPECT_FALSE(desk.Shown());
   }
+}
+
+TEST(AutoHide, TheTaskBarAtTheSameEdgeIsNoLineEither) {
+  HidingDesk desk;
+  desk.World.Bars.AddTaskBar(Edge::Bottom, 40);
+  desk.StartHidden(Edge::Bottom);
+  for (const int y : {767, 748, 728}) {
+    desk.PointAt({500, y});
+    desk.Poll();
+    EXPECT_FALSE(desk.Shown()) << y;
+  }
+  desk.PointAt({500, 727});
+  desk.Poll();
+  EXPECT_TRUE(desk.Shown());
+  EXPECT_EQ(desk.Bounds(), (PixelRect{0, 686, 1024, 728}));
 }
 
 TEST(AutoHide, ABarThatComesOutsideHidesTheLineAndItsEndShowsIt) {
@@ -386,18 +413,26 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
   // Under a full-screen program a reveal lets events through, and the pointer has gone on by then.
   desk.TheProgram.FullScreenApp = true;
   desk.World.Desktop.MoveOther(desk.World.Desktop.ForegroundWindow(), {0, 0, 1024, 768});
-  const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk] {
+  int ticks = 0;
+  const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk, &ticks] {
+    ++ticks;
     EXPECT_TRUE(desk.TheProgram.HideBusy);
+    // The strip is in full sight already, and the pointer and the foreground are elsewhere: a tick
+    // that did its work would hide it.
+    EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
     desk.World.Bars.ClearLog();
     desk.Strip.Timer1_Timer();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
   });
   desk.World.Desktop.Jump(5);
-  desk.TheProgram.HideBusy = false;
   desk.Strip.Form_MouseMove(forms::MouseButton::None, {}, 0, 0);
   desk.World.Desktop.StopTimer(inside);
+  EXPECT_EQ(ticks, 1);
   EXPECT_FALSE(desk.TheProgram.HideBusy);
   EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  // The same tick outside of the reveal hides the strip again.
+  desk.Strip.Timer1_Timer();
+  EXPECT_TRUE(desk.IsLine());
 }
 
 TEST(AutoHide, ARevealUnderAFullScreenProgramComesBeforeTheWindowThatCovers) {
@@ -419,6 +454,39 @@ TEST(AutoHide, ARevealUnderAFullScreenProgramComesBeforeTheWindowThatCovers) {
     const WindowId seen = desk.World.Desktop.WindowAt(middle);
     EXPECT_TRUE(seen == desk.Strip.hWnd() || seen == desk.Strip.picToolbar.hWnd() ||
                 seen == desk.Strip.picSingleButton.hWnd());
+  }
+}
+
+TEST(AutoHide, RevealedUnderAFullScreenProgramTheStripIsTopmostUntilItHides) {
+  for (const LineRow& row : kLines) {
+    for (const bool topmost : {false, true}) {
+      SCOPED_TRACE(std::string(row.name) + (topmost ? " under a topmost one" : ""));
+      HidingDesk desk;
+      desk.StartHidden(row.at);
+      desk.World.Bars.SetFullScreen(true);
+      const WindowId cover = desk.World.Desktop.AddOtherWindow(
+          {.Title = "Full screen", .Bounds = {0, 0, 1024, 768}, .Topmost = topmost});
+      desk.World.Desktop.TakeForeground(cover);
+      EXPECT_FALSE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
+      for (int round = 0; round < 2; ++round) {
+        desk.PointAt(row.touch);
+        desk.Poll();
+        EXPECT_EQ(desk.Bounds(), row.revealed);
+        EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
+        const PixelPoint middle{(std::max(row.revealed.left, 0) + row.revealed.right) / 2,
+                                (std::max(row.revealed.top, 0) + row.revealed.bottom) / 2};
+        EXPECT_NE(desk.World.Desktop.WindowAt(middle), cover);
+        // The program in front keeps the keyboard, and the screen when the strip has gone.
+        EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), cover);
+        desk.PointAt({500, 400});
+        desk.Poll();
+        EXPECT_TRUE(desk.IsLine());
+        EXPECT_FALSE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
+        EXPECT_EQ(desk.World.Desktop.WindowAt(row.touch), cover);
+      }
+      desk.World.Bars.SetFullScreen(false);
+      EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
+    }
   }
 }
 

@@ -104,23 +104,28 @@ TEST(Carry, NothingIsTakenFromOrPutIntoTheProgramsOwnMenu) {
 
 TEST(Carry, AnItemOfAGeneratedMenuComesFromTheStoredFile) {
   struct Generated final : FolderMenusPort {
-    std::string Expand(std::string_view, std::string_view) override {
-      return "C:\\Corvelle\\Menus\\BMENU001.mfd";
+    explicit Generated(FileSystem& disk) : Disk(disk) {}
+    std::optional<ExpandedMenu> Expand(std::string_view, std::string_view menuFile) override {
+      const auto line = [](const char* title) {
+        return MenuRecord{title, "C:\\Tools\\tool.exe",
+                          "C:\\Tools\\tool.exe " + std::string(title)};
+      };
+      // B is a folder item here: its two files stand in its place.
+      return ExpandedMenu{
+          "C:\\Corvelle\\Menus\\BMENU001.mfd",
+          {{"Menu", "Button", ""}, line("A"), line("one"), line("two"), line("C"), line("D")},
+          {{1, ""}, {2, ""}, {5003, ""}, {5003, ""}, {4, ""}, {5, ""}},
+          ReadStoredRecords(Disk, menuFile).ValueOr({})};
     }
+    bool WriteGenerated(const ExpandedMenu&) override { return true; }
     bool UpdateMenu(std::string_view) override { return false; }
-  } folders;
+
+    FileSystem& Disk;
+  };
   CarryDesk desk;
+  Generated folders(desk.World.Files);
   desk.TheProgram.Ports.FolderMenus = &folders;
   desk.Start();
-  const auto line = [&](const char* title, int number) {
-    return FormatRecord({JoinTitle(title, number, desk.World.Ansi), "C:\\Tools\\tool.exe",
-                         "C:\\Tools\\tool.exe " + std::string(title)},
-                        desk.World.Ansi);
-  };
-  // B is a folder item here: its two files stand in its place.
-  desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.mfd",
-                       FormatRecord({"Menu", "Button", ""}, desk.World.Ansi) + line("A", 2) +
-                           line("one", 5003) + line("two", 5003) + line("C", 4) + line("D", 5));
   // A stored item dropped on a generated one comes to stand before its folder.
   desk.Carry(5);
   EXPECT_EQ(desk.TheProgram.Entry.CurFile, desk.FileOf(1));
@@ -438,7 +443,7 @@ TEST(Carry, AnEntryOfTheRowGoesIntoAMenuAndLeavesTheRow) {
   entry.CurRecord = 1;
   desk.Menu.DoItemDrag({});
   EXPECT_EQ(desk.ItemsOf(2), (Titles{"X", "Single", "Y"}));
-  EXPECT_EQ(desk.Row.Asked, (Titles{"delete C:\\Corvelle\\Menus\\BMENU001.BTN"}));
+  EXPECT_FALSE(desk.World.Files.Has("C:\\Corvelle\\Menus\\BMENU001.BTN"));
 }
 
 // ---- elsewhere ----

@@ -81,6 +81,9 @@ struct DockDesk : StripDesk {
 
 using Messages = std::vector<std::string>;
 
+/// Twips of a pixel at 96, 120, 144, 168, 192, 216 and 336 dpi.
+inline constexpr float kScales[] = {15, 12, 10, 1440.0F / 168, 7.5F, 1440.0F / 216, 1440.0F / 336};
+
 /// Points well inside of the quarters that the screen's diagonals cut, for 1024 x 768.
 inline PixelPoint QuarterOf(Edge at) {
   switch (at) {

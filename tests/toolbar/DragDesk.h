@@ -51,7 +51,12 @@ struct NotedSingles final : SingleButtonsPort {
 /// A hint that counts how often it was closed.
 struct NotedHint final : HintPort {
   int Closed = 0;
-  void SetHint(std::string_view text) override { Closed += text.empty() ? 1 : 0; }
+  /// What comes in the events that run while it goes.
+  std::function<void()> WhileItGoes;
+  void SetHint(std::string_view text) override {
+    Closed += text.empty() ? 1 : 0;
+    if (text.empty() && WhileItGoes) WhileItGoes();
+  }
   WindowId WindowHandle() const override { return kNoWindow; }
 };
 

@@ -27,9 +27,42 @@ TEST(DragImage, ShowsTheIconOfTheEntryAroundThePointersPoint) {
   const corvelle::Picture picture = desk.World.Desktop.MouseIcon();
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->Size(), (PixelSize{32, 32}));
-  EXPECT_EQ(picture->PixelAt({16, 16}), sim::SimShellIcons::ColourOf(9));
+  for (const PixelPoint at : {PixelPoint{0, 0}, {16, 16}, {31, 31}}) {
+    EXPECT_EQ(picture->PixelAt(at), sim::SimShellIcons::ColourOf(9));
+  }
   EXPECT_EQ(desk.World.Desktop.MouseIconHotSpot(), (PixelPoint{16, 16}));
   EXPECT_TRUE(desk.Picture.DragCursorOk);
+}
+
+TEST(DragImage, AboveTheUsualScaleItIsAsLargeAsTheShellsIcons) {
+  // The large icons of 96, 120, 144, 168, 192, 216 and 336 dpi.
+  for (const int size : {32, 40, 48, 56, 64, 72, 112}) {
+    SCOPED_TRACE(size);
+    CarryDesk desk;
+    desk.World.Icons.SetLargeSize(size);
+    desk.World.Icons.SetIndex("C:\\Tools\\tool.exe", 9);
+    desk.Picture.SetDragImage("C:\\Tools\\tool.exe");
+    const corvelle::Picture icon = desk.World.Desktop.MouseIcon();
+    ASSERT_NE(icon, nullptr);
+    EXPECT_EQ(icon->Size(), (PixelSize{size, size}));
+    EXPECT_EQ(icon->PixelAt({size - 1, size - 1}), sim::SimShellIcons::ColourOf(9));
+    EXPECT_EQ(desk.World.Desktop.MouseIconHotSpot(), (PixelPoint{size / 2, size / 2}));
+    // The program's own pictures grow by whole pixels.
+    const int side = size / 16 * 16;
+    desk.Picture.SetDragImage("New");
+    const corvelle::Picture glyph = desk.World.Desktop.MouseIcon();
+    ASSERT_NE(glyph, nullptr);
+    EXPECT_EQ(glyph->Size(), (PixelSize{side, side}));
+    EXPECT_EQ(desk.World.Desktop.MouseIconHotSpot(), (PixelPoint{side / 2, side / 2}));
+  }
+}
+
+TEST(DragImage, WithoutLargeIconsItIsOfTheUsualSize) {
+  CarryDesk desk;
+  desk.World.Icons.SetLargeSize(0);
+  desk.World.Icons.SetIndex("C:\\Tools\\tool.exe", 9);
+  desk.Picture.SetDragImage("C:\\Tools\\tool.exe");
+  EXPECT_EQ(desk.World.Desktop.MouseIcon()->Size(), (PixelSize{32, 32}));
 }
 
 TEST(DragImage, WhatTheIconDoesNotCoverIsSeenThrough) {

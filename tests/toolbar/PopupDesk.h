@@ -98,7 +98,7 @@ struct PopupDesk : StripDesk {
   void ChooseFor(const EntryEdit& entry, std::string choice) {
     TheProgram.Entry = entry;
     World.Desktop.ChooseFromPopup(std::move(choice));
-    ThePopup.ShowToolbarPopup();
+    ThePopup.ShowToolbarPopup(entry);
   }
   [[nodiscard]] const sim::Popup& LastPopup() const { return World.Desktop.Popups().back(); }
 

@@ -112,7 +112,7 @@ TEST(PopupShown, TheEndOfTheProgramEndsIt) {
 
 TEST(PopupShown, OneAtATime) {
   PopupDesk desk;
-  desk.World.Desktop.WhilePopupIsUp([&](const sim::Popup&) { desk.ThePopup.ShowToolbarPopup(); });
+  desk.World.Desktop.WhilePopupIsUp([&](const sim::Popup&) { desk.ThePopup.ShowToolbarPopup({}); });
   desk.RightClickButton(2);
   EXPECT_EQ(desk.World.Desktop.Popups().size(), 1U);
   desk.RightClickButton(2);

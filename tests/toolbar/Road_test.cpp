@@ -2,10 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "menus/frmQMenu.h"
+#include "platform/Input.h"
 #include "toolbar/StripDesk.h"
+#include "toolbar/frmHelp.h"
 #include "toolbar/frmImage.h"
 
 namespace corvelle {
@@ -58,6 +62,166 @@ TEST(StripAndMenu, AChoiceClosesTheMenuAndStartsItsProgram) {
   EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i2.exe"});
   EXPECT_EQ(desk.RealMenuUp(), 0);
   EXPECT_TRUE(desk.AtRest(2));
+}
+
+// ---- more events than the program has dealt with ----
+
+/// Puts what a user does into the queue of events at once, and lets the program come to it.
+void AtOnce(RoadDesk& desk, const std::function<void()>& deeds) {
+  forms::WindowSystem& windows = desk.World.Desktop;
+  forms::TimerId timer{};
+  timer = windows.StartTimer(1, [&] {
+    windows.StopTimer(timer);
+    deeds();
+  });
+  desk.Wait(1);
+}
+
+TEST(QuickHand, PressesThatWaitAreDealtWithOneAfterTheOther) {
+  RoadDesk desk;
+  desk.PointAtButton(2);
+  AtOnce(desk, [&desk] {
+    for (int press = 0; press < 100; ++press) {
+      desk.World.Desktop.Click();
+    }
+  });
+  EXPECT_LE(desk.World.Desktop.DeepestLoops(), 2);
+  desk.Wait(200);
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+  desk.Click(3);
+  EXPECT_EQ(desk.RealMenuUp(), 3);
+}
+
+TEST(QuickHand, PressesOnTwoButtonsInTurnRunNoLoopsInsideEachOther) {
+  RoadDesk desk;
+  AtOnce(desk, [&desk] {
+    for (int press = 0; press < 100; ++press) {
+      desk.PointAtButton(2 + press / 2 % 2);
+      desk.World.Desktop.Click();
+    }
+  });
+  EXPECT_LE(desk.World.Desktop.DeepestLoops(), 2);
+}
+
+TEST(QuickHand, AYieldInWhatAYieldLetsRunPaintsAndRunsNothing) {
+  RoadDesk desk;
+  forms::WindowSystem& windows = desk.World.Desktop;
+  std::vector<std::string> order;
+  const forms::TimerId outer = windows.StartTimer(1, [&] {
+    order.emplace_back("outer");
+    desk.Strip.Refresh();
+    const int before = desk.World.Desktop.PaintCount();
+    desk.Strip.picToolbar.Invalidate({0, 0, 9000, 900});
+    desk.TheProgram.DoEvents();
+    EXPECT_GT(desk.World.Desktop.PaintCount(), before);
+    order.emplace_back("outer is over");
+  });
+  const forms::TimerId inner = windows.StartTimer(1, [&] { order.emplace_back("inner"); });
+  desk.World.Desktop.Jump(1);
+  desk.TheProgram.DoEvents();
+  windows.StopTimer(outer);
+  windows.StopTimer(inner);
+  EXPECT_EQ(order, (std::vector<std::string>{"outer", "outer is over", "inner"}));
+}
+
+TEST(QuickHand, KeysThatWaitBehindAPressChooseInTheMenuThatItOpens) {
+  RoadDesk desk;
+  frmHelp hint(desk.TheProgram);
+  desk.TheProgram.Ports.Hint = &hint;
+  desk.PointAtButton(2);
+  desk.Wait(1000);
+  hint.SetHint("Menu 1");  // is up when the press comes
+  AtOnce(desk, [&desk] {
+    desk.World.Desktop.Click();
+    desk.World.Desktop.PressKey(forms::key::Up);
+    desk.World.Desktop.PressKey(forms::key::Enter);
+  });
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i3.exe"});
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+  desk.TheProgram.Ports.Hint = nullptr;
+}
+
+TEST(QuickHand, EnterChoosesThoughTheStripKeptTheFocus) {
+  RoadDesk desk;
+  desk.PointAtButton(2);
+  desk.World.Desktop.Press();
+  desk.World.Desktop.Release();
+  desk.Wait(200);
+  ASSERT_EQ(desk.RealMenuUp(), 2);
+  desk.Strip.SetFocus();
+  // The key finds its way to the menu, and the focus stays behind.
+  desk.RealMenu.Form_KeyDown(forms::key::Up, {});
+  ASSERT_EQ(desk.World.Desktop.ActiveWindow(), desk.Strip.hWnd());
+  desk.World.Desktop.PressKey(forms::key::Enter);
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i3.exe"});
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+}
+
+TEST(QuickHand, AClickOnAnItemIsAChoiceThoughThePointerHasGoneOn) {
+  RoadDesk desk;
+  desk.Click(2);
+  desk.Wait(200);
+  ASSERT_EQ(desk.RealMenuUp(), 2);
+  const PixelPoint item = desk.Item(3);
+  AtOnce(desk, [&] {
+    desk.PointAt(item);
+    desk.World.Desktop.Click();
+    desk.PointAt({900, 700});
+  });
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i3.exe"});
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+}
+
+TEST(QuickHand, AReleaseOnAnItemIsAChoiceThoughThePointerHasGoneOn) {
+  RoadDesk desk;
+  desk.Press(3);
+  desk.Wait(200);
+  ASSERT_EQ(desk.RealMenuUp(), 3);
+  const PixelPoint item = desk.Item(2);
+  AtOnce(desk, [&] {
+    desk.PointAt(item);
+    desk.World.Desktop.Release();
+    desk.PointAt({900, 700});
+  });
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m2i2.exe"});
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+}
+
+/// The middle of an item in the menu's own twips.
+TwipPoint InMenu(const RoadDesk& desk, int index) {
+  const forms::Label& label = desk.RealMenu.Lbl[index];
+  return {label.Left() + 100, label.Top() + label.Height() / 2};
+}
+
+TEST(QuickHand, AClickChoosesThoughTheSelectionWentBetweenPressAndRelease) {
+  RoadDesk desk;
+  desk.Click(2);
+  desk.Wait(200);
+  const TwipPoint at = InMenu(desk, 3);
+  desk.PointAt(desk.Item(3));
+  desk.RealMenu.Form_MouseDown(MouseButton::Left, {}, at.X, at.Y);
+  desk.PointAt({900, 700});
+  desk.Wait(200);
+  ASSERT_EQ(desk.TheProgram.SelectedItem, 0);
+  desk.RealMenu.Form_MouseUp(MouseButton::Left, {}, at.X, at.Y);
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i3.exe"});
+  EXPECT_EQ(desk.RealMenuUp(), 0);
+}
+
+TEST(QuickHand, AReleaseFromTheStripChoosesThoughTheSelectionWentBeforeIt) {
+  RoadDesk desk;
+  desk.Press(2);
+  desk.PointAt(desk.Item(3));
+  const PixelPoint item = desk.Item(3);
+  const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd());
+  desk.PointAt({900, 700});
+  desk.Wait(200);
+  ASSERT_EQ(desk.TheProgram.SelectedItem, 0);
+  desk.Strip.picToolbar_MouseUp(MouseButton::Left, {},
+                                static_cast<float>(item.x - box.left) * desk.Strip.TwipsX,
+                                static_cast<float>(item.y - box.top) * desk.Strip.TwipsY);
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i3.exe"});
+  EXPECT_EQ(desk.RealMenuUp(), 0);
 }
 
 TEST(StripAndMenu, APressHeldIntoTheMenuChoosesWhereItIsReleased) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/DroppedFiles.h"
 #include "core/EntryCommands.h"
 #include "toolbar/SinglesDesk.h"
 
@@ -327,10 +328,44 @@ TEST(DropFilesOnSingles, PutsThemBeforeTheButtonInTheirOrder) {
   EXPECT_EQ(desk.Strip.Width(), desk.Strip.picSingleButton.Right() + 15);
 }
 
+TEST(DropFilesOnSingles, APointerThatGoesOnWhileAHintClosesChangesNoPlace) {
+  for (const auto button : {forms::MouseButton::Left, forms::MouseButton::Right}) {
+    DropDesk desk("ab");
+    desk.PointAtSingle(2);
+    desk.Parts.WhileHintGoes = [&] { desk.PointAtSingle(1); };
+    desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, button);
+    desk.Parts.WhileHintGoes = {};
+    if (button == forms::MouseButton::Left) {
+      EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
+    } else {
+      EXPECT_EQ(desk.World.Shell.Log().at(0).File, "C:\\Tools\\b.exe");
+    }
+  }
+}
+
 TEST(DropFilesOnSingles, OnFreeSpaceTheyFollowTheLast) {
   DropDesk desk("ab");
   desk.PointAt(desk.BarePlace());
   desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Right);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
+}
+
+TEST(DropFilesOnSingles, WhatNoRecordHoldsIsNamedAfterwardsAndTheOthersAreTaken) {
+  DropDesk desk("ab");
+  const std::string refused = "C:\\" + std::string(290, 'n') + ".txt";
+  desk.PointAt(desk.BarePlace());
+  desk.Strip.Singles.DropFilesOnSingles({refused, "C:\\x.txt"}, forms::MouseButton::Left);
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
+  EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
+  desk.World.Desktop.Answer(RefusedFilesText({refused}), forms::msgbox::AnswerOk);
+  desk.World.Desktop.Advance(100);
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  // With none that can be taken the row is not touched.
+  desk.World.Files.ClearLog();
+  desk.World.Desktop.Answer(RefusedFilesText({refused}), forms::msgbox::AnswerOk);
+  desk.Strip.Singles.DropFilesOnSingles({refused}, forms::MouseButton::Left);
+  desk.World.Desktop.Advance(100);
+  EXPECT_EQ(desk.World.Files.Count("Replace") + desk.World.Files.Count("Write"), 0);
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
 }
 

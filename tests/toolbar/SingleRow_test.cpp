@@ -64,7 +64,7 @@ TEST(SingleRow, TwoHundredButtonsAreReadOnceEachAndDrawn) {
   desk.World.Files.ClearLog();
   desk.Start();
   EXPECT_EQ(desk.Strip.SingleCount, 200);
-  EXPECT_EQ(desk.World.Files.Reads(), 200 + 2 + 1);  // the menus, and the saved position
+  EXPECT_EQ(desk.World.Files.Reads(), 200 + 2 + 2);  // the menus, the saved position, no journal
   // A repaint asks for no icon.
   desk.World.Icons.ClearCounts();
   desk.Strip.picSingleButton.InvalidateAll();
@@ -148,6 +148,37 @@ TEST(SingleRow, AChangeOfColoursDrawsTheRowAnewAndMovesNothing) {
   EXPECT_EQ(desk.Strip.picSingleButton.Width(), width);
   EXPECT_EQ(desk.Row(), "ax");
   EXPECT_NE(desk.Strip.picSingleButton.Image()->PixelAt({13, 12}), 0x00123456U);
+}
+
+// The shell lets messages in while it is asked for an icon, be it one of a button or of the row.
+TEST(SingleRow, ColoursAndFilesThatChangeWhileIconsAreFetchedShowInTheWholeStrip) {
+  for (int at = 0; at < 5; ++at) {
+    SCOPED_TRACE(at);
+    SinglesDesk desk;
+    desk.PutButton(1, "One", "C:\\Tools\\a.exe");
+    desk.PutSingles("abc");
+    desk.Start();
+    int asked = 0;
+    desk.World.Icons.WhileAsked([&] {
+      if (asked++ != at) return;
+      // More buttons than there was room for.
+      for (int i = 4; i < 20; ++i) desk.PutSingle(i, "d");
+      for (int i = 2; i < 20; ++i) desk.PutButton(i, "More", "C:\\Tools\\a.exe");
+      desk.World.Desktop.SetSystemColor(15, 0x00123456);
+    });
+    desk.Strip.RefreshToolbar();
+    EXPECT_GT(asked, at);
+    EXPECT_EQ(desk.Row(), "abc" + std::string(16, 'd'));
+    EXPECT_EQ(desk.Strip.ButtonCount, 20);
+    const auto row = desk.Strip.picSingleButton.Image();
+    EXPECT_EQ(row->PixelAt({1, 2}), 0x00123456U);
+    for (int i = 1; i <= 19; ++i) {
+      const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
+      const PixelPoint middle = desk.MiddleOf(i);
+      EXPECT_NE(row->PixelAt({middle.x - box.left, middle.y - box.top}), 0x00123456U) << i;
+    }
+    EXPECT_EQ(desk.Strip.picToolbar.Image()->PixelAt({20, 1}), 0x00123456U);
+  }
 }
 
 TEST(SingleRow, ARefreshWithOtherFilesMakesTheRowAnew) {
@@ -521,6 +552,38 @@ TEST(GetCurIndex, AsksForThePlaceOnceAndSeesOtherWindows) {
   desk.PointAtButton(2);
   EXPECT_EQ(desk.Strip.Singles.GetCurIndex(), 0);
   EXPECT_EQ(desk.TheProgram.CurSingle, 0);
+}
+
+TEST(SingleRow, ItsEndTakesTheLinesOfTheSeparatorsAway) {
+  SinglesDesk desk;
+  desk.PutSingles("a-b");
+  desk.Start();
+  ASSERT_TRUE(desk.Strip.Line1.Has(1));
+  ASSERT_TRUE(desk.Strip.Line2.Has(1));
+  desk.Strip.Singles.Unload();
+  EXPECT_FALSE(desk.Strip.Line1.Has(1));
+  EXPECT_FALSE(desk.Strip.Line2.Has(1));
+}
+
+TEST(SingleHover, EndsWhenThePointerComesToTheDate) {
+  SinglesDesk desk;
+  desk.PutSingles("ab");
+  desk.Start();
+  desk.PointAtSingle(2);
+  ASSERT_EQ(HoverLinesShown(desk), 2);
+  desk.Strip.Singles.EnterDate();
+  EXPECT_EQ(HoverLinesShown(desk), 0);
+}
+
+TEST(SingleRightClick, AnEntryWithoutACommandHasNoShellMenu) {
+  SinglesDesk desk;
+  desk.SetOption(19, true);
+  desk.PutSingle(1, Entry("a"));
+  desk.Start();
+  desk.World.Desktop.KeyDown(17);
+  desk.ClickSingle(1, forms::MouseButton::Right);
+  desk.World.Desktop.KeyUp(17);
+  EXPECT_EQ(desk.Parts.Asked, std::vector<std::string>{});
 }
 
 }  // namespace

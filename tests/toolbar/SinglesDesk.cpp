@@ -48,6 +48,7 @@ SinglesDesk::SinglesDesk(const sim::WorldOptions& options) : StripDesk(options) 
   TheProgram.Ports.Hint = &Parts;
   TheProgram.Ports.DragImage = &Parts;
   TheProgram.Ports.Popup = &Parts;
+  Parts.Current = &TheProgram.Entry;
   TheProgram.Ports.SpecialFolders = &Parts;
   SetOption(11, true);
   SetOption(19, true);

@@ -14,21 +14,24 @@ struct NotedParts final : HintPort, DragImagePort, PopupPort, SpecialFoldersPort
   std::vector<std::string> Asked;
   std::string Hint;
 
-  /// What runs while a hint goes, as events do then, and while one comes in another's place.
+  /// What happens while a hint goes.
   std::function<void()> WhileHintGoes;
-  std::function<void()> WhileHintComes;
 
   void SetHint(std::string_view text) override {
     Hint = text;
-    const std::function<void()> meanwhile = text.empty() ? WhileHintGoes : WhileHintComes;
-    if (meanwhile) meanwhile();
+    if (text.empty() && WhileHintGoes) WhileHintGoes();
   }
   WindowId WindowHandle() const override { return kNoWindow; }
   void SetDragImage(std::string_view icon) override {
     Asked.push_back("image " + std::string(icon));
   }
   void RemoveDragImage() override { Asked.emplace_back("no image"); }
-  void ShowToolbarPopup() override { Asked.emplace_back("popup"); }
+  void ShowToolbarPopup(EntryEdit entry) override {
+    Asked.emplace_back("popup");
+    if (Current != nullptr) SetCurrentEntry(*Current, std::move(entry));
+  }
+  /// Takes the entry of each popup.
+  EntryEdit* Current = nullptr;
   int SpecialFolderIconIndex(std::string_view) override { return -1; }
   void OpenSpecialFolder(std::string_view, std::string_view) override {}
   bool ShowContextMenu(std::string_view command, std::string_view title, PixelPoint,

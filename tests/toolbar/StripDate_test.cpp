@@ -155,18 +155,6 @@ TEST(StripDate, TheHintOverItIsTheClock) {
   EXPECT_EQ(desk.WakeUps(5000), 0);
 }
 
-TEST(StripDate, TheEndOfTheProgramInsideItsHintLeavesNoTimerBehind) {
-  DateDesk desk;
-  const PixelPoint at = desk.OnDate();
-  desk.Parts.WhileHintComes = [&desk] {
-    desk.Parts.WhileHintComes = nullptr;
-    desk.Exit();
-  };
-  desk.PointAt(at);
-  EXPECT_FALSE(desk.Strip.IsLoaded());
-  EXPECT_EQ(desk.WakeUps(5000), 0);
-}
-
 TEST(StripDate, AClickOnItNeverBeginsACarry) {
   DateDesk desk;
   desk.PointAt(desk.OnDate());

@@ -45,6 +45,7 @@ TEST(ToolbarPosition, GoldenPlaces) {
       {"past the limit", 14000, 13110, 13110},
       {"beyond the screen", 99999, 13110, 13110},
       {"left of the screen", -500, 0, -500},
+      {"a fraction of a pixel from the left", 0.5F, 0.5F, 0.5F},
   };
   for (const Row& row : rows) {
     const StripPosition at = PlaceTopHugging(Saved(row.saved));
@@ -127,6 +128,7 @@ TEST(SlideEnd, GoldenPlaces) {
   const Row rows[] = {
       {"inside", Bare(5000), 5000},
       {"no single buttons: at the limit", Bare(12530), 12530},
+      {"no single buttons: just short of it", Bare(12529.5F), 12529.5F},
       {"no single buttons: past it", Bare(12531), 12530},
       {"no single buttons: far past it", Bare(15000), 12530},
       {"option 13 lets it go", bareFree, 13000},
@@ -135,6 +137,7 @@ TEST(SlideEnd, GoldenPlaces) {
       {"single buttons: option 13 lets it go", singlesFree, 20000},
       {"unknown caption buttons", unknownRoom, 12600},
       {"left of the screen", Bare(-300), 0},
+      {"a fraction of a pixel from the left", Bare(0.5F), 0.5F},
       {"option 27 lets it go", leftFree, -300},
       {"wider than the screen", wide, 0},
       {"wider than the screen, both ways free", wideFree, 0},
@@ -272,6 +275,13 @@ TEST(MenuPosition, GoldenSpots) {
         .MenuHeight = 3000,
         .ScreenHeight = 11520},
        {375, 330}},
+      {"docked left under another bar",
+       {.At = Edge::Left,
+        .Window = {0, 450, 375, 11070},
+        .ButtonTop = 660,
+        .MenuHeight = 3000,
+        .ScreenHeight = 11520},
+       {375, 1110}},
       {"docked left, ends at the screen's foot",
        {.At = Edge::Left,
         .Window = {0, 0, 375, 11520},

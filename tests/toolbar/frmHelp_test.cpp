@@ -116,11 +116,14 @@ TEST_F(Hint, AnEmptyTextClosesIt) {
   EXPECT_FALSE(Up());
 }
 
-TEST_F(Hint, WhatIsAskedForWhileTheOldOneClosesIsTheNewerWish) {
+TEST_F(Hint, NoEventRunsBetweenTheOldOneAndTheNew) {
   desk.PointAtButton(2);
-  const forms::TimerId timer = desk.World.Desktop.StartTimer(1, [this] { hint.SetHint("newer"); });
+  ASSERT_TRUE(Up());
+  int ticks = 0;
+  const forms::TimerId timer = desk.World.Desktop.StartTimer(1, [&ticks] { ++ticks; });
   desk.World.Desktop.Jump(5);
-  hint.SetHint("older");
+  hint.SetHint("newer");
+  EXPECT_EQ(ticks, 0);
   EXPECT_EQ(hint.Label1.Caption(), " newer ");
   EXPECT_TRUE(Up());
   desk.World.Desktop.StopTimer(timer);

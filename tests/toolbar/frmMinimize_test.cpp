@@ -505,5 +505,14 @@ TEST(CompanionMinimize, AStripThatOthersMayCoverReturnsWithItsTrayIcon) {
   EXPECT_FALSE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
 }
 
+TEST(CompanionMinimize, WithoutAStripDoesNothing) {
+  Started desk;
+  const TwipRect place = desk.Strip.WindowBounds();
+  desk.Strip.UnloadWindow();
+  desk.Companion.MinimizeFor(place);
+  EXPECT_FALSE(desk.TheProgram.ToolbarMinimized);
+  EXPECT_FALSE(desk.Companion.IsMinimized());
+}
+
 }  // namespace
 }  // namespace corvelle

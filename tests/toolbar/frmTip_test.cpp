@@ -146,5 +146,26 @@ TEST_F(Tip, AReleaseBesideTheButtonIsNoPress) {
   EXPECT_TRUE(tip.IsLoaded());
 }
 
+TEST_F(Tip, AnotherOneInItsPlaceComesWithAnEmptyBoxInTheMiddle) {
+  Show();
+  Click("Check1");
+  tip.Move(0, 0, tip.Width(), tip.Height());
+  tip.ShowTip("Another", "Text", kField + 1);
+  desk.World.Desktop.Pump();
+  EXPECT_EQ(tip.lblTitle.Caption(), "Another");
+  EXPECT_EQ(tip.Check1.Value(), 0);
+  const PixelRect bounds = desk.World.Desktop.BoundsOf(tip.hWnd());
+  EXPECT_NEAR(bounds.left + bounds.right, 1024, 1);
+}
+
+TEST_F(Tip, ShowsTheProgramsIconWhole) {
+  desk.World.Icons.SetIconCount("C:\\Corvelle\\corvelle.exe", 1);
+  Show();
+  const corvelle::Picture picture = tip.Picture1.Image();
+  const Rgb icon = sim::SimShellIcons::ColourOf("C:\\Corvelle\\corvelle.exe", 0);
+  EXPECT_EQ(picture->PixelAt({0, 0}), icon);
+  EXPECT_EQ(picture->PixelAt({31, 31}), icon);
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -120,6 +120,49 @@ TEST(ToolbarDocking, ARebuildOfADockedStripIsLeftToIt) {
   desk.TheProgram.AppBarDocked = false;
 }
 
+TEST(ToolbarDocking, ARebuildThatIsAskedForDuringAPlacingComesAfterwards) {
+  DockingDesk desk;
+  desk.Start();
+  desk.TheProgram.AppBarDocked = true;
+  desk.TheProgram.ToolbarEdge = "LEFT";
+  desk.Docking.Asked.clear();
+  desk.TheProgram.AppBarBusy = true;
+  desk.SetOption(26, true);
+  desk.Strip.InitNewButtons();
+  desk.Strip.InitNewButtons();
+  desk.Wait(1000);
+  EXPECT_EQ(desk.Docking.Asked, Calls{});
+  desk.TheProgram.AppBarBusy = false;
+  desk.Wait(1000);
+  EXPECT_EQ(desk.Docking.Asked, Calls{"SetAppBar LEFT rebuild"});
+  desk.Wait(1000);
+  EXPECT_EQ(desk.Docking.Asked, Calls{"SetAppBar LEFT rebuild"});
+  EXPECT_EQ(desk.WakeUps(2000), 0);
+  desk.TheProgram.AppBarDocked = false;
+}
+
+TEST(ToolbarDocking, ARestoreThatIsAskedForDuringAPlacingComesAfterwardsAndIsTheOnlyRebuild) {
+  DockingDesk desk;
+  desk.Start();
+  desk.TheProgram.AppBarDocked = true;
+  desk.TheProgram.ToolbarEdge = "RIGHT";
+  desk.TheProgram.ToolbarVertical = true;
+  desk.Docking.Asked.clear();
+  desk.TheProgram.AppBarBusy = true;
+  desk.Strip.RestoreToolbar();
+  desk.Strip.InitNewButtons();
+  desk.Wait(1000);
+  EXPECT_EQ(desk.Docking.Asked, Calls{});
+  EXPECT_TRUE(desk.TheProgram.AppBarDocked);
+  desk.TheProgram.AppBarBusy = false;
+  desk.Wait(1000);
+  EXPECT_EQ(desk.Docking.Asked, Calls{"RemoveAppBar"});
+  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "TOP");
+  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.WakeUps(2000), 0);
+}
+
 TEST(ToolbarDocking, RestoreGivesUpTheEdgeAndComesToTheTop) {
   DockingDesk desk;
   desk.Start();
@@ -229,6 +272,35 @@ TEST(ToolbarDocking, TheTimerStandsAsideWhileAGuardIsSet) {
     desk.TheProgram.*flag = false;
     desk.Strip.Timer1_Timer();
     EXPECT_FALSE(desk.Strip.Timer1.Enabled());
+  }
+}
+
+TEST(ToolbarDocking, TheNewsOfAMovePutsBackAFloatingStripAndLeavesADockedOne) {
+  for (const bool docked : {false, true}) {
+    SCOPED_TRACE(docked);
+    DockingDesk desk;
+    desk.Start();
+    const float top = desk.Strip.SavedTop;
+    // While the grip is held the strip may be anywhere.
+    desk.TheProgram.RestoreBusy = true;
+    desk.Strip.SetTop(300);
+    desk.TheProgram.RestoreBusy = false;
+    desk.TheProgram.AppBarDocked = docked;
+    EXPECT_FALSE(desk.Strip.ToolbarWndProc(message::Move, 0, 0).has_value());
+    EXPECT_EQ(desk.Strip.Top(), docked ? 300 : top);
+    desk.TheProgram.AppBarDocked = false;
+  }
+}
+
+TEST(ToolbarDocking, WhileItIsDockedItsEdgeStaysAskedFor) {
+  for (const bool docked : {false, true}) {
+    SCOPED_TRACE(docked);
+    DockingDesk desk;
+    desk.Start();
+    desk.TheProgram.AppBarDocked = docked;
+    desk.Strip.DrawBorders();
+    EXPECT_EQ(desk.TheProgram.AppBarRequested, docked);
+    desk.TheProgram.AppBarDocked = false;
   }
 }
 

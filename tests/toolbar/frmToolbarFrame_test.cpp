@@ -14,9 +14,11 @@ namespace {
 using forms::MouseButton;
 
 struct NotedPopup final : PopupPort {
-  explicit NotedPopup(Program& program) : TheProgram(program) {}
-  void ShowToolbarPopup() override { Tags.push_back(TheProgram.Entry.CurMenuTag); }
-  Program& TheProgram;
+  void ShowToolbarPopup(EntryEdit entry) override {
+    Tags.push_back(entry.CurMenuTag);
+    Last = std::move(entry);
+  }
+  EntryEdit Last;
   std::vector<std::string> Tags;
 };
 
@@ -220,15 +222,14 @@ TEST(ToolbarFrame, TheBorderLinesStandAtTheWindowsSides) {
 
 TEST(ToolbarFrame, RightClicksNameTheStripAndTheGripNamesTheMainButton) {
   Floating desk;
-  NotedPopup popup(desk.TheProgram);
+  NotedPopup popup;
   desk.TheProgram.Ports.Popup = &popup;
   EntryEdit& entry = desk.TheProgram.Entry;
   entry.CurTitle = entry.CurIcon = entry.CurCommand = entry.CurFile = "of another entry";
   entry.CurRecord = 3;
   desk.PointAt(desk.Grip());
   desk.World.Desktop.Click(MouseButton::Right);
-  EXPECT_EQ(entry.CurTitle + entry.CurIcon + entry.CurCommand + entry.CurFile, "");
-  EXPECT_EQ(entry.CurRecord, 0);
+  EXPECT_EQ(popup.Last, (EntryEdit{.CurMenuTag = "B1"}));
   const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
   desk.PointAt({strip.left, strip.bottom - 2});
   desk.World.Desktop.Click(MouseButton::Right);
@@ -238,7 +239,7 @@ TEST(ToolbarFrame, RightClicksNameTheStripAndTheGripNamesTheMainButton) {
 
 TEST(ToolbarFrame, ARightPressOnTheGripThatIsLetGoBesideItMeansTheStrip) {
   Floating desk;
-  NotedPopup popup(desk.TheProgram);
+  NotedPopup popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.PointAt(desk.Grip());
   desk.World.Desktop.Press(MouseButton::Right);
@@ -250,7 +251,7 @@ TEST(ToolbarFrame, ARightPressOnTheGripThatIsLetGoBesideItMeansTheStrip) {
 
 TEST(ToolbarFrame, ARightClickDuringACarryBringsNoPopupAndKeepsWhatIsCarried) {
   Floating desk;
-  NotedPopup popup(desk.TheProgram);
+  NotedPopup popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.TheProgram.Entry.CurTitle = "Carried";
   desk.TheProgram.Entry.ItemDragging = true;
@@ -291,7 +292,7 @@ TEST(ToolbarFrame, TheBareFrameMovesNothingWhileTheStripIsPlacedAnew) {
 
 TEST(ToolbarFrame, AfterThePopupOfTheGripNobodyHoldsTheStrip) {
   Floating desk;
-  NotedPopup popup(desk.TheProgram);
+  NotedPopup popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.PointAt(desk.Grip());
   desk.World.Desktop.Click(MouseButton::Right);

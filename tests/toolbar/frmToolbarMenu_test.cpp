@@ -19,9 +19,7 @@ struct MainMenuDouble final : MainMenuPort {
 
 /// A popup that notes the entry it was shown for.
 struct PopupEntries final : PopupPort {
-  explicit PopupEntries(Program& program) : TheProgram(program) {}
-  void ShowToolbarPopup() override { Shown.push_back(TheProgram.Entry); }
-  Program& TheProgram;
+  void ShowToolbarPopup(EntryEdit entry) override { Shown.push_back(std::move(entry)); }
   std::vector<EntryEdit> Shown;
 };
 
@@ -136,6 +134,17 @@ TEST(ToolbarPress, AMenuThatWasBuiltUnderAnotherButtonsPressStandsAtItsOwnButton
   };
   desk.Press(2);
   EXPECT_EQ(desk.Menu.Left(), desk.Strip.Left() + 25 * 15);
+}
+
+TEST(ToolbarPress, AnEnterThatComesWhileTheMenuIsBuiltDoesNotCloseIt) {
+  ThreeMenus desk;
+  desk.Menu.WhileBuilding = [&] {
+    desk.World.Desktop.PressKey(forms::key::Enter);
+    desk.TheProgram.DoEvents();
+  };
+  desk.Press(2);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  EXPECT_TRUE(desk.TheProgram.MenuOpen);
 }
 
 TEST(ToolbarPress, TheProgramMayEndWhileAMenuIsBuilt) {
@@ -344,7 +353,8 @@ TEST(ToolbarDrag, HeldIntoTheMenuThePointerAndTheReleaseAreHandedOn) {
   const PixelRect menu = desk.World.Desktop.BoundsOf(desk.Menu.hWnd());
   desk.PointAt({menu.left + 20, menu.top + 43});
   desk.World.Desktop.Release();
-  EXPECT_EQ(desk.Menu.Times("xMouseMove 600"), 1);
+  // The release says once more where the hand is.
+  EXPECT_EQ(desk.Menu.Times("xMouseMove 600"), 2);
   EXPECT_EQ(desk.Menu.Times("xMouseUp 1 255 600"), 1);
 }
 
@@ -531,7 +541,7 @@ TEST(ToolbarCarry, IsAbandonedWhenNoMouseButtonIsDown) {
 
 TEST(ToolbarPopup, ARightClickOnAButtonNamesItsRecord) {
   ThreeMenus desk;
-  PopupEntries popup(desk.TheProgram);
+  PopupEntries popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.Click(4);
   desk.PointAtButton(3);
@@ -547,7 +557,7 @@ TEST(ToolbarPopup, ARightClickOnAButtonNamesItsRecord) {
 
 TEST(ToolbarPopup, ItsButtonsMenuIsTheOneThatIsReadAnewWithoutATag) {
   ThreeMenus desk;
-  PopupEntries popup(desk.TheProgram);
+  PopupEntries popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.PointAtButton(3);
   desk.World.Desktop.Click(MouseButton::Right);
@@ -557,7 +567,7 @@ TEST(ToolbarPopup, ItsButtonsMenuIsTheOneThatIsReadAnewWithoutATag) {
 
 TEST(ToolbarPopup, TheMainButtonHasNoRecord) {
   ThreeMenus desk;
-  PopupEntries popup(desk.TheProgram);
+  PopupEntries popup;
   desk.TheProgram.Ports.Popup = &popup;
   EntryEdit& entry = desk.TheProgram.Entry;
   entry.CurTitle = entry.CurIcon = entry.CurCommand = entry.CurFile = "of another entry";
@@ -599,7 +609,7 @@ TEST(ToolbarPopup, ARightPressOnAButtonThatIsLetGoElsewhereMeansWhatIsThere) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     ThreeMenus desk;
-    PopupEntries popup(desk.TheProgram);
+    PopupEntries popup;
     desk.TheProgram.Ports.Popup = &popup;
     desk.PointAtButton(2);
     desk.World.Desktop.Press(MouseButton::Right);
@@ -613,7 +623,7 @@ TEST(ToolbarPopup, ARightPressOnAButtonThatIsLetGoElsewhereMeansWhatIsThere) {
 
 TEST(ToolbarPopup, OfAButtonWhoseFileIsGoneHasEmptyTexts) {
   ThreeMenus desk;
-  PopupEntries popup(desk.TheProgram);
+  PopupEntries popup;
   desk.TheProgram.Ports.Popup = &popup;
   desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU002.MNU");
   desk.PointAtButton(3);
@@ -621,6 +631,44 @@ TEST(ToolbarPopup, OfAButtonWhoseFileIsGoneHasEmptyTexts) {
   ASSERT_EQ(popup.Shown.size(), 1U);
   EXPECT_TRUE(popup.Shown[0].CurTitle.empty());
   EXPECT_FALSE(desk.HasMenuFile("BMENU002.MNU"));
+}
+
+TEST(ToolbarPress, TheRightButtonOpensNoMenu) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  desk.PointAtButton(2);
+  desk.World.Desktop.Press(forms::MouseButton::Right);
+  EXPECT_EQ(desk.MenuUp(), 0);
+  desk.World.Desktop.Release(forms::MouseButton::Right);
+}
+
+TEST(ToolbarKeys, EscAloneSelectsNoButton) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  desk.Strip.Form_KeyDown(forms::key::Escape, {});
+  EXPECT_EQ(desk.TheProgram.CurButton, 0);
+  EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar);
+}
+
+TEST(ToolbarRefresh, AMenuThatIsBuiltAgainIsPolledAgain) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  desk.Click(2);
+  ASSERT_EQ(desk.MenuUp(), 2);
+  desk.Strip.RefreshMenu("F2");
+  ASSERT_EQ(desk.MenuUp(), 2);
+  EXPECT_TRUE(desk.Menu.Poll);
+}
+
+TEST(ToolbarCarry, WithoutAFileOfItsOwnWhatIsPutOnAButtonOpensNoMenu) {
+  StripDesk desk;
+  desk.PutButtons(2);
+  desk.Start();
+  desk.Strip.DoButtonDrag(2, forms::MouseButton::Left);
+  EXPECT_EQ(desk.MenuUp(), 0);
 }
 
 }  // namespace

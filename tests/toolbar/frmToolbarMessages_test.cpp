@@ -314,6 +314,29 @@ TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromAnOpenMenu) {
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Menu.hWnd());
 }
 
+TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromAUserWhoHasTurnedElsewhere) {
+  StripOfTwo desk;
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
+  desk.Strip.BringToForeground();
+  desk.Click(2);
+  desk.World.Desktop.TakeForeground(other);
+  desk.World.Desktop.MovePointer(900, 700);
+  desk.Wait(600);
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), other);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarForeground, ALateFocusRequestIsGrantedWhereTheFirstWasRefused) {
+  StripOfTwo desk;
+  const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
+  desk.Strip.BringToForeground();
+  // As if the system had not let it come forward.
+  desk.World.Desktop.TakeForeground(other);
+  desk.Strip.BringToForeground();
+  desk.Wait(400);
+  EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Strip.hWnd());
+}
+
 TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromANotice) {
   StripOfTwo desk;
   frmTip tip(desk.TheProgram);
@@ -323,6 +346,21 @@ TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromANotice) {
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), tip.hWnd());
   desk.World.Desktop.PressKey(forms::key::Enter);
   EXPECT_FALSE(tip.IsLoaded());
+}
+
+TEST(ToolbarMessages, NewsThatHasToWaitStartsThePollAndOtherMessagesDoNot) {
+  for (const bool news : {true, false}) {
+    SCOPED_TRACE(news);
+    StripDesk desk;
+    desk.PutButtons(1);
+    desk.Start();
+    desk.TheProgram.ToolbarReady = false;
+    desk.Strip.Timer1.SetEnabled(false);
+    const std::uint32_t message = news ? forms::message::DisplayChange : forms::message::Move;
+    EXPECT_FALSE(desk.Strip.ToolbarWndProc(message, 0, 0).has_value());
+    EXPECT_EQ(desk.Strip.Timer1.Enabled(), news);
+    desk.TheProgram.ToolbarReady = true;
+  }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/DroppedFiles.h"
 #include "toolbar/DragDesk.h"
 #include "toolbar/frmImage.h"
 
@@ -58,19 +59,28 @@ TEST(ToolbarOLEDragDrop, TheRightButtonStoresLikewise) {
   EXPECT_EQ(desk.MenuUp(), 2);
 }
 
-TEST(ToolbarOLEDragDrop, AThousandFilesAndLongNamesCome) {
+TEST(ToolbarOLEDragDrop, AThousandFilesComeAndOneThatNoRecordHoldsIsNamedAfterwards) {
   DragDesk desk;
   Names files;
   for (int i = 0; i < 1000; ++i) files.push_back("C:\\f" + std::to_string(20000 - i) + ".txt");
-  files.push_back("C:\\" + std::string(297, 'z'));
+  const std::string refused = "C:\\" + std::string(297, 'z');
+  files.push_back(refused);
   desk.TakeFiles(files);
   desk.DragToButton(2);
-  desk.Drop();
+  desk.World.Desktop.Release(MouseButton::Left);
+  // The source has its answer by now.
+  EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
+  desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk.Wait(100);
   const auto records = desk.RecordsOf(1);
-  ASSERT_EQ(records.size(), 1003U);
+  ASSERT_EQ(records.size(), 1002U);
   EXPECT_EQ(records[2].FName, "C:\\f19001.txt");
   EXPECT_EQ(records[1001].FTitle, "f20000");
-  EXPECT_EQ(records[1002].FName.size(), 260U);
+  ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(desk.World.Desktop.Boxes()[0].Text, RefusedFilesText({refused}));
+  desk.Wait(1000);
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_FALSE(desk.Strip.tmrRefused.Enabled());
 }
 
 TEST(ToolbarOLEDragDrop, MeansTheButtonThatIsUnderThePointerByThen) {
@@ -167,11 +177,12 @@ TEST(ToolbarOLEDragDrop, AnAddressIsOfferedWithItsPageTitleForTheButton) {
 }
 
 TEST(ToolbarOLEDragDrop, OtherTextAndAnAddressWithoutItsDialogAreIgnored) {
-  for (const char* text : {"HTTP://EXAMPLE.COM", "some words", "", "http://example.com"}) {
+  for (const char* text :
+       {"HTTP://EXAMPLE.COM", "some words", "", "http://example.com", "https://example.com"}) {
     SCOPED_TRACE(text);
     DragDesk desk;
     NotedLinks links;
-    const bool address = std::string_view(text).starts_with("http://");
+    const bool address = std::string_view(text).starts_with("http");
     if (!address) desk.TheProgram.Ports.WebLink = &links;
     desk.TakeText(text);
     desk.DragToButton(2);
@@ -260,6 +271,19 @@ TEST(ToolbarOLE, TimersAndClicksInsideTheDropChangeNothing) {
   EXPECT_EQ(desk.RecordsOf(1)[3].FName, "C:\\d.txt");
   EXPECT_TRUE(desk.FileUnchanged(2));
   EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+}
+
+TEST(ToolbarOLE, APointerThatGoesOnInsideTheDropChangesNoButton) {
+  DragDesk desk;
+  NotedHint hint;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.DragToButton(2);
+  desk.TheProgram.Ports.Hint = &hint;
+  hint.WhileItGoes = [&] { desk.World.Desktop.SetPointerPosition(desk.Middle(3)); };
+  desk.Drop();
+  desk.TheProgram.Ports.Hint = nullptr;
+  EXPECT_EQ(desk.RecordsOf(1).size(), 3U);
+  EXPECT_TRUE(desk.FileUnchanged(2));
 }
 
 TEST(ToolbarOLE, TheProgramMayEndInsideTheDrop) {

@@ -91,7 +91,8 @@ TEST(ToolbarOLEDragOver, AnAddressIsKnownByItsBeginningAndItsWindow) {
     bool expected;
   };
   for (const Row& row :
-       {Row{"an address", "http://example.com", true}, Row{"upper case", "HTTP://E", false},
+       {Row{"an address", "http://example.com", true},
+        Row{"a secure one", "https://example.com", true}, Row{"upper case", "HTTP://E", false},
         Row{"in the middle", "see http://example.com", false}}) {
     SCOPED_TRACE(row.name);
     DragDesk desk;
@@ -250,6 +251,22 @@ TEST(ToolbarDragTimer, ASourceThatDiesElsewhereClosesTheMenu) {
   desk.PointAway();
   desk.Wait(110);
   EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+TEST(ToolbarDragTimer, GivesTheForegroundToNoMenuThatIsGone) {
+  DragDesk desk;
+  desk.World.Desktop.LockForeground(false);
+  desk.Click(2);
+  desk.Menu.SetForeground();
+  // The source has no window in the foreground.
+  desk.World.Desktop.StartDrag({.Data = {.Files = std::vector<std::string>{"C:\\a.txt"}}});
+  desk.DragToButton(3);
+  ASSERT_EQ(desk.Strip.SavedForeground, desk.Menu.hWnd());
+  desk.World.Desktop.TakeForeground(desk.Strip.hWnd());
+  desk.PointAway();
+  desk.Wait(110);
+  ASSERT_EQ(desk.MenuUp(), 0);
+  EXPECT_EQ(desk.Foreground(), desk.Strip.hWnd());
 }
 
 TEST(ToolbarDragTimer, GivesTheForegroundBackThatTheMenuTook) {

@@ -87,7 +87,7 @@ TEST(AppBar, FromEveryEdgeToEveryOther) {
 }
 
 TEST(AppBar, TheBoxOfSingleButtonsReachesToTheEnd) {
-  for (const float t : {15.0F, 12.0F, 10.0F}) {
+  for (const float t : kScales) {
     for (const EdgeRow& row : kEdges) {
       SCOPED_TRACE(std::string(row.name) + " " + std::to_string(t));
       DockDesk desk({.TwipsPerPixel = t});
@@ -95,20 +95,23 @@ TEST(AppBar, TheBoxOfSingleButtonsReachesToTheEnd) {
       EXPECT_EQ(desk.Bounds(), row.window);
       const forms::PictureBox& box = desk.Strip.picSingleButton;
       if (IsVertical(row.at)) {
-        EXPECT_EQ(box.Bottom(), desk.Strip.Height() - 2 * t);
+        EXPECT_FLOAT_EQ(box.Bottom(), desk.Strip.Height() - 2 * t);
       } else {
-        EXPECT_EQ(box.Right(), desk.Strip.Width() - 2 * t);
+        EXPECT_FLOAT_EQ(box.Right(), desk.Strip.Width() - 2 * t);
       }
     }
   }
 }
 
 TEST(AppBar, AtAHorizontalEdgeTheSidesAgainstTheScreenHaveNoLine) {
-  DockDesk desk;
-  desk.StartAt(Edge::Bottom);
-  EXPECT_FALSE(desk.Strip.bLine2.Visible());
-  EXPECT_FALSE(desk.Strip.bLine4.Visible());
-  EXPECT_TRUE(desk.Strip.bLineXY.Visible());
+  for (const float t : kScales) {
+    SCOPED_TRACE(t);
+    DockDesk desk({.TwipsPerPixel = t});
+    desk.StartAt(Edge::Bottom);
+    EXPECT_FALSE(desk.Strip.bLine2.Visible());
+    EXPECT_FALSE(desk.Strip.bLine4.Visible());
+    EXPECT_TRUE(desk.Strip.bLineXY.Visible());
+  }
 }
 
 TEST(AppBar, BelowAnotherBarTheTopEdgeIsNotLifted) {
@@ -536,6 +539,38 @@ TEST(AppBarGuard, ManyChangesInARowLeaveTheStripInItsPlaceAndQuiet) {
   EXPECT_FALSE(desk.TheProgram.PosChangeRunning);
   desk.Poll();
   EXPECT_EQ(desk.WakeUps(2000), 0);
+}
+
+TEST(AppBar, AStripThatHasBeenPlacedHasNoEdgeAskedForAnyMore) {
+  DockDesk desk;
+  desk.StartAt(Edge::Top);
+  desk.Docking.SetAppBar("LEFT", true);
+  EXPECT_FALSE(desk.TheProgram.AppBarRequested);
+}
+
+TEST(AppBar, OnlyUprightLargeSingleButtonsAreMadeAgainWhenTheBarsMove) {
+  struct Row {
+    const char* name;
+    Edge at;
+    bool large;
+    bool option24;
+    bool again;
+  };
+  const Row rows[] = {{"upright, large", Edge::Left, true, true, true},
+                      {"upright, small", Edge::Left, false, true, false},
+                      {"upright, without option 24", Edge::Left, true, false, false},
+                      {"lying", Edge::Top, true, true, false}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    DockDesk desk;
+    desk.SetOption(26, row.large);
+    desk.SetOption(24, row.option24);
+    desk.StartAt(row.at);
+    desk.World.Files.Put("C:\\Corvelle\\Menus\\" + SingleFileName(1),
+                         Records({Entry("s", "", "C:\\s.exe")}));
+    desk.Docking.SetAppBar("", false);
+    EXPECT_EQ(desk.Strip.SingleCount, row.again ? 1 : 0);
+  }
 }
 
 }  // namespace

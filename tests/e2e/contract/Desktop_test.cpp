@@ -1,65 +1,13 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <atomic>
-#include <thread>
-
+#include "OtherWindow.h"
 #include "RealHome.h"
 #include "platform/DesktopContract.h"
 #include "win32/UniqueHandle.h"
 
 namespace corvelle {
 namespace {
-
-constexpr wchar_t kOtherClass[] = L"CorvelleOther";
-
-/// What the other window answers with 7, and what it never answers in time.
-constexpr UINT kAnswered = WM_APP;
-constexpr UINT kNotAnswered = WM_APP + 1;
-constexpr DWORD kTooLong = 4000;
-
-/// A window that a thread of its own runs, as another program would.
-class OtherWindow {
- public:
-  OtherWindow() : thread_([this] { Run(); }) {
-    while (handle_ == nullptr) Sleep(1);
-  }
-  OtherWindow(const OtherWindow&) = delete;
-  OtherWindow& operator=(const OtherWindow&) = delete;
-  ~OtherWindow() {
-    Close();
-    thread_.join();
-  }
-
-  HWND Handle() const { return handle_; }
-  void Close() { SendMessageW(handle_, WM_CLOSE, 0, 0); }
-
- private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_DESTROY) PostQuitMessage(0);
-    if (message == kAnswered) return 7;
-    if (message == kNotAnswered) Sleep(kTooLong);
-    return DefWindowProcW(window, message, wParam, lParam);
-  }
-
-  void Run() {
-    WNDCLASSW made{};
-    made.lpfnWndProc = &Procedure;
-    made.hInstance = GetModuleHandleW(nullptr);
-    made.lpszClassName = kOtherClass;
-    RegisterClassW(&made);
-    const HWND window =
-        CreateWindowExW(0, kOtherClass, L"Contract other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100,
-                        100, 200, 150, nullptr, nullptr, made.hInstance, nullptr);
-    UpdateWindow(window);
-    handle_ = window;
-    MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
-  }
-
-  std::atomic<HWND> handle_ = nullptr;
-  std::thread thread_;
-};
 
 class RealDesktop final : public ContractDesktop {
  public:
@@ -94,6 +42,19 @@ TEST(DesktopOnWindows, SendGivesTheAnswerAndGivesUpAfterTwoSeconds) {
   const ULONGLONG waited = GetTickCount64() - before;
   EXPECT_GE(waited, 1900U);
   EXPECT_LT(waited, 3500U);
+}
+
+TEST(DesktopOnWindows, AnotherProgramsWindowIsNotAskedToPaint) {
+  const OtherWindow other;
+  win32::Win32Desktop desktop;
+  // It is busy for a while, and owes a paint.
+  PostMessageW(other.Handle(), kNotAnswered, 0, 0);
+  Sleep(200);
+  InvalidateRect(other.Handle(), nullptr, TRUE);
+  const ULONGLONG before = GetTickCount64();
+  desktop.PaintVisibleWindows();
+  EXPECT_LT(GetTickCount64() - before, 1000U);
+  EXPECT_NE(GetUpdateRect(other.Handle(), nullptr, FALSE), 0);
 }
 
 }  // namespace

@@ -38,6 +38,12 @@ class RealDisk final : public ContractDisk {
   }
   void LetGo(const std::string& path) override { held_.erase(path); }
 
+  bool HasShortName(const std::string& path) override {
+    WIN32_FIND_DATAW found{};
+    const win32::UniqueFind find(FindFirstFileW(Wide(path).c_str(), &found));
+    return find && found.cAlternateFileName[0] != 0;
+  }
+
  private:
   static void SetAttribute(const std::string& path, DWORD attribute, bool on) {
     const DWORD before = GetFileAttributesW(Wide(path).c_str());

@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <optional>
+
+#include "OtherWindow.h"
 #include "RealHome.h"
+#include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
@@ -8,6 +12,7 @@
 #include "forms/InputContract.h"
 #include "forms/ListBoxContract.h"
 #include "forms/PictureContract.h"
+#include "forms/PostContract.h"
 #include "forms/ScrollBarContract.h"
 #include "forms/TabStripContract.h"
 #include "forms/TextBoxContract.h"
@@ -18,7 +23,7 @@
 namespace corvelle::forms {
 namespace {
 
-class WindowsHome final : public InputHome {
+class WindowsHome final : public ActivationHome {
  public:
   explicit WindowsHome(int shortestWait) : shortestWait_(shortestWait) {}
 
@@ -45,17 +50,38 @@ class WindowsHome final : public InputHome {
     keys[1].ki.dwFlags = KEYEVENTF_KEYUP;
     SendInput(2, keys, sizeof(INPUT));
   }
+  WindowId OpenOther() override {
+    const auto other = reinterpret_cast<WindowId>(other_.emplace().Handle());
+    home_.Desktop().BringForward(other);
+    Wait(200);
+    return other;
+  }
+  void AnswerBox(std::function<void()> whileUp) override {
+    timer_ = home_.Windows().StartTimer(50, [this, whileUp = std::move(whileUp)] {
+      const HWND box = FindWindowW(L"#32770", nullptr);
+      if (box == nullptr || IsWindowVisible(box) == 0) return;
+      home_.Windows().StopTimer(timer_);
+      whileUp();
+      SendMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+  }
 
  private:
   int shortestWait_;
   RealHome home_;
+  std::optional<OtherWindow> other_;
+  TimerId timer_ = 0;
 };
 
 INSTANTIATE_TEST_SUITE_P(Windows, WindowSystemContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(0); }));
+INSTANTIATE_TEST_SUITE_P(Windows, PostContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(0); }));
 INSTANTIATE_TEST_SUITE_P(Windows, CanvasContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(0); }));
 INSTANTIATE_TEST_SUITE_P(Windows, InputContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(250); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ActivationContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));

@@ -65,6 +65,21 @@ class RealShell final : public ContractShell {
   int IconCount() override {
     return static_cast<int>(ExtractIconExW(Wide(IconFile()).c_str(), -1, nullptr, nullptr, 0));
   }
+  std::string ResourceFile() override { return "C:\\windows\\system32\\shell32.dll"; }
+  int IconResource() override {
+    int number = 0;
+    const HMODULE library =
+        LoadLibraryExW(L"C:\\windows\\system32\\shell32.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    if (library == nullptr) return number;
+    const auto take = [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR found) -> BOOL {
+      if (!IS_INTRESOURCE(name)) return TRUE;
+      *reinterpret_cast<int*>(found) = static_cast<int>(reinterpret_cast<ULONG_PTR>(name));
+      return FALSE;
+    };
+    EnumResourceNamesW(library, RT_GROUP_ICON, take, reinterpret_cast<LONG_PTR>(&number));
+    FreeLibrary(library);
+    return number;
+  }
   void SetValue(const std::string& name, const RegistryValue& value) override {
     if (const auto* const text = std::get_if<std::string>(&value)) {
       const std::wstring wide = Wide(*text);
@@ -147,6 +162,46 @@ TEST(OpenOnWindows, AFolderThatIsMissingOpensNoBox) {
   win32::Win32ShellExec shell;
   EXPECT_FALSE(shell.Open("C:\\No Such Folder\\", std::nullopt, std::nullopt));
   EXPECT_EQ(FindWindowW(L"#32770", nullptr), nullptr);
+}
+
+TEST(OpenOnWindows, TheErrorsOfTheSystemAreToldApart) {
+  struct Row {
+    DWORD Error;
+    OpenError Expected;
+  };
+  const Row rows[] = {
+      {ERROR_CANCELLED, OpenError::Cancelled},
+      {ERROR_ACCESS_DENIED, OpenError::AccessDenied},
+      {ERROR_SHARING_VIOLATION, OpenError::AccessDenied},
+      {ERROR_NETWORK_ACCESS_DENIED, OpenError::AccessDenied},
+      {ERROR_ACCESS_DISABLED_BY_POLICY, OpenError::AccessDenied},
+      {ERROR_FILE_NOT_FOUND, OpenError::Other},
+      {ERROR_PATH_NOT_FOUND, OpenError::Other},
+      {ERROR_NO_ASSOCIATION, OpenError::Other},
+      {ERROR_DDE_FAIL, OpenError::Other},
+      {ERROR_DLL_NOT_FOUND, OpenError::Other},
+      {ERROR_NOT_ENOUGH_MEMORY, OpenError::Other},
+      {ERROR_SUCCESS, OpenError::Other},
+  };
+  for (const Row& row : rows) EXPECT_EQ(win32::OpenErrorOf(row.Error), row.Expected) << row.Error;
+}
+
+TEST(RunOnWindows, TheErrorsOfTheSystemAreToldApart) {
+  struct Row {
+    DWORD Error;
+    RunError Expected;
+  };
+  const Row rows[] = {
+      {740, RunError::NeedsElevation},
+      {ERROR_ACCESS_DENIED, RunError::AccessDenied},
+      {ERROR_SHARING_VIOLATION, RunError::AccessDenied},
+      {ERROR_ACCESS_DISABLED_BY_POLICY, RunError::AccessDenied},
+      {ERROR_FILE_NOT_FOUND, RunError::FileNotFound},
+      {ERROR_INVALID_NAME, RunError::BadFileName},
+      {ERROR_BAD_EXE_FORMAT, RunError::Other},
+      {ERROR_SUCCESS, RunError::Other},
+  };
+  for (const Row& row : rows) EXPECT_EQ(win32::RunErrorOf(row.Error), row.Expected) << row.Error;
 }
 
 // The code page.

@@ -1,0 +1,80 @@
+#include "forms/LookupLedger.h"
+
+#include <utility>
+
+namespace corvelle::forms {
+
+namespace {
+
+LookupAnswer DroppedAnswer(LookupId id) { return {.Id = id, .End = LookupEnd::Dropped}; }
+
+}  // namespace
+
+LookupId LookupLedger::Open(Lookup question) {
+  const LookupId id = ++last_;
+  const std::string lane = question.Lane;
+  waiting_.Add(lane, {id, std::move(question)});
+  return id;
+}
+
+std::optional<LookupLedger::Begun> LookupLedger::Begin() {
+  auto taken = waiting_.Take();
+  if (!taken) return std::nullopt;
+  begun_.emplace(taken->Work.Id, taken->Work.Question.Generation);
+  return std::move(taken->Work);
+}
+
+bool LookupLedger::End(const Begun& begun, LookupAnswer answer) {
+  waiting_.Free(begun.Question.Lane);
+  if (begun_.erase(begun.Id) == 0) return false;  // dropped, and told as such
+  answer.Id = begun.Id;
+  ends_.push_back({begun.Question.Generation, std::move(answer)});
+  return ends_.size() == 1;
+}
+
+bool LookupLedger::Drop(std::uint64_t generation) {
+  const bool nothingToTell = ends_.empty();
+  for (Ended& ended : ends_) {
+    if (ended.Generation == generation) ended.Answer = DroppedAnswer(ended.Answer.Id);
+  }
+  for (auto at = begun_.begin(); at != begun_.end();) {
+    if (at->second != generation) {
+      ++at;
+      continue;
+    }
+    ends_.push_back({generation, DroppedAnswer(at->first)});
+    at = begun_.erase(at);
+  }
+  const auto left = waiting_.Remove(
+      [generation](const Begun& waiting) { return waiting.Question.Generation == generation; });
+  for (const Begun& waiting : left) ends_.push_back({generation, DroppedAnswer(waiting.Id)});
+  return nothingToTell && !ends_.empty();
+}
+
+std::vector<LookupAnswer> LookupLedger::TakeEnds() {
+  std::vector<LookupAnswer> told;
+  told.reserve(ends_.size());
+  for (Ended& ended : ends_) told.push_back(std::move(ended.Answer));
+  ends_.clear();
+  return told;
+}
+
+LookupAnswer AnswerLookup(FileSystem& files, ShellLinks& links, const Lookup& question) {
+  switch (question.Kind) {
+    case LookupKind::IsThere:
+      return {.Value = files.FileExists(question.Path) || files.FolderExists(question.Path)};
+    case LookupKind::FolderEntries: {
+      auto entries = files.List(question.Path, question.Pattern);
+      if (!entries) return {.End = LookupEnd::Failed, .Error = entries.Error()};
+      return {.Value = *std::move(entries)};
+    }
+    case LookupKind::LinkTarget: {
+      const auto link = links.CreateLinkObject();
+      if (link == nullptr || !link->Load(question.Path)) return {.End = LookupEnd::Failed};
+      return {.Value = link->GetPath().value_or(std::string())};
+    }
+  }
+  return {.End = LookupEnd::Failed};
+}
+
+}  // namespace corvelle::forms

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Registry.h"
+
+namespace corvelle {
+
+class Program;
+
+/// Opens the system's window that searches for files; the user is told when there is none. It is
+/// not opened by its old key, Windows + F, which opens another program on newer systems.
+void OpenFileSearch(Program& program);
+
+/// True if this machine has such a window.
+[[nodiscard]] bool HasFileSearch(const Registry& keys);
+
+}  // namespace corvelle

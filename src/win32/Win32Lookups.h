@@ -1,0 +1,30 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Lookups.h"
+#include "win32/PostBox.h"
+
+namespace corvelle::win32 {
+
+/// Questions answered by threads of their own, each with its own apartment. A thread that has
+/// nothing to do for a while ends. One that the system does not let go is never ended by force: at
+/// the end of this object it is given up after a moment, and its answer goes nowhere.
+class Win32Lookups final : public Lookups {
+ public:
+  explicit Win32Lookups(std::shared_ptr<PostBox> posts);
+  Win32Lookups(const Win32Lookups&) = delete;
+  Win32Lookups& operator=(const Win32Lookups&) = delete;
+  /// Waits for the threads for at most half a second.
+  ~Win32Lookups() override;
+
+  void SetListener(Listener listener) override;
+  LookupId Ask(Lookup question) override;
+  void Drop(std::uint64_t generation) override;
+
+ private:
+  class Desk;
+  std::shared_ptr<Desk> desk_;
+};
+
+}  // namespace corvelle::win32

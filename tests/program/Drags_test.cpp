@@ -1,0 +1,28 @@
+// What another program drags over the whole program.
+
+#include "program/ProgramDesk.h"
+
+namespace corvelle {
+namespace {
+
+// The drag came straight into the menu, so that no timer of the strip's watches it.
+TEST(DragsOverTheProgram, OneWhoseSourceDiedOverTheMenuIsForgottenWhenTheMenuGoes) {
+  ProgramDesk desk;
+  sim::SimDesktop& desktop = desk.world.Desktop;
+  desk.OpenMenu(2);
+  desk.PointAt({500, 600});
+  desktop.StartDrag({.Data = {.Files = std::vector<std::string>{"C:\\Tools\\tool.exe"}}});
+  desk.PointAt(desk.Item(2));
+  desktop.Advance(50);
+  ASSERT_TRUE(desk.parts->TheProgram.DragOverButton);
+  ASSERT_FALSE(desk.parts->TheProgram.DragEntered);
+  desktop.KillDragSource();
+  desktop.Release();
+  desk.PointAt(desk.Single(1));
+  desktop.Advance(50);
+  EXPECT_FALSE(desk.parts->Menu.MenuVisible());
+  EXPECT_FALSE(desk.parts->TheProgram.DragOverButton);
+}
+
+}  // namespace
+}  // namespace corvelle
