@@ -167,12 +167,14 @@ void frmToolbar::DrawDragLook() {
 void frmToolbar::Form_MouseUp(forms::MouseButton button, forms::ShiftState /*shift*/, float /*x*/,
                               float /*y*/) {
   if (IsBesidePull(button)) return;
-  LetFrameGo();
   if (button == forms::MouseButton::Right && !FrameMoved) {
+    // Of a pull whose release was lost the outline goes too.
+    AbandonPull();
     // The popup would act on what is being carried.
     if (!program_.Entry.ItemDragging) ShowFramePopup("Toolbar");
     return;
   }
+  LetFrameGo();
   if (FrameMoved && !EndPull()) {
     if (program_.AppBarDocked) {
       DrawBorders();
@@ -225,7 +227,7 @@ void frmToolbar::LetFrameGo() {
 
 void frmToolbar::ShowFramePopup(std::string_view tag) {
   // The press that asked for the popup holds nothing any more.
-  LetFrameGo();
+  AbandonPull();
   ResetMenu();
   if (!IsLoaded() || program_.Ports.Popup == nullptr) return;
   program_.Ports.Popup->ShowToolbarPopup({.CurMenuTag = std::string(tag)});

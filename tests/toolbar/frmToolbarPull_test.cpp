@@ -305,6 +305,30 @@ TEST(ToolbarPull, ASlideWhoseReleaseAnotherProgramGotEndsOnTheScreen) {
   EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
 }
 
+// The right button is down all the while, so that the strip seems held; the pointer comes over the
+// buttons, which forget the pull, and then the right button goes up over the frame.
+TEST(ToolbarPull, OneWhoseReleaseWasLostLeavesNoOutlineToTheOtherButton) {
+  for (const bool overGrip : {false, true}) {
+    SCOPED_TRACE(overGrip ? "over the grip" : "over the frame");
+    DockDesk desk;
+    desk.StartAt(Edge::Left);
+    desk.PointAt({500, 400});
+    desk.World.Desktop.Press(MouseButton::Right);
+    desk.Pull(QuarterOf(Edge::Right));
+    ASSERT_TRUE(desk.Picture.IsLoaded());
+    LoseRelease(desk);
+    desk.Strip.FrameMoved = false;
+    if (overGrip) {
+      desk.Strip.lblSep_MouseUp(0, MouseButton::Right, {}, 1, 1);
+    } else {
+      desk.Strip.Form_MouseUp(MouseButton::Right, {}, 1, 1);
+    }
+    EXPECT_FALSE(desk.Picture.IsLoaded());
+    EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+    EXPECT_FALSE(desk.Strip.FrameHeld);
+  }
+}
+
 TEST(ToolbarPull, AHoldWithoutAMoveIsGivenUpToo) {
   DockDesk desk;
   desk.StartAt(Edge::Left);
