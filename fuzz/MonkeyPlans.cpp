@@ -133,6 +133,8 @@ std::string MonkeyLife::PickFrom(const std::vector<const forms::PopupItem*>& off
 
 // The user's choice while a popup is up. What it may take away from the files is no loss.
 void MonkeyLife::ChooseFrom(const sim::Popup& popup) {
+  // The command is for what was clicked, whatever becomes of the current entry meanwhile.
+  const EntryEdit entry = parts_->TheProgram.Entry;
   if (Chance(15)) WhileUp("popup");
   if (Chance(15) || !world_) return;
   std::vector<const forms::PopupItem*> offered;
@@ -141,7 +143,6 @@ void MonkeyLife::ChooseFrom(const sim::Popup& popup) {
   }
   if (offered.empty()) return;
   const std::string caption = PickFrom(offered);
-  const EntryEdit& entry = parts_->TheProgram.Entry;
   const std::string& tag = entry.CurMenuTag;
   Tell("choose " + caption + " for " + tag);
   std::string kind = IsButtonTag(tag) || IsMenuTag(tag) ? tag.substr(0, 1) : tag;
