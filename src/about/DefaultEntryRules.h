@@ -35,9 +35,9 @@ struct ProgramFacts {
 [[nodiscard]] MenuRecord ProgramSingle(const ProgramFacts& program);
 
 /// True if an answer of the system to "which program opens this?" is a program that a button can
-/// start. It is none when it only stands for others (the dialog that asks the user for a program,
-/// hosts of libraries and of packaged programs), is no program at all, or lies where its folder
-/// changes its name with each update.
+/// start. False for programs that only start others (the dialog that asks the user for a program,
+/// hosts of libraries and of packaged programs), for files that are not programs, and for programs
+/// in a folder whose name changes with each update.
 [[nodiscard]] bool IsProgramAnswer(std::string_view path);
 
 /// Extensions whose programs become single buttons, in their order, after browser and mail.

@@ -6,8 +6,9 @@ namespace corvelle {
 
 class Program;
 
-/// Opens the system's window that searches for files; the user is told when there is none. It is
-/// not opened by its old key, Windows + F, which opens another program on newer systems.
+/// Opens the system's window that searches for files, or tells the user that the system has no such
+/// window. It is not opened by its old key, Windows + F, which opens another program on newer
+/// systems.
 void OpenFileSearch(Program& program);
 
 /// True if this machine has such a window.

@@ -16,7 +16,7 @@ enum class OpenError {
 
 /// Why a command line could not be started.
 enum class RunError {
-  BadFileName,     // the text is no file name
+  BadFileName,     // the text cannot name a file
   FileNotFound,    // no such program
   AccessDenied,    // no right to it, or another program holds it
   NeedsElevation,  // only the shell can start it, after a question to the user

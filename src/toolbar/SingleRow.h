@@ -127,7 +127,7 @@ class SingleRow final : public SingleButtonsPort {
   void ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y);
 
   bool MoveFromMenu(const std::string& before, const EntryEdit& carried);
-  /// A copy of the entry under the pointer; without a file when there is none.
+  /// A copy of the entry under the pointer; its File is empty when the pointer is over no entry.
   [[nodiscard]] SingleRect Under();
   bool DropBehind(const EntryEdit& carried, forms::MouseButton released);
   bool DropBefore(const std::string& target, const EntryEdit& carried, forms::MouseButton released);
