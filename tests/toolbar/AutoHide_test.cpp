@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "base/Numbers.h"
 #include "toolbar/DockDesk.h"
 
 namespace corvelle {
@@ -155,8 +156,9 @@ TEST(AutoHide, SwitchedOnAtAnEdgeTheStripIsALineThereAtOnce) {
         desk.Poll();
         EXPECT_EQ(desk.Bounds(), row.revealed);
         const forms::PictureBox& box = desk.Strip.picSingleButton;
-        EXPECT_FLOAT_EQ(IsVertical(row.at) ? box.Bottom() : box.Right(),
-                        (IsVertical(row.at) ? desk.Strip.Height() : desk.Strip.Width()) - 2 * t);
+        const bool upright = IsVertical(row.at);
+        EXPECT_EQ(RoundToInt((upright ? box.Bottom() : box.Right()) / t),
+                  RoundToInt((upright ? desk.Strip.Height() : desk.Strip.Width()) / t) - 2);
       }
     }
   }

@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "base/Numbers.h"
 #include "toolbar/DockDesk.h"
 
 namespace corvelle {
@@ -95,9 +96,9 @@ TEST(AppBar, TheBoxOfSingleButtonsReachesToTheEnd) {
       EXPECT_EQ(desk.Bounds(), row.window);
       const forms::PictureBox& box = desk.Strip.picSingleButton;
       if (IsVertical(row.at)) {
-        EXPECT_FLOAT_EQ(box.Bottom(), desk.Strip.Height() - 2 * t);
+        EXPECT_EQ(RoundToInt(box.Bottom() / t), RoundToInt(desk.Strip.Height() / t) - 2);
       } else {
-        EXPECT_FLOAT_EQ(box.Right(), desk.Strip.Width() - 2 * t);
+        EXPECT_EQ(RoundToInt(box.Right() / t), RoundToInt(desk.Strip.Width() / t) - 2);
       }
     }
   }
