@@ -4,6 +4,7 @@
 
 #include "core/MenuFile.h"
 #include "toolbar/CarryDesk.h"
+#include "toolbar/StripDesk.h"
 
 namespace corvelle {
 namespace {

@@ -10,6 +10,8 @@
 namespace corvelle {
 namespace {
 
+using forms::MouseButton;
+
 constexpr Rgb kRed = 255;
 
 /// True if the screen shows the outline around that rectangle and not in its middle.
