@@ -2,9 +2,6 @@
 
 #include <utility>
 
-#include "forms/PictureBox.h"
-#include "forms/SystemControl.h"
-
 namespace corvelle::forms {
 
 Form::Form(WindowSystem& windows, std::string name, BorderStyle border, bool inTaskbar)
@@ -14,28 +11,19 @@ Form::Form(WindowSystem& windows, std::string name, BorderStyle border, bool inT
 
 Form::~Form() { DestroyWindows(); }
 
-bool Form::CreateWindows() {
-  if (!CreatePeer(PeerKind::Form, nullptr, inTaskbar_)) return false;
-  if (!caption_.empty()) Peer()->SetCaption(caption_);
-  for (PictureBox* box : boxes_) {
-    if (!box->CreatePeer(PeerKind::PictureBox, Peer(), false)) return false;
-    if (box->Visible()) box->Peer()->Show(ShowKind::NoActivate);
-  }
-  for (SystemControl* control : controls_) {
-    if (!control->MakePeer(Peer())) return false;
-  }
-  return true;
+std::unique_ptr<WindowPeer> Form::NewPeer(WindowPeer* /*parent*/) {
+  PeerSpec spec = SpecIn(nullptr);
+  spec.InTaskbar = inTaskbar_;
+  return Windows().CreatePeer(spec, *this);
 }
 
-void Form::DestroyWindows() {
-  for (SystemControl* control : controls_) control->DestroyPeer();
-  for (PictureBox* box : boxes_) box->DestroyPeer();
-  DestroyPeer();
+void Form::PeerMade() {
+  if (!caption_.empty()) Peer()->SetCaption(caption_);
 }
 
 bool Form::Load() {
   if (loaded_) return true;
-  if (!CreateWindows()) {
+  if (!CreateWindows(nullptr)) {
     DestroyWindows();
     return false;
   }

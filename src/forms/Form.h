@@ -9,9 +9,6 @@
 
 namespace corvelle::forms {
 
-class PictureBox;
-class SystemControl;
-
 enum class BorderStyle {
   None,
   Raised,  // a raised frame of three pixels, as menus have it
@@ -48,9 +45,17 @@ class Form : public Surface {
   void SetForeground();
   void SetWindowPos(InsertAfter after, unsigned flags);
 
+  /// With it Form_KeyDown and Form_KeyPress are called for the keys of controls too, before the
+  /// controls and the rules of dialogs get them; SwallowKey keeps a key from both. Without it they
+  /// see what is left. An open list or a text of several lines gets its Enter, Esc and Tab first.
+  void SetKeyPreview(bool preview) noexcept { keyPreview_ = preview; }
+
  protected:
   Form(WindowSystem& windows, std::string name, BorderStyle border = BorderStyle::None,
        bool inTaskbar = false);
+
+  /// In Form_KeyDown or Form_KeyPress of a form with key preview: nobody else gets this key.
+  void SwallowKey() noexcept { swallowed_ = true; }
 
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
@@ -72,6 +77,8 @@ class Form : public Surface {
 
   int BorderPixels() const noexcept override { return border_ == BorderStyle::Raised ? 3 : 0; }
 
+  std::unique_ptr<WindowPeer> NewPeer(WindowPeer* parent) override;
+  void PeerMade() override;
   void VisibleChanged() override;
   void OnKeyDown(int keyCode, ShiftState shift) override { Form_KeyDown(keyCode, shift); }
   void OnKeyPress(char32_t character) override { Form_KeyPress(character); }
@@ -83,19 +90,29 @@ class Form : public Surface {
                                          std::intptr_t lParam) override;
 
  private:
+  friend class Window;
   friend class PictureBox;
-  friend class SystemControl;
-  [[nodiscard]] bool CreateWindows();
-  void DestroyWindows();
+
+  // The keys of controls (FormKeys.cpp). True when the control does not get the key.
+  bool ControlKey(Window& focus, int keyCode, ShiftState shift);
+  bool ControlCharacter(Window& focus, char32_t character);
+  bool Act(DialogAction action, Window& focus, int keyCode, ShiftState shift);
+  [[nodiscard]] DialogScene SceneOf(const Window& focus, char32_t letter) const;
+  /// All windows inside that can be seen and are enabled, each before what is inside it.
+  [[nodiscard]] std::vector<Window*> Reachable() const;
+  void MoveFocus(const Window& from, int step);
+  void PressAccessKey(char32_t letter);
+  void PressFirst(bool KeyFacts::*fact);
+
   void ShowAs(ShowKind kind);
 
-  std::vector<PictureBox*> boxes_;
-  std::vector<SystemControl*> controls_;
   std::string caption_;
   BorderStyle border_;
   bool inTaskbar_;
   bool loaded_ = false;
   bool unloading_ = false;
+  bool keyPreview_ = false;
+  bool swallowed_ = false;
 };
 
 }  // namespace corvelle::forms

@@ -25,6 +25,8 @@ PixelRect AroundLine(PixelPoint from, PixelPoint to, int width) noexcept {
 
 Surface::Surface(WindowSystem& windows, std::string name) : Window(windows, std::move(name)) {}
 
+Surface::Surface(Window& container, std::string name) : Window(container, std::move(name)) {}
+
 Surface::~Surface() = default;
 
 PixelSize Surface::InsideSize() const {

@@ -27,8 +27,12 @@ struct ShiftState {
 
 /// Virtual-key codes that the program knows.
 namespace key {
+inline constexpr int Backspace = 8;
 inline constexpr int Tab = 9;
 inline constexpr int Enter = 13;
+inline constexpr int Shift = 16;
+inline constexpr int Ctrl = 17;
+inline constexpr int Alt = 18;
 inline constexpr int Escape = 27;
 inline constexpr int Space = 32;
 inline constexpr int PageUp = 33;
@@ -39,6 +43,11 @@ inline constexpr int Left = 37;
 inline constexpr int Up = 38;
 inline constexpr int Right = 39;
 inline constexpr int Down = 40;
+inline constexpr int Insert = 45;
+inline constexpr int Delete = 46;
+inline constexpr int Menu = 93;
+inline constexpr int F2 = 113;
+inline constexpr int F4 = 115;
 inline constexpr int F5 = 116;
 inline constexpr int F10 = 121;
 }  // namespace key

@@ -41,6 +41,26 @@ class WindowEvents {
   /// A typed character; control characters (Enter 13, Esc 27) come here too.
   virtual void OnKeyPress(char32_t character) = 0;
 
+  /// A key goes down in a control that the system works, which gets it only if the answer is false.
+  /// What is typed with a key that was used up does not reach the control either.
+  virtual bool OnControlKey(int /*keyCode*/, ShiftState /*shift*/) { return false; }
+  /// Likewise a typed character, control characters too.
+  virtual bool OnControlCharacter(char32_t /*character*/) { return false; }
+
+  /// The window has the keyboard from now on, or has it no more. The one that loses it is told
+  /// first. Nothing is told to a window that is destroyed or hidden with it.
+  virtual void OnFocus(bool /*gained*/) {}
+  /// The mouse was taken from a window that was pressed: by a message box, a menu, another window,
+  /// or because it was hidden. No release will come.
+  virtual void OnCaptureLost() {}
+  /// The wheel was turned by `delta` (120 is a notch, away from the user) while this window, or one
+  /// in it that had no use for it, has the focus. True uses it up.
+  virtual bool OnWheel(int /*delta*/, ShiftState /*shift*/) { return false; }
+  /// The right button asked for the context menu of a control that the system works, at a point of
+  /// the window; told after the release. Keys that ask for it come as OnControlKey. True means that
+  /// the system shows none of its own.
+  virtual bool OnContextMenu(PixelPoint /*at*/) { return false; }
+
   /// Paints `dirty` (pixels of the window) onto `canvas`, whose origin is set so that the window's
   /// own coordinates can be used and is left as it is. All of `dirty` is painted over, the inside
   /// by one DrawCanvas, so that the backend needs no buffer against flicker.
@@ -69,9 +89,6 @@ class WindowEvents {
                             const DragPoint& /*where*/) {
     return DropEffect::None;
   }
-  /// A control that the system works was pressed: with the pointer or with Space.
-  virtual void OnPress() {}
-
   /// Any message before the backend deals with it, for top-level windows. An answer ends the
   /// message there.
   virtual std::optional<std::intptr_t> OnMessage(std::uint32_t message, std::uintptr_t wParam,
@@ -98,9 +115,6 @@ class WindowPeer {
   /// From now on drags of other programs are told to the window; at first they are not, and go to
   /// the next window around it that takes them. False when the system refuses.
   virtual bool SetTakesDrops(bool takesDrops) = 0;
-  /// Ticks a check box or takes its tick away; other kinds have none.
-  virtual void SetChecked(bool /*checked*/) {}
-
   /// Notes that `part` must be painted; it is, once, at the next paint. Nothing is noted for a
   /// window that is not visible; coming up, it is painted whole.
   virtual void Invalidate(const PixelRect& part) = 0;
@@ -123,10 +137,6 @@ class WindowPeer {
 enum class PeerKind {
   Form,        // a top-level window without a frame of the system
   PictureBox,  // a child window
-  // Children that the system draws and works, with its own font. A press takes the focus and is
-  // told as OnPress; mouse events are not told, keys are, but for Space.
-  CommandButton,
-  CheckBox,
 };
 
 /// What a backend needs to make a window. On Windows the class of the window bears `ClassName`, so
@@ -136,6 +146,8 @@ struct PeerSpec {
   std::string ClassName;
   WindowPeer* Parent = nullptr;  // of a child
   PixelRect Bounds;
+  // A picture box that keys reach by the rules of dialogs: a press on it takes the focus.
+  bool TabStop = false;
   bool InTaskbar = false;  // a form that shows a button in the task bar when it is visible
 };
 
@@ -144,6 +156,8 @@ struct WindowPicture {
   std::unique_ptr<Canvas> Pixels;
   PixelRect Bounds;
 };
+
+class ControlMaker;
 
 using TimerId = std::uint32_t;
 
@@ -155,6 +169,9 @@ class WindowSystem {
   /// Makes a hidden window that reports to `events`, which outlives the peer. Null when the system
   /// refuses.
   virtual std::unique_ptr<WindowPeer> CreatePeer(const PeerSpec& wanted, WindowEvents& events) = 0;
+
+  /// Makes the controls that the system draws and works.
+  virtual ControlMaker& Controls() = 0;
 
   /// A bitmap of this size in pixels (at least 1 by 1), all black.
   virtual std::unique_ptr<Canvas> CreateCanvas(PixelSize size) = 0;

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "win32/Wide.h"
+#include "win32/Win32Control.h"
 #include "win32/Win32DropTarget.h"
 #include "win32/Win32WindowSystem.h"
 
@@ -42,7 +43,7 @@ bool Win32Window::RegisterClassNamed(const wchar_t* name) {
 }
 
 bool Win32Window::Create(const forms::PeerSpec& wanted) {
-  if (IsControl()) return CreateControl(wanted);
+  tabStop_ = wanted.TabStop;
   const std::wstring name = Wide(wanted.ClassName);
   if (!RegisterClassNamed(name.c_str())) return false;
   const WindowStyle style = StyleOf(wanted);
@@ -56,6 +57,38 @@ bool Win32Window::Create(const forms::PeerSpec& wanted) {
   // The system puts a new child below its siblings, but the one that was made last is to be on top.
   if (!IsForm()) SetWindowPos(made, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   return true;
+}
+
+Win32Window* Win32Window::Of(HWND handle) noexcept {
+  const LONG_PTR procedure = GetWindowLongPtrW(handle, GWLP_WNDPROC);
+  if (procedure != reinterpret_cast<LONG_PTR>(&Procedure) && !Win32Control::Is(procedure)) {
+    return nullptr;
+  }
+  return reinterpret_cast<Win32Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+}
+
+bool Win32Window::TakesFocus() const { return tabStop_ || GetWindow(handle_, GW_CHILD) == nullptr; }
+
+// Other programs can send these messages with any handle in them.
+std::shared_ptr<Win32Window> Win32Window::TellerOf(HWND parent, UINT message, LPARAM lParam) {
+  HWND child = nullptr;
+  switch (message) {
+    case WM_COMMAND:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLOREDIT:
+      child = reinterpret_cast<HWND>(lParam);
+      break;
+    case WM_NOTIFY:
+      child = lParam != 0 ? reinterpret_cast<const NMHDR*>(lParam)->hwndFrom : nullptr;
+      break;
+    default:
+      break;
+  }
+  if (child == nullptr || GetParent(child) != parent) return nullptr;
+  Win32Window* const window = Of(child);
+  return window != nullptr ? window->shared_from_this() : nullptr;
 }
 
 bool Win32Window::SetTakesDrops(bool takesDrops) {

@@ -6,6 +6,7 @@
 #include "forms/WindowSystem.h"
 #include "win32/DrawingTools.h"
 #include "win32/PostBox.h"
+#include "win32/Win32ControlMaker.h"
 #include "win32/Win32Timers.h"
 
 namespace corvelle::win32 {
@@ -20,6 +21,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
 
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
+  forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
   std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) override;
@@ -58,6 +60,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   UniqueWindow toolOwner_;
   Win32Timers timers_;
   std::shared_ptr<PostBox> posts_ = std::make_shared<PostBox>();
+  Win32ControlMaker controls_{*this};
   forms::MousePointer pointer_ = forms::MousePointer::Default;
   UniqueCursor mouseIcon_;
   bool quit_ = false;

@@ -2,6 +2,7 @@
 
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
+#include "forms/ControlsContract.h"
 #include "forms/InputContract.h"
 #include "forms/PostContract.h"
 #include "forms/WindowSystemContract.h"
@@ -21,6 +22,10 @@ class SimulatedHome final : public ActivationHome {
   void Release(MouseButton button) override { world_.Desktop.Release(button); }
   void DoubleClick() override { world_.Desktop.DoubleClick(); }
   void PressKey(int virtualKey) override { world_.Desktop.PressKey(virtualKey); }
+  void KeyDown(int virtualKey) override { world_.Desktop.KeyDown(virtualKey); }
+  void KeyUp(int virtualKey) override { world_.Desktop.KeyUp(virtualKey); }
+  void Type(std::string_view text) override { world_.Desktop.Type(text); }
+  void TurnWheel(int delta) override { world_.Desktop.TurnWheel(delta); }
   void WhilePopupIsUp(std::function<void()> action) override {
     world_.Desktop.WhilePopupIsUp([action = std::move(action)](const sim::Popup&) { action(); });
   }
@@ -51,6 +56,8 @@ INSTANTIATE_TEST_SUITE_P(Simulated, InputContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, ActivationContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, ControlContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ButtonsContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

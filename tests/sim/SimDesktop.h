@@ -17,6 +17,7 @@
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
 #include "sim/SimClock.h"
+#include "sim/SimControlMaker.h"
 #include "sim/SimDrag.h"
 #include "sim/SimPopup.h"
 #include "sim/SimWindow.h"
@@ -70,6 +71,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void KeyUp(int virtualKey);
   /// Down and up.
   void PressKey(int virtualKey);
+  /// The wheel is turned; 120 is a notch, away from the user. The window with the focus gets it.
+  void TurnWheel(int delta);
   /// Types characters: the key of each (letters and digits) and the character.
   void Type(std::string_view text);
 
@@ -183,6 +186,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   // forms::WindowSystem
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
+  forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
   std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) override;
@@ -236,9 +240,16 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void PaintVisibleWindows() override;
 
  private:
-  friend class SimPeer;
+  friend class SimPeerCore;
+  friend class SimControlMaker;
   void RunPostedWork();
 
+  /// The pointer and what is held down at the moment of a user's action.
+  struct Mouse {
+    PixelPoint At;
+    forms::MouseButton Down = forms::MouseButton::None;
+    forms::ShiftState Shift;
+  };
   struct ScriptedAnswer {
     std::optional<std::string> Text;
     int Button = 0;
@@ -276,6 +287,21 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   bool FirstToProcedure(WindowId window, std::uint32_t message, std::uintptr_t wParam,
                         std::intptr_t lParam, std::intptr_t& answer);
 
+  // Controls that the system works, and the focus (SimFocus.cpp)
+  WindowId AddOwn(const forms::PeerSpec& wanted, forms::WindowEvents& events);
+  void SetControl(WindowId window, SimControl* control);
+  /// Tells who lost the focus and who has it now.
+  void TellFocus();
+  /// The press that is going on gets no release.
+  void LoseCapture();
+  [[nodiscard]] bool TakesFocus(const SimWindow& window) const;
+  [[nodiscard]] WindowId FirstFocusIn(const SimWindow& container) const;
+  void DeliverWheel(int delta, forms::ShiftState shift);
+  /// True when the system's control has dealt with it, or the program has.
+  bool ControlPressed(WindowId target, const Mouse& mouse, forms::MouseButton button, bool second);
+  bool ControlReleased(WindowId target, const Mouse& mouse, forms::MouseButton button,
+                       bool wasHeld);
+
   // Popup menus
   [[nodiscard]] bool PopupStands(WindowId owner) const;
   /// True when the popup that is up takes the press, or closes because of it.
@@ -288,19 +314,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void PaintNow(WindowId window);
   bool PaintOne(WindowId window);
   bool PaintSomething();
-  void PaintControl(SimCanvas& canvas, const SimWindow& window) const;
   void Compose(SimCanvas& screen, const SimWindow& window) const;
   void ComposeAll(SimCanvas& screen) const;
 
   // Events
   void RunWaiting();
   void UserEvent(std::function<void()> event);
-  /// The pointer and what is held down at the moment of a user's action.
-  struct Mouse {
-    PixelPoint At;
-    forms::MouseButton Down = forms::MouseButton::None;
-    forms::ShiftState Shift;
-  };
   Mouse MouseNow() const { return {pointer_, ButtonsDown(), Shift()}; }
   WindowId MouseTarget(PixelPoint at) const;
   PixelPoint InWindow(WindowId window, PixelPoint at) const;
@@ -323,6 +342,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   forms::DragPoint DragPointIn(WindowId window) const;
 
   DesktopOptions options_;
+  SimControlMaker controls_{*this};
   SimClock clock_;
   std::map<int, Rgb> colours_;
   std::map<WindowId, SimWindow> windows_;
@@ -331,6 +351,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId desktopWindow_ = kNoWindow;
   WindowId foreground_ = kNoWindow;
   WindowId focus_ = kNoWindow;
+  WindowId toldFocus_ = kNoWindow;  // who knows that it has the focus
+  bool usedUp_ = false;             // the last key, and what it types with it
   WindowId capture_ = kNoWindow;
   bool foregroundLocked_ = false;
   bool refuseWindow_ = false;

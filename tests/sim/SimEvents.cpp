@@ -194,7 +194,7 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
                                .Topmost = (flags & forms::msgbox::OnTop) != 0});
   const bool wasEnabled = Get(owner) != nullptr && Get(owner)->Enabled;
   if (Get(owner) != nullptr) SetEnabled(owner, false);
-  capture_ = kNoWindow;
+  LoseCapture();
   Activate(window);
 
   const int depth = std::exchange(depth_, 0);

@@ -149,8 +149,9 @@ void SimDesktop::DeliverMove(const Mouse& mouse) {
   const SimWindow* at = Look(target);
   moveWindow_ = target;
   movePoint_ = InWindow(target, mouse.At);
-  if (at == nullptr || at->Events == nullptr || IsSystemControl(*at)) return;
+  if (at == nullptr || at->Events == nullptr) return;
   const PixelPoint inside = movePoint_;
+  if (at->Control != nullptr) return at->Control->MouseMove(mouse.Down, inside);
   const auto place = static_cast<std::intptr_t>((static_cast<std::uint32_t>(inside.y) << 16) |
                                                 (static_cast<std::uint32_t>(inside.x) & 0xFFFF));
   std::intptr_t answer = 0;
@@ -169,10 +170,14 @@ void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, boo
   const SimWindow* at = Look(target);
   if (at == nullptr || at->Events == nullptr || !IsShown(target)) return;
   capture_ = target;
+  if (ControlPressed(target, mouse, button, second)) return;
   const PixelPoint inside = InWindow(target, mouse.At);
-  if (IsSystemControl(*at)) {
+  if (at->TabStop) {
     SetFocusTo(target);
-  } else if (second) {
+    at = Look(target);
+    if (at == nullptr || at->Events == nullptr) return;
+  }
+  if (second) {
     at->Events->OnDoubleClick(inside);
   } else {
     at->Events->OnMouseDown(button, mouse.Shift, inside);
@@ -187,15 +192,8 @@ void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
   if (mouse.Down == forms::MouseButton::None) capture_ = kNoWindow;
   const SimWindow* at = Look(target);
   if (at == nullptr || at->Events == nullptr) return;
-  const PixelPoint inside = InWindow(target, mouse.At);
-  if (!IsSystemControl(*at)) {
-    at->Events->OnMouseUp(button, mouse.Shift, inside);
-    return;
-  }
-  const PixelSize size = at->Bounds.Size();
-  const bool over = PixelRect{0, 0, size.width, size.height}.Contains(inside);
-  // A control is pressed by a press and a release on it.
-  if (wasHeld && over && button == forms::MouseButton::Left) at->Events->OnPress();
+  if (ControlReleased(target, mouse, button, wasHeld)) return;
+  at->Events->OnMouseUp(button, mouse.Shift, InWindow(target, mouse.At));
 }
 
 /// The window that hears the keys: the one with the focus, unless its form is disabled.
@@ -213,16 +211,24 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   }
   const SimWindow* at = KeyTarget();
   if (at == nullptr) return;
-  if (IsSystemControl(*at) && virtualKey == forms::key::Space && !shift.Alt) {
-    at->Events->OnPress();
-  } else {
-    at->Events->OnKeyDown(virtualKey, shift);
-  }
+  const WindowId target = at->Id;
+  if (at->Control == nullptr) return at->Events->OnKeyDown(virtualKey, shift);
+  usedUp_ = false;
+  const bool used = at->Events->OnControlKey(virtualKey, shift);
+  usedUp_ = used;
+  at = Look(target);
+  if (!used && at != nullptr && at->Control != nullptr) at->Control->Key(virtualKey, shift);
 }
 
 void SimDesktop::DeliverCharacter(char32_t character) {
   if (popup_ != kNoWindow) return;
-  if (const SimWindow* at = KeyTarget()) at->Events->OnKeyPress(character);
+  const SimWindow* at = KeyTarget();
+  if (at == nullptr) return;
+  const WindowId target = at->Id;
+  if (at->Control == nullptr) return at->Events->OnKeyPress(character);
+  const bool used = at->Events->OnControlCharacter(character) || usedUp_;
+  at = Look(target);
+  if (!used && at != nullptr && at->Control != nullptr) at->Control->Character(character);
 }
 
 }  // namespace corvelle::sim

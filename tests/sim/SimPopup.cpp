@@ -105,6 +105,7 @@ int SimDesktop::ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& i
     top += HeightOf(item);
   }
 
+  LoseCapture();
   popup_ = window;
   capture_ = window;
   const int depth = std::exchange(depth_, 0);

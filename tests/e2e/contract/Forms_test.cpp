@@ -6,6 +6,7 @@
 #include "RealHome.h"
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
+#include "forms/ControlsContract.h"
 #include "forms/InputContract.h"
 #include "forms/PostContract.h"
 #include "forms/WindowSystemContract.h"
@@ -27,6 +28,10 @@ class WindowsHome final : public ActivationHome {
   void Release(MouseButton button) override { home_.Release(button); }
   void DoubleClick() override { home_.DoubleClick(); }
   void PressKey(int virtualKey) override { home_.PressKey(virtualKey); }
+  void KeyDown(int virtualKey) override { home_.KeyDown(virtualKey); }
+  void KeyUp(int virtualKey) override { home_.KeyUp(virtualKey); }
+  void Type(std::string_view text) override { home_.Type(text); }
+  void TurnWheel(int delta) override { home_.TurnWheel(delta); }
   void ClosePopup() override {
     INPUT keys[2]{};
     for (INPUT& key : keys) {
@@ -71,6 +76,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, ActivationContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ButtonsContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
 }  // namespace corvelle::forms

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <string_view>
 
 #include "win32/Win32Desktop.h"
 #include "win32/Win32Input.h"
@@ -45,6 +46,28 @@ class RealHome {
       Release(forms::MouseButton::Left);
     }
   }
+  void KeyDown(int virtualKey) { Key(virtualKey, 0); }
+  void KeyUp(int virtualKey) { Key(virtualKey, KEYEVENTF_KEYUP); }
+  /// Plain characters.
+  void Type(std::string_view text) {
+    for (const char character : text) {
+      const SHORT scanned = VkKeyScanW(static_cast<wchar_t>(character));
+      const bool shifted = (HIBYTE(scanned) & 1) != 0;
+      if (shifted) Key(VK_SHIFT, 0);
+      Key(LOBYTE(scanned), 0);
+      Key(LOBYTE(scanned), KEYEVENTF_KEYUP);
+      if (shifted) Key(VK_SHIFT, KEYEVENTF_KEYUP);
+    }
+    Wait(kReactionMilliseconds);
+  }
+  void TurnWheel(int delta) {
+    INPUT event{};
+    event.type = INPUT_MOUSE;
+    event.mi.mouseData = static_cast<DWORD>(delta);
+    event.mi.dwFlags = MOUSEEVENTF_WHEEL;
+    SendInput(1, &event, sizeof(INPUT));
+    Wait(kReactionMilliseconds);
+  }
   void PressKey(int virtualKey) {
     INPUT keys[2]{};
     for (INPUT& key : keys) {
@@ -60,6 +83,14 @@ class RealHome {
   static constexpr int kReactionMilliseconds = 60;
   static constexpr int kMostTries = 20;
   static constexpr int kWholeScreen = 65536;
+
+  static void Key(int virtualKey, DWORD how) {
+    INPUT key{};
+    key.type = INPUT_KEYBOARD;
+    key.ki.wVk = static_cast<WORD>(virtualKey);
+    key.ki.dwFlags = how;
+    SendInput(1, &key, sizeof(INPUT));
+  }
 
   // Place and button in one event: apart, they can be taken in the wrong order.
   void Mouse(DWORD what, PixelPoint at) {

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+
+#include "forms/WindowSystem.h"
+
+namespace corvelle::forms {
+
+class ButtonEvents;
+class ButtonPeer;
+enum class ButtonLook;
+
+/// Makes the controls that the system draws and works, with its own font. Each is hidden at first,
+/// reports to its events, which outlive it, and is null when the system refuses it. They take the
+/// focus when they are pressed; mouse events are not told, and keys are told as OnControlKey and
+/// OnControlCharacter. What the program changes in a control tells no event of its kind.
+class ControlMaker {
+ public:
+  virtual ~ControlMaker() = default;
+
+  virtual std::unique_ptr<ButtonPeer> CreateButton(const PeerSpec& wanted, ButtonLook look,
+                                                   WindowEvents& events,
+                                                   ButtonEvents& buttonEvents) = 0;
+};
+
+}  // namespace corvelle::forms

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "forms/ControlMaker.h"
+
+namespace corvelle::sim {
+
+class SimDesktop;
+
+/// Makes controls of the simulated desktop.
+class SimControlMaker final : public forms::ControlMaker {
+ public:
+  explicit SimControlMaker(SimDesktop& desktop) : desktop_(desktop) {}
+
+  std::unique_ptr<forms::ButtonPeer> CreateButton(const forms::PeerSpec& wanted,
+                                                  forms::ButtonLook look,
+                                                  forms::WindowEvents& events,
+                                                  forms::ButtonEvents& buttonEvents) override;
+
+ private:
+  /// A control of this kind, with what its events need besides.
+  template <class Control, class... More>
+  std::unique_ptr<Control> Make(const forms::PeerSpec& wanted, forms::WindowEvents& events,
+                                More&&... more);
+
+  SimDesktop& desktop_;
+};
+
+}  // namespace corvelle::sim
