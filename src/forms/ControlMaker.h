@@ -9,6 +9,9 @@ namespace corvelle::forms {
 class ButtonEvents;
 class ButtonPeer;
 enum class ButtonLook;
+class TextBoxEvents;
+class TextBoxPeer;
+struct TextBoxStyle;
 
 /// Makes the controls that the system draws and works, with its own font. Each is hidden at first,
 /// reports to its events, which outlive it, and is null when the system refuses it. They take the
@@ -21,6 +24,10 @@ class ControlMaker {
   virtual std::unique_ptr<ButtonPeer> CreateButton(const PeerSpec& wanted, ButtonLook look,
                                                    WindowEvents& events,
                                                    ButtonEvents& buttonEvents) = 0;
+  virtual std::unique_ptr<TextBoxPeer> CreateTextBox(const PeerSpec& wanted,
+                                                     const TextBoxStyle& style,
+                                                     WindowEvents& events,
+                                                     TextBoxEvents& textEvents) = 0;
 };
 
 }  // namespace corvelle::forms

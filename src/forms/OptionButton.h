@@ -7,8 +7,8 @@
 namespace corvelle::forms {
 
 /// One of several: the options of one container are a group, of which at most one is chosen. The
-/// arrows choose its neighbours, the Tab key stops at the one that is chosen, or at the first. Click
-/// is told when a press, an arrow or the access key has chosen it.
+/// arrows choose its neighbours, the Tab key stops at the one that is chosen, or at the first.
+/// Click is told when a press, an arrow or the access key has chosen it.
 class OptionButton final : public Button {
  public:
   OptionButton(Window& container, std::string name)

@@ -4,10 +4,10 @@
 
 namespace corvelle::forms {
 
-/// A child window that is drawn on, placed in twips of its container's inside; it may hold controls.
-/// Its keys go to the form; with SetTabStop before it is loaded it takes the focus when it is
-/// pressed, and the keys that mean something in a dialog have that meaning. It is visible from the
-/// start, and seen when the form is. The container outlives it.
+/// A child window that is drawn on, placed in twips of its container's inside; it may hold
+/// controls. Its keys go to the form; with SetTabStop before it is loaded it takes the focus when
+/// it is pressed, and the keys that mean something in a dialog have that meaning. It is visible
+/// from the start, and seen when the form is. The container outlives it.
 class PictureBox final : public Surface {
  public:
   PictureBox(Window& container, std::string name);

@@ -57,6 +57,7 @@ inline constexpr int F10 = 121;
 using OleColor = std::uint32_t;
 
 namespace color {
+inline constexpr OleColor WindowGround = 0x80000005;
 inline constexpr OleColor Highlight = 0x8000000D;
 inline constexpr OleColor HighlightText = 0x8000000E;
 inline constexpr OleColor ButtonFace = 0x8000000F;

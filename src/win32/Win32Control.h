@@ -7,9 +7,9 @@
 
 namespace corvelle::win32 {
 
-/// A window of one of the system's own classes that stands for a control: the system draws and works
-/// it, and screen readers know it. Its messages pass by here first, so that its keys follow the
-/// rules of dialogs; what it tells its parent comes back to it as Notified.
+/// A window of one of the system's own classes that stands for a control: the system draws and
+/// works it, and screen readers know it. Its messages pass by here first, so that its keys follow
+/// the rules of dialogs; what it tells its parent comes back to it as Notified.
 class Win32Control : public Win32Window {
  public:
   explicit Win32Control(Win32WindowSystem& system)
@@ -24,7 +24,8 @@ class Win32Control : public Win32Window {
   /// True for the address of the procedure of all controls.
   static bool Is(LONG_PTR procedure) noexcept;
 
-  /// While it is alive, what the control notifies of itself is the program's doing, and is not told.
+  /// While it is alive, what the control notifies of itself is the program's doing, and is not
+  /// told.
   class Mute {
    public:
     explicit Mute(Win32Control& control) noexcept : control_(control) { ++control_.muted_; }

@@ -1,6 +1,7 @@
 #include "win32/Win32ControlMaker.h"
 
 #include "win32/Win32Button.h"
+#include "win32/Win32TextBox.h"
 
 namespace corvelle::win32 {
 
@@ -20,8 +21,15 @@ std::unique_ptr<PeerKind> Make(Win32WindowSystem& system, std::shared_ptr<Window
 std::unique_ptr<forms::ButtonPeer> Win32ControlMaker::CreateButton(
     const forms::PeerSpec& wanted, forms::ButtonLook look, forms::WindowEvents& events,
     forms::ButtonEvents& buttonEvents) {
-  return Make<Win32ButtonPeer>(
-      system_, std::make_shared<Win32Button>(system_, look, buttonEvents), wanted, events);
+  return Make<Win32ButtonPeer>(system_, std::make_shared<Win32Button>(system_, look, buttonEvents),
+                               wanted, events);
+}
+
+std::unique_ptr<forms::TextBoxPeer> Win32ControlMaker::CreateTextBox(
+    const forms::PeerSpec& wanted, const forms::TextBoxStyle& style, forms::WindowEvents& events,
+    forms::TextBoxEvents& textEvents) {
+  return Make<Win32TextBoxPeer>(
+      system_, std::make_shared<Win32TextBox>(system_, style, textEvents), wanted, events);
 }
 
 }  // namespace corvelle::win32

@@ -10,11 +10,11 @@ constexpr ShiftState kShift{.Shift = true};
 constexpr ShiftState kCtrl{.Ctrl = true};
 constexpr ShiftState kAlt{.Alt = true};
 
-constexpr KeyFacts kButton{
-    .Wants = {.Space = true}, .LettersPress = true, .TakesEnter = true};
+constexpr KeyFacts kButton{.Wants = {.Space = true}, .LettersPress = true, .TakesEnter = true};
 constexpr KeyFacts kCheck{.Wants = {.Space = true}, .LettersPress = true};
 constexpr KeyFacts kOption{.Wants = {.Space = true}, .LettersPress = true, .InGroup = true};
-constexpr KeyFacts kText{.Wants = {.Arrows = true, .Paging = true, .Editing = true, .Typing = true}};
+constexpr KeyFacts kText{
+    .Wants = {.Arrows = true, .Paging = true, .Editing = true, .Typing = true}};
 constexpr KeyFacts kManyLines{.Wants = {.Arrows = true,
                                         .Paging = true,
                                         .Editing = true,
@@ -22,7 +22,8 @@ constexpr KeyFacts kManyLines{.Wants = {.Arrows = true,
                                         .Enter = true,
                                         .Tab = true}};
 constexpr KeyFacts kTree{.Wants = {.Arrows = true, .Paging = true, .Typing = true}};
-constexpr KeyFacts kOpenList{.Wants = {.Arrows = true, .Paging = true, .Enter = true, .Escape = true}};
+constexpr KeyFacts kOpenList{
+    .Wants = {.Arrows = true, .Paging = true, .Enter = true, .Escape = true}};
 constexpr KeyFacts kPicture{};
 
 TEST(DialogKeys, WhoDealsWithAKey) {
@@ -97,7 +98,9 @@ TEST(DialogKeys, WhoDealsWithACharacter) {
     DialogAction Expected;
   };
   const Row rows[] = {
-      {"a letter alone presses from a button", U'f', {.Focus = kButton, .HasAccessKey = true},
+      {"a letter alone presses from a button",
+       U'f',
+       {.Focus = kButton, .HasAccessKey = true},
        PressAccessKey},
       {"and from an option", U'f', {.Focus = kOption, .HasAccessKey = true}, PressAccessKey},
       {"but not from a text", U'f', {.Focus = kText, .HasAccessKey = true}, Control},

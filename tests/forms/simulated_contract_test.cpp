@@ -3,6 +3,7 @@
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
 #include "forms/PostContract.h"
 #include "forms/WindowSystemContract.h"
@@ -58,6 +59,8 @@ INSTANTIATE_TEST_SUITE_P(Simulated, ActivationContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, ControlContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, ButtonsContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, TextBoxContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

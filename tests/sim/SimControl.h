@@ -8,9 +8,9 @@ namespace corvelle::sim {
 class SimCanvas;
 struct SimWindow;
 
-/// How a control of the system behaves on the simulated desktop: what it shows, and what it makes of
-/// the mouse and of the keys that the program leaves to it. Points are pixels of its window. What it
-/// tells the program may destroy it; it touches nothing of itself afterwards.
+/// How a control of the system behaves on the simulated desktop: what it shows, and what it makes
+/// of the mouse and of the keys that the program leaves to it. Points are pixels of its window.
+/// What it tells the program may destroy it; it touches nothing of itself afterwards.
 class SimControl {
  public:
   virtual ~SimControl() = default;

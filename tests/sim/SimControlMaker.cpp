@@ -4,6 +4,7 @@
 
 #include "sim/SimButton.h"
 #include "sim/SimDesktop.h"
+#include "sim/SimTextBox.h"
 
 namespace corvelle::sim {
 
@@ -21,6 +22,12 @@ std::unique_ptr<forms::ButtonPeer> SimControlMaker::CreateButton(
     const forms::PeerSpec& wanted, forms::ButtonLook look, forms::WindowEvents& events,
     forms::ButtonEvents& buttonEvents) {
   return Make<SimButton>(wanted, events, look, buttonEvents);
+}
+
+std::unique_ptr<forms::TextBoxPeer> SimControlMaker::CreateTextBox(
+    const forms::PeerSpec& wanted, const forms::TextBoxStyle& style, forms::WindowEvents& events,
+    forms::TextBoxEvents& textEvents) {
+  return Make<SimTextBox>(wanted, events, style, textEvents);
 }
 
 }  // namespace corvelle::sim

@@ -15,6 +15,10 @@ class SimControlMaker final : public forms::ControlMaker {
                                                   forms::ButtonLook look,
                                                   forms::WindowEvents& events,
                                                   forms::ButtonEvents& buttonEvents) override;
+  std::unique_ptr<forms::TextBoxPeer> CreateTextBox(const forms::PeerSpec& wanted,
+                                                    const forms::TextBoxStyle& style,
+                                                    forms::WindowEvents& events,
+                                                    forms::TextBoxEvents& textEvents) override;
 
  private:
   /// A control of this kind, with what its events need besides.

@@ -155,6 +155,9 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void WhileRunning(std::function<void()> script) { runScript_ = std::move(script); }
   bool QuitCalled() const noexcept { return quit_; }
 
+  /// The text that was cut or copied last, by whichever program.
+  std::string& Clipboard() noexcept { return clipboard_; }
+
   // Asking.
   /// The first window of ours with this class, which is the name of its form or box; none if there
   /// is none.
@@ -381,6 +384,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::vector<Popup> popups_;
   WindowId popup_ = kNoWindow;  // the one that is up
   std::vector<SentMessage> sent_;
+  std::string clipboard_;
   int paints_ = 0;
   int beeps_ = 0;
   std::optional<SimDrag> drag_;

@@ -84,7 +84,8 @@ void SimDesktop::KeyDown(int virtualKey) {
   keys_.insert(virtualKey);
   UserEvent([this, virtualKey, shift = Shift()] {
     DeliverKey(virtualKey, shift);
-    if (virtualKey == forms::key::Enter || virtualKey == forms::key::Escape) {
+    if (virtualKey == forms::key::Enter || virtualKey == forms::key::Escape ||
+        virtualKey == forms::key::Backspace) {
       DeliverCharacter(static_cast<char32_t>(virtualKey));
     }
   });

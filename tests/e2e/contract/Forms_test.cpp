@@ -7,6 +7,7 @@
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
 #include "forms/PostContract.h"
 #include "forms/WindowSystemContract.h"
@@ -77,6 +78,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, ActivationContract,
 INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ButtonsContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TextBoxContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
