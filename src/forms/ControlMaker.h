@@ -8,6 +8,17 @@ namespace corvelle::forms {
 
 class ButtonEvents;
 class ButtonPeer;
+class ComboBoxEvents;
+class ComboBoxPeer;
+class ListBoxEvents;
+class ListBoxPeer;
+class ScrollBarEvents;
+class ScrollBarPeer;
+class TabStripEvents;
+class TabStripPeer;
+class TreeEvents;
+class TreePeer;
+struct TreeStyle;
 enum class ButtonLook;
 class TextBoxEvents;
 class TextBoxPeer;
@@ -28,6 +39,19 @@ class ControlMaker {
                                                      const TextBoxStyle& style,
                                                      WindowEvents& events,
                                                      TextBoxEvents& textEvents) = 0;
+  virtual std::unique_ptr<ListBoxPeer> CreateListBox(const PeerSpec& wanted, WindowEvents& events,
+                                                     ListBoxEvents& listEvents) = 0;
+  virtual std::unique_ptr<ComboBoxPeer> CreateComboBox(const PeerSpec& wanted, bool withEntry,
+                                                       WindowEvents& events,
+                                                       ComboBoxEvents& comboEvents) = 0;
+  virtual std::unique_ptr<ScrollBarPeer> CreateScrollBar(const PeerSpec& wanted,
+                                                         WindowEvents& events,
+                                                         ScrollBarEvents& scrollEvents) = 0;
+  virtual std::unique_ptr<TabStripPeer> CreateTabStrip(const PeerSpec& wanted,
+                                                       WindowEvents& events,
+                                                       TabStripEvents& tabEvents) = 0;
+  virtual std::unique_ptr<TreePeer> CreateTree(const PeerSpec& wanted, const TreeStyle& style,
+                                               WindowEvents& events, TreeEvents& treeEvents) = 0;
 };
 
 }  // namespace corvelle::forms

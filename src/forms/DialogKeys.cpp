@@ -60,6 +60,11 @@ DialogAction KeyAction(int keyCode, ShiftState shift, const DialogScene& scene) 
     return scene.HasAccessKey ? DialogAction::PressAccessKey : DialogAction::Form;
   }
   if (ComesFirst(wants, keyCode, shift)) return DialogAction::Control;
+  if (shift.Ctrl && scene.HasTabs) {
+    if (keyCode == key::PageDown) return DialogAction::NextTab;
+    if (keyCode == key::PageUp) return DialogAction::PreviousTab;
+    if (keyCode == key::Tab) return shift.Shift ? DialogAction::PreviousTab : DialogAction::NextTab;
+  }
   switch (keyCode) {
     case key::Tab:
       if (shift.Ctrl) return DialogAction::Form;
@@ -83,6 +88,7 @@ DialogAction KeyAction(int keyCode, ShiftState shift, const DialogScene& scene) 
     default:
       break;
   }
+  if (keyCode == wants.Function && !shift.Ctrl) return DialogAction::Control;
   if (keyCode >= kFirstModifier && keyCode <= kLastModifier) return DialogAction::Form;
   if (IsEditing(keyCode, shift)) return wants.Editing ? DialogAction::Control : DialogAction::Form;
   return wants.Typing && IsTyping(keyCode, shift) ? DialogAction::Control : DialogAction::Form;

@@ -12,6 +12,7 @@ struct KeyWants {
   bool Editing = false;
   bool Typing = false;  // letters, digits, signs and Space: they are no access keys then
   bool Space = false;
+  int Function = 0;  // a function key that it has a use for; 0 for none
   // Wanted before the form sees them, as an open list or a text of several lines wants them.
   bool Enter = false;
   bool Escape = false;
@@ -26,6 +27,7 @@ struct KeyFacts {
   bool IsDefault = false;     // the button that Enter presses wherever else the focus is
   bool IsCancel = false;      // the button that Esc presses
   bool InGroup = false;       // arrows go to its neighbours
+  bool HasTabs = false;       // Ctrl+Tab changes its tabs
   char32_t AccessKey = 0;     // in capitals; 0 for none
 };
 
@@ -34,6 +36,7 @@ struct DialogScene {
   KeyFacts Focus;
   bool HasDefault = false;
   bool HasCancel = false;
+  bool HasTabs = false;
   bool HasAccessKey = false;  // a window of the form that can be reached has this letter
 };
 
@@ -46,6 +49,8 @@ enum class DialogAction {
   PreviousControl,
   NextInGroup,
   PreviousInGroup,
+  NextTab,
+  PreviousTab,
   PressFocus,
   PressDefault,
   PressCancel,

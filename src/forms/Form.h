@@ -102,6 +102,7 @@ class Form : public Surface {
   [[nodiscard]] std::vector<Window*> Reachable() const;
   void MoveFocus(const Window& from, int step);
   void PressAccessKey(char32_t letter);
+  void ChangeTab(int step) override;
   void PressFirst(bool KeyFacts::*fact);
 
   void ShowAs(ShowKind kind);

@@ -35,6 +35,7 @@ DialogScene Form::SceneOf(const Window& focus, char32_t letter) const {
     const KeyFacts facts = window->Keys();
     scene.HasDefault = scene.HasDefault || facts.IsDefault;
     scene.HasCancel = scene.HasCancel || facts.IsCancel;
+    scene.HasTabs = scene.HasTabs || facts.HasTabs;
     scene.HasAccessKey = scene.HasAccessKey || (wanted != 0 && facts.AccessKey == wanted);
   }
   return scene;
@@ -80,6 +81,12 @@ bool Form::Act(DialogAction action, Window& focus, int keyCode, ShiftState shift
       break;
     case DialogAction::PreviousInGroup:
       focus.MoveInGroup(-1);
+      break;
+    case DialogAction::NextTab:
+      ChangeTab(1);
+      break;
+    case DialogAction::PreviousTab:
+      ChangeTab(-1);
       break;
     case DialogAction::PressFocus:
       focus.PressByKey();
@@ -151,6 +158,12 @@ void Form::PressAccessKey(char32_t letter) {
     if (window->TabStop()) window->SetFocus();
     if (!watch.Gone()) window->PressByKey();
     return;
+  }
+}
+
+void Form::ChangeTab(int step) {
+  for (Window* window : Reachable()) {
+    if (window->Keys().HasTabs) return window->ChangeTab(step);
   }
 }
 

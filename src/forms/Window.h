@@ -107,6 +107,8 @@ class Window : public Control, protected WindowEvents {
   virtual void PressByKey() {}
   /// An arrow goes on or back in the group of this window.
   virtual void MoveInGroup(int /*step*/) {}
+  /// Goes on or back by tabs, where there are some.
+  virtual void ChangeTab(int /*step*/) {}
   /// Gives the focus to the first window inside that takes it.
   void FocusFirst();
   /// The Tab key brought the focus.

@@ -87,7 +87,7 @@ LRESULT Win32Control::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
     // The control shows first that it has the focus.
     const LRESULT answer = Default(message, wParam, lParam);
-    if (events_ != nullptr) TreatFocus(message, wParam, lParam);
+    if (events_ != nullptr && TellsFocus()) TreatFocus(message, wParam, lParam);
     return answer;
   }
   if (const auto answer = TreatFocus(message, wParam, lParam)) return *answer;

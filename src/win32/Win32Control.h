@@ -44,6 +44,8 @@ class Win32Control : public Win32Window {
   }
   LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam) override;
   [[nodiscard]] bool Muted() const noexcept { return muted_ > 0; }
+  /// False for a control that tells of the focus by a notification.
+  [[nodiscard]] virtual bool TellsFocus() const { return true; }
   /// A key or character of the control, or of a part of it. Nothing when the system is to have it.
   std::optional<LRESULT> TreatControlKeys(UINT message, WPARAM wParam, LPARAM lParam);
 

@@ -1,7 +1,12 @@
 #include "win32/Win32ControlMaker.h"
 
 #include "win32/Win32Button.h"
+#include "win32/Win32ComboBox.h"
+#include "win32/Win32ListBox.h"
+#include "win32/Win32ScrollBar.h"
+#include "win32/Win32TabStrip.h"
 #include "win32/Win32TextBox.h"
+#include "win32/Win32Tree.h"
 
 namespace corvelle::win32 {
 
@@ -30,6 +35,26 @@ std::unique_ptr<forms::TextBoxPeer> Win32ControlMaker::CreateTextBox(
     forms::TextBoxEvents& textEvents) {
   return Make<Win32TextBoxPeer>(
       system_, std::make_shared<Win32TextBox>(system_, style, textEvents), wanted, events);
+}
+
+std::unique_ptr<forms::ListBoxPeer> Win32ControlMaker::CreateListBox(const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::ListBoxEvents& listEvents) {
+  return Make<Win32ListBoxPeer>(system_, std::make_shared<Win32ListBox>(system_, listEvents), wanted, events);
+}
+
+std::unique_ptr<forms::ComboBoxPeer> Win32ControlMaker::CreateComboBox(const forms::PeerSpec& wanted, bool withEntry, forms::WindowEvents& events, forms::ComboBoxEvents& comboEvents) {
+  return Make<Win32ComboBoxPeer>(system_, std::make_shared<Win32ComboBox>(system_, withEntry, comboEvents), wanted, events);
+}
+
+std::unique_ptr<forms::ScrollBarPeer> Win32ControlMaker::CreateScrollBar(const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::ScrollBarEvents& scrollEvents) {
+  return Make<Win32ScrollBarPeer>(system_, std::make_shared<Win32ScrollBar>(system_, scrollEvents), wanted, events);
+}
+
+std::unique_ptr<forms::TabStripPeer> Win32ControlMaker::CreateTabStrip(const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::TabStripEvents& tabEvents) {
+  return Make<Win32TabStripPeer>(system_, std::make_shared<Win32TabStrip>(system_, tabEvents), wanted, events);
+}
+
+std::unique_ptr<forms::TreePeer> Win32ControlMaker::CreateTree(const forms::PeerSpec& wanted, const forms::TreeStyle& style, forms::WindowEvents& events, forms::TreeEvents& treeEvents) {
+  return Make<Win32TreePeer>(system_, std::make_shared<Win32Tree>(system_, style, treeEvents), wanted, events);
 }
 
 }  // namespace corvelle::win32

@@ -19,6 +19,22 @@ class Win32ControlMaker final : public forms::ControlMaker {
                                                     const forms::TextBoxStyle& style,
                                                     forms::WindowEvents& events,
                                                     forms::TextBoxEvents& textEvents) override;
+  std::unique_ptr<forms::ListBoxPeer> CreateListBox(const forms::PeerSpec& wanted,
+                                                    forms::WindowEvents& events,
+                                                    forms::ListBoxEvents& listEvents) override;
+  std::unique_ptr<forms::ComboBoxPeer> CreateComboBox(const forms::PeerSpec& wanted, bool withEntry,
+                                                      forms::WindowEvents& events,
+                                                      forms::ComboBoxEvents& comboEvents) override;
+  std::unique_ptr<forms::ScrollBarPeer> CreateScrollBar(
+      const forms::PeerSpec& wanted, forms::WindowEvents& events,
+      forms::ScrollBarEvents& scrollEvents) override;
+  std::unique_ptr<forms::TabStripPeer> CreateTabStrip(const forms::PeerSpec& wanted,
+                                                      forms::WindowEvents& events,
+                                                      forms::TabStripEvents& tabEvents) override;
+  std::unique_ptr<forms::TreePeer> CreateTree(const forms::PeerSpec& wanted,
+                                              const forms::TreeStyle& style,
+                                              forms::WindowEvents& events,
+                                              forms::TreeEvents& treeEvents) override;
 
  private:
   Win32WindowSystem& system_;

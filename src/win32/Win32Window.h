@@ -24,7 +24,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   [[nodiscard]] bool Create(const forms::PeerSpec& wanted);
   /// From now on the window tells `events` what happens to it; null for silence.
   void Tell(forms::WindowEvents* events) noexcept { events_ = events; }
-  void Destroy();
+  virtual void Destroy();
 
   HWND Handle() const noexcept { return handle_; }
   /// Whom it tells; null for silence.

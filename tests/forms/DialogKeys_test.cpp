@@ -21,7 +21,8 @@ constexpr KeyFacts kManyLines{.Wants = {.Arrows = true,
                                         .Typing = true,
                                         .Enter = true,
                                         .Tab = true}};
-constexpr KeyFacts kTree{.Wants = {.Arrows = true, .Paging = true, .Typing = true}};
+constexpr KeyFacts kTree{
+    .Wants = {.Arrows = true, .Paging = true, .Typing = true, .Function = key::F2}};
 constexpr KeyFacts kOpenList{
     .Wants = {.Arrows = true, .Paging = true, .Enter = true, .Escape = true}};
 constexpr KeyFacts kPicture{};
@@ -82,6 +83,12 @@ TEST(DialogKeys, WhoDealsWithAKey) {
       {"Alt+Space is the window's menu", key::Space, kAlt, with(kButton), Control},
       {"Alt+F4 is the window's end", key::F4, kAlt, with(kText), Control},
       {"F5 in a text", key::F5, kPlain, with(kText), Form},
+      {"F2 in a tree", key::F2, kPlain, with(kTree), Control},
+      {"Ctrl+Tab beside tabs", key::Tab, kCtrl, {.Focus = kText, .HasTabs = true}, NextTab},
+      {"back", key::Tab, {.Shift = true, .Ctrl = true}, {.HasTabs = true}, PreviousTab},
+      {"Ctrl+PageDown beside tabs", key::PageDown, kCtrl, {.Focus = kText, .HasTabs = true},
+       NextTab},
+      {"PageDown by itself", key::PageDown, kPlain, {.Focus = kText, .HasTabs = true}, Control},
       {"Ctrl by itself", key::Ctrl, kCtrl, with(kText), Form},
   };
   for (const Row& row : rows) {

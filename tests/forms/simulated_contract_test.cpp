@@ -3,6 +3,11 @@
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/TreeContract.h"
+#include "forms/TabStripContract.h"
+#include "forms/ScrollBarContract.h"
+#include "forms/ComboBoxContract.h"
+#include "forms/ListBoxContract.h"
 #include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
 #include "forms/PostContract.h"
@@ -61,6 +66,16 @@ INSTANTIATE_TEST_SUITE_P(Simulated, ControlContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, ButtonsContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, TextBoxContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ListBoxContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ComboBoxContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ScrollBarContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, TabStripContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, TreeContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

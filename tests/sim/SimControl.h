@@ -27,6 +27,8 @@ class SimControl {
   virtual void CaptureLost() {}
   virtual void Key(int /*keyCode*/, forms::ShiftState /*shift*/) {}
   virtual void Character(char32_t /*character*/) {}
+  /// True while the keys are a part's of it: neither the rules of dialogs nor the form see them.
+  [[nodiscard]] virtual bool TakesAllKeys() const { return false; }
   /// True uses the wheel up.
   virtual bool Wheel(int /*delta*/) { return false; }
   virtual void Focus(bool /*gained*/) {}

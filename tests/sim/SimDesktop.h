@@ -155,6 +155,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void WhileRunning(std::function<void()> script) { runScript_ = std::move(script); }
   bool QuitCalled() const noexcept { return quit_; }
 
+  /// For controls: runs after the user's action that is being carried out.
+  void AfterEvent(std::function<void()> action) { afterEvent_.push_back(std::move(action)); }
   /// The text that was cut or copied last, by whichever program.
   std::string& Clipboard() noexcept { return clipboard_; }
 
@@ -369,6 +371,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   PixelPoint hotSpot_;
   std::deque<std::function<void()>> events_;
   forms::PostedWork postedWork_;
+  std::deque<std::function<void()>> afterEvent_;  // before the next of them
   int depth_ = 0;  // handlers that are running
   int loops_ = 0;  // loops that run inside each other
   int deepestLoops_ = 0;

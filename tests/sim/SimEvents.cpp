@@ -30,9 +30,10 @@ void SimDesktop::Pump() {
 
 void SimDesktop::RunWaiting() {
   for (int count = 0; count < kEndlessLoop; ++count) {
-    if (!events_.empty()) {
-      const std::function<void()> event = std::move(events_.front());
-      events_.pop_front();
+    std::deque<std::function<void()>>& next = !afterEvent_.empty() ? afterEvent_ : events_;
+    if (!next.empty()) {
+      const std::function<void()> event = std::move(next.front());
+      next.pop_front();
       ++depth_;
       event();
       --depth_;

@@ -215,7 +215,8 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   const WindowId target = at->Id;
   if (at->Control == nullptr) return at->Events->OnKeyDown(virtualKey, shift);
   usedUp_ = false;
-  const bool used = at->Events->OnControlKey(virtualKey, shift);
+  const bool used =
+      !at->Control->TakesAllKeys() && at->Events->OnControlKey(virtualKey, shift);
   usedUp_ = used;
   at = Look(target);
   if (!used && at != nullptr && at->Control != nullptr) at->Control->Key(virtualKey, shift);
@@ -227,9 +228,12 @@ void SimDesktop::DeliverCharacter(char32_t character) {
   if (at == nullptr) return;
   const WindowId target = at->Id;
   if (at->Control == nullptr) return at->Events->OnKeyPress(character);
-  const bool used = at->Events->OnControlCharacter(character) || usedUp_;
+  const bool keep = usedUp_;
+  const bool used =
+      !at->Control->TakesAllKeys() && at->Events->OnControlCharacter(character);
+  if (used || keep) return;
   at = Look(target);
-  if (!used && at != nullptr && at->Control != nullptr) at->Control->Character(character);
+  if (at != nullptr && at->Control != nullptr) at->Control->Character(character);
 }
 
 }  // namespace corvelle::sim

@@ -7,6 +7,11 @@
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/TreeContract.h"
+#include "forms/TabStripContract.h"
+#include "forms/ScrollBarContract.h"
+#include "forms/ComboBoxContract.h"
+#include "forms/ListBoxContract.h"
 #include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
 #include "forms/PostContract.h"
@@ -80,6 +85,16 @@ INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
 INSTANTIATE_TEST_SUITE_P(Windows, ButtonsContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 INSTANTIATE_TEST_SUITE_P(Windows, TextBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ListBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ComboBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ScrollBarContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TabStripContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TreeContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
