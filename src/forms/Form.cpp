@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "forms/Scale.h"
+
 namespace corvelle::forms {
 
 Form::Form(WindowSystem& windows, std::string name, BorderStyle border, bool inTaskbar)
@@ -9,16 +11,60 @@ Form::Form(WindowSystem& windows, std::string name, BorderStyle border, bool inT
   AdoptVisible(false);
 }
 
-Form::~Form() { DestroyWindows(); }
+Form::~Form() {
+  if (blocked_ != nullptr) blocked_->SetEnabled(true);
+  DestroyWindows();
+}
 
 std::unique_ptr<WindowPeer> Form::NewPeer(WindowPeer* /*parent*/) {
   PeerSpec spec = SpecIn(nullptr);
   spec.InTaskbar = inTaskbar_;
+  spec.Frame = Frame();
+  spec.MinimizeBox = minimizeBox_;
+  spec.Owner = owner_ != nullptr ? owner_->Peer() : nullptr;
   return Windows().CreatePeer(spec, *this);
 }
 
 void Form::PeerMade() {
   if (!caption_.empty()) Peer()->SetCaption(caption_);
+  SetLeastSize(leastWidth_, leastHeight_);
+}
+
+FrameStyle Form::Frame() const noexcept {
+  if (border_ == BorderStyle::Fixed) return FrameStyle::Fixed;
+  return border_ == BorderStyle::Sizable ? FrameStyle::Sizable : FrameStyle::None;
+}
+
+FrameMargins Form::Margins() const { return Windows().MarginsOf(Frame()); }
+
+void Form::SetLeastSize(float width, float height) {
+  leastWidth_ = width;
+  leastHeight_ = height;
+  if (Peer() == nullptr || Frame() != FrameStyle::Sizable) return;
+  Peer()->SetLeastSize(ToPixels(0, 0, width, height, Windows().Screen()).Size());
+}
+
+void Form::Center() {
+  const ScreenInfo screen = Windows().Screen();
+  Move((screen.Width - Width()) / 2, (screen.Height - Height()) / 2, Width(), Height());
+}
+
+void Form::ShowModalTo(Form& owner) {
+  SetOwner(&owner);
+  if (!Load()) return;
+  blocked_ = &owner;
+  Show();
+  // Last, so that the foreground has gone to this form.
+  if (blocked_ == &owner) owner.SetEnabled(false);
+}
+
+// The owner takes input again before this form goes: the system looks for the next active window
+// then.
+void Form::ReleaseOwner() {
+  if (blocked_ == nullptr) return;
+  Form& owner = *std::exchange(blocked_, nullptr);
+  owner.SetEnabled(true);
+  if (owner.Visible()) owner.SetForeground();
 }
 
 bool Form::Load() {
@@ -41,6 +87,7 @@ void Form::Unload() {
   if (watch.Gone()) return;
   loaded_ = false;
   AdoptVisible(false);
+  ReleaseOwner();
   DestroyWindows();
   unloading_ = false;
 }
@@ -81,6 +128,7 @@ void Form::VisibleChanged() {
     AdoptVisible(false);
     Show();
   } else if (Peer() != nullptr) {
+    ReleaseOwner();
     Peer()->Show(ShowKind::Hidden);
   }
 }

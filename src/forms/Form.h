@@ -12,6 +12,9 @@ namespace corvelle::forms {
 enum class BorderStyle {
   None,
   Raised,  // a raised frame of three pixels, as menus have it
+  // Frames of the system, with a caption and a close box.
+  Fixed,
+  Sizable
 };
 
 /// A top-level window. It is made unloaded and invisible; Load makes its window, hidden, and calls
@@ -40,6 +43,19 @@ class Form : public Surface {
   void Minimize();
   void RestoreWindow();
   [[nodiscard]] bool IsMinimized() const;
+
+  // Of a form with a frame of the system. The first two are for before it is loaded.
+  void SetMinimizeBox(bool minimizeBox) noexcept { minimizeBox_ = minimizeBox; }
+  /// The form stays in front of its owner, which outlives it, and shows no button of its own in the
+  /// task bar.
+  void SetOwner(Form* owner) noexcept { owner_ = owner; }
+  /// The user cannot make the form smaller; twips of the whole window.
+  void SetLeastSize(float width, float height);
+  /// Shows the form in front of `owner`, which takes no input until the form is hidden or unloaded,
+  /// and has the foreground again then. Returns at once.
+  void ShowModalTo(Form& owner);
+  /// Puts the form in the middle of the screen.
+  void Center();
 
   /// Makes the form the foreground window, if the system lets it.
   void SetForeground();
@@ -76,6 +92,7 @@ class Form : public Surface {
   }
 
   int BorderPixels() const noexcept override { return border_ == BorderStyle::Raised ? 3 : 0; }
+  FrameMargins Margins() const override;
 
   std::unique_ptr<WindowPeer> NewPeer(WindowPeer* parent) override;
   void PeerMade() override;
@@ -107,7 +124,15 @@ class Form : public Surface {
 
   void ShowAs(ShowKind kind);
 
+  [[nodiscard]] FrameStyle Frame() const noexcept;
+  void ReleaseOwner();
+
   std::string caption_;
+  Form* owner_ = nullptr;
+  Form* blocked_ = nullptr;  // the owner while this form is modal to it
+  float leastWidth_ = 0;
+  float leastHeight_ = 0;
+  bool minimizeBox_ = false;
   BorderStyle border_;
   bool inTaskbar_;
   bool loaded_ = false;

@@ -85,6 +85,8 @@ class Surface : public Window {
   /// Pixels of border on each side that the surface paints itself; 0 for most.
   [[nodiscard]] virtual int BorderPixels() const noexcept { return 0; }
 
+  /// What the system's frame takes of the bounds.
+  [[nodiscard]] virtual FrameMargins Margins() const { return {}; }
   PixelPoint InsideOrigin() const noexcept override { return {BorderPixels(), BorderPixels()}; }
 
   void OnMouseDown(MouseButton button, ShiftState shift, PixelPoint at) override;
@@ -108,6 +110,8 @@ class Surface : public Window {
   /// The graphic will get no more of the press that is going on.
   void DropCapture(const Graphic& graphic) noexcept;
 
+  /// Without the system's frame, and without the surface's own border too.
+  [[nodiscard]] PixelSize WindowSize() const;
   [[nodiscard]] PixelSize InsideSize() const;
   [[nodiscard]] Graphic* GraphicAt(PixelPoint inside) const;
   /// Who gets a mouse event at a point of the window: a graphic, or null for the surface itself.

@@ -74,6 +74,10 @@ inline constexpr OleColor TooltipFace = 0x80000018;
 /// picture given last to WindowSystem::SetMouseIcon.
 enum class MousePointer { Default = 0, Hourglass = 11, NoDrop = 12, Custom = 99 };
 
+/// The frame that the system puts around a form: none, one with a caption and a close box, or one
+/// that can be sized too.
+enum class FrameStyle { None, Fixed, Sizable };
+
 enum class ZPlace { Front, Back };
 
 /// Where SetWindowPos puts a window in the Z order.

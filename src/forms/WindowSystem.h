@@ -10,6 +10,7 @@
 
 #include "base/Geometry.h"
 #include "forms/DragDrop.h"
+#include "forms/FileDialogs.h"
 #include "forms/PopupMenu.h"
 #include "forms/Types.h"
 #include "platform/Canvas.h"
@@ -128,6 +129,8 @@ class WindowPeer {
   virtual void SetForeground() = 0;
   virtual void SetZOrder(ZPlace place) = 0;
   virtual void SetWindowPos(InsertAfter after, unsigned flags) = 0;
+  /// Of a form that the user can size: he cannot make it smaller than this. The program can.
+  virtual void SetLeastSize(PixelSize size) = 0;
 
   /// A canvas on the window's pixels on the screen, for drawing that the next paint wipes out;
   /// null while the window is not visible.
@@ -149,6 +152,19 @@ struct PeerSpec {
   // A picture box that keys reach by the rules of dialogs: a press on it takes the focus.
   bool TabStop = false;
   bool InTaskbar = false;  // a form that shows a button in the task bar when it is visible
+  FrameStyle Frame = FrameStyle::None;
+  bool MinimizeBox = false;     // in the frame
+  WindowPeer* Owner = nullptr;  // of a form with a frame: it stays in front of its owner
+};
+
+/// Pixels of a frame on each side of the inside.
+struct FrameMargins {
+  int Left = 0;
+  int Top = 0;
+  int Right = 0;
+  int Bottom = 0;
+
+  friend bool operator==(const FrameMargins&, const FrameMargins&) = default;
 };
 
 /// What a window shows, and where it stands on the screen.
@@ -169,6 +185,10 @@ class WindowSystem {
   /// Makes a hidden window that reports to `events`, which outlives the peer. Null when the system
   /// refuses.
   virtual std::unique_ptr<WindowPeer> CreatePeer(const PeerSpec& wanted, WindowEvents& events) = 0;
+
+  /// How wide the system's frame is. Points of a window count from its inside, its bounds are those
+  /// of the frame.
+  [[nodiscard]] virtual FrameMargins MarginsOf(FrameStyle frame) const = 0;
 
   /// Makes the controls that the system draws and works.
   virtual ControlMaker& Controls() = 0;
@@ -228,11 +248,17 @@ class WindowSystem {
   virtual int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                           unsigned flags) = 0;
 
+  /// The system's dialogs for files that are there, and for a folder. The owner takes no input, and
+  /// events run, while one is up.
+  virtual FileChoice AskFiles(WindowId owner, const FileQuestion& question) = 0;
+  virtual FolderChoice AskFolder(WindowId owner, const FolderQuestion& question) = 0;
+
   /// Shows the visible ones of `items` as a popup menu, its upper left corner at a point of the
   /// screen (pixels) or beside it where there is no room. The owner, a top-level window of ours,
   /// comes to the foreground first, so that a click elsewhere closes the popup. Events run while it
-  /// is up; the end of its owner or of the program closes it. Returns the index in `items` of what
-  /// was chosen, popup::kNothing when nothing was or the popup could not be shown.
+  /// is up; the end of its owner or of the program closes it. Returns the number of what was
+  /// chosen, counting all lines from 0, each before the lines of its own menu; popup::kNothing when
+  /// nothing was or the popup could not be shown.
   virtual int ShowPopup(WindowId owner, const std::vector<PopupItem>& items, PixelPoint at,
                         unsigned flags) = 0;
 };

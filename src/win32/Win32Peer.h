@@ -66,6 +66,7 @@ class Win32PeerOf : public Interface {
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
     core_.SetWindowPos(after, flags);
   }
+  void SetLeastSize(PixelSize size) override { core_.Window().SetLeastSize(size); }
   std::unique_ptr<Canvas> ScreenCanvas() override { return core_.ScreenCanvas(); }
 
  protected:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <utility>
 
 #include "win32/CommonControls.h"
@@ -535,7 +536,7 @@ PixelRect Win32TreePeer::RowRect(NodeId node) const {
   const HTREEITEM item = Window().ItemOf(node);
   RECT rect{};
   // The question is put in the place of the answer.
-  *reinterpret_cast<HTREEITEM*>(&rect) = item;
+  std::memcpy(&rect, &item, sizeof(item));
   if (item == nullptr ||
       SendMessageW(Handle(), TVM_GETITEMRECT, FALSE, reinterpret_cast<LPARAM>(&rect)) == 0) {
     return {};

@@ -21,11 +21,20 @@ struct WindowStyle {
 WindowStyle StyleOf(const forms::PeerSpec& wanted) {
   if (wanted.Kind == forms::PeerKind::PictureBox)
     return {WS_CHILD | WS_CLIPSIBLINGS, WS_EX_NOPARENTNOTIFY};
+  if (wanted.Frame != forms::FrameStyle::None) {
+    const DWORD style = FrameStyleOf(wanted.Frame) | (wanted.MinimizeBox ? WS_MINIMIZEBOX : 0U);
+    return {style | WS_CLIPCHILDREN, wanted.InTaskbar ? WS_EX_APPWINDOW : 0U};
+  }
   if (!wanted.InTaskbar) return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW};
   return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, WS_EX_APPWINDOW};
 }
 
 }  // namespace
+
+DWORD FrameStyleOf(forms::FrameStyle frame) noexcept {
+  const DWORD fixed = WS_CAPTION | WS_SYSMENU;
+  return frame == forms::FrameStyle::Sizable ? fixed | WS_THICKFRAME : fixed;
+}
 
 bool Win32Window::RegisterClassNamed(const wchar_t* name) {
   WNDCLASSEXW known{};
@@ -44,10 +53,12 @@ bool Win32Window::RegisterClassNamed(const wchar_t* name) {
 
 bool Win32Window::Create(const forms::PeerSpec& wanted) {
   tabStop_ = wanted.TabStop;
+  frame_ = wanted.Frame;
   const std::wstring name = Wide(wanted.ClassName);
   if (!RegisterClassNamed(name.c_str())) return false;
   const WindowStyle style = StyleOf(wanted);
-  const HWND owner = IsForm() && !wanted.InTaskbar ? system_.ToolOwner() : nullptr;
+  HWND owner = IsForm() && !wanted.InTaskbar ? system_.ToolOwner() : nullptr;
+  if (wanted.Owner != nullptr) owner = ToHwnd(wanted.Owner->Id());
   const HWND parent = wanted.Parent != nullptr ? ToHwnd(wanted.Parent->Id()) : owner;
   told_ = wanted.Bounds;
   const HWND made = CreateWindowExW(style.ExStyle, name.c_str(), L"", style.Style,

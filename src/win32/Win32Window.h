@@ -33,6 +33,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   [[nodiscard]] bool SetTakesDrops(bool takesDrops);
   [[nodiscard]] bool IsForm() const noexcept { return kind_ == forms::PeerKind::Form; }
 
+  void SetLeastSize(PixelSize size) noexcept { leastSize_ = size; }
   /// One of ours; null for any other window.
   static Win32Window* Of(HWND handle) noexcept;
   /// True for a child that may get the focus when its form becomes active for the first time. A
@@ -86,10 +87,15 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   static bool RegisterClassNamed(const wchar_t* name);
 
   forms::PeerKind kind_;
+  forms::FrameStyle frame_ = forms::FrameStyle::None;
+  PixelSize leastSize_{1, 1};
   bool tabStop_ = false;
   bool pressed_ = false;       // it took the mouse with a press
   HWND focus_ = nullptr;       // the child that had the focus last
   wchar_t highSurrogate_ = 0;  // the first half of a character that is not complete yet
 };
+
+/// The style bits of a frame of the system.
+[[nodiscard]] DWORD FrameStyleOf(forms::FrameStyle frame) noexcept;
 
 }  // namespace corvelle::win32

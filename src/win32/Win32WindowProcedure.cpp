@@ -114,6 +114,11 @@ LRESULT Win32Window::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
 // The window itself.
 
 std::optional<LRESULT> Win32Window::TreatFrame(UINT message, WPARAM wParam, LPARAM lParam) {
+  // A frame of the system is the system's.
+  if (frame_ != forms::FrameStyle::None &&
+      (message == WM_NCCALCSIZE || message == WM_NCPAINT || message == WM_NCACTIVATE)) {
+    return std::nullopt;
+  }
   switch (message) {
     case WM_NCCALCSIZE:
       // The inside is the whole window: forms paint their own frames.
@@ -127,7 +132,8 @@ std::optional<LRESULT> Win32Window::TreatFrame(UINT message, WPARAM wParam, LPAR
     case WM_GETMINMAXINFO: {
       // A form can be smaller than a caption with its buttons.
       const LRESULT answer = Default(message, wParam, lParam);
-      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {1, 1};
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {leastSize_.width,
+                                                               leastSize_.height};
       return answer;
     }
     case WM_PRINTCLIENT:

@@ -21,6 +21,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
 
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame) const override;
   forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
@@ -42,6 +43,8 @@ class Win32WindowSystem final : public forms::WindowSystem {
   std::int64_t Now() const override;
   int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                   unsigned flags) override;
+  forms::FileChoice AskFiles(WindowId owner, const forms::FileQuestion& question) override;
+  forms::FolderChoice AskFolder(WindowId owner, const forms::FolderQuestion& question) override;
   int ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& items, PixelPoint at,
                 unsigned flags) override;
 

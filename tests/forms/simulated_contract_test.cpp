@@ -3,6 +3,7 @@
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/FrameContract.h"
 #include "forms/TreeContract.h"
 #include "forms/TabStripContract.h"
 #include "forms/ScrollBarContract.h"
@@ -76,6 +77,8 @@ INSTANTIATE_TEST_SUITE_P(Simulated, ScrollBarContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, TabStripContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, TreeContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, FrameContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

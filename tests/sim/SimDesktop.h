@@ -138,6 +138,21 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   int UnexpectedBoxes() const noexcept { return unexpectedBoxes_; }
   int AnswersLeft() const noexcept { return static_cast<int>(answers_.size()); }
 
+  // File and folder dialogs. The running test fails when one comes up that has no answer.
+  void ChooseFiles(std::vector<std::string> paths) { fileChoices_.push_back({std::move(paths)}); }
+  void ChooseFolder(std::string path) {
+    folderChoices_.push_back({.Chosen = true, .Path = std::move(path)});
+  }
+  void ChooseFolder(forms::FolderChoice choice) { folderChoices_.push_back(std::move(choice)); }
+  void CancelFiles() { fileChoices_.emplace_back(); }
+  void CancelFolder() { folderChoices_.emplace_back(); }
+  /// Runs while each file or folder dialog is up.
+  void WhileDialogIsUp(std::function<void()> action) { dialogAction_ = std::move(action); }
+  const std::vector<forms::FileQuestion>& FileQuestions() const noexcept { return fileQuestions_; }
+  const std::vector<forms::FolderQuestion>& FolderQuestions() const noexcept {
+    return folderQuestions_;
+  }
+
   // Popup menus. One that nothing is chosen from goes away when its action is over, as by a click
   // elsewhere. While it is up it gets the mouse and the keyboard; a press outside of it, Esc,
   // another window in the foreground and the end of its owner close it.
@@ -191,6 +206,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   // forms::WindowSystem
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame) const override;
   forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
@@ -215,6 +231,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::int64_t Now() const override { return clock_.Now(); }
   int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                   unsigned flags) override;
+  forms::FileChoice AskFiles(WindowId owner, const forms::FileQuestion& question) override;
+  forms::FolderChoice AskFolder(WindowId owner, const forms::FolderQuestion& question) override;
   int ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& items, PixelPoint at,
                 unsigned flags) override;
   /// The system refuses the next window that is asked for.
@@ -292,6 +310,18 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   bool FirstToProcedure(WindowId window, std::uint32_t message, std::uintptr_t wParam,
                         std::intptr_t lParam, std::intptr_t& answer);
 
+  template <class Act>
+  void WhileDialogIsUp(WindowId owner, std::string title, const Act& act);
+
+  // Frames of forms (SimFrame.cpp)
+  [[nodiscard]] PixelSize InsideOf(const SimWindow& window) const;
+  /// A press on a frame: the close and minimize boxes act, the caption moves, the right and bottom
+  /// sides size.
+  bool FramePressed(WindowId target, PixelPoint at);
+  bool FrameDragged(PixelPoint at);
+  bool FrameReleased(PixelPoint at);
+  void PaintFrame(SimCanvas& screen, const SimWindow& window) const;
+
   // Controls that the system works, and the focus (SimFocus.cpp)
   WindowId AddOwn(const forms::PeerSpec& wanted, forms::WindowEvents& events);
   void SetControl(WindowId window, SimControl* control);
@@ -359,6 +389,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId toldFocus_ = kNoWindow;  // who knows that it has the focus
   bool usedUp_ = false;             // the last key, and what it types with it
   WindowId capture_ = kNoWindow;
+  enum class FramePart { None, Caption, Close, Minimize, Right, Bottom, Corner };
+  [[nodiscard]] static FramePart FramePartAt(const SimWindow& window, PixelPoint at);
+  FramePart framePart_ = FramePart::None;  // that is pressed
+  WindowId framePressed_ = kNoWindow;
+  PixelPoint framePoint_;
+  PixelRect frameBounds_;
   bool foregroundLocked_ = false;
   bool refuseWindow_ = false;
   PixelPoint pointer_;
@@ -382,6 +418,11 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::function<void(const MessageBox&)> boxAction_;
   std::vector<MessageBox> boxes_;
   int unexpectedBoxes_ = 0;
+  std::deque<forms::FileChoice> fileChoices_;
+  std::deque<forms::FolderChoice> folderChoices_;
+  std::vector<forms::FileQuestion> fileQuestions_;
+  std::vector<forms::FolderQuestion> folderQuestions_;
+  std::function<void()> dialogAction_;
   std::deque<std::string> choices_;
   std::function<void(const Popup&)> popupAction_;
   std::vector<Popup> popups_;

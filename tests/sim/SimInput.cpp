@@ -135,7 +135,9 @@ WindowId SimDesktop::MouseTarget(PixelPoint at) const {
 
 PixelPoint SimDesktop::InWindow(WindowId window, PixelPoint at) const {
   const PixelRect bounds = BoundsOf(window);
-  return {at.x - bounds.left, at.y - bounds.top};
+  const SimWindow* const found = Look(window);
+  const forms::FrameMargins margins = found != nullptr ? found->Margins : forms::FrameMargins{};
+  return {at.x - bounds.left - margins.Left, at.y - bounds.top - margins.Top};
 }
 
 bool SimDesktop::PointerUnsettled() {
@@ -146,11 +148,13 @@ bool SimDesktop::PointerUnsettled() {
 
 void SimDesktop::DeliverMove(const Mouse& mouse) {
   if (drag_) return TrackDrag();
+  if (FrameDragged(mouse.At)) return;
   const WindowId target = MouseTarget(mouse.At);
   const SimWindow* at = Look(target);
   moveWindow_ = target;
   movePoint_ = InWindow(target, mouse.At);
   if (at == nullptr || at->Events == nullptr) return;
+  if (capture_ == kNoWindow && FramePartAt(*at, mouse.At) != FramePart::None) return;
   const PixelPoint inside = movePoint_;
   if (at->Control != nullptr) return at->Control->MouseMove(mouse.Down, inside);
   const auto place = static_cast<std::intptr_t>((static_cast<std::uint32_t>(inside.y) << 16) |
@@ -170,6 +174,7 @@ void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, boo
   if (capture_ == kNoWindow) Activate(TopOf(target));
   const SimWindow* at = Look(target);
   if (at == nullptr || at->Events == nullptr || !IsShown(target)) return;
+  if (button == forms::MouseButton::Left && FramePressed(target, mouse.At)) return;
   capture_ = target;
   if (ControlPressed(target, mouse, button, second)) return;
   const PixelPoint inside = InWindow(target, mouse.At);
@@ -187,7 +192,7 @@ void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, boo
 
 void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
   if (drag_ && button == drag_->Source.Button) return EndDrag(true);
-  if (popup_ != kNoWindow) return;
+  if (popup_ != kNoWindow || FrameReleased(mouse.At)) return;
   const WindowId target = MouseTarget(mouse.At);
   const bool wasHeld = capture_ == target;
   if (mouse.Down == forms::MouseButton::None) capture_ = kNoWindow;

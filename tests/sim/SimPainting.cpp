@@ -12,14 +12,14 @@ namespace corvelle::sim {
 void SimDesktop::Invalidate(WindowId window, const PixelRect& part) {
   SimWindow* at = Get(window);
   if (at == nullptr || !at->Own || !IsShown(window)) return;
-  const PixelSize size = at->Bounds.Size();
+  const PixelSize size = InsideOf(*at);
   at->Dirty = Union(at->Dirty, Intersect(part, {0, 0, size.width, size.height}));
 }
 
 void SimDesktop::InvalidateTree(WindowId window) {
   const SimWindow* at = Look(window);
   if (at == nullptr) return;
-  const PixelSize size = at->Bounds.Size();
+  const PixelSize size = InsideOf(*at);
   Invalidate(window, {0, 0, size.width, size.height});
   for (const WindowId child : at->Children) InvalidateTree(child);
 }
@@ -64,7 +64,10 @@ void SimDesktop::Compose(SimCanvas& screen, const SimWindow& window) const {
   if (!IsShown(window.Id)) return;
   const PixelRect bounds = BoundsOf(window.Id);
   if (window.Content) {
-    screen.DrawCanvas(*window.Content, {0, 0, bounds.Width(), bounds.Height()}, bounds.TopLeft());
+    const PixelSize inside = InsideOf(window);
+    PaintFrame(screen, window);
+    screen.DrawCanvas(*window.Content, {0, 0, inside.width, inside.height},
+                      {bounds.left + window.Margins.Left, bounds.top + window.Margins.Top});
   } else if (window.Id == desktopWindow_) {
     screen.FillBox(bounds, SystemColor(1));
   } else {

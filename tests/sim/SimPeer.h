@@ -64,6 +64,7 @@ class SimPeerOf : public Interface {
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
     core_.SetWindowPos(after, flags);
   }
+  void SetLeastSize(PixelSize size) override { core_.Window().LeastSize = size; }
   std::unique_ptr<Canvas> ScreenCanvas() override { return core_.ScreenCanvas(); }
 
  protected:

@@ -28,6 +28,10 @@ struct SimWindow {
   std::string Text;
   PixelRect Bounds;  // relative to the parent, or the screen
   PixelRect Told;    // the bounds that its events know
+  forms::FrameStyle Frame = forms::FrameStyle::None;
+  forms::FrameMargins Margins;  // of the frame
+  bool MinimizeBox = false;
+  PixelSize LeastSize{1, 1};
   bool Visible = false;
   bool Enabled = true;
   bool Topmost = false;

@@ -44,7 +44,8 @@ WindowId SimDesktop::Add(SimWindow window) {
   const WindowId id = ++lastId_;
   window.Id = id;
   window.Told = window.Bounds;
-  if (window.Own) window.Content = std::make_shared<SimCanvas>(window.Bounds.Size());
+  window.Margins = MarginsOf(window.Frame);
+  if (window.Own) window.Content = std::make_shared<SimCanvas>(InsideOf(window));
   const WindowId parent = window.Parent;
   windows_.emplace(id, std::move(window));
   if (parent == kNoWindow) {
@@ -65,7 +66,10 @@ WindowId SimDesktop::AddOwn(const forms::PeerSpec& wanted, forms::WindowEvents& 
                            .TabStop = wanted.TabStop,
                            .ClassName = wanted.ClassName,
                            .Bounds = wanted.Bounds,
-                           .InTaskbar = wanted.InTaskbar});
+                           .Frame = wanted.Frame,
+                           .MinimizeBox = wanted.MinimizeBox,
+                           .InTaskbar = wanted.InTaskbar,
+                           .HasOwner = wanted.Owner != nullptr});
   Note("create", *Get(id));
   return id;
 }
@@ -108,7 +112,7 @@ void SimDesktop::SetBounds(WindowId window, const PixelRect& bounds) {
   if (at->Bounds == bounds) return;
   at->Bounds = bounds;
   windowsMoved_ = true;
-  if (at->Content && at->Content->Size() != bounds.Size()) at->Content->Resize(bounds.Size());
+  if (at->Content && at->Content->Size() != InsideOf(*at)) at->Content->Resize(InsideOf(*at));
   // A window in the task bar tells where it is when it comes back.
   if (!at->Minimized) TellBounds(window);
 }

@@ -7,6 +7,7 @@
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/FrameContract.h"
 #include "forms/TreeContract.h"
 #include "forms/TabStripContract.h"
 #include "forms/ScrollBarContract.h"
@@ -95,6 +96,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, ScrollBarContract,
 INSTANTIATE_TEST_SUITE_P(Windows, TabStripContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 INSTANTIATE_TEST_SUITE_P(Windows, TreeContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, FrameContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
