@@ -19,8 +19,8 @@ class ComboBoxEvents {
   virtual void OnDropped(bool down) = 0;
 };
 
-/// The window of a combo box: a list that drops down, with an entry or without. It is as high as one
-/// line, whatever its bounds say. Rows count from 0; -1 is none.
+/// The window of a combo box: a list that drops down, with an entry or without. It is as high as
+/// one line, whatever its bounds say. Rows count from 0; -1 is none.
 class ComboBoxPeer : public WindowPeer {
  public:
   virtual void Insert(int at, std::string_view text) = 0;

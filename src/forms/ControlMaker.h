@@ -16,6 +16,8 @@ class ScrollBarEvents;
 class ScrollBarPeer;
 class TabStripEvents;
 class TabStripPeer;
+class ToolBarEvents;
+class ToolBarPeer;
 class TreeEvents;
 class TreePeer;
 struct TreeStyle;
@@ -47,11 +49,12 @@ class ControlMaker {
   virtual std::unique_ptr<ScrollBarPeer> CreateScrollBar(const PeerSpec& wanted,
                                                          WindowEvents& events,
                                                          ScrollBarEvents& scrollEvents) = 0;
-  virtual std::unique_ptr<TabStripPeer> CreateTabStrip(const PeerSpec& wanted,
-                                                       WindowEvents& events,
+  virtual std::unique_ptr<TabStripPeer> CreateTabStrip(const PeerSpec& wanted, WindowEvents& events,
                                                        TabStripEvents& tabEvents) = 0;
   virtual std::unique_ptr<TreePeer> CreateTree(const PeerSpec& wanted, const TreeStyle& style,
                                                WindowEvents& events, TreeEvents& treeEvents) = 0;
+  virtual std::unique_ptr<ToolBarPeer> CreateToolBar(const PeerSpec& wanted, WindowEvents& events,
+                                                     ToolBarEvents& toolEvents) = 0;
 };
 
 }  // namespace corvelle::forms

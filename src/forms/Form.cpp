@@ -28,6 +28,16 @@ std::unique_ptr<WindowPeer> Form::NewPeer(WindowPeer* /*parent*/) {
 void Form::PeerMade() {
   if (!caption_.empty()) Peer()->SetCaption(caption_);
   SetLeastSize(leastWidth_, leastHeight_);
+  if (!menu_.empty()) Peer()->SetMenuBar(menu_);
+}
+
+void Form::SetMenu(std::vector<PopupItem> items) {
+  const bool had = !menu_.empty();
+  menu_ = std::move(items);
+  if (Peer() == nullptr || Frame() == FrameStyle::None) return;
+  Peer()->SetMenuBar(menu_);
+  // The inside begins elsewhere.
+  if (had == menu_.empty()) Resized();
 }
 
 FrameStyle Form::Frame() const noexcept {
@@ -35,7 +45,7 @@ FrameStyle Form::Frame() const noexcept {
   return border_ == BorderStyle::Sizable ? FrameStyle::Sizable : FrameStyle::None;
 }
 
-FrameMargins Form::Margins() const { return Windows().MarginsOf(Frame()); }
+FrameMargins Form::Margins() const { return Windows().MarginsOf(Frame(), !menu_.empty()); }
 
 void Form::SetLeastSize(float width, float height) {
   leastWidth_ = width;

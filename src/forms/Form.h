@@ -51,6 +51,10 @@ class Form : public Surface {
   void SetOwner(Form* owner) noexcept { owner_ = owner; }
   /// The user cannot make the form smaller; twips of the whole window.
   void SetLeastSize(float width, float height);
+  /// The menu bar. A line with a key behind a tab in its caption ("&Save\tCtrl+S") is chosen by
+  /// that key too, when neither the control with the focus nor Form_KeyDown has a use for it.
+  void SetMenu(std::vector<PopupItem> items);
+  [[nodiscard]] const std::vector<PopupItem>& Menu() const noexcept { return menu_; }
   /// Shows the form in front of `owner`, which takes no input until the form is hidden or unloaded,
   /// and has the foreground again then. Returns at once.
   void ShowModalTo(Form& owner);
@@ -78,6 +82,10 @@ class Form : public Surface {
   virtual void Form_KeyDown(int /*keyCode*/, ShiftState /*shift*/) {}
   virtual void Form_KeyPress(char32_t /*character*/) {}
   virtual void Form_Resize() {}
+  /// A line of the menu bar was chosen; counted as ShowPopup counts.
+  virtual void Form_Menu(int /*line*/) {}
+  /// A menu of the bar is about to come up. SetMenu changes what it shows.
+  virtual void Form_MenuOpening(int /*line*/) {}
   virtual void Form_Activate() {}
   virtual void Form_Deactivate() {}
   /// The window is asked to close; as it stands, it unloads.
@@ -97,11 +105,13 @@ class Form : public Surface {
   std::unique_ptr<WindowPeer> NewPeer(WindowPeer* parent) override;
   void PeerMade() override;
   void VisibleChanged() override;
-  void OnKeyDown(int keyCode, ShiftState shift) override { Form_KeyDown(keyCode, shift); }
+  void OnKeyDown(int keyCode, ShiftState shift) override;
   void OnKeyPress(char32_t character) override { Form_KeyPress(character); }
   void Resized() override;
   void OnActivated(bool active) override;
   void OnClose() override { Form_QueryClose(); }
+  void OnMenuChosen(int line) override { Form_Menu(line); }
+  void OnMenuOpening(int line) override { Form_MenuOpening(line); }
   void OnSessionEnd() override { Form_SessionEnd(); }
   std::optional<std::intptr_t> OnMessage(std::uint32_t message, std::uintptr_t wParam,
                                          std::intptr_t lParam) override;
@@ -118,6 +128,8 @@ class Form : public Surface {
   /// All windows inside that can be seen and are enabled, each before what is inside it.
   [[nodiscard]] std::vector<Window*> Reachable() const;
   void MoveFocus(const Window& from, int step);
+  /// True when a line of the menu bar has this key.
+  bool PressAccelerator(int keyCode, ShiftState shift);
   void PressAccessKey(char32_t letter);
   void ChangeTab(int step) override;
   void PressFirst(bool KeyFacts::*fact);
@@ -130,6 +142,7 @@ class Form : public Surface {
   std::string caption_;
   Form* owner_ = nullptr;
   Form* blocked_ = nullptr;  // the owner while this form is modal to it
+  std::vector<PopupItem> menu_;
   float leastWidth_ = 0;
   float leastHeight_ = 0;
   bool minimizeBox_ = false;

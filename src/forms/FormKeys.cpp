@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "forms/Form.h"
+#include "forms/Menu.h"
 
 namespace corvelle::forms {
 
@@ -67,7 +68,12 @@ bool Form::Act(DialogAction action, Window& focus, int keyCode, ShiftState shift
     case DialogAction::Control:
       return false;
     case DialogAction::Form:
-      if (!keyPreview_) Form_KeyDown(keyCode, shift);
+      if (!keyPreview_) {
+        const Alive::Watch form = MakeWatch();
+        Form_KeyDown(keyCode, shift);
+        if (form.Gone() || !loaded_) return kUsedUp;
+      }
+      if (PressAccelerator(keyCode, shift)) return kUsedUp;
       // What Alt does is the system's too, in the form's own menus.
       return !shift.Alt;
     case DialogAction::NextControl:
@@ -132,6 +138,20 @@ bool Form::ControlCharacter(Window& focus, char32_t character) {
       break;
   }
   return kUsedUp;
+}
+
+void Form::OnKeyDown(int keyCode, ShiftState shift) {
+  const Alive::Watch form = MakeWatch();
+  Form_KeyDown(keyCode, shift);
+  if (!form.Gone() && loaded_) PressAccelerator(keyCode, shift);
+}
+
+bool Form::PressAccelerator(int keyCode, ShiftState shift) {
+  if (menu_.empty()) return false;
+  const int line = LineOf(menu_, {.KeyCode = keyCode, .Shift = shift});
+  if (line == popup::kNothing) return false;
+  Form_Menu(line);
+  return true;
 }
 
 void Form::MoveFocus(const Window& from, int step) {

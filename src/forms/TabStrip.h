@@ -9,9 +9,9 @@
 
 namespace corvelle::forms {
 
-/// Tabs with keys of the program's own. The pages are other windows, which the handler of Click shows
-/// and hides. Ctrl+Tab and Ctrl with PageUp or PageDown change the tab wherever the focus is in the
-/// form.
+/// Tabs with keys of the program's own. The pages are other windows, which the handler of Click
+/// shows and hides. Ctrl+Tab and Ctrl with PageUp or PageDown change the tab wherever the focus is
+/// in the form.
 class TabStrip final : public SystemControl, private TabStripEvents {
  public:
   TabStrip(Window& container, std::string name) : SystemControl(container, std::move(name)) {}

@@ -29,8 +29,8 @@ class TextBoxEvents {
   virtual void OnTextChanged() = 0;
 };
 
-/// The window of a text box. Cutting, pasting, undoing and replacing are what the user does, and are
-/// told; they do nothing when the box is read-only.
+/// The window of a text box. Cutting, pasting, undoing and replacing are what the user does, and
+/// are told; they do nothing when the box is read-only.
 class TextBoxPeer : public WindowPeer {
  public:
   virtual void SetText(std::string_view text) = 0;

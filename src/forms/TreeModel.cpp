@@ -32,9 +32,9 @@ NodeId TreeModel::Insert(NodeId parent, NodeId before, NodeLook look) {
   std::vector<NodeId>* const siblings = ChildrenToWrite(parent);
   if (siblings == nullptr) return kNoNode;
   const NodeId id = ++last_;
-  siblings->insert(before != kNoNode ? std::find(siblings->begin(), siblings->end(), before)
-                                     : siblings->end(),
-                   id);
+  siblings->insert(
+      before != kNoNode ? std::find(siblings->begin(), siblings->end(), before) : siblings->end(),
+      id);
   nodes_.emplace(id, Node{.Parent = parent, .Look = std::move(look)});
   return id;
 }
@@ -62,15 +62,16 @@ bool TreeModel::Move(NodeId node, NodeId parent, NodeId before) {
   std::vector<NodeId>* const siblings = ChildrenToWrite(parent);
   if (siblings == nullptr) return false;
   std::erase(*ChildrenToWrite(Parent(node)), node);
-  siblings->insert(before != kNoNode ? std::find(siblings->begin(), siblings->end(), before)
-                                     : siblings->end(),
-                   node);
+  siblings->insert(
+      before != kNoNode ? std::find(siblings->begin(), siblings->end(), before) : siblings->end(),
+      node);
   Find(node)->Parent = parent;
   return true;
 }
 
 void TreeModel::SetOrder(NodeId parent, std::vector<NodeId> children) {
-  if (std::vector<NodeId>* const siblings = ChildrenToWrite(parent)) *siblings = std::move(children);
+  if (std::vector<NodeId>* const siblings = ChildrenToWrite(parent))
+    *siblings = std::move(children);
 }
 
 NodeId TreeModel::Parent(NodeId node) const {

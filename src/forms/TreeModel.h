@@ -19,8 +19,8 @@ class TreeModel {
     bool Expanded = false;
   };
 
-  /// In front of `before`, which is a child of `parent`, or as the last one. kNoNode when the parent
-  /// is not there.
+  /// In front of `before`, which is a child of `parent`, or as the last one. kNoNode when the
+  /// parent is not there.
   NodeId Insert(NodeId parent, NodeId before, NodeLook look);
   /// With all below it.
   void Remove(NodeId node);

@@ -17,9 +17,9 @@ inline constexpr NodeId kNoNode = 0;
 /// What a node looks like.
 struct NodeLook {
   std::string Text;
-  int Image = -1;     // in the order in which images were added; -1 for none
+  int Image = -1;  // in the order in which images were added; -1 for none
   bool Dimmed = false;
-  int Overlay = 0;    // 1 to 15: an image declared by SetOverlay, over the other
+  int Overlay = 0;  // 1 to 15: an image declared by SetOverlay, over the other
   bool Checked = false;
 
   friend bool operator==(const NodeLook&, const NodeLook&) = default;

@@ -137,9 +137,7 @@ void TreeView::EnsureVisible(NodeId node) {
   if (Own() != nullptr && nodes_.Has(node)) Own()->EnsureVisible(node);
 }
 
-NodeId TreeView::FirstVisible() const {
-  return Own() != nullptr ? Own()->FirstVisible() : kNoNode;
-}
+NodeId TreeView::FirstVisible() const { return Own() != nullptr ? Own()->FirstVisible() : kNoNode; }
 
 void TreeView::SetFirstVisible(NodeId node) {
   if (Own() != nullptr && nodes_.Has(node)) Own()->SetFirstVisible(node);

@@ -72,6 +72,10 @@ class WindowEvents {
   virtual void OnActivated(bool active) = 0;
   /// The user or another program asks the window to close; the form decides.
   virtual void OnClose() = 0;
+  /// The user chose a line of the form's menu bar, with its number (see ShowPopup), or a menu of it
+  /// comes up, with the number of its line; the lines may be changed then.
+  virtual void OnMenuChosen(int /*line*/) {}
+  virtual void OnMenuOpening(int /*line*/) {}
   /// The session of Windows ends now; all must be saved when this returns.
   virtual void OnSessionEnd() = 0;
 
@@ -131,6 +135,8 @@ class WindowPeer {
   virtual void SetWindowPos(InsertAfter after, unsigned flags) = 0;
   /// Of a form that the user can size: he cannot make it smaller than this. The program can.
   virtual void SetLeastSize(PixelSize size) = 0;
+  /// The menu bar of a form in a frame of the system; without lines there is none.
+  virtual void SetMenuBar(const std::vector<PopupItem>& items) = 0;
 
   /// A canvas on the window's pixels on the screen, for drawing that the next paint wipes out;
   /// null while the window is not visible.
@@ -188,7 +194,7 @@ class WindowSystem {
 
   /// How wide the system's frame is. Points of a window count from its inside, its bounds are those
   /// of the frame.
-  [[nodiscard]] virtual FrameMargins MarginsOf(FrameStyle frame) const = 0;
+  [[nodiscard]] virtual FrameMargins MarginsOf(FrameStyle frame, bool menuBar) const = 0;
 
   /// Makes the controls that the system draws and works.
   virtual ControlMaker& Controls() = 0;

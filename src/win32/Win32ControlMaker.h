@@ -35,6 +35,9 @@ class Win32ControlMaker final : public forms::ControlMaker {
                                               const forms::TreeStyle& style,
                                               forms::WindowEvents& events,
                                               forms::TreeEvents& treeEvents) override;
+  std::unique_ptr<forms::ToolBarPeer> CreateToolBar(const forms::PeerSpec& wanted,
+                                                    forms::WindowEvents& events,
+                                                    forms::ToolBarEvents& toolEvents) override;
 
  private:
   Win32WindowSystem& system_;

@@ -67,6 +67,9 @@ class Win32PeerOf : public Interface {
     core_.SetWindowPos(after, flags);
   }
   void SetLeastSize(PixelSize size) override { core_.Window().SetLeastSize(size); }
+  void SetMenuBar(const std::vector<forms::PopupItem>& items) override {
+    core_.Window().SetMenuBar(items);
+  }
   std::unique_ptr<Canvas> ScreenCanvas() override { return core_.ScreenCanvas(); }
 
  protected:

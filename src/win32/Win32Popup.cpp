@@ -1,5 +1,7 @@
 // Popup menus.
 
+#include "forms/Menu.h"
+#include "win32/MenuBar.h"
 #include "win32/Wide.h"
 #include "win32/Win32WindowSystem.h"
 
@@ -7,21 +9,13 @@ namespace corvelle::win32 {
 
 namespace {
 
-// Lines that are not seen have numbers too.
-UINT CountOf(const std::vector<forms::PopupItem>& items) {
-  UINT count = 0;
-  for (const forms::PopupItem& item : items) count += 1 + CountOf(item.Items);
-  return count;
-}
-
 // Its lines bear the numbers from `first` on, which is at least 1, since 0 is nothing chosen.
-UniqueMenu MakeMenu(const std::vector<forms::PopupItem>& items, UINT first) {
-  UniqueMenu menu(CreatePopupMenu());
+UniqueMenu Fill(UniqueMenu menu, const std::vector<forms::PopupItem>& items, UINT first) {
   UINT next = first;
   for (std::size_t i = 0; menu && i < items.size(); ++i) {
     const forms::PopupItem& item = items[i];
     const UINT number = next;
-    next += 1 + CountOf(item.Items);
+    next += 1 + static_cast<UINT>(forms::CountLines(item.Items));
     if (!item.Visible) continue;
     if (item.IsSeparator()) {
       AppendMenuW(menu.Get(), MF_SEPARATOR, 0, nullptr);
@@ -34,10 +28,9 @@ UniqueMenu MakeMenu(const std::vector<forms::PopupItem>& items, UINT first) {
       AppendMenuW(menu.Get(), look, number, Wide(item.Caption).c_str());
       continue;
     }
-    UniqueMenu inside = MakeMenu(item.Items, number + 1);
+    UniqueMenu inside = Fill(UniqueMenu(CreatePopupMenu()), item.Items, number + 1);
     // The menu around it owns it from then on.
-    if (inside && AppendMenuW(menu.Get(), look | MF_POPUP,
-                              reinterpret_cast<UINT_PTR>(inside.Get()),
+    if (inside && AppendMenuW(menu.Get(), look | MF_POPUP, reinterpret_cast<UINT_PTR>(inside.Get()),
                               Wide(item.Caption).c_str()) != 0) {
       static_cast<void>(inside.Release());
     }
@@ -47,10 +40,14 @@ UniqueMenu MakeMenu(const std::vector<forms::PopupItem>& items, UINT first) {
 
 }  // namespace
 
+UniqueMenu MakeMenuBar(const std::vector<forms::PopupItem>& items) {
+  return Fill(UniqueMenu(CreateMenu()), items, 1);
+}
+
 int Win32WindowSystem::ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& items,
                                  PixelPoint at, unsigned flags) {
   const HWND window = ToHwnd(owner);
-  const UniqueMenu menu = MakeMenu(items, 1);
+  const UniqueMenu menu = Fill(UniqueMenu(CreatePopupMenu()), items, 1);
   if (!menu || IsWindow(window) == 0) return forms::popup::kNothing;
   // A popup whose owner is not in the foreground stays up when the user clicks elsewhere.
   if (GetForegroundWindow() != window) SetForegroundWindow(window);

@@ -55,7 +55,8 @@ PixelRect Win32TabStripPeer::PageRect() const {
 
 PixelRect Win32TabStripPeer::TabRect(int tab) const {
   RECT rect{};
-  SendMessageW(Handle(), TCM_GETITEMRECT, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&rect));
+  SendMessageW(Handle(), TCM_GETITEMRECT, static_cast<WPARAM>(tab),
+               reinterpret_cast<LPARAM>(&rect));
   return FromRect(rect);
 }
 

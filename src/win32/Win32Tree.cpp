@@ -30,7 +30,9 @@ HTREEITEM ItemAt(HWND tree, UINT which, HTREEITEM item = nullptr) {
       SendMessageW(tree, TVM_GETNEXTITEM, which, reinterpret_cast<LPARAM>(item)));
 }
 
-HWND EditOf(HWND tree) { return reinterpret_cast<HWND>(SendMessageW(tree, TVM_GETEDITCONTROL, 0, 0)); }
+HWND EditOf(HWND tree) {
+  return reinterpret_cast<HWND>(SendMessageW(tree, TVM_GETEDITCONTROL, 0, 0));
+}
 
 PixelPoint PointIn(LPARAM lParam) {
   return {static_cast<std::int16_t>(LOWORD(lParam)), static_cast<std::int16_t>(HIWORD(lParam))};
@@ -40,16 +42,14 @@ PixelPoint PointIn(LPARAM lParam) {
 
 bool Win32Tree::Create(const forms::PeerSpec& wanted) {
   StartCommonControls();
-  const DWORD style = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_EDITLABELS |
-                      TVS_SHOWSELALWAYS;
+  const DWORD style =
+      TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_EDITLABELS | TVS_SHOWSELALWAYS;
   if (!CreateAs(WC_TREEVIEWW, WS_TABSTOP | style, WS_EX_CLIENTEDGE, wanted)) return false;
   // Only a style that comes later makes the pictures of the boxes at once.
   if (style_.CheckBoxes) {
-    SetWindowLongPtrW(handle_, GWL_STYLE,
-                      GetWindowLongPtrW(handle_, GWL_STYLE) | TVS_CHECKBOXES);
+    SetWindowLongPtrW(handle_, GWL_STYLE, GetWindowLongPtrW(handle_, GWL_STYLE) | TVS_CHECKBOXES);
   }
-  images_.Reset(
-      ImageList_Create(style_.ImageSize, style_.ImageSize, ILC_COLOR32 | ILC_MASK, 8, 8));
+  images_.Reset(ImageList_Create(style_.ImageSize, style_.ImageSize, ILC_COLOR32 | ILC_MASK, 8, 8));
   SendMessageW(handle_, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.Get()));
   return true;
 }
@@ -122,8 +122,7 @@ std::optional<LRESULT> Win32Tree::Own(UINT message, WPARAM wParam, LPARAM lParam
       POINT at{PointIn(lParam).x, PointIn(lParam).y};
       ScreenToClient(handle_, &at);
       Later([this, at] {
-        static_cast<void>(
-            events_->OnContextMenu({static_cast<int>(at.x), static_cast<int>(at.y)}));
+        static_cast<void>(events_->OnContextMenu({static_cast<int>(at.x), static_cast<int>(at.y)}));
       });
       return 0;
     }
@@ -164,8 +163,7 @@ LRESULT Win32Tree::TellNotification(const NMHDR& header, LPARAM lParam) {
       if (!Muted()) treeEvents_.OnSelected(node(tree.itemNew));
       return 0;
     case TVN_ITEMEXPANDINGW:
-      return Muted() ||
-                     treeEvents_.OnExpanding(node(tree.itemNew), (tree.action & TVE_EXPAND) != 0)
+      return Muted() || treeEvents_.OnExpanding(node(tree.itemNew), (tree.action & TVE_EXPAND) != 0)
                  ? FALSE
                  : TRUE;
     case TVN_ITEMEXPANDEDW:
@@ -222,8 +220,8 @@ LRESULT Win32Tree::TellEdited(const NMTVDISPINFOW& info) {
 
 bool Win32Tree::IsChecked(HTREEITEM item) const {
   constexpr UINT kChecked = 2;
-  const LRESULT state = SendMessageW(handle_, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item),
-                                     TVIS_STATEIMAGEMASK);
+  const LRESULT state =
+      SendMessageW(handle_, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), TVIS_STATEIMAGEMASK);
   return (static_cast<UINT>(state) >> 12) == kChecked;
 }
 

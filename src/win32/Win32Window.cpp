@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "win32/MenuBar.h"
 #include "win32/Wide.h"
 #include "win32/Win32Control.h"
 #include "win32/Win32DropTarget.h"
@@ -100,6 +101,15 @@ std::shared_ptr<Win32Window> Win32Window::TellerOf(HWND parent, UINT message, LP
   if (child == nullptr || GetParent(child) != parent) return nullptr;
   Win32Window* const window = Of(child);
   return window != nullptr ? window->shared_from_this() : nullptr;
+}
+
+// The window owns its menu bar, but for one that another takes the place of.
+void Win32Window::SetMenuBar(const std::vector<forms::PopupItem>& items) {
+  menuItems_ = items;
+  const UniqueMenu before(GetMenu(handle_));
+  UniqueMenu bar = items.empty() ? UniqueMenu() : MakeMenuBar(items);
+  if (SetMenu(handle_, bar.Get()) != 0) static_cast<void>(bar.Release());
+  DrawMenuBar(handle_);
 }
 
 bool Win32Window::SetTakesDrops(bool takesDrops) {

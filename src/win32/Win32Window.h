@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "forms/WindowSystem.h"
 #include "win32/Sys.h"
@@ -33,6 +34,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   [[nodiscard]] bool SetTakesDrops(bool takesDrops);
   [[nodiscard]] bool IsForm() const noexcept { return kind_ == forms::PeerKind::Form; }
 
+  void SetMenuBar(const std::vector<forms::PopupItem>& items);
   void SetLeastSize(PixelSize size) noexcept { leastSize_ = size; }
   /// One of ours; null for any other window.
   static Win32Window* Of(HWND handle) noexcept;
@@ -76,6 +78,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   std::optional<LRESULT> TreatKeys(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> TreatFrame(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> TreatEnd(UINT message, WPARAM wParam);
+  std::optional<LRESULT> TreatMenu(UINT message, WPARAM wParam, LPARAM lParam);
 
   LRESULT Press(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT ReleaseButton(UINT message, WPARAM wParam, LPARAM lParam);
@@ -89,6 +92,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   forms::PeerKind kind_;
   forms::FrameStyle frame_ = forms::FrameStyle::None;
   PixelSize leastSize_{1, 1};
+  std::vector<forms::PopupItem> menuItems_;
   bool tabStop_ = false;
   bool pressed_ = false;       // it took the mouse with a press
   HWND focus_ = nullptr;       // the child that had the focus last

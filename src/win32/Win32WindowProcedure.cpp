@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "forms/Menu.h"
 #include "win32/MouseKeys.h"
 #include "win32/Win32Canvas.h"
 #include "win32/Win32DropTarget.h"
@@ -108,6 +109,7 @@ LRESULT Win32Window::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto answer = TreatKeys(message, wParam, lParam)) return *answer;
   if (const auto answer = TreatFocus(message, wParam, lParam)) return *answer;
   if (const auto answer = TreatEnd(message, wParam)) return *answer;
+  if (const auto answer = TreatMenu(message, wParam, lParam)) return *answer;
   return Default(message, wParam, lParam);
 }
 
@@ -132,8 +134,7 @@ std::optional<LRESULT> Win32Window::TreatFrame(UINT message, WPARAM wParam, LPAR
     case WM_GETMINMAXINFO: {
       // A form can be smaller than a caption with its buttons.
       const LRESULT answer = Default(message, wParam, lParam);
-      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {leastSize_.width,
-                                                               leastSize_.height};
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {leastSize_.width, leastSize_.height};
       return answer;
     }
     case WM_PRINTCLIENT:
@@ -330,6 +331,31 @@ std::optional<LRESULT> Win32Window::TreatFocus(UINT message, WPARAM wParam, LPAR
     default:
       return std::nullopt;
   }
+}
+
+// The menu bar.
+
+std::optional<LRESULT> Win32Window::TreatMenu(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (menuItems_.empty()) return std::nullopt;
+  if (message == WM_COMMAND && lParam == 0 && HIWORD(wParam) == 0) {
+    const int line = static_cast<int>(LOWORD(wParam)) - 1;
+    const forms::PopupItem* const item = forms::LineAt(menuItems_, line);
+    if (item == nullptr || !item->Items.empty()) return std::nullopt;
+    events_->OnMenuChosen(line);
+    return 0;
+  }
+  // The menus of the bar itself are told; the window's own menu is not.
+  if (message != WM_INITMENUPOPUP || HIWORD(lParam) != 0) return std::nullopt;
+  int line = 0;
+  int place = static_cast<int>(LOWORD(lParam));
+  for (const forms::PopupItem& item : menuItems_) {
+    if (item.Visible && place-- == 0) {
+      events_->OnMenuOpening(line);
+      return 0;
+    }
+    line += 1 + forms::CountLines(item.Items);
+  }
+  return std::nullopt;
 }
 
 // The end.

@@ -21,7 +21,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
 
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
-  forms::FrameMargins MarginsOf(forms::FrameStyle frame) const override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar) const override;
   forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;

@@ -15,7 +15,9 @@ class ComboBoxContract : public ControlsContract {
       box->Move(150, top, 3000, 315);
       top += 600;
       for (const char* text : {"alpha", "beta", "gamma"}) box->Add(text);
-      box->Click = [this, box] { sheet_.Note(box->Name() + " " + std::to_string(box->Selected())); };
+      box->Click = [this, box] {
+        sheet_.Note(box->Name() + " " + std::to_string(box->Selected()));
+      };
       box->Change = [this, box] { sheet_.Note(box->Name() + " " + box->Text()); };
       box->DropDown = [this, box] { sheet_.Note(box->IsDropped() ? "down" : "up"); };
     }

@@ -21,6 +21,7 @@ class FramedForm : public Form {
  protected:
   void Form_Resize() override { Seen.emplace_back("size"); }
   void Form_QueryClose() override { Seen.emplace_back("close"); }
+  void Form_Menu(int line) override { Seen.push_back("menu " + std::to_string(line)); }
 };
 
 class FrameContract : public testing::TestWithParam<InputHomeFactory> {
@@ -44,13 +45,9 @@ class FrameContract : public testing::TestWithParam<InputHomeFactory> {
     return ToPixels(form.Left(), form.Top(), form.Width(), form.Height(),
                     home_->Windows().Screen());
   }
-  FrameMargins Margins() { return home_->Windows().MarginsOf(FrameStyle::Sizable); }
+  FrameMargins Margins() { return home_->Windows().MarginsOf(FrameStyle::Sizable, false); }
   void Drag(PixelPoint from, PixelPoint to) {
-    home_->MovePointer(from);
-    home_->Press(MouseButton::Left);
-    home_->MovePointer({(from.x + to.x) / 2, (from.y + to.y) / 2});
-    home_->MovePointer(to);
-    home_->Release(MouseButton::Left);
+    home_->DragAlong({from, {(from.x + to.x) / 2, (from.y + to.y) / 2}, to});
     home_->Wait(100);
   }
 };
@@ -63,7 +60,7 @@ TEST_P(FrameContract, TheInsideIsWhatTheFrameLeaves) {
                                                     screen.TwipsPerPixelX);
   EXPECT_EQ(form_.ScaleHeight(), form_.Height() - static_cast<float>(margins.Top + margins.Bottom) *
                                                       screen.TwipsPerPixelY);
-  EXPECT_EQ(home_->Windows().MarginsOf(FrameStyle::None), FrameMargins{});
+  EXPECT_EQ(home_->Windows().MarginsOf(FrameStyle::None, true), FrameMargins{});
   EXPECT_EQ(home_->Desktop().Text(form_.hWnd()), "Framed");
 }
 
@@ -80,9 +77,7 @@ TEST_P(FrameContract, ControlsAreCountedFromTheInside) {
 
 TEST_P(FrameContract, TheCloseBoxAsksTheForm) {
   const PixelRect bounds = Bounds(form_);
-  home_->MovePointer({bounds.right - Margins().Right - 9, bounds.top + Margins().Top / 2 + 2});
-  home_->Press(MouseButton::Left);
-  home_->Release(MouseButton::Left);
+  home_->DragAlong({{bounds.right - Margins().Right - 9, bounds.top + Margins().Top / 2 + 2}});
   home_->Wait(50);
   EXPECT_EQ(form_.Seen, Texts{"close"});
   EXPECT_TRUE(form_.Visible());
@@ -92,8 +87,8 @@ TEST_P(FrameContract, TheCaptionMovesTheForm) {
   const PixelRect before = Bounds(form_);
   const PixelPoint grip{before.left + 60, before.top + Margins().Top / 2 + 2};
   Drag(grip, {grip.x + 40, grip.y + 30});
-  EXPECT_EQ(Bounds(form_), (PixelRect{before.left + 40, before.top + 30, before.right + 40,
-                                      before.bottom + 30}));
+  EXPECT_EQ(Bounds(form_),
+            (PixelRect{before.left + 40, before.top + 30, before.right + 40, before.bottom + 30}));
 }
 
 TEST_P(FrameContract, ItsCornerSizesTheFormDownToTheLeastSize) {
@@ -145,6 +140,36 @@ TEST_P(FrameContract, AFormThatIsModalToItsOwnerBlocksItUntilItGoes) {
   home_->Press(MouseButton::Left);
   home_->Release(MouseButton::Left);
   EXPECT_EQ(form_.Seen, Texts{"go"});
+}
+
+TEST_P(FrameContract, AMenuBarTakesItsPlaceFromTheInsideAndGivesItBack) {
+  const float before = form_.ScaleHeight();
+  form_.SetMenu({{.Caption = "&File", .Items = {{.Caption = "Save\tCtrl+S"}, {.Caption = "E&xit"}}},
+                 {.Caption = "&Options", .Items = {{.Caption = "Large", .Checked = true}}}});
+  home_->Wait(50);
+  const int menu = home_->Windows().MarginsOf(FrameStyle::Sizable, true).Top - Margins().Top;
+  EXPECT_GT(menu, 10);
+  EXPECT_EQ(form_.ScaleHeight(),
+            before - static_cast<float>(menu) * home_->Windows().Screen().TwipsPerPixelY);
+  const PixelRect bounds = Bounds(form_);
+  EXPECT_EQ(home_->Desktop().WindowAt(
+                {bounds.left + Margins().Left + 2, bounds.top + Margins().Top + menu + 2}),
+            form_.Go.hWnd());
+  form_.SetMenu({});
+  home_->Wait(50);
+  EXPECT_EQ(form_.ScaleHeight(), before);
+}
+
+TEST_P(FrameContract, AKeyOfAMenuLineChoosesIt) {
+  form_.SetMenu(
+      {{.Caption = "&File",
+        .Items = {{.Caption = "Save\tCtrl+S"}, {.Caption = "Gray\tCtrl+G", .Enabled = false}}}});
+  form_.Go.SetFocus();
+  home_->Wait(50);
+  form_.Seen.clear();
+  home_->PressWith(key::Ctrl, 'S');
+  home_->PressWith(key::Ctrl, 'G');
+  EXPECT_EQ(form_.Seen, Texts{"menu 1"});
 }
 
 }  // namespace corvelle::forms

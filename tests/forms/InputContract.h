@@ -28,6 +28,14 @@ class InputHome : public ContractHome {
     PressKey(virtualKey);
     KeyUp(held);
   }
+  /// With the left button from one point over others to the last, in one go: the frame of a window
+  /// keeps the program until the release. One point is a click.
+  virtual void DragAlong(const std::vector<PixelPoint>& points) {
+    MovePointer(points.front());
+    Press(MouseButton::Left);
+    for (const PixelPoint& point : points) MovePointer(point);
+    Release(MouseButton::Left);
+  }
   /// Plain characters.
   virtual void Type(std::string_view text) = 0;
   /// 120 is a notch, away from the user.

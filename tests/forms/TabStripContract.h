@@ -11,7 +11,8 @@ class TabStripContract : public ControlsContract {
  protected:
   void SetUp() override {
     Tabs.Move(150, 150, 4500, 3000);
-    for (const char* key : {"item", "buttons", "position"}) Tabs.Add(key, std::string("Tab ") + key);
+    for (const char* key : {"item", "buttons", "position"})
+      Tabs.Add(key, std::string("Tab ") + key);
     Tabs.Click = [this] { sheet_.Note(Tabs.Selected()); };
     Ok.Move(150, 3500, 1200, 375);
     Show();

@@ -39,14 +39,20 @@ TEST_P(TextBoxContract, WhatIsTypedIsItsTextAndIsToldEachTime) {
 }
 
 TEST_P(TextBoxContract, WhatTheProgramSetsIsNotTold) {
-  Text.SetText("Gr\xC3\xB6\xC3\x9F" "e");
-  EXPECT_EQ(Text.Text(), "Gr\xC3\xB6\xC3\x9F" "e");
+  Text.SetText(
+      "Gr\xC3\xB6\xC3\x9F"
+      "e");
+  EXPECT_EQ(Text.Text(),
+            "Gr\xC3\xB6\xC3\x9F"
+            "e");
   EXPECT_EQ(sheet_.Seen, Texts{});
   EXPECT_EQ(home_->Desktop().Text(Text.hWnd()), Text.Text());
 }
 
 TEST_P(TextBoxContract, ASetTextSelectsNothingAndCountsAsUtf16) {
-  Text.SetText("a\xF0\x9F\x98\x80" "b");
+  Text.SetText(
+      "a\xF0\x9F\x98\x80"
+      "b");
   EXPECT_EQ(Text.Selection(), (TextSelection{0, 0}));
   Text.SelectAll();
   EXPECT_EQ(Text.Selection(), (TextSelection{0, 4}));
@@ -69,7 +75,8 @@ TEST_P(TextBoxContract, ControlKeysCutCopyPasteUndoAndSelectAll) {
   Settle();
   home_->PressWith(key::Ctrl, 'Z');
   EXPECT_EQ(Text.Text(), "one two");
-  EXPECT_EQ(sheet_.Seen, (Texts{"key 17", "key 17", "change ", "key 17", "key 17", "change one two"}))
+  EXPECT_EQ(sheet_.Seen,
+            (Texts{"key 17", "key 17", "change ", "key 17", "key 17", "change one two"}))
       << "the letters are not the form's";
 }
 

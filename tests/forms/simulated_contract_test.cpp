@@ -2,16 +2,18 @@
 
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
+#include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
 #include "forms/FrameContract.h"
-#include "forms/TreeContract.h"
-#include "forms/TabStripContract.h"
-#include "forms/ScrollBarContract.h"
-#include "forms/ComboBoxContract.h"
-#include "forms/ListBoxContract.h"
-#include "forms/TextBoxContract.h"
 #include "forms/InputContract.h"
+#include "forms/ListBoxContract.h"
+#include "forms/PictureContract.h"
 #include "forms/PostContract.h"
+#include "forms/ScrollBarContract.h"
+#include "forms/TabStripContract.h"
+#include "forms/TextBoxContract.h"
+#include "forms/ToolBarContract.h"
+#include "forms/TreeContract.h"
 #include "forms/WindowSystemContract.h"
 #include "sim/World.h"
 
@@ -79,6 +81,10 @@ INSTANTIATE_TEST_SUITE_P(Simulated, TabStripContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, TreeContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, FrameContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ToolBarContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, PictureContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

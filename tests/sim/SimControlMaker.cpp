@@ -9,6 +9,7 @@
 #include "sim/SimScrollBar.h"
 #include "sim/SimTabStrip.h"
 #include "sim/SimTextBox.h"
+#include "sim/SimToolBar.h"
 #include "sim/SimTree.h"
 
 namespace corvelle::sim {
@@ -35,24 +36,38 @@ std::unique_ptr<forms::TextBoxPeer> SimControlMaker::CreateTextBox(
   return Make<SimTextBox>(wanted, events, style, textEvents);
 }
 
-std::unique_ptr<forms::ListBoxPeer> SimControlMaker::CreateListBox(const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::ListBoxEvents& listEvents) {
+std::unique_ptr<forms::ListBoxPeer> SimControlMaker::CreateListBox(
+    const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::ListBoxEvents& listEvents) {
   return Make<SimListBox>(wanted, events, listEvents);
 }
 
-std::unique_ptr<forms::ComboBoxPeer> SimControlMaker::CreateComboBox(const forms::PeerSpec& wanted, bool withEntry, forms::WindowEvents& events, forms::ComboBoxEvents& comboEvents) {
+std::unique_ptr<forms::ComboBoxPeer> SimControlMaker::CreateComboBox(
+    const forms::PeerSpec& wanted, bool withEntry, forms::WindowEvents& events,
+    forms::ComboBoxEvents& comboEvents) {
   return Make<SimComboBox>(wanted, events, withEntry, comboEvents);
 }
 
-std::unique_ptr<forms::ScrollBarPeer> SimControlMaker::CreateScrollBar(const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::ScrollBarEvents& scrollEvents) {
+std::unique_ptr<forms::ScrollBarPeer> SimControlMaker::CreateScrollBar(
+    const forms::PeerSpec& wanted, forms::WindowEvents& events,
+    forms::ScrollBarEvents& scrollEvents) {
   return Make<SimScrollBar>(wanted, events, scrollEvents);
 }
 
-std::unique_ptr<forms::TabStripPeer> SimControlMaker::CreateTabStrip(const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::TabStripEvents& tabEvents) {
+std::unique_ptr<forms::TabStripPeer> SimControlMaker::CreateTabStrip(
+    const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::TabStripEvents& tabEvents) {
   return Make<SimTabStrip>(wanted, events, tabEvents);
 }
 
-std::unique_ptr<forms::TreePeer> SimControlMaker::CreateTree(const forms::PeerSpec& wanted, const forms::TreeStyle& style, forms::WindowEvents& events, forms::TreeEvents& treeEvents) {
+std::unique_ptr<forms::TreePeer> SimControlMaker::CreateTree(const forms::PeerSpec& wanted,
+                                                             const forms::TreeStyle& style,
+                                                             forms::WindowEvents& events,
+                                                             forms::TreeEvents& treeEvents) {
   return Make<SimTree>(wanted, events, style, treeEvents);
+}
+
+std::unique_ptr<forms::ToolBarPeer> SimControlMaker::CreateToolBar(
+    const forms::PeerSpec& wanted, forms::WindowEvents& events, forms::ToolBarEvents& toolEvents) {
+  return Make<SimToolBar>(wanted, events, toolEvents);
 }
 
 }  // namespace corvelle::sim

@@ -35,6 +35,9 @@ class SimControlMaker final : public forms::ControlMaker {
                                               const forms::TreeStyle& style,
                                               forms::WindowEvents& events,
                                               forms::TreeEvents& treeEvents) override;
+  std::unique_ptr<forms::ToolBarPeer> CreateToolBar(const forms::PeerSpec& wanted,
+                                                    forms::WindowEvents& events,
+                                                    forms::ToolBarEvents& toolEvents) override;
 
  private:
   /// A control of this kind, with what its events need besides.

@@ -1,5 +1,7 @@
 #include "sim/SimControlPainting.h"
 
+#include "forms/Graphic.h"
+
 namespace corvelle::sim {
 
 std::string WithoutAccessKey(std::string_view caption) {
@@ -9,6 +11,16 @@ std::string WithoutAccessKey(std::string_view caption) {
     if (at < caption.size()) text += caption[at];
   }
   return text;
+}
+
+void PaintMasked(SimCanvas& canvas, const SimCanvas& picture, PixelPoint at, bool dimmed) {
+  for (int y = 0; y < picture.Size().height; ++y) {
+    for (int x = 0; x < picture.Size().width; ++x) {
+      const Rgb colour = picture.PixelAt({x, y});
+      if (colour == forms::Image::kMask || (dimmed && (x + y) % 2 != 0)) continue;
+      canvas.FillBox({at.x + x, at.y + y, at.x + x + 1, at.y + y + 1}, colour);
+    }
+  }
 }
 
 void PaintEdge(const SimDesktop& desktop, SimCanvas& canvas, const PixelRect& box, bool raised) {

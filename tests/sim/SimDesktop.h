@@ -175,6 +175,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   /// The text that was cut or copied last, by whichever program.
   std::string& Clipboard() noexcept { return clipboard_; }
 
+  /// For peers: the menu bar of a form.
+  void SetMenuBar(WindowId window, const std::vector<forms::PopupItem>& items);
+  /// The user chooses a line of a form's menu bar: the captions on the way to it with ">" between
+  /// them. The running test fails when it cannot be chosen.
+  void ChooseFromMenuBar(WindowId window, std::string_view path);
+
   // Asking.
   /// The first window of ours with this class, which is the name of its form or box; none if there
   /// is none.
@@ -206,7 +212,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   // forms::WindowSystem
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
-  forms::FrameMargins MarginsOf(forms::FrameStyle frame) const override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar) const override;
   forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
@@ -389,7 +395,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId toldFocus_ = kNoWindow;  // who knows that it has the focus
   bool usedUp_ = false;             // the last key, and what it types with it
   WindowId capture_ = kNoWindow;
-  enum class FramePart { None, Caption, Close, Minimize, Right, Bottom, Corner };
+  enum class FramePart { None, Caption, Menu, Close, Minimize, Right, Bottom, Corner };
   [[nodiscard]] static FramePart FramePartAt(const SimWindow& window, PixelPoint at);
   FramePart framePart_ = FramePart::None;  // that is pressed
   WindowId framePressed_ = kNoWindow;
@@ -406,8 +412,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   corvelle::Picture mouseIcon_;
   PixelPoint hotSpot_;
   std::deque<std::function<void()>> events_;
-  forms::PostedWork postedWork_;
   std::deque<std::function<void()>> afterEvent_;  // before the next of them
+  forms::PostedWork postedWork_;
   int depth_ = 0;  // handlers that are running
   int loops_ = 0;  // loops that run inside each other
   int deepestLoops_ = 0;

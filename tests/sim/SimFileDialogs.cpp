@@ -16,9 +16,8 @@ void SimDesktop::WhileDialogIsUp(WindowId owner, std::string title, const Act& a
                                .Text = std::move(title),
                                .Bounds = {200, 150, 620, 480},
                                .Visible = true});
-  SimWindow* blocked = Get(owner);
-  const bool wasEnabled = blocked != nullptr && blocked->Enabled;
-  if (blocked != nullptr) blocked->Enabled = false;
+  const bool wasEnabled = Get(owner) != nullptr && Get(owner)->Enabled;
+  if (Get(owner) != nullptr) SetEnabled(owner, false);
   LoseCapture();
   Activate(window);
   const int depth = std::exchange(depth_, 0);
@@ -26,7 +25,7 @@ void SimDesktop::WhileDialogIsUp(WindowId owner, std::string title, const Act& a
   act();
   Pump();
   depth_ = depth;
-  if ((blocked = Get(owner)) != nullptr) blocked->Enabled = wasEnabled;
+  if (Get(owner) != nullptr) SetEnabled(owner, wasEnabled);
   if (foreground_ == window && Look(before) != nullptr && IsShown(before)) Activate(before);
   Destroy(window);
 }

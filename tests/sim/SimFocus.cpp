@@ -39,8 +39,11 @@ void SimDesktop::SetFocusTo(WindowId window) {
   if (at == nullptr || !IsShown(window)) return;
   Note("focus", *at);
   const WindowId top = TopOf(window);
+  // Behind another program, and on a window that is disabled, the focus is not to be had.
+  const SimWindow* front = Look(foreground_);
+  if ((front != nullptr && !front->Own) || !at->Enabled || !Look(top)->Enabled) return;
   Get(top)->Focus = window;
-  RequestForeground(window);
+  Activate(top);
   if (foreground_ != top || Look(window) == nullptr) return;
   focus_ = window;
   TellFocus();

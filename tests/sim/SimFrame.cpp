@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "sim/Complain.h"
 #include "sim/SimControlPainting.h"
 
 namespace corvelle::sim {
@@ -11,13 +12,41 @@ namespace {
 
 constexpr int kCaption = 19;
 constexpr int kButton = 16;
+constexpr int kMenuBar = 19;
 
 }  // namespace
 
-forms::FrameMargins SimDesktop::MarginsOf(forms::FrameStyle frame) const {
+forms::FrameMargins SimDesktop::MarginsOf(forms::FrameStyle frame, bool menuBar) const {
   if (frame == forms::FrameStyle::None) return {};
   const int side = frame == forms::FrameStyle::Sizable ? 4 : 3;
-  return {side, side + kCaption, side, side};
+  return {side, side + kCaption + (menuBar ? kMenuBar : 0), side, side};
+}
+
+void SimDesktop::SetMenuBar(WindowId window, const std::vector<forms::PopupItem>& items) {
+  SimWindow& form = *Get(window);
+  form.MenuBar = items;
+  form.Margins = MarginsOf(form.Frame, !items.empty());
+  if (form.Content->Size() != InsideOf(form)) form.Content->Resize(InsideOf(form));
+  InvalidateTree(window);
+}
+
+void SimDesktop::ChooseFromMenuBar(WindowId window, std::string_view path) {
+  UserEvent([this, window, wanted = std::string(path)] {
+    const SimWindow* form = Look(window);
+    if (form == nullptr || form->Events == nullptr || !form->Enabled) {
+      return Complain("no form with a menu bar that takes input");
+    }
+    Activate(window);
+    // The menu comes up, and may be changed by that.
+    const Popup before{.Items = form->MenuBar};
+    const int top = before.NumberOf(std::string_view(wanted).substr(0, wanted.find('>')));
+    if (top >= 0) form->Events->OnMenuOpening(top);
+    form = Look(window);
+    if (form == nullptr || form->Events == nullptr) return;
+    const Popup bar{.Items = form->MenuBar};
+    if (!bar.Offers(wanted)) return Complain("the menu bar does not offer \"" + wanted + "\"");
+    form->Events->OnMenuChosen(bar.NumberOf(wanted));
+  });
 }
 
 PixelSize SimDesktop::InsideOf(const SimWindow& window) const {
@@ -39,6 +68,7 @@ SimDesktop::FramePart SimDesktop::FramePartAt(const SimWindow& window, PixelPoin
     return right ? FramePart::Right : FramePart::Bottom;
   }
   if (at.y >= bounds.top + margins.Top) return FramePart::None;
+  if (at.y >= bounds.top + margins.Left + kCaption) return FramePart::Menu;
   const int boxes = bounds.right - margins.Right - at.x;
   if (boxes <= kButton) return FramePart::Close;
   return boxes <= 2 * kButton && window.MinimizeBox ? FramePart::Minimize : FramePart::Caption;
@@ -114,6 +144,13 @@ void SimDesktop::PaintFrame(SimCanvas& screen, const SimWindow& window) const {
                           bounds.top + side + kCaption - 1};
   screen.FillBox(caption, SystemColor(window.Id == foreground_ ? 2 : 3));
   screen.DrawString({caption.left + 3, caption.top + 3}, window.Text, {}, SystemColor(9));
+  int left = caption.left + 6;
+  for (const forms::PopupItem& item : window.MenuBar) {
+    if (!item.Visible) continue;
+    const std::string text = WithoutAccessKey(item.Caption);
+    screen.DrawString({left, caption.bottom + 4}, text, {}, SystemColor(item.Enabled ? 7 : 17));
+    left += TextSize(text, {}, options_.TwipsPerPixel).width + 12;
+  }
   for (int box = 1; box <= (window.MinimizeBox ? 2 : 1); ++box) {
     const PixelRect place = RectAt({caption.right - box * kButton, caption.top + 2}, {14, 14});
     screen.FillBox(place, SystemColor(15));

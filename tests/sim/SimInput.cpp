@@ -220,8 +220,7 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   const WindowId target = at->Id;
   if (at->Control == nullptr) return at->Events->OnKeyDown(virtualKey, shift);
   usedUp_ = false;
-  const bool used =
-      !at->Control->TakesAllKeys() && at->Events->OnControlKey(virtualKey, shift);
+  const bool used = !at->Control->TakesAllKeys() && at->Events->OnControlKey(virtualKey, shift);
   usedUp_ = used;
   at = Look(target);
   if (!used && at != nullptr && at->Control != nullptr) at->Control->Key(virtualKey, shift);
@@ -234,8 +233,7 @@ void SimDesktop::DeliverCharacter(char32_t character) {
   const WindowId target = at->Id;
   if (at->Control == nullptr) return at->Events->OnKeyPress(character);
   const bool keep = usedUp_;
-  const bool used =
-      !at->Control->TakesAllKeys() && at->Events->OnControlCharacter(character);
+  const bool used = !at->Control->TakesAllKeys() && at->Events->OnControlCharacter(character);
   if (used || keep) return;
   at = Look(target);
   if (at != nullptr && at->Control != nullptr) at->Control->Character(character);

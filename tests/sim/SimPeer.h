@@ -65,6 +65,9 @@ class SimPeerOf : public Interface {
     core_.SetWindowPos(after, flags);
   }
   void SetLeastSize(PixelSize size) override { core_.Window().LeastSize = size; }
+  void SetMenuBar(const std::vector<forms::PopupItem>& items) override {
+    core_.Desktop().SetMenuBar(core_.Id(), items);
+  }
   std::unique_ptr<Canvas> ScreenCanvas() override { return core_.ScreenCanvas(); }
 
  protected:

@@ -61,7 +61,7 @@ bool SimTextEdit::Undo() {
 void SimTextEdit::Copy(std::string& clipboard) const {
   if (Low() == High()) return;
   clipboard = FromWide(std::u16string_view(text_).substr(static_cast<std::size_t>(Low()),
-                                                      static_cast<std::size_t>(High() - Low())));
+                                                         static_cast<std::size_t>(High() - Low())));
 }
 
 bool SimTextEdit::Cut(std::string& clipboard) {

@@ -5,7 +5,6 @@
 
 #include "base/Text.h"
 #include "base/Utf8.h"
-#include "forms/Graphic.h"
 #include "sim/SimControlPainting.h"
 
 namespace corvelle::sim {
@@ -41,9 +40,9 @@ void SimTree::Thaw() {
 void SimTree::Insert(NodeId node, NodeId parent, NodeId before, const forms::NodeLook& look) {
   nodes_[node] = {.Parent = parent, .Look = look};
   std::vector<NodeId>& siblings = parent != kNoNode ? nodes_[parent].Children : roots_;
-  siblings.insert(before != kNoNode ? std::find(siblings.begin(), siblings.end(), before)
-                                    : siblings.end(),
-                  node);
+  siblings.insert(
+      before != kNoNode ? std::find(siblings.begin(), siblings.end(), before) : siblings.end(),
+      node);
   Repaint();
 }
 
@@ -141,7 +140,8 @@ void SimTree::SetFirstVisible(NodeId node) {
 
 int SimTree::LeftOf(NodeId node) const {
   int left = kEdge + kIndent;
-  for (NodeId at = nodes_.at(node).Parent; at != kNoNode; at = nodes_.at(at).Parent) left += kIndent;
+  for (NodeId at = nodes_.at(node).Parent; at != kNoNode; at = nodes_.at(at).Parent)
+    left += kIndent;
   return left;
 }
 
@@ -420,15 +420,7 @@ void SimTree::Paint(SimCanvas& canvas, const SimWindow& window, bool focused) co
     }
     const auto image = [&](int index) {
       if (index < 0 || index >= static_cast<int>(images_.size())) return;
-      const SimCanvas& picture = *images_[static_cast<std::size_t>(index)];
-      for (int y = 0; y < style_.ImageSize; ++y) {
-        for (int x = 0; x < style_.ImageSize; ++x) {
-          if (picture.PixelAt({x, y}) == forms::Image::kMask) continue;
-          // Every second pixel of a dimmed image is left out.
-          if (node.Look.Dimmed && (x + y) % 2 != 0) continue;
-          canvas.FillBox({left + x, top + y, left + x + 1, top + y + 1}, picture.PixelAt({x, y}));
-        }
-      }
+      PaintMasked(canvas, *images_[static_cast<std::size_t>(index)], {left, top}, node.Look.Dimmed);
     };
     image(node.Look.Image);
     const auto overlay = overlays_.find(node.Look.Overlay);
@@ -437,7 +429,8 @@ void SimTree::Paint(SimCanvas& canvas, const SimWindow& window, bool focused) co
     const std::string text = id == edited_ ? edit_.Text() : node.Look.Text;
     const bool marked = (id == selected_ && focused) || id == dropTarget_;
     const PixelSize words = Desktop().MeasureText(text, {});
-    if (marked) canvas.FillBox({left, top, left + words.width + 4, top + 16}, desktop.SystemColor(13));
+    if (marked)
+      canvas.FillBox({left, top, left + words.width + 4, top + 16}, desktop.SystemColor(13));
     canvas.DrawString({left + 2, top + 2}, text, {}, desktop.SystemColor(marked ? 14 : 8));
     if (id == insertMark_) {
       const int line = insertAfter_ ? top + kRowHeight - 1 : top;

@@ -18,7 +18,7 @@ namespace corvelle::sim {
 struct SimWindow {
   WindowId Id = kNoWindow;
   WindowId Parent = kNoWindow;            // none: a top-level window
-  WindowId Owner = kNoWindow;             // of a message box
+  WindowId Owner = kNoWindow;             // of a message box or a form that has one
   forms::WindowEvents* Events = nullptr;  // null for other programs' windows and message boxes
   bool Own = false;
   forms::PeerKind Kind = forms::PeerKind::Form;
@@ -32,6 +32,7 @@ struct SimWindow {
   forms::FrameMargins Margins;  // of the frame
   bool MinimizeBox = false;
   PixelSize LeastSize{1, 1};
+  std::vector<forms::PopupItem> MenuBar;
   bool Visible = false;
   bool Enabled = true;
   bool Topmost = false;

@@ -44,7 +44,7 @@ WindowId SimDesktop::Add(SimWindow window) {
   const WindowId id = ++lastId_;
   window.Id = id;
   window.Told = window.Bounds;
-  window.Margins = MarginsOf(window.Frame);
+  window.Margins = MarginsOf(window.Frame, !window.MenuBar.empty());
   if (window.Own) window.Content = std::make_shared<SimCanvas>(InsideOf(window));
   const WindowId parent = window.Parent;
   windows_.emplace(id, std::move(window));
@@ -60,6 +60,7 @@ WindowId SimDesktop::Add(SimWindow window) {
 WindowId SimDesktop::AddOwn(const forms::PeerSpec& wanted, forms::WindowEvents& events) {
   if (std::exchange(refuseWindow_, false)) return kNoWindow;
   const WindowId id = Add({.Parent = wanted.Parent != nullptr ? wanted.Parent->Id() : kNoWindow,
+                           .Owner = wanted.Owner != nullptr ? wanted.Owner->Id() : kNoWindow,
                            .Events = &events,
                            .Own = true,
                            .Kind = wanted.Kind,

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "win32/Win32Desktop.h"
 #include "win32/Win32Input.h"
@@ -39,6 +40,15 @@ class RealHome {
     const bool left = button == forms::MouseButton::Left;
     if (!input_.IsKeyDown(left ? VK_LBUTTON : VK_RBUTTON)) return;
     Mouse(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP, pointer_);
+  }
+  /// All of a drag with the left button before its events run.
+  void DragAlong(const std::vector<PixelPoint>& points) {
+    MovePointer(points.front());
+    Send(MOUSEEVENTF_LEFTDOWN, points.front());
+    for (const PixelPoint& point : points) Send(MOUSEEVENTF_MOVE, point);
+    Send(MOUSEEVENTF_LEFTUP, points.back());
+    pointer_ = points.back();
+    Wait(5 * kReactionMilliseconds);
   }
   void DoubleClick() {
     for (int press = 0; press < 2; ++press) {
@@ -92,8 +102,7 @@ class RealHome {
     SendInput(1, &key, sizeof(INPUT));
   }
 
-  // Place and button in one event: apart, they can be taken in the wrong order.
-  void Mouse(DWORD what, PixelPoint at) {
+  static void Send(DWORD what, PixelPoint at) {
     const int width = GetSystemMetrics(SM_CXSCREEN);
     const int height = GetSystemMetrics(SM_CYSCREEN);
     INPUT event{};
@@ -102,12 +111,16 @@ class RealHome {
     event.mi.dy = (at.y * kWholeScreen + height - 1) / height;
     event.mi.dwFlags = what | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
     SendInput(1, &event, sizeof(INPUT));
+  }
+
+  // Place and button in one event: apart, they can be taken in the wrong order.
+  void Mouse(DWORD what, PixelPoint at) {
+    Send(what, at);
     pointer_ = at;
     Wait(kReactionMilliseconds);
     // Under Wine the place before may come back for a moment, and the move is lost with it.
-    event.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
     for (int tries = 0; tries < kMostTries && input_.PointerPosition() != at; ++tries) {
-      SendInput(1, &event, sizeof(INPUT));
+      Send(MOUSEEVENTF_MOVE, at);
       Wait(kReactionMilliseconds / 2);
     }
   }
