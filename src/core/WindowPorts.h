@@ -16,6 +16,9 @@
 namespace corvelle {
 
 struct EntryEdit;
+namespace forms {
+class Form;
+}
 
 // What the windows of the program may ask of one another. Each port lists what others need and no
 // more; the windows behind them stand on higher floors.
@@ -401,10 +404,11 @@ class IconBoxPort {
  public:
   virtual ~IconBoxPort() = default;
 
-  /// The window that the library belongs to.
-  [[nodiscard]] virtual WindowId WindowHandle() const = 0;
-  /// The library is open for it, until false: `Browsing` is 1 and the window takes no input. False
-  /// comes when the library's window is gone.
+  /// The window that the library belongs to. It outlives the library's window, and is disabled
+  /// while that is up.
+  [[nodiscard]] virtual forms::Form& BoxWindow() = 0;
+  /// The library is open for it (`Browsing` is 1), until false, which comes when the library's
+  /// window is gone.
   virtual void SetBrowsing(bool browsing) = 0;
   /// The icon text that the user chose: it goes into the box for the icon (`txtFile` of `frmCust`,
   /// which `UpdateField` confirms; `txtIcon` of `frmProperties`, whose `DrawIcon` runs). Comes
