@@ -33,9 +33,11 @@ bool Program::DragHolds() const {
   return DragEntered && (input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey));
 }
 
-bool Program::TakesDrops() const noexcept {
-  return OpenQuestions == 0 && !StartingUp && !MenuBuilding && !IconsLoading && !ItemActionBusy &&
-         !MenuFormBusy && !AppBarBusy && !PosChangeRunning;
+bool Program::TakesDrops() const noexcept { return OpenQuestions == 0 && !IsWorking(); }
+
+bool Program::IsWorking() const noexcept {
+  return StartingUp || MenuBuilding || IconsLoading || ItemActionBusy || MenuFormBusy ||
+         AppBarBusy || PosChangeRunning;
 }
 
 void Program::DoEvents() {

@@ -139,8 +139,11 @@ class Program {
   /// True while another program's drag that came over the strip goes on: it decides which menu is
   /// up, and the source keeps the foreground.
   [[nodiscard]] bool DragHolds() const;
-  /// False while a file or a menu is being worked on: a drop waits, which OLE calls refusing it.
+  /// False while the program works on a file or a menu, or waits for an answer: a drop waits, which
+  /// OLE calls refusing it.
   [[nodiscard]] bool TakesDrops() const noexcept;
+  /// True while a file or a menu is being worked on: nobody else rewrites one meanwhile.
+  [[nodiscard]] bool IsWorking() const noexcept;
 
   /// Shows the hint, or closes it when the text is empty.
   void SetHint(std::string_view text);

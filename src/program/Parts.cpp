@@ -31,6 +31,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.ShellLinks = &Links;
   ports.StartupLink = &TheStartupLink;
   ports.DragImage = &Carried;
+  ports.WebLink = &WebLink;
 }
 
 }  // namespace corvelle

@@ -20,6 +20,7 @@
 #include "toolbar/frmTip.h"
 #include "toolbar/frmToolbar.h"
 #include "toolbar/mAppBar.h"
+#include "weblink/frmURL.h"
 
 namespace corvelle {
 
@@ -62,6 +63,7 @@ class Parts {
   LinkReader Links{TheProgram};
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};
+  frmURL WebLink{TheProgram};
 };
 
 }  // namespace corvelle

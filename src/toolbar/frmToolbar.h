@@ -423,8 +423,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void GiveForegroundBack();
   void DropFiles(std::vector<std::string> names, int button);
   void ShowDropped(int button);
-  void DropAddress(std::string_view text, int button);
-  void OfferAddress(const std::string& address, const std::string& tag, const std::string& file);
+  void DropAddress(const forms::DragData& data, int button);
+  void OfferAddress(const forms::DragData& data, std::string_view tag, const std::string& file);
   [[nodiscard]] bool IsItemButton(int button) const noexcept;
   /// Index of the item button with that menu file, 0 for none.
   [[nodiscard]] int ItemButtonOf(std::string_view path) const;
