@@ -407,8 +407,8 @@ class IconBoxPort {
   /// The window that the library belongs to. It outlives the library's window, and is disabled
   /// while that is up.
   [[nodiscard]] virtual forms::Form& BoxWindow() = 0;
-  /// The library is open for it (`Browsing` is 1), until false, which comes when the library's
-  /// window is gone.
+  /// The library is open for it (`Browsing` is 1), until false, which comes when the library
+  /// closes.
   virtual void SetBrowsing(bool browsing) = 0;
   /// The icon text that the user chose: it goes into the box for the icon (`txtFile` of `frmCust`,
   /// which `UpdateField` confirms; `txtIcon` of `frmProperties`, whose `DrawIcon` runs). Comes

@@ -32,6 +32,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.StartupLink = &TheStartupLink;
   ports.DragImage = &Carried;
   ports.WebLink = &WebLink;
+  ports.Library = &Library;
 }
 
 }  // namespace corvelle

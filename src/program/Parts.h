@@ -5,6 +5,7 @@
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
+#include "library/frmLibrary.h"
 #include "menus/FolderMenus.h"
 #include "menus/MainMenu.h"
 #include "menus/SpecialFolders.h"
@@ -64,6 +65,7 @@ class Parts {
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};
   frmURL WebLink{TheProgram};
+  frmLibrary Library{TheProgram};
 };
 
 }  // namespace corvelle
