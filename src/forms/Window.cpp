@@ -53,6 +53,7 @@ bool Window::CreateWindows(WindowPeer* parent) {
   if (!peer_) return false;
   if (!Enabled() || inputHolds_ > 0) peer_->SetEnabled(false);
   if (takesDrops_) static_cast<void>(peer_->SetTakesDrops(true));
+  if (!ToolTip().empty()) peer_->SetToolTip(ToolTip());
   PeerMade();
   for (Window* child : children_) {
     if (!child->CreateWindows(Peer())) return false;
@@ -82,6 +83,10 @@ void Window::VisibleChanged() {
 
 void Window::EnabledChanged() {
   if (peer_ && inputHolds_ == 0) peer_->SetEnabled(Enabled());
+}
+
+void Window::ToolTipChanged() {
+  if (peer_) peer_->SetToolTip(ToolTip());
 }
 
 void Window::HoldInput() {

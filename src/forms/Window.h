@@ -94,6 +94,7 @@ class Window : public Control, protected WindowEvents {
 
   void VisibleChanged() override;
   void EnabledChanged() override;
+  void ToolTipChanged() override;
   void BoundsChanged(float oldLeft, float oldTop, float oldWidth, float oldHeight) override;
 
   /// Asks whether this window still stands after a handler ran.

@@ -17,6 +17,7 @@
 #include "forms/TabStripContract.h"
 #include "forms/TextBoxContract.h"
 #include "forms/ToolBarContract.h"
+#include "forms/ToolTipContract.h"
 #include "forms/TreeContract.h"
 #include "forms/WindowSystemContract.h"
 
@@ -42,6 +43,7 @@ class WindowsHome final : public ActivationHome {
   void Type(std::string_view text) override { home_.Type(text); }
   void DragAlong(const std::vector<PixelPoint>& points) override { home_.DragAlong(points); }
   void TurnWheel(int delta) override { home_.TurnWheel(delta); }
+  std::string ToolTip() const override { return home_.ToolTip(); }
   void ClosePopup() override {
     INPUT keys[2]{};
     for (INPUT& key : keys) {
@@ -105,6 +107,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, FrameContract,
 INSTANTIATE_TEST_SUITE_P(Windows, ToolBarContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 INSTANTIATE_TEST_SUITE_P(Windows, PictureContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ToolTipContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
