@@ -4,6 +4,8 @@
 #include "forms/CanvasContract.h"
 #include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/DisabledLookContract.h"
+#include "forms/FocusContract.h"
 #include "forms/FrameContract.h"
 #include "forms/InputContract.h"
 #include "forms/ListBoxContract.h"
@@ -89,6 +91,12 @@ INSTANTIATE_TEST_SUITE_P(Simulated, ToolBarContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, PictureContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, ToolTipContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, FocusContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, TreeLookContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, DisabledLookContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

@@ -8,6 +8,8 @@
 #include "forms/CanvasContract.h"
 #include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/DisabledLookContract.h"
+#include "forms/FocusContract.h"
 #include "forms/FrameContract.h"
 #include "forms/InputContract.h"
 #include "forms/ListBoxContract.h"
@@ -109,6 +111,12 @@ INSTANTIATE_TEST_SUITE_P(Windows, ToolBarContract,
 INSTANTIATE_TEST_SUITE_P(Windows, PictureContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ToolTipContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, FocusContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TreeLookContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, DisabledLookContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
