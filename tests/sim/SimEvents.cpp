@@ -30,9 +30,10 @@ void SimDesktop::Pump() {
 
 void SimDesktop::RunWaiting() {
   for (int count = 0; count < kEndlessLoop; ++count) {
-    if (!events_.empty()) {
-      const std::function<void()> event = std::move(events_.front());
-      events_.pop_front();
+    std::deque<std::function<void()>>& next = !afterEvent_.empty() ? afterEvent_ : events_;
+    if (!next.empty()) {
+      const std::function<void()> event = std::move(next.front());
+      next.pop_front();
       ++depth_;
       event();
       --depth_;
@@ -195,7 +196,7 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
   const SimWindow* const owning = Get(owner);
   const bool wasEnabled = owning != nullptr && owning->Enabled;
   if (owning != nullptr) SetEnabled(owner, false);
-  capture_ = kNoWindow;
+  LoseCapture();
   Activate(window);
 
   const int depth = std::exchange(depth_, 0);
