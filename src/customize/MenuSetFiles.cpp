@@ -75,7 +75,6 @@ MenusStamp StampOf(const StoredMenus& stored) {
   for (const auto* row : {&stored.Menus, &stored.Singles}) {
     digest.Add(row->size());
     for (const StoredFile& file : *row) {
-      ++stamp.Files;
       stamp.Length += file.Bytes.size();
       digest.Add(file.Bytes);
     }

@@ -21,7 +21,6 @@ class CodePage;
 /// the order of the rows. Their names are no part of it: the strip closes gaps in the numbering,
 /// which changes no menu.
 struct MenusStamp {
-  std::uint64_t Files = 0;
   std::uint64_t Length = 0;  // bytes, of all files
   std::uint64_t Hash = 0;
 
