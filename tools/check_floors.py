@@ -27,10 +27,13 @@ FLOORS = {
     "toolbar": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "menus": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
-    "search": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
+    "library": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "properties": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "search": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "weblink": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "about": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "program": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus",
-                "customize", "search", "about"],
+                "customize", "library", "properties", "search", "weblink", "about"],
     "win32": ["base", "platform", "forms"],
 }
 MAIN = sorted(FLOORS)
