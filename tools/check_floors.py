@@ -26,11 +26,12 @@ FLOORS = {
     "shell": ["base", "platform", "forms", "core"],
     "toolbar": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "menus": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "properties": ["base", "platform", "forms", "core", "launch", "icons", "shell", "menus"],
     "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "search": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "about": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "program": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus",
-                "customize", "search", "about"],
+                "properties", "customize", "search", "about"],
     "win32": ["base", "platform", "forms"],
 }
 MAIN = sorted(FLOORS)
