@@ -27,7 +27,7 @@ FLOORS = {
     "toolbar": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "menus": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
-    "search": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
+    "search": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "about": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "program": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus",
                 "customize", "search", "about"],
