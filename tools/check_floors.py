@@ -26,7 +26,7 @@ FLOORS = {
     "shell": ["base", "platform", "forms", "core"],
     "toolbar": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "menus": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
-    "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
+    "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "search": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "about": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "program": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus",
