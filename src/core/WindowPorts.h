@@ -16,6 +16,9 @@
 namespace corvelle {
 
 struct EntryEdit;
+namespace forms {
+class Form;
+}
 
 // What the windows of the program may ask of one another. Each port lists what others need and no
 // more; the windows behind them stand on higher floors.
@@ -396,6 +399,32 @@ class PropertiesPort : public LoadedWindow {
                               std::string_view command) = 0;
 };
 
+/// A window with a box for an icon text, as the icon library sees it.
+class IconBoxPort {
+ public:
+  virtual ~IconBoxPort() = default;
+
+  /// The window that the library belongs to. It outlives the library's window, and is disabled
+  /// while that is up.
+  [[nodiscard]] virtual forms::Form& BoxWindow() = 0;
+  /// The library is open for it (`Browsing` is 1), until false, which comes when the library's
+  /// window is gone.
+  virtual void SetBrowsing(bool browsing) = 0;
+  /// The icon text that the user chose: it goes into the box for the icon (`txtFile` of `frmCust`,
+  /// which `UpdateField` confirms; `txtIcon` of `frmProperties`, whose `DrawIcon` runs). Comes
+  /// before SetBrowsing(false), and not at all when nothing was chosen.
+  virtual void TakeIcon(std::string_view icon) = 0;
+};
+
+/// The window in which an icon is picked.
+class LibraryPort : public LoadedWindow {
+ public:
+  /// Shows it for a caller, "frmCust" or "frmProperties" (WindowPorts::CustomizeIcon and
+  /// PropertiesIcon), and returns at once. One that is up comes to the front and stays with the
+  /// caller that it has. Without the caller's port a choice goes nowhere.
+  virtual void Show(std::string_view caller) = 0;
+};
+
 /// The dialog that makes an entry from a dropped web address.
 class WebLinkPort {
  public:
@@ -438,8 +467,11 @@ struct WindowPorts {
   PropertiesPort* Properties = nullptr;
   LoadedWindow* Customize = nullptr;
   LoadedWindow* ImageWindow = nullptr;
-  LoadedWindow* Library = nullptr;
+  LibraryPort* Library = nullptr;
   LoadedWindow* About = nullptr;
+  // The windows that the icon library answers.
+  IconBoxPort* CustomizeIcon = nullptr;
+  IconBoxPort* PropertiesIcon = nullptr;
 };
 
 }  // namespace corvelle

@@ -6,7 +6,7 @@
 
 namespace corvelle {
 
-/// One menu button: its own record, and those of the items of its menu in their order.
+/// One menu: the button and its items in their order.
 struct Menu {
   MenuRecord Head;
   std::vector<MenuRecord> Items;
@@ -14,8 +14,7 @@ struct Menu {
   friend bool operator==(const Menu&, const Menu&) = default;
 };
 
-/// All that the folder of menu files holds: the menu buttons and the single buttons, in their
-/// order.
+/// All menus and single buttons, each row in its order: what the Customize window shows and saves.
 struct MenuSet {
   std::vector<Menu> Menus;
   std::vector<MenuRecord> Singles;

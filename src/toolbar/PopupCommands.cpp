@@ -51,7 +51,7 @@ void Popup::Settle(EditOutcome outcome, const std::string& file) {
 }
 
 void Popup::ShowIconLibrary() {
-  if (program_.Ports.Library != nullptr) program_.Ports.Library->LoadWindow();
+  if (program_.Ports.Library != nullptr) program_.Ports.Library->Show({});
 }
 
 void Popup::OpenEntry() {
