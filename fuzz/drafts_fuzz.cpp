@@ -46,7 +46,7 @@ Draft TakeDraft(fuzz::Input& input) {
 
 void CheckParsing(const std::string& bytes) {
   const std::optional<Draft> draft = ParseDraft(bytes);
-  if (draft) CORVELLE_CHECK(FormatDraft(*draft) == bytes);
+  if (draft) CORVELLE_CHECK(FormatDraft(draft->Files, draft->Set) == bytes);
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CheckParsing(bytes);
   } else {
     const Draft draft = TakeDraft(input);
-    CORVELLE_CHECK(ParseDraft(FormatDraft(draft)) == draft);
+    CORVELLE_CHECK(ParseDraft(FormatDraft(draft.Files, draft.Set)) == draft);
   }
   return 0;
 }

@@ -64,16 +64,16 @@ FileStatus WriteBytes(FileSystem& files, const std::string& path, std::string_vi
 
 }  // namespace
 
-std::string FormatDraft(const Draft& draft) {
+std::string FormatDraft(const MenusStamp& stamp, const MenuSet& set) {
   std::string out(kMark);
-  PutNumber(out, draft.Files.Length, 8);
-  PutNumber(out, draft.Files.Hash, 8);
-  PutNumber(out, draft.Set.Menus.size(), 4);
-  for (const Menu& menu : draft.Set.Menus) {
+  PutNumber(out, stamp.Length, 8);
+  PutNumber(out, stamp.Hash, 8);
+  PutNumber(out, set.Menus.size(), 4);
+  for (const Menu& menu : set.Menus) {
     PutRecord(out, menu.Head);
     PutRow(out, menu.Items);
   }
-  PutRow(out, draft.Set.Singles);
+  PutRow(out, set.Singles);
   PutNumber(out, DigestOf(out), kDigestLength);
   return out;
 }
@@ -100,8 +100,9 @@ std::optional<Draft> ParseDraft(std::string_view bytes) {
   return draft;
 }
 
-FileStatus WriteDraft(FileSystem& files, std::string_view menusPath, const Draft& draft) {
-  return WriteBytes(files, PathOfDraft(menusPath), FormatDraft(draft));
+FileStatus WriteDraft(FileSystem& files, std::string_view menusPath, const MenusStamp& stamp,
+                      const MenuSet& set) {
+  return WriteBytes(files, PathOfDraft(menusPath), FormatDraft(stamp, set));
 }
 
 std::optional<MenuSet> OfferDraft(FileSystem& files, std::string_view menusPath,
@@ -123,8 +124,8 @@ FileStatus ForgetDraft(FileSystem& files, std::string_view menusPath) {
   return removed;
 }
 
-FileStatus DraftKeeper::Keep(const Draft& draft) {
-  const std::string bytes = FormatDraft(draft);
+FileStatus DraftKeeper::Keep(const MenusStamp& stamp, const MenuSet& set) {
+  const std::string bytes = FormatDraft(stamp, set);
   const std::uint64_t digest = DigestOf(bytes);
   if (written_ == digest) return Done();
   const FileStatus written = WriteBytes(files_, PathOfDraft(menusPath_), bytes);

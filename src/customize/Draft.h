@@ -27,12 +27,13 @@ struct Draft {
   friend bool operator==(const Draft&, const Draft&) = default;
 };
 
-[[nodiscard]] std::string FormatDraft(const Draft& draft);
+[[nodiscard]] std::string FormatDraft(const MenusStamp& stamp, const MenuSet& set);
 /// Nothing for bytes that are not a whole draft.
 [[nodiscard]] std::optional<Draft> ParseDraft(std::string_view bytes);
 
 /// Puts the draft in the place of an earlier one, in one step: after a failure that one is there.
-FileStatus WriteDraft(FileSystem& files, std::string_view menusPath, const Draft& draft);
+FileStatus WriteDraft(FileSystem& files, std::string_view menusPath, const MenusStamp& stamp,
+                      const MenuSet& set);
 
 /// The draft that belongs to these files and holds something else than they do; nothing without
 /// one. A draft of other files stays where it is: they may come back.
@@ -50,7 +51,7 @@ class DraftKeeper {
   DraftKeeper(FileSystem& files, std::string_view menusPath)
       : files_(files), menusPath_(menusPath) {}
 
-  FileStatus Keep(const Draft& draft);
+  FileStatus Keep(const MenusStamp& stamp, const MenuSet& set);
   /// For an explicit No, after a save, and when nothing unsaved is left.
   FileStatus Forget();
 

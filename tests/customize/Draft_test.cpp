@@ -31,12 +31,12 @@ MenuSet Changed() {
 
 TEST(DraftFormat, ReadsBackAsItWasWithTextsOfAnyLength) {
   const Draft draft = {{12, 34}, Changed()};
-  EXPECT_EQ(ParseDraft(FormatDraft(draft)), draft);
-  EXPECT_EQ(ParseDraft(FormatDraft({})), Draft());
+  EXPECT_EQ(ParseDraft(FormatDraft(draft.Files, draft.Set)), draft);
+  EXPECT_EQ(ParseDraft(FormatDraft({}, {})), Draft());
 }
 
 TEST(DraftFormat, WhatIsCutChangedOrLongerIsNoDraft) {
-  const std::string bytes = FormatDraft({{12, 34}, {{{Item("a"), {Item("b")}}}, {Item("c")}}});
+  const std::string bytes = FormatDraft({12, 34}, {{{Item("a"), {Item("b")}}}, {Item("c")}});
   for (std::size_t length = 0; length < bytes.size(); ++length) {
     EXPECT_FALSE(ParseDraft(bytes.substr(0, length))) << length;
   }
@@ -74,7 +74,7 @@ TEST(DraftFormat, NumbersThatLieAboutWhatFollowsAreNoDraft) {
 TEST(Draft, IsOfferedOverTheFilesThatItBelongsTo) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, Changed()}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, Changed()));
   EXPECT_EQ(OfferDraft(disk, kMenus, Now(disk)), Changed());
   // To offer it is not to forget it.
   EXPECT_EQ(OfferDraft(disk, kMenus, Now(disk)), Changed());
@@ -83,7 +83,7 @@ TEST(Draft, IsOfferedOverTheFilesThatItBelongsTo) {
 TEST(Draft, OfOtherFilesIsNeverOfferedAndWaitsForItsOwn) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, Changed()}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, Changed()));
   disk.Put(InMenus("BMENU001.MNU"),
            Stored("Games", "Button") + Stored(Item("Chess")) + Stored(Item("Ludo")));
   EXPECT_FALSE(OfferDraft(disk, kMenus, Now(disk)));
@@ -96,14 +96,14 @@ TEST(Draft, ThatHoldsWhatTheFilesHoldIsNotOffered) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
   const MenuFiles now = Now(disk);
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {now.Stamp, now.Set}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, now.Stamp, now.Set));
   EXPECT_FALSE(OfferDraft(disk, kMenus, now));
 }
 
 TEST(Draft, OfAnEmptyTreeIsOffered) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, {}}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, {}));
   EXPECT_EQ(OfferDraft(disk, kMenus, Now(disk)), MenuSet());
 }
 
@@ -111,7 +111,7 @@ TEST(Draft, ThatIsMissingDamagedOrHeldIsNotOffered) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
   EXPECT_FALSE(OfferDraft(disk, kMenus, Now(disk)));
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, Changed()}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, Changed()));
   disk.HoldOpen(kDraft);
   EXPECT_FALSE(OfferDraft(disk, kMenus, Now(disk)));
   disk.LetGo(kDraft);
@@ -122,7 +122,7 @@ TEST(Draft, ThatIsMissingDamagedOrHeldIsNotOffered) {
 TEST(Draft, OutlivesTheCleaningAtAStart) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, Changed()}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, Changed()));
   disk.Put(InMenus("stray.tmp"), "x");
   ASSERT_TRUE(PurgeMenus(disk, kMenus));
   EXPECT_FALSE(disk.Has(InMenus("stray.tmp")));
@@ -133,7 +133,7 @@ TEST(Draft, IsForgottenEvenReadOnly) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
   EXPECT_TRUE(ForgetDraft(disk, kMenus));
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, Changed()}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, Changed()));
   disk.SetReadOnly(kDraft, true);
   EXPECT_TRUE(ForgetDraft(disk, kMenus));
   EXPECT_FALSE(disk.Has(kDraft));
@@ -142,9 +142,9 @@ TEST(Draft, IsForgottenEvenReadOnly) {
 TEST(Draft, TakesThePlaceOfAReadOnlyOne) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, {}}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, {}));
   disk.SetReadOnly(kDraft, true);
-  ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, Changed()}));
+  ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, Changed()));
   EXPECT_EQ(OfferDraft(disk, kMenus, Now(disk)), Changed());
 }
 
@@ -153,14 +153,14 @@ TEST(Draft, AnEndOrAFailureAtAnyMomentOfWritingLeavesTheEarlierOneOrTheNew) {
     for (int n = 1;; ++n) {
       sim::SimFiles disk;
       PutFolder(disk, kFiles);
-      ASSERT_TRUE(WriteDraft(disk, kMenus, {Now(disk).Stamp, {}}));
+      ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, {}));
       const MenuFiles now = Now(disk);
       if (ends) {
         disk.FailFrom(n, FileError::DiskFull);
       } else {
         disk.FailCall(n, FileError::DiskFull);
       }
-      const bool written = WriteDraft(disk, kMenus, {now.Stamp, Changed()}).HasValue();
+      const bool written = WriteDraft(disk, kMenus, now.Stamp, Changed()).HasValue();
       const bool hit = disk.Hit();
       disk.StopFailing();
       EXPECT_EQ(OfferDraft(disk, kMenus, now), written ? Changed() : MenuSet()) << n;
@@ -178,11 +178,11 @@ TEST(DraftKeeper, WritesOnlyWhatIsNew) {
   const MenusStamp stamp = Now(disk).Stamp;
   DraftKeeper keeper(disk, kMenus);
   disk.ClearLog();
-  EXPECT_TRUE(keeper.Keep({stamp, Changed()}));
-  EXPECT_TRUE(keeper.Keep({stamp, Changed()}));
+  EXPECT_TRUE(keeper.Keep(stamp, Changed()));
+  EXPECT_TRUE(keeper.Keep(stamp, Changed()));
   EXPECT_EQ(disk.Log().size(), 1U);
-  EXPECT_TRUE(keeper.Keep({stamp, {}}));
-  EXPECT_TRUE(keeper.Keep({{}, {}}));
+  EXPECT_TRUE(keeper.Keep(stamp, {}));
+  EXPECT_TRUE(keeper.Keep({}, {}));
   EXPECT_EQ(disk.Count("Replace"), 3);
 }
 
@@ -191,8 +191,8 @@ TEST(DraftKeeper, TriesAgainAfterAFailure) {
   PutFolder(disk, kFiles);
   DraftKeeper keeper(disk, kMenus);
   disk.FailCall(1, FileError::DiskFull);
-  EXPECT_FALSE(keeper.Keep({{}, Changed()}));
-  EXPECT_TRUE(keeper.Keep({{}, Changed()}));
+  EXPECT_FALSE(keeper.Keep({}, Changed()));
+  EXPECT_TRUE(keeper.Keep({}, Changed()));
   EXPECT_TRUE(disk.Has(kDraft));
 }
 
@@ -200,10 +200,10 @@ TEST(DraftKeeper, WritesAgainWhatWasForgotten) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
   DraftKeeper keeper(disk, kMenus);
-  EXPECT_TRUE(keeper.Keep({{}, Changed()}));
+  EXPECT_TRUE(keeper.Keep({}, Changed()));
   EXPECT_TRUE(keeper.Forget());
   EXPECT_FALSE(disk.Has(kDraft));
-  EXPECT_TRUE(keeper.Keep({{}, Changed()}));
+  EXPECT_TRUE(keeper.Keep({}, Changed()));
   EXPECT_TRUE(disk.Has(kDraft));
 }
 

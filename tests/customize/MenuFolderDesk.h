@@ -17,9 +17,10 @@ inline std::string InMenus(std::string_view name) { return kMenus + std::string(
 
 using Folder = std::map<std::string, std::string>;
 
-/// What the files of a folder hold, by their names.
+/// What the files of a folder hold, by their names; nothing of a missing one.
 inline Folder FolderOf(const sim::SimFiles& disk, const std::string& folder = kMenus) {
   Folder all;
+  if (!disk.Has(folder)) return all;
   for (const std::string& name : disk.Names(folder.substr(0, folder.size() - 1))) {
     const auto bytes = disk.Get(folder + name);
     if (bytes) all[name] = *bytes;
