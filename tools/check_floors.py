@@ -26,13 +26,14 @@ FLOORS = {
     "shell": ["base", "platform", "forms", "core"],
     "toolbar": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "menus": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "library": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "properties": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
+    "search": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
     "weblink": ["base", "platform", "forms", "core", "launch", "icons", "shell"],
-    "customize": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
-    "search": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "about": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus"],
     "program": ["base", "platform", "forms", "core", "launch", "icons", "shell", "toolbar", "menus",
-                "library", "weblink", "customize", "search", "about"],
+                "customize", "library", "properties", "search", "weblink", "about"],
     "win32": ["base", "platform", "forms"],
 }
 MAIN = sorted(FLOORS)

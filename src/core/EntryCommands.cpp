@@ -55,13 +55,16 @@ EditOutcome DeleteSingle(Program& program, const EntryEdit& entry) {
 
 EditOutcome DeleteButton(Program& program, const EntryEdit& entry) {
   const float freeWidth = FreeWidth(program);
-  // A file that cannot be deleted leaves its button on the strip, where the user sees it.
-  const EditOutcome outcome = DeleteButtonFile(program.Services.Files, entry);
+  // A file that cannot be deleted leaves its button on the strip, where the user sees it; so does
+  // one that another program has put in its place.
+  const EditOutcome outcome =
+      DeleteButtonFile(program.Services.Files, program.Services.Ansi, entry);
   if (program.Ports.Toolbar != nullptr) {
     program.Ports.Toolbar->ResetCollections();
     program.Ports.Toolbar->DoToolbarButtons();
   }
   ResizeStrip(program, freeWidth);
+  if (outcome == EditOutcome::RecordMismatch) SayRecordMismatch(program);
   return outcome;
 }
 

@@ -58,6 +58,10 @@ void Program::ShowStartupProgress() {
   if (Ports.Startup != nullptr) Ports.Startup->AddDot();
 }
 
+std::string Program::ShippedFile(std::string_view name) const {
+  return (ShippedPath.empty() ? AppPath : ShippedPath) + std::string(name);
+}
+
 void Program::SaveOptionFlags() {
   // The flags stay in force for this run, and the next save tries again.
   static_cast<void>(corvelle::SaveOptionFlags(Services.Files, AppPath, OptionFlags));

@@ -27,8 +27,11 @@ class Program {
   /// Title of the application, which its message boxes bear.
   std::string Title = "Corvelle";
 
-  // Folders, each with a trailing backslash.
+  // Folders, each with a trailing backslash. AppPath is where the user's data lies: the program's
+  // own folder, or that of the user's programs (core/DataFolder.h).
   std::string AppPath;
+  /// Where the program and what came with it lie; empty: in AppPath.
+  std::string ShippedPath;
   std::string MenusPath;
   std::string IconsPath;
   std::string ShellLinkPath;
@@ -130,6 +133,9 @@ class Program {
   std::string RecycleIconPath;
   int RecycleIconIndex = -1;
   bool RecycleIconChanged = false;
+
+  /// Path of a file that came with the program.
+  [[nodiscard]] std::string ShippedFile(std::string_view name) const;
 
   /// Lets waiting events run. Whoever calls it must be ready for anything to have happened. Called
   /// from what another call of it lets run, it only shows what waits to be painted: that other call

@@ -248,7 +248,7 @@ void MainMenu::Minimize() {
 // ---- help and the end ----
 
 void MainMenu::HelpTopics() {
-  const std::string help = program_.AppPath + "corvelle.hlp";
+  const std::string help = program_.ShippedFile("corvelle.hlp");
   if (!program_.Services.Files.FileExists(help)) {
     program_.Say(program_.ToolbarWindow(),
                  "Corvelle help file could not be found in Corvelle folder.",

@@ -71,7 +71,7 @@ void frmMinimize::ShowInSysTray() {
   InTray = program_.Services.Tray.Add({.Window = hWnd(),
                                        .Id = kTrayIcon,
                                        .CallbackMessage = forms::message::MouseMove,
-                                       .IconFile = program_.AppPath + "corvelle.exe",
+                                       .IconFile = program_.ShippedFile("corvelle.exe"),
                                        .Tip = "Corvelle"});
 }
 

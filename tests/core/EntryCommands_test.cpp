@@ -39,6 +39,10 @@ class EntryCommandsTest : public testing::Test {
     program.Entry.CurIcon = std::move(icon);
     program.Entry.CurCommand = std::move(command);
   }
+  void PointAtWholeButton() {
+    program.Entry.CurMenuTag = "B1";
+    PointAt(1, "Button", "", "");
+  }
   std::string Titles() {
     std::string all;
     const std::string bytes = world.Files.Get(kFile).value_or("");
@@ -98,7 +102,7 @@ TEST_F(EntryCommandsTest, AGeneratedEntryCannotBeMovedAway) {
 }
 
 TEST_F(EntryCommandsTest, DeletingAWholeButtonAsksFirstAndNoKeepsIt) {
-  program.Entry.CurMenuTag = "B1";
+  PointAtWholeButton();
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerNo);
   DeleteItem(program, false);
   EXPECT_TRUE(world.Files.Has(kFile));
@@ -107,7 +111,7 @@ TEST_F(EntryCommandsTest, DeletingAWholeButtonAsksFirstAndNoKeepsIt) {
 }
 
 TEST_F(EntryCommandsTest, WhatBecomesCurrentWhileTheQuestionIsUpIsNotDeletedInstead) {
-  program.Entry.CurMenuTag = "B1";
+  PointAtWholeButton();
   const std::string other = "C:\\Corvelle\\Menus\\BMENU002.MNU";
   world.Files.Put(other, FormatRecord({"Other", "", ""}, world.Ansi));
   world.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) {
@@ -120,10 +124,24 @@ TEST_F(EntryCommandsTest, WhatBecomesCurrentWhileTheQuestionIsUpIsNotDeletedInst
   EXPECT_FALSE(world.Files.Has(kFile));
 }
 
+TEST_F(EntryCommandsTest, AButtonThatAnotherProgramPutsThereWhileTheQuestionIsUpStays) {
+  PointAtWholeButton();
+  world.Desktop.WhileBoxIsUp([&](const sim::MessageBox& box) {
+    if (box.Text == kButtonQuestion) Write({{"Newer", "", ""}, {"Only", "i", "c"}});
+  });
+  world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
+  world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
+  EXPECT_EQ(DeleteItem(program, false), EditOutcome::RecordMismatch);
+  EXPECT_EQ(Titles(), "Newer Only ");
+  EXPECT_EQ(world.Desktop.Boxes().size(), 2U);
+  // The strip shows from now on what is there.
+  EXPECT_EQ(log, (CallLog{"ResetCollections", "DoToolbarButtons", "resize, free 1230"}));
+}
+
 TEST_F(EntryCommandsTest, AProgramThatEndsWhileTheQuestionIsUpDeletesNothing) {
   toolbar.LoadWindow();
   log.clear();
-  program.Entry.CurMenuTag = "B1";
+  PointAtWholeButton();
   world.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { toolbar.UnloadWindow(); });
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
   EXPECT_EQ(DeleteItem(program, false), EditOutcome::NothingToDo);
@@ -133,7 +151,7 @@ TEST_F(EntryCommandsTest, AProgramThatEndsWhileTheQuestionIsUpDeletesNothing) {
 
 TEST_F(EntryCommandsTest, WhatIsAskedAndToldBelongsToTheStrip) {
   toolbar.LoadWindow();
-  program.Entry.CurMenuTag = "B1";
+  PointAtWholeButton();
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerNo);
   DeleteItem(program, false);
   program.Entry.CurMenuTag = "F1";
@@ -147,7 +165,7 @@ TEST_F(EntryCommandsTest, WhatIsAskedAndToldBelongsToTheStrip) {
 }
 
 TEST_F(EntryCommandsTest, DeletingAWholeButtonRebuildsAndResizesTheStrip) {
-  program.Entry.CurMenuTag = "B1";
+  PointAtWholeButton();
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
   DeleteItem(program, false);
   EXPECT_FALSE(world.Files.Has(kFile));
@@ -155,7 +173,7 @@ TEST_F(EntryCommandsTest, DeletingAWholeButtonRebuildsAndResizesTheStrip) {
 }
 
 TEST_F(EntryCommandsTest, SkippingTheConfirmationAsksNothing) {
-  program.Entry.CurMenuTag = "B1";
+  PointAtWholeButton();
   DeleteItem(program, true);
   EXPECT_FALSE(world.Files.Has(kFile));
 }

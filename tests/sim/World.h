@@ -54,7 +54,7 @@ class World {
   SimTrayIcons Tray;
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
-  SimLookups SlowAnswers{Desktop, Files, Links};
+  SimLookups SlowAnswers{Desktop, Files, Links, System};
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
   /// has some.
