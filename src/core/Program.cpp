@@ -87,6 +87,10 @@ int Program::Say(WindowId owner, std::string_view text, unsigned flags) {
   return Windows.ShowMessage(owner, text, Title, flags);
 }
 
+void Program::TellMenusEdited() const {
+  if (Ports.MenuEdits != nullptr) Ports.MenuEdits->MenusEdited();
+}
+
 WindowId Program::ToolbarWindow() const {
   return Ports.Toolbar != nullptr ? Ports.Toolbar->WindowHandle() : kNoWindow;
 }

@@ -170,6 +170,10 @@ class Program {
   /// whoever asks works on copies.
   int Say(WindowId owner, std::string_view text, unsigned flags);
 
+  /// Tells Ports.MenuEdits of an edit. Whoever changes what a menu file or a single button's file
+  /// holds, other than that port's own window, calls it as soon as the file is written.
+  void TellMenusEdited() const;
+
   /// The strip's window, none before it is loaded.
   [[nodiscard]] WindowId ToolbarWindow() const;
   /// The window in which the user acts, to which what is asked belongs: the menu that is up, else

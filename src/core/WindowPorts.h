@@ -440,6 +440,16 @@ class WebLinkPort {
   virtual void EndWebLink() {}
 };
 
+/// A window that shows what the menu files hold, and so wants to know of edits made elsewhere.
+class MenuEditsPort {
+ public:
+  virtual ~MenuEditsPort() = default;
+  /// Files of menus or single buttons were changed by this program, by its strip, a menu or another
+  /// window; they are whole and can be read. Called in the middle of a command, perhaps inside a
+  /// drag: only take note, and look at the files later. Not called for a change of names alone.
+  virtual void MenusEdited() = 0;
+};
+
 /// All windows and services that may be asked for. Those that a build of the program does not have
 /// are null, and whoever asks goes on without them.
 struct WindowPorts {
@@ -469,6 +479,7 @@ struct WindowPorts {
   LoadedWindow* NetSearch = nullptr;
   PropertiesPort* Properties = nullptr;
   LoadedWindow* Customize = nullptr;
+  MenuEditsPort* MenuEdits = nullptr;
   LoadedWindow* ImageWindow = nullptr;
   LibraryPort* Library = nullptr;
   LoadedWindow* About = nullptr;
