@@ -68,6 +68,7 @@ frmAbout::frmAbout(Program& program)
       cmdCopy(*this, "cmdCopy"),
       cmdOK(*this, "cmdOK"),
       program_(program) {
+  SetKeyPreview(true);
   TabStrip1.Add(std::string(kCorvelleTab), "Corvelle");
   TabStrip1.Add(std::string(kDrivesTab), "Drives");
   TabStrip1.Add(std::string(kSystemTab), "System");
@@ -120,9 +121,13 @@ void frmAbout::InitAbout() {
 }
 
 void frmAbout::Form_KeyDown(int keyCode, forms::ShiftState shift) {
+  const bool copies = keyCode == kLetterC && shift == forms::ShiftState{.Ctrl = true};
   if (keyCode == forms::key::Escape) {
+    SwallowKey();
     Unload();
-  } else if (keyCode == kLetterC && shift == forms::ShiftState{.Ctrl = true}) {
+  } else if (copies && !txtCopyright.HasFocus()) {
+    // In the text it copies what the user has selected there.
+    SwallowKey();
     cmdCopy_Click();
   }
 }

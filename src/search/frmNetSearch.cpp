@@ -44,6 +44,7 @@ frmNetSearch::frmNetSearch(Program& program)
       cmdClear(*this, "cmdClear"),
       program_(program) {
   SetMinimizeBox(true);
+  SetKeyPreview(true);
   Label1.SetCaption("Looking for:");
   Label2.SetCaption("Search with:");
   cmdFind.SetCaption("&Find");
@@ -159,7 +160,9 @@ void frmNetSearch::Form_Unload() {
 }
 
 void frmNetSearch::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
-  if (keyCode == forms::key::Escape) Unload();
+  if (keyCode != forms::key::Escape) return;
+  SwallowKey();
+  Unload();
 }
 
 // ---- the buttons ----
