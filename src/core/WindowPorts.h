@@ -474,6 +474,7 @@ struct WindowPorts {
   PopupPort* Popup = nullptr;
   BuiltInCommandsPort* BuiltInCommands = nullptr;
   BrowserPort* Browser = nullptr;
+  HelpPort* Help = nullptr;
   ShellLinksPort* ShellLinks = nullptr;
   // Windows that are loaded on demand and closed at the end.
   LoadedWindow* NetSearch = nullptr;

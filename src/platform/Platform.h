@@ -3,6 +3,7 @@
 namespace corvelle {
 
 class AppBars;
+class Clipboard;
 class CodePage;
 class DdeClient;
 class DesktopWindows;
@@ -40,6 +41,7 @@ struct Platform {
   AppBars& Bars;
   TrayIcons& Tray;
   Lookups& SlowAnswers;
+  Clipboard& Copies;
 };
 
 }  // namespace corvelle

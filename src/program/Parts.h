@@ -1,15 +1,18 @@
 #pragma once
 
 #include "about/DefaultEntries.h"
+#include "about/frmAbout.h"
 #include "core/Program.h"
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
 #include "library/frmLibrary.h"
+#include "launch/HelpViewer.h"
 #include "menus/FolderMenus.h"
 #include "menus/MainMenu.h"
 #include "menus/SpecialFolders.h"
 #include "menus/frmQMenu.h"
+#include "search/frmNetSearch.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
 #include "toolbar/DragImage.h"
@@ -66,6 +69,13 @@ class Parts {
   DragImage Carried{TheProgram};
   frmURL WebLink{TheProgram};
   frmLibrary Library{TheProgram};
+  HelpViewer TheHelp{TheProgram};
+  frmNetSearch NetSearch{TheProgram};
+  frmAbout About{TheProgram};
+
+ private:
+  /// F1 opens the page of each window.
+  void WireHelp();
 };
 
 }  // namespace corvelle

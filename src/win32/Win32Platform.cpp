@@ -4,6 +4,7 @@
 
 #include "win32/ErrorMode.h"
 #include "win32/Win32AppBars.h"
+#include "win32/Win32Clipboard.h"
 #include "win32/Win32CodePage.h"
 #include "win32/Win32Dde.h"
 #include "win32/Win32Desktop.h"
@@ -68,6 +69,7 @@ struct Win32Platform::Parts {
   Win32AppBars Bars;
   Win32TrayIcons Tray;
   Win32WindowSystem Windows;
+  Win32Clipboard Copies;
   Win32Lookups SlowAnswers{Windows.Posts()};
 };
 
@@ -91,7 +93,8 @@ Platform Win32Platform::Services() const {
           .Folders = parts_->Folders,
           .Bars = parts_->Bars,
           .Tray = parts_->Tray,
-          .SlowAnswers = parts_->SlowAnswers};
+          .SlowAnswers = parts_->SlowAnswers,
+          .Copies = parts_->Copies};
 }
 
 forms::WindowSystem& Win32Platform::Windows() const { return parts_->Windows; }

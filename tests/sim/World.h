@@ -5,6 +5,7 @@
 #include "base/CodePage.h"
 #include "platform/Platform.h"
 #include "sim/SimAppBars.h"
+#include "sim/SimClipboard.h"
 #include "sim/SimDde.h"
 #include "sim/SimDesktop.h"
 #include "sim/SimFileAssociations.h"
@@ -52,6 +53,7 @@ class World {
   SimSystemInfo System;
   SimShellFolders Folders;
   SimTrayIcons Tray;
+  SimClipboard Copies;
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
   SimLookups SlowAnswers{Desktop, Files, Links, System};
