@@ -4,6 +4,7 @@ namespace corvelle {
 
 class AppBars;
 class CodePage;
+class CrashReports;
 class DdeClient;
 class DesktopWindows;
 class FileAssociations;
@@ -40,6 +41,7 @@ struct Platform {
   AppBars& Bars;
   TrayIcons& Tray;
   Lookups& SlowAnswers;
+  CrashReports& Crashes;
 };
 
 }  // namespace corvelle

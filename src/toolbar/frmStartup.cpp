@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "base/Version.h"
 #include "core/Program.h"
 #include "platform/ShellIcons.h"
 
@@ -56,7 +57,8 @@ void frmStartup::Form_Load() {
   Label1.Move(Label2.Right(), Label2.Top(), Label1.Width(), Label1.Height());
 
   SetAutoRedraw(true);
-  Print(Label2.Left(), Image1.Top(), "Corvelle 4.25", forms::color::ButtonText);
+  Print(Label2.Left(), Image1.Top(), program_.Title + " " + std::string(kVersion),
+        forms::color::ButtonText);
 }
 
 void frmStartup::AddDot() {

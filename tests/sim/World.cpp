@@ -43,7 +43,8 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
           .Folders = Folders,
           .Bars = Bars,
           .Tray = Tray,
-          .SlowAnswers = SlowAnswers};
+          .SlowAnswers = SlowAnswers,
+          .Crashes = Crashes};
 }
 
 bool World::SavePicture(const std::string& hostPath) const {

@@ -5,6 +5,7 @@
 #include "base/CodePage.h"
 #include "platform/Platform.h"
 #include "sim/SimAppBars.h"
+#include "sim/SimCrashReports.h"
 #include "sim/SimDde.h"
 #include "sim/SimDesktop.h"
 #include "sim/SimFileAssociations.h"
@@ -55,6 +56,7 @@ class World {
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
   SimLookups SlowAnswers{Desktop, Files, Links};
+  SimCrashReports Crashes;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
   /// has some.
