@@ -4,6 +4,8 @@
 if(TARGET corvelle)
   install(TARGETS corvelle RUNTIME DESTINATION .)
   install(FILES ${CORVELLE_ICON_LIBRARY} DESTINATION .)
+  install(FILES LICENSE DESTINATION . RENAME LICENSE.txt)
+  install(FILES CHANGELOG.md DESTINATION . RENAME CHANGES.txt)
   # It keeps the user's data in the folder; a release's installer leaves it out.
   install(FILES assets/portable DESTINATION .)
 endif()
