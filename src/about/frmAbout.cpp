@@ -106,7 +106,7 @@ void frmAbout::Form_Load() {
 void frmAbout::Form_Unload() { program_.Slow.Drop(asked_); }
 
 void frmAbout::InitAbout() {
-  lblVersion.SetCaption("Version " + std::string(VersionText()));
+  lblVersion.SetCaption("Version " + std::string(kVersion));
   lblCompany.SetCaption(std::string(kCompany));
   lblCopyright.SetCaption(std::string(kCopyright));
   txtCopyright.SetText(std::string(kCredits));

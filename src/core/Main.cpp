@@ -9,6 +9,7 @@
 #include "core/Program.h"
 #include "core/SettingsFiles.h"
 #include "core/Upgrade.h"
+#include "platform/CrashReports.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
 
@@ -82,6 +83,16 @@ bool FindFolders(Program& program) {
   return data.Tell;
 }
 
+void TellOfCrash(Program& program) {
+  const std::string report = program.Services.Crashes.TakeUntold();
+  if (report.empty()) return;
+  program.Say(
+      program.ToolbarWindow(),
+      "Corvelle ended unexpectedly the last time. A report about it is on this computer:\r\n" +
+          report + "\r\n\r\nNothing has been sent to anyone.",
+      forms::msgbox::IconInformation | forms::msgbox::OnTop);
+}
+
 void TellWhereDataIs(Program& program) {
   if (WasToldAbout(program.Services, program.AppPath, program.ShippedPath)) return;
   program.Say(program.ToolbarWindow(),
@@ -128,6 +139,8 @@ bool Main(Program& program) {
   LoadWindows(program);
   CloseStartupWindow(program);
   // Events ran: the companion may have been closed, and the program with it.
+  if (HasEnded(program)) return false;
+  TellOfCrash(program);
   if (HasEnded(program)) return false;
   if (elsewhere) TellWhereDataIs(program);
   if (HasEnded(program)) return false;
