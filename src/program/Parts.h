@@ -2,6 +2,7 @@
 
 #include "about/DefaultEntries.h"
 #include "core/Program.h"
+#include "customize/frmCust.h"
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
@@ -62,6 +63,7 @@ class Parts {
   LinkReader Links{TheProgram};
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};
+  frmCust Customize{TheProgram};
 };
 
 }  // namespace corvelle
