@@ -53,6 +53,8 @@ void Parts::WireHelp() {
     Toolbar.ResetMenu();
     TheHelp.ShowPageOf(Menu.Name());
   };
+  ports.Customize = &Customize;
+  ports.CustomizeIcon = &Customize;
 }
 
 }  // namespace corvelle

@@ -3,6 +3,7 @@
 #include "about/DefaultEntries.h"
 #include "about/frmAbout.h"
 #include "core/Program.h"
+#include "customize/frmCust.h"
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
@@ -76,6 +77,7 @@ class Parts {
  private:
   /// F1 opens the page of each window.
   void WireHelp();
+  frmCust Customize{TheProgram};
 };
 
 }  // namespace corvelle
