@@ -31,6 +31,8 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.ShellLinks = &Links;
   ports.StartupLink = &TheStartupLink;
   ports.DragImage = &Carried;
+  ports.Properties = &Properties;
+  ports.PropertiesIcon = &Properties;
 }
 
 }  // namespace corvelle

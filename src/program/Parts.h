@@ -9,6 +9,7 @@
 #include "menus/MainMenu.h"
 #include "menus/SpecialFolders.h"
 #include "menus/frmQMenu.h"
+#include "properties/frmProperties.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
 #include "toolbar/DragImage.h"
@@ -62,6 +63,7 @@ class Parts {
   LinkReader Links{TheProgram};
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};
+  frmProperties Properties{TheProgram};
 };
 
 }  // namespace corvelle
