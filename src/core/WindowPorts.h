@@ -104,6 +104,12 @@ class ToolbarPort : public AskingWindow {
   virtual void InitButtons() = 0;
   /// Draws the buttons anew without moving anything.
   virtual void RefreshToolbar() = 0;
+  /// Reads the menu buttons, or the single buttons, again and draws them on a strip that keeps its
+  /// size.
+  virtual void RefreshToolbarButtons() {}
+  virtual void RefreshSingleButtons() {}
+  /// Shows the window in front, without making it active, if it is hidden.
+  virtual void ShowToolbar() {}
   virtual void HideWindow() = 0;
   /// The date at the far end of the single buttons: shown, hidden and placed; its text.
   virtual void DoLabelDate() = 0;
@@ -397,6 +403,8 @@ class PropertiesPort : public LoadedWindow {
   /// Shows it with these fields for the current entry (Program::Entry).
   virtual void ShowProperties(std::string_view title, std::string_view icon,
                               std::string_view command) = 0;
+  /// The strip stands somewhere else by now: the picture of it at an edge goes.
+  virtual void HidePreview() {}
 };
 
 /// A window with a box for an icon text, as the icon library sees it.

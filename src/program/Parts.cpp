@@ -38,13 +38,17 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.Help = &TheHelp;
   ports.NetSearch = &NetSearch;
   ports.About = &About;
+  ports.Customize = &Customize;
+  ports.CustomizeIcon = &Customize;
+  ports.Properties = &Properties;
+  ports.PropertiesIcon = &Properties;
   WireHelp();
 }
 
 void Parts::WireHelp() {
   const std::initializer_list<forms::Form*> windows = {&Toolbar,   &Companion, &Tip,
                                                        &NetSearch, &About,     &Library,
-                                                       &WebLink};
+                                                       &WebLink,   &Customize, &Properties};
   for (forms::Form* const window : windows) {
     window->HelpAsked = [this, window] { TheHelp.ShowPageOf(window->Name()); };
   }
@@ -53,8 +57,6 @@ void Parts::WireHelp() {
     Toolbar.ResetMenu();
     TheHelp.ShowPageOf(Menu.Name());
   };
-  ports.Customize = &Customize;
-  ports.CustomizeIcon = &Customize;
 }
 
 }  // namespace corvelle

@@ -13,6 +13,7 @@
 #include "menus/MainMenu.h"
 #include "menus/SpecialFolders.h"
 #include "menus/frmQMenu.h"
+#include "properties/frmProperties.h"
 #include "search/frmNetSearch.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
@@ -73,11 +74,12 @@ class Parts {
   HelpViewer TheHelp{TheProgram};
   frmNetSearch NetSearch{TheProgram};
   frmAbout About{TheProgram};
+  frmCust Customize{TheProgram};
+  frmProperties Properties{TheProgram};
 
  private:
   /// F1 opens the page of each window.
   void WireHelp();
-  frmCust Customize{TheProgram};
 };
 
 }  // namespace corvelle
