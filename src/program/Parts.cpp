@@ -46,9 +46,8 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
 }
 
 void Parts::WireHelp() {
-  const std::initializer_list<forms::Form*> windows = {&Toolbar,   &Companion, &Tip,
-                                                       &NetSearch, &About,     &Library,
-                                                       &WebLink,   &Customize, &Properties};
+  const std::initializer_list<forms::Form*> windows = {
+      &Toolbar, &Companion, &Tip, &NetSearch, &About, &Library, &WebLink, &Customize, &Properties};
   for (forms::Form* const window : windows) {
     window->HelpAsked = [this, window] { TheHelp.ShowPageOf(window->Name()); };
   }
