@@ -81,10 +81,18 @@ void Program::ReadEdgeFlags() {
 }
 
 int Program::Say(WindowId owner, std::string_view text, unsigned flags) {
+  return SayAs(Title, owner, text, flags);
+}
+
+int Program::SayAs(std::string_view title, WindowId owner, std::string_view text, unsigned flags) {
   const forms::CountScope asking(OpenQuestions);
   const InputHold strip(Ports.Toolbar, owner);
   const InputHold menu(Ports.QMenu, owner);
-  return Windows.ShowMessage(owner, text, Title, flags);
+  return Windows.ShowMessage(owner, text, title, flags);
+}
+
+void Program::TellMenusEdited() const {
+  if (Ports.MenuEdits != nullptr) Ports.MenuEdits->MenusEdited();
 }
 
 WindowId Program::ToolbarWindow() const {

@@ -130,6 +130,7 @@ void frmQMenu::InsertFiles(const std::vector<std::string>& names, int item) {
       return Trim(GetFileTitle(program_, name));
     });
     outcome = InsertDropped(files, ansi, file, position, dropped.Records);
+    if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
   }
   // After a failure the menu shows what the file still holds.
   if (outcome == EditOutcome::Edited && program_.Ports.Toolbar != nullptr) {

@@ -128,6 +128,7 @@ class SingleRow final : public SingleButtonsPort {
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y);
 
+  bool Told(const FileStatus& edited) const;
   bool MoveFromMenu(const std::string& before, const EntryEdit& carried);
   /// A copy of the entry under the pointer; its File is empty when the pointer is over no entry.
   [[nodiscard]] SingleRect Under();

@@ -212,6 +212,7 @@ void frmToolbar::DropFiles(std::vector<std::string> names, int button) {
       return Trim(GetFileTitle(program_, name));
     });
     outcome = AppendDropped(files, ansi, path, dropped.Records);
+    if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
   }
   if (!IsLoaded()) return;
   if (outcome == EditOutcome::Edited) {
