@@ -106,7 +106,7 @@ void frmAbout::Form_Load() {
 void frmAbout::Form_Unload() { program_.Slow.Drop(asked_); }
 
 void frmAbout::InitAbout() {
-  lblVersion.SetCaption("Version " + std::string(VersionText()));
+  lblVersion.SetCaption("Version " + std::string(kVersion));
   lblCompany.SetCaption(std::string(kCompany));
   lblCopyright.SetCaption(std::string(kCopyright));
   txtCopyright.SetText(std::string(kCredits));
@@ -208,7 +208,7 @@ void frmAbout::DrawTitle() {
   picLogo.DrawPixels({0, 0, size, size}, [this, size](Canvas& canvas) {
     // Without the program's icon the place stays empty.
     static_cast<void>(program_.Services.Icons.DrawFileIcon(
-        canvas, program_.AppPath + "corvelle.exe", 0, {0, 0}, size));
+        canvas, program_.ShippedFile("corvelle.exe"), 0, {0, 0}, size));
   });
   picTitle.SetFont({.Points = kTitlePoints, .Bold = true});
   picTitle.Print(0, 0, kName, forms::color::WindowText);

@@ -12,10 +12,12 @@ FlatButton::FlatButton(Surface& container, std::string name) : Graphic(container
     pressed_ = true;
     SetDown(true);
   };
-  MouseMove = [this](MouseButton down, ShiftState, float x, float y) {
-    // A press that was lost is over.
-    if (!Has(down, MouseButton::Left)) pressed_ = false;
+  MouseMove = [this](MouseButton, ShiftState, float x, float y) {
     SetDown(pressed_ && IsOver(x, y));
+  };
+  CaptureLost = [this] {
+    pressed_ = false;
+    SetDown(false);
   };
   MouseUp = [this](MouseButton button, ShiftState, float x, float y) {
     if (button != MouseButton::Left || !std::exchange(pressed_, false)) return;

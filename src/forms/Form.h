@@ -132,7 +132,11 @@ class Form : public Surface {
   bool Act(DialogAction action, Window& focus, int keyCode, ShiftState shift);
   [[nodiscard]] DialogScene SceneOf(const Window& focus, char32_t letter) const;
   /// All windows inside that can be seen and are enabled, each before what is inside it.
-  [[nodiscard]] std::vector<Window*> Reachable() const;
+  /// `leaving`, too, which is about to go.
+  [[nodiscard]] std::vector<Window*> Reachable(const Window* leaving = nullptr) const;
+  /// A window that has the focus, or holds the one that has it, is hidden or disabled: the focus
+  /// goes on to the next control, but from inside to what is around, if the Tab key stops there.
+  void PassFocusFrom(const Window& leaving);
   void MoveFocus(const Window& from, int step);
   /// True when a line of the menu bar has this key.
   bool PressAccelerator(int keyCode, ShiftState shift);

@@ -13,19 +13,19 @@ namespace {
 // Any control may be destroyed by what a key does.
 constexpr bool kUsedUp = true;
 
-void Collect(const Window& container, std::vector<Window*>& all) {
+void Collect(const Window& container, std::vector<Window*>& all, const Window* leaving) {
   for (Window* child : container.Children()) {
-    if (!child->Visible() || !child->Enabled()) continue;
+    if (child != leaving && (!child->Visible() || !child->Enabled())) continue;
     all.push_back(child);
-    Collect(*child, all);
+    Collect(*child, all, leaving);
   }
 }
 
 }  // namespace
 
-std::vector<Window*> Form::Reachable() const {
+std::vector<Window*> Form::Reachable(const Window* leaving) const {
   std::vector<Window*> all;
-  Collect(*this, all);
+  Collect(*this, all, leaving);
   return all;
 }
 
@@ -176,6 +176,21 @@ void Form::MoveFocus(const Window& from, int step) {
     if (!watch.Gone()) next->TabbedInto();
     return;
   }
+}
+
+void Form::PassFocusFrom(const Window& leaving) {
+  // A page leaves it to its tabs.
+  for (Window* at = leaving.container_; at != nullptr && !leaving.hasFocus_; at = at->container_) {
+    if (at->StopsTab()) return at->SetFocus();
+  }
+  const std::vector<Window*> all = Reachable(&leaving);
+  const auto place = std::find(all.begin(), all.end(), &leaving);
+  const auto from = static_cast<std::size_t>(place - all.begin());
+  for (std::size_t away = 1; away < all.size(); ++away) {
+    Window* const next = all[(from + away) % all.size()];
+    if (!next->IsWithin(leaving) && next->StopsTab()) return next->SetFocus();
+  }
+  SetFocus();
 }
 
 void Form::PressAccessKey(char32_t letter) {

@@ -63,8 +63,8 @@ class Surface : public Window {
   std::function<void(MouseButton, ShiftState, float, float)> MouseMove;
   std::function<void(MouseButton, ShiftState, float, float)> MouseUp;
   std::function<void()> DblClick;
-  /// The press ended without a release: a message box came up, another window took the mouse, or
-  /// this one was hidden.
+  /// The press on the surface itself ended without a release: a message box came up, another window
+  /// took the mouse, or this one was hidden. A graphic that was pressed is told instead.
   std::function<void()> CaptureLost;
   /// Drags of other programs over a surface that takes drops, in twips of the inside: over it
   /// (again and again), dropped, and gone without a drop. A control without a window that has
@@ -94,6 +94,8 @@ class Surface : public Window {
   void OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) override;
   void OnDoubleClick(PixelPoint at) override;
   void OnCaptureLost() override;
+  void ToolTipChanged() override;
+  void PeerGoing() override { shownToolTip_ = ToolTip(); }
   DropEffect OnDragOver(DragData& data, DropEffect allowed, const DragPoint& where) override;
   void OnDragLeave() override;
   DropEffect OnDrop(DragData& data, DropEffect allowed, const DragPoint& where) override;
@@ -107,6 +109,8 @@ class Surface : public Window {
   void Add(Graphic& graphic);
   void Remove(Graphic& graphic);
   void Restack(Graphic& graphic, ZPlace place);
+  /// The tool tip of what is under the pointer is the window's from now on.
+  void ShowToolTipOf(const Graphic* graphic);
   /// The graphic will get no more of the press that is going on.
   void DropCapture(const Graphic& graphic) noexcept;
 
@@ -134,6 +138,7 @@ class Surface : public Window {
 
   std::vector<Graphic*> graphics_;
   Graphic* captured_ = nullptr;           // the graphic that was pressed
+  std::string shownToolTip_;              // of the window: its own or that of a graphic
   MouseButton down_ = MouseButton::None;  // buttons down since a press on whom it concerns
   OleColor backColor_ = color::ButtonFace;
   FontSpec font_;

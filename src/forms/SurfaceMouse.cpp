@@ -1,6 +1,7 @@
 // The controls on a surface: their order, and who gets the mouse.
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/Surface.h"
 
@@ -72,8 +73,23 @@ void Surface::OnMouseDown(MouseButton button, ShiftState shift, PixelPoint at) {
   CallMouse(target, &Graphic::MouseDown, &Surface::MouseDown, button, shift, at);
 }
 
+void Surface::ToolTipChanged() {
+  shownToolTip_ = ToolTip();
+  Window::ToolTipChanged();
+}
+
+void Surface::ShowToolTipOf(const Graphic* graphic) {
+  const bool own = graphic == nullptr || graphic->ToolTip().empty();
+  const std::string& wanted = own ? ToolTip() : graphic->ToolTip();
+  if (wanted == shownToolTip_ || Peer() == nullptr) return;
+  shownToolTip_ = wanted;
+  Peer()->SetToolTip(shownToolTip_);
+}
+
 void Surface::OnMouseMove(MouseButton down, ShiftState shift, PixelPoint at) {
-  CallMouse(TargetAt(at), &Graphic::MouseMove, &Surface::MouseMove, down, shift, at);
+  Graphic* const target = TargetAt(at);
+  ShowToolTipOf(target);
+  CallMouse(target, &Graphic::MouseMove, &Surface::MouseMove, down, shift, at);
 }
 
 void Surface::OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) {
@@ -85,8 +101,8 @@ void Surface::OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) {
 
 void Surface::OnCaptureLost() {
   down_ = MouseButton::None;
-  captured_ = nullptr;
-  const std::function<void()> handler = CaptureLost;
+  const Graphic* const pressed = std::exchange(captured_, nullptr);
+  const std::function<void()> handler = pressed != nullptr ? pressed->CaptureLost : CaptureLost;
   if (handler) handler();
 }
 

@@ -48,6 +48,7 @@ inline constexpr int Delete = 46;
 inline constexpr int Menu = 93;
 inline constexpr int F1 = 112;
 inline constexpr int F2 = 113;
+inline constexpr int F3 = 114;
 inline constexpr int F4 = 115;
 inline constexpr int F5 = 116;
 inline constexpr int F10 = 121;

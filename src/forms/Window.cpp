@@ -1,5 +1,6 @@
 #include "forms/Window.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/Form.h"
@@ -53,6 +54,7 @@ bool Window::CreateWindows(WindowPeer* parent) {
   if (!peer_) return false;
   if (!Enabled() || inputHolds_ > 0) peer_->SetEnabled(false);
   if (takesDrops_) static_cast<void>(peer_->SetTakesDrops(true));
+  if (!ToolTip().empty()) peer_->SetToolTip(ToolTip());
   PeerMade();
   for (Window* child : children_) {
     if (!child->CreateWindows(Peer())) return false;
@@ -76,12 +78,38 @@ void Window::SetTakesDrops(bool takesDrops) {
   if (peer_) static_cast<void>(peer_->SetTakesDrops(takesDrops));
 }
 
+bool Window::IsWithin(const Window& around) const noexcept {
+  const Window* at = this;
+  while (at != nullptr && at != &around) at = at->container_;
+  return at != nullptr;
+}
+
+bool Window::HoldsFocus() const noexcept {
+  return (hasFocus_ && tabStop_) ||
+         std::any_of(children_.begin(), children_.end(),
+                     [](const Window* child) { return child->HoldsFocus(); });
+}
+
+// Without this the system would leave the keyboard to nobody, or to the window around.
+bool Window::KeepsAfterPassingFocus() {
+  if (!peer_ || container_ == nullptr || !HoldsFocus()) return true;
+  const Alive::Watch watch = MakeWatch();
+  OwnForm().PassFocusFrom(*this);
+  return !watch.Gone();
+}
+
 void Window::VisibleChanged() {
+  if (!Visible() && !KeepsAfterPassingFocus()) return;
   if (peer_) peer_->Show(Visible() ? ShowKind::NoActivate : ShowKind::Hidden);
 }
 
 void Window::EnabledChanged() {
+  if (!Enabled() && !KeepsAfterPassingFocus()) return;
   if (peer_ && inputHolds_ == 0) peer_->SetEnabled(Enabled());
+}
+
+void Window::ToolTipChanged() {
+  if (peer_) peer_->SetToolTip(ToolTip());
 }
 
 void Window::HoldInput() {

@@ -41,7 +41,8 @@ class Window : public Control, protected WindowEvents {
   /// stop the Tab key from the start.
   [[nodiscard]] bool TabStop() const noexcept { return tabStop_; }
   void SetTabStop(bool tabStop) noexcept { tabStop_ = tabStop; }
-  /// The window had the focus last among those of its form, which is in the foreground.
+  /// The window has the keyboard. A control that is hidden or disabled hands it to the next one, a
+  /// page of tabs to its tabs.
   [[nodiscard]] bool HasFocus() const noexcept { return hasFocus_; }
 
   /// The window has the focus, or has it no more.
@@ -94,6 +95,7 @@ class Window : public Control, protected WindowEvents {
 
   void VisibleChanged() override;
   void EnabledChanged() override;
+  void ToolTipChanged() override;
   void BoundsChanged(float oldLeft, float oldTop, float oldWidth, float oldHeight) override;
 
   /// Asks whether this window still stands after a handler ran.
@@ -109,6 +111,10 @@ class Window : public Control, protected WindowEvents {
   virtual void MoveInGroup(int /*step*/) {}
   /// Goes on or back by tabs, where there are some.
   virtual void ChangeTab(int /*step*/) {}
+  /// True if this is `around` or lies in it.
+  [[nodiscard]] bool IsWithin(const Window& around) const noexcept;
+  /// True if this or one in it has the focus and stops the Tab key.
+  [[nodiscard]] bool HoldsFocus() const noexcept;
   /// Gives the focus to the first window inside that takes it.
   void FocusFirst();
   /// The Tab key brought the focus.
@@ -141,6 +147,9 @@ class Window : public Control, protected WindowEvents {
 
  private:
   friend class Form;
+
+  /// Before the window is hidden or disabled. False when a handler has destroyed it.
+  [[nodiscard]] bool KeepsAfterPassingFocus();
 
   WindowSystem& windows_;
   Window* container_ = nullptr;

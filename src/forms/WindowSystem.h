@@ -117,6 +117,9 @@ class WindowPeer {
   [[nodiscard]] virtual bool IsMinimized() const = 0;
   virtual void SetCaption(std::string_view caption) = 0;
   virtual void SetEnabled(bool enabled) = 0;
+  /// What comes up beside the pointer when it rests on the window, from the next rest on; nothing
+  /// when it is empty. A press takes it away until the pointer has been elsewhere.
+  virtual void SetToolTip(std::string_view text) = 0;
   /// From now on drags of other programs are told to the window; at first they are not, and go to
   /// the next window around it that takes them. False when the system refuses.
   virtual bool SetTakesDrops(bool takesDrops) = 0;

@@ -248,7 +248,7 @@ void MainMenu::Minimize() {
 // ---- help and the end ----
 
 void MainMenu::HelpTopics() {
-  const std::string help = program_.AppPath + "corvelle.hlp";
+  const std::string help = program_.ShippedFile("corvelle.hlp");
   if (!program_.Services.Files.FileExists(help)) {
     HelpPort* const pages = program_.Ports.Help;
     if (pages != nullptr && pages->ShowPage(HelpPage::Contents)) return;

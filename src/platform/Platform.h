@@ -5,6 +5,7 @@ namespace corvelle {
 class AppBars;
 class Clipboard;
 class CodePage;
+class CrashReports;
 class DdeClient;
 class DesktopWindows;
 class FileAssociations;
@@ -42,6 +43,7 @@ struct Platform {
   TrayIcons& Tray;
   Lookups& SlowAnswers;
   Clipboard& Copies;
+  CrashReports& Crashes;
 };
 
 }  // namespace corvelle

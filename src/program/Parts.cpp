@@ -33,15 +33,21 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.ShellLinks = &Links;
   ports.StartupLink = &TheStartupLink;
   ports.DragImage = &Carried;
+  ports.WebLink = &WebLink;
+  ports.Library = &Library;
   ports.Help = &TheHelp;
   ports.NetSearch = &NetSearch;
   ports.About = &About;
+  ports.Customize = &Customize;
+  ports.CustomizeIcon = &Customize;
+  ports.Properties = &Properties;
+  ports.PropertiesIcon = &Properties;
   WireHelp();
 }
 
 void Parts::WireHelp() {
-  const std::initializer_list<forms::Form*> windows = {&Toolbar, &Companion, &Tip, &NetSearch,
-                                                       &About};
+  const std::initializer_list<forms::Form*> windows = {
+      &Toolbar, &Companion, &Tip, &NetSearch, &About, &Library, &WebLink, &Customize, &Properties};
   for (forms::Form* const window : windows) {
     window->HelpAsked = [this, window] { TheHelp.ShowPageOf(window->Name()); };
   }

@@ -29,6 +29,7 @@ LRESULT CALLBACK Win32ComboBox::EntryProcedure(HWND entry, UINT message, WPARAM 
     return DefSubclassProc(entry, message, wParam, lParam);
   }
   const std::shared_ptr<Win32Window> keep = window->shared_from_this();
+  window->RelayToToolTip(message, wParam, lParam);
   if (window->events_ != nullptr) {
     if (const auto answer = window->TreatControlKeys(message, wParam, lParam)) return *answer;
   }

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 
-#include "win32/Win32DropTarget.h"
 #include "win32/Win32WindowSystem.h"
 
 namespace corvelle::win32 {
@@ -57,8 +56,11 @@ LRESULT CALLBACK Win32Control::Procedure(HWND handle, UINT message, WPARAM wPara
   if (window == nullptr) return DefWindowProcW(handle, message, wParam, lParam);
   const std::shared_ptr<Win32Window> keep = window->shared_from_this();
   auto& control = static_cast<Win32Control&>(*window);
-  if (message == WM_DESTROY && control.takesDrops_) StopTakingDrops(handle);
-  if (message != WM_NCDESTROY) return control.Treat(message, wParam, lParam);
+  if (message == WM_DESTROY) control.Ending();
+  if (message != WM_NCDESTROY) {
+    control.RelayToToolTip(message, wParam, lParam);
+    return control.Treat(message, wParam, lParam);
+  }
   const LRESULT answer = control.Default(message, wParam, lParam);
   SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
   control.handle_ = nullptr;
@@ -94,9 +96,12 @@ LRESULT Win32Control::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
   return Default(message, wParam, lParam);
 }
 
-// The menu key has been told as a key when it went down.
+// The menu key has been told as a key when it went down; unused, it brings the system's own menu.
 std::optional<LRESULT> Win32Control::TreatMenuKey(LPARAM lParam) {
-  if (lParam == -1) return 0;
+  if (lParam == -1) {
+    if (usedUp_) return 0;
+    return std::nullopt;
+  }
   POINT at{static_cast<std::int16_t>(LOWORD(lParam)), static_cast<std::int16_t>(HIWORD(lParam))};
   ScreenToClient(handle_, &at);
   if (events_->OnContextMenu({static_cast<int>(at.x), static_cast<int>(at.y)})) return 0;

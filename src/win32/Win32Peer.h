@@ -57,6 +57,7 @@ class Win32PeerOf : public Interface {
   bool IsMinimized() const override { return core_.IsMinimized(); }
   void SetCaption(std::string_view caption) override { core_.SetCaption(caption); }
   void SetEnabled(bool enabled) override { core_.SetEnabled(enabled); }
+  void SetToolTip(std::string_view text) override { core_.Window().SetToolTip(text); }
   bool SetTakesDrops(bool takesDrops) override { return core_.Window().SetTakesDrops(takesDrops); }
   void Invalidate(const PixelRect& part) override { core_.Invalidate(part); }
   void PaintNow() override { core_.PaintNow(); }

@@ -6,6 +6,7 @@
 #include "win32/Win32AppBars.h"
 #include "win32/Win32Clipboard.h"
 #include "win32/Win32CodePage.h"
+#include "win32/Win32CrashReports.h"
 #include "win32/Win32Dde.h"
 #include "win32/Win32Desktop.h"
 #include "win32/Win32FileAssociations.h"
@@ -71,6 +72,7 @@ struct Win32Platform::Parts {
   Win32WindowSystem Windows;
   Win32Clipboard Copies;
   Win32Lookups SlowAnswers{Windows.Posts()};
+  Win32CrashReports Crashes;
 };
 
 Win32Platform::Win32Platform() : parts_(std::make_unique<Parts>()) {}
@@ -94,7 +96,8 @@ Platform Win32Platform::Services() const {
           .Bars = parts_->Bars,
           .Tray = parts_->Tray,
           .SlowAnswers = parts_->SlowAnswers,
-          .Copies = parts_->Copies};
+          .Copies = parts_->Copies,
+          .Crashes = parts_->Crashes};
 }
 
 forms::WindowSystem& Win32Platform::Windows() const { return parts_->Windows; }

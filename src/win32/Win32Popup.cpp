@@ -1,5 +1,8 @@
 // Popup menus.
 
+#include <algorithm>
+#include <string>
+
 #include "forms/Menu.h"
 #include "win32/MenuBar.h"
 #include "win32/Wide.h"
@@ -38,7 +41,42 @@ UniqueMenu Fill(UniqueMenu menu, const std::vector<forms::PopupItem>& items, UIN
   return menu;
 }
 
+bool HaveSameLines(const std::vector<forms::PopupItem>& a, const std::vector<forms::PopupItem>& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](const forms::PopupItem& one, const forms::PopupItem& other) {
+                      return one.Visible == other.Visible &&
+                             one.IsSeparator() == other.IsSeparator() &&
+                             HaveSameLines(one.Items, other.Items);
+                    });
+}
+
+void Update(HMENU menu, const std::vector<forms::PopupItem>& items) {
+  UINT place = 0;
+  for (const forms::PopupItem& item : items) {
+    if (!item.Visible) continue;
+    std::wstring caption = Wide(item.Caption);
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof(info);
+    info.fMask = MIIM_STATE;
+    info.fState = (item.Enabled ? MFS_ENABLED : MFS_GRAYED) | (item.Checked ? MFS_CHECKED : 0U);
+    if (!item.IsSeparator()) {
+      info.fMask |= MIIM_STRING;
+      info.dwTypeData = caption.data();
+    }
+    SetMenuItemInfoW(menu, place, TRUE, &info);
+    if (!item.Items.empty()) Update(GetSubMenu(menu, static_cast<int>(place)), item.Items);
+    ++place;
+  }
+}
+
 }  // namespace
+
+bool UpdateMenuBar(HMENU bar, const std::vector<forms::PopupItem>& before,
+                   const std::vector<forms::PopupItem>& now) {
+  if (bar == nullptr || !HaveSameLines(before, now)) return false;
+  Update(bar, now);
+  return true;
+}
 
 UniqueMenu MakeMenuBar(const std::vector<forms::PopupItem>& items) {
   return Fill(UniqueMenu(CreateMenu()), items, 1);

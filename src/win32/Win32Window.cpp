@@ -103,12 +103,30 @@ std::shared_ptr<Win32Window> Win32Window::TellerOf(HWND parent, UINT message, LP
   return window != nullptr ? window->shared_from_this() : nullptr;
 }
 
-// The window owns its menu bar, but for one that another takes the place of.
+// A menu that is up keeps its lines, since the system goes on with it: it is changed in its place,
+// or later.
 void Win32Window::SetMenuBar(const std::vector<forms::PopupItem>& items) {
+  menuItemsLater_.reset();
+  if (UpdateMenuBar(GetMenu(handle_), menuItems_, items)) {
+    menuItems_ = items;
+    DrawMenuBar(handle_);
+  } else if (menuIsUp_) {
+    menuItemsLater_ = items;
+  } else {
+    ReplaceMenuBar(items);
+  }
+}
+
+// The window owns its menu bar, but for one that another takes the place of.
+void Win32Window::ReplaceMenuBar(const std::vector<forms::PopupItem>& items) {
   menuItems_ = items;
-  const UniqueMenu before(GetMenu(handle_));
+  UniqueMenu before(GetMenu(handle_));
   UniqueMenu bar = items.empty() ? UniqueMenu() : MakeMenuBar(items);
-  if (SetMenu(handle_, bar.Get()) != 0) static_cast<void>(bar.Release());
+  if (SetMenu(handle_, bar.Get()) != 0) {
+    static_cast<void>(bar.Release());
+  } else {
+    static_cast<void>(before.Release());
+  }
   DrawMenuBar(handle_);
 }
 
@@ -121,6 +139,19 @@ bool Win32Window::SetTakesDrops(bool takesDrops) {
   }
   takesDrops_ = takesDrops;
   return true;
+}
+
+void Win32Window::SetToolTip(std::string_view text) {
+  if (handle_ == nullptr) return;
+  system_.ToolTips().Set(handle_, text);
+  hasToolTip_ = !text.empty();
+}
+
+void Win32Window::RelayToToolTip(UINT message, WPARAM wParam, LPARAM lParam) const {
+  if (!hasToolTip_ || handle_ == nullptr || message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) {
+    return;
+  }
+  system_.ToolTips().Relay(handle_, message, wParam, lParam);
 }
 
 void Win32Window::Destroy() {

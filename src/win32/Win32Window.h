@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "forms/WindowSystem.h"
@@ -32,6 +33,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   forms::WindowEvents* Events() const noexcept { return events_; }
   /// Begins or ends to take what other programs drag here. False when the system refuses.
   [[nodiscard]] bool SetTakesDrops(bool takesDrops);
+  void SetToolTip(std::string_view text);
   [[nodiscard]] bool IsForm() const noexcept { return kind_ == forms::PeerKind::Form; }
 
   void SetMenuBar(const std::vector<forms::PopupItem>& items);
@@ -56,8 +58,12 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   /// What the system does with a message.
   virtual LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
   void PositionChanged(const WINDOWPOS& position);
+  /// The system's window is about to end, whoever ends it.
+  void Ending();
   /// The focus came or went, or the wheel was turned.
   std::optional<LRESULT> TreatFocus(UINT message, WPARAM wParam, LPARAM lParam);
+  /// Tells the tool tips of a mouse message; the window may be gone by then.
+  void RelayToToolTip(UINT message, WPARAM wParam, LPARAM lParam) const;
   /// The character that this half of UTF-16 completes; nothing for a half that is not complete.
   std::optional<char32_t> Complete(wchar_t unit) noexcept;
 
@@ -65,6 +71,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   HWND handle_ = nullptr;
   forms::WindowEvents* events_ = nullptr;
   bool takesDrops_ = false;
+  bool hasToolTip_ = false;
   PixelRect told_;  // the bounds that the events know
 
  private:
@@ -82,6 +89,8 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
 
   LRESULT Press(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT ReleaseButton(UINT message, WPARAM wParam, LPARAM lParam);
+  void ReplaceMenuBar(const std::vector<forms::PopupItem>& items);
+  static void ReplaceLater(const std::weak_ptr<Win32Window>& window);
   void Paint();
   void Activated(WPARAM wParam, LPARAM lParam);
   [[nodiscard]] HWND FocusTarget() const;
@@ -93,6 +102,8 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   forms::FrameStyle frame_ = forms::FrameStyle::None;
   PixelSize leastSize_{1, 1};
   std::vector<forms::PopupItem> menuItems_;
+  std::optional<std::vector<forms::PopupItem>> menuItemsLater_;  // when no menu is up any more
+  bool menuIsUp_ = false;
   bool tabStop_ = false;
   bool pressed_ = false;       // it took the mouse with a press
   HWND focus_ = nullptr;       // the child that had the focus last

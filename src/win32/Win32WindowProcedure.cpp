@@ -76,14 +76,22 @@ LRESULT CALLBACK Win32Window::Procedure(HWND handle, UINT message, WPARAM wParam
   if (window == nullptr) return DefWindowProcW(handle, message, wParam, lParam);
   const std::shared_ptr<Win32Window> keep = window->shared_from_this();
   // Whoever destroys it, and while OLE still finds what it keeps with the window.
-  if (message == WM_DESTROY && window->takesDrops_) StopTakingDrops(handle);
+  if (message == WM_DESTROY) window->Ending();
   if (message == WM_NCDESTROY) {
     SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
     window->handle_ = nullptr;
     window->events_ = nullptr;
     return DefWindowProcW(handle, message, wParam, lParam);
   }
-  return window->Receive(message, wParam, lParam);
+  const LRESULT answer = window->Receive(message, wParam, lParam);
+  // What was under the pointer may have another tip now.
+  window->RelayToToolTip(message, wParam, lParam);
+  return answer;
+}
+
+void Win32Window::Ending() {
+  if (takesDrops_) StopTakingDrops(handle_);
+  if (hasToolTip_) system_.ToolTips().Forget(handle_);
 }
 
 LRESULT Win32Window::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -337,6 +345,12 @@ std::optional<LRESULT> Win32Window::TreatFocus(UINT message, WPARAM wParam, LPAR
 
 std::optional<LRESULT> Win32Window::TreatMenu(UINT message, WPARAM wParam, LPARAM lParam) {
   if (menuItems_.empty()) return std::nullopt;
+  if (message == WM_ENTERMENULOOP) menuIsUp_ = true;
+  if (message == WM_EXITMENULOOP) {
+    menuIsUp_ = false;
+    // What was chosen is counted in the lines that were up, and comes first.
+    if (menuItemsLater_) system_.Post([window = weak_from_this()] { ReplaceLater(window); });
+  }
   if (message == WM_COMMAND && lParam == 0 && HIWORD(wParam) == 0) {
     const int line = static_cast<int>(LOWORD(wParam)) - 1;
     const forms::PopupItem* const item = forms::LineAt(menuItems_, line);
@@ -356,6 +370,14 @@ std::optional<LRESULT> Win32Window::TreatMenu(UINT message, WPARAM wParam, LPARA
     line += 1 + forms::CountLines(item.Items);
   }
   return std::nullopt;
+}
+
+void Win32Window::ReplaceLater(const std::weak_ptr<Win32Window>& window) {
+  const std::shared_ptr<Win32Window> form = window.lock();
+  if (!form || form->handle_ == nullptr || form->menuIsUp_) return;
+  if (const auto items = std::exchange(form->menuItemsLater_, std::nullopt)) {
+    form->ReplaceMenuBar(*items);
+  }
 }
 
 // The end.

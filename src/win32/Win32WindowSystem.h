@@ -8,6 +8,7 @@
 #include "win32/PostBox.h"
 #include "win32/Win32ControlMaker.h"
 #include "win32/Win32Timers.h"
+#include "win32/Win32ToolTips.h"
 
 namespace corvelle::win32 {
 
@@ -53,6 +54,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   /// A window that is never shown and owns the forms without a button in the task bar: what has an
   /// owner gets none, in whichever task bar. Null when the system refuses it.
   HWND ToolOwner();
+  [[nodiscard]] Win32ToolTips& ToolTips() noexcept { return toolTips_; }
   const std::shared_ptr<DrawingTools>& Tools() const noexcept { return tools_; }
   /// For threads that may come back after the window system has ended.
   const std::shared_ptr<PostBox>& Posts() const noexcept { return posts_; }
@@ -64,6 +66,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   Win32Timers timers_;
   std::shared_ptr<PostBox> posts_ = std::make_shared<PostBox>();
   Win32ControlMaker controls_{*this};
+  Win32ToolTips toolTips_;
   forms::MousePointer pointer_ = forms::MousePointer::Default;
   UniqueCursor mouseIcon_;
   bool quit_ = false;

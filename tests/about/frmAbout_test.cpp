@@ -68,7 +68,7 @@ TEST_F(AboutWindow, OpensWithTheProgramsNameAndVersion) {
   EXPECT_EQ(window.TabStrip1.Selected(), "corvelle");
   EXPECT_TRUE(window.pnlCorvelle.Visible());
   EXPECT_FALSE(window.pnlInfo.Visible());
-  EXPECT_EQ(window.lblVersion.Caption(), "Version " + std::string(VersionText()));
+  EXPECT_EQ(window.lblVersion.Caption(), "Version " + std::string(kVersion));
   EXPECT_EQ(window.cmdOK.Caption(), "&OK");
   EXPECT_FALSE(window.lblCopyright.Caption().empty());
   EXPECT_FALSE(window.txtCopyright.Text().empty());
@@ -212,7 +212,7 @@ TEST_F(AboutWindow, TheButtonCopiesThePageAndCtrlCDoesTheSame) {
   EXPECT_NE(world.Copies.Text.find("Windows Version"), std::string::npos);
   ChooseTab(0);
   PressWith(kControlKey, 'C');
-  EXPECT_EQ(world.Copies.Text.find("Corvelle\r\nVersion " + std::string(VersionText())), 0U);
+  EXPECT_EQ(world.Copies.Text.find("Corvelle\r\nVersion " + std::string(kVersion)), 0U);
 }
 
 TEST_F(AboutWindow, WhileAnotherProgramHoldsTheClipboardCopyingBeeps) {

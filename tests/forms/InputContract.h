@@ -40,6 +40,8 @@ class InputHome : public ContractHome {
   virtual void Type(std::string_view text) = 0;
   /// 120 is a notch, away from the user.
   virtual void TurnWheel(int delta) = 0;
+  /// The tool tip that is up; empty for none.
+  [[nodiscard]] virtual std::string ToolTip() const = 0;
 };
 
 using InputHomeFactory = std::function<std::unique_ptr<InputHome>()>;

@@ -379,4 +379,103 @@ TEST_P(TreeContract, TenThousandNodesAreQuick) {
   EXPECT_LT(Windows().Now() - start, 5000);
 }
 
+// What the user sees of a tree, by the colours of its images: red and, as an overlay, blue.
+
+class TreeLookContract : public TreeContract {
+ protected:
+  static constexpr Rgb kRed = 0x000000FF;
+  static constexpr Rgb kBlue = 0x00FF0000;
+
+  std::unique_ptr<Canvas> Picture(const TreeView& tree) {
+    home_->MovePointer({900, 700});
+    Settle();
+    return Windows().PictureOfWindow(tree.hWnd()).Pixels;
+  }
+  /// Pixels of a colour in the row of a node.
+  int Count(const TreeView& tree, NodeId node, Rgb colour) {
+    const std::unique_ptr<Canvas> picture = Picture(tree);
+    const PixelRect row = tree.RowRect(node);
+    int count = 0;
+    for (int y = row.top; y < row.bottom; ++y) {
+      for (int x = row.left; x < row.right; ++x) count += picture->PixelAt({x, y}) == colour;
+    }
+    return count;
+  }
+  /// Pixels in which a tree looks different from before.
+  int Changed(const TreeView& tree, const Canvas& before) {
+    const std::unique_ptr<Canvas> now = Picture(tree);
+    int count = 0;
+    for (int y = 0; y < now->Size().height; ++y) {
+      for (int x = 0; x < now->Size().width; ++x) {
+        count += now->PixelAt({x, y}) != before.PixelAt({x, y});
+      }
+    }
+    return count;
+  }
+};
+
+TEST_P(TreeLookContract, ANodeShowsItsImageWholeOrDimmedOrNone) {
+  EXPECT_EQ(Count(Tree, Two, kRed), 12 * 12);
+  Tree.SetDimmed(Two, true);
+  EXPECT_LT(Count(Tree, Two, kRed), 12 * 12);
+  Tree.SetDimmed(Two, false);
+  EXPECT_EQ(Count(Tree, Two, kRed), 12 * 12);
+  Tree.SetImage(Two, -1);
+  EXPECT_EQ(Count(Tree, Two, kRed), 0);
+}
+
+TEST_P(TreeLookContract, AnOverlayLiesOnTheImage) {
+  const std::shared_ptr<Canvas> mark = Windows().CreateCanvas({16, 16});
+  mark->FillBox({0, 0, 16, 16}, Image::kMask);
+  mark->FillBox({4, 4, 8, 8}, kBlue);
+  Tree.SetOverlay(1, Tree.AddImage(mark));
+  EXPECT_EQ(Count(Tree, Two, kBlue), 0);
+  NodeLook look = Tree.Look(Two);
+  look.Overlay = 1;
+  Tree.SetLook(Two, look);
+  EXPECT_EQ(Count(Tree, Two, kBlue), 4 * 4);
+  EXPECT_EQ(Count(Tree, Two, kRed), 12 * 12 - 4 * 4);
+}
+
+TEST_P(TreeLookContract, MarksOfADragAreShownAndTakenAway) {
+  const std::unique_ptr<Canvas> before = Picture(Tree);
+  Tree.SetInsertMark(Three, true);
+  EXPECT_GT(Changed(Tree, *before), 20) << "a line";
+  Tree.SetInsertMark(kNoNode, false);
+  EXPECT_EQ(Changed(Tree, *before), 0);
+  Tree.SetDropTarget(Three);
+  EXPECT_GT(Changed(Tree, *before), 20) << "the label is highlighted";
+  Tree.SetDropTarget(kNoNode);
+  EXPECT_EQ(Changed(Tree, *before), 0);
+}
+
+TEST_P(TreeLookContract, ABoxShowsWhetherItIsTicked) {
+  const std::unique_ptr<Canvas> before = Picture(Boxes);
+  Boxes.SetChecked(Bare, true);
+  EXPECT_GT(Changed(Boxes, *before), 5);
+  Boxes.SetChecked(Bare, false);
+  EXPECT_EQ(Changed(Boxes, *before), 0);
+}
+
+TEST_P(TreeContract, AClickOnTheSelectedLabelBeginsAnEditWhereThatIsAllowed) {
+  home_->Wait(700);
+  ClickNode(One);
+  home_->Wait(900);
+  EXPECT_EQ(Tree.Edited(), kNoNode) << "without a handler only the program begins one";
+  Tree.Editing = [this](NodeId node, bool byProgram) {
+    sheet_.Note((byProgram ? "program " : "click ") + Tree.Look(node).Text);
+    return true;
+  };
+  ClickNode(Two);
+  home_->Wait(900);
+  EXPECT_EQ(Tree.Edited(), kNoNode) << "the first click only selects";
+  ClickNode(Two);
+  home_->Wait(900);
+  EXPECT_EQ(Tree.Edited(), Two);
+  home_->Type("new");
+  home_->PressKey(key::Enter);
+  Settle();
+  EXPECT_EQ(sheet_.Seen, (Texts{"select two", "click two", "rename two new"}));
+}
+
 }  // namespace corvelle::forms

@@ -64,5 +64,16 @@ TEST_F(FlatButtons, ShowsItsFrameRaisedOrSunken) {
   EXPECT_EQ(corner(), world.Desktop.SystemColor(16));
 }
 
+TEST_F(FlatButtons, APressThatIsLostIsOver) {
+  world.Desktop.Press();
+  world.Desktop.Answer(1);
+  world.Desktop.ShowMessage(form.hWnd(), "text", "title", 0);
+  EXPECT_FALSE(Flat.IsDown());
+  world.Desktop.MovePointer(212, 106);
+  EXPECT_FALSE(Flat.IsDown());
+  world.Desktop.Release();
+  EXPECT_EQ(clicks, 0);
+}
+
 }  // namespace
 }  // namespace corvelle::forms

@@ -4,6 +4,8 @@
 #include "forms/CanvasContract.h"
 #include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/DisabledLookContract.h"
+#include "forms/FocusContract.h"
 #include "forms/FrameContract.h"
 #include "forms/InputContract.h"
 #include "forms/ListBoxContract.h"
@@ -13,6 +15,7 @@
 #include "forms/TabStripContract.h"
 #include "forms/TextBoxContract.h"
 #include "forms/ToolBarContract.h"
+#include "forms/ToolTipContract.h"
 #include "forms/TreeContract.h"
 #include "forms/WindowSystemContract.h"
 #include "sim/World.h"
@@ -35,6 +38,7 @@ class SimulatedHome final : public ActivationHome {
   void KeyUp(int virtualKey) override { world_.Desktop.KeyUp(virtualKey); }
   void Type(std::string_view text) override { world_.Desktop.Type(text); }
   void TurnWheel(int delta) override { world_.Desktop.TurnWheel(delta); }
+  std::string ToolTip() const override { return world_.Desktop.ToolTip(); }
   void WhilePopupIsUp(std::function<void()> action) override {
     world_.Desktop.WhilePopupIsUp([action = std::move(action)](const sim::Popup&) { action(); });
   }
@@ -85,6 +89,14 @@ INSTANTIATE_TEST_SUITE_P(Simulated, FrameContract,
 INSTANTIATE_TEST_SUITE_P(Simulated, ToolBarContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 INSTANTIATE_TEST_SUITE_P(Simulated, PictureContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, ToolTipContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, FocusContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, TreeLookContract,
+                         testing::Values([] { return std::make_unique<SimulatedHome>(); }));
+INSTANTIATE_TEST_SUITE_P(Simulated, DisabledLookContract,
                          testing::Values([] { return std::make_unique<SimulatedHome>(); }));
 
 }  // namespace

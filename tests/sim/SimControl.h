@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "base/Geometry.h"
 #include "forms/Types.h"
 
@@ -25,6 +27,8 @@ class SimControl {
   virtual void Release(forms::MouseButton /*button*/, forms::ShiftState /*shift*/,
                        PixelPoint /*at*/, bool /*over*/) {}
   virtual void CaptureLost() {}
+  /// The tool tip of a part of it; empty for none.
+  [[nodiscard]] virtual std::string ToolTipAt(PixelPoint /*at*/) const { return {}; }
   virtual void Key(int /*keyCode*/, forms::ShiftState /*shift*/) {}
   virtual void Character(char32_t /*character*/) {}
   /// True while the keys are a part's of it: neither the rules of dialogs nor the form see them.

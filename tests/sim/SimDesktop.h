@@ -197,6 +197,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId FocusWindow() const noexcept { return focus_; }
   WindowId CaptureWindow() const noexcept { return capture_; }
   bool IsTopmost(WindowId window) const;
+  /// The tool tip that is up; empty for none.
+  [[nodiscard]] std::string ToolTip() const;
   int Beeps() const noexcept { return beeps_; }
   /// The picture that a custom pointer shows, null when there is none, and the pixel that points.
   const corvelle::Picture& MouseIcon() const noexcept { return mouseIcon_; }
@@ -343,6 +345,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   bool ControlReleased(WindowId target, const Mouse& mouse, forms::MouseButton button,
                        bool wasHeld);
 
+  // Tool tips (SimToolTip.cpp)
+  void SetToolTip(WindowId window, std::string_view text);
+  [[nodiscard]] std::string ToolTipOf(WindowId window, PixelPoint at) const;
+  /// The pointer has moved, to a window or in it.
+  void FollowToolTip(WindowId target, PixelPoint at);
+
   // Popup menus
   [[nodiscard]] bool PopupStands(WindowId owner) const;
   /// True when the popup that is up takes the press, or closes because of it.
@@ -407,6 +415,9 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   bool windowsMoved_ = false;        // since the pointer was last looked at
   WindowId moveWindow_ = kNoWindow;  // who got the last mouse move, and where
   PixelPoint movePoint_;
+  WindowId tipWindow_ = kNoWindow;        // under the pointer
+  std::string tip_;                       // its tool tip
+  std::optional<std::int64_t> tipSince_;  // how long the pointer has rested; none after a press
   std::set<int> keys_;
   forms::MousePointer pointerShape_ = forms::MousePointer::Default;
   corvelle::Picture mouseIcon_;

@@ -193,8 +193,9 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
                                .Bounds = RectAt(corner, {kClassicBoxWidth, kClassicBoxHeight}),
                                .Visible = true,
                                .Topmost = (flags & forms::msgbox::OnTop) != 0});
-  const bool wasEnabled = Get(owner) != nullptr && Get(owner)->Enabled;
-  if (Get(owner) != nullptr) SetEnabled(owner, false);
+  const SimWindow* const owning = Get(owner);
+  const bool wasEnabled = owning != nullptr && owning->Enabled;
+  if (owning != nullptr) SetEnabled(owner, false);
   LoseCapture();
   Activate(window);
 

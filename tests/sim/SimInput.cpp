@@ -153,6 +153,7 @@ void SimDesktop::DeliverMove(const Mouse& mouse) {
   const SimWindow* at = Look(target);
   moveWindow_ = target;
   movePoint_ = InWindow(target, mouse.At);
+  if (mouse.Down == forms::MouseButton::None) FollowToolTip(target, movePoint_);
   if (at == nullptr || at->Events == nullptr) return;
   if (capture_ == kNoWindow && FramePartAt(*at, mouse.At) != FramePart::None) return;
   const PixelPoint inside = movePoint_;
@@ -168,6 +169,7 @@ void SimDesktop::DeliverMove(const Mouse& mouse) {
 }
 
 void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second) {
+  tipSince_.reset();
   if (PopupTakesPress(mouse.At)) return;
   const WindowId target = MouseTarget(mouse.At);
   if (target == kNoWindow) return;

@@ -113,7 +113,9 @@ void SimListBox::Paint(SimCanvas& canvas, const SimWindow& window, bool /*focuse
       canvas.FillBox({kEdge, top, size.width - kEdge, top + kRowHeight}, Desktop().SystemColor(13));
     }
     canvas.DrawString({kEdge + 2, top + 2}, rows_[static_cast<std::size_t>(row)], {},
-                      Desktop().SystemColor(row == selected_ ? 14 : 8));
+                      Desktop().SystemColor(!window.Enabled    ? 17
+                                            : row == selected_ ? 14
+                                                               : 8));
   }
   PaintEdge(Desktop(), canvas, {0, 0, size.width, size.height}, false);
 }

@@ -25,6 +25,7 @@ class SimPeerCore {
   void SetCaption(std::string_view caption);
   void SetEnabled(bool enabled);
   bool SetTakesDrops(bool takesDrops);
+  void SetToolTip(std::string_view text) { desktop_.SetToolTip(window_, text); }
   void Invalidate(const PixelRect& part) { desktop_.Invalidate(window_, part); }
   void InvalidateAll() { desktop_.InvalidateTree(window_); }
   void PaintNow() { desktop_.PaintNow(window_); }
@@ -55,6 +56,7 @@ class SimPeerOf : public Interface {
   bool IsMinimized() const override { return core_.IsMinimized(); }
   void SetCaption(std::string_view caption) override { core_.SetCaption(caption); }
   void SetEnabled(bool enabled) override { core_.SetEnabled(enabled); }
+  void SetToolTip(std::string_view text) override { core_.SetToolTip(text); }
   bool SetTakesDrops(bool takesDrops) override { return core_.SetTakesDrops(takesDrops); }
   void Invalidate(const PixelRect& part) override { core_.Invalidate(part); }
   void PaintNow() override { core_.PaintNow(); }

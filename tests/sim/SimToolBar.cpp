@@ -50,7 +50,7 @@ int SimToolBar::ButtonAt(PixelPoint at) const {
   return -1;
 }
 
-std::string SimToolBar::TipAt(PixelPoint at) const {
+std::string SimToolBar::ToolTipAt(PixelPoint at) const {
   const int button = ButtonAt(at);
   return button >= 0 ? buttons_[static_cast<std::size_t>(button)].Tip : std::string();
 }

@@ -21,9 +21,6 @@ class SimToolBar final : public SimPeerOf<forms::ToolBarPeer>, public SimControl
   [[nodiscard]] const std::vector<forms::ToolBarButton>& Buttons() const noexcept {
     return buttons_;
   }
-  /// The tip of the button at a point; empty for none.
-  [[nodiscard]] std::string TipAt(PixelPoint at) const;
-
   void Paint(SimCanvas& canvas, const SimWindow& window, bool focused) const override;
   bool TakesFocus() const override { return false; }
   void Press(forms::MouseButton button, forms::ShiftState shift, PixelPoint at,
@@ -31,6 +28,7 @@ class SimToolBar final : public SimPeerOf<forms::ToolBarPeer>, public SimControl
   void Release(forms::MouseButton button, forms::ShiftState shift, PixelPoint at,
                bool over) override;
   void CaptureLost() override { pressed_ = -1; }
+  std::string ToolTipAt(PixelPoint at) const override;
 
  private:
   [[nodiscard]] int ButtonAt(PixelPoint at) const;

@@ -431,7 +431,10 @@ void SimTree::Paint(SimCanvas& canvas, const SimWindow& window, bool focused) co
     const PixelSize words = Desktop().MeasureText(text, {});
     if (marked)
       canvas.FillBox({left, top, left + words.width + 4, top + 16}, desktop.SystemColor(13));
-    canvas.DrawString({left + 2, top + 2}, text, {}, desktop.SystemColor(marked ? 14 : 8));
+    canvas.DrawString({left + 2, top + 2}, text, {},
+                      desktop.SystemColor(!window.Enabled ? 17
+                                          : marked        ? 14
+                                                          : 8));
     if (id == insertMark_) {
       const int line = insertAfter_ ? top + kRowHeight - 1 : top;
       canvas.FillBox({left, line, size.width - kEdge, line + 1}, desktop.SystemColor(8));

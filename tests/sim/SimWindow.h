@@ -26,6 +26,7 @@ struct SimWindow {
   bool TabStop = false;           // a picture box that a press gives the focus
   std::string ClassName;
   std::string Text;
+  std::string ToolTip;
   PixelRect Bounds;  // relative to the parent, or the screen
   PixelRect Told;    // the bounds that its events know
   forms::FrameStyle Frame = forms::FrameStyle::None;

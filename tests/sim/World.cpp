@@ -44,7 +44,8 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
           .Bars = Bars,
           .Tray = Tray,
           .SlowAnswers = SlowAnswers,
-          .Copies = Copies};
+          .Copies = Copies,
+          .Crashes = Crashes};
 }
 
 bool World::SavePicture(const std::string& hostPath) const {

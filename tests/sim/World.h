@@ -6,6 +6,7 @@
 #include "platform/Platform.h"
 #include "sim/SimAppBars.h"
 #include "sim/SimClipboard.h"
+#include "sim/SimCrashReports.h"
 #include "sim/SimDde.h"
 #include "sim/SimDesktop.h"
 #include "sim/SimFileAssociations.h"
@@ -57,6 +58,7 @@ class World {
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
   SimLookups SlowAnswers{Desktop, Files, Links, System};
+  SimCrashReports Crashes;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
   /// has some.

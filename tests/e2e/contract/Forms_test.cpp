@@ -8,6 +8,8 @@
 #include "forms/CanvasContract.h"
 #include "forms/ComboBoxContract.h"
 #include "forms/ControlsContract.h"
+#include "forms/DisabledLookContract.h"
+#include "forms/FocusContract.h"
 #include "forms/FrameContract.h"
 #include "forms/InputContract.h"
 #include "forms/ListBoxContract.h"
@@ -17,6 +19,7 @@
 #include "forms/TabStripContract.h"
 #include "forms/TextBoxContract.h"
 #include "forms/ToolBarContract.h"
+#include "forms/ToolTipContract.h"
 #include "forms/TreeContract.h"
 #include "forms/WindowSystemContract.h"
 
@@ -42,6 +45,7 @@ class WindowsHome final : public ActivationHome {
   void Type(std::string_view text) override { home_.Type(text); }
   void DragAlong(const std::vector<PixelPoint>& points) override { home_.DragAlong(points); }
   void TurnWheel(int delta) override { home_.TurnWheel(delta); }
+  std::string ToolTip() const override { return home_.ToolTip(); }
   void ClosePopup() override {
     INPUT keys[2]{};
     for (INPUT& key : keys) {
@@ -105,6 +109,14 @@ INSTANTIATE_TEST_SUITE_P(Windows, FrameContract,
 INSTANTIATE_TEST_SUITE_P(Windows, ToolBarContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 INSTANTIATE_TEST_SUITE_P(Windows, PictureContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ToolTipContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, FocusContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TreeLookContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, DisabledLookContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace

@@ -78,6 +78,12 @@ class RealHome {
     SendInput(1, &event, sizeof(INPUT));
     Wait(kReactionMilliseconds);
   }
+  /// The tool tip of this thread that is up; empty for none.
+  [[nodiscard]] std::string ToolTip() const {
+    WindowId up = kNoWindow;
+    EnumThreadWindows(GetCurrentThreadId(), &FindToolTip, reinterpret_cast<LPARAM>(&up));
+    return desktop_.Text(up);
+  }
   void PressKey(int virtualKey) {
     INPUT keys[2]{};
     for (INPUT& key : keys) {
@@ -93,6 +99,14 @@ class RealHome {
   static constexpr int kReactionMilliseconds = 60;
   static constexpr int kMostTries = 20;
   static constexpr int kWholeScreen = 65536;
+
+  static BOOL CALLBACK FindToolTip(HWND window, LPARAM found) {
+    wchar_t name[64] = {};
+    GetClassNameW(window, name, 64);
+    if (std::wstring_view(name) != TOOLTIPS_CLASSW || IsWindowVisible(window) == 0) return TRUE;
+    *reinterpret_cast<WindowId*>(found) = win32::ToId(window);
+    return FALSE;
+  }
 
   static void Key(int virtualKey, DWORD how) {
     INPUT key{};
