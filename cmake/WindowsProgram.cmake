@@ -4,6 +4,7 @@ if(EXISTS ${PROJECT_SOURCE_DIR}/src/main.cpp)
   target_link_libraries(corvelle PRIVATE corvelle_options corvelle_shipped corvelle_win32 corvelle_program
                         gdi32 user32 shell32 ole32 advapi32 uuid)
   corvelle_late_library(corvelle comctl32)
+  corvelle_late_library(corvelle comdlg32)
   set_target_properties(corvelle PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
   # Any address, no code among data, at home on a terminal server; the same bytes from each build.
   target_link_options(corvelle PRIVATE

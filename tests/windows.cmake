@@ -15,7 +15,7 @@ function(corvelle_windows_tests folder program)
   set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 endfunction()
 
-set(windows_libraries gdi32 user32 shell32 comctl32 ole32 advapi32 uuid)
+set(windows_libraries gdi32 user32 shell32 comctl32 comdlg32 ole32 advapi32 uuid)
 corvelle_windows_tests(e2e/contract windows_contract_tests LINKS corvelle_win32 corvelle_icons corvelle_launch corvelle_core
   ${windows_libraries})
 

@@ -36,7 +36,10 @@ void CloseStartupWindow(Program& program) {
 
 void ShowWelcome(Program& program) {
   const std::string help = program.ShippedFile("corvelle.hlp");
-  if (!program.Services.Files.FileExists(help)) return;
+  if (!program.Services.Files.FileExists(help)) {
+    if (program.Ports.Help != nullptr) program.Ports.Help->OfferPage(HelpPage::FirstSteps);
+    return;
+  }
   SystemInfo& system = program.Services.System;
   if (!system.ShowHelpTopic(kNoWindow, help, kWelcomeTopic)) {
     system.ShowHelpTopic(program.ToolbarWindow(), help, kWelcomeTopic);

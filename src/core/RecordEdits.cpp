@@ -133,7 +133,10 @@ EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string
   }));
 }
 
-EditOutcome DeleteButtonFile(FileSystem& files, const EntryEdit& edit) {
+EditOutcome DeleteButtonFile(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
+  const FileResult<std::string> stored = files.Read(edit.CurFile, 0, kRecordLength);
+  if (!stored) return EditOutcome::Refused(stored.Error());
+  if (!IsCurrentEntry(edit, ansi, ParseRecord(*stored, ansi))) return EditOutcome::RecordMismatch;
   return OutcomeOf(files.Remove(edit.CurFile));
 }
 

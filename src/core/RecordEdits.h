@@ -93,8 +93,9 @@ EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const Entr
 EditOutcome DeleteMenuEntry(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                             const EntryEdit& edit);
 
-/// Deletes the file of a toolbar button. There is no way back.
-EditOutcome DeleteButtonFile(FileSystem& files, const EntryEdit& edit);
+/// Deletes the file of a toolbar button, if its first record still is the current entry. There is
+/// no way back.
+EditOutcome DeleteButtonFile(FileSystem& files, const CodePage& ansi, const EntryEdit& edit);
 
 /// Puts the clipboard's record before record CurRecord of CurFile; for a generated entry before its
 /// folder item. Past the end nothing is put.

@@ -3,6 +3,7 @@
 namespace corvelle {
 
 class AppBars;
+class Clipboard;
 class CodePage;
 class CrashReports;
 class DdeClient;
@@ -41,6 +42,7 @@ struct Platform {
   AppBars& Bars;
   TrayIcons& Tray;
   Lookups& SlowAnswers;
+  Clipboard& Copies;
   CrashReports& Crashes;
 };
 

@@ -1,11 +1,14 @@
 #include "toolbar/AppBarRules.h"
 
+#include "base/Numbers.h"
+
 namespace corvelle {
 namespace {
 
 constexpr int kTopFrame = 3;    // pixels of the frame that a bar at the top hides above the screen
 constexpr float kFrame = 3;     // pixels of the strip's thickness besides its buttons
 constexpr float kFarFrame = 4;  // the same at the bottom and on the right
+constexpr float kLineBesideBar = 60;  // twips
 
 }  // namespace
 
@@ -71,7 +74,9 @@ bool PointerIsOff(Edge at, PixelPoint pointer, const PixelRect& window, PixelSiz
 
 bool PointerReveals(Edge at, PixelPoint pointer, const PixelRect& window,
                     PixelSize screen) noexcept {
-  return !PointerIsOff(at, pointer, window, screen);
+  if (!RectAt({0, 0}, screen).Contains(pointer)) return false;
+  return IsVertical(at) ? pointer.x >= window.left && pointer.x < window.right
+                        : pointer.y >= window.top && pointer.y < window.bottom;
 }
 
 bool IsOffEdge(Edge at, const PixelRect& window, PixelSize screen) noexcept {
@@ -88,14 +93,21 @@ bool IsOffEdge(Edge at, const PixelRect& window, PixelSize screen) noexcept {
   return window.top > 0;
 }
 
-TwipPoint RevealedCorner(Edge at, const TwipRect& window, TwipSize twips) noexcept {
+int LineThickness(Edge at, const PixelRect& window, PixelSize screen, TwipSize twips) noexcept {
+  if (!IsOffEdge(at, window, screen)) return 1;
+  const float pixel = IsVertical(at) ? twips.Width : twips.Height;
+  return RoundToInt(static_cast<double>(kLineBesideBar / pixel));
+}
+
+TwipPoint RevealedCorner(Edge at, const TwipRect& window, int line, TwipSize twips) noexcept {
+  const auto pixels = static_cast<float>(line);
   switch (at) {
     case Edge::Bottom:
-      return {window.Left, window.Top - window.Height + twips.Height};
+      return {window.Left, window.Top - window.Height + pixels * twips.Height};
     case Edge::Left:
       return {window.Left, window.Top};
     case Edge::Right:
-      return {window.Left - window.Width + twips.Width, window.Top};
+      return {window.Left - window.Width + pixels * twips.Width, window.Top};
     case Edge::Top:
       break;
   }

@@ -39,6 +39,12 @@ struct BarPlace {
 [[nodiscard]] bool PointerIsOff(Edge at, PixelPoint pointer, const PixelRect& window,
                                 PixelSize screen) noexcept;
 
+/// How thick the line of a hidden strip is: a pixel against its edge of the screen, where the
+/// pointer is stopped. `window` is where a line of one pixel would lie; where another bar lies
+/// outside of it, the pointer only passes, and the line is thick enough to be seen and hit.
+[[nodiscard]] int LineThickness(Edge at, const PixelRect& window, PixelSize screen,
+                                TwipSize twips) noexcept;
+
 /// True if the pointer is on a docked strip's line, which reveals the strip.
 [[nodiscard]] bool PointerReveals(Edge at, PixelPoint pointer, const PixelRect& window,
                                   PixelSize screen) noexcept;
@@ -47,9 +53,10 @@ struct BarPlace {
 /// outside of it.
 [[nodiscard]] bool IsOffEdge(Edge at, const PixelRect& window, PixelSize screen) noexcept;
 
-/// Where a strip goes that comes out of its line; `window` has the strip's full size already.
-/// Twips; `twips` are those of a pixel on both axes.
-[[nodiscard]] TwipPoint RevealedCorner(Edge at, const TwipRect& window, TwipSize twips) noexcept;
+/// Where a strip goes that comes out of its line of so many pixels; `window` has the strip's full
+/// size already. Twips; `twips` are those of a pixel on both axes.
+[[nodiscard]] TwipPoint RevealedCorner(Edge at, const TwipRect& window, int line,
+                                       TwipSize twips) noexcept;
 
 /// Size of the box of single buttons when it reaches to the end of the window. Twips. The room left
 /// at the end is two of the horizontal pixels on both axes.

@@ -173,9 +173,7 @@ void frmToolbar::TakeLevel() {
   } else if (program_.FullScreenApp) {
     SetWindowPos(forms::InsertAfter::Bottom, forms::swp::KeepActivation);
   } else {
-    // A line that is hidden wholly stays so.
-    SetWindowPos(forms::InsertAfter::Topmost,
-                 Visible() ? forms::swp::Show : forms::swp::KeepActivation);
+    SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
     if (program_.Ports.QMenu != nullptr) {
       program_.Ports.QMenu->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
     }

@@ -168,9 +168,7 @@ void mAppBar::FinishPlacing(Edge at) {
   strip_.DoLabelDate();
   // The boxes have their size for the strip in full sight, and a line stays a line.
   if (hidden) strip_.Move(line.Left, line.Top, line.Width, line.Height);
-  if (program_.AutoHide) {
-    HideIfOffEdge();
-  } else {
+  if (!program_.AutoHide) {
     strip_.DrawBorders();
     strip_.ShowNoActivate();
     strip_.Refresh();
@@ -288,7 +286,6 @@ bool mAppBar::AppBarPosChanged() {
   if (program_.AutoHide) {
     if (AutoHideFree(program_.ToolbarEdge)) {
       AutoHideAppBar(program_.ToolbarEdge);
-      if (program_.AutoHide) HideIfOffEdge();
     } else {
       program_.OptionFlags.Set(3, false);
       program_.AutoHide = false;

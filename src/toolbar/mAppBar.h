@@ -46,8 +46,6 @@ class mAppBar final : public DockingPort {
   bool AutoHideAppBar(std::string_view edge);
   /// The answer to the news that bars have moved. True when it dealt with the change.
   bool AppBarPosChanged();
-  /// Hides the strip wholly when its line does not touch the edge.
-  void HideIfOffEdge();
 
  private:
   std::uintptr_t Send(std::uint32_t message);
@@ -78,6 +76,8 @@ class mAppBar final : public DockingPort {
   AppBarRecord AppBarData;
   /// The shell keeps room for the strip.
   bool keepsRoom_ = false;
+  /// How thick the strip's line was when it hid last. Pixels.
+  int line_ = 1;
 };
 
 }  // namespace corvelle

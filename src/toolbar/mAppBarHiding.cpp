@@ -1,4 +1,4 @@
-// Auto Hide: the strip as a line of one pixel, and back.
+// Auto Hide: the strip as a line, and back.
 
 #include "core/Program.h"
 #include "forms/Scopes.h"
@@ -33,7 +33,7 @@ bool mAppBar::AutoHideAppBar(std::string_view edge) {
     Remove();
     RegisterAppBar();
   }
-  const PixelSize bar = BarSize(at, 1, ScreenPixels());
+  const PixelSize screen = ScreenPixels();
   if (AppBarData.uEdge != ShellEdge(at)) {
     AppBarData.lParam = 0;
     Send(abm::SetAutoHideBar);
@@ -43,7 +43,12 @@ bool mAppBar::AutoHideAppBar(std::string_view edge) {
     AppBarData.lParam = 1;
     Send(abm::SetAutoHideBar);
   }
-  const BarPlace place = AskForPlace(at, bar, false);
+  PixelSize bar = BarSize(at, 1, screen);
+  BarPlace place = AskForPlace(at, bar, false);
+  line_ = LineThickness(at, BarWindow(at, place, bar), screen, Twips());
+  bar = BarSize(at, line_, screen);
+  place = CutToBar(at, place.Reserved, bar, false);
+  AppBarData.rc = place.Reserved;
   MoveWindow(BarWindow(at, place, bar));
   strip_.ShowNoActivate();
   program_.AppBarDocked = true;
@@ -52,14 +57,9 @@ bool mAppBar::AutoHideAppBar(std::string_view edge) {
   return true;
 }
 
-void mAppBar::HideIfOffEdge() {
-  if (IsOffEdge(CurrentEdge(), strip_.WindowPixels(), ScreenPixels())) strip_.SetVisible(false);
-}
-
 void mAppBar::HideToolbar() {
   if (program_.AppBarDocked) {
     if (!AutoHideAppBar(program_.ToolbarEdge)) return;
-    HideIfOffEdge();
     strip_.SinkAgain();
     return;
   }
@@ -77,7 +77,7 @@ void mAppBar::RevealToolbar() {
   if (program_.AppBarDocked) {
     // What was read anew for the line has its places from here on.
     ResizeToEdge();
-    const TwipPoint corner = RevealedCorner(CurrentEdge(), strip_.WindowBounds(), Twips());
+    const TwipPoint corner = RevealedCorner(CurrentEdge(), strip_.WindowBounds(), line_, Twips());
     strip_.Move(corner.X, corner.Y, strip_.Width(), strip_.Height());
   } else {
     strip_.SetControls();

@@ -4,6 +4,7 @@
 
 #include "win32/ErrorMode.h"
 #include "win32/Win32AppBars.h"
+#include "win32/Win32Clipboard.h"
 #include "win32/Win32CodePage.h"
 #include "win32/Win32CrashReports.h"
 #include "win32/Win32Dde.h"
@@ -69,6 +70,7 @@ struct Win32Platform::Parts {
   Win32AppBars Bars;
   Win32TrayIcons Tray;
   Win32WindowSystem Windows;
+  Win32Clipboard Copies;
   Win32Lookups SlowAnswers{Windows.Posts()};
   Win32CrashReports Crashes;
 };
@@ -94,6 +96,7 @@ Platform Win32Platform::Services() const {
           .Bars = parts_->Bars,
           .Tray = parts_->Tray,
           .SlowAnswers = parts_->SlowAnswers,
+          .Copies = parts_->Copies,
           .Crashes = parts_->Crashes};
 }
 

@@ -149,15 +149,35 @@ TEST(DeleteMenuEntry, WorksOnAFileWithAShortLastRecord) {
 }
 
 TEST(DeleteButtonFile, RemovesTheWholeFile) {
-  Bench bench;
+  Bench bench(1);
   bench.edit.CurMenuTag = "B2";
-  EXPECT_EQ(DeleteButtonFile(bench.disk, bench.edit), EditOutcome::Edited);
+  EXPECT_EQ(DeleteButtonFile(bench.disk, kAnsi, bench.edit), EditOutcome::Edited);
   EXPECT_FALSE(bench.disk.Has(kFile));
-  EXPECT_EQ(DeleteButtonFile(bench.disk, bench.edit), EditOutcome::Failed);
-  bench.edit.CurFile = kOther;
-  bench.disk.SetReadOnly(kOther, true);
-  EXPECT_EQ(DeleteButtonFile(bench.disk, bench.edit), EditOutcome::Failed);
-  EXPECT_TRUE(bench.disk.Has(kOther));
+  EXPECT_EQ(DeleteButtonFile(bench.disk, kAnsi, bench.edit), EditOutcome::Failed);
+  bench.disk.Put(kFile, kFour);
+  bench.disk.SetReadOnly(kFile, true);
+  EXPECT_EQ(DeleteButtonFile(bench.disk, kAnsi, bench.edit), EditOutcome::Failed);
+  EXPECT_TRUE(bench.disk.Has(kFile));
+}
+
+TEST(DeleteButtonFile, LeavesAnotherButtonThatHasComeToItsPlace) {
+  Bench bench(1);
+  bench.edit.CurMenuTag = "B2";
+  for (const std::string& other : {Record("Newer") + Record("One"), Record("Button 2"), ""s}) {
+    bench.disk.Put(kFile, other);
+    EXPECT_EQ(DeleteButtonFile(bench.disk, kAnsi, bench.edit), EditOutcome::RecordMismatch);
+    EXPECT_EQ(bench.Bytes(), other);
+  }
+}
+
+// Its button shows nothing, and that is what the user wants to be rid of.
+TEST(DeleteButtonFile, RemovesADamagedOne) {
+  for (const std::string& damaged : {""s, "short"s, Record("Button").substr(0, 569)}) {
+    Bench bench(1, damaged);
+    bench.edit.CurMenuTag = "B2";
+    EXPECT_EQ(DeleteButtonFile(bench.disk, kAnsi, bench.edit), EditOutcome::Edited);
+    EXPECT_FALSE(bench.disk.Has(kFile));
+  }
 }
 
 TEST(PasteMenuEntry, PutsTheClipboardBeforeTheEntry) {

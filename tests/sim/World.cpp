@@ -44,6 +44,7 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
           .Bars = Bars,
           .Tray = Tray,
           .SlowAnswers = SlowAnswers,
+          .Copies = Copies,
           .Crashes = Crashes};
 }
 

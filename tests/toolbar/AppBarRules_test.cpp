@@ -154,6 +154,35 @@ TEST(AppBarRules, OffTheLineThePointerHidesAndOnTheLineItReveals) {
   }
 }
 
+TEST(AppBarRules, AThickLineRevealsWithAllItsPixels) {
+  constexpr PixelRect top{0, 30, 1024, 34};
+  constexpr PixelRect right{990, 0, 994, 768};
+  for (int i = -1; i <= 4; ++i) {
+    const bool on = i >= 0 && i < 4;
+    EXPECT_EQ(PointerReveals(Edge::Top, {500, 30 + i}, top, kScreen), on) << i;
+    EXPECT_EQ(PointerReveals(Edge::Bottom, {500, 30 + i}, top, kScreen), on) << i;
+    EXPECT_EQ(PointerReveals(Edge::Right, {990 + i, 400}, right, kScreen), on) << i;
+    EXPECT_EQ(PointerReveals(Edge::Left, {990 + i, 400}, right, kScreen), on) << i;
+  }
+}
+
+TEST(AppBarRules, ALineBesideAnotherBarIsAMillimetreThickOnEveryScreen) {
+  struct Row {
+    float t;
+    int pixels;
+  };
+  for (const auto& [t, pixels] : {Row{15, 4}, {12, 5}, {10, 6}, {7.5F, 8}, {1440.0F / 336, 14}}) {
+    const TwipSize twips{t, t};
+    for (const Edge at : {Edge::Top, Edge::Bottom, Edge::Left, Edge::Right}) {
+      EXPECT_EQ(LineThickness(at, {10, 10, 11, 11}, kScreen, twips), pixels) << t;
+      EXPECT_EQ(LineThickness(at, {0, 0, 1024, 768}, kScreen, twips), 1) << t;
+    }
+  }
+  // Of pixels that are not square each edge takes those across it.
+  EXPECT_EQ(LineThickness(Edge::Top, {10, 10, 11, 11}, kScreen, {15, 12}), 5);
+  EXPECT_EQ(LineThickness(Edge::Left, {10, 10, 11, 11}, kScreen, {15, 12}), 4);
+}
+
 TEST(AppBarRules, ALineThatDoesNotTouchItsEdgeIsOff) {
   EXPECT_FALSE(IsOffEdge(Edge::Top, {0, 0, 1024, 1}, kScreen));
   EXPECT_TRUE(IsOffEdge(Edge::Top, {0, 1, 1024, 2}, kScreen));
@@ -168,14 +197,21 @@ TEST(AppBarRules, ALineThatDoesNotTouchItsEdgeIsOff) {
 TEST(AppBarRules, ARevealedStripComesInFromItsEdge) {
   for (const float t : {15.0F, 12.0F, 10.0F}) {
     const TwipSize twips{t, t};
-    EXPECT_EQ(RevealedCorner(Edge::Top, {0, 0, 100 * t, 40 * t}, twips), (TwipPoint{0, -3 * t}));
-    EXPECT_EQ(RevealedCorner(Edge::Top, {0, 28 * t, 100 * t, 40 * t}, twips),
-              (TwipPoint{0, 28 * t}));
-    EXPECT_EQ(RevealedCorner(Edge::Bottom, {0, 767 * t, 100 * t, 40 * t}, twips),
+    EXPECT_EQ(RevealedCorner(Edge::Top, {0, 0, 100 * t, 40 * t}, 1, twips), (TwipPoint{0, -3 * t}));
+    EXPECT_EQ(RevealedCorner(Edge::Bottom, {0, 767 * t, 100 * t, 40 * t}, 1, twips),
               (TwipPoint{0, 728 * t}));
-    EXPECT_EQ(RevealedCorner(Edge::Right, {1023 * t, 0, 40 * t, 700 * t}, twips),
+    EXPECT_EQ(RevealedCorner(Edge::Right, {1023 * t, 0, 40 * t, 700 * t}, 1, twips),
               (TwipPoint{984 * t, 0}));
-    EXPECT_EQ(RevealedCorner(Edge::Left, {0, 0, 40 * t, 700 * t}, twips), (TwipPoint{0, 0}));
+    EXPECT_EQ(RevealedCorner(Edge::Left, {0, 0, 40 * t, 700 * t}, 1, twips), (TwipPoint{0, 0}));
+    // Beside another bar of 28 pixels, out of a line of 4.
+    EXPECT_EQ(RevealedCorner(Edge::Top, {0, 28 * t, 100 * t, 40 * t}, 4, twips),
+              (TwipPoint{0, 28 * t}));
+    EXPECT_EQ(RevealedCorner(Edge::Bottom, {0, 736 * t, 100 * t, 40 * t}, 4, twips),
+              (TwipPoint{0, 700 * t}));
+    EXPECT_EQ(RevealedCorner(Edge::Right, {992 * t, 0, 40 * t, 700 * t}, 4, twips),
+              (TwipPoint{956 * t, 0}));
+    EXPECT_EQ(RevealedCorner(Edge::Left, {28 * t, 0, 40 * t, 700 * t}, 4, twips),
+              (TwipPoint{28 * t, 0}));
   }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "toolbar/StripDesk.h"
 
@@ -669,6 +670,28 @@ TEST(ToolbarCarry, WithoutAFileOfItsOwnWhatIsPutOnAButtonOpensNoMenu) {
   desk.Start();
   desk.Strip.DoButtonDrag(2, forms::MouseButton::Left);
   EXPECT_EQ(desk.MenuUp(), 0);
+}
+
+struct QuietPopup final : PopupPort {
+  void ShowToolbarPopup(EntryEdit entry) override { Last = std::move(entry); }
+  EntryEdit Last;
+};
+
+TEST(ToolbarPopup, OfAButtonActsOnItsWholeRecord) {
+  StripDesk desk;
+  QuietPopup popup;
+  desk.TheProgram.Ports.Popup = &popup;
+  const std::string file = desk.PutButton(1, "Tools", "C:\\tool.ico", "C:\\Docs\\*.*");
+  desk.Start();
+  desk.PointAtButton(2);
+  desk.World.Desktop.Click(forms::MouseButton::Right);
+  EXPECT_EQ(popup.Last, (EntryEdit{.CurTitle = "Tools",
+                                   .CurIcon = "C:\\tool.ico",
+                                   .CurCommand = "C:\\Docs\\*.*",
+                                   .CurMenuTag = "B2",
+                                   .CurFile = file,
+                                   .CurRecord = 1}));
+  desk.Exit();
 }
 
 }  // namespace
