@@ -143,6 +143,12 @@ TEST_F(MainTest, TheFirstRunOpensTheHelpOnTheDesktop) {
   EXPECT_EQ(world.System.HelpCalls, (Calls{{kNoWindow, "C:\\Corvelle\\corvelle.hlp", 1002}}));
 }
 
+TEST_F(MainTest, WithoutAHelpFileTheFirstRunOpensNone) {
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(world.System.HelpCalls.empty());
+}
+
 TEST_F(MainTest, HelpThatTheDesktopCannotShowIsTriedOnceMoreOnTheStrip) {
   world.Files.Put("C:\\Corvelle\\corvelle.hlp", "help");
   world.System.HasHelpViewer = false;
@@ -214,7 +220,8 @@ TEST_F(MainTest, TheUpgradeCleansDataFilesAndNothingElse) {
 TEST_F(MainTest, TheUpgradeTouchesNoDataFileOfOthersWhereverItIsUnpacked) {
   const std::string others[] = {"ntuser.dat",       "photos.dat",       "tmenu4.dat",
                                 "tmenu4 notes.dat", "tmenu425.dat.dat", "mytoolbarp.dat",
-                                "mainmenu.dat.dat", "Icons\\cache.dat", "Icons\\tmenu4x.dat"};
+                                "mainmenu.dat.dat", "Icons\\cache.dat", "Icons\\tmenu4x.dat",
+                                "photos12.dat"};
   const std::string own[] = {"tmenu418.dat", "mainmenu.dat", "SFDATA.dat",
                              "nsearch.dat",  "clrlib.dat",   "Icons\\clrlib.dat"};
   for (const bool first : {true, false}) {
@@ -263,6 +270,10 @@ TEST_F(MainTest, AFlagFileThatCannotBeReachedIsNoNewInstallation) {
   EXPECT_TRUE(Main(program));
   EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\toolbarp.dat"));
   EXPECT_TRUE(world.Desktop.Boxes().empty());
+  // An installed version: its entries are there, and its questions have been asked.
+  EXPECT_TRUE(program.OptionFlags.Is(1));
+  EXPECT_TRUE(program.OptionFlags.Is(2));
+  EXPECT_FALSE(program.OptionFlags.Is(3));
 }
 
 TEST_F(MainTest, WhereTheFlagsCannotBeKeptTheQuestionIsNotAskedAtEachStart) {

@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "forms/Scale.h"
+
 #include "menus/MenuDesk.h"
 
 namespace corvelle {
@@ -218,6 +220,22 @@ TEST_F(Painted, APageIsDrawnWhenItIsFirstShownAndStandsAtOnceTheSecondTime) {
   EXPECT_EQ(desk_.World.Desktop.PaintCount(window), paints + 1);
   EXPECT_EQ(IconColour(35), ToolColour(34));
   EXPECT_EQ(desk_.World.Icons.Lookups(), 68);
+}
+
+// The labels show the captions, in the colours of the selection too.
+TEST_F(Painted, ThePictureOfAPageHoldsNoCaption) {
+  desk_.Open(1, Tools(3));
+  ASSERT_NE(desk_.Menu.PagePicture, nullptr);
+  for (int item = 1; item <= 3; ++item) {
+    const forms::Label& label = desk_.Menu.Lbl[item];
+    const PixelRect row = forms::ToPixels(label.Left(), label.Top(), label.Width(), label.Height(),
+                                          desk_.World.Windows().Screen());
+    for (int y = row.top; y < row.bottom; ++y) {
+      for (int x = row.left; x < row.right; ++x) {
+        ASSERT_EQ(desk_.Menu.PagePicture->PixelAt({x, y}), Face()) << item;
+      }
+    }
+  }
 }
 
 TEST_F(Painted, APageThatIsTurnedToShowsAllItsCaptionsAndThenIconAfterIcon) {

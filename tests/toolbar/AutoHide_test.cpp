@@ -442,6 +442,32 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
   EXPECT_TRUE(desk.IsLine());
 }
 
+TEST(AutoHide, ATickInsideTheTickThatRevealsStartsNoOther) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Right);
+  desk.TheProgram.FullScreenApp = true;
+  // No move has come to the line yet.
+  desk.World.Desktop.SetPointerPosition(kLines[3].touch);
+  ASSERT_TRUE(desk.IsLine());
+  int ticks = 0;
+  const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk, &ticks] {
+    ++ticks;
+    // The pointer has gone on: a tick that did its work would hide the strip.
+    desk.World.Desktop.SetPointerPosition({500, 400});
+    desk.World.Bars.ClearLog();
+    desk.Strip.Timer1_Timer();
+    EXPECT_EQ(desk.World.Bars.Log(), Messages{});
+    EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  });
+  desk.World.Desktop.Jump(5);
+  desk.Strip.Timer1_Timer();
+  desk.World.Desktop.StopTimer(inside);
+  EXPECT_EQ(ticks, 1);
+  EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  desk.Strip.Timer1_Timer();
+  EXPECT_TRUE(desk.IsLine());
+}
+
 TEST(AutoHide, ARevealUnderAFullScreenProgramComesBeforeTheWindowThatCovers) {
   for (const LineRow& row : kLines) {
     SCOPED_TRACE(row.name);

@@ -460,5 +460,68 @@ TEST(StripAndMenu, TheSelectedItemsBarIsSeenOnTheScreen) {
   EXPECT_EQ(screen.PixelAt({item.x + 60, item.y - 9}), desk.World.Desktop.SystemColor(13));
 }
 
+// ---- the screen changes while the shell is asked for icons ----
+
+/// What a menu of the road's desk shows on a screen of that size, its place aside.
+std::string MenuPixels(const RoadDesk& desk) {
+  std::string pixels;
+  const PixelRect menu = desk.World.Desktop.BoundsOf(desk.RealMenu.hWnd());
+  const sim::SimCanvas screen = desk.World.Desktop.Picture();
+  for (int y = menu.top; y < menu.bottom; ++y) {
+    for (int x = menu.left; x < menu.right; ++x) {
+      pixels += std::to_string(screen.PixelAt({x, y})) + ' ';
+    }
+    pixels += '\n';
+  }
+  return pixels;
+}
+
+// The message is sent, so that it comes in the middle of the shell's answer.
+TEST(DisplayChange, WhileIconsAreFetchedLeavesNoMenuWithoutItsIcons) {
+  constexpr PixelSize kSmaller{800, 600};
+  std::string whole;
+  {
+    RoadDesk desk;
+    for (int i = 1; i <= 3; ++i) {
+      desk.World.Icons.SetIndex("C:\\Tools\\m1i" + std::to_string(i) + ".exe", 20 + i);
+    }
+    desk.World.Desktop.SetScreen(kSmaller);
+    desk.Wait(300);
+    desk.Click(2);
+    desk.PointAway();
+    desk.Wait(300);
+    ASSERT_EQ(desk.RealMenuUp(), 2);
+    whole = MenuPixels(desk);
+  }
+  for (int at = 0; at < 3; ++at) {
+    SCOPED_TRACE(at);
+    RoadDesk desk;
+    for (int i = 1; i <= 3; ++i) {
+      desk.World.Icons.SetIndex("C:\\Tools\\m1i" + std::to_string(i) + ".exe", 20 + i);
+    }
+    int asked = 0;
+    desk.World.Icons.WhileAsked([&] {
+      if (asked++ == at) desk.World.Desktop.SetScreen(kSmaller);
+    });
+    desk.RealMenu.ResetPicIcons();
+    desk.Click(2);
+    EXPECT_GT(asked, at);
+    desk.PointAway();
+    desk.Wait(300);
+    // The menu may have gone, for it would stand where the strip was; none is half drawn.
+    if (desk.RealMenuUp() == 2) {
+      EXPECT_TRUE(MenuPixels(desk) == whole);
+    }
+    desk.Strip.ResetMenu();
+    desk.Wait(300);
+    desk.Click(2);
+    desk.PointAway();
+    desk.Wait(300);
+    ASSERT_EQ(desk.RealMenuUp(), 2);
+    EXPECT_TRUE(MenuPixels(desk) == whole);
+    EXPECT_LE(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).right, kSmaller.width);
+  }
+}
+
 }  // namespace
 }  // namespace corvelle
