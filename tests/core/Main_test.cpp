@@ -5,8 +5,11 @@
 #include <algorithm>
 
 #include "core/CoreDoubles.h"
+#include "core/Instance.h"
 #include "core/Program.h"
 #include "core/Upgrade.h"
+#include "platform/Platform.h"
+#include "platform/SystemInfo.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -28,6 +31,47 @@ class SlowIconRule final : public IconRulePort {
 
  private:
   sim::SimDesktop& desktop_;
+};
+
+/// Another copy that ends after so many questions, or has its window by then.
+class OtherCopy final : public SystemInfo {
+ public:
+  explicit OtherCopy(sim::World& world) : world_(world) {}
+  int EndsAfter = 1000;
+  int ShowsItselfAfter = 1000;
+  int Asked = 0;
+
+  bool AnotherInstanceRuns() override {
+    if (++Asked == ShowsItselfAfter) {
+      world_.Desktop.AddOtherWindow(
+          {.Title = "Corvelle", .ClassName = "frmMinimize", .Visible = false});
+    }
+    return Asked <= EndsAfter;
+  }
+  std::string ApplicationFolder() const override { return world_.System.ApplicationFolder(); }
+  std::string CurrentFolder() const override { return world_.System.CurrentFolder(); }
+  std::string WindowsFolder() const override { return world_.System.WindowsFolder(); }
+  std::string SystemFolder() const override { return world_.System.SystemFolder(); }
+  int CaptionHeight() const override { return world_.System.CaptionHeight(); }
+  int CaptionButtonWidth() const override { return world_.System.CaptionButtonWidth(); }
+  std::string ShortDate() const override { return world_.System.ShortDate(); }
+  std::string LongDate() const override { return world_.System.LongDate(); }
+  std::string TimeOfDay() const override { return world_.System.TimeOfDay(); }
+  int ColourDepth() const override { return world_.System.ColourDepth(); }
+  bool ShowHelpTopic(WindowId window, const std::string& file, int topic) override {
+    return world_.System.ShowHelpTopic(window, file, topic);
+  }
+
+  /// The world's services with this in the place of the world's own.
+  Platform Services() {
+    const Platform own = world_.Services();
+    return {own.Files,   own.Ansi,    own.Keys,     own.Shell,   own.Icons,      own.Links,
+            own.FileOps, own.Pointer, own.Keyboard, own.Desktop, own.Dde,        own.Associations,
+            *this,       own.Folders, own.Bars,     own.Tray,    own.SlowAnswers};
+  }
+
+ private:
+  sim::World& world_;
 };
 
 /// An installation with windows that only write down what happens to them.
@@ -329,6 +373,25 @@ TEST_F(MainTest, AFirstInstanceThatCannotBeWokenIsToldOf) {
   EXPECT_EQ(world.Desktop.Boxes()[0].Owner, kNoWindow);
   EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 262208U);
   EXPECT_EQ(world.Desktop.Boxes()[0].Title, "Corvelle");
+}
+
+TEST_F(MainTest, AFirstInstanceThatIsJustEndingLetsTheNextOneStart) {
+  PutFlags(kInstalled);
+  OtherCopy other(world);
+  other.EndsAfter = 3;
+  Program next(other.Services(), world.Windows());
+  EXPECT_TRUE(ClaimSession(next));
+  EXPECT_EQ(other.Asked, 4);
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(MainTest, AFirstInstanceThatIsJustStartingIsWokenWhenItIsThere) {
+  OtherCopy other(world);
+  other.ShowsItselfAfter = 3;
+  Program next(other.Services(), world.Windows());
+  EXPECT_FALSE(ClaimSession(next));
+  EXPECT_EQ(world.Desktop.Sent().size(), 1U);
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
 TEST_F(MainTest, ACompanionClosedWhileTheQuestionIsUpEndsTheStart) {
