@@ -283,6 +283,36 @@ TEST(AutoHide, AStripThatGoesWhileTheMessageIsUpIsNotTouchedAnyMore) {
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
 }
 
+// At these scales the twips of the line's place and thickness add up to less than those of the
+// screen: only pixels tell that the line touches its edge.
+TEST(AutoHide, ALineTouchesItsEdgeThoughItsTwipsFallShortOfTheScreen) {
+  struct Row {
+    int dpi;
+    PixelSize screen;
+  };
+  for (const Row& row : {Row{168, {1680, 900}}, Row{168, {1792, 1800}}, Row{216, {2880, 1200}},
+                         Row{336, {1680, 900}}, Row{336, {1792, 1800}}}) {
+    SCOPED_TRACE(std::to_string(row.dpi) + ", " + std::to_string(row.screen.width));
+    const float t = 1440.0F / static_cast<float>(row.dpi);
+    for (const int length : {row.screen.width, row.screen.height}) {
+      EXPECT_LT(static_cast<float>(length - 1) * t + t, static_cast<float>(length) * t);
+    }
+    const auto [w, h] = row.screen;
+    for (const Edge at : {Edge::Right, Edge::Bottom}) {
+      HidingDesk desk({.TwipsPerPixel = t, .Screen = row.screen});
+      desk.StartHidden(at);
+      EXPECT_TRUE(desk.Shown());
+      EXPECT_TRUE(desk.IsLine());
+      EXPECT_EQ(desk.Bounds(),
+                (at == Edge::Right ? PixelRect{w - 1, 0, w, h} : PixelRect{0, h - 1, w, h}));
+      desk.PointAt(at == Edge::Right ? PixelPoint{w - 1, 400} : PixelPoint{500, h - 1});
+      desk.Poll();
+      EXPECT_FALSE(desk.IsLine());
+      EXPECT_TRUE(desk.Shown());
+    }
+  }
+}
+
 // Against the edge of the screen the pointer is stopped, and one pixel is enough. Here it passes.
 TEST(AutoHide, BesideAnotherBarTheLineIsSeenAndThickEnoughToBeHit) {
   struct Row {

@@ -476,50 +476,58 @@ std::string MenuPixels(const RoadDesk& desk) {
   return pixels;
 }
 
-// The message is sent, so that it comes in the middle of the shell's answer.
-TEST(DisplayChange, WhileIconsAreFetchedLeavesNoMenuWithoutItsIcons) {
-  constexpr PixelSize kSmaller{800, 600};
-  std::string whole;
-  {
-    RoadDesk desk;
+/// A desk whose programs have icons of their own, not fetched yet.
+struct IconDesk : RoadDesk {
+  IconDesk() {
     for (int i = 1; i <= 3; ++i) {
-      desk.World.Icons.SetIndex("C:\\Tools\\m1i" + std::to_string(i) + ".exe", 20 + i);
+      World.Icons.SetIndex("C:\\Tools\\m1i" + std::to_string(i) + ".exe", 20 + i);
     }
-    desk.World.Desktop.SetScreen(kSmaller);
-    desk.Wait(300);
-    desk.Click(2);
-    desk.PointAway();
-    desk.Wait(300);
-    ASSERT_EQ(desk.RealMenuUp(), 2);
-    whole = MenuPixels(desk);
+    RealMenu.ResetPicIcons();
   }
-  for (int at = 0; at < 3; ++at) {
-    SCOPED_TRACE(at);
-    RoadDesk desk;
-    for (int i = 1; i <= 3; ++i) {
-      desk.World.Icons.SetIndex("C:\\Tools\\m1i" + std::to_string(i) + ".exe", 20 + i);
+  void OpenSecond() {
+    Click(2);
+    PointAway();
+    Wait(300);
+  }
+};
+
+// The message is sent, so that it comes in the middle of the shell's answer. Another size closes
+// the menu, for the strip may move; another depth empties the store of icons under it.
+TEST(DisplayChange, WhileIconsAreFetchedLeavesNoMenuWithoutItsIcons) {
+  struct Row {
+    PixelSize screen;
+    int bits;
+  };
+  for (const Row& row : {Row{{800, 600}, 32}, Row{{1024, 768}, 16}}) {
+    std::string whole;
+    {
+      IconDesk desk;
+      desk.World.Desktop.SetScreen(row.screen, row.bits);
+      desk.Wait(300);
+      desk.OpenSecond();
+      ASSERT_EQ(desk.RealMenuUp(), 2);
+      whole = MenuPixels(desk);
     }
-    int asked = 0;
-    desk.World.Icons.WhileAsked([&] {
-      if (asked++ == at) desk.World.Desktop.SetScreen(kSmaller);
-    });
-    desk.RealMenu.ResetPicIcons();
-    desk.Click(2);
-    EXPECT_GT(asked, at);
-    desk.PointAway();
-    desk.Wait(300);
-    // The menu may have gone, for it would stand where the strip was; none is half drawn.
-    if (desk.RealMenuUp() == 2) {
+    for (int at = 0; at < 3; ++at) {
+      SCOPED_TRACE(std::to_string(row.bits) + ", icon " + std::to_string(at));
+      IconDesk desk;
+      int asked = 0;
+      desk.World.Icons.WhileAsked([&] {
+        if (asked++ == at) desk.World.Desktop.SetScreen(row.screen, row.bits);
+      });
+      desk.OpenSecond();
+      EXPECT_GT(asked, at);
+      EXPECT_EQ(desk.RealMenuUp(), row.bits == 16 ? 2 : 0);
+      if (desk.RealMenuUp() == 2) {
+        EXPECT_TRUE(MenuPixels(desk) == whole);
+      }
+      desk.Strip.ResetMenu();
+      desk.Wait(300);
+      desk.OpenSecond();
+      ASSERT_EQ(desk.RealMenuUp(), 2);
       EXPECT_TRUE(MenuPixels(desk) == whole);
+      EXPECT_LE(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).right, row.screen.width);
     }
-    desk.Strip.ResetMenu();
-    desk.Wait(300);
-    desk.Click(2);
-    desk.PointAway();
-    desk.Wait(300);
-    ASSERT_EQ(desk.RealMenuUp(), 2);
-    EXPECT_TRUE(MenuPixels(desk) == whole);
-    EXPECT_LE(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).right, kSmaller.width);
   }
 }
 
