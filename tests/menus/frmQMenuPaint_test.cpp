@@ -283,6 +283,19 @@ TEST_F(Painted, ColoursThatChangeWhileIconsAreFetchedShowInTheWholeMenu) {
   }
 }
 
+TEST_F(Painted, AReleaseOnAnArrowWhileAPageIsDrawnTurnsToNoOther) {
+  int asked = 0;
+  desk_.World.Icons.WhileAsked([&] {
+    if (++asked == 5) desk_.Menu.LblButton_MouseUp(1, forms::MouseButton::Left, 1, 1);
+  });
+  desk_.Open(1, Tools(100));
+  EXPECT_GE(asked, 5);
+  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(IconColour(1), ToolColour(0));
+  desk_.Menu.LblButton_MouseUp(1, forms::MouseButton::Left, 1, 1);
+  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+}
+
 TEST_F(Painted, AnIconWithoutAFaceShowsTheNewColourOfItsGround) {
   constexpr Rgb kGreen = 0x0080C0A0;
   bool changed = false;
