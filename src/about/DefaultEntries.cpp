@@ -83,7 +83,7 @@ FileResult<int> DefaultEntries::Count(std::string_view pattern) {
 // An installation may bring a first menu of its own.
 FileStatus DefaultEntries::CopyFirstMenu() {
   FileSystem& files = program_.Services.Files;
-  const std::string shipped = program_.AppPath + std::string(kFirstMenu);
+  const std::string shipped = program_.ShippedFile(kFirstMenu);
   if (!files.FileExists(shipped)) return Success();
   const std::string copy = program_.MenusPath + std::string(kFirstMenu);
   if (auto removed = RemoveIfThere(files, copy); !removed) return removed;

@@ -26,6 +26,12 @@ bool ConfirmsButtonDelete(Program& program) {
   return answer == forms::msgbox::AnswerYes && program.ToolbarWindow() == strip;
 }
 
+// Before anything is shown: what that lets run finds the news there.
+EditOutcome Told(const Program& program, const EditOutcome& outcome) {
+  if (outcome == EditOutcome::Edited) program.TellMenusEdited();
+  return outcome;
+}
+
 // The row of single buttons is rewritten as a whole, by whoever owns it, and read anew whatever
 // came of it.
 template <class Edit>
@@ -33,6 +39,7 @@ EditOutcome EditSingles(Program& program, const Edit& edit) {
   if (program.Ports.SingleButtons == nullptr) return EditOutcome::NothingToDo;
   const float freeWidth = FreeWidth(program);
   const FileStatus edited = edit(*program.Ports.SingleButtons);
+  if (edited) program.TellMenusEdited();
   if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->DoSingleButtons();
   ResizeStrip(program, freeWidth);
   return OutcomeOf(edited);
@@ -58,7 +65,7 @@ EditOutcome DeleteButton(Program& program, const EntryEdit& entry) {
   // A file that cannot be deleted leaves its button on the strip, where the user sees it; so does
   // one that another program has put in its place.
   const EditOutcome outcome =
-      DeleteButtonFile(program.Services.Files, program.Services.Ansi, entry);
+      Told(program, DeleteButtonFile(program.Services.Files, program.Services.Ansi, entry));
   if (program.Ports.Toolbar != nullptr) {
     program.Ports.Toolbar->ResetCollections();
     program.Ports.Toolbar->DoToolbarButtons();
@@ -91,8 +98,9 @@ void ShowSourceAfterMove(Program& program, const EntryEdit& entry, const EditOut
 }
 
 EditOutcome DeleteMenuItem(Program& program, const EntryEdit& entry) {
-  const EditOutcome outcome =
-      DeleteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry);
+  const EditOutcome outcome = Told(
+      program,
+      DeleteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry));
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program, entry);
   if (outcome == EditOutcome::RecordMismatch && !entry.ItemDragging) SayRecordMismatch(program);
   return outcome;
@@ -132,7 +140,8 @@ EditOutcome PasteItem(Program& program) {
                        [&](SingleButtonsPort& row) { return row.PasteSingle(entry.CurFile); });
   }
   const EditOutcome outcome =
-      PasteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry);
+      Told(program,
+           PasteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry));
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program, entry);
   return outcome;
 }
@@ -146,16 +155,16 @@ bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bo
   // the program leaves the entry twice or nowhere.
   EditOutcome outcome = EditOutcome::NothingToDo;
   const bool within = !copies && IsMenuTag(entry.CurMenuTag);
-  if (within) outcome = MoveMenuEntry(files, ansi, program.MenusPath, entry, place);
+  if (within) outcome = Told(program, MoveMenuEntry(files, ansi, program.MenusPath, entry, place));
   if (outcome == EditOutcome::NothingToDo && !copies) {
     const float freeWidth = FreeWidth(program);
-    outcome = MoveEntryToMenu(files, ansi, program.MenusPath, entry, place);
+    outcome = Told(program, MoveEntryToMenu(files, ansi, program.MenusPath, entry, place));
     ShowSourceAfterMove(program, entry, outcome, freeWidth);
   }
   if (outcome == EditOutcome::Failed) return false;
   // What cannot be taken away is copied.
   if (outcome != EditOutcome::Edited) {
-    outcome = CopyMenuEntry(files, ansi, program.MenusPath, entry, place);
+    outcome = Told(program, CopyMenuEntry(files, ansi, program.MenusPath, entry, place));
     if (outcome != EditOutcome::Edited) return false;
   }
   program.Entry.UndoMenuTag.clear();
@@ -174,8 +183,9 @@ EditOutcome UndoDeleteItem(Program& program) {
     if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->RefreshMenu(entry.UndoMenuTag);
     return outcome;
   }
-  const EditOutcome outcome =
-      UndoDeleteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry);
+  const EditOutcome outcome = Told(
+      program,
+      UndoDeleteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry));
   if (outcome == EditOutcome::Failed) return outcome;
   program.Entry.UndoMenuTag.clear();
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program, entry);

@@ -13,7 +13,7 @@ class Program;
 // when they are called: what becomes current while they ask or let events run changes nothing.
 // Each leaves the file as it was when it fails, and says so itself but for a disk that refused:
 // that is the caller's to say or to pass over. What is done on the strip as a whole counts as
-// edited.
+// edited. Each tells of its edit (Program::TellMenusEdited).
 
 /// Deletes or cuts the entry. A whole toolbar button is deleted only after a question, unless
 /// `skipConfirm` or during a drag, and cannot be brought back.

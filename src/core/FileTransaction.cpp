@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "base/ByteText.h"
 #include "base/Text.h"
 
 namespace corvelle {
@@ -54,15 +55,6 @@ struct JournalFile {
 };
 using Journal = std::vector<JournalFile>;
 
-void PutNumber(std::string& out, std::uint64_t number, int bytes) {
-  for (int i = 0; i < bytes; ++i) out += static_cast<char>((number >> (8 * i)) & 0xFFU);
-}
-
-void PutText(std::string& out, std::string_view text) {
-  PutNumber(out, text.size(), 8);
-  out += text;
-}
-
 std::string FormatJournal(const Journal& journal) {
   std::string out(kMark);
   PutNumber(out, journal.size(), 4);
@@ -78,36 +70,6 @@ std::string FormatJournal(const Journal& journal) {
   return out;
 }
 
-/// Takes values from the front of a journal; past its end it gives zeros and is no longer good.
-class JournalReader {
- public:
-  explicit JournalReader(std::string_view bytes) : rest_(bytes) {}
-
-  std::uint64_t Number(int bytes) {
-    const std::string_view taken = Take(static_cast<std::uint64_t>(bytes));
-    std::uint64_t number = 0;
-    for (std::size_t i = taken.size(); i > 0; --i) {
-      number = (number << 8U) | static_cast<unsigned char>(taken[i - 1]);
-    }
-    return number;
-  }
-  std::string Text() { return std::string(Take(Number(8))); }
-  [[nodiscard]] bool Good() const noexcept { return good_; }
-  [[nodiscard]] bool AtEnd() const noexcept { return rest_.empty(); }
-
- private:
-  std::string_view Take(std::uint64_t count) {
-    good_ = good_ && count <= rest_.size();
-    if (!good_) return {};
-    const std::string_view taken = rest_.substr(0, static_cast<std::size_t>(count));
-    rest_.remove_prefix(taken.size());
-    return taken;
-  }
-
-  std::string_view rest_;
-  bool good_ = true;
-};
-
 /// True for the name of a file right in a folder: a journal must not reach any other.
 bool IsPlainName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." &&
@@ -122,10 +84,10 @@ std::optional<Journal> ParseJournal(std::string_view bytes) {
   constexpr std::size_t kDigestLength = 8;
   if (!bytes.starts_with(kMark) || bytes.size() < kMark.size() + kDigestLength) return std::nullopt;
   const std::string_view body = bytes.substr(0, bytes.size() - kDigestLength);
-  if (JournalReader(bytes.substr(body.size())).Number(kDigestLength) != Digest(body)) {
+  if (ByteReader(bytes.substr(body.size())).Number(kDigestLength) != Digest(body)) {
     return std::nullopt;
   }
-  JournalReader reader(body.substr(kMark.size()));
+  ByteReader reader(body.substr(kMark.size()));
   const std::uint64_t count = reader.Number(4);
   if (count > kMostFiles) return std::nullopt;
   Journal journal;

@@ -1,12 +1,15 @@
 #include "core/Main.h"
 
 #include <string>
+#include <utility>
 
 #include "core/AppFolder.h"
+#include "core/DataFolder.h"
 #include "core/Instance.h"
 #include "core/Program.h"
 #include "core/SettingsFiles.h"
 #include "core/Upgrade.h"
+#include "platform/CrashReports.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
 
@@ -32,8 +35,11 @@ void CloseStartupWindow(Program& program) {
 }
 
 void ShowWelcome(Program& program) {
-  const std::string help = program.AppPath + "corvelle.hlp";
-  if (!program.Services.Files.FileExists(help)) return;
+  const std::string help = program.ShippedFile("corvelle.hlp");
+  if (!program.Services.Files.FileExists(help)) {
+    if (program.Ports.Help != nullptr) program.Ports.Help->OfferPage(HelpPage::FirstSteps);
+    return;
+  }
   SystemInfo& system = program.Services.System;
   if (!system.ShowHelpTopic(kNoWindow, help, kWelcomeTopic)) {
     system.ShowHelpTopic(program.ToolbarWindow(), help, kWelcomeTopic);
@@ -42,7 +48,7 @@ void ShowWelcome(Program& program) {
 
 // The link of an earlier copy is made anew, so that it points to this one.
 void OfferStartupLink(Program& program, StartupLinkPort& link) {
-  const std::string executable = program.AppPath + "corvelle.exe";
+  const std::string executable = program.ShippedFile("corvelle.exe");
   if (link.Exists()) {
     link.Remove();
     link.Create(executable);
@@ -69,6 +75,33 @@ void DoFirstRun(Program& program) {
   if (!HasEnded(program)) ShowWelcome(program);
 }
 
+// True if the data cannot lie where the user would look for it.
+bool FindFolders(Program& program) {
+  program.ShippedPath = FindAppPath(program.Services);
+  DataFolder data = FindDataFolder(program.Services, program.ShippedPath);
+  program.AppPath = std::move(data.Path);
+  return data.Tell;
+}
+
+void TellOfCrash(Program& program) {
+  const std::string report = program.Services.Crashes.TakeUntold();
+  if (report.empty()) return;
+  program.Say(
+      program.ToolbarWindow(),
+      "Corvelle ended unexpectedly the last time. A report about it is on this computer:\r\n" +
+          report + "\r\n\r\nNothing has been sent to anyone.",
+      forms::msgbox::IconInformation | forms::msgbox::OnTop);
+}
+
+void TellWhereDataIs(Program& program) {
+  if (WasToldAbout(program.Services, program.AppPath, program.ShippedPath)) return;
+  program.Say(program.ToolbarWindow(),
+              "Corvelle cannot write to its own folder:\r\n" + program.ShippedPath +
+                  "\r\n\r\nIt keeps your menus and options here:\r\n" + program.AppPath,
+              forms::msgbox::IconInformation | forms::msgbox::OnTop);
+  NoteToldAbout(program.Services, program.AppPath, program.ShippedPath);
+}
+
 // A flag file that another program holds at this moment is no new installation: nothing is cleaned
 // away, and the run goes on with an installed version's flags.
 void ReadOptions(Program& program) {
@@ -84,7 +117,7 @@ void ReadOptions(Program& program) {
 
 void Upgrade(Program& program) {
   if (program.OptionFlags.Is(32)) return;
-  CleanInstallation(program.Services.Files, program.AppPath);
+  CleanInstallation(program.Services.Files, program.AppPath, program.ShippedFile("anetsrch.org"));
   program.OptionFlags = FlagsAfterUpgrade();
   program.SaveOptionFlags();
 }
@@ -93,7 +126,7 @@ void Upgrade(Program& program) {
 
 bool Main(Program& program) {
   if (!ClaimSession(program)) return false;
-  program.AppPath = FindAppPath(program.Services);
+  const bool elsewhere = FindFolders(program);
   ReadOptions(program);
   program.StartingUp = true;
   program.ShowStartupProgress();
@@ -106,6 +139,10 @@ bool Main(Program& program) {
   LoadWindows(program);
   CloseStartupWindow(program);
   // Events ran: the companion may have been closed, and the program with it.
+  if (HasEnded(program)) return false;
+  TellOfCrash(program);
+  if (HasEnded(program)) return false;
+  if (elsewhere) TellWhereDataIs(program);
   if (HasEnded(program)) return false;
   DoFirstRun(program);
   if (HasEnded(program)) return false;

@@ -28,7 +28,8 @@ FileStatus PurgeMenus(FileSystem& files, std::string_view menusPath) {
   if (!entries) return entries.Error();
   for (const FileEntry& entry : *entries) {
     if (entry.IsFolder || EndsWithNoCase(entry.Name, ".btn") ||
-        EndsWithNoCase(entry.Name, ".mnu") || EqualNoCase(entry.Name, kJournalFileName)) {
+        EndsWithNoCase(entry.Name, ".mnu") || EqualNoCase(entry.Name, kJournalFileName) ||
+        EqualNoCase(entry.Name, kDraftFileName)) {
       continue;
     }
     // What is held open or protected does no harm by staying until the next start.

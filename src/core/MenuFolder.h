@@ -10,9 +10,12 @@ namespace corvelle {
 
 // The folder of the menu files. `menusPath` ends in a backslash. File names come without it.
 
+/// What the Customize window keeps of changes that were not saved, among the menu files.
+inline constexpr std::string_view kDraftFileName = "unsaved.dft";
+
 /// Deletes every file that is neither a menu nor a single button by its last four characters, nor
-/// the journal of a change that RecoverFiles could not take back yet. A file that cannot be deleted
-/// stays. The error is that of a folder that cannot be listed.
+/// the journal of a change that RecoverFiles could not take back yet, nor the draft. A file that
+/// cannot be deleted stays. The error is that of a folder that cannot be listed.
 FileStatus PurgeMenus(FileSystem& files, std::string_view menusPath);
 
 /// The names of the menu files in capitals, in the order of the buttons.

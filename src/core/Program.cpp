@@ -33,9 +33,11 @@ bool Program::DragHolds() const {
   return DragEntered && (input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey));
 }
 
-bool Program::TakesDrops() const noexcept {
-  return OpenQuestions == 0 && !StartingUp && !MenuBuilding && !IconsLoading && !ItemActionBusy &&
-         !MenuFormBusy && !AppBarBusy && !PosChangeRunning;
+bool Program::TakesDrops() const noexcept { return OpenQuestions == 0 && !IsWorking(); }
+
+bool Program::IsWorking() const noexcept {
+  return StartingUp || MenuBuilding || IconsLoading || ItemActionBusy || MenuFormBusy ||
+         AppBarBusy || PosChangeRunning;
 }
 
 void Program::DoEvents() {
@@ -54,6 +56,10 @@ void Program::SetHint(std::string_view text) {
 void Program::ShowStartupProgress() {
   if (!StartingUp || OptionFlags.Is(9)) return;
   if (Ports.Startup != nullptr) Ports.Startup->AddDot();
+}
+
+std::string Program::ShippedFile(std::string_view name) const {
+  return (ShippedPath.empty() ? AppPath : ShippedPath) + std::string(name);
 }
 
 void Program::SaveOptionFlags() {
@@ -75,10 +81,18 @@ void Program::ReadEdgeFlags() {
 }
 
 int Program::Say(WindowId owner, std::string_view text, unsigned flags) {
+  return SayAs(Title, owner, text, flags);
+}
+
+int Program::SayAs(std::string_view title, WindowId owner, std::string_view text, unsigned flags) {
   const forms::CountScope asking(OpenQuestions);
   const InputHold strip(Ports.Toolbar, owner);
   const InputHold menu(Ports.QMenu, owner);
-  return Windows.ShowMessage(owner, text, Title, flags);
+  return Windows.ShowMessage(owner, text, title, flags);
+}
+
+void Program::TellMenusEdited() const {
+  if (Ports.MenuEdits != nullptr) Ports.MenuEdits->MenusEdited();
 }
 
 WindowId Program::ToolbarWindow() const {

@@ -5,6 +5,7 @@
 
 #include "core/OptionFlags.h"
 #include "core/RecordEdits.h"
+#include "core/SlowQuestions.h"
 #include "core/WindowPorts.h"
 #include "forms/WindowSystem.h"
 #include "platform/Platform.h"
@@ -16,19 +17,24 @@ namespace corvelle {
 class Program {
  public:
   Program(const Platform& services, forms::WindowSystem& windows)
-      : Services(services), Windows(windows) {}
+      : Services(services), Windows(windows), Slow(services.SlowAnswers) {}
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
   Platform Services;
   forms::WindowSystem& Windows;
   WindowPorts Ports;
+  /// What disks and drives are asked without waiting for them.
+  SlowQuestions Slow;
 
   /// Title of the application, which its message boxes bear.
   std::string Title = "Corvelle";
 
-  // Folders, each with a trailing backslash.
+  // Folders, each with a trailing backslash. AppPath is where the user's data lies: the program's
+  // own folder, or that of the user's programs (core/DataFolder.h).
   std::string AppPath;
+  /// Where the program and what came with it lie; empty: in AppPath.
+  std::string ShippedPath;
   std::string MenusPath;
   std::string IconsPath;
   std::string ShellLinkPath;
@@ -131,6 +137,9 @@ class Program {
   int RecycleIconIndex = -1;
   bool RecycleIconChanged = false;
 
+  /// Path of a file that came with the program.
+  [[nodiscard]] std::string ShippedFile(std::string_view name) const;
+
   /// Lets waiting events run. Whoever calls it must be ready for anything to have happened. Called
   /// from what another call of it lets run, it only shows what waits to be painted: that other call
   /// goes on with the events, and however quickly they come, there is never a third.
@@ -139,8 +148,11 @@ class Program {
   /// True while another program's drag that came over the strip goes on: it decides which menu is
   /// up, and the source keeps the foreground.
   [[nodiscard]] bool DragHolds() const;
-  /// False while a file or a menu is being worked on: a drop waits, which OLE calls refusing it.
+  /// False while the program works on a file or a menu, or waits for an answer: a drop waits, which
+  /// OLE calls refusing it.
   [[nodiscard]] bool TakesDrops() const noexcept;
+  /// True while a file or a menu is being worked on: nobody else rewrites one meanwhile.
+  [[nodiscard]] bool IsWorking() const noexcept;
 
   /// Shows the hint, or closes it when the text is empty.
   void SetHint(std::string_view text);
@@ -160,6 +172,12 @@ class Program {
   /// answered neither the strip nor the menu window takes input; events run all the same, so that
   /// whoever asks works on copies.
   int Say(WindowId owner, std::string_view text, unsigned flags);
+  /// The same with a title of its own.
+  int SayAs(std::string_view title, WindowId owner, std::string_view text, unsigned flags);
+
+  /// Tells Ports.MenuEdits of an edit. Whoever changes what a menu file or a single button's file
+  /// holds, other than that port's own window, calls it as soon as the file is written.
+  void TellMenusEdited() const;
 
   /// The strip's window, none before it is loaded.
   [[nodiscard]] WindowId ToolbarWindow() const;

@@ -79,14 +79,14 @@ FileResult<OptionFlags> ReadFlagsAtStart(FileSystem& files, std::string_view app
   return flags;
 }
 
-void CleanInstallation(FileSystem& files, std::string_view appPath) {
+void CleanInstallation(FileSystem& files, std::string_view appPath, std::string_view engines) {
   const std::string folder(appPath);
   DeleteDataFiles(files, folder);
   const std::string icons = folder + "ICONS\\";
   if (files.FolderExists(icons)) DeleteDataFiles(files, icons);
   // A folder that came without the factory list stays without a list.
   if (!files.FileExists(folder + "netsrch.ini")) {
-    static_cast<void>(files.Copy(folder + "anetsrch.org", folder + "netsrch.ini"));
+    static_cast<void>(files.Copy(engines, folder + "netsrch.ini"));
   }
 }
 

@@ -13,8 +13,8 @@ namespace corvelle {
 [[nodiscard]] FileResult<OptionFlags> ReadFlagsAtStart(FileSystem& files, std::string_view appPath);
 
 /// Removes what older versions left in the program's folder and in its folder of icons, by their
-/// names: data files of others stay. Gives it a list of search engines. A file that cannot be
-/// removed stays, without a word: it does no harm.
-void CleanInstallation(FileSystem& files, std::string_view appPath);
+/// names: data files of others stay. Gives it a list of search engines, a copy of `engines`, which
+/// came with the program. A file that cannot be removed stays, without a word: it does no harm.
+void CleanInstallation(FileSystem& files, std::string_view appPath, std::string_view engines);
 
 }  // namespace corvelle

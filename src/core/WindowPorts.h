@@ -16,6 +16,9 @@
 namespace corvelle {
 
 struct EntryEdit;
+namespace forms {
+class Form;
+}
 
 // What the windows of the program may ask of one another. Each port lists what others need and no
 // more; the windows behind them stand on higher floors.
@@ -101,6 +104,12 @@ class ToolbarPort : public AskingWindow {
   virtual void InitButtons() = 0;
   /// Draws the buttons anew without moving anything.
   virtual void RefreshToolbar() = 0;
+  /// Reads the menu buttons, or the single buttons, again and draws them on a strip that keeps its
+  /// size.
+  virtual void RefreshToolbarButtons() {}
+  virtual void RefreshSingleButtons() {}
+  /// Shows the window in front, without making it active, if it is hidden.
+  virtual void ShowToolbar() {}
   virtual void HideWindow() = 0;
   /// The date at the far end of the single buttons: shown, hidden and placed; its text.
   virtual void DoLabelDate() = 0;
@@ -394,6 +403,34 @@ class PropertiesPort : public LoadedWindow {
   /// Shows it with these fields for the current entry (Program::Entry).
   virtual void ShowProperties(std::string_view title, std::string_view icon,
                               std::string_view command) = 0;
+  /// The strip stands somewhere else by now: the picture of it at an edge goes.
+  virtual void HidePreview() {}
+};
+
+/// A window with a box for an icon text, as the icon library sees it.
+class IconBoxPort {
+ public:
+  virtual ~IconBoxPort() = default;
+
+  /// The window that the library belongs to. It outlives the library's window, and is disabled
+  /// while that is up.
+  [[nodiscard]] virtual forms::Form& BoxWindow() = 0;
+  /// The library is open for it (`Browsing` is 1), until false, which comes when the library
+  /// closes.
+  virtual void SetBrowsing(bool browsing) = 0;
+  /// The icon text that the user chose: it goes into the box for the icon (`txtFile` of `frmCust`,
+  /// which `UpdateField` confirms; `txtIcon` of `frmProperties`, whose `DrawIcon` runs). Comes
+  /// before SetBrowsing(false), and not at all when nothing was chosen.
+  virtual void TakeIcon(std::string_view icon) = 0;
+};
+
+/// The window in which an icon is picked.
+class LibraryPort : public LoadedWindow {
+ public:
+  /// Shows it for a caller, "frmCust" or "frmProperties" (WindowPorts::CustomizeIcon and
+  /// PropertiesIcon), and returns at once. One that is up comes to the front and stays with the
+  /// caller that it has. Without the caller's port a choice goes nowhere.
+  virtual void Show(std::string_view caller) = 0;
 };
 
 /// The dialog that makes an entry from a dropped web address.
@@ -403,9 +440,22 @@ class WebLinkPort {
   /// Notes an address dropped on a button, on the row of single buttons (tag "SingleButtons") or in
   /// a menu, for `file`. The dialog opens when the drop has returned to the program it came from.
   /// For an item of a menu (tag "F" and the button's index) the current entry is that item, and the
-  /// menu's capture is on; for the end of a button's menu the tag is the index alone.
+  /// menu's capture is on; for the end of a button's menu the tag is the index alone. In the row the
+  /// file is that of the button under the drop, empty where there is none.
   virtual void OfferWebLink(std::string_view url, std::string_view title, std::string_view tag,
                             std::string_view file) = 0;
+  /// The program ends: an address that waits is given up, and its window goes.
+  virtual void EndWebLink() {}
+};
+
+/// A window that shows what the menu files hold, and so wants to know of edits made elsewhere.
+class MenuEditsPort {
+ public:
+  virtual ~MenuEditsPort() = default;
+  /// Files of menus or single buttons were changed by this program, by its strip, a menu or another
+  /// window; they are whole and can be read. Called in the middle of a command, perhaps inside a
+  /// drag: only take note, and look at the files later. Not called for a change of names alone.
+  virtual void MenusEdited() = 0;
 };
 
 /// All windows and services that may be asked for. Those that a build of the program does not have
@@ -432,14 +482,19 @@ struct WindowPorts {
   PopupPort* Popup = nullptr;
   BuiltInCommandsPort* BuiltInCommands = nullptr;
   BrowserPort* Browser = nullptr;
+  HelpPort* Help = nullptr;
   ShellLinksPort* ShellLinks = nullptr;
   // Windows that are loaded on demand and closed at the end.
   LoadedWindow* NetSearch = nullptr;
   PropertiesPort* Properties = nullptr;
   LoadedWindow* Customize = nullptr;
+  MenuEditsPort* MenuEdits = nullptr;
   LoadedWindow* ImageWindow = nullptr;
-  LoadedWindow* Library = nullptr;
+  LibraryPort* Library = nullptr;
   LoadedWindow* About = nullptr;
+  // The windows that the icon library answers.
+  IconBoxPort* CustomizeIcon = nullptr;
+  IconBoxPort* PropertiesIcon = nullptr;
 };
 
 }  // namespace corvelle

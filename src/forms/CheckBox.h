@@ -1,36 +1,32 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
-#include "forms/SystemControl.h"
+#include "forms/Button.h"
 
 namespace corvelle::forms {
 
-/// A box with a caption that is ticked or not. A press turns it over.
-class CheckBox final : public SystemControl {
+/// A box with a caption that is ticked or not. A press turns it over, and then Click is told.
+class CheckBox final : public Button {
  public:
-  CheckBox(Form& form, std::string name)
-      : SystemControl(form, std::move(name), PeerKind::CheckBox) {}
+  CheckBox(Window& container, std::string name)
+      : Button(container, std::move(name), ButtonLook::Check) {}
 
   /// 1 ticked, 0 not.
   int Value() const noexcept { return value_; }
   void SetValue(int value) {
     value_ = value != 0 ? 1 : 0;
-    PeerMade();
+    if (Own() != nullptr) Own()->SetChecked(value_ != 0);
   }
-
-  /// The user turned it over.
-  std::function<void()> Click;
 
  protected:
   void Pressed() override {
     SetValue(1 - value_);
-    const auto click = Click;
-    if (click) click();
+    TellClick();
   }
   void PeerMade() override {
-    if (Peer() != nullptr) Peer()->SetChecked(value_ != 0);
+    Button::PeerMade();
+    Own()->SetChecked(value_ != 0);
   }
 
  private:

@@ -1,34 +1,38 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
-#include "forms/SystemControl.h"
+#include "forms/Button.h"
 
 namespace corvelle::forms {
 
 /// A push button.
-class CommandButton final : public SystemControl {
+class CommandButton final : public Button {
  public:
-  CommandButton(Form& form, std::string name)
-      : SystemControl(form, std::move(name), PeerKind::CommandButton) {}
+  CommandButton(Window& container, std::string name)
+      : Button(container, std::move(name), ButtonLook::Command) {}
 
   /// What Enter presses wherever the focus is in the form, but on another button.
-  void SetDefault(bool isDefault) noexcept { default_ = isDefault; }
+  void SetDefault(bool isDefault) {
+    default_ = isDefault;
+    if (Own() != nullptr) Own()->SetDefault(default_);
+  }
   /// What Esc presses.
   void SetCancel(bool isCancel) noexcept { cancel_ = isCancel; }
 
-  std::function<void()> Click;
-
  protected:
-  void Pressed() override {
-    // The handler may end the form and this button with it.
-    const auto click = Click;
-    if (click) click();
+  void Pressed() override { TellClick(); }
+  void PeerMade() override {
+    Button::PeerMade();
+    Own()->SetDefault(default_);
   }
-  bool TakesEnter() const noexcept override { return true; }
-  bool IsDefault() const noexcept override { return default_; }
-  bool IsCancel() const noexcept override { return cancel_; }
+  KeyFacts Keys() const override {
+    KeyFacts facts = Button::Keys();
+    facts.TakesEnter = true;
+    facts.IsDefault = default_;
+    facts.IsCancel = cancel_;
+    return facts;
+  }
 
  private:
   bool default_ = false;

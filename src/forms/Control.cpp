@@ -1,11 +1,19 @@
 #include "forms/Control.h"
 
+#include <utility>
+
 namespace corvelle::forms {
 
 void Control::SetVisible(bool visible) {
   if (visible == visible_) return;
   visible_ = visible;
   VisibleChanged();
+}
+
+void Control::SetToolTip(std::string text) {
+  if (text == toolTip_) return;
+  toolTip_ = std::move(text);
+  ToolTipChanged();
 }
 
 void Control::SetEnabled(bool enabled) {

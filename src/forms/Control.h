@@ -33,6 +33,11 @@ class Control {
   float Bottom() const noexcept { return top_ + height_; }
   TwipRect Bounds() const noexcept { return {left_, top_, width_, height_}; }
 
+  /// The text that comes up when the pointer rests on the control; none when it is empty. A
+  /// disabled control shows none, nor one that takes no mouse events.
+  [[nodiscard]] const std::string& ToolTip() const noexcept { return toolTip_; }
+  void SetToolTip(std::string text);
+
   void SetVisible(bool visible);
   void SetEnabled(bool enabled);
   void SetLeft(float left) { Move(left, top_, width_, height_); }
@@ -51,6 +56,7 @@ class Control {
   /// Called after the property has its new value.
   virtual void VisibleChanged() = 0;
   virtual void EnabledChanged() = 0;
+  virtual void ToolTipChanged() {}
   virtual void BoundsChanged(float oldLeft, float oldTop, float oldWidth, float oldHeight) = 0;
 
   /// Takes new bounds without telling anyone: they came from the window system.
@@ -59,6 +65,7 @@ class Control {
 
  private:
   std::string name_;
+  std::string toolTip_;
   bool visible_ = true;
   bool enabled_ = true;
   float left_ = 0;

@@ -2,8 +2,7 @@
 
 #include <utility>
 
-#include "forms/PictureBox.h"
-#include "forms/SystemControl.h"
+#include "forms/Scale.h"
 
 namespace corvelle::forms {
 
@@ -12,30 +11,75 @@ Form::Form(WindowSystem& windows, std::string name, BorderStyle border, bool inT
   AdoptVisible(false);
 }
 
-Form::~Form() { DestroyWindows(); }
-
-bool Form::CreateWindows() {
-  if (!CreatePeer(PeerKind::Form, nullptr, inTaskbar_)) return false;
-  if (!caption_.empty()) Peer()->SetCaption(caption_);
-  for (PictureBox* box : boxes_) {
-    if (!box->CreatePeer(PeerKind::PictureBox, Peer(), false)) return false;
-    if (box->Visible()) box->Peer()->Show(ShowKind::NoActivate);
-  }
-  for (SystemControl* control : controls_) {
-    if (!control->MakePeer(Peer())) return false;
-  }
-  return true;
+Form::~Form() {
+  if (blocked_ != nullptr) blocked_->SetEnabled(true);
+  DestroyWindows();
 }
 
-void Form::DestroyWindows() {
-  for (SystemControl* control : controls_) control->DestroyPeer();
-  for (PictureBox* box : boxes_) box->DestroyPeer();
-  DestroyPeer();
+std::unique_ptr<WindowPeer> Form::NewPeer(WindowPeer* /*parent*/) {
+  PeerSpec spec = SpecIn(nullptr);
+  spec.InTaskbar = inTaskbar_;
+  spec.Frame = Frame();
+  spec.MinimizeBox = minimizeBox_;
+  spec.Owner = owner_ != nullptr ? owner_->Peer() : nullptr;
+  return Windows().CreatePeer(spec, *this);
+}
+
+void Form::PeerMade() {
+  if (!caption_.empty()) Peer()->SetCaption(caption_);
+  SetLeastSize(leastWidth_, leastHeight_);
+  if (!menu_.empty()) Peer()->SetMenuBar(menu_);
+}
+
+void Form::SetMenu(std::vector<PopupItem> items) {
+  const bool had = !menu_.empty();
+  menu_ = std::move(items);
+  if (Peer() == nullptr || Frame() == FrameStyle::None) return;
+  Peer()->SetMenuBar(menu_);
+  // The inside begins elsewhere.
+  if (had == menu_.empty()) Resized();
+}
+
+FrameStyle Form::Frame() const noexcept {
+  if (border_ == BorderStyle::Fixed) return FrameStyle::Fixed;
+  return border_ == BorderStyle::Sizable ? FrameStyle::Sizable : FrameStyle::None;
+}
+
+FrameMargins Form::Margins() const { return Windows().MarginsOf(Frame(), !menu_.empty()); }
+
+void Form::SetLeastSize(float width, float height) {
+  leastWidth_ = width;
+  leastHeight_ = height;
+  if (Peer() == nullptr || Frame() != FrameStyle::Sizable) return;
+  Peer()->SetLeastSize(ToPixels(0, 0, width, height, Windows().Screen()).Size());
+}
+
+void Form::Center() {
+  const ScreenInfo screen = Windows().Screen();
+  Move((screen.Width - Width()) / 2, (screen.Height - Height()) / 2, Width(), Height());
+}
+
+void Form::ShowModalTo(Form& owner) {
+  SetOwner(&owner);
+  if (!Load()) return;
+  blocked_ = &owner;
+  Show();
+  // Last, so that the foreground has gone to this form.
+  if (blocked_ == &owner) owner.SetEnabled(false);
+}
+
+// The owner takes input again before this form goes: the system looks for the next active window
+// then.
+void Form::ReleaseOwner() {
+  if (blocked_ == nullptr) return;
+  Form& owner = *std::exchange(blocked_, nullptr);
+  owner.SetEnabled(true);
+  if (owner.Visible()) owner.SetForeground();
 }
 
 bool Form::Load() {
   if (loaded_) return true;
-  if (!CreateWindows()) {
+  if (!CreateWindows(nullptr)) {
     DestroyWindows();
     return false;
   }
@@ -53,6 +97,7 @@ void Form::Unload() {
   if (watch.Gone()) return;
   loaded_ = false;
   AdoptVisible(false);
+  ReleaseOwner();
   DestroyWindows();
   unloading_ = false;
 }
@@ -93,6 +138,7 @@ void Form::VisibleChanged() {
     AdoptVisible(false);
     Show();
   } else if (Peer() != nullptr) {
+    ReleaseOwner();
     Peer()->Show(ShowKind::Hidden);
   }
 }

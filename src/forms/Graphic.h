@@ -35,6 +35,8 @@ class Graphic : public Control {
   std::function<void(MouseButton, ShiftState, float, float)> MouseMove;
   std::function<void(MouseButton, ShiftState, float, float)> MouseUp;
   std::function<void()> DblClick;
+  /// The press on the control got no release and ends here: see Surface::CaptureLost.
+  std::function<void()> CaptureLost;
   /// Drags of other programs, likewise; without a handler they are the container's.
   DragHandler OLEDragOver;
   DragHandler OLEDragDrop;

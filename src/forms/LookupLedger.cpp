@@ -59,7 +59,8 @@ std::vector<LookupAnswer> LookupLedger::TakeEnds() {
   return told;
 }
 
-LookupAnswer AnswerLookup(FileSystem& files, ShellLinks& links, const Lookup& question) {
+LookupAnswer AnswerLookup(FileSystem& files, ShellLinks& links, const SystemInfo& system,
+                          const Lookup& question) {
   switch (question.Kind) {
     case LookupKind::IsThere:
       return {.Value = files.FileExists(question.Path) || files.FolderExists(question.Path)};
@@ -68,6 +69,8 @@ LookupAnswer AnswerLookup(FileSystem& files, ShellLinks& links, const Lookup& qu
       if (!entries) return {.End = LookupEnd::Failed, .Error = entries.Error()};
       return {.Value = *std::move(entries)};
     }
+    case LookupKind::Drive:
+      return {.Value = system.FactsOfDrive(question.Path)};
     case LookupKind::LinkTarget: {
       const auto link = links.CreateLinkObject();
       if (link == nullptr || !link->Load(question.Path)) return {.End = LookupEnd::Failed};

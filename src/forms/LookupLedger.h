@@ -53,6 +53,6 @@ class LookupLedger {
 /// Answers a question with these services, and takes as long as they do. The id is left to the
 /// ledger.
 [[nodiscard]] LookupAnswer AnswerLookup(FileSystem& files, ShellLinks& links,
-                                        const Lookup& question);
+                                        const SystemInfo& system, const Lookup& question);
 
 }  // namespace corvelle::forms

@@ -6,19 +6,29 @@
 
 namespace corvelle::forms {
 
-PictureBox::PictureBox(Form& form, std::string name)
-    : Surface(form.Windows(), std::move(name)), form_(form) {
-  form_.boxes_.push_back(this);
+PictureBox::PictureBox(Window& container, std::string name) : Surface(container, std::move(name)) {}
+
+std::unique_ptr<WindowPeer> PictureBox::NewPeer(WindowPeer* parent) {
+  PeerSpec spec = SpecIn(parent);
+  spec.Kind = PeerKind::PictureBox;
+  spec.TabStop = TabStop();
+  return Windows().CreatePeer(spec, *this);
 }
 
-PictureBox::~PictureBox() { std::erase(form_.boxes_, this); }
-
-PixelPoint PictureBox::ContainerOrigin() const noexcept {
-  return {form_.BorderPixels(), form_.BorderPixels()};
+void PictureBox::OnKeyDown(int keyCode, ShiftState shift) {
+  if (TabStop()) {
+    static_cast<void>(OwnForm().ControlKey(*this, keyCode, shift));
+  } else {
+    OwnForm().OnKeyDown(keyCode, shift);
+  }
 }
 
-void PictureBox::OnKeyDown(int keyCode, ShiftState shift) { form_.OnKeyDown(keyCode, shift); }
-
-void PictureBox::OnKeyPress(char32_t character) { form_.OnKeyPress(character); }
+void PictureBox::OnKeyPress(char32_t character) {
+  if (TabStop()) {
+    static_cast<void>(OwnForm().ControlCharacter(*this, character));
+  } else {
+    OwnForm().OnKeyPress(character);
+  }
+}
 
 }  // namespace corvelle::forms

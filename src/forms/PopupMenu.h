@@ -1,16 +1,19 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace corvelle::forms {
 
-/// One line of a popup menu. A "&" in the caption marks the letter that chooses the line, two of
+/// One line of a popup menu. What stands behind a tab in the caption is shown at the right, for the
+/// key that does the same. A "&" in the caption marks the letter that chooses the line, two of
 /// them are one character.
 struct PopupItem {
   std::string Caption;  // "-" is a separator line, which cannot be chosen
   bool Enabled = true;
   bool Checked = false;
   bool Visible = true;
+  std::vector<PopupItem> Items;  // of a line that opens a menu of its own
 
   [[nodiscard]] bool IsSeparator() const { return Caption == "-"; }
 

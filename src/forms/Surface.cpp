@@ -25,21 +25,34 @@ PixelRect AroundLine(PixelPoint from, PixelPoint to, int width) noexcept {
 
 Surface::Surface(WindowSystem& windows, std::string name) : Window(windows, std::move(name)) {}
 
+Surface::Surface(Window& container, std::string name) : Window(container, std::move(name)) {}
+
 Surface::~Surface() = default;
 
+PixelSize Surface::WindowSize() const {
+  const PixelSize bounds = PixelBounds().Size();
+  const FrameMargins margins = Margins();
+  return {std::max(bounds.width - margins.Left - margins.Right, 0),
+          std::max(bounds.height - margins.Top - margins.Bottom, 0)};
+}
+
 PixelSize Surface::InsideSize() const {
-  const PixelRect bounds = PixelBounds();
+  const PixelSize window = WindowSize();
   const int border = BorderPixels();
-  return {std::max(bounds.Width() - 2 * border, 0), std::max(bounds.Height() - 2 * border, 0)};
+  return {std::max(window.width - 2 * border, 0), std::max(window.height - 2 * border, 0)};
 }
 
 float Surface::ScaleWidth() const noexcept {
-  const float border = static_cast<float>(2 * BorderPixels()) * Windows().Screen().TwipsPerPixelX;
+  const FrameMargins margins = Margins();
+  const float border = static_cast<float>(2 * BorderPixels() + margins.Left + margins.Right) *
+                       Windows().Screen().TwipsPerPixelX;
   return std::max(Width() - border, 0.0F);
 }
 
 float Surface::ScaleHeight() const noexcept {
-  const float border = static_cast<float>(2 * BorderPixels()) * Windows().Screen().TwipsPerPixelY;
+  const FrameMargins margins = Margins();
+  const float border = static_cast<float>(2 * BorderPixels() + margins.Top + margins.Bottom) *
+                       Windows().Screen().TwipsPerPixelY;
   return std::max(Height() - border, 0.0F);
 }
 
@@ -53,7 +66,7 @@ void Surface::Invalidate(const PixelRect& part) {
 }
 
 void Surface::InvalidateAll() {
-  if (Peer() != nullptr) Peer()->Invalidate(Whole(PixelBounds().Size()));
+  if (Peer() != nullptr) Peer()->Invalidate(Whole(WindowSize()));
 }
 
 // What was drawn.
@@ -175,7 +188,7 @@ void Surface::DrawPixels(const PixelRect& touched, const std::function<void(Canv
 
 void Surface::OnPaint(Canvas& canvas, const PixelRect& dirty) {
   const int border = BorderPixels();
-  const PixelSize window = PixelBounds().Size();
+  const PixelSize window = WindowSize();
   if (border > 0) PaintBorder(canvas, window);
   const PixelRect shifted{dirty.left - border, dirty.top - border, dirty.right - border,
                           dirty.bottom - border};

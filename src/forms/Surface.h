@@ -63,6 +63,9 @@ class Surface : public Window {
   std::function<void(MouseButton, ShiftState, float, float)> MouseMove;
   std::function<void(MouseButton, ShiftState, float, float)> MouseUp;
   std::function<void()> DblClick;
+  /// The press on the surface itself ended without a release: a message box came up, another window
+  /// took the mouse, or this one was hidden. A graphic that was pressed is told instead.
+  std::function<void()> CaptureLost;
   /// Drags of other programs over a surface that takes drops, in twips of the inside: over it
   /// (again and again), dropped, and gone without a drop. A control without a window that has
   /// handlers of its own gets the first two instead of its surface.
@@ -77,14 +80,22 @@ class Surface : public Window {
 
  protected:
   Surface(WindowSystem& windows, std::string name);
+  Surface(Window& container, std::string name);
 
   /// Pixels of border on each side that the surface paints itself; 0 for most.
   [[nodiscard]] virtual int BorderPixels() const noexcept { return 0; }
+
+  /// What the system's frame takes of the bounds.
+  [[nodiscard]] virtual FrameMargins Margins() const { return {}; }
+  PixelPoint InsideOrigin() const noexcept override { return {BorderPixels(), BorderPixels()}; }
 
   void OnMouseDown(MouseButton button, ShiftState shift, PixelPoint at) override;
   void OnMouseMove(MouseButton down, ShiftState shift, PixelPoint at) override;
   void OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) override;
   void OnDoubleClick(PixelPoint at) override;
+  void OnCaptureLost() override;
+  void ToolTipChanged() override;
+  void PeerGoing() override { shownToolTip_ = ToolTip(); }
   DropEffect OnDragOver(DragData& data, DropEffect allowed, const DragPoint& where) override;
   void OnDragLeave() override;
   DropEffect OnDrop(DragData& data, DropEffect allowed, const DragPoint& where) override;
@@ -98,15 +109,17 @@ class Surface : public Window {
   void Add(Graphic& graphic);
   void Remove(Graphic& graphic);
   void Restack(Graphic& graphic, ZPlace place);
+  /// The tool tip of what is under the pointer is the window's from now on.
+  void ShowToolTipOf(const Graphic* graphic);
   /// The graphic will get no more of the press that is going on.
   void DropCapture(const Graphic& graphic) noexcept;
 
+  /// Without the system's frame, and without the surface's own border too.
+  [[nodiscard]] PixelSize WindowSize() const;
   [[nodiscard]] PixelSize InsideSize() const;
   [[nodiscard]] Graphic* GraphicAt(PixelPoint inside) const;
   /// Who gets a mouse event at a point of the window: a graphic, or null for the surface itself.
   [[nodiscard]] Graphic* TargetAt(PixelPoint at) const;
-  /// A button that is pressed anew was released where nobody told of it.
-  void ForgetLostRelease(MouseButton pressed) noexcept;
   void StartPress(MouseButton button, Graphic* target) noexcept;
   void CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
                  MouseHandler Surface::*ofSurface, MouseButton button, ShiftState shift,
@@ -125,6 +138,7 @@ class Surface : public Window {
 
   std::vector<Graphic*> graphics_;
   Graphic* captured_ = nullptr;           // the graphic that was pressed
+  std::string shownToolTip_;              // of the window: its own or that of a graphic
   MouseButton down_ = MouseButton::None;  // buttons down since a press on whom it concerns
   OleColor backColor_ = color::ButtonFace;
   FontSpec font_;

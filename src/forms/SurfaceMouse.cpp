@@ -1,6 +1,7 @@
 // The controls on a surface: their order, and who gets the mouse.
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/Surface.h"
 
@@ -45,12 +46,6 @@ Graphic* Surface::TargetAt(PixelPoint at) const {
   return GraphicAt({at.x - BorderPixels(), at.y - BorderPixels()});
 }
 
-void Surface::ForgetLostRelease(MouseButton pressed) noexcept {
-  if (!Has(down_, pressed)) return;
-  down_ = MouseButton::None;
-  captured_ = nullptr;
-}
-
 void Surface::StartPress(MouseButton button, Graphic* target) noexcept {
   if (down_ == MouseButton::None) captured_ = target;
   down_ = down_ | button;
@@ -73,19 +68,28 @@ void Surface::CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
 }
 
 void Surface::OnMouseDown(MouseButton button, ShiftState shift, PixelPoint at) {
-  ForgetLostRelease(button);
   Graphic* const target = TargetAt(at);
   StartPress(button, target);
   CallMouse(target, &Graphic::MouseDown, &Surface::MouseDown, button, shift, at);
 }
 
+void Surface::ToolTipChanged() {
+  shownToolTip_ = ToolTip();
+  Window::ToolTipChanged();
+}
+
+void Surface::ShowToolTipOf(const Graphic* graphic) {
+  const bool own = graphic == nullptr || graphic->ToolTip().empty();
+  const std::string& wanted = own ? ToolTip() : graphic->ToolTip();
+  if (wanted == shownToolTip_ || Peer() == nullptr) return;
+  shownToolTip_ = wanted;
+  Peer()->SetToolTip(shownToolTip_);
+}
+
 void Surface::OnMouseMove(MouseButton down, ShiftState shift, PixelPoint at) {
-  // The release may have gone elsewhere, for instance to a message box.
-  if (down == MouseButton::None) {
-    down_ = MouseButton::None;
-    captured_ = nullptr;
-  }
-  CallMouse(TargetAt(at), &Graphic::MouseMove, &Surface::MouseMove, down, shift, at);
+  Graphic* const target = TargetAt(at);
+  ShowToolTipOf(target);
+  CallMouse(target, &Graphic::MouseMove, &Surface::MouseMove, down, shift, at);
 }
 
 void Surface::OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) {
@@ -95,8 +99,14 @@ void Surface::OnMouseUp(MouseButton button, ShiftState shift, PixelPoint at) {
   CallMouse(target, &Graphic::MouseUp, &Surface::MouseUp, button, shift, at);
 }
 
+void Surface::OnCaptureLost() {
+  down_ = MouseButton::None;
+  const Graphic* const pressed = std::exchange(captured_, nullptr);
+  const std::function<void()> handler = pressed != nullptr ? pressed->CaptureLost : CaptureLost;
+  if (handler) handler();
+}
+
 void Surface::OnDoubleClick(PixelPoint at) {
-  ForgetLostRelease(MouseButton::Left);
   Graphic* const target = TargetAt(at);
   StartPress(MouseButton::Left, target);
   const std::function<void()> handler = target != nullptr ? target->DblClick : DblClick;

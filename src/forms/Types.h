@@ -27,8 +27,12 @@ struct ShiftState {
 
 /// Virtual-key codes that the program knows.
 namespace key {
+inline constexpr int Backspace = 8;
 inline constexpr int Tab = 9;
 inline constexpr int Enter = 13;
+inline constexpr int Shift = 16;
+inline constexpr int Ctrl = 17;
+inline constexpr int Alt = 18;
 inline constexpr int Escape = 27;
 inline constexpr int Space = 32;
 inline constexpr int PageUp = 33;
@@ -39,6 +43,13 @@ inline constexpr int Left = 37;
 inline constexpr int Up = 38;
 inline constexpr int Right = 39;
 inline constexpr int Down = 40;
+inline constexpr int Insert = 45;
+inline constexpr int Delete = 46;
+inline constexpr int Menu = 93;
+inline constexpr int F1 = 112;
+inline constexpr int F2 = 113;
+inline constexpr int F3 = 114;
+inline constexpr int F4 = 115;
 inline constexpr int F5 = 116;
 inline constexpr int F10 = 121;
 }  // namespace key
@@ -48,6 +59,8 @@ inline constexpr int F10 = 121;
 using OleColor = std::uint32_t;
 
 namespace color {
+inline constexpr OleColor WindowGround = 0x80000005;
+inline constexpr OleColor WindowText = 0x80000008;
 inline constexpr OleColor Highlight = 0x8000000D;
 inline constexpr OleColor HighlightText = 0x8000000E;
 inline constexpr OleColor ButtonFace = 0x8000000F;
@@ -63,6 +76,10 @@ inline constexpr OleColor TooltipFace = 0x80000018;
 /// Shapes of the pointer. NoDrop says that what is carried cannot be put down here; Custom is the
 /// picture given last to WindowSystem::SetMouseIcon.
 enum class MousePointer { Default = 0, Hourglass = 11, NoDrop = 12, Custom = 99 };
+
+/// The frame that the system puts around a form: none, one with a caption and a close box, or one
+/// that can be sized too.
+enum class FrameStyle { None, Fixed, Sizable };
 
 enum class ZPlace { Front, Back };
 

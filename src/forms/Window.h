@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -7,13 +8,16 @@
 
 #include "forms/Alive.h"
 #include "forms/Control.h"
+#include "forms/DialogKeys.h"
 #include "forms/WindowSystem.h"
 
 namespace corvelle::forms {
 
+class Form;
+
 /// A control with a window of its own: the base of forms, picture boxes and all that take the
-/// focus. The peer exists while the form is loaded; without it all properties can be set and asked,
-/// and are handed to the peer when it is made.
+/// focus. Any window may hold others, which it outlives. The peer exists while the form is loaded;
+/// without it all properties can be set and asked, and are handed to the peer when it is made.
 class Window : public Control, protected WindowEvents {
  public:
   ~Window() override;
@@ -27,6 +31,30 @@ class Window : public Control, protected WindowEvents {
   void ZOrder(ZPlace place) override;
 
   WindowSystem& Windows() const noexcept { return windows_; }
+
+  /// The window around this one; null for a form.
+  [[nodiscard]] Window* Container() const noexcept { return container_; }
+  /// The windows inside this one, in the order in which they were made.
+  [[nodiscard]] const std::vector<Window*>& Children() const noexcept { return children_; }
+
+  /// Tab and Shift+Tab stop here, and the keys follow the rules of dialogs. Controls that take keys
+  /// stop the Tab key from the start.
+  [[nodiscard]] bool TabStop() const noexcept { return tabStop_; }
+  void SetTabStop(bool tabStop) noexcept { tabStop_ = tabStop; }
+  /// The window has the keyboard. A control that is hidden or disabled hands it to the next one, a
+  /// page of tabs to its tabs.
+  [[nodiscard]] bool HasFocus() const noexcept { return hasFocus_; }
+
+  /// The window has the focus, or has it no more.
+  std::function<void()> GotFocus;
+  std::function<void()> LostFocus;
+  /// A key or character for a window that the Tab key reaches, before anything becomes of it. True
+  /// uses it up.
+  std::function<bool(int keyCode, ShiftState shift)> KeyDown;
+  std::function<bool(char32_t character)> KeyPress;
+  /// The wheel was turned: 120 is one notch, away from the user. True uses it up; otherwise the
+  /// container gets it.
+  std::function<bool(int delta, ShiftState shift)> Wheel;
 
   /// From here to ReleaseInput the window takes neither mouse nor keyboard, whatever Enabled says;
   /// changes of Enabled take effect afterwards. Several holds count.
@@ -43,22 +71,56 @@ class Window : public Control, protected WindowEvents {
 
  protected:
   Window(WindowSystem& windows, std::string name) : Control(std::move(name)), windows_(windows) {}
+  Window(Window& container, std::string name);
 
   WindowPeer* Peer() const noexcept { return peer_.get(); }
-  /// Where the container's inside begins in its window, in pixels.
-  [[nodiscard]] virtual PixelPoint ContainerOrigin() const noexcept { return {}; }
+  /// The form that this window is or lies in.
+  [[nodiscard]] Form& OwnForm();
+  /// Where the insides of this window begin in it, in pixels.
+  [[nodiscard]] virtual PixelPoint InsideOrigin() const noexcept { return {}; }
   /// The bounds in pixels that the peer is to have.
   [[nodiscard]] PixelRect PixelBounds() const;
-  /// False when the system refuses the window.
-  [[nodiscard]] bool CreatePeer(PeerKind kind, WindowPeer* parent, bool inTaskbar);
-  void DestroyPeer();
+
+  /// Makes the peer in `parent`. Null when the system refuses.
+  virtual std::unique_ptr<WindowPeer> NewPeer(WindowPeer* parent) = 0;
+  /// The peer was made and is to show what the window holds.
+  virtual void PeerMade() {}
+  /// The peer is about to go.
+  virtual void PeerGoing() {}
+  /// Makes this window and all inside it. False when the system refuses one.
+  [[nodiscard]] bool CreateWindows(WindowPeer* parent);
+  void DestroyWindows();
+  /// What a peer of this window is asked for.
+  [[nodiscard]] PeerSpec SpecIn(WindowPeer* parent) const;
 
   void VisibleChanged() override;
   void EnabledChanged() override;
+  void ToolTipChanged() override;
   void BoundsChanged(float oldLeft, float oldTop, float oldWidth, float oldHeight) override;
 
   /// Asks whether this window still stands after a handler ran.
   [[nodiscard]] Alive::Watch MakeWatch() const { return alive_.MakeWatch(); }
+
+  /// What the rules of the keyboard need to know.
+  [[nodiscard]] virtual KeyFacts Keys() const { return {}; }
+  /// The Tab key stops here now. All around it can be seen and is enabled.
+  [[nodiscard]] virtual bool StopsTab() const noexcept { return tabStop_; }
+  /// Enter, Esc or the access key stands for this window, which has the focus if it takes it.
+  virtual void PressByKey() {}
+  /// An arrow goes on or back in the group of this window.
+  virtual void MoveInGroup(int /*step*/) {}
+  /// Goes on or back by tabs, where there are some.
+  virtual void ChangeTab(int /*step*/) {}
+  /// True if this is `around` or lies in it.
+  [[nodiscard]] bool IsWithin(const Window& around) const noexcept;
+  /// True if this or one in it has the focus and stops the Tab key.
+  [[nodiscard]] bool HoldsFocus() const noexcept;
+  /// Gives the focus to the first window inside that takes it.
+  void FocusFirst();
+  /// The Tab key brought the focus.
+  virtual void TabbedInto() {}
+  /// The context menu is asked for, at a point of the window in pixels. False if there is none.
+  virtual bool MenuAsked(PixelPoint /*at*/, bool /*byKey*/) { return false; }
 
   // Events that a kind of window may have no use for.
   void OnMouseDown(MouseButton, ShiftState, PixelPoint) override {}
@@ -67,6 +129,11 @@ class Window : public Control, protected WindowEvents {
   void OnDoubleClick(PixelPoint) override {}
   void OnKeyDown(int, ShiftState) override {}
   void OnKeyPress(char32_t) override {}
+  bool OnControlKey(int keyCode, ShiftState shift) override;
+  bool OnControlCharacter(char32_t character) override;
+  void OnFocus(bool gained) override;
+  bool OnWheel(int delta, ShiftState shift) override;
+  bool OnContextMenu(PixelPoint at) override { return MenuAsked(at, false); }
   void OnPaint(Canvas&, const PixelRect&) override {}
   void OnMoved(const PixelRect& bounds) override;
   /// The window has another size in pixels.
@@ -79,10 +146,19 @@ class Window : public Control, protected WindowEvents {
   }
 
  private:
+  friend class Form;
+
+  /// Before the window is hidden or disabled. False when a handler has destroyed it.
+  [[nodiscard]] bool KeepsAfterPassingFocus();
+
   WindowSystem& windows_;
+  Window* container_ = nullptr;
+  std::vector<Window*> children_;
   Alive alive_;
   std::unique_ptr<WindowPeer> peer_;
   bool takesDrops_ = false;
+  bool tabStop_ = false;
+  bool hasFocus_ = false;
   int inputHolds_ = 0;
   PixelRect shownBounds_;  // as the peer last told
 };

@@ -10,6 +10,7 @@
 
 #include "base/Geometry.h"
 #include "forms/DragDrop.h"
+#include "forms/FileDialogs.h"
 #include "forms/PopupMenu.h"
 #include "forms/Types.h"
 #include "platform/Canvas.h"
@@ -41,6 +42,26 @@ class WindowEvents {
   /// A typed character; control characters (Enter 13, Esc 27) come here too.
   virtual void OnKeyPress(char32_t character) = 0;
 
+  /// A key goes down in a control that the system works, which gets it only if the answer is false.
+  /// What is typed with a key that was used up does not reach the control either.
+  virtual bool OnControlKey(int /*keyCode*/, ShiftState /*shift*/) { return false; }
+  /// Likewise a typed character, control characters too.
+  virtual bool OnControlCharacter(char32_t /*character*/) { return false; }
+
+  /// The window has the keyboard from now on, or has it no more. The one that loses it is told
+  /// first. Nothing is told to a window that is destroyed or hidden with it.
+  virtual void OnFocus(bool /*gained*/) {}
+  /// The mouse was taken from a window that was pressed: by a message box, a menu, another window,
+  /// or because it was hidden. No release will come.
+  virtual void OnCaptureLost() {}
+  /// The wheel was turned by `delta` (120 is a notch, away from the user) while this window, or one
+  /// in it that had no use for it, has the focus. True uses it up.
+  virtual bool OnWheel(int /*delta*/, ShiftState /*shift*/) { return false; }
+  /// The right button asked for the context menu of a control that the system works, at a point of
+  /// the window; told after the release. Keys that ask for it come as OnControlKey. True means that
+  /// the system shows none of its own.
+  virtual bool OnContextMenu(PixelPoint /*at*/) { return false; }
+
   /// Paints `dirty` (pixels of the window) onto `canvas`, whose origin is set so that the window's
   /// own coordinates can be used and is left as it is. All of `dirty` is painted over, the inside
   /// by one DrawCanvas, so that the backend needs no buffer against flicker.
@@ -51,6 +72,10 @@ class WindowEvents {
   virtual void OnActivated(bool active) = 0;
   /// The user or another program asks the window to close; the form decides.
   virtual void OnClose() = 0;
+  /// The user chose a line of the form's menu bar, with its number (see ShowPopup), or a menu of it
+  /// comes up, with the number of its line; the lines may be changed then.
+  virtual void OnMenuChosen(int /*line*/) {}
+  virtual void OnMenuOpening(int /*line*/) {}
   /// The session of Windows ends now; all must be saved when this returns.
   virtual void OnSessionEnd() = 0;
 
@@ -69,9 +94,6 @@ class WindowEvents {
                             const DragPoint& /*where*/) {
     return DropEffect::None;
   }
-  /// A control that the system works was pressed: with the pointer or with Space.
-  virtual void OnPress() {}
-
   /// Any message before the backend deals with it, for top-level windows. An answer ends the
   /// message there.
   virtual std::optional<std::intptr_t> OnMessage(std::uint32_t message, std::uintptr_t wParam,
@@ -95,12 +117,12 @@ class WindowPeer {
   [[nodiscard]] virtual bool IsMinimized() const = 0;
   virtual void SetCaption(std::string_view caption) = 0;
   virtual void SetEnabled(bool enabled) = 0;
+  /// What comes up beside the pointer when it rests on the window, from the next rest on; nothing
+  /// when it is empty. A press takes it away until the pointer has been elsewhere.
+  virtual void SetToolTip(std::string_view text) = 0;
   /// From now on drags of other programs are told to the window; at first they are not, and go to
   /// the next window around it that takes them. False when the system refuses.
   virtual bool SetTakesDrops(bool takesDrops) = 0;
-  /// Ticks a check box or takes its tick away; other kinds have none.
-  virtual void SetChecked(bool /*checked*/) {}
-
   /// Notes that `part` must be painted; it is, once, at the next paint. Nothing is noted for a
   /// window that is not visible; coming up, it is painted whole.
   virtual void Invalidate(const PixelRect& part) = 0;
@@ -114,6 +136,10 @@ class WindowPeer {
   virtual void SetForeground() = 0;
   virtual void SetZOrder(ZPlace place) = 0;
   virtual void SetWindowPos(InsertAfter after, unsigned flags) = 0;
+  /// Of a form that the user can size: he cannot make it smaller than this. The program can.
+  virtual void SetLeastSize(PixelSize size) = 0;
+  /// The menu bar of a form in a frame of the system; without lines there is none.
+  virtual void SetMenuBar(const std::vector<PopupItem>& items) = 0;
 
   /// A canvas on the window's pixels on the screen, for drawing that the next paint wipes out;
   /// null while the window is not visible.
@@ -123,10 +149,6 @@ class WindowPeer {
 enum class PeerKind {
   Form,        // a top-level window without a frame of the system
   PictureBox,  // a child window
-  // Children that the system draws and works, with its own font. A press takes the focus and is
-  // told as OnPress; mouse events are not told, keys are, but for Space.
-  CommandButton,
-  CheckBox,
 };
 
 /// What a backend needs to make a window. On Windows the class of the window bears `ClassName`, so
@@ -136,7 +158,22 @@ struct PeerSpec {
   std::string ClassName;
   WindowPeer* Parent = nullptr;  // of a child
   PixelRect Bounds;
+  // A picture box that keys reach by the rules of dialogs: a press on it takes the focus.
+  bool TabStop = false;
   bool InTaskbar = false;  // a form that shows a button in the task bar when it is visible
+  FrameStyle Frame = FrameStyle::None;
+  bool MinimizeBox = false;     // in the frame
+  WindowPeer* Owner = nullptr;  // of a form with a frame: it stays in front of its owner
+};
+
+/// Pixels of a frame on each side of the inside.
+struct FrameMargins {
+  int Left = 0;
+  int Top = 0;
+  int Right = 0;
+  int Bottom = 0;
+
+  friend bool operator==(const FrameMargins&, const FrameMargins&) = default;
 };
 
 /// What a window shows, and where it stands on the screen.
@@ -144,6 +181,8 @@ struct WindowPicture {
   std::unique_ptr<Canvas> Pixels;
   PixelRect Bounds;
 };
+
+class ControlMaker;
 
 using TimerId = std::uint32_t;
 
@@ -155,6 +194,13 @@ class WindowSystem {
   /// Makes a hidden window that reports to `events`, which outlives the peer. Null when the system
   /// refuses.
   virtual std::unique_ptr<WindowPeer> CreatePeer(const PeerSpec& wanted, WindowEvents& events) = 0;
+
+  /// How wide the system's frame is. Points of a window count from its inside, its bounds are those
+  /// of the frame.
+  [[nodiscard]] virtual FrameMargins MarginsOf(FrameStyle frame, bool menuBar) const = 0;
+
+  /// Makes the controls that the system draws and works.
+  virtual ControlMaker& Controls() = 0;
 
   /// A bitmap of this size in pixels (at least 1 by 1), all black.
   virtual std::unique_ptr<Canvas> CreateCanvas(PixelSize size) = 0;
@@ -211,11 +257,17 @@ class WindowSystem {
   virtual int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                           unsigned flags) = 0;
 
+  /// The system's dialogs for files that are there, and for a folder. The owner takes no input, and
+  /// events run, while one is up.
+  virtual FileChoice AskFiles(WindowId owner, const FileQuestion& question) = 0;
+  virtual FolderChoice AskFolder(WindowId owner, const FolderQuestion& question) = 0;
+
   /// Shows the visible ones of `items` as a popup menu, its upper left corner at a point of the
   /// screen (pixels) or beside it where there is no room. The owner, a top-level window of ours,
   /// comes to the foreground first, so that a click elsewhere closes the popup. Events run while it
-  /// is up; the end of its owner or of the program closes it. Returns the index in `items` of what
-  /// was chosen, popup::kNothing when nothing was or the popup could not be shown.
+  /// is up; the end of its owner or of the program closes it. Returns the number of what was
+  /// chosen, counting all lines from 0, each before the lines of its own menu; popup::kNothing when
+  /// nothing was or the popup could not be shown.
   virtual int ShowPopup(WindowId owner, const std::vector<PopupItem>& items, PixelPoint at,
                         unsigned flags) = 0;
 };

@@ -109,7 +109,7 @@ void ExtractIconLibrary(Program& program, std::string_view target, std::string_v
 }
 
 void IconLibrary::ExtractIconLibrary() {
-  corvelle::ExtractIconLibrary(program_, program_.IconsPath, program_.AppPath);
+  corvelle::ExtractIconLibrary(program_, program_.IconsPath, program_.ShippedFile(""));
 }
 
 std::vector<std::string> LibraryCategories(Program& program) {

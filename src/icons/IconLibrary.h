@@ -14,7 +14,7 @@ class Program;
 // save that of the missing container: what cannot be read is empty, and what cannot be written
 // keeps its old content.
 
-/// Name of the container, in the program's folder.
+/// Name of the container, which comes with the program.
 inline constexpr std::string_view kLibraryFile = "icon.lib";
 
 /// Unpacks the container of `source` into the folder `target`. Files of the same name are replaced,
@@ -24,7 +24,7 @@ inline constexpr std::string_view kLibraryFile = "icon.lib";
 /// is told.
 void ExtractIconLibrary(Program& program, std::string_view target, std::string_view source);
 
-/// The port of it: from the program's folder into its folder of icons.
+/// The port of it: from where the program lies into its folder of icons.
 class IconLibrary final : public IconLibraryPort {
  public:
   explicit IconLibrary(Program& program) : program_(program) {}

@@ -19,7 +19,7 @@ void frmQMenu::InitIcons() {
   std::optional<forms::FlagScope> loading;
   if (!program_.ToolbarMinimized) loading.emplace(program_.IconsLoading);
   const forms::HourglassScope hourglass(program_.Windows);
-  icons_.LoadSmallIcon(program_.AppPath + "corvelle.exe");
+  icons_.LoadSmallIcon(program_.ShippedFile("corvelle.exe"));
   // A folder that cannot be listed has no icons to fetch.
   const auto menus = files.List(program_.MenusPath, "*.mnu");
   if (menus) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/FileSystem.h"
+#include "platform/SystemInfo.h"
 
 namespace corvelle {
 
@@ -16,6 +17,7 @@ using LookupId = std::uint64_t;
 enum class LookupKind {
   IsThere,        // whether a file or folder of that path exists: bool
   FolderEntries,  // what FileSystem::List gives for the path and the pattern
+  Drive,          // what SystemInfo::FactsOfDrive gives for the root: DriveFacts
   LinkTarget,     // where the shell link of that path leads: std::string, empty without a path
 };
 
@@ -37,7 +39,8 @@ enum class LookupEnd {
   Dropped,  // nobody wants to know any more
 };
 
-using LookupValue = std::variant<std::monostate, bool, std::vector<FileEntry>, std::string>;
+using LookupValue =
+    std::variant<std::monostate, bool, std::vector<FileEntry>, std::string, DriveFacts>;
 
 struct LookupAnswer {
   LookupId Id = 0;

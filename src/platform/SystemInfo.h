@@ -1,10 +1,49 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/WindowId.h"
 
 namespace corvelle {
+
+/// The version of Windows.
+struct WindowsVersion {
+  unsigned Platform = 0;  // 2 is Windows NT and all that came after it
+  unsigned Major = 0;
+  unsigned Minor = 0;
+  unsigned Build = 0;
+
+  friend bool operator==(const WindowsVersion&, const WindowsVersion&) = default;
+};
+
+/// The processor as the system names it, also to a program made for another one.
+struct ProcessorFacts {
+  unsigned Type = 0;          // dwProcessorType of SYSTEM_INFO
+  unsigned Architecture = 0;  // wProcessorArchitecture of SYSTEM_INFO
+
+  friend bool operator==(const ProcessorFacts&, const ProcessorFacts&) = default;
+};
+
+/// Room on a drive, in bytes.
+struct DriveRoom {
+  std::uint64_t Total = 0;
+  std::uint64_t Free = 0;
+
+  friend bool operator==(const DriveRoom&, const DriveRoom&) = default;
+};
+
+/// What the system tells of a drive. A drive that is not ready has its type and no more.
+struct DriveFacts {
+  unsigned Type = 0;  // as GetDriveType counts: 1 no such drive, 2 removable, 3 fixed...
+  std::string Label;
+  std::string FileSystem;
+  std::optional<DriveRoom> Room;
+
+  friend bool operator==(const DriveFacts&, const DriveFacts&) = default;
+};
 
 /// Facts about the machine, this process and the session.
 class SystemInfo {
@@ -17,6 +56,20 @@ class SystemInfo {
   /// The folder of Windows, and that of its system files; empty when the system does not tell.
   [[nodiscard]] virtual std::string WindowsFolder() const = 0;
   [[nodiscard]] virtual std::string SystemFolder() const = 0;
+
+  /// The folder for temporary files; empty when the system does not tell.
+  [[nodiscard]] virtual std::string TempFolder() const = 0;
+
+  /// The true version, whatever the program was made for; nothing when the system does not tell.
+  [[nodiscard]] virtual std::optional<WindowsVersion> Version() const = 0;
+  [[nodiscard]] virtual ProcessorFacts Processor() const = 0;
+  /// Bytes of memory that the system has; nothing when it does not tell.
+  [[nodiscard]] virtual std::optional<std::uint64_t> PhysicalMemory() const = 0;
+  /// The roots of all drives ("C:\\"), ready or not; empty when the system does not tell.
+  [[nodiscard]] virtual std::vector<std::string> LogicalDrives() const = 0;
+  /// May take long for a drive that is not ready or lies in the network: ask for it by
+  /// LookupKind::Drive. Never shows a box of the system's.
+  [[nodiscard]] virtual DriveFacts FactsOfDrive(const std::string& root) const = 0;
 
   /// True if another process of this program runs in this session. The first question claims the
   /// session for this process; each later one gives the other a moment to end, and claims it then.

@@ -51,7 +51,7 @@ void Popup::Settle(EditOutcome outcome, const std::string& file) {
 }
 
 void Popup::ShowIconLibrary() {
-  if (program_.Ports.Library != nullptr) program_.Ports.Library->LoadWindow();
+  if (program_.Ports.Library != nullptr) program_.Ports.Library->Show({});
 }
 
 void Popup::OpenEntry() {
@@ -148,6 +148,7 @@ void Popup::InsertSeparator() { Insert(NewSeparatorRecord()); }
 // ---- folder items ----
 
 void Popup::AfterFolderEdit(EditOutcome outcome, const EntryEdit& entry) {
+  if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
   // A file that no longer holds the item is not what the menu shows.
   if (outcome != EditOutcome::Failed) program_.Ports.Toolbar->RefreshMenu(entry.CurMenuTag);
   Settle(outcome, entry.CurFile);
@@ -197,6 +198,8 @@ void Popup::ShowFolderProperties() {
     return;
   }
   entry.CurRecord = number;
+  // What the file holds now is what is edited.
+  entry.CurStored.clear();
   entry.CurTitle = record->FTitle;
   entry.CurIcon = record->FIcon;
   entry.CurCommand = record->FName;

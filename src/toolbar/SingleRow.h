@@ -63,6 +63,8 @@ class SingleRow final : public SingleButtonsPort {
   FileStatus DeleteSingle(std::string_view file) override { return DeletePasteSB(file, kDelete); }
   FileStatus PasteSingle(std::string_view file) override { return DeletePasteSB(file, kPaste); }
   FileStatus UndoDeleteSB(std::string_view file) override;
+  /// Full path of the button or separator under the pointer; empty when there is none.
+  [[nodiscard]] std::string FileUnderPointer() { return Under().File; }
   /// Rewrites the files without the button of `file`, or with the clipboard's entry before it.
   /// Whoever calls it reads the row anew. A disk that refuses leaves the row as it was.
   FileStatus DeletePasteSB(std::string_view file, int action);
@@ -126,6 +128,7 @@ class SingleRow final : public SingleButtonsPort {
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void ToFrame(forms::MouseButton button, forms::ShiftState shift, float x, float y);
 
+  bool Told(const FileStatus& edited) const;
   bool MoveFromMenu(const std::string& before, const EntryEdit& carried);
   /// A copy of the entry under the pointer; its File is empty when the pointer is over no entry.
   [[nodiscard]] SingleRect Under();

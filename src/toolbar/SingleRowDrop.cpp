@@ -68,6 +68,12 @@ void SingleRow::DoItemDrag(forms::MouseButton released) {
   if (changed && strip_.IsLoaded()) FitStrip();
 }
 
+// True if the files were changed.
+bool SingleRow::Told(const FileStatus& edited) const {
+  if (edited) program_.TellMenusEdited();
+  return edited.HasValue();
+}
+
 // What cannot be taken out of its menu is copied. True if the row is another one now.
 bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried) {
   FileSystem& files = program_.Services.Files;
@@ -76,11 +82,11 @@ bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried
   if (moved == EditOutcome::Failed) return false;
   if (moved == EditOutcome::Edited) {
     // The menu is built again when it opens.
+    program_.TellMenusEdited();
     strip_.RemoveQMenu(carried.CurMenuTag);
     return true;
   }
-  return PasteSingleFile(files, ansi, program_.MenusPath, before, CarriedRecord(carried))
-      .HasValue();
+  return Told(PasteSingleFile(files, ansi, program_.MenusPath, before, CarriedRecord(carried)));
 }
 
 // True if the row is another one now.
@@ -88,11 +94,10 @@ bool SingleRow::DropBehind(const EntryEdit& carried, forms::MouseButton released
   FileSystem& files = program_.Services.Files;
   if (released != forms::MouseButton::Right && IsSinglesTag(carried.CurMenuTag)) {
     if (IsAnother(carried)) return true;
-    return MoveSingleFile(files, program_.MenusPath, carried.CurFile, {}).HasValue();
+    return Told(MoveSingleFile(files, program_.MenusPath, carried.CurFile, {}));
   }
-  return PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, {},
-                         CarriedRecord(carried))
-      .HasValue();
+  return Told(PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, {},
+                              CarriedRecord(carried)));
 }
 
 // True if another program has put another entry into the file of the carried one. That one stays
@@ -111,11 +116,10 @@ bool SingleRow::DropBefore(const std::string& target, const EntryEdit& carried,
   if (ofRow && EqualNoCase(target, carried.CurFile)) return false;
   if (ofRow && released != forms::MouseButton::Right) {
     if (IsAnother(carried)) return true;
-    return MoveSingleFile(files, program_.MenusPath, carried.CurFile, target).HasValue();
+    return Told(MoveSingleFile(files, program_.MenusPath, carried.CurFile, target));
   }
-  return PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, target,
-                         CarriedRecord(carried))
-      .HasValue();
+  return Told(PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, target,
+                              CarriedRecord(carried)));
 }
 
 void SingleRow::FitStrip() {
@@ -156,7 +160,7 @@ void SingleRow::AddDropped(const std::vector<MenuRecord>& records, const std::st
   const std::size_t at = before.empty() ? row->size() : PlaceOfSingle(*row, before);
   const SingleFiles after = WithSingles(*row, at, records, program_.Services.Ansi);
   // A disk that refuses leaves the row as it was.
-  if (!RewriteSingleFiles(files, program_.MenusPath, *row, after)) return;
+  if (!Told(RewriteSingleFiles(files, program_.MenusPath, *row, after))) return;
   DoSingleButtons();
   FitStrip();
   if (program_.AutoHide && program_.Ports.Docking != nullptr) {

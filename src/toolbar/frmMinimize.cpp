@@ -58,6 +58,8 @@ void frmMinimize::Form_Unload() {
   EndWindow(ports.ImageWindow);
   EndWindow(ports.Toolbar);
   EndWindow(ports.Library);
+  if (ports.WebLink != nullptr) ports.WebLink->EndWebLink();
+  EndWindow(ports.About);
   if (ports.Hint != nullptr) ports.Hint->ReleaseHint();
   program_.Windows.Quit();
 }
@@ -70,7 +72,7 @@ void frmMinimize::ShowInSysTray() {
   InTray = program_.Services.Tray.Add({.Window = hWnd(),
                                        .Id = kTrayIcon,
                                        .CallbackMessage = forms::message::MouseMove,
-                                       .IconFile = program_.AppPath + "corvelle.exe",
+                                       .IconFile = program_.ShippedFile("corvelle.exe"),
                                        .Tip = "Corvelle"});
 }
 

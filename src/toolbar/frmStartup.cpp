@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "base/Version.h"
 #include "core/Program.h"
 #include "platform/ShellIcons.h"
 
@@ -48,7 +49,7 @@ void frmStartup::Form_Load() {
 
   Image1.Move(kMargin, (ScaleHeight() - picture * screen.TwipsPerPixelY) / 2,
               picture * screen.TwipsPerPixelX, picture * screen.TwipsPerPixelY);
-  Image1.SetPicture(FilePicture(program_, program_.AppPath + "corvelle.exe"));
+  Image1.SetPicture(FilePicture(program_, program_.ShippedFile("corvelle.exe")));
   Label1.SetCaption("");
   Label2.SetCaption("Initializing ");
   Label2.Move(Image1.Right() + kMargin, Image1.Bottom() - Label2.Height(), Label2.Width(),
@@ -56,7 +57,8 @@ void frmStartup::Form_Load() {
   Label1.Move(Label2.Right(), Label2.Top(), Label1.Width(), Label1.Height());
 
   SetAutoRedraw(true);
-  Print(Label2.Left(), Image1.Top(), "Corvelle 4.25", forms::color::ButtonText);
+  Print(Label2.Left(), Image1.Top(), program_.Title + " " + std::string(kVersion),
+        forms::color::ButtonText);
 }
 
 void frmStartup::AddDot() {

@@ -5,6 +5,7 @@
 
 #include "base/Text.h"
 #include "core/Carry.h"
+#include "core/DataFolder.h"
 #include "core/FileTransaction.h"
 #include "core/MenuFolder.h"
 #include "core/Program.h"
@@ -154,7 +155,7 @@ void frmToolbar::Form_Load() {
 
 void frmToolbar::MakeFolders() {
   FileSystem& files = program_.Services.Files;
-  program_.MenusPath = program_.AppPath + "Menus\\";
+  program_.MenusPath = program_.AppPath + std::string(kMenusFolder);
   program_.IconsPath = program_.AppPath + "Icons\\";
   program_.ShellLinkPath = program_.AppPath + "ShellLink\\";
   MakeMissingFolder(files, program_.MenusPath);
@@ -357,6 +358,7 @@ void frmToolbar::RebuildAtTop() {
   if (IsLoaded()) InitButtons();
   if (IsLoaded()) Show();
   program_.AppBarBusy = false;
+  if (program_.Ports.Properties != nullptr) program_.Ports.Properties->HidePreview();
   if (capture != nullptr && ImageLoaded()) capture->ResetPicture1();
 }
 

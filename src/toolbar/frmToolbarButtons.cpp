@@ -56,7 +56,7 @@ TwipSize frmToolbar::MakeButtons() {
   std::vector<StripEntry> entries;
   entries.reserve(files.size());
   // The program's own menu comes first.
-  records_.push_back({program_.Title, program_.AppPath + "corvelle.exe", ""});
+  records_.push_back({program_.Title, program_.ShippedFile("corvelle.exe"), ""});
   for (const ButtonFile& file : files) {
     entries.push_back(file.Entry);
     if (file.Entry.Kind == EntryKind::Button) records_.push_back(file.Record);

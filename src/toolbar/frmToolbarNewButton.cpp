@@ -19,6 +19,7 @@ void frmToolbar::AddNewButton() {
                  forms::msgbox::IconInformation | forms::msgbox::OnTop);
     return;
   }
+  program_.TellMenusEdited();
   program_.ToolbarReady = false;
   const bool floats = Where() == Placement::TopHugging;
   // The button's width goes to the left, where the screen has room for it.

@@ -69,6 +69,10 @@ struct CursorTraits : NullHandleTraits<HCURSOR> {
   static void Close(HCURSOR cursor) noexcept { DestroyCursor(cursor); }
 };
 
+struct ImageListTraits : NullHandleTraits<HIMAGELIST> {
+  static void Close(HIMAGELIST images) noexcept { ImageList_Destroy(images); }
+};
+
 struct WindowTraits : NullHandleTraits<HWND> {
   static void Close(HWND window) noexcept { DestroyWindow(window); }
 };
@@ -100,9 +104,11 @@ struct FindTraits {
 using UniqueFont = UniqueHandle<GdiObjectTraits<HFONT>>;
 using UniqueBitmap = UniqueHandle<GdiObjectTraits<HBITMAP>>;
 using UniquePen = UniqueHandle<GdiObjectTraits<HPEN>>;
+using UniqueBrush = UniqueHandle<GdiObjectTraits<HBRUSH>>;
 using UniqueMemoryDc = UniqueHandle<MemoryDcTraits>;
 using UniqueIcon = UniqueHandle<IconTraits>;
 using UniqueCursor = UniqueHandle<CursorTraits>;
+using UniqueImageList = UniqueHandle<ImageListTraits>;
 using UniqueWindow = UniqueHandle<WindowTraits>;
 using UniqueMenu = UniqueHandle<MenuTraits>;
 using UniqueRegistryKey = UniqueHandle<RegistryKeyTraits>;

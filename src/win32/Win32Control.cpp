@@ -1,89 +1,143 @@
 // Controls of the system: how they are made, and what of their messages becomes events.
 
-#include "win32/Wide.h"
-#include "win32/Win32Window.h"
+#include "win32/Win32Control.h"
+
+#include <cstdint>
+
 #include "win32/Win32WindowSystem.h"
 
 namespace corvelle::win32 {
 
-// The class of the system's own buttons.
-constexpr wchar_t kButtonClass[] = L"BUTTON";
+namespace {
 
-// The tick of a check box is the program's affair, not the control's own.
-bool Win32Window::CreateControl(const forms::PeerSpec& wanted) {
+bool IsDown(int virtualKey) { return GetKeyState(virtualKey) < 0; }
+
+forms::ShiftState ShiftNow() {
+  return {.Shift = IsDown(VK_SHIFT), .Ctrl = IsDown(VK_CONTROL), .Alt = IsDown(VK_MENU)};
+}
+
+bool FormHasMenu(HWND handle) { return GetMenu(GetAncestor(handle, GA_ROOT)) != nullptr; }
+
+}  // namespace
+
+bool Win32Control::Is(LONG_PTR procedure) noexcept {
+  return procedure == reinterpret_cast<LONG_PTR>(&Procedure);
+}
+
+bool Win32Control::CreateAs(const wchar_t* name, DWORD style, DWORD exStyle,
+                            const forms::PeerSpec& wanted) {
   if (wanted.Parent == nullptr) return false;
-  const DWORD style = kind_ == forms::PeerKind::CheckBox ? BS_CHECKBOX : BS_PUSHBUTTON;
   told_ = wanted.Bounds;
-  handle_ = CreateWindowExW(WS_EX_NOPARENTNOTIFY, kButtonClass, L"",
-                            WS_CHILD | WS_CLIPSIBLINGS | WS_TABSTOP | style, wanted.Bounds.left,
+  handle_ = CreateWindowExW(exStyle | WS_EX_NOPARENTNOTIFY, name, L"",
+                            WS_CHILD | WS_CLIPSIBLINGS | style, wanted.Bounds.left,
                             wanted.Bounds.top, wanted.Bounds.Width(), wanted.Bounds.Height(),
                             ToHwnd(wanted.Parent->Id()), nullptr, Module(), nullptr);
   if (handle_ == nullptr) return false;
-  SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  SetWindowLongPtrW(handle_, GWLP_USERDATA,
+                    reinterpret_cast<LONG_PTR>(static_cast<Win32Window*>(this)));
   systemProcedure_ = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlProcedure)));
+      SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
   font_ = system_.Tools()->Fonts.Make({});
   SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
   ::SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   return true;
 }
 
+LRESULT Win32Control::Default(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (handle_ == nullptr) return 0;
+  return CallWindowProcW(systemProcedure_, handle_, message, wParam, lParam);
+}
+
 // Nothing that an event does may throw into Windows: noexcept ends the program first.
-LRESULT CALLBACK Win32Window::ControlProcedure(HWND handle, UINT message, WPARAM wParam,
-                                               LPARAM lParam) noexcept {
-  auto* const window = reinterpret_cast<Win32Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+LRESULT CALLBACK Win32Control::Procedure(HWND handle, UINT message, WPARAM wParam,
+                                         LPARAM lParam) noexcept {
+  Win32Window* const window =
+      reinterpret_cast<Win32Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (window == nullptr) return DefWindowProcW(handle, message, wParam, lParam);
   const std::shared_ptr<Win32Window> keep = window->shared_from_this();
-  if (message != WM_NCDESTROY) return window->TreatControl(message, wParam, lParam);
-  const LRESULT answer = window->Default(message, wParam, lParam);
+  auto& control = static_cast<Win32Control&>(*window);
+  if (message == WM_DESTROY) control.Ending();
+  if (message != WM_NCDESTROY) {
+    control.RelayToToolTip(message, wParam, lParam);
+    return control.Treat(message, wParam, lParam);
+  }
+  const LRESULT answer = control.Default(message, wParam, lParam);
   SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
-  window->handle_ = nullptr;
-  window->events_ = nullptr;
+  control.handle_ = nullptr;
+  control.events_ = nullptr;
   return answer;
 }
 
-LRESULT Win32Window::TreatControl(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT Win32Control::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_WINDOWPOSCHANGED) {
     const WINDOWPOS position = *reinterpret_cast<const WINDOWPOS*>(lParam);
     const LRESULT answer = Default(message, wParam, lParam);
     PositionChanged(position);
     return answer;
   }
-  if (events_ == nullptr) return Default(message, wParam, lParam);
-  switch (message) {
-    case WM_KEYDOWN:
-      // Space presses, and the control does that itself.
-      if (wParam == VK_SPACE) break;
-      return TreatKeys(message, wParam, lParam).value_or(0);
-    case WM_SYSKEYDOWN:
-      if (wParam == VK_SPACE || wParam == VK_F4) break;
-      if (const auto answer = TreatKeys(message, wParam, lParam)) return *answer;
-      break;
-    case WM_CHAR:
-      return TreatKeys(message, wParam, lParam).value_or(0);
-    case WM_SYSCHAR:
-      // Access keys have been dealt with as keys. Alt+Space is the system's.
-      if (wParam == VK_SPACE) break;
-      return 0;
-    default:
-      break;
+  // A frame holds other controls.
+  if (const auto teller = TellerOf(handle_, message, lParam)) {
+    if (const auto answer = teller->Notified(message, wParam, lParam)) return *answer;
   }
+  if (events_ == nullptr) return Default(message, wParam, lParam);
+  if (const auto answer = Own(message, wParam, lParam)) return *answer;
+  if (events_ == nullptr) return Default(message, wParam, lParam);
+  if (const auto answer = TreatControlKeys(message, wParam, lParam)) return *answer;
+  if (message == WM_CONTEXTMENU) {
+    if (const auto answer = TreatMenuKey(lParam)) return *answer;
+  }
+  if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
+    // The control shows first that it has the focus.
+    const LRESULT answer = Default(message, wParam, lParam);
+    if (events_ != nullptr && TellsFocus()) TreatFocus(message, wParam, lParam);
+    return answer;
+  }
+  if (const auto answer = TreatFocus(message, wParam, lParam)) return *answer;
   return Default(message, wParam, lParam);
 }
 
-std::optional<LRESULT> Win32Window::TreatCommand(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message != WM_COMMAND || HIWORD(wParam) != BN_CLICKED || lParam == 0) return std::nullopt;
-  // Other programs can send this message with any handle in it.
-  const HWND child = reinterpret_cast<HWND>(lParam);
-  if (GetParent(child) != handle_ ||
-      GetWindowLongPtrW(child, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&ControlProcedure)) {
+// The menu key has been told as a key when it went down; unused, it brings the system's own menu.
+std::optional<LRESULT> Win32Control::TreatMenuKey(LPARAM lParam) {
+  if (lParam == -1) {
+    if (usedUp_) return 0;
     return std::nullopt;
   }
-  auto* const control = reinterpret_cast<Win32Window*>(GetWindowLongPtrW(child, GWLP_USERDATA));
-  if (control == nullptr) return std::nullopt;
-  const std::shared_ptr<Win32Window> keep = control->shared_from_this();
-  if (keep->events_ != nullptr) keep->events_->OnPress();
-  return 0;
+  POINT at{static_cast<std::int16_t>(LOWORD(lParam)), static_cast<std::int16_t>(HIWORD(lParam))};
+  ScreenToClient(handle_, &at);
+  if (events_->OnContextMenu({static_cast<int>(at.x), static_cast<int>(at.y)})) return 0;
+  return std::nullopt;
+}
+
+std::optional<LRESULT> Win32Control::TreatControlKeys(UINT message, WPARAM wParam,
+                                                      LPARAM /*lParam*/) {
+  switch (message) {
+    case WM_SYSKEYDOWN:
+      // Alt by itself is the system's.
+      if (wParam == VK_MENU) return std::nullopt;
+      [[fallthrough]];
+    case WM_KEYDOWN: {
+      // Without a menu of the form, F10 is a key like others.
+      if (wParam == VK_F10 && !IsDown(VK_SHIFT) && FormHasMenu(handle_)) return std::nullopt;
+      usedUp_ = false;
+      // What the key does may bring the next one.
+      const bool used = events_->OnControlKey(static_cast<int>(wParam), ShiftNow());
+      usedUp_ = used;
+      if (used) return 0;
+      return std::nullopt;
+    }
+    case WM_CHAR: {
+      const auto character = Complete(static_cast<wchar_t>(wParam));
+      const bool told = character && events_->OnControlCharacter(*character);
+      if (told || usedUp_) return 0;
+      return std::nullopt;
+    }
+    case WM_SYSCHAR:
+      // Access keys have been dealt with as keys. Alt+Space is the system's, as are its menus.
+      if (!usedUp_ && (wParam == VK_SPACE || FormHasMenu(handle_))) return std::nullopt;
+      return 0;
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace corvelle::win32

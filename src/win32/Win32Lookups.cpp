@@ -13,6 +13,7 @@
 #include "win32/UniqueHandle.h"
 #include "win32/Win32Files.h"
 #include "win32/Win32ShellLinks.h"
+#include "win32/Win32SystemInfo.h"
 
 namespace corvelle::win32 {
 
@@ -40,13 +41,14 @@ class Apartment {
   }
 
   LookupAnswer Answer(const Lookup& question) {
-    return forms::AnswerLookup(files_, links_, question);
+    return forms::AnswerLookup(files_, links_, system_, question);
   }
 
  private:
   bool ready_;
   Win32Files files_;
   Win32ShellLinks links_;
+  Win32SystemInfo system_;
 };
 
 /// Waits until there may be work, with the messages of the apartment running. False when none came

@@ -30,7 +30,7 @@ HWND AfterOf(InsertAfter after) {
 
 }  // namespace
 
-void Win32Peer::SetBounds(const PixelRect& bounds) {
+void Win32PeerCore::SetBounds(const PixelRect& bounds) {
   if (IsMinimized()) {
     SetRestoredBounds(bounds);
     return;
@@ -40,7 +40,7 @@ void Win32Peer::SetBounds(const PixelRect& bounds) {
 }
 
 // A window in the task bar comes back at these bounds, and tells them then.
-void Win32Peer::SetRestoredBounds(const PixelRect& bounds) {
+void Win32PeerCore::SetRestoredBounds(const PixelRect& bounds) {
   WINDOWPLACEMENT placement{};
   placement.length = sizeof(placement);
   if (GetWindowPlacement(Handle(), &placement) == 0) return;
@@ -55,7 +55,7 @@ void Win32Peer::SetRestoredBounds(const PixelRect& bounds) {
   SetWindowPlacement(Handle(), &placement);
 }
 
-void Win32Peer::Show(ShowKind kind) {
+void Win32PeerCore::Show(ShowKind kind) {
   const HWND handle = Handle();
   if (!window_->IsForm()) {
     ShowWindow(handle, kind == ShowKind::Hidden ? SW_HIDE : SW_SHOWNA);
@@ -83,39 +83,35 @@ void Win32Peer::Show(ShowKind kind) {
   }
 }
 
-bool Win32Peer::IsMinimized() const { return IsIconic(Handle()) != 0; }
+bool Win32PeerCore::IsMinimized() const { return IsIconic(Handle()) != 0; }
 
-void Win32Peer::SetCaption(std::string_view caption) {
+void Win32PeerCore::SetCaption(std::string_view caption) {
   SetWindowTextW(Handle(), Wide(caption).c_str());
 }
 
-void Win32Peer::SetEnabled(bool enabled) { EnableWindow(Handle(), enabled ? TRUE : FALSE); }
+void Win32PeerCore::SetEnabled(bool enabled) { EnableWindow(Handle(), enabled ? TRUE : FALSE); }
 
-void Win32Peer::SetChecked(bool checked) {
-  SendMessageW(Handle(), BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
-}
-
-void Win32Peer::Invalidate(const PixelRect& part) {
+void Win32PeerCore::Invalidate(const PixelRect& part) {
   if (IsWindowVisible(Handle()) == 0) return;
   const RECT rect = ToRect(part);
   InvalidateRect(Handle(), &rect, FALSE);
 }
 
-void Win32Peer::PaintNow() { UpdateWindow(Handle()); }
+void Win32PeerCore::PaintNow() { UpdateWindow(Handle()); }
 
 // Behind another program the focus would only make a window active that nobody types into: a click
 // on it would not bring it forward any more, and it would hold no press.
-void Win32Peer::SetFocus() {
+void Win32PeerCore::SetFocus() {
   if (IsWindowVisible(Handle()) != 0 && InForeground()) ::SetFocus(Handle());
 }
 
-void Win32Peer::SetForeground() { SetForegroundWindow(Handle()); }
+void Win32PeerCore::SetForeground() { SetForegroundWindow(Handle()); }
 
-void Win32Peer::SetZOrder(ZPlace place) {
+void Win32PeerCore::SetZOrder(ZPlace place) {
   ::SetWindowPos(Handle(), place == ZPlace::Front ? HWND_TOP : HWND_BOTTOM, 0, 0, 0, 0, kOrderOnly);
 }
 
-void Win32Peer::SetWindowPos(InsertAfter after, unsigned flags) {
+void Win32PeerCore::SetWindowPos(InsertAfter after, unsigned flags) {
   UINT all = flags | SWP_NOMOVE | SWP_NOSIZE;
   const bool hides = (all & SWP_HIDEWINDOW) != 0;
   // What goes out of sight, or stays there, takes no activation with it; and only ShowWindow gives
@@ -125,7 +121,7 @@ void Win32Peer::SetWindowPos(InsertAfter after, unsigned flags) {
   if (hides) Show(ShowKind::Hidden);
 }
 
-std::unique_ptr<Canvas> Win32Peer::ScreenCanvas() {
+std::unique_ptr<Canvas> Win32PeerCore::ScreenCanvas() {
   if (IsWindowVisible(Handle()) == 0 || IsMinimized()) return nullptr;
   RECT inside{};
   GetClientRect(Handle(), &inside);

@@ -19,6 +19,12 @@ class Win32SystemInfo final : public SystemInfo {
   std::string CurrentFolder() const override;
   std::string WindowsFolder() const override;
   std::string SystemFolder() const override;
+  std::string TempFolder() const override;
+  std::optional<WindowsVersion> Version() const override;
+  ProcessorFacts Processor() const override;
+  std::optional<std::uint64_t> PhysicalMemory() const override;
+  std::vector<std::string> LogicalDrives() const override;
+  DriveFacts FactsOfDrive(const std::string& root) const override;
   bool AnotherInstanceRuns() override;
   int CaptionHeight() const override;
   int CaptionButtonWidth() const override;

@@ -2,7 +2,9 @@
 
 #include <string>
 
+#include "win32/MenuBar.h"
 #include "win32/Wide.h"
+#include "win32/Win32Control.h"
 #include "win32/Win32DropTarget.h"
 #include "win32/Win32WindowSystem.h"
 
@@ -20,11 +22,20 @@ struct WindowStyle {
 WindowStyle StyleOf(const forms::PeerSpec& wanted) {
   if (wanted.Kind == forms::PeerKind::PictureBox)
     return {WS_CHILD | WS_CLIPSIBLINGS, WS_EX_NOPARENTNOTIFY};
+  if (wanted.Frame != forms::FrameStyle::None) {
+    const DWORD style = FrameStyleOf(wanted.Frame) | (wanted.MinimizeBox ? WS_MINIMIZEBOX : 0U);
+    return {style | WS_CLIPCHILDREN, wanted.InTaskbar ? WS_EX_APPWINDOW : 0U};
+  }
   if (!wanted.InTaskbar) return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW};
   return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN, WS_EX_APPWINDOW};
 }
 
 }  // namespace
+
+DWORD FrameStyleOf(forms::FrameStyle frame) noexcept {
+  const DWORD fixed = WS_CAPTION | WS_SYSMENU;
+  return frame == forms::FrameStyle::Sizable ? fixed | WS_THICKFRAME : fixed;
+}
 
 bool Win32Window::RegisterClassNamed(const wchar_t* name) {
   WNDCLASSEXW known{};
@@ -42,11 +53,13 @@ bool Win32Window::RegisterClassNamed(const wchar_t* name) {
 }
 
 bool Win32Window::Create(const forms::PeerSpec& wanted) {
-  if (IsControl()) return CreateControl(wanted);
+  tabStop_ = wanted.TabStop;
+  frame_ = wanted.Frame;
   const std::wstring name = Wide(wanted.ClassName);
   if (!RegisterClassNamed(name.c_str())) return false;
   const WindowStyle style = StyleOf(wanted);
-  const HWND owner = IsForm() && !wanted.InTaskbar ? system_.ToolOwner() : nullptr;
+  HWND owner = IsForm() && !wanted.InTaskbar ? system_.ToolOwner() : nullptr;
+  if (wanted.Owner != nullptr) owner = ToHwnd(wanted.Owner->Id());
   const HWND parent = wanted.Parent != nullptr ? ToHwnd(wanted.Parent->Id()) : owner;
   told_ = wanted.Bounds;
   const HWND made = CreateWindowExW(style.ExStyle, name.c_str(), L"", style.Style,
@@ -58,6 +71,65 @@ bool Win32Window::Create(const forms::PeerSpec& wanted) {
   return true;
 }
 
+Win32Window* Win32Window::Of(HWND handle) noexcept {
+  const LONG_PTR procedure = GetWindowLongPtrW(handle, GWLP_WNDPROC);
+  if (procedure != reinterpret_cast<LONG_PTR>(&Procedure) && !Win32Control::Is(procedure)) {
+    return nullptr;
+  }
+  return reinterpret_cast<Win32Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+}
+
+bool Win32Window::TakesFocus() const { return tabStop_ || GetWindow(handle_, GW_CHILD) == nullptr; }
+
+// Other programs can send these messages with any handle in them.
+std::shared_ptr<Win32Window> Win32Window::TellerOf(HWND parent, UINT message, LPARAM lParam) {
+  HWND child = nullptr;
+  switch (message) {
+    case WM_COMMAND:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLOREDIT:
+      child = reinterpret_cast<HWND>(lParam);
+      break;
+    case WM_NOTIFY:
+      child = lParam != 0 ? reinterpret_cast<const NMHDR*>(lParam)->hwndFrom : nullptr;
+      break;
+    default:
+      break;
+  }
+  if (child == nullptr || GetParent(child) != parent) return nullptr;
+  Win32Window* const window = Of(child);
+  return window != nullptr ? window->shared_from_this() : nullptr;
+}
+
+// A menu that is up keeps its lines, since the system goes on with it: it is changed in its place,
+// or later.
+void Win32Window::SetMenuBar(const std::vector<forms::PopupItem>& items) {
+  menuItemsLater_.reset();
+  if (UpdateMenuBar(GetMenu(handle_), menuItems_, items)) {
+    menuItems_ = items;
+    DrawMenuBar(handle_);
+  } else if (menuIsUp_) {
+    menuItemsLater_ = items;
+  } else {
+    ReplaceMenuBar(items);
+  }
+}
+
+// The window owns its menu bar, but for one that another takes the place of.
+void Win32Window::ReplaceMenuBar(const std::vector<forms::PopupItem>& items) {
+  menuItems_ = items;
+  UniqueMenu before(GetMenu(handle_));
+  UniqueMenu bar = items.empty() ? UniqueMenu() : MakeMenuBar(items);
+  if (SetMenu(handle_, bar.Get()) != 0) {
+    static_cast<void>(bar.Release());
+  } else {
+    static_cast<void>(before.Release());
+  }
+  DrawMenuBar(handle_);
+}
+
 bool Win32Window::SetTakesDrops(bool takesDrops) {
   if (takesDrops == takesDrops_ || handle_ == nullptr) return true;
   if (!takesDrops) {
@@ -67,6 +139,19 @@ bool Win32Window::SetTakesDrops(bool takesDrops) {
   }
   takesDrops_ = takesDrops;
   return true;
+}
+
+void Win32Window::SetToolTip(std::string_view text) {
+  if (handle_ == nullptr) return;
+  system_.ToolTips().Set(handle_, text);
+  hasToolTip_ = !text.empty();
+}
+
+void Win32Window::RelayToToolTip(UINT message, WPARAM wParam, LPARAM lParam) const {
+  if (!hasToolTip_ || handle_ == nullptr || message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) {
+    return;
+  }
+  system_.ToolTips().Relay(handle_, message, wParam, lParam);
 }
 
 void Win32Window::Destroy() {

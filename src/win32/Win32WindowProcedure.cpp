@@ -1,7 +1,9 @@
 // What Windows tells a window, and how that becomes events.
 
 #include <cstdint>
+#include <utility>
 
+#include "forms/Menu.h"
 #include "win32/MouseKeys.h"
 #include "win32/Win32Canvas.h"
 #include "win32/Win32DropTarget.h"
@@ -74,14 +76,22 @@ LRESULT CALLBACK Win32Window::Procedure(HWND handle, UINT message, WPARAM wParam
   if (window == nullptr) return DefWindowProcW(handle, message, wParam, lParam);
   const std::shared_ptr<Win32Window> keep = window->shared_from_this();
   // Whoever destroys it, and while OLE still finds what it keeps with the window.
-  if (message == WM_DESTROY && window->takesDrops_) StopTakingDrops(handle);
+  if (message == WM_DESTROY) window->Ending();
   if (message == WM_NCDESTROY) {
     SetWindowLongPtrW(handle, GWLP_USERDATA, 0);
     window->handle_ = nullptr;
     window->events_ = nullptr;
     return DefWindowProcW(handle, message, wParam, lParam);
   }
-  return window->Receive(message, wParam, lParam);
+  const LRESULT answer = window->Receive(message, wParam, lParam);
+  // What was under the pointer may have another tip now.
+  window->RelayToToolTip(message, wParam, lParam);
+  return answer;
+}
+
+void Win32Window::Ending() {
+  if (takesDrops_) StopTakingDrops(handle_);
+  if (hasToolTip_) system_.ToolTips().Forget(handle_);
 }
 
 LRESULT Win32Window::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -94,26 +104,31 @@ LRESULT Win32Window::Receive(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT Win32Window::Default(UINT message, WPARAM wParam, LPARAM lParam) {
   // The window may be gone by now, and the messages of one that is are nobody's.
-  if (handle_ == nullptr) return 0;
-  if (systemProcedure_ != nullptr) {
-    return CallWindowProcW(systemProcedure_, handle_, message, wParam, lParam);
-  }
-  return DefWindowProcW(handle_, message, wParam, lParam);
+  return handle_ != nullptr ? DefWindowProcW(handle_, message, wParam, lParam) : 0;
 }
 
 LRESULT Win32Window::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto answer = TreatFrame(message, wParam, lParam)) return *answer;
-  if (const auto answer = TreatCommand(message, wParam, lParam)) return *answer;
+  if (const auto teller = TellerOf(handle_, message, lParam)) {
+    if (const auto answer = teller->Notified(message, wParam, lParam)) return *answer;
+  }
   if (events_ == nullptr) return Default(message, wParam, lParam);
   if (const auto answer = TreatMouse(message, wParam, lParam)) return *answer;
   if (const auto answer = TreatKeys(message, wParam, lParam)) return *answer;
+  if (const auto answer = TreatFocus(message, wParam, lParam)) return *answer;
   if (const auto answer = TreatEnd(message, wParam)) return *answer;
+  if (const auto answer = TreatMenu(message, wParam, lParam)) return *answer;
   return Default(message, wParam, lParam);
 }
 
 // The window itself.
 
 std::optional<LRESULT> Win32Window::TreatFrame(UINT message, WPARAM wParam, LPARAM lParam) {
+  // A frame of the system is the system's.
+  if (frame_ != forms::FrameStyle::None &&
+      (message == WM_NCCALCSIZE || message == WM_NCPAINT || message == WM_NCACTIVATE)) {
+    return std::nullopt;
+  }
   switch (message) {
     case WM_NCCALCSIZE:
       // The inside is the whole window: forms paint their own frames.
@@ -127,7 +142,7 @@ std::optional<LRESULT> Win32Window::TreatFrame(UINT message, WPARAM wParam, LPAR
     case WM_GETMINMAXINFO: {
       // A form can be smaller than a caption with its buttons.
       const LRESULT answer = Default(message, wParam, lParam);
-      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {1, 1};
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {leastSize_.width, leastSize_.height};
       return answer;
     }
     case WM_PRINTCLIENT:
@@ -185,19 +200,26 @@ void Win32Window::PositionChanged(const WINDOWPOS& position) {
   events_->OnMoved(bounds);
 }
 
-HWND Win32Window::FocusTarget() const {
-  const auto takesFocus = [this](HWND child) {
-    return IsChild(handle_, child) != 0 && IsWindowVisible(child) != 0 &&
-           IsWindowEnabled(child) != 0;
-  };
-  if (focus_ != nullptr && takesFocus(focus_)) return focus_;
-  // The child that was made first lies at the bottom.
-  for (HWND child = GetTopWindow(handle_) != nullptr ? GetWindow(GetTopWindow(handle_), GW_HWNDLAST)
-                                                     : nullptr;
-       child != nullptr; child = GetWindow(child, GW_HWNDPREV)) {
-    if (takesFocus(child)) return child;
+// The child that was made first lies at the bottom.
+HWND Win32Window::FirstFocusIn(HWND container) {
+  const HWND top = GetTopWindow(container);
+  for (HWND child = top != nullptr ? GetWindow(top, GW_HWNDLAST) : nullptr; child != nullptr;
+       child = GetWindow(child, GW_HWNDPREV)) {
+    const Win32Window* const window = Of(child);
+    if (window == nullptr || IsWindowVisible(child) == 0 || IsWindowEnabled(child) == 0) continue;
+    if (window->TakesFocus()) return child;
+    if (const HWND inside = FirstFocusIn(child)) return inside;
   }
-  return handle_;
+  return nullptr;
+}
+
+HWND Win32Window::FocusTarget() const {
+  if (focus_ != nullptr && IsChild(handle_, focus_) != 0 && IsWindowVisible(focus_) != 0 &&
+      IsWindowEnabled(focus_) != 0) {
+    return focus_;
+  }
+  const HWND first = FirstFocusIn(handle_);
+  return first != nullptr ? first : handle_;
 }
 
 void Win32Window::Activated(WPARAM wParam, LPARAM /*lParam*/) {
@@ -228,6 +250,10 @@ std::optional<LRESULT> Win32Window::TreatMouse(UINT message, WPARAM wParam, LPAR
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
       return ReleaseButton(message, wParam, lParam);
+    case WM_CAPTURECHANGED:
+      if (reinterpret_cast<HWND>(lParam) == handle_) return 0;
+      if (std::exchange(pressed_, false)) events_->OnCaptureLost();
+      return 0;
     default:
       return std::nullopt;
   }
@@ -235,6 +261,8 @@ std::optional<LRESULT> Win32Window::TreatMouse(UINT message, WPARAM wParam, LPAR
 
 LRESULT Win32Window::Press(UINT message, WPARAM wParam, LPARAM lParam) {
   SetCapture(handle_);
+  pressed_ = true;
+  if (tabStop_ && GetFocus() != handle_) ::SetFocus(handle_);
   if (events_ == nullptr) return 0;
   if (message == WM_LBUTTONDBLCLK) {
     events_->OnDoubleClick(PointOf(lParam));
@@ -245,7 +273,10 @@ LRESULT Win32Window::Press(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT Win32Window::ReleaseButton(UINT message, WPARAM wParam, LPARAM lParam) {
-  if ((wParam & kAnyButton) == 0 && GetCapture() == handle_) ReleaseCapture();
+  if ((wParam & kAnyButton) == 0 && GetCapture() == handle_) {
+    pressed_ = false;
+    ReleaseCapture();
+  }
   if (events_ != nullptr)
     events_->OnMouseUp(ButtonOf(message), ShiftOfMouse(wParam), PointOf(lParam));
   return 0;
@@ -271,27 +302,81 @@ std::optional<LRESULT> Win32Window::TreatKeys(UINT message, WPARAM wParam, LPARA
       if (wParam == VK_F10) return 0;
       return Default(message, wParam, lParam);
     case WM_CHAR:
-      Character(static_cast<wchar_t>(wParam));
+      if (const auto character = Complete(static_cast<wchar_t>(wParam))) {
+        events_->OnKeyPress(*character);
+      }
       return 0;
     default:
       return std::nullopt;
   }
 }
 
-void Win32Window::Character(wchar_t unit) {
+std::optional<char32_t> Win32Window::Complete(wchar_t unit) noexcept {
   constexpr char32_t kAboveBasicPlane = 0x10000;
   if (IS_HIGH_SURROGATE(unit)) {
     highSurrogate_ = unit;
-    return;
+    return std::nullopt;
   }
-  const wchar_t high = highSurrogate_;
-  highSurrogate_ = 0;
-  if (!IS_LOW_SURROGATE(unit)) {
-    events_->OnKeyPress(unit);
-  } else if (high != 0) {
-    const auto upper = static_cast<char32_t>(high - HIGH_SURROGATE_START);
-    const auto lower = static_cast<char32_t>(unit - LOW_SURROGATE_START);
-    events_->OnKeyPress(kAboveBasicPlane + (upper << 10) + lower);
+  const wchar_t high = std::exchange(highSurrogate_, L'\0');
+  if (!IS_LOW_SURROGATE(unit)) return unit;
+  if (high == 0) return std::nullopt;
+  const auto upper = static_cast<char32_t>(high - HIGH_SURROGATE_START);
+  const auto lower = static_cast<char32_t>(unit - LOW_SURROGATE_START);
+  return kAboveBasicPlane + (upper << 10) + lower;
+}
+
+std::optional<LRESULT> Win32Window::TreatFocus(UINT message, WPARAM wParam, LPARAM /*lParam*/) {
+  switch (message) {
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      events_->OnFocus(message == WM_SETFOCUS);
+      return std::nullopt;
+    case WM_MOUSEWHEEL: {
+      const int delta = static_cast<std::int16_t>(HIWORD(wParam));
+      if (events_->OnWheel(delta, ShiftOfMouse(LOWORD(wParam)))) return 0;
+      return std::nullopt;
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+// The menu bar.
+
+std::optional<LRESULT> Win32Window::TreatMenu(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (menuItems_.empty()) return std::nullopt;
+  if (message == WM_ENTERMENULOOP) menuIsUp_ = true;
+  if (message == WM_EXITMENULOOP) {
+    menuIsUp_ = false;
+    // What was chosen is counted in the lines that were up, and comes first.
+    if (menuItemsLater_) system_.Post([window = weak_from_this()] { ReplaceLater(window); });
+  }
+  if (message == WM_COMMAND && lParam == 0 && HIWORD(wParam) == 0) {
+    const int line = static_cast<int>(LOWORD(wParam)) - 1;
+    const forms::PopupItem* const item = forms::LineAt(menuItems_, line);
+    if (item == nullptr || !item->Items.empty()) return std::nullopt;
+    events_->OnMenuChosen(line);
+    return 0;
+  }
+  // The menus of the bar itself are told; the window's own menu is not.
+  if (message != WM_INITMENUPOPUP || HIWORD(lParam) != 0) return std::nullopt;
+  int line = 0;
+  int place = static_cast<int>(LOWORD(lParam));
+  for (const forms::PopupItem& item : menuItems_) {
+    if (item.Visible && place-- == 0) {
+      events_->OnMenuOpening(line);
+      return 0;
+    }
+    line += 1 + forms::CountLines(item.Items);
+  }
+  return std::nullopt;
+}
+
+void Win32Window::ReplaceLater(const std::weak_ptr<Win32Window>& window) {
+  const std::shared_ptr<Win32Window> form = window.lock();
+  if (!form || form->handle_ == nullptr || form->menuIsUp_) return;
+  if (const auto items = std::exchange(form->menuItemsLater_, std::nullopt)) {
+    form->ReplaceMenuBar(*items);
   }
 }
 

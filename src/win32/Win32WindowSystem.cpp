@@ -74,6 +74,14 @@ std::unique_ptr<forms::WindowPeer> Win32WindowSystem::CreatePeer(const forms::Pe
   return std::make_unique<Win32Peer>(*this, std::move(window));
 }
 
+forms::FrameMargins Win32WindowSystem::MarginsOf(forms::FrameStyle frame, bool menuBar) const {
+  if (frame == forms::FrameStyle::None) return {};
+  RECT rect{};
+  AdjustWindowRectEx(&rect, FrameStyleOf(frame), menuBar ? TRUE : FALSE, 0);
+  return {static_cast<int>(-rect.left), static_cast<int>(-rect.top), static_cast<int>(rect.right),
+          static_cast<int>(rect.bottom)};
+}
+
 std::unique_ptr<Canvas> Win32WindowSystem::CreateCanvas(PixelSize size) {
   return std::make_unique<MemoryCanvas>(size, tools_);
 }

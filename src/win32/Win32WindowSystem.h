@@ -6,7 +6,9 @@
 #include "forms/WindowSystem.h"
 #include "win32/DrawingTools.h"
 #include "win32/PostBox.h"
+#include "win32/Win32ControlMaker.h"
 #include "win32/Win32Timers.h"
+#include "win32/Win32ToolTips.h"
 
 namespace corvelle::win32 {
 
@@ -20,6 +22,8 @@ class Win32WindowSystem final : public forms::WindowSystem {
 
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar) const override;
+  forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
   std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) override;
@@ -40,6 +44,8 @@ class Win32WindowSystem final : public forms::WindowSystem {
   std::int64_t Now() const override;
   int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                   unsigned flags) override;
+  forms::FileChoice AskFiles(WindowId owner, const forms::FileQuestion& question) override;
+  forms::FolderChoice AskFolder(WindowId owner, const forms::FolderQuestion& question) override;
   int ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& items, PixelPoint at,
                 unsigned flags) override;
 
@@ -48,6 +54,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   /// A window that is never shown and owns the forms without a button in the task bar: what has an
   /// owner gets none, in whichever task bar. Null when the system refuses it.
   HWND ToolOwner();
+  [[nodiscard]] Win32ToolTips& ToolTips() noexcept { return toolTips_; }
   const std::shared_ptr<DrawingTools>& Tools() const noexcept { return tools_; }
   /// For threads that may come back after the window system has ended.
   const std::shared_ptr<PostBox>& Posts() const noexcept { return posts_; }
@@ -58,6 +65,8 @@ class Win32WindowSystem final : public forms::WindowSystem {
   UniqueWindow toolOwner_;
   Win32Timers timers_;
   std::shared_ptr<PostBox> posts_ = std::make_shared<PostBox>();
+  Win32ControlMaker controls_{*this};
+  Win32ToolTips toolTips_;
   forms::MousePointer pointer_ = forms::MousePointer::Default;
   UniqueCursor mouseIcon_;
   bool quit_ = false;

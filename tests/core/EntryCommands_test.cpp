@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <string>
+
 #include "core/CoreDoubles.h"
 #include "core/CoreTexts.h"
 #include "core/MenuFile.h"
+#include "core/NotedEdits.h"
 #include "core/Program.h"
 #include "sim/World.h"
 
@@ -323,6 +327,107 @@ TEST_F(EntryCommandsTest, AnyOneFailureWhileDeletingLeavesTheOldFileOrTheNew) {
     if (!hit) return;
   }
   FAIL() << "the fault never stopped hitting";
+}
+
+// ---- who is told of an edit ----
+
+struct Command {
+  const char* name;
+  std::function<void(Program&)> run;
+  std::string expected;  // the titles then
+};
+
+TEST_F(EntryCommandsTest, EachEditIsToldOnceAndWhenTheFileIsWritten) {
+  const std::string second = "C:\\Corvelle\\Menus\\BMENU002.MNU";
+  const auto clip = [](Program& p) { SetClipboard(p.Entry, {"Clip", "i", "c"}); };
+  const Command commands[] = {
+      {"delete", [](Program& p) { DeleteItem(p, true); }, "Button One Three "},
+      {"paste",
+       [&](Program& p) {
+         clip(p);
+         PasteItem(p);
+       },
+       "Button One Clip Two Three "},
+      {"undo",
+       [](Program& p) {
+         RememberForUndo(p.Entry);
+         UndoDeleteItem(p);
+       },
+       "Button One Two Two Three "},
+      {"move within a menu", [](Program& p) { DropItem(p, "F1", {.File = kFile}, false); },
+       "Button One Three Two "},
+      {"move to another menu", [&](Program& p) { DropItem(p, "F2", {.File = second}, false); },
+       "Button One Three "},
+      {"copy", [](Program& p) { DropItem(p, "F1", {.File = kFile, .Before = 2}, true); },
+       "Button Two One Two Three "},
+      {"delete a whole button",
+       [](Program& p) {
+         p.Entry.CurMenuTag = "B1";
+         p.Entry.CurRecord = 1;
+         p.Entry.CurTitle = "Button";
+         p.Entry.CurIcon.clear();
+         p.Entry.CurCommand.clear();
+         DeleteItem(p, true);
+       },
+       ""},
+  };
+  for (const Command& command : commands) {
+    Write({{"Button", "", ""}, {"One", "i1", "c1"}, {"Two", "i2", "c2"}, {"Three", "i3", "c3"}});
+    world.Files.Put(second, FormatRecord({"Other", "", ""}, world.Ansi));
+    program.Entry = {};
+    program.Entry.CurMenuTag = "F1";
+    program.Entry.CurFile = kFile;
+    PointAt(3, "Two", "i2", "c2");
+    NotedEdits edits([this] { return Titles(); });
+    program.Ports.MenuEdits = &edits;
+    log.clear();
+    command.run(program);
+    EXPECT_EQ(edits.Seen, CallLog{command.expected}) << command.name;
+    EXPECT_EQ(Titles(), command.expected) << command.name;
+    program.Ports.MenuEdits = nullptr;
+  }
+}
+
+TEST_F(EntryCommandsTest, TheToldOneComesBeforeWhatIsShown) {
+  PointAt(3, "Two", "i2", "c2");
+  NotedEdits edits([this] { return std::to_string(log.size()); });
+  program.Ports.MenuEdits = &edits;
+  DeleteItem(program, true);
+  EXPECT_EQ(edits.Seen, CallLog{"0"});
+  EXPECT_EQ(log.size(), 1U);
+}
+
+TEST_F(EntryCommandsTest, WhatChangedNothingIsNotTold) {
+  NotedEdits edits([this] { return Titles(); });
+  program.Ports.MenuEdits = &edits;
+  PointAt(3, "Two", "i2", "other");
+  world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
+  DeleteItem(program, true);
+  PointAt(3, "Two", "i2", "c2");
+  DropItem(program, "F1", {.File = kFile, .Before = 3}, false);
+  world.Files.HoldOpen(kFile, sim::SimFiles::Hold::ForReading);
+  DeleteItem(program, true);
+  PasteItem(program);
+  DropItem(program, "F1", {.File = kFile}, false);
+  EXPECT_TRUE(edits.Seen.empty());
+  EXPECT_EQ(Titles(), "Button One Two Three ");
+}
+
+TEST_F(EntryCommandsTest, AnEditOfTheRowOfSingleButtonsIsToldUnlessTheDiskRefused) {
+  NotedEdits edits([] { return std::string("row"); });
+  program.Ports.MenuEdits = &edits;
+  program.Entry.CurMenuTag = "SingleButtons";
+  program.Entry.CurFile = kSingle;
+  world.Files.Put(kSingle, FormatRecord({"One", "i1", "c1"}, world.Ansi));
+  PointAt(1, "One", "i1", "c1");
+  DeleteItem(program, true);
+  PasteItem(program);
+  program.Entry.UndoMenuTag = "SingleButtons";
+  UndoDeleteItem(program);
+  EXPECT_EQ(edits.Seen, (CallLog{"row", "row", "row"}));
+  singles.Answer = FileError::DiskFull;
+  PasteItem(program);
+  EXPECT_EQ(edits.Seen.size(), 3U);
 }
 
 }  // namespace

@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+#include "forms/ButtonPeer.h"
+#include "forms/ControlMaker.h"
 #include "forms/WindowSystem.h"
 #include "platform/DesktopWindows.h"
 
@@ -35,9 +37,11 @@ class ContractHome {
 using ContractHomeFactory = std::function<std::unique_ptr<ContractHome>()>;
 
 /// Notes what a window is told, and does in it what a test wants.
-class EventNotes final : public WindowEvents {
+class EventNotes final : public WindowEvents, public ButtonEvents {
  public:
   std::vector<std::string> Seen;
+  std::vector<std::string> Focus;
+  bool UsesKeys = false;  // of a control, and the wheel
   int Paints = 0;
   PixelRect LastDirty;
   std::vector<PixelRect> Moves;
@@ -70,6 +74,24 @@ class EventNotes final : public WindowEvents {
     // What it does may end what is noted here.
     const auto action = WhenPressed;
     if (action) action();
+  }
+  bool OnControlKey(int keyCode, ShiftState) override {
+    Seen.push_back("key " + std::to_string(keyCode));
+    return UsesKeys;
+  }
+  bool OnControlCharacter(char32_t character) override {
+    Seen.push_back("char " + std::to_string(static_cast<unsigned>(character)));
+    return UsesKeys;
+  }
+  void OnFocus(bool gained) override { Focus.emplace_back(gained ? "gained" : "lost"); }
+  void OnCaptureLost() override { Seen.emplace_back("capture lost"); }
+  bool OnWheel(int delta, ShiftState) override {
+    Seen.push_back("wheel " + std::to_string(delta));
+    return UsesKeys;
+  }
+  bool OnContextMenu(PixelPoint at) override {
+    Note("menu", at);
+    return true;
   }
   void OnPaint(Canvas& canvas, const PixelRect& dirty) override {
     ++Paints;

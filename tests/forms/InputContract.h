@@ -3,6 +3,8 @@
 // What every home for forms must do with the mouse and the keyboard. A test program includes this
 // header once and instantiates the suite with its own homes.
 
+#include <string_view>
+
 #include "forms/ContractHome.h"
 #include "platform/Input.h"
 
@@ -18,6 +20,28 @@ class InputHome : public ContractHome {
   virtual void Release(MouseButton button) = 0;
   virtual void DoubleClick() = 0;
   virtual void PressKey(int virtualKey) = 0;
+  virtual void KeyDown(int virtualKey) = 0;
+  virtual void KeyUp(int virtualKey) = 0;
+  /// With a key held down: Ctrl and a letter, Shift and Tab.
+  void PressWith(int held, int virtualKey) {
+    KeyDown(held);
+    PressKey(virtualKey);
+    KeyUp(held);
+  }
+  /// With the left button from one point over others to the last, in one go: the frame of a window
+  /// keeps the program until the release. One point is a click.
+  virtual void DragAlong(const std::vector<PixelPoint>& points) {
+    MovePointer(points.front());
+    Press(MouseButton::Left);
+    for (const PixelPoint& point : points) MovePointer(point);
+    Release(MouseButton::Left);
+  }
+  /// Plain characters.
+  virtual void Type(std::string_view text) = 0;
+  /// 120 is a notch, away from the user.
+  virtual void TurnWheel(int delta) = 0;
+  /// The tool tip that is up; empty for none.
+  [[nodiscard]] virtual std::string ToolTip() const = 0;
 };
 
 using InputHomeFactory = std::function<std::unique_ptr<InputHome>()>;
@@ -157,12 +181,12 @@ class ControlContract : public InputContract {
   static constexpr PixelPoint kOnControl{250, 185};
 
   EventNotes controlNotes_;
-  std::unique_ptr<WindowPeer> control_;
+  std::unique_ptr<ButtonPeer> control_;
 
-  void MakeControl(PeerKind kind) {
-    control_ = home_->Windows().CreatePeer(
-        {.Kind = kind, .ClassName = "CorvelleControl", .Parent = peer_.get(), .Bounds = kControl},
-        controlNotes_);
+  void MakeControl(ButtonLook look) {
+    control_ = home_->Windows().Controls().CreateButton(
+        {.ClassName = "CorvelleControl", .Parent = peer_.get(), .Bounds = kControl}, look,
+        controlNotes_, controlNotes_);
     ASSERT_NE(control_, nullptr);
     control_->SetCaption("&Caption");
     control_->Show(ShowKind::NoActivate);
@@ -175,7 +199,7 @@ class ControlContract : public InputContract {
 };
 
 TEST_P(ControlContract, AClickIsAPressAndNoMouseEventIsTold) {
-  for (const PeerKind kind : {PeerKind::CommandButton, PeerKind::CheckBox}) {
+  for (const ButtonLook kind : {ButtonLook::Command, ButtonLook::Check, ButtonLook::Option}) {
     MakeControl(kind);
     EXPECT_EQ(home_->Desktop().Text(control_->Id()), "&Caption");
     EXPECT_EQ(home_->Desktop().WindowAt(kOnControl), control_->Id());
@@ -190,7 +214,7 @@ TEST_P(ControlContract, AClickIsAPressAndNoMouseEventIsTold) {
 }
 
 TEST_P(ControlContract, AReleaseElsewhereIsNoPress) {
-  MakeControl(PeerKind::CommandButton);
+  MakeControl(ButtonLook::Command);
   home_->MovePointer(kOnControl);
   home_->Press(MouseButton::Left);
   home_->MovePointer({kOnControl.x, kOnControl.y + 50});
@@ -199,7 +223,7 @@ TEST_P(ControlContract, AReleaseElsewhereIsNoPress) {
 }
 
 TEST_P(ControlContract, ADisabledOneIsNotPressed) {
-  MakeControl(PeerKind::CheckBox);
+  MakeControl(ButtonLook::Check);
   control_->SetEnabled(false);
   home_->MovePointer(kOnControl);
   home_->Press(MouseButton::Left);
@@ -211,16 +235,19 @@ TEST_P(ControlContract, ADisabledOneIsNotPressed) {
   EXPECT_TRUE(controlNotes_.Saw("press"));
 }
 
-TEST_P(ControlContract, SpacePressesTheOneWithTheFocusAndOtherKeysAreTold) {
+TEST_P(ControlContract, SpacePressesTheOneWithTheFocusUnlessItIsUsedUpAndAllKeysAreTold) {
   constexpr int kTab = 9;
   constexpr int kSpace = 32;
-  for (const PeerKind kind : {PeerKind::CommandButton, PeerKind::CheckBox}) {
+  for (const ButtonLook kind : {ButtonLook::Command, ButtonLook::Check, ButtonLook::Option}) {
     MakeControl(kind);
     control_->SetFocus();
     home_->Wait(50);
+    controlNotes_.UsesKeys = true;
+    home_->PressKey(kSpace);
+    EXPECT_FALSE(controlNotes_.Saw("press")) << "used up";
+    controlNotes_.UsesKeys = false;
     home_->PressKey(kSpace);
     EXPECT_TRUE(controlNotes_.Saw("press"));
-    EXPECT_FALSE(controlNotes_.Saw("key 32"));
     for (const int key : {kTab, key::Enter, key::Escape}) home_->PressKey(key);
     EXPECT_TRUE(controlNotes_.Saw("key 9"));
     EXPECT_TRUE(controlNotes_.Saw("key 13"));
@@ -231,7 +258,7 @@ TEST_P(ControlContract, SpacePressesTheOneWithTheFocusAndOtherKeysAreTold) {
 }
 
 TEST_P(ControlContract, OneMayEndItselfAndItsFormByItsPress) {
-  MakeControl(PeerKind::CommandButton);
+  MakeControl(ButtonLook::Command);
   controlNotes_.WhenPressed = [this] {
     control_.reset();
     peer_.reset();
@@ -241,6 +268,79 @@ TEST_P(ControlContract, OneMayEndItselfAndItsFormByItsPress) {
   home_->Release(MouseButton::Left);
   home_->Wait(50);
   EXPECT_EQ(peer_, nullptr);
+}
+
+// The focus, the wheel, the context menu and a press that gets no release.
+
+TEST_P(ControlContract, TheFocusIsToldToWhoLosesItFirst) {
+  MakeControl(ButtonLook::Command);
+  EventNotes otherNotes;
+  const auto other = home_->Windows().Controls().CreateButton(
+      {.ClassName = "CorvelleOther", .Parent = peer_.get(), .Bounds = {20, 60, 120, 90}},
+      ButtonLook::Command, otherNotes, otherNotes);
+  other->Show(ShowKind::NoActivate);
+  control_->SetFocus();
+  home_->Wait(50);
+  controlNotes_.Focus.clear();
+  other->SetFocus();
+  home_->Wait(50);
+  EXPECT_EQ(controlNotes_.Focus, std::vector<std::string>{"lost"});
+  EXPECT_EQ(otherNotes.Focus, std::vector<std::string>{"gained"});
+}
+
+TEST_P(ControlContract, TheFocusGoesWithTheActivationAndComesBack) {
+  MakeControl(ButtonLook::Command);
+  control_->SetFocus();
+  home_->Wait(50);
+  controlNotes_.Focus.clear();
+  EventNotes others;
+  const auto other = home_->Windows().CreatePeer(
+      {.ClassName = "CorvelleInput2", .Bounds = {450, 150, 550, 250}}, others);
+  other->Show(ShowKind::Normal);
+  home_->Wait(100);
+  EXPECT_EQ(controlNotes_.Focus, std::vector<std::string>{"lost"});
+  peer_->SetForeground();
+  home_->Wait(100);
+  EXPECT_EQ(controlNotes_.Focus, (std::vector<std::string>{"lost", "gained"}));
+}
+
+TEST_P(ControlContract, TheWheelGoesToTheFocusAndOutwardsUntilItIsUsed) {
+  MakeControl(ButtonLook::Command);
+  control_->SetFocus();
+  home_->MovePointer(kOnControl);
+  notes_.UsesKeys = true;
+  home_->TurnWheel(-120);
+  EXPECT_TRUE(controlNotes_.Saw("wheel -120"));
+  EXPECT_TRUE(notes_.Saw("wheel -120"));
+  notes_.Seen.clear();
+  controlNotes_.UsesKeys = true;
+  home_->TurnWheel(120);
+  EXPECT_FALSE(notes_.Saw("wheel 120"));
+}
+
+TEST_P(ControlContract, TheRightButtonAsksForTheContextMenuOnceAfterTheRelease) {
+  MakeControl(ButtonLook::Check);
+  home_->MovePointer(kOnControl);
+  home_->Press(MouseButton::Right);
+  EXPECT_FALSE(controlNotes_.Saw("menu 30,15"));
+  home_->Release(MouseButton::Right);
+  EXPECT_EQ(std::count(controlNotes_.Seen.begin(), controlNotes_.Seen.end(), "menu 30,15"), 1);
+}
+
+TEST_P(InputContract, HidingThePressedWindowTellsThatThePressIsLost) {
+  home_->MovePointer(kInside);
+  home_->Press(MouseButton::Left);
+  EXPECT_FALSE(notes_.Saw("capture lost"));
+  peer_->Show(ShowKind::Hidden);
+  home_->Wait(50);
+  EXPECT_TRUE(notes_.Saw("capture lost"));
+}
+
+TEST_P(InputContract, APressThatIsReleasedIsNotLost) {
+  home_->MovePointer(kInside);
+  home_->Press(MouseButton::Left);
+  home_->Release(MouseButton::Left);
+  EXPECT_FALSE(notes_.Saw("capture lost"));
 }
 
 }  // namespace corvelle::forms

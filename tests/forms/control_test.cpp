@@ -3,6 +3,7 @@
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
 #include "forms/TestForm.h"
+#include "sim/SimButton.h"
 #include "sim/World.h"
 
 namespace corvelle::forms {
@@ -42,6 +43,9 @@ class Controls : public testing::Test {
     sheet.Events.clear();
   }
   WindowId Focus() { return world.Desktop.FocusWindow(); }
+  bool Shown(const CheckBox& box) {
+    return dynamic_cast<sim::SimButton*>(world.Desktop.Look(box.hWnd())->Control)->Checked();
+  }
   void Press(int key) { world.Desktop.PressKey(key); }
 
   sim::World world;
@@ -106,7 +110,7 @@ TEST_F(Controls, AnAccessKeyTakesTheFocusAndPresses) {
   EXPECT_EQ(sheet.Events, (Texts{"key 18 alt", "tick"}));
   EXPECT_EQ(sheet.Tick.Value(), 1);
   EXPECT_EQ(Focus(), sheet.Tick.hWnd());
-  EXPECT_TRUE(world.Desktop.Look(sheet.Tick.hWnd())->Checked);
+  EXPECT_TRUE(Shown(sheet.Tick));
   sheet.First.SetEnabled(false);
   sheet.Events.clear();
   world.Desktop.KeyDown(kAltKey);
@@ -126,9 +130,9 @@ TEST_F(Controls, ATickSetBeforeTheWindowStandsIsShown) {
   other.Tick.SetValue(7);
   EXPECT_EQ(other.Tick.Value(), 1);
   other.Show();
-  EXPECT_TRUE(world.Desktop.Look(other.Tick.hWnd())->Checked);
+  EXPECT_TRUE(Shown(other.Tick));
   other.Tick.SetValue(0);
-  EXPECT_FALSE(world.Desktop.Look(other.Tick.hWnd())->Checked);
+  EXPECT_FALSE(Shown(other.Tick));
 }
 
 TEST_F(Controls, AButtonMayUnloadItsForm) {

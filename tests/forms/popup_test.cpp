@@ -40,6 +40,29 @@ TEST(SimPopup, GivesTheIndexOfWhatIsChosen) {
   EXPECT_FALSE(seen.Offers("Unseen"));
 }
 
+TEST(SimPopup, ALineMayOpenAMenuOfItsOwnWhoseLinesCountAfterIt) {
+  PopupHome home;
+  const std::vector<PopupItem> items = {
+      {.Caption = "First"},
+      {.Caption = "Insert",
+       .Items = {{.Caption = "Printers"},
+                 {.Caption = "More", .Items = {{.Caption = "Deep"}}},
+                 {.Caption = "Last"}}},
+      {.Caption = "Gray", .Enabled = false, .Items = {{.Caption = "Inside"}}},
+      {.Caption = "End"}};
+  sim::SimDesktop& desktop = home.World.Desktop;
+  const auto choose = [&](const char* caption) {
+    desktop.ChooseFromPopup(caption);
+    return home.World.Windows().ShowPopup(home.Form.hWnd(), items, {100, 100}, 0);
+  };
+  EXPECT_EQ(choose("Insert>Printers"), 2);
+  EXPECT_EQ(choose("Insert>More>Deep"), 4);
+  EXPECT_EQ(choose("Insert>Last"), 5);
+  EXPECT_EQ(choose("End"), 8);
+  EXPECT_FALSE(desktop.Popups().front().Offers("Insert")) << "it opens a menu and is no choice";
+  EXPECT_FALSE(desktop.Popups().front().Offers("Gray>Inside"));
+}
+
 TEST(SimPopup, IsClosedByEscByAPressElsewhereAndByAnotherForegroundWindow) {
   enum class By { Escape, Press, Foreground };
   for (const By by : {By::Escape, By::Press, By::Foreground}) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/MenuFile.h"
+#include "core/NotedEdits.h"
 #include "menus/MenuDesk.h"
 
 namespace corvelle {
@@ -394,6 +395,19 @@ TEST(MenuPoll, ClosesAMenuThatIsHiddenUnderADrag) {
   EXPECT_EQ(desk.Strip.Times("ResetMenu"), 1);
   EXPECT_FALSE(desk.Menu.Timer1.Enabled());
   desk.World.Desktop.Release();
+}
+
+// ---- who is told of an edit ----
+
+TEST(MenuOLEDragDrop, FilesThatAreStoredAreTold) {
+  DragDesk desk;
+  NotedEdits edits([&desk] { return std::to_string(desk.Titles().size()); });
+  desk.TheProgram.Ports.MenuEdits = &edits;
+  desk.TakeFiles({"C:\\docs\\b.txt", "C:\\docs\\a.txt"});
+  desk.DragToItem(2);
+  desk.Drop();
+  EXPECT_EQ(edits.Seen, Names{"6"});
+  desk.TheProgram.Ports.MenuEdits = nullptr;
 }
 
 }  // namespace

@@ -136,6 +136,17 @@ TEST_P(LookupsContract, ALinkGivesItsTargetAndADamagedOneFails) {
   EXPECT_EQ(AnswerTo({.Kind = LookupKind::LinkTarget, .Path = there_}).End, LookupEnd::Failed);
 }
 
+TEST_P(LookupsContract, ADriveGivesItsFactsAndAMissingOneItsKind) {
+  const auto factsOf = [this](const std::string& root) {
+    const LookupAnswer answer = AnswerTo({.Kind = LookupKind::Drive, .Path = root, .Lane = root});
+    const auto* const facts = std::get_if<DriveFacts>(&answer.Value);
+    return facts != nullptr ? *facts : DriveFacts();
+  };
+  EXPECT_EQ(factsOf("C:\\").Type, 3U);
+  EXPECT_TRUE(factsOf("C:\\").Room);
+  EXPECT_EQ(factsOf("Q:\\"), DriveFacts{.Type = 1});
+}
+
 TEST_P(LookupsContract, EachQuestionEndsOnceAndALaneKeepsItsOrder) {
   std::map<std::string, std::vector<LookupId>> asked;
   for (int i = 0; i < 200; ++i) {

@@ -39,8 +39,8 @@ class SimulatedLookups final : public ContractLookups {
 
  private:
   sim::World world_;
-  std::optional<sim::SimLookups> lookups_{std::in_place, world_.Desktop, world_.Files,
-                                          world_.Links};
+  std::optional<sim::SimLookups> lookups_{std::in_place, world_.Desktop, world_.Files, world_.Links,
+                                          world_.System};
 };
 
 std::unique_ptr<ContractLookups> MakeSimulatedLookups() {

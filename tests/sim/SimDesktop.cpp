@@ -90,7 +90,9 @@ PixelRect SimDesktop::BoundsOf(WindowId window) const {
   if (at == nullptr) return {};
   PixelRect bounds = at->Bounds;
   for (at = Look(at->Parent); at != nullptr; at = Look(at->Parent)) {
-    bounds = RectAt({bounds.left + at->Bounds.left, bounds.top + at->Bounds.top}, bounds.Size());
+    bounds = RectAt({bounds.left + at->Bounds.left + at->Margins.Left,
+                     bounds.top + at->Bounds.top + at->Margins.Top},
+                    bounds.Size());
   }
   return bounds;
 }

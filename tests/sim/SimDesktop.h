@@ -17,6 +17,7 @@
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
 #include "sim/SimClock.h"
+#include "sim/SimControlMaker.h"
 #include "sim/SimDrag.h"
 #include "sim/SimPopup.h"
 #include "sim/SimWindow.h"
@@ -70,6 +71,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void KeyUp(int virtualKey);
   /// Down and up.
   void PressKey(int virtualKey);
+  /// The wheel is turned; 120 is a notch, away from the user. The window with the focus gets it.
+  void TurnWheel(int delta);
   /// Types characters: the key of each (letters and digits) and the character.
   void Type(std::string_view text);
 
@@ -135,6 +138,21 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   int UnexpectedBoxes() const noexcept { return unexpectedBoxes_; }
   int AnswersLeft() const noexcept { return static_cast<int>(answers_.size()); }
 
+  // File and folder dialogs. The running test fails when one comes up that has no answer.
+  void ChooseFiles(std::vector<std::string> paths) { fileChoices_.push_back({std::move(paths)}); }
+  void ChooseFolder(std::string path) {
+    folderChoices_.push_back({.Chosen = true, .Path = std::move(path)});
+  }
+  void ChooseFolder(forms::FolderChoice choice) { folderChoices_.push_back(std::move(choice)); }
+  void CancelFiles() { fileChoices_.emplace_back(); }
+  void CancelFolder() { folderChoices_.emplace_back(); }
+  /// Runs while each file or folder dialog is up.
+  void WhileDialogIsUp(std::function<void()> action) { dialogAction_ = std::move(action); }
+  const std::vector<forms::FileQuestion>& FileQuestions() const noexcept { return fileQuestions_; }
+  const std::vector<forms::FolderQuestion>& FolderQuestions() const noexcept {
+    return folderQuestions_;
+  }
+
   // Popup menus. One that nothing is chosen from goes away when its action is over, as by a click
   // elsewhere. While it is up it gets the mouse and the keyboard; a press outside of it, Esc,
   // another window in the foreground and the end of its owner close it.
@@ -152,6 +170,17 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void WhileRunning(std::function<void()> script) { runScript_ = std::move(script); }
   bool QuitCalled() const noexcept { return quit_; }
 
+  /// For controls: runs after the user's action that is being carried out.
+  void AfterEvent(std::function<void()> action) { afterEvent_.push_back(std::move(action)); }
+  /// The text that was cut or copied last, by whichever program.
+  std::string& Clipboard() noexcept { return clipboard_; }
+
+  /// For peers: the menu bar of a form.
+  void SetMenuBar(WindowId window, const std::vector<forms::PopupItem>& items);
+  /// The user chooses a line of a form's menu bar: the captions on the way to it with ">" between
+  /// them. The running test fails when it cannot be chosen.
+  void ChooseFromMenuBar(WindowId window, std::string_view path);
+
   // Asking.
   /// The first window of ours with this class, which is the name of its form or box; none if there
   /// is none.
@@ -168,6 +197,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId FocusWindow() const noexcept { return focus_; }
   WindowId CaptureWindow() const noexcept { return capture_; }
   bool IsTopmost(WindowId window) const;
+  /// The tool tip that is up; empty for none.
+  [[nodiscard]] std::string ToolTip() const;
   int Beeps() const noexcept { return beeps_; }
   /// The picture that a custom pointer shows, null when there is none, and the pixel that points.
   const corvelle::Picture& MouseIcon() const noexcept { return mouseIcon_; }
@@ -183,6 +214,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   // forms::WindowSystem
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar) const override;
+  forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
   std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) override;
@@ -206,6 +239,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::int64_t Now() const override { return clock_.Now(); }
   int ShowMessage(WindowId owner, std::string_view text, std::string_view title,
                   unsigned flags) override;
+  forms::FileChoice AskFiles(WindowId owner, const forms::FileQuestion& question) override;
+  forms::FolderChoice AskFolder(WindowId owner, const forms::FolderQuestion& question) override;
   int ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& items, PixelPoint at,
                 unsigned flags) override;
   /// The system refuses the next window that is asked for.
@@ -236,9 +271,16 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void PaintVisibleWindows() override;
 
  private:
-  friend class SimPeer;
+  friend class SimPeerCore;
+  friend class SimControlMaker;
   void RunPostedWork();
 
+  /// The pointer and what is held down at the moment of a user's action.
+  struct Mouse {
+    PixelPoint At;
+    forms::MouseButton Down = forms::MouseButton::None;
+    forms::ShiftState Shift;
+  };
   struct ScriptedAnswer {
     std::optional<std::string> Text;
     int Button = 0;
@@ -276,6 +318,39 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   bool FirstToProcedure(WindowId window, std::uint32_t message, std::uintptr_t wParam,
                         std::intptr_t lParam, std::intptr_t& answer);
 
+  template <class Act>
+  void WhileDialogIsUp(WindowId owner, std::string title, const Act& act);
+
+  // Frames of forms (SimFrame.cpp)
+  [[nodiscard]] PixelSize InsideOf(const SimWindow& window) const;
+  /// A press on a frame: the close and minimize boxes act, the caption moves, the right and bottom
+  /// sides size.
+  bool FramePressed(WindowId target, PixelPoint at);
+  bool FrameDragged(PixelPoint at);
+  bool FrameReleased(PixelPoint at);
+  void PaintFrame(SimCanvas& screen, const SimWindow& window) const;
+
+  // Controls that the system works, and the focus (SimFocus.cpp)
+  WindowId AddOwn(const forms::PeerSpec& wanted, forms::WindowEvents& events);
+  void SetControl(WindowId window, SimControl* control);
+  /// Tells who lost the focus and who has it now.
+  void TellFocus();
+  /// The press that is going on gets no release.
+  void LoseCapture();
+  [[nodiscard]] bool TakesFocus(const SimWindow& window) const;
+  [[nodiscard]] WindowId FirstFocusIn(const SimWindow& container) const;
+  void DeliverWheel(int delta, forms::ShiftState shift);
+  /// True when the system's control has dealt with it, or the program has.
+  bool ControlPressed(WindowId target, const Mouse& mouse, forms::MouseButton button, bool second);
+  bool ControlReleased(WindowId target, const Mouse& mouse, forms::MouseButton button,
+                       bool wasHeld);
+
+  // Tool tips (SimToolTip.cpp)
+  void SetToolTip(WindowId window, std::string_view text);
+  [[nodiscard]] std::string ToolTipOf(WindowId window, PixelPoint at) const;
+  /// The pointer has moved, to a window or in it.
+  void FollowToolTip(WindowId target, PixelPoint at);
+
   // Popup menus
   [[nodiscard]] bool PopupStands(WindowId owner) const;
   /// True when the popup that is up takes the press, or closes because of it.
@@ -288,19 +363,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void PaintNow(WindowId window);
   bool PaintOne(WindowId window);
   bool PaintSomething();
-  void PaintControl(SimCanvas& canvas, const SimWindow& window) const;
   void Compose(SimCanvas& screen, const SimWindow& window) const;
   void ComposeAll(SimCanvas& screen) const;
 
   // Events
   void RunWaiting();
   void UserEvent(std::function<void()> event);
-  /// The pointer and what is held down at the moment of a user's action.
-  struct Mouse {
-    PixelPoint At;
-    forms::MouseButton Down = forms::MouseButton::None;
-    forms::ShiftState Shift;
-  };
   Mouse MouseNow() const { return {pointer_, ButtonsDown(), Shift()}; }
   WindowId MouseTarget(PixelPoint at) const;
   PixelPoint InWindow(WindowId window, PixelPoint at) const;
@@ -323,6 +391,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   forms::DragPoint DragPointIn(WindowId window) const;
 
   DesktopOptions options_;
+  SimControlMaker controls_{*this};
   SimClock clock_;
   std::map<int, Rgb> colours_;
   std::map<WindowId, SimWindow> windows_;
@@ -331,18 +400,30 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   WindowId desktopWindow_ = kNoWindow;
   WindowId foreground_ = kNoWindow;
   WindowId focus_ = kNoWindow;
+  WindowId toldFocus_ = kNoWindow;  // who knows that it has the focus
+  bool usedUp_ = false;             // the last key, and what it types with it
   WindowId capture_ = kNoWindow;
+  enum class FramePart { None, Caption, Menu, Close, Minimize, Right, Bottom, Corner };
+  [[nodiscard]] static FramePart FramePartAt(const SimWindow& window, PixelPoint at);
+  FramePart framePart_ = FramePart::None;  // that is pressed
+  WindowId framePressed_ = kNoWindow;
+  PixelPoint framePoint_;
+  PixelRect frameBounds_;
   bool foregroundLocked_ = false;
   bool refuseWindow_ = false;
   PixelPoint pointer_;
   bool windowsMoved_ = false;        // since the pointer was last looked at
   WindowId moveWindow_ = kNoWindow;  // who got the last mouse move, and where
   PixelPoint movePoint_;
+  WindowId tipWindow_ = kNoWindow;        // under the pointer
+  std::string tip_;                       // its tool tip
+  std::optional<std::int64_t> tipSince_;  // how long the pointer has rested; none after a press
   std::set<int> keys_;
   forms::MousePointer pointerShape_ = forms::MousePointer::Default;
   corvelle::Picture mouseIcon_;
   PixelPoint hotSpot_;
   std::deque<std::function<void()>> events_;
+  std::deque<std::function<void()>> afterEvent_;  // before the next of them
   forms::PostedWork postedWork_;
   int depth_ = 0;  // handlers that are running
   int loops_ = 0;  // loops that run inside each other
@@ -354,11 +435,17 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::function<void(const MessageBox&)> boxAction_;
   std::vector<MessageBox> boxes_;
   int unexpectedBoxes_ = 0;
+  std::deque<forms::FileChoice> fileChoices_;
+  std::deque<forms::FolderChoice> folderChoices_;
+  std::vector<forms::FileQuestion> fileQuestions_;
+  std::vector<forms::FolderQuestion> folderQuestions_;
+  std::function<void()> dialogAction_;
   std::deque<std::string> choices_;
   std::function<void(const Popup&)> popupAction_;
   std::vector<Popup> popups_;
   WindowId popup_ = kNoWindow;  // the one that is up
   std::vector<SentMessage> sent_;
+  std::string clipboard_;
   int paints_ = 0;
   int beeps_ = 0;
   std::optional<SimDrag> drag_;

@@ -30,9 +30,10 @@ void SimDesktop::Pump() {
 
 void SimDesktop::RunWaiting() {
   for (int count = 0; count < kEndlessLoop; ++count) {
-    if (!events_.empty()) {
-      const std::function<void()> event = std::move(events_.front());
-      events_.pop_front();
+    std::deque<std::function<void()>>& next = !afterEvent_.empty() ? afterEvent_ : events_;
+    if (!next.empty()) {
+      const std::function<void()> event = std::move(next.front());
+      next.pop_front();
       ++depth_;
       event();
       --depth_;
@@ -192,9 +193,10 @@ int SimDesktop::ShowMessage(WindowId owner, std::string_view text, std::string_v
                                .Bounds = RectAt(corner, {kClassicBoxWidth, kClassicBoxHeight}),
                                .Visible = true,
                                .Topmost = (flags & forms::msgbox::OnTop) != 0});
-  const bool wasEnabled = Get(owner) != nullptr && Get(owner)->Enabled;
-  if (Get(owner) != nullptr) SetEnabled(owner, false);
-  capture_ = kNoWindow;
+  const SimWindow* const owning = Get(owner);
+  const bool wasEnabled = owning != nullptr && owning->Enabled;
+  if (owning != nullptr) SetEnabled(owner, false);
+  LoseCapture();
   Activate(window);
 
   const int depth = std::exchange(depth_, 0);

@@ -84,7 +84,8 @@ void SimDesktop::KeyDown(int virtualKey) {
   keys_.insert(virtualKey);
   UserEvent([this, virtualKey, shift = Shift()] {
     DeliverKey(virtualKey, shift);
-    if (virtualKey == forms::key::Enter || virtualKey == forms::key::Escape) {
+    if (virtualKey == forms::key::Enter || virtualKey == forms::key::Escape ||
+        virtualKey == forms::key::Backspace) {
       DeliverCharacter(static_cast<char32_t>(virtualKey));
     }
   });
@@ -134,7 +135,9 @@ WindowId SimDesktop::MouseTarget(PixelPoint at) const {
 
 PixelPoint SimDesktop::InWindow(WindowId window, PixelPoint at) const {
   const PixelRect bounds = BoundsOf(window);
-  return {at.x - bounds.left, at.y - bounds.top};
+  const SimWindow* const found = Look(window);
+  const forms::FrameMargins margins = found != nullptr ? found->Margins : forms::FrameMargins{};
+  return {at.x - bounds.left - margins.Left, at.y - bounds.top - margins.Top};
 }
 
 bool SimDesktop::PointerUnsettled() {
@@ -145,12 +148,16 @@ bool SimDesktop::PointerUnsettled() {
 
 void SimDesktop::DeliverMove(const Mouse& mouse) {
   if (drag_) return TrackDrag();
+  if (FrameDragged(mouse.At)) return;
   const WindowId target = MouseTarget(mouse.At);
   const SimWindow* at = Look(target);
   moveWindow_ = target;
   movePoint_ = InWindow(target, mouse.At);
-  if (at == nullptr || at->Events == nullptr || IsSystemControl(*at)) return;
+  if (mouse.Down == forms::MouseButton::None) FollowToolTip(target, movePoint_);
+  if (at == nullptr || at->Events == nullptr) return;
+  if (capture_ == kNoWindow && FramePartAt(*at, mouse.At) != FramePart::None) return;
   const PixelPoint inside = movePoint_;
+  if (at->Control != nullptr) return at->Control->MouseMove(mouse.Down, inside);
   const auto place = static_cast<std::intptr_t>((static_cast<std::uint32_t>(inside.y) << 16) |
                                                 (static_cast<std::uint32_t>(inside.x) & 0xFFFF));
   std::intptr_t answer = 0;
@@ -162,17 +169,23 @@ void SimDesktop::DeliverMove(const Mouse& mouse) {
 }
 
 void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second) {
+  tipSince_.reset();
   if (PopupTakesPress(mouse.At)) return;
   const WindowId target = MouseTarget(mouse.At);
   if (target == kNoWindow) return;
   if (capture_ == kNoWindow) Activate(TopOf(target));
   const SimWindow* at = Look(target);
   if (at == nullptr || at->Events == nullptr || !IsShown(target)) return;
+  if (button == forms::MouseButton::Left && FramePressed(target, mouse.At)) return;
   capture_ = target;
+  if (ControlPressed(target, mouse, button, second)) return;
   const PixelPoint inside = InWindow(target, mouse.At);
-  if (IsSystemControl(*at)) {
+  if (at->TabStop) {
     SetFocusTo(target);
-  } else if (second) {
+    at = Look(target);
+    if (at == nullptr || at->Events == nullptr) return;
+  }
+  if (second) {
     at->Events->OnDoubleClick(inside);
   } else {
     at->Events->OnMouseDown(button, mouse.Shift, inside);
@@ -181,21 +194,14 @@ void SimDesktop::DeliverPress(const Mouse& mouse, forms::MouseButton button, boo
 
 void SimDesktop::DeliverRelease(const Mouse& mouse, forms::MouseButton button) {
   if (drag_ && button == drag_->Source.Button) return EndDrag(true);
-  if (popup_ != kNoWindow) return;
+  if (popup_ != kNoWindow || FrameReleased(mouse.At)) return;
   const WindowId target = MouseTarget(mouse.At);
   const bool wasHeld = capture_ == target;
   if (mouse.Down == forms::MouseButton::None) capture_ = kNoWindow;
   const SimWindow* at = Look(target);
   if (at == nullptr || at->Events == nullptr) return;
-  const PixelPoint inside = InWindow(target, mouse.At);
-  if (!IsSystemControl(*at)) {
-    at->Events->OnMouseUp(button, mouse.Shift, inside);
-    return;
-  }
-  const PixelSize size = at->Bounds.Size();
-  const bool over = PixelRect{0, 0, size.width, size.height}.Contains(inside);
-  // A control is pressed by a press and a release on it.
-  if (wasHeld && over && button == forms::MouseButton::Left) at->Events->OnPress();
+  if (ControlReleased(target, mouse, button, wasHeld)) return;
+  at->Events->OnMouseUp(button, mouse.Shift, InWindow(target, mouse.At));
 }
 
 /// The window that hears the keys: the one with the focus, unless its form is disabled.
@@ -213,16 +219,26 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   }
   const SimWindow* at = KeyTarget();
   if (at == nullptr) return;
-  if (IsSystemControl(*at) && virtualKey == forms::key::Space && !shift.Alt) {
-    at->Events->OnPress();
-  } else {
-    at->Events->OnKeyDown(virtualKey, shift);
-  }
+  const WindowId target = at->Id;
+  if (at->Control == nullptr) return at->Events->OnKeyDown(virtualKey, shift);
+  usedUp_ = false;
+  const bool used = !at->Control->TakesAllKeys() && at->Events->OnControlKey(virtualKey, shift);
+  usedUp_ = used;
+  at = Look(target);
+  if (!used && at != nullptr && at->Control != nullptr) at->Control->Key(virtualKey, shift);
 }
 
 void SimDesktop::DeliverCharacter(char32_t character) {
   if (popup_ != kNoWindow) return;
-  if (const SimWindow* at = KeyTarget()) at->Events->OnKeyPress(character);
+  const SimWindow* at = KeyTarget();
+  if (at == nullptr) return;
+  const WindowId target = at->Id;
+  if (at->Control == nullptr) return at->Events->OnKeyPress(character);
+  const bool keep = usedUp_;
+  const bool used = !at->Control->TakesAllKeys() && at->Events->OnControlCharacter(character);
+  if (used || keep) return;
+  at = Look(target);
+  if (at != nullptr && at->Control != nullptr) at->Control->Character(character);
 }
 
 }  // namespace corvelle::sim

@@ -60,7 +60,7 @@ void SimLookups::Complete(LookupId id) {
   const UnderWayEntry entry = std::move(found->second);
   underWay_.erase(found);
   if (entry.Timer != 0) desktop_.StopTimer(entry.Timer);
-  LookupAnswer answer = forms::AnswerLookup(files_, links_, entry.Question.Question);
+  LookupAnswer answer = forms::AnswerLookup(files_, links_, system_, entry.Question.Question);
   if (ledger_.End(entry.Question, std::move(answer))) PostTelling();
 }
 

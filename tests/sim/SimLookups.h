@@ -16,8 +16,8 @@ namespace corvelle::sim {
 /// answered as soon as its lane is free, and told by the next turn of the message loop.
 class SimLookups final : public Lookups {
  public:
-  SimLookups(SimDesktop& desktop, SimFiles& files, SimShellLinks& links)
-      : desktop_(desktop), files_(files), links_(links) {}
+  SimLookups(SimDesktop& desktop, SimFiles& files, SimShellLinks& links, const SystemInfo& system)
+      : desktop_(desktop), files_(files), links_(links), system_(system) {}
   SimLookups(const SimLookups&) = delete;
   SimLookups& operator=(const SimLookups&) = delete;
   ~SimLookups() override;
@@ -54,6 +54,7 @@ class SimLookups final : public Lookups {
   SimDesktop& desktop_;
   SimFiles& files_;
   SimShellLinks& links_;
+  const SystemInfo& system_;
   Listener listener_;
   forms::LookupLedger ledger_;
   std::map<std::string, int> delays_;

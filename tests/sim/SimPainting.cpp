@@ -12,14 +12,14 @@ namespace corvelle::sim {
 void SimDesktop::Invalidate(WindowId window, const PixelRect& part) {
   SimWindow* at = Get(window);
   if (at == nullptr || !at->Own || !IsShown(window)) return;
-  const PixelSize size = at->Bounds.Size();
+  const PixelSize size = InsideOf(*at);
   at->Dirty = Union(at->Dirty, Intersect(part, {0, 0, size.width, size.height}));
 }
 
 void SimDesktop::InvalidateTree(WindowId window) {
   const SimWindow* at = Look(window);
   if (at == nullptr) return;
-  const PixelSize size = at->Bounds.Size();
+  const PixelSize size = InsideOf(*at);
   Invalidate(window, {0, 0, size.width, size.height});
   for (const WindowId child : at->Children) InvalidateTree(child);
 }
@@ -39,47 +39,12 @@ bool SimDesktop::PaintOne(WindowId window) {
   const std::shared_ptr<SimCanvas> content = at->Content;
   ++depth_;
   if (IsSystemControl(*at)) {
-    PaintControl(*content, *at);
+    at->Control->Paint(*content, *at, focus_ == window);
   } else {
     at->Events->OnPaint(*content, dirty);
   }
   --depth_;
   return true;
-}
-
-// As plain as the classic controls: a raised button, a box with a tick.
-void SimDesktop::PaintControl(SimCanvas& canvas, const SimWindow& window) const {
-  constexpr int kBox = 13;
-  const PixelSize size = window.Bounds.Size();
-  canvas.FillBox({0, 0, size.width, size.height}, SystemColor(15));
-  std::string text;
-  for (std::size_t at = 0; at < window.Text.size(); ++at) {
-    if (window.Text[at] == '&') ++at;
-    if (at < window.Text.size()) text += window.Text[at];
-  }
-  const PixelSize words = TextSize(text, {}, options_.TwipsPerPixel);
-  const Rgb ink = SystemColor(window.Enabled ? 18 : 17);
-  PixelPoint place{(size.width - words.width) / 2, (size.height - words.height) / 2};
-  if (window.Kind == forms::PeerKind::CommandButton) {
-    canvas.DrawLine({0, 0}, {size.width, 0}, SystemColor(20), 1);
-    canvas.DrawLine({0, 0}, {0, size.height}, SystemColor(20), 1);
-    canvas.DrawLine({0, size.height - 1}, {size.width, size.height - 1}, SystemColor(21), 1);
-    canvas.DrawLine({size.width - 1, 0}, {size.width - 1, size.height}, SystemColor(21), 1);
-  } else {
-    const int top = (size.height - kBox) / 2;
-    canvas.FillBox({0, top, kBox, top + kBox}, SystemColor(21));
-    canvas.FillBox({1, top + 1, kBox - 1, top + kBox - 1}, SystemColor(5));
-    if (window.Checked) {
-      canvas.DrawLine({3, top + 6}, {6, top + 9}, ink, 2);
-      canvas.DrawLine({6, top + 9}, {11, top + 3}, ink, 2);
-    }
-    place.x = kBox + 4;
-  }
-  canvas.DrawString(place, text, {}, ink);
-  if (focus_ == window.Id) {
-    const int under = place.y + words.height;
-    canvas.DrawLine({place.x, under}, {place.x + words.width, under}, SystemColor(16), 1);
-  }
 }
 
 bool SimDesktop::PaintSomething() {
@@ -99,7 +64,10 @@ void SimDesktop::Compose(SimCanvas& screen, const SimWindow& window) const {
   if (!IsShown(window.Id)) return;
   const PixelRect bounds = BoundsOf(window.Id);
   if (window.Content) {
-    screen.DrawCanvas(*window.Content, {0, 0, bounds.Width(), bounds.Height()}, bounds.TopLeft());
+    const PixelSize inside = InsideOf(window);
+    PaintFrame(screen, window);
+    screen.DrawCanvas(*window.Content, {0, 0, inside.width, inside.height},
+                      {bounds.left + window.Margins.Left, bounds.top + window.Margins.Top});
   } else if (window.Id == desktopWindow_) {
     screen.FillBox(bounds, SystemColor(1));
   } else {

@@ -35,34 +35,29 @@ class SharedCanvas final : public Canvas {
 
 }  // namespace
 
-void SimPeer::SetCaption(std::string_view caption) {
+void SimPeerCore::SetCaption(std::string_view caption) {
   SimWindow& window = *desktop_.Get(window_);
   window.Text = caption;
   desktop_.Note("caption", window, caption);
   if (IsSystemControl(window)) desktop_.InvalidateTree(window_);
 }
 
-void SimPeer::SetEnabled(bool enabled) {
+void SimPeerCore::SetEnabled(bool enabled) {
   desktop_.SetEnabled(window_, enabled);
   if (IsSystemControl(*desktop_.Get(window_))) desktop_.InvalidateTree(window_);
 }
 
-void SimPeer::SetChecked(bool checked) {
-  desktop_.Get(window_)->Checked = checked;
-  desktop_.InvalidateTree(window_);
-}
-
-bool SimPeer::SetTakesDrops(bool takesDrops) {
+bool SimPeerCore::SetTakesDrops(bool takesDrops) {
   desktop_.Get(window_)->TakesDrops = takesDrops;
   return true;
 }
 
-void SimPeer::SetForeground() {
+void SimPeerCore::SetForeground() {
   desktop_.Note("foreground", *desktop_.Get(window_));
   desktop_.RequestForeground(window_);
 }
 
-std::unique_ptr<Canvas> SimPeer::ScreenCanvas() {
+std::unique_ptr<Canvas> SimPeerCore::ScreenCanvas() {
   if (!desktop_.IsShown(window_)) return nullptr;
   return std::make_unique<SharedCanvas>(desktop_.Get(window_)->Content);
 }

@@ -22,18 +22,49 @@ int HeightOf(const forms::PopupItem& item) {
   return item.IsSeparator() ? kRule : kLine;
 }
 
+int CountOf(const std::vector<forms::PopupItem>& items) {
+  int count = 0;
+  for (const forms::PopupItem& item : items) count += 1 + CountOf(item.Items);
+  return count;
+}
+
+/// The line at a path, or null. `number` goes to its number, `offered` stays true if the user can
+/// get there.
+const forms::PopupItem* FindIn(const std::vector<forms::PopupItem>& items, std::string_view path,
+                               int& number, bool& offered) {
+  const std::size_t bar = path.find('>');
+  const std::string_view first = path.substr(0, bar);
+  for (const forms::PopupItem& item : items) {
+    if (item.Visible && item.Caption == first) {
+      offered = offered && item.Enabled;
+      if (bar == std::string_view::npos) return &item;
+      ++number;
+      return FindIn(item.Items, path.substr(bar + 1), number, offered);
+    }
+    number += 1 + CountOf(item.Items);
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 const forms::PopupItem* Popup::Find(std::string_view caption) const {
-  const auto found = std::find_if(Items.begin(), Items.end(), [&](const forms::PopupItem& item) {
-    return item.Visible && item.Caption == caption;
-  });
-  return found != Items.end() ? &*found : nullptr;
+  int number = 0;
+  bool offered = true;
+  return FindIn(Items, caption, number, offered);
+}
+
+int Popup::NumberOf(std::string_view caption) const {
+  int number = 0;
+  bool offered = true;
+  return FindIn(Items, caption, number, offered) != nullptr ? number : forms::popup::kNothing;
 }
 
 bool Popup::Offers(std::string_view caption) const {
-  const forms::PopupItem* const item = Find(caption);
-  return item != nullptr && item->Enabled && !item->IsSeparator();
+  int number = 0;
+  bool offered = true;
+  const forms::PopupItem* const item = FindIn(Items, caption, number, offered);
+  return item != nullptr && offered && !item->IsSeparator() && item->Items.empty();
 }
 
 std::vector<std::string> Popup::Captions() const {
@@ -61,7 +92,7 @@ int SimDesktop::ChoiceOf(const Popup& popup) {
   if (choices_.empty()) return forms::popup::kNothing;
   const std::string wanted = std::move(choices_.front());
   choices_.pop_front();
-  if (popup.Offers(wanted)) return static_cast<int>(popup.Find(wanted) - popup.Items.data());
+  if (popup.Offers(wanted)) return popup.NumberOf(wanted);
   Complain("the popup menu does not offer \"" + wanted + "\"");
   return forms::popup::kNothing;
 }
@@ -105,6 +136,7 @@ int SimDesktop::ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& i
     top += HeightOf(item);
   }
 
+  LoseCapture();
   popup_ = window;
   capture_ = window;
   const int depth = std::exchange(depth_, 0);

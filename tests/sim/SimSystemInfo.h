@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,13 @@ class SimSystemInfo final : public SystemInfo {
   bool OtherInstance = false;
   std::string Windows = "C:\\Windows";
   std::string System = "C:\\Windows\\System32";
+  std::string Temp = "C:\\Users\\User\\Temp\\";
+  std::optional<WindowsVersion> WindowsNumber = WindowsVersion{2, 10, 0, 22631};
+  ProcessorFacts Cpu{8664, 9};
+  std::optional<std::uint64_t> Memory = 17'179'869'184;
+  /// By their roots.
+  std::map<std::string, DriveFacts> Drives{
+      {"C:\\", {3, "System", "NTFS", DriveRoom{512'000'000'000, 128'000'000'000}}}};
   int Caption = 19;
   int CaptionButton = 18;
   int Depth = 32;
@@ -36,6 +44,19 @@ class SimSystemInfo final : public SystemInfo {
   std::string CurrentFolder() const override { return WorkFolder; }
   std::string WindowsFolder() const override { return Windows; }
   std::string SystemFolder() const override { return System; }
+  std::string TempFolder() const override { return Temp; }
+  std::optional<WindowsVersion> Version() const override { return WindowsNumber; }
+  ProcessorFacts Processor() const override { return Cpu; }
+  std::optional<std::uint64_t> PhysicalMemory() const override { return Memory; }
+  std::vector<std::string> LogicalDrives() const override {
+    std::vector<std::string> roots;
+    for (const auto& [root, facts] : Drives) roots.push_back(root);
+    return roots;
+  }
+  DriveFacts FactsOfDrive(const std::string& root) const override {
+    const auto found = Drives.find(root);
+    return found != Drives.end() ? found->second : DriveFacts{.Type = 1};
+  }
   bool AnotherInstanceRuns() override { return OtherInstance; }
   int CaptionHeight() const override { return Caption; }
   int CaptionButtonWidth() const override { return CaptionButton; }

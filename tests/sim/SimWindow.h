@@ -10,6 +10,7 @@
 #include "forms/WindowSystem.h"
 #include "platform/WindowId.h"
 #include "sim/SimCanvas.h"
+#include "sim/SimControl.h"
 
 namespace corvelle::sim {
 
@@ -17,15 +18,22 @@ namespace corvelle::sim {
 struct SimWindow {
   WindowId Id = kNoWindow;
   WindowId Parent = kNoWindow;            // none: a top-level window
-  WindowId Owner = kNoWindow;             // of a message box
+  WindowId Owner = kNoWindow;             // of a message box or a form that has one
   forms::WindowEvents* Events = nullptr;  // null for other programs' windows and message boxes
   bool Own = false;
   forms::PeerKind Kind = forms::PeerKind::Form;
-  bool Checked = false;  // of a check box
+  SimControl* Control = nullptr;  // of a window that the system works
+  bool TabStop = false;           // a picture box that a press gives the focus
   std::string ClassName;
   std::string Text;
+  std::string ToolTip;
   PixelRect Bounds;  // relative to the parent, or the screen
   PixelRect Told;    // the bounds that its events know
+  forms::FrameStyle Frame = forms::FrameStyle::None;
+  forms::FrameMargins Margins;  // of the frame
+  bool MinimizeBox = false;
+  PixelSize LeastSize{1, 1};
+  std::vector<forms::PopupItem> MenuBar;
   bool Visible = false;
   bool Enabled = true;
   bool Topmost = false;
@@ -48,7 +56,7 @@ struct SimWindow {
 
 /// True for a window that the system draws and works.
 [[nodiscard]] inline bool IsSystemControl(const SimWindow& window) {
-  return window.Kind == forms::PeerKind::CommandButton || window.Kind == forms::PeerKind::CheckBox;
+  return window.Control != nullptr;
 }
 
 /// What a test says of another program's window.

@@ -44,7 +44,8 @@ WindowId SimDesktop::Add(SimWindow window) {
   const WindowId id = ++lastId_;
   window.Id = id;
   window.Told = window.Bounds;
-  if (window.Own) window.Content = std::make_shared<SimCanvas>(window.Bounds.Size());
+  window.Margins = MarginsOf(window.Frame, !window.MenuBar.empty());
+  if (window.Own) window.Content = std::make_shared<SimCanvas>(InsideOf(window));
   const WindowId parent = window.Parent;
   windows_.emplace(id, std::move(window));
   if (parent == kNoWindow) {
@@ -56,21 +57,28 @@ WindowId SimDesktop::Add(SimWindow window) {
   return id;
 }
 
-std::unique_ptr<forms::WindowPeer> SimDesktop::CreatePeer(const forms::PeerSpec& wanted,
-                                                          forms::WindowEvents& events) {
-  if (refuseWindow_) {
-    refuseWindow_ = false;
-    return nullptr;
-  }
+WindowId SimDesktop::AddOwn(const forms::PeerSpec& wanted, forms::WindowEvents& events) {
+  if (std::exchange(refuseWindow_, false)) return kNoWindow;
   const WindowId id = Add({.Parent = wanted.Parent != nullptr ? wanted.Parent->Id() : kNoWindow,
+                           .Owner = wanted.Owner != nullptr ? wanted.Owner->Id() : kNoWindow,
                            .Events = &events,
                            .Own = true,
                            .Kind = wanted.Kind,
+                           .TabStop = wanted.TabStop,
                            .ClassName = wanted.ClassName,
                            .Bounds = wanted.Bounds,
-                           .InTaskbar = wanted.InTaskbar});
+                           .Frame = wanted.Frame,
+                           .MinimizeBox = wanted.MinimizeBox,
+                           .InTaskbar = wanted.InTaskbar,
+                           .HasOwner = wanted.Owner != nullptr});
   Note("create", *Get(id));
-  return std::make_unique<SimPeer>(*this, id);
+  return id;
+}
+
+std::unique_ptr<forms::WindowPeer> SimDesktop::CreatePeer(const forms::PeerSpec& wanted,
+                                                          forms::WindowEvents& events) {
+  const WindowId id = AddOwn(wanted, events);
+  return id != kNoWindow ? std::make_unique<SimPeer>(*this, id) : nullptr;
 }
 
 void SimDesktop::Destroy(WindowId window) {
@@ -79,6 +87,7 @@ void SimDesktop::Destroy(WindowId window) {
   Note("destroy", *at);
   // From here on it is told nothing, and nobody finds it.
   at->Events = nullptr;
+  at->Control = nullptr;
   at->Visible = false;
   while (!at->Children.empty()) Destroy(at->Children.back());
   WindowGone(window);
@@ -104,7 +113,7 @@ void SimDesktop::SetBounds(WindowId window, const PixelRect& bounds) {
   if (at->Bounds == bounds) return;
   at->Bounds = bounds;
   windowsMoved_ = true;
-  if (at->Content && at->Content->Size() != bounds.Size()) at->Content->Resize(bounds.Size());
+  if (at->Content && at->Content->Size() != InsideOf(*at)) at->Content->Resize(InsideOf(*at));
   // A window in the task bar tells where it is when it comes back.
   if (!at->Minimized) TellBounds(window);
 }
@@ -286,6 +295,7 @@ void SimDesktop::Activate(WindowId window) {
   focus_ = at->Own && at->Enabled ? FocusOf(*at) : kNoWindow;
   TellActivation(before, false);
   if (foreground_ == window) TellActivation(window, true);
+  TellFocus();
 }
 
 void SimDesktop::TellActivation(WindowId window, bool active) {
@@ -313,6 +323,7 @@ void SimDesktop::ActivateAnother(WindowId than) {
     foreground_ = kNoWindow;
     focus_ = kNoWindow;
     TellActivation(than, false);
+    TellFocus();
   }
 }
 
@@ -322,39 +333,16 @@ void SimDesktop::SetEnabled(WindowId window, bool enabled) {
   if (enabled) return;
   ReleaseMouse(window);
   if (focus_ == window) focus_ = kNoWindow;
+  TellFocus();
 }
 
 /// Ends the hold of a window or its children on the mouse.
 void SimDesktop::ReleaseMouse(WindowId window) {
   for (WindowId at = capture_; at != kNoWindow;
        at = Look(at) != nullptr ? Look(at)->Parent : kNoWindow) {
-    if (at == window) capture_ = kNoWindow;
-  }
-}
-
-WindowId SimDesktop::FocusOf(const SimWindow& form) const {
-  if (Look(form.Focus) != nullptr && IsShown(form.Focus)) return form.Focus;
-  for (auto child = form.Children.rbegin(); child != form.Children.rend(); ++child) {
-    if (IsShown(*child) && Look(*child)->Enabled) return *child;
-  }
-  return form.Id;
-}
-
-void SimDesktop::SetFocusTo(WindowId window) {
-  const SimWindow* at = Look(window);
-  if (at == nullptr || !IsShown(window)) return;
-  Note("focus", *at);
-  const WindowId top = TopOf(window);
-  // Behind another program, and on a window that is disabled, the focus is not to be had.
-  const SimWindow* front = Look(foreground_);
-  if ((front != nullptr && !front->Own) || !at->Enabled || !Look(top)->Enabled) return;
-  Get(top)->Focus = window;
-  Activate(top);
-  if (foreground_ == top && Look(window) != nullptr) {
-    // A control shows whether it has the focus.
-    InvalidateTree(focus_);
-    focus_ = window;
-    if (IsSystemControl(*Look(window))) InvalidateTree(window);
+    if (at != window) continue;
+    LoseCapture();
+    return;
   }
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/CoreDoubles.h"
+#include "core/NotedEdits.h"
 #include "toolbar/PopupDesk.h"
 
 namespace corvelle {
@@ -311,6 +312,21 @@ TEST(PopupGuard, ADropWaitsWhileACommandRewritesAFile) {
   desk.RightClickButton(3, "Delete Item");
   EXPECT_TRUE(busyInside);
   EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+}
+
+// ---- who is told of an edit ----
+
+TEST(PopupOnAFolder, OpeningAndClosingItAreTold) {
+  PopupDesk desk;
+  NotedEdits edits([&desk] { return desk.RecordOf(1, 3).FName; });
+  desk.TheProgram.Ports.MenuEdits = &edits;
+  desk.PutMenu(1, {Entry("Letters"), Entry("One"), Entry("Docs", "", "C:\\Docs\\*.* /X")});
+  desk.OpenMenuOf(2);
+  desk.RightClickItem(2, "Open Folder");
+  EXPECT_EQ(edits.Seen, std::vector<std::string>{"C:\\Docs\\*.*"});
+  desk.ChooseFor(GeneratedEntry(), "Close Folder");
+  EXPECT_EQ(edits.Seen, (std::vector<std::string>{"C:\\Docs\\*.*", "C:\\Docs\\*.* /X"}));
+  desk.TheProgram.Ports.MenuEdits = nullptr;
 }
 
 }  // namespace

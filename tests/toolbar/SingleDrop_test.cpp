@@ -4,6 +4,7 @@
 
 #include "core/DroppedFiles.h"
 #include "core/EntryCommands.h"
+#include "core/NotedEdits.h"
 #include "toolbar/SinglesDesk.h"
 
 namespace corvelle {
@@ -398,6 +399,60 @@ TEST(DropFilesOnSingles, ADiskThatRefusesLeavesTheRow) {
   desk.PointAtSingle(1);
   desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Left);
   EXPECT_EQ(desk.OnDisk(), "1a 2b");
+}
+
+// ---- who is told of an edit ----
+
+TEST(SinglesEdits, AreToldOnceEachWhenTheFilesAreWritten) {
+  DropDesk desk("abc");
+  NotedEdits edits([&desk] { return desk.OnDisk(); });
+  desk.TheProgram.Ports.MenuEdits = &edits;
+  const auto told = [&](const char* what) {
+    EXPECT_EQ(edits.Seen, std::vector<std::string>{desk.OnDisk()}) << what;
+    edits.Seen.clear();
+  };
+  desk.Carry(3, desk.MiddleOf(1));
+  told("moved in front of another");
+  desk.Carry(1, desk.BarePlace());
+  told("moved behind the last one");
+  desk.CarryTo(2, desk.MiddleOf(1));
+  desk.World.Desktop.Click(forms::MouseButton::Right);
+  desk.World.Desktop.Release();
+  told("copied");
+  desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
+  desk.PointAt(desk.MiddleOf(1));
+  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  told("moved out of a menu");
+  desk.World.Files.Put("C:\\f.txt", "");
+  desk.PointAt(desk.MiddleOf(1));
+  desk.Strip.Singles.DropFilesOnSingles({"C:\\f.txt"}, forms::MouseButton::Left);
+  told("files of another program");
+  desk.Carry(2, desk.MiddleOf(3));
+  EXPECT_EQ(edits.Seen.size(), 1U) << "told, though the row is written as it was";
+  desk.TheProgram.Ports.MenuEdits = nullptr;
+}
+
+TEST(SinglesEdits, ThatTheDiskRefusedAreNotTold) {
+  DropDesk desk("abc");
+  NotedEdits edits([] { return std::string(); });
+  desk.TheProgram.Ports.MenuEdits = &edits;
+  desk.World.Files.Protect("C:\\Corvelle\\Menus");
+  desk.Carry(3, desk.MiddleOf(1));
+  desk.World.Files.Put("C:\\f.txt", "");
+  desk.PointAt(desk.MiddleOf(1));
+  desk.Strip.Singles.DropFilesOnSingles({"C:\\f.txt"}, forms::MouseButton::Left);
+  EXPECT_TRUE(edits.Seen.empty());
+  desk.TheProgram.Ports.MenuEdits = nullptr;
+}
+
+TEST(AddNewButton, IsToldWithItsFileWritten) {
+  DropDesk desk("ab");
+  const std::string file = std::string(kMenus) + MenuFileName(3);
+  NotedEdits edits([&] { return desk.World.Files.Get(file).value_or("").substr(0, 10); });
+  desk.TheProgram.Ports.MenuEdits = &edits;
+  desk.Strip.AddNewButton();
+  EXPECT_EQ(edits.Seen, std::vector<std::string>{"New Button"});
+  desk.TheProgram.Ports.MenuEdits = nullptr;
 }
 
 }  // namespace

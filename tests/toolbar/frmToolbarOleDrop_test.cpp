@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/DroppedFiles.h"
+#include "core/NotedEdits.h"
 #include "toolbar/DragDesk.h"
 #include "toolbar/frmImage.h"
 
@@ -172,6 +173,21 @@ TEST(ToolbarOLEDragDrop, AnAddressIsOfferedWithItsPageTitleForTheButton) {
             Names{"http://example.com/a|A page|3|C:\\Corvelle\\Menus\\BMENU002.MNU"});
   EXPECT_FALSE(desk.TheProgram.DragIsUrl);
   EXPECT_TRUE(desk.FileUnchanged(2));
+  desk.TheProgram.Ports.WebLink = nullptr;
+  desk.TheProgram.Ports.Browser = nullptr;
+}
+
+TEST(ToolbarOLEDragDrop, ATitleThatComesWithTheAddressIsTakenAndNoBrowserAsked) {
+  DragDesk desk;
+  NotedLinks links;
+  NotedBrowser browser;
+  desk.TheProgram.Ports.WebLink = &links;
+  desk.TheProgram.Ports.Browser = &browser;
+  desk.Take({.Text = "http://example.com/a", .Title = " Its own title "});
+  desk.DragToButton(3);
+  desk.Drop();
+  EXPECT_EQ(links.Offered,
+            Names{"http://example.com/a|Its own title|3|C:\\Corvelle\\Menus\\BMENU002.MNU"});
   desk.TheProgram.Ports.WebLink = nullptr;
   desk.TheProgram.Ports.Browser = nullptr;
 }
@@ -390,6 +406,19 @@ TEST(SingleButtonsOLE, WithoutTheRowFilesAreRefused) {
   desk.TakeFiles({"C:\\b.txt"});
   desk.PointAt({row.left + 5, row.top + 5});
   EXPECT_EQ(desk.Effect(), DropEffect::None);
+}
+
+// ---- who is told of an edit ----
+
+TEST(ToolbarOLEDragDrop, FilesThatAreStoredAreTold) {
+  DragDesk desk;
+  NotedEdits edits([&desk] { return std::to_string(desk.RecordsOf(2).size()); });
+  desk.TheProgram.Ports.MenuEdits = &edits;
+  desk.TakeFiles({"C:\\c.txt", "C:\\d.txt"});
+  desk.DragToButton(3);
+  desk.Drop();
+  EXPECT_EQ(edits.Seen, std::vector<std::string>{"4"});
+  desk.TheProgram.Ports.MenuEdits = nullptr;
 }
 
 }  // namespace

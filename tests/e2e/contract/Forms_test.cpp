@@ -6,8 +6,21 @@
 #include "RealHome.h"
 #include "forms/ActivationContract.h"
 #include "forms/CanvasContract.h"
+#include "forms/ComboBoxContract.h"
+#include "forms/ControlsContract.h"
+#include "forms/DisabledLookContract.h"
+#include "forms/FocusContract.h"
+#include "forms/FrameContract.h"
 #include "forms/InputContract.h"
+#include "forms/ListBoxContract.h"
+#include "forms/PictureContract.h"
 #include "forms/PostContract.h"
+#include "forms/ScrollBarContract.h"
+#include "forms/TabStripContract.h"
+#include "forms/TextBoxContract.h"
+#include "forms/ToolBarContract.h"
+#include "forms/ToolTipContract.h"
+#include "forms/TreeContract.h"
 #include "forms/WindowSystemContract.h"
 
 namespace corvelle::forms {
@@ -27,6 +40,12 @@ class WindowsHome final : public ActivationHome {
   void Release(MouseButton button) override { home_.Release(button); }
   void DoubleClick() override { home_.DoubleClick(); }
   void PressKey(int virtualKey) override { home_.PressKey(virtualKey); }
+  void KeyDown(int virtualKey) override { home_.KeyDown(virtualKey); }
+  void KeyUp(int virtualKey) override { home_.KeyUp(virtualKey); }
+  void Type(std::string_view text) override { home_.Type(text); }
+  void DragAlong(const std::vector<PixelPoint>& points) override { home_.DragAlong(points); }
+  void TurnWheel(int delta) override { home_.TurnWheel(delta); }
+  std::string ToolTip() const override { return home_.ToolTip(); }
   void ClosePopup() override {
     INPUT keys[2]{};
     for (INPUT& key : keys) {
@@ -71,6 +90,34 @@ INSTANTIATE_TEST_SUITE_P(Windows, ActivationContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
 INSTANTIATE_TEST_SUITE_P(Windows, ControlContract,
                          testing::Values([] { return std::make_unique<WindowsHome>(250); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ButtonsContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TextBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ListBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ComboBoxContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ScrollBarContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TabStripContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TreeContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, FrameContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ToolBarContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, PictureContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, ToolTipContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, FocusContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, TreeLookContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
+INSTANTIATE_TEST_SUITE_P(Windows, DisabledLookContract,
+                         testing::Values([] { return std::make_unique<WindowsHome>(100); }));
 
 }  // namespace
 }  // namespace corvelle::forms

@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "win32/Win32Desktop.h"
 #include "win32/Win32Input.h"
@@ -39,11 +41,48 @@ class RealHome {
     if (!input_.IsKeyDown(left ? VK_LBUTTON : VK_RBUTTON)) return;
     Mouse(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP, pointer_);
   }
+  /// All of a drag with the left button before its events run.
+  void DragAlong(const std::vector<PixelPoint>& points) {
+    MovePointer(points.front());
+    Send(MOUSEEVENTF_LEFTDOWN, points.front());
+    for (const PixelPoint& point : points) Send(MOUSEEVENTF_MOVE, point);
+    Send(MOUSEEVENTF_LEFTUP, points.back());
+    pointer_ = points.back();
+    Wait(5 * kReactionMilliseconds);
+  }
   void DoubleClick() {
     for (int press = 0; press < 2; ++press) {
       Press(forms::MouseButton::Left);
       Release(forms::MouseButton::Left);
     }
+  }
+  void KeyDown(int virtualKey) { Key(virtualKey, 0); }
+  void KeyUp(int virtualKey) { Key(virtualKey, KEYEVENTF_KEYUP); }
+  /// Plain characters.
+  void Type(std::string_view text) {
+    for (const char character : text) {
+      const SHORT scanned = VkKeyScanW(static_cast<wchar_t>(character));
+      const bool shifted = (HIBYTE(scanned) & 1) != 0;
+      if (shifted) Key(VK_SHIFT, 0);
+      Key(LOBYTE(scanned), 0);
+      Key(LOBYTE(scanned), KEYEVENTF_KEYUP);
+      if (shifted) Key(VK_SHIFT, KEYEVENTF_KEYUP);
+    }
+    Wait(kReactionMilliseconds);
+  }
+  void TurnWheel(int delta) {
+    INPUT event{};
+    event.type = INPUT_MOUSE;
+    event.mi.mouseData = static_cast<DWORD>(delta);
+    event.mi.dwFlags = MOUSEEVENTF_WHEEL;
+    SendInput(1, &event, sizeof(INPUT));
+    Wait(kReactionMilliseconds);
+  }
+  /// The tool tip of this thread that is up; empty for none.
+  [[nodiscard]] std::string ToolTip() const {
+    WindowId up = kNoWindow;
+    EnumThreadWindows(GetCurrentThreadId(), &FindToolTip, reinterpret_cast<LPARAM>(&up));
+    return desktop_.Text(up);
   }
   void PressKey(int virtualKey) {
     INPUT keys[2]{};
@@ -61,8 +100,23 @@ class RealHome {
   static constexpr int kMostTries = 20;
   static constexpr int kWholeScreen = 65536;
 
-  // Place and button in one event: apart, they can be taken in the wrong order.
-  void Mouse(DWORD what, PixelPoint at) {
+  static BOOL CALLBACK FindToolTip(HWND window, LPARAM found) {
+    wchar_t name[64] = {};
+    GetClassNameW(window, name, 64);
+    if (std::wstring_view(name) != TOOLTIPS_CLASSW || IsWindowVisible(window) == 0) return TRUE;
+    *reinterpret_cast<WindowId*>(found) = win32::ToId(window);
+    return FALSE;
+  }
+
+  static void Key(int virtualKey, DWORD how) {
+    INPUT key{};
+    key.type = INPUT_KEYBOARD;
+    key.ki.wVk = static_cast<WORD>(virtualKey);
+    key.ki.dwFlags = how;
+    SendInput(1, &key, sizeof(INPUT));
+  }
+
+  static void Send(DWORD what, PixelPoint at) {
     const int width = GetSystemMetrics(SM_CXSCREEN);
     const int height = GetSystemMetrics(SM_CYSCREEN);
     INPUT event{};
@@ -71,12 +125,16 @@ class RealHome {
     event.mi.dy = (at.y * kWholeScreen + height - 1) / height;
     event.mi.dwFlags = what | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
     SendInput(1, &event, sizeof(INPUT));
+  }
+
+  // Place and button in one event: apart, they can be taken in the wrong order.
+  void Mouse(DWORD what, PixelPoint at) {
+    Send(what, at);
     pointer_ = at;
     Wait(kReactionMilliseconds);
     // Under Wine the place before may come back for a moment, and the move is lost with it.
-    event.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
     for (int tries = 0; tries < kMostTries && input_.PointerPosition() != at; ++tries) {
-      SendInput(1, &event, sizeof(INPUT));
+      Send(MOUSEEVENTF_MOVE, at);
       Wait(kReactionMilliseconds / 2);
     }
   }

@@ -1,0 +1,183 @@
+#include "customize/Saving.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "core/FileTransaction.h"
+#include "customize/Draft.h"
+#include "shell/FileErrorText.h"
+
+namespace corvelle {
+namespace {
+
+/// What the numbers of files and records cannot count.
+constexpr std::string_view kTooMany = "6 - Overflow";
+
+bool IsTooLarge(const MenuSet& set) {
+  constexpr auto kMost = static_cast<std::size_t>(kMaxRecords);
+  return set.Menus.size() > kMost || set.Singles.size() > kMost ||
+         std::any_of(set.Menus.begin(), set.Menus.end(),
+                     [](const Menu& menu) { return menu.Items.size() + 1 > kMost; });
+}
+
+std::string FailureText(const std::string& numberedError) {
+  return "A critical error has been encountered while Corvelle is saving your changes.\r\nError: " +
+         numberedError + "\r\nNow Corvelle will try to resortre your previous data.";
+}
+
+/// Every name of the two rows.
+std::vector<std::string> NamesOf(const StoredMenus& stored) {
+  std::vector<std::string> names;
+  for (const auto* row : {&stored.Menus, &stored.Singles}) {
+    for (const StoredFile& file : *row) names.push_back(file.Name);
+  }
+  return names;
+}
+
+class Save {
+ public:
+  Save(FileSystem& files, const CodePage& ansi, std::string_view menusPath, const MenuSet& tree,
+       const MenusStamp& read)
+      : files_(files), ansi_(ansi), folder_(menusPath), tree_(tree), read_(read) {}
+
+  SaveResult Run(const MenuSet* other);
+
+ private:
+  SaveResult Fail(FileError error);
+  SaveResult FailWith(const std::string& numberedError);
+  SaveResult Differ(const StoredMenus& now);
+  void ClearMarks();
+  void EmptyBackup();
+  void BackUp(const std::vector<std::string>& names);
+  FileStatus Replace(const std::vector<std::string>& old, StoredMenus stored);
+
+  [[nodiscard]] std::string Backup() const { return folder_ + std::string(kBackupFolder); }
+
+  FileSystem& files_;
+  const CodePage& ansi_;
+  std::string folder_;
+  const MenuSet& tree_;
+  const MenusStamp& read_;
+  bool kept_ = false;  // the draft is written
+};
+
+SaveResult Save::Differ(const StoredMenus& now) {
+  SaveResult result;
+  result.End = SaveEnd::Conflict;
+  result.Now = {ParseMenus(now, ansi_), StampOf(now)};
+  return result;
+}
+
+// A read-only file is saved like any other.
+void Save::ClearMarks() {
+  const auto entries = files_.List(folder_, "*.*");
+  if (!entries) return;
+  for (const FileEntry& entry : *entries) {
+    if (entry.IsFolder || !(entry.ReadOnly || entry.Hidden || entry.System)) continue;
+    static_cast<void>(files_.ClearAttributes(folder_ + entry.Name));
+  }
+}
+
+void Save::EmptyBackup() {
+  const auto entries = files_.List(Backup(), "*.*");
+  if (!entries) return;
+  for (const FileEntry& entry : *entries) {
+    if (!entry.IsFolder) static_cast<void>(files_.Remove(Backup() + entry.Name));
+  }
+}
+
+// The copy is a second safety beside the change's own journal: the save goes on without it. One
+// that fills the disk up would only stand in the way of what is to be saved.
+void Save::BackUp(const std::vector<std::string>& names) {
+  if (!files_.FolderExists(Backup())) static_cast<void>(files_.MakeFolder(Backup()));
+  ClearMarks();
+  EmptyBackup();
+  for (const std::string& name : names) {
+    const FileStatus copied = files_.Copy(folder_ + name, Backup() + name);
+    if (copied || copied.Error() != FileError::DiskFull) continue;
+    EmptyBackup();
+    return;
+  }
+}
+
+SaveResult Save::FailWith(const std::string& numberedError) {
+  // The change takes itself back; what it could not put back then it may now. Else its journal
+  // waits for the next start.
+  static_cast<void>(RecoverFiles(files_, folder_));
+  if (!kept_) kept_ = WriteDraft(files_, folder_, read_, tree_).HasValue();
+  if (!kept_) {
+    // The user's work is worth more than a copy of files that are there.
+    EmptyBackup();
+    kept_ = WriteDraft(files_, folder_, read_, tree_).HasValue();
+  }
+  SaveResult result;
+  result.End = SaveEnd::Recovered;
+  result.Message = FailureText(numberedError);
+  result.Kept = kept_;
+  return result;
+}
+
+SaveResult Save::Fail(FileError error) {
+  return FailWith(NumberedFileError(files_, folder_, error));
+}
+
+FileStatus Save::Replace(const std::vector<std::string>& old, StoredMenus stored) {
+  FileTransaction change(files_, folder_);
+  for (const std::string& name : old) change.Remove(folder_ + name);
+  for (auto* row : {&stored.Menus, &stored.Singles}) {
+    for (StoredFile& file : *row) change.Write(folder_ + file.Name, std::move(file.Bytes));
+  }
+  return change.Commit();
+}
+
+SaveResult Save::Run(const MenuSet* other) {
+  if (IsTooLarge(tree_)) return FailWith(std::string(kTooMany));
+  // What an earlier run left half done would look like another's changes.
+  if (const FileStatus settled = RecoverFiles(files_, folder_); !settled) {
+    return Fail(settled.Error());
+  }
+  std::vector<std::string> old;
+  {
+    const auto now = ReadStoredMenus(files_, folder_);
+    if (!now) return Fail(now.Error().Reason);
+    if (StampOf(*now) != read_) return Differ(*now);
+    old = NamesOf(*now);
+  }
+  kept_ = WriteDraft(files_, folder_, read_, tree_).HasValue();
+  BackUp(old);
+  // The copying takes its time, in which another program may have come.
+  {
+    const auto now = ReadStoredMenus(files_, folder_);
+    if (!now) return Fail(now.Error().Reason);
+    if (StampOf(*now) != read_) {
+      EmptyBackup();
+      return Differ(*now);
+    }
+  }
+  StoredMenus stored = InListOrder(FormatMenus(tree_, ansi_));
+  SaveResult result;
+  result.End = SaveEnd::Saved;
+  result.Now = {ParseMenus(stored, ansi_), StampOf(stored)};
+  if (const FileStatus done = Replace(old, std::move(stored)); !done) {
+    return Fail(done.Error());
+  }
+  EmptyBackup();
+  // A draft that cannot be removed belongs to other files from now on, and is never offered.
+  if (other == nullptr) {
+    static_cast<void>(ForgetDraft(files_, folder_));
+  } else {
+    result.Kept = WriteDraft(files_, folder_, result.Now.Stamp, *other).HasValue();
+  }
+  return result;
+}
+
+}  // namespace
+
+SaveResult SaveMenus(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
+                     const MenuSet& tree, const MenusStamp& read, const MenuSet* other) {
+  return Save(files, ansi, menusPath, tree, read).Run(other);
+}
+
+}  // namespace corvelle

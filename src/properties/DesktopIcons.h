@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+namespace corvelle {
+
+class Program;
+
+/// The indices of the icons of all that lies on the desktop, in the order of a menu of it, each
+/// once; empty for a desktop that cannot be listed. The shell may let events through. Nothing is
+/// written: files that an earlier version left in the folder of the menus while it listed the
+/// desktop are removed.
+[[nodiscard]] std::vector<int> DesktopIcons(Program& program);
+
+}  // namespace corvelle

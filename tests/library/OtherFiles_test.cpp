@@ -1,0 +1,127 @@
+#include "library/OtherFiles.h"
+
+#include <gtest/gtest.h>
+
+#include "core/Program.h"
+#include "icons/OtherIcons.h"
+#include "sim/World.h"
+
+namespace corvelle {
+namespace {
+
+constexpr char kOthers[] = "C:\\Corvelle\\Icons\\others.dat";
+constexpr char kTool[] = "C:\\Tools\\tool.exe";
+
+using Rows = std::vector<std::string>;
+
+class OtherFilesDesk : public testing::Test {
+ protected:
+  OtherFilesDesk() {
+    program.AppPath = "C:\\Corvelle\\";
+    program.IconsPath = "C:\\Corvelle\\Icons\\";
+    world.Files.MakeFolders(program.IconsPath);
+    world.Files.Put(kTool, "x");
+    world.Icons.SetIconCount(kTool, 3);
+  }
+  std::string Stored() { return world.Files.Get(kOthers).value_or("(missing)"); }
+  std::string Shortcut(const std::string& target) {
+    const std::string link = "C:\\Links\\some.lnk";
+    world.Links.Put(link, {.Path = target});
+    return link;
+  }
+
+  sim::World world;
+  Program program{world.Services(), world.Windows()};
+  Rows rows;
+};
+
+TEST_F(OtherFilesDesk, AFileWithIconsIsAddedInItsOrderAndStored) {
+  rows = {"a.dll |C:\\a.dll", "z.dll |C:\\z.dll"};
+  const AddedFile added = AddOtherFile(program, rows, kTool);
+  EXPECT_EQ(added.Refusal, "");
+  EXPECT_EQ(added.Row, 1);
+  EXPECT_EQ(rows, (Rows{"a.dll |C:\\a.dll", "tool.exe |C:\\Tools\\tool.exe", "z.dll |C:\\z.dll"}));
+  EXPECT_EQ(Stored(), "C:\\a.dll\r\nC:\\Tools\\tool.exe\r\nC:\\z.dll\r\n");
+}
+
+TEST_F(OtherFilesDesk, AShortcutStandsForItsTarget) {
+  EXPECT_EQ(AddOtherFile(program, rows, Shortcut(kTool)).Refusal, "");
+  EXPECT_EQ(rows, Rows{"tool.exe |C:\\Tools\\tool.exe"});
+}
+
+TEST_F(OtherFilesDesk, WhatIsRefusedIsToldToTheLetterAndTheListsStay) {
+  world.Files.Put("C:\\Tools\\bare.exe", "x");
+  const Rows before = {"tool.exe |C:\\Tools\\tool.exe"};
+  struct Row {
+    const char* name;
+    std::string chosen;
+    const char* expected;
+  };
+  const Row all[] = {
+      {"listed already", "c:\\TOOLS\\tool.exe", "\"tool.exe\" is already in the library."},
+      {"without icons", "C:\\Tools\\bare.exe", "\"bare.exe\" does not contain icons."},
+      {"missing", "C:\\Tools\\gone.exe", "\"gone.exe\" does not contain icons."},
+  };
+  for (const Row& row : all) {
+    rows = before;
+    const AddedFile added = AddOtherFile(program, rows, row.chosen);
+    EXPECT_EQ(added.Refusal, row.expected) << row.name;
+    EXPECT_EQ(added.Row, -1) << row.name;
+    EXPECT_EQ(rows, before) << row.name;
+    EXPECT_EQ(Stored(), "(missing)") << row.name;
+  }
+}
+
+TEST_F(OtherFilesDesk, AShortcutHasItsOwnWording) {
+  world.Files.Put("C:\\Tools\\bare.exe", "x");
+  rows = {"tool.exe |C:\\Tools\\tool.exe"};
+  EXPECT_EQ(AddOtherFile(program, rows, Shortcut(kTool)).Refusal,
+            "\"tool.exe\" that the selected shortcut refers to is already in the library.");
+  EXPECT_EQ(AddOtherFile(program, rows, Shortcut("C:\\Tools\\bare.exe")).Refusal,
+            "\"bare.exe\" that the selected shortcut refers to does not contain icons.");
+}
+
+TEST_F(OtherFilesDesk, AShortcutWithoutAPathIsToldSo) {
+  const char* const kText = "Cannot find a path for the selected shortcut.";
+  EXPECT_EQ(AddOtherFile(program, rows, Shortcut("")).Refusal, kText);
+  world.Files.Put("C:\\Links\\damaged.LNK", "none");
+  EXPECT_EQ(AddOtherFile(program, rows, "C:\\Links\\damaged.LNK").Refusal, kText);
+  EXPECT_EQ(rows, Rows{});
+}
+
+TEST_F(OtherFilesDesk, TheQuestionBeforeARowGoesNamesTheFile) {
+  EXPECT_EQ(RemoveQuestion("tool.exe |C:\\Tools\\tool.exe"),
+            "Are you sure you want to remove \"tool.exe\"");
+}
+
+TEST_F(OtherFilesDesk, ARowIsTakenOutAndTheRestStored) {
+  rows = {"a.dll |C:\\a.dll", "z.dll |C:\\z.dll"};
+  RemoveOtherFile(program, rows, 2);
+  RemoveOtherFile(program, rows, -1);
+  EXPECT_EQ(rows.size(), 2U);
+  RemoveOtherFile(program, rows, 0);
+  EXPECT_EQ(rows, Rows{"z.dll |C:\\z.dll"});
+  EXPECT_EQ(Stored(), "C:\\z.dll\r\n");
+}
+
+TEST_F(OtherFilesDesk, WithoutItsLastRowTheListIsDeletedAndMadeAgain) {
+  world.Files.Put("C:\\Windows\\System32\\Shell32.dll", "x");
+  world.Files.Put("C:\\Windows\\Explorer.exe", "x");
+  AddOtherFile(program, rows, kTool);
+  RemoveOtherFile(program, rows, 0);
+  EXPECT_EQ(Stored(), "(missing)");
+  EXPECT_EQ(ReadOthers(program), (Rows{"Explorer.exe |C:\\Windows\\Explorer.exe",
+                                       "Shell32.dll |C:\\Windows\\System32\\Shell32.dll"}));
+}
+
+TEST_F(OtherFilesDesk, ADiskThatRefusesKeepsTheOldListOnIt) {
+  world.Files.Put(kOthers, "C:\\a.dll\r\n");
+  rows = {"a.dll |C:\\a.dll"};
+  world.Files.FailCall(1, FileError::DiskFull);
+  EXPECT_EQ(AddOtherFile(program, rows, kTool).Refusal, "");
+  EXPECT_EQ(rows.size(), 2U);
+  EXPECT_EQ(Stored(), "C:\\a.dll\r\n");
+}
+
+}  // namespace
+}  // namespace corvelle

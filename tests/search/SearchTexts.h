@@ -1,0 +1,9 @@
+#pragma once
+
+#include "base/CodePage.h"
+
+namespace corvelle {
+
+inline const Windows1252 kAnsi;
+
+}  // namespace corvelle
