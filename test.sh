@@ -60,13 +60,29 @@ run_wine() {
   add "$(tail -n 1 build/wine-totals.txt)"
 }
 
+build_release() {
+  python3 tools/make_release.py --x64 build/windows --x86 build/windows32 --out build/release/dist
+}
+
+run_release() {
+  python3 tools/run_release_tests.py --release build/release/dist | tee build/release-totals.txt
+  add "$(tail -n 1 build/release-totals.txt)"
+}
+
+run_reproducible() {
+  tools/check_reproducible.sh build/release/dist x64 >build/reproducible.txt 2>&1 || cat build/reproducible.txt
+  add "$(tail -n 1 build/reproducible.txt)"
+}
+
 # shellcheck disable=SC2086
-install_packages $CORVELLE_BUILD_PACKAGES $CORVELLE_WINE_PACKAGES $CORVELLE_TEST_PACKAGES
+install_packages $CORVELLE_BUILD_PACKAGES $CORVELLE_WINE_PACKAGES $CORVELLE_RELEASE_PACKAGES $CORVELLE_TEST_PACKAGES
 mkdir -p build
 stage "native build, with the address and undefined behaviour sanitizers" build_native &&
   stage "native tests" run_native
 stage "build for Windows" build_windows && stage "tests under Wine" run_wine
-stage "build for 32-bit Windows" build_windows32
+stage "build for 32-bit Windows" build_windows32 &&
+  stage "release" build_release && stage "tests of the release" run_release &&
+  stage "the same release from another folder" run_reproducible
 
 say "$SECONDS s"
 echo "$passed passed, $failed failed"

@@ -50,6 +50,6 @@ add_custom_target(corvelle_icon_files ALL DEPENDS ${program_icon} ${CORVELLE_ICO
 if(TARGET corvelle)
   add_dependencies(corvelle corvelle_icon_files)
   target_include_directories(corvelle PRIVATE ${CORVELLE_ICONS_DIR})
-  set_property(SOURCE ${CMAKE_BINARY_DIR}/resources/corvelle.rc APPEND PROPERTY
-    OBJECT_DEPENDS "${program_icon};${CMAKE_BINARY_DIR}/resources/corvelle.manifest")
+  set_property(SOURCE ${CORVELLE_GENERATED}/corvelle.rc APPEND PROPERTY
+    OBJECT_DEPENDS "${program_icon};${CORVELLE_GENERATED}/corvelle.manifest")
 endif()

@@ -1,15 +1,21 @@
 # corvelle.exe itself.
 if(EXISTS ${PROJECT_SOURCE_DIR}/src/main.cpp)
-  add_executable(corvelle WIN32 src/main.cpp)
-  # The resources bear the version of the project.
-  foreach(resource corvelle.rc corvelle.manifest)
-    configure_file(src/win32/${resource}.in ${CMAKE_BINARY_DIR}/resources/${resource} @ONLY)
-  endforeach()
-  target_sources(corvelle PRIVATE ${CMAKE_BINARY_DIR}/resources/corvelle.rc)
-  target_include_directories(corvelle PRIVATE ${CMAKE_BINARY_DIR}/resources)
-  target_link_libraries(corvelle PRIVATE corvelle_options corvelle_win32 corvelle_program gdi32 user32 shell32 comctl32 comdlg32 ole32 advapi32 uuid)
+  add_executable(corvelle WIN32 src/main.cpp ${CORVELLE_GENERATED}/corvelle.rc)
+  target_link_libraries(corvelle PRIVATE corvelle_options corvelle_shipped corvelle_win32 corvelle_program
+                        gdi32 user32 shell32 ole32 advapi32 uuid)
+  corvelle_late_library(corvelle comctl32)
+  corvelle_late_library(corvelle comdlg32)
   set_target_properties(corvelle PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
-  target_link_options(corvelle PRIVATE $<$<NOT:$<CONFIG:Debug>>:-s>)
+  # Any address, no code among data, at home on a terminal server; the same bytes from each build.
+  target_link_options(corvelle PRIVATE
+    -Wl,--dynamicbase -Wl,--nxcompat -Wl,--tsaware -Wl,--no-insert-timestamp
+    -Wl,$<IF:$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>,--high-entropy-va,--large-address-aware>)
+  # The names and lines of the code go to a file of their own, beside the program.
+  string(REGEX REPLACE "gcc(-posix)?$" "objcopy" objcopy ${CMAKE_C_COMPILER})
+  add_custom_command(TARGET corvelle POST_BUILD
+    COMMAND ${objcopy} --only-keep-debug $<TARGET_FILE:corvelle> ${CMAKE_BINARY_DIR}/corvelle.debug
+    COMMAND ${objcopy} --preserve-dates --strip-all $<TARGET_FILE:corvelle>
+    BYPRODUCTS ${CMAKE_BINARY_DIR}/corvelle.debug VERBATIM)
 endif()
 
 include(${CMAKE_CURRENT_LIST_DIR}/PackageIcons.cmake)

@@ -28,4 +28,12 @@ corvelle_windows_tests(e2e e2e_tests LINKS corvelle_core user32 gdi32
 add_executable(witness WIN32 e2e/witness/witness.cpp)
 target_link_libraries(witness PRIVATE corvelle_options)
 target_link_options(witness PRIVATE -municode -s)
-set_target_properties(witness PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+# A library that is put where the program must not load it from, and a program that would load it.
+add_library(planted MODULE e2e/planted/planted.cpp)
+add_executable(naive WIN32 e2e/planted/naive.cpp)
+set_target_properties(planted PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+foreach(program planted naive)
+  target_link_libraries(${program} PRIVATE corvelle_options)
+  target_link_options(${program} PRIVATE -municode -static -s)
+endforeach()
+set_target_properties(witness naive PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})

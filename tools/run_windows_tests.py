@@ -26,6 +26,7 @@ import pathlib
 import re
 import shutil
 import signal
+import subprocess
 import sys
 import threading
 import time
@@ -37,6 +38,9 @@ from wine_session import ROOT, Session, SessionError, end_quietly
 E2E_SECONDS = 90
 CONTRACT_SECONDS = 300
 SCALES = (96, 120)
+PROGRAMS = (("witness", "witness.exe"), ("e2e", "e2e_tests.exe"), ("e2e", "planted.dll"), ("e2e", "naive.exe"))
+# Of the library of C++: it throws because there is no memory.
+THROWING = "_ZSt17__throw_bad_allocv"
 SESSIONS = 3  # for one test program to come to its first line
 UNSTEADY = 2  # roads that may be walked once more
 # Wine's own errors go to a log of their own.
@@ -180,6 +184,19 @@ def list_tests(arguments):
     return names
 
 
+def place_of(function, symbols):
+    """Where a function lies in the program, from the program's beginning."""
+    def read(*command):
+        return subprocess.run([f"x86_64-w64-mingw32-{command[0]}", *command[1:], symbols], check=True, text=True,
+                              stdout=subprocess.PIPE).stdout
+
+    base = int(re.search(r"^ImageBase\s+(\w+)", read("objdump", "-p"), re.MULTILINE)[1], 16)
+    found = re.search(rf"^(\w+) T {function}$", read("nm"), re.MULTILINE)
+    if not found:
+        raise SessionError(f"{symbols} does not know {function}")
+    return int(found[1], 16) - base
+
+
 class Road(typing.NamedTuple):
     name: str
     dpi: int
@@ -204,9 +221,10 @@ def walk(arguments, road, mark=""):
     def run(session):
         shutil.copytree(arguments.build / "package", session.drive / "Corvelle",
                         ignore=shutil.ignore_patterns("Menus", "ShellLink"))
-        for place, program in (("witness", "witness.exe"), ("e2e", "e2e_tests.exe")):
-            (session.drive / place).mkdir()
+        for place, program in PROGRAMS:
+            (session.drive / place).mkdir(exist_ok=True)
             shutil.copy2(arguments.build / program, session.drive / place)
+        (session.drive / "e2e" / "throw-place.txt").write_text(f"{arguments.throw_place:x}", encoding="ascii")
         requests = session.drive / "e2e" / "pictures"
         requests.mkdir()
         outcome = run_program(session, "e2e", ["e2e_tests.exe", f"--gtest_filter={road.name}"],
@@ -234,11 +252,12 @@ def walk_once_more(failed, walk_alone):
 
 def run_e2e(arguments):
     """(passed, failed)"""
-    for needed in ("e2e_tests.exe", "witness.exe", "package/corvelle.exe"):
+    for needed in [program for _, program in PROGRAMS] + ["package/corvelle.exe", "corvelle.debug"]:
         if not (arguments.build / needed).is_file():
             say(f"wine: {arguments.build / needed} is not there")
             return 0, 1
     arguments.out.mkdir(parents=True, exist_ok=True)
+    arguments.throw_place = place_of(THROWING, arguments.build / "corvelle.debug")
     roads = []
     for name in list_tests(arguments):
         scales = SCALES if name.split(".")[0].endswith("AtEachScale") else SCALES[:1]

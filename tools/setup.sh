@@ -5,7 +5,9 @@
 # Debian packages that build corvelle.exe, that run it under Wine, and that the tests want besides.
 CORVELLE_BUILD_PACKAGES="cmake ninja-build g++-mingw-w64-x86-64-posix googletest python3 librsvg2-bin icoutils"
 CORVELLE_WINE_PACKAGES="wine wine64 fonts-wine xvfb xdotool x11-utils imagemagick"
-CORVELLE_TEST_PACKAGES="g++ libgtest-dev libbenchmark-dev clang-format g++-mingw-w64-i686-posix"
+# What a release needs besides, and what the tests want besides.
+CORVELLE_RELEASE_PACKAGES="nsis g++-mingw-w64-i686-posix"
+CORVELLE_TEST_PACKAGES="g++ libgtest-dev libbenchmark-dev clang-format"
 
 say() { printf '%s: %s\n' "$(basename "$0")" "$*"; }
 

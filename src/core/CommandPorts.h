@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/HelpPages.h"
 #include "platform/WindowId.h"
 
 namespace corvelle {
@@ -26,8 +27,8 @@ class BrowserPort {
  public:
   virtual ~BrowserPort() = default;
 
-  /// Opens one web address.
-  virtual void OpenUrl(std::string_view url) = 0;
+  /// Opens one web address. False when no browser took it.
+  virtual bool OpenUrl(std::string_view url) = 0;
   /// Opens one "mailto:" address.
   virtual void OpenMail(std::string_view address) = 0;
 
@@ -42,6 +43,21 @@ class BrowserPort {
   /// From now on the browser with that path, which may be a shell link. False, and a message, for
   /// one that is not supported.
   virtual bool UseBrowser(std::string_view path) = 0;
+};
+
+/// The pages that explain the program, one for each matter. What the user asks for opens or is told
+/// to be missing.
+class HelpPort {
+ public:
+  virtual ~HelpPort() = default;
+
+  /// Opens a page for the user, who asked for it. False when the pages did not come with the
+  /// program, and nothing is told.
+  virtual bool ShowPage(HelpPage page) = 0;
+  /// Opens a page that nobody asked for; a failure is quiet.
+  virtual void OfferPage(HelpPage page) = 0;
+  /// The page of a window, by the window's name. Says so when there is none.
+  virtual void ShowPageOf(std::string_view windowName) = 0;
 };
 
 /// Reading of shell links.

@@ -9,6 +9,7 @@
 #include "core/Program.h"
 #include "core/SettingsFiles.h"
 #include "core/Upgrade.h"
+#include "platform/CrashReports.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
 
@@ -35,7 +36,10 @@ void CloseStartupWindow(Program& program) {
 
 void ShowWelcome(Program& program) {
   const std::string help = program.ShippedFile("corvelle.hlp");
-  if (!program.Services.Files.FileExists(help)) return;
+  if (!program.Services.Files.FileExists(help)) {
+    if (program.Ports.Help != nullptr) program.Ports.Help->OfferPage(HelpPage::FirstSteps);
+    return;
+  }
   SystemInfo& system = program.Services.System;
   if (!system.ShowHelpTopic(kNoWindow, help, kWelcomeTopic)) {
     system.ShowHelpTopic(program.ToolbarWindow(), help, kWelcomeTopic);
@@ -77,6 +81,16 @@ bool FindFolders(Program& program) {
   DataFolder data = FindDataFolder(program.Services, program.ShippedPath);
   program.AppPath = std::move(data.Path);
   return data.Tell;
+}
+
+void TellOfCrash(Program& program) {
+  const std::string report = program.Services.Crashes.TakeUntold();
+  if (report.empty()) return;
+  program.Say(
+      program.ToolbarWindow(),
+      "Corvelle ended unexpectedly the last time. A report about it is on this computer:\r\n" +
+          report + "\r\n\r\nNothing has been sent to anyone.",
+      forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
 void TellWhereDataIs(Program& program) {
@@ -125,6 +139,8 @@ bool Main(Program& program) {
   LoadWindows(program);
   CloseStartupWindow(program);
   // Events ran: the companion may have been closed, and the program with it.
+  if (HasEnded(program)) return false;
+  TellOfCrash(program);
   if (HasEnded(program)) return false;
   if (elsewhere) TellWhereDataIs(program);
   if (HasEnded(program)) return false;

@@ -33,9 +33,11 @@ bool Program::DragHolds() const {
   return DragEntered && (input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey));
 }
 
-bool Program::TakesDrops() const noexcept {
-  return OpenQuestions == 0 && !StartingUp && !MenuBuilding && !IconsLoading && !ItemActionBusy &&
-         !MenuFormBusy && !AppBarBusy && !PosChangeRunning;
+bool Program::TakesDrops() const noexcept { return OpenQuestions == 0 && !IsWorking(); }
+
+bool Program::IsWorking() const noexcept {
+  return StartingUp || MenuBuilding || IconsLoading || ItemActionBusy || MenuFormBusy ||
+         AppBarBusy || PosChangeRunning;
 }
 
 void Program::DoEvents() {
@@ -79,10 +81,14 @@ void Program::ReadEdgeFlags() {
 }
 
 int Program::Say(WindowId owner, std::string_view text, unsigned flags) {
+  return SayAs(Title, owner, text, flags);
+}
+
+int Program::SayAs(std::string_view title, WindowId owner, std::string_view text, unsigned flags) {
   const forms::CountScope asking(OpenQuestions);
   const InputHold strip(Ports.Toolbar, owner);
   const InputHold menu(Ports.QMenu, owner);
-  return Windows.ShowMessage(owner, text, Title, flags);
+  return Windows.ShowMessage(owner, text, title, flags);
 }
 
 void Program::TellMenusEdited() const {

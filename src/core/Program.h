@@ -5,6 +5,7 @@
 
 #include "core/OptionFlags.h"
 #include "core/RecordEdits.h"
+#include "core/SlowQuestions.h"
 #include "core/WindowPorts.h"
 #include "forms/WindowSystem.h"
 #include "platform/Platform.h"
@@ -16,13 +17,15 @@ namespace corvelle {
 class Program {
  public:
   Program(const Platform& services, forms::WindowSystem& windows)
-      : Services(services), Windows(windows) {}
+      : Services(services), Windows(windows), Slow(services.SlowAnswers) {}
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
   Platform Services;
   forms::WindowSystem& Windows;
   WindowPorts Ports;
+  /// What disks and drives are asked without waiting for them.
+  SlowQuestions Slow;
 
   /// Title of the application, which its message boxes bear.
   std::string Title = "Corvelle";
@@ -145,8 +148,11 @@ class Program {
   /// True while another program's drag that came over the strip goes on: it decides which menu is
   /// up, and the source keeps the foreground.
   [[nodiscard]] bool DragHolds() const;
-  /// False while a file or a menu is being worked on: a drop waits, which OLE calls refusing it.
+  /// False while the program works on a file or a menu, or waits for an answer: a drop waits, which
+  /// OLE calls refusing it.
   [[nodiscard]] bool TakesDrops() const noexcept;
+  /// True while a file or a menu is being worked on: nobody else rewrites one meanwhile.
+  [[nodiscard]] bool IsWorking() const noexcept;
 
   /// Shows the hint, or closes it when the text is empty.
   void SetHint(std::string_view text);
@@ -166,6 +172,8 @@ class Program {
   /// answered neither the strip nor the menu window takes input; events run all the same, so that
   /// whoever asks works on copies.
   int Say(WindowId owner, std::string_view text, unsigned flags);
+  /// The same with a title of its own.
+  int SayAs(std::string_view title, WindowId owner, std::string_view text, unsigned flags);
 
   /// Tells Ports.MenuEdits of an edit. Whoever changes what a menu file or a single button's file
   /// holds, other than that port's own window, calls it as soon as the file is written.

@@ -104,6 +104,12 @@ class ToolbarPort : public AskingWindow {
   virtual void InitButtons() = 0;
   /// Draws the buttons anew without moving anything.
   virtual void RefreshToolbar() = 0;
+  /// Reads the menu buttons, or the single buttons, again and draws them on a strip that keeps its
+  /// size.
+  virtual void RefreshToolbarButtons() {}
+  virtual void RefreshSingleButtons() {}
+  /// Shows the window in front, without making it active, if it is hidden.
+  virtual void ShowToolbar() {}
   virtual void HideWindow() = 0;
   /// The date at the far end of the single buttons: shown, hidden and placed; its text.
   virtual void DoLabelDate() = 0;
@@ -397,6 +403,8 @@ class PropertiesPort : public LoadedWindow {
   /// Shows it with these fields for the current entry (Program::Entry).
   virtual void ShowProperties(std::string_view title, std::string_view icon,
                               std::string_view command) = 0;
+  /// The strip stands somewhere else by now: the picture of it at an edge goes.
+  virtual void HidePreview() {}
 };
 
 /// A window with a box for an icon text, as the icon library sees it.
@@ -407,8 +415,8 @@ class IconBoxPort {
   /// The window that the library belongs to. It outlives the library's window, and is disabled
   /// while that is up.
   [[nodiscard]] virtual forms::Form& BoxWindow() = 0;
-  /// The library is open for it (`Browsing` is 1), until false, which comes when the library's
-  /// window is gone.
+  /// The library is open for it (`Browsing` is 1), until false, which comes when the library
+  /// closes.
   virtual void SetBrowsing(bool browsing) = 0;
   /// The icon text that the user chose: it goes into the box for the icon (`txtFile` of `frmCust`,
   /// which `UpdateField` confirms; `txtIcon` of `frmProperties`, whose `DrawIcon` runs). Comes
@@ -432,9 +440,12 @@ class WebLinkPort {
   /// Notes an address dropped on a button, on the row of single buttons (tag "SingleButtons") or in
   /// a menu, for `file`. The dialog opens when the drop has returned to the program it came from.
   /// For an item of a menu (tag "F" and the button's index) the current entry is that item, and the
-  /// menu's capture is on; for the end of a button's menu the tag is the index alone.
+  /// menu's capture is on; for the end of a button's menu the tag is the index alone. In the row the
+  /// file is that of the button under the drop, empty where there is none.
   virtual void OfferWebLink(std::string_view url, std::string_view title, std::string_view tag,
                             std::string_view file) = 0;
+  /// The program ends: an address that waits is given up, and its window goes.
+  virtual void EndWebLink() {}
 };
 
 /// A window that shows what the menu files hold, and so wants to know of edits made elsewhere.
@@ -471,6 +482,7 @@ struct WindowPorts {
   PopupPort* Popup = nullptr;
   BuiltInCommandsPort* BuiltInCommands = nullptr;
   BrowserPort* Browser = nullptr;
+  HelpPort* Help = nullptr;
   ShellLinksPort* ShellLinks = nullptr;
   // Windows that are loaded on demand and closed at the end.
   LoadedWindow* NetSearch = nullptr;

@@ -26,6 +26,8 @@ struct DragData {
   std::optional<std::vector<std::string>> Files;
   /// Nothing when the source offers no text.
   std::optional<std::string> Text;
+  /// The title of the page that a dragged web address leads to; empty when the source gives none.
+  std::string Title;
 
   friend bool operator==(const DragData&, const DragData&) = default;
 };

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "base/Text.h"
 #include "base/Utf8.h"
 
 namespace corvelle::forms {
@@ -12,6 +13,9 @@ namespace {
 
 constexpr std::size_t kHeaderLength = 20;
 constexpr std::size_t kWideFlagAt = 16;
+// The number of files, and of the first one its class, sizes, marks and times come before its name.
+constexpr std::size_t kFirstNameAt = 76;
+constexpr std::size_t kNameCharacters = 260;
 
 std::uint32_t NumberAt(std::string_view block, std::size_t at) noexcept {
   std::uint32_t number = 0;
@@ -66,6 +70,23 @@ std::string ParseWideText(std::string_view block) {
 
 std::string ParseNarrowText(std::string_view block, const CodePage& ansi) {
   return ansi.Decode(block.substr(0, block.find('\0')));
+}
+
+DraggedLink ParseLink(std::string_view text) {
+  const std::vector<std::string> lines = SplitLines(text);
+  DraggedLink link;
+  if (!lines.empty()) link.Address = Trim(lines[0]);
+  if (lines.size() > 1) link.Title = Trim(lines[1]);
+  return link;
+}
+
+std::string ParseLinkFileTitle(std::string_view block, bool wide, const CodePage& ansi) {
+  constexpr std::string_view kLinkEnd = ".url";
+  if (block.size() < kFirstNameAt || NumberAt(block, 0) == 0) return {};
+  const std::string_view field = block.substr(kFirstNameAt, kNameCharacters * (wide ? 2 : 1));
+  const std::string name = wide ? ParseWideText(field) : ParseNarrowText(field, ansi);
+  if (!EndsWithNoCase(name, kLinkEnd)) return {};
+  return Trim(std::string_view(name).substr(0, name.size() - kLinkEnd.size()));
 }
 
 }  // namespace corvelle::forms

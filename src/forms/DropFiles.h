@@ -19,4 +19,20 @@ namespace corvelle::forms {
 [[nodiscard]] std::string ParseWideText(std::string_view block);
 [[nodiscard]] std::string ParseNarrowText(std::string_view block, const CodePage& ansi);
 
+/// A dragged web address (the formats "UniformResourceLocatorW" and "UniformResourceLocator"): its
+/// first line, and the title that some sources give on the second one; trimmed.
+struct DraggedLink {
+  std::string Address;
+  std::string Title;
+
+  friend bool operator==(const DraggedLink&, const DraggedLink&) = default;
+};
+[[nodiscard]] DraggedLink ParseLink(std::string_view text);
+
+/// The title in a block of the format "FileGroupDescriptorW" (or, with narrow characters,
+/// "FileGroupDescriptor"), which names the file that a dragged link would become: the name without
+/// its ".url". Empty for a block that is none and for any other file.
+[[nodiscard]] std::string ParseLinkFileTitle(std::string_view block, bool wide,
+                                             const CodePage& ansi);
+
 }  // namespace corvelle::forms

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -70,6 +71,9 @@ class Form : public Surface {
   /// see what is left. An open list or a text of several lines gets its Enter, Esc and Tab first.
   void SetKeyPreview(bool preview) noexcept { keyPreview_ = preview; }
 
+  /// F1 was pressed, wherever the focus is in the form. With a handler nobody else gets that key.
+  std::function<void()> HelpAsked;
+
  protected:
   Form(WindowSystem& windows, std::string name, BorderStyle border = BorderStyle::None,
        bool inTaskbar = false);
@@ -123,6 +127,8 @@ class Form : public Surface {
   // The keys of controls (FormKeys.cpp). True when the control does not get the key.
   bool ControlKey(Window& focus, int keyCode, ShiftState shift);
   bool ControlCharacter(Window& focus, char32_t character);
+  /// True when the key asked for help.
+  bool AskHelp(int keyCode, ShiftState shift);
   bool Act(DialogAction action, Window& focus, int keyCode, ShiftState shift);
   [[nodiscard]] DialogScene SceneOf(const Window& focus, char32_t letter) const;
   /// All windows inside that can be seen and are enabled, each before what is inside it.

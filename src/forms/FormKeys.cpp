@@ -47,6 +47,7 @@ bool Form::ControlKey(Window& focus, int keyCode, ShiftState shift) {
   const Alive::Watch form = MakeWatch();
   const auto gone = [&] { return control.Gone() || form.Gone() || focus.Peer() == nullptr; };
   if (ComesFirst(focus.Keys().Wants, keyCode, shift)) return false;
+  if (AskHelp(keyCode, shift)) return kUsedUp;
   if (keyPreview_) {
     swallowed_ = false;
     Form_KeyDown(keyCode, shift);
@@ -140,7 +141,15 @@ bool Form::ControlCharacter(Window& focus, char32_t character) {
   return kUsedUp;
 }
 
+bool Form::AskHelp(int keyCode, ShiftState shift) {
+  if (keyCode != key::F1 || shift != ShiftState{} || !HelpAsked) return false;
+  const auto handler = HelpAsked;  // it may end the form
+  handler();
+  return true;
+}
+
 void Form::OnKeyDown(int keyCode, ShiftState shift) {
+  if (AskHelp(keyCode, shift)) return;
   const Alive::Watch form = MakeWatch();
   Form_KeyDown(keyCode, shift);
   if (!form.Gone() && loaded_) PressAccelerator(keyCode, shift);

@@ -23,6 +23,12 @@ void TreeView::SetOverlay(int overlay, int image) {
   if (Own() != nullptr) Own()->SetOverlay(overlay, image);
 }
 
+void TreeView::ClearImages() {
+  if (Own() != nullptr) return;
+  images_.clear();
+  overlays_.clear();
+}
+
 NodeId TreeView::Insert(NodeId parent, NodeId before, NodeLook look) {
   const NodeId node = nodes_.Insert(parent, before, std::move(look));
   if (Own() != nullptr && node != kNoNode) Own()->Insert(node, parent, before, Look(node));

@@ -46,7 +46,9 @@ inline constexpr int Down = 40;
 inline constexpr int Insert = 45;
 inline constexpr int Delete = 46;
 inline constexpr int Menu = 93;
+inline constexpr int F1 = 112;
 inline constexpr int F2 = 113;
+inline constexpr int F3 = 114;
 inline constexpr int F4 = 115;
 inline constexpr int F5 = 116;
 inline constexpr int F10 = 121;
@@ -58,6 +60,7 @@ using OleColor = std::uint32_t;
 
 namespace color {
 inline constexpr OleColor WindowGround = 0x80000005;
+inline constexpr OleColor WindowText = 0x80000008;
 inline constexpr OleColor Highlight = 0x8000000D;
 inline constexpr OleColor HighlightText = 0x8000000E;
 inline constexpr OleColor ButtonFace = 0x8000000F;

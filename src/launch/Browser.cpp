@@ -116,7 +116,7 @@ std::string Browser::ServiceName() {
   return std::string(source.Fallback);
 }
 
-void Browser::OpenUrl(std::string_view url) {
+bool Browser::OpenUrl(std::string_view url) {
   // The text may go with the window that it came from while events run.
   const std::string address(url);
   if (!BrowserUseDde && !BrowserUseShell) InitBrowser();
@@ -128,10 +128,12 @@ void Browser::OpenUrl(std::string_view url) {
   if (BrowserUseDde) {
     OpenByDde(address);
     // An address that a browser has taken is not given to another one.
-    if (BrowserUseDde) return;
+    if (BrowserUseDde) return true;
   }
   if (BrowserUseShell) OpenByShell(address);
-  if (!BrowserUseDde && !BrowserUseShell) ShowBrowserError();
+  if (BrowserUseDde || BrowserUseShell) return true;
+  ShowBrowserError();
+  return false;
 }
 
 bool Browser::AnotherIsChosen() {

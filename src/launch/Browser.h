@@ -34,7 +34,7 @@ class Browser final : public BrowserPort {
   /// program for web pages, else the one for .url files.
   void InitBrowser();
 
-  void OpenUrl(std::string_view url) override;
+  bool OpenUrl(std::string_view url) override;
   void OpenMail(std::string_view address) override;
   std::string WindowTitle(std::string_view url) override;
   void NoteDropSource(WindowId window) override;

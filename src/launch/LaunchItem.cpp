@@ -100,7 +100,7 @@ void RunCommandLine(Program& program, std::string_view commandLine, std::string_
 void OpenOrRun(Program& program, const std::string& text) {
   const std::string folder = Trim(GetItemWorkDir(text));
   if (OpenSettled(program, text, std::nullopt, IfAny(folder))) return;
-  program.DoEvents();
+  program.Windows.PaintWaiting();
   RunCommandLine(program, text, text);
 }
 
@@ -195,11 +195,11 @@ void OpenDropped(Program& program, const std::string& dropped, const std::string
 }  // namespace
 
 std::string LaunchItem(Program& program, std::string_view command) {
-  // The text may go with the window that it came from while events run.
-  const std::string given(command);
+  // What the hint and the menu covered is seen again, but the next choice waits: it would be
+  // started before this one.
   program.SetHint({});
-  program.DoEvents();
-  const CommandForm form = ClassifyCommand(given);
+  program.Windows.PaintWaiting();
+  const CommandForm form = ClassifyCommand(command);
   RunForm(program, form.Kind, form.Text);
   return form.Text;
 }
@@ -207,7 +207,7 @@ std::string LaunchItem(Program& program, std::string_view command) {
 void OpenWithItem(Program& program, std::string_view droppedFile, std::string_view target) {
   const std::string dropped = Quoted(Trim(droppedFile));
   const std::string wanted = Trim(target);
-  program.DoEvents();
+  program.Windows.PaintWaiting();
   OpenDropped(program, dropped, wanted);
   program.Windows.SetMousePointer(forms::MousePointer::Default);
 }

@@ -7,8 +7,8 @@ namespace corvelle {
 
 class Program;
 
-// What is chosen is started here. Events run meanwhile, so whoever calls must be ready for anything
-// to have happened.
+// What is chosen is started here, and nothing that waits comes before it. The shell and messages
+// let events run meanwhile, so whoever calls must be ready for anything to have happened.
 
 /// Carries out the command of an entry, whatever its form. Failures that the user should know of
 /// are shown. Returns the command as it was run: trimmed and without its raw marker.

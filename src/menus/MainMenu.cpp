@@ -250,6 +250,8 @@ void MainMenu::Minimize() {
 void MainMenu::HelpTopics() {
   const std::string help = program_.ShippedFile("corvelle.hlp");
   if (!program_.Services.Files.FileExists(help)) {
+    HelpPort* const pages = program_.Ports.Help;
+    if (pages != nullptr && pages->ShowPage(HelpPage::Contents)) return;
     program_.Say(program_.ToolbarWindow(),
                  "Corvelle help file could not be found in Corvelle folder.",
                  forms::msgbox::IconStop | forms::msgbox::OnTop);

@@ -302,7 +302,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void DropFiles(const std::vector<std::string>& names);
   void OpenDropped(const std::string& file, int item);
   void InsertFiles(const std::vector<std::string>& names, int item);
-  void OfferAddress(std::string_view text, int item);
+  void OfferAddress(const forms::DragData& data, int item);
 
   // Arrow buttons and pages (frmQMenuPages.cpp).
   void TurnTo(int page);

@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "core/DroppedFiles.h"
+#include "core/DroppedTitle.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
 #include "launch/FileTitle.h"
@@ -82,7 +83,7 @@ void frmQMenu::Form_OLEDragDrop(DragData& data, DropEffect& effect, MouseButton 
     if (data.Files) {
       DropFiles(*data.Files);
     } else {
-      OfferAddress(*data.Text, program_.SelectedItem);
+      OfferAddress(data, program_.SelectedItem);
     }
   }
   if (MenuVisible()) Timer1.SetEnabled(true);
@@ -142,19 +143,16 @@ void frmQMenu::InsertFiles(const std::vector<std::string>& names, int item) {
 }
 
 // The dialog writes the entry before the item under the drop, or at the end of the button's menu.
-void frmQMenu::OfferAddress(std::string_view text, int item) {
+void frmQMenu::OfferAddress(const DragData& data, int item) {
   WebLinkPort* const links = program_.Ports.WebLink;
-  const auto address = DroppedAddress(text);
+  const auto address = DroppedAddress(*data.Text);
   if (links == nullptr || !address) return;
   const std::string file = StoredMenuFile(MenuFile);
   if (item != 0) FillCurrentItem(item);
   program_.Entry.CurFile = file;
   const std::string tag = item != 0 ? MenuKey : MenuKey.substr(1);
   if (program_.Ports.Capture != nullptr) program_.Ports.Capture->CaptureMenu();
-  BrowserPort* const browser = program_.Ports.Browser;
-  const std::string title =
-      browser != nullptr ? Trim(browser->WindowTitle(*address)) : std::string();
-  links->OfferWebLink(*address, title, tag, file);
+  links->OfferWebLink(*address, TitleOfDrop(program_, data, *address), tag, file);
 }
 
 }  // namespace corvelle

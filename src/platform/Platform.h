@@ -3,7 +3,9 @@
 namespace corvelle {
 
 class AppBars;
+class Clipboard;
 class CodePage;
+class CrashReports;
 class DdeClient;
 class DesktopWindows;
 class FileAssociations;
@@ -40,6 +42,8 @@ struct Platform {
   AppBars& Bars;
   TrayIcons& Tray;
   Lookups& SlowAnswers;
+  Clipboard& Copies;
+  CrashReports& Crashes;
 };
 
 }  // namespace corvelle

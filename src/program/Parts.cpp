@@ -1,5 +1,7 @@
 #include "program/Parts.h"
 
+#include <initializer_list>
+
 #include "icons/IconResolution.h"
 
 namespace corvelle {
@@ -31,6 +33,29 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.ShellLinks = &Links;
   ports.StartupLink = &TheStartupLink;
   ports.DragImage = &Carried;
+  ports.WebLink = &WebLink;
+  ports.Library = &Library;
+  ports.Help = &TheHelp;
+  ports.NetSearch = &NetSearch;
+  ports.About = &About;
+  ports.Customize = &Customize;
+  ports.CustomizeIcon = &Customize;
+  ports.Properties = &Properties;
+  ports.PropertiesIcon = &Properties;
+  WireHelp();
+}
+
+void Parts::WireHelp() {
+  const std::initializer_list<forms::Form*> windows = {
+      &Toolbar, &Companion, &Tip, &NetSearch, &About, &Library, &WebLink, &Customize, &Properties};
+  for (forms::Form* const window : windows) {
+    window->HelpAsked = [this, window] { TheHelp.ShowPageOf(window->Name()); };
+  }
+  // A menu that stays up would cover the page.
+  Menu.HelpAsked = [this] {
+    Toolbar.ResetMenu();
+    TheHelp.ShowPageOf(Menu.Name());
+  };
 }
 
 }  // namespace corvelle

@@ -1,14 +1,20 @@
 #pragma once
 
 #include "about/DefaultEntries.h"
+#include "about/frmAbout.h"
 #include "core/Program.h"
+#include "customize/frmCust.h"
 #include "icons/IconLibrary.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
+#include "launch/HelpViewer.h"
+#include "library/frmLibrary.h"
 #include "menus/FolderMenus.h"
 #include "menus/MainMenu.h"
 #include "menus/SpecialFolders.h"
 #include "menus/frmQMenu.h"
+#include "properties/frmProperties.h"
+#include "search/frmNetSearch.h"
 #include "shell/LinkFiles.h"
 #include "shell/StartupLink.h"
 #include "toolbar/DragImage.h"
@@ -20,6 +26,7 @@
 #include "toolbar/frmTip.h"
 #include "toolbar/frmToolbar.h"
 #include "toolbar/mAppBar.h"
+#include "weblink/frmURL.h"
 
 namespace corvelle {
 
@@ -62,6 +69,17 @@ class Parts {
   LinkReader Links{TheProgram};
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};
+  frmURL WebLink{TheProgram};
+  frmLibrary Library{TheProgram};
+  HelpViewer TheHelp{TheProgram};
+  frmNetSearch NetSearch{TheProgram};
+  frmAbout About{TheProgram};
+  frmCust Customize{TheProgram};
+  frmProperties Properties{TheProgram};
+
+ private:
+  /// F1 opens the page of each window.
+  void WireHelp();
 };
 
 }  // namespace corvelle

@@ -5,6 +5,7 @@
 
 #include "base/FieldText.h"
 #include "base/Text.h"
+#include "core/RecordEdits.h"
 
 namespace corvelle {
 
@@ -56,7 +57,7 @@ bool LosesCommand(const ButtonNode& node) {
 }
 
 std::string LossText(const ButtonNode& node) {
-  return "Apply hides \"" + node.Title + "\" and removes its command: " + node.Name;
+  return "Apply hides \"" + node.Title + "\" and removes its command:";
 }
 
 std::size_t ButtonOrder::Find(std::string_view key) const noexcept {
@@ -103,6 +104,29 @@ void ButtonOrder::SetChecked(std::size_t at, bool checked) {
 
 void ButtonOrder::CheckNodes() {
   for (ButtonNode& node : nodes_) node.Tag = NodeTag(PathOfTag(node.Tag), node.Checked);
+}
+
+std::size_t ButtonOrder::FindPath(std::string_view path) const noexcept {
+  const auto found = std::find_if(nodes_.begin(), nodes_.end(), [path](const ButtonNode& node) {
+    return EqualNoCase(PathOfTag(node.Tag), path);
+  });
+  return found != nodes_.end() ? static_cast<std::size_t>(found - nodes_.begin()) : kNone;
+}
+
+std::string ButtonOrder::KeyOnStrip(std::string_view key, std::size_t at) const {
+  if (at >= nodes_.size() || (!IsButtonTag(key) && !IsMenuTag(key))) return std::string(key);
+  // A hidden button has no number, and number 0 is none.
+  if (!nodes_[at].Checked) return std::string(key.substr(0, 1)) + "0";
+  const auto shown = std::count_if(nodes_.begin(), nodes_.begin() + static_cast<std::ptrdiff_t>(at),
+                                   [](const ButtonNode& node) { return node.Checked; });
+  return std::string(key.substr(0, 1)) + std::to_string(shown + 2);
+}
+
+void ButtonOrder::SetRecord(std::size_t at, std::string_view stored, const CodePage& ansi) {
+  if (at >= nodes_.size()) return;
+  const bool checked = nodes_[at].Checked;
+  SetFile(at, PathOfTag(nodes_[at].Tag), stored, ansi);
+  nodes_[at].Checked = checked;
 }
 
 void ButtonOrder::SetFile(std::size_t at, std::string_view path, std::string_view stored,

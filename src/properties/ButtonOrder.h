@@ -43,7 +43,7 @@ struct ButtonNode {
 
 /// True if hiding the button, as its box says, takes a command from it.
 [[nodiscard]] bool LosesCommand(const ButtonNode& node);
-/// What the user is told of such a button.
+/// What the user is told of such a button, in front of its command.
 [[nodiscard]] std::string LossText(const ButtonNode& node);
 
 /// The buttons from first to last. Indices are from 0.
@@ -71,6 +71,14 @@ class ButtonOrder {
   /// Copies the check boxes into the tags.
   void CheckNodes();
 
+  /// The button whose file has that path; kNone without one.
+  [[nodiscard]] std::size_t FindPath(std::string_view path) const noexcept;
+  /// The key ("B" or "F" and a number) of a button, or of its menu, as the strip numbers those that
+  /// it shows: 1 is the main menu's. `key` tells the letter; any other key stays.
+  [[nodiscard]] std::string KeyOnStrip(std::string_view key, std::size_t at) const;
+
+  /// The button's record holds these bytes. Its box stays as the user set it.
+  void SetRecord(std::size_t at, std::string_view stored, const CodePage& ansi);
   /// The button's file is called so by now and its record holds these bytes.
   void SetFile(std::size_t at, std::string_view path, std::string_view stored,
                const CodePage& ansi);

@@ -83,6 +83,18 @@ ItemOutcome CancelFileItem(FileSystem& files, const CodePage& ansi, std::string_
   return {ItemResult::Written};
 }
 
+void FollowOrder(FileItem& item, std::string_view path, std::string_view button,
+                 const CodePage& ansi) {
+  item.File = path;
+  if (item.Record != 1) return;
+  constexpr std::size_t kNameAt = kTitleWidth + kIconWidth;
+  const std::string name(button.substr(kNameAt));
+  for (std::string* bytes : {&item.StartingBytes, &item.CurrentBytes}) {
+    if (!bytes->empty()) bytes->replace(kNameAt, kNameWidth, name);
+  }
+  item.Starting.FName = item.Current.FName = ParseRecord(button, ansi).FName;
+}
+
 std::string_view RefusalText(ItemResult result) noexcept {
   switch (result) {
     case ItemResult::FolderEntry:

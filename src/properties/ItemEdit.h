@@ -54,6 +54,11 @@ ItemOutcome UpdateFileItem(FileSystem& files, const CodePage& ansi, std::string_
 ItemOutcome CancelFileItem(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
                            FileItem& item);
 
+/// The order of the buttons gave the entry's file another path, and the record of its button the
+/// bytes `button`. What the entry had to begin with keeps all but the third field of that.
+void FollowOrder(FileItem& item, std::string_view path, std::string_view button,
+                 const CodePage& ansi);
+
 /// What the user is told; empty for what succeeded, and for a failure of the disk, which is the
 /// caller's to tell.
 [[nodiscard]] std::string_view RefusalText(ItemResult result) noexcept;

@@ -198,6 +198,8 @@ void Popup::ShowFolderProperties() {
     return;
   }
   entry.CurRecord = number;
+  // What the file holds now is what is edited.
+  entry.CurStored.clear();
   entry.CurTitle = record->FTitle;
   entry.CurIcon = record->FIcon;
   entry.CurCommand = record->FName;

@@ -58,6 +58,8 @@ void frmMinimize::Form_Unload() {
   EndWindow(ports.ImageWindow);
   EndWindow(ports.Toolbar);
   EndWindow(ports.Library);
+  if (ports.WebLink != nullptr) ports.WebLink->EndWebLink();
+  EndWindow(ports.About);
   if (ports.Hint != nullptr) ports.Hint->ReleaseHint();
   program_.Windows.Quit();
 }

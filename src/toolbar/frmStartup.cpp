@@ -57,7 +57,8 @@ void frmStartup::Form_Load() {
   Label1.Move(Label2.Right(), Label2.Top(), Label1.Width(), Label1.Height());
 
   SetAutoRedraw(true);
-  Print(Label2.Left(), Image1.Top(), "Corvelle " + std::string(VersionText()), forms::color::ButtonText);
+  Print(Label2.Left(), Image1.Top(), program_.Title + " " + std::string(kVersion),
+        forms::color::ButtonText);
 }
 
 void frmStartup::AddDot() {

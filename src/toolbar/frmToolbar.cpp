@@ -358,6 +358,7 @@ void frmToolbar::RebuildAtTop() {
   if (IsLoaded()) InitButtons();
   if (IsLoaded()) Show();
   program_.AppBarBusy = false;
+  if (program_.Ports.Properties != nullptr) program_.Ports.Properties->HidePreview();
   if (capture != nullptr && ImageLoaded()) capture->ResetPicture1();
 }
 

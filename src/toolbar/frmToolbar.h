@@ -64,7 +64,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// Reads the menu files in their order and makes every button anew.
   void DoToolbarButtons() override;
   /// The same on a strip that keeps its size.
-  void RefreshToolbarButtons();
+  void RefreshToolbarButtons() override;
+  void RefreshSingleButtons() override { Singles.RefreshSingleButtons(); }
   /// Reads the files of the single buttons and makes their row anew.
   void DoSingleButtons() override { Singles.DoSingleButtons(); }
   /// Draws the buttons anew without moving anything, after a change of the system's colours.
@@ -190,7 +191,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void CheckToolbarMove() override;
   void CacheDisplayMetrics();
   /// Shows the window in front, without making it active, if it is hidden.
-  void ShowToolbar();
+  void ShowToolbar() override;
   void BringToForeground() override;
   void ShowAndRefresh() override;
   void HideWindow() override { Hide(); }
@@ -423,8 +424,8 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void GiveForegroundBack();
   void DropFiles(std::vector<std::string> names, int button);
   void ShowDropped(int button);
-  void DropAddress(std::string_view text, int button);
-  void OfferAddress(const std::string& address, const std::string& tag, const std::string& file);
+  void DropAddress(const forms::DragData& data, int button);
+  void OfferAddress(const forms::DragData& data, std::string_view tag, const std::string& file);
   [[nodiscard]] bool IsItemButton(int button) const noexcept;
   /// Index of the item button with that menu file, 0 for none.
   [[nodiscard]] int ItemButtonOf(std::string_view path) const;

@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "core/Carry.h"
 #include "core/DroppedFiles.h"
+#include "core/DroppedTitle.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
 #include "launch/FileTitle.h"
@@ -194,7 +195,7 @@ void frmToolbar::picToolbar_OLEDragDrop(DragData& data, DropEffect& effect, Mous
   } else if (data.Files) {
     DropFiles(std::exchange(*data.Files, {}), button);
   } else {
-    DropAddress(*data.Text, button);
+    DropAddress(data, button);
   }
 }
 
@@ -246,21 +247,17 @@ void frmToolbar::tmrRefused_Timer() {
                forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
-void frmToolbar::DropAddress(std::string_view text, int button) {
+void frmToolbar::DropAddress(const DragData& data, int button) {
   const std::string path = ToolbarButtons[static_cast<std::size_t>(button)].Path;
-  const auto address = DroppedAddress(text);
   EndDragOver();
-  if (address && IsLoaded()) OfferAddress(*address, std::to_string(button), path);
+  if (IsLoaded()) OfferAddress(data, std::to_string(button), path);
 }
 
-void frmToolbar::OfferAddress(const std::string& address, const std::string& tag,
-                              const std::string& file) {
+void frmToolbar::OfferAddress(const DragData& data, std::string_view tag, const std::string& file) {
   WebLinkPort* const links = program_.Ports.WebLink;
-  if (links == nullptr) return;
-  BrowserPort* const browser = program_.Ports.Browser;
-  const std::string title =
-      browser != nullptr ? Trim(browser->WindowTitle(address)) : std::string();
-  links->OfferWebLink(address, title, tag, file);
+  const auto address = DroppedAddress(*data.Text);
+  if (links == nullptr || !address) return;
+  links->OfferWebLink(*address, TitleOfDrop(program_, data, *address), tag, file);
 }
 
 // ---- the row of single buttons ----
@@ -288,13 +285,11 @@ void frmToolbar::picSingleButton_OLEDragDrop(DragData& data, DropEffect& effect,
     singles->DropFilesOnSingles(std::exchange(*data.Files, {}), program_.DragButtons);
     return;
   }
+  // Events run from here on: the pointer may go on, and the row may be another one.
+  const std::string target = Singles.FileUnderPointer();
   program_.SetHint("");
   ResetMenu();
-  if (!takes || !IsLoaded()) return;
-  if (data.Text) {
-    const auto address = DroppedAddress(*data.Text);
-    if (address) OfferAddress(*address, std::string(kSinglesTag), {});
-  }
+  if (takes && IsLoaded() && data.Text) OfferAddress(data, kSinglesTag, target);
 }
 
 }  // namespace corvelle

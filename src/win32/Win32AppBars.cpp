@@ -1,5 +1,6 @@
 #include "win32/Win32AppBars.h"
 
+#include "win32/CrashCatcher.h"
 #include "win32/Sys.h"
 
 namespace corvelle::win32 {
@@ -14,6 +15,8 @@ std::uintptr_t Win32AppBars::Message(std::uint32_t message, AppBarRecord& data) 
   bar.lParam = data.lParam;
   const std::uintptr_t answer = SHAppBarMessage(message, &bar);
   data.rc = FromRect(bar.rc);
+  if (message == ABM_NEW && answer != 0) NoteBar(bar.hWnd);
+  if (message == ABM_REMOVE) NoteBar(nullptr);
   return answer;
 }
 

@@ -56,6 +56,43 @@ std::optional<std::string> BlockOf(IDataObject& source, CLIPFORMAT format) {
   return bytes;
 }
 
+CLIPFORMAT FormatOf(const wchar_t* name) {
+  return static_cast<CLIPFORMAT>(RegisterClipboardFormatW(name));
+}
+
+forms::DraggedLink LinkOf(IDataObject& source, const Win32CodePage& ansi) {
+  static const CLIPFORMAT kWide = FormatOf(L"UniformResourceLocatorW");
+  static const CLIPFORMAT kNarrow = FormatOf(L"UniformResourceLocator");
+  if (const auto wide = BlockOf(source, kWide)) {
+    return forms::ParseLink(forms::ParseWideText(*wide));
+  }
+  if (const auto narrow = BlockOf(source, kNarrow)) {
+    return forms::ParseLink(forms::ParseNarrowText(*narrow, ansi));
+  }
+  return {};
+}
+
+std::string LinkFileTitleOf(IDataObject& source, const Win32CodePage& ansi) {
+  static const CLIPFORMAT kWide = FormatOf(L"FileGroupDescriptorW");
+  static const CLIPFORMAT kNarrow = FormatOf(L"FileGroupDescriptor");
+  if (const auto wide = BlockOf(source, kWide)) {
+    return forms::ParseLinkFileTitle(*wide, true, ansi);
+  }
+  if (const auto narrow = BlockOf(source, kNarrow)) {
+    return forms::ParseLinkFileTitle(*narrow, false, ansi);
+  }
+  return {};
+}
+
+// A browser drags an address as text, as an address of its own format and as a file that is to be
+// made.
+void AddLink(IDataObject& source, const Win32CodePage& ansi, DragData& data) {
+  forms::DraggedLink link = LinkOf(source, ansi);
+  if (!data.Text && !link.Address.empty()) data.Text = std::move(link.Address);
+  if (!data.Text) return;
+  data.Title = link.Title.empty() ? LinkFileTitleOf(source, ansi) : std::move(link.Title);
+}
+
 // All is read at once and no reference is kept: a source that dies later takes nothing along.
 DragData DataOf(IDataObject* source) {
   DragData data;
@@ -69,6 +106,7 @@ DragData DataOf(IDataObject* source) {
   } else if (const auto narrow = BlockOf(*source, CF_TEXT)) {
     data.Text = forms::ParseNarrowText(*narrow, ansi);
   }
+  if (!data.Files) AddLink(*source, ansi, data);
   return data;
 }
 

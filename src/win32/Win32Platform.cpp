@@ -4,7 +4,9 @@
 
 #include "win32/ErrorMode.h"
 #include "win32/Win32AppBars.h"
+#include "win32/Win32Clipboard.h"
 #include "win32/Win32CodePage.h"
+#include "win32/Win32CrashReports.h"
 #include "win32/Win32Dde.h"
 #include "win32/Win32Desktop.h"
 #include "win32/Win32FileAssociations.h"
@@ -68,7 +70,9 @@ struct Win32Platform::Parts {
   Win32AppBars Bars;
   Win32TrayIcons Tray;
   Win32WindowSystem Windows;
+  Win32Clipboard Copies;
   Win32Lookups SlowAnswers{Windows.Posts()};
+  Win32CrashReports Crashes;
 };
 
 Win32Platform::Win32Platform() : parts_(std::make_unique<Parts>()) {}
@@ -91,7 +95,9 @@ Platform Win32Platform::Services() const {
           .Folders = parts_->Folders,
           .Bars = parts_->Bars,
           .Tray = parts_->Tray,
-          .SlowAnswers = parts_->SlowAnswers};
+          .SlowAnswers = parts_->SlowAnswers,
+          .Copies = parts_->Copies,
+          .Crashes = parts_->Crashes};
 }
 
 forms::WindowSystem& Win32Platform::Windows() const { return parts_->Windows; }

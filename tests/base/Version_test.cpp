@@ -7,7 +7,7 @@
 namespace corvelle {
 
 TEST(Version, IsANumberOfTwoParts) {
-  const std::string text(VersionText());
+  const std::string text(kVersion);
   const std::size_t point = text.find('.');
   ASSERT_NE(point, std::string::npos) << text;
   EXPECT_GE(std::stoi(text.substr(0, point)), 4);

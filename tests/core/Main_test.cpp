@@ -328,6 +328,27 @@ TEST_F(MainTest, ACompanionClosedWhileTheQuestionIsUpEndsTheStart) {
   EXPECT_TRUE(world.System.HelpCalls.empty());
 }
 
+TEST_F(MainTest, ACrashIsToldOnceByTheNextStart) {
+  PutFlags(kInstalled);
+  world.Crashes.Untold = "C:\\Crashes\\corvelle-1.txt";
+  world.Desktop.Answer(
+      "Corvelle ended unexpectedly the last time. A report about it is on this computer:\r\n"
+      "C:\\Crashes\\corvelle-1.txt\r\n\r\nNothing has been sent to anyone.",
+      forms::msgbox::AnswerOk);
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
+  EXPECT_TRUE(Main(program));
+  EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
+}
+
+TEST_F(MainTest, ACompanionClosedWhileACrashIsToldEndsTheStart) {
+  PutFlags(kInstalled);
+  world.Crashes.Untold = "C:\\Crashes\\corvelle-1.txt";
+  world.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { companion.UnloadWindow(); });
+  world.Desktop.Answer(forms::msgbox::AnswerOk);
+  EXPECT_FALSE(Main(program));
+}
+
 TEST_F(MainTest, ACompanionClosedBeforeTheQuestionLeavesItForTheNextStart) {
   // The last events before the question are the only ones after the windows are loaded.
   PutFlags("00000000100000000010000100000001");

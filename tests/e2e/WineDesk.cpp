@@ -416,10 +416,14 @@ void WineDesk::CloseOtherBar() {
 }
 
 void WineDesk::OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
-                              std::string_view text) {
+                              std::string_view text, std::string_view title) {
   dragsource::Offer offer;
   for (const std::string& file : files) offer.Files.push_back(Wide(file));
   if (files.empty()) offer.Text = Wide(text);
+  if (!title.empty()) {
+    offer.Link = offer.Text;
+    offer.LinkFile = Wide(std::string(title) + ".url");
+  }
   source_ = std::make_unique<dragsource::DragSource>(
       RECT{bounds.left, bounds.top, bounds.right, bounds.bottom}, std::move(offer));
   Wait([this] { return GetForegroundWindow() == source_->Window(); }, 5000);

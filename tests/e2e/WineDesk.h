@@ -63,7 +63,7 @@ class WineDesk final : public scenario::Desk {
   PixelRect OpenOtherBar(Edge at, int thickness) override;
   void CloseOtherBar() override;
   void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
-                      std::string_view text) override;
+                      std::string_view text, std::string_view title) override;
   std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
                      std::intptr_t lParam) override;
   void Post(std::string_view className, std::uint32_t message, std::uintptr_t wParam,

@@ -183,6 +183,14 @@ TEST_P(DragContract, TextOfAnyScriptComesToo) {
   EXPECT_EQ(notes_.LastData, text);
 }
 
+TEST_P(DragContract, TheTitleOfAWebAddressComesWithIt) {
+  const DragData link{.Text = "http://example.com/", .Title = "A page \xD0\xBF"};
+  home_->Offer(link, kAny);
+  DragTo(kInside);
+  Drop();
+  EXPECT_EQ(notes_.LastData, link);
+}
+
 TEST_P(DragContract, TheRightButtonDragsLikewise) {
   home_->Offer(Files(), kAny);
   notes_.Answer = DropEffect::Link;

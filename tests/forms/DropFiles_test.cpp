@@ -78,5 +78,43 @@ TEST(ParseText, EndsAtItsNulOrWithTheBlock) {
   EXPECT_EQ(ParseNarrowText("ab", kAnsi), "ab");
 }
 
+TEST(ParseLink, TheSecondLineIsTheTitle) {
+  EXPECT_EQ(ParseLink("http://example.com"), (DraggedLink{"http://example.com", ""}));
+  EXPECT_EQ(ParseLink("http://example.com\nA page"), (DraggedLink{"http://example.com", "A page"}));
+  EXPECT_EQ(ParseLink(" http://a \r\n A page \r\nmore"), (DraggedLink{"http://a", "A page"}));
+  EXPECT_EQ(ParseLink(""), DraggedLink{});
+}
+
+/// A block for one file, of the class and sizes that any source may leave out.
+std::string FileGroup(std::string_view name, bool wide, char count = 1) {
+  std::string block(76, '\0');
+  block[0] = count;
+  std::string field =
+      wide ? WideBytes(std::u16string(name.begin(), name.end())) : std::string(name);
+  field.resize(wide ? 520 : 260, '\0');
+  return block + field;
+}
+
+TEST(ParseLinkFileTitle, IsTheNameOfTheFileThatALinkWouldBecome) {
+  EXPECT_EQ(ParseLinkFileTitle(FileGroup("A page.url", true), true, kAnsi), "A page");
+  EXPECT_EQ(ParseLinkFileTitle(FileGroup("A page.URL", false), false, kAnsi), "A page");
+  EXPECT_EQ(ParseLinkFileTitle(FileGroup("picture.png", true), true, kAnsi), "");
+  EXPECT_EQ(ParseLinkFileTitle(FileGroup("A page.url", true, 0), true, kAnsi), "");
+  // Of several files the first one.
+  EXPECT_EQ(ParseLinkFileTitle(FileGroup("A.url", true, 2) + std::string(592, 'x'), true, kAnsi),
+            "A");
+  // A name without an end is as long as its field.
+  EXPECT_EQ(
+      ParseLinkFileTitle(FileGroup(std::string(256, 'a') + ".url", false) + "more", false, kAnsi),
+      std::string(256, 'a'));
+}
+
+TEST(ParseLinkFileTitle, DamagedBlocksGiveNothing) {
+  const std::string whole = FileGroup("A page.url", true);
+  for (const std::size_t length : {0U, 3U, 4U, 75U, 76U, 80U}) {
+    EXPECT_EQ(ParseLinkFileTitle(whole.substr(0, length), true, kAnsi), "") << length;
+  }
+}
+
 }  // namespace
 }  // namespace corvelle::forms

@@ -31,7 +31,13 @@ class LoggingBrowser final : public BrowserPort {
  public:
   explicit LoggingBrowser(CallLog& log) : log_(log) {}
 
-  void OpenUrl(std::string_view url) override { log_.push_back("OpenUrl " + std::string(url)); }
+  /// False: no browser takes an address.
+  bool Takes = true;
+
+  bool OpenUrl(std::string_view url) override {
+    log_.push_back("OpenUrl " + std::string(url));
+    return Takes;
+  }
   void OpenMail(std::string_view address) override {
     log_.push_back("OpenMail " + std::string(address));
   }

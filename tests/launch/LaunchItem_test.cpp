@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/Program.h"
@@ -396,43 +397,31 @@ TEST_F(LaunchItemTest, WithoutSpecialFoldersTheirNamesAreUnavailable) {
   EXPECT_EQ(Boxes(), 1U);
 }
 
-TEST_F(LaunchItemTest, TheHintClosesAndEventsRunBeforeAnythingStarts) {
+TEST_F(LaunchItemTest, TheHintClosesBeforeAnythingStarts) {
   AddServices();
   LoggingHint hint(log);
   program.Ports.Hint = &hint;
-  const forms::TimerId timer =
-      world.Desktop.StartTimer(1, [this] { log.emplace_back("events run"); });
-  world.Desktop.Jump(1);
   LaunchItem(program, "netsearch");
-  world.Desktop.StopTimer(timer);
-  EXPECT_EQ(log, (CallLog{"hint ", "events run", "ShowNetSearch"}));
+  EXPECT_EQ(log, (CallLog{"hint ", "ShowNetSearch"}));
 }
 
-TEST_F(LaunchItemTest, EventsRunBeforeTheCommandLineIsTried) {
-  // The shell takes its time to find out that it cannot open a thing.
-  world.Shell.WhileAsked([this](const Launch& launch) {
-    log.emplace_back(launch.How == Launch::Kind::Open ? "Open" : "Run");
-    world.Desktop.Jump(10);
+TEST_F(LaunchItemTest, AnotherChoiceThatWaitsIsStartedAfterThisOne) {
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [this, once = true]() mutable {
+    if (std::exchange(once, false)) LaunchItem(program, "C:\\Tools\\second.exe");
   });
-  const forms::TimerId timer =
-      world.Desktop.StartTimer(10, [this] { log.emplace_back("events run"); });
-  world.Shell.AddToPath("tool.exe");
-  LaunchItem(program, "tool.exe /x");
+  world.Files.Put("C:\\Tools\\second.exe", "");
+  for (const char* command : {"C:\\Tools\\tool.exe", "tool.exe /x"}) {
+    SCOPED_TRACE(command);
+    world.Shell.AddToPath("tool.exe");
+    // The shell takes its time to find out that it cannot open the second one.
+    world.Shell.WhileAsked([this](const Launch&) { world.Desktop.Jump(10); });
+    world.Desktop.Jump(1);
+    LaunchItem(program, command);
+    for (const Launch& launch : Launches()) EXPECT_NE(launch.File, "C:\\Tools\\second.exe");
+  }
+  world.Desktop.DoEvents();
   world.Desktop.StopTimer(timer);
-  EXPECT_EQ(log, (CallLog{"Open", "events run", "Run"}));
-}
-
-TEST_F(LaunchItemTest, TheCommandMayVanishWhileEventsRun) {
-  auto command = std::make_unique<std::string>("C:\\Tools\\tool.exe of a window that goes away");
-  const std::string kept = *command;
-  world.Shell.AddToPath(kept);
-  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] { command.reset(); });
-  world.Desktop.Jump(1);
-  LaunchItem(program, *command);
-  world.Desktop.StopTimer(timer);
-  EXPECT_EQ(command, nullptr);
-  ASSERT_FALSE(Launches().empty());
-  EXPECT_EQ(Launches().front().File, kept);
+  EXPECT_EQ(Launches().back().File, "C:\\Tools\\second.exe");
 }
 
 TEST_F(OpenWithItemTest, ADroppedFileIsTheProgramsParameter) {
@@ -442,22 +431,18 @@ TEST_F(OpenWithItemTest, ADroppedFileIsTheProgramsParameter) {
   EXPECT_EQ(Launches(), std::vector{expected});
 }
 
-TEST_F(OpenWithItemTest, EventsRunFirstAndMayTakeTheTextsAway) {
-  std::string dropped = "C:\\Docs\\plan.txt";
-  std::string target = "C:\\Tools\\tool.exe";
-  bool ran = false;
-  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] {
-    ran = Launches().empty();
-    dropped.assign(dropped.size(), 'x');
-    target.assign(target.size(), 'x');
+TEST_F(OpenWithItemTest, AChoiceThatWaitsIsStartedAfterThisOne) {
+  const forms::TimerId timer = world.Desktop.StartTimer(1, [this, once = true]() mutable {
+    if (std::exchange(once, false)) LaunchItem(program, "C:\\Tools\\tool.exe");
   });
   world.Desktop.Jump(1);
-  OpenWithItem(program, dropped, target);
-  world.Desktop.StopTimer(timer);
-  EXPECT_TRUE(ran);
+  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
   Launch expected = Opened("C:\\Tools\\tool.exe");
   expected.Parameters = "\"C:\\Docs\\plan.txt\"";
   EXPECT_EQ(Launches(), std::vector{expected});
+  world.Desktop.DoEvents();
+  world.Desktop.StopTimer(timer);
+  EXPECT_EQ(Launches().size(), 2U);
 }
 
 TEST_F(OpenWithItemTest, ASpecialFolderTakesTheDroppedFile) {

@@ -47,7 +47,7 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
     menu_.SetPoll(false);
     menu_.HideMenu();
     menu_.SetOwnerTag("0");
-    program_.DoEvents();
+    program_.Windows.PaintWaiting();
   }
   void RefreshMenu(std::string_view tag) override {
     Asked.push_back("RefreshMenu " + std::string(tag));

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/AppBarsContract.h"
+#include "platform/ClipboardContract.h"
 #include "platform/DesktopContract.h"
 #include "platform/ShellContract.h"
 #include "platform/SystemContract.h"
@@ -92,6 +93,18 @@ class SimulatedMachine final : public ContractMachine {
   sim::SimSystemInfo system_;
 };
 
+class SimulatedClipboard final : public ContractClipboard {
+ public:
+  Clipboard& Copies() override { return clipboard_; }
+  WindowId Window() override { return 1; }
+  std::string Pasted() override { return clipboard_.Text; }
+  void Hold() override { clipboard_.HeldByAnother = true; }
+  void LetGo() override { clipboard_.HeldByAnother = false; }
+
+ private:
+  sim::SimClipboard clipboard_;
+};
+
 template <class Base, class Made>
 std::unique_ptr<Base> Make() {
   return std::make_unique<Made>();
@@ -103,6 +116,8 @@ INSTANTIATE_TEST_SUITE_P(Simulated, AppBarsContract,
                          testing::Values(&Make<ContractBars, SimulatedBars>));
 INSTANTIATE_TEST_SUITE_P(Simulated, ShellContract,
                          testing::Values(&Make<ContractShell, SimulatedShell>));
+INSTANTIATE_TEST_SUITE_P(Simulated, ClipboardContract,
+                         testing::Values(&Make<ContractClipboard, SimulatedClipboard>));
 INSTANTIATE_TEST_SUITE_P(Simulated, SystemContract,
                          testing::Values(&Make<ContractMachine, SimulatedMachine>));
 

@@ -120,9 +120,10 @@ class Desk {
   /// That bar gives up its edge again.
   virtual void CloseOtherBar() = 0;
   /// Another program's window, visible and in the foreground from then on, from which a press of
-  /// either button drags these files (full paths), or the text when there are none.
+  /// either button drags these files (full paths), or the text when there are none. With a title
+  /// the text is a web address, which is dragged as browsers do it.
   virtual void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
-                              std::string_view text) = 0;
+                              std::string_view text, std::string_view title = {}) = 0;
   /// Sends a message and waits for its answer; posts it and does not wait. Both do nothing (and
   /// answer 0) when there is no such window.
   virtual std::intptr_t Send(std::string_view className, std::uint32_t message,

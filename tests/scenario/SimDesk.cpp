@@ -159,12 +159,13 @@ class SimDesk final : public Desk {
   }
   void CloseOtherBar() override { world_.Bars.RemoveOtherBar(bar_); }
   void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
-                      std::string_view text) override {
+                      std::string_view text, std::string_view title) override {
     source_.Window = world_.Desktop.AddOtherWindow(
         {.Title = "Page to drag - Browser", .ClassName = "DragSource", .Bounds = bounds});
     source_.Data = {};
     if (files.empty()) {
       source_.Data.Text = text;
+      source_.Data.Title = title;
     } else {
       source_.Data.Files = files;
     }

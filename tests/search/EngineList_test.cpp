@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "search/SearchTexts.h"
 #include "base/Text.h"
 #include "search/QueryUrl.h"
+#include "search/SearchTexts.h"
 
 namespace corvelle {
 

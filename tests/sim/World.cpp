@@ -43,7 +43,9 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
           .Folders = Folders,
           .Bars = Bars,
           .Tray = Tray,
-          .SlowAnswers = SlowAnswers};
+          .SlowAnswers = SlowAnswers,
+          .Copies = Copies,
+          .Crashes = Crashes};
 }
 
 bool World::SavePicture(const std::string& hostPath) const {

@@ -5,6 +5,8 @@
 #include "base/CodePage.h"
 #include "platform/Platform.h"
 #include "sim/SimAppBars.h"
+#include "sim/SimClipboard.h"
+#include "sim/SimCrashReports.h"
 #include "sim/SimDde.h"
 #include "sim/SimDesktop.h"
 #include "sim/SimFileAssociations.h"
@@ -52,9 +54,11 @@ class World {
   SimSystemInfo System;
   SimShellFolders Folders;
   SimTrayIcons Tray;
+  SimClipboard Copies;
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
   SimLookups SlowAnswers{Desktop, Files, Links, System};
+  SimCrashReports Crashes;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
   /// has some.

@@ -49,6 +49,10 @@ struct RoadDesk : StripDesk {
   }
 
   frmQMenu RealMenu;
+  // Windows that a test wires when it wants them. They outlive the end of the program, which a test
+  // that fails leaves to the desk.
+  frmHelp Hint{TheProgram};
+  frmImage Picture{TheProgram, Strip};
 };
 
 TEST(StripAndMenu, AChoiceClosesTheMenuAndStartsItsProgram) {
@@ -126,11 +130,10 @@ TEST(QuickHand, AYieldInWhatAYieldLetsRunPaintsAndRunsNothing) {
 
 TEST(QuickHand, KeysThatWaitBehindAPressChooseInTheMenuThatItOpens) {
   RoadDesk desk;
-  frmHelp hint(desk.TheProgram);
-  desk.TheProgram.Ports.Hint = &hint;
+  desk.TheProgram.Ports.Hint = &desk.Hint;
   desk.PointAtButton(2);
   desk.Wait(1000);
-  hint.SetHint("Menu 1");  // is up when the press comes
+  desk.Hint.SetHint("Menu 1");  // is up when the press comes
   AtOnce(desk, [&desk] {
     desk.World.Desktop.Click();
     desk.World.Desktop.PressKey(forms::key::Up);
@@ -138,7 +141,6 @@ TEST(QuickHand, KeysThatWaitBehindAPressChooseInTheMenuThatItOpens) {
   });
   EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i3.exe"});
   EXPECT_EQ(desk.RealMenuUp(), 0);
-  desk.TheProgram.Ports.Hint = nullptr;
 }
 
 TEST(QuickHand, EnterChoosesThoughTheStripKeptTheFocus) {
@@ -308,9 +310,8 @@ TEST(StripAndMenu, ARebuildLetsTheMenuShowTheNewFile) {
 
 TEST(StripAndMenu, F5ShowsTheOldMenuUntilTheNewOneStands) {
   RoadDesk desk;
-  frmImage picture(desk.TheProgram, desk.Strip);
-  desk.TheProgram.Ports.Capture = &picture;
-  desk.TheProgram.Ports.ImageWindow = &picture;
+  desk.TheProgram.Ports.Capture = &desk.Picture;
+  desk.TheProgram.Ports.ImageWindow = &desk.Picture;
   desk.Click(2);
   desk.Wait(200);
   ASSERT_EQ(desk.RealMenuUp(), 2);
@@ -351,10 +352,8 @@ TEST(StripAndMenu, F5ShowsTheOldMenuUntilTheNewOneStands) {
   const std::vector<std::string> wanted = {"show frmImage", "hide frmQMenu", "show frmQMenu",
                                            "hide frmImage"};
   EXPECT_EQ(order, wanted);
-  EXPECT_FALSE(picture.MenuCaptured());
-  EXPECT_FALSE(picture.WindowLoaded());
-  desk.TheProgram.Ports.Capture = nullptr;
-  desk.TheProgram.Ports.ImageWindow = nullptr;
+  EXPECT_FALSE(desk.Picture.MenuCaptured());
+  EXPECT_FALSE(desk.Picture.WindowLoaded());
 }
 
 TEST(StripAndMenu, TheKeyboardWalksFromMenuToMenu) {

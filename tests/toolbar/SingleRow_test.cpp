@@ -256,6 +256,23 @@ TEST(SingleClick, WhoseReleaseComesWhileTheHintGoesRunsTheButton) {
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
 }
 
+// The second click waits while the first is dealt with.
+TEST(SingleClick, OnAnotherButtonWhileTheFirstIsDealtWithRunsThatOneAfterwards) {
+  SinglesDesk desk;
+  desk.PutSingles("ab");
+  desk.Start();
+  forms::WindowSystem& windows = desk.World.Desktop;
+  forms::TimerId timer{};
+  timer = windows.StartTimer(1, [&] {
+    windows.StopTimer(timer);
+    desk.ClickSingle(1);
+    desk.ClickSingle(2);
+  });
+  desk.Wait(1);
+  desk.Wait(10);
+  EXPECT_EQ(desk.Started(), (std::vector<std::string>{"C:\\Tools\\a.exe", "C:\\Tools\\b.exe"}));
+}
+
 TEST(SingleClick, WithoutOption11ADoubleClickRunsItOnce) {
   SinglesDesk desk;
   desk.SetOption(11, false);

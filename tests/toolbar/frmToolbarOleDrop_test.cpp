@@ -177,6 +177,21 @@ TEST(ToolbarOLEDragDrop, AnAddressIsOfferedWithItsPageTitleForTheButton) {
   desk.TheProgram.Ports.Browser = nullptr;
 }
 
+TEST(ToolbarOLEDragDrop, ATitleThatComesWithTheAddressIsTakenAndNoBrowserAsked) {
+  DragDesk desk;
+  NotedLinks links;
+  NotedBrowser browser;
+  desk.TheProgram.Ports.WebLink = &links;
+  desk.TheProgram.Ports.Browser = &browser;
+  desk.Take({.Text = "http://example.com/a", .Title = " Its own title "});
+  desk.DragToButton(3);
+  desk.Drop();
+  EXPECT_EQ(links.Offered,
+            Names{"http://example.com/a|Its own title|3|C:\\Corvelle\\Menus\\BMENU002.MNU"});
+  desk.TheProgram.Ports.WebLink = nullptr;
+  desk.TheProgram.Ports.Browser = nullptr;
+}
+
 TEST(ToolbarOLEDragDrop, OtherTextAndAnAddressWithoutItsDialogAreIgnored) {
   for (const char* text :
        {"HTTP://EXAMPLE.COM", "some words", "", "http://example.com", "https://example.com"}) {

@@ -27,6 +27,7 @@ class WindowsDragHome final : public DragHome {
       offer.Files.push_back(win32::Wide(file));
     }
     if (data.Text) offer.Text = win32::Wide(*data.Text);
+    if (!data.Title.empty()) offer.Link = *offer.Text + L"\n" + win32::Wide(data.Title);
     source_ = std::make_unique<dragsource::DragSource>(RECT{600, 450, 800, 550}, offer);
     home_.Wait(200);
   }

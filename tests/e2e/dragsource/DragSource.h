@@ -22,8 +22,23 @@ namespace corvelle::dragsource {
 struct Offer {
   std::vector<std::wstring> Files;
   std::optional<std::wstring> Text;
+  /// A web address as browsers drag it: the address, which may have a line with its title behind
+  /// it, and the name of the file that it would become.
+  std::optional<std::wstring> Link;
+  std::optional<std::wstring> LinkFile;
   DWORD Allowed = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK;
 };
+
+inline CLIPFORMAT LinkFormat() {
+  static const auto kFormat =
+      static_cast<CLIPFORMAT>(RegisterClipboardFormatW(L"UniformResourceLocatorW"));
+  return kFormat;
+}
+inline CLIPFORMAT LinkFileFormat() {
+  static const auto kFormat =
+      static_cast<CLIPFORMAT>(RegisterClipboardFormatW(L"FileGroupDescriptorW"));
+  return kFormat;
+}
 
 inline HGLOBAL BlockWith(const void* head, std::size_t headSize, const std::wstring& rest) {
   const std::size_t restSize = rest.size() * sizeof(wchar_t);
@@ -56,7 +71,9 @@ class Data final : public IDataObject {
   HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC* format) override {
     if ((format->tymed & TYMED_HGLOBAL) == 0) return DV_E_TYMED;
     const bool has = (format->cfFormat == CF_HDROP && !offer_.Files.empty()) ||
-                     (format->cfFormat == CF_UNICODETEXT && offer_.Text);
+                     (format->cfFormat == CF_UNICODETEXT && offer_.Text) ||
+                     (format->cfFormat == LinkFormat() && offer_.Link) ||
+                     (format->cfFormat == LinkFileFormat() && offer_.LinkFile);
     return has ? S_OK : DV_E_FORMATETC;
   }
   HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) override {
@@ -71,16 +88,23 @@ class Data final : public IDataObject {
       std::wstring list;
       for (const std::wstring& file : offer_.Files) list += file + L'\0';
       medium->hGlobal = BlockWith(&header, sizeof(header), list + L'\0');
+    } else if (format->cfFormat == LinkFileFormat()) {
+      FILEGROUPDESCRIPTORW group{};
+      group.cItems = 1;
+      offer_.LinkFile->copy(group.fgd[0].cFileName, MAX_PATH - 1);
+      medium->hGlobal = BlockWith(&group, sizeof(group), {});
     } else {
-      medium->hGlobal = BlockWith(nullptr, 0, *offer_.Text + L'\0');
+      const bool link = format->cfFormat == LinkFormat();
+      medium->hGlobal = BlockWith(nullptr, 0, (link ? *offer_.Link : *offer_.Text) + L'\0');
     }
     return medium->hGlobal != nullptr ? S_OK : E_OUTOFMEMORY;
   }
   HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD direction, IEnumFORMATETC** formats) override {
     if (direction != DATADIR_GET) return E_NOTIMPL;
-    FORMATETC all[2] = {};
+    FORMATETC all[4] = {};
     UINT count = 0;
-    for (const CLIPFORMAT format : {CLIPFORMAT{CF_HDROP}, CLIPFORMAT{CF_UNICODETEXT}}) {
+    for (const CLIPFORMAT format :
+         {CLIPFORMAT{CF_HDROP}, CLIPFORMAT{CF_UNICODETEXT}, LinkFormat(), LinkFileFormat()}) {
       FORMATETC& next = all[count];
       next.cfFormat = format;
       next.dwAspect = DVASPECT_CONTENT;

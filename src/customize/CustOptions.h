@@ -1,0 +1,51 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "core/OptionFlags.h"
+
+namespace corvelle {
+
+/// The lines of the Options menu.
+enum class CustOption {
+  KeepOnTop,
+  StartupScreen,
+  LeaveExtension,
+  SingleClick,
+  DoubleClick,
+  SmallSingles,
+  CustomWebIcon,
+  DefaultWebIcon,
+  WebLinkDialog,
+  AlternateBrowser,
+  DefaultBrowser,
+  AdjustLeft,
+  AdjustRight,
+  LargeIcons,
+  ShowDate,
+  DisableHints,
+  SystemPopup,
+  OwnPopup,
+  SetStartup,
+  RemoveStartup,
+  ResetTips,
+  Gap  // a separator line
+};
+
+/// One line: its caption, the position of the options that it shows (0 for none) and the value at
+/// which it is checked.
+struct CustOptionLine {
+  CustOption Option;
+  std::string_view Caption;
+  int Position = 0;
+  bool CheckedAt = true;
+};
+
+/// All lines in their order.
+[[nodiscard]] std::span<const CustOptionLine> CustOptionLines() noexcept;
+
+/// True if the line bears a check mark. `ownBrowser`: the user has chosen a browser.
+[[nodiscard]] bool IsChecked(const CustOptionLine& line, const OptionFlags& flags, bool ownBrowser);
+
+}  // namespace corvelle

@@ -1,0 +1,174 @@
+#include "customize/CustTreeControl.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "base/Text.h"
+#include "core/Program.h"
+#include "forms/Graphic.h"
+#include "icons/Glyphs.h"
+#include "icons/IconResolution.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr int kImageSize = 16;   // pixels
+constexpr int kPictureWait = 1;  // milliseconds
+constexpr int kPicturesAtOnce = 8;
+/// Pictures that are drawn here, by their icon texts in small letters.
+constexpr std::pair<std::string_view, std::string_view> kOwnPictures[] = {
+    {"menulineseparator", "sep"},
+    {"menubreaker", "sep"},
+    {"new", "new"},
+    {"button", "button"},
+    {"unknown", "unknown"}};
+
+}  // namespace
+
+CustTreeControl::CustTreeControl(Program& program, CustTree& tree, forms::TreeView& control)
+    : program_(program), tree_(tree), control_(control), tmrPictures_(program.Windows) {
+  tree_.SetView(this);
+  tmrPictures_.SetInterval(kPictureWait);
+  tmrPictures_.Tick = [this] { ShowNext(); };
+}
+
+CustTreeControl::~CustTreeControl() { tree_.SetView(nullptr); }
+
+forms::NodeId CustTreeControl::IdOf(CustRef node) const {
+  const auto found = ids_.find(node);
+  return found != ids_.end() ? found->second : forms::kNoNode;
+}
+
+CustRef CustTreeControl::RefOf(forms::NodeId id) const {
+  const auto found = refs_.find(id);
+  return found != refs_.end() ? found->second : kNoRef;
+}
+
+void CustTreeControl::Clear() {
+  tmrPictures_.SetEnabled(false);
+  TreeCleared();
+}
+
+void CustTreeControl::TreeCleared() {
+  control_.Clear();
+  ids_.clear();
+  refs_.clear();
+  waiting_.clear();
+}
+
+void CustTreeControl::NodeAdded(CustRef node) { Insert(node, tree_.Parent(node), NextShown(node)); }
+
+void CustTreeControl::NodeRemoved(CustRef node) {
+  const forms::NodeId id = IdOf(node);
+  Forget(node);
+  control_.Remove(id);
+}
+
+void CustTreeControl::NodeMoved(CustRef node) {
+  control_.MoveNode(IdOf(node), IdOf(tree_.Parent(node)), NextShown(node));
+}
+
+void CustTreeControl::NodeChanged(CustRef node) {
+  const forms::NodeId id = IdOf(node);
+  if (id == forms::kNoNode) return;
+  const forms::NodeLook look = LookOf(node);
+  if (look != control_.Look(id)) control_.SetLook(id, look);
+}
+
+void CustTreeControl::ChildrenReordered(CustRef parent) {
+  const forms::TreeView::FreezeScope freeze(control_);
+  const forms::NodeId id = IdOf(parent);
+  for (const CustRef child : tree_.Children(parent)) {
+    control_.MoveNode(IdOf(child), id, forms::kNoNode);
+  }
+}
+
+void CustTreeControl::Insert(CustRef node, CustRef parent, forms::NodeId before) {
+  const forms::NodeId id = control_.Insert(IdOf(parent), before, LookOf(node));
+  ids_[node] = id;
+  refs_[id] = node;
+  for (const CustRef child : tree_.Children(node)) Insert(child, node, forms::kNoNode);
+}
+
+void CustTreeControl::Forget(CustRef node) {
+  for (const CustRef child : tree_.Children(node)) Forget(child);
+  refs_.erase(IdOf(node));
+  ids_.erase(node);
+}
+
+forms::NodeId CustTreeControl::NextShown(CustRef node) const {
+  // Of several that come at once the later ones are not shown yet.
+  for (CustRef next = tree_.Next(node); next != kNoRef; next = tree_.Next(next)) {
+    if (const forms::NodeId id = IdOf(next); id != forms::kNoNode) return id;
+  }
+  return forms::kNoNode;
+}
+
+forms::NodeLook CustTreeControl::LookOf(CustRef node) {
+  const CustNode& content = tree_.At(node);
+  forms::NodeLook look;
+  look.Text = content.Text;
+  look.Dimmed = content.Picture.Hidden;
+  look.Image = ImageOf(content.Picture);
+  if (look.Image < 0) {
+    look.Image = Glyph("unknown");
+    waiting_.push_back(node);
+    tmrPictures_.SetEnabled(true);
+  }
+  return look;
+}
+
+int CustTreeControl::ImageOf(const NodePicture& picture) {
+  if (picture.Shown == NodePicture::Kind::Root) return Glyph("tm");
+  if (picture.Shown == NodePicture::Kind::Unknown) return Glyph("unknown");
+  const std::string icon = LowerCase(picture.Icon);
+  for (const auto& [text, glyph] : kOwnPictures) {
+    if (icon == text) return Glyph(std::string(glyph));
+  }
+  const auto found = images_.find("icon:" + icon);
+  return found != images_.end() ? found->second : -1;
+}
+
+int CustTreeControl::Glyph(const std::string& key) {
+  const auto [place, isNew] = images_.try_emplace(key, 0);
+  if (isNew) place->second = control_.AddImage(MakeGlyph(program_.Windows, key));
+  return place->second;
+}
+
+int CustTreeControl::Draw(const std::string& icon) {
+  std::shared_ptr<Canvas> canvas = program_.Windows.CreateCanvas({kImageSize, kImageSize});
+  canvas->FillBox({0, 0, kImageSize, kImageSize}, forms::Image::kMask);
+  if (!ResolveAndDraw(program_, *canvas, icon, {0, 0}, kImageSize, IconCaller::Tree)) {
+    return Glyph("qmark");
+  }
+  return control_.AddImage(std::move(canvas));
+}
+
+void CustTreeControl::LookUp(CustRef node) {
+  if (!tree_.IsInTree(node)) return;
+  const NodePicture picture = tree_.At(node).Picture;
+  if (ImageOf(picture) < 0) {
+    // Asking the shell lets events in, which may close the window.
+    const int image = Draw(picture.Icon);
+    images_["icon:" + LowerCase(picture.Icon)] = image;
+  }
+  if (tree_.IsInTree(node)) NodeChanged(node);
+}
+
+void CustTreeControl::ShowNext() {
+  for (int i = 0; i < kPicturesAtOnce && !waiting_.empty(); ++i) {
+    const CustRef node = waiting_.front();
+    waiting_.pop_front();
+    LookUp(node);
+  }
+  if (waiting_.empty()) tmrPictures_.SetEnabled(false);
+}
+
+void CustTreeControl::FinishPictures() {
+  while (!waiting_.empty()) ShowNext();
+}
+
+}  // namespace corvelle

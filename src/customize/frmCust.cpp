@@ -1,0 +1,285 @@
+#include "customize/frmCust.h"
+
+#include <utility>
+
+#include "base/Text.h"
+#include "core/Program.h"
+#include "core/SpecialFolders.h"
+#include "customize/CustLayout.h"
+#include "forms/Scopes.h"
+#include "icons/Glyphs.h"
+#include "launch/FileTitle.h"
+#include "platform/FileSystem.h"
+#include "platform/Input.h"
+#include "shell/FileErrorText.h"
+#include "shell/LinkFiles.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr int kStartMenuFolder = 11;
+constexpr int kRecentFolder = 8;
+constexpr int kGuard = 1000;       // milliseconds
+constexpr int kDraftEvery = 5000;  // milliseconds
+
+struct Tool {
+  std::string_view Key;
+  std::string_view Tip;
+  std::string_view Glyph;
+};
+constexpr Tool kTools[] = {
+    {"up", "Move Selection Up", "move up"},
+    {"down", "Move Selection down", "move down"},
+    {},
+    {"button", "Add New Button", "button"},
+    {"new", "Add New Menu Item", "new"},
+    {"sep", "Insert Separator", "sep"},
+    {},
+    {"cut", "Cut Item", "cut"},
+    {"copy", "Copy Item", "copy"},
+    {"paste", "Paste", "paste"},
+    {},
+    {"delete", "Delete", "delete"},
+    {"undo", "Undo Delete", "undo"},
+};
+
+void Place(forms::Control& control, const TwipRect& at) {
+  control.Move(at.Left, at.Top, at.Width, at.Height);
+}
+
+}  // namespace
+
+frmCust::frmCust(Program& program)
+    : Form(program.Windows, "frmCust", forms::BorderStyle::Sizable, true),
+      TreeView1(*this, "TreeView1"),
+      txtFind(*this, "txtFind"),
+      Toolbar1(*this, "Toolbar1"),
+      picProperties(*this, "picProperties"),
+      picFiles(picProperties, "picFiles"),
+      txtTitle(picFiles, "txtTitle"),
+      txtFile(picFiles, "txtFile"),
+      txtCommand(picFiles, "txtCommand"),
+      cmdOK(picProperties, "cmdOK"),
+      fraBrowse(picProperties, "fraBrowse"),
+      cmdBrowseFiles(fraBrowse, "cmdBrowseFiles"),
+      cmdBrowseFolders(fraBrowse, "cmdBrowseFolders"),
+      fraSelect(picProperties, "fraSelect"),
+      chkSelect0(fraSelect, "chkSelect"),
+      chkSelect1(fraSelect, "chkSelect"),
+      cmdSave(*this, "cmdSave"),
+      cmdCancel(*this, "cmdCancel"),
+      lblMenuTree(*this, "lblMenuTree"),
+      lblProperties(picProperties, "lblProperties"),
+      lblTitle(picFiles, "lblTitle"),
+      lblIcon(picFiles, "lblIcon"),
+      lblFile(picFiles, "lblFile"),
+      cmdLibrary(picFiles, "cmdLibrary"),
+      cmdAllFiles(picFiles, "cmdAllFiles"),
+      cmdSelectFile(picFiles, "cmdSelectFile"),
+      cmdSelectFolder(picFiles, "cmdSelectFolder"),
+      cmdShowDraft(*this, "cmdShowDraft"),
+      cmdForgetDraft(*this, "cmdForgetDraft"),
+      Timer1(program.Windows),
+      tmrDraft(program.Windows),
+      Editor(*this),
+      program_(program),
+      tree_(program, Editor.Tree, TreeView1) {
+  SetMinimizeBox(true);
+  SetLeastSize(kCustLeastWidth, kCustLeastHeight);
+  WireControls();
+  WireTree();
+  WireBoxes();
+  InitCustToolbar();
+}
+
+void frmCust::WireControls() {
+  lblMenuTree.SetCaption("Menu Tree");
+  lblProperties.SetCaption("Properties");
+  lblTitle.SetCaption("Title");
+  lblIcon.SetCaption("Icon");
+  lblFile.SetCaption("File");
+  cmdOK.SetCaption("O&K");
+  cmdOK.SetToolTip("Confirm Changes in Entry Boxes");
+  cmdSave.SetCaption("&Update Toolbar");
+  cmdCancel.SetCaption("E&xit");
+  cmdCancel.SetCancel(true);
+  fraBrowse.SetCaption("Add");
+  cmdBrowseFiles.SetCaption("Fi&le...");
+  cmdBrowseFiles.SetToolTip("Show Open File Dialog");
+  cmdBrowseFolders.SetCaption("Fol&der");
+  cmdBrowseFolders.SetToolTip("Show Browse for Folder Dialog");
+  fraSelect.SetCaption("Select Files From");
+  chkSelect0.SetCaption("&Start Menu");
+  chkSelect1.SetCaption("Deskto&p");
+  cmdSelectFile.SetCaption("File");
+  cmdSelectFile.SetToolTip("Select File");
+  cmdSelectFolder.SetCaption("Folder");
+  cmdSelectFolder.SetToolTip("Select Folder");
+  cmdLibrary.SetCaption("Library");
+  cmdLibrary.SetToolTip("Select Icon from Library");
+  cmdAllFiles.SetCaption("File");
+  cmdAllFiles.SetToolTip("Select Icon From File");
+  cmdShowDraft.SetCaption("Show");
+  cmdForgetDraft.SetCaption("Forget");
+  txtFind.SetVisible(false);
+  txtFind.SetCue("Find");
+  for (forms::Surface* box :
+       {static_cast<forms::Surface*>(&picProperties), static_cast<forms::Surface*>(&picFiles)}) {
+    box->SetBackColor(forms::color::ButtonFace);
+  }
+  cmdSave.Click = [this] { cmdSave_Click(); };
+  cmdCancel.Click = [this] { Form_QueryClose(); };
+  cmdShowDraft.Click = [this] { ShowDraft(); };
+  cmdForgetDraft.Click = [this] { ForgetTheDraft(); };
+  tmrDraft.SetInterval(kDraftEvery);
+  tmrDraft.Tick = [this] {
+    // One that is still offered is not written over before the window closes.
+    if (!draft_) KeepDraft();
+  };
+}
+
+void frmCust::InitCustToolbar() {
+  for (const Tool& tool : kTools) {
+    if (tool.Key.empty()) {
+      Toolbar1.AddGap();
+      continue;
+    }
+    const int image = Toolbar1.AddImage(MakeGlyph(program_.Windows, tool.Glyph));
+    Toolbar1.Add({.Key = std::string(tool.Key), .Tip = std::string(tool.Tip), .Image = image});
+  }
+  Toolbar1.ButtonClick = [this](const std::string& key) { Toolbar1_ButtonClick(key); };
+}
+
+void frmCust::LoadWindow() {
+  if (IsLoaded()) {
+    if (IsMinimized()) RestoreWindow();
+    SetForeground();
+    return;
+  }
+  if (!InitMenuTree()) return;
+  Load();
+}
+
+bool frmCust::InitMenuTree() {
+  MenusResult<MenuFiles> read =
+      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
+  if (!read) {
+    // A tree that lacks a file would delete it when it is saved.
+    program_.Say(program_.WindowInUse(),
+                 FileErrorText(read.Error().Reason) + "\r\n" + read.Error().Path,
+                 forms::msgbox::IconInformation);
+    return false;
+  }
+  files_ = *std::move(read);
+  return true;
+}
+
+void frmCust::Form_Load() {
+  PropertiesPort* const properties = program_.Ports.Properties;
+  if (properties != nullptr && properties->WindowLoaded()) properties->UnloadWindow();
+  const forms::HourglassScope hourglass(program_.Windows);
+  SetCaption(program_.Title + " . Customize");
+  SetBackColor(forms::color::ButtonFace);
+  SetTakesDrops(true);
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  Move((screen.Width - kCustWidth) / 2, (screen.Height - kCustHeight) / 2, kCustWidth, kCustHeight);
+  Timer1.SetInterval(kGuard);
+  Editor.LastFolder = GetSpecialFolder(program_, kStartMenuFolder);
+  LastBrowseFolder.clear();
+  Browsing = PickIcon = FolderToCommandOnly = Dragging = ShiftDown = messageWaits_ = false;
+  finding_ = false;
+  txtFind.SetVisible(false);
+  txtFind.SetText("");
+  address_.clear();
+  mnuPopup = {};
+  keeper_ = std::make_unique<DraftKeeper>(program_.Services.Files, program_.MenusPath);
+  {
+    const forms::TreeView::FreezeScope freeze(TreeView1);
+    Editor.InitMenuTree(files_.Set, program_.AppPath + "corvelle.exe", program_.MenusPath);
+    Editor.Select(kMenusRoot);
+    if (!Editor.Tree.Children(kMenusRoot).empty()) {
+      ShowNode(Editor.Tree.Children(kMenusRoot).front());
+    }
+  }
+  shownAt_ = keptAt_ = Editor.Tree.Revision();
+  OfferTheDraft();
+  MakeMenuBar();
+  PlaceControls();
+  ShowState();
+  tmrDraft.SetEnabled(true);
+  Show();
+  if (IsLoaded()) TreeView1.SetFocus();
+}
+
+void frmCust::Form_Unload() {
+  Timer1.SetEnabled(false);
+  tmrDraft.SetEnabled(false);
+  Editor.Close();
+  tree_.Clear();
+  draft_.reset();
+  LibraryPort* const library = program_.Ports.Library;
+  if (library != nullptr && library->WindowLoaded()) library->UnloadWindow();
+}
+
+void frmCust::Form_Resize() { PlaceControls(); }
+
+void frmCust::PlaceControls() {
+  if (!IsLoaded() || arranging_ || IsMinimized()) return;
+  const forms::FlagScope arranging(arranging_);
+  const CustLayout at = ArrangeCustomize({.Width = ScaleWidth(),
+                                          .Height = ScaleHeight(),
+                                          .TwipsPerPixel = program_.Windows.Screen().TwipsPerPixelX,
+                                          .Finding = finding_,
+                                          .Offering = draft_.has_value()});
+  Place(lblMenuTree, at.MenuTree);
+  Place(cmdShowDraft, at.ShowDraft);
+  Place(cmdForgetDraft, at.ForgetDraft);
+  cmdShowDraft.SetVisible(draft_.has_value());
+  cmdForgetDraft.SetVisible(draft_.has_value());
+  Place(txtFind, at.Find);
+  Place(TreeView1, at.Tree);
+  Place(Toolbar1, at.ToolBar);
+  Place(picProperties, at.PropertiesBox);
+  Place(cmdSave, at.Save);
+  Place(cmdCancel, at.Exit);
+  Place(lblProperties, at.Properties);
+  Place(picFiles, at.Files);
+  Place(cmdOK, at.Ok);
+  Place(fraBrowse, at.Add);
+  Place(fraSelect, at.From);
+  Place(lblTitle, at.TitleLabel);
+  Place(lblIcon, at.IconLabel);
+  Place(lblFile, at.FileLabel);
+  Place(txtTitle, at.Title);
+  Place(txtFile, at.Icon);
+  Place(txtCommand, at.File);
+  Place(cmdLibrary, at.Library);
+  Place(cmdAllFiles, at.AllFiles);
+  Place(cmdSelectFile, at.SelectFile);
+  Place(cmdSelectFolder, at.SelectFolder);
+  Place(cmdBrowseFiles, at.BrowseFiles);
+  Place(cmdBrowseFolders, at.BrowseFolders);
+  Place(chkSelect0, at.StartMenu);
+  Place(chkSelect1, at.Desktop);
+}
+
+void frmCust::Beep() { program_.Services.Pointer.Beep(); }
+
+int frmCust::Say(std::string_view text, unsigned flags) {
+  return program_.Say(hWnd(), text, flags);
+}
+
+bool frmCust::FileExists(std::string_view path) { return program_.Services.Files.FileExists(path); }
+
+bool frmCust::IsPlainFolder(std::string_view path) {
+  return program_.Services.Files.FolderExists(path);
+}
+
+std::string frmCust::TitleOf(std::string_view path) { return GetFileTitle(program_, path); }
+
+std::string frmCust::RecentFolder() {
+  return EnsureBackslash(GetSpecialFolder(program_, kRecentFolder));
+}
+
+}  // namespace corvelle

@@ -1,0 +1,220 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/WindowPorts.h"
+#include "customize/CustEditor.h"
+#include "customize/CustOptions.h"
+#include "customize/CustPopup.h"
+#include "customize/CustTreeControl.h"
+#include "customize/Draft.h"
+#include "customize/MenuMaker.h"
+#include "customize/MenuSetFiles.h"
+#include "forms/CheckBox.h"
+#include "forms/CommandButton.h"
+#include "forms/FlatButton.h"
+#include "forms/Form.h"
+#include "forms/Frame.h"
+#include "forms/Graphic.h"
+#include "forms/PictureBox.h"
+#include "forms/TextBox.h"
+#include "forms/Timer.h"
+#include "forms/ToolBar.h"
+#include "forms/TreeView.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The Customize window: all menu buttons and single buttons in one tree, the texts of the selected
+/// one in three boxes, and the options of the program. What is changed is on the disk only after a
+/// save; what was not saved when the window closed is kept as a draft.
+class frmCust final : public forms::Form,
+                      public LoadedWindow,
+                      public IconBoxPort,
+                      private CustHost {
+ public:
+  explicit frmCust(Program& program);
+
+  /// Shows it; one that is up comes to the front.
+  void LoadWindow() override;
+  /// Closes it, after asking about what is not saved; it cannot be kept open.
+  void UnloadWindow() override;
+  [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
+
+  [[nodiscard]] forms::Form& BoxWindow() override { return *this; }
+  void SetBrowsing(bool browsing) override;
+  void TakeIcon(std::string_view icon) override;
+  /// The library has filled the box for the icon.
+  void UpdateField();
+
+  forms::TreeView TreeView1;
+  forms::TextBox txtFind;
+  forms::ToolBar Toolbar1;
+  forms::PictureBox picProperties;
+  forms::PictureBox picFiles;
+  forms::TextBox txtTitle;
+  forms::TextBox txtFile;
+  forms::TextBox txtCommand;
+  forms::CommandButton cmdOK;
+  forms::Frame fraBrowse;
+  forms::CommandButton cmdBrowseFiles;
+  forms::CommandButton cmdBrowseFolders;
+  forms::Frame fraSelect;
+  forms::CheckBox chkSelect0;
+  forms::CheckBox chkSelect1;
+  forms::CommandButton cmdSave;
+  forms::CommandButton cmdCancel;
+  forms::Label lblMenuTree;
+  forms::Label lblProperties;
+  forms::Label lblTitle;
+  forms::Label lblIcon;
+  forms::Label lblFile;
+  forms::FlatButton cmdLibrary;
+  forms::FlatButton cmdAllFiles;
+  forms::FlatButton cmdSelectFile;
+  forms::FlatButton cmdSelectFolder;
+  // A draft is offered.
+  forms::FlatButton cmdShowDraft;
+  forms::FlatButton cmdForgetDraft;
+  /// Holds the tree off after an expansion.
+  forms::Timer Timer1;
+  /// Keeps what is not saved.
+  forms::Timer tmrDraft;
+
+  CustEditor Editor;
+  CustPopupState mnuPopup;
+
+  bool ShiftDown = false;
+  bool Browsing = false;
+  bool PickIcon = false;
+  bool FolderToCommandOnly = false;
+  bool Dragging = false;
+  std::string LastBrowseFolder;
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+  void Form_Resize() override;
+  void Form_Activate() override;
+  void Form_QueryClose() override;
+  void Form_SessionEnd() override;
+  void Form_Menu(int line) override;
+  void Form_MenuOpening(int line) override;
+
+ private:
+  using Command = bool (CustEditor::*)();
+  enum class Field { Icon, Command };
+
+  // CustHost.
+  void Beep() override;
+  int Say(std::string_view text, unsigned flags) override;
+  bool FileExists(std::string_view path) override;
+  bool IsPlainFolder(std::string_view path) override;
+  std::string TitleOf(std::string_view path) override;
+  std::string RecentFolder() override;
+
+  // Loading and layout (frmCust.cpp).
+  void InitCustToolbar();
+  void WireControls();
+  bool InitMenuTree();
+  void PlaceControls();
+
+  // Showing the editor (frmCustTree.cpp).
+  void WireTree();
+  /// Boxes, selection and enabled state follow the editor.
+  void ShowState();
+  void ShowBoxes();
+  /// The node can be seen; what is around it opens.
+  void ShowNode(CustRef node);
+  void TakeBoxes();
+  /// Runs a command of the editor and shows what came of it.
+  void Run(Command command);
+  void StartGuard();
+  void Timer1_Timer();
+  [[nodiscard]] bool TreeHeld() const { return Browsing || Timer1.Enabled(); }
+  void TreeView1_NodeClick(CustRef node);
+  void TreeView1_Expand(CustRef node);
+  void TreeView1_Collapse();
+  bool TreeView1_KeyDown(int keyCode, forms::ShiftState shift);
+  void TreeView1_DragOver(CustRef target);
+  void TreeView1_DragDrop(CustRef target);
+  void EndDrag();
+  void TreeView1_OLEDragOver(const forms::DragData& data, forms::DropEffect& effect);
+  void TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffect& effect);
+  [[nodiscard]] bool InTree(float x, float y) const;
+  void TakeAddress();
+
+  // The boxes (frmCustBoxes.cpp).
+  void WireBoxes();
+  void cmdOK_Click();
+  void Browse(bool files);
+  void ShowAddFileMsg();
+  void AddFiles();
+  void SelectFolder();
+  void SelectFile();
+  [[nodiscard]] std::string StartFolder() const;
+  [[nodiscard]] std::string FolderLink(const forms::FolderChoice& choice);
+  /// Fills a box from a file or folder, for the key F2 in it or the button beside it.
+  void FillBox(Field field, bool folder);
+  void ShowLibrary();
+  /// False, and the message, for a separator; false for a root.
+  bool MayFill();
+  void StopGuard();
+
+  // Menus (frmCustMenus.cpp).
+  void MakeMenuBar();
+  void ShowTreeMenu(float x, float y, bool byKey);
+  void AddPopupLines(MenuMaker& menu);
+  void RunPopupLine(PopupLine line);
+  void Toolbar1_ButtonClick(const std::string& key);
+  void StartRename();
+  void BeginFind();
+  void FindNext();
+  void RunEntry();
+
+  // The Options menu (frmCustOptions.cpp).
+  void AddOptionLines(MenuMaker& menu);
+  void ChooseOption(CustOption option);
+  void FlipOption(int position);
+  void ChooseWebIcon(bool custom);
+  void ChooseBrowser(bool own);
+  void SetLargeIcons();
+  void SetSmallSingles();
+  [[nodiscard]] std::string AskOneFile(std::string_view title, std::string_view startFolder);
+
+  // Saving, closing and the draft (frmCustSave.cpp).
+  void cmdSave_Click();
+  /// False when the files are not those of the tree.
+  bool SaveTree();
+  bool SettleConflict(const MenusStamp& theirs);
+  void Recover(const std::string& message);
+  void RefreshStrip();
+  /// False: the user wants to go on.
+  bool AskToSave(bool canStay);
+  [[nodiscard]] bool Unsaved() const;
+  void KeepDraft();
+  void ForgetTheDraft();
+  void OfferTheDraft();
+  void ShowDraft();
+  void ReadAgain();
+
+  Program& program_;
+  CustTreeControl tree_;
+  MenuMaker menuBar_;
+  std::unique_ptr<DraftKeeper> keeper_;
+  MenuFiles files_;               // as they were read or saved last
+  long shownAt_ = 0;              // revision of the tree that those files hold
+  long keptAt_ = 0;               // revision in the draft
+  std::optional<MenuSet> draft_;  // that is offered
+  bool finding_ = false;
+  bool arranging_ = false;
+  bool messageWaits_ = false;  // the message of a drop on a root
+  std::string address_;        // dropped, and not dealt with yet
+};
+
+}  // namespace corvelle

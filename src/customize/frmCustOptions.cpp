@@ -1,0 +1,163 @@
+#include <string>
+
+#include "core/CommandPorts.h"
+#include "core/OptionFlags.h"
+#include "core/Program.h"
+#include "core/SettingsFiles.h"
+#include "customize/frmCust.h"
+#include "shell/StartupLink.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr int kWebIconOption = 12;
+constexpr int kEdgeOption = 14;
+constexpr int kSmallSinglesOption = 24;
+constexpr int kLargeInRestoreOption = 25;
+constexpr int kLargeOption = 26;
+
+}  // namespace
+
+void frmCust::AddOptionLines(MenuMaker& menu) {
+  const bool ownBrowser = program_.Services.Files.FileExists(program_.AppPath + "openurl.ini");
+  for (const CustOptionLine& line : CustOptionLines()) {
+    if (line.Option == CustOption::Gap) {
+      menu.AddGap();
+      continue;
+    }
+    menu.Add(
+        std::string(line.Caption), [this, option = line.Option] { ChooseOption(option); }, true,
+        IsChecked(line, program_.OptionFlags, ownBrowser));
+  }
+}
+
+void frmCust::ChooseOption(CustOption option) {
+  OptionFlags& flags = program_.OptionFlags;
+  ToolbarPort* const strip = program_.Ports.Toolbar;
+  switch (option) {
+    case CustOption::KeepOnTop:
+      FlipOption(4);
+      break;
+    case CustOption::StartupScreen:
+      FlipOption(9);
+      break;
+    case CustOption::LeaveExtension:
+      FlipOption(10);
+      break;
+    case CustOption::SingleClick:
+      flags.Set(11, true);
+      break;
+    case CustOption::DoubleClick:
+      flags.Set(11, false);
+      break;
+    case CustOption::SmallSingles:
+      SetSmallSingles();
+      break;
+    case CustOption::CustomWebIcon:
+      ChooseWebIcon(true);
+      break;
+    case CustOption::DefaultWebIcon:
+      ChooseWebIcon(false);
+      break;
+    case CustOption::WebLinkDialog:
+      FlipOption(18);
+      break;
+    case CustOption::AlternateBrowser:
+      ChooseBrowser(true);
+      break;
+    case CustOption::DefaultBrowser:
+      ChooseBrowser(false);
+      break;
+    case CustOption::AdjustLeft:
+    case CustOption::AdjustRight:
+      FlipOption(option == CustOption::AdjustLeft ? 27 : 13);
+      if (strip != nullptr) strip->CheckToolbarMove();
+      break;
+    case CustOption::LargeIcons:
+      SetLargeIcons();
+      break;
+    case CustOption::ShowDate:
+      FlipOption(21);
+      if (strip != nullptr) strip->DoLabelDate();
+      break;
+    case CustOption::DisableHints:
+      FlipOption(22);
+      break;
+    case CustOption::SystemPopup:
+      flags.Set(19, true);
+      break;
+    case CustOption::OwnPopup:
+      flags.Set(19, false);
+      break;
+    case CustOption::SetStartup:
+      SetAsStartupProgram(program_);
+      break;
+    case CustOption::RemoveStartup:
+      RemoveFromStartup(program_);
+      break;
+    case CustOption::ResetTips:
+      ResetHelpTips(flags);
+      Say("Help tip dialog has been reset.", forms::msgbox::IconInformation);
+      break;
+    case CustOption::Gap:
+      break;
+  }
+  if (IsLoaded()) MakeMenuBar();
+}
+
+void frmCust::FlipOption(int position) { program_.OptionFlags.Flip(position); }
+
+std::string frmCust::AskOneFile(std::string_view title, std::string_view startFolder) {
+  const forms::FileChoice choice = program_.Windows.AskFiles(
+      hWnd(), {.Title = std::string(title), .StartFolder = std::string(startFolder)});
+  return choice.Paths.empty() ? std::string() : choice.Paths.front();
+}
+
+void frmCust::ChooseWebIcon(bool custom) {
+  FileSystem& files = program_.Services.Files;
+  if (custom) {
+    const std::string icon = AskOneFile("Select one file.", Editor.LastFolder);
+    if (icon.empty()) return;
+    if (!SaveWebLinkIcon(files, program_.Services.Ansi, program_.AppPath, icon)) return Beep();
+  }
+  program_.OptionFlags.Set(kWebIconOption, custom);
+  program_.WebLinkIcon =
+      LoadWebLinkIcon(files, program_.Services.Ansi, program_.AppPath, program_.OptionFlags);
+}
+
+void frmCust::ChooseBrowser(bool own) {
+  BrowserPort* const browser = program_.Ports.Browser;
+  if (browser == nullptr) return;
+  if (!own) return browser->UseDefaultBrowser();
+  const std::string path = AskOneFile("Select one file.", Editor.LastFolder);
+  if (!path.empty()) browser->UseBrowser(path);
+}
+
+void frmCust::SetLargeIcons() {
+  const bool large = !program_.OptionFlags.Is(kLargeInRestoreOption);
+  program_.OptionFlags.Set(kLargeInRestoreOption, large);
+  program_.OptionFlags.Set(kLargeOption, large);
+  program_.OptionFlags.Set(kEdgeOption, false);
+  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->InitNewButtons();
+}
+
+void frmCust::SetSmallSingles() {
+  const bool small = !program_.OptionFlags.Is(kSmallSinglesOption);
+  program_.OptionFlags.Set(kSmallSinglesOption, small);
+  DockingPort* const docking = program_.Ports.Docking;
+  if (!small) {
+    if (!program_.AppBarDocked) {
+      Say("The change will take effect next time you switch to large icons toolbar.",
+          forms::msgbox::IconInformation);
+    } else if (docking != nullptr) {
+      docking->SetAppBar(program_.ToolbarEdge, true);
+    }
+    return;
+  }
+  program_.OptionFlags.Set(kLargeOption, true);
+  if (docking == nullptr) return;
+  docking->SetAppBar(program_.AppBarDocked ? program_.ToolbarEdge : "RIGHT", true);
+}
+
+}  // namespace corvelle

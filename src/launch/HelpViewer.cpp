@@ -1,0 +1,40 @@
+#include "launch/HelpViewer.h"
+
+#include "core/Program.h"
+#include "launch/LaunchItem.h"
+#include "platform/FileSystem.h"
+#include "platform/ShellExec.h"
+
+namespace corvelle {
+
+namespace {
+
+namespace msgbox = forms::msgbox;
+
+}  // namespace
+
+std::string HelpViewer::PathOf(HelpPage page) const {
+  return program_.AppPath + "Help\\" + std::string(HelpFileOf(page));
+}
+
+bool HelpViewer::ShowPage(HelpPage page) {
+  std::string path = PathOf(page);
+  if (!program_.Services.Files.FileExists(path)) return false;
+  LaunchItem(program_, path);
+  return true;
+}
+
+void HelpViewer::OfferPage(HelpPage page) {
+  const std::string path = PathOf(page);
+  if (!program_.Services.Files.FileExists(path)) return;
+  static_cast<void>(program_.Services.Shell.Open(path, std::nullopt, std::nullopt));
+}
+
+void HelpViewer::ShowPageOf(std::string_view windowName) {
+  if (ShowPage(HelpPageOf(windowName))) return;
+  program_.Say(program_.ToolbarWindow(),
+               "Corvelle help file could not be found in Corvelle folder.",
+               msgbox::IconStop | msgbox::OnTop);
+}
+
+}  // namespace corvelle

@@ -1,0 +1,302 @@
+#include "library/frmLibrary.h"
+
+#include <utility>
+
+#include "base/Sort.h"
+#include "base/Text.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "icons/IconLibrary.h"
+#include "icons/LibraryFile.h"
+#include "icons/OtherIcons.h"
+#include "library/LibraryLayout.h"
+#include "library/OtherFiles.h"
+#include "platform/ShellIcons.h"
+#include "platform/SystemInfo.h"
+
+namespace corvelle {
+
+namespace {
+
+constexpr const char* kLibraryTab = "corvelle";
+constexpr const char* kOtherTab = "other";
+constexpr std::string_view kAllCategories = "All Categories";
+// As wide as most captions.
+constexpr std::string_view kSampleCaption = "Folders7.ico";
+constexpr int kBoxPadding = 8;  // above and below a line in its box, together
+constexpr int kBarWidth = 17;   // pixels at 96 dots an inch, as the padding
+constexpr float kTwipsAt96 = 15;
+
+}  // namespace
+
+frmLibrary::frmLibrary(Program& program)
+    : Form(program.Windows, "frmLibrary", forms::BorderStyle::Fixed, true),
+      TabStrip1(*this, "TabStrip1"),
+      List1(*this, "List1"),
+      List1Other(*this, "List1Other"),
+      txtFilter(*this, "txtFilter"),
+      Pic1(*this, "Pic1"),
+      Pic2(Pic1, "Pic2"),
+      VS1(*this, "VS1"),
+      PicOtherFrame(*this, "PicOtherFrame"),
+      picOther(PicOtherFrame, "picOther"),
+      vsOther(*this, "vsOther"),
+      cmdAdd(*this, "cmdAdd"),
+      cmdRemove(*this, "cmdRemove"),
+      cmdRefresh(*this, "cmdRefresh"),
+      cmdOK(*this, "cmdOK"),
+      cmdCancel(*this, "cmdCancel"),
+      LibraryView(program, Pic2, VS1),
+      OtherView(program, picOther, vsOther),
+      program_(program) {
+  TabStrip1.Add(kLibraryTab, "Library");
+  TabStrip1.Add(kOtherTab, "Other Files");
+  txtFilter.SetCue("Filter");
+  cmdAdd.SetCaption("&Add");
+  cmdRemove.SetCaption("&Remove");
+  cmdRefresh.SetCaption("Re&fresh");
+  cmdOK.SetCaption("&OK");
+  cmdOK.SetDefault(true);
+  cmdCancel.SetCaption("&Cancel");
+  cmdCancel.SetCancel(true);
+  Pic1.SetBackColor(forms::color::ButtonShadow);
+  PicOtherFrame.SetBackColor(forms::color::ButtonShadow);
+  Wire();
+}
+
+void frmLibrary::Wire() {
+  TabStrip1.Click = [this] { TabStrip1_Click(); };
+  List1.Click = [this] { ShowView(List1.Selected()); };
+  List1Other.Click = [this] { List1Other_Click(); };
+  txtFilter.Change = [this] { txtFilter_Change(); };
+  txtFilter.KeyDown = [this](int keyCode, forms::ShiftState) { return txtFilter_KeyDown(keyCode); };
+  LibraryView.Chosen = [this] { cmdOK_Click(); };
+  OtherView.Chosen = [this] { cmdOK_Click(); };
+  cmdAdd.Click = [this] { cmdAdd_Click(); };
+  cmdRemove.Click = [this] { cmdRemove_Click(); };
+  cmdRefresh.Click = [this] { cmdRefresh_Click(); };
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.Click = [this] { Unload(); };
+}
+
+void frmLibrary::SetFormName(std::string_view name) {
+  caller_ = std::string(name);
+  box_ = nullptr;
+  if (EqualNoCase(name, "frmProperties")) box_ = program_.Ports.PropertiesIcon;
+  if (EqualNoCase(name, "frmCust")) box_ = program_.Ports.CustomizeIcon;
+}
+
+void frmLibrary::Show(std::string_view caller) {
+  if (IsLoaded()) return SetForeground();
+  SetFormName(caller);
+  if (box_ != nullptr) {
+    box_->SetBrowsing(true);
+    ShowModalTo(box_->BoxWindow());
+  } else {
+    SetOwner(nullptr);
+    Form::Show();
+  }
+  if (IsLoaded()) return Pic2.SetFocus();
+  // The system refused the window.
+  if (box_ != nullptr) std::exchange(box_, nullptr)->SetBrowsing(false);
+}
+
+void frmLibrary::Form_Load() {
+  const forms::HourglassScope hourglass(program_.Windows);
+  SetCaption("Icon Library");
+  SetBackColor(forms::color::ButtonFace);
+  txtFilter.SetText({});
+  SetFormSize();
+  othersRead_ = false;
+  TabStrip1.Select(kLibraryTab);
+  BuildLibrary();
+  ShowTab();
+  Center();
+}
+
+void frmLibrary::Form_Unload() {
+  LibraryView.SetShown(false);
+  OtherView.SetShown(false);
+  LibraryView.Clear();
+  OtherView.Clear();
+  List2Other.clear();
+  if (box_ != nullptr) std::exchange(box_, nullptr)->SetBrowsing(false);
+}
+
+// Pictures that were made under other colours are made again.
+void frmLibrary::SetFormSize() {
+  static_cast<void>(CheckLibraryDisplay(program_));
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const PixelSize caption = program_.Windows.MeasureText(kSampleCaption, {});
+  const auto scaled = [&](int pixels) {
+    return static_cast<int>(static_cast<float>(pixels) * kTwipsAt96 / screen.TwipsPerPixelX);
+  };
+  LibraryScene scene{.Cell = CellMetricsAt(screen.TwipsPerPixelX, caption),
+                     .TwipsPerPixel = screen.TwipsPerPixelX,
+                     .BoxHeight = caption.height + scaled(kBoxPadding),
+                     .BarWidth = scaled(kBarWidth)};
+  const auto place = [&](forms::Control& control, const PixelRect& at) {
+    control.Move(static_cast<float>(at.left) * screen.TwipsPerPixelX,
+                 static_cast<float>(at.top) * screen.TwipsPerPixelY,
+                 static_cast<float>(at.Width()) * screen.TwipsPerPixelX,
+                 static_cast<float>(at.Height()) * screen.TwipsPerPixelY);
+  };
+  // How high its tabs are the strip tells itself.
+  place(TabStrip1, LayOutLibrary(scene).Frame);
+  const PixelRect page = TabStrip1.PageRect();
+  if (!page.IsEmpty()) scene.TabHeight = page.top;
+  const LibraryLayout at = LayOutLibrary(scene);
+  const PixelRect cells = RectAt({scene.BorderWidth, scene.BorderWidth}, at.Cells);
+  place(TabStrip1, at.Tabs);
+  place(List1, at.List);
+  place(List1Other, at.List);
+  place(txtFilter, at.Filter);
+  place(Pic1, at.Frame);
+  place(Pic2, cells);
+  place(VS1, at.Bar);
+  place(PicOtherFrame, at.Frame);
+  place(picOther, cells);
+  place(vsOther, at.Bar);
+  place(cmdAdd, at.Add);
+  place(cmdRemove, at.Remove);
+  place(cmdRefresh, at.Refresh);
+  place(cmdOK, at.Ok);
+  place(cmdCancel, at.Cancel);
+  const forms::FrameMargins frame = Margins();
+  place(*this, RectAt({0, 0}, {at.Inside.width + frame.Left + frame.Right,
+                               at.Inside.height + frame.Top + frame.Bottom}));
+  LibraryView.SetMetrics(scene.Cell, at.Cells);
+  OtherView.SetMetrics(scene.Cell, at.Cells);
+}
+
+// ---- the library ----
+
+void frmLibrary::BuildLibrary() {
+  if (!program_.LibraryBuilt) ResetLibrary(program_);
+  List1.Clear();
+  List1.Add(std::string(kAllCategories));
+  for (const std::string& category : LibraryCategories(program_)) List1.Add(category);
+  List1.Select(0);
+  ShowView(0);
+  program_.LibraryBuilt = true;
+}
+
+void frmLibrary::ShowView(int position) {
+  if (position < 0) return;
+  std::vector<std::string> names;
+  if (position > 0) {
+    names = CategoryIcons(program_, List1.Items()[static_cast<std::size_t>(position)]);
+  } else {
+    names = AllIcons(program_);
+    // Not every disk gives its names in order.
+    SortTexts(names);
+  }
+  LibraryView.SetCells(LibraryCells(names, program_.IconsPath));
+}
+
+// ---- the tabs ----
+
+bool frmLibrary::ShowsLibrary() const { return TabStrip1.Selected() == kLibraryTab; }
+
+void frmLibrary::TabStrip1_Click() {
+  ShowTab();
+  if (ShowsLibrary()) {
+    Pic2.SetFocus();
+  } else {
+    picOther.SetFocus();
+  }
+}
+
+void frmLibrary::ShowTab() {
+  const bool library = ShowsLibrary();
+  if (!library && !std::exchange(othersRead_, true)) {
+    const forms::HourglassScope hourglass(program_.Windows);
+    List2Other = ReadOthers(program_);
+    FillOthers(List2Other.empty() ? -1 : 0);
+  }
+  List1.SetVisible(library);
+  Pic1.SetVisible(library);
+  VS1.SetVisible(library);
+  List1Other.SetVisible(!library);
+  PicOtherFrame.SetVisible(!library);
+  vsOther.SetVisible(!library);
+  cmdAdd.SetVisible(!library);
+  cmdRemove.SetVisible(!library);
+  LibraryView.SetShown(library);
+  OtherView.SetShown(!library);
+  CurrentView().SetFilter(txtFilter.Text());
+}
+
+void frmLibrary::txtFilter_Change() { CurrentView().SetFilter(txtFilter.Text()); }
+
+// From the filter the keyboard goes straight to what it has left.
+bool frmLibrary::txtFilter_KeyDown(int keyCode) {
+  if (keyCode != forms::key::Down) return false;
+  IconView& view = CurrentView();
+  if (view.MarkedPlace() < 0) view.Mark(CellByKey(view.Grid(), -1, forms::key::Home));
+  (ShowsLibrary() ? Pic2 : picOther).SetFocus();
+  return true;
+}
+
+// ---- other files ----
+
+void frmLibrary::FillOthers(int row) {
+  List1Other.Clear();
+  for (const std::string& other : List2Other) List1Other.Add(OtherFileName(other));
+  List1Other.Select(row);
+  List1Other_Click();
+}
+
+void frmLibrary::List1Other_Click() {
+  const int row = List1Other.Selected();
+  if (row < 0) return OtherView.Clear();
+  const forms::HourglassScope hourglass(program_.Windows);
+  const std::string path = OtherFilePath(List2Other[static_cast<std::size_t>(row)]);
+  OtherView.SetCells(FileCells(path, program_.Services.Icons.IconCount(path)));
+}
+
+void frmLibrary::cmdAdd_Click() {
+  const forms::FileQuestion question{
+      .Title = "Select one file.",
+      .StartFolder = program_.Services.System.WindowsFolder(),
+      .Kinds = {{"(*.exe, *.dll, *.ico)", "*.exe;*.dll;*.ico"}, {"All Files (*.*)", "*.*"}}};
+  const forms::FileChoice choice = program_.Windows.AskFiles(hWnd(), question);
+  if (choice.Paths.empty() || !IsLoaded()) return;
+  const AddedFile added = AddOtherFile(program_, List2Other, choice.Paths.front());
+  if (added.Refusal.empty()) {
+    FillOthers(added.Row);
+  } else {
+    program_.Say(hWnd(), added.Refusal, forms::msgbox::IconInformation);
+  }
+}
+
+void frmLibrary::cmdRemove_Click() {
+  const int row = List1Other.Selected();
+  if (row < 0) return;
+  const int answer = program_.Say(hWnd(), RemoveQuestion(List2Other[static_cast<std::size_t>(row)]),
+                                  forms::msgbox::YesNo | forms::msgbox::IconQuestion);
+  if (answer != forms::msgbox::AnswerYes || !IsLoaded()) return;
+  RemoveOtherFile(program_, List2Other, row);
+  FillOthers(-1);
+}
+
+// ---- the buttons ----
+
+void frmLibrary::cmdRefresh_Click() {
+  ResetLibrary(program_);
+  program_.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
+  if (!IsLoaded()) return;
+  BuildLibrary();
+  othersRead_ = false;
+  ShowTab();
+}
+
+void frmLibrary::cmdOK_Click() {
+  const IconCell* const marked = CurrentView().Marked();
+  if (marked == nullptr) return;
+  const std::string text = marked->Text;
+  if (box_ != nullptr) box_->TakeIcon(text);
+  Unload();
+}
+
+}  // namespace corvelle

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/WindowPorts.h"
+#include "forms/CommandButton.h"
+#include "forms/Form.h"
+#include "forms/ListBox.h"
+#include "forms/PictureBox.h"
+#include "forms/ScrollBar.h"
+#include "forms/TabStrip.h"
+#include "forms/TextBox.h"
+#include "library/IconView.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The window in which the user picks an icon for an entry: from the program's own library by
+/// category, or from other files. The choice goes into the box of the window that opened it, which
+/// takes no input meanwhile.
+class frmLibrary final : public forms::Form, public LibraryPort {
+ public:
+  explicit frmLibrary(Program& program);
+
+  void Show(std::string_view caller) override;
+  void LoadWindow() override { Show({}); }
+  void UnloadWindow() override { Unload(); }
+  [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
+
+  /// Which window the choice goes to: "frmProperties", "frmCust"; anything else is nobody.
+  void SetFormName(std::string_view name);
+
+  forms::TabStrip TabStrip1;
+  forms::ListBox List1;       // categories
+  forms::ListBox List1Other;  // other files
+  /// Narrows the cells of the tab that is shown.
+  forms::TextBox txtFilter;
+  forms::PictureBox Pic1;  // frame of the cells
+  forms::PictureBox Pic2;
+  forms::ScrollBar VS1;
+  forms::PictureBox PicOtherFrame;
+  forms::PictureBox picOther;
+  forms::ScrollBar vsOther;
+  forms::CommandButton cmdAdd;
+  forms::CommandButton cmdRemove;
+  forms::CommandButton cmdRefresh;
+  forms::CommandButton cmdOK;
+  forms::CommandButton cmdCancel;
+
+  IconView LibraryView;
+  IconView OtherView;
+
+ protected:
+  void Form_Load() override;
+  void Form_Unload() override;
+
+ private:
+  void Wire();
+  void SetFormSize();
+  void BuildLibrary();
+  /// Shows the icons of a row of List1; 0 is all of them.
+  void ShowView(int position);
+  void TabStrip1_Click();
+  void List1Other_Click();
+  void txtFilter_Change();
+  [[nodiscard]] bool txtFilter_KeyDown(int keyCode);
+  void cmdAdd_Click();
+  void cmdRemove_Click();
+  void cmdRefresh_Click();
+  void cmdOK_Click();
+
+  [[nodiscard]] bool ShowsLibrary() const;
+  [[nodiscard]] IconView& CurrentView() { return ShowsLibrary() ? LibraryView : OtherView; }
+  void ShowTab();
+  /// Fills the list of other files from List2Other and chooses a row of it; -1 for none.
+  void FillOthers(int row);
+
+  Program& program_;
+  std::string caller_;
+  IconBoxPort* box_ = nullptr;
+  /// The rows of List1Other with their paths (OtherFileRow).
+  std::vector<std::string> List2Other;
+  bool othersRead_ = false;
+};
+
+}  // namespace corvelle

@@ -1,0 +1,365 @@
+#include "properties/frmProperties.h"
+
+#include <memory>
+#include <utility>
+
+#include "base/Text.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "icons/Glyphs.h"
+#include "icons/IconResolution.h"
+#include "properties/PropertiesLayout.h"
+#include "shell/LinkFiles.h"
+
+namespace corvelle {
+namespace {
+
+constexpr std::string_view kItemTab = "item";
+constexpr std::string_view kButtonsTab = "buttons";
+constexpr std::string_view kPositionTab = "position";
+constexpr int kStartMenu = 11;
+constexpr int kGlyphSide = 16;
+constexpr int kTargetDelay = 300;  // milliseconds without a key
+constexpr int kEdgeInterval = 100;
+
+void Place(forms::Control& control, const PixelRect& at, const forms::ScreenInfo& screen) {
+  control.Move(static_cast<float>(at.left) * screen.TwipsPerPixelX,
+               static_cast<float>(at.top) * screen.TwipsPerPixelY,
+               static_cast<float>(at.Width()) * screen.TwipsPerPixelX,
+               static_cast<float>(at.Height()) * screen.TwipsPerPixelY);
+}
+
+}  // namespace
+
+frmProperties::frmProperties(Program& program)
+    : Form(program.Windows, "frmProperties", forms::BorderStyle::Fixed, true),
+      TabStrip1(*this, "TabStrip1"),
+      Picture1(*this, "Picture1"),
+      Pix(Picture1, "Pix"),
+      Label1(Picture1, "Label1"),
+      lblTitle(Picture1, "lblTitle"),
+      lblIcon(Picture1, "lblIcon"),
+      lblFile(Picture1, "lblFile"),
+      lblMissing(Picture1, "lblMissing"),
+      txtTitle(Picture1, "txtTitle"),
+      txtIcon(Picture1, "txtIcon"),
+      cmdLibrary(Picture1, "cmdLibrary"),
+      cmdAllFiles(Picture1, "cmdAllFiles"),
+      txtCommand(Picture1, "txtCommand"),
+      cmdSelectFile(Picture1, "cmdSelectFile"),
+      cmdSelectFolder(Picture1, "cmdSelectFolder"),
+      Frame1(Picture1, "Frame1"),
+      cmdFile(Frame1, "cmdFile"),
+      cmdFolder(Frame1, "cmdFolder"),
+      picButtons(*this, "picButtons"),
+      TreeView1(picButtons, "TreeView1", {.CheckBoxes = true}),
+      cmdUp(picButtons, "cmdUp"),
+      cmdDown(picButtons, "cmdDown"),
+      lblHint(picButtons, "lblHint"),
+      lblHintCommand(picButtons, "lblHintCommand"),
+      Picture2(*this, "Picture2"),
+      picScreen(Picture2, "picScreen"),
+      cmdTop(Picture2, "cmdTop"),
+      cmdLeft(Picture2, "cmdLeft"),
+      cmdRight(Picture2, "cmdRight"),
+      cmdBottom(Picture2, "cmdBottom"),
+      cmdOK(*this, "cmdOK"),
+      cmdCancel(*this, "cmdCancel"),
+      cmdApply(*this, "cmdApply"),
+      program_(program),
+      tmrEdge_(program.Windows),
+      tmrTarget_(program.Windows) {
+  SetCaption("Properties");
+  SetKeyPreview(true);
+  TabStrip1.Add(std::string(kItemTab), "Item");
+  TabStrip1.Add(std::string(kButtonsTab), "Buttons");
+  TabStrip1.Add(std::string(kPositionTab), "Position");
+  TabStrip1.Click = [this] { TabStrip1_Click(); };
+  WireItem();
+  WireButtons();
+  WireEdges();
+  cmdOK.SetCaption("OK");
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.SetCaption("Cancel");
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
+  cmdApply.SetCaption("Apply");
+  cmdApply.Click = [this] { cmdApply_Click(); };
+}
+
+void frmProperties::WireItem() {
+  // A picture takes no press.
+  Pix.SetEnabled(false);
+  lblTitle.SetCaption("Title");
+  lblIcon.SetCaption("Icon");
+  lblFile.SetCaption("File");
+  lblMissing.SetCaption("Not found");
+  lblMissing.SetFont({.Bold = true});
+  txtTitle.SetLimit(static_cast<int>(kTitleWidth));
+  txtIcon.SetLimit(static_cast<int>(kIconWidth));
+  txtCommand.SetLimit(static_cast<int>(kNameWidth));
+  cmdLibrary.SetCaption("Library");
+  cmdLibrary.Click = [this] { static_cast<void>(txtIcon_KeyDown(forms::key::F3)); };
+  cmdAllFiles.SetCaption("File");
+  cmdAllFiles.Click = [this] { static_cast<void>(txtIcon_KeyDown(forms::key::F2)); };
+  cmdSelectFile.SetCaption("File");
+  cmdSelectFile.Click = [this] { static_cast<void>(txtCommand_KeyDown(forms::key::F2)); };
+  cmdSelectFolder.SetCaption("Folder");
+  cmdSelectFolder.Click = [this] { static_cast<void>(txtCommand_KeyDown(forms::key::F3)); };
+  txtIcon.KeyDown = [this](int key, forms::ShiftState) { return txtIcon_KeyDown(key); };
+  txtCommand.KeyDown = [this](int key, forms::ShiftState) { return txtCommand_KeyDown(key); };
+  txtCommand.Change = [this] { AskTargetSoon(); };
+  Frame1.SetCaption("Change Item");
+  cmdFile.SetCaption("File");
+  cmdFile.Click = [this] { cmdFile_Click(); };
+  cmdFolder.SetCaption("Folder");
+  cmdFolder.Click = [this] { cmdFolder_Click(); };
+  tmrTarget_.SetInterval(kTargetDelay);
+  tmrTarget_.Tick = [this] { AskTarget(); };
+}
+
+void frmProperties::WireButtons() {
+  cmdUp.SetCaption("Up");
+  cmdUp.Click = [this] { cmdUp_Click(); };
+  cmdDown.SetCaption("Down");
+  cmdDown.Click = [this] { cmdDown_Click(); };
+  // Titles are edited on the first tab.
+  TreeView1.Editing = [](forms::NodeId, bool) { return false; };
+  TreeView1.SelectedChanged = [this](forms::NodeId, forms::SelectCause) { ShowLoss(); };
+  TreeView1.CheckChanged = [this](forms::NodeId node) {
+    SetNodeChecked(node, TreeView1.Checked(node));
+  };
+  TreeView1.Activated = [this](forms::NodeId node) { TreeView1_DblClick(node); };
+  TreeView1.DragOver = [this](const forms::TreeHit& hit) { ShowDropMark(hit); };
+  TreeView1.DragEnd = [this](const forms::TreeHit& hit, bool dropped) {
+    TreeView1_DragDrop(hit, dropped);
+  };
+}
+
+void frmProperties::WireEdges() {
+  picScreen.SetEnabled(false);
+  picScreen.SetAutoRedraw(true);
+  cmdTop.SetCaption("Top");
+  cmdTop.Click = [this] { MoveToEdge(Edge::Top); };
+  cmdBottom.SetCaption("Bottom");
+  cmdBottom.Click = [this] { MoveToEdge(Edge::Bottom); };
+  cmdLeft.SetCaption("Left");
+  cmdLeft.Click = [this] { MoveToEdge(Edge::Left); };
+  cmdRight.SetCaption("Right");
+  cmdRight.Click = [this] { MoveToEdge(Edge::Right); };
+  tmrEdge_.SetInterval(kEdgeInterval);
+  tmrEdge_.Tick = [this] {
+    const std::optional<Edge> edge = EdgeInUse();
+    if (edge != shownEdge_) DrawStrip(edge);
+  };
+}
+
+int frmProperties::Dpi() const {
+  constexpr float kTwipsOfInch = 1440;
+  return static_cast<int>(kTwipsOfInch / program_.Windows.Screen().TwipsPerPixelX);
+}
+
+void frmProperties::PlaceControls() {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const PixelSize pixels{static_cast<int>(screen.Width / screen.TwipsPerPixelX),
+                         static_cast<int>(screen.Height / screen.TwipsPerPixelY)};
+  const PropertiesLayout at = LayOutProperties({.Dpi = Dpi(), .Screen = pixels});
+  const std::pair<forms::Control&, const PixelRect&> places[] = {
+      {TabStrip1, at.TabStrip},
+      {Picture1, at.Page},
+      {picButtons, at.Page},
+      {Picture2, at.Page},
+      {cmdOK, at.Ok},
+      {cmdCancel, at.Cancel},
+      {cmdApply, at.Apply},
+      {Pix, at.Picture},
+      {Label1, at.Heading},
+      {lblTitle, at.TitleLabel},
+      {txtTitle, at.Title},
+      {lblIcon, at.IconLabel},
+      {txtIcon, at.Icon},
+      {cmdLibrary, at.Library},
+      {cmdAllFiles, at.AllFiles},
+      {lblFile, at.CommandLabel},
+      {lblMissing, at.Missing},
+      {txtCommand, at.Command},
+      {cmdSelectFile, at.SelectFile},
+      {cmdSelectFolder, at.SelectFolder},
+      {Frame1, at.Frame},
+      {cmdFile, at.File},
+      {cmdFolder, at.Folder},
+      {TreeView1, at.Tree},
+      {cmdUp, at.Up},
+      {cmdDown, at.Down},
+      {lblHint, at.Hint},
+      {lblHintCommand, at.HintCommand},
+      {picScreen, at.Screen},
+      {cmdTop, at.Top},
+      {cmdBottom, at.Bottom},
+      {cmdLeft, at.Left},
+      {cmdRight, at.Right},
+  };
+  for (const auto& [control, place] : places) Place(control, place, screen);
+  const forms::FrameMargins frame = Margins();
+  Place(*this,
+        {0, 0, at.Inside.width + frame.Left + frame.Right,
+         at.Inside.height + frame.Top + frame.Bottom},
+        screen);
+  Center();
+}
+
+void frmProperties::Form_Load() {
+  ButtonsTabShown = ButtonsTabLoaded = PositionTabLoaded = OrderApplied = false;
+  orderTouched_ = browsing_ = busy_ = false;
+  lblMissing.SetVisible(false);
+  lastFolder_ = GetSpecialFolder(program_, kStartMenu);
+  lastBrowseFolder_.clear();
+  PlaceControls();
+  for (forms::PictureBox* page : {&Picture1, &picButtons, &Picture2}) {
+    page->ZOrder(forms::ZPlace::Front);
+  }
+  program_.Services.SlowAnswers.SetListener(
+      [this](const std::vector<LookupAnswer>& answers) { HearAnswers(answers); });
+  ShowTab(std::string(kItemTab));
+}
+
+void frmProperties::Form_Unload() {
+  tmrEdge_.SetEnabled(false);
+  tmrTarget_.SetEnabled(false);
+  program_.Services.SlowAnswers.Drop(targetAsked_);
+  program_.Services.SlowAnswers.SetListener({});
+  targets_.clear();
+  TabStrip1.Select(std::string(kItemTab));
+  if (program_.Ports.Library != nullptr && program_.Ports.Library->WindowLoaded()) {
+    program_.Ports.Library->UnloadWindow();
+  }
+  TreeView1.Clear();
+  order_.Clear();
+  desktop_.reset();
+}
+
+void frmProperties::ShowProperties(std::string_view title, std::string_view icon,
+                                   std::string_view command) {
+  const EntryEdit entry = program_.Entry;
+  // One of the two windows that edit is open at a time. The other one may ask, and stay.
+  LoadedWindow* const customize = program_.Ports.Customize;
+  if (customize != nullptr && customize->WindowLoaded()) {
+    customize->UnloadWindow();
+    if (customize->WindowLoaded()) return;
+    SetCurrentEntry(program_.Entry, entry);
+  }
+  if (!IsLoaded()) {
+    TreeView1.ClearImages();
+    images_.clear();
+  }
+  if (!Load()) return;
+  SetFileItem({std::string(title), std::string(icon), std::string(command)});
+  if (!IsLoaded()) return;
+  Show();
+  SetForeground();
+  if (!IsLoaded()) return;
+  if (txtTitle.Enabled()) {
+    txtTitle.SetFocus();
+    txtTitle.SelectAll();
+  } else {
+    cmdCancel.SetFocus();
+  }
+}
+
+// ---- tabs ----
+
+void frmProperties::TabStrip1_Click() { ShowTab(TabStrip1.Selected()); }
+
+void frmProperties::ShowTab(const std::string& key) {
+  TabStrip1.Select(key);
+  Picture1.SetVisible(key == kItemTab);
+  picButtons.SetVisible(key == kButtonsTab);
+  Picture2.SetVisible(key == kPositionTab);
+  ButtonsTabShown = key == kButtonsTab;
+  tmrEdge_.SetEnabled(key == kPositionTab);
+  if (ButtonsTabShown) LoadButtonsTab();
+  if (key == kPositionTab) LoadPositionTab();
+}
+
+void frmProperties::DrawIcon() {
+  Label1.SetCaption(DoubleAmpersands(Trim(txtTitle.Text())));
+  const std::string icon = Trim(txtIcon.Text());
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const PixelSize side{static_cast<int>(Pix.Width() / screen.TwipsPerPixelX),
+                       static_cast<int>(Pix.Height() / screen.TwipsPerPixelY)};
+  // The shell may let messages in while it is asked for an icon.
+  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas(side);
+  drawn->FillBox({0, 0, side.width, side.height},
+                 forms::Resolve(program_.Windows, forms::color::ButtonFace));
+  if (icon == "button") {
+    DrawGlyph(*drawn, program_.Windows, "button", {0, 0}, side.width / kGlyphSide);
+  } else {
+    static_cast<void>(
+        ResolveAndDraw(program_, *drawn, icon, {0, 0}, side.width, IconCaller::Properties));
+  }
+  if (!IsLoaded()) return;
+  Pix.SetAutoRedraw(true);
+  Pix.Cls();
+  Pix.PaintPicture(drawn, 0, 0);
+}
+
+// ---- keys ----
+
+void frmProperties::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
+  if (keyCode == forms::key::Escape) {
+    SwallowKey();
+    Unload();
+    return;
+  }
+  if (keyCode != forms::key::Enter) return;
+  // A button that has the focus is pressed.
+  for (const forms::TextBox* box : {&txtTitle, &txtIcon, &txtCommand}) {
+    if (!box->HasFocus()) continue;
+    SwallowKey();
+    DrawIcon();
+    AskTarget();
+    return;
+  }
+}
+
+void frmProperties::Form_KeyPress(char32_t character) {
+  // Both keys have been dealt with.
+  if (character == forms::key::Enter || character == forms::key::Escape) SwallowKey();
+}
+
+// ---- the buttons below ----
+
+// A strip that hides comes out for the change and is put away until it is drawn again.
+void frmProperties::ShowHidingStrip() {
+  if (!program_.AutoHide) return;
+  if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RevealToolbar();
+  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->HideWindow();
+}
+
+// What was changed on a tab that is not shown is meant as well.
+bool frmProperties::Apply() {
+  if (busy_) return false;
+  const forms::FlagScope busy(busy_);
+  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const bool item = !ButtonsTabShown || BoxesChanged();
+  const bool order = (ButtonsTabShown && !OrderApplied) || orderTouched_;
+  ShowHidingStrip();
+  // The order gives the entry's file another name.
+  bool done = !item || ApplyItem();
+  if (done && order && IsLoaded()) done = ApplyOrder();
+  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ShowToolbar();
+  return done && IsLoaded();
+}
+
+void frmProperties::cmdApply_Click() { static_cast<void>(Apply()); }
+
+void frmProperties::cmdOK_Click() {
+  if (Apply()) Unload();
+}
+
+void frmProperties::cmdCancel_Click() {
+  if (busy_) return;
+  CancelFileItem();
+  if (IsLoaded()) Unload();
+}
+
+}  // namespace corvelle

@@ -1,0 +1,199 @@
+// The tab of the buttons: their order, and which of them are shown.
+
+#include <algorithm>
+#include <memory>
+
+#include "base/Text.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "icons/Glyphs.h"
+#include "icons/IconForm.h"
+#include "icons/IconResolution.h"
+#include "platform/Input.h"
+#include "properties/OrderFiles.h"
+#include "properties/frmProperties.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kImageSide = 16;
+
+}  // namespace
+
+void frmProperties::LoadButtonsTab() {
+  if (ButtonsTabLoaded) return;
+  ButtonsTabLoaded = true;
+  const FileStatus loaded =
+      LoadButtons(program_.Services.Files, program_.Services.Ansi, program_.MenusPath, order_);
+  orderTouched_ = OrderApplied = false;
+  if (!loaded) ShowFileError(program_.MenusPath, loaded.Error());
+  if (IsLoaded()) FillTree();
+}
+
+// The titles first, so that they are seen while the shell is asked for the icons.
+void frmProperties::FillTree() {
+  const std::size_t selected = IndexOf(TreeView1.Selected());
+  {
+    const forms::TreeView::FreezeScope freeze(TreeView1);
+    TreeView1.Clear();
+    for (const ButtonNode& node : order_.Nodes()) {
+      TreeView1.Insert(forms::kNoNode, forms::kNoNode,
+                       {.Text = node.Title,
+                        .Image = NodeImage("unknown"),
+                        .Dimmed = !node.Checked,
+                        .Checked = node.Checked});
+    }
+  }
+  TreeView1.Select(NodeAt(selected < order_.Nodes().size() ? selected : 0));
+  TreeView1.Refresh();
+  for (std::size_t i = 0; i < order_.Nodes().size(); ++i) {
+    const int image = NodeImage(order_.Nodes()[i].Icon);
+    if (!IsLoaded() || i >= order_.Nodes().size()) return;
+    TreeView1.SetImage(NodeAt(i), image);
+  }
+  ShowLoss();
+}
+
+// A text is drawn once for each opening of the window.
+int frmProperties::NodeImage(const std::string& icon) {
+  const auto known = images_.find(icon);
+  if (known != images_.end()) return known->second;
+  const IconForm form = ClassifyIcon(icon,
+                                     {.AppPath = program_.AppPath,
+                                      .IconsPath = program_.IconsPath,
+                                      .WebLinkIcon = program_.WebLinkIcon},
+                                     IconCaller::Tree);
+  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas({kImageSide, kImageSide});
+  drawn->FillBox({0, 0, kImageSide, kImageSide}, forms::Image::kMask);
+  const bool own = form.Kind == IconKind::BuiltIn || form.Kind == IconKind::Empty;
+  const std::string key = form.Kind == IconKind::BuiltIn ? form.Text : "unknown";
+  if (own) {
+    DrawGlyph(*drawn, program_.Windows, key, {0, 0});
+  } else if (!ResolveAndDraw(program_, *drawn, icon, {0, 0}, kImageSide, IconCaller::Tree)) {
+    DrawGlyph(*drawn, program_.Windows, "qmark", {0, 0});
+  }
+  if (!IsLoaded()) return -1;
+  const int image = TreeView1.AddImage(drawn);
+  images_[icon] = image;
+  return image;
+}
+
+std::size_t frmProperties::IndexOf(forms::NodeId node) const {
+  const std::vector<forms::NodeId>& nodes = TreeView1.Nodes().Children(forms::kNoNode);
+  const auto found = std::find(nodes.begin(), nodes.end(), node);
+  return found != nodes.end() ? static_cast<std::size_t>(found - nodes.begin())
+                              : ButtonOrder::kNone;
+}
+
+forms::NodeId frmProperties::NodeAt(std::size_t index) const {
+  const std::vector<forms::NodeId>& nodes = TreeView1.Nodes().Children(forms::kNoNode);
+  return index < nodes.size() ? nodes[index] : forms::kNoNode;
+}
+
+/// `to`: the new index in the list, in which the node stands already.
+void frmProperties::MoveButton(std::size_t to, std::size_t from) {
+  if (to == ButtonOrder::kNone) {
+    program_.Services.Pointer.Beep();
+    return;
+  }
+  const forms::NodeId node = NodeAt(from);
+  const forms::NodeId before = NodeAt(to > from ? to + 1 : to);
+  TreeView1.MoveNode(node, forms::kNoNode, before);
+  TreeView1.Select(node);
+  TreeView1.EnsureVisible(node);
+  orderTouched_ = true;
+  OrderApplied = false;
+  ShowLoss();
+}
+
+void frmProperties::cmdUp_Click() {
+  const std::size_t from = IndexOf(TreeView1.Selected());
+  MoveButton(order_.Up(from), from);
+}
+
+void frmProperties::cmdDown_Click() {
+  const std::size_t from = IndexOf(TreeView1.Selected());
+  MoveButton(order_.Down(from), from);
+}
+
+void frmProperties::ShowDropMark(const forms::TreeHit& hit) {
+  const std::size_t from = IndexOf(TreeView1.Dragged());
+  const std::size_t to = IndexOf(hit.Node);
+  const bool lands = to != ButtonOrder::kNone && from != ButtonOrder::kNone && to != from;
+  TreeView1.SetInsertMark(lands ? hit.Node : forms::kNoNode, lands && to > from);
+}
+
+void frmProperties::TreeView1_DragDrop(const forms::TreeHit& hit, bool dropped) {
+  TreeView1.SetInsertMark(forms::kNoNode, false);
+  const std::size_t from = IndexOf(TreeView1.Dragged());
+  const std::size_t target = IndexOf(hit.Node);
+  if (!dropped || target == ButtonOrder::kNone) return;
+  MoveButton(order_.Drop(from, target), from);
+}
+
+void frmProperties::TreeView1_DblClick(forms::NodeId node) {
+  const bool checked = !TreeView1.Checked(node);
+  TreeView1.SetChecked(node, checked);
+  SetNodeChecked(node, checked);
+}
+
+void frmProperties::SetNodeChecked(forms::NodeId node, bool checked) {
+  order_.SetChecked(IndexOf(node), checked);
+  TreeView1.SetDimmed(node, !checked);
+  TreeView1.Select(node);
+  orderTouched_ = true;
+  OrderApplied = false;
+  ShowLoss();
+}
+
+// Of the selected button if it loses something, else of the first that does.
+void frmProperties::ShowLoss() {
+  const std::vector<ButtonNode>& nodes = order_.Nodes();
+  auto loser = std::find_if(nodes.begin(), nodes.end(), LosesCommand);
+  const std::size_t selected = IndexOf(TreeView1.Selected());
+  if (selected < nodes.size() && LosesCommand(nodes[selected])) {
+    loser = nodes.begin() + static_cast<std::ptrdiff_t>(selected);
+  }
+  const bool lost = loser != nodes.end();
+  lblHint.SetCaption(lost ? DoubleAmpersands(LossText(*loser)) : std::string());
+  lblHintCommand.SetCaption(lost ? DoubleAmpersands(loser->Name) : std::string());
+}
+
+bool frmProperties::ApplyOrder() {
+  const forms::HourglassScope hourglass(program_.Windows);
+  ToolbarPort* const strip = program_.Ports.Toolbar;
+  const float gap = strip != nullptr ? strip->FreeWidth() : 0;
+  const std::size_t place = order_.FindPath(item_.File);
+  const OrderOutcome outcome =
+      ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi, program_.MenusPath, order_);
+  if (outcome.Result == OrderResult::Failed) {
+    ShowFileError(program_.MenusPath, outcome.Reason);
+    return false;
+  }
+  if (outcome.Result == OrderResult::Outdated) {
+    program_.Say(hWnd(), RefusalText(ItemResult::Mismatch), forms::msgbox::IconInformation);
+    if (!IsLoaded()) return false;
+    // The buttons that there are now, to begin again with.
+    ButtonsTabLoaded = false;
+    LoadButtonsTab();
+    return false;
+  }
+  OrderApplied = true;
+  orderTouched_ = false;
+  if (place != ButtonOrder::kNone) {
+    const ButtonNode& node = order_.Nodes()[place];
+    FollowOrder(item_, PathOfTag(node.Tag), node.Stored, program_.Services.Ansi);
+    item_.Key = order_.KeyOnStrip(item_.Key, place);
+    if (item_.Record == 1) txtCommand.SetText(item_.Current.FName);
+  }
+  ShowLoss();
+  if (strip == nullptr) return true;
+  strip->InitNewButtons();
+  if (!IsLoaded()) return false;
+  strip->ResizeAfterEdit(gap);
+  // The strip took the focus when it was built.
+  SetForeground();
+  return IsLoaded();
+}
+
+}  // namespace corvelle

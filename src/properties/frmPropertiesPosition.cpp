@@ -1,0 +1,119 @@
+// The tab of the edges: the small picture of the screen and the four buttons around it.
+
+#include <algorithm>
+#include <memory>
+
+#include "base/Text.h"
+#include "core/Program.h"
+#include "forms/Scopes.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "platform/ShellIcons.h"
+#include "properties/DesktopIcons.h"
+#include "properties/frmProperties.h"
+
+namespace corvelle {
+namespace {
+
+void Draw(Canvas& canvas, const forms::WindowSystem& windows, const PreviewPlan& plan) {
+  for (const PreviewBox& box : plan.Boxes) {
+    canvas.FillBox(box.Area, forms::Resolve(windows, box.Colour));
+  }
+  for (const PreviewLine& line : plan.Lines) {
+    canvas.FillBox({line.From.x, line.From.y, line.To.x + 1, line.To.y + 1},
+                   forms::Resolve(windows, line.Colour));
+  }
+  for (const PreviewText& text : plan.Texts) {
+    canvas.DrawString(text.At, text.Text, {}, forms::Resolve(windows, forms::color::ButtonText));
+  }
+}
+
+}  // namespace
+
+void frmProperties::LoadPositionTab() {
+  if (PositionTabLoaded) return;
+  PositionTabLoaded = true;
+  const forms::HourglassScope hourglass(program_.Windows);
+  DrawPreview();
+}
+
+void frmProperties::DrawPreview() {
+  const forms::ScreenInfo screen = program_.Windows.Screen();
+  scene_ = {.Box = {static_cast<int>(picScreen.Width() / screen.TwipsPerPixelX),
+                    static_cast<int>(picScreen.Height() / screen.TwipsPerPixelY)},
+            .Dpi = Dpi(),
+            .StartText = program_.Windows.MeasureText(kStartText, {}),
+            .ClockText = program_.Windows.MeasureText(kClockText, {})};
+  const int width = program_.Services.Icons.IconWidth(IconList::Large);
+  if (width > 0) scene_.IconSize = width;
+  // The shell may let messages in while it lists the desktop.
+  const std::vector<int> icons = DesktopIcons(program_);
+  const std::vector<PixelPoint> places = IconGrid(scene_, icons.size());
+  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas(scene_.Box);
+  Draw(*drawn, program_.Windows, PlanPreview(scene_));
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    // One that the system does not have leaves its place empty.
+    static_cast<void>(program_.Services.Icons.DrawSystemIcon(*drawn, IconList::Large, icons[i],
+                                                             places[i], IconStyle::Normal));
+  }
+  if (!IsLoaded()) return;
+  desktop_ = drawn;
+  DrawStrip(std::nullopt);
+}
+
+// The strip at the edge of the button that would send it there.
+void frmProperties::DrawStrip(std::optional<Edge> edge) {
+  shownEdge_ = edge;
+  if (desktop_ == nullptr) return;
+  picScreen.Cls();
+  picScreen.PaintPicture(desktop_, 0, 0);
+  if (edge) {
+    const forms::ScreenInfo screen = program_.Windows.Screen();
+    const TwipRect strip =
+        program_.Ports.Toolbar != nullptr ? program_.Ports.Toolbar->WindowBounds() : TwipRect{};
+    const auto thickness =
+        static_cast<int>(std::min(strip.Width, strip.Height) / screen.TwipsPerPixelX);
+    const PixelRect at = PreviewStrip(scene_, *edge, thickness,
+                                      static_cast<int>(screen.Width / screen.TwipsPerPixelX));
+    picScreen.DrawPixels(at,
+                         [&](Canvas& canvas) { Draw(canvas, program_.Windows, PlanStrip(at)); });
+  }
+  picScreen.Refresh();
+}
+
+void frmProperties::HidePreview() {
+  if (IsLoaded() && shownEdge_) DrawStrip(std::nullopt);
+}
+
+// Of the button under the pointer, else of the one that has the focus.
+std::optional<Edge> frmProperties::EdgeInUse() const {
+  const std::pair<const forms::CommandButton&, Edge> buttons[] = {{cmdTop, Edge::Top},
+                                                                  {cmdBottom, Edge::Bottom},
+                                                                  {cmdLeft, Edge::Left},
+                                                                  {cmdRight, Edge::Right}};
+  const WindowId under =
+      program_.Services.Desktop.WindowAt(program_.Services.Pointer.PointerPosition());
+  for (const auto& [button, edge] : buttons) {
+    if (button.hWnd() == under) return edge;
+  }
+  for (const auto& [button, edge] : buttons) {
+    if (button.HasFocus()) return edge;
+  }
+  return std::nullopt;
+}
+
+void frmProperties::MoveToEdge(Edge edge) {
+  DockingPort* const docking = program_.Ports.Docking;
+  if (busy_ || docking == nullptr || program_.ToolbarMinimizing) return;
+  if (program_.AppBarDocked && EqualNoCase(program_.ToolbarEdge, EdgeText(edge))) return;
+  const forms::FlagScope busy(busy_);
+  docking->SetAppBar(EdgeText(edge), false);
+  if (!IsLoaded()) return;
+  if (program_.AutoHide) docking->RevealToolbar();
+  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ShowToolbar();
+  if (!IsLoaded()) return;
+  // The strip may have taken the foreground while it was built.
+  SetForeground();
+}
+
+}  // namespace corvelle
