@@ -166,6 +166,7 @@ bool frmProperties::ApplyOrder() {
   const std::size_t place = order_.FindPath(item_.File);
   const OrderOutcome outcome =
       ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi, program_.MenusPath, order_);
+  if (outcome.Result == OrderResult::Applied) program_.TellMenusEdited();
   if (outcome.Result == OrderResult::Failed) {
     ShowFileError(program_.MenusPath, outcome.Reason);
     return false;
