@@ -208,7 +208,7 @@ void frmAbout::DrawTitle() {
   picLogo.DrawPixels({0, 0, size, size}, [this, size](Canvas& canvas) {
     // Without the program's icon the place stays empty.
     static_cast<void>(program_.Services.Icons.DrawFileIcon(
-        canvas, program_.AppPath + "corvelle.exe", 0, {0, 0}, size));
+        canvas, program_.ShippedFile("corvelle.exe"), 0, {0, 0}, size));
   });
   picTitle.SetFont({.Points = kTitlePoints, .Bold = true});
   picTitle.Print(0, 0, kName, forms::color::WindowText);
