@@ -216,7 +216,9 @@ class frmCust final : public forms::Form,
   bool finding_ = false;
   bool arranging_ = false;
   bool messageWaits_ = false;  // the message of a drop on a root
-  std::string address_;        // dropped, and not dealt with yet
+  // A web address that was dropped and not dealt with yet, with its title if the source had one.
+  std::string address_;
+  std::string addressTitle_;
 };
 
 }  // namespace corvelle

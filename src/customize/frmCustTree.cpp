@@ -279,6 +279,7 @@ void frmCust::TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffe
     return ShowState();
   }
   address_ = *data.Text;
+  addressTitle_ = data.Title;
   program_.Windows.Post([this] {
     if (IsLoaded()) TakeAddress();
   });
@@ -287,8 +288,8 @@ void frmCust::TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffe
 void frmCust::TakeAddress() {
   const std::vector<std::string> lines = SplitLines(std::exchange(address_, {}));
   if (lines.empty() || Editor.OnRoot()) return;
-  std::string title;
-  {
+  std::string title = std::exchange(addressTitle_, {});
+  if (title.empty()) {
     const forms::HourglassScope hourglass(program_.Windows);
     if (program_.Ports.Browser != nullptr) title = program_.Ports.Browser->WindowTitle(lines[0]);
   }
