@@ -114,10 +114,10 @@ void frmNetSearch::LayOut() {
 void frmNetSearch::FetchFactoryList() {
   FileSystem& files = program_.Services.Files;
   if (files.FileExists(PathOf(kEngineFile))) return;
-  if (files.FileExists(PathOf(kFactoryFile))) {
+  if (files.FileExists(program_.ShippedFile(kFactoryFile))) {
     // A folder that takes no file leaves the window without engines, which it says when one is
     // needed.
-    static_cast<void>(files.Copy(PathOf(kFactoryFile), PathOf(kEngineFile)));
+    static_cast<void>(files.Copy(program_.ShippedFile(kFactoryFile), PathOf(kEngineFile)));
     return;
   }
   program_.Say(program_.ToolbarWindow(), kNoEngines, msgbox::IconInformation | msgbox::OnTop);
