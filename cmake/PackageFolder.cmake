@@ -10,6 +10,7 @@ if(TARGET corvelle)
   install(CODE "if(NOT EXISTS \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/netsrch.ini\")
     file(INSTALL \"${engine_list}\" DESTINATION \"\${CMAKE_INSTALL_PREFIX}\")
   endif()")
+  install(DIRECTORY ${CORVELLE_HELP_DIR}/ DESTINATION Help)
   install(FILES LICENSE DESTINATION . RENAME LICENSE.txt)
   install(FILES CHANGELOG.md DESTINATION . RENAME CHANGES.txt)
   # It keeps the user's data in the folder; a release's installer leaves it out.

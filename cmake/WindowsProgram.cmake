@@ -19,4 +19,5 @@ if(EXISTS ${PROJECT_SOURCE_DIR}/src/main.cpp)
 endif()
 
 include(${CMAKE_CURRENT_LIST_DIR}/PackageIcons.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/PackageHelp.cmake)
 include(${CMAKE_CURRENT_LIST_DIR}/PackageFolder.cmake)

@@ -17,7 +17,7 @@ namespace {
 constexpr double kMegabyte = 1'000'000;  // decimal, as drives are sold
 constexpr double kMegabytesInGigabyte = 1000;
 constexpr std::uint64_t kKilobyte = 1024;
-constexpr std::string_view kFailure = "Error getting system Info";
+constexpr std::string_view kSystemFailure = "Error getting system Info";
 
 constexpr std::string_view kTotalSize = "  Total Size         ";
 constexpr std::string_view kUsedSpace = "  Used Space         ";
@@ -150,10 +150,10 @@ InfoPage DriveInfo(const DriveFacts& drive) {
                    StripAtNull(drive.FileSystem));
 }
 
-InfoPage SystemPage(const MachineFacts& machine) {
+InfoPage SystemPage(const SystemFacts& machine) {
   InfoPage page;
   const auto failed = [&page] {
-    page.push_back({{}, std::string(kFailure)});
+    page.push_back({{}, std::string(kSystemFailure)});
     return page;
   };
   if (!machine.Version) return failed();

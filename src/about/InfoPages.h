@@ -33,7 +33,7 @@ inline constexpr std::string_view kInfoColon = ":  ";
 [[nodiscard]] InfoPage EmptyDriveInfo();
 
 /// What the page of the system is made of; a part is absent when it could not be read.
-struct MachineFacts {
+struct SystemFacts {
   std::optional<std::string> VersionName;  // as the registry has it
   std::optional<WindowsVersion> Version;
   ProcessorFacts Processor;
@@ -45,7 +45,7 @@ struct MachineFacts {
 
 /// The page of the system: the lines that could be made until the first part that is absent, in
 /// whose place the failure is told.
-[[nodiscard]] InfoPage SystemPage(const MachineFacts& machine);
+[[nodiscard]] InfoPage SystemPage(const SystemFacts& machine);
 
 /// The page as text, a line end after each line, to be given to others.
 [[nodiscard]] std::string PageText(const InfoPage& page);

@@ -204,6 +204,7 @@ void frmCust::Form_Load() {
   }
   shownAt_ = keptAt_ = Editor.Tree.Revision();
   OfferTheDraft();
+  LookForBrowser();
   MakeMenuBar();
   PlaceControls();
   ShowState();

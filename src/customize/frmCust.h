@@ -181,6 +181,7 @@ class frmCust final : public forms::Form,
   void AddOptionLines(MenuMaker& menu);
   void ChooseOption(CustOption option);
   void FlipOption(int position);
+  void LookForBrowser();
   void ChooseWebIcon(bool custom);
   void ChooseBrowser(bool own);
   void SetLargeIcons();
@@ -211,6 +212,7 @@ class frmCust final : public forms::Form,
   long shownAt_ = 0;              // revision of the tree that those files hold
   long keptAt_ = 0;               // revision in the draft
   std::optional<MenuSet> draft_;  // that is offered
+  bool ownBrowser_ = false;       // the user has chosen one
   bool finding_ = false;
   bool arranging_ = false;
   bool messageWaits_ = false;  // the message of a drop on a root

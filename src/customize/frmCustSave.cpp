@@ -106,8 +106,11 @@ void frmCust::RefreshStrip() {
   const float gap = strip->FreeWidth();
   strip->ResetCollections();
   strip->InitNewButtons();
-  if (!strip->WindowLoaded() || program_.AppBarDocked || program_.AutoHide) return;
-  strip->ResizeAfterEdit(gap);
+  if (strip->WindowLoaded() && !program_.AppBarDocked && !program_.AutoHide) {
+    strip->ResizeAfterEdit(gap);
+  }
+  // The rebuilt strip came to the foreground.
+  if (IsLoaded()) SetForeground();
 }
 
 bool frmCust::AskToSave(bool canStay) {

@@ -89,7 +89,8 @@ void frmCust::ShowState() {
   const forms::NodeId id = tree_.IdOf(node);
   if (TreeView1.Selected() != id) TreeView1.Select(id);
   ShowBoxes();
-  Toolbar1.SetButtonEnabled("undo", !Editor.colUndo.empty());
+  // The next Undo and Redo bear the names of their commands.
+  MakeMenuBar();
 }
 
 void frmCust::ShowBoxes() {

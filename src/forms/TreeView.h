@@ -28,6 +28,7 @@ class TreeView final : public SystemControl, private TreeEvents {
   void SetOverlay(int overlay, int image);
   /// Forgets all images, of a tree that is not loaded; the next one counts from 0.
   void ClearImages();
+  [[nodiscard]] std::size_t ImageCount() const noexcept { return images_.size(); }
 
   /// In front of `before`, or as the last child of `parent`. kNoNode when the parent is not there.
   NodeId Insert(NodeId parent, NodeId before, NodeLook look);

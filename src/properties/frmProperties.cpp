@@ -129,6 +129,10 @@ void frmProperties::WireButtons() {
     SetNodeChecked(node, TreeView1.Checked(node));
   };
   TreeView1.Activated = [this](forms::NodeId node) { TreeView1_DblClick(node); };
+  TreeView1.DragBegin = [this](forms::NodeId node) {
+    dragNode_ = node;
+    return true;
+  };
   TreeView1.DragOver = [this](const forms::TreeHit& hit) { ShowDropMark(hit); };
   TreeView1.DragEnd = [this](const forms::TreeHit& hit, bool dropped) {
     TreeView1_DragDrop(hit, dropped);

@@ -171,7 +171,8 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   Program& program_;
   FileItem item_;
   ButtonOrder order_;
-  bool orderTouched_ = false;                       // since the tab was filled or applied
+  bool orderTouched_ = false;  // since the tab was filled or applied
+  forms::NodeId dragNode_ = forms::kNoNode;
   std::map<std::string, int, std::less<>> images_;  // of the tree, by their icon texts
   PreviewScene scene_;
   Picture desktop_;  // the small picture without the strip

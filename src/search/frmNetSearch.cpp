@@ -114,10 +114,11 @@ void frmNetSearch::LayOut() {
 void frmNetSearch::FetchFactoryList() {
   FileSystem& files = program_.Services.Files;
   if (files.FileExists(PathOf(kEngineFile))) return;
-  if (files.FileExists(program_.ShippedFile(kFactoryFile))) {
+  const std::string factory = program_.ShippedFile(kFactoryFile);
+  if (files.FileExists(factory)) {
     // A folder that takes no file leaves the window without engines, which it says when one is
     // needed.
-    static_cast<void>(files.Copy(program_.ShippedFile(kFactoryFile), PathOf(kEngineFile)));
+    static_cast<void>(files.Copy(factory, PathOf(kEngineFile)));
     return;
   }
   program_.Say(program_.ToolbarWindow(), kNoEngines, msgbox::IconInformation | msgbox::OnTop);

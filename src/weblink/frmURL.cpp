@@ -7,7 +7,7 @@
 #include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "platform/DesktopWindows.h"
-#include "weblink/LinkTarget.h"
+#include "weblink/WebLinkTarget.h"
 #include "weblink/WebLinkLayout.h"
 
 namespace corvelle {

@@ -17,7 +17,7 @@ DriveFacts Disk(std::uint64_t total, std::uint64_t free) {
   return {.Type = 3, .Label = "Disk", .FileSystem = "NTFS", .Room = DriveRoom{total, free}};
 }
 
-MachineFacts Machine() {
+SystemFacts Machine() {
   return {.Version = WindowsVersion{2, 10, 0, 22631},
           .Processor = {8664, 9},
           .PhysicalMemory = 17'179'869'184,
@@ -121,7 +121,7 @@ TEST(SystemPage, HasItsCaptionsToTheLetter) {
 }
 
 TEST(SystemPage, TheNameInTheRegistryComesBeforeThatOfThePlatform) {
-  MachineFacts machine = Machine();
+  SystemFacts machine = Machine();
   machine.VersionName = "Windows 98";
   EXPECT_EQ(ValueAt(SystemPage(machine), 0), "Windows 98");
 }
@@ -129,7 +129,7 @@ TEST(SystemPage, TheNameInTheRegistryComesBeforeThatOfThePlatform) {
 TEST(SystemPage, NamesEachPlatform) {
   const char* const names[] = {"Windows 32s ", "Windows 95 ", "Windows NT ", "Microsoft Windows"};
   for (unsigned platform = 0; platform < 4; ++platform) {
-    MachineFacts machine = Machine();
+    SystemFacts machine = Machine();
     machine.Version = WindowsVersion{platform, 4, 10, 1998};
     EXPECT_EQ(ValueAt(SystemPage(machine), 0), names[platform]);
     EXPECT_EQ(ValueAt(SystemPage(machine), 1), "4.10 (Build 1998)");
@@ -150,7 +150,7 @@ TEST(SystemPage, NamesEachProcessor) {
       {{0, 0}, "(Unknown)"},           {{7, 99}, "(Unknown)"},
   };
   for (const Row& row : rows) {
-    MachineFacts machine = Machine();
+    SystemFacts machine = Machine();
     machine.Processor = row.processor;
     EXPECT_EQ(ValueAt(SystemPage(machine), 2), row.expected);
   }
@@ -171,7 +171,7 @@ TEST(SystemPage, CountsMemoryInGroupsOfThreeDigits) {
       {2'199'023'255'552, "2,147,483,648 KB"},
   };
   for (const Row& row : rows) {
-    MachineFacts machine = Machine();
+    SystemFacts machine = Machine();
     machine.PhysicalMemory = row.bytes;
     EXPECT_EQ(ValueAt(SystemPage(machine), 3), row.expected);
   }
@@ -180,19 +180,19 @@ TEST(SystemPage, CountsMemoryInGroupsOfThreeDigits) {
 TEST(SystemPage, AfterAFailureItShowsWhatWasReadUntilThen) {
   struct Row {
     const char* name;
-    void (*fail)(MachineFacts&);
+    void (*fail)(SystemFacts&);
     std::size_t lines;  // above the failure
   };
   const Row rows[] = {
-      {"version", [](MachineFacts& m) { m.Version.reset(); }, 0},
-      {"memory", [](MachineFacts& m) { m.PhysicalMemory.reset(); }, 3},
-      {"drives", [](MachineFacts& m) { m.Drives.clear(); }, 4},
-      {"folder of Windows", [](MachineFacts& m) { m.WindowsFolder.clear(); }, 5},
-      {"temporary folder", [](MachineFacts& m) { m.TempFolder.clear(); }, 6},
+      {"version", [](SystemFacts& m) { m.Version.reset(); }, 0},
+      {"memory", [](SystemFacts& m) { m.PhysicalMemory.reset(); }, 3},
+      {"drives", [](SystemFacts& m) { m.Drives.clear(); }, 4},
+      {"folder of Windows", [](SystemFacts& m) { m.WindowsFolder.clear(); }, 5},
+      {"temporary folder", [](SystemFacts& m) { m.TempFolder.clear(); }, 6},
   };
   const InfoPage whole = SystemPage(Machine());
   for (const Row& row : rows) {
-    MachineFacts machine = Machine();
+    SystemFacts machine = Machine();
     row.fail(machine);
     InfoPage expected(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(row.lines));
     expected.push_back({"", "Error getting system Info"});
