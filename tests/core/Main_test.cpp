@@ -3,6 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "core/CoreDoubles.h"
 #include "core/Instance.h"
@@ -52,6 +56,16 @@ class OtherCopy final : public SystemInfo {
   std::string CurrentFolder() const override { return world_.System.CurrentFolder(); }
   std::string WindowsFolder() const override { return world_.System.WindowsFolder(); }
   std::string SystemFolder() const override { return world_.System.SystemFolder(); }
+  std::string TempFolder() const override { return world_.System.TempFolder(); }
+  std::optional<WindowsVersion> Version() const override { return world_.System.Version(); }
+  ProcessorFacts Processor() const override { return world_.System.Processor(); }
+  std::optional<std::uint64_t> PhysicalMemory() const override {
+    return world_.System.PhysicalMemory();
+  }
+  std::vector<std::string> LogicalDrives() const override { return world_.System.LogicalDrives(); }
+  DriveFacts FactsOfDrive(const std::string& root) const override {
+    return world_.System.FactsOfDrive(root);
+  }
   int CaptionHeight() const override { return world_.System.CaptionHeight(); }
   int CaptionButtonWidth() const override { return world_.System.CaptionButtonWidth(); }
   std::string ShortDate() const override { return world_.System.ShortDate(); }
@@ -65,9 +79,10 @@ class OtherCopy final : public SystemInfo {
   /// The world's services with this in the place of the world's own.
   Platform Services() {
     const Platform own = world_.Services();
-    return {own.Files,   own.Ansi,    own.Keys,     own.Shell,   own.Icons,      own.Links,
-            own.FileOps, own.Pointer, own.Keyboard, own.Desktop, own.Dde,        own.Associations,
-            *this,       own.Folders, own.Bars,     own.Tray,    own.SlowAnswers};
+    return {own.Files, own.Ansi,         own.Keys,    own.Shell,    own.Icons,
+            own.Links, own.FileOps,      own.Pointer, own.Keyboard, own.Desktop,
+            own.Dde,   own.Associations, *this,       own.Folders,  own.Bars,
+            own.Tray,  own.SlowAnswers,  own.Copies,  own.Crashes};
   }
 
  private:
