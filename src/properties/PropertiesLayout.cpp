@@ -7,7 +7,7 @@ namespace corvelle {
 namespace {
 
 // Pixels of a screen of 96 dots an inch.
-constexpr int kDotsOfOne = 96;
+constexpr int kPlainDots = 96;
 constexpr int kPageWidth = 356;
 constexpr int kButtonWidth = 76;
 constexpr int kButtonHeight = 25;
@@ -19,7 +19,7 @@ class Scale {
   explicit Scale(int dpi) : dpi_(dpi) {}
 
   [[nodiscard]] int Of(int pixels) const noexcept {
-    return (pixels * dpi_ + kDotsOfOne / 2) / kDotsOfOne;
+    return (pixels * dpi_ + kPlainDots / 2) / kPlainDots;
   }
   /// Corner and size are scaled by themselves, so that what is equal stays equal.
   [[nodiscard]] PixelRect Rect(int left, int top, int width, int height) const noexcept {

@@ -23,9 +23,9 @@ using scenario::StartAndWait;
 using scenario::Witness;
 using scenario::WriteMenu;
 
-constexpr int kKills = 3;  // in each test
+constexpr int kEndedSaves = 3;  // in each test
 constexpr int kMenusThere = 16;
-constexpr int kSinglesThere = 4;
+constexpr int kSinglesSaved = 4;
 constexpr int kKeyAlt = 18;
 constexpr int kKeyDelete = 46;
 
@@ -51,7 +51,7 @@ class EndedSaves : public ::testing::TestWithParam<int> {
       const std::string title = "m" + std::to_string(menu);
       WriteMenu(desk_, menu, title, {Witness(desk_, title)});
     }
-    for (int single = 1; single <= kSinglesThere; ++single) {
+    for (int single = 1; single <= kSinglesSaved; ++single) {
       desk_.WriteFile("Menus\\" + SingleFileName(single),
                       FormatRecord(Witness(desk_, "s" + std::to_string(single)), Windows1252()));
     }
@@ -116,7 +116,7 @@ TEST_P(EndedSaves, LeaveTheOldMenusOrTheNewOnesAfterTheNextStart) {
   int saved = 0;
   desk_.MovePointer(scenario::FarAway(desk_));
   ASSERT_TRUE(StartAndWait(desk_));
-  for (int kill = 0; kill < kKills; ++kill) {
+  for (int kill = 0; kill < kEndedSaves; ++kill) {
     const Contents before = Now();
     const Contents after = WithoutFirstMenu(before);
     ASSERT_NO_FATAL_FAILURE(DeleteFirstMenu());
@@ -138,7 +138,7 @@ TEST_P(EndedSaves, LeaveTheOldMenusOrTheNewOnesAfterTheNextStart) {
   PressUpdate();
   EXPECT_TRUE(desk_.Wait([&] { return Now() == WithoutFirstMenu(before) && !HasJournal(); }));
   desk_.Picture("saved");
-  std::printf("%d kills: a journal was left after %d, a mixture after %d, saved were %d\n", kKills,
+  std::printf("%d kills: a journal was left after %d, a mixture after %d, saved were %d\n", kEndedSaves,
               journals, mixed, saved);
 }
 
