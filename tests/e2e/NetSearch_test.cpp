@@ -184,9 +184,6 @@ TEST_F(AboutAtEachScale, ShowsItsThreeTabsAndCopiesAPage) {
 }
 
 TEST_F(HelpPages, OpenFromTheMenuAndByF1) {
-  desk_.WriteFile("Help\\index.html", "<html></html>");
-  desk_.WriteFile("Help\\net-search.html", "<html></html>");
-  desk_.WriteFile("Help\\about.html", "<html></html>");
   ASSERT_TRUE(StartAndWait(desk_));
   ASSERT_TRUE(scenario::ChooseInMainMenu(desk_, MainChoice::HelpTopics));
   ASSERT_TRUE(WaitForLaunches(1));
