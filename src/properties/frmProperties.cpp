@@ -31,10 +31,10 @@ void Place(forms::Control& control, const PixelRect& at, const forms::ScreenInfo
                static_cast<float>(at.Height()) * screen.TwipsPerPixelY);
 }
 
-bool HoldsFocus(const forms::Window& window) {
+bool HasFocusInside(const forms::Window& window) {
   return window.HasFocus() ||
          std::any_of(window.Children().begin(), window.Children().end(),
-                     [](const forms::Window* child) { return HoldsFocus(*child); });
+                     [](const forms::Window* child) { return HasFocusInside(*child); });
 }
 
 }  // namespace
@@ -280,7 +280,7 @@ void frmProperties::ShowTab(const std::string& key) {
   TabStrip1.Select(key);
   const forms::PictureBox* const pages[] = {&Picture1, &picButtons, &Picture2};
   const bool movesFocus = std::any_of(std::begin(pages), std::end(pages), [](const auto* page) {
-    return page->Visible() && HoldsFocus(*page);
+    return page->Visible() && HasFocusInside(*page);
   });
   Picture1.SetVisible(key == kItemTab);
   picButtons.SetVisible(key == kButtonsTab);
