@@ -70,12 +70,13 @@ class Parts {
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};
   frmURL WebLink{TheProgram};
-  frmLibrary Library{TheProgram};
+  frmCust Customize{TheProgram};
   HelpViewer TheHelp{TheProgram};
   frmNetSearch NetSearch{TheProgram};
   frmAbout About{TheProgram};
-  frmCust Customize{TheProgram};
   frmProperties Properties{TheProgram};
+  // After the windows that it may be modal to: it ends before them.
+  frmLibrary Library{TheProgram};
 
  private:
   /// F1 opens the page of each window.
