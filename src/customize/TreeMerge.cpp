@@ -13,7 +13,7 @@
 namespace corvelle {
 namespace {
 
-std::size_t Index(int place) noexcept { return static_cast<std::size_t>(place); }
+std::size_t PlaceOf(int place) noexcept { return static_cast<std::size_t>(place); }
 
 /// Gives equal entries and equal menus the same number.
 class Numbers {
@@ -82,7 +82,8 @@ std::vector<MergedEntry> MergeOrder(Numbers& numbers, const std::vector<T>& base
   const MatchRow oursRow = numbers.Row(ours);
   const MatchRow theirsRow = numbers.Row(theirs);
   const auto similarTo = [&base](const std::vector<T>& other) {
-    return [&base, &other](int a, int b) { return AreSimilar(base[Index(a)], other[Index(b)]); };
+    return
+        [&base, &other](int a, int b) { return AreSimilar(base[PlaceOf(a)], other[PlaceOf(b)]); };
   };
   return MergeRows(baseRow, oursRow, theirsRow, MatchRows(baseRow, oursRow, similarTo(ours)),
                    MatchRows(baseRow, theirsRow, similarTo(theirs)));
@@ -121,12 +122,13 @@ class TreeMerge {
       const int place = static_cast<int>(row.size());
       origins.push_back(entry.Ours);
       if (entry.Ours >= 0 && entry.Theirs >= 0) {
-        const MenuRecord* was = entry.Base >= 0 ? &base[Index(entry.Base)] : nullptr;
-        row.push_back(Choose(was, ours[Index(entry.Ours)], theirs[Index(entry.Theirs)], menu, place));
+        const MenuRecord* was = entry.Base >= 0 ? &base[PlaceOf(entry.Base)] : nullptr;
+        row.push_back(
+            Choose(was, ours[PlaceOf(entry.Ours)], theirs[PlaceOf(entry.Theirs)], menu, place));
         continue;
       }
       const bool here = entry.Ours >= 0;
-      row.push_back(here ? ours[Index(entry.Ours)] : theirs[Index(entry.Theirs)]);
+      row.push_back(here ? ours[PlaceOf(entry.Ours)] : theirs[PlaceOf(entry.Theirs)]);
       if (entry.Base >= 0) TellDeleted(here, menu, place, row.back());
     }
     return row;
@@ -147,16 +149,16 @@ class TreeMerge {
     Menu menu;
     if (entry.Ours >= 0 && entry.Theirs >= 0) {
       static const Menu kNone;
-      const Menu* was = entry.Base >= 0 ? &base_.Menus[Index(entry.Base)] : nullptr;
-      const Menu& ours = ours_.Menus[Index(entry.Ours)];
-      const Menu& theirs = theirs_.Menus[Index(entry.Theirs)];
+      const Menu* was = entry.Base >= 0 ? &base_.Menus[PlaceOf(entry.Base)] : nullptr;
+      const Menu& ours = ours_.Menus[PlaceOf(entry.Ours)];
+      const Menu& theirs = theirs_.Menus[PlaceOf(entry.Theirs)];
       menu.Head =
           Choose(was != nullptr ? &was->Head : nullptr, ours.Head, theirs.Head, place, kNotThere);
       menu.Items = MergeRecords((was != nullptr ? *was : kNone).Items, ours.Items, theirs.Items,
                                 place, origin.Items);
     } else {
       const bool here = entry.Ours >= 0;
-      menu = here ? ours_.Menus[Index(entry.Ours)] : theirs_.Menus[Index(entry.Theirs)];
+      menu = here ? ours_.Menus[PlaceOf(entry.Ours)] : theirs_.Menus[PlaceOf(entry.Theirs)];
       for (int i = 0; i < static_cast<int>(menu.Items.size()); ++i) {
         origin.Items.push_back(here ? i : kNotThere);
       }

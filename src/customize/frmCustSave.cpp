@@ -186,7 +186,7 @@ void frmCust::ShowDraft() {
   lblMenuTree.SetCaption("Menu Tree");
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
-    Editor.InitMenuTree(set, program_.AppPath + "corvelle.exe", program_.MenusPath);
+    Editor.InitMenuTree(set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());
     }
@@ -201,7 +201,7 @@ void frmCust::ReadAgain() {
   if (!InitMenuTree()) return;
   const forms::TreeView::FreezeScope freeze(TreeView1);
   const bool saving = Editor.SavingNow;
-  Editor.InitMenuTree(files_.Set, program_.AppPath + "corvelle.exe", program_.MenusPath);
+  Editor.InitMenuTree(files_.Set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
   Editor.SavingNow = saving;
   if (!Editor.Tree.Children(kMenusRoot).empty()) {
     ShowNode(Editor.Tree.Children(kMenusRoot).front());

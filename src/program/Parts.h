@@ -71,12 +71,11 @@ class Parts {
   DragImage Carried{TheProgram};
   frmURL WebLink{TheProgram};
   frmCust Customize{TheProgram};
+  frmProperties Properties{TheProgram};
+  frmLibrary Library{TheProgram};  // belongs to one of the two above
   HelpViewer TheHelp{TheProgram};
   frmNetSearch NetSearch{TheProgram};
   frmAbout About{TheProgram};
-  frmProperties Properties{TheProgram};
-  // After the windows that it may be modal to: it ends before them.
-  frmLibrary Library{TheProgram};
 
  private:
   /// F1 opens the page of each window.

@@ -107,6 +107,7 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void WireEdges();
   void TabStrip1_Click();
   void ShowTab(const std::string& key);
+  void FocusPage(const std::string& key);
 
   // ---- the entry (frmPropertiesItem.cpp) ----
   void EnableItem();

@@ -27,7 +27,7 @@ constexpr char kEngines[] =
     "A list of engines\r\n\r\nNAME=One\r\nURL=http://one.example/?q=[x]&n=1\r\n"
     "NAME=Two\r\nURL=https://two.example/?q=[utf8]\r\n";
 
-void SetClass(const std::wstring& key, const std::wstring& text) {
+void WriteClass(const std::wstring& key, const std::wstring& text) {
   EXPECT_EQ(RegSetValueW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + key).c_str(), REG_SZ,
                          text.c_str(), 0),
             0);
@@ -41,14 +41,14 @@ class Windows : public ::testing::Test {
       RegDeleteTreeW(HKEY_LOCAL_MACHINE, (std::wstring(L"Software\\Classes\\") + key).c_str());
     }
     for (const std::wstring protocol : {L"http", L"https"}) {
-      SetClass(protocol, L"URL:" + protocol);
+      WriteClass(protocol, L"URL:" + protocol);
       const wchar_t none[] = L"";
       RegSetKeyValueW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + protocol).c_str(),
                       L"URL Protocol", REG_SZ, none, sizeof(none));
-      SetClass(protocol + L"\\shell\\open\\command", L"C:\\witness\\witness.exe address \"%1\"");
+      WriteClass(protocol + L"\\shell\\open\\command", L"C:\\witness\\witness.exe address \"%1\"");
     }
-    SetClass(L".html", L"helppages");
-    SetClass(L"helppages\\shell\\open\\command", L"C:\\witness\\witness.exe page \"%1\"");
+    WriteClass(L".html", L"helppages");
+    WriteClass(L"helppages\\shell\\open\\command", L"C:\\witness\\witness.exe page \"%1\"");
     desk_.WriteFile(kFlagsFile, InstalledFlags());
     desk_.WriteFile("netsrch.ini", kEngines);
     WriteMenu(desk_, 1, "Words", {{.FTitle = "Search", .FIcon = "", .FName = "NetSearch"}});
@@ -184,9 +184,6 @@ TEST_F(AboutAtEachScale, ShowsItsThreeTabsAndCopiesAPage) {
 }
 
 TEST_F(HelpPages, OpenFromTheMenuAndByF1) {
-  desk_.WriteFile("Help\\index.html", "<html></html>");
-  desk_.WriteFile("Help\\net-search.html", "<html></html>");
-  desk_.WriteFile("Help\\about.html", "<html></html>");
   ASSERT_TRUE(StartAndWait(desk_));
   ASSERT_TRUE(scenario::ChooseInMainMenu(desk_, MainChoice::HelpTopics));
   ASSERT_TRUE(WaitForLaunches(1));

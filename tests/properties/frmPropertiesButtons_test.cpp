@@ -231,6 +231,21 @@ TEST_F(PropertiesButtons, AChangeOnTheOtherTabIsAppliedToo) {
   EXPECT_EQ(RecordAt("BMENU002.MNU", 2).FTitle, "changed");
 }
 
+TEST_F(PropertiesButtons, AChangedOrderAndAChangedBoxAreAppliedFromTheOtherTab) {
+  OpenButtons();
+  ClickNode(0, TreePart::Label);
+  ClickOn(Window().cmdDown);
+  OpenTab("item");
+  ClickOn(Window().cmdOK);
+  EXPECT_EQ(Title(1) + Title(2), "twoone");
+  CloseMenu();
+  OpenButtons();
+  ClickNode(2, TreePart::Check);
+  OpenTab("position");
+  ClickOn(Window().cmdOK);
+  EXPECT_EQ(Name(3), "/h");
+}
+
 TEST_F(PropertiesButtons, TheEntryIsFoundInItsFileAfterTheOrderChanged) {
   OpenItem(1);
   OpenTab("buttons");

@@ -202,6 +202,22 @@ TEST_F(PropertiesWindow, AllOfItCanBeReachedByTheKeyboard) {
   EXPECT_FALSE(Window().picButtons.Visible());
 }
 
+TEST_F(PropertiesWindow, TheFocusLeavesAPageThatGoes) {
+  OpenSingle(1);
+  const auto nextTab = [this] {
+    Desktop().KeyDown(kKeyCtrl);
+    Desktop().PressKey(kKeyTab);
+    Desktop().KeyUp(kKeyCtrl);
+    Desktop().Advance(10);
+  };
+  nextTab();
+  EXPECT_TRUE(Window().TreeView1.HasFocus());
+  nextTab();
+  EXPECT_TRUE(Window().cmdTop.HasFocus());
+  nextTab();
+  EXPECT_TRUE(Window().txtTitle.HasFocus());
+}
+
 TEST_F(PropertiesWindow, EnterOnAButtonPressesItAndLettersOfABoxAreText) {
   OpenSingle(1);
   Desktop().Type("oca");

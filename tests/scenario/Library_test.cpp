@@ -87,7 +87,11 @@ TEST_F(LibraryAtEachScale, AnIconOfACategoryIsPickedForAnEntry) {
   desk_->Picture("marked");
   PickAndConfirm();
   ASSERT_TRUE(desk_->Wait([this] { return Icon().starts_with("\\icons\\"); })) << Icon();
-  ASSERT_TRUE(OpenMenu(*desk_, 2));
+  // The menu may have stayed up under the windows.
+  desk_->Pause(500);
+  if (!desk_->IsVisible("frmQMenu")) {
+    ASSERT_TRUE(OpenMenu(*desk_, 2));
+  }
   desk_->Pause(500);
   desk_->Picture("menu-with-the-icon");
 }
