@@ -192,6 +192,9 @@ class frmCust final : public forms::Form,
   void cmdSave_Click();
   /// False when the files are not those of the tree.
   bool SaveTree();
+  /// Takes what was changed elsewhere into the tree. False when an entry was changed on both sides;
+  /// then nothing is taken.
+  bool Merge();
   bool SettleConflict(const MenusStamp& theirs);
   void Recover(const std::string& message);
   void RefreshStrip();

@@ -2,6 +2,7 @@
 
 #include "core/Program.h"
 #include "customize/Saving.h"
+#include "customize/TreeMerge.h"
 #include "customize/frmCust.h"
 #include "forms/Scopes.h"
 #include "platform/FileSystem.h"
@@ -44,6 +45,10 @@ bool frmCust::SaveTree() {
       if (!IsLoaded()) return false;
     }
     Editor.TreeChanged = false;
+    result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
+                       Editor.Tree.ToMenuSet(), files_.Stamp);
+  }
+  if (result.End == SaveEnd::Conflict && Merge()) {
     result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
                        Editor.Tree.ToMenuSet(), files_.Stamp);
   }
@@ -207,12 +212,29 @@ void frmCust::ReadAgain() {
   ShowState();
 }
 
-void frmCust::Form_Activate() {
-  if (!IsLoaded() || Unsaved() || Browsing || TreeView1.Edited() != forms::kNoNode) return;
-  // What was changed on the strip meanwhile comes in while nothing is unsaved here.
-  const MenusResult<MenuFiles> read =
+bool frmCust::Merge() {
+  MenusResult<MenuFiles> read =
       ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
-  if (read && (*read).Stamp != files_.Stamp) ReadAgain();
+  if (!read) return false;
+  if ((*read).Stamp == files_.Stamp) return true;
+  const bool unsaved = Unsaved();
+  const MergedSet merged = MergeTrees(files_.Set, Editor.Tree.ToMenuSet(), (*read).Set);
+  if (!merged.Conflicts.empty()) return false;
+  Editor.TakeMerged(merged);
+  files_ = *std::move(read);
+  if (!unsaved) shownAt_ = keptAt_ = Editor.Tree.Revision();
+  return true;
+}
+
+void frmCust::Form_Activate() {
+  if (!IsLoaded() || keeper_ == nullptr || Browsing || Dragging ||
+      TreeView1.Edited() != forms::kNoNode) {
+    return;
+  }
+  // What was changed on the strip meanwhile comes in. Where it cannot, the next save asks.
+  const long before = Editor.Tree.Revision();
+  static_cast<void>(Merge());
+  if (Editor.Tree.Revision() != before) ShowState();
 }
 
 }  // namespace corvelle

@@ -199,13 +199,34 @@ TEST(CustomizeOthers, WhatIsDoneOnTheStripComesInWhenNothingIsUnsaved) {
   EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Saw) | Clock Paint");
 }
 
+TEST(CustomizeOthers, WhatIsUnsavedHereStaysAndWhatIsDoneThereComesIn) {
+  ChangedDesk desk;
+  desk.PutMenu(1, {"Letters", "Button", ""}, {CustDesk::Entry("Beta"), CustDesk::Entry("Delta")});
+  desk.world.Desktop.TakeForeground(desk.parts->Toolbar.hWnd());
+  desk.world.Desktop.TakeForeground(desk.Form().hWnd());
+  desk.world.Desktop.Pump();
+  EXPECT_EQ(desk.Shown(), "Letters(Beta Delta) Tools(Hammer) | Clock Paint");
+  EXPECT_TRUE(desk.Form().TreeView1.IsExpanded(desk.Node("Tools"))) << "the nodes are the same";
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_EQ(desk.Stored(), "Letters(Beta Delta) Tools(Hammer) | Clock Paint");
+}
+
+TEST(CustomizeOthers, WhatCameMeanwhileIsSavedTooWithoutAQuestion) {
+  ChangedDesk desk;
+  desk.Put(SingleFileName(2), {CustDesk::Entry("Edit")});
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Hammer) | Clock Edit");
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Hammer) | Clock Edit");
+}
+
 TEST(CustomizeOthers, AConflictIsAskedAboutAndTheOtherVersionKept) {
   for (const bool mine : {true, false}) {
     ChangedDesk desk;
-    desk.PutMenu(2, {"Tools", "Button", ""}, {CustDesk::Entry("Saw")});
+    desk.PutMenu(2, {"Tools", "Button", ""},
+                 {CustDesk::Entry("Hammer"), {"Anvil", "other.ico", "other.exe"}});
     desk.world.Desktop.Answer(mine ? kYes : kNo);
     desk.ClickControl(desk.Form().cmdSave);
-    const char* others = "Letters(Alpha Beta -) Tools(Saw) | Clock Paint";
+    const char* others = kAtFirst;
     EXPECT_EQ(desk.Stored(), mine ? kWithoutAnvil : others);
     EXPECT_EQ(desk.Shown(), mine ? kWithoutAnvil : others);
     desk.world.Desktop.AnswerAnyOther(kNo);
