@@ -18,11 +18,6 @@ int TreeView::AddImage(Picture image) {
   return static_cast<int>(images_.size()) - 1;
 }
 
-void TreeView::SetOverlay(int overlay, int image) {
-  overlays_.emplace_back(overlay, image);
-  if (Own() != nullptr) Own()->SetOverlay(overlay, image);
-}
-
 NodeId TreeView::Insert(NodeId parent, NodeId before, NodeLook look) {
   const NodeId node = nodes_.Insert(parent, before, std::move(look));
   if (Own() != nullptr && node != kNoNode) Own()->Insert(node, parent, before, Look(node));
@@ -197,7 +192,6 @@ void TreeView::PeerMade() {
   edited_ = dragged_ = kNoNode;
   const FreezeScope freeze(*this);
   for (const Picture& image : images_) Own()->AddImage(*image);
-  for (const auto& [overlay, image] : overlays_) Own()->SetOverlay(overlay, image);
   InsertBelow(kNoNode);
   if (selected_ != kNoNode) Own()->Select(selected_);
 }

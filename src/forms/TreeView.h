@@ -25,7 +25,6 @@ class TreeView final : public SystemControl, private TreeEvents {
   [[nodiscard]] const TreeModel& Nodes() const noexcept { return nodes_; }
   /// Adds an image and gives its number; pixels in Image::kMask are see-through.
   int AddImage(Picture image);
-  void SetOverlay(int overlay, int image);
 
   /// In front of `before`, or as the last child of `parent`. kNoNode when the parent is not there.
   NodeId Insert(NodeId parent, NodeId before, NodeLook look);
@@ -121,7 +120,6 @@ class TreeView final : public SystemControl, private TreeEvents {
   TreeStyle style_;
   TreeModel nodes_;
   std::vector<Picture> images_;
-  std::vector<std::pair<int, int>> overlays_;
   NodeId selected_ = kNoNode;
   NodeId edited_ = kNoNode;
   NodeId dragged_ = kNoNode;
