@@ -18,6 +18,7 @@ int TreeView::AddImage(Picture image) {
   return static_cast<int>(images_.size()) - 1;
 }
 
+<<<<<<< HEAD
 void TreeView::SetOverlay(int overlay, int image) {
   overlays_.emplace_back(overlay, image);
   if (Own() != nullptr) Own()->SetOverlay(overlay, image);
@@ -29,6 +30,8 @@ void TreeView::ClearImages() {
   overlays_.clear();
 }
 
+=======
+>>>>>>> ctl
 NodeId TreeView::Insert(NodeId parent, NodeId before, NodeLook look) {
   const NodeId node = nodes_.Insert(parent, before, std::move(look));
   if (Own() != nullptr && node != kNoNode) Own()->Insert(node, parent, before, Look(node));
@@ -203,7 +206,6 @@ void TreeView::PeerMade() {
   edited_ = dragged_ = kNoNode;
   const FreezeScope freeze(*this);
   for (const Picture& image : images_) Own()->AddImage(*image);
-  for (const auto& [overlay, image] : overlays_) Own()->SetOverlay(overlay, image);
   InsertBelow(kNoNode);
   if (selected_ != kNoNode) Own()->Select(selected_);
 }
