@@ -18,20 +18,11 @@ int TreeView::AddImage(Picture image) {
   return static_cast<int>(images_.size()) - 1;
 }
 
-<<<<<<< HEAD
-void TreeView::SetOverlay(int overlay, int image) {
-  overlays_.emplace_back(overlay, image);
-  if (Own() != nullptr) Own()->SetOverlay(overlay, image);
-}
-
 void TreeView::ClearImages() {
   if (Own() != nullptr) return;
   images_.clear();
-  overlays_.clear();
 }
 
-=======
->>>>>>> ctl
 NodeId TreeView::Insert(NodeId parent, NodeId before, NodeLook look) {
   const NodeId node = nodes_.Insert(parent, before, std::move(look));
   if (Own() != nullptr && node != kNoNode) Own()->Insert(node, parent, before, Look(node));
