@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Tests what is handed out: the headers of the programs, and installation, start, upgrade and removal under Wine.
 
-  tools/run_release_tests.py --release DIST [--x64 BUILD] [--x86 BUILD] [--wine32 FOLDER]
+  tools/run_release_tests.py --release DIST [--x64 BUILD] [--x86 BUILD]
 
 Each check is one line. Ends with `release: N passed, M failed`; exit code 0 only if nothing failed and something
-was checked. The 32-bit installer and program need a 32-bit Wine, which tools/wine32_root.sh makes below FOLDER;
-without it they are not run, and what was not run is not counted.
+was checked. The 32-bit installer and program are not run, since Wine here has 64 bits only, and what was not run is
+not counted.
 """
 
 import argparse
@@ -363,13 +363,7 @@ def check_portable(checks, machine, archive_path):
                  not machine.data.exists())
 
 
-def check_installation_32(checks, release, work, folder):
-    """The same with the 32-bit files, by the Wine below a folder."""
-    os.environ["PATH"] = f"{folder / 'bin'}:{os.environ['PATH']}"
-    check_installation(checks, release, work, "x86", ROOT / "build" / "wine32")
-
-
-def check_installation(checks, release, work, width, cache=None):
+def check_installation(checks, release, work, width):
     shown = version()
     setup = release / f"corvelle-{shown}-{width}-setup.exe"
     archive = release / f"corvelle-{shown}-{width}-portable.zip"
@@ -378,7 +372,7 @@ def check_installation(checks, release, work, width, cache=None):
     brought = [name.removeprefix("Corvelle/") for name in names]
     wanted = sorted([name for name in brought if name != MARK] + ["uninstall.exe"])
     work.mkdir(parents=True, exist_ok=True)
-    with Session(cache=cache) as session:
+    with Session() as session:
         machine = Machine(session, setup)
         check_damaged(checks, machine, setup, work)
         prepare_user(machine)
@@ -396,8 +390,7 @@ def main():
     parser.add_argument("--release", type=pathlib.Path, default=ROOT / "dist")
     parser.add_argument("--x64", type=pathlib.Path, default=ROOT / "build" / "windows")
     parser.add_argument("--x86", type=pathlib.Path, default=ROOT / "build" / "windows32")
-    parser.add_argument("--only", choices=["headers", "files", "wine", "wine32"])
-    parser.add_argument("--wine32", type=pathlib.Path, metavar="FOLDER", help="what tools/wine32_root.sh made")
+    parser.add_argument("--only", choices=["headers", "files", "wine"])
     arguments = parser.parse_args()
     for sign in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
         signal.signal(sign, end_quietly)
@@ -411,10 +404,7 @@ def main():
             check_files(checks, arguments.release)
         if arguments.only in (None, "wine"):
             check_installation(checks, arguments.release, work, "x64")
-        if arguments.wine32 and arguments.only in (None, "wine32"):
-            check_installation_32(checks, arguments.release, work, arguments.wine32.resolve())
-        else:
-            print("  x86, installed and run: NOT RUN, there is no 32-bit Wine (tools/wine32_root.sh makes one)")
+            print("  x86, installed and run: NOT RUN, there is no 32-bit Wine", flush=True)
     except (OSError, SessionError, subprocess.SubprocessError) as error:
         checks.check("the tests came to their end", False, error)
     if checks.passed + checks.failed == 0:
