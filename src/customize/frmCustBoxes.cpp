@@ -2,7 +2,6 @@
 
 #include "base/Text.h"
 #include "core/Program.h"
-#include "core/SpecialFolders.h"
 #include "customize/frmCust.h"
 #include "forms/Scopes.h"
 #include "platform/FileSystem.h"
@@ -15,7 +14,8 @@ namespace corvelle {
 namespace {
 
 constexpr int kKeyF3 = 114;
-constexpr int kMenuFilesFolder = 11;  // the Start menu
+constexpr int kStartMenuFiles = 11;
+constexpr int kDesktopFiles = 0;
 constexpr int kLibraryTip = 5;
 constexpr int kAllFilesTip = 6;
 constexpr int kCommandTip = 7;
@@ -140,8 +140,8 @@ void frmCust::Browse(bool files) {
 }
 
 std::string frmCust::StartFolder() const {
-  if (chkSelect0.Value() == 1) return GetSpecialFolder(program_, kMenuFilesFolder);
-  if (chkSelect1.Value() == 1) return GetSpecialFolder(program_, kDesktopFolder);
+  if (chkSelect0.Value() == 1) return GetSpecialFolder(program_, kStartMenuFiles);
+  if (chkSelect1.Value() == 1) return GetSpecialFolder(program_, kDesktopFiles);
   return Editor.LastFolder;
 }
 

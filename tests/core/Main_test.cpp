@@ -34,43 +34,29 @@ class SlowIconRule final : public IconRulePort {
 };
 
 /// Another copy that ends after so many questions, or has its window by then.
-class OtherCopy final : public SystemInfo {
+class OtherCopy {
  public:
-  explicit OtherCopy(sim::World& world) : world_(world) {}
+  explicit OtherCopy(sim::World& world) : world_(world) {
+    world_.System.OtherInstance = true;
+    world_.System.OnInstanceAsked = [this] { BeAsked(); };
+  }
+  OtherCopy(const OtherCopy&) = delete;
+  OtherCopy& operator=(const OtherCopy&) = delete;
+  ~OtherCopy() { world_.System.OnInstanceAsked = nullptr; }
+
   int EndsAfter = 1000;
   int ShowsItselfAfter = 1000;
   int Asked = 0;
 
-  bool AnotherInstanceRuns() override {
+ private:
+  void BeAsked() {
     if (++Asked == ShowsItselfAfter) {
       world_.Desktop.AddOtherWindow(
           {.Title = "Corvelle", .ClassName = "frmMinimize", .Visible = false});
     }
-    return Asked <= EndsAfter;
-  }
-  std::string ApplicationFolder() const override { return world_.System.ApplicationFolder(); }
-  std::string CurrentFolder() const override { return world_.System.CurrentFolder(); }
-  std::string WindowsFolder() const override { return world_.System.WindowsFolder(); }
-  std::string SystemFolder() const override { return world_.System.SystemFolder(); }
-  int CaptionHeight() const override { return world_.System.CaptionHeight(); }
-  int CaptionButtonWidth() const override { return world_.System.CaptionButtonWidth(); }
-  std::string ShortDate() const override { return world_.System.ShortDate(); }
-  std::string LongDate() const override { return world_.System.LongDate(); }
-  std::string TimeOfDay() const override { return world_.System.TimeOfDay(); }
-  int ColourDepth() const override { return world_.System.ColourDepth(); }
-  bool ShowHelpTopic(WindowId window, const std::string& file, int topic) override {
-    return world_.System.ShowHelpTopic(window, file, topic);
+    world_.System.OtherInstance = Asked <= EndsAfter;
   }
 
-  /// The world's services with this in the place of the world's own.
-  Platform Services() {
-    const Platform own = world_.Services();
-    return {own.Files,   own.Ansi,    own.Keys,     own.Shell,   own.Icons,      own.Links,
-            own.FileOps, own.Pointer, own.Keyboard, own.Desktop, own.Dde,        own.Associations,
-            *this,       own.Folders, own.Bars,     own.Tray,    own.SlowAnswers};
-  }
-
- private:
   sim::World& world_;
 };
 
@@ -379,7 +365,7 @@ TEST_F(MainTest, AFirstInstanceThatIsJustEndingLetsTheNextOneStart) {
   PutFlags(kInstalled);
   OtherCopy other(world);
   other.EndsAfter = 3;
-  Program next(other.Services(), world.Windows());
+  Program next(world.Services(), world.Windows());
   EXPECT_TRUE(ClaimSession(next));
   EXPECT_EQ(other.Asked, 4);
   EXPECT_TRUE(world.Desktop.Boxes().empty());
@@ -388,7 +374,7 @@ TEST_F(MainTest, AFirstInstanceThatIsJustEndingLetsTheNextOneStart) {
 TEST_F(MainTest, AFirstInstanceThatIsJustStartingIsWokenWhenItIsThere) {
   OtherCopy other(world);
   other.ShowsItselfAfter = 3;
-  Program next(other.Services(), world.Windows());
+  Program next(world.Services(), world.Windows());
   EXPECT_FALSE(ClaimSession(next));
   EXPECT_EQ(world.Desktop.Sent().size(), 1U);
   EXPECT_TRUE(world.Desktop.Boxes().empty());

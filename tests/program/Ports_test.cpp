@@ -48,11 +48,13 @@ Names NullPorts(const WindowPorts& ports) {
   look("ImageWindow", ports.ImageWindow);
   look("Library", ports.Library);
   look("About", ports.About);
+  look("CustomizeIcon", ports.CustomizeIcon);
+  look("PropertiesIcon", ports.PropertiesIcon);
   return names;
 }
 
 // How many pointers the ports are: a new one must be looked at above.
-constexpr std::size_t kPorts = 29;
+constexpr std::size_t kPorts = 32;
 static_assert(sizeof(WindowPorts) == kPorts * sizeof(void*));
 
 class Windows : public testing::Test {
