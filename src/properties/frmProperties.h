@@ -170,7 +170,7 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void ShowHidingStrip();
 
   Program& program_;
-  FileItem item_;
+  EditedItem item_;
   ButtonOrder order_;
   bool orderTouched_ = false;  // since the tab was filled or applied
   forms::NodeId dragNode_ = forms::kNoNode;

@@ -78,7 +78,7 @@ std::string TextOf(const std::vector<MergeConflict>& conflicts) {
   return text;
 }
 
-struct Row {
+struct MergeRow {
   const char* name;
   const char* base;
   const char* ours;
@@ -88,7 +88,7 @@ struct Row {
 };
 
 TEST(TreeMerge, CarriesWhatWasMadeElsewhereIntoTheTree) {
-  const Row rows[] = {
+  const MergeRow rows[] = {
       {"nothing anywhere", "A: a b", "A: a b", "A: a b", "A: a b"},
       {"an item there", "A: a b", "A: a b c", "A: a x b", "A: a x b c"},
       {"items at the same place", "A: a b", "A: a c b", "A: a x y b", "A: a x y c b"},
@@ -134,7 +134,7 @@ TEST(TreeMerge, CarriesWhatWasMadeElsewhereIntoTheTree) {
       {"everything gone there", "A: a / s", "A: a / s", "", ""},
       {"everything gone here", "A: a / s", "", "A: a / s", ""},
   };
-  for (const Row& row : rows) {
+  for (const MergeRow& row : rows) {
     const MergedSet merged = MergeTrees(Set(row.base), Set(row.ours), Set(row.theirs));
     EXPECT_EQ(TextOf(merged.Set), row.merged) << row.name;
     EXPECT_EQ(TextOf(merged.Conflicts), "") << row.name;
@@ -142,7 +142,7 @@ TEST(TreeMerge, CarriesWhatWasMadeElsewhereIntoTheTree) {
 }
 
 TEST(TreeMerge, TellsWhatBothSidesTouched) {
-  const Row rows[] = {
+  const MergeRow rows[] = {
       {"a changed item", "A: a b", "A: a=1 b", "A: a=2 b", "A: a=1 b", "both 0.0 a=1~a=2"},
       {"changed here, deleted there", "A: a b", "A: a b=1", "A: a", "A: a b=1",
        "deleted there 0.1 b=1~"},
@@ -159,7 +159,7 @@ TEST(TreeMerge, TellsWhatBothSidesTouched) {
       {"one entry replaced by two others", "A: a b c", "A: a x c", "A: a y c", "A: a x c",
        "both 0.1 x~y"},
   };
-  for (const Row& row : rows) {
+  for (const MergeRow& row : rows) {
     const MergedSet merged = MergeTrees(Set(row.base), Set(row.ours), Set(row.theirs));
     EXPECT_EQ(TextOf(merged.Set), row.merged) << row.name;
     EXPECT_EQ(TextOf(merged.Conflicts), row.conflicts) << row.name;

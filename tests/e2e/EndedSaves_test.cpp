@@ -26,8 +26,6 @@ using scenario::WriteMenu;
 constexpr int kEndedSaves = 3;  // in each test
 constexpr int kMenusThere = 16;
 constexpr int kSinglesSaved = 4;
-constexpr int kKeyAlt = 18;
-constexpr int kKeyDelete = 46;
 
 /// The files of menus and single buttons with what they hold.
 using Contents = std::map<std::string, std::string>;
@@ -138,8 +136,8 @@ TEST_P(EndedSaves, LeaveTheOldMenusOrTheNewOnesAfterTheNextStart) {
   PressUpdate();
   EXPECT_TRUE(desk_.Wait([&] { return Now() == WithoutFirstMenu(before) && !HasJournal(); }));
   desk_.Picture("saved");
-  std::printf("%d kills: a journal was left after %d, a mixture after %d, saved were %d\n", kEndedSaves,
-              journals, mixed, saved);
+  std::printf("%d kills: a journal was left after %d, a mixture after %d, saved were %d\n",
+              kEndedSaves, journals, mixed, saved);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, EndedSaves, ::testing::Range(1, 11));

@@ -21,8 +21,6 @@ using scenario::MainChoice;
 using scenario::StartAndWait;
 using scenario::WriteMenu;
 
-constexpr int kKeyTab = 9;
-constexpr int kKeyF1 = 112;
 constexpr char kEngines[] =
     "A list of engines\r\n\r\nNAME=One\r\nURL=http://one.example/?q=[x]&n=1\r\n"
     "NAME=Two\r\nURL=https://two.example/?q=[utf8]\r\n";

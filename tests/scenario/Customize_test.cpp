@@ -9,9 +9,6 @@
 namespace corvelle::scenario {
 namespace {
 
-constexpr int kKeyTab = 9;
-constexpr int kKeyAlt = 18;
-
 class CustomizeAtEachScale : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -111,7 +108,6 @@ TEST_F(CustomizeRoad, DeletesAndTakesTheDeletionBack) {
   Press(kKeyRight);
   desk_->Pause(1300);
   Press(kKeyDown);
-  constexpr int kKeyDelete = 46;
   Press(kKeyDelete);
   With(kKeyControl, 'Z');
   With(kKeyControl, 'Z');

@@ -8,9 +8,6 @@ namespace corvelle::scenario {
 namespace {
 
 constexpr int kNoLibraryTip = 5;  // options
-constexpr int kKeyTab = 9;
-constexpr int kKeyShift = 16;
-constexpr int kKeyF3 = 114;
 
 /// A menu with one entry, whose properties ask for an icon.
 class Library : public ::testing::Test {

@@ -11,8 +11,6 @@
 namespace corvelle::scenario {
 namespace {
 
-constexpr int kKeyTab = 9;
-constexpr int kKeySpace = 32;
 constexpr const char* kWindow = "frmProperties";
 
 /// A desk with three menus: "alpha", "beta" and "gamma" at button 2, "delta" at button 3, "epsilon"

@@ -7,7 +7,6 @@ namespace corvelle::scenario {
 namespace {
 
 constexpr int kNoDialog = 18;  // options
-constexpr int kKeyTab = 9;
 constexpr char kPage[] = "http://example.com/page";
 
 /// A strip with one menu and two single buttons, and a program from which an address is dragged.
