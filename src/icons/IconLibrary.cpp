@@ -140,6 +140,12 @@ void ResetLibrary(Program& program) {
   program.LibraryBuilt = false;
 }
 
+void DropPreparedLists(Program& program) {
+  RemoveAll(program, "*.ics");
+  RemoveAll(program, "CAT*.dat");
+  program.LibraryBuilt = false;
+}
+
 bool CheckLibraryDisplay(Program& program) {
   FileSystem& files = program.Services.Files;
   const std::string path = program.AppPath + std::string(kDisplayFile);
@@ -150,7 +156,7 @@ bool CheckLibraryDisplay(Program& program) {
   if (record && ParseDisplayRecord(*record) == now) return false;
   // Values that cannot be kept cost no more than a library that is built once too often.
   static_cast<void>(files.WriteAt(path, 0, FormatDisplayRecord(now)));
-  ResetLibrary(program);
+  DropPreparedLists(program);
   return true;
 }
 

@@ -48,6 +48,10 @@ class IconLibrary final : public IconLibraryPort {
 /// Program::LibraryBuilt.
 void ResetLibrary(Program& program);
 
+/// The same without the user's having asked: "others.dat", in which he may have put files of his
+/// own, stays.
+void DropPreparedLists(Program& program);
+
 /// Notes the display's values for the next time. When they differ from those of the last time (or
 /// none were noted), the derived files are removed, and the answer is true.
 bool CheckLibraryDisplay(Program& program);

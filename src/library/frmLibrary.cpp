@@ -172,7 +172,7 @@ void frmLibrary::SetFormSize() {
 // ---- the library ----
 
 void frmLibrary::BuildLibrary() {
-  if (!program_.LibraryBuilt) ResetLibrary(program_);
+  if (!program_.LibraryBuilt) DropPreparedLists(program_);
   List1.Clear();
   List1.Add(std::string(kAllCategories));
   for (const std::string& category : LibraryCategories(program_)) List1.Add(category);

@@ -83,13 +83,13 @@ class EndedSaves : public ::testing::TestWithParam<int> {
     desk_.Pause(1300);
     desk_.Key(scenario::kKeyDown);
     desk_.Pause(50);
-    desk_.Key(kKeyDelete);
+    desk_.Key(scenario::kKeyDelete);
     desk_.Pause(200);
   }
   void PressUpdate() {
-    desk_.HoldKey(kKeyAlt);
+    desk_.HoldKey(scenario::kKeyAlt);
     desk_.Key('U');
-    desk_.LetKeyGo(kKeyAlt);
+    desk_.LetKeyGo(scenario::kKeyAlt);
   }
   /// Ends the process some time after the key, or after the journal has come.
   void EndInTheMiddle(bool waits) {

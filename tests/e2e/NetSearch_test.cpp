@@ -105,7 +105,7 @@ TEST_F(NetSearchAtEachScale, AQueryGoesToTheBrowserWithItsAddress) {
   EXPECT_EQ(LastArguments(), "address \"http://one.example/?q=ab+c&n=1\"");
   // It is in the task bar, and comes back with the query in its list.
   ASSERT_TRUE(OpenNetSearch());
-  desk_.Key(kKeyTab);
+  desk_.Key(scenario::kKeyTab);
   desk_.Key(scenario::kKeyDown);
   desk_.Pause(300);
   desk_.Picture("second engine");
@@ -161,10 +161,10 @@ TEST_F(AboutAtEachScale, ShowsItsThreeTabsAndCopiesAPage) {
   ASSERT_TRUE(OpenAbout());
   desk_.Pause(500);
   desk_.Picture("corvelle");
-  WithControl(kKeyTab);
+  WithControl(scenario::kKeyTab);
   desk_.Pause(1000);
   desk_.Picture("drives");
-  WithControl(kKeyTab);
+  WithControl(scenario::kKeyTab);
   desk_.Pause(500);
   desk_.Picture("system");
   WithControl('C');
@@ -187,11 +187,11 @@ TEST_F(HelpPages, OpenFromTheMenuAndByF1) {
   ASSERT_TRUE(WaitForLaunches(1));
   EXPECT_EQ(LastArguments(), "page \"C:\\Corvelle\\Help\\index.html\"");
   ASSERT_TRUE(OpenNetSearch());
-  desk_.Key(kKeyF1);
+  desk_.Key(scenario::kKeyF1);
   ASSERT_TRUE(WaitForLaunches(2));
   EXPECT_EQ(LastArguments(), "page \"C:\\Corvelle\\Help\\net-search.html\"");
   ASSERT_TRUE(OpenAbout());
-  desk_.Key(kKeyF1);
+  desk_.Key(scenario::kKeyF1);
   ASSERT_TRUE(WaitForLaunches(3));
   EXPECT_EQ(LastArguments(), "page \"C:\\Corvelle\\Help\\about.html\"");
 }

@@ -305,6 +305,19 @@ TEST_F(LibraryDesk, AResetDropsTheDerivedFilesAndNothingElse) {
   EXPECT_FALSE(program.LibraryBuilt);
 }
 
+TEST_F(LibraryDesk, WithoutBeingAskedTheUsersOwnFilesStayInTheirList) {
+  program.LibraryBuilt = true;
+  for (const char* name : {"CAT0.ics", "CAT0.dat", "others.dat", "a.ico"}) {
+    world.Files.Put(program.IconsPath + name, "x");
+  }
+  DropPreparedLists(program);
+  EXPECT_EQ(Unpacked(), (std::vector<std::string>{"a.ico", "others.dat"}));
+  EXPECT_FALSE(program.LibraryBuilt);
+  world.System.Depth = 8;
+  EXPECT_TRUE(CheckLibraryDisplay(program));
+  EXPECT_TRUE(world.Files.Has(program.IconsPath + "others.dat"));
+}
+
 TEST_F(LibraryDesk, AResetPassesOverWhatIsHeldOpen) {
   world.Files.Put(program.IconsPath + "a.dat", "x");
   world.Files.HoldOpen(program.IconsPath + "a.dat");
