@@ -23,9 +23,9 @@ using scenario::StartAndWait;
 using scenario::Witness;
 using scenario::WriteMenu;
 
-constexpr int kEndedSaves = 3;  // in each test
+constexpr int kEnds = 3;  // in each test
 constexpr int kMenusThere = 16;
-constexpr int kSinglesSaved = 4;
+constexpr int kRowThere = 4;
 
 /// The files of menus and single buttons with what they hold.
 using Contents = std::map<std::string, std::string>;
@@ -49,7 +49,7 @@ class EndedSaves : public ::testing::TestWithParam<int> {
       const std::string title = "m" + std::to_string(menu);
       WriteMenu(desk_, menu, title, {Witness(desk_, title)});
     }
-    for (int single = 1; single <= kSinglesSaved; ++single) {
+    for (int single = 1; single <= kRowThere; ++single) {
       desk_.WriteFile("Menus\\" + SingleFileName(single),
                       FormatRecord(Witness(desk_, "s" + std::to_string(single)), Windows1252()));
     }
@@ -79,7 +79,7 @@ class EndedSaves : public ::testing::TestWithParam<int> {
 
   void DeleteFirstMenu() {
     ASSERT_TRUE(ChooseInMainMenu(desk_, MainChoice::Customize));
-    ASSERT_TRUE(desk_.Wait([this] { return desk_.ForegroundClass() == "frmCust"; }));
+    ASSERT_TRUE(desk_.Wait([this] { return desk_.ForegroundClass() == "frmCust"; }, 10000));
     desk_.Pause(1300);
     desk_.Key(scenario::kKeyDown);
     desk_.Pause(50);
@@ -114,7 +114,7 @@ TEST_P(EndedSaves, LeaveTheOldMenusOrTheNewOnesAfterTheNextStart) {
   int saved = 0;
   desk_.MovePointer(scenario::FarAway(desk_));
   ASSERT_TRUE(StartAndWait(desk_));
-  for (int kill = 0; kill < kEndedSaves; ++kill) {
+  for (int kill = 0; kill < kEnds; ++kill) {
     const Contents before = Now();
     const Contents after = WithoutFirstMenu(before);
     ASSERT_NO_FATAL_FAILURE(DeleteFirstMenu());
@@ -134,10 +134,11 @@ TEST_P(EndedSaves, LeaveTheOldMenusOrTheNewOnesAfterTheNextStart) {
   const Contents before = Now();
   ASSERT_NO_FATAL_FAILURE(DeleteFirstMenu());
   PressUpdate();
-  EXPECT_TRUE(desk_.Wait([&] { return Now() == WithoutFirstMenu(before) && !HasJournal(); }));
+  EXPECT_TRUE(
+      desk_.Wait([&] { return Now() == WithoutFirstMenu(before) && !HasJournal(); }, 10000));
   desk_.Picture("saved");
-  std::printf("%d kills: a journal was left after %d, a mixture after %d, saved were %d\n",
-              kEndedSaves, journals, mixed, saved);
+  std::printf("%d kills: a journal was left after %d, a mixture after %d, saved were %d\n", kEnds,
+              journals, mixed, saved);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, EndedSaves, ::testing::Range(1, 11));
