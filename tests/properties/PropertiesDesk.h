@@ -47,6 +47,13 @@ class PropertiesDesk : public ProgramDesk, public testing::Test {
     ASSERT_EQ(Window().TabStrip1.Selected(), key);
   }
 
+  /// The same by key.
+  void NextTab() {
+    Desktop().KeyDown(kKeyCtrl);
+    Desktop().PressKey(kKeyTab);
+    Desktop().KeyUp(kKeyCtrl);
+    Desktop().Advance(10);
+  }
   /// Puts the menu away that shows what was changed.
   void CloseMenu() {
     Desktop().PressKey(forms::key::Escape);

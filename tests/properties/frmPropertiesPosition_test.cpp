@@ -180,13 +180,7 @@ TEST_F(PropertiesWindow, AllOfItCanBeReachedByTheKeyboard) {
     Desktop().PressKey(kKeyTab);
     EXPECT_TRUE(next->HasFocus()) << next->Name();
   }
-  const auto nextTab = [this] {
-    Desktop().KeyDown(kKeyCtrl);
-    Desktop().PressKey(kKeyTab);
-    Desktop().KeyUp(kKeyCtrl);
-    Desktop().Advance(10);
-  };
-  nextTab();
+  NextTab();
   EXPECT_EQ(Window().TabStrip1.Selected(), "buttons");
   for (const forms::Window* const next : {static_cast<const forms::Window*>(&Window().TreeView1),
                                           static_cast<const forms::Window*>(&Window().cmdUp),
@@ -196,7 +190,7 @@ TEST_F(PropertiesWindow, AllOfItCanBeReachedByTheKeyboard) {
   }
   Desktop().PressKey(kKeySpace);
   EXPECT_EQ(Window().TreeView1.Selected(), Node(1));
-  nextTab();
+  NextTab();
   EXPECT_EQ(Window().TabStrip1.Selected(), "position");
   EXPECT_TRUE(Window().Picture2.Visible());
   EXPECT_FALSE(Window().picButtons.Visible());
@@ -204,17 +198,11 @@ TEST_F(PropertiesWindow, AllOfItCanBeReachedByTheKeyboard) {
 
 TEST_F(PropertiesWindow, TheFocusLeavesAPageThatGoes) {
   OpenSingle(1);
-  const auto nextTab = [this] {
-    Desktop().KeyDown(kKeyCtrl);
-    Desktop().PressKey(kKeyTab);
-    Desktop().KeyUp(kKeyCtrl);
-    Desktop().Advance(10);
-  };
-  nextTab();
+  NextTab();
   EXPECT_TRUE(Window().TreeView1.HasFocus());
-  nextTab();
+  NextTab();
   EXPECT_TRUE(Window().cmdTop.HasFocus());
-  nextTab();
+  NextTab();
   EXPECT_TRUE(Window().txtTitle.HasFocus());
 }
 
