@@ -21,34 +21,35 @@ using scenario::MainChoice;
 using scenario::StartAndWait;
 using scenario::WriteMenu;
 
+constexpr int kPatience = 8000;  // milliseconds
 constexpr int kKeyTab = 9;
 constexpr int kKeyF1 = 112;
 constexpr char kEngines[] =
     "A list of engines\r\n\r\nNAME=One\r\nURL=http://one.example/?q=[x]&n=1\r\n"
     "NAME=Two\r\nURL=https://two.example/?q=[utf8]\r\n";
 
-void SetClass(const std::wstring& key, const std::wstring& text) {
+void SetHandler(const std::wstring& key, const std::wstring& text) {
   EXPECT_EQ(RegSetValueW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + key).c_str(), REG_SZ,
                          text.c_str(), 0),
             0);
 }
 
 /// A desk with one menu that holds the word of Net Search.
-class Windows : public ::testing::Test {
+class HandlerDesk : public ::testing::Test {
  protected:
   void SetUp() override {
     for (const wchar_t* key : {L"http", L"https", L"htmlfile", L".htm", L".html", L".url"}) {
       RegDeleteTreeW(HKEY_LOCAL_MACHINE, (std::wstring(L"Software\\Classes\\") + key).c_str());
     }
     for (const std::wstring protocol : {L"http", L"https"}) {
-      SetClass(protocol, L"URL:" + protocol);
+      SetHandler(protocol, L"URL:" + protocol);
       const wchar_t none[] = L"";
       RegSetKeyValueW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + protocol).c_str(),
                       L"URL Protocol", REG_SZ, none, sizeof(none));
-      SetClass(protocol + L"\\shell\\open\\command", L"C:\\witness\\witness.exe address \"%1\"");
+      SetHandler(protocol + L"\\shell\\open\\command", L"C:\\witness\\witness.exe address \"%1\"");
     }
-    SetClass(L".html", L"helppages");
-    SetClass(L"helppages\\shell\\open\\command", L"C:\\witness\\witness.exe page \"%1\"");
+    SetHandler(L".html", L"helppages");
+    SetHandler(L"helppages\\shell\\open\\command", L"C:\\witness\\witness.exe page \"%1\"");
     desk_.WriteFile(kFlagsFile, InstalledFlags());
     desk_.WriteFile("netsrch.ini", kEngines);
     WriteMenu(desk_, 1, "Words", {{.FTitle = "Search", .FIcon = "", .FName = "NetSearch"}});
@@ -58,21 +59,26 @@ class Windows : public ::testing::Test {
   bool OpenNetSearch() {
     if (!scenario::OpenMenu(desk_, 2)) return false;
     scenario::ClickItem(desk_, scenario::ItemMiddle(desk_, 1, 1));
-    return desk_.Wait([this] {
-      return desk_.IsVisible("frmNetSearch") && desk_.ForegroundClass() == "frmNetSearch";
-    });
+    return desk_.Wait(
+        [this] {
+          return desk_.IsVisible("frmNetSearch") && desk_.ForegroundClass() == "frmNetSearch";
+        },
+        kPatience);
   }
   bool OpenAbout() {
-    return scenario::ChooseInMainMenu(desk_, MainChoice::About) && desk_.Wait([this] {
-      return desk_.IsVisible("frmAbout") && desk_.ForegroundClass() == "frmAbout";
-    });
+    return scenario::ChooseInMainMenu(desk_, MainChoice::About) &&
+           desk_.Wait(
+               [this] {
+                 return desk_.IsVisible("frmAbout") && desk_.ForegroundClass() == "frmAbout";
+               },
+               kPatience);
   }
   void Type(const std::string& text) {
     for (const char letter : text) desk_.Type(letter);
     desk_.Pause(300);
   }
   bool WaitForLaunches(std::size_t count) {
-    return desk_.Wait([this, count] { return desk_.Launched().size() >= count; });
+    return desk_.Wait([this, count] { return desk_.Launched().size() >= count; }, kPatience);
   }
   /// The arguments of the witness's last start.
   std::string LastArguments() {
@@ -88,10 +94,10 @@ class Windows : public ::testing::Test {
   WineDesk desk_;
 };
 
-class NetSearchAtEachScale : public Windows {};
-class AboutAtEachScale : public Windows {};
-class HelpPages : public Windows {};
-class NetSearchFiles : public Windows {};
+class NetSearchAtEachScale : public HandlerDesk {};
+class AboutAtEachScale : public HandlerDesk {};
+class HelpPages : public HandlerDesk {};
+class NetSearchFiles : public HandlerDesk {};
 
 TEST_F(NetSearchAtEachScale, AQueryGoesToTheBrowserWithItsAddress) {
   ASSERT_TRUE(StartAndWait(desk_));
@@ -155,7 +161,7 @@ TEST_F(NetSearchFiles, WithNoListTheMessageComesAndEscClosesTheWindow) {
   ASSERT_EQ(desk_.Messages().size(), 1U);
   EXPECT_EQ(desk_.Messages()[0].Text.find("The file netsrch.ini couldn't be found"), 0U);
   desk_.Key(scenario::kKeyEscape);
-  EXPECT_TRUE(desk_.Wait([this] { return !desk_.Window("frmNetSearch"); }));
+  EXPECT_TRUE(desk_.Wait([this] { return !desk_.Window("frmNetSearch"); }, kPatience));
 }
 
 TEST_F(AboutAtEachScale, ShowsItsThreeTabsAndCopiesAPage) {
@@ -180,7 +186,7 @@ TEST_F(AboutAtEachScale, ShowsItsThreeTabsAndCopiesAPage) {
   EXPECT_NE(copied.find("  CPU Type        :  x64 (64-bit)\r\n"), std::string::npos) << copied;
   EXPECT_NE(copied.find("  Windows Directory   :  C:\\windows\r\n"), std::string::npos) << copied;
   desk_.Key(scenario::kKeyEscape);
-  EXPECT_TRUE(desk_.Wait([this] { return !desk_.Window("frmAbout"); }));
+  EXPECT_TRUE(desk_.Wait([this] { return !desk_.Window("frmAbout"); }, kPatience));
 }
 
 TEST_F(HelpPages, OpenFromTheMenuAndByF1) {
