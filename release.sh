@@ -25,7 +25,7 @@ for width in $widths; do
   esac
   say "building corvelle.exe ($width)"
   configure "$preset" || die "the build could not be prepared"
-  build "$preset" corvelle corvelle_icon_files || die "corvelle.exe was not built"
+  build "$preset" corvelle_package || die "corvelle.exe was not built"
   builds+=("--$width" "build/$preset")
 done
 say "packing"

@@ -11,7 +11,7 @@ install_packages $CORVELLE_BUILD_PACKAGES $CORVELLE_WINE_PACKAGES
 mkdir -p build
 say "building corvelle.exe"
 configure windows || die "the build could not be prepared"
-build windows corvelle corvelle_icon_files || die "corvelle.exe was not built"
+build windows corvelle_package || die "corvelle.exe was not built"
 say "laying out dist/Corvelle"
 cmake --install build/windows --prefix dist/Corvelle >build/install.log ||
   die "the folder could not be laid out: see build/install.log"

@@ -18,6 +18,9 @@
 #include "HostFiles.h"
 #include "core/Main.h"
 #include "core/MenuRecord.h"
+#include "customize/MenuSetFiles.h"
+#include "customize/Saving.h"
+#include "customize/TreeMerge.h"
 #include "icons/IconResolution.h"
 #include "platform/ShellIcons.h"
 #include "program/Parts.h"
@@ -30,6 +33,7 @@ namespace {
 constexpr int kButtons = 200;
 constexpr int kItems[] = {20, 200, 2000};
 constexpr int kFiles[] = {100, 1000, 10000};
+constexpr int kMenus[] = {10, 100, 999};
 
 using Step = std::function<void()>;
 
@@ -511,6 +515,113 @@ void RegisterIcons() {
       bare);
 }
 
+/// All menus as the Customize window reads and saves them.
+class CustomizeGround {
+ public:
+  explicit CustomizeGround(int menus) {
+    for (int number = 1; number <= menus; ++number) desk_.PutMenu(number, kEntries);
+    now_ = Read();
+    desk_.Files.ClearReads();
+    static_cast<void>(Read());
+    calls_ = desk_.Files.Reads();
+    for (const StoredFile& file : FormatMenus(now_.Set, desk_.World.Ansi).Menus) {
+      paths_.push_back(kFolder + file.Name);
+      bytes_.push_back(file.Bytes);
+    }
+  }
+
+  MenuFiles Read() {
+    auto read = ReadMenuFiles(desk_.Files, desk_.World.Ansi, kFolder);
+    if (!read) GiveUp("the menus cannot be read");
+    return *std::move(read);
+  }
+  std::size_t ReadFloor() { return ReadBare(calls_); }
+
+  /// Makes a tree in which every menu is another one than in its file.
+  void ChangeAll() {
+    ++turn_;
+    for (Menu& menu : now_.Set.Menus) menu.Head.FName = std::to_string(turn_);
+  }
+  /// And one in which a single menu is.
+  void ChangeOne() { now_.Set.Menus.front().Head.FName = std::to_string(++turn_); }
+  void Save() {
+    SaveResult result = SaveMenus(desk_.Files, desk_.World.Ansi, kFolder, now_.Set, now_.Stamp);
+    if (result.End != SaveEnd::Saved) GiveUp("the menus cannot be saved");
+    now_ = std::move(result.Now);
+  }
+  /// The same bytes by nothing but writes.
+  void SaveFloor(std::size_t files) {
+    for (std::size_t i = 0; i < files; ++i) {
+      if (!desk_.Files.Write(paths_[i], bytes_[i])) GiveUp("a menu cannot be written");
+    }
+  }
+  [[nodiscard]] std::size_t Size() const { return paths_.size(); }
+
+  /// One edit made elsewhere into a tree with one of its own.
+  void Merge() {
+    MenuSet ours = now_.Set;
+    ours.Menus.front().Items.pop_back();
+    MenuSet theirs = now_.Set;
+    theirs.Menus.back().Items.push_back(NewItemRecord());
+    if (!MergeTrees(now_.Set, ours, theirs).Conflicts.empty()) GiveUp("a conflict");
+  }
+  /// The copies of the two sides and of the outcome.
+  void MergeFloor() {
+    for (int i = 0; i < 3; ++i) {
+      MenuSet copy = now_.Set;
+      benchmark::DoNotOptimize(copy.Menus.data());
+    }
+  }
+
+ private:
+  static constexpr int kEntries = 100;
+  static constexpr const char* kFolder = "C:\\Corvelle\\Menus\\";
+
+  Ground desk_;
+  MenuFiles now_;
+  std::vector<HostFiles::ReadCall> calls_;
+  std::vector<std::string> paths_;
+  std::vector<std::string> bytes_;
+  int turn_ = 0;
+};
+
+void RegisterCustomize(int menus) {
+  const std::string end = "/" + std::to_string(menus);
+  const auto ground = Shared<CustomizeGround>(menus);
+  Register(
+      "customize/read" + end,
+      [ground](benchmark::State& state) {
+        Repeat(state, [&] { benchmark::DoNotOptimize(ground().Read().Set.Menus.data()); });
+      },
+      [ground](benchmark::State& state) {
+        Repeat(state, [&] { benchmark::DoNotOptimize(ground().ReadFloor()); });
+      });
+  Register(
+      "customize/save_all_changed" + end,
+      [ground](benchmark::State& state) {
+        Repeat(
+            state, [&] { ground().ChangeAll(); }, [&] { ground().Save(); });
+      },
+      [menus](benchmark::State& state) {
+        CustomizeGround desk(menus);
+        Repeat(state, [&] { desk.SaveFloor(desk.Size()); });
+      });
+  Register(
+      "customize/save_one_changed" + end,
+      [ground](benchmark::State& state) {
+        Repeat(
+            state, [&] { ground().ChangeOne(); }, [&] { ground().Save(); });
+      },
+      [menus](benchmark::State& state) {
+        CustomizeGround desk(menus);
+        Repeat(state, [&] { desk.SaveFloor(desk.Size()); });
+      });
+  Register(
+      "customize/merge" + end,
+      [ground](benchmark::State& state) { Repeat(state, [&] { ground().Merge(); }); },
+      [ground](benchmark::State& state) { Repeat(state, [&] { ground().MergeFloor(); }); });
+}
+
 }  // namespace
 }  // namespace corvelle::bench
 
@@ -521,6 +632,7 @@ int main(int argc, char** argv) {
   for (const int items : bench::kItems) bench::RegisterMenu(items);
   for (const int files : bench::kFiles) bench::RegisterFolder(files);
   bench::RegisterIcons();
+  for (const int menus : bench::kMenus) bench::RegisterCustomize(menus);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   // A filter that meets nothing is a mistake, not a quick run.

@@ -2,6 +2,8 @@
 # installation leaves what the user has made there alone. The program makes its other folders, and unpacks
 # its icons, at its first start.
 if(TARGET corvelle)
+  # All that the folder is made of.
+  add_custom_target(corvelle_package DEPENDS corvelle corvelle_icon_files corvelle_help)
   install(TARGETS corvelle RUNTIME DESTINATION .)
   install(FILES ${CORVELLE_ICON_LIBRARY} DESTINATION .)
   # The list of search engines is the user's to change: one that is there stays as it is.

@@ -31,7 +31,9 @@ function(corvelle_late_library program dll)
   list(JOIN functions "\n" lines)
   file(CONFIGURE OUTPUT ${definition} CONTENT "LIBRARY ${dll}.dll\nEXPORTS\n${lines}\n")
   add_custom_command(OUTPUT ${library}
-    COMMAND ${tools}dlltool --input-def ${definition} --output-delaylib ${library} --kill-at
+    # Symbols bear the name of the library, so that it must not be a path.
+    COMMAND ${tools}dlltool --input-def ${dll}.def --output-delaylib lib${dll}late.a --kill-at
+    WORKING_DIRECTORY ${CMAKE_BINARY_DIR}/late
     DEPENDS ${definition} COMMENT "Late import library of ${dll}" VERBATIM)
   add_custom_target(corvelle_late_${dll} DEPENDS ${library})
   add_dependencies(${program} corvelle_late_${dll})

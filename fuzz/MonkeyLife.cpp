@@ -197,6 +197,8 @@ std::string MonkeyLife::Live(int events) {
   TakeStock();
   if (disk_ != Disk::Well && Chance(40)) SpoilDisk();
   parts_ = std::make_unique<Parts>(world_->Services(), world_->Windows());
+  // The monkey has no hand for the dialog of dropped addresses yet: they go nowhere.
+  parts_->TheProgram.Ports.WebLink = nullptr;
   const bool started = Main(parts_->TheProgram);
   if (!started && disk_ == Disk::Well) return "the program does not start";
   world_->Desktop.Pump();

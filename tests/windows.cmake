@@ -21,7 +21,7 @@ corvelle_windows_tests(e2e/contract windows_contract_tests LINKS corvelle_win32 
 
 # The roads of tests/scenario, walked with a hand at the mouse of a real desktop.
 file(GLOB scenarios CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/scenario/*_test.cpp)
-corvelle_windows_tests(e2e e2e_tests LINKS corvelle_core user32 gdi32
+corvelle_windows_tests(e2e e2e_tests LINKS corvelle_properties corvelle_core user32 gdi32
   shell32 ole32 uuid
   SOURCES ${scenarios} scenario/Strip.cpp)
 

@@ -56,6 +56,9 @@ def stage(build, folder, seconds):
     shutil.rmtree(folder, ignore_errors=True)
     subprocess.run(["cmake", "--install", str(build), "--prefix", str(folder)], check=True,
                    stdout=subprocess.DEVNULL)
+    # The user's own list of search engines is made at the first start; unpacked over an older folder, this one
+    # would take its place.
+    (folder / "netsrch.ini").unlink(missing_ok=True)
     for path in [folder, *folder.rglob("*")]:
         os.chmod(path, 0o755 if path.is_dir() else 0o644)
         os.utime(path, (seconds, seconds))

@@ -49,6 +49,10 @@ install_packages() {
     die "these packages could not be installed: $missing"
 }
 
+# A compiler cache that shares what it keeps between folders names files from the folder of the build, which the
+# symbols of a release would tell.
+export CCACHE_BASEDIR=
+
 # configure PRESET: prepares build/PRESET; a compiler cache is used where there is one.
 configure() {
   local launcher=()

@@ -245,7 +245,7 @@ void frmAbout::TabStrip1_Click() {
 
 // The drive of the program comes first, which is sure to be there.
 void frmAbout::FillDrives() {
-  const std::string own = DriveRoot(program_.AppPath);
+  const std::string own = DriveRoot(program_.ShippedFile(""));
   Drive1.Clear();
   for (const std::string& root : program_.Services.System.LogicalDrives()) {
     Drive1.Add(DropBackslash(root));

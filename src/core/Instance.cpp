@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::string_view kTitle = "Corvelle";
 constexpr std::string_view kCompanionClass = "frmMinimize";
+constexpr int kLooks = 40;  // for another copy, a moment between them
 
 // A folder window of the same name bears the title too; only the companion can be woken.
 bool IsWanted(const DesktopWindows& desktop, WindowId window, std::string_view title) {
@@ -43,8 +44,14 @@ bool ActivatePrevInstance(Program& program, std::string_view title) {
 bool ClaimSession(Program& program) {
   // While another title stands, a search for ours cannot find this process.
   program.Title = "xyz";
-  const bool other = program.Services.System.AnotherInstanceRuns();
-  const bool woken = other && ActivatePrevInstance(program, kTitle);
+  SystemInfo& system = program.Services.System;
+  bool other = system.AnotherInstanceRuns();
+  bool woken = other && ActivatePrevInstance(program, kTitle);
+  // One that is just ending has no window any more, and one that starts has none yet.
+  for (int look = 1; look < kLooks && other && !woken; ++look) {
+    other = system.AnotherInstanceRuns();
+    woken = other && ActivatePrevInstance(program, kTitle);
+  }
   program.Title = kTitle;
   if (other && !woken) {
     program.Say(kNoWindow,

@@ -440,8 +440,8 @@ class WebLinkPort {
   /// Notes an address dropped on a button, on the row of single buttons (tag "SingleButtons") or in
   /// a menu, for `file`. The dialog opens when the drop has returned to the program it came from.
   /// For an item of a menu (tag "F" and the button's index) the current entry is that item, and the
-  /// menu's capture is on; for the end of a button's menu the tag is the index alone. In the row the
-  /// file is that of the button under the drop, empty where there is none.
+  /// menu's capture is on; for the end of a button's menu the tag is the index alone. In the row
+  /// the file is that of the button under the drop, empty where there is none.
   virtual void OfferWebLink(std::string_view url, std::string_view title, std::string_view tag,
                             std::string_view file) = 0;
   /// The program ends: an address that waits is given up, and its window goes.

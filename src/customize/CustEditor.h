@@ -11,6 +11,8 @@
 
 namespace corvelle {
 
+struct MergedSet;
+
 /// What the editor asks of the world around it.
 class CustHost {
  public:
@@ -136,6 +138,10 @@ class CustEditor {
   /// A web address dropped by another program.
   void DropAddress(std::string_view address, std::string_view title);
 
+  /// Makes the tree what it was merged to with edits made elsewhere, in one step; nodes that stay
+  /// are the same nodes.
+  void TakeMerged(const MergedSet& merged);
+
   /// The last change, or the one taken back, whatever it was.
   bool Undo();
   bool Redo();
@@ -159,6 +165,8 @@ class CustEditor {
   /// A new node with the texts of a record, selected and in the boxes.
   CustRef AddNew(CustPlace place, const MenuRecord& record, std::string key);
   void AddButtonAt(CustPlace place, std::string key);
+  void TakeRow(CustRef parent, const std::vector<MenuRecord>& records,
+               const std::vector<int>& origins);
   void SaveUndoItems();
   void TakeOut();
   /// Where the deleted node goes back to; nothing when the node that tells it is gone.

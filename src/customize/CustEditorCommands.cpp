@@ -9,7 +9,7 @@ namespace corvelle {
 
 namespace {
 
-constexpr unsigned kInformation = 64;
+constexpr unsigned kInformationBox = 64;
 constexpr unsigned kSortQuestion = 292;   // Yes and No, question, No is the default
 constexpr unsigned kDeleteQuestion = 20;  // Yes and No, stop
 constexpr int kYes = 6;
@@ -205,7 +205,7 @@ bool CustEditor::UndoDelete() {
   std::string key = colUndo.size() >= 2 ? Tree.NewMenuKey() : Tree.NewItemKey();
   const std::optional<CustPlace> place = UndoPlace();
   if (!place) {
-    host_.Say(kNodeGone, kInformation);
+    host_.Say(kNodeGone, kInformationBox);
     return false;
   }
   const auto contentOf = [](const clsUndo& item, std::string itemKey) {

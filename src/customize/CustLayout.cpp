@@ -113,14 +113,16 @@ CustLayout ArrangeCustomize(const CustScene& scene) {
     out.Find = grid.Box(kMargin, top, treeRight, top + kBoxHeight);
     top += kBoxHeight + kGap / 2;
   }
-  const float treeBottom = scene.Height - kMargin - bar - kGap / 2;
+  const float treeBottom = scene.Height - kMargin - std::max(bar, kButtonHeight) - kGap;
   out.Tree = grid.Box(kMargin, top, treeRight, treeBottom);
-  out.ToolBar = grid.Box(kMargin, treeBottom + kGap / 2, treeRight, scene.Height - kMargin);
-  out.PropertiesBox = grid.Box(sideLeft, kMargin, scene.Width - kMargin, low - kGap);
+  // The tool bar is wider than a narrow tree.
+  const float saveLeft = scene.Width - kMargin - 2 * kLowButton - kGap;
+  out.ToolBar = grid.Box(kMargin, treeBottom + kGap, saveLeft - kGap, scene.Height - kMargin);
+  out.PropertiesBox = grid.Box(sideLeft, kMargin, scene.Width - kMargin, treeBottom);
   out.Exit =
       grid.Box(scene.Width - kMargin - kLowButton, low, scene.Width - kMargin, low + kButtonHeight);
-  out.Save = grid.Box(scene.Width - kMargin - 2 * kLowButton - kGap, low,
-                      scene.Width - kMargin - kLowButton - kGap, low + kButtonHeight);
+  out.Save =
+      grid.Box(saveLeft, low, scene.Width - kMargin - kLowButton - kGap, low + kButtonHeight);
   ArrangeSide(grid, side, out);
   return out;
 }

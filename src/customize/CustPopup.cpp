@@ -13,19 +13,19 @@ namespace {
 
 using enum PopupLine;
 
-constexpr CustPopupLine kGap{Count, "-"};
+constexpr CustPopupLine kPopupGap{Count, "-"};
 
 constexpr CustPopupLine kModuleLines[] = {
     {DesktopItems, "Desktop Items"},
     {ControlPanel, "Control Panel"},
     {Printers, "Printers"},
     {Documents, "Recent Documents"},
-    kGap,
+    kPopupGap,
     {NetSearch, "Net Search"},
     {FileFind, "Find Files"},
     {FindComputer, "Find Computer"},
     {RunDialog, "Run Dialog"},
-    kGap,
+    kPopupGap,
     {MinimizeAllWindows, "Minimize All Windows"},
     {UndoMinimizeAll, "Undo Minimize All"},
     {ClearTempFiles, "Delete Temporary Files"},
@@ -33,22 +33,22 @@ constexpr CustPopupLine kModuleLines[] = {
 };
 
 constexpr CustPopupLine kEditLines[] = {
-    kGap,
+    kPopupGap,
     {AddButton, "Add Button"},
     {InsertButton, "Insert Button"},
     {HideButton, "Hide Button"},
-    kGap,
+    kPopupGap,
     {AddMenuItem, "Add Menu Item"},
     {InsertMenuItem, "Insert Menu Item"},
     {Separator, "Insert Separator"},
-    kGap,
+    kPopupGap,
     {Cut, "Cut"},
     {Copy, "Copy"},
     {Paste, "Paste"},
-    kGap,
+    kPopupGap,
     {Remove, "Delete"},
     {Undo, "Undo Delete"},
-    kGap,
+    kPopupGap,
     {Sort, "Sort Node"},
     {Rename, "Rename"},
 };

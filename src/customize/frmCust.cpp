@@ -196,7 +196,7 @@ void frmCust::Form_Load() {
   keeper_ = std::make_unique<DraftKeeper>(program_.Services.Files, program_.MenusPath);
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
-    Editor.InitMenuTree(files_.Set, program_.AppPath + "corvelle.exe", program_.MenusPath);
+    Editor.InitMenuTree(files_.Set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
     Editor.Select(kMenusRoot);
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());
@@ -204,6 +204,7 @@ void frmCust::Form_Load() {
   }
   shownAt_ = keptAt_ = Editor.Tree.Revision();
   OfferTheDraft();
+  LookForBrowser();
   MakeMenuBar();
   PlaceControls();
   ShowState();

@@ -181,6 +181,7 @@ class frmCust final : public forms::Form,
   void AddOptionLines(MenuMaker& menu);
   void ChooseOption(CustOption option);
   void FlipOption(int position);
+  void LookForBrowser();
   void ChooseWebIcon(bool custom);
   void ChooseBrowser(bool own);
   void SetLargeIcons();
@@ -191,6 +192,9 @@ class frmCust final : public forms::Form,
   void cmdSave_Click();
   /// False when the files are not those of the tree.
   bool SaveTree();
+  /// Takes what was changed elsewhere into the tree. False when an entry was changed on both sides;
+  /// then nothing is taken.
+  bool Merge();
   bool SettleConflict(const MenusStamp& theirs);
   void Recover(const std::string& message);
   void RefreshStrip();
@@ -211,10 +215,13 @@ class frmCust final : public forms::Form,
   long shownAt_ = 0;              // revision of the tree that those files hold
   long keptAt_ = 0;               // revision in the draft
   std::optional<MenuSet> draft_;  // that is offered
+  bool ownBrowser_ = false;       // the user has chosen one
   bool finding_ = false;
   bool arranging_ = false;
   bool messageWaits_ = false;  // the message of a drop on a root
-  std::string address_;        // dropped, and not dealt with yet
+  // A web address that was dropped and not dealt with yet, with its title if the source had one.
+  std::string address_;
+  std::string addressTitle_;
 };
 
 }  // namespace corvelle

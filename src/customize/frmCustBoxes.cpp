@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "core/Program.h"
+#include "core/SpecialFolders.h"
 #include "customize/frmCust.h"
 #include "forms/Scopes.h"
 #include "platform/FileSystem.h"
@@ -14,8 +15,7 @@ namespace corvelle {
 namespace {
 
 constexpr int kKeyF3 = 114;
-constexpr int kStartMenuFolder = 11;
-constexpr int kDesktopFolder = 0;
+constexpr int kMenuFilesFolder = 11;  // the Start menu
 constexpr int kLibraryTip = 5;
 constexpr int kAllFilesTip = 6;
 constexpr int kCommandTip = 7;
@@ -140,7 +140,7 @@ void frmCust::Browse(bool files) {
 }
 
 std::string frmCust::StartFolder() const {
-  if (chkSelect0.Value() == 1) return GetSpecialFolder(program_, kStartMenuFolder);
+  if (chkSelect0.Value() == 1) return GetSpecialFolder(program_, kMenuFilesFolder);
   if (chkSelect1.Value() == 1) return GetSpecialFolder(program_, kDesktopFolder);
   return Editor.LastFolder;
 }

@@ -69,18 +69,13 @@ void frmCust::MakeMenuBar() {
   menuBar_.Add("&Find\tCtrl+F", [this] { BeginFind(); });
   menuBar_.Add("Find &Next\tF3", [this] { FindNext(); });
   menuBar_.AddGap();
-  menuBar_.Add(
-      "&Duplicate\tCtrl+D", [this] { Run(&CustEditor::Duplicate); }, !Editor.OnRoot());
-  const bool hasCommand = !Editor.OnRoot() &&
-                          !Trim(Editor.Tree.At(Editor.Selected()).Entry.FileExe).empty() &&
-                          !Editor.IsSeparator(Editor.Selected());
-  menuBar_.Add(
-      "Ru&n", [this] { RunEntry(); }, hasCommand);
+  menuBar_.Add("&Duplicate\tCtrl+D", [this] { Run(&CustEditor::Duplicate); });
+  menuBar_.Add("Ru&n", [this] { RunEntry(); });
   menuBar_.End();
   menuBar_.Begin("&Options");
   AddOptionLines(menuBar_);
   menuBar_.End();
-  SetMenu(menuBar_.Items());
+  if (menuBar_.Items() != Menu()) SetMenu(menuBar_.Items());
 }
 
 void frmCust::Form_MenuOpening(int) { MakeMenuBar(); }
@@ -162,8 +157,9 @@ void frmCust::FindNext() {
 }
 
 void frmCust::RunEntry() {
-  if (Editor.OnRoot() || Editor.IsSeparator(Editor.Selected())) return Beep();
-  LaunchItem(program_, Editor.Tree.At(Editor.Selected()).Entry.FileExe);
+  const std::string command = Trim(Editor.Tree.At(Editor.Selected()).Entry.FileExe);
+  if (command.empty() || Editor.IsSeparator(Editor.Selected())) return Beep();
+  LaunchItem(program_, command);
 }
 
 }  // namespace corvelle

@@ -20,7 +20,6 @@ constexpr int kLargeOption = 26;
 }  // namespace
 
 void frmCust::AddOptionLines(MenuMaker& menu) {
-  const bool ownBrowser = program_.Services.Files.FileExists(program_.AppPath + "openurl.ini");
   for (const CustOptionLine& line : CustOptionLines()) {
     if (line.Option == CustOption::Gap) {
       menu.AddGap();
@@ -28,7 +27,7 @@ void frmCust::AddOptionLines(MenuMaker& menu) {
     }
     menu.Add(
         std::string(line.Caption), [this, option = line.Option] { ChooseOption(option); }, true,
-        IsChecked(line, program_.OptionFlags, ownBrowser));
+        IsChecked(line, program_.OptionFlags, ownBrowser_));
   }
 }
 
@@ -106,6 +105,10 @@ void frmCust::ChooseOption(CustOption option) {
   if (IsLoaded()) MakeMenuBar();
 }
 
+void frmCust::LookForBrowser() {
+  ownBrowser_ = program_.Services.Files.FileExists(program_.AppPath + "openurl.ini");
+}
+
 void frmCust::FlipOption(int position) { program_.OptionFlags.Flip(position); }
 
 std::string frmCust::AskOneFile(std::string_view title, std::string_view startFolder) {
@@ -129,9 +132,13 @@ void frmCust::ChooseWebIcon(bool custom) {
 void frmCust::ChooseBrowser(bool own) {
   BrowserPort* const browser = program_.Ports.Browser;
   if (browser == nullptr) return;
-  if (!own) return browser->UseDefaultBrowser();
-  const std::string path = AskOneFile("Select one file.", Editor.LastFolder);
-  if (!path.empty()) browser->UseBrowser(path);
+  if (own) {
+    const std::string path = AskOneFile("Select one file.", Editor.LastFolder);
+    if (!path.empty()) browser->UseBrowser(path);
+  } else {
+    browser->UseDefaultBrowser();
+  }
+  LookForBrowser();
 }
 
 void frmCust::SetLargeIcons() {

@@ -2,6 +2,7 @@
 
 #include "core/Program.h"
 #include "customize/Saving.h"
+#include "customize/TreeMerge.h"
 #include "customize/frmCust.h"
 #include "forms/Scopes.h"
 #include "platform/FileSystem.h"
@@ -44,6 +45,10 @@ bool frmCust::SaveTree() {
       if (!IsLoaded()) return false;
     }
     Editor.TreeChanged = false;
+    result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
+                       Editor.Tree.ToMenuSet(), files_.Stamp);
+  }
+  if (result.End == SaveEnd::Conflict && Merge()) {
     result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
                        Editor.Tree.ToMenuSet(), files_.Stamp);
   }
@@ -106,8 +111,11 @@ void frmCust::RefreshStrip() {
   const float gap = strip->FreeWidth();
   strip->ResetCollections();
   strip->InitNewButtons();
-  if (!strip->WindowLoaded() || program_.AppBarDocked || program_.AutoHide) return;
-  strip->ResizeAfterEdit(gap);
+  if (strip->WindowLoaded() && !program_.AppBarDocked && !program_.AutoHide) {
+    strip->ResizeAfterEdit(gap);
+  }
+  // The rebuilt strip came to the foreground.
+  if (IsLoaded()) SetForeground();
 }
 
 bool frmCust::AskToSave(bool canStay) {
@@ -178,7 +186,7 @@ void frmCust::ShowDraft() {
   lblMenuTree.SetCaption("Menu Tree");
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
-    Editor.InitMenuTree(set, program_.AppPath + "corvelle.exe", program_.MenusPath);
+    Editor.InitMenuTree(set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());
     }
@@ -193,7 +201,7 @@ void frmCust::ReadAgain() {
   if (!InitMenuTree()) return;
   const forms::TreeView::FreezeScope freeze(TreeView1);
   const bool saving = Editor.SavingNow;
-  Editor.InitMenuTree(files_.Set, program_.AppPath + "corvelle.exe", program_.MenusPath);
+  Editor.InitMenuTree(files_.Set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
   Editor.SavingNow = saving;
   if (!Editor.Tree.Children(kMenusRoot).empty()) {
     ShowNode(Editor.Tree.Children(kMenusRoot).front());
@@ -204,12 +212,29 @@ void frmCust::ReadAgain() {
   ShowState();
 }
 
-void frmCust::Form_Activate() {
-  if (!IsLoaded() || Unsaved() || Browsing || TreeView1.Edited() != forms::kNoNode) return;
-  // What was changed on the strip meanwhile comes in while nothing is unsaved here.
-  const MenusResult<MenuFiles> read =
+bool frmCust::Merge() {
+  MenusResult<MenuFiles> read =
       ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
-  if (read && (*read).Stamp != files_.Stamp) ReadAgain();
+  if (!read) return false;
+  if ((*read).Stamp == files_.Stamp) return true;
+  const bool unsaved = Unsaved();
+  const MergedSet merged = MergeTrees(files_.Set, Editor.Tree.ToMenuSet(), (*read).Set);
+  if (!merged.Conflicts.empty()) return false;
+  Editor.TakeMerged(merged);
+  files_ = *std::move(read);
+  if (!unsaved) shownAt_ = keptAt_ = Editor.Tree.Revision();
+  return true;
+}
+
+void frmCust::Form_Activate() {
+  if (!IsLoaded() || keeper_ == nullptr || Browsing || Dragging ||
+      TreeView1.Edited() != forms::kNoNode) {
+    return;
+  }
+  // What was changed on the strip meanwhile comes in. Where it cannot, the next save asks.
+  const long before = Editor.Tree.Revision();
+  static_cast<void>(Merge());
+  if (Editor.Tree.Revision() != before) ShowState();
 }
 
 }  // namespace corvelle

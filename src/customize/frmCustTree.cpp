@@ -89,7 +89,8 @@ void frmCust::ShowState() {
   const forms::NodeId id = tree_.IdOf(node);
   if (TreeView1.Selected() != id) TreeView1.Select(id);
   ShowBoxes();
-  Toolbar1.SetButtonEnabled("undo", !Editor.colUndo.empty());
+  // The next Undo and Redo bear the names of their commands.
+  MakeMenuBar();
 }
 
 void frmCust::ShowBoxes() {
@@ -278,6 +279,7 @@ void frmCust::TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffe
     return ShowState();
   }
   address_ = *data.Text;
+  addressTitle_ = data.Title;
   program_.Windows.Post([this] {
     if (IsLoaded()) TakeAddress();
   });
@@ -286,8 +288,8 @@ void frmCust::TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffe
 void frmCust::TakeAddress() {
   const std::vector<std::string> lines = SplitLines(std::exchange(address_, {}));
   if (lines.empty() || Editor.OnRoot()) return;
-  std::string title;
-  {
+  std::string title = std::exchange(addressTitle_, {});
+  if (title.empty()) {
     const forms::HourglassScope hourglass(program_.Windows);
     if (program_.Ports.Browser != nullptr) title = program_.Ports.Browser->WindowTitle(lines[0]);
   }

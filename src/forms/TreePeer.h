@@ -19,7 +19,6 @@ struct NodeLook {
   std::string Text;
   int Image = -1;  // in the order in which images were added; -1 for none
   bool Dimmed = false;
-  int Overlay = 0;  // 1 to 15: an image declared by SetOverlay, over the other
   bool Checked = false;
 
   friend bool operator==(const NodeLook&, const NodeLook&) = default;
@@ -77,8 +76,6 @@ class TreePeer : public WindowPeer {
  public:
   /// Pixels in Image::kMask are see-through. Images count from 0.
   virtual void AddImage(const Canvas& image) = 0;
-  /// Declares an image as overlay 1 to 15.
-  virtual void SetOverlay(int overlay, int image) = 0;
 
   /// In front of `before`, or as the last child.
   virtual void Insert(NodeId node, NodeId parent, NodeId before, const NodeLook& look) = 0;

@@ -18,15 +18,9 @@ int TreeView::AddImage(Picture image) {
   return static_cast<int>(images_.size()) - 1;
 }
 
-void TreeView::SetOverlay(int overlay, int image) {
-  overlays_.emplace_back(overlay, image);
-  if (Own() != nullptr) Own()->SetOverlay(overlay, image);
-}
-
 void TreeView::ClearImages() {
   if (Own() != nullptr) return;
   images_.clear();
-  overlays_.clear();
 }
 
 NodeId TreeView::Insert(NodeId parent, NodeId before, NodeLook look) {
@@ -203,7 +197,6 @@ void TreeView::PeerMade() {
   edited_ = dragged_ = kNoNode;
   const FreezeScope freeze(*this);
   for (const Picture& image : images_) Own()->AddImage(*image);
-  for (const auto& [overlay, image] : overlays_) Own()->SetOverlay(overlay, image);
   InsertBelow(kNoNode);
   if (selected_ != kNoNode) Own()->Select(selected_);
 }

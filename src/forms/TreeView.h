@@ -25,9 +25,9 @@ class TreeView final : public SystemControl, private TreeEvents {
   [[nodiscard]] const TreeModel& Nodes() const noexcept { return nodes_; }
   /// Adds an image and gives its number; pixels in Image::kMask are see-through.
   int AddImage(Picture image);
-  void SetOverlay(int overlay, int image);
   /// Forgets all images, of a tree that is not loaded; the next one counts from 0.
   void ClearImages();
+  [[nodiscard]] std::size_t ImageCount() const noexcept { return images_.size(); }
 
   /// In front of `before`, or as the last child of `parent`. kNoNode when the parent is not there.
   NodeId Insert(NodeId parent, NodeId before, NodeLook look);
@@ -123,7 +123,6 @@ class TreeView final : public SystemControl, private TreeEvents {
   TreeStyle style_;
   TreeModel nodes_;
   std::vector<Picture> images_;
-  std::vector<std::pair<int, int>> overlays_;
   NodeId selected_ = kNoNode;
   NodeId edited_ = kNoNode;
   NodeId dragged_ = kNoNode;

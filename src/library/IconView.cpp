@@ -17,6 +17,7 @@ namespace {
 constexpr int kDrawTime = 20;  // milliseconds
 constexpr int kDrawnAtOnce = 24;
 constexpr forms::OleColor kWindowText = 0x80000008;
+constexpr int kWideBorder = 2;
 constexpr int kBorder = 1;  // pixels around the marked cell
 
 }  // namespace
@@ -154,7 +155,11 @@ void IconView::DrawSome() {
 }
 
 void IconView::Repaint(int place) {
-  if (place >= 0 && place < grid_.Count) sheet_.Invalidate(grid_.CellAt(place));
+  if (place < 0 || place >= grid_.Count) return;
+  // The border of a marked cell lies around it.
+  const PixelRect cell = grid_.CellAt(place);
+  sheet_.Invalidate({cell.left - kWideBorder, cell.top - kWideBorder, cell.right + kWideBorder,
+                     cell.bottom + kWideBorder});
 }
 
 void IconView::PaintCells() {
@@ -178,7 +183,7 @@ void IconView::PaintCell(Canvas& canvas, int place) const {
   if (marked) {
     canvas.FillBox(RectAt(at, text), colour(forms::color::Highlight));
     // The border of the marked cell is thinner while the keyboard is elsewhere.
-    const int width = sheet_.HasFocus() ? 2 * kBorder : kBorder;
+    const int width = sheet_.HasFocus() ? kWideBorder : kBorder;
     const Rgb line = colour(forms::color::Highlight);
     canvas.FillBox({icon.left - width, icon.top - width, icon.right + width, icon.top}, line);
     canvas.FillBox({icon.left - width, icon.bottom - width, icon.right + width, icon.bottom}, line);

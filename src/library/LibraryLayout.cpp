@@ -40,9 +40,10 @@ LibraryLayout LayOutLibrary(const LibraryScene& scene) noexcept {
   const int row = at.Frame.bottom + margin;
   at.Cancel = RectAt({at.Bar.right - button.width, row}, button);
   at.Ok = RectAt({at.Cancel.left - gap - button.width, row}, button);
-  at.Add = RectAt({margin, row}, button);
+  // The other two belong to one tab only.
+  at.Refresh = RectAt({margin, row}, button);
+  at.Add = RectAt({at.Refresh.right + gap, row}, button);
   at.Remove = RectAt({at.Add.right + gap, row}, button);
-  at.Refresh = RectAt({at.Remove.right + gap, row}, button);
   at.Inside = {at.Bar.right + margin, row + button.height + margin};
   return at;
 }

@@ -25,7 +25,7 @@ constexpr std::string_view kAllCategories = "All Categories";
 constexpr std::string_view kSampleCaption = "Folders7.ico";
 constexpr int kBoxPadding = 8;  // above and below a line in its box, together
 constexpr int kBarWidth = 17;   // pixels at 96 dots an inch, as the padding
-constexpr float kTwipsAt96 = 15;
+constexpr float kTwipsOfPixel = 15;
 
 }  // namespace
 
@@ -41,9 +41,9 @@ frmLibrary::frmLibrary(Program& program)
       PicOtherFrame(*this, "PicOtherFrame"),
       picOther(PicOtherFrame, "picOther"),
       vsOther(*this, "vsOther"),
+      cmdRefresh(*this, "cmdRefresh"),
       cmdAdd(*this, "cmdAdd"),
       cmdRemove(*this, "cmdRemove"),
-      cmdRefresh(*this, "cmdRefresh"),
       cmdOK(*this, "cmdOK"),
       cmdCancel(*this, "cmdCancel"),
       LibraryView(program, Pic2, VS1),
@@ -129,7 +129,7 @@ void frmLibrary::SetFormSize() {
   const forms::ScreenInfo screen = program_.Windows.Screen();
   const PixelSize caption = program_.Windows.MeasureText(kSampleCaption, {});
   const auto scaled = [&](int pixels) {
-    return static_cast<int>(static_cast<float>(pixels) * kTwipsAt96 / screen.TwipsPerPixelX);
+    return static_cast<int>(static_cast<float>(pixels) * kTwipsOfPixel / screen.TwipsPerPixelX);
   };
   LibraryScene scene{.Cell = CellMetricsAt(screen.TwipsPerPixelX, caption),
                      .TwipsPerPixel = screen.TwipsPerPixelX,

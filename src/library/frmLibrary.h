@@ -44,9 +44,9 @@ class frmLibrary final : public forms::Form, public LibraryPort {
   forms::PictureBox PicOtherFrame;
   forms::PictureBox picOther;
   forms::ScrollBar vsOther;
+  forms::CommandButton cmdRefresh;
   forms::CommandButton cmdAdd;
   forms::CommandButton cmdRemove;
-  forms::CommandButton cmdRefresh;
   forms::CommandButton cmdOK;
   forms::CommandButton cmdCancel;
 

@@ -72,7 +72,7 @@ class SystemInfo {
   [[nodiscard]] virtual DriveFacts FactsOfDrive(const std::string& root) const = 0;
 
   /// True if another process of this program runs in this session. The first question claims the
-  /// session for this process.
+  /// session for this process; each later one gives the other a moment to end, and claims it then.
   [[nodiscard]] virtual bool AnotherInstanceRuns() = 0;
 
   /// Height of a window's caption (SM_CYCAPTION) and width of its buttons (SM_CXSIZE), in pixels; 0

@@ -70,12 +70,12 @@ class Parts {
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};
   frmURL WebLink{TheProgram};
-  frmLibrary Library{TheProgram};
+  frmCust Customize{TheProgram};
+  frmProperties Properties{TheProgram};
+  frmLibrary Library{TheProgram};  // belongs to one of the two above
   HelpViewer TheHelp{TheProgram};
   frmNetSearch NetSearch{TheProgram};
   frmAbout About{TheProgram};
-  frmCust Customize{TheProgram};
-  frmProperties Properties{TheProgram};
 
  private:
   /// F1 opens the page of each window.

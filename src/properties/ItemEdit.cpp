@@ -20,7 +20,7 @@ bool Holds(const std::string& stored, const MenuRecord& texts, const std::string
   return ParseRecord(stored, ansi) == Trimmed(texts);
 }
 
-FileStatus WriteStored(FileSystem& files, std::string_view menusPath, const FileItem& item,
+FileStatus WriteStored(FileSystem& files, std::string_view menusPath, const EditedItem& item,
                        const std::string& bytes) {
   return RewriteMenuFile(files, menusPath, item.File, [&](std::string records) {
     return InsertOrAppendRecord(WithoutRecord(std::move(records), item.Record), item.Record, bytes);
@@ -28,7 +28,7 @@ FileStatus WriteStored(FileSystem& files, std::string_view menusPath, const File
 }
 
 /// The entry's record if the file still holds it there; Mismatch or Failed otherwise.
-ItemOutcome FindRecord(FileSystem& files, const CodePage& ansi, const FileItem& item,
+ItemOutcome FindRecord(FileSystem& files, const CodePage& ansi, const EditedItem& item,
                        std::string& stored) {
   const FileResult<std::string> records = ReadWholeRecords(files, item.File);
   if (!records && records.Error() == FileError::NotFound) return {ItemResult::Mismatch};
@@ -42,8 +42,8 @@ ItemOutcome FindRecord(FileSystem& files, const CodePage& ansi, const FileItem& 
 
 }  // namespace
 
-FileItem MakeFileItem(const EntryEdit& entry, MenuRecord shown, const CodePage& ansi) {
-  FileItem item{.Key = entry.CurMenuTag, .File = entry.CurFile, .Record = entry.CurRecord};
+EditedItem MakeFileItem(const EntryEdit& entry, MenuRecord shown, const CodePage& ansi) {
+  EditedItem item{.Key = entry.CurMenuTag, .File = entry.CurFile, .Record = entry.CurRecord};
   const bool stored = !entry.CurStored.empty() && !IsGenerated(entry.CurRecord);
   item.Starting = stored ? ParseRecord(entry.CurStored, ansi) : std::move(shown);
   if (stored) item.StartingBytes = entry.CurStored;
@@ -53,7 +53,7 @@ FileItem MakeFileItem(const EntryEdit& entry, MenuRecord shown, const CodePage& 
 }
 
 ItemOutcome UpdateFileItem(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
-                           FileItem& item, const MenuRecord& boxes) {
+                           EditedItem& item, const MenuRecord& boxes) {
   if (IsGenerated(item.Record)) return {ItemResult::FolderEntry};
   std::string stored;
   const ItemOutcome found = FindRecord(files, ansi, item, stored);
@@ -71,7 +71,7 @@ ItemOutcome UpdateFileItem(FileSystem& files, const CodePage& ansi, std::string_
 }
 
 ItemOutcome CancelFileItem(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
-                           FileItem& item) {
+                           EditedItem& item) {
   if (item.CurrentBytes == item.StartingBytes) return {ItemResult::Same};
   std::string stored;
   const ItemOutcome found = FindRecord(files, ansi, item, stored);
@@ -83,7 +83,7 @@ ItemOutcome CancelFileItem(FileSystem& files, const CodePage& ansi, std::string_
   return {ItemResult::Written};
 }
 
-void FollowOrder(FileItem& item, std::string_view path, std::string_view button,
+void FollowOrder(EditedItem& item, std::string_view path, std::string_view button,
                  const CodePage& ansi) {
   item.File = path;
   if (item.Record != 1) return;

@@ -15,7 +15,7 @@ struct EntryEdit;
 // is never overwritten: the record is compared with the bytes that it had.
 
 /// The entry in the boxes.
-struct FileItem {
+struct EditedItem {
   std::string Key;   // where it stands, as EntryEdit::CurMenuTag says it
   std::string File;  // full path
   int Record = 0;    // from 1; above kGeneratedBase for an entry that has no record of its own
@@ -30,7 +30,8 @@ struct FileItem {
 
 /// Makes the current entry the one in the boxes. Where its stored record is known, the texts are
 /// those of the record: what a menu shows can be cut.
-[[nodiscard]] FileItem MakeFileItem(const EntryEdit& entry, MenuRecord shown, const CodePage& ansi);
+[[nodiscard]] EditedItem MakeFileItem(const EntryEdit& entry, MenuRecord shown,
+                                      const CodePage& ansi);
 
 enum class ItemResult {
   Written,
@@ -48,15 +49,15 @@ struct ItemOutcome {
 /// Writes the texts, trimmed, to the entry's record. They are its current ones then, as far as the
 /// record holds them.
 ItemOutcome UpdateFileItem(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
-                           FileItem& item, const MenuRecord& boxes);
+                           EditedItem& item, const MenuRecord& boxes);
 
 /// Writes the starting texts back where UpdateFileItem changed them and nobody else since.
 ItemOutcome CancelFileItem(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
-                           FileItem& item);
+                           EditedItem& item);
 
 /// The order of the buttons gave the entry's file another path, and the record of its button the
 /// bytes `button`. What the entry had to begin with keeps all but the third field of that.
-void FollowOrder(FileItem& item, std::string_view path, std::string_view button,
+void FollowOrder(EditedItem& item, std::string_view path, std::string_view button,
                  const CodePage& ansi);
 
 /// What the user is told; empty for what succeeded, and for a failure of the disk, which is the

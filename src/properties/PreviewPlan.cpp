@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "properties/ScaledPixels.h"
 
 namespace corvelle {
 
@@ -16,7 +17,6 @@ using forms::color::Highlight3D;
 constexpr forms::OleColor kDesktop = 0x80000001;
 
 // Pixels of a screen of 96 dots an inch.
-constexpr int kDotsOfOne = 96;
 constexpr int kBarHeight = 28;
 constexpr int kBarInset = 2;   // on either side
 constexpr int kBarMargin = 1;  // below it
@@ -25,8 +25,6 @@ constexpr int kTextMargin = 6;
 constexpr int kIconMargin = 6;
 constexpr int kLeastStrip = 6;
 constexpr int kStripGap = 2;
-
-int Scaled(int pixels, int dpi) noexcept { return (pixels * dpi + kDotsOfOne / 2) / kDotsOfOne; }
 
 void AddEdges(PreviewPlan& plan, const PixelRect& area, forms::OleColor upper,
               forms::OleColor lower) {
@@ -64,23 +62,25 @@ PixelSize PreviewSize(PixelSize screen, PixelSize room) noexcept {
 
 PixelRect PreviewTaskbar(const PreviewScene& scene) noexcept {
   const int bottom = scene.Box.height - kBarMargin;
-  return {kBarInset, bottom - Scaled(kBarHeight, scene.Dpi), scene.Box.width - kBarInset, bottom};
+  return {kBarInset, bottom - ScaledPixels(kBarHeight, scene.Dpi), scene.Box.width - kBarInset,
+          bottom};
 }
 
 PixelRect PreviewStart(const PreviewScene& scene) noexcept {
   const PixelRect bar = PreviewTaskbar(scene);
-  const int gap = Scaled(kGap, scene.Dpi);
+  const int gap = ScaledPixels(kGap, scene.Dpi);
   const int left = bar.left + gap;
-  return {left, bar.top + gap, left + scene.StartText.width + 2 * Scaled(kTextMargin, scene.Dpi),
+  return {left, bar.top + gap,
+          left + scene.StartText.width + 2 * ScaledPixels(kTextMargin, scene.Dpi),
           bar.bottom - gap};
 }
 
 PixelRect PreviewClock(const PreviewScene& scene) noexcept {
   const PixelRect bar = PreviewTaskbar(scene);
-  const int gap = Scaled(kGap, scene.Dpi);
+  const int gap = ScaledPixels(kGap, scene.Dpi);
   const int right = bar.right - gap;
-  return {right - scene.ClockText.width - 2 * Scaled(kTextMargin, scene.Dpi), bar.top + gap, right,
-          bar.bottom - gap};
+  return {right - scene.ClockText.width - 2 * ScaledPixels(kTextMargin, scene.Dpi), bar.top + gap,
+          right, bar.bottom - gap};
 }
 
 PreviewPlan PlanPreview(const PreviewScene& scene) {
@@ -108,7 +108,7 @@ std::vector<int> DistinctIcons(const std::vector<std::string>& texts) {
 }
 
 std::vector<PixelPoint> IconGrid(const PreviewScene& scene, std::size_t count) {
-  const int margin = Scaled(kIconMargin, scene.Dpi);
+  const int margin = ScaledPixels(kIconMargin, scene.Dpi);
   const int cell = scene.IconSize + margin;
   const int lowest = PreviewTaskbar(scene).top;
   std::vector<PixelPoint> places;
@@ -125,7 +125,7 @@ std::vector<PixelPoint> IconGrid(const PreviewScene& scene, std::size_t count) {
 PixelRect PreviewStrip(const PreviewScene& scene, Edge edge, int thickness,
                        int screenWidth) noexcept {
   const int scaled = screenWidth > 0 ? thickness * scene.Box.width / screenWidth : 0;
-  const int depth = std::max(scaled, Scaled(kLeastStrip, scene.Dpi));
+  const int depth = std::max(scaled, ScaledPixels(kLeastStrip, scene.Dpi));
   PixelRect strip{0, 0, scene.Box.width, PreviewTaskbar(scene).top};
   switch (edge) {
     case Edge::Top:

@@ -1,26 +1,24 @@
 #include "properties/PropertiesLayout.h"
 
 #include "properties/PreviewPlan.h"
+#include "properties/ScaledPixels.h"
 
 namespace corvelle {
 
 namespace {
 
 // Pixels of a screen of 96 dots an inch.
-constexpr int kDotsOfOne = 96;
 constexpr int kPageWidth = 356;
 constexpr int kButtonWidth = 76;
 constexpr int kButtonHeight = 25;
 constexpr int kEdgeWidth = 64;
 constexpr PixelRect kPreviewRoom{84, 44, 272, 204};
 
-class Scale {
+class LayoutScale {
  public:
-  explicit Scale(int dpi) : dpi_(dpi) {}
+  explicit LayoutScale(int dpi) : dpi_(dpi) {}
 
-  [[nodiscard]] int Of(int pixels) const noexcept {
-    return (pixels * dpi_ + kDotsOfOne / 2) / kDotsOfOne;
-  }
+  [[nodiscard]] int Of(int pixels) const noexcept { return ScaledPixels(pixels, dpi_); }
   /// Corner and size are scaled by themselves, so that what is equal stays equal.
   [[nodiscard]] PixelRect Rect(int left, int top, int width, int height) const noexcept {
     return RectAt({Of(left), Of(top)}, {Of(width), Of(height)});
@@ -30,7 +28,7 @@ class Scale {
   int dpi_;
 };
 
-void LayOutItem(const Scale& scale, PropertiesLayout& layout) noexcept {
+void LayOutItem(const LayoutScale& scale, PropertiesLayout& layout) noexcept {
   constexpr int kLeft = 10;
   constexpr int kWide = kPageWidth - 2 * kLeft;
   constexpr int kNarrow = 226;
@@ -57,7 +55,7 @@ void LayOutItem(const Scale& scale, PropertiesLayout& layout) noexcept {
   layout.Folder = scale.Rect(96, 20, kButtonWidth, kButtonHeight);
 }
 
-void LayOutButtons(const Scale& scale, PropertiesLayout& layout) noexcept {
+void LayOutButtons(const LayoutScale& scale, PropertiesLayout& layout) noexcept {
   layout.Tree = scale.Rect(10, 10, 252, 194);
   layout.Up = scale.Rect(270, 10, kButtonWidth, kButtonHeight);
   layout.Down = scale.Rect(270, 41, kButtonWidth, kButtonHeight);
@@ -65,7 +63,7 @@ void LayOutButtons(const Scale& scale, PropertiesLayout& layout) noexcept {
   layout.HintCommand = scale.Rect(10, 226, 336, 15);
 }
 
-void LayOutEdges(const Scale& scale, PixelSize screen, PropertiesLayout& layout) noexcept {
+void LayOutEdges(const LayoutScale& scale, PixelSize screen, PropertiesLayout& layout) noexcept {
   const PixelRect room =
       scale.Rect(kPreviewRoom.left, kPreviewRoom.top, kPreviewRoom.Width(), kPreviewRoom.Height());
   const PixelSize size = PreviewSize(screen, room.Size());
@@ -83,7 +81,7 @@ void LayOutEdges(const Scale& scale, PixelSize screen, PropertiesLayout& layout)
 }  // namespace
 
 PropertiesLayout LayOutProperties(const PropertiesScene& scene) noexcept {
-  const Scale scale(scene.Dpi);
+  const LayoutScale scale(scene.Dpi);
   PropertiesLayout layout;
   layout.Inside = {scale.Of(384), scale.Of(330)};
   layout.TabStrip = scale.Rect(8, 8, 368, 280);

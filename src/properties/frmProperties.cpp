@@ -1,5 +1,7 @@
 #include "properties/frmProperties.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -27,6 +29,12 @@ void Place(forms::Control& control, const PixelRect& at, const forms::ScreenInfo
                static_cast<float>(at.top) * screen.TwipsPerPixelY,
                static_cast<float>(at.Width()) * screen.TwipsPerPixelX,
                static_cast<float>(at.Height()) * screen.TwipsPerPixelY);
+}
+
+bool HasFocusInside(const forms::Window& window) {
+  return window.HasFocus() ||
+         std::any_of(window.Children().begin(), window.Children().end(),
+                     [](const forms::Window* child) { return HasFocusInside(*child); });
 }
 
 }  // namespace
@@ -129,6 +137,10 @@ void frmProperties::WireButtons() {
     SetNodeChecked(node, TreeView1.Checked(node));
   };
   TreeView1.Activated = [this](forms::NodeId node) { TreeView1_DblClick(node); };
+  TreeView1.DragBegin = [this](forms::NodeId node) {
+    dragNode_ = node;
+    return true;
+  };
   TreeView1.DragOver = [this](const forms::TreeHit& hit) { ShowDropMark(hit); };
   TreeView1.DragEnd = [this](const forms::TreeHit& hit, bool dropped) {
     TreeView1_DragDrop(hit, dropped);
@@ -256,28 +268,41 @@ void frmProperties::ShowProperties(std::string_view title, std::string_view icon
   if (!IsLoaded()) return;
   Show();
   SetForeground();
-  if (!IsLoaded()) return;
-  if (txtTitle.Enabled()) {
-    txtTitle.SetFocus();
-    txtTitle.SelectAll();
-  } else {
-    cmdCancel.SetFocus();
-  }
+  if (IsLoaded()) FocusPage(std::string(kItemTab));
 }
 
 // ---- tabs ----
 
 void frmProperties::TabStrip1_Click() { ShowTab(TabStrip1.Selected()); }
 
+// The focus must not stay on a page that goes.
 void frmProperties::ShowTab(const std::string& key) {
   TabStrip1.Select(key);
+  const forms::PictureBox* const pages[] = {&Picture1, &picButtons, &Picture2};
+  const bool movesFocus = std::any_of(std::begin(pages), std::end(pages), [](const auto* page) {
+    return page->Visible() && HasFocusInside(*page);
+  });
   Picture1.SetVisible(key == kItemTab);
   picButtons.SetVisible(key == kButtonsTab);
   Picture2.SetVisible(key == kPositionTab);
   ButtonsTabShown = key == kButtonsTab;
   tmrEdge_.SetEnabled(key == kPositionTab);
+  if (movesFocus) FocusPage(key);
   if (ButtonsTabShown) LoadButtonsTab();
-  if (key == kPositionTab) LoadPositionTab();
+  if (key == kPositionTab && IsLoaded()) LoadPositionTab();
+}
+
+void frmProperties::FocusPage(const std::string& key) {
+  if (key == kButtonsTab) {
+    TreeView1.SetFocus();
+  } else if (key == kPositionTab) {
+    cmdTop.SetFocus();
+  } else if (txtTitle.Enabled()) {
+    txtTitle.SetFocus();
+    txtTitle.SelectAll();
+  } else {
+    cmdCancel.SetFocus();
+  }
 }
 
 void frmProperties::DrawIcon() {

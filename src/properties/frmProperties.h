@@ -107,6 +107,7 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void WireEdges();
   void TabStrip1_Click();
   void ShowTab(const std::string& key);
+  void FocusPage(const std::string& key);
 
   // ---- the entry (frmPropertiesItem.cpp) ----
   void EnableItem();
@@ -169,9 +170,10 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void ShowHidingStrip();
 
   Program& program_;
-  FileItem item_;
+  EditedItem item_;
   ButtonOrder order_;
-  bool orderTouched_ = false;                       // since the tab was filled or applied
+  bool orderTouched_ = false;  // since the tab was filled or applied
+  forms::NodeId dragNode_ = forms::kNoNode;
   std::map<std::string, int, std::less<>> images_;  // of the tree, by their icon texts
   PreviewScene scene_;
   Picture desktop_;  // the small picture without the strip

@@ -117,7 +117,7 @@ void frmProperties::cmdDown_Click() {
 }
 
 void frmProperties::ShowDropMark(const forms::TreeHit& hit) {
-  const std::size_t from = IndexOf(TreeView1.Dragged());
+  const std::size_t from = IndexOf(dragNode_);
   const std::size_t to = IndexOf(hit.Node);
   const bool lands = to != ButtonOrder::kNone && from != ButtonOrder::kNone && to != from;
   TreeView1.SetInsertMark(lands ? hit.Node : forms::kNoNode, lands && to > from);
@@ -125,7 +125,7 @@ void frmProperties::ShowDropMark(const forms::TreeHit& hit) {
 
 void frmProperties::TreeView1_DragDrop(const forms::TreeHit& hit, bool dropped) {
   TreeView1.SetInsertMark(forms::kNoNode, false);
-  const std::size_t from = IndexOf(TreeView1.Dragged());
+  const std::size_t from = IndexOf(dragNode_);
   const std::size_t target = IndexOf(hit.Node);
   if (!dropped || target == ButtonOrder::kNone) return;
   MoveButton(order_.Drop(from, target), from);
@@ -166,6 +166,7 @@ bool frmProperties::ApplyOrder() {
   const std::size_t place = order_.FindPath(item_.File);
   const OrderOutcome outcome =
       ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi, program_.MenusPath, order_);
+  if (outcome.Result == OrderResult::Applied) program_.TellMenusEdited();
   if (outcome.Result == OrderResult::Failed) {
     ShowFileError(program_.MenusPath, outcome.Reason);
     return false;

@@ -76,6 +76,7 @@ bool frmProperties::ApplyItem() {
 bool frmProperties::UpdateFileItem() {
   const ItemOutcome outcome = corvelle::UpdateFileItem(
       program_.Services.Files, program_.Services.Ansi, program_.MenusPath, item_, Boxes());
+  if (outcome.Result == ItemResult::Written) program_.TellMenusEdited();
   ShowOutcome(outcome);
   if (outcome.Result != ItemResult::Written && outcome.Result != ItemResult::Same) return false;
   if (!IsLoaded()) return true;
@@ -95,6 +96,7 @@ void frmProperties::CancelFileItem() {
   ShowHidingStrip();
   const ItemOutcome outcome = corvelle::CancelFileItem(
       program_.Services.Files, program_.Services.Ansi, program_.MenusPath, item_);
+  if (outcome.Result == ItemResult::Written) program_.TellMenusEdited();
   if (outcome.Result == ItemResult::Failed) ShowOutcome(outcome);
   if (outcome.Result == ItemResult::Written && IsLoaded()) ShowEdited();
   if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ShowToolbar();

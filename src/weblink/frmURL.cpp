@@ -7,8 +7,8 @@
 #include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "platform/DesktopWindows.h"
-#include "weblink/LinkTarget.h"
 #include "weblink/WebLinkLayout.h"
+#include "weblink/WebLinkTarget.h"
 
 namespace corvelle {
 

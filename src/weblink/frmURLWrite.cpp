@@ -7,7 +7,7 @@
 #include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "core/SingleFiles.h"
-#include "weblink/LinkTarget.h"
+#include "weblink/WebLinkTarget.h"
 #include "weblink/frmURL.h"
 
 namespace corvelle {
@@ -34,7 +34,7 @@ std::string frmURL::NewSingleFile() const {
 void frmURL::UpdateToolbar() {
   ToolbarPort* const strip = program_.Ports.Toolbar;
   if (strip != nullptr && !program_.HideBusy) strip->SetPointerWatch(false);
-  const LinkTarget target = ParseLinkTag(Tag);
+  const WebLinkTarget target = ParseLinkTag(Tag);
   switch (target.Place) {
     case LinkPlace::MenuItem:
       InsertItem(target_.CurFile);

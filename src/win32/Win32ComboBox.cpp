@@ -2,6 +2,7 @@
 
 #include "win32/Wide.h"
 #include "win32/Win32TextBox.h"
+#include "win32/Win32WindowSystem.h"
 
 namespace corvelle::win32 {
 
@@ -14,9 +15,16 @@ bool Win32ComboBox::Create(const forms::PeerSpec& wanted) {
   COMBOBOXINFO info{};
   info.cbSize = sizeof(info);
   if (withEntry_ && GetComboBoxInfo(handle_, &info) != 0 && info.hwndItem != nullptr) {
-    SetWindowSubclass(info.hwndItem, &EntryProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
+    entryWindow_ = info.hwndItem;
+    SetWindowSubclass(entryWindow_, &EntryProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
   }
   return true;
+}
+
+// The entry covers most of the box.
+void Win32ComboBox::SetToolTip(std::string_view text) {
+  Win32Control::SetToolTip(text);
+  if (entryWindow_ != nullptr) system_.ToolTips().Set(entryWindow_, text);
 }
 
 // The keys of the entry follow the rules of dialogs. It is a part of the combo box and ends first.
@@ -25,11 +33,13 @@ LRESULT CALLBACK Win32ComboBox::EntryProcedure(HWND entry, UINT message, WPARAM 
                                                DWORD_PTR combo) noexcept {
   auto* const window = reinterpret_cast<Win32ComboBox*>(combo);
   if (message == WM_NCDESTROY) {
+    window->system_.ToolTips().Forget(entry);
+    window->entryWindow_ = nullptr;
     RemoveWindowSubclass(entry, &EntryProcedure, id);
     return DefSubclassProc(entry, message, wParam, lParam);
   }
   const std::shared_ptr<Win32Window> keep = window->shared_from_this();
-  window->RelayToToolTip(message, wParam, lParam);
+  window->system_.ToolTips().Relay(entry, message, wParam, lParam);
   if (window->events_ != nullptr) {
     if (const auto answer = window->TreatControlKeys(message, wParam, lParam)) return *answer;
   }

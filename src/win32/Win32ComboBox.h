@@ -16,6 +16,7 @@ class Win32ComboBox final : public Win32Control {
 
   [[nodiscard]] bool Create(const forms::PeerSpec& wanted);
   std::optional<LRESULT> Notified(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void SetToolTip(std::string_view text) override;
   [[nodiscard]] bool WithEntry() const noexcept { return withEntry_; }
 
  protected:
@@ -27,6 +28,7 @@ class Win32ComboBox final : public Win32Control {
                                          UINT_PTR id, DWORD_PTR combo) noexcept;
 
   bool withEntry_;
+  HWND entryWindow_ = nullptr;
   forms::ComboBoxEvents& comboEvents_;
 };
 

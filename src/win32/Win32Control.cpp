@@ -76,7 +76,7 @@ LRESULT Win32Control::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
     return answer;
   }
   // A frame holds other controls.
-  if (const auto teller = TellerOf(handle_, message, lParam)) {
+  if (const auto teller = TellerOf(handle_, message, wParam, lParam)) {
     if (const auto answer = teller->Notified(message, wParam, lParam)) return *answer;
   }
   if (events_ == nullptr) return Default(message, wParam, lParam);

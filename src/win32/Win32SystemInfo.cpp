@@ -10,6 +10,7 @@ namespace corvelle::win32 {
 
 namespace {
 
+constexpr DWORD kMoment = 50;  // milliseconds
 constexpr wchar_t kSessionName[] = L"Local\\Corvelle";
 constexpr std::size_t kLongestPath = 32768;
 constexpr std::size_t kLongestDate = 256;
@@ -76,6 +77,11 @@ std::string Win32SystemInfo::WindowsFolder() const { return FolderOf(GetSystemWi
 std::string Win32SystemInfo::SystemFolder() const { return FolderOf(GetSystemDirectoryW); }
 
 bool Win32SystemInfo::AnotherInstanceRuns() {
+  if (claim_ && claim_->TakenBefore) {
+    // The other must be the only one that holds the name while it is looked whether it ends.
+    claim_.reset();
+    Sleep(kMoment);
+  }
   if (!claim_) {
     claim_ = std::make_unique<Claim>();
     claim_->Mutex.Reset(CreateMutexW(nullptr, FALSE, kSessionName));

@@ -40,12 +40,15 @@ void Win32ToolTips::Set(HWND window, std::string_view text) {
 
 void Win32ToolTips::Forget(HWND window) {
   if (!tips_) return;
+  if (window == pressed_) pressed_ = nullptr;
   TTTOOLINFOW info = InfoOf(window);
   SendMessageW(tips_.Get(), TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&info));
 }
 
 void Win32ToolTips::Relay(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (!tips_) return;
+  if (!tips_ || message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) return;
+  if (message == WM_MOUSEMOVE && window == pressed_) return;
+  pressed_ = message == WM_MOUSEMOVE ? nullptr : window;
   MSG relayed{};
   relayed.hwnd = window;
   relayed.message = message;

@@ -15,10 +15,11 @@ class Win32ToolTips {
   void Set(HWND window, std::string_view text);
   /// Must be called before a window that has a tip ends.
   void Forget(HWND window);
-  /// A mouse message of a window that has a tip.
+  /// A mouse message of a window, with a tip or without.
   void Relay(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
+  HWND pressed_ = nullptr;  // shows its tip no more until the pointer has been elsewhere
   UniqueWindow tips_;
 };
 

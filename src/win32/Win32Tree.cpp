@@ -23,7 +23,6 @@ constexpr UINT kRunLater = WM_APP + 1;
 constexpr UINT_PTR kScrollTimer = 1;
 constexpr UINT kScrollMilliseconds = 100;
 constexpr int kScrollEdge = 12;  // pixels
-constexpr int kOverlays = 15;
 
 HTREEITEM ItemAt(HWND tree, UINT which, HTREEITEM item = nullptr) {
   return reinterpret_cast<HTREEITEM>(
@@ -112,23 +111,30 @@ std::optional<LRESULT> Win32Tree::Own(UINT message, WPARAM wParam, LPARAM lParam
     case kRunLater:
       RunLater();
       return 0;
+    case WM_ENABLE:
+      // Not all versions of the system gray it by themselves.
+      SendMessageW(handle_, TVM_SETTEXTCOLOR, 0,
+                   wParam != 0 ? -1 : static_cast<LPARAM>(GetSysColor(COLOR_GRAYTEXT)));
+      return std::nullopt;
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
       return Press(message, wParam, lParam);
-    case WM_CONTEXTMENU: {
+    case WM_CONTEXTMENU:
       // The menu key has been told as a key when it went down.
-      if (lParam == -1) return 0;
-      POINT at{PointIn(lParam).x, PointIn(lParam).y};
-      ScreenToClient(handle_, &at);
-      Later([this, at] {
-        static_cast<void>(events_->OnContextMenu({static_cast<int>(at.x), static_cast<int>(at.y)}));
-      });
+      if (lParam != -1) AskForMenu(lParam);
       return 0;
-    }
     default:
       return std::nullopt;
   }
+}
+
+void Win32Tree::AskForMenu(LPARAM lParam) {
+  POINT at{PointIn(lParam).x, PointIn(lParam).y};
+  ScreenToClient(handle_, &at);
+  Later([this, at] {
+    static_cast<void>(events_->OnContextMenu({static_cast<int>(at.x), static_cast<int>(at.y)}));
+  });
 }
 
 // What the user does.
@@ -148,6 +154,11 @@ NodeId Win32Tree::NodeOf(HTREEITEM item) const {
 }
 
 std::optional<LRESULT> Win32Tree::Notified(UINT message, WPARAM /*wParam*/, LPARAM lParam) {
+  // Some versions of the system send it past the tree.
+  if (message == WM_CONTEXTMENU && events_ != nullptr) {
+    AskForMenu(lParam);
+    return 0;
+  }
   if (message != WM_NOTIFY) return std::nullopt;
   if (events_ == nullptr) return 0;
   return TellNotification(*reinterpret_cast<const NMHDR*>(lParam), lParam);
@@ -249,9 +260,8 @@ TVITEMW Win32Tree::ItemFor(const NodeLook& look, std::wstring& text) const {
   item.pszText = text.data();
   item.iImage = look.Image >= 0 ? look.Image : I_IMAGENONE;
   item.iSelectedImage = item.iImage;
-  item.stateMask = TVIS_CUT | TVIS_OVERLAYMASK;
-  item.state = (look.Dimmed ? TVIS_CUT : 0U) |
-               INDEXTOOVERLAYMASK(static_cast<UINT>(std::clamp(look.Overlay, 0, kOverlays)));
+  item.stateMask = TVIS_CUT;
+  item.state = look.Dimmed ? TVIS_CUT : 0U;
   if (style_.CheckBoxes) {
     item.stateMask |= TVIS_STATEIMAGEMASK;
     item.state |= INDEXTOSTATEIMAGEMASK(look.Checked ? 2U : 1U);
@@ -451,12 +461,6 @@ void Win32Tree::SetDropTarget(NodeId node) {
 
 // The peer.
 
-void Win32TreePeer::SetOverlay(int overlay, int image) {
-  const auto images =
-      reinterpret_cast<HIMAGELIST>(SendMessageW(Handle(), TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
-  ImageList_SetOverlayImage(images, image, overlay);
-}
-
 void Win32TreePeer::Insert(NodeId node, NodeId parent, NodeId before, const NodeLook& look) {
   Win32Tree& tree = Window();
   tree.Change([&tree, node, parent, before, look] { tree.Insert(node, parent, before, look); });
@@ -547,6 +551,8 @@ void Win32TreePeer::BeginEdit(NodeId node) { Window().BeginEdit(node); }
 void Win32TreePeer::SetInsertMark(NodeId node, bool after) {
   SendMessageW(Handle(), TVM_SETINSERTMARK, after ? TRUE : FALSE,
                reinterpret_cast<LPARAM>(Window().ItemOf(node)));
+  // Not all versions of the system take the old line away.
+  InvalidateRect(Handle(), nullptr, TRUE);
 }
 
 void Win32TreePeer::Thaw() {

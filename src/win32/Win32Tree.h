@@ -55,6 +55,8 @@ class Win32Tree final : public Win32Control {
   LRESULT TellNotification(const NMHDR& header, LPARAM lParam);
   LRESULT TellEdited(const NMTVDISPINFOW& info);
   void CheckLater(forms::NodeId node);
+  /// The user asks for the context menu with the right button.
+  void AskForMenu(LPARAM lParam);
   void BeginDrag(forms::NodeId node);
   std::optional<LRESULT> TreatDrag(UINT message, WPARAM wParam, LPARAM lParam);
   void DragTo(PixelPoint at);
@@ -86,7 +88,6 @@ class Win32TreePeer final : public Win32PeerOf<forms::TreePeer, Win32Tree> {
   using Win32PeerOf::Win32PeerOf;
 
   void AddImage(const Canvas& image) override { Window().AddImage(image); }
-  void SetOverlay(int overlay, int image) override;
   void Insert(forms::NodeId node, forms::NodeId parent, forms::NodeId before,
               const forms::NodeLook& look) override;
   void Remove(forms::NodeId node) override;

@@ -82,7 +82,8 @@ Win32Window* Win32Window::Of(HWND handle) noexcept {
 bool Win32Window::TakesFocus() const { return tabStop_ || GetWindow(handle_, GW_CHILD) == nullptr; }
 
 // Other programs can send these messages with any handle in them.
-std::shared_ptr<Win32Window> Win32Window::TellerOf(HWND parent, UINT message, LPARAM lParam) {
+std::shared_ptr<Win32Window> Win32Window::TellerOf(HWND parent, UINT message, WPARAM wParam,
+                                                   LPARAM lParam) {
   HWND child = nullptr;
   switch (message) {
     case WM_COMMAND:
@@ -91,6 +92,9 @@ std::shared_ptr<Win32Window> Win32Window::TellerOf(HWND parent, UINT message, LP
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLOREDIT:
       child = reinterpret_cast<HWND>(lParam);
+      break;
+    case WM_CONTEXTMENU:
+      child = reinterpret_cast<HWND>(wParam);
       break;
     case WM_NOTIFY:
       child = lParam != 0 ? reinterpret_cast<const NMHDR*>(lParam)->hwndFrom : nullptr;
@@ -148,10 +152,7 @@ void Win32Window::SetToolTip(std::string_view text) {
 }
 
 void Win32Window::RelayToToolTip(UINT message, WPARAM wParam, LPARAM lParam) const {
-  if (!hasToolTip_ || handle_ == nullptr || message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) {
-    return;
-  }
-  system_.ToolTips().Relay(handle_, message, wParam, lParam);
+  if (handle_ != nullptr) system_.ToolTips().Relay(handle_, message, wParam, lParam);
 }
 
 void Win32Window::Destroy() {

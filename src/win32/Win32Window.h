@@ -33,7 +33,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   forms::WindowEvents* Events() const noexcept { return events_; }
   /// Begins or ends to take what other programs drag here. False when the system refuses.
   [[nodiscard]] bool SetTakesDrops(bool takesDrops);
-  void SetToolTip(std::string_view text);
+  virtual void SetToolTip(std::string_view text);
   [[nodiscard]] bool IsForm() const noexcept { return kind_ == forms::PeerKind::Form; }
 
   void SetMenuBar(const std::vector<forms::PopupItem>& items);
@@ -45,7 +45,8 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   [[nodiscard]] virtual bool TakesFocus() const;
   /// A child that tells something of itself to the window around it (WM_COMMAND and its like); none
   /// for other messages.
-  static std::shared_ptr<Win32Window> TellerOf(HWND parent, UINT message, LPARAM lParam);
+  static std::shared_ptr<Win32Window> TellerOf(HWND parent, UINT message, WPARAM wParam,
+                                               LPARAM lParam);
   /// What such a child makes of its own notification.
   virtual std::optional<LRESULT> Notified(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {
     return std::nullopt;

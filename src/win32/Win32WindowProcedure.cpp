@@ -109,7 +109,7 @@ LRESULT Win32Window::Default(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT Win32Window::Treat(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto answer = TreatFrame(message, wParam, lParam)) return *answer;
-  if (const auto teller = TellerOf(handle_, message, lParam)) {
+  if (const auto teller = TellerOf(handle_, message, wParam, lParam)) {
     if (const auto answer = teller->Notified(message, wParam, lParam)) return *answer;
   }
   if (events_ == nullptr) return Default(message, wParam, lParam);

@@ -322,6 +322,13 @@ TEST_F(DefaultEntriesTest, AccessoriesHoldTheirFolderAndThoseInIt) {
   EXPECT_EQ(Titles("BMENU002.MNU"), Texts{"Programs"});
 }
 
+TEST_F(DefaultEntriesTest, AccessoriesBelowTheirFolderOnlyHaveNoSeparatorAtTheTop) {
+  world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
+  Link("C:\\Start\\Programs\\Accessories\\System\\Disk.lnk", "C:\\w\\a.exe");
+  Fill();
+  EXPECT_EQ(Titles("BMENU004.MNU"), (Texts{"Accessories", "Disk"}));
+}
+
 TEST_F(DefaultEntriesTest, RecentDocumentsAreAFolderItem) {
   world.Links.SetFolder(kRecent, "C:\\Me\\Recent");
   Fill();

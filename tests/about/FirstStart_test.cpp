@@ -55,6 +55,34 @@ class FirstStart : public testing::Test {
   bool started = false;
 };
 
+TEST(InstalledFirstStart, AllThatIsWrittenLiesInTheUsersFolder) {
+  constexpr int kUserDataFolder = 26;
+  const std::string programs = "C:\\Programs\\Corvelle\\";
+  const std::string data = "C:\\Users\\ann\\AppData\\Corvelle\\";
+  sim::World world;
+  world.Files.Put(programs + "corvelle.exe", "program");
+  world.Files.Put(programs + "icon.lib", Entry("W95MBX02.ICO", "icon") + End());
+  world.Files.Put(programs + "anetsrch.org", "engines");
+  world.Files.MakeFolders("C:\\Users\\ann\\AppData");
+  world.Folders.SetPath(kUserDataFolder, "C:\\Users\\ann\\AppData");
+  world.System.Folder = "C:\\Programs\\Corvelle";
+  world.System.WorkFolder = "C:\\";
+  world.Shell.AddToPath("explorer.exe");
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  Parts parts(world.Services(), world.Windows());
+  ASSERT_TRUE(Main(parts.TheProgram));
+  world.Desktop.Pump();
+  EXPECT_EQ(parts.Toolbar.ButtonCount, 6);
+  EXPECT_TRUE(world.Files.Has(data + "Menus\\BMENU001.MNU"));
+  EXPECT_TRUE(world.Files.Has(data + "Icons\\W95MBX02.ICO"));
+  EXPECT_TRUE(world.Files.Has(data + "ShellLink"));
+  EXPECT_EQ(world.Files.Get(data + "netsrch.ini"), "engines");
+  parts.Companion.UnloadWindow();
+  EXPECT_TRUE(world.Files.Has(data + "tmenu425.dat"));
+  const std::vector<std::string> brought = {"anetsrch.org", "corvelle.exe", "icon.lib"};
+  EXPECT_EQ(world.Files.Names(programs), brought);
+}
+
 TEST_F(FirstStart, TheStripStandsWholeAtTheRightEdge) {
   ASSERT_TRUE(started);
   EXPECT_EQ(parts.TheProgram.ToolbarEdge, "RIGHT");

@@ -345,6 +345,43 @@ TEST(FileTransactionJournal, OfAnEarlierChangeIsSettledBeforeTheNext) {
   EXPECT_EQ(Contents(disk), (Folder{{"A.MNU", "aaa"}, {"B.MNU", "next"}, {"C.BTN", "next"}}));
 }
 
+// What was done needs nothing taken back, and what the caller has read is what is there.
+TEST(FileTransactionJournal, OfAChangeThatWasDoneLetsTheNextOneGoOn) {
+  sim::SimFiles disk;
+  EndHalfway(disk);
+  disk.Put(In("B.MNU"), "bba");
+  FileTransaction next(disk, kFolder);
+  next.Write(In("B.MNU"), "next");
+  next.Write(In("C.BTN"), "next");
+  EXPECT_TRUE(next.Commit());
+  EXPECT_EQ(Contents(disk), (Folder{{"A.MNU", "aa"}, {"B.MNU", "next"}, {"C.BTN", "next"}}));
+}
+
+TEST(FileTransactionJournal, IsKeptWhereTheDiskTakesNothingBackEither) {
+  int kept = 0;
+  for (int n = 1;; ++n) {
+    SCOPED_TRACE(n);
+    sim::SimFiles disk;
+    Put(disk, kThree);
+    FileTransaction change(disk, kFolder);
+    change.Write(In("A.MNU"), "xx");
+    change.Write(In("B.MNU"), "yy");
+    disk.FailFrom(n, FileError::AccessDenied);
+    const bool done = static_cast<bool>(change.Commit());
+    disk.StopFailing();
+    if (!done && Contents(disk) != kThree) {
+      ++kept;
+      EXPECT_TRUE(disk.Has(kJournal));
+    }
+    EXPECT_TRUE(RecoverFiles(disk, kFolder));
+    if (!done) {
+      EXPECT_EQ(Contents(disk), kThree);
+    }
+    if (done && !disk.Has(kJournal)) break;
+  }
+  EXPECT_GT(kept, 0);
+}
+
 TEST(FileTransactionJournal, ThatCannotBeRemovedDoesNoHarmLater) {
   sim::SimFiles disk;
   Put(disk, kThree);

@@ -5,8 +5,11 @@
 #include <algorithm>
 
 #include "core/CoreDoubles.h"
+#include "core/Instance.h"
 #include "core/Program.h"
 #include "core/Upgrade.h"
+#include "platform/Platform.h"
+#include "platform/SystemInfo.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -28,6 +31,33 @@ class SlowIconRule final : public IconRulePort {
 
  private:
   sim::SimDesktop& desktop_;
+};
+
+/// Another copy that ends after so many questions, or has its window by then.
+class OtherCopy {
+ public:
+  explicit OtherCopy(sim::World& world) : world_(world) {
+    world_.System.OtherInstance = true;
+    world_.System.OnInstanceAsked = [this] { BeAsked(); };
+  }
+  OtherCopy(const OtherCopy&) = delete;
+  OtherCopy& operator=(const OtherCopy&) = delete;
+  ~OtherCopy() { world_.System.OnInstanceAsked = nullptr; }
+
+  int EndsAfter = 1000;
+  int ShowsItselfAfter = 1000;
+  int Asked = 0;
+
+ private:
+  void BeAsked() {
+    if (++Asked == ShowsItselfAfter) {
+      world_.Desktop.AddOtherWindow(
+          {.Title = "Corvelle", .ClassName = "frmMinimize", .Visible = false});
+    }
+    world_.System.OtherInstance = Asked <= EndsAfter;
+  }
+
+  sim::World& world_;
 };
 
 /// An installation with windows that only write down what happens to them.
@@ -143,6 +173,12 @@ TEST_F(MainTest, TheFirstRunOpensTheHelpOnTheDesktop) {
   EXPECT_EQ(world.System.HelpCalls, (Calls{{kNoWindow, "C:\\Corvelle\\corvelle.hlp", 1002}}));
 }
 
+TEST_F(MainTest, WithoutAHelpFileTheFirstRunOpensNone) {
+  world.Desktop.Answer(forms::msgbox::AnswerNo);
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(world.System.HelpCalls.empty());
+}
+
 TEST_F(MainTest, HelpThatTheDesktopCannotShowIsTriedOnceMoreOnTheStrip) {
   world.Files.Put("C:\\Corvelle\\corvelle.hlp", "help");
   world.System.HasHelpViewer = false;
@@ -214,7 +250,8 @@ TEST_F(MainTest, TheUpgradeCleansDataFilesAndNothingElse) {
 TEST_F(MainTest, TheUpgradeTouchesNoDataFileOfOthersWhereverItIsUnpacked) {
   const std::string others[] = {"ntuser.dat",       "photos.dat",       "tmenu4.dat",
                                 "tmenu4 notes.dat", "tmenu425.dat.dat", "mytoolbarp.dat",
-                                "mainmenu.dat.dat", "Icons\\cache.dat", "Icons\\tmenu4x.dat"};
+                                "mainmenu.dat.dat", "Icons\\cache.dat", "Icons\\tmenu4x.dat",
+                                "photos12.dat"};
   const std::string own[] = {"tmenu418.dat", "mainmenu.dat", "SFDATA.dat",
                              "nsearch.dat",  "clrlib.dat",   "Icons\\clrlib.dat"};
   for (const bool first : {true, false}) {
@@ -263,6 +300,10 @@ TEST_F(MainTest, AFlagFileThatCannotBeReachedIsNoNewInstallation) {
   EXPECT_TRUE(Main(program));
   EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\toolbarp.dat"));
   EXPECT_TRUE(world.Desktop.Boxes().empty());
+  // An installed version: its entries are there, and its questions have been asked.
+  EXPECT_TRUE(program.OptionFlags.Is(1));
+  EXPECT_TRUE(program.OptionFlags.Is(2));
+  EXPECT_FALSE(program.OptionFlags.Is(3));
 }
 
 TEST_F(MainTest, WhereTheFlagsCannotBeKeptTheQuestionIsNotAskedAtEachStart) {
@@ -318,6 +359,25 @@ TEST_F(MainTest, AFirstInstanceThatCannotBeWokenIsToldOf) {
   EXPECT_EQ(world.Desktop.Boxes()[0].Owner, kNoWindow);
   EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 262208U);
   EXPECT_EQ(world.Desktop.Boxes()[0].Title, "Corvelle");
+}
+
+TEST_F(MainTest, AFirstInstanceThatIsJustEndingLetsTheNextOneStart) {
+  PutFlags(kInstalled);
+  OtherCopy other(world);
+  other.EndsAfter = 3;
+  Program next(world.Services(), world.Windows());
+  EXPECT_TRUE(ClaimSession(next));
+  EXPECT_EQ(other.Asked, 4);
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(MainTest, AFirstInstanceThatIsJustStartingIsWokenWhenItIsThere) {
+  OtherCopy other(world);
+  other.ShowsItselfAfter = 3;
+  Program next(world.Services(), world.Windows());
+  EXPECT_FALSE(ClaimSession(next));
+  EXPECT_EQ(world.Desktop.Sent().size(), 1U);
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
 TEST_F(MainTest, ACompanionClosedWhileTheQuestionIsUpEndsTheStart) {

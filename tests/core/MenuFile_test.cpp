@@ -206,6 +206,7 @@ TEST(WholeRecords, FillsUpOrDropsAShortLastRecord) {
       {"half behind two", a + a + a.substr(0, 285), a + a},
       {"more than half behind two", a + a + a.substr(0, 286),
        a + a + a.substr(0, 286) + std::string(284, ' ')},
+      {"half behind 286", std::string(286 * 570 + 285, 'x'), std::string(286 * 570, 'x')},
   };
   for (const Row& row : rows) EXPECT_EQ(WholeRecords(row.bytes), row.expected) << row.name;
 }

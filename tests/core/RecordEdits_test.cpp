@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "core/CoreTexts.h"
+#include "core/FileTransaction.h"
 #include "core/MenuFile.h"
 #include "sim/SimFiles.h"
 
@@ -544,6 +545,28 @@ TEST(DeleteSeparator, NeverTakesTheButtonsRecordThoughItHasTheLinesIcon) {
   const EntryEdit before = bench.edit;
   EXPECT_EQ(SelectSeparatorAbove(bench.disk, kAnsi, bench.edit), EditOutcome::RecordMismatch);
   EXPECT_EQ(bench.edit, before);
+}
+
+TEST(MoveEntryToSingles, AnyOneFailureLeavesTheEntryOnceAndIsToldOf) {
+  for (int n = 1;; ++n) {
+    SCOPED_TRACE(n);
+    Bench bench;
+    const std::string single = kMenus + "BMENU001.BTN";
+    bench.disk.Put(single, Record("Single"));
+    bench.disk.FailCall(n);
+    const EditOutcome outcome = MoveEntryToSingles(bench.disk, kAnsi, kMenus, bench.edit, "");
+    const bool hit = bench.disk.Hit();
+    bench.disk.StopFailing();
+    if (!hit) {
+      EXPECT_EQ(outcome, EditOutcome::Edited);
+      break;
+    }
+    if (outcome == EditOutcome::Edited) continue;
+    EXPECT_EQ(outcome, EditOutcome::Failed);
+    EXPECT_TRUE(RecoverFiles(bench.disk, kMenus));
+    EXPECT_EQ(bench.Bytes(), kFour);
+    EXPECT_EQ(bench.disk.Get(single), Record("Single"));
+  }
 }
 
 }  // namespace

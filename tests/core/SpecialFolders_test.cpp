@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "base/CodePage.h"
+
 namespace corvelle {
 namespace {
 
@@ -109,6 +111,17 @@ TEST(IsSpecialFolderEntry, WantsATitleAndAKnownFolder) {
        {"", "CSIDL_DRIVES", "\\CSIDL_DRIVES", "C:\\CSIDL_NOTES.txt", "C:\\CSIDL_DRIVES",
         "\\\\host\\CSIDL_DRIVES", "C:\\CSIDL_DRIVES\\x.txt", "CSIDL_DRIVES\\Disk (C:)"}) {
     EXPECT_FALSE(IsSpecialFolderEntry(command)) << command;
+  }
+}
+
+TEST(SpecialFolderEntryCommand, ALongFolderLeavesTheNameNoRoom) {
+  const CodePage& ansi = Windows1252();
+  const std::string mark = SpecialFolderEntryCommand("", "x", ansi).substr(0, 1);
+  for (const std::size_t length : {258U, 259U, 260U, 300U}) {
+    const std::string folder(length, 'f');
+    EXPECT_EQ(SpecialFolderEntryCommand("Name", folder, ansi),
+              (length == 258 ? "N" : "") + mark + folder)
+        << length;
   }
 }
 

@@ -140,7 +140,12 @@ class CustDesk {
   /// A flat button has no window of its own.
   void ClickFlat(const forms::Graphic& button, const forms::Window& box) {
     const float twips = world.Desktop.Screen().TwipsPerPixelX;
-    const PixelRect at = world.Desktop.BoundsOf(box.hWnd());
+    PixelRect at = world.Desktop.BoundsOf(box.hWnd());
+    if (&box == &Form()) {
+      const forms::FrameMargins frame = world.Desktop.MarginsOf(forms::FrameStyle::Sizable, true);
+      at.left += frame.Left;
+      at.top += frame.Top;
+    }
     ClickAt({at.left + static_cast<int>((button.Left() + button.Width() / 2) / twips),
              at.top + static_cast<int>((button.Top() + button.Height() / 2) / twips)});
   }
@@ -153,7 +158,26 @@ class CustDesk {
     ClickAt(Label(node), forms::MouseButton::Right);
     EXPECT_EQ(world.Desktop.ChoicesLeft(), 0) << choice;
   }
-  void MenuBar(std::string_view path) { world.Desktop.ChooseFromMenuBar(Form().hWnd(), path); }
+  /// The line below a menu of the bar, both without "&" and without the key behind the tab.
+  void MenuBar(const std::string& menu, const std::string& line) {
+    for (const forms::PopupItem& top : Form().Menu()) {
+      if (Plain(top.Caption) != menu) continue;
+      for (const forms::PopupItem& item : top.Items) {
+        if (Plain(item.Caption) != line) continue;
+        return world.Desktop.ChooseFromMenuBar(Form().hWnd(), top.Caption + ">" + item.Caption);
+      }
+    }
+    ADD_FAILURE() << "no line " << menu << " > " << line;
+  }
+  [[nodiscard]] bool Checked(const std::string& line) const {
+    for (const forms::PopupItem& top : Form().Menu()) {
+      for (const forms::PopupItem& item : top.Items) {
+        if (Plain(item.Caption) == line) return item.Checked;
+      }
+    }
+    ADD_FAILURE() << "no line " << line;
+    return false;
+  }
   void Keys(std::initializer_list<int> held, int virtualKey) {
     for (const int one : held) world.Desktop.KeyDown(one);
     world.Desktop.PressKey(virtualKey);
@@ -202,6 +226,13 @@ class CustDesk {
   }
 
  private:
+  static std::string Plain(const std::string& caption) {
+    std::string text;
+    for (const char letter : caption.substr(0, caption.find('\t'))) {
+      if (letter != '&') text += letter;
+    }
+    return text;
+  }
   static std::string Text(const MenuSet& set) {
     const auto title = [](const MenuRecord& record) {
       return IsSeparatorIcon(record.FIcon) ? std::string("-") : record.FTitle;

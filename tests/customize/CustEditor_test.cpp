@@ -7,7 +7,7 @@
 namespace corvelle {
 namespace {
 
-using Texts = std::vector<std::string>;
+using SaidTexts = std::vector<std::string>;
 
 constexpr const char* kUsual =
     "Letters(Alpha Beta - Gamma) Tools(Hammer Anvil) - One(Only) Bare | Clock - Paint";
@@ -117,9 +117,10 @@ TEST(Confirm, OfASeparatorRestoresTheBoxesAndSaysWhy) {
   bench.Editor.Boxes = {"Other", "x", "y", true};
   EXPECT_FALSE(bench.Editor.cmdOK());
   EXPECT_EQ(bench.BoxTexts(), "Separator;;");
-  EXPECT_EQ(bench.Host.Said,
-            (Texts{"64 Separator cannot be edited. Click the Add File or Folder button to replace "
-                   "it."}));
+  EXPECT_EQ(
+      bench.Host.Said,
+      (SaidTexts{"64 Separator cannot be edited. Click the Add File or Folder button to replace "
+                 "it."}));
   EXPECT_FALSE(bench.Editor.TreeChanged);
 }
 
@@ -237,7 +238,7 @@ TEST(Delete, AsksBeforeAMenuOfTwoItemsAndNotBeforeOneOfASingleItem) {
   EXPECT_FALSE(bench.Editor.Delete());
   EXPECT_EQ(
       bench.Host.Said,
-      (Texts{"20 You have selected to delete the entire menu.\r\nDo you want to continue ?"}));
+      (SaidTexts{"20 You have selected to delete the entire menu.\r\nDo you want to continue ?"}));
   EXPECT_EQ(bench.Shape(),
             "Letters(Alpha Beta - Gamma) Tools(Hammer Anvil) - Bare | Clock - Paint");
 }
@@ -321,7 +322,7 @@ TEST(UndoDelete, SaysThatTheNodeBeforeIsGone) {
   bench.Host.Said.clear();
   const std::string shape = bench.Shape();
   EXPECT_FALSE(bench.Editor.UndoDelete());
-  EXPECT_EQ(bench.Host.Said, (Texts{"64 Error: 35601 - Element not found"}));
+  EXPECT_EQ(bench.Host.Said, (SaidTexts{"64 Error: 35601 - Element not found"}));
   EXPECT_EQ(bench.Shape(), shape);
 }
 
@@ -341,8 +342,8 @@ TEST(Sort, AsksFirstAndAnythingButYesLeavesTheOrder) {
   bench.Host.Answer = 7;
   EXPECT_FALSE(bench.Editor.SortNode());
   EXPECT_EQ(bench.Host.Said,
-            (Texts{"292 Note that once you sort a node, you cannot undo sorting.\r\nContinue "
-                   "sorting this node?"}));
+            (SaidTexts{"292 Note that once you sort a node, you cannot undo sorting.\r\nContinue "
+                       "sorting this node?"}));
   EXPECT_EQ(bench.Shape(), kUsual);
   bench.Host.Answer = 6;
   EXPECT_TRUE(bench.Editor.SortNode());
@@ -464,7 +465,7 @@ TEST(Modules, OnASeparatorAreRefused) {
   EditorBench bench;
   bench.Pick(bench.Editor.Tree.Children(bench.Node("Letters"))[2]);
   EXPECT_FALSE(bench.Editor.InsertModule(CustModule::NetSearch));
-  EXPECT_EQ(bench.Host.Said, (Texts{"64 " + std::string(kSeparatorMsg)}));
+  EXPECT_EQ(bench.Host.Said, (SaidTexts{"64 " + std::string(kSeparatorMsg)}));
   EXPECT_EQ(bench.BoxTexts(), "Separator;;");
 }
 

@@ -58,12 +58,12 @@ std::string Outcome(const Command& command, const std::string& selection) {
   return line;
 }
 
-struct Row {
+struct GoldenRow {
   const char* command;
   const char* selection;
   const char* outcome;
 };
-const Row kRows[] = {
+const GoldenRow kGoldenRows[] = {
 #include "customize/GoldenRows.inl"
 };
 
@@ -85,18 +85,18 @@ TEST(Commands, EachOneOnEachKindOfSelection) {
   for (const Command& command : Commands()) {
     for (const std::string& selection : selections) {
       const std::string outcome = Outcome(command, selection);
-      if (row >= std::size(kRows)) {
+      if (row >= std::size(kGoldenRows)) {
         ADD_FAILURE() << "{\"" << command.name << "\", \"" << selection << "\",\n R\"(" << outcome
                       << ")\"},";
         continue;
       }
-      EXPECT_STREQ(kRows[row].command, command.name);
-      EXPECT_EQ(kRows[row].selection, selection);
-      EXPECT_EQ(kRows[row].outcome, outcome) << command.name << " on " << selection;
+      EXPECT_STREQ(kGoldenRows[row].command, command.name);
+      EXPECT_EQ(kGoldenRows[row].selection, selection);
+      EXPECT_EQ(kGoldenRows[row].outcome, outcome) << command.name << " on " << selection;
       ++row;
     }
   }
-  EXPECT_EQ(row, std::size(kRows));
+  EXPECT_EQ(row, std::size(kGoldenRows));
 }
 
 }  // namespace

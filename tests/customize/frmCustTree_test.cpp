@@ -246,6 +246,14 @@ TEST(CustomizeTree, AWebAddressBecomesTheEntryAndOtherTextNothing) {
   EXPECT_EQ(desk.Editor().Tree.At(desk.Editor().Selected()).Entry.FileExe, "http://a.example/");
 }
 
+TEST(CustomizeTree, AnAddressKeepsTheTitleThatItsSourceGives) {
+  CustDesk desk;
+  desk.Expand("Tools");
+  desk.ClickNode("Anvil");
+  desk.Drop({.Text = "https://a.example/", .Title = "A page"});
+  EXPECT_EQ(desk.Boxes(), "A page;http;https://a.example/");
+}
+
 TEST(CustomizeTree, AFileDroppedOnASeparatorIsRefusedInWords) {
   CustDesk desk;
   desk.Expand("Letters");

@@ -21,35 +21,32 @@ using scenario::MainChoice;
 using scenario::StartAndWait;
 using scenario::WriteMenu;
 
-constexpr int kPatience = 8000;  // milliseconds
-constexpr int kKeyTab = 9;
-constexpr int kKeyF1 = 112;
 constexpr char kEngines[] =
     "A list of engines\r\n\r\nNAME=One\r\nURL=http://one.example/?q=[x]&n=1\r\n"
     "NAME=Two\r\nURL=https://two.example/?q=[utf8]\r\n";
 
-void SetHandler(const std::wstring& key, const std::wstring& text) {
+void WriteClass(const std::wstring& key, const std::wstring& text) {
   EXPECT_EQ(RegSetValueW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + key).c_str(), REG_SZ,
                          text.c_str(), 0),
             0);
 }
 
 /// A desk with one menu that holds the word of Net Search.
-class HandlerDesk : public ::testing::Test {
+class Windows : public ::testing::Test {
  protected:
   void SetUp() override {
     for (const wchar_t* key : {L"http", L"https", L"htmlfile", L".htm", L".html", L".url"}) {
       RegDeleteTreeW(HKEY_LOCAL_MACHINE, (std::wstring(L"Software\\Classes\\") + key).c_str());
     }
     for (const std::wstring protocol : {L"http", L"https"}) {
-      SetHandler(protocol, L"URL:" + protocol);
+      WriteClass(protocol, L"URL:" + protocol);
       const wchar_t none[] = L"";
       RegSetKeyValueW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + protocol).c_str(),
                       L"URL Protocol", REG_SZ, none, sizeof(none));
-      SetHandler(protocol + L"\\shell\\open\\command", L"C:\\witness\\witness.exe address \"%1\"");
+      WriteClass(protocol + L"\\shell\\open\\command", L"C:\\witness\\witness.exe address \"%1\"");
     }
-    SetHandler(L".html", L"helppages");
-    SetHandler(L"helppages\\shell\\open\\command", L"C:\\witness\\witness.exe page \"%1\"");
+    WriteClass(L".html", L"helppages");
+    WriteClass(L"helppages\\shell\\open\\command", L"C:\\witness\\witness.exe page \"%1\"");
     desk_.WriteFile(kFlagsFile, InstalledFlags());
     desk_.WriteFile("netsrch.ini", kEngines);
     WriteMenu(desk_, 1, "Words", {{.FTitle = "Search", .FIcon = "", .FName = "NetSearch"}});
@@ -59,26 +56,21 @@ class HandlerDesk : public ::testing::Test {
   bool OpenNetSearch() {
     if (!scenario::OpenMenu(desk_, 2)) return false;
     scenario::ClickItem(desk_, scenario::ItemMiddle(desk_, 1, 1));
-    return desk_.Wait(
-        [this] {
-          return desk_.IsVisible("frmNetSearch") && desk_.ForegroundClass() == "frmNetSearch";
-        },
-        kPatience);
+    return desk_.Wait([this] {
+      return desk_.IsVisible("frmNetSearch") && desk_.ForegroundClass() == "frmNetSearch";
+    });
   }
   bool OpenAbout() {
-    return scenario::ChooseInMainMenu(desk_, MainChoice::About) &&
-           desk_.Wait(
-               [this] {
-                 return desk_.IsVisible("frmAbout") && desk_.ForegroundClass() == "frmAbout";
-               },
-               kPatience);
+    return scenario::ChooseInMainMenu(desk_, MainChoice::About) && desk_.Wait([this] {
+      return desk_.IsVisible("frmAbout") && desk_.ForegroundClass() == "frmAbout";
+    });
   }
   void Type(const std::string& text) {
     for (const char letter : text) desk_.Type(letter);
     desk_.Pause(300);
   }
   bool WaitForLaunches(std::size_t count) {
-    return desk_.Wait([this, count] { return desk_.Launched().size() >= count; }, kPatience);
+    return desk_.Wait([this, count] { return desk_.Launched().size() >= count; });
   }
   /// The arguments of the witness's last start.
   std::string LastArguments() {
@@ -94,10 +86,10 @@ class HandlerDesk : public ::testing::Test {
   WineDesk desk_;
 };
 
-class NetSearchAtEachScale : public HandlerDesk {};
-class AboutAtEachScale : public HandlerDesk {};
-class HelpPages : public HandlerDesk {};
-class NetSearchFiles : public HandlerDesk {};
+class NetSearchAtEachScale : public Windows {};
+class AboutAtEachScale : public Windows {};
+class HelpPages : public Windows {};
+class NetSearchFiles : public Windows {};
 
 TEST_F(NetSearchAtEachScale, AQueryGoesToTheBrowserWithItsAddress) {
   ASSERT_TRUE(StartAndWait(desk_));
@@ -113,7 +105,7 @@ TEST_F(NetSearchAtEachScale, AQueryGoesToTheBrowserWithItsAddress) {
   EXPECT_EQ(LastArguments(), "address \"http://one.example/?q=ab+c&n=1\"");
   // It is in the task bar, and comes back with the query in its list.
   ASSERT_TRUE(OpenNetSearch());
-  desk_.Key(kKeyTab);
+  desk_.Key(scenario::kKeyTab);
   desk_.Key(scenario::kKeyDown);
   desk_.Pause(300);
   desk_.Picture("second engine");
@@ -161,7 +153,7 @@ TEST_F(NetSearchFiles, WithNoListTheMessageComesAndEscClosesTheWindow) {
   ASSERT_EQ(desk_.Messages().size(), 1U);
   EXPECT_EQ(desk_.Messages()[0].Text.find("The file netsrch.ini couldn't be found"), 0U);
   desk_.Key(scenario::kKeyEscape);
-  EXPECT_TRUE(desk_.Wait([this] { return !desk_.Window("frmNetSearch"); }, kPatience));
+  EXPECT_TRUE(desk_.Wait([this] { return !desk_.Window("frmNetSearch"); }));
 }
 
 TEST_F(AboutAtEachScale, ShowsItsThreeTabsAndCopiesAPage) {
@@ -169,10 +161,10 @@ TEST_F(AboutAtEachScale, ShowsItsThreeTabsAndCopiesAPage) {
   ASSERT_TRUE(OpenAbout());
   desk_.Pause(500);
   desk_.Picture("corvelle");
-  WithControl(kKeyTab);
+  WithControl(scenario::kKeyTab);
   desk_.Pause(1000);
   desk_.Picture("drives");
-  WithControl(kKeyTab);
+  WithControl(scenario::kKeyTab);
   desk_.Pause(500);
   desk_.Picture("system");
   WithControl('C');
@@ -186,7 +178,7 @@ TEST_F(AboutAtEachScale, ShowsItsThreeTabsAndCopiesAPage) {
   EXPECT_NE(copied.find("  CPU Type        :  x64 (64-bit)\r\n"), std::string::npos) << copied;
   EXPECT_NE(copied.find("  Windows Directory   :  C:\\windows\r\n"), std::string::npos) << copied;
   desk_.Key(scenario::kKeyEscape);
-  EXPECT_TRUE(desk_.Wait([this] { return !desk_.Window("frmAbout"); }, kPatience));
+  EXPECT_TRUE(desk_.Wait([this] { return !desk_.Window("frmAbout"); }));
 }
 
 TEST_F(HelpPages, OpenFromTheMenuAndByF1) {
@@ -195,11 +187,11 @@ TEST_F(HelpPages, OpenFromTheMenuAndByF1) {
   ASSERT_TRUE(WaitForLaunches(1));
   EXPECT_EQ(LastArguments(), "page \"C:\\Corvelle\\Help\\index.html\"");
   ASSERT_TRUE(OpenNetSearch());
-  desk_.Key(kKeyF1);
+  desk_.Key(scenario::kKeyF1);
   ASSERT_TRUE(WaitForLaunches(2));
   EXPECT_EQ(LastArguments(), "page \"C:\\Corvelle\\Help\\net-search.html\"");
   ASSERT_TRUE(OpenAbout());
-  desk_.Key(kKeyF1);
+  desk_.Key(scenario::kKeyF1);
   ASSERT_TRUE(WaitForLaunches(3));
   EXPECT_EQ(LastArguments(), "page \"C:\\Corvelle\\Help\\about.html\"");
 }

@@ -50,7 +50,7 @@ class WineDesk final : public scenario::Desk {
   void LetKeyGo(int virtualKey) override;
   void Type(char letter) override;
 
-  bool Wait(const std::function<bool()>& until, int milliseconds) override;
+  bool Wait(const std::function<bool()>& until, int milliseconds = 8000) override;
   void Pause(int milliseconds) override;
 
   [[nodiscard]] PixelSize ScreenSize() const override;

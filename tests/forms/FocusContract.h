@@ -70,6 +70,20 @@ TEST_P(FocusContract, ItComesBackToTheControlWhenAModalFormGoes) {
   EXPECT_EQ(Place.Text(), "a");
 }
 
+TEST_P(FocusContract, TheOwnerOfAModalFormIsInFrontAgainThoughAnotherFormLiesBetween) {
+  ControlSheet between(home_->Windows());
+  between.Move(6000, 6000, 3000, 1500);
+  between.Show();
+  home_->Wait(100);
+  Other.ShowModalTo(sheet_);
+  home_->Wait(100);
+  Other.Unload();
+  home_->Wait(100);
+  EXPECT_EQ(home_->Desktop().ActiveWindow(), sheet_.hWnd());
+  EXPECT_TRUE(Place.HasFocus());
+  between.Unload();
+}
+
 TEST_P(FocusContract, ControlsOfAPageWorkAndThoseOfAHiddenPageAreSkipped) {
   Title.SetFocus();
   Settle();

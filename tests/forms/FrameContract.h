@@ -47,7 +47,8 @@ class FrameContract : public testing::TestWithParam<InputHomeFactory> {
   }
   FrameMargins Margins() { return home_->Windows().MarginsOf(FrameStyle::Sizable, false); }
   void Drag(PixelPoint from, PixelPoint to) {
-    home_->DragAlong({from, {(from.x + to.x) / 2, (from.y + to.y) / 2}, to});
+    // The last move may be taken together with the release.
+    home_->DragAlong({from, {(from.x + to.x) / 2, (from.y + to.y) / 2}, to, to});
     home_->Wait(100);
   }
 };

@@ -28,8 +28,7 @@ class InputHome : public ContractHome {
     PressKey(virtualKey);
     KeyUp(held);
   }
-  /// With the left button from one point over others to the last, in one go: the frame of a window
-  /// keeps the program until the release. One point is a click.
+  /// With the left button from one point over others to the last. One point is a click.
   virtual void DragAlong(const std::vector<PixelPoint>& points) {
     MovePointer(points.front());
     Press(MouseButton::Left);

@@ -34,6 +34,7 @@ class ListBoxContract : public ControlsContract {
 TEST_P(ListBoxContract, AClickChoosesARowAndTellsItOnce) {
   ClickRow(2);
   EXPECT_EQ(List.Selected(), 2);
+  home_->Wait(700);
   ClickRow(2);
   EXPECT_EQ(sheet_.Seen, Texts{"row 2"});
   EXPECT_EQ(List.RowAt({20, 95}), -1) << "below the last row";

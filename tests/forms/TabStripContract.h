@@ -75,6 +75,7 @@ TEST_P(TabStripContract, ATabMayRefuseToBeLeft) {
   home_->PressWith(key::Ctrl, key::Tab);
   EXPECT_EQ(Tabs.Selected(), "item");
   may = true;
+  home_->Wait(700);
   ClickTab(1);
   EXPECT_EQ(Tabs.Selected(), "buttons");
 }

@@ -230,6 +230,14 @@ TEST_F(FormTest, SetWindowPosShowsAndHidesByItsFlags) {
   EXPECT_FALSE(Form.Visible());
 }
 
+TEST_F(FormTest, SetWindowPosBeforeLoadDoesNothing) {
+  Form.SetWindowPos(InsertAfter::Topmost, swp::Show);
+  EXPECT_FALSE(Form.Visible());
+  EXPECT_FALSE(Form.IsLoaded());
+  Form.Load();
+  EXPECT_FALSE(Desktop().IsTopmost(Form.hWnd()));
+}
+
 TEST_F(FormTest, MinimizeAndRestore) {
   Form.Show();
   Form.Minimize();

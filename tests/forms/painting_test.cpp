@@ -72,6 +72,16 @@ TEST_F(PaintingTest, ManyChangesAreOnePaint) {
             1);
 }
 
+TEST_F(PaintingTest, AnotherCaptionIsPaintedWhetherTheLabelFitsItOrHasASizeOfItsOwn) {
+  Label label(Form, "Label");
+  label.Move(150, 150, 600, 300);
+  ShowAndPaint();
+  EXPECT_EQ(PaintsAfter([&] { label.SetCaption("one"); }), 1);
+  label.SetAutoSize(true);
+  Desktop().Pump();
+  EXPECT_EQ(PaintsAfter([&] { label.SetCaption("other"); }), 1);
+}
+
 TEST_F(PaintingTest, NoPaintForAPropertySetToTheValueThatItHas) {
   Label label(Form, "Label");
   Line line(Form, "Line");

@@ -137,6 +137,7 @@ TEST(OtherFileRow, IsTheNameABlankABarAndThePath) {
 TEST(PlainCase, IsAFirstCapitalAndSmallLetters) {
   EXPECT_EQ(PlainCase("c:\\PROGRAM FILES\\A.EXE"), "C:\\program files\\a.exe");
   EXPECT_EQ(PlainCase("\xC3\xA4\xC3\x84X"), "\xC3\x84\xC3\xA4x");
+  EXPECT_EQ(PlainCase("FOLDER"), "Folder");
   EXPECT_EQ(PlainCase(""), "");
 }
 

@@ -221,6 +221,7 @@ TEST(CommandLineSplit, TheProgramEndsWhereTheSystemWouldEndIt) {
   };
   const Row rows[] = {
       {"in quotes", "\"c:\\a b\\c.exe\"  /x y", {}, {"c:\\a b\\c.exe", "/x y"}},
+      {"quotes around nothing", "\"\" /x", {}, {"", "/x"}},
       {"quotes without an end", "\"c:\\a.exe", {}, {"c:\\a.exe", ""}},
       {"the first word", "c:\\a.exe /x", {"c:\\a.exe"}, {"c:\\a.exe", "/x"}},
       {"blanks in the path", "c:\\a b.exe /x", {"c:\\a b.exe"}, {"c:\\a b.exe", "/x"}},

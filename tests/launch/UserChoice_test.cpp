@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "sim/World.h"
 
 namespace corvelle {
@@ -33,6 +35,26 @@ TEST(UserChoice, IsTheProgramOfTheChosenClass) {
     EXPECT_EQ(UserChoiceFor(world.Keys, "mailto"), row.Expected) << row.Name;
     EXPECT_EQ(UserChoiceFor(world.Keys, "http"), UserChoice{}) << row.Name;
   }
+}
+
+// A Windows that keeps the choice in the newer place writes the older one no more.
+TEST(UserChoice, TheNewerPlaceCountsBeforeTheOlderOne) {
+  const std::string http =
+      "Software\\Microsoft\\Windows\\Shell\\Associations\\UrlAssociations\\http\\";
+  sim::World world;
+  const auto set = [&](const char* place, const char* chosen) {
+    world.Keys.Set(RegistryRoot::CurrentUser, http + place, "ProgId", chosen);
+  };
+  world.Keys.Set(RegistryRoot::ClassesRoot, "Old\\shell\\open\\command", "", "C:\\old.exe %1");
+  world.Keys.Set(RegistryRoot::ClassesRoot, "New\\shell\\open\\command", "", "C:\\new.exe %1");
+  set("UserChoice", "Old");
+  EXPECT_EQ(UserChoiceFor(world.Keys, "http").Program, "C:\\old.exe");
+  set("UserChoiceLatest\\ProgId", " ");
+  EXPECT_EQ(UserChoiceFor(world.Keys, "http").Program, "C:\\old.exe");
+  set("UserChoiceLatest\\ProgId", "New");
+  EXPECT_EQ(UserChoiceFor(world.Keys, "http").Program, "C:\\new.exe");
+  set("UserChoice", " ");
+  EXPECT_EQ(UserChoiceFor(world.Keys, "http").Program, "C:\\new.exe");
 }
 
 TEST(ProgramOfACommand, StandsBeforeItsArgumentsAndWithoutQuotes) {

@@ -180,14 +180,17 @@ TEST_F(LibraryDesk, TheMarkedCellHasABorderAndItsCaptionStandsOut) {
   Open();
   DrawAll();
   const PixelRect icon = library.LibraryView.Grid().IconOf(1);
-  const PixelPoint edge = In(library.Pic2, {icon.left - 1, icon.top + 4});
-  const Rgb ground = world.Desktop.Picture().PixelAt(edge);
-  ClickCell(1);
+  // On its left, above it and on its right.
+  const PixelPoint edges[] = {In(library.Pic2, {icon.left - 1, icon.top + 4}),
+                              In(library.Pic2, {icon.left + 4, icon.top - 1}),
+                              In(library.Pic2, {icon.right, icon.top + 4})};
+  const Rgb ground = world.Desktop.Picture().PixelAt(edges[0]);
   const Rgb highlight = forms::Resolve(world.Windows(), forms::color::Highlight);
   EXPECT_NE(ground, highlight);
-  EXPECT_EQ(world.Desktop.Picture().PixelAt(edge), highlight);
+  ClickCell(1);
+  for (const PixelPoint edge : edges) EXPECT_EQ(world.Desktop.Picture().PixelAt(edge), highlight);
   ClickCell(0);
-  EXPECT_EQ(world.Desktop.Picture().PixelAt(edge), ground);
+  for (const PixelPoint edge : edges) EXPECT_EQ(world.Desktop.Picture().PixelAt(edge), ground);
 }
 
 TEST_F(LibraryDesk, TheKeyboardAloneMarksScrollsAndPicks) {

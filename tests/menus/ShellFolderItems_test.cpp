@@ -98,8 +98,10 @@ TEST_F(ShellFolderItems, TheDesktopIsBuiltAnewOnlyWhenTheBinsIconChanged) {
   desk_.SetBin("empty.ico");
   desk_.OpenCommands({"CSIDL_DESKTOP"});
   desk_.World.Folders.Put(0, {{"My Computer", 15}, {"Bin", 32}, {"New", 3}});
-  desk_.OpenAgain();
-  EXPECT_EQ(desk_.Menu.Labels, 2);
+  for (int look = 0; look < 3; ++look) {
+    desk_.OpenAgain();
+    EXPECT_EQ(desk_.Menu.Labels, 2) << look;
+  }
   desk_.SetBin("full.ico");
   desk_.OpenAgain();
   EXPECT_EQ(desk_.Captions(), (Strings{"Bin", "My Computer", "New"}));

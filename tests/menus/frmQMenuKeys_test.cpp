@@ -453,6 +453,37 @@ TEST_F(PagedMenu, AReleaseJustPastTheArrowsSideTurnsNothing) {
   EXPECT_EQ(desk_.Menu.CurMenu, 1);
 }
 
+TEST_F(PagedMenu, AReleaseOnTheArrowsFirstPixelTurnsThePage) {
+  desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 0, 0);
+  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  desk_.Menu.LblButton_MouseUp(0, MouseButton::Left, -1, 0);
+  desk_.Menu.LblButton_MouseUp(0, MouseButton::Left, 0, -1);
+  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+}
+
+TEST_F(PagedMenu, WhatIsCarriedIsPutDownOnAnArrowAndTurnsNoPage) {
+  desk_.TheProgram.Entry.ItemDragging = true;
+  desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 15, 15);
+  desk_.TheProgram.Entry.ItemDragging = false;
+  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+}
+
+TEST_F(PagedMenu, ARaisedArrowIsNotSeenInTheNextMenu) {
+  desk_.PointAt(desk_.ArrowPoint(1));
+  ASSERT_TRUE(desk_.Menu.LineLeft.Visible());
+  desk_.Open(2, Items(3));
+  EXPECT_FALSE(desk_.Menu.LineLeft.Visible());
+}
+
+TEST_F(PagedMenu, AButtonThatIsHeldRaisesNoArrow) {
+  Key(forms::key::Down);
+  ASSERT_EQ(Selected(), 1);
+  desk_.Menu.LblButton_MouseMove(1, MouseButton::Left);
+  EXPECT_EQ(Selected(), 1);
+  desk_.Menu.LblButton_MouseMove(1, MouseButton::None);
+  EXPECT_EQ(Selected(), 0);
+}
+
 TEST_F(PagedMenu, TheSecondPressOfADoubleClickSinksTheArrowToo) {
   desk_.PointAt(desk_.ArrowPoint(1));
   EXPECT_EQ(desk_.Menu.LineLeft.BorderColor(), forms::color::Highlight3D);

@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "forms/Scale.h"
+
 #include "menus/MenuDesk.h"
 
 namespace corvelle {
@@ -220,6 +222,22 @@ TEST_F(Painted, APageIsDrawnWhenItIsFirstShownAndStandsAtOnceTheSecondTime) {
   EXPECT_EQ(desk_.World.Icons.Lookups(), 68);
 }
 
+// The labels show the captions, in the colours of the selection too.
+TEST_F(Painted, ThePictureOfAPageHoldsNoCaption) {
+  desk_.Open(1, Tools(3));
+  ASSERT_NE(desk_.Menu.PagePicture, nullptr);
+  for (int item = 1; item <= 3; ++item) {
+    const forms::Label& label = desk_.Menu.Lbl[item];
+    const PixelRect row = forms::ToPixels(label.Left(), label.Top(), label.Width(), label.Height(),
+                                          desk_.World.Windows().Screen());
+    for (int y = row.top; y < row.bottom; ++y) {
+      for (int x = row.left; x < row.right; ++x) {
+        ASSERT_EQ(desk_.Menu.PagePicture->PixelAt({x, y}), Face()) << item;
+      }
+    }
+  }
+}
+
 TEST_F(Painted, APageThatIsTurnedToShowsAllItsCaptionsAndThenIconAfterIcon) {
   desk_.Open(1, Tools(80));
   const Rgb ink = desk_.SystemColour(forms::color::ButtonText);
@@ -263,6 +281,19 @@ TEST_F(Painted, ColoursThatChangeWhileIconsAreFetchedShowInTheWholeMenu) {
     EXPECT_TRUE(desk.Menu.MenuReady);
     EXPECT_FALSE(desk.TheProgram.MenuBuilding);
   }
+}
+
+TEST_F(Painted, AReleaseOnAnArrowWhileAPageIsDrawnTurnsToNoOther) {
+  int asked = 0;
+  desk_.World.Icons.WhileAsked([&] {
+    if (++asked == 5) desk_.Menu.LblButton_MouseUp(1, forms::MouseButton::Left, 1, 1);
+  });
+  desk_.Open(1, Tools(100));
+  EXPECT_GE(asked, 5);
+  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(IconColour(1), ToolColour(0));
+  desk_.Menu.LblButton_MouseUp(1, forms::MouseButton::Left, 1, 1);
+  EXPECT_EQ(desk_.Menu.CurMenu, 1);
 }
 
 TEST_F(Painted, AnIconWithoutAFaceShowsTheNewColourOfItsGround) {

@@ -11,15 +11,15 @@
 namespace corvelle {
 namespace {
 
-constexpr const char* kFolder = "C:\\Corvelle\\Menus\\";
-const std::string kMenu = std::string(kFolder) + "BMENU001.MNU";
-const MenuRecord kButton{"Tools", "Button", ""};
+constexpr const char* kEditFolder = "C:\\Corvelle\\Menus\\";
+const std::string kMenu = std::string(kEditFolder) + "BMENU001.MNU";
+const MenuRecord kEditedButton{"Tools", "Button", ""};
 const MenuRecord kFirst{"First", "C:\\f.ico", "C:\\first.exe"};
 const MenuRecord kLast{"Last", "", "C:\\last.exe"};
 
 class ItemEdit : public testing::Test {
  protected:
-  ItemEdit() { disk.Put(kMenu, Bytes({kButton, kFirst, kLast})); }
+  ItemEdit() { disk.Put(kMenu, Bytes({kEditedButton, kFirst, kLast})); }
 
   std::string Bytes(const std::vector<MenuRecord>& records) const {
     std::string bytes;
@@ -27,14 +27,16 @@ class ItemEdit : public testing::Test {
     return bytes;
   }
   /// The item of a record as the popup tells it.
-  FileItem ItemAt(int record, const MenuRecord& shown) const {
+  EditedItem ItemAt(int record, const MenuRecord& shown) const {
     const EntryEdit entry{.CurMenuTag = "F1", .CurFile = kMenu, .CurRecord = record};
     return MakeFileItem(entry, shown, ansi);
   }
-  ItemResult Update(FileItem& item, const MenuRecord& boxes) {
-    return UpdateFileItem(disk, ansi, kFolder, item, boxes).Result;
+  ItemResult Update(EditedItem& item, const MenuRecord& boxes) {
+    return UpdateFileItem(disk, ansi, kEditFolder, item, boxes).Result;
   }
-  ItemResult Cancel(FileItem& item) { return CancelFileItem(disk, ansi, kFolder, item).Result; }
+  ItemResult Cancel(EditedItem& item) {
+    return CancelFileItem(disk, ansi, kEditFolder, item).Result;
+  }
   std::string Now() const { return disk.Get(kMenu).value_or("missing"); }
 
   sim::SimFiles disk;
@@ -42,20 +44,20 @@ class ItemEdit : public testing::Test {
 };
 
 TEST_F(ItemEdit, WritesTheTrimmedBoxesToTheRecordAndNothingElse) {
-  FileItem item = ItemAt(2, kFirst);
+  EditedItem item = ItemAt(2, kFirst);
   EXPECT_EQ(Update(item, {" New ", " C:\\n.ico", "C:\\new.exe "}), ItemResult::Written);
-  EXPECT_EQ(Now(), Bytes({kButton, {"New", "C:\\n.ico", "C:\\new.exe"}, kLast}));
+  EXPECT_EQ(Now(), Bytes({kEditedButton, {"New", "C:\\n.ico", "C:\\new.exe"}, kLast}));
   EXPECT_EQ(disk.Names("C:\\Corvelle\\Menus"), std::vector<std::string>{"BMENU001.MNU"});
 }
 
 TEST_F(ItemEdit, TheLastRecordKeepsItsPlace) {
-  FileItem item = ItemAt(3, kLast);
+  EditedItem item = ItemAt(3, kLast);
   EXPECT_EQ(Update(item, {"New", "", ""}), ItemResult::Written);
-  EXPECT_EQ(Now(), Bytes({kButton, kFirst, {"New", "", ""}}));
+  EXPECT_EQ(Now(), Bytes({kEditedButton, kFirst, {"New", "", ""}}));
 }
 
 TEST_F(ItemEdit, EqualTextsLeaveTheFileUntouched) {
-  FileItem item = ItemAt(2, kFirst);
+  EditedItem item = ItemAt(2, kFirst);
   EXPECT_EQ(Update(item, kFirst), ItemResult::Same);
   EXPECT_EQ(disk.Count("Replace"), 0);
   EXPECT_EQ(disk.Count("Write"), 0);
@@ -63,12 +65,12 @@ TEST_F(ItemEdit, EqualTextsLeaveTheFileUntouched) {
 
 TEST_F(ItemEdit, AnEntryOfAFolderCannotBeModified) {
   const std::string before = Now();
-  FileItem item = ItemAt(5002, kFirst);
+  EditedItem item = ItemAt(5002, kFirst);
   EXPECT_EQ(Update(item, {"x", "", ""}), ItemResult::FolderEntry);
   EXPECT_EQ(Now(), before);
   EXPECT_EQ(RefusalText(ItemResult::FolderEntry), "Cannot modify a folder item.");
   // Its place is a number of the file still, but not the entry's own.
-  FileItem real = ItemAt(5000, kFirst);
+  EditedItem real = ItemAt(5000, kFirst);
   EXPECT_EQ(Update(real, {"x", "", ""}), ItemResult::Mismatch);
 }
 
@@ -78,22 +80,22 @@ TEST_F(ItemEdit, AFieldThatDiffersIsAMismatch) {
                                 {kFirst.FTitle, kFirst.FIcon, "other.exe"},
                                 {"first", kFirst.FIcon, kFirst.FName}};
   for (const MenuRecord& other : changed) {
-    FileItem item = ItemAt(2, kFirst);
-    disk.Put(kMenu, Bytes({kButton, other, kLast}));
+    EditedItem item = ItemAt(2, kFirst);
+    disk.Put(kMenu, Bytes({kEditedButton, other, kLast}));
     EXPECT_EQ(Update(item, {"x", "", ""}), ItemResult::Mismatch) << other.FTitle;
-    EXPECT_EQ(Now(), Bytes({kButton, other, kLast}));
+    EXPECT_EQ(Now(), Bytes({kEditedButton, other, kLast}));
   }
   EXPECT_EQ(RefusalText(ItemResult::Mismatch), "Cannot modify this item. Record mismatch.");
 }
 
 TEST_F(ItemEdit, AMissingFileOrRecordIsAMismatchAndNothingIsCreated) {
-  FileItem item = ItemAt(2, kFirst);
-  disk.Put(kMenu, Bytes({kButton}));
+  EditedItem item = ItemAt(2, kFirst);
+  disk.Put(kMenu, Bytes({kEditedButton}));
   EXPECT_EQ(Update(item, {"x", "", ""}), ItemResult::Mismatch);
   disk.Vanish(kMenu);
   EXPECT_EQ(Update(item, {"x", "", ""}), ItemResult::Mismatch);
   EXPECT_FALSE(disk.Has(kMenu));
-  FileItem none = ItemAt(0, {});
+  EditedItem none = ItemAt(0, {});
   EXPECT_EQ(Update(none, {"x", "", ""}), ItemResult::Mismatch);
 }
 
@@ -102,7 +104,7 @@ TEST_F(ItemEdit, ATextThatTheMenuCutIsTheWholeOneOfTheRecord) {
                         .CurFile = kMenu,
                         .CurRecord = 2,
                         .CurStored = FormatRecord(kFirst, ansi)};
-  FileItem item = MakeFileItem(entry, {"Fir", kFirst.FIcon, kFirst.FName}, ansi);
+  EditedItem item = MakeFileItem(entry, {"Fir", kFirst.FIcon, kFirst.FName}, ansi);
   EXPECT_EQ(item.Starting, kFirst);
   EXPECT_EQ(Update(item, {"First one", kFirst.FIcon, kFirst.FName}), ItemResult::Written);
 }
@@ -112,25 +114,25 @@ TEST_F(ItemEdit, StoredBytesThatSayTheSameOtherwiseAreAMismatch) {
                         .CurFile = kMenu,
                         .CurRecord = 2,
                         .CurStored = FormatRecord({"First\xC3\xA9", "", ""}, ansi)};
-  FileItem item = MakeFileItem(entry, {}, ansi);
+  EditedItem item = MakeFileItem(entry, {}, ansi);
   std::string utf8 = FormatRecord({"", "", ""}, ansi);
   utf8.replace(0, 7, "First\xC3\xA9");
-  disk.Put(kMenu, Bytes({kButton}) + utf8);
+  disk.Put(kMenu, Bytes({kEditedButton}) + utf8);
   EXPECT_EQ(ParseRecord(utf8, ansi), item.Starting);
   EXPECT_EQ(Update(item, {"x", "", ""}), ItemResult::Mismatch);
 }
 
 TEST_F(ItemEdit, ASecondChangeStartsFromTheFirstAlsoWhenItsTailWasCut) {
-  FileItem item = ItemAt(2, kFirst);
+  EditedItem item = ItemAt(2, kFirst);
   const std::string longTitle(60, 'x');
   EXPECT_EQ(Update(item, {longTitle, "", ""}), ItemResult::Written);
   EXPECT_EQ(item.Current.FTitle, std::string(50, 'x'));
   EXPECT_EQ(Update(item, {"again", "", ""}), ItemResult::Written);
-  EXPECT_EQ(Now(), Bytes({kButton, {"again", "", ""}, kLast}));
+  EXPECT_EQ(Now(), Bytes({kEditedButton, {"again", "", ""}, kLast}));
 }
 
 TEST_F(ItemEdit, CancelWritesTheStartingBytesBack) {
-  FileItem item = ItemAt(2, kFirst);
+  EditedItem item = ItemAt(2, kFirst);
   const std::string before = Now();
   EXPECT_EQ(Cancel(item), ItemResult::Same);
   Update(item, {"one", "", ""});
@@ -141,24 +143,24 @@ TEST_F(ItemEdit, CancelWritesTheStartingBytesBack) {
 }
 
 TEST_F(ItemEdit, CancelLeavesWhatAnotherHandChanged) {
-  FileItem item = ItemAt(2, kFirst);
+  EditedItem item = ItemAt(2, kFirst);
   Update(item, {"one", "", ""});
-  disk.Put(kMenu, Bytes({kButton, {"theirs", "", ""}, kLast}));
+  disk.Put(kMenu, Bytes({kEditedButton, {"theirs", "", ""}, kLast}));
   EXPECT_EQ(Cancel(item), ItemResult::Mismatch);
-  EXPECT_EQ(Now(), Bytes({kButton, {"theirs", "", ""}, kLast}));
+  EXPECT_EQ(Now(), Bytes({kEditedButton, {"theirs", "", ""}, kLast}));
   disk.Vanish(kMenu);
   EXPECT_EQ(Cancel(item), ItemResult::Mismatch);
   EXPECT_FALSE(disk.Has(kMenu));
 }
 
 TEST_F(ItemEdit, AnyOneFailureAndAnEndAtAnyMomentLeaveTheOldFileOrTheNew) {
-  const std::string before = Bytes({kButton, kFirst, kLast});
-  const std::string after = Bytes({kButton, {"New", "", ""}, kLast});
+  const std::string before = Bytes({kEditedButton, kFirst, kLast});
+  const std::string after = Bytes({kEditedButton, {"New", "", ""}, kLast});
   for (const bool ends : {false, true}) {
     for (int n = 1;; ++n) {
       ASSERT_LT(n, 50);
       disk.Put(kMenu, before);
-      FileItem item = ItemAt(2, kFirst);
+      EditedItem item = ItemAt(2, kFirst);
       if (ends) {
         disk.FailFrom(n, FileError::DiskFull);
       } else {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/NotedEdits.h"
 #include "properties/PropertiesDesk.h"
 
 namespace corvelle {
@@ -168,6 +169,28 @@ TEST_F(PropertiesItem, CancelTakesBackWhatWasAppliedAndEscKeepsIt) {
   Desktop().PressKey(forms::key::Escape);
   EXPECT_FALSE(Window().IsLoaded());
   EXPECT_EQ(Files(), changed);
+}
+
+TEST_F(PropertiesItem, EachEditOfAFileIsTold) {
+  NotedEdits edits([this] { return RecordAt("BMENU001.MNU", 3).FTitle; });
+  TheProgram().Ports.MenuEdits = &edits;
+  OpenItem(2);
+  ClickOn(Window().cmdApply);
+  EXPECT_EQ(edits.Seen, Texts{}) << "nothing was changed";
+  TypeInto(Window().txtTitle, "Changed");
+  ClickOn(Window().cmdApply);
+  CloseMenu();
+  ClickOn(Window().cmdCancel);
+  EXPECT_EQ(edits.Seen, (Texts{"Changed", "B"}));
+
+  edits.Look = [this] { return RecordAt("BMENU001.MNU", 1).FName; };
+  edits.Seen.clear();
+  OpenButton(2);
+  OpenTab("buttons");
+  ClickNode(0, forms::TreePart::Check);
+  ClickOn(Window().cmdApply);
+  EXPECT_EQ(edits.Seen, Texts{"/h"});
+  TheProgram().Ports.MenuEdits = nullptr;
 }
 
 TEST_F(PropertiesItem, EnterShowsTheResultBeforeItIsConfirmed) {

@@ -16,9 +16,13 @@ namespace corvelle::scenario {
 enum class Button { Left, Right };
 
 // Virtual key codes.
+inline constexpr int kKeyTab = 9;
 inline constexpr int kKeyEnter = 13;
+inline constexpr int kKeyShift = 16;
 inline constexpr int kKeyControl = 17;
+inline constexpr int kKeyAlt = 18;
 inline constexpr int kKeyEscape = 27;
+inline constexpr int kKeySpace = 32;
 inline constexpr int kKeyPageUp = 33;
 inline constexpr int kKeyPageDown = 34;
 inline constexpr int kKeyEnd = 35;
@@ -27,6 +31,10 @@ inline constexpr int kKeyLeft = 37;
 inline constexpr int kKeyUp = 38;
 inline constexpr int kKeyRight = 39;
 inline constexpr int kKeyDown = 40;
+inline constexpr int kKeyDelete = 46;
+inline constexpr int kKeyF1 = 112;
+inline constexpr int kKeyF3 = 114;
+inline constexpr int kKeyF5 = 116;
 inline constexpr int kKeyF10 = 121;
 
 // Message numbers.

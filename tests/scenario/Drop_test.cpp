@@ -126,18 +126,5 @@ TEST_F(Drop, TheMainMenuButtonTakesNothing) {
   EXPECT_TRUE(Unchanged());
 }
 
-// Without its dialog an address becomes no entry; the menu opens under it and closes after it.
-TEST_F(Drop, AnAddressOpensTheMenuAndIsDroppedWithoutHarm) {
-  OpenSource({}, "http://example.com/page");
-  desk_->DragTo(FarAway(*desk_), ButtonMiddle(*desk_, 2));
-  ASSERT_TRUE(WaitForMenuAt(*desk_, 2));
-  desk_->Picture("an-address-over-the-button");
-  desk_->Release(Button::Left);
-  EXPECT_TRUE(WaitForNoMenu(*desk_));
-  EXPECT_TRUE(Unchanged());
-  EXPECT_EQ(desk_->RunningCopies(), 1);
-  EXPECT_TRUE(OpenMenu(*desk_, 2));
-}
-
 }  // namespace
 }  // namespace corvelle::scenario

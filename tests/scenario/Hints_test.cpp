@@ -53,8 +53,6 @@ TEST_F(HintsRoad, APressTakesTheHintAwayAndOpensTheMenu) {
 /// The notice that comes with the change to a strip that is not on top.
 class TipAtEachScale : public HintsAtEachScale {
  protected:
-  static constexpr int kKeyTab = 9;
-  static constexpr int kKeySpace = 32;
   static constexpr int kNotOnTop = 23;  // options
   static constexpr int kNoNotice = 29;
 

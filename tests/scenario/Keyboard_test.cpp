@@ -12,8 +12,6 @@
 namespace corvelle::scenario {
 namespace {
 
-constexpr int kKeyF5 = 116;
-
 /// A strip with a menu of "alpha", "beta" and "gamma" at its second button, and another program's
 /// window behind it.
 class Keyboard : public ::testing::Test {

@@ -36,7 +36,8 @@ TEST_F(MainMenuAtEachScale, LargeIconsTurnSmallAndLargeAgain) {
   EXPECT_TRUE(desk_->Wait([&] { return Flag(26) == '1'; }));
 }
 
-TEST_F(MainMenuRoad, HelpTopicsWithoutTheHelpFileSaysSo) {
+TEST_F(MainMenuRoad, HelpTopicsWithoutAnyHelpSaysSo) {
+  desk_->RemoveFile("Help\\index.html");
   desk_->AnswerNext(kButtonOk);
   Choose(MainChoice::HelpTopics);
   ASSERT_TRUE(desk_->Wait([this] { return !desk_->Messages().empty(); }));

@@ -65,6 +65,7 @@ class SimDesk final : public Desk {
  public:
   SimDesk() {
     world_.Files.Put(std::string(kAppFolder) + "corvelle.exe", "x");
+    world_.Icons.SetIconCount(std::string(kAppFolder) + "corvelle.exe", 1);
     world_.Files.Put(std::string(kAppFolder) + "icon.lib", SmallLibrary());
     world_.Files.Put(kWitness, "x");
     world_.Files.Put(kDocument, "A document.\r\n");

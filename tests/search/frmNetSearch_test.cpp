@@ -282,6 +282,15 @@ TEST_F(NetSearch, WithoutItsListTheFactoryListIsCopied) {
   EXPECT_EQ(window->cmbEngine.Text(), "Made");
 }
 
+TEST_F(NetSearch, TheListOfAnInstalledProgramComesFromWhereTheProgramLies) {
+  world.Files.Put("C:\\Programs\\Corvelle\\anetsrch.org",
+                  "NAME=Made\r\nURL=http://made.example/[]\r\n");
+  program.ShippedPath = "C:\\Programs\\Corvelle\\";
+  world.Files.Vanish(kList);
+  Open();
+  EXPECT_EQ(world.Files.Get(kList), "NAME=Made\r\nURL=http://made.example/[]\r\n");
+}
+
 TEST_F(NetSearch, AListThatIsThereIsNotReplacedByTheFactoryList) {
   world.Files.Put(kFactory, "NAME=Made\r\nURL=http://made.example/[]\r\n");
   Open();

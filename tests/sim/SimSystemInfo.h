@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -22,6 +23,8 @@ class SimSystemInfo final : public SystemInfo {
   std::string Folder = "C:\\Corvelle";
   std::string WorkFolder = "C:\\";
   bool OtherInstance = false;
+  /// Runs each time the program asks whether there is another one, before it is told.
+  std::function<void()> OnInstanceAsked;
   std::string Windows = "C:\\Windows";
   std::string System = "C:\\Windows\\System32";
   std::string Temp = "C:\\Users\\User\\Temp\\";
@@ -57,7 +60,10 @@ class SimSystemInfo final : public SystemInfo {
     const auto found = Drives.find(root);
     return found != Drives.end() ? found->second : DriveFacts{.Type = 1};
   }
-  bool AnotherInstanceRuns() override { return OtherInstance; }
+  bool AnotherInstanceRuns() override {
+    if (OnInstanceAsked) OnInstanceAsked();
+    return OtherInstance;
+  }
   int CaptionHeight() const override { return Caption; }
   int CaptionButtonWidth() const override { return CaptionButton; }
   std::string ShortDate() const override { return Date; }

@@ -423,8 +423,6 @@ void SimTree::Paint(SimCanvas& canvas, const SimWindow& window, bool focused) co
       PaintMasked(canvas, *images_[static_cast<std::size_t>(index)], {left, top}, node.Look.Dimmed);
     };
     image(node.Look.Image);
-    const auto overlay = overlays_.find(node.Look.Overlay);
-    if (overlay != overlays_.end()) image(overlay->second);
     if (!images_.empty()) left += style_.ImageSize + 2;
     const std::string text = id == edited_ ? edit_.Text() : node.Look.Text;
     const bool marked = (id == selected_ && focused) || id == dropTarget_;

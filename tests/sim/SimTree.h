@@ -23,7 +23,6 @@ class SimTree final : public SimPeerOf<forms::TreePeer>, public SimControl {
       : SimPeerOf(desktop, window), style_(style), events_(events) {}
 
   void AddImage(const Canvas& image) override;
-  void SetOverlay(int overlay, int image) override { overlays_[overlay] = image; }
   void Insert(forms::NodeId node, forms::NodeId parent, forms::NodeId before,
               const forms::NodeLook& look) override;
   void Remove(forms::NodeId node) override;
@@ -94,7 +93,6 @@ class SimTree final : public SimPeerOf<forms::TreePeer>, public SimControl {
   std::unordered_map<forms::NodeId, Node> nodes_;
   std::vector<forms::NodeId> roots_;
   std::vector<std::shared_ptr<SimCanvas>> images_;
-  std::unordered_map<int, int> overlays_;
   forms::NodeId selected_ = forms::kNoNode;
   forms::NodeId edited_ = forms::kNoNode;
   forms::NodeId dropTarget_ = forms::kNoNode;

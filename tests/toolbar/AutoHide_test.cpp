@@ -283,6 +283,36 @@ TEST(AutoHide, AStripThatGoesWhileTheMessageIsUpIsNotTouchedAnyMore) {
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
 }
 
+// At these scales the twips of the line's place and thickness add up to less than those of the
+// screen: only pixels tell that the line touches its edge.
+TEST(AutoHide, ALineTouchesItsEdgeThoughItsTwipsFallShortOfTheScreen) {
+  struct Row {
+    int dpi;
+    PixelSize screen;
+  };
+  for (const Row& row : {Row{168, {1680, 900}}, Row{168, {1792, 1800}}, Row{216, {2880, 1200}},
+                         Row{336, {1680, 900}}, Row{336, {1792, 1800}}}) {
+    SCOPED_TRACE(std::to_string(row.dpi) + ", " + std::to_string(row.screen.width));
+    const float t = 1440.0F / static_cast<float>(row.dpi);
+    for (const int length : {row.screen.width, row.screen.height}) {
+      EXPECT_LT(static_cast<float>(length - 1) * t + t, static_cast<float>(length) * t);
+    }
+    const auto [w, h] = row.screen;
+    for (const Edge at : {Edge::Right, Edge::Bottom}) {
+      HidingDesk desk({.TwipsPerPixel = t, .Screen = row.screen});
+      desk.StartHidden(at);
+      EXPECT_TRUE(desk.Shown());
+      EXPECT_TRUE(desk.IsLine());
+      EXPECT_EQ(desk.Bounds(),
+                (at == Edge::Right ? PixelRect{w - 1, 0, w, h} : PixelRect{0, h - 1, w, h}));
+      desk.PointAt(at == Edge::Right ? PixelPoint{w - 1, 400} : PixelPoint{500, h - 1});
+      desk.Poll();
+      EXPECT_FALSE(desk.IsLine());
+      EXPECT_TRUE(desk.Shown());
+    }
+  }
+}
+
 // Against the edge of the screen the pointer is stopped, and one pixel is enough. Here it passes.
 TEST(AutoHide, BesideAnotherBarTheLineIsSeenAndThickEnoughToBeHit) {
   struct Row {
@@ -438,6 +468,32 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
   EXPECT_FALSE(desk.TheProgram.HideBusy);
   EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
   // The same tick outside of the reveal hides the strip again.
+  desk.Strip.Timer1_Timer();
+  EXPECT_TRUE(desk.IsLine());
+}
+
+TEST(AutoHide, ATickInsideTheTickThatRevealsStartsNoOther) {
+  HidingDesk desk;
+  desk.StartHidden(Edge::Right);
+  desk.TheProgram.FullScreenApp = true;
+  // No move has come to the line yet.
+  desk.World.Desktop.SetPointerPosition(kLines[3].touch);
+  ASSERT_TRUE(desk.IsLine());
+  int ticks = 0;
+  const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk, &ticks] {
+    ++ticks;
+    // The pointer has gone on: a tick that did its work would hide the strip.
+    desk.World.Desktop.SetPointerPosition({500, 400});
+    desk.World.Bars.ClearLog();
+    desk.Strip.Timer1_Timer();
+    EXPECT_EQ(desk.World.Bars.Log(), Messages{});
+    EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  });
+  desk.World.Desktop.Jump(5);
+  desk.Strip.Timer1_Timer();
+  desk.World.Desktop.StopTimer(inside);
+  EXPECT_EQ(ticks, 1);
+  EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
   desk.Strip.Timer1_Timer();
   EXPECT_TRUE(desk.IsLine());
 }

@@ -460,5 +460,76 @@ TEST(StripAndMenu, TheSelectedItemsBarIsSeenOnTheScreen) {
   EXPECT_EQ(screen.PixelAt({item.x + 60, item.y - 9}), desk.World.Desktop.SystemColor(13));
 }
 
+// ---- the screen changes while the shell is asked for icons ----
+
+/// What a menu of the road's desk shows on a screen of that size, its place aside.
+std::string MenuPixels(const RoadDesk& desk) {
+  std::string pixels;
+  const PixelRect menu = desk.World.Desktop.BoundsOf(desk.RealMenu.hWnd());
+  const sim::SimCanvas screen = desk.World.Desktop.Picture();
+  for (int y = menu.top; y < menu.bottom; ++y) {
+    for (int x = menu.left; x < menu.right; ++x) {
+      pixels += std::to_string(screen.PixelAt({x, y})) + ' ';
+    }
+    pixels += '\n';
+  }
+  return pixels;
+}
+
+/// A desk whose programs have icons of their own, not fetched yet.
+struct IconDesk : RoadDesk {
+  IconDesk() {
+    for (int i = 1; i <= 3; ++i) {
+      World.Icons.SetIndex("C:\\Tools\\m1i" + std::to_string(i) + ".exe", 20 + i);
+    }
+    RealMenu.ResetPicIcons();
+  }
+  void OpenSecond() {
+    Click(2);
+    PointAway();
+    Wait(300);
+  }
+};
+
+// The message is sent, so that it comes in the middle of the shell's answer. Another size closes
+// the menu, for the strip may move; another depth empties the store of icons under it.
+TEST(DisplayChange, WhileIconsAreFetchedLeavesNoMenuWithoutItsIcons) {
+  struct Row {
+    PixelSize screen;
+    int bits;
+  };
+  for (const Row& row : {Row{{800, 600}, 32}, Row{{1024, 768}, 16}}) {
+    std::string whole;
+    {
+      IconDesk desk;
+      desk.World.Desktop.SetScreen(row.screen, row.bits);
+      desk.Wait(300);
+      desk.OpenSecond();
+      ASSERT_EQ(desk.RealMenuUp(), 2);
+      whole = MenuPixels(desk);
+    }
+    for (int at = 0; at < 3; ++at) {
+      SCOPED_TRACE(std::to_string(row.bits) + ", icon " + std::to_string(at));
+      IconDesk desk;
+      int asked = 0;
+      desk.World.Icons.WhileAsked([&] {
+        if (asked++ == at) desk.World.Desktop.SetScreen(row.screen, row.bits);
+      });
+      desk.OpenSecond();
+      EXPECT_GT(asked, at);
+      EXPECT_EQ(desk.RealMenuUp(), row.bits == 16 ? 2 : 0);
+      if (desk.RealMenuUp() == 2) {
+        EXPECT_TRUE(MenuPixels(desk) == whole);
+      }
+      desk.Strip.ResetMenu();
+      desk.Wait(300);
+      desk.OpenSecond();
+      ASSERT_EQ(desk.RealMenuUp(), 2);
+      EXPECT_TRUE(MenuPixels(desk) == whole);
+      EXPECT_LE(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).right, row.screen.width);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace corvelle

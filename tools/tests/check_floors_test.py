@@ -55,6 +55,14 @@ class CheckFloors(unittest.TestCase):
         self.write("src/core/Menu.h", '#pragma once\n#include "Text.h"\n')
         self.assert_one("src/core/Menu.h:2", "not a file below src/")
 
+    def test_a_file_that_is_made_from_a_template_has_its_place(self):
+        self.write("src/core/Menu.h", '#pragma once\n#include "base/Version.h"\n')
+        self.write("src/base/Version.h.in", "#pragma once\n")
+        self.assertEqual(check_floors.check(self.root), [])
+        self.write("src/base/Text.h", '#pragma once\n#include "core/About.h"\n')
+        self.write("src/core/About.h.in", "#pragma once\n")
+        self.assert_one("base may not include")
+
     def test_an_include_that_climbs_is_found(self):
         self.write("src/core/Menu.h", '#pragma once\n#include "core/../base/Text.h"\n')
         self.assert_one("not written from src/")

@@ -43,7 +43,11 @@ class WindowsHome final : public ActivationHome {
   void KeyDown(int virtualKey) override { home_.KeyDown(virtualKey); }
   void KeyUp(int virtualKey) override { home_.KeyUp(virtualKey); }
   void Type(std::string_view text) override { home_.Type(text); }
-  void DragAlong(const std::vector<PixelPoint>& points) override { home_.DragAlong(points); }
+  // The boxes of a frame let nothing through until the release.
+  void DragAlong(const std::vector<PixelPoint>& points) override {
+    if (points.size() > 1) return ActivationHome::DragAlong(points);
+    home_.ClickInOneGo(points.front());
+  }
   void TurnWheel(int delta) override { home_.TurnWheel(delta); }
   std::string ToolTip() const override { return home_.ToolTip(); }
   void ClosePopup() override {

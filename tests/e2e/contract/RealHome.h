@@ -4,23 +4,13 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "EventFiber.h"
 #include "win32/Win32Desktop.h"
 #include "win32/Win32Input.h"
 #include "win32/Win32WindowSystem.h"
 
 namespace corvelle {
-
-/// Lets events run for a while.
-inline void RunEvents(forms::WindowSystem& windows, int milliseconds) {
-  const std::int64_t end = windows.Now() + milliseconds;
-  windows.DoEvents();
-  while (windows.Now() < end) {
-    MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
-    windows.DoEvents();
-  }
-}
 
 /// The real Windows with a user at mouse and keyboard. Each action has been carried out and its
 /// events have run when it returns; points are pixels of the screen.
@@ -29,7 +19,7 @@ class RealHome {
   forms::WindowSystem& Windows() { return windows_; }
   DesktopWindows& Desktop() { return desktop_; }
   Input& Pointer() { return input_; }
-  void Wait(int milliseconds) { RunEvents(windows_, milliseconds); }
+  void Wait(int milliseconds) { events_.Run(milliseconds); }
 
   void MovePointer(PixelPoint at) { Mouse(MOUSEEVENTF_MOVE, at); }
   void Press(forms::MouseButton button) {
@@ -41,13 +31,11 @@ class RealHome {
     if (!input_.IsKeyDown(left ? VK_LBUTTON : VK_RBUTTON)) return;
     Mouse(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP, pointer_);
   }
-  /// All of a drag with the left button before its events run.
-  void DragAlong(const std::vector<PixelPoint>& points) {
-    MovePointer(points.front());
-    Send(MOUSEEVENTF_LEFTDOWN, points.front());
-    for (const PixelPoint& point : points) Send(MOUSEEVENTF_MOVE, point);
-    Send(MOUSEEVENTF_LEFTUP, points.back());
-    pointer_ = points.back();
+  /// With the left button; both events are there before the first is dealt with.
+  void ClickInOneGo(PixelPoint at) {
+    MovePointer(at);
+    Send(MOUSEEVENTF_LEFTDOWN, at);
+    Send(MOUSEEVENTF_LEFTUP, at);
     Wait(5 * kReactionMilliseconds);
   }
   void DoubleClick() {
@@ -142,6 +130,7 @@ class RealHome {
   win32::Win32WindowSystem windows_;
   win32::Win32Desktop desktop_;
   win32::Win32Input input_;
+  EventFiber events_{windows_};
   PixelPoint pointer_;  // where it was put last
 };
 

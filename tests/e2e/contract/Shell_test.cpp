@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+
 #include <windows.h>
+#include <memory>
 
 #include <shellapi.h>
 
@@ -242,9 +244,22 @@ TEST(Session, OnlyTheFirstProcessOfASessionIsAlone) {
     EXPECT_FALSE(first.AnotherInstanceRuns());
     EXPECT_FALSE(first.AnotherInstanceRuns());
     EXPECT_TRUE(second.AnotherInstanceRuns());
+    EXPECT_TRUE(second.AnotherInstanceRuns());
+    EXPECT_FALSE(first.AnotherInstanceRuns());
   }
   win32::Win32SystemInfo later;
   EXPECT_FALSE(later.AnotherInstanceRuns());
+}
+
+TEST(Session, BelongsToTheNextProcessAsSoonAsTheFirstHasEnded) {
+  auto first = std::make_unique<win32::Win32SystemInfo>();
+  win32::Win32SystemInfo second;
+  EXPECT_FALSE(first->AnotherInstanceRuns());
+  EXPECT_TRUE(second.AnotherInstanceRuns());
+  first.reset();
+  EXPECT_FALSE(second.AnotherInstanceRuns());
+  win32::Win32SystemInfo third;
+  EXPECT_TRUE(third.AnotherInstanceRuns());
 }
 
 TEST(ProgramFolder, HoldsTheProgramThatRuns) {

@@ -17,19 +17,19 @@ enum class LinkPlace {
 
 /// The text that says so, `Tag` of the dialog: "F" and an index; "SingleButtons", alone or with a
 /// NUL and a file; an index, a NUL and a file.
-struct LinkTarget {
+struct WebLinkTarget {
   LinkPlace Place = LinkPlace::MenuEnd;
   std::string Menu;  // the menu as "F" and the button's index; empty for single buttons
   std::string File;  // empty where the tag names none
 
-  friend bool operator==(const LinkTarget&, const LinkTarget&) = default;
+  friend bool operator==(const WebLinkTarget&, const WebLinkTarget&) = default;
 };
 
 /// The tag of a drop, by what the drop handlers tell (WebLinkPort::OfferWebLink). `newSingle` is
 /// the file that a button behind the others would have.
 [[nodiscard]] std::string LinkTag(std::string_view tag, std::string_view file,
                                   std::string_view newSingle);
-[[nodiscard]] LinkTarget ParseLinkTag(std::string_view tag);
+[[nodiscard]] WebLinkTarget ParseLinkTag(std::string_view tag);
 
 /// The title of an entry: the given one, or the address without its start where that is blank, so
 /// that the entry can be seen.

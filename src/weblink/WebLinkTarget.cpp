@@ -1,4 +1,4 @@
-#include "weblink/LinkTarget.h"
+#include "weblink/WebLinkTarget.h"
 
 #include <cstddef>
 #include <cstdlib>
@@ -28,7 +28,7 @@ std::string LinkTag(std::string_view tag, std::string_view file, std::string_vie
   return file.empty() ? Joined(tag, newSingle) : std::string(tag);
 }
 
-LinkTarget ParseLinkTag(std::string_view tag) {
+WebLinkTarget ParseLinkTag(std::string_view tag) {
   const std::size_t end = tag.find(kBetween);
   const std::string_view name = tag.substr(0, end);
   const std::string file(end == std::string_view::npos ? std::string_view() : tag.substr(end + 1));

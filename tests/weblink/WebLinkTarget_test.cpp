@@ -1,4 +1,4 @@
-#include "weblink/LinkTarget.h"
+#include "weblink/WebLinkTarget.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ TEST(LinkTag, SaysWhereTheEntryGoes) {
     std::string tag;
     std::string file;
     std::string expected;
-    LinkTarget target;
+    WebLinkTarget target;
   };
   const Row rows[] = {
       {"an item", "F3", "C:\\M\\BMENU002.MNU", "F3", {LinkPlace::MenuItem, "F3", ""}},

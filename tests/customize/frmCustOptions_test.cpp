@@ -1,0 +1,178 @@
+// The Options menu of the Customize window.
+
+#include <gtest/gtest.h>
+
+#include "customize/CustDesk.h"
+
+namespace corvelle {
+namespace {
+
+TEST(CustOptions, EachLineIsCheckedAtItsValue) {
+  for (const CustOptionLine& line : CustOptionLines()) {
+    if (line.Position == 0) continue;
+    OptionFlags flags;
+    EXPECT_EQ(IsChecked(line, flags, false), !line.CheckedAt) << line.Caption;
+    flags.Set(line.Position, true);
+    EXPECT_EQ(IsChecked(line, flags, false), line.CheckedAt) << line.Caption;
+  }
+}
+
+TEST(CustomizeOptions, FlipTheirPositionAndTheirCheckMark) {
+  struct Row {
+    const char* line;
+    int position;
+  };
+  const Row rows[] = {
+      {"Keep Toolbar On Top of Full Screen Applications", 4},
+      {"Show Startup Screen", 9},
+      {"Leave Extension in File Title", 10},
+      {"Show Web Link Dialog (URL Drag  Drop)", 18},
+      {"Auto Adjust Toolbar Left Position (Restore Mode)", 27},
+      {"Auto Adjust Toolbar Right Position (Restore Mode)", 13},
+      {"Show Date in Full Screen Mode (Top/Bottom)", 21},
+      {"Dsiable Toobar Tooltip (Icon Hint)", 22},
+  };
+  CustDesk desk;
+  OptionFlags& flags = desk.parts->TheProgram.OptionFlags;
+  for (const Row& row : rows) {
+    const OptionFlags before = flags;
+    const bool checked = desk.Checked(row.line);
+    desk.MenuBar("Options", row.line);
+    EXPECT_NE(flags.Is(row.position), before.Is(row.position)) << row.line;
+    EXPECT_NE(desk.Checked(row.line), checked) << row.line;
+    desk.MenuBar("Options", row.line);
+    EXPECT_EQ(flags, before) << row.line << " changes nothing else";
+    EXPECT_EQ(desk.Checked(row.line), checked) << row.line;
+  }
+}
+
+TEST(CustomizeOptions, ThePairsCheckOneAndUncheckTheOther) {
+  struct Row {
+    const char* set;
+    const char* clear;
+    int position;
+  };
+  const Row rows[] = {
+      {"Activate Single Buttons with Single Click", "Activate Single Buttons with Double Click",
+       11},
+      {"Ctrl + Right Click Activates System Popup Menu",
+       "Ctrl + Right Click Activates Corvelle Popup Menu", 19},
+  };
+  CustDesk desk;
+  for (const Row& row : rows) {
+    for (const bool value : {true, false, true}) {
+      desk.MenuBar("Options", value ? row.set : row.clear);
+      EXPECT_EQ(desk.parts->TheProgram.OptionFlags.Is(row.position), value);
+      EXPECT_EQ(desk.Checked(row.set), value);
+      EXPECT_EQ(desk.Checked(row.clear), !value);
+    }
+  }
+}
+
+TEST(CustomizeOptions, AnExtensionThatIsLeftShowsInTheNextTitle) {
+  CustDesk desk;
+  desk.Expand("Tools");
+  desk.ClickNode("Anvil");
+  desk.MenuBar("Options", "Leave Extension in File Title");
+  desk.world.Desktop.ChooseFiles({"C:\\Tools\\Edit.exe"});
+  desk.ClickControl(desk.Form().cmdBrowseFiles);
+  EXPECT_EQ(desk.Form().txtTitle.Text(), "Edit.exe");
+}
+
+TEST(CustomizeOptions, ResetOfTheTipsShowsThemAllAgain) {
+  CustDesk desk;
+  OptionFlags& flags = desk.parts->TheProgram.OptionFlags;
+  flags.Set(29, true);
+  const OptionFlags before = flags;
+  desk.world.Desktop.Answer("Help tip dialog has been reset.", forms::msgbox::AnswerOk);
+  desk.MenuBar("Options", "Reset Help Tip Dialog");
+  for (int position = 1; position <= OptionFlags::kLength; ++position) {
+    const bool tip = (position >= 5 && position <= 8) || position == 29;
+    EXPECT_EQ(flags.Is(position), !tip && before.Is(position)) << position;
+  }
+}
+
+TEST(CustomizeOptions, ACustomIconForWebLinksIsNotedOnlyWhenOneIsChosen) {
+  CustDesk desk;
+  Program& program = desk.parts->TheProgram;
+  desk.world.Desktop.CancelFiles();
+  desk.MenuBar("Options", "Use Custom Icon for Web Links Entries");
+  EXPECT_FALSE(program.OptionFlags.Is(12));
+  EXPECT_TRUE(desk.Checked("Use Default HTML Icon for Web Links Entries"));
+  desk.world.Desktop.ChooseFiles({"C:\\Tools\\Edit.exe"});
+  desk.MenuBar("Options", "Use Custom Icon for Web Links Entries");
+  EXPECT_TRUE(program.OptionFlags.Is(12));
+  EXPECT_EQ(program.WebLinkIcon, "C:\\Tools\\Edit.exe");
+  EXPECT_TRUE(desk.Checked("Use Custom Icon for Web Links Entries"));
+  EXPECT_EQ(desk.world.Desktop.FileQuestions().back().Title, "Select one file.");
+  desk.MenuBar("Options", "Use Default HTML Icon for Web Links Entries");
+  EXPECT_FALSE(program.OptionFlags.Is(12));
+  EXPECT_EQ(program.WebLinkIcon, "C:\\Corvelle\\httpicon.htm");
+}
+
+TEST(CustomizeOptions, AnotherBrowserIsCheckedWhileItsFileIsThere) {
+  CustDesk desk;
+  desk.world.Files.Put("C:\\Net\\netscape.exe", "x");
+  EXPECT_TRUE(desk.Checked("Use Default Internet Browser"));
+  desk.world.Desktop.ChooseFiles({"C:\\Net\\netscape.exe"});
+  desk.MenuBar("Options", "Use Alternative Internet Browser");
+  EXPECT_TRUE(desk.world.Files.FileExists("C:\\Corvelle\\openurl.ini"));
+  EXPECT_TRUE(desk.Checked("Use Alternative Internet Browser"));
+  EXPECT_FALSE(desk.Checked("Use Default Internet Browser"));
+  desk.MenuBar("Options", "Use Default Internet Browser");
+  EXPECT_FALSE(desk.world.Files.FileExists("C:\\Corvelle\\openurl.ini"));
+  EXPECT_TRUE(desk.Checked("Use Default Internet Browser"));
+}
+
+TEST(CustomizeOptions, LargeIconsInTheRestoredStripRebuildIt) {
+  CustDesk desk;
+  Program& program = desk.parts->TheProgram;
+  program.OptionFlags.Set(26, false);
+  desk.MenuBar("Options", "Show Large Icons in Restore/Normal Mode");
+  EXPECT_TRUE(program.OptionFlags.Is(25));
+  EXPECT_TRUE(program.OptionFlags.Is(26));
+  EXPECT_EQ(program.IconSize, 32);
+  desk.MenuBar("Options", "Show Large Icons in Restore/Normal Mode");
+  EXPECT_FALSE(program.OptionFlags.Is(25));
+  EXPECT_FALSE(program.OptionFlags.Is(26));
+  EXPECT_EQ(program.IconSize, 16);
+}
+
+TEST(CustomizeOptions, SmallSingleButtonsDockAFloatingStripAtTheRight) {
+  CustDesk desk;
+  Program& program = desk.parts->TheProgram;
+  ASSERT_FALSE(program.AppBarDocked);
+  desk.MenuBar("Options", "Always Show Single Buttons with Small Icons");
+  EXPECT_TRUE(program.OptionFlags.Is(24));
+  EXPECT_TRUE(program.OptionFlags.Is(26));
+  EXPECT_TRUE(program.AppBarDocked);
+  EXPECT_EQ(program.ToolbarEdge, "RIGHT");
+}
+
+TEST(CustomizeOptions, LargeSingleButtonsOfAFloatingStripComeLater) {
+  CustDesk desk;
+  desk.parts->TheProgram.OptionFlags.Set(24, true);
+  desk.world.Desktop.Answer(
+      "The change will take effect next time you switch to large icons toolbar.",
+      forms::msgbox::AnswerOk);
+  desk.MenuBar("Options", "Always Show Single Buttons with Small Icons");
+  EXPECT_FALSE(desk.parts->TheProgram.OptionFlags.Is(24));
+  EXPECT_EQ(desk.world.Desktop.AnswersLeft(), 0);
+}
+
+TEST(CustomizeOptions, TheStartupEntryIsMadeAndTakenAway) {
+  CustDesk desk;
+  desk.world.Links.SetFolder(7, "C:\\Startup");
+  desk.world.Desktop.Answer("Corvelle has been set as a startup program", forms::msgbox::AnswerOk);
+  desk.MenuBar("Options", "Set Corvelle as a Startup Program");
+  EXPECT_TRUE(desk.world.Files.FileExists("C:\\Startup\\Corvelle.lnk"));
+  desk.world.Desktop.Answer(
+      "Corvelle has been removed from the Startup folder. Next time you start your computer, "
+      "Corvelle will not run.",
+      forms::msgbox::AnswerOk);
+  desk.MenuBar("Options", "Remove Corvelle from the Startup Folder");
+  EXPECT_FALSE(desk.world.Files.FileExists("C:\\Startup\\Corvelle.lnk"));
+}
+
+}  // namespace
+}  // namespace corvelle

@@ -1,0 +1,294 @@
+// Saving and closing the Customize window, and the draft of what was not saved.
+
+#include <gtest/gtest.h>
+
+#include "customize/CustDesk.h"
+
+namespace corvelle {
+namespace {
+
+namespace key = forms::key;
+
+constexpr const char* kQuestion = "Do you want to save your changes before you exit?";
+constexpr int kYes = forms::msgbox::AnswerYes;
+constexpr int kNo = forms::msgbox::AnswerNo;
+constexpr int kCancel = 2;
+constexpr const char* kWithoutAnvil = "Letters(Alpha Beta -) Tools(Hammer) | Clock Paint";
+
+/// A desk with one entry deleted.
+struct ChangedDesk : CustDesk {
+  ChangedDesk() { DeleteAnvil(); }
+  void DeleteAnvil() {
+    Expand("Tools");
+    ClickNode("Anvil");
+    world.Desktop.PressKey(key::Delete);
+  }
+  void Rename(std::string_view node, std::string_view text) {
+    Editor().AfterLabelEdit(RefOf(node), text);
+  }
+  [[nodiscard]] CustRef RefOf(std::string_view node) const {
+    for (const CustRef ref : Editor().Tree.InOrder()) {
+      if (Editor().Tree.At(ref).Text == node) return ref;
+    }
+    return kNoRef;
+  }
+  void Close() {
+    ClickControl(Form().cmdCancel);
+    world.Desktop.Pump();
+  }
+};
+
+TEST(CustomizeSave, WritesTheTreeAndRebuildsTheStrip) {
+  ChangedDesk desk;
+  desk.ClickNode("Letters");
+  desk.Tool("button");
+  const int before = desk.parts->Toolbar.ButtonCount;
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_EQ(desk.Stored(),
+            "Letters(Alpha Beta -) Tools(Hammer) New Button(New Menu Item) | Clock Paint");
+  EXPECT_EQ(desk.parts->Toolbar.ButtonCount, before + 1);
+  EXPECT_TRUE(desk.Form().IsLoaded()) << "the window stays open";
+  EXPECT_TRUE(desk.Form().cmdSave.Enabled());
+  EXPECT_FALSE(desk.Editor().TreeChanged);
+  EXPECT_TRUE(desk.Editor().SavingNow);
+}
+
+TEST(CustomizeSave, TakesWhatStandsInTheBoxes) {
+  CustDesk desk;
+  desk.Expand("Tools");
+  desk.ClickNode("Anvil");
+  desk.Fill(desk.Form().txtTitle, "Block");
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Hammer Block) | Clock Paint");
+}
+
+TEST(CustomizeSave, KeepsTheGapAtTheRightOfAFloatingStrip) {
+  ChangedDesk desk;
+  ASSERT_FALSE(desk.parts->TheProgram.AppBarDocked);
+  const float gap = desk.parts->Toolbar.FreeWidth();
+  desk.ClickNode("Letters");
+  desk.Tool("button");
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_FLOAT_EQ(desk.parts->Toolbar.FreeWidth(), gap);
+}
+
+TEST(CustomizeSave, AfterTheFirstOneAConfirmedBoxAsksNothing) {
+  ChangedDesk desk;
+  desk.ClickControl(desk.Form().cmdSave);
+  desk.ClickNode("Hammer");
+  desk.Fill(desk.Form().txtTitle, "Mallet");
+  desk.world.Desktop.PressKey(key::Enter);
+  EXPECT_FALSE(desk.Editor().TreeChanged);
+  desk.Close();
+  EXPECT_FALSE(desk.Form().IsLoaded());
+  desk.Open();
+  EXPECT_TRUE(desk.Form().cmdShowDraft.Visible()) << "but it is not lost";
+}
+
+TEST(CustomizeSave, AFailureTellsClosesTheWindowAndLeavesTheOldMenus) {
+  ChangedDesk desk;
+  desk.world.Files.HoldOpen(CustDesk::kMenus + MenuFileName(2), sim::SimFiles::Hold::ForReading);
+  desk.world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_FALSE(desk.Form().IsLoaded());
+  EXPECT_EQ(desk.Stored(), kAtFirst);
+  ASSERT_FALSE(desk.world.Desktop.Boxes().empty());
+  const std::string text = desk.world.Desktop.Boxes().back().Text;
+  EXPECT_TRUE(text.starts_with(
+      "A critical error has been encountered while Corvelle is saving your changes."))
+      << text;
+  EXPECT_TRUE(text.ends_with("Now Corvelle will try to resortre your previous data.")) << text;
+}
+
+TEST(CustomizeClose, YesSavesNoDropsCancelStays) {
+  for (const int answer : {kYes, kNo, kCancel}) {
+    ChangedDesk desk;
+    desk.world.Desktop.Answer(kQuestion, answer);
+    desk.Close();
+    EXPECT_EQ(desk.Form().IsLoaded(), answer == kCancel);
+    EXPECT_EQ(desk.Stored(), answer == kYes ? kWithoutAnvil : kAtFirst);
+    EXPECT_EQ(desk.world.Desktop.Boxes().back().Flags & 0xFF, 35U);
+    if (answer == kCancel) continue;
+    desk.Open();
+    EXPECT_FALSE(desk.Form().cmdShowDraft.Visible()) << "neither leaves a draft";
+  }
+}
+
+TEST(CustomizeClose, WithoutAChangeAsksNothing) {
+  CustDesk desk;
+  desk.ClickControl(desk.Form().cmdCancel);
+  EXPECT_FALSE(desk.Form().IsLoaded());
+}
+
+TEST(CustomizeClose, EscIsExit) {
+  CustDesk desk;
+  desk.ClickNode("Letters");
+  desk.world.Desktop.PressKey(key::Escape);
+  EXPECT_FALSE(desk.Form().IsLoaded());
+}
+
+TEST(CustomizeDraft, ARenameAloneAsksNothingAndIsOfferedTheNextTime) {
+  ChangedDesk desk;
+  desk.Editor().Undo();
+  desk.Editor().TreeChanged = false;
+  desk.Rename("Hammer", "Mallet");
+  desk.Close();
+  EXPECT_FALSE(desk.Form().IsLoaded());
+  EXPECT_EQ(desk.Stored(), kAtFirst);
+  desk.Open();
+  EXPECT_EQ(desk.Shown(), kAtFirst);
+  EXPECT_TRUE(desk.Form().cmdShowDraft.Visible());
+  EXPECT_TRUE(desk.Form().cmdForgetDraft.Visible());
+  EXPECT_NE(desk.Form().lblMenuTree.Caption(), "Menu Tree");
+  desk.ClickFlat(desk.Form().cmdShowDraft, desk.Form());
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Mallet Anvil) | Clock Paint");
+  EXPECT_FALSE(desk.Form().cmdShowDraft.Visible());
+  EXPECT_EQ(desk.Form().lblMenuTree.Caption(), "Menu Tree");
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Mallet Anvil) | Clock Paint");
+  desk.Close();
+  desk.Open();
+  EXPECT_FALSE(desk.Form().cmdShowDraft.Visible());
+}
+
+TEST(CustomizeDraft, ForgetDropsIt) {
+  ChangedDesk desk;
+  desk.world.Desktop.EndSession();
+  EXPECT_FALSE(desk.Form().IsLoaded());
+  CustDesk& same = desk;
+  same.Open();
+  ASSERT_TRUE(desk.Form().cmdShowDraft.Visible()) << "the end of the session kept it";
+  desk.ClickFlat(desk.Form().cmdForgetDraft, desk.Form());
+  EXPECT_FALSE(desk.Form().cmdShowDraft.Visible());
+  desk.Close();
+  desk.Open();
+  EXPECT_FALSE(desk.Form().cmdShowDraft.Visible());
+}
+
+TEST(CustomizeDraft, IsWrittenEveryFewSecondsWhileSomethingIsUnsaved) {
+  ChangedDesk desk;
+  EXPECT_FALSE(OfferDraft(desk.world.Files, CustDesk::kMenus,
+                          *ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus)));
+  desk.world.Desktop.Advance(6000);
+  EXPECT_TRUE(OfferDraft(desk.world.Files, CustDesk::kMenus,
+                         *ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus)));
+  desk.Keys({key::Ctrl, key::Shift}, 'Z');
+  desk.world.Desktop.Advance(6000);
+  EXPECT_FALSE(OfferDraft(desk.world.Files, CustDesk::kMenus,
+                          *ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus)))
+      << "nothing is unsaved any more";
+}
+
+TEST(CustomizeDraft, OneThatIsOfferedIsNotWrittenOverWhileTheWindowIsOpen) {
+  ChangedDesk desk;
+  desk.world.Desktop.EndSession();
+  desk.Open();
+  ASSERT_TRUE(desk.Form().cmdShowDraft.Visible());
+  desk.Rename("Clock", "Watch");
+  desk.world.Desktop.Advance(12000);
+  desk.ClickFlat(desk.Form().cmdShowDraft, desk.Form());
+  EXPECT_EQ(desk.Shown(), kWithoutAnvil);
+}
+
+TEST(CustomizeOthers, WhatIsDoneOnTheStripComesInWhenNothingIsUnsaved) {
+  CustDesk desk;
+  desk.PutMenu(2, {"Tools", "Button", ""}, {CustDesk::Entry("Saw")});
+  desk.world.Desktop.TakeForeground(desk.parts->Toolbar.hWnd());
+  desk.world.Desktop.TakeForeground(desk.Form().hWnd());
+  desk.world.Desktop.Pump();
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Saw) | Clock Paint");
+}
+
+TEST(CustomizeOthers, WhatIsUnsavedHereStaysAndWhatIsDoneThereComesIn) {
+  ChangedDesk desk;
+  desk.PutMenu(1, {"Letters", "Button", ""}, {CustDesk::Entry("Beta"), CustDesk::Entry("Delta")});
+  desk.world.Desktop.TakeForeground(desk.parts->Toolbar.hWnd());
+  desk.world.Desktop.TakeForeground(desk.Form().hWnd());
+  desk.world.Desktop.Pump();
+  EXPECT_EQ(desk.Shown(), "Letters(Beta Delta) Tools(Hammer) | Clock Paint");
+  EXPECT_TRUE(desk.Form().TreeView1.IsExpanded(desk.Node("Tools"))) << "the nodes are the same";
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_EQ(desk.Stored(), "Letters(Beta Delta) Tools(Hammer) | Clock Paint");
+}
+
+TEST(CustomizeOthers, WhatCameMeanwhileIsSavedTooWithoutAQuestion) {
+  ChangedDesk desk;
+  desk.Put(SingleFileName(2), {CustDesk::Entry("Edit")});
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Hammer) | Clock Edit");
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Hammer) | Clock Edit");
+}
+
+TEST(CustomizeOthers, AConflictIsAskedAboutAndTheOtherVersionKept) {
+  for (const bool mine : {true, false}) {
+    ChangedDesk desk;
+    desk.PutMenu(2, {"Tools", "Button", ""},
+                 {CustDesk::Entry("Hammer"), {"Anvil", "other.ico", "other.exe"}});
+    desk.world.Desktop.Answer(mine ? kYes : kNo);
+    desk.ClickControl(desk.Form().cmdSave);
+    const char* others = kAtFirst;
+    EXPECT_EQ(desk.Stored(), mine ? kWithoutAnvil : others);
+    EXPECT_EQ(desk.Shown(), mine ? kWithoutAnvil : others);
+    desk.world.Desktop.AnswerAnyOther(kNo);
+    if (mine) {
+      desk.Form().Unload();
+      desk.Open();
+    }
+    ASSERT_TRUE(desk.Form().cmdShowDraft.Visible()) << mine;
+    desk.ClickFlat(desk.Form().cmdShowDraft, desk.Form());
+    EXPECT_EQ(desk.Shown(), mine ? others : kWithoutAnvil);
+  }
+}
+
+TEST(CustomizeWindow, DoesNotOpenOverMenusThatCannotBeRead) {
+  CustDesk desk({}, false);
+  desk.world.Files.HoldOpen(CustDesk::kMenus + MenuFileName(2));
+  desk.world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk.parts->Customize.LoadWindow();
+  EXPECT_FALSE(desk.Form().IsLoaded());
+  EXPECT_FALSE(desk.world.Desktop.Boxes().empty());
+}
+
+TEST(CustomizeWindow, AProgramThatEndsAsksAndGoesEvenIfTheUserCancels) {
+  for (const int answer : {kYes, kNo, kCancel}) {
+    ChangedDesk desk;
+    desk.world.Desktop.Answer(kQuestion, answer);
+    desk.parts->TheMainMenu.xMainMenu(11, "Exit");
+    desk.world.Desktop.Pump();
+    EXPECT_FALSE(desk.Form().IsLoaded());
+    EXPECT_EQ(desk.Stored(), answer == kYes ? kWithoutAnvil : kAtFirst);
+    const bool kept =
+        OfferDraft(desk.world.Files, CustDesk::kMenus,
+                   *ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus))
+            .has_value();
+    EXPECT_EQ(kept, answer == kCancel) << answer;
+  }
+}
+
+TEST(CustomizeKeyboard, FromOpeningToSavingWithoutAMouse) {
+  CustDesk desk;
+  sim::SimDesktop& user = desk.world.Desktop;
+  user.PressKey(key::Down);
+  user.PressKey(key::Down);
+  EXPECT_EQ(desk.Selected(), "Tools");
+  desk.Ctrl('M');
+  EXPECT_EQ(desk.Selected(), "New Menu Item");
+  user.PressKey(key::Tab);
+  while (!desk.Form().txtTitle.HasFocus()) user.PressKey(key::Tab);
+  user.Type("Saw");
+  user.PressKey(key::Tab);
+  user.Type("New");
+  user.PressKey(key::Tab);
+  user.Type("C:\\Tools\\Edit.exe");
+  user.PressKey(key::Enter);
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Hammer Anvil Saw) | Clock Paint");
+  desk.Keys({key::Alt}, 'U');
+  EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Hammer Anvil Saw) | Clock Paint");
+  EXPECT_EQ(desk.Editor().Tree.At(desk.Editor().Selected()).Entry,
+            (clsFile{"New", "C:\\Tools\\Edit.exe"}));
+  desk.Keys({key::Alt}, 'X');
+  EXPECT_FALSE(desk.Form().IsLoaded());
+}
+
+}  // namespace
+}  // namespace corvelle
