@@ -504,7 +504,8 @@ TEST_F(LibraryDesk, AnotherColourDepthResetsItWithoutAMessage) {
   world.System.Depth = 8;
   Open();
   EXPECT_TRUE(world.Desktop.Boxes().empty());
-  EXPECT_EQ(world.Files.Get(kOthers).value_or(""), std::string(kTool) + "\r\n");  // the user put it there
+  EXPECT_EQ(world.Files.Get(kOthers).value_or(""),
+            std::string(kTool) + "\r\n");  // the user put it there
   EXPECT_EQ(library.LibraryView.Captions().size(), 4U);
   const auto record = world.Files.Get("C:\\Corvelle\\clrlib.dat");
   ASSERT_TRUE(record);
