@@ -22,6 +22,7 @@ constexpr int kStartMenuFolder = 11;
 constexpr int kRecentFolder = 8;
 constexpr int kGuard = 1000;       // milliseconds
 constexpr int kDraftEvery = 5000;  // milliseconds
+constexpr int kSettled = 50;       // milliseconds from an edit elsewhere until its files are read
 
 struct Tool {
   std::string_view Key;
@@ -82,6 +83,7 @@ frmCust::frmCust(Program& program)
       cmdForgetDraft(*this, "cmdForgetDraft"),
       Timer1(program.Windows),
       tmrDraft(program.Windows),
+      tmrEdits(program.Windows),
       Editor(*this),
       program_(program),
       tree_(program, Editor.Tree, TreeView1) {
@@ -132,6 +134,8 @@ void frmCust::WireControls() {
   cmdCancel.Click = [this] { Form_QueryClose(); };
   cmdShowDraft.Click = [this] { ShowDraft(); };
   cmdForgetDraft.Click = [this] { ForgetTheDraft(); };
+  tmrEdits.SetInterval(kSettled);
+  tmrEdits.Tick = [this] { TakeEditsMadeElsewhere(); };
   tmrDraft.SetInterval(kDraftEvery);
   tmrDraft.Tick = [this] {
     // One that is still offered is not written over before the window closes.
@@ -216,6 +220,7 @@ void frmCust::Form_Load() {
 void frmCust::Form_Unload() {
   Timer1.SetEnabled(false);
   tmrDraft.SetEnabled(false);
+  tmrEdits.SetEnabled(false);
   Editor.Close();
   tree_.Clear();
   draft_.reset();

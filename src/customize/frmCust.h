@@ -36,6 +36,7 @@ class Program;
 class frmCust final : public forms::Form,
                       public LoadedWindow,
                       public IconBoxPort,
+                      public MenuEditsPort,
                       private CustHost {
  public:
   explicit frmCust(Program& program);
@@ -45,6 +46,8 @@ class frmCust final : public forms::Form,
   /// Closes it, after asking about what is not saved; it cannot be kept open.
   void UnloadWindow() override;
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
+  /// Takes what the strip or another window of the program changed in, as soon as that is done.
+  void MenusEdited() override;
 
   [[nodiscard]] forms::Form& BoxWindow() override { return *this; }
   void SetBrowsing(bool browsing) override;
@@ -85,6 +88,7 @@ class frmCust final : public forms::Form,
   forms::Timer Timer1;
   /// Keeps what is not saved.
   forms::Timer tmrDraft;
+  forms::Timer tmrEdits;  // runs once after an edit elsewhere
 
   CustEditor Editor;
   CustPopupState mnuPopup;
@@ -194,6 +198,7 @@ class frmCust final : public forms::Form,
   bool SaveTree();
   /// Takes what was changed elsewhere into the tree. False when an entry was changed on both sides;
   /// then nothing is taken.
+  void TakeEditsMadeElsewhere();
   bool Merge();
   bool SettleConflict(const MenusStamp& theirs);
   void Recover(const std::string& message);

@@ -226,12 +226,18 @@ bool frmCust::Merge() {
   return true;
 }
 
-void frmCust::Form_Activate() {
-  if (!IsLoaded() || keeper_ == nullptr || Browsing || Dragging ||
-      TreeView1.Edited() != forms::kNoNode) {
-    return;
-  }
-  // What was changed on the strip meanwhile comes in. Where it cannot, the next save asks.
+void frmCust::Form_Activate() { TakeEditsMadeElsewhere(); }
+
+void frmCust::MenusEdited() {
+  if (IsLoaded() && keeper_ != nullptr) tmrEdits.SetEnabled(true);
+}
+
+void frmCust::TakeEditsMadeElsewhere() {
+  if (!IsLoaded() || keeper_ == nullptr) return;
+  // While the user's hand is in the tree the timer comes again.
+  if (Browsing || Dragging || TreeView1.Edited() != forms::kNoNode) return;
+  tmrEdits.SetEnabled(false);
+  // Where an edit cannot come in, the next save asks.
   const long before = Editor.Tree.Revision();
   static_cast<void>(Merge());
   if (Editor.Tree.Revision() != before) ShowState();

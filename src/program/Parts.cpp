@@ -40,6 +40,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.About = &About;
   ports.Customize = &Customize;
   ports.CustomizeIcon = &Customize;
+  ports.MenuEdits = &Customize;
   ports.Properties = &Properties;
   ports.PropertiesIcon = &Properties;
   WireHelp();

@@ -199,6 +199,27 @@ TEST(CustomizeOthers, WhatIsDoneOnTheStripComesInWhenNothingIsUnsaved) {
   EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Saw) | Clock Paint");
 }
 
+TEST(CustomizeOthers, AnEditOfTheProgramItselfIsSeenAtOnceWithoutALookAway) {
+  CustDesk desk;
+  desk.PutMenu(2, {"Tools", "Button", ""}, {CustDesk::Entry("Saw")});
+  desk.parts->TheProgram.TellMenusEdited();
+  desk.world.Desktop.Advance(200);
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Saw) | Clock Paint");
+}
+
+TEST(CustomizeOthers, AnEditElsewhereWaitsForTheEndOfALabelEdit) {
+  CustDesk desk;
+  desk.Form().TreeView1.BeginEdit(desk.Node("Clock"));
+  ASSERT_NE(desk.Form().TreeView1.Edited(), forms::kNoNode);
+  desk.PutMenu(2, {"Tools", "Button", ""}, {CustDesk::Entry("Saw")});
+  desk.parts->TheProgram.TellMenusEdited();
+  desk.world.Desktop.Advance(200);
+  EXPECT_NE(desk.Form().TreeView1.Edited(), forms::kNoNode);
+  desk.Form().TreeView1.EndEdit(false);
+  desk.world.Desktop.Advance(200);
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Saw) | Clock Paint");
+}
+
 TEST(CustomizeOthers, WhatIsUnsavedHereStaysAndWhatIsDoneThereComesIn) {
   ChangedDesk desk;
   desk.PutMenu(1, {"Letters", "Button", ""}, {CustDesk::Entry("Beta"), CustDesk::Entry("Delta")});

@@ -84,9 +84,8 @@ class Windows : public testing::Test {
   ProgramDesk desk;
 };
 
-// Nobody listens to edits yet.
-TEST_F(Windows, NoOtherPortIsLeftWithoutAPart) {
-  EXPECT_EQ(NullPorts(parts().TheProgram.Ports), Names{"MenuEdits"});
+TEST_F(Windows, NoPortIsLeftWithoutAPart) {
+  EXPECT_EQ(NullPorts(parts().TheProgram.Ports), Names{});
 }
 
 TEST_F(Windows, AboutOpensFromTheProgramsOwnMenu) {
