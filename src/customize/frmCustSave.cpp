@@ -25,11 +25,15 @@ constexpr std::string_view kConflict =
 
 void frmCust::cmdSave_Click() {
   if (!IsLoaded() || !cmdSave.Enabled()) return;
+  // Disabled, it hands the focus to Exit, which the next Enter would press.
+  const bool hadFocus = cmdSave.HasFocus();
   cmdSave.SetEnabled(false);
   program_.DoEvents();
   if (!IsLoaded()) return;
   SaveTree();
-  if (IsLoaded()) cmdSave.SetEnabled(true);
+  if (!IsLoaded()) return;
+  cmdSave.SetEnabled(true);
+  if (hadFocus) cmdSave.SetFocus();
 }
 
 bool frmCust::SaveTree() {

@@ -190,6 +190,13 @@ TEST(CustomizeDraft, OneThatIsOfferedIsNotWrittenOverWhileTheWindowIsOpen) {
   EXPECT_EQ(desk.Shown(), kWithoutAnvil);
 }
 
+TEST(CustomizeSave, TheFocusIsWhereItWasAndNotOnExit) {
+  ChangedDesk desk;
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_TRUE(desk.Form().cmdSave.HasFocus());
+  EXPECT_FALSE(desk.Form().cmdCancel.HasFocus());
+}
+
 TEST(CustomizeOthers, WhatIsDoneOnTheStripComesInWhenNothingIsUnsaved) {
   CustDesk desk;
   desk.PutMenu(2, {"Tools", "Button", ""}, {CustDesk::Entry("Saw")});
