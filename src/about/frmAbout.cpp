@@ -30,10 +30,10 @@ constexpr std::string_view kVersionValue = "Version";
 
 constexpr std::string_view kName = "Corvelle";
 constexpr std::string_view kCompany = "A desktop launcher for Windows";
-constexpr std::string_view kCopyright = "Copyright \xC2\xA9 2026 the developers of Corvelle";
+constexpr std::string_view kCopyright = "Copyright \xC2\xA9 2026 the Corvelle authors";
 constexpr std::string_view kCredits =
-    "The program, its icons, its help and its list of search engines were made by the developers "
-    "of Corvelle.\r\n\r\n"
+    "The program, its icons, its help and its list of search engines were made by the Corvelle "
+    "authors.\r\n\r\n"
     "Corvelle uses the C++ standard library and Windows itself, and nothing else. It sends nothing "
     "to anyone: an address goes to your browser only when you choose it.\r\n\r\n"
     "The tabs above list facts about this computer. The button Copy puts what a tab shows on the "
@@ -289,7 +289,7 @@ void frmAbout::Print(InfoPage page) {
   const float line = static_cast<float>(program_.Windows.MeasureText("X", {}).height) *
                      screen.TwipsPerPixelY * 3 / 2;
   float tab = 0;
-  for (const InfoLine& one : page_) tab = std::max(tab, WidthOf(one.Caption));
+  for (const InfoLine& one : page_) tab = std::max(tab, WidthOf(one.Caption) + WidthOf(" "));
   picInfo.SetBackColor(forms::color::WindowGround);
   picInfo.SetAutoRedraw(true);
   picInfo.Cls();
