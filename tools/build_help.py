@@ -3,7 +3,8 @@
 
   tools/build_help.py TARGET PAGES...
 
-Each NAME.md becomes TARGET/NAME.html, with one style sheet beside them. The pages work from a folder without a
+Each NAME.md becomes TARGET/NAME.html, with one style sheet beside them. The pictures come from the folder `pictures`
+beside the first page. The pages work from a folder without a
 network: no script, no font and no picture from elsewhere. A link to NAME.md becomes one to NAME.html.
 
 What is understood: headings (#, ##, ###), paragraphs, lists with "- " or "1. " of one level, tables, blocks of code
@@ -155,14 +156,17 @@ def anchors_of(text):
     return {anchor(found.strip()) for found in re.findall(r"^#{1,3} (.+)$", text, re.MULTILINE)}
 
 
-def bad_links(pages):
-    """Links between the pages (texts by their names) that lead nowhere."""
+def bad_links(pages, pictures=()):
+    """Links between the pages (texts by their names), and to the pictures, that lead nowhere."""
     bad = []
     for name, text in pages.items():
         for found in LINK.finditer(text):
             target, _, heading = found.group(3).partition("#")
             other = target.removesuffix(".md") if target else name
-            if "://" in target or found.group(1):
+            if found.group(1) and target.startswith("pictures/"):
+                if target not in pictures:
+                    bad.append(f"{name}: there is no picture {target}")
+            elif "://" in target or found.group(1):
                 bad.append(f"{name}: {found.group(3)} lies outside the help")
             elif other not in pages:
                 bad.append(f"{name}: there is no page {target}")
@@ -182,13 +186,18 @@ def main(arguments):
         return 2
     target = pathlib.Path(arguments[0])
     pages = {pathlib.Path(path).stem: pathlib.Path(path).read_text(encoding="utf-8") for path in arguments[1:]}
-    bad = bad_links(pages)
+    pictures = {f"pictures/{path.name}": path
+                for path in sorted((pathlib.Path(arguments[1]).parent / "pictures").glob("*.png"))}
+    bad = bad_links(pages, pictures)
     for line in bad:
         print(line)
     if bad:
         return 1
     target.mkdir(parents=True, exist_ok=True)
     (target / "help.css").write_text(STYLE, encoding="utf-8", newline="\n")
+    for name, path in pictures.items():
+        (target / "pictures").mkdir(exist_ok=True)
+        (target / name).write_bytes(path.read_bytes())
     for name, text in pages.items():
         (target / f"{name}.html").write_text(page_of(text, pages), encoding="utf-8", newline="\n")
     return 0

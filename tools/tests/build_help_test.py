@@ -57,6 +57,11 @@ class Links(unittest.TestCase):
                          ["a: there is no heading b.md#two", "a: there is no page c.md",
                           "a: http://x/ lies outside the help"])
 
+    def test_a_picture_that_is_not_there_is_named(self):
+        pages = {"a": "# A\n![x](pictures/a.png) ![y](pictures/b.png) ![z](http://x/z.png)"}
+        self.assertEqual(build_help.bad_links(pages, {"pictures/a.png"}),
+                         ["a: there is no picture pictures/b.png", "a: http://x/z.png lies outside the help"])
+
     def test_such_a_link_ends_the_build(self):
         with tempfile.TemporaryDirectory() as folder:
             page = pathlib.Path(folder, "a.md")
@@ -94,6 +99,12 @@ class TheHelp(unittest.TestCase):
             self.assertNotIn("<script", text, name)
             for address in re.findall(r'(?:src|href)="([^"]+)"', text):
                 self.assertNotIn(":", address, name)
+
+    def test_each_picture_lies_beside_the_pages_and_is_shown(self):
+        shown = {picture for text in self.pages.values() for picture in re.findall(r'<img src="([^"]+)"', text)}
+        beside = {f"pictures/{path.name}" for path in pathlib.Path(self.folder.name, "pictures").iterdir()}
+        self.assertGreaterEqual(len(shown), 7)
+        self.assertEqual(shown, beside)
 
     def test_each_page_can_be_reached_from_the_contents(self):
         contents = self.pages["index.html"]
