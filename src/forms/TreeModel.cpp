@@ -40,9 +40,8 @@ NodeId TreeModel::Insert(NodeId parent, NodeId before, NodeLook look) {
 }
 
 void TreeModel::Remove(NodeId node) {
-  const Node* const found = Find(node);
-  if (found == nullptr) return;
-  std::erase(*ChildrenToWrite(found->Parent), node);
+  if (!Has(node)) return;
+  if (auto* const siblings = ChildrenToWrite(Parent(node))) std::erase(*siblings, node);
   std::vector<NodeId> gone{node};
   while (!gone.empty()) {
     const auto at = nodes_.find(gone.back());
@@ -58,14 +57,15 @@ void TreeModel::Clear() {
 }
 
 bool TreeModel::Move(NodeId node, NodeId parent, NodeId before) {
-  if (!Has(node) || node == before || IsWithin(parent, node)) return false;
+  Node* const found = Find(node);
+  if (found == nullptr || node == before || IsWithin(parent, node)) return false;
   std::vector<NodeId>* const siblings = ChildrenToWrite(parent);
   if (siblings == nullptr) return false;
-  std::erase(*ChildrenToWrite(Parent(node)), node);
+  if (auto* const left = ChildrenToWrite(found->Parent)) std::erase(*left, node);
   siblings->insert(
       before != kNoNode ? std::find(siblings->begin(), siblings->end(), before) : siblings->end(),
       node);
-  Find(node)->Parent = parent;
+  found->Parent = parent;
   return true;
 }
 

@@ -110,10 +110,8 @@ void TreeView::SetChecked(NodeId node, bool checked) {
 
 void TreeView::Select(NodeId node) {
   selected_ = nodes_.Has(node) ? node : kNoNode;
-  // What is around the selected node opens, as the system does it.
-  for (NodeId at = nodes_.Parent(selected_); at != kNoNode; at = nodes_.Parent(at)) {
-    nodes_.Find(at)->Expanded = true;
-  }
+  // As the system does it.
+  OpenAround(selected_);
   if (Own() != nullptr) Own()->Select(selected_);
 }
 
@@ -130,10 +128,13 @@ void TreeView::Expand(NodeId node, bool expand) {
   if (Own() != nullptr) Own()->Expand(node, expand);
 }
 
+void TreeView::OpenAround(NodeId node) {
+  TreeModel::Node* around = nodes_.Find(nodes_.Parent(node));
+  for (; around != nullptr; around = nodes_.Find(around->Parent)) around->Expanded = true;
+}
+
 void TreeView::EnsureVisible(NodeId node) {
-  for (NodeId at = nodes_.Parent(node); at != kNoNode; at = nodes_.Parent(at)) {
-    nodes_.Find(at)->Expanded = true;
-  }
+  OpenAround(node);
   if (Own() != nullptr && nodes_.Has(node)) Own()->EnsureVisible(node);
 }
 

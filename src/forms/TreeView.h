@@ -104,6 +104,8 @@ class TreeView final : public SystemControl, private TreeEvents {
  private:
   [[nodiscard]] TreePeer* Own() const noexcept { return static_cast<TreePeer*>(Peer()); }
   void SetFrozen(bool frozen);
+  /// Marks all nodes around this one as open.
+  void OpenAround(NodeId node);
   void InsertBelow(NodeId parent);
   void TellSelected(SelectCause cause);
   [[nodiscard]] Picture DragPicture(NodeId node);
