@@ -22,7 +22,7 @@ PICTURES = (
     ("library", "LibraryAtEachScale.AnIconOfACategoryIsPickedForAnEntry/marked", "760x560+150+120"),
     ("net-search", "NetSearchAtEachScale.AQueryGoesToTheBrowserWithItsAddress/typed", "620x560+200+120"),
     ("about", "AboutAtEachScale.ShowsItsThreeTabsAndCopiesAPage/corvelle", "620x560+200+120"),
-    ("web-link", "WebLinkAtEachScale.AnAddressDroppedOnAButtonIsCorrectedAndStandsInItsMenu/dialog", "430x190+310+240"),
+    ("web-link", "WebLinkAtEachScale.AnAddressDroppedOnAButtonIsCorrectedAndStandsInItsMenu/dialog", "500x185+300+295"),
 )
 DESKTOP = "#3a6ea5"
 
