@@ -328,16 +328,23 @@ void Win32Tree::SetLook(NodeId node, const NodeLook& look) {
   SendMessageW(handle_, TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
 }
 
+namespace {
+
+// The order of two nodes, by their ids, in a map of places.
+int CALLBACK ComparePlaces(LPARAM a, LPARAM b, LPARAM all) {
+  const auto& place = *reinterpret_cast<const std::unordered_map<NodeId, int>*>(all);
+  return place.at(static_cast<NodeId>(a)) - place.at(static_cast<NodeId>(b));
+}
+
+}  // namespace
+
 void Win32Tree::Reorder(NodeId parent, const std::vector<NodeId>& children) {
   std::unordered_map<NodeId, int> places;
   for (const NodeId child : children) places.emplace(child, static_cast<int>(places.size()));
   TVSORTCB sort{};
   const HTREEITEM above = ItemOf(parent);
   sort.hParent = above != nullptr ? above : TVI_ROOT;
-  sort.lpfnCompare = [](LPARAM a, LPARAM b, LPARAM all) -> int {
-    const auto& place = *reinterpret_cast<const std::unordered_map<NodeId, int>*>(all);
-    return place.at(static_cast<NodeId>(a)) - place.at(static_cast<NodeId>(b));
-  };
+  sort.lpfnCompare = &ComparePlaces;
   sort.lParam = reinterpret_cast<LPARAM>(&places);
   SendMessageW(handle_, TVM_SORTCHILDRENCB, 0, reinterpret_cast<LPARAM>(&sort));
 }

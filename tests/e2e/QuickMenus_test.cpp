@@ -85,11 +85,16 @@ TEST(QuickMenus, OpeningsAndClosingsInARowUseNoMoreStackAndMemoryThanAFew) {
   EXPECT_LT(stack, 512U << 10U);
   // The strip still does what it is there for.
   desk.MovePointer(scenario::FarAway(desk));
-  desk.Pause(500);
-  desk.Key(scenario::kKeyEscape);
-  ASSERT_TRUE(scenario::WaitForNoMenu(desk));
-  desk.Pause(600);  // Or the next press counts as the second of a quick pair.
-  ASSERT_TRUE(scenario::OpenMenu(desk, 3));
+  bool opened = false;
+  // On a slow machine clicks are still waiting, which close what is opened.
+  for (int tries = 0; tries < 5 && !opened; ++tries) {
+    desk.Pause(500);
+    desk.Key(scenario::kKeyEscape);
+    if (!scenario::WaitForNoMenu(desk)) continue;
+    desk.Pause(600);  // Or the next press counts as the second of a quick pair.
+    opened = scenario::OpenMenu(desk, 3);
+  }
+  ASSERT_TRUE(opened);
   scenario::ClickItem(desk, scenario::ItemMiddle(desk, 2, 3));
   ASSERT_TRUE(desk.Wait([&] { return desk.Launched().size() == 1; }, 8000));
   EXPECT_EQ(desk.Launched()[0].Arguments, "of menu 2");
