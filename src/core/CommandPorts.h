@@ -56,7 +56,7 @@ class HelpPort {
   virtual bool ShowPage(HelpPage page) = 0;
   /// Opens a page that nobody asked for; a failure is quiet.
   virtual void OfferPage(HelpPage page) = 0;
-  /// The page of a window, by the window's name. Says so when there is none.
+  /// The page of a window, by the window's name. Tells the user when that page is missing.
   virtual void ShowPageOf(std::string_view windowName) = 0;
 };
 

@@ -165,7 +165,7 @@ void RememberForUndo(EntryEdit& edit);
 void RestoreUndo(EntryEdit& edit, const EntryEdit& before);
 
 /// Makes the separator above the current entry the current entry and remembers it for undoing.
-/// RecordMismatch, and nothing changed, when there is none.
+/// RecordMismatch, and nothing changed, when the file has no such record.
 EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit);
 
 }  // namespace corvelle

@@ -77,11 +77,11 @@ class ToolbarPort : public AskingWindow {
   /// Saves the options and rebuilds the strip after a change in the menus or the options.
   virtual void InitNewButtons() = 0;
   /// Tells the user, once the current event is over, that these dropped files were not taken (see
-  /// RefusedFilesText). Nothing is told when there are none.
+  /// RefusedFilesText). Does nothing for an empty list.
   virtual void TellRefused(std::vector<std::string> files) = 0;
-  /// Reads the menu buttons anew and draws them, without sizing the strip.
+  /// Reads the menu buttons again and repaints them, without sizing the strip.
   virtual void DoToolbarButtons() = 0;
-  /// Reads the single buttons anew and draws them.
+  /// Reads the single buttons again and repaints them.
   virtual void DoSingleButtons() = 0;
   /// Makes a new menu button with one item behind those there are.
   virtual void AddNewButton() = 0;
@@ -332,7 +332,7 @@ class CapturePort {
   /// The outline of the strip at an edge to which it is being pulled; none any more.
   virtual void SetPosition(std::string_view edge) = 0;
   virtual void ClearBg() = 0;
-  /// The edge of the outline; empty when there is none.
+  /// The edge of the outline; empty while no outline is shown.
   [[nodiscard]] virtual std::string OutlineEdge() const = 0;
 };
 
@@ -441,7 +441,7 @@ class WebLinkPort {
   /// a menu, for `file`. The dialog opens when the drop has returned to the program it came from.
   /// For an item of a menu (tag "F" and the button's index) the current entry is that item, and the
   /// menu's capture is on; for the end of a button's menu the tag is the index alone. In the row
-  /// the file is that of the button under the drop, empty where there is none.
+  /// the file is that of the button under the drop, empty when no button lies there.
   virtual void OfferWebLink(std::string_view url, std::string_view title, std::string_view tag,
                             std::string_view file) = 0;
   /// The program ends: an address that waits is given up, and its window goes.

@@ -42,7 +42,8 @@ class CustHistory final : private TreeRecorder {
 
   [[nodiscard]] bool CanUndo() const noexcept { return !done_.empty(); }
   [[nodiscard]] bool CanRedo() const noexcept { return !undone_.empty(); }
-  /// The name of the step that would be taken back or made again; empty when there is none.
+  /// The name of the step that Undo or Redo would apply; empty when nothing can be undone or
+  /// redone.
   [[nodiscard]] std::string_view UndoName() const noexcept;
   [[nodiscard]] std::string_view RedoName() const noexcept;
   [[nodiscard]] std::size_t Steps() const noexcept { return done_.size(); }

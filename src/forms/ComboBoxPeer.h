@@ -20,7 +20,7 @@ class ComboBoxEvents {
 };
 
 /// The window of a combo box: a list that drops down, with an entry or without. It is as high as
-/// one line, whatever its bounds say. Rows count from 0; -1 is none.
+/// one line, whatever its bounds say. Rows count from 0; -1 means no row.
 class ComboBoxPeer : public WindowPeer {
  public:
   virtual void Insert(int at, std::string_view text) = 0;

@@ -12,7 +12,7 @@ namespace corvelle::forms {
 /// 20 bytes, of which the first four give the place of the list and the last four tell wide from
 /// narrow characters; then the paths, each with a NUL behind it, and one more NUL. Numbers are
 /// little-endian. A list without its end ends with the block. Empty for a
-/// block that is none.
+/// malformed block.
 [[nodiscard]] std::vector<std::string> ParseDropFiles(std::string_view block, const CodePage& ansi);
 
 /// The text of a block of wide or narrow characters up to its first NUL.
@@ -31,7 +31,7 @@ struct DraggedLink {
 
 /// The title in a block of the format "FileGroupDescriptorW" (or, with narrow characters,
 /// "FileGroupDescriptor"), which names the file that a dragged link would become: the name without
-/// its ".url". Empty for a block that is none and for any other file.
+/// its ".url". Empty for a malformed block and for any other file.
 [[nodiscard]] std::string ParseLinkFileTitle(std::string_view block, bool wide,
                                              const CodePage& ansi);
 

@@ -17,12 +17,12 @@ Form::~Form() {
 }
 
 std::unique_ptr<WindowPeer> Form::NewPeer(WindowPeer* /*parent*/) {
-  PeerSpec spec = SpecIn(nullptr);
-  spec.InTaskbar = inTaskbar_;
-  spec.Frame = Frame();
-  spec.MinimizeBox = minimizeBox_;
-  spec.Owner = owner_ != nullptr ? owner_->Peer() : nullptr;
-  return Windows().CreatePeer(spec, *this);
+  PeerSpec wanted = SpecIn(nullptr);
+  wanted.InTaskbar = inTaskbar_;
+  wanted.Frame = Frame();
+  wanted.MinimizeBox = minimizeBox_;
+  wanted.Owner = owner_ != nullptr ? owner_->Peer() : nullptr;
+  return Windows().CreatePeer(wanted, *this);
 }
 
 void Form::PeerMade() {

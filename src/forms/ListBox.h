@@ -9,7 +9,7 @@
 
 namespace corvelle::forms {
 
-/// A list of rows, of which at most one is chosen. Rows count from 0; -1 is none.
+/// A list of rows, of which at most one is chosen. Rows count from 0; -1 means no row.
 class ListBox final : public SystemControl, private ListBoxEvents {
  public:
   ListBox(Window& container, std::string name) : SystemControl(container, std::move(name)) {}

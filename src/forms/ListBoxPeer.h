@@ -16,7 +16,7 @@ class ListBoxEvents {
   virtual void OnRowActivated() = 0;
 };
 
-/// The window of a list box. Rows count from 0; -1 is none.
+/// The window of a list box. Rows count from 0; -1 means no row.
 class ListBoxPeer : public WindowPeer {
  public:
   virtual void Insert(int at, std::string_view text) = 0;

@@ -17,7 +17,7 @@ struct Accelerator {
   friend bool operator==(const Accelerator&, const Accelerator&) = default;
 };
 
-/// What stands behind the tab of a caption: "Ctrl+S", "F2", "Shift+Ins", "Del". Nothing when there
+/// The text after the tab of a caption: "Ctrl+S", "F2", "Shift+Ins", "Del". Nothing when there
 /// is no tab, or no key of that name.
 [[nodiscard]] std::optional<Accelerator> AcceleratorOf(std::string_view caption);
 
@@ -28,7 +28,7 @@ struct Accelerator {
 /// The lines of a menu with those of all menus in it.
 [[nodiscard]] int CountLines(const std::vector<PopupItem>& items);
 
-/// The line with a number; null when there is none.
+/// The line with a number; null when no line has it.
 [[nodiscard]] const PopupItem* LineAt(const std::vector<PopupItem>& items, int number);
 
 }  // namespace corvelle::forms

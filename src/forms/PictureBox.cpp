@@ -9,10 +9,10 @@ namespace corvelle::forms {
 PictureBox::PictureBox(Window& container, std::string name) : Surface(container, std::move(name)) {}
 
 std::unique_ptr<WindowPeer> PictureBox::NewPeer(WindowPeer* parent) {
-  PeerSpec spec = SpecIn(parent);
-  spec.Kind = PeerKind::PictureBox;
-  spec.TabStop = TabStop();
-  return Windows().CreatePeer(spec, *this);
+  PeerSpec wanted = SpecIn(parent);
+  wanted.Kind = PeerKind::PictureBox;
+  wanted.TabStop = TabStop();
+  return Windows().CreatePeer(wanted, *this);
 }
 
 void PictureBox::OnKeyDown(int keyCode, ShiftState shift) {

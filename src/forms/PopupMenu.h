@@ -5,7 +5,7 @@
 
 namespace corvelle::forms {
 
-/// One line of a popup menu. What stands behind a tab in the caption is shown at the right, for the
+/// One line of a popup menu. The text after a tab in the caption is shown at the right, for the
 /// key that does the same. A "&" in the caption marks the letter that chooses the line, two of
 /// them are one character.
 struct PopupItem {

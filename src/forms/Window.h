@@ -119,7 +119,8 @@ class Window : public Control, protected WindowEvents {
   void FocusFirst();
   /// The Tab key brought the focus.
   virtual void TabbedInto() {}
-  /// The context menu is asked for, at a point of the window in pixels. False if there is none.
+  /// The context menu is asked for, at a point of the window in pixels. False when the window has
+  /// no context menu.
   virtual bool MenuAsked(PixelPoint /*at*/, bool /*byKey*/) { return false; }
 
   // Events that a kind of window may have no use for.

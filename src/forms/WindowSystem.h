@@ -138,7 +138,7 @@ class WindowPeer {
   virtual void SetWindowPos(InsertAfter after, unsigned flags) = 0;
   /// Of a form that the user can size: he cannot make it smaller than this. The program can.
   virtual void SetLeastSize(PixelSize size) = 0;
-  /// The menu bar of a form in a frame of the system; without lines there is none.
+  /// The menu bar of a form in a frame of the system; an empty list removes it.
   virtual void SetMenuBar(const std::vector<PopupItem>& items) = 0;
 
   /// A canvas on the window's pixels on the screen, for drawing that the next paint wipes out;

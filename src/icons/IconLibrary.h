@@ -37,7 +37,7 @@ class IconLibrary final : public IconLibraryPort {
 /// Names of the categories, sorted: those of the .ini files without the ending.
 [[nodiscard]] std::vector<std::string> LibraryCategories(Program& program);
 
-/// File names of the icons of a category. Empty when there is none of that name.
+/// File names of the icons of a category. Empty when no category has that name.
 [[nodiscard]] std::vector<std::string> CategoryIcons(Program& program, std::string_view category);
 
 /// File names of all icons, from the prepared list if there is one; else in the order in which the

@@ -14,7 +14,7 @@ constexpr std::string_view kExe = ".exe";
 /// an earlier choice wrote in the second.
 constexpr std::string_view kPlaces[] = {"\\UserChoiceLatest\\ProgId", "\\UserChoice"};
 
-/// The class that the user chose; empty where there is none.
+/// The class that the user chose; empty when the user chose nothing there.
 std::string ChosenClass(const Registry& keys, std::string_view protocol) {
   for (const std::string_view place : kPlaces) {
     const auto name =

@@ -40,7 +40,7 @@ struct IconCell {
                                                    std::string_view text);
 
 /// The place in `shown` of the next cell behind `current` whose name begins with the character,
-/// ignoring case; from the first one on after the last. -1 when there is none; `current` may be -1.
+/// ignoring case; from the first one on after the last. -1 when no cell fits; `current` may be -1.
 [[nodiscard]] int CellByLetter(const std::vector<IconCell>& cells,
                                const std::vector<std::size_t>& shown, int current,
                                char32_t character);

@@ -10,7 +10,7 @@ class CrashReports {
   virtual ~CrashReports() = default;
 
   /// Path of the report of the last crash that nobody has been told of; each one is given once.
-  /// Empty when there is none.
+  /// Empty when no report is left.
   [[nodiscard]] virtual std::string TakeUntold() = 0;
 };
 

@@ -115,7 +115,7 @@ std::size_t ButtonOrder::FindPath(std::string_view path) const noexcept {
 
 std::string ButtonOrder::KeyOnStrip(std::string_view key, std::size_t at) const {
   if (at >= nodes_.size() || (!IsButtonTag(key) && !IsMenuTag(key))) return std::string(key);
-  // A hidden button has no number, and number 0 is none.
+  // A hidden button has no number, and number 0 names no button.
   if (!nodes_[at].Checked) return std::string(key.substr(0, 1)) + "0";
   const auto shown = std::count_if(nodes_.begin(), nodes_.begin() + static_cast<std::ptrdiff_t>(at),
                                    [](const ButtonNode& node) { return node.Checked; });

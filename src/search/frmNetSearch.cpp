@@ -156,7 +156,7 @@ void frmNetSearch::Form_Unload() {
     static_cast<void>(
         files.Replace(PathOf(kHistoryFile), FormatHistory(Queries, program_.Services.Ansi)));
   }
-  // Most often there is none.
+  // Most often the file does not exist.
   static_cast<void>(files.Remove(PathOf(kScratchPage)));
 }
 

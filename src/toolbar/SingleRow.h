@@ -63,7 +63,8 @@ class SingleRow final : public SingleButtonsPort {
   FileStatus DeleteSingle(std::string_view file) override { return DeletePasteSB(file, kDelete); }
   FileStatus PasteSingle(std::string_view file) override { return DeletePasteSB(file, kPaste); }
   FileStatus UndoDeleteSB(std::string_view file) override;
-  /// Full path of the button or separator under the pointer; empty when there is none.
+  /// Full path of the button or separator under the pointer; empty when the pointer is over
+  /// neither.
   [[nodiscard]] std::string FileUnderPointer() { return Under().File; }
   /// Rewrites the files without the button of `file`, or with the clipboard's entry before it.
   /// Whoever calls it reads the row anew. A disk that refuses leaves the row as it was.

@@ -407,7 +407,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   /// Shows where the strip would go, and what a pull along its own edge looks like.
   void FollowPull();
   void ClearOutline();
-  /// Goes to the edge of the outline. False when there is none to go to.
+  /// Goes to the edge of the outline. False when no outline is shown.
   bool EndPull();
   void DrawDragLook();
   void EndSlide();

@@ -33,7 +33,7 @@ class Writer {
   std::size_t length_ = 0;
 };
 
-/// The number at the beginning, which is taken away; nothing when there is none.
+/// The number at the beginning, which is taken away; nothing when the text does not begin with one.
 std::optional<std::uintptr_t> TakeNumber(std::wstring_view& text) noexcept {
   if (text.empty() || text.front() != L' ') return std::nullopt;
   text.remove_prefix(1);

@@ -7,7 +7,7 @@
 namespace corvelle::win32 {
 
 /// Owns one handle of the system and gives it back at its end. `Traits` names the handle's type,
-/// the value that is none, and how to give it back.
+/// the value that means no handle, and how to give it back.
 template <class Traits>
 class UniqueHandle {
  public:

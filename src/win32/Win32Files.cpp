@@ -309,7 +309,7 @@ FileStatus Win32Files::Copy(std::string_view from, std::string_view to) {
   const bool wasThere = AttributesOf(*wideTo) != INVALID_FILE_ATTRIBUTES;
   if (CopyFileW(wideFrom->c_str(), wideTo->c_str(), TRUE) != 0) return Done{};
   const DWORD error = GetLastError();
-  // A copy that was cut short is none.
+  // Leaves no truncated copy behind.
   if (!wasThere) DeleteFileW(wideTo->c_str());
   return FileErrorOf(error);
 }

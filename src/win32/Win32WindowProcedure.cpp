@@ -192,7 +192,7 @@ void Win32Window::PositionChanged(const WINDOWPOS& position) {
     const HWND captured = GetCapture();
     if (captured == handle_ || IsChild(handle_, captured) != 0) ReleaseCapture();
   }
-  // The place of a window in the task bar is none.
+  // A minimized window has no bounds to tell.
   if (events_ == nullptr || IsIconic(handle_) != 0) return;
   const PixelRect bounds = Bounds();
   if (bounds == told_) return;

@@ -13,7 +13,7 @@ namespace {
 
 using Names = std::set<std::string>;
 
-/// The ports that nobody stands behind.
+/// The ports that no part fills.
 Names NullPorts(const WindowPorts& ports) {
   Names names;
   const auto look = [&names](const char* name, const void* port) {
