@@ -7,54 +7,43 @@
 namespace corvelle::forms {
 
 void ComboBox::ShowSelected() {
-  if (selected_ >= 0) {
-    text_ = items_[static_cast<std::size_t>(selected_)];
+  if (Selected() >= 0) {
+    text_ = rows_.Text(Selected());
   } else if (!entry_) {
     text_.clear();
   }
   if (Own() == nullptr) return;
-  Own()->Select(selected_);
-  if (entry_ && selected_ < 0) Own()->SetText(text_);
+  Own()->Select(Selected());
+  if (entry_ && Selected() < 0) Own()->SetText(text_);
 }
 
 void ComboBox::Insert(int at, std::string text) {
-  if (at < 0 || at > Count()) return;
-  items_.insert(items_.begin() + at, std::move(text));
-  if (selected_ >= at) ++selected_;
-  if (Own() == nullptr) return;
-  Own()->Insert(at, items_[static_cast<std::size_t>(at)]);
+  if (!rows_.Insert(at, std::move(text))) return;
+  if (Own() != nullptr) Own()->Insert(at, rows_.Text(at));
   ShowSelected();
 }
 
 void ComboBox::Remove(int at) {
-  if (at < 0 || at >= Count()) return;
-  items_.erase(items_.begin() + at);
-  if (selected_ == at) {
-    selected_ = -1;
-  } else if (selected_ > at) {
-    --selected_;
-  }
-  if (Own() == nullptr) return;
-  Own()->Remove(at);
+  if (!rows_.Remove(at)) return;
+  if (Own() != nullptr) Own()->Remove(at);
   ShowSelected();
 }
 
 void ComboBox::Clear() {
-  items_.clear();
-  selected_ = -1;
+  rows_.Clear();
   text_.clear();
   if (Own() != nullptr) Own()->Clear();
 }
 
 void ComboBox::Select(int row) {
-  selected_ = row >= 0 && row < Count() ? row : -1;
+  rows_.Select(row);
   ShowSelected();
 }
 
 void ComboBox::SetText(std::string text) {
   if (!entry_) return;
   text_ = std::move(text);
-  selected_ = -1;
+  rows_.Select(-1);
   if (Own() != nullptr) Own()->SetText(text_);
 }
 
@@ -67,7 +56,7 @@ std::unique_ptr<WindowPeer> ComboBox::NewPeer(WindowPeer* parent) {
 }
 
 void ComboBox::PeerMade() {
-  for (int row = 0; row < Count(); ++row) Own()->Insert(row, items_[static_cast<std::size_t>(row)]);
+  for (int row = 0; row < Count(); ++row) Own()->Insert(row, rows_.Text(row));
   ShowSelected();
 }
 
@@ -97,9 +86,9 @@ void ComboBox::TabbedInto() {
 
 void ComboBox::OnChosen() {
   const int now = Own()->Selected();
-  if (now == selected_) return;
-  selected_ = now;
-  if (selected_ >= 0 && selected_ < Count()) text_ = items_[static_cast<std::size_t>(selected_)];
+  if (now == Selected()) return;
+  rows_.Select(now);
+  if (Selected() >= 0) text_ = rows_.Text(Selected());
   const std::function<void()> click = Click;
   if (click) click();
 }
@@ -108,7 +97,7 @@ void ComboBox::OnEntryChanged() {
   std::string now = Own()->Text();
   if (now == text_) return;
   text_ = std::move(now);
-  selected_ = Own()->Selected();
+  rows_.Select(Own()->Selected());
   const std::function<void()> change = Change;
   if (change) change();
 }

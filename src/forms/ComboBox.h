@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/ComboBoxPeer.h"
+#include "forms/ListRows.h"
 #include "forms/SystemControl.h"
 
 namespace corvelle::forms {
@@ -17,14 +18,14 @@ class ComboBox final : public SystemControl, private ComboBoxEvents {
   ComboBox(Window& container, std::string name, bool withEntry)
       : SystemControl(container, std::move(name)), entry_(withEntry) {}
 
-  [[nodiscard]] const std::vector<std::string>& Items() const noexcept { return items_; }
-  [[nodiscard]] int Count() const noexcept { return static_cast<int>(items_.size()); }
+  [[nodiscard]] const std::vector<std::string>& Items() const noexcept { return rows_.Items(); }
+  [[nodiscard]] int Count() const noexcept { return rows_.Count(); }
   void Add(std::string text) { Insert(Count(), std::move(text)); }
   void Insert(int at, std::string text);
   void Remove(int at);
   /// The text of an entry goes too.
   void Clear();
-  [[nodiscard]] int Selected() const noexcept { return selected_; }
+  [[nodiscard]] int Selected() const noexcept { return rows_.Selected(); }
   void Select(int row);
   /// What the line shows.
   [[nodiscard]] const std::string& Text() const noexcept { return text_; }
@@ -54,8 +55,7 @@ class ComboBox final : public SystemControl, private ComboBoxEvents {
   void ShowSelected();
 
   bool entry_;
-  std::vector<std::string> items_;
-  int selected_ = -1;
+  ListRows rows_;
   std::string text_;
   bool dropped_ = false;
 };

@@ -7,36 +7,25 @@
 namespace corvelle::forms {
 
 void ListBox::Insert(int at, std::string text) {
-  if (at < 0 || at > Count()) return;
-  items_.insert(items_.begin() + at, std::move(text));
-  if (selected_ >= at) ++selected_;
-  if (Own() == nullptr) return;
-  Own()->Insert(at, items_[static_cast<std::size_t>(at)]);
-  Own()->Select(selected_);
+  if (!rows_.Insert(at, std::move(text)) || Own() == nullptr) return;
+  Own()->Insert(at, rows_.Text(at));
+  Own()->Select(Selected());
 }
 
 void ListBox::Remove(int at) {
-  if (at < 0 || at >= Count()) return;
-  items_.erase(items_.begin() + at);
-  if (selected_ == at) {
-    selected_ = -1;
-  } else if (selected_ > at) {
-    --selected_;
-  }
-  if (Own() == nullptr) return;
+  if (!rows_.Remove(at) || Own() == nullptr) return;
   Own()->Remove(at);
-  Own()->Select(selected_);
+  Own()->Select(Selected());
 }
 
 void ListBox::Clear() {
-  items_.clear();
-  selected_ = -1;
+  rows_.Clear();
   if (Own() != nullptr) Own()->Clear();
 }
 
 void ListBox::Select(int row) {
-  selected_ = row >= 0 && row < Count() ? row : -1;
-  if (Own() != nullptr) Own()->Select(selected_);
+  rows_.Select(row);
+  if (Own() != nullptr) Own()->Select(Selected());
 }
 
 void ListBox::SetTopRow(int row) {
@@ -48,14 +37,14 @@ std::unique_ptr<WindowPeer> ListBox::NewPeer(WindowPeer* parent) {
 }
 
 void ListBox::PeerMade() {
-  for (int row = 0; row < Count(); ++row) Own()->Insert(row, items_[static_cast<std::size_t>(row)]);
-  Own()->Select(selected_);
+  for (int row = 0; row < Count(); ++row) Own()->Insert(row, rows_.Text(row));
+  Own()->Select(Selected());
 }
 
 void ListBox::OnRowChosen() {
   const int now = Own()->Selected();
-  if (now == selected_) return;
-  selected_ = now;
+  if (now == Selected()) return;
+  rows_.Select(now);
   const std::function<void()> click = Click;
   if (click) click();
 }

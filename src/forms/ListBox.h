@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/ListBoxPeer.h"
+#include "forms/ListRows.h"
 #include "forms/SystemControl.h"
 
 namespace corvelle::forms {
@@ -14,15 +15,15 @@ class ListBox final : public SystemControl, private ListBoxEvents {
  public:
   ListBox(Window& container, std::string name) : SystemControl(container, std::move(name)) {}
 
-  [[nodiscard]] const std::vector<std::string>& Items() const noexcept { return items_; }
-  [[nodiscard]] int Count() const noexcept { return static_cast<int>(items_.size()); }
+  [[nodiscard]] const std::vector<std::string>& Items() const noexcept { return rows_.Items(); }
+  [[nodiscard]] int Count() const noexcept { return rows_.Count(); }
   void Add(std::string text) { Insert(Count(), std::move(text)); }
   /// Rows from `at` on move down; the chosen one stays chosen.
   void Insert(int at, std::string text);
   /// Nothing is chosen any more when the chosen row goes.
   void Remove(int at);
   void Clear();
-  [[nodiscard]] int Selected() const noexcept { return selected_; }
+  [[nodiscard]] int Selected() const noexcept { return rows_.Selected(); }
   void Select(int row);
   /// The first row that is seen; 0 while the form is not loaded.
   [[nodiscard]] int TopRow() const { return Own() != nullptr ? Own()->TopRow() : 0; }
@@ -46,8 +47,7 @@ class ListBox final : public SystemControl, private ListBoxEvents {
   void OnRowChosen() override;
   void OnRowActivated() override;
 
-  std::vector<std::string> items_;
-  int selected_ = -1;
+  ListRows rows_;
 };
 
 }  // namespace corvelle::forms
