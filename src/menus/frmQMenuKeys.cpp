@@ -1,7 +1,6 @@
 // The keyboard: the selection, the pages, type-ahead.
 
 #include "core/Program.h"
-#include "menus/TypeAhead.h"
 #include "menus/frmQMenu.h"
 #include "platform/Input.h"
 
@@ -57,7 +56,7 @@ void frmQMenu::Form_KeyDown(int keyCode, ShiftState /*shift*/) {
 }
 
 void frmQMenu::MoveCursor(int step) {
-  const int item = StepItem(CurItem, FirstLabel, LastLabel, step);
+  const int item = StepItem(CurItem, pages_.FirstLabel(), pages_.LastLabel(), step);
   if (item == 0) return;
   KeyActs();
   PrevItem = program_.SelectedItem;
@@ -65,11 +64,12 @@ void frmQMenu::MoveCursor(int step) {
 }
 
 void frmQMenu::MovePage(int keyCode) {
-  const std::optional<int> page = PageForKey(keyCode, CurMenu, Slides);
+  const std::optional<int> page = PageForKey(keyCode, pages_.CurMenu(), pages_.Slides());
   if (!page) return;
   KeyActs();
   // Home and End leave the cursor where it was: no item of theirs is near it.
-  if (keyCode == forms::key::PageUp || keyCode == forms::key::PageDown) CurItem = LastLabel;
+  if (keyCode == forms::key::PageUp || keyCode == forms::key::PageDown)
+    CurItem = pages_.LastLabel();
   TurnTo(*page);
   ActiveArrow = kNoArrow;
 }
@@ -87,14 +87,13 @@ void frmQMenu::Form_KeyPress(char32_t character) {
 }
 
 void frmQMenu::TypeAheadTo(char32_t character) {
-  const TypeAheadHit found =
-      FindTypeAhead(menu_->MenuInfo.CharArray, CurItem, FirstLabel, character);
+  const TypeAheadHit found = items_.Find(CurItem, pages_.FirstLabel(), character);
   if (found.Item == 0) {
     program_.Services.Pointer.Beep();
     return;
   }
   KeyActs();
-  if (found.Page != CurMenu) TurnTo(found.Page);
+  if (found.Page != pages_.CurMenu()) TurnTo(found.Page);
   PrevItem = program_.SelectedItem;
   SelectItem(found.Item);
   // A repeated key walks on to the next item with that letter.

@@ -16,7 +16,7 @@ class PagedMenu : public ::testing::Test {
  protected:
   void SetUp() override {
     desk_.Open(1, Items(100));
-    ASSERT_EQ(desk_.Menu.Slides, 2);
+    ASSERT_EQ(desk_.Menu.Pages().Slides(), 2);
   }
   void Key(int key) { desk_.World.Desktop.PressKey(key); }
   int Selected() const { return desk_.TheProgram.SelectedItem; }
@@ -161,16 +161,18 @@ TEST(frmQMenuKeys, F5ReadsTheIconsAndTheMenuAnew) {
   desk.Open(1, {Item("Alpha", "C:\\Tools\\tool.exe")});
   desk.World.Icons.ClearCounts();
   desk.World.Desktop.PressKey(forms::key::F5);
-  // The item's, the header's, and the blank document that stands in for that.
-  EXPECT_EQ(desk.World.Icons.Lookups(), 3);
   EXPECT_EQ(desk.Strip.Times("RefreshMenu F2"), 1);
+  desk.Menu.ForgetMenu("F2");
+  desk.Open(1, {Item("Changed", "C:\\Tools\\tool.exe")});
+  EXPECT_EQ(desk.World.Icons.Lookups(), 1);
+  EXPECT_EQ(desk.Menu.Lbl[1].Caption(), "Changed");
 }
 
 TEST_F(PagedMenu, UpAtTheFirstItemWrapsAndTurnsNoPage) {
   Key(forms::key::Down);
   Key(forms::key::Up);
   EXPECT_EQ(Selected(), 34);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, PagingKeysTurnToWhereTheyLead) {
@@ -191,9 +193,9 @@ TEST_F(PagedMenu, PagingKeysTurnToWhereTheyLead) {
   };
   for (const Row& row : rows) {
     Key(row.key);
-    EXPECT_EQ(desk_.Menu.CurMenu, row.page) << row.name;
-    EXPECT_EQ(desk_.Menu.FirstLabel, row.first) << row.name;
-    EXPECT_EQ(desk_.Menu.LastLabel, row.last) << row.name;
+    EXPECT_EQ(desk_.Menu.Pages().CurMenu(), row.page) << row.name;
+    EXPECT_EQ(desk_.Menu.Pages().FirstLabel(), row.first) << row.name;
+    EXPECT_EQ(desk_.Menu.Pages().LastLabel(), row.last) << row.name;
     for (int i = 1; i <= desk_.Menu.LoadedLabels(); ++i) {
       EXPECT_EQ(desk_.Menu.Lbl[i].Visible(), i >= row.first && i <= row.last) << row.name << i;
     }
@@ -232,14 +234,14 @@ TEST_F(PagedMenu, AfterEndALetterIsLookedForFromTheLastPageOn) {
   Key(forms::key::End);
   desk_.World.Desktop.Type("i");
   EXPECT_EQ(Selected(), 69);
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
 }
 
 TEST_F(PagedMenu, AfterPgDnALetterIsLookedForFromThePageThatWasLeft) {
   Key(forms::key::PageDown);
   desk_.World.Desktop.Type("i");
   EXPECT_EQ(Selected(), 34);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, ReopeningShowsThePageOnWhichItWasLeft) {
@@ -249,8 +251,8 @@ TEST_F(PagedMenu, ReopeningShowsThePageOnWhichItWasLeft) {
   desk_.Menu.HideMenu();
   desk_.World.Files.ClearLog();
   desk_.Reopen(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
-  EXPECT_EQ(desk_.Menu.FirstLabel, 35);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
+  EXPECT_EQ(desk_.Menu.Pages().FirstLabel(), 35);
   EXPECT_TRUE(desk_.Menu.Lbl[35].Visible());
   EXPECT_FALSE(desk_.Menu.Lbl[1].Visible());
   EXPECT_TRUE(desk_.Menu.LblButton[0].Enabled());
@@ -261,9 +263,9 @@ TEST_F(PagedMenu, ARebuiltMenuGoesBackToItsPage) {
   Key(forms::key::End);
   desk_.Menu.ForgetMenu("F2");
   desk_.Reopen(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   desk_.Menu.GetCurMenu();
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
   EXPECT_TRUE(desk_.Menu.Lbl[69].Visible());
   EXPECT_FALSE(desk_.Menu.Lbl[1].Visible());
 }
@@ -273,7 +275,7 @@ TEST_F(PagedMenu, AShorterMenuGoesBackToItsLastPage) {
   desk_.Menu.ForgetMenu("F2");
   desk_.Open(1, Items(40));
   desk_.Menu.GetCurMenu();
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
 }
 
 TEST_F(PagedMenu, AfterARefreshThePageIsTheOneThatWasUpAndNoneOfLongAgo) {
@@ -282,39 +284,39 @@ TEST_F(PagedMenu, AfterARefreshThePageIsTheOneThatWasUpAndNoneOfLongAgo) {
   // Something that changed the menu meanwhile: it begins at its first page again.
   desk_.Menu.ForgetMenu("F2");
   desk_.Reopen(1);
-  ASSERT_EQ(desk_.Menu.CurMenu, 0);
+  ASSERT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   desk_.Menu.HideMenu();
   desk_.Menu.ForgetMenu("F2");
   desk_.Reopen(1);
   desk_.Menu.GetCurMenu();
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, ThePageOfOneMenuIsNoneOfAnother) {
   Key(forms::key::End);
   desk_.Open(2, Items(100));
   desk_.Menu.GetCurMenu();
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, TheArrowButtonsTurnThePages) {
   desk_.ClickArrow(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
   desk_.ClickArrow(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
   desk_.ClickArrow(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
   desk_.ClickArrow(0);
   desk_.ClickArrow(0);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
-  EXPECT_EQ(desk_.Menu.FirstLabel, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
+  EXPECT_EQ(desk_.Menu.Pages().FirstLabel(), 1);
   EXPECT_TRUE(desk_.Menu.MenuVisible());
 }
 
 TEST_F(PagedMenu, ADoubleClickOnAnArrowTurnsTwoPages) {
   desk_.PointAt(desk_.ArrowPoint(1));
   desk_.World.Desktop.DoubleClick();
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
 }
 
 TEST_F(PagedMenu, AnArrowIsFramedUnderThePointerAndSunkenWhilePressed) {
@@ -334,7 +336,7 @@ TEST_F(PagedMenu, AnArrowIsFramedUnderThePointerAndSunkenWhilePressed) {
   EXPECT_EQ(desk_.Menu.LineRight.BorderColor(), forms::color::Highlight3D);
   desk_.World.Desktop.Release();
   EXPECT_EQ(desk_.Menu.LineLeft.BorderColor(), forms::color::Highlight3D);
-  desk_.PointAtItem(desk_.Menu.FirstLabel);
+  desk_.PointAtItem(desk_.Menu.Pages().FirstLabel());
   EXPECT_FALSE(desk_.Menu.LineLeft.Visible());
   EXPECT_EQ(desk_.Menu.ActiveArrow, frmQMenu::kNoArrow);
 }
@@ -344,14 +346,14 @@ TEST_F(PagedMenu, AReleaseBesideTheArrowTurnsNothing) {
   desk_.World.Desktop.Press();
   desk_.PointAtItem(5);
   desk_.World.Desktop.Release();
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   EXPECT_TRUE(desk_.Menu.MenuVisible());
 }
 
 TEST_F(PagedMenu, TheRightButtonTurnsNothing) {
   desk_.PointAt(desk_.ArrowPoint(1));
   desk_.World.Desktop.Click(MouseButton::Right);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, LeavingTheMenuTakesTheFrameOfAnArrowAway) {
@@ -426,7 +428,7 @@ TEST(frmQMenuTypeAhead, ALetterThatOnlyLaterPagesHoldTurnsToThem) {
   for (const Row& row : {Row{5, 0}, Row{50, 1}, Row{90, 2}, Row{5, 0}}) {
     desk.World.Desktop.Type("z");
     EXPECT_EQ(desk.TheProgram.SelectedItem, row.item);
-    EXPECT_EQ(desk.Menu.CurMenu, row.page) << row.item;
+    EXPECT_EQ(desk.Menu.Pages().CurMenu(), row.page) << row.item;
     EXPECT_EQ(desk.BarredItem(), row.item);
     EXPECT_TRUE(desk.Menu.Lbl[row.item].Visible());
   }
@@ -448,24 +450,24 @@ TEST_F(PagedMenu, AReleaseJustPastTheArrowsSideTurnsNothing) {
   const forms::Label& arrow = desk_.Menu.LblButton[1];
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, arrow.Width(), 0);
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 0, arrow.Height());
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, arrow.Width() - 1, arrow.Height() - 1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
 }
 
 TEST_F(PagedMenu, AReleaseOnTheArrowsFirstPixelTurnsThePage) {
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 0, 0);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
   desk_.Menu.LblButton_MouseUp(0, MouseButton::Left, -1, 0);
   desk_.Menu.LblButton_MouseUp(0, MouseButton::Left, 0, -1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
 }
 
 TEST_F(PagedMenu, WhatIsCarriedIsPutDownOnAnArrowAndTurnsNoPage) {
   desk_.TheProgram.Entry.ItemDragging = true;
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 15, 15);
   desk_.TheProgram.Entry.ItemDragging = false;
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, ARaisedArrowIsNotSeenInTheNextMenu) {
