@@ -42,6 +42,7 @@ frmQMenu::frmQMenu(Program& program)
       LineRight(*this, "LineRight"),
       LineDown(*this, "LineDown"),
       Timer1(program.Windows),
+      KeysTimer(program.Windows),
       program_(program),
       icons_(program),
       items_(program.Services.Ansi),
@@ -97,6 +98,8 @@ void frmQMenu::WireEvents() {
   };
   Paint = [this] { Form_Paint(); };
   Timer1.Tick = [this] { Timer1_Timer(); };
+  KeysTimer.Tick = [this] { ActHeldKeys(); };
+  KeysTimer.SetInterval(1);
   WireDrags();
   for (int i = 0; i <= 1; ++i) {
     WireArrow(LblButton[i], i);
@@ -131,6 +134,8 @@ void frmQMenu::Form_Load() {
 
 void frmQMenu::Form_Unload() {
   Timer1.SetEnabled(false);
+  KeysTimer.SetEnabled(false);
+  held_.Forget();
   MenuReady = false;
 }
 
@@ -198,6 +203,7 @@ void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   if (!IsLoaded()) return;
   if (EqualNoCase(key, kMainMenuKey)) CheckLabels();
   PresentMenu();
+  AwaitHeldKeys();
 }
 
 bool frmQMenu::FoldersChanged(std::string_view menuKey) {
@@ -266,6 +272,7 @@ void frmQMenu::HideMenu() {
   // A refresh hides the menu first, and comes back to the page that was up.
   if (Visible()) pages_.Save();
   Hide();
+  if (!program_.MenuBuilding) held_.Forget();
 }
 
 void frmQMenu::ResetQMenu() {

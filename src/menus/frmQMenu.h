@@ -16,6 +16,7 @@
 #include "forms/Graphic.h"
 #include "forms/Timer.h"
 #include "menus/FolderMenusPort.h"
+#include "menus/HeldKeys.h"
 #include "menus/IconPrefetch.h"
 #include "menus/MenuCache.h"
 #include "menus/MenuDrops.h"
@@ -164,6 +165,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   forms::Line LineRight;
   forms::Line LineDown;
   forms::Timer Timer1;
+  forms::Timer KeysTimer;
 
   // ---- state ----
 
@@ -304,6 +306,11 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void DrawArrowFrame(int index, bool sunken);
 
   // Keys (frmQMenuKeys.cpp).
+  /// True for a key that comes before the menu is up: it acts on it then.
+  [[nodiscard]] bool HoldsKey(const HeldKey& key);
+  /// Lets them act as soon as nothing is being built.
+  void AwaitHeldKeys();
+  void ActHeldKeys();
   void KeyActs();
   void MoveCursor(int step);
   void MovePage(int keyCode);
@@ -330,6 +337,9 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   bool shellMenuUp_ = false;
   /// The left button went down in this menu and has not come up again.
   bool pressed_ = false;
+  HeldKeys held_;
+  /// One of them acts at this moment.
+  bool actsHeldKey_ = false;
   std::map<std::string, Picture, std::less<>> glyphs_;
 };
 

@@ -1,6 +1,9 @@
 // The keyboard: the selection, the pages, type-ahead.
 
+#include <optional>
+
 #include "core/Program.h"
+#include "forms/Scopes.h"
 #include "menus/frmQMenu.h"
 #include "platform/Input.h"
 
@@ -8,13 +11,44 @@ namespace corvelle {
 
 using forms::ShiftState;
 
+// Until the menu is up nothing can be selected in it, and the focus may be anywhere.
+bool frmQMenu::HoldsKey(const HeldKey& key) {
+  if (actsHeldKey_ || (!program_.MenuBuilding && held_.IsEmpty())) return false;
+  held_.Hold(key);
+  AwaitHeldKeys();
+  return true;
+}
+
+// By a turn of their own: whoever had the menu built is done with it then.
+void frmQMenu::AwaitHeldKeys() {
+  if (!held_.IsEmpty() && !program_.MenuBuilding) KeysTimer.SetEnabled(true);
+}
+
+void frmQMenu::ActHeldKeys() {
+  KeysTimer.SetEnabled(false);
+  const auto watch = MakeWatch();
+  while (!watch.Gone() && !program_.MenuBuilding) {
+    if (!MenuVisible()) held_.Forget();
+    const std::optional<HeldKey> key = held_.Take();
+    if (!key) return;
+    const forms::FlagScope acting(actsHeldKey_);
+    if (key->Code != 0) {
+      key->FromStrip ? ActivateKeyDown(key->Code) : Form_KeyDown(key->Code, {});
+    } else {
+      key->FromStrip ? xKeyPress(key->Character) : Form_KeyPress(key->Character);
+    }
+  }
+}
+
 void frmQMenu::ActivateKeyDown(int keyCode) {
+  if (keyCode != 0 && HoldsKey({.Code = keyCode, .FromStrip = true})) return;
   TakeFocus();
   CurItem = 0;
   Form_KeyDown(keyCode, {});
 }
 
 void frmQMenu::xKeyPress(char32_t character) {
+  if (HoldsKey({.Character = character, .FromStrip = true})) return;
   TakeFocus();
   Form_KeyPress(character);
 }
@@ -27,7 +61,7 @@ void frmQMenu::KeyActs() {
 }
 
 void frmQMenu::Form_KeyDown(int keyCode, ShiftState /*shift*/) {
-  if (program_.Entry.ItemDragging || program_.MenuBuilding) return;
+  if (program_.Entry.ItemDragging || HoldsKey({.Code = keyCode})) return;
   program_.KeyboardOnToolbar = false;
   switch (keyCode) {
     case forms::key::Escape:
@@ -75,7 +109,7 @@ void frmQMenu::MovePage(int keyCode) {
 }
 
 void frmQMenu::Form_KeyPress(char32_t character) {
-  if (program_.Entry.ItemDragging || program_.MenuBuilding) return;
+  if (program_.Entry.ItemDragging || HoldsKey({.Character = character})) return;
   program_.KeyboardOnToolbar = false;
   if (character == forms::key::Enter) {
     const int index = program_.SelectedItem;

@@ -51,6 +51,7 @@ void frmQMenu::TurnTo(int page) {
   ShowSlide();
   const int used = page < pages_.PrevPage() ? 0 : 1;
   if (!LblButton[used].Enabled()) HideUpDownButton();
+  AwaitHeldKeys();
 }
 
 void frmQMenu::GetCurMenu() {

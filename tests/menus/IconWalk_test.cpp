@@ -228,6 +228,12 @@ TEST_F(Fetched, TheProgramsOwnMenuIsWrittenBeforeItIsBuilt) {
   desk_.Menu.ShowMenu("Q1", file);
   EXPECT_EQ(desk_.World.Files.Get(file).value_or("").size(), 16 * kRecordLength);
   EXPECT_EQ(desk_.Menu.Items().Count(), 11);
+  // A menu that is built needs no file.
+  desk_.World.Files.Vanish(file);
+  desk_.Menu.HideMenu();
+  desk_.Menu.ShowMenu("Q1", file);
+  EXPECT_EQ(desk_.Menu.Items().Count(), 11);
+  EXPECT_FALSE(desk_.World.Files.Has(file));
 }
 
 TEST_F(Fetched, AllIconsOfMenusAndLinksAreThereBeforehand) {

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
+#include "menus/HeldKeys.h"
 #include "menus/MenuDesk.h"
 
 namespace corvelle {
@@ -154,6 +156,93 @@ TEST(frmQMenuKeys, ADisabledItemIsReachedWithoutABar) {
   EXPECT_TRUE(desk.Menu.MenuVisible());
   desk.World.Desktop.PressKey(forms::key::Down);
   EXPECT_EQ(desk.BarredItem(), 3);
+}
+
+TEST(HeldKeys, ComeInTheirOrderAndNotMoreThanAHandTypesAhead) {
+  HeldKeys keys;
+  EXPECT_EQ(keys.Take(), std::nullopt);
+  for (int i = 1; i <= 40; ++i) keys.Hold({.Code = i});
+  for (int i = 1; i <= 32; ++i) EXPECT_EQ(keys.Take(), HeldKey{.Code = i});
+  EXPECT_TRUE(keys.IsEmpty());
+  keys.Hold({.Character = U'a', .FromStrip = true});
+  EXPECT_EQ(keys.Take(), (HeldKey{.Character = U'a', .FromStrip = true}));
+  keys.Hold({.Code = 1});
+  keys.Forget();
+  EXPECT_TRUE(keys.IsEmpty());
+}
+
+/// Has keys come while the first icon of a menu of three items is looked for.
+void OpenTyping(MenuDesk& desk, const std::function<void()>& type) {
+  bool typed = false;
+  desk.World.Icons.WhileAsked([&] {
+    if (std::exchange(typed, true)) return;
+    EXPECT_TRUE(desk.TheProgram.MenuBuilding);
+    type();
+    EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  });
+  desk.Open(1, {Item("Alpha", "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe 1"),
+                Item("Beta", "", "C:\\Tools\\tool.exe 2"),
+                Item("Gamma", "", "C:\\Tools\\tool.exe 3")});
+  desk.World.Icons.WhileAsked({});
+  EXPECT_TRUE(typed);
+  desk.World.Desktop.Advance(10);
+}
+
+TEST(TypingAhead, KeysThatComeWhileAMenuIsBuiltActOnceItIsUp) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.World.Desktop.PressKey(forms::key::Down);
+    desk.World.Desktop.PressKey(forms::key::Down);
+  });
+  EXPECT_EQ(desk.BarredItem(), 2);
+  // The next one is not held any more.
+  desk.World.Desktop.PressKey(forms::key::Down);
+  EXPECT_EQ(desk.BarredItem(), 3);
+}
+
+TEST(TypingAhead, ALetterAndEnterStartTheItem) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.World.Desktop.Type("g");
+    desk.World.Desktop.PressKey(forms::key::Enter);
+  });
+  EXPECT_FALSE(desk.Menu.MenuVisible());
+  EXPECT_EQ(desk.Started(), std::vector<std::string>{"C:\\Tools\\tool.exe 3"});
+}
+
+TEST(TypingAhead, EscClosesTheMenuAndWhatIsTypedBehindItIsForgotten) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.World.Desktop.PressKey(forms::key::Escape);
+    desk.World.Desktop.PressKey(forms::key::Down);
+  });
+  EXPECT_FALSE(desk.Menu.MenuVisible());
+  desk.Reopen(1);
+  desk.World.Desktop.Advance(10);
+  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+}
+
+TEST(TypingAhead, KeysThatTheStripGetsWhileAMenuIsBuiltAreHeldToo) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.Menu.ActivateKeyDown(forms::key::Down);
+    desk.Menu.xKeyPress(U'b');
+  });
+  EXPECT_EQ(desk.BarredItem(), 2);
+}
+
+TEST(TypingAhead, APageThatIsDrawnForTheFirstTimeHoldsThemAsWell) {
+  MenuDesk desk;
+  std::vector<MenuRecord> items = Items(100);
+  items[40].FIcon = "C:\\Tools\\tool.exe";
+  desk.Open(1, items);
+  bool typed = false;
+  desk.World.Icons.WhileAsked([&] {
+    if (!std::exchange(typed, true)) desk.World.Desktop.PressKey(forms::key::PageDown);
+  });
+  desk.World.Desktop.PressKey(forms::key::PageDown);
+  desk.World.Desktop.Advance(10);
+  EXPECT_EQ(desk.Menu.Pages().CurMenu(), 2);
 }
 
 TEST(frmQMenuKeys, F5ReadsTheIconsAndTheMenuAnew) {

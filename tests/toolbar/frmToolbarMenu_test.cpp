@@ -422,19 +422,14 @@ TEST(ToolbarMainMenu, APressClosesTheMenuOfAnother) {
   EXPECT_FALSE(desk.TheProgram.MenuOpen);
 }
 
-TEST(ToolbarMainMenu, ItsFileIsWrittenAnewOnlyWhenTheMenuIsNotBuilt) {
+TEST(ToolbarMainMenu, HasAFileOfItsOwn) {
   ThreeMenus desk;
   MainMenuDouble own;
   desk.TheProgram.Ports.MainMenu = &own;
   desk.Click(1);
   EXPECT_EQ(desk.Menu.CurrentKey(), "Q1");
   EXPECT_EQ(desk.Menu.LastFile, "C:\\Corvelle\\mainmenu.dat");
-  EXPECT_TRUE(desk.World.Files.Has("C:\\Corvelle\\mainmenu.dat"));
-  desk.Click(1);
-  desk.World.Files.Vanish("C:\\Corvelle\\mainmenu.dat");
-  desk.Click(1);
   EXPECT_EQ(desk.MenuUp(), 1);
-  EXPECT_FALSE(desk.World.Files.Has("C:\\Corvelle\\mainmenu.dat"));
 }
 
 TEST(ToolbarKeys, LeftAndRightGoRoundTheStripWithThePointer) {
