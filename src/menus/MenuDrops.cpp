@@ -18,7 +18,7 @@ namespace corvelle {
 using forms::DragData;
 
 bool MenuDrops::Takes(const Program& program, const DragData& data) {
-  return IsOfUse(data) && program.TakesDrops();
+  return IsOfUse(data) && program.Guards.TakesDrops();
 }
 
 void MenuDrops::Drop(const DragData& data, const Target& target,
@@ -28,7 +28,7 @@ void MenuDrops::Drop(const DragData& data, const Target& target,
     return;
   }
   if (data.Files->empty()) return;
-  const bool opens = program_.DragButtons == forms::MouseButton::Right && target.Item != 0;
+  const bool opens = program_.Drag.DragButtons == forms::MouseButton::Right && target.Item != 0;
   if (!opens || !target.Enabled) {
     InsertFiles(*data.Files, target);
     return;
@@ -55,7 +55,7 @@ void MenuDrops::InsertFiles(const std::vector<std::string>& names, const Target&
   auto outcome = EditOutcome::NothingToDo;
   DroppedEntries dropped;
   {
-    const forms::FlagScope busy(program_.ItemActionBusy);
+    const forms::FlagScope busy(program_.Guards.ItemActionBusy);
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
     dropped = DroppedRecords(files, ansi, names, [this](std::string_view name) {

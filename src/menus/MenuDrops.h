@@ -27,7 +27,7 @@ class MenuDrops {
     std::string File;      // that the menu on show was built from
   };
 
-  /// Deals with what was dropped by the buttons of the drag (Program::DragButtons). `close` closes
+  /// Deals with what was dropped by the buttons of the drag (Program::Drag). `close` closes
   /// the menu before an item opens a file.
   void Drop(const forms::DragData& data, const Target& target, const std::function<void()>& close);
 

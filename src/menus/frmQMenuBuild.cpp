@@ -18,7 +18,7 @@ bool IsMenuFile(std::string_view path) { return EndsWithNoCase(path, "mnu"); }
 }  // namespace
 
 void frmQMenu::InitQMenu(std::string_view menuFile) {
-  const forms::FlagScope building(program_.MenuBuilding);
+  const forms::FlagScope building(program_.Guards.MenuBuilding);
   std::optional<forms::HourglassScope> hourglass;
   if (!program_.Entry.ItemDragging) hourglass.emplace(program_.Windows);
   Shape1.SetVisible(false);
@@ -55,7 +55,7 @@ void frmQMenu::InitQMenu(std::string_view menuFile) {
 // Without a fresh file the menu shows what the old one holds.
 void frmQMenu::WriteOwnMenu() {
   static_cast<void>(
-      WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.AppPath));
+      WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath));
 }
 
 MenuLayout frmQMenu::LayOut(std::span<const MenuItem> items, float room) const {
@@ -89,8 +89,8 @@ void frmQMenu::KeepGenerated(const ExpandedMenu& expanded) {
 float frmQMenu::RoomForMenu() const {
   const forms::ScreenInfo screen = program_.Windows.Screen();
   const ToolbarPort* const strip = program_.Ports.Toolbar;
-  return MenuRoom({.Vertical = program_.ToolbarVertical,
-                   .At = EdgeFromText(program_.ToolbarEdge).value_or(Edge::Top),
+  return MenuRoom({.Vertical = program_.Strip.ToolbarVertical,
+                   .At = program_.Strip.ToolbarEdge,
                    .ScreenHeight = screen.Height,
                    .MenuTop = strip != nullptr ? strip->TopOfMenu() : Top(),
                    .StripTop = strip != nullptr ? strip->WindowBounds().Top : screen.Height});

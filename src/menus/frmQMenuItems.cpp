@@ -6,7 +6,7 @@
 namespace corvelle {
 
 std::string frmQMenu::GetExeName(int index) {
-  program_.ItemHasSeparator = items_[index].AfterSeparator;
+  program_.Menu.ItemHasSeparator = items_[index].AfterSeparator;
   return items_[index].Command;
 }
 
@@ -29,8 +29,8 @@ void frmQMenu::SetNormal(int index) {
 
 void frmQMenu::SelectItem(int index) {
   if (!Lbl.Has(index)) return;
-  SetNormal(program_.SelectedItem);
-  program_.SelectedItem = index;
+  SetNormal(program_.Menu.SelectedItem);
+  program_.Menu.SelectedItem = index;
   CurItem = index;
   Lbl[index].SetForeColor(forms::color::HighlightText);
   // A disabled item takes the selection without a bar.
@@ -43,8 +43,8 @@ void frmQMenu::SelectItem(int index) {
 }
 
 void frmQMenu::DropSelection() {
-  SetNormal(program_.SelectedItem);
-  program_.SelectedItem = 0;
+  SetNormal(program_.Menu.SelectedItem);
+  program_.Menu.SelectedItem = 0;
   Shape1.SetVisible(false);
   HideBox();
 }

@@ -13,7 +13,7 @@ using forms::ShiftState;
 
 // Until the menu is up nothing can be selected in it, and the focus may be anywhere.
 bool frmQMenu::HoldsKey(const HeldKey& key) {
-  if (actsHeldKey_ || (!program_.MenuBuilding && held_.IsEmpty())) return false;
+  if (actsHeldKey_ || (!program_.Guards.MenuBuilding && held_.IsEmpty())) return false;
   held_.Hold(key);
   AwaitHeldKeys();
   return true;
@@ -21,13 +21,13 @@ bool frmQMenu::HoldsKey(const HeldKey& key) {
 
 // By a turn of their own: whoever had the menu built is done with it then.
 void frmQMenu::AwaitHeldKeys() {
-  if (!held_.IsEmpty() && !program_.MenuBuilding) KeysTimer.SetEnabled(true);
+  if (!held_.IsEmpty() && !program_.Guards.MenuBuilding) KeysTimer.SetEnabled(true);
 }
 
 void frmQMenu::ActHeldKeys() {
   KeysTimer.SetEnabled(false);
   const auto watch = MakeWatch();
-  while (!watch.Gone() && !program_.MenuBuilding) {
+  while (!watch.Gone() && !program_.Guards.MenuBuilding) {
     if (!MenuVisible()) held_.Forget();
     const std::optional<HeldKey> key = held_.Take();
     if (!key) return;
@@ -62,7 +62,7 @@ void frmQMenu::KeyActs() {
 
 void frmQMenu::Form_KeyDown(int keyCode, ShiftState /*shift*/) {
   if (program_.Entry.ItemDragging || HoldsKey({.Code = keyCode})) return;
-  program_.KeyboardOnToolbar = false;
+  program_.Menu.KeyboardOnToolbar = false;
   switch (keyCode) {
     case forms::key::Escape:
       CloseMenu();
@@ -93,7 +93,7 @@ void frmQMenu::MoveCursor(int step) {
   const int item = StepItem(CurItem, pages_.FirstLabel(), pages_.LastLabel(), step);
   if (item == 0) return;
   KeyActs();
-  PrevItem = program_.SelectedItem;
+  PrevItem = program_.Menu.SelectedItem;
   SelectItem(item);
 }
 
@@ -110,9 +110,9 @@ void frmQMenu::MovePage(int keyCode) {
 
 void frmQMenu::Form_KeyPress(char32_t character) {
   if (program_.Entry.ItemDragging || HoldsKey({.Character = character})) return;
-  program_.KeyboardOnToolbar = false;
+  program_.Menu.KeyboardOnToolbar = false;
   if (character == forms::key::Enter) {
-    const int index = program_.SelectedItem;
+    const int index = program_.Menu.SelectedItem;
     if (index == 0) return;
     ChooseItem(Lbl[index].Left(), Lbl[index].Top());
     return;
@@ -128,7 +128,7 @@ void frmQMenu::TypeAheadTo(char32_t character) {
   }
   KeyActs();
   if (found.Page != pages_.CurMenu()) TurnTo(found.Page);
-  PrevItem = program_.SelectedItem;
+  PrevItem = program_.Menu.SelectedItem;
   SelectItem(found.Item);
   // A repeated key walks on to the next item with that letter.
   CurItem = found.NextItem;

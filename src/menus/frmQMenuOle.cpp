@@ -18,7 +18,7 @@ void frmQMenu::WireDrags() {
   OLEDragDrop = [this](DragData& data, DropEffect& effect, MouseButton down, ShiftState shift,
                        float x, float y) { Form_OLEDragDrop(data, effect, down, shift, x, y); };
   OLEDragLeave = [this] {
-    program_.DragOverButton = false;
+    program_.Drag.DragOverButton = false;
     DropSelection();
   };
   SetTakesDrops(true);
@@ -53,12 +53,12 @@ bool frmQMenu::TakesDrop(const DragData& data) const {
 void frmQMenu::Form_OLEDragOver(DragData& data, DropEffect& effect, MouseButton down,
                                 ShiftState shift, float x, float y) {
   // Also where nothing can be dropped the drag is here, and holds the menu.
-  program_.DragOverButton = true;
+  program_.Drag.DragOverButton = true;
   if (!TakesDrop(data)) {
     effect = DropEffect::None;
     return;
   }
-  program_.DragButtons = down;
+  program_.Drag.DragButtons = down;
   effect = effect & EffectOfDrag(down);
   Form_MouseMove(MouseButton::Left, shift, x, y);
 }
@@ -66,14 +66,14 @@ void frmQMenu::Form_OLEDragOver(DragData& data, DropEffect& effect, MouseButton 
 void frmQMenu::Form_OLEDragDrop(DragData& data, DropEffect& effect, MouseButton /*down*/,
                                 ShiftState /*shift*/, float /*x*/, float /*y*/) {
   Timer1.SetEnabled(false);
-  program_.DragOverButton = false;
-  program_.DragEntered = false;
-  program_.DragIsUrl = false;
+  program_.Drag.DragOverButton = false;
+  program_.Drag.DragEntered = false;
+  program_.Drag.DragIsUrl = false;
   if (!TakesDrop(data)) {
     effect = DropEffect::None;
   } else {
-    effect = effect & EffectOfDrag(program_.DragButtons);
-    const int item = program_.SelectedItem;
+    effect = effect & EffectOfDrag(program_.Drag.DragButtons);
+    const int item = program_.Menu.SelectedItem;
     const bool enabled = item != 0 && Lbl[item].Enabled();
     drops_.Drop(data, {.Item = item, .Enabled = enabled, .File = MenuFile},
                 [this] { CloseMenu(); });

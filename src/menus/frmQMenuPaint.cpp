@@ -62,7 +62,7 @@ void frmQMenu::ShowSlide() {
 // page into the window, and colours that change have the page drawn once more.
 void frmQMenu::DrawPage(bool watched) {
   if (std::exchange(drawingPage_, true)) return;
-  const forms::FlagScope building(program_.MenuBuilding);
+  const forms::FlagScope building(program_.Guards.MenuBuilding);
   for (int tries = 0; tries < kMostRedraws; ++tries) {
     coloursChanged_ = false;
     DrawPageOnce(watched && tries == 0);
@@ -149,7 +149,7 @@ void frmQMenu::Form_Paint() {
     PaintPicture(PagePicture, 0, 0);
   }
   // No rest of the bar that was there may stay. Only an item of this page had its bar here.
-  if (pages_.IsUp(PrevItem) && PrevItem != program_.SelectedItem) {
+  if (pages_.IsUp(PrevItem) && PrevItem != program_.Menu.SelectedItem) {
     const float top = DrawBoxRule(BoxOf(PrevItem), ItemGap, Shape1.Height(), TwipsX, TwipsY).BarTop;
     FillBox(19 * TwipsX, top, Shape1.Width(), top + Shape1.Height() - TwipsY,
             forms::color::ButtonFace);
@@ -203,7 +203,7 @@ void frmQMenu::ColoursChanged() {
   coloursChanged_ = true;
   if (!MenuReady || items_.Count() == 0) return;
   UpDownArrows();
-  const int selected = program_.SelectedItem;
+  const int selected = program_.Menu.SelectedItem;
   DrawPage(false);
   if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
   if (selected > 0) SelectItem(selected);

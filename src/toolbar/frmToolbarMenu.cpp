@@ -43,7 +43,7 @@ void frmToolbar::HideMenuWindow() {
 }
 
 void frmToolbar::ShowMenu(int button) {
-  if (program_.StartingUp || !OpensMenu(button)) return;
+  if (program_.Guards.StartingUp || !OpensMenu(button)) return;
   QMenuPort& menu = *program_.Ports.QMenu;
   if (menu.OwnerTag().empty()) menu.SetOwnerTag("0");
   if (MenuUp() && menu.OwnerTag() == std::to_string(button)) {
@@ -69,16 +69,16 @@ void frmToolbar::ShowMenuOf(int button) {
   std::string file = ToolbarButtons[static_cast<std::size_t>(button)].Path;
   const bool isMainMenu = file == kMainMenuPath;
   lastTag_ = isMainMenu ? "Q1" : "F" + std::to_string(button);
-  if (isMainMenu) file = program_.AppPath + std::string(kMainMenuFileName);
+  if (isMainMenu) file = program_.Paths.AppPath + std::string(kMainMenuFileName);
 
   menu.SetOwnerTag(std::to_string(button));
   menu.SetPoll(false);
-  program_.MenuOpen = true;
+  program_.Menu.MenuOpen = true;
   const std::string tag = lastTag_;
   menu.ShowMenu(tag, file);
   if (!IsLoaded()) return;
   // Events ran while the menu was built, and something may have closed it again.
-  if (!program_.MenuOpen || !MenuUp()) {
+  if (!program_.Menu.MenuOpen || !MenuUp()) {
     ResetMenu();
     return;
   }
@@ -90,7 +90,7 @@ void frmToolbar::ShowMenuOf(int button) {
 void frmToolbar::OpenMenu(std::string_view tag) {
   const int button = ButtonOfTag(tag.empty() ? std::string_view(lastTag_) : tag);
   if (!OpensMenu(button)) return;
-  program_.CurButton = button;
+  program_.Menu.CurButton = button;
   SetButtonBorders();
   ShowMenuOf(button);
 }
@@ -135,15 +135,15 @@ void frmToolbar::RemoveQMenu(std::string_view tag) {
 }
 
 void frmToolbar::ResetMenu() {
-  if (!program_.MenuOpen && !program_.Entry.ItemDragging && !MenuUp()) return;
+  if (!program_.Menu.MenuOpen && !program_.Entry.ItemDragging && !MenuUp()) return;
   Timer2.SetEnabled(false);
-  program_.MenuOpen = false;
-  program_.CurButton = 0;
-  program_.KeyboardOnToolbar = false;
+  program_.Menu.MenuOpen = false;
+  program_.Menu.CurButton = 0;
+  program_.Menu.KeyboardOnToolbar = false;
   MenuOpening = false;
   LastOpenFlag = false;
   LastOpenButton = 0;
-  program_.DragOverButton = false;
+  program_.Drag.DragOverButton = false;
   WasHovering = false;
   TipDueAt = 0;
   TipHideAt = 0;

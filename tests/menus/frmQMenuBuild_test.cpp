@@ -89,7 +89,7 @@ TEST(frmQMenuShowMenu, AKeyWithoutANumberOrAnEmptyFileShowsNothing) {
 
 TEST(frmQMenuShowMenu, NothingOpensWhileTheIconsAreReadAnew) {
   MenuDesk desk;
-  desk.TheProgram.IconsLoading = true;
+  desk.TheProgram.Guards.IconsLoading = true;
   desk.Open(1, {Item("A")});
   EXPECT_FALSE(desk.Menu.MenuVisible());
 }
@@ -145,9 +145,9 @@ TEST(frmQMenuShowMenu, ASeparatorAtTheTopDrawsNothingButMarksTheFirstItem) {
   EXPECT_TRUE(desk.Menu.Items()[1].AfterSeparator);
   EXPECT_FALSE(desk.Menu.Items()[2].AfterSeparator);
   static_cast<void>(desk.Menu.GetExeName(1));
-  EXPECT_TRUE(desk.TheProgram.ItemHasSeparator);
+  EXPECT_TRUE(desk.TheProgram.Menu.ItemHasSeparator);
   static_cast<void>(desk.Menu.GetExeName(2));
-  EXPECT_FALSE(desk.TheProgram.ItemHasSeparator);
+  EXPECT_FALSE(desk.TheProgram.Menu.ItemHasSeparator);
   for (int y = 0; y < 6; ++y) {
     EXPECT_EQ(desk.PixelInside(60, y), desk.SystemColour(forms::color::ButtonFace)) << y;
   }
@@ -302,7 +302,7 @@ TEST(frmQMenuResetQMenu, EmptiesTheWindow) {
   EXPECT_FALSE(desk.Menu.Timer1.Enabled());
   EXPECT_EQ(desk.Menu.Items().Count(), 0);
   EXPECT_EQ(desk.Menu.Pages().Slides(), 0);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   for (const forms::Graphic* graphic : desk.Menu.Graphics()) {
     EXPECT_FALSE(graphic->Visible()) << graphic->Name();
   }
@@ -319,7 +319,7 @@ TEST(frmQMenuBuildGuard, TheFlagIsClearedHoweverTheBuildEnds) {
     desk.PutMenu(1, Items(3));
     desk.World.Files.FailFrom(1, row.error);
     desk.Reopen(1);
-    EXPECT_FALSE(desk.TheProgram.MenuBuilding) << row.name;
+    EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding) << row.name;
     EXPECT_EQ(desk.Menu.Items().Count(), 0) << row.name;
     EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default) << row.name;
   }
@@ -354,16 +354,16 @@ TEST(frmQMenuBuildGuard, AMoveInsideTheBuildSelectsNothing) {
   desk.TheProgram.Ports.FolderMenus = &folders;
   const PixelPoint second = desk.ItemPoint(2);
   folders.While = [&] {
-    EXPECT_TRUE(desk.TheProgram.MenuBuilding);
+    EXPECT_TRUE(desk.TheProgram.Guards.MenuBuilding);
     desk.Menu.Form_MouseMove(forms::MouseButton::None, {}, 400, 400);
     desk.PointAt(second);
-    EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   };
   desk.Menu.HideMenu();
   desk.Menu.ForgetMenu("F2");
   desk.Reopen(1);
   EXPECT_EQ(folders.Expanded, 1);
-  EXPECT_FALSE(desk.TheProgram.MenuBuilding);
+  EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding);
   EXPECT_EQ(desk.Menu.Items().Count(), 5);
 }
 
@@ -462,7 +462,7 @@ TEST(frmQMenuDamage, DamagedFilesOpenAsWhatCanBeReadOfThem) {
     desk.Reopen(1);
     EXPECT_TRUE(desk.Menu.MenuVisible()) << row.name;
     EXPECT_EQ(desk.Menu.Items().Count(), row.labels) << row.name;
-    EXPECT_FALSE(desk.TheProgram.MenuBuilding) << row.name;
+    EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding) << row.name;
   }
 }
 

@@ -21,7 +21,7 @@ class PagedMenu : public ::testing::Test {
     ASSERT_EQ(desk_.Menu.Pages().Slides(), 2);
   }
   void Key(int key) { desk_.World.Desktop.PressKey(key); }
-  int Selected() const { return desk_.TheProgram.SelectedItem; }
+  int Selected() const { return desk_.TheProgram.Menu.SelectedItem; }
 
   MenuDesk desk_;
 };
@@ -41,7 +41,7 @@ TEST(frmQMenuKeys, DownAndUpWalkAndWrapInsideThePage) {
   };
   for (const Row& row : rows) {
     desk.World.Desktop.PressKey(row.key);
-    EXPECT_EQ(desk.TheProgram.SelectedItem, row.selected) << row.name;
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, row.selected) << row.name;
     EXPECT_EQ(desk.BarredItem(), row.selected) << row.name;
     EXPECT_EQ(desk.Menu.Lbl[row.selected].ForeColor(), forms::color::HighlightText) << row.name;
   }
@@ -82,24 +82,24 @@ TEST(frmQMenuKeys, LeftAndRightGoToTheStrip) {
   desk.World.Desktop.PressKey(forms::key::Right);
   EXPECT_EQ(desk.Strip.Times("ActivateKeyDown 37"), 1);
   EXPECT_EQ(desk.Strip.Times("ActivateKeyDown 39"), 1);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
 }
 
 TEST(frmQMenuKeys, AKeyOfTheStripStartsFromTheTop) {
   MenuDesk desk;
   desk.Open(1, Items(3));
-  desk.TheProgram.KeyboardOnToolbar = true;
+  desk.TheProgram.Menu.KeyboardOnToolbar = true;
   desk.World.Desktop.PressKey(forms::key::Down);
   desk.World.Desktop.PressKey(forms::key::Down);
   desk.World.Desktop.TakeForeground(desk.Strip.hWnd());
   desk.Menu.ActivateKeyDown(forms::key::Down);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
-  EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
+  EXPECT_FALSE(desk.TheProgram.Menu.KeyboardOnToolbar);
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Menu.hWnd());
   desk.Menu.xKeyPress('i');
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
   desk.Menu.xKeyPress('i');
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
 }
 
 TEST(frmQMenuKeys, EachActInTheMenuTakesTheKeyboardFromTheStrip) {
@@ -117,9 +117,9 @@ TEST(frmQMenuKeys, EachActInTheMenuTakesTheKeyboardFromTheStrip) {
       {"a character", [&] { desk.Menu.Form_KeyPress('i'); }},
   };
   for (const Row& row : rows) {
-    desk.TheProgram.KeyboardOnToolbar = true;
+    desk.TheProgram.Menu.KeyboardOnToolbar = true;
     row.act();
-    EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar) << row.name;
+    EXPECT_FALSE(desk.TheProgram.Menu.KeyboardOnToolbar) << row.name;
   }
 }
 
@@ -129,7 +129,7 @@ TEST(frmQMenuKeys, AnEmptyMenuTakesEveryKeyQuietly) {
   for (const int key : {forms::key::Down, forms::key::Up, forms::key::PageDown, forms::key::PageUp,
                         forms::key::Home, forms::key::End, forms::key::Enter}) {
     desk.World.Desktop.PressKey(key);
-    EXPECT_EQ(desk.TheProgram.SelectedItem, 0) << key;
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0) << key;
   }
   EXPECT_TRUE(desk.Menu.MenuVisible());
 }
@@ -140,7 +140,7 @@ TEST(frmQMenuKeys, DuringADragKeysAreIgnored) {
   desk.TheProgram.Entry.ItemDragging = true;
   desk.World.Desktop.PressKey(forms::key::Down);
   desk.World.Desktop.PressKey(forms::key::Escape);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   EXPECT_TRUE(desk.Menu.MenuVisible());
 }
 
@@ -150,7 +150,7 @@ TEST(frmQMenuKeys, ADisabledItemIsReachedWithoutABar) {
   desk.Menu.DisableLabel(2);
   desk.World.Desktop.PressKey(forms::key::Down);
   desk.World.Desktop.PressKey(forms::key::Down);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   EXPECT_EQ(desk.BarredItem(), 0);
   desk.World.Desktop.PressKey(forms::key::Enter);
   EXPECT_TRUE(desk.Menu.MenuVisible());
@@ -176,13 +176,13 @@ void OpenTyping(MenuDesk& desk, const std::function<void()>& type) {
   bool typed = false;
   desk.World.Icons.WhileAsked([&] {
     if (std::exchange(typed, true)) return;
-    EXPECT_TRUE(desk.TheProgram.MenuBuilding);
+    EXPECT_TRUE(desk.TheProgram.Guards.MenuBuilding);
     type();
-    EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   });
-  desk.Open(1, {Item("Alpha", "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe 1"),
-                Item("Beta", "", "C:\\Tools\\tool.exe 2"),
-                Item("Gamma", "", "C:\\Tools\\tool.exe 3")});
+  desk.Open(
+      1, {Item("Alpha", "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe 1"),
+          Item("Beta", "", "C:\\Tools\\tool.exe 2"), Item("Gamma", "", "C:\\Tools\\tool.exe 3")});
   desk.World.Icons.WhileAsked({});
   EXPECT_TRUE(typed);
   desk.World.Desktop.Advance(10);
@@ -219,7 +219,7 @@ TEST(TypingAhead, EscClosesTheMenuAndWhatIsTypedBehindItIsForgotten) {
   EXPECT_FALSE(desk.Menu.MenuVisible());
   desk.Reopen(1);
   desk.World.Desktop.Advance(10);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
 }
 
 TEST(TypingAhead, KeysThatTheStripGetsWhileAMenuIsBuiltAreHeldToo) {
@@ -465,7 +465,7 @@ TEST(frmQMenuTypeAhead, FindsTheNextItemWithThatLetterAndWrapsAround) {
   desk.Open(1, {Item("Beta"), Item("Alpha"), Item("beach"), Item("Gamma"), Item("Bell")});
   for (const int expected : {1, 3, 5, 1, 3}) {
     desk.World.Desktop.Type("b");
-    EXPECT_EQ(desk.TheProgram.SelectedItem, expected);
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, expected);
     EXPECT_EQ(desk.BarredItem(), expected);
   }
   EXPECT_EQ(desk.World.Desktop.Beeps(), 0);
@@ -476,10 +476,10 @@ TEST(frmQMenuTypeAhead, AnArrowGoesOnFromTheItemBehindTheOneFound) {
   desk.Open(1, {Item("Beta"), Item("Alpha"), Item("Gamma"), Item("Delta")});
   desk.World.Desktop.Type("b");
   desk.World.Desktop.PressKey(forms::key::Down);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   desk.World.Desktop.Type("b");
   desk.World.Desktop.PressKey(forms::key::Up);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
 }
 
 TEST(frmQMenuTypeAhead, ALetterThatNoItemStartsWithBeeps) {
@@ -488,7 +488,7 @@ TEST(frmQMenuTypeAhead, ALetterThatNoItemStartsWithBeeps) {
   desk.World.Desktop.Type("b");
   desk.World.Desktop.Type("x");
   EXPECT_EQ(desk.World.Desktop.Beeps(), 1);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
 }
 
 TEST(frmQMenuTypeAhead, TheSelectionStaysThoughThePointerIsElsewhere) {
@@ -498,7 +498,7 @@ TEST(frmQMenuTypeAhead, TheSelectionStaysThoughThePointerIsElsewhere) {
   desk.World.Desktop.Type("b");
   desk.Poll();
   desk.Poll();
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.World.Desktop.PressKey(forms::key::Enter);
   EXPECT_EQ(desk.Started().size(), 1U);
 }
@@ -516,7 +516,7 @@ TEST(frmQMenuTypeAhead, ALetterThatOnlyLaterPagesHoldTurnsToThem) {
   };
   for (const Row& row : {Row{5, 0}, Row{50, 1}, Row{90, 2}, Row{5, 0}}) {
     desk.World.Desktop.Type("z");
-    EXPECT_EQ(desk.TheProgram.SelectedItem, row.item);
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, row.item);
     EXPECT_EQ(desk.Menu.Pages().CurMenu(), row.page) << row.item;
     EXPECT_EQ(desk.BarredItem(), row.item);
     EXPECT_TRUE(desk.Menu.Lbl[row.item].Visible());
@@ -527,11 +527,11 @@ TEST(frmQMenuTypeAhead, DigitsAndSignsCountAndBlanksDoNot) {
   MenuDesk desk;
   desk.Open(1, {Item("Alpha"), Item("7 dwarfs"), Item("~ home")});
   desk.World.Desktop.Type("7");
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.World.Desktop.Type("~");
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   desk.World.Desktop.Type(" ");
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   EXPECT_EQ(desk.World.Desktop.Beeps(), 0);
 }
 
