@@ -9,24 +9,14 @@
 
 namespace corvelle {
 
-namespace {
-
-constexpr int kWebIconOption = 12;
-constexpr int kEdgeOption = 14;
-constexpr int kSmallSinglesOption = 24;
-constexpr int kLargeInRestoreOption = 25;
-constexpr int kLargeOption = 26;
-
-}  // namespace
-
 void frmCust::AddOptionLines(MenuMaker& menu) {
   for (const CustOptionLine& line : CustOptionLines()) {
-    if (line.Option == CustOption::Gap) {
+    if (line.Line == CustOption::Gap) {
       menu.AddGap();
       continue;
     }
     menu.Add(
-        std::string(line.Caption), [this, option = line.Option] { ChooseOption(option); }, true,
+        std::string(line.Caption), [this, option = line.Line] { ChooseOption(option); }, true,
         IsChecked(line, program_.OptionFlags, ownBrowser_));
   }
 }
@@ -36,19 +26,19 @@ void frmCust::ChooseOption(CustOption option) {
   ToolbarPort* const strip = program_.Ports.Toolbar;
   switch (option) {
     case CustOption::KeepOnTop:
-      FlipOption(4);
+      FlipOption(Option::AboveFullScreen);
       break;
     case CustOption::StartupScreen:
-      FlipOption(9);
+      FlipOption(Option::NoStartupScreen);
       break;
     case CustOption::LeaveExtension:
-      FlipOption(10);
+      FlipOption(Option::KeepExtension);
       break;
     case CustOption::SingleClick:
-      flags.Set(11, true);
+      flags.Set(Option::SingleClick, true);
       break;
     case CustOption::DoubleClick:
-      flags.Set(11, false);
+      flags.Set(Option::SingleClick, false);
       break;
     case CustOption::SmallSingles:
       SetSmallSingles();
@@ -60,7 +50,7 @@ void frmCust::ChooseOption(CustOption option) {
       ChooseWebIcon(false);
       break;
     case CustOption::WebLinkDialog:
-      FlipOption(18);
+      FlipOption(Option::NoWebLinkDialog);
       break;
     case CustOption::AlternateBrowser:
       ChooseBrowser(true);
@@ -70,24 +60,24 @@ void frmCust::ChooseOption(CustOption option) {
       break;
     case CustOption::AdjustLeft:
     case CustOption::AdjustRight:
-      FlipOption(option == CustOption::AdjustLeft ? 27 : 13);
+      FlipOption(option == CustOption::AdjustLeft ? Option::MayPassLeft : Option::MayPassRight);
       if (strip != nullptr) strip->CheckToolbarMove();
       break;
     case CustOption::LargeIcons:
       SetLargeIcons();
       break;
     case CustOption::ShowDate:
-      FlipOption(21);
+      FlipOption(Option::ShowDate);
       if (strip != nullptr) strip->DoLabelDate();
       break;
     case CustOption::DisableHints:
-      FlipOption(22);
+      FlipOption(Option::NoHints);
       break;
     case CustOption::SystemPopup:
-      flags.Set(19, true);
+      flags.Set(Option::SystemPopupWithCtrl, true);
       break;
     case CustOption::OwnPopup:
-      flags.Set(19, false);
+      flags.Set(Option::SystemPopupWithCtrl, false);
       break;
     case CustOption::SetStartup:
       SetAsStartupProgram(program_);
@@ -106,10 +96,10 @@ void frmCust::ChooseOption(CustOption option) {
 }
 
 void frmCust::LookForBrowser() {
-  ownBrowser_ = program_.Services.Files.FileExists(program_.AppPath + "openurl.ini");
+  ownBrowser_ = program_.Services.Files.FileExists(program_.Paths.AppPath + "openurl.ini");
 }
 
-void frmCust::FlipOption(int position) { program_.OptionFlags.Flip(position); }
+void frmCust::FlipOption(Option option) { program_.OptionFlags.Flip(option); }
 
 std::string frmCust::AskOneFile(std::string_view title, std::string_view startFolder) {
   const forms::FileChoice choice = program_.Windows.AskFiles(
@@ -122,11 +112,12 @@ void frmCust::ChooseWebIcon(bool custom) {
   if (custom) {
     const std::string icon = AskOneFile("Select one file.", Editor.LastFolder);
     if (icon.empty()) return;
-    if (!SaveWebLinkIcon(files, program_.Services.Ansi, program_.AppPath, icon)) return Beep();
+    if (!SaveWebLinkIcon(files, program_.Services.Ansi, program_.Paths.AppPath, icon))
+      return Beep();
   }
-  program_.OptionFlags.Set(kWebIconOption, custom);
-  program_.WebLinkIcon =
-      LoadWebLinkIcon(files, program_.Services.Ansi, program_.AppPath, program_.OptionFlags);
+  program_.OptionFlags.Set(Option::OwnWebLinkIcon, custom);
+  program_.Icons.WebLinkIcon =
+      LoadWebLinkIcon(files, program_.Services.Ansi, program_.Paths.AppPath, program_.OptionFlags);
 }
 
 void frmCust::ChooseBrowser(bool own) {
@@ -142,29 +133,29 @@ void frmCust::ChooseBrowser(bool own) {
 }
 
 void frmCust::SetLargeIcons() {
-  const bool large = !program_.OptionFlags.Is(kLargeInRestoreOption);
-  program_.OptionFlags.Set(kLargeInRestoreOption, large);
-  program_.OptionFlags.Set(kLargeOption, large);
-  program_.OptionFlags.Set(kEdgeOption, false);
+  const bool large = !program_.OptionFlags.Is(Option::LargeInRestoreMode);
+  program_.OptionFlags.Set(Option::LargeInRestoreMode, large);
+  program_.OptionFlags.Set(Option::LargeIcons, large);
+  program_.OptionFlags.Set(Option::AtEdge, false);
   if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->InitNewButtons();
 }
 
 void frmCust::SetSmallSingles() {
-  const bool small = !program_.OptionFlags.Is(kSmallSinglesOption);
-  program_.OptionFlags.Set(kSmallSinglesOption, small);
+  const bool small = !program_.OptionFlags.Is(Option::SmallSingles);
+  program_.OptionFlags.Set(Option::SmallSingles, small);
   DockingPort* const docking = program_.Ports.Docking;
   if (!small) {
-    if (!program_.AppBarDocked) {
+    if (!program_.Strip.AppBarDocked) {
       Say("The change will take effect next time you switch to large icons toolbar.",
           forms::msgbox::IconInformation);
     } else if (docking != nullptr) {
-      docking->SetAppBar(program_.ToolbarEdge, true);
+      docking->SetAppBar(program_.Strip.ToolbarEdge, true);
     }
     return;
   }
-  program_.OptionFlags.Set(kLargeOption, true);
+  program_.OptionFlags.Set(Option::LargeIcons, true);
   if (docking == nullptr) return;
-  docking->SetAppBar(program_.AppBarDocked ? program_.ToolbarEdge : "RIGHT", true);
+  docking->SetAppBar(program_.Strip.AppBarDocked ? program_.Strip.ToolbarEdge : Edge::Right, true);
 }
 
 }  // namespace corvelle

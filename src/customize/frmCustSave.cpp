@@ -44,16 +44,16 @@ bool frmCust::SaveTree() {
   {
     const forms::HourglassScope hourglass(program_.Windows);
     Editor.cmdOK();
-    if (program_.AutoHide && program_.Ports.Docking != nullptr) {
+    if (program_.Strip.AutoHide && program_.Ports.Docking != nullptr) {
       program_.Ports.Docking->RevealToolbar();
       if (!IsLoaded()) return false;
     }
     Editor.TreeChanged = false;
-    result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
+    result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath,
                        Editor.Tree.ToMenuSet(), files_.Stamp);
   }
   if (result.End == SaveEnd::Conflict && Merge()) {
-    result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
+    result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath,
                        Editor.Tree.ToMenuSet(), files_.Stamp);
   }
   if (result.End == SaveEnd::Conflict) return SettleConflict(result.Now.Stamp);
@@ -75,7 +75,7 @@ bool frmCust::SettleConflict(const MenusStamp& theirs) {
   const bool mine = Say(kConflict, kConflictQuestion) == forms::msgbox::AnswerYes;
   if (!IsLoaded()) return false;
   const MenusResult<MenuFiles> read =
-      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
+      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!read || (*read).Stamp != theirs) {
     // Changed once more meanwhile: the next save asks again.
     Editor.TreeChanged = true;
@@ -83,12 +83,12 @@ bool frmCust::SettleConflict(const MenusStamp& theirs) {
   }
   const MenuSet tree = Editor.Tree.ToMenuSet();
   if (!mine) {
-    static_cast<void>(WriteDraft(program_.Services.Files, program_.MenusPath, theirs, tree));
+    static_cast<void>(WriteDraft(program_.Services.Files, program_.Paths.MenusPath, theirs, tree));
     ReadAgain();
     return true;
   }
-  SaveResult result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
-                                tree, theirs, &(*read).Set);
+  SaveResult result = SaveMenus(program_.Services.Files, program_.Services.Ansi,
+                                program_.Paths.MenusPath, tree, theirs, &(*read).Set);
   if (result.End != SaveEnd::Saved) {
     if (result.End == SaveEnd::Recovered) Recover(result.Message);
     return false;
@@ -115,7 +115,7 @@ void frmCust::RefreshStrip() {
   const float gap = strip->FreeWidth();
   strip->ResetCollections();
   strip->InitNewButtons();
-  if (strip->WindowLoaded() && !program_.AppBarDocked && !program_.AutoHide) {
+  if (strip->WindowLoaded() && !program_.Strip.AppBarDocked && !program_.Strip.AutoHide) {
     strip->ResizeAfterEdit(gap);
   }
   // The rebuilt strip came to the foreground.
@@ -173,7 +173,7 @@ void frmCust::KeepDraft() {
 }
 
 void frmCust::OfferTheDraft() {
-  draft_ = OfferDraft(program_.Services.Files, program_.MenusPath, files_);
+  draft_ = OfferDraft(program_.Services.Files, program_.Paths.MenusPath, files_);
   lblMenuTree.SetCaption(draft_ ? "Menu Tree (unsaved changes are kept)" : "Menu Tree");
 }
 
@@ -190,7 +190,7 @@ void frmCust::ShowDraft() {
   lblMenuTree.SetCaption("Menu Tree");
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
-    Editor.InitMenuTree(set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
+    Editor.InitMenuTree(set, program_.Paths.ShippedFile("corvelle.exe"), program_.Paths.MenusPath);
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());
     }
@@ -205,7 +205,8 @@ void frmCust::ReadAgain() {
   if (!InitMenuTree()) return;
   const forms::TreeView::FreezeScope freeze(TreeView1);
   const bool saving = Editor.SavingNow;
-  Editor.InitMenuTree(files_.Set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
+  Editor.InitMenuTree(files_.Set, program_.Paths.ShippedFile("corvelle.exe"),
+                      program_.Paths.MenusPath);
   Editor.SavingNow = saving;
   if (!Editor.Tree.Children(kMenusRoot).empty()) {
     ShowNode(Editor.Tree.Children(kMenusRoot).front());
@@ -218,7 +219,7 @@ void frmCust::ReadAgain() {
 
 bool frmCust::Merge() {
   MenusResult<MenuFiles> read =
-      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
+      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!read) return false;
   if ((*read).Stamp == files_.Stamp) return true;
   const bool unsaved = Unsaved();

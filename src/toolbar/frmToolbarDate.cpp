@@ -10,9 +10,6 @@
 namespace corvelle {
 namespace {
 
-constexpr int kShowDate = 21;  // options
-constexpr int kLargeIcons = 26;
-
 constexpr std::string_view kDatePanel = "rundll32.exe shell32.dll,Control_RunDLL timedate.cpl,,0";
 
 }  // namespace
@@ -25,25 +22,25 @@ void frmToolbar::HideDate() {
 
 void frmToolbar::DoLabelDate() {
   ReadTwips();
-  if (Where() == Placement::TopHugging || program_.ToolbarVertical) {
+  if (Where() == Placement::TopHugging || program_.Strip.ToolbarVertical) {
     HideDate();
     return;
   }
-  if (!program_.OptionFlags.Is(kShowDate)) {
+  if (!program_.OptionFlags.Is(Option::ShowDate)) {
     if (!lblDate.Visible()) return;
     HideDate();
     picSingleButton.FillBox(Singles.LastEnd() + TwipsX, 0, picSingleButton.Width(),
                             picSingleButton.Height(), forms::color::ButtonFace);
     return;
   }
-  if (program_.RestoreBusy) return;
+  if (program_.Guards.RestoreBusy) return;
   UpdateLabelDate();
   ShowDate();
 }
 
 void frmToolbar::ShowDate() {
   FontSpec font = lblDate.Font();
-  font.Bold = program_.OptionFlags.Is(kLargeIcons);
+  font.Bold = program_.OptionFlags.Is(Option::LargeIcons);
   lblDate.SetFont(font);
   const DateSpot spot = PlaceDate({.Box = {picSingleButton.Width(), picSingleButton.Height()},
                                    .Label = {lblDate.Width(), lblDate.Height()},
@@ -63,8 +60,8 @@ void frmToolbar::ShowDate() {
 }
 
 void frmToolbar::UpdateLabelDate() {
-  if (!program_.OptionFlags.Is(kShowDate) || program_.ToolbarVertical || program_.RestoreBusy ||
-      Where() == Placement::TopHugging) {
+  if (!program_.OptionFlags.Is(Option::ShowDate) || program_.Strip.ToolbarVertical ||
+      program_.Guards.RestoreBusy || Where() == Placement::TopHugging) {
     return;
   }
   const std::string today = program_.Services.System.ShortDate();
@@ -76,9 +73,9 @@ void frmToolbar::UpdateLabelDate() {
 
 void frmToolbar::lblDate_MouseDown(forms::MouseButton /*button*/, forms::ShiftState /*shift*/,
                                    float /*x*/, float /*y*/) {
-  if (program_.MenuOpen || MenuUp()) ResetMenu();
+  if (program_.Menu.MenuOpen || MenuUp()) ResetMenu();
   program_.SetHint("");
-  program_.CurSingle = Program::kDateArea;
+  program_.Menu.CurSingle = MenuState::kDateArea;
 }
 
 // The strip shows the date alone; the hint over it is the clock.
@@ -87,8 +84,8 @@ void frmToolbar::lblDate_MouseMove(forms::MouseButton down, forms::ShiftState /*
   if (down != forms::MouseButton::None || program_.Entry.ItemDragging) return;
   const HintPort* const hint = program_.Ports.Hint;
   const bool hintUp = hint != nullptr && program_.Services.Desktop.IsVisible(hint->WindowHandle());
-  if (hintUp && program_.CurSingle == Program::kDateArea) return;
-  program_.CurSingle = Program::kDateArea;
+  if (hintUp && program_.Menu.CurSingle == MenuState::kDateArea) return;
+  program_.Menu.CurSingle = MenuState::kDateArea;
   const SystemInfo& system = program_.Services.System;
   program_.SetHint(system.TimeOfDay() + ", " + system.LongDate());
   UpdateLabelDate();

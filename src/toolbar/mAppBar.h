@@ -30,20 +30,20 @@ class mAppBar final : public DockingPort {
   void RemoveAppBar() override;
   void EndAppBar() override;
   void LeaveEdge() override;
-  [[nodiscard]] bool AutoHideFree(std::string_view edge) override;
-  void SetAppBar(std::string_view edge, bool rebuild) override;
+  [[nodiscard]] bool AutoHideFree(Edge edge) override;
+  void SetAppBar(std::optional<Edge> edge, bool rebuild) override;
   void HideToolbar() override;
   void RevealToolbar() override;
   void ShowAutoHideTaken() override;
   void ResizeToEdge() override;
 
   /// Keeps room at the edge and stands the strip there, on top of all windows.
-  void DockAppBar(std::string_view edge);
+  void DockAppBar(Edge edge);
   /// Stands the strip at the edge and keeps no room, so that other windows may cover it.
-  void DockNotOnTop(std::string_view edge);
+  void DockNotOnTop(Edge edge);
   /// Shrinks the strip to a line at the edge and claims the edge for hiding. False when another
   /// window hides there: the user was told, and the strip is docked in full sight.
-  bool AutoHideAppBar(std::string_view edge);
+  bool AutoHideAppBar(Edge edge);
   /// The answer to the news that bars have moved. True when it dealt with the change.
   bool AppBarPosChanged();
 
@@ -52,7 +52,7 @@ class mAppBar final : public DockingPort {
   void GiveUpHiding();
   void Remove();
   [[nodiscard]] bool Waits() const;
-  void TurnTo(std::string_view edge, bool rebuild);
+  void TurnTo(Edge edge, bool rebuild);
   void PlaceAt(Edge at);
   void FinishPlacing(Edge at);
   void ComeOutOfHiding();

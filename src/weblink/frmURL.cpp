@@ -16,7 +16,6 @@ namespace {
 
 // The drop returns to its source at once; this is time enough for the source to let go.
 constexpr int kAfterDrop = 50;      // milliseconds
-constexpr int kNoDialog = 18;       // position in the options
 constexpr float kBoxOfCheck = 330;  // twips beside the caption of a check box
 
 template <class T>
@@ -88,8 +87,8 @@ void frmURL::OfferWebLink(std::string_view url, std::string_view title, std::str
   // One at a time. Drops are refused meanwhile.
   if (step_ != Step::Idle) return;
   step_ = Step::Offered;
-  program_.WebLinkPending = true;
-  ++program_.OpenQuestions;
+  WebLinkPending = true;
+  ++program_.Guards.OpenQuestions;
   target_ = program_.Entry;
   if (IsSinglesTag(tag)) target_.CurFile = std::string(file);
   txtTitle.SetText(std::string(title));
@@ -101,13 +100,13 @@ void frmURL::OfferWebLink(std::string_view url, std::string_view title, std::str
 
 void frmURL::tmrStep_Timer() {
   // Nobody else works on a menu or waits for an answer then; this one is the one question.
-  if (program_.IsWorking() || program_.OpenQuestions > 1) return;
+  if (program_.Guards.IsWorking() || program_.Guards.OpenQuestions > 1) return;
   tmrStep_.SetEnabled(false);
   if (step_ == Step::Confirmed) return Write();
   if (step_ != Step::Offered) return;
   // An address that has to be shortened is shown in any case.
   const bool fits = FitsRecord(Trim(txtAddress.Text()), program_.Services.Ansi);
-  if (program_.OptionFlags.Is(kNoDialog) && fits) return Write();
+  if (program_.OptionFlags.Is(Option::NoWebLinkDialog) && fits) return Write();
   OpenDialog();
 }
 
@@ -146,7 +145,7 @@ void frmURL::cmdCancel_Click() {
 }
 
 void frmURL::Check1_Click() {
-  program_.OptionFlags.Set(kNoDialog, Check1.Value() == 1);
+  program_.OptionFlags.Set(Option::NoWebLinkDialog, Check1.Value() == 1);
   program_.SaveOptionFlags();
 }
 
@@ -163,8 +162,8 @@ void frmURL::Finish() {
   target_ = {};
   ReleaseOthers();
   Unload();
-  program_.WebLinkPending = false;
-  --program_.OpenQuestions;
+  WebLinkPending = false;
+  --program_.Guards.OpenQuestions;
   CapturePort* const capture = program_.Ports.Capture;
   if (capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
   ToolbarPort* const strip = program_.Ports.Toolbar;

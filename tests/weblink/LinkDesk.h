@@ -51,11 +51,11 @@ class LinkDesk : public ProgramDesk {
   }
   /// The dialog comes up 50 ms after the drop.
   void WaitForDialog() { world.Desktop.Advance(60); }
-  void NoDialog() { parts->TheProgram.OptionFlags.Set(18, true); }
+  void NoDialog() { parts->TheProgram.OptionFlags.Set(Option::NoWebLinkDialog, true); }
 
   frmURL& Dialog() { return parts->WebLink; }
   bool DialogUp() { return Dialog().IsLoaded() && Dialog().Visible(); }
-  bool Pending() { return parts->TheProgram.WebLinkPending; }
+  bool Pending() { return parts->WebLink.WebLinkPending; }
   EntryEdit& Entry() { return parts->TheProgram.Entry; }
 
   void Click(const char* control) {
