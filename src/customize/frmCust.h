@@ -54,6 +54,8 @@ class frmCust final : public forms::Form,
   [[nodiscard]] forms::Form& BoxWindow() override { return *this; }
   void SetBrowsing(bool browsing) override;
   void TakeIcon(std::string_view icon) override;
+  /// How the tree is shown.
+  [[nodiscard]] CustTreeControl& Tree() noexcept { return tree_; }
   /// How many sets of unsaved changes are kept and not shown.
   [[nodiscard]] std::size_t Offers() const { return keeper_ ? keeper_->Offered().size() : 0; }
   /// The library has filled the box for the icon.
@@ -183,6 +185,8 @@ class frmCust final : public forms::Form,
   void StartRename();
   void BeginFind();
   void FindNext();
+  void NextMissing();
+  void SelectFound(CustRef found);
   void RunEntry();
 
   // The Options menu (frmCustOptions.cpp).

@@ -274,7 +274,11 @@ bool frmCust::Merge() {
   return true;
 }
 
-void frmCust::Form_Activate() { TakeEditsMadeElsewhere(); }
+void frmCust::Form_Activate() {
+  TakeEditsMadeElsewhere();
+  // The user may have been away to mend what is missing.
+  tree_.Targets().AskAgain();
+}
 
 void frmCust::MenusEdited() {
   if (IsLoaded() && keeper_ != nullptr) tmrEdits.SetEnabled(true);

@@ -71,6 +71,8 @@ LookupAnswer AnswerLookup(FileSystem& files, ShellLinks& links, const SystemInfo
     }
     case LookupKind::Drive:
       return {.Value = system.FactsOfDrive(question.Path)};
+    case LookupKind::DriveAtHand:
+      return {.Value = system.IsDriveAtHand(question.Path)};
     case LookupKind::LinkTarget: {
       const auto link = links.CreateLinkObject();
       if (link == nullptr || !link->Load(question.Path)) return {.End = LookupEnd::Failed};

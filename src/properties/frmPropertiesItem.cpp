@@ -5,21 +5,13 @@
 #include "base/Text.h"
 #include "core/MenuFile.h"
 #include "core/Program.h"
+#include "launch/CommandTargets.h"
 #include "platform/Input.h"
 #include "properties/ItemRules.h"
 #include "properties/frmProperties.h"
 #include "shell/FileErrorText.h"
 
 namespace corvelle {
-namespace {
-
-/// What a path's answer depends on: its drive, or its server.
-std::string LaneOf(const std::string& path) {
-  return UpperCase(path.substr(0, path.find('\\', path.starts_with("\\\\") ? 2 : 0)));
-}
-
-}  // namespace
-
 void frmProperties::SetFileItem(const MenuRecord& shown) {
   item_ = MakeFileItem(program_.Entry, shown, program_.Services.Ansi);
   EnableItem();
@@ -150,32 +142,24 @@ void frmProperties::AskTargetSoon() {
 void frmProperties::AskTarget() {
   tmrTarget_.SetEnabled(false);
   lblMissing.SetVisible(false);
-  Lookups& lookups = program_.Services.SlowAnswers;
-  lookups.Drop(targetAsked_);
-  ++targetAsked_;
-  targets_.clear();
+  program_.Slow.Drop(targetAsked_);
+  targetAsked_ = program_.Slow.NewGeneration();
+  targetsLeft_ = 0;
   if (!txtCommand.Enabled()) return;
   for (std::string& path : TargetsOf(txtCommand.Text())) {
     Lookup question{.Path = std::move(path), .Generation = targetAsked_};
-    question.Lane = LaneOf(question.Path);
-    targets_.push_back(lookups.Ask(std::move(question)));
+    question.Lane = DriveOf(question.Path);
+    ++targetsLeft_;
+    program_.Slow.Ask(std::move(question), [this](const LookupAnswer& end) { HearAnswer(end); });
   }
 }
 
-void frmProperties::HearAnswers(const std::vector<LookupAnswer>& answers) {
-  for (const LookupAnswer& answer : answers) {
-    const auto asked = std::find(targets_.begin(), targets_.end(), answer.Id);
-    if (asked == targets_.end()) continue;
-    const bool* const there = std::get_if<bool>(&answer.Value);
-    const bool missing = answer.End == LookupEnd::Answered && there != nullptr && !*there;
-    if (!missing) {
-      // One is enough, and so is one that cannot be told.
-      targets_.clear();
-      continue;
-    }
-    targets_.erase(asked);
-    if (targets_.empty()) lblMissing.SetVisible(true);
-  }
+void frmProperties::HearAnswer(const LookupAnswer& answer) {
+  const bool* const there = std::get_if<bool>(&answer.Value);
+  const bool missing = answer.End == LookupEnd::Answered && there != nullptr && !*there;
+  // One that is there is enough, and so is one that cannot be told.
+  if (!missing) return program_.Slow.Drop(targetAsked_);
+  if (--targetsLeft_ == 0) lblMissing.SetVisible(true);
 }
 
 }  // namespace corvelle
