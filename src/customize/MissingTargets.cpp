@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "launch/CommandTargets.h"
+#include "launch/CommandForm.h"
 
 namespace corvelle {
 

@@ -5,7 +5,7 @@
 #include "base/Text.h"
 #include "core/MenuFile.h"
 #include "core/Program.h"
-#include "launch/CommandTargets.h"
+#include "launch/CommandForm.h"
 #include "platform/Input.h"
 #include "properties/ItemRules.h"
 #include "properties/frmProperties.h"
