@@ -202,7 +202,7 @@ constexpr std::array<std::string_view, 16> kQuestion = {
     "................",
 };
 
-constexpr std::array<std::string_view, 16> kMissing = {
+constexpr std::array<std::string_view, 16> kMissingFile = {
     "................",  //
     "................",  //
     "................",  //
@@ -410,7 +410,7 @@ constexpr std::array<Glyph, 22> kGlyphs = {{{"up", kUp},
                                             {"button", kButton},
                                             {"qmark", kQuestion},
                                             {"unknown", kUnknown},
-                                            {"missing", kMissing},
+                                            {"missing", kMissingFile},
                                             {"sep", kSep},
                                             {"move up", kMoveUp},
                                             {"move down", kMoveDown},
