@@ -240,7 +240,7 @@ void RegisterStart() {
       [ground](benchmark::State& state) {
         Copy& copy = ground().Pointed();
         Repeat(state, [&] { copy.Toolbar.GetCurButton(); });
-        if (copy.TheProgram.CurButton < 2) GiveUp("no button was hit");
+        if (copy.TheProgram.Menu.CurButton < 2) GiveUp("no button was hit");
       },
       [ground](benchmark::State& state) {
         Input& pointer = ground().Pointer();

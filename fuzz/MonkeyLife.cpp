@@ -129,11 +129,11 @@ void MonkeyLife::Furnish() {
   world_->Files.MakeFolders(kMenus);
   OptionFlags flags;
   for (int position = 1; position <= 32; ++position) flags.Set(position, Chance(40));
-  flags.Set(1, true);
-  flags.Set(2, true);
-  flags.Set(32, true);
+  flags.Set(Option::FirstRunDone, true);
+  flags.Set(Option::DefaultEntriesOffered, true);
+  flags.Set(Option::UpgradeDone, true);
   // Hiding and being covered exclude each other; the program never writes both.
-  if (flags.Is(23)) flags.Set(3, false);
+  if (flags.Is(Option::NotOnTop)) flags.Set(Option::AutoHide, false);
   world_->Files.Put(std::string(kApp) + std::string(kOptionFlagsFileName), flags.Text());
   for (int number = Number(kMenuFiles); number > 0; --number) WriteMenu(number);
   for (int number = Number(kSingles); number > 0; --number) WriteSingle(number);
@@ -178,7 +178,7 @@ void MonkeyLife::ActAtRandom() {
 void MonkeyLife::Act() {
   quiet_ = false;
   if (plan_.empty()) {
-    if (parts_->TheProgram.ToolbarMinimized && Chance(20)) {
+    if (parts_->TheProgram.Strip.ToolbarMinimized && Chance(20)) {
       PlanReturn();
     } else if (Chance(15)) {
       Begin();

@@ -26,26 +26,28 @@ void MonkeyLife::TakeStock() {
 
 std::string MonkeyLife::WrongState() const {
   const Program& program = parts_->TheProgram;
-  if (program.StartingUp) return "the start has not ended";
-  if (program.MenuBuilding) return "a menu is still being built";
-  if (program.AppBarBusy) return "the strip is still being placed";
-  if (program.PosChangeRunning) return "the edge is still being changed";
-  if (program.IconsLoading) return "icons are still being loaded";
-  if (program.HideBusy) return "the strip is still being hidden";
-  if (program.ChangingMode) return "the mode is still being changed";
-  if (program.ItemActionBusy) return "an entry is still being edited";
-  if (program.ItemDropping) return "an entry is still being put down";
-  if (program.MenuFormBusy) return "a window still edits a menu";
+  if (program.Guards.StartingUp) return "the start has not ended";
+  if (program.Guards.MenuBuilding) return "a menu is still being built";
+  if (program.Guards.AppBarBusy) return "the strip is still being placed";
+  if (program.Guards.PosChangeRunning) return "the edge is still being changed";
+  if (program.Guards.IconsLoading) return "icons are still being loaded";
+  if (program.Guards.HideBusy) return "the strip is still being hidden";
+  if (program.Guards.ChangingMode) return "the mode is still being changed";
+  if (program.Guards.ItemActionBusy) return "an entry is still being edited";
+  if (program.Drag.ItemDropping) return "an entry is still being put down";
+  if (program.Guards.MenuFormBusy) return "a window still edits a menu";
   if (program.MovingToolbar) return "the outline is still being moved";
-  if (program.ToolbarMinimizing) return "the strip is still on its way into the task bar";
+  if (program.Strip.ToolbarMinimizing) return "the strip is still on its way into the task bar";
   if (program.WebLinkPending) return "an address waits for a window that is not there";
   if (parts_->Toolbar.MenuRefreshing) return "a menu is still being reread";
-  if (!program.ToolbarMinimized && !program.ToolbarReady) return "the strip does not listen";
+  if (!program.Strip.ToolbarMinimized && !program.Guards.ToolbarReady)
+    return "the strip does not listen";
   if (!parts_->Toolbar.Enabled()) return "the strip is disabled";
-  if (program.CurButton < 0 || program.CurButton > parts_->Toolbar.ButtonCount)
-    return "there is no current button " + std::to_string(program.CurButton);
-  if (program.CurSingle != Program::kDateArea && program.CurSingle > parts_->Toolbar.SingleCount)
-    return "there is no current single button " + std::to_string(program.CurSingle);
+  if (program.Menu.CurButton < 0 || program.Menu.CurButton > parts_->Toolbar.ButtonCount)
+    return "there is no current button " + std::to_string(program.Menu.CurButton);
+  if (program.Menu.CurSingle != MenuState::kDateArea &&
+      program.Menu.CurSingle > parts_->Toolbar.SingleCount)
+    return "there is no current single button " + std::to_string(program.Menu.CurSingle);
   if (world_->Desktop.CurrentMousePointer() == forms::MousePointer::Hourglass)
     return "the hourglass stays";
   if (world_->Desktop.Clock().Running() > kMostTimers) return "timers pile up";
@@ -59,11 +61,11 @@ std::string MonkeyLife::WrongMenu() const {
   if (!menu.Timer1.Enabled()) return "a menu is up without its poll";
   if (!menu.MenuReady) return "a menu is up without being ready";
   if (menu.OwnerTag() == "0" || menu.OwnerTag().empty()) return "a menu is up that no button owns";
-  if (program.ToolbarMinimized) return "a menu is up without its strip";
+  if (program.Strip.ToolbarMinimized) return "a menu is up without its strip";
   if (menu.CurMenu < 0 || menu.CurMenu > menu.Slides) return "there is no such page";
   if (menu.Labels > 0 && (menu.FirstLabel < 1 || menu.LastLabel > menu.Labels))
     return "the page has items that the menu has not";
-  const int selected = program.SelectedItem;
+  const int selected = program.Menu.SelectedItem;
   if (selected != 0 && (selected < menu.FirstLabel || selected > menu.LastLabel))
     return "the selection " + std::to_string(selected) + " is not on the page";
   if (menu.Shape1.Visible() && selected == 0) return "a bar is shown without a selection";
@@ -75,7 +77,7 @@ std::string MonkeyLife::WrongMenu() const {
 std::string MonkeyLife::WrongHold() {
   if (IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right)) return {};
   const auto wrong = [this]() -> std::string {
-    if (parts_->TheProgram.RestoreBusy) return "the grip is still held";
+    if (parts_->TheProgram.Guards.RestoreBusy) return "the grip is still held";
     if (parts_->Toolbar.FrameHeld) return "the frame is still held";
     return IsOffScreen() ? "the strip is off the screen" : "";
   };
@@ -88,9 +90,10 @@ std::string MonkeyLife::WrongHold() {
 bool MonkeyLife::IsOffScreen() const {
   const Program& program = parts_->TheProgram;
   const frmToolbar& strip = parts_->Toolbar;
-  if (program.ToolbarMinimized || !strip.Visible()) return false;
+  if (program.Strip.ToolbarMinimized || !strip.Visible()) return false;
   // Two options let a strip at no edge pass the sides of the screen, without an end.
-  if (!program.AppBarDocked && (program.OptionFlags.Is(13) || program.OptionFlags.Is(27)))
+  if (!program.Strip.AppBarDocked &&
+      (program.OptionFlags.Is(Option::MayPassRight) || program.OptionFlags.Is(Option::MayPassLeft)))
     return false;
   const PixelRect bounds = world_->Desktop.BoundsOf(strip.WindowHandle());
   const forms::ScreenInfo info = world_->Desktop.Screen();
@@ -127,7 +130,7 @@ std::string MonkeyLife::WrongDrag() {
   if (world_->Desktop.Dragging()) return {};
   const auto open = [&] {
     // A menu that the drag came to straight away forgets it when it goes.
-    return (program.DragOverButton && !MenuUp()) || program.DragEntered ||
+    return (program.Drag.DragOverButton && !MenuUp()) || program.Drag.DragEntered ||
            parts_->Toolbar.tmrDragDrop.Enabled();
   };
   if (!open() || IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right)) return {};
@@ -136,7 +139,8 @@ std::string MonkeyLife::WrongDrag() {
   if (!StripStands()) return {};
   if (!open()) return {};
   return std::string("a drag that is over still counts: ") +
-         (program.DragOverButton ? "over " : "") + (program.DragEntered ? "entered " : "") +
+         (program.Drag.DragOverButton ? "over " : "") +
+         (program.Drag.DragEntered ? "entered " : "") +
          (parts_->Toolbar.tmrDragDrop.Enabled() ? "watched" : "");
 }
 
@@ -188,44 +192,45 @@ std::string MonkeyLife::WrongForeground() const {
 std::string MonkeyLife::WrongPlace() const {
   const Program& program = parts_->TheProgram;
   const frmToolbar& strip = parts_->Toolbar;
-  if (program.ToolbarMinimized) {
+  if (program.Strip.ToolbarMinimized) {
     if (strip.Visible()) return "a strip in the task bar is to be seen";
-    if (program.AppBarDocked) return "a strip in the task bar stands at an edge";
+    if (program.Strip.AppBarDocked) return "a strip in the task bar stands at an edge";
     return {};
   }
-  if (!strip.Visible() && !program.AutoHide) return "the strip is not to be seen";
+  if (!strip.Visible() && !program.Strip.AutoHide) return "the strip is not to be seen";
   if (!strip.Visible()) return {};
-  if (!program.AppBarDocked) return {};
+  if (!program.Strip.AppBarDocked) return {};
   const PixelRect bounds = world_->Desktop.BoundsOf(strip.WindowHandle());
-  const int thickness = program.ToolbarVertical ? bounds.Width() : bounds.Height();
+  const int thickness = program.Strip.ToolbarVertical ? bounds.Width() : bounds.Height();
   if (thickness > kMostThickness)
     return "the strip at an edge is " + std::to_string(thickness) + " pixels thick";
-  const auto edge = EdgeFromText(program.ToolbarEdge);
-  if (!edge) return "there is no edge " + program.ToolbarEdge;
-  if (IsVertical(*edge) != program.ToolbarVertical) return "the strip stands across its edge";
-  const bool pinned = strip.Left() == program.PinnedLeft && strip.Top() == program.PinnedTop;
-  if (!program.AutoHide && !pinned) return "the strip is not where it is pinned";
+  const auto edge = EdgeFromText(program.Strip.ToolbarEdge);
+  if (!edge) return "there is no edge " + program.Strip.ToolbarEdge;
+  if (IsVertical(*edge) != program.Strip.ToolbarVertical) return "the strip stands across its edge";
+  const bool pinned =
+      strip.Left() == program.Strip.PinnedLeft && strip.Top() == program.Strip.PinnedTop;
+  if (!program.Strip.AutoHide && !pinned) return "the strip is not where it is pinned";
   return {};
 }
 
 std::string MonkeyLife::WrongBars() const {
   const Program& program = parts_->TheProgram;
   const WindowId strip = parts_->Toolbar.WindowHandle();
-  const bool docked = program.AppBarDocked && !program.ToolbarMinimized;
-  const bool hides = docked && program.AutoHide;
+  const bool docked = program.Strip.AppBarDocked && !program.Strip.ToolbarMinimized;
+  const bool hides = docked && program.Strip.AutoHide;
   for (const Edge edge : {Edge::Top, Edge::Bottom, Edge::Left, Edge::Right}) {
     const bool claims = world_->Bars.HiddenBar(edge) == strip;
-    const bool should = hides && EdgeText(edge) == program.ToolbarEdge;
+    const bool should = hides && edge == program.Strip.ToolbarEdge;
     if (claims != should)
       return std::string(claims ? "a claim that was not given up at " : "no claim at ") +
              std::string(EdgeText(edge));
   }
   const bool keeps = !world_->Bars.KeptBy(strip).IsEmpty();
-  const bool should = docked && !program.AutoHide && !program.NotOnTop;
+  const bool should = docked && !program.Strip.AutoHide && !program.Strip.NotOnTop;
   if (keeps != should) return keeps ? "room is kept for no strip" : "no room is kept for the strip";
-  if (program.ToolbarMinimized && program.WasDocked && world_->Bars.IsRegistered(strip))
+  if (program.Strip.ToolbarMinimized && program.Strip.WasDocked && world_->Bars.IsRegistered(strip))
     return "a strip in the task bar is still a bar";
-  const std::size_t icons = program.NotOnTop ? 1 : 0;
+  const std::size_t icons = program.Strip.NotOnTop ? 1 : 0;
   if (world_->Tray.Shown.size() != icons)
     return "the tray shows " + std::to_string(world_->Tray.Shown.size()) + " icons";
   return {};
@@ -233,9 +238,11 @@ std::string MonkeyLife::WrongBars() const {
 
 std::string MonkeyLife::WrongOptions() const {
   const Program& program = parts_->TheProgram;
-  if (program.OptionFlags.Is(3) != program.AutoHide) return "the option of Auto Hide differs";
-  if (program.OptionFlags.Is(23) != program.NotOnTop) return "the option of Not On Top differs";
-  if (program.AutoHide && program.NotOnTop) return "the strip hides and can be covered";
+  if (program.OptionFlags.Is(Option::AutoHide) != program.Strip.AutoHide)
+    return "the option of Auto Hide differs";
+  if (program.OptionFlags.Is(Option::NotOnTop) != program.Strip.NotOnTop)
+    return "the option of Not On Top differs";
+  if (program.Strip.AutoHide && program.Strip.NotOnTop) return "the strip hides and can be covered";
   return {};
 }
 
@@ -294,11 +301,11 @@ std::string MonkeyLife::WrongQuiet() const {
            (active == kNoWindow ? "no window" : world_->Desktop.ClassName(active)) +
            (program.DragHolds() ? ", a drag holds" : "");
   }
-  if (program.MenuOpen) return "a menu counts as open";
+  if (program.Menu.MenuOpen) return "a menu counts as open";
   const WindowId hint = parts_->Hint.WindowHandle();
   if (hint != kNoWindow && world_->Desktop.IsShown(hint)) return "a hint stays";
   const int running = world_->Desktop.Clock().Running();
-  const int expected = program.AutoHide && !program.ToolbarMinimized ? 1 : 0;
+  const int expected = program.Strip.AutoHide && !program.Strip.ToolbarMinimized ? 1 : 0;
   if (running > expected) return std::to_string(running) + " timers run for nothing";
   if (expected == 1 && running == 0) return "nobody watches for a strip that hides";
   return {};
@@ -306,11 +313,11 @@ std::string MonkeyLife::WrongQuiet() const {
 
 void MonkeyLife::NotePlace() {
   const Program& program = parts_->TheProgram;
-  std::string place = program.ToolbarMinimized ? "in the task bar"
-                      : program.AppBarDocked   ? "at " + program.ToolbarEdge
-                                               : "at no edge";
-  if (program.AutoHide) place += ", hiding";
-  if (program.NotOnTop) place += ", not on top";
+  std::string place = program.Strip.ToolbarMinimized ? "in the task bar"
+                      : program.Strip.AppBarDocked   ? "at " + program.Strip.ToolbarEdge
+                                                     : "at no edge";
+  if (program.Strip.AutoHide) place += ", hiding";
+  if (program.Strip.NotOnTop) place += ", not on top";
   if (place == placeBefore_) return;
   Tell("(strip " + place + ")");
   placeBefore_ = place;

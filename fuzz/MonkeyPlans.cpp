@@ -34,8 +34,8 @@ void MonkeyLife::PlanMove(std::function<PixelPoint()> place) {
 
 // A strip that hides comes out when the pointer touches its line.
 void MonkeyLife::PlanStripInSight() {
-  if (!parts_->TheProgram.AutoHide || parts_->Toolbar.picToolbar.Visible()) return;
-  const auto edge = EdgeFromText(parts_->TheProgram.ToolbarEdge).value_or(Edge::Top);
+  if (!parts_->TheProgram.Strip.AutoHide || parts_->Toolbar.picToolbar.Visible()) return;
+  const auto edge = parts_->TheProgram.Strip.ToolbarEdge;
   PlanMove([this, edge] { return EdgePoint(edge); });
   Plan([this] {
     LetPass(kReveal);
@@ -73,7 +73,7 @@ void MonkeyLife::PlanMainMenu() {
   PlanMove([this, item] { return ItemPoint(item); });
   Plan([this, item] {
     const bool there = MenuUp() && parts_->Menu.MenuKey == "Q1" && parts_->Menu.Lbl.Has(item) &&
-                       parts_->TheProgram.SelectedItem == item;
+                       parts_->TheProgram.Menu.SelectedItem == item;
     if (there) {
       Tell("main menu: " + parts_->Menu.Lbl[item].Caption());
       tally_.Note("main menu: " + parts_->Menu.Lbl[item].Caption());
@@ -315,7 +315,7 @@ void MonkeyLife::PlanHint() {
 // A strip in the task bar, or under other windows, comes back.
 void MonkeyLife::PlanReturn() {
   Plan([this] {
-    const bool was = parts_->TheProgram.ToolbarMinimized;
+    const bool was = parts_->TheProgram.Strip.ToolbarMinimized;
     switch (Number(3)) {
       case 0:
         Tell("its button in the task bar");
@@ -333,7 +333,8 @@ void MonkeyLife::PlanReturn() {
         world_->Desktop.Post(world_->Desktop.Find("frmMinimize"), forms::message::Size, 0, 0);
     }
     world_->Desktop.Pump();
-    if (was && !parts_->TheProgram.ToolbarMinimized) tally_.Note("came back from the task bar");
+    if (was && !parts_->TheProgram.Strip.ToolbarMinimized)
+      tally_.Note("came back from the task bar");
   });
 }
 

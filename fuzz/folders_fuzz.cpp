@@ -29,7 +29,7 @@ constexpr std::string_view kStarts[] = {
 
 struct Home {
   Home() : program(world.Services(), world.Windows()), folders(program) {
-    program.MenusPath = kMenus;
+    program.Paths.MenusPath = kMenus;
     world.Files.Put("C:\\Docs\\a.txt", "x");
     world.Files.Put("C:\\Docs\\inner\\b.lnk", "x");
     world.Folders.Put(0, {{"Bin", 3}, {"", 1}, {"a|b", -1}});

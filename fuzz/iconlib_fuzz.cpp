@@ -43,8 +43,8 @@ void CheckUnpacking(const std::string& container) {
   world.Files.Put("C:\\Corvelle\\icon.lib", container);
   world.Files.MakeFolders(kIcons);
   Program program{world.Services(), world.Windows()};
-  program.AppPath = "C:\\Corvelle\\";
-  program.IconsPath = kIcons;
+  program.Paths.AppPath = "C:\\Corvelle\\";
+  program.Paths.IconsPath = kIcons;
   IconLibrary(program).ExtractIconLibrary();
 
   CORVELLE_CHECK(world.Files.Names("C:\\") == std::vector<std::string>{"Corvelle"});

@@ -56,8 +56,8 @@ void DefaultEntries::IncludeCommonFiles() {
 
 FileStatus DefaultEntries::Fill() {
   FileSystem& files = program_.Services.Files;
-  if (!files.FolderExists(program_.MenusPath)) {
-    const FileStatus made = files.MakeFolder(program_.MenusPath);
+  if (!files.FolderExists(program_.Paths.MenusPath)) {
+    const FileStatus made = files.MakeFolder(program_.Paths.MenusPath);
     if (!made && made.Error() != FileError::AlreadyExists) return made;
   }
   const auto menus = Count("*.mnu");
@@ -74,7 +74,7 @@ FileStatus DefaultEntries::Fill() {
 }
 
 FileResult<int> DefaultEntries::Count(std::string_view pattern) {
-  const auto found = program_.Services.Files.List(program_.MenusPath, pattern);
+  const auto found = program_.Services.Files.List(program_.Paths.MenusPath, pattern);
   if (!found) return found.Error();
   return static_cast<int>(std::count_if(found->begin(), found->end(),
                                         [](const FileEntry& entry) { return !entry.IsFolder; }));
@@ -83,9 +83,9 @@ FileResult<int> DefaultEntries::Count(std::string_view pattern) {
 // An installation may bring a first menu of its own.
 FileStatus DefaultEntries::CopyFirstMenu() {
   FileSystem& files = program_.Services.Files;
-  const std::string shipped = program_.ShippedFile(kFirstMenu);
+  const std::string shipped = program_.Paths.ShippedFile(kFirstMenu);
   if (!files.FileExists(shipped)) return Success();
-  const std::string copy = program_.MenusPath + std::string(kFirstMenu);
+  const std::string copy = program_.Paths.MenusPath + std::string(kFirstMenu);
   if (auto removed = RemoveIfThere(files, copy); !removed) return removed;
   if (auto copied = files.Copy(shipped, copy); !copied) return copied;
   MnuNum = 2;
@@ -149,7 +149,7 @@ std::optional<std::string> DefaultEntries::IfOnDisk(std::string path) {
 
 FileStatus DefaultEntries::WriteSingle(const MenuRecord& record) {
   FileSystem& files = program_.Services.Files;
-  const std::string path = program_.MenusPath + SingleFileName(BtnNum);
+  const std::string path = program_.Paths.MenusPath + SingleFileName(BtnNum);
   if (auto removed = RemoveIfThere(files, path); !removed) return removed;
   if (auto written = WriteRecords(files, program_.Services.Ansi, path, {record}); !written) {
     return written;
@@ -161,7 +161,7 @@ FileStatus DefaultEntries::WriteSingle(const MenuRecord& record) {
 
 std::optional<std::string> DefaultEntries::GetExe(std::string_view extension) {
   FileSystem& files = program_.Services.Files;
-  const std::string sample = program_.AppPath + "dummy." + std::string(extension);
+  const std::string sample = program_.Paths.AppPath + "dummy." + std::string(extension);
   // Where the sample cannot be made the question cannot be asked, and there is no answer.
   if (!RemoveIfThere(files, sample) || !files.Write(sample, "dummy string\r\n")) {
     return std::nullopt;
@@ -194,7 +194,7 @@ FileStatus DefaultEntries::WriteMenus() {
 
 FileStatus DefaultEntries::WriteMenu(const std::vector<MenuRecord>& records) {
   FileSystem& files = program_.Services.Files;
-  const std::string path = program_.MenusPath + MenuFileName(MnuNum);
+  const std::string path = program_.Paths.MenusPath + MenuFileName(MnuNum);
   if (auto removed = RemoveIfThere(files, path); !removed) return removed;
   if (auto written = WriteRecords(files, program_.Services.Ansi, path, records); !written) {
     return written;

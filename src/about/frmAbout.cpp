@@ -208,7 +208,7 @@ void frmAbout::DrawTitle() {
   picLogo.DrawPixels({0, 0, size, size}, [this, size](Canvas& canvas) {
     // Without the program's icon the place stays empty.
     static_cast<void>(program_.Services.Icons.DrawFileIcon(
-        canvas, program_.ShippedFile("corvelle.exe"), 0, {0, 0}, size));
+        canvas, program_.Paths.ShippedFile("corvelle.exe"), 0, {0, 0}, size));
   });
   picTitle.SetFont({.Points = kTitlePoints, .Bold = true});
   picTitle.Print(0, 0, kName, forms::color::WindowText);
@@ -245,7 +245,7 @@ void frmAbout::TabStrip1_Click() {
 
 // The drive of the program comes first, which is sure to be there.
 void frmAbout::FillDrives() {
-  const std::string own = DriveRoot(program_.ShippedFile(""));
+  const std::string own = DriveRoot(program_.Paths.ShippedFile(""));
   Drive1.Clear();
   for (const std::string& root : program_.Services.System.LogicalDrives()) {
     Drive1.Add(DropBackslash(root));

@@ -13,7 +13,7 @@ namespace {
 
 // The row takes what it is given from the clipboard; what the user has copied there stays his.
 void DropOnSingles(Program& program, forms::MouseButton released) {
-  if (program.Ports.SingleButtons == nullptr || program.ItemActionBusy) return;
+  if (program.Ports.SingleButtons == nullptr || program.Guards.ItemActionBusy) return;
   EntryEdit& entry = program.Entry;
   const MenuStill still(program.Ports.Capture);
   if (!IsMenuTag(entry.CurMenuTag)) {
@@ -63,13 +63,13 @@ void StartCarry(Program& program) {
 
 bool EndCarry(Program& program, PixelPoint at, forms::MouseButton released,
               forms::ShiftState shift) {
-  if (program.ItemDropping) return true;
+  if (program.Drag.ItemDropping) return true;
   if (!program.Entry.ItemDragging) return false;
   const WindowId under = program.Services.Desktop.WindowAt(at);
   if (released != forms::MouseButton::Left && !TakesCopies(program, under)) return true;
   // A menu that is being built is no place to put anything down.
-  if (under != kNoWindow && !program.MenuBuilding) {
-    const forms::FlagScope dropping(program.ItemDropping);
+  if (under != kNoWindow && !program.Guards.MenuBuilding) {
+    const forms::FlagScope dropping(program.Drag.ItemDropping);
     if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->SetPointerWatch(false);
     program.Windows.SetMousePointer(forms::MousePointer::Hourglass);
     Drop(program, under, released, shift);
@@ -80,7 +80,7 @@ bool EndCarry(Program& program, PixelPoint at, forms::MouseButton released,
 
 void AbandonCarry(Program& program) {
   program.Entry.ItemDragging = false;
-  program.ButtonDragging = false;
+  program.Drag.ButtonDragging = false;
   ForgetCurrentEntry(program.Entry);
   if (program.Ports.DragImage != nullptr) program.Ports.DragImage->RemoveDragImage();
   program.Windows.SetMousePointer(forms::MousePointer::Default);

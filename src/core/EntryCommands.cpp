@@ -98,9 +98,9 @@ void ShowSourceAfterMove(Program& program, const EntryEdit& entry, const EditOut
 }
 
 EditOutcome DeleteMenuItem(Program& program, const EntryEdit& entry) {
-  const EditOutcome outcome = Told(
-      program,
-      DeleteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry));
+  const EditOutcome outcome =
+      Told(program, DeleteMenuEntry(program.Services.Files, program.Services.Ansi,
+                                    program.Paths.MenusPath, entry));
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program, entry);
   if (outcome == EditOutcome::RecordMismatch && !entry.ItemDragging) SayRecordMismatch(program);
   return outcome;
@@ -140,8 +140,8 @@ EditOutcome PasteItem(Program& program) {
                        [&](SingleButtonsPort& row) { return row.PasteSingle(entry.CurFile); });
   }
   const EditOutcome outcome =
-      Told(program,
-           PasteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry));
+      Told(program, PasteMenuEntry(program.Services.Files, program.Services.Ansi,
+                                   program.Paths.MenusPath, entry));
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program, entry);
   return outcome;
 }
@@ -155,16 +155,17 @@ bool DropItem(Program& program, std::string_view tag, const DropPlace& place, bo
   // the program leaves the entry twice or nowhere.
   EditOutcome outcome = EditOutcome::NothingToDo;
   const bool within = !copies && IsMenuTag(entry.CurMenuTag);
-  if (within) outcome = Told(program, MoveMenuEntry(files, ansi, program.MenusPath, entry, place));
+  if (within)
+    outcome = Told(program, MoveMenuEntry(files, ansi, program.Paths.MenusPath, entry, place));
   if (outcome == EditOutcome::NothingToDo && !copies) {
     const float freeWidth = FreeWidth(program);
-    outcome = Told(program, MoveEntryToMenu(files, ansi, program.MenusPath, entry, place));
+    outcome = Told(program, MoveEntryToMenu(files, ansi, program.Paths.MenusPath, entry, place));
     ShowSourceAfterMove(program, entry, outcome, freeWidth);
   }
   if (outcome == EditOutcome::Failed) return false;
   // What cannot be taken away is copied.
   if (outcome != EditOutcome::Edited) {
-    outcome = Told(program, CopyMenuEntry(files, ansi, program.MenusPath, entry, place));
+    outcome = Told(program, CopyMenuEntry(files, ansi, program.Paths.MenusPath, entry, place));
     if (outcome != EditOutcome::Edited) return false;
   }
   program.Entry.UndoMenuTag.clear();
@@ -183,9 +184,9 @@ EditOutcome UndoDeleteItem(Program& program) {
     if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->RefreshMenu(entry.UndoMenuTag);
     return outcome;
   }
-  const EditOutcome outcome = Told(
-      program,
-      UndoDeleteMenuEntry(program.Services.Files, program.Services.Ansi, program.MenusPath, entry));
+  const EditOutcome outcome =
+      Told(program, UndoDeleteMenuEntry(program.Services.Files, program.Services.Ansi,
+                                        program.Paths.MenusPath, entry));
   if (outcome == EditOutcome::Failed) return outcome;
   program.Entry.UndoMenuTag.clear();
   if (outcome == EditOutcome::Edited) RefreshAfterEdit(program, entry);

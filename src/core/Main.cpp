@@ -28,14 +28,14 @@ bool HasEnded(const Program& program) {
 }
 
 void CloseStartupWindow(Program& program) {
-  if (program.OptionFlags.Is(9) || program.Ports.Startup == nullptr) return;
+  if (program.OptionFlags.Is(Option::NoStartupScreen) || program.Ports.Startup == nullptr) return;
   program.Ports.Startup->HideWindow();
   program.DoEvents();
   program.Ports.Startup->UnloadWindow();
 }
 
 void ShowWelcome(Program& program) {
-  const std::string help = program.ShippedFile("corvelle.hlp");
+  const std::string help = program.Paths.ShippedFile("corvelle.hlp");
   if (!program.Services.Files.FileExists(help)) {
     if (program.Ports.Help != nullptr) program.Ports.Help->OfferPage(HelpPage::FirstSteps);
     return;
@@ -48,7 +48,7 @@ void ShowWelcome(Program& program) {
 
 // The link of an earlier copy is made anew, so that it points to this one.
 void OfferStartupLink(Program& program, StartupLinkPort& link) {
-  const std::string executable = program.ShippedFile("corvelle.exe");
+  const std::string executable = program.Paths.ShippedFile("corvelle.exe");
   if (link.Exists()) {
     link.Remove();
     link.Create(executable);
@@ -65,21 +65,21 @@ void OfferStartupLink(Program& program, StartupLinkPort& link) {
 // Without shell links the question cannot be kept, so it waits, and position 1 with it. Where the
 // flags cannot be kept the answer could not be either: it would be asked for at each start.
 void DoFirstRun(Program& program) {
-  if (program.OptionFlags.Is(1) || program.Ports.StartupLink == nullptr) return;
+  if (program.OptionFlags.Is(Option::FirstRunDone) || program.Ports.StartupLink == nullptr) return;
   program.DoEvents();
   if (HasEnded(program)) return;
-  if (!SaveOptionFlags(program.Services.Files, program.AppPath, program.OptionFlags)) return;
+  if (!SaveOptionFlags(program.Services.Files, program.Paths.AppPath, program.OptionFlags)) return;
   OfferStartupLink(program, *program.Ports.StartupLink);
-  program.OptionFlags.Set(1, '1');
+  program.OptionFlags.Set(Option::FirstRunDone, '1');
   program.SaveOptionFlags();
   if (!HasEnded(program)) ShowWelcome(program);
 }
 
 // True if the data cannot lie where the user would look for it.
 bool FindFolders(Program& program) {
-  program.ShippedPath = FindAppPath(program.Services);
-  DataFolder data = FindDataFolder(program.Services, program.ShippedPath);
-  program.AppPath = std::move(data.Path);
+  program.Paths.ShippedPath = FindAppPath(program.Services);
+  DataFolder data = FindDataFolder(program.Services, program.Paths.ShippedPath);
+  program.Paths.AppPath = std::move(data.Path);
   return data.Tell;
 }
 
@@ -94,30 +94,31 @@ void TellOfCrash(Program& program) {
 }
 
 void TellWhereDataIs(Program& program) {
-  if (WasToldAbout(program.Services, program.AppPath, program.ShippedPath)) return;
+  if (WasToldAbout(program.Services, program.Paths.AppPath, program.Paths.ShippedPath)) return;
   program.Say(program.ToolbarWindow(),
-              "Corvelle cannot write to its own folder:\r\n" + program.ShippedPath +
-                  "\r\n\r\nIt keeps your menus and options here:\r\n" + program.AppPath,
+              "Corvelle cannot write to its own folder:\r\n" + program.Paths.ShippedPath +
+                  "\r\n\r\nIt keeps your menus and options here:\r\n" + program.Paths.AppPath,
               forms::msgbox::IconInformation | forms::msgbox::OnTop);
-  NoteToldAbout(program.Services, program.AppPath, program.ShippedPath);
+  NoteToldAbout(program.Services, program.Paths.AppPath, program.Paths.ShippedPath);
 }
 
 // A flag file that another program holds at this moment is no new installation: nothing is cleaned
 // away, and the run goes on with an installed version's flags.
 void ReadOptions(Program& program) {
-  const auto flags = ReadFlagsAtStart(program.Services.Files, program.AppPath);
+  const auto flags = ReadFlagsAtStart(program.Services.Files, program.Paths.AppPath);
   if (flags) {
     program.OptionFlags = *flags;
     return;
   }
   program.OptionFlags = FlagsAfterUpgrade();
-  program.OptionFlags.Set(1, true);
-  program.OptionFlags.Set(2, true);
+  program.OptionFlags.Set(Option::FirstRunDone, true);
+  program.OptionFlags.Set(Option::DefaultEntriesOffered, true);
 }
 
 void Upgrade(Program& program) {
-  if (program.OptionFlags.Is(32)) return;
-  CleanInstallation(program.Services.Files, program.AppPath, program.ShippedFile("anetsrch.org"));
+  if (program.OptionFlags.Is(Option::UpgradeDone)) return;
+  CleanInstallation(program.Services.Files, program.Paths.AppPath,
+                    program.Paths.ShippedFile("anetsrch.org"));
   program.OptionFlags = FlagsAfterUpgrade();
   program.SaveOptionFlags();
 }
@@ -128,14 +129,14 @@ bool Main(Program& program) {
   if (!ClaimSession(program)) return false;
   const bool elsewhere = FindFolders(program);
   ReadOptions(program);
-  program.StartingUp = true;
+  program.Guards.StartingUp = true;
   program.ShowStartupProgress();
   program.DoEvents();
   Upgrade(program);
-  program.WebLinkIcon = LoadWebLinkIcon(program.Services.Files, program.Services.Ansi,
-                                        program.AppPath, program.OptionFlags);
+  program.Icons.WebLinkIcon = LoadWebLinkIcon(program.Services.Files, program.Services.Ansi,
+                                              program.Paths.AppPath, program.OptionFlags);
   if (program.Ports.IconRule != nullptr) program.Ports.IconRule->DetectShellIcons();
-  program.NotOnTop = program.OptionFlags.Is(23);
+  program.Strip.NotOnTop = program.OptionFlags.Is(Option::NotOnTop);
   LoadWindows(program);
   CloseStartupWindow(program);
   // Events ran: the companion may have been closed, and the program with it.
@@ -146,10 +147,10 @@ bool Main(Program& program) {
   if (HasEnded(program)) return false;
   DoFirstRun(program);
   if (HasEnded(program)) return false;
-  if (program.NotOnTop && program.Ports.Minimize != nullptr) {
+  if (program.Strip.NotOnTop && program.Ports.Minimize != nullptr) {
     program.Ports.Minimize->ShowInSysTray();
   }
-  program.StartingUp = false;
+  program.Guards.StartingUp = false;
   return true;
 }
 

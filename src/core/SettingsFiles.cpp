@@ -52,7 +52,7 @@ FileStatus SaveToolbarPosition(FileSystem& files, std::string_view appPath, floa
 
 std::string LoadWebLinkIcon(FileSystem& files, const CodePage& ansi, std::string_view appPath,
                             const OptionFlags& flags) {
-  if (flags.Is(12)) {
+  if (flags.Is(Option::OwnWebLinkIcon)) {
     const auto bytes = files.Read(PathOf(appPath, kIconFile), 0, kTextLimit);
     const auto lines = SplitLines(bytes ? std::string_view(*bytes) : std::string_view());
     std::string icon = lines.empty() ? std::string() : Trim(DecodeText(lines.front(), ansi));

@@ -70,8 +70,8 @@ FileResult<OptionFlags> ReadFlagsAtStart(FileSystem& files, std::string_view app
   const FileResult<std::string> bytes = files.Read(folder + older.front(), 0, OptionFlags::kLength);
   if (!bytes) return bytes.Error();
   OptionFlags flags = OptionFlags::Clean(*bytes);
-  flags.Set(1, false);
-  flags.Set(2, false);
+  flags.Set(Option::FirstRunDone, false);
+  flags.Set(Option::DefaultEntriesOffered, false);
   // Only once they are kept; should the old file stay then, this version's file outweighs it.
   if (SaveOptionFlags(files, appPath, flags)) {
     static_cast<void>(files.Remove(folder + older.front()));

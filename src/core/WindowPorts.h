@@ -250,9 +250,9 @@ class DockingPort {
   /// Gives up the edge and the claim to hide there, until RegisterAppBar.
   virtual void LeaveEdge() { EndAppBar(); }
   /// True if no other window hides at that edge.
-  [[nodiscard]] virtual bool AutoHideFree(std::string_view edge) = 0;
+  [[nodiscard]] virtual bool AutoHideFree(Edge edge) = 0;
   /// Puts the strip at the edge, or anew at its edge when `edge` is empty.
-  virtual void SetAppBar(std::string_view edge, bool rebuild) = 0;
+  virtual void SetAppBar(std::optional<Edge> edge, bool rebuild) = 0;
   /// Auto Hide: shows the strip, hides it but for its line.
   virtual void RevealToolbar() = 0;
   virtual void HideToolbar() = 0;
@@ -330,10 +330,10 @@ class CapturePort {
   virtual void ResetPicture1() = 0;
 
   /// The outline of the strip at an edge to which it is being pulled; none any more.
-  virtual void SetPosition(std::string_view edge) = 0;
+  virtual void SetPosition(Edge edge) = 0;
   virtual void ClearBg() = 0;
   /// The edge of the outline; empty while no outline is shown.
-  [[nodiscard]] virtual std::string OutlineEdge() const = 0;
+  [[nodiscard]] virtual std::optional<Edge> OutlineEdge() const = 0;
 };
 
 /// A menu whose open folder items are replaced by what they hold.

@@ -164,7 +164,7 @@ void frmCust::LoadWindow() {
 
 bool frmCust::InitMenuTree() {
   MenusResult<MenuFiles> read =
-      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
+      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!read) {
     // A tree that lacks a file would delete it when it is saved.
     program_.Say(program_.WindowInUse(),
@@ -194,10 +194,11 @@ void frmCust::Form_Load() {
   txtFind.SetText("");
   address_.clear();
   mnuPopup = {};
-  keeper_ = std::make_unique<DraftKeeper>(program_.Services.Files, program_.MenusPath);
+  keeper_ = std::make_unique<DraftKeeper>(program_.Services.Files, program_.Paths.MenusPath);
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
-    Editor.InitMenuTree(files_.Set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
+    Editor.InitMenuTree(files_.Set, program_.Paths.ShippedFile("corvelle.exe"),
+                        program_.Paths.MenusPath);
     Editor.Select(kMenusRoot);
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());

@@ -164,9 +164,9 @@ std::string frmCust::FolderLink(const forms::FolderChoice& choice) {
   }
   if (name.empty()) name = "Folder";
   FileSystem& files = program_.Services.Files;
-  std::string path = program_.ShellLinkPath + name + ".lnk";
+  std::string path = program_.Paths.ShellLinkPath + name + ".lnk";
   for (int number = 2; files.FileExists(path); ++number) {
-    path = program_.ShellLinkPath + name + " " + std::to_string(number) + ".lnk";
+    path = program_.Paths.ShellLinkPath + name + " " + std::to_string(number) + ".lnk";
   }
   constexpr int kNormalWindow = 1;
   if (cShellLink(program_.Services.Links).ShellLinkToObject(path, choice.Item, kNormalWindow)) {

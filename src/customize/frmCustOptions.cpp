@@ -36,19 +36,19 @@ void frmCust::ChooseOption(CustOption option) {
   ToolbarPort* const strip = program_.Ports.Toolbar;
   switch (option) {
     case CustOption::KeepOnTop:
-      FlipOption(4);
+      FlipOption(Option::AboveFullScreen);
       break;
     case CustOption::StartupScreen:
-      FlipOption(9);
+      FlipOption(Option::NoStartupScreen);
       break;
     case CustOption::LeaveExtension:
-      FlipOption(10);
+      FlipOption(Option::KeepExtension);
       break;
     case CustOption::SingleClick:
-      flags.Set(11, true);
+      flags.Set(Option::SingleClick, true);
       break;
     case CustOption::DoubleClick:
-      flags.Set(11, false);
+      flags.Set(Option::SingleClick, false);
       break;
     case CustOption::SmallSingles:
       SetSmallSingles();
@@ -60,7 +60,7 @@ void frmCust::ChooseOption(CustOption option) {
       ChooseWebIcon(false);
       break;
     case CustOption::WebLinkDialog:
-      FlipOption(18);
+      FlipOption(Option::NoWebLinkDialog);
       break;
     case CustOption::AlternateBrowser:
       ChooseBrowser(true);
@@ -77,17 +77,17 @@ void frmCust::ChooseOption(CustOption option) {
       SetLargeIcons();
       break;
     case CustOption::ShowDate:
-      FlipOption(21);
+      FlipOption(Option::ShowDate);
       if (strip != nullptr) strip->DoLabelDate();
       break;
     case CustOption::DisableHints:
-      FlipOption(22);
+      FlipOption(Option::NoHints);
       break;
     case CustOption::SystemPopup:
-      flags.Set(19, true);
+      flags.Set(Option::SystemPopupWithCtrl, true);
       break;
     case CustOption::OwnPopup:
-      flags.Set(19, false);
+      flags.Set(Option::SystemPopupWithCtrl, false);
       break;
     case CustOption::SetStartup:
       SetAsStartupProgram(program_);
@@ -106,7 +106,7 @@ void frmCust::ChooseOption(CustOption option) {
 }
 
 void frmCust::LookForBrowser() {
-  ownBrowser_ = program_.Services.Files.FileExists(program_.AppPath + "openurl.ini");
+  ownBrowser_ = program_.Services.Files.FileExists(program_.Paths.AppPath + "openurl.ini");
 }
 
 void frmCust::FlipOption(int position) { program_.OptionFlags.Flip(position); }
@@ -122,11 +122,12 @@ void frmCust::ChooseWebIcon(bool custom) {
   if (custom) {
     const std::string icon = AskOneFile("Select one file.", Editor.LastFolder);
     if (icon.empty()) return;
-    if (!SaveWebLinkIcon(files, program_.Services.Ansi, program_.AppPath, icon)) return Beep();
+    if (!SaveWebLinkIcon(files, program_.Services.Ansi, program_.Paths.AppPath, icon))
+      return Beep();
   }
   program_.OptionFlags.Set(kWebIconOption, custom);
-  program_.WebLinkIcon =
-      LoadWebLinkIcon(files, program_.Services.Ansi, program_.AppPath, program_.OptionFlags);
+  program_.Icons.WebLinkIcon =
+      LoadWebLinkIcon(files, program_.Services.Ansi, program_.Paths.AppPath, program_.OptionFlags);
 }
 
 void frmCust::ChooseBrowser(bool own) {
@@ -154,17 +155,17 @@ void frmCust::SetSmallSingles() {
   program_.OptionFlags.Set(kSmallSinglesOption, small);
   DockingPort* const docking = program_.Ports.Docking;
   if (!small) {
-    if (!program_.AppBarDocked) {
+    if (!program_.Strip.AppBarDocked) {
       Say("The change will take effect next time you switch to large icons toolbar.",
           forms::msgbox::IconInformation);
     } else if (docking != nullptr) {
-      docking->SetAppBar(program_.ToolbarEdge, true);
+      docking->SetAppBar(program_.Strip.ToolbarEdge, true);
     }
     return;
   }
   program_.OptionFlags.Set(kLargeOption, true);
   if (docking == nullptr) return;
-  docking->SetAppBar(program_.AppBarDocked ? program_.ToolbarEdge : "RIGHT", true);
+  docking->SetAppBar(program_.Strip.AppBarDocked ? program_.Strip.ToolbarEdge : "RIGHT", true);
 }
 
 }  // namespace corvelle

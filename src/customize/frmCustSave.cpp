@@ -46,7 +46,7 @@ bool frmCust::SaveTree() {
   {
     const forms::HourglassScope hourglass(program_.Windows);
     Editor.cmdOK();
-    if (program_.AutoHide && program_.Ports.Docking != nullptr) {
+    if (program_.Strip.AutoHide && program_.Ports.Docking != nullptr) {
       program_.Ports.Docking->RevealToolbar();
       if (!IsLoaded()) return false;
     }
@@ -66,7 +66,7 @@ bool frmCust::SaveTree() {
 SaveResult frmCust::WriteTree(DraftsAround& around) {
   const MenuSet tree = Editor.Tree.ToMenuSet();
   around = keeper_->AroundSave(tree);
-  return SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath, tree,
+  return SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, tree,
                    files_.Stamp, around);
 }
 
@@ -85,7 +85,7 @@ bool frmCust::SettleConflict(const MenusStamp& theirs) {
   const bool mine = Say(kConflict, kConflictQuestion) == forms::msgbox::AnswerYes;
   if (!IsLoaded()) return false;
   MenusResult<MenuFiles> read =
-      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
+      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!read || (*read).Stamp != theirs) {
     // Changed once more meanwhile: the next save asks again.
     Editor.TreeChanged = true;
@@ -104,8 +104,8 @@ bool frmCust::SettleConflict(const MenusStamp& theirs) {
   const MenuSet tree = Editor.Tree.ToMenuSet();
   DraftsAround around = keeper_->AroundSave(tree);
   around.After.insert(around.After.begin(), other);
-  SaveResult result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
-                                tree, files_.Stamp, around);
+  SaveResult result = SaveMenus(program_.Services.Files, program_.Services.Ansi,
+                                program_.Paths.MenusPath, tree, files_.Stamp, around);
   if (result.End == SaveEnd::Saved) {
     TakeSaved(std::move(result), std::move(around));
     return true;
@@ -130,7 +130,7 @@ void frmCust::RefreshStrip() {
   const float gap = strip->FreeWidth();
   strip->ResetCollections();
   strip->InitNewButtons();
-  if (strip->WindowLoaded() && !program_.AppBarDocked && !program_.AutoHide) {
+  if (strip->WindowLoaded() && !program_.Strip.AppBarDocked && !program_.Strip.AutoHide) {
     strip->ResizeAfterEdit(gap);
   }
   // The rebuilt strip came to the foreground.
@@ -226,7 +226,7 @@ void frmCust::ShowSet(const MenuSet& set) {
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
     const bool saving = Editor.SavingNow;
-    Editor.InitMenuTree(set, program_.ShippedFile("corvelle.exe"), program_.MenusPath);
+    Editor.InitMenuTree(set, program_.Paths.ShippedFile("corvelle.exe"), program_.Paths.MenusPath);
     Editor.SavingNow = saving;
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());
@@ -244,7 +244,7 @@ void frmCust::ShowFiles() {
 
 bool frmCust::Merge() {
   MenusResult<MenuFiles> read =
-      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
+      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!read) return false;
   if ((*read).Stamp == files_.Stamp) {
     if (theirs_) {

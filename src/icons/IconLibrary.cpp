@@ -55,18 +55,18 @@ std::optional<std::uint64_t> ExtractEntry(Program& program, const std::string& c
 
 void RemoveAll(Program& program, std::string_view pattern) {
   FileSystem& files = program.Services.Files;
-  const auto entries = files.List(program.IconsPath, pattern);
+  const auto entries = files.List(program.Paths.IconsPath, pattern);
   // A folder that cannot be listed holds nothing to remove.
   if (!entries) return;
   for (const FileEntry& entry : *entries) {
     // What cannot be removed is written anew when its list is.
-    if (!entry.IsFolder) static_cast<void>(files.Remove(program.IconsPath + entry.Name));
+    if (!entry.IsFolder) static_cast<void>(files.Remove(program.Paths.IconsPath + entry.Name));
   }
 }
 
 std::vector<std::string> FileNames(Program& program, std::string_view pattern) {
   std::vector<std::string> names;
-  const auto entries = program.Services.Files.List(program.IconsPath, pattern);
+  const auto entries = program.Services.Files.List(program.Paths.IconsPath, pattern);
   if (!entries) return names;
   for (const FileEntry& entry : *entries) {
     if (!entry.IsFolder) names.push_back(entry.Name);
@@ -77,7 +77,7 @@ std::vector<std::string> FileNames(Program& program, std::string_view pattern) {
 /// The lines of a text file in the folder of icons; nothing when it is not there.
 std::optional<std::vector<std::string>> ReadLines(Program& program, const std::string& name) {
   FileSystem& files = program.Services.Files;
-  const std::string path = program.IconsPath + name;
+  const std::string path = program.Paths.IconsPath + name;
   const auto length = files.Length(path);
   if (!length) return std::nullopt;
   const auto bytes = files.Read(path, 0, static_cast<std::size_t>(*length));
@@ -109,7 +109,7 @@ void ExtractIconLibrary(Program& program, std::string_view target, std::string_v
 }
 
 void IconLibrary::ExtractIconLibrary() {
-  corvelle::ExtractIconLibrary(program_, program_.IconsPath, program_.ShippedFile(""));
+  corvelle::ExtractIconLibrary(program_, program_.Paths.IconsPath, program_.Paths.ShippedFile(""));
 }
 
 std::vector<std::string> LibraryCategories(Program& program) {
@@ -129,7 +129,7 @@ std::vector<std::string> AllIcons(Program& program) {
   std::vector<std::string> names = FileNames(program, "*.ico");
   // Without its list the names are looked up again the next time.
   static_cast<void>(
-      program.Services.Files.Replace(program.IconsPath + std::string(kAllIconsFile),
+      program.Services.Files.Replace(program.Paths.IconsPath + std::string(kAllIconsFile),
                                      FormatLibraryLines(names, program.Services.Ansi)));
   return names;
 }
@@ -137,18 +137,18 @@ std::vector<std::string> AllIcons(Program& program) {
 void ResetLibrary(Program& program) {
   RemoveAll(program, "*.dat");
   RemoveAll(program, "*.ics");
-  program.LibraryBuilt = false;
+  program.Icons.LibraryBuilt = false;
 }
 
 void DropPreparedLists(Program& program) {
   RemoveAll(program, "*.ics");
   RemoveAll(program, "CAT*.dat");
-  program.LibraryBuilt = false;
+  program.Icons.LibraryBuilt = false;
 }
 
 bool CheckLibraryDisplay(Program& program) {
   FileSystem& files = program.Services.Files;
-  const std::string path = program.AppPath + std::string(kDisplayFile);
+  const std::string path = program.Paths.AppPath + std::string(kDisplayFile);
   const DisplayValues now{
       .WindowColour = static_cast<std::int32_t>(forms::Resolve(program.Windows, kWindowColour)),
       .BitsPerPixel = program.Services.System.ColourDepth()};

@@ -10,7 +10,7 @@ namespace corvelle {
 
 class Program;
 
-// The store of the icons that come with the program, below Program::IconsPath. Failures are quiet,
+// The store of the icons that come with the program, below Program::Paths. Failures are quiet,
 // save that of the missing container: what cannot be read is empty, and what cannot be written
 // keeps its old content.
 
@@ -45,7 +45,7 @@ class IconLibrary final : public IconLibraryPort {
 [[nodiscard]] std::vector<std::string> AllIcons(Program& program);
 
 /// Removes the derived files ("*.dat" and "*.ics" in the folder of icons) and clears
-/// Program::LibraryBuilt.
+/// Program::Icons.
 void ResetLibrary(Program& program);
 
 /// The same without the user's having asked: "others.dat", in which he may have put files of his

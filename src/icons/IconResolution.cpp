@@ -86,8 +86,8 @@ bool ShellTellsApart(Program& program, const std::vector<std::string>& paths) {
 void DetectShellIcons(Program& program) {
   // The registry's "icofile" says nothing: the user may have given icon files to another program,
   // and the shell then shows that program's picture for all of them.
-  program.ShellDrawsIcons =
-      ShellTellsApart(program, TwoIconFiles(program, program.AppPath + "Icons\\"));
+  program.Icons.ShellDrawsIcons =
+      ShellTellsApart(program, TwoIconFiles(program, program.Paths.AppPath + "Icons\\"));
 }
 
 IconList IconListOf(int size) noexcept {
@@ -96,23 +96,23 @@ IconList IconListOf(int size) noexcept {
 
 bool ResolveAndDraw(Program& program, Canvas& canvas, std::string_view text, PixelPoint at,
                     int size, IconCaller caller) {
-  const IconPlaces places{.AppPath = program.AppPath,
-                          .IconsPath = program.IconsPath,
-                          .WebLinkIcon = program.WebLinkIcon};
+  const IconPlaces places{.AppPath = program.Paths.AppPath,
+                          .IconsPath = program.Paths.IconsPath,
+                          .WebLinkIcon = program.Icons.WebLinkIcon};
   const IconForm form = ClassifyIcon(text, places, caller);
   if (form.Kind == IconKind::BuiltIn) return false;
   return DrawForm(program, canvas, form, at, size) || DrawFallbackIcon(program, canvas, at, size);
 }
 
 bool DrawFallbackIcon(Program& program, Canvas& canvas, PixelPoint at, int size) {
-  const std::string file = program.IconsPath + std::string(kFallbackFile);
+  const std::string file = program.Paths.IconsPath + std::string(kFallbackFile);
   return DrawIconFile(program, canvas, file, at, size) ||
          DrawShellIcon(program, canvas, file, at, size);
 }
 
 bool DrawIconFile(Program& program, Canvas& canvas, std::string_view file, PixelPoint at,
                   int size) {
-  return !program.ShellDrawsIcons && DrawIconIndex(program, canvas, file, at, size, 0);
+  return !program.Icons.ShellDrawsIcons && DrawIconIndex(program, canvas, file, at, size, 0);
 }
 
 bool DrawIconIndex(Program& program, Canvas& canvas, std::string_view file, PixelPoint at, int size,

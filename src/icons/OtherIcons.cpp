@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::string_view kAppPaths = "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths";
 
-std::string OthersFile(const Program& program) { return program.IconsPath + "others.dat"; }
+std::string OthersFile(const Program& program) { return program.Paths.IconsPath + "others.dat"; }
 
 void AddOnce(std::vector<std::string>& rows, std::string_view path) {
   const bool known = std::any_of(rows.begin(), rows.end(), [&](const std::string& row) {

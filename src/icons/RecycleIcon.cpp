@@ -39,12 +39,12 @@ void CheckRecycleIcon(Program& program) {
   std::string path = RegisteredIcon(program.Services.Keys);
   int index = DrawnIcon(program.Services.Folders);
   // A bin whose icon is not told keeps the one it had.
-  if (path.empty()) path = program.RecycleIconPath;
-  if (index < 0) index = program.RecycleIconIndex;
-  if (path == program.RecycleIconPath && index == program.RecycleIconIndex) return;
-  program.RecycleIconPath = std::move(path);
-  program.RecycleIconIndex = index;
-  program.RecycleIconChanged = true;
+  if (path.empty()) path = program.Icons.RecycleIconPath;
+  if (index < 0) index = program.Icons.RecycleIconIndex;
+  if (path == program.Icons.RecycleIconPath && index == program.Icons.RecycleIconIndex) return;
+  program.Icons.RecycleIconPath = std::move(path);
+  program.Icons.RecycleIconIndex = index;
+  program.Icons.RecycleIconChanged = true;
 }
 
 }  // namespace corvelle

@@ -68,7 +68,7 @@ class MomentaryFile {
 }  // namespace
 
 std::string Browser::PathOf(std::string_view name) const {
-  return program_.AppPath + std::string(name);
+  return program_.Paths.AppPath + std::string(name);
 }
 
 std::optional<std::string> Browser::ProgramForPages() {
@@ -84,7 +84,7 @@ void Browser::InitBrowser() {
   const CodePage& ansi = program_.Services.Ansi;
   ForgetBrowser();
   BrowserTopic = "WWW_OpenURL";
-  const BrowserChoice choice = LoadBrowserChoice(files, ansi, program_.AppPath);
+  const BrowserChoice choice = LoadBrowserChoice(files, ansi, program_.Paths.AppPath);
   BrowserCommand = choice.BrowserCommand;
   BrowserApplication = choice.BrowserApplication;
   if (choice.IsComplete()) {
@@ -194,7 +194,7 @@ void Browser::ForgetBrowser() {
 
 void Browser::UseDefaultBrowser() {
   // A file that cannot be removed keeps the old choice; it is read again with the next address.
-  static_cast<void>(ForgetBrowserChoice(program_.Services.Files, program_.AppPath));
+  static_cast<void>(ForgetBrowserChoice(program_.Services.Files, program_.Paths.AppPath));
   ForgetBrowser();
 }
 
@@ -210,7 +210,7 @@ bool Browser::UseBrowser(std::string_view path) {
   }
   const BrowserChoice choice{command, *service};
   ForgetBrowser();
-  if (!SaveBrowserChoice(program_.Services.Files, program_.Services.Ansi, program_.AppPath,
+  if (!SaveBrowserChoice(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath,
                          choice)) {
     return false;
   }

@@ -130,7 +130,7 @@ void Browser::FindBookmarkDir() {
   }
   if (folder.empty()) folder = FolderOfOnlyUser();
   if (folder.empty()) {
-    const auto bytes = files.Read(program_.AppPath + "openurl.ini", 0, kChoiceLimit);
+    const auto bytes = files.Read(program_.Paths.AppPath + "openurl.ini", 0, kChoiceLimit);
     if (bytes) folder = ParseBookmarkFolder(*bytes, program_.Services.Ansi);
   }
   if (!folder.empty()) BookmarkDir = EnsureBackslash(folder);

@@ -56,7 +56,7 @@ class Progress {
     if (shown_) {
       window->AddDot();
     } else {
-      window->ShowProgress(kProgressText, program_.IconsPath + std::string(kProgressPicture));
+      window->ShowProgress(kProgressText, program_.Paths.IconsPath + std::string(kProgressPicture));
     }
     shown_ = true;
   }

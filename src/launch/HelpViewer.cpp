@@ -14,7 +14,7 @@ namespace msgbox = forms::msgbox;
 }  // namespace
 
 std::string HelpViewer::PathOf(HelpPage page) const {
-  return program_.ShippedFile("Help\\" + std::string(HelpFileOf(page)));
+  return program_.Paths.ShippedFile("Help\\" + std::string(HelpFileOf(page)));
 }
 
 bool HelpViewer::ShowPage(HelpPage page) {

@@ -172,13 +172,13 @@ void frmLibrary::SetFormSize() {
 // ---- the library ----
 
 void frmLibrary::BuildLibrary() {
-  if (!program_.LibraryBuilt) DropPreparedLists(program_);
+  if (!program_.Icons.LibraryBuilt) DropPreparedLists(program_);
   List1.Clear();
   List1.Add(std::string(kAllCategories));
   for (const std::string& category : LibraryCategories(program_)) List1.Add(category);
   List1.Select(0);
   ShowView(0);
-  program_.LibraryBuilt = true;
+  program_.Icons.LibraryBuilt = true;
 }
 
 void frmLibrary::ShowView(int position) {
@@ -191,7 +191,7 @@ void frmLibrary::ShowView(int position) {
     // Not every disk gives its names in order.
     SortTexts(names);
   }
-  LibraryView.SetCells(LibraryCells(names, program_.IconsPath));
+  LibraryView.SetCells(LibraryCells(names, program_.Paths.IconsPath));
 }
 
 // ---- the tabs ----

@@ -109,9 +109,9 @@ void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Li
                   [](const clsFolder& folder) { return IsDesktopFolder(folder.FolderName); });
   if (!showsBin) return;
   // The bin is shown as it is now.
-  built.RecycleIcon = program_.RecycleIconPath;
-  built.RecycleIndex = program_.RecycleIconIndex;
-  program_.RecycleIconChanged = false;
+  built.RecycleIcon = program_.Icons.RecycleIconPath;
+  built.RecycleIndex = program_.Icons.RecycleIconIndex;
+  program_.Icons.RecycleIconChanged = false;
 }
 
 bool FolderMenus::UpdateMenu(std::string_view menuKey) {
@@ -146,10 +146,10 @@ bool FolderMenus::HasChanged(const Built& built, std::size_t index, Listed& list
 bool FolderMenus::BinHasChanged(const Built& built) {
   CheckRecycleIcon(program_);
   // Several menus may show the desktop, and the flag is taken down by the first that is built anew.
-  const bool changed = program_.RecycleIconChanged ||
-                       built.RecycleIcon != program_.RecycleIconPath ||
-                       built.RecycleIndex != program_.RecycleIconIndex;
-  program_.RecycleIconChanged = false;
+  const bool changed = program_.Icons.RecycleIconChanged ||
+                       built.RecycleIcon != program_.Icons.RecycleIconPath ||
+                       built.RecycleIndex != program_.Icons.RecycleIconIndex;
+  program_.Icons.RecycleIconChanged = false;
   return changed;
 }
 

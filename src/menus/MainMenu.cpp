@@ -51,9 +51,9 @@ struct MainMenu::Choice {
 
 MainMenuFacts MainMenu::Facts() const {
   return {.LargeIcons = program_.OptionFlags.Is(kLargeOption),
-          .AutoHide = program_.AutoHide,
-          .NotOnTop = program_.NotOnTop,
-          .Docked = program_.AppBarDocked};
+          .AutoHide = program_.Strip.AutoHide,
+          .NotOnTop = program_.Strip.NotOnTop,
+          .Docked = program_.Strip.AppBarDocked};
 }
 
 // ---- marks ----
@@ -79,7 +79,7 @@ void MainMenu::CheckLabels() {
 void MainMenu::xMainMenu(int index, std::string_view text) {
   std::string wanted = Trim(text);
   if (wanted.empty()) {
-    if (program_.SelectedItem == 0 || !menu_.Lbl.Has(index)) return;
+    if (program_.Menu.SelectedItem == 0 || !menu_.Lbl.Has(index)) return;
     wanted = Trim(SingleAmpersands(menu_.Lbl[index].Caption()));
   }
   menu_.HideMenu();
@@ -106,13 +106,14 @@ void MainMenu::Run(std::string_view text) {
       std::find_if(std::begin(kChoices), std::end(kChoices),
                    [text](const Choice& known) { return EqualNoCase(known.Text, text); });
   // One change of the strip at a time, and none of a strip that is gone.
-  if (choice == std::end(kChoices) || program_.ChangingMode || !StripStands(program_)) return;
+  if (choice == std::end(kChoices) || program_.Guards.ChangingMode || !StripStands(program_))
+    return;
   if (IsChoosable(choice->Label, Facts())) (this->*choice->Run)();
 }
 
 void MainMenu::EndChoice() {
   if (menu_.IsLoaded()) menu_.DropSelection();
-  program_.SelectedItem = 0;
+  program_.Menu.SelectedItem = 0;
   if (StripStands(program_)) program_.Ports.Toolbar->ResetMenu();
 }
 
@@ -138,8 +139,8 @@ void MainMenu::Forget() {
 // ---- the look of the strip ----
 
 void MainMenu::LargeIcons() {
-  if (program_.AppBarDocked && program_.ToolbarVertical) {
-    const forms::FlagScope changing(program_.ChangingMode);
+  if (program_.Strip.AppBarDocked && program_.Strip.ToolbarVertical) {
+    const forms::FlagScope changing(program_.Guards.ChangingMode);
     program_.OptionFlags.Flip(kLargeOption);
     program_.Ports.Toolbar->InitNewButtons();
   } else {
@@ -150,16 +151,17 @@ void MainMenu::LargeIcons() {
 }
 
 void MainMenu::ToggleLargeIcons() {
-  if (program_.ChangingMode || !StripStands(program_)) return;
+  if (program_.Guards.ChangingMode || !StripStands(program_)) return;
   const StripPicture picture(program_);
-  const forms::FlagScope changing(program_.ChangingMode);
+  const forms::FlagScope changing(program_.Guards.ChangingMode);
   ToolbarPort& strip = *program_.Ports.Toolbar;
   program_.OptionFlags.Flip(kLargeOption);
   strip.UnloadItems();
   if (!strip.WindowLoaded()) return;
   strip.InitButtons();
-  if (!strip.WindowLoaded() || !program_.AppBarDocked || program_.Ports.Docking == nullptr) return;
-  program_.Ports.Docking->SetAppBar(program_.ToolbarEdge, false);
+  if (!strip.WindowLoaded() || !program_.Strip.AppBarDocked || program_.Ports.Docking == nullptr)
+    return;
+  program_.Ports.Docking->SetAppBar(program_.Strip.ToolbarEdge, false);
 }
 
 void MainMenu::AutoHide() {
@@ -169,9 +171,9 @@ void MainMenu::AutoHide() {
   ToolbarPort& strip = *program_.Ports.Toolbar;
   {
     const StripPicture picture(program_);
-    const forms::FlagScope changing(program_.ChangingMode);
+    const forms::FlagScope changing(program_.Guards.ChangingMode);
     strip.SetPointerWatch(false);
-    if (program_.AutoHide) {
+    if (program_.Strip.AutoHide) {
       EndAutoHide();
     } else if (!StartAutoHide()) {
       return;
@@ -185,30 +187,30 @@ void MainMenu::AutoHide() {
 // False when another window hides at that edge; nothing has changed then.
 bool MainMenu::StartAutoHide() {
   DockingPort& docking = *program_.Ports.Docking;
-  if (!docking.AutoHideFree(program_.ToolbarEdge)) return false;
-  program_.AutoHide = true;
+  if (!docking.AutoHideFree(program_.Strip.ToolbarEdge)) return false;
+  program_.Strip.AutoHide = true;
   program_.OptionFlags.Set(kAutoHideOption, true);
-  docking.SetAppBar(program_.ToolbarEdge, !program_.AppBarDocked);
-  if (program_.NotOnTop) {
+  docking.SetAppBar(program_.Strip.ToolbarEdge, !program_.Strip.AppBarDocked);
+  if (program_.Strip.NotOnTop) {
     program_.OptionFlags.Set(kNotOnTopOption, false);
     if (program_.Ports.Minimize != nullptr) program_.Ports.Minimize->DeActivateSysTray();
-    program_.NotOnTop = false;
+    program_.Strip.NotOnTop = false;
   }
   return true;
 }
 
 // The edge is taken anew, with its room on the screen.
 void MainMenu::EndAutoHide() {
-  program_.AutoHide = false;
+  program_.Strip.AutoHide = false;
   program_.OptionFlags.Set(kAutoHideOption, false);
-  program_.Ports.Docking->SetAppBar(program_.ToolbarEdge, !program_.AppBarDocked);
+  program_.Ports.Docking->SetAppBar(program_.Strip.ToolbarEdge, !program_.Strip.AppBarDocked);
 }
 
 void MainMenu::NotOnTop() {
   MinimizePort* const companion = program_.Ports.Minimize;
   if (companion == nullptr) return;
-  const forms::FlagScope changing(program_.ChangingMode);
-  const bool now = program_.NotOnTop;
+  const forms::FlagScope changing(program_.Guards.ChangingMode);
+  const bool now = program_.Strip.NotOnTop;
   Forget();
   if (now) {
     companion->DeActivateSysTray();
@@ -248,7 +250,7 @@ void MainMenu::Minimize() {
 // ---- help and the end ----
 
 void MainMenu::HelpTopics() {
-  const std::string help = program_.ShippedFile("corvelle.hlp");
+  const std::string help = program_.Paths.ShippedFile("corvelle.hlp");
   if (!program_.Services.Files.FileExists(help)) {
     HelpPort* const pages = program_.Ports.Help;
     if (pages != nullptr && pages->ShowPage(HelpPage::Contents)) return;

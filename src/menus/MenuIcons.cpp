@@ -38,9 +38,9 @@ void MenuIcons::ResetPicIcons() {
 
 IconForm MenuIcons::Classify(std::string_view text, IconCaller caller) const {
   return ClassifyIcon(text,
-                      {.AppPath = program_.AppPath,
-                       .IconsPath = program_.IconsPath,
-                       .WebLinkIcon = program_.WebLinkIcon},
+                      {.AppPath = program_.Paths.AppPath,
+                       .IconsPath = program_.Paths.IconsPath,
+                       .WebLinkIcon = program_.Icons.WebLinkIcon},
                       caller);
 }
 
@@ -65,7 +65,7 @@ void MenuIcons::LoadSmallIcon(std::string_view iconText) {
 }
 
 void MenuIcons::FetchButtonIcon(std::string_view iconText) {
-  if (IconListOf(program_.IconSize) != IconList::Large) return;
+  if (IconListOf(program_.Icons.IconSize) != IconList::Large) return;
   const std::string text = Trim(iconText);
   const IconForm form = Classify(text, IconCaller::Toolbar);
   if (form.Kind != IconKind::File || !fetched_.insert(LowerCase(text)).second) return;
@@ -87,7 +87,7 @@ int MenuIcons::LoadFileIcon(const std::string& text, const IconForm& form) {
 
 int MenuIcons::LoadFile(const std::string& text, const IconForm& form) {
   if (form.Kind == IconKind::SystemIndex) return LoadSystemIcon(form.Index);
-  if (form.Kind == IconKind::File && (!form.OwnIcon || program_.ShellDrawsIcons)) {
+  if (form.Kind == IconKind::File && (!form.OwnIcon || program_.Icons.ShellDrawsIcons)) {
     const auto info = program_.Services.Icons.FileInfo(form.Text, IconList::Small);
     return info ? LoadSystemIcon(info->SystemIndex) : LoadFallback();
   }

@@ -69,7 +69,7 @@ std::unique_ptr<forms::Label> frmQMenu::MakeItemLabel(int index) {
     const float left = x + Lbl[index].Left();
     const float top = y + Lbl[index].Top();
     if (StillAway(left, top)) return;
-    program_.PointerBelowItems = false;
+    PointerBelowItems = false;
     Form_MouseMove(down, shift, left, top);
   };
   label->MouseUp = [this, index](MouseButton button, ShiftState shift, float x, float y) {
@@ -170,7 +170,7 @@ void frmQMenu::TakeScale() {
 void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   program_.SetHint("");
   // A build or an icon walk lets nothing else into the window.
-  if (program_.IconsLoading || program_.MenuBuilding) return;
+  if (program_.Guards.IconsLoading || program_.Guards.MenuBuilding) return;
   if (!Load()) return;
   TakeScale();
   const std::string key(menuKey);
@@ -201,7 +201,7 @@ bool frmQMenu::FoldersChanged(std::string_view menuKey) {
   FolderMenusPort* const folders = program_.Ports.FolderMenus;
   if (folders == nullptr) return false;
   // Meanwhile nobody else puts another menu into the window.
-  const forms::FlagScope building(program_.MenuBuilding);
+  const forms::FlagScope building(program_.Guards.MenuBuilding);
   return folders->UpdateMenu(menuKey);
 }
 
@@ -274,7 +274,7 @@ void frmQMenu::HideMenu() {
 }
 
 void frmQMenu::ResetQMenu() {
-  if (program_.IconsLoading || program_.MenuBuilding || !IsLoaded()) return;
+  if (program_.Guards.IconsLoading || program_.Guards.MenuBuilding || !IsLoaded()) return;
   MenuReady = false;
   Hide();
   SetAutoRedraw(false);
@@ -291,7 +291,7 @@ void frmQMenu::ResetQMenu() {
   FirstLabel = 0;
   LastLabel = 0;
   ShadowCount = 0;
-  program_.SelectedItem = 0;
+  program_.Menu.SelectedItem = 0;
   CurItem = 0;
   PrevItem = 0;
   rebuilt_ = false;

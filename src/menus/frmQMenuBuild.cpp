@@ -18,7 +18,7 @@ bool IsMenuFile(std::string_view path) { return EndsWithNoCase(path, "mnu"); }
 }  // namespace
 
 void frmQMenu::InitQMenu(std::string_view menuFile) {
-  const forms::FlagScope building(program_.MenuBuilding);
+  const forms::FlagScope building(program_.Guards.MenuBuilding);
   std::optional<forms::HourglassScope> hourglass;
   if (!program_.Entry.ItemDragging) hourglass.emplace(program_.Windows);
   Shape1.SetVisible(false);
@@ -78,8 +78,8 @@ float frmQMenu::PlaceForRoom() {
   const forms::ScreenInfo screen = program_.Windows.Screen();
   Move(Left(), Top(), screen.Width / 2, screen.Height);
   PlaceMenu();
-  return MenuRoom({.Vertical = program_.ToolbarVertical,
-                   .At = EdgeFromText(program_.ToolbarEdge).value_or(Edge::Top),
+  return MenuRoom({.Vertical = program_.Strip.ToolbarVertical,
+                   .At = program_.Strip.ToolbarEdge,
                    .ScreenHeight = screen.Height,
                    .MenuTop = Top(),
                    .StripTop = program_.Ports.Toolbar != nullptr

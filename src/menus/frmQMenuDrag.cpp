@@ -14,13 +14,14 @@ using forms::ShiftState;
 
 // With Ctrl held a press picks the item up instead of choosing it at the release.
 void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, float y) {
-  program_.KeyboardOnToolbar = false;
+  program_.Menu.KeyboardOnToolbar = false;
   if (rebuilt_) Form_MouseMove(MouseButton::None, shift, x, y);
   pressed_ = button == MouseButton::Left;
   if (button != MouseButton::Left || !shift.Ctrl) return;
-  if (program_.MenuBuilding || program_.Entry.ItemDragging || program_.ItemDropping) return;
+  if (program_.Guards.MenuBuilding || program_.Entry.ItemDragging || program_.Drag.ItemDropping)
+    return;
   if (EqualNoCase(MenuKey, kMainMenuKey)) return;
-  const int index = program_.SelectedItem;
+  const int index = program_.Menu.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled() || HitItem(Page(), y) != index) return;
   FillCurrentItem(index);
   if (MayBeCopied(program_, hWnd())) StartCarry(program_);
@@ -32,7 +33,7 @@ PixelPoint frmQMenu::OnScreen(float x, float y) const {
 }
 
 void frmQMenu::DoItemDrag(ShiftState shift) {
-  const int index = program_.SelectedItem;
+  const int index = program_.Menu.SelectedItem;
   if (EqualNoCase(MenuKey, kMainMenuKey) || index == 0) return;
   const std::string key = MenuKey;
   const DropPlace place{.File = menu_->Source, .Before = GetRecordNum(index)};
@@ -43,7 +44,7 @@ void frmQMenu::DoItemDrag(ShiftState shift) {
     return;
   }
   // Both would rewrite the same files: the entry stays where it is, and can be carried again.
-  if (program_.ItemActionBusy) return;
+  if (program_.Guards.ItemActionBusy) return;
   // Only now: the picture may take the activation, and the menu its selection back.
   const MenuStill still(program_.Ports.Capture);
   const bool changed = DropItem(program_, key, place, shift.Ctrl);

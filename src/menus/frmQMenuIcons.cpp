@@ -14,20 +14,21 @@ namespace corvelle {
 
 void frmQMenu::InitIcons() {
   FileSystem& files = program_.Services.Files;
-  if (program_.MenuBuilding || program_.IconsLoading) return;
+  if (program_.Guards.MenuBuilding || program_.Guards.IconsLoading) return;
   // No menu can be asked for while the strip is away.
   std::optional<forms::FlagScope> loading;
-  if (!program_.ToolbarMinimized) loading.emplace(program_.IconsLoading);
+  if (!program_.Strip.ToolbarMinimized) loading.emplace(program_.Guards.IconsLoading);
   const forms::HourglassScope hourglass(program_.Windows);
-  icons_.LoadSmallIcon(program_.ShippedFile("corvelle.exe"));
+  icons_.LoadSmallIcon(program_.Paths.ShippedFile("corvelle.exe"));
   // A folder that cannot be listed has no icons to fetch.
-  const auto menus = files.List(program_.MenusPath, "*.mnu");
+  const auto menus = files.List(program_.Paths.MenusPath, "*.mnu");
   if (menus) {
-    for (const FileEntry& entry : *menus) LoadIconsOf(program_.MenusPath + entry.Name);
+    for (const FileEntry& entry : *menus) LoadIconsOf(program_.Paths.MenusPath + entry.Name);
   }
-  const auto links = files.List(program_.ShellLinkPath, "*.lnk");
+  const auto links = files.List(program_.Paths.ShellLinkPath, "*.lnk");
   if (links) {
-    for (const FileEntry& entry : *links) icons_.LoadSmallIcon(program_.ShellLinkPath + entry.Name);
+    for (const FileEntry& entry : *links)
+      icons_.LoadSmallIcon(program_.Paths.ShellLinkPath + entry.Name);
   }
 }
 
@@ -40,12 +41,12 @@ void frmQMenu::LoadIconsOf(const std::string& menuFile) {
 
 void frmQMenu::InitMenuIcons(std::string_view menuFile) {
   const std::string file(menuFile);
-  if (EqualNoCase(file, program_.AppPath + std::string(kMainMenuFileName))) {
+  if (EqualNoCase(file, program_.Paths.AppPath + std::string(kMainMenuFileName))) {
     // Where it cannot be written the old one has the same icons.
     static_cast<void>(
-        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.AppPath));
+        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath));
   }
-  const forms::FlagScope loading(program_.IconsLoading);
+  const forms::FlagScope loading(program_.Guards.IconsLoading);
   LoadIconsOf(file);
 }
 

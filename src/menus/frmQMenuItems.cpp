@@ -14,7 +14,7 @@ namespace corvelle {
 
 std::string frmQMenu::GetExeName(int index) {
   if (!Lbl.Has(index)) return {};
-  program_.ItemHasSeparator = TagFollowsSeparator(Lbl[index].Tag);
+  program_.Menu.ItemHasSeparator = TagFollowsSeparator(Lbl[index].Tag);
   return TagCommand(Lbl[index].Tag);
 }
 
@@ -50,8 +50,8 @@ void frmQMenu::SetNormal(int index) {
 
 void frmQMenu::SelectItem(int index) {
   if (!Lbl.Has(index)) return;
-  SetNormal(program_.SelectedItem);
-  program_.SelectedItem = index;
+  SetNormal(program_.Menu.SelectedItem);
+  program_.Menu.SelectedItem = index;
   CurItem = index;
   Lbl[index].SetForeColor(forms::color::HighlightText);
   // A disabled item takes the selection without a bar.
@@ -64,8 +64,8 @@ void frmQMenu::SelectItem(int index) {
 }
 
 void frmQMenu::DropSelection() {
-  SetNormal(program_.SelectedItem);
-  program_.SelectedItem = 0;
+  SetNormal(program_.Menu.SelectedItem);
+  program_.Menu.SelectedItem = 0;
   Shape1.SetVisible(false);
   HideBox();
 }

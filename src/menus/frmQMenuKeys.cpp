@@ -28,8 +28,8 @@ void frmQMenu::KeyActs() {
 }
 
 void frmQMenu::Form_KeyDown(int keyCode, ShiftState /*shift*/) {
-  if (program_.Entry.ItemDragging || program_.MenuBuilding) return;
-  program_.KeyboardOnToolbar = false;
+  if (program_.Entry.ItemDragging || program_.Guards.MenuBuilding) return;
+  program_.Menu.KeyboardOnToolbar = false;
   switch (keyCode) {
     case forms::key::Escape:
       CloseMenu();
@@ -60,7 +60,7 @@ void frmQMenu::MoveCursor(int step) {
   const int item = StepItem(CurItem, FirstLabel, LastLabel, step);
   if (item == 0) return;
   KeyActs();
-  PrevItem = program_.SelectedItem;
+  PrevItem = program_.Menu.SelectedItem;
   SelectItem(item);
 }
 
@@ -75,10 +75,10 @@ void frmQMenu::MovePage(int keyCode) {
 }
 
 void frmQMenu::Form_KeyPress(char32_t character) {
-  if (program_.Entry.ItemDragging || program_.MenuBuilding) return;
-  program_.KeyboardOnToolbar = false;
+  if (program_.Entry.ItemDragging || program_.Guards.MenuBuilding) return;
+  program_.Menu.KeyboardOnToolbar = false;
   if (character == forms::key::Enter) {
-    const int index = program_.SelectedItem;
+    const int index = program_.Menu.SelectedItem;
     if (index == 0) return;
     ChooseItem(Lbl[index].Left(), Lbl[index].Top());
     return;
@@ -95,7 +95,7 @@ void frmQMenu::TypeAheadTo(char32_t character) {
   }
   KeyActs();
   if (found.Page != CurMenu) TurnTo(found.Page);
-  PrevItem = program_.SelectedItem;
+  PrevItem = program_.Menu.SelectedItem;
   SelectItem(found.Item);
   // A repeated key walks on to the next item with that letter.
   CurItem = found.NextItem;

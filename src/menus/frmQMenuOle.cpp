@@ -24,7 +24,7 @@ void frmQMenu::WireDrags() {
   OLEDragDrop = [this](DragData& data, DropEffect& effect, MouseButton down, ShiftState shift,
                        float x, float y) { Form_OLEDragDrop(data, effect, down, shift, x, y); };
   OLEDragLeave = [this] {
-    program_.DragOverButton = false;
+    program_.Drag.DragOverButton = false;
     DropSelection();
   };
   SetTakesDrops(true);
@@ -53,19 +53,19 @@ void frmQMenu::Lbl_OLEDragDrop(int index, DragData& data, DropEffect& effect, Mo
 
 // The program's own menu holds nothing of the user's.
 bool frmQMenu::TakesDrop(const DragData& data) const {
-  return IsOfUse(data) && program_.TakesDrops() && MenuVisible() &&
+  return IsOfUse(data) && program_.Guards.TakesDrops() && MenuVisible() &&
          !EqualNoCase(MenuKey, kMainMenuKey);
 }
 
 void frmQMenu::Form_OLEDragOver(DragData& data, DropEffect& effect, MouseButton down,
                                 ShiftState shift, float x, float y) {
   // Also where nothing can be dropped the drag is here, and holds the menu.
-  program_.DragOverButton = true;
+  program_.Drag.DragOverButton = true;
   if (!TakesDrop(data)) {
     effect = DropEffect::None;
     return;
   }
-  program_.DragButtons = down;
+  program_.Drag.DragButtons = down;
   effect = effect & EffectOfDrag(down);
   Form_MouseMove(MouseButton::Left, shift, x, y);
 }
@@ -73,17 +73,17 @@ void frmQMenu::Form_OLEDragOver(DragData& data, DropEffect& effect, MouseButton 
 void frmQMenu::Form_OLEDragDrop(DragData& data, DropEffect& effect, MouseButton /*down*/,
                                 ShiftState /*shift*/, float /*x*/, float /*y*/) {
   Timer1.SetEnabled(false);
-  program_.DragOverButton = false;
-  program_.DragEntered = false;
-  program_.DragIsUrl = false;
+  program_.Drag.DragOverButton = false;
+  program_.Drag.DragEntered = false;
+  program_.Drag.DragIsUrl = false;
   if (!TakesDrop(data)) {
     effect = DropEffect::None;
   } else {
-    effect = effect & EffectOfDrag(program_.DragButtons);
+    effect = effect & EffectOfDrag(program_.Drag.DragButtons);
     if (data.Files) {
       DropFiles(*data.Files);
     } else {
-      OfferAddress(data, program_.SelectedItem);
+      OfferAddress(data, program_.Menu.SelectedItem);
     }
   }
   if (MenuVisible()) Timer1.SetEnabled(true);
@@ -91,8 +91,9 @@ void frmQMenu::Form_OLEDragDrop(DragData& data, DropEffect& effect, MouseButton 
 
 void frmQMenu::DropFiles(const std::vector<std::string>& names) {
   if (names.empty()) return;
-  const int item = program_.SelectedItem;
-  const bool opens = program_.DragButtons == MouseButton::Right && item != 0 && Lbl[item].Enabled();
+  const int item = program_.Menu.SelectedItem;
+  const bool opens =
+      program_.Drag.DragButtons == MouseButton::Right && item != 0 && Lbl[item].Enabled();
   if (opens) {
     OpenDropped(names.front(), item);
   } else {
@@ -123,7 +124,7 @@ void frmQMenu::InsertFiles(const std::vector<std::string>& names, int item) {
   auto outcome = EditOutcome::NothingToDo;
   DroppedEntries dropped;
   {
-    const forms::FlagScope busy(program_.ItemActionBusy);
+    const forms::FlagScope busy(program_.Guards.ItemActionBusy);
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
     dropped = DroppedRecords(files, ansi, names, [this](std::string_view name) {

@@ -19,9 +19,9 @@ void frmQMenu::LblButton_DblClick(int index) {
 }
 
 void frmQMenu::LblButton_MouseMove(int index, MouseButton down) {
-  if (down != MouseButton::None || program_.MenuBuilding) return;
+  if (down != MouseButton::None || program_.Guards.MenuBuilding) return;
   rebuilt_ = false;
-  program_.KeyboardOnToolbar = false;
+  program_.Menu.KeyboardOnToolbar = false;
   if (program_.Services.Desktop.ActiveWindow() != hWnd()) SetFocus();
   if (ActiveArrow == index) return;
   picMouseMove(index);

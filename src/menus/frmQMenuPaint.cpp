@@ -67,7 +67,7 @@ void frmQMenu::ShowSlide() {
 // page into the window, and colours that change have the page drawn once more.
 void frmQMenu::DrawPage(bool watched) {
   if (std::exchange(drawingPage_, true)) return;
-  const forms::FlagScope building(program_.MenuBuilding);
+  const forms::FlagScope building(program_.Guards.MenuBuilding);
   for (int tries = 0; tries < kMostRedraws; ++tries) {
     coloursChanged_ = false;
     DrawPageOnce(watched && tries == 0);
@@ -156,7 +156,7 @@ void frmQMenu::Form_Paint() {
   }
   // No rest of the bar that was there may stay. Only an item of this page had its bar here.
   if (PrevItem >= FirstLabel && PrevItem <= LastLabel && PrevItem > 0 &&
-      PrevItem != program_.SelectedItem) {
+      PrevItem != program_.Menu.SelectedItem) {
     const float top = DrawBoxRule(BoxOf(PrevItem), ItemGap, Shape1.Height(), TwipsX, TwipsY).BarTop;
     FillBox(19 * TwipsX, top, Shape1.Width(), top + Shape1.Height() - TwipsY,
             forms::color::ButtonFace);
@@ -210,7 +210,7 @@ void frmQMenu::ColoursChanged() {
   coloursChanged_ = true;
   if (!MenuReady || Labels == 0) return;
   UpDownArrows();
-  const int selected = program_.SelectedItem;
+  const int selected = program_.Menu.SelectedItem;
   DrawPage(false);
   if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
   if (selected > 0) SelectItem(selected);

@@ -35,17 +35,17 @@ bool frmQMenu::StillAway(float x, float y) {
 }
 
 void frmQMenu::TakeFocus() {
-  program_.KeyboardOnToolbar = false;
+  program_.Menu.KeyboardOnToolbar = false;
   SetFocus();
 }
 
 // ---- moves ----
 
 void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, float y) {
-  PrevItem = program_.SelectedItem;
-  if (program_.MenuBuilding) return;
-  program_.KeyboardOnToolbar = false;
-  const bool dragging = program_.Entry.ItemDragging || program_.DragOverButton;
+  PrevItem = program_.Menu.SelectedItem;
+  if (program_.Guards.MenuBuilding) return;
+  program_.Menu.KeyboardOnToolbar = false;
+  const bool dragging = program_.Entry.ItemDragging || program_.Drag.DragOverButton;
   if (down == MouseButton::None && !dragging &&
       program_.Services.Desktop.ActiveWindow() != hWnd()) {
     SetFocus();
@@ -67,7 +67,7 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, f
   if (IsBelowItems(Page(), y)) {
     DropSelection();
     CurItem = 0;
-    program_.PointerBelowItems = true;
+    PointerBelowItems = true;
     return;
   }
   const int hit = ItemUnder(Page(), y, dragging);
@@ -75,8 +75,8 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, f
     DropSelection();
     return;
   }
-  if (hit != program_.SelectedItem) SelectItem(hit);
-  program_.PointerBelowItems = false;
+  if (hit != program_.Menu.SelectedItem) SelectItem(hit);
+  PointerBelowItems = false;
 }
 
 // Not every system tells a window of a move when it comes up under a pointer that stands still.
@@ -97,13 +97,13 @@ void frmQMenu::mMouseMove(float x, float y) {
 // ---- releases ----
 
 void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float y) {
-  program_.KeyboardOnToolbar = false;
+  program_.Menu.KeyboardOnToolbar = false;
   if (EndCarry(program_, OnScreen(x, y), button, shift)) return;
-  if (program_.MenuBuilding) return;
+  if (program_.Guards.MenuBuilding) return;
   const bool pressedHere = std::exchange(pressed_, false);
   if (button == MouseButton::Left && !StillAway(x, y)) {
     // A click says itself where the hand was, though the selection may have gone since.
-    if (pressedHere && program_.SelectedItem == 0) Form_MouseMove(button, shift, x, y);
+    if (pressedHere && program_.Menu.SelectedItem == 0) Form_MouseMove(button, shift, x, y);
     ChooseItem(x, y);
   }
   if (button == MouseButton::Right) OfferItem(shift);
@@ -157,12 +157,12 @@ void frmQMenu::RunItem(bool mainMenu, int index, const std::string& command,
 }
 
 void frmQMenu::OfferItem(ShiftState shift) {
-  const int index = program_.SelectedItem;
+  const int index = program_.Menu.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled()) return;
   KeyboardActive = true;
   SavedMenuKey = MenuKey;
-  if (OffersShellMenu(EqualNoCase(MenuKey, kMainMenuKey), program_.OptionFlags.At(19),
-                      shift.Ctrl) &&
+  if (OffersShellMenu(EqualNoCase(MenuKey, kMainMenuKey),
+                      program_.OptionFlags.At(Option::SystemPopupWithCtrl), shift.Ctrl) &&
       program_.Ports.SpecialFolders != nullptr) {
     OfferShellMenu(index);
     return;
@@ -179,7 +179,7 @@ void frmQMenu::OfferShellMenu(int index) {
   const auto watch = MakeWatch();
   const auto runs = [&] {
     // Until the user has chosen, a pointer that passes over the strip opens no other menu.
-    const forms::CountScope asking(program_.OpenQuestions);
+    const forms::CountScope asking(program_.Guards.OpenQuestions);
     const forms::FlagScope offering(shellMenuUp_);
     return program_.Ports.SpecialFolders->ShowContextMenu(
         command, title, program_.Services.Pointer.PointerPosition(), hWnd());
@@ -192,9 +192,9 @@ void frmQMenu::OfferShellMenu(int index) {
 // ---- leaving ----
 
 void frmQMenu::Timer1_Timer() {
-  if (program_.MenuBuilding) return;
+  if (program_.Guards.MenuBuilding) return;
   // A message or a popup of the menu is no going away; what a command of the shell shows is.
-  if (program_.OpenQuestions > 0 && !shellMenuUp_) return;
+  if (program_.Guards.OpenQuestions > 0 && !shellMenuUp_) return;
   // A drag decides which menu is up, but one that is hidden under it has to go, to come up again.
   if (program_.DragHolds() && Visible()) return;
   // A still picture of the menu does not outlive the rebuild that it was made for.

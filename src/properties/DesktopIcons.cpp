@@ -13,7 +13,7 @@ namespace corvelle {
 std::vector<int> DesktopIcons(Program& program) {
   for (const std::string_view name : {"dtf", "dtf.mfd", "dtf.tmp"}) {
     // One that stays does no harm: the next start removes it.
-    static_cast<void>(program.Services.Files.Remove(program.MenusPath + std::string(name)));
+    static_cast<void>(program.Services.Files.Remove(program.Paths.MenusPath + std::string(name)));
   }
   const auto entries = program.Services.Folders.List(kDesktopFolder);
   if (!entries) return {};

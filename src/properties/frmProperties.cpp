@@ -351,7 +351,7 @@ void frmProperties::Form_KeyPress(char32_t character) {
 
 // A strip that hides comes out for the change and is put away until it is drawn again.
 void frmProperties::ShowHidingStrip() {
-  if (!program_.AutoHide) return;
+  if (!program_.Strip.AutoHide) return;
   if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RevealToolbar();
   if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->HideWindow();
 }
@@ -360,7 +360,7 @@ void frmProperties::ShowHidingStrip() {
 bool frmProperties::Apply() {
   if (busy_) return false;
   const forms::FlagScope busy(busy_);
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const bool item = !ButtonsTabShown || BoxesChanged();
   const bool order = (ButtonsTabShown && !OrderApplied) || orderTouched_;
   ShowHidingStrip();

@@ -133,9 +133,9 @@ std::optional<forms::FolderChoice> frmProperties::ShowOpenFolder() {
 // belong to another entry.
 std::string frmProperties::LinkToFolder(const forms::FolderChoice& choice) {
   FileSystem& files = program_.Services.Files;
-  std::string link = program_.ShellLinkPath + choice.Name + ".lnk";
+  std::string link = program_.Paths.ShellLinkPath + choice.Name + ".lnk";
   for (int n = 2; files.FileExists(link) && n < kMostLinks; ++n) {
-    link = program_.ShellLinkPath + choice.Name + " " + std::to_string(n) + ".lnk";
+    link = program_.Paths.ShellLinkPath + choice.Name + " " + std::to_string(n) + ".lnk";
   }
   cShellLink shell(program_.Services.Links);
   if (!files.FileExists(link) && shell.ShellLinkToObject(link, choice.Item, kNormalWindow)) {

@@ -23,10 +23,10 @@ constexpr int kImageSide = 16;
 void frmProperties::LoadButtonsTab() {
   if (ButtonsTabLoaded) return;
   ButtonsTabLoaded = true;
-  const FileStatus loaded =
-      LoadButtons(program_.Services.Files, program_.Services.Ansi, program_.MenusPath, order_);
+  const FileStatus loaded = LoadButtons(program_.Services.Files, program_.Services.Ansi,
+                                        program_.Paths.MenusPath, order_);
   orderTouched_ = OrderApplied = false;
-  if (!loaded) ShowFileError(program_.MenusPath, loaded.Error());
+  if (!loaded) ShowFileError(program_.Paths.MenusPath, loaded.Error());
   if (IsLoaded()) FillTree();
 }
 
@@ -59,9 +59,9 @@ int frmProperties::NodeImage(const std::string& icon) {
   const auto known = images_.find(icon);
   if (known != images_.end()) return known->second;
   const IconForm form = ClassifyIcon(icon,
-                                     {.AppPath = program_.AppPath,
-                                      .IconsPath = program_.IconsPath,
-                                      .WebLinkIcon = program_.WebLinkIcon},
+                                     {.AppPath = program_.Paths.AppPath,
+                                      .IconsPath = program_.Paths.IconsPath,
+                                      .WebLinkIcon = program_.Icons.WebLinkIcon},
                                      IconCaller::Tree);
   const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas({kImageSide, kImageSide});
   drawn->FillBox({0, 0, kImageSide, kImageSide}, forms::Image::kMask);
@@ -164,11 +164,11 @@ bool frmProperties::ApplyOrder() {
   ToolbarPort* const strip = program_.Ports.Toolbar;
   const float gap = strip != nullptr ? strip->FreeWidth() : 0;
   const std::size_t place = order_.FindPath(item_.File);
-  const OrderOutcome outcome =
-      ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi, program_.MenusPath, order_);
+  const OrderOutcome outcome = ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi,
+                                                program_.Paths.MenusPath, order_);
   if (outcome.Result == OrderResult::Applied) program_.TellMenusEdited();
   if (outcome.Result == OrderResult::Failed) {
-    ShowFileError(program_.MenusPath, outcome.Reason);
+    ShowFileError(program_.Paths.MenusPath, outcome.Reason);
     return false;
   }
   if (outcome.Result == OrderResult::Outdated) {

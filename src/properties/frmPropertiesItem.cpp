@@ -67,7 +67,7 @@ bool frmProperties::ApplyItem() {
 
 bool frmProperties::UpdateFileItem() {
   const ItemOutcome outcome = corvelle::UpdateFileItem(
-      program_.Services.Files, program_.Services.Ansi, program_.MenusPath, item_, Boxes());
+      program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, item_, Boxes());
   if (outcome.Result == ItemResult::Written) program_.TellMenusEdited();
   ShowOutcome(outcome);
   if (outcome.Result != ItemResult::Written && outcome.Result != ItemResult::Same) return false;
@@ -87,7 +87,7 @@ void frmProperties::CancelFileItem() {
   if (item_.CurrentBytes == item_.StartingBytes) return;
   ShowHidingStrip();
   const ItemOutcome outcome = corvelle::CancelFileItem(
-      program_.Services.Files, program_.Services.Ansi, program_.MenusPath, item_);
+      program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, item_);
   if (outcome.Result == ItemResult::Written) program_.TellMenusEdited();
   if (outcome.Result == ItemResult::Failed) ShowOutcome(outcome);
   if (outcome.Result == ItemResult::Written && IsLoaded()) ShowEdited();

@@ -104,12 +104,12 @@ std::optional<Edge> frmProperties::EdgeInUse() const {
 
 void frmProperties::MoveToEdge(Edge edge) {
   DockingPort* const docking = program_.Ports.Docking;
-  if (busy_ || docking == nullptr || program_.ToolbarMinimizing) return;
-  if (program_.AppBarDocked && EqualNoCase(program_.ToolbarEdge, EdgeText(edge))) return;
+  if (busy_ || docking == nullptr || program_.Strip.ToolbarMinimizing) return;
+  if (program_.Strip.AppBarDocked && EqualNoCase(program_.Strip.ToolbarEdge, edge)) return;
   const forms::FlagScope busy(busy_);
-  docking->SetAppBar(EdgeText(edge), false);
+  docking->SetAppBar(edge, false);
   if (!IsLoaded()) return;
-  if (program_.AutoHide) docking->RevealToolbar();
+  if (program_.Strip.AutoHide) docking->RevealToolbar();
   if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ShowToolbar();
   if (!IsLoaded()) return;
   // The strip may have taken the foreground while it was built.

@@ -56,7 +56,7 @@ frmNetSearch::frmNetSearch(Program& program)
 }
 
 std::string frmNetSearch::PathOf(std::string_view name) const {
-  return program_.AppPath + std::string(name);
+  return program_.Paths.AppPath + std::string(name);
 }
 
 // ---- coming and going ----
@@ -114,7 +114,7 @@ void frmNetSearch::LayOut() {
 void frmNetSearch::FetchFactoryList() {
   FileSystem& files = program_.Services.Files;
   if (files.FileExists(PathOf(kEngineFile))) return;
-  const std::string factory = program_.ShippedFile(kFactoryFile);
+  const std::string factory = program_.Paths.ShippedFile(kFactoryFile);
   if (files.FileExists(factory)) {
     // A folder that takes no file leaves the window without engines, which it says when one is
     // needed.

@@ -50,7 +50,7 @@ void StartupLink::Create(std::string_view executable) {
 }
 
 void SetAsStartupProgram(Program& program) {
-  Note(program, MakeStartupLink(program, program.ShippedFile("corvelle.exe"))
+  Note(program, MakeStartupLink(program, program.Paths.ShippedFile("corvelle.exe"))
                     ? "Corvelle has been set as a startup program"
                     : "Couldn't set Corvelle as a startup program.");
 }

@@ -55,9 +55,9 @@ int DragImage::PictureSize() const {
 Picture DragImage::MakePicture(std::string_view icon) {
   const int scale = PictureSize() / kGlyphSize;
   const IconForm form = ClassifyIcon(icon,
-                                     {.AppPath = program_.AppPath,
-                                      .IconsPath = program_.IconsPath,
-                                      .WebLinkIcon = program_.WebLinkIcon},
+                                     {.AppPath = program_.Paths.AppPath,
+                                      .IconsPath = program_.Paths.IconsPath,
+                                      .WebLinkIcon = program_.Icons.WebLinkIcon},
                                      IconCaller::Menu);
   Picture picture = form.Kind == IconKind::BuiltIn ? MakeGlyph(program_.Windows, form.Text, scale)
                                                    : CutOutIcon(icon);
@@ -90,7 +90,7 @@ Picture DragImage::CutOutIcon(std::string_view icon) {
 
 void DragImage::Timer1_Timer() {
   // What is being put down is followed no more, and whoever does it takes the picture away.
-  if (program_.ItemDropping) return;
+  if (program_.Drag.ItemDropping) return;
   ToolbarPort* const strip = program_.Ports.Toolbar;
   // Tells of a release that went to another program, and opens the menus on the way.
   const int button = program_.Entry.ItemDragging && strip != nullptr ? strip->dragCurButton() : 0;

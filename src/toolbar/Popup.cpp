@@ -14,7 +14,7 @@ PopupFacts FactsOf(const Program& program) {
   return {.Tag = entry.CurMenuTag,
           .Record = entry.CurRecord,
           .Command = entry.CurCommand,
-          .FollowsSeparator = program.ItemHasSeparator,
+          .FollowsSeparator = program.Menu.ItemHasSeparator,
           .ClipboardEmpty =
               entry.ClipTitle.empty() && entry.ClipIcon.empty() && entry.ClipCommand.empty(),
           .UndoTag = entry.UndoMenuTag};
@@ -69,7 +69,7 @@ int Popup::LetChoose() {
                      .Checked = element.Checked,
                      .Visible = element.Visible});
   }
-  const forms::CountScope asking(program_.OpenQuestions);
+  const forms::CountScope asking(program_.Guards.OpenQuestions);
   return program_.Windows.ShowPopup(program_.WindowInUse(), lines,
                                     program_.Services.Pointer.PointerPosition(),
                                     forms::popup::RightButton);

@@ -77,7 +77,7 @@ void Popup::Refresh() {
 // ---- the clipboard ----
 
 void Popup::CutEntry() {
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const std::string file = program_.Entry.CurFile;
   CopyEntry(program_.Entry);
   Settle(DeleteItem(program_, true), file);
@@ -88,7 +88,7 @@ void Popup::CopyCurrentEntry() {
 }
 
 void Popup::PasteEntry() {
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const std::string file = program_.Entry.CurFile;
   Settle(PasteItem(program_), file);
 }
@@ -100,7 +100,7 @@ void Popup::DeleteEntry() {
   const EntryEdit before = program_.Entry;
   const std::string& tag = before.CurMenuTag;
   if (!IsSinglesTag(tag) && !IsButtonTag(tag) && !IsMenuTag(tag)) return;
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   RememberForUndo(program_.Entry);
   const EditOutcome outcome = DeleteItem(program_, false);
   if (outcome != EditOutcome::Edited) RestoreUndo(program_.Entry, before);
@@ -108,7 +108,7 @@ void Popup::DeleteEntry() {
 }
 
 void Popup::DeleteSeparator() {
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const EntryEdit before = program_.Entry;
   EditOutcome outcome =
       SelectSeparatorAbove(program_.Services.Files, program_.Services.Ansi, program_.Entry);
@@ -121,7 +121,7 @@ void Popup::DeleteSeparator() {
 }
 
 void Popup::UndoDelete() {
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const std::string file = program_.Entry.CurFile;
   Settle(UndoDeleteItem(program_), file);
 }
@@ -129,12 +129,12 @@ void Popup::UndoDelete() {
 // ---- new entries ----
 
 void Popup::AddButton() {
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   program_.Ports.Toolbar->AddNewButton();
 }
 
 void Popup::Insert(const MenuRecord& record) {
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const std::string file = program_.Entry.CurFile;
   SetClipboard(program_.Entry, record);
   Settle(PasteItem(program_), file);
@@ -155,13 +155,13 @@ void Popup::AfterFolderEdit(EditOutcome outcome, const EntryEdit& entry) {
 }
 
 void Popup::OpenFolder() {
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const EntryEdit entry = program_.Entry;
   AfterFolderEdit(OpenFolderItem(program_.Services.Files, program_.Services.Ansi, entry), entry);
 }
 
 void Popup::CloseFolder() {
-  const forms::FlagScope rewriting(program_.ItemActionBusy);
+  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const EntryEdit entry = program_.Entry;
   AfterFolderEdit(CloseFolderItem(program_.Services.Files, program_.Services.Ansi, entry), entry);
 }

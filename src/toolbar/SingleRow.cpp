@@ -48,24 +48,25 @@ SingleRow::SingleRow(Program& program, frmToolbar& strip)
 }
 
 SingleScene SingleRow::Scene() const {
-  const bool twoRows = program_.OptionFlags.Is(24) && program_.OptionFlags.Is(26);
+  const bool twoRows =
+      program_.OptionFlags.Is(Option::SmallSingles) && program_.OptionFlags.Is(Option::LargeIcons);
   const ButtonRect& button = strip_.ToolbarButtons[0];
   return {.Scale = strip_.Scale(),
           .At = strip_.AtEdge(),
           .TwoRows = twoRows,
-          .IconSize = twoRows ? kSmallIconSize : program_.IconSize,
+          .IconSize = twoRows ? kSmallIconSize : program_.Icons.IconSize,
           .Template = {button.Width, button.Height}};
 }
 
 float SingleRow::LastEnd() const {
   const SingleRect& last = SingleButtons.back();
-  return program_.ToolbarVertical ? last.Bottom() : last.Right();
+  return program_.Strip.ToolbarVertical ? last.Bottom() : last.Right();
 }
 
 void SingleRow::Unload() {
   strip_.SingleCount = 0;
   LineCount = 0;
-  if (program_.CurSingle != Program::kDateArea) program_.CurSingle = 0;
+  if (program_.Menu.CurSingle != MenuState::kDateArea) program_.Menu.CurSingle = 0;
   ShowHover(0);
   press_ = {.On = press_.On == PressOn::Nothing ? PressOn::Nothing : PressOn::Spent};
   strip_.Line1.UnloadAbove(0);
@@ -75,7 +76,7 @@ void SingleRow::Unload() {
 
 void SingleRow::DoSingleButtons() {
   Unload();
-  program_.CurSingle = 0;
+  program_.Menu.CurSingle = 0;
   if (strip_.Where() == Placement::TopHugging) strip_.HideDate();
   PlaceBox();
   for (SingleRect& read : ReadSingles()) {
@@ -102,7 +103,7 @@ void SingleRow::PlaceBox() {
   forms::PictureBox& box = strip_.picSingleButton;
   const ButtonRect& size = strip_.ToolbarButtons[0];
   box.SetAutoRedraw(true);
-  if (program_.ToolbarVertical) {
+  if (program_.Strip.ToolbarVertical) {
     box.Move(buttons.Left(), buttons.Bottom() + 8 * strip_.TwipsY, size.Width, box.Height());
   } else {
     box.Move(buttons.Right() + 8 * strip_.TwipsX, buttons.Top(), box.Width(), size.Height);
@@ -112,14 +113,14 @@ void SingleRow::PlaceBox() {
 
 void SingleRow::ShowLineLeft() {
   const ButtonRect& size = strip_.ToolbarButtons[0];
-  const TwipLine line =
-      program_.ToolbarVertical ? TwipLine{0, 0, size.Width, 0} : TwipLine{0, 0, 0, size.Height};
+  const TwipLine line = program_.Strip.ToolbarVertical ? TwipLine{0, 0, size.Width, 0}
+                                                       : TwipLine{0, 0, 0, size.Height};
   Show(strip_.LineLeft, line, LineColor::Highlight);
 }
 
 void SingleRow::SizeBox() {
   const float length = SinglesLength(strip_.Scale(), SingleButtons.back());
-  if (program_.ToolbarVertical) {
+  if (program_.Strip.ToolbarVertical) {
     strip_.picSingleButton.SetHeight(length);
   } else {
     strip_.picSingleButton.SetWidth(length);
@@ -138,10 +139,10 @@ SingleRect SingleRow::EntryOf(const MenuRecord& record, std::string path) {
 std::vector<SingleRect> SingleRow::ReadSingles() {
   std::vector<SingleRect> read;
   // A folder that cannot be listed gives an empty row.
-  const auto names = OrderedSingleFiles(program_.Services.Files, program_.MenusPath);
+  const auto names = OrderedSingleFiles(program_.Services.Files, program_.Paths.MenusPath);
   if (!names) return read;
   for (const std::string& name : *names) {
-    const std::string path = program_.MenusPath + name;
+    const std::string path = program_.Paths.MenusPath + name;
     const std::optional<MenuRecord> record = strip_.ReadButtonRecord(path);
     // A button that cannot be read is left out, and the others come all the same.
     if (!record) continue;

@@ -38,7 +38,7 @@ class SingleRow final : public SingleButtonsPort {
 
   // ---- the pointer (SingleRowPointer.cpp) ----
 
-  /// Sets Program::CurSingle by the pointer's place on the screen, and returns it.
+  /// Sets Program::Menu by the pointer's place on the screen, and returns it.
   int GetCurIndex() noexcept;
   /// Shows which button is under the pointer, by its look and its title as a hint.
   /// The strip ends: nobody looks after the pointer any more.

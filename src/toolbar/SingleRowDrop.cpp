@@ -25,9 +25,9 @@ MenuRecord CarriedRecord(const EntryEdit& carried) {
 FileStatus SingleRow::DeletePasteSB(std::string_view file, int action) {
   strip_.Timer2.SetEnabled(false);
   FileSystem& files = program_.Services.Files;
-  if (action == kDelete) return DeleteSingleFile(files, program_.MenusPath, file);
+  if (action == kDelete) return DeleteSingleFile(files, program_.Paths.MenusPath, file);
   const EntryEdit& entry = program_.Entry;
-  return PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, file,
+  return PasteSingleFile(files, program_.Services.Ansi, program_.Paths.MenusPath, file,
                          {entry.ClipTitle, entry.ClipIcon, entry.ClipCommand});
 }
 
@@ -35,8 +35,9 @@ FileStatus SingleRow::UndoDeleteSB(std::string_view file) {
   strip_.Timer2.SetEnabled(false);
   if (file.empty()) return FileError::BadName;
   const EntryEdit& entry = program_.Entry;
-  return UndoDeleteSingleFile(program_.Services.Files, program_.Services.Ansi, program_.MenusPath,
-                              file, {entry.UndoTitle, entry.UndoIcon, entry.UndoCommand});
+  return UndoDeleteSingleFile(program_.Services.Files, program_.Services.Ansi,
+                              program_.Paths.MenusPath, file,
+                              {entry.UndoTitle, entry.UndoIcon, entry.UndoCommand});
 }
 
 SingleRect SingleRow::Under() {
@@ -45,7 +46,7 @@ SingleRect SingleRow::Under() {
 }
 
 void SingleRow::DoItemDrag(forms::MouseButton released) {
-  if (program_.ItemActionBusy || !strip_.IsLoaded()) return;
+  if (program_.Guards.ItemActionBusy || !strip_.IsLoaded()) return;
   // Events run while the menu closes, and a carry that seems over then is emptied.
   const EntryEdit carried = program_.Entry;
   if (carried.CurMenuTag.empty()) return;
@@ -78,7 +79,8 @@ bool SingleRow::Told(const FileStatus& edited) const {
 bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried) {
   FileSystem& files = program_.Services.Files;
   const CodePage& ansi = program_.Services.Ansi;
-  const EditOutcome moved = MoveEntryToSingles(files, ansi, program_.MenusPath, carried, before);
+  const EditOutcome moved =
+      MoveEntryToSingles(files, ansi, program_.Paths.MenusPath, carried, before);
   if (moved == EditOutcome::Failed) return false;
   if (moved == EditOutcome::Edited) {
     // The menu is built again when it opens.
@@ -86,7 +88,8 @@ bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried
     strip_.RemoveQMenu(carried.CurMenuTag);
     return true;
   }
-  return Told(PasteSingleFile(files, ansi, program_.MenusPath, before, CarriedRecord(carried)));
+  return Told(
+      PasteSingleFile(files, ansi, program_.Paths.MenusPath, before, CarriedRecord(carried)));
 }
 
 // True if the row is another one now.
@@ -94,9 +97,9 @@ bool SingleRow::DropBehind(const EntryEdit& carried, forms::MouseButton released
   FileSystem& files = program_.Services.Files;
   if (released != forms::MouseButton::Right && IsSinglesTag(carried.CurMenuTag)) {
     if (IsAnother(carried)) return true;
-    return Told(MoveSingleFile(files, program_.MenusPath, carried.CurFile, {}));
+    return Told(MoveSingleFile(files, program_.Paths.MenusPath, carried.CurFile, {}));
   }
-  return Told(PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, {},
+  return Told(PasteSingleFile(files, program_.Services.Ansi, program_.Paths.MenusPath, {},
                               CarriedRecord(carried)));
 }
 
@@ -116,9 +119,9 @@ bool SingleRow::DropBefore(const std::string& target, const EntryEdit& carried,
   if (ofRow && EqualNoCase(target, carried.CurFile)) return false;
   if (ofRow && released != forms::MouseButton::Right) {
     if (IsAnother(carried)) return true;
-    return Told(MoveSingleFile(files, program_.MenusPath, carried.CurFile, target));
+    return Told(MoveSingleFile(files, program_.Paths.MenusPath, carried.CurFile, target));
   }
-  return Told(PasteSingleFile(files, program_.Services.Ansi, program_.MenusPath, target,
+  return Told(PasteSingleFile(files, program_.Services.Ansi, program_.Paths.MenusPath, target,
                               CarriedRecord(carried)));
 }
 
@@ -132,7 +135,7 @@ void SingleRow::FitStrip() {
 }
 
 void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) {
-  if (names.empty() || !strip_.IsLoaded() || program_.ItemActionBusy) return;
+  if (names.empty() || !strip_.IsLoaded() || program_.Guards.ItemActionBusy) return;
   // Events run from here on: the pointer may go on, and the row may be another one.
   const SingleRect target = Under();
   const bool onButton = !target.File.empty() && target.Kind == SingleKind::Button;
@@ -155,15 +158,15 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
 void SingleRow::AddDropped(const std::vector<MenuRecord>& records, const std::string& before) {
   if (records.empty()) return;
   FileSystem& files = program_.Services.Files;
-  const auto row = ReadSingleFiles(files, program_.MenusPath);
+  const auto row = ReadSingleFiles(files, program_.Paths.MenusPath);
   if (!row) return;
   const std::size_t at = before.empty() ? row->size() : PlaceOfSingle(*row, before);
   const SingleFiles after = WithSingles(*row, at, records, program_.Services.Ansi);
   // A disk that refuses leaves the row as it was.
-  if (!Told(RewriteSingleFiles(files, program_.MenusPath, *row, after))) return;
+  if (!Told(RewriteSingleFiles(files, program_.Paths.MenusPath, *row, after))) return;
   DoSingleButtons();
   FitStrip();
-  if (program_.AutoHide && program_.Ports.Docking != nullptr) {
+  if (program_.Strip.AutoHide && program_.Ports.Docking != nullptr) {
     program_.Ports.Docking->RevealToolbar();
   }
 }

@@ -42,14 +42,14 @@ bool SingleRow::MenuUp() const {
 }
 
 int SingleRow::GetCurIndex() noexcept {
-  program_.CurSingle = 0;
+  program_.Menu.CurSingle = 0;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   const forms::PictureBox& box = strip_.picSingleButton;
   if (program_.Services.Desktop.WindowAt(pointer) != box.hWnd()) return 0;
   const TwipPoint at{static_cast<float>(pointer.x) * strip_.TwipsX - strip_.Left() - box.Left(),
                      static_cast<float>(pointer.y) * strip_.TwipsY - strip_.Top() - box.Top()};
-  program_.CurSingle = SingleAt(SingleButtons, at);
-  return program_.CurSingle;
+  program_.Menu.CurSingle = SingleAt(SingleButtons, at);
+  return program_.Menu.CurSingle;
 }
 
 // ---- hovering ----
@@ -68,18 +68,18 @@ void SingleRow::ShowHover(int index) {
   }
   hover1_.SetVisible(shown);
   hover2_.SetVisible(shown);
-  watch_.SetEnabled(shown || program_.CurSingle == Program::kDateArea);
+  watch_.SetEnabled(shown || program_.Menu.CurSingle == MenuState::kDateArea);
 }
 
 void SingleRow::sMouseMove() {
-  if (program_.StartingUp || program_.PosChangeRunning) return;
-  const int before = program_.CurSingle;
+  if (program_.Guards.StartingUp || program_.Guards.PosChangeRunning) return;
+  const int before = program_.Menu.CurSingle;
   const int now = GetCurIndex();
   if (now == before && now == hovered_) return;
   ShowHover(now);
   // Back on a menu button, its own hint is due anew.
   strip_.WasHovering = false;
-  if (!program_.MenuOpen) program_.CurButton = 0;
+  if (!program_.Menu.MenuOpen) program_.Menu.CurButton = 0;
   program_.SetHint(IsButton(now)
                        ? DoubleAmpersands(SingleButtons[static_cast<std::size_t>(now)].Title)
                        : std::string());
@@ -90,7 +90,7 @@ void SingleRow::LookAround() {
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   const WindowId under = program_.Services.Desktop.WindowAt(pointer);
   if (under == strip_.picSingleButton.hWnd()) return;
-  if (!carrying_) program_.CurSingle = 0;
+  if (!carrying_) program_.Menu.CurSingle = 0;
   ShowHover(0);
   watch_.SetEnabled(false);
   // Over the menu buttons the hint is theirs by now.
@@ -115,8 +115,8 @@ void SingleRow::picSingleButton_MouseDown(forms::MouseButton button, forms::Shif
   if (program_.Entry.ItemDragging || IsBesidePull(button)) return;
   OnDate = strip_.lblDate.Visible() && IsOnDateArea(x, strip_.lblDate.Left());
   // The place of the press: by now the pointer may be elsewhere.
-  const int index = OnDate ? Program::kDateArea : SingleAt(SingleButtons, {x, y});
-  program_.CurSingle = index;
+  const int index = OnDate ? MenuState::kDateArea : SingleAt(SingleButtons, {x, y});
+  program_.Menu.CurSingle = index;
   press_ = {.On = PressOn::Single, .Index = index, .X = x, .Y = y};
   if (MenuUp()) strip_.FrameDragging = true;
   // The bare parts of the box are the strip's frame, and so is a separator for the left button.
@@ -182,7 +182,7 @@ void SingleRow::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftS
 bool SingleRow::OffersPopup(const Press& press) const {
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   return program_.Services.Desktop.WindowAt(pointer) == strip_.picSingleButton.hWnd() &&
-         press.Index != Program::kDateArea && !(press.On == PressOn::Frame && strip_.FrameMoved);
+         press.Index != MenuState::kDateArea && !(press.On == PressOn::Frame && strip_.FrameMoved);
 }
 
 void SingleRow::picSingleButton_DblClick() {
@@ -194,23 +194,23 @@ void SingleRow::picSingleButton_DblClick() {
     return;
   }
   if (!IsButton(GetCurIndex())) return;
-  if (!strip_.FrameMoved && !program_.OptionFlags.Is(11)) RunSingleButton();
+  if (!strip_.FrameMoved && !program_.OptionFlags.Is(Option::SingleClick)) RunSingleButton();
 }
 
 void SingleRow::CloseMenus() {
-  program_.MenuOpen = true;
+  program_.Menu.MenuOpen = true;
   strip_.ResetMenu();
 }
 
 // ---- running ----
 
 void SingleRow::RunSingleButton() {
-  if (program_.Entry.ItemDragging || running_ || program_.StartingUp) return;
+  if (program_.Entry.ItemDragging || running_ || program_.Guards.StartingUp) return;
   const forms::FlagScope running(running_);
-  program_.RestoreBusy = false;
+  program_.Guards.RestoreBusy = false;
   strip_.FrameDragging = false;
   strip_.FrameMoved = false;
-  const int index = program_.CurSingle;
+  const int index = program_.Menu.CurSingle;
   const bool runs = IsButton(index);
   // Events run from here on, and the row may be another one after them.
   const std::string command =
@@ -234,7 +234,7 @@ void SingleRow::BeginCarry(int index) {
   EntryEdit& entry = program_.Entry;
   entry.ItemDragging = true;
   strip_.Timer2.SetEnabled(true);
-  program_.MenuOpen = true;
+  program_.Menu.MenuOpen = true;
   entry.CurTitle = single.Title;
   entry.CurIcon = single.Icon;
   entry.CurCommand = single.Command;
@@ -273,19 +273,19 @@ void SingleRow::EndCarry(const Press& press, forms::MouseButton released, forms:
   carrying_ = false;
   strip_.Timer2.SetEnabled(false);
   if (press.Moved) {
-    const forms::FlagScope dropping(program_.ItemDropping);
+    const forms::FlagScope dropping(program_.Drag.ItemDropping);
     DropCarried(released, shift);
   }
   StopCarry();
   if (!strip_.IsLoaded()) return;
   const bool clicked = !press.Moved && released == forms::MouseButton::Left;
-  if (clicked && program_.OptionFlags.Is(11)) {
-    program_.CurSingle = press.Index;
+  if (clicked && program_.OptionFlags.Is(Option::SingleClick)) {
+    program_.Menu.CurSingle = press.Index;
     RunSingleButton();
   } else if (!MenuUp()) {
     CloseMenus();
   }
-  program_.CurSingle = 0;
+  program_.Menu.CurSingle = 0;
   ShowHover(0);
 }
 
@@ -322,12 +322,12 @@ void SingleRow::ShowSinglePopup(int index, bool ctrl) {
                         .CurMenuTag = std::string(kSinglesTag),
                         .CurFile = single.File,
                         .CurRecord = 1};
-  const bool shell = program_.OptionFlags.Is(19) == ctrl;
+  const bool shell = program_.OptionFlags.Is(Option::SystemPopupWithCtrl) == ctrl;
   if (!shell) {
     if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup(entry);
   } else if (program_.Ports.SpecialFolders != nullptr && !single.Command.empty()) {
     SetCurrentEntry(program_.Entry, entry);
-    const forms::CountScope asking(program_.OpenQuestions);
+    const forms::CountScope asking(program_.Guards.OpenQuestions);
     program_.Ports.SpecialFolders->ShowContextMenu(
         single.Command, {}, program_.Services.Pointer.PointerPosition(), strip_.hWnd());
   }

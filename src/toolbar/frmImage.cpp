@@ -101,7 +101,9 @@ void frmImage::ReleaseMenu() {
 }
 
 void frmImage::SetPicture1() {
-  if (!program_.OptionFlags.Is(4) || program_.ChangingMode || !strip_.Visible()) return;
+  if (!program_.OptionFlags.Is(Option::AboveFullScreen) || program_.Guards.ChangingMode ||
+      !strip_.Visible())
+    return;
   ClearBg();
   Cover(strip_.hWnd());
 }
@@ -115,11 +117,11 @@ void frmImage::ResetPicture1() {
 // The outline.
 
 // Moves arrive while the outline is being shown: the last of them says where it belongs.
-void frmImage::SetPosition(std::string_view edge) {
+void frmImage::SetPosition(Edge edge) {
   if (!Load()) return;
   Tag = edge;
-  if (program_.MovingToolbar) return;
-  const forms::FlagScope moving(program_.MovingToolbar);
+  if (MovingToolbar) return;
+  const forms::FlagScope moving(MovingToolbar);
   for (std::string shown; IsLoaded() && !Tag.empty() && shown != Tag;) {
     shown = Tag;
     ShowOutline(shown);

@@ -33,9 +33,9 @@ class frmImage final : public forms::Form, public LoadedWindow, public CapturePo
   void SetPicture1() override;
   void ResetPicture1() override;
 
-  void SetPosition(std::string_view edge) override;
+  void SetPosition(Edge edge) override;
   void ClearBg() override;
-  [[nodiscard]] std::string OutlineEdge() const override { return Tag; }
+  [[nodiscard]] std::optional<Edge> OutlineEdge() const override { return Tag; }
 
   // The sides of the outline: above, left, below, right.
   forms::Line bLine1;

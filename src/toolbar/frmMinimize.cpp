@@ -72,7 +72,7 @@ void frmMinimize::ShowInSysTray() {
   InTray = program_.Services.Tray.Add({.Window = hWnd(),
                                        .Id = kTrayIcon,
                                        .CallbackMessage = forms::message::MouseMove,
-                                       .IconFile = program_.ShippedFile("corvelle.exe"),
+                                       .IconFile = program_.Paths.ShippedFile("corvelle.exe"),
                                        .Tip = "Corvelle"});
 }
 
@@ -84,11 +84,11 @@ void frmMinimize::RemoveFromSysTray() {
 
 void frmMinimize::ActivateSysTray() {
   ToolbarPort* const strip = program_.Ports.Toolbar;
-  if (program_.NotOnTop || strip == nullptr || !strip->WindowLoaded()) return;
-  program_.AutoHide = false;
-  program_.OptionFlags.Set(3, false);
-  program_.NotOnTop = true;
-  program_.OptionFlags.Set(23, true);
+  if (program_.Strip.NotOnTop || strip == nullptr || !strip->WindowLoaded()) return;
+  program_.Strip.AutoHide = false;
+  program_.OptionFlags.Set(Option::AutoHide, false);
+  program_.Strip.NotOnTop = true;
+  program_.OptionFlags.Set(Option::NotOnTop, true);
   strip->MarkCollections();
   strip->SetWindowPos(forms::InsertAfter::NotTopmost, forms::swp::Show);
   DockAnew();
@@ -105,8 +105,8 @@ void frmMinimize::ActivateSysTray() {
 void frmMinimize::DeActivateSysTray() {
   ToolbarPort* const strip = program_.Ports.Toolbar;
   if (strip == nullptr || !strip->WindowLoaded()) return;
-  program_.NotOnTop = false;
-  program_.OptionFlags.Set(23, false);
+  program_.Strip.NotOnTop = false;
+  program_.OptionFlags.Set(Option::NotOnTop, false);
   DockAnew();
   if (!IsLoaded()) return;
   strip->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
@@ -118,10 +118,10 @@ void frmMinimize::DeActivateSysTray() {
 // Whether the edge's room is reserved for the strip has changed.
 void frmMinimize::DockAnew() {
   DockingPort* const docking = program_.Ports.Docking;
-  if (!program_.AppBarDocked || docking == nullptr) return;
-  program_.AppBarDocked = false;
+  if (!program_.Strip.AppBarDocked || docking == nullptr) return;
+  program_.Strip.AppBarDocked = false;
   docking->RemoveAppBar();
-  docking->SetAppBar(program_.ToolbarEdge, true);
+  docking->SetAppBar(program_.Strip.ToolbarEdge, true);
   docking->RevealToolbar();
 }
 
@@ -129,7 +129,7 @@ void frmMinimize::SetMenuLevel() {
   constexpr auto kTopmost = forms::InsertAfter::Topmost;
   const WindowPorts& ports = program_.Ports;
   if (ports.QMenu != nullptr) ports.QMenu->SetWindowPos(kTopmost, forms::swp::Hide);
-  if (ports.Hint != nullptr && !program_.OptionFlags.Is(22)) {
+  if (ports.Hint != nullptr && !program_.OptionFlags.Is(Option::NoHints)) {
     ports.Hint->SetHintLevel(kTopmost, forms::swp::Hide);
   }
 }
@@ -139,10 +139,10 @@ void frmMinimize::SetMenuLevel() {
 void frmMinimize::MinimizeFor(const TwipRect& strip) {
   ToolbarPort* const toolbar = program_.Ports.Toolbar;
   if (toolbar == nullptr || !toolbar->WindowLoaded()) return;
-  program_.ToolbarMinimized = true;
-  const forms::FlagScope minimizing(program_.ToolbarMinimizing);
-  program_.ToolbarReady = false;
-  if (program_.AppBarDocked) LeaveEdge(strip.Top);
+  program_.Strip.ToolbarMinimized = true;
+  const forms::FlagScope minimizing(program_.Strip.ToolbarMinimizing);
+  program_.Guards.ToolbarReady = false;
+  if (program_.Strip.AppBarDocked) LeaveEdge(strip.Top);
   Move(strip.Left, strip.Top, strip.Width, strip.Height);
   toolbar->HideWindow();
   Minimize();
@@ -150,11 +150,11 @@ void frmMinimize::MinimizeFor(const TwipRect& strip) {
 
 // The edge is free for others while the strip is in the task bar.
 void frmMinimize::LeaveEdge(float top) {
-  program_.WasDocked = true;
-  program_.WasEdge = program_.ToolbarEdge;
-  program_.WasTop = top;
+  program_.Strip.WasDocked = true;
+  WasEdge = program_.Strip.ToolbarEdge;
+  WasTop = top;
   if (program_.Ports.Docking != nullptr) program_.Ports.Docking->LeaveEdge();
-  program_.AppBarDocked = false;
+  program_.Strip.AppBarDocked = false;
 }
 
 // ---- back ----
@@ -162,7 +162,7 @@ void frmMinimize::LeaveEdge(float top) {
 void frmMinimize::Form_MouseMove(float x) {
   const int message = RoundToInt(x / program_.Windows.Screen().TwipsPerPixelX);
   if (message != kLeftButtonUp && message != kLeftButtonDoubleClick) return;
-  if (program_.ToolbarMinimized) {
+  if (program_.Strip.ToolbarMinimized) {
     RestoreWindow();
   } else {
     subShowToolbar();
@@ -178,7 +178,7 @@ std::optional<std::intptr_t> frmMinimize::WindowProc(std::uint32_t message, std:
   if (message != 0 && message == program_.Services.Tray.TaskbarCreatedMessage()) {
     // The task bar came up anew, without the icons that the one before showed.
     InTray = false;
-    if (program_.NotOnTop) ShowInSysTray();
+    if (program_.Strip.NotOnTop) ShowInSysTray();
     return std::nullopt;
   }
   if (message != forms::message::Size) return std::nullopt;
@@ -192,16 +192,16 @@ std::optional<std::intptr_t> frmMinimize::WindowProc(std::uint32_t message, std:
 
 void frmMinimize::Form_Resize() {
   // On its way into the task bar it takes the strip's size, which is no return.
-  if (program_.ToolbarMinimizing) return;
-  if (program_.StartingUp || program_.AppBarBusy || IsMinimized()) return;
+  if (program_.Strip.ToolbarMinimizing) return;
+  if (program_.Guards.StartingUp || program_.Guards.AppBarBusy || IsMinimized()) return;
   ToolbarPort* const strip = program_.Ports.Toolbar;
   if (strip == nullptr || !strip->WindowLoaded()) return;
-  if (program_.ToolbarMinimized) WakeToolbar();
+  if (program_.Strip.ToolbarMinimized) WakeToolbar();
   if (!IsLoaded()) return;
   SetVisible(false);
   program_.DoEvents();
   if (!IsLoaded()) return;
-  if (program_.AutoHide && program_.Ports.Docking != nullptr) {
+  if (program_.Strip.AutoHide && program_.Ports.Docking != nullptr) {
     program_.Ports.Docking->RevealToolbar();
   }
   subShowToolbar();
@@ -210,39 +210,39 @@ void frmMinimize::Form_Resize() {
 // The strip comes back out of the task bar.
 void frmMinimize::WakeToolbar() {
   SetVisible(false);
-  program_.ToolbarMinimized = false;
+  program_.Strip.ToolbarMinimized = false;
   ToolbarPort& strip = *program_.Ports.Toolbar;
-  if (program_.WasDocked && program_.Ports.Docking != nullptr) {
+  if (program_.Strip.WasDocked && program_.Ports.Docking != nullptr) {
     ReturnToEdge();
     if (!IsLoaded()) return;
   } else {
     strip.CheckToolbarMove();
   }
   strip.ShowAndRefresh();
-  program_.ToolbarReady = true;
+  program_.Guards.ToolbarReady = true;
 }
 
 void frmMinimize::ReturnToEdge() {
   DockingPort& docking = *program_.Ports.Docking;
   ToolbarPort& strip = *program_.Ports.Toolbar;
-  program_.WasDocked = false;
-  if (!program_.WasEdge.empty()) program_.ToolbarEdge = std::exchange(program_.WasEdge, {});
+  program_.Strip.WasDocked = false;
+  if (!WasEdge.empty()) program_.Strip.ToolbarEdge = std::exchange(WasEdge, {});
   // Another program's bar may hide there by now.
-  if (program_.AutoHide && !docking.AutoHideFree(program_.ToolbarEdge)) {
-    program_.OptionFlags.Set(3, false);
-    program_.AutoHide = false;
+  if (program_.Strip.AutoHide && !docking.AutoHideFree(program_.Strip.ToolbarEdge)) {
+    program_.OptionFlags.Set(Option::AutoHide, false);
+    program_.Strip.AutoHide = false;
     docking.ShowAutoHideTaken();
     if (!IsLoaded()) return;
   }
   docking.RegisterAppBar();
   // Whether the full-screen program from before is still there was not told meanwhile.
-  if (std::exchange(program_.FullScreenApp, false) && !program_.NotOnTop) {
+  if (std::exchange(program_.Strip.FullScreenApp, false) && !program_.Strip.NotOnTop) {
     strip.SetWindowPos(forms::InsertAfter::Topmost, forms::swp::KeepActivation);
   }
   strip.MarkCollections();
-  docking.SetAppBar(program_.ToolbarEdge, false);
+  docking.SetAppBar(program_.Strip.ToolbarEdge, false);
   if (!IsLoaded()) return;
-  if (program_.ToolbarVertical && strip.WindowBounds().Top != program_.WasTop) {
+  if (program_.Strip.ToolbarVertical && strip.WindowBounds().Top != WasTop) {
     strip.ResetCollections();
   }
 }

@@ -49,7 +49,7 @@ void frmStartup::Form_Load() {
 
   Image1.Move(kMargin, (ScaleHeight() - picture * screen.TwipsPerPixelY) / 2,
               picture * screen.TwipsPerPixelX, picture * screen.TwipsPerPixelY);
-  Image1.SetPicture(FilePicture(program_, program_.ShippedFile("corvelle.exe")));
+  Image1.SetPicture(FilePicture(program_, program_.Paths.ShippedFile("corvelle.exe")));
   Label1.SetCaption("");
   Label2.SetCaption("Initializing ");
   Label2.Move(Image1.Right() + kMargin, Image1.Bottom() - Label2.Height(), Label2.Width(),

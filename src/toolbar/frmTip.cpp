@@ -108,7 +108,7 @@ void frmTip::DrawPicture() {
   Picture1.DrawPixels({0, 0, kPicture, kPicture}, [this](Canvas& canvas) {
     // Without the program's icon the place stays empty.
     static_cast<void>(program_.Services.Icons.DrawFileIcon(
-        canvas, program_.ShippedFile("corvelle.exe"), 0, {0, 0}, kPicture));
+        canvas, program_.Paths.ShippedFile("corvelle.exe"), 0, {0, 0}, kPicture));
   });
 }
 

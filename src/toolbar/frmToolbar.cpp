@@ -132,8 +132,8 @@ void frmToolbar::LoadWindow() { static_cast<void>(Load()); }
 void frmToolbar::UnloadWindow() { Unload(); }
 
 void frmToolbar::Form_Load() {
-  program_.FullScreenApp = false;
-  program_.ToolbarReady = true;
+  program_.Strip.FullScreenApp = false;
+  program_.Guards.ToolbarReady = true;
   program_.Title = "Corvelle";
   SetVisible(false);
   SetCaption("");
@@ -141,7 +141,7 @@ void frmToolbar::Form_Load() {
   MakeFolders();
   SetBackColor(forms::color::ButtonFace);
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->LoadWindow();
-  if (!program_.NotOnTop) SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
+  if (!program_.Strip.NotOnTop) SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
   SetLeft(program_.Windows.Screen().Width);
   picToolbar.SetAutoRedraw(true);
   picSingleButton.SetAutoRedraw(true);
@@ -155,44 +155,46 @@ void frmToolbar::Form_Load() {
 
 void frmToolbar::MakeFolders() {
   FileSystem& files = program_.Services.Files;
-  program_.MenusPath = program_.AppPath + std::string(kMenusFolder);
-  program_.IconsPath = program_.AppPath + "Icons\\";
-  program_.ShellLinkPath = program_.AppPath + "ShellLink\\";
-  MakeMissingFolder(files, program_.MenusPath);
-  const bool newIcons = MakeMissingFolder(files, program_.IconsPath);
-  MakeMissingFolder(files, program_.ShellLinkPath);
-  program_.ShellLinkPath = EnsureBackslash(files.LongPath(program_.ShellLinkPath));
-  if ((newIcons || !program_.OptionFlags.Is(2)) && program_.Ports.IconLibrary != nullptr) {
+  program_.Paths.MenusPath = program_.Paths.AppPath + std::string(kMenusFolder);
+  program_.Paths.IconsPath = program_.Paths.AppPath + "Icons\\";
+  program_.Paths.ShellLinkPath = program_.Paths.AppPath + "ShellLink\\";
+  MakeMissingFolder(files, program_.Paths.MenusPath);
+  const bool newIcons = MakeMissingFolder(files, program_.Paths.IconsPath);
+  MakeMissingFolder(files, program_.Paths.ShellLinkPath);
+  program_.Paths.ShellLinkPath = EnsureBackslash(files.LongPath(program_.Paths.ShellLinkPath));
+  if ((newIcons || !program_.OptionFlags.Is(Option::DefaultEntriesOffered)) &&
+      program_.Ports.IconLibrary != nullptr) {
     program_.Ports.IconLibrary->ExtractIconLibrary();
   }
 }
 
 void frmToolbar::ReadPlacement() {
-  program_.AppBarDocked = false;
-  program_.ToolbarEdge = "TOP";
-  program_.AppBarBusy = false;
+  program_.Strip.AppBarDocked = false;
+  program_.Strip.ToolbarEdge = Edge::Top;
+  program_.Guards.AppBarBusy = false;
   if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RegisterAppBar();
   program_.ReadEdgeFlags();
-  program_.AutoHide = program_.OptionFlags.Is(3);
-  if (!program_.AppBarRequested || program_.Ports.Docking != nullptr) return;
-  program_.AppBarRequested = false;
-  program_.ToolbarVertical = false;
-  program_.ToolbarEdge = "TOP";
+  program_.Strip.AutoHide = program_.OptionFlags.Is(Option::AutoHide);
+  if (!program_.Strip.AppBarRequested || program_.Ports.Docking != nullptr) return;
+  program_.Strip.AppBarRequested = false;
+  program_.Strip.ToolbarVertical = false;
+  program_.Strip.ToolbarEdge = Edge::Top;
 }
 
 void frmToolbar::PlaceFirst() {
-  if (!program_.AppBarRequested) {
+  if (!program_.Strip.AppBarRequested) {
     InitButtons();
     return;
   }
   DockingPort& docking = *program_.Ports.Docking;
-  if (program_.AutoHide && !docking.AutoHideFree(program_.ToolbarEdge)) program_.AutoHide = false;
-  docking.SetAppBar(program_.ToolbarEdge, true);
-  program_.AppBarRequested = false;
+  if (program_.Strip.AutoHide && !docking.AutoHideFree(program_.Strip.ToolbarEdge))
+    program_.Strip.AutoHide = false;
+  docking.SetAppBar(program_.Strip.ToolbarEdge, true);
+  program_.Strip.AppBarRequested = false;
 }
 
 void frmToolbar::Form_Unload() {
-  program_.ToolbarReady = false;
+  program_.Guards.ToolbarReady = false;
   subclassed_ = false;
   StopDrag();
   Singles.StopWatching();
@@ -234,11 +236,11 @@ void frmToolbar::InitButtons() {
   SetVisible(false);
   // A change that was cut short is taken back before anything looks into the folder. Where the disk
   // refuses, the next change of files tries again, and the next start.
-  static_cast<void>(RecoverFiles(program_.Services.Files, program_.MenusPath));
+  static_cast<void>(RecoverFiles(program_.Services.Files, program_.Paths.MenusPath));
   // What cannot be deleted is deleted another time.
-  static_cast<void>(PurgeMenus(program_.Services.Files, program_.MenusPath));
+  static_cast<void>(PurgeMenus(program_.Services.Files, program_.Paths.MenusPath));
   StopTimers();
-  program_.CurButton = 0;
+  program_.Menu.CurButton = 0;
   ReadTwips();
   lblDate.SetVisible(false);
   ChooseIconSize();
@@ -248,8 +250,8 @@ void frmToolbar::InitButtons() {
   DoToolbarButtons();
   DoSingleButtons();
   SetToolbar();
-  if (!program_.AppBarBusy && !program_.AppBarRequested) ShowInFront();
-  if (!program_.AppBarRequested && program_.Ports.QMenu != nullptr) {
+  if (!program_.Guards.AppBarBusy && !program_.Strip.AppBarRequested) ShowInFront();
+  if (!program_.Strip.AppBarRequested && program_.Ports.QMenu != nullptr) {
     program_.Ports.QMenu->InitIcons();
   }
   StopTimers();
@@ -278,10 +280,10 @@ void frmToolbar::ReadTwips() {
 }
 
 void frmToolbar::ChooseIconSize() {
-  program_.IconSize = kSmallIconSize;
-  if (!program_.OptionFlags.Is(26)) return;
+  program_.Icons.IconSize = kSmallIconSize;
+  if (!program_.OptionFlags.Is(Option::LargeIcons)) return;
   const int large = program_.Services.Icons.IconWidth(IconList::Large);
-  program_.IconSize = large != 0 ? large : kLargeIcon;
+  program_.Icons.IconSize = large != 0 ? large : kLargeIcon;
 }
 
 // The first use brings the default entries without a question. The question is for a user who has
@@ -289,19 +291,19 @@ void frmToolbar::ChooseIconSize() {
 void frmToolbar::OfferDefaultEntries() {
   DefaultEntriesPort* const entries = program_.Ports.DefaultEntries;
   FileSystem& files = program_.Services.Files;
-  const bool firstUse = !program_.OptionFlags.Is(2);
+  const bool firstUse = !program_.OptionFlags.Is(Option::DefaultEntriesOffered);
   if (firstUse) {
     // A program without default entries leaves the first use to one that has them.
     if (entries == nullptr) return;
     SetVisible(false);
     entries->IncludeCommonFiles();
-    program_.OptionFlags.Set(2, true);
+    program_.OptionFlags.Set(Option::DefaultEntriesOffered, true);
     program_.SaveOptionFlags();
     SetLeft(program_.Windows.Screen().Width);
     return;
   }
-  if (HoldsAny(files, program_.MenusPath, "*.MNU") ||
-      HoldsAny(files, program_.MenusPath, "*.BTN")) {
+  if (HoldsAny(files, program_.Paths.MenusPath, "*.MNU") ||
+      HoldsAny(files, program_.Paths.MenusPath, "*.BTN")) {
     return;
   }
   const int answer =
@@ -319,7 +321,7 @@ void frmToolbar::OfferDefaultEntries() {
 void frmToolbar::InitNewButtons() {
   if (!IsLoaded()) return;
   // One rebuild at a time. The one that runs may have read the options and files already.
-  if (program_.AppBarBusy) {
+  if (program_.Guards.AppBarBusy) {
     rebuildWaits_ = true;
     Timer1.SetEnabled(true);
     return;
@@ -333,31 +335,31 @@ void frmToolbar::InitNewButtons() {
   program_.SaveOptionFlags();
   UpdateToolbarPosition();
   EmptyCurrentItem();
-  if (program_.AppBarDocked && program_.Ports.Docking != nullptr) {
-    program_.Ports.Docking->SetAppBar(program_.ToolbarEdge, true);
+  if (program_.Strip.AppBarDocked && program_.Ports.Docking != nullptr) {
+    program_.Ports.Docking->SetAppBar(program_.Strip.ToolbarEdge, true);
   } else {
     RebuildAtTop();
   }
   if (!IsLoaded()) return;
-  if (program_.AutoHide && program_.Ports.Docking != nullptr) {
+  if (program_.Strip.AutoHide && program_.Ports.Docking != nullptr) {
     program_.Ports.Docking->RevealToolbar();
   }
   SetFocus();
   picToolbar.Refresh();
   picSingleButton.Refresh();
   Refresh();
-  program_.ToolbarReady = true;
+  program_.Guards.ToolbarReady = true;
 }
 
 void frmToolbar::RebuildAtTop() {
-  program_.ToolbarReady = false;
-  program_.AppBarBusy = true;
+  program_.Guards.ToolbarReady = false;
+  program_.Guards.AppBarBusy = true;
   CapturePort* const capture = program_.Ports.Capture;
   if (capture != nullptr) capture->SetPicture1();
   UnloadItems();
   if (IsLoaded()) InitButtons();
   if (IsLoaded()) Show();
-  program_.AppBarBusy = false;
+  program_.Guards.AppBarBusy = false;
   if (program_.Ports.Properties != nullptr) program_.Ports.Properties->HidePreview();
   if (capture != nullptr && ImageLoaded()) capture->ResetPicture1();
 }
@@ -366,28 +368,28 @@ void frmToolbar::RestoreToolbar() {
   if (!IsLoaded()) return;
   // A strip that is just being placed would be left half at its edge: it leaves the edge
   // afterwards.
-  if (program_.AppBarBusy) {
+  if (program_.Guards.AppBarBusy) {
     restoreWaits_ = true;
     Timer1.SetEnabled(true);
     return;
   }
   restoreWaits_ = false;
-  program_.RestoreBusy = true;
-  if (program_.AppBarDocked) {
+  program_.Guards.RestoreBusy = true;
+  if (program_.Strip.AppBarDocked) {
     program_.SaveEdgeFlags();
     if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RemoveAppBar();
   }
-  program_.AppBarRequested = false;
-  program_.AppBarDocked = false;
-  program_.ToolbarVertical = false;
-  program_.ToolbarEdge = "TOP";
+  program_.Strip.AppBarRequested = false;
+  program_.Strip.AppBarDocked = false;
+  program_.Strip.ToolbarVertical = false;
+  program_.Strip.ToolbarEdge = Edge::Top;
   InitNewButtons();
-  program_.RestoreBusy = false;
+  program_.Guards.RestoreBusy = false;
   if (!IsLoaded()) return;
   ShowInFront();
   picToolbar.Refresh();
   picSingleButton.Refresh();
-  if (program_.AutoHide) Timer1.SetEnabled(true);
+  if (program_.Strip.AutoHide) Timer1.SetEnabled(true);
 }
 
 }  // namespace corvelle

@@ -23,11 +23,11 @@ std::optional<MenuRecord> frmToolbar::ReadButtonRecord(std::string_view path) {
 std::vector<frmToolbar::ButtonFile> frmToolbar::ReadButtonFiles() {
   std::vector<ButtonFile> buttons;
   // A folder that cannot be listed gives a strip with the program's own button only.
-  const auto names = OrderedMenuFiles(program_.Services.Files, program_.MenusPath);
+  const auto names = OrderedMenuFiles(program_.Services.Files, program_.Paths.MenusPath);
   if (!names) return buttons;
   for (const std::string& name : *names) {
     program_.ShowStartupProgress();
-    const std::string path = program_.MenusPath + name;
+    const std::string path = program_.Paths.MenusPath + name;
     const std::optional<MenuRecord> record = ReadButtonRecord(path);
     // A button that cannot be read is left out, and the others come all the same.
     if (!record) continue;
@@ -46,7 +46,7 @@ void frmToolbar::UnloadButtons() {
   records_.resize(1);
   ButtonCount = 0;
   SepCount = 0;
-  program_.CurButton = 0;
+  program_.Menu.CurButton = 0;
 }
 
 TwipSize frmToolbar::MakeButtons() {
@@ -56,7 +56,7 @@ TwipSize frmToolbar::MakeButtons() {
   std::vector<StripEntry> entries;
   entries.reserve(files.size());
   // The program's own menu comes first.
-  records_.push_back({program_.Title, program_.ShippedFile("corvelle.exe"), ""});
+  records_.push_back({program_.Title, program_.Paths.ShippedFile("corvelle.exe"), ""});
   for (const ButtonFile& file : files) {
     entries.push_back(file.Entry);
     if (file.Entry.Kind == EntryKind::Button) records_.push_back(file.Record);
@@ -114,13 +114,13 @@ void frmToolbar::DrawIconIn(forms::PictureBox& box, const PixelRect& place, cons
 void frmToolbar::DrawButtonIcon(const std::string& iconText, const ButtonRect& button) {
   if (iconText.empty() || EqualNoCase(iconText, kNewButtonIcon)) return;
   const PixelPoint at = IconPlace({.Button = {button.Left, button.Top, button.Width, button.Height},
-                                   .IconSize = program_.IconSize,
+                                   .IconSize = program_.Icons.IconSize,
                                    .TwipsX = TwipsX,
                                    .TwipsY = TwipsY,
                                    .Where = Where(),
-                                   .Vertical = program_.ToolbarVertical,
+                                   .Vertical = program_.Strip.ToolbarVertical,
                                    .TopCut = TopCut});
-  const PixelRect touched = RectAt(at, {program_.IconSize, program_.IconSize});
+  const PixelRect touched = RectAt(at, {program_.Icons.IconSize, program_.Icons.IconSize});
   DrawIconIn(picToolbar, touched, iconRounds_, [&](Canvas& canvas) {
     // What has no icon at all keeps an empty face.
     static_cast<void>(ResolveAndDraw(program_, canvas, iconText, {0, 0}, touched.Width()));

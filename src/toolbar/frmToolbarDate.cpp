@@ -25,7 +25,7 @@ void frmToolbar::HideDate() {
 
 void frmToolbar::DoLabelDate() {
   ReadTwips();
-  if (Where() == Placement::TopHugging || program_.ToolbarVertical) {
+  if (Where() == Placement::TopHugging || program_.Strip.ToolbarVertical) {
     HideDate();
     return;
   }
@@ -36,7 +36,7 @@ void frmToolbar::DoLabelDate() {
                             picSingleButton.Height(), forms::color::ButtonFace);
     return;
   }
-  if (program_.RestoreBusy) return;
+  if (program_.Guards.RestoreBusy) return;
   UpdateLabelDate();
   ShowDate();
 }
@@ -63,8 +63,8 @@ void frmToolbar::ShowDate() {
 }
 
 void frmToolbar::UpdateLabelDate() {
-  if (!program_.OptionFlags.Is(kShowDate) || program_.ToolbarVertical || program_.RestoreBusy ||
-      Where() == Placement::TopHugging) {
+  if (!program_.OptionFlags.Is(kShowDate) || program_.Strip.ToolbarVertical ||
+      program_.Guards.RestoreBusy || Where() == Placement::TopHugging) {
     return;
   }
   const std::string today = program_.Services.System.ShortDate();
@@ -76,9 +76,9 @@ void frmToolbar::UpdateLabelDate() {
 
 void frmToolbar::lblDate_MouseDown(forms::MouseButton /*button*/, forms::ShiftState /*shift*/,
                                    float /*x*/, float /*y*/) {
-  if (program_.MenuOpen || MenuUp()) ResetMenu();
+  if (program_.Menu.MenuOpen || MenuUp()) ResetMenu();
   program_.SetHint("");
-  program_.CurSingle = Program::kDateArea;
+  program_.Menu.CurSingle = MenuState::kDateArea;
 }
 
 // The strip shows the date alone; the hint over it is the clock.
@@ -87,8 +87,8 @@ void frmToolbar::lblDate_MouseMove(forms::MouseButton down, forms::ShiftState /*
   if (down != forms::MouseButton::None || program_.Entry.ItemDragging) return;
   const HintPort* const hint = program_.Ports.Hint;
   const bool hintUp = hint != nullptr && program_.Services.Desktop.IsVisible(hint->WindowHandle());
-  if (hintUp && program_.CurSingle == Program::kDateArea) return;
-  program_.CurSingle = Program::kDateArea;
+  if (hintUp && program_.Menu.CurSingle == MenuState::kDateArea) return;
+  program_.Menu.CurSingle = MenuState::kDateArea;
   const SystemInfo& system = program_.Services.System;
   program_.SetHint(system.TimeOfDay() + ", " + system.LongDate());
   UpdateLabelDate();

@@ -24,20 +24,20 @@ int frmToolbar::dragCurButton() {
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   FindCurButton(pointer);
   const bool over = program_.Services.Desktop.WindowAt(pointer) == picToolbar.hWnd();
-  const bool carries = program_.Entry.ItemDragging && !program_.ItemDropping;
-  program_.ButtonDragging = carries && over;
+  const bool carries = program_.Entry.ItemDragging && !program_.Drag.ItemDropping;
+  program_.Drag.ButtonDragging = carries && over;
   if (!over) return 0;
-  const int button = program_.CurButton;
+  const int button = program_.Menu.CurButton;
   // The menu window holds the press, so that the strip hears of no move: the carry is followed
   // here.
-  if (carries && !program_.MenuBuilding && LooksAtRest(button) && IsOursActive()) {
+  if (carries && !program_.Guards.MenuBuilding && LooksAtRest(button) && IsOursActive()) {
     HoverButton(button);
   }
   return button;
 }
 
 void frmToolbar::WatchCarry() {
-  if (!program_.Entry.ItemDragging || program_.ItemDropping) {
+  if (!program_.Entry.ItemDragging || program_.Drag.ItemDropping) {
     carryWatch_.Reset();
     return;
   }
@@ -54,10 +54,10 @@ void frmToolbar::AbandonDrag() {
 
 void frmToolbar::DoButtonDrag(int button, forms::MouseButton released) {
   Timer2.SetEnabled(false);
-  if (button <= 1 || button > ButtonCount || program_.ItemActionBusy) return;
+  if (button <= 1 || button > ButtonCount || program_.Guards.ItemActionBusy) return;
   const std::string path = ToolbarButtons[static_cast<std::size_t>(button)].Path;
   if (path == kMainMenuPath || program_.Entry.CurFile.empty()) return;
-  const forms::FlagScope dropping(program_.ItemDropping);
+  const forms::FlagScope dropping(program_.Drag.ItemDropping);
   const std::string tag = "F" + std::to_string(button);
   // What the disk refuses stays where it was, and the menu shows that.
   static_cast<void>(DropItem(program_, tag, {.File = path}, released == forms::MouseButton::Right));
@@ -72,10 +72,10 @@ void frmToolbar::ShowDroppedMenu(int button) {
   if (!MenuUp() || button > ButtonCount) return;
   program_.Ports.QMenu->ActivateKeyDown(kNoKey);
   if (!IsLoaded()) return;
-  if (!program_.AppBarDocked) {
+  if (!program_.Strip.AppBarDocked) {
     program_.Services.Pointer.SetPointerPosition(
         ButtonMiddle(ToolbarButtons[static_cast<std::size_t>(button)], PlaceOnScreen()));
-    program_.CurButton = button;
+    program_.Menu.CurButton = button;
     SetMenuPosition();
   }
   Timer2.SetEnabled(true);

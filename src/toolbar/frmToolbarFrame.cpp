@@ -33,13 +33,14 @@ void frmToolbar::lblSep_MouseMove(int index, forms::MouseButton down, forms::Shi
   }
   if (index != kGrip || !FrameHeld || !forms::Has(down, forms::MouseButton::Left)) return;
   // While the grip is held nothing else may place the strip.
-  program_.RestoreBusy = true;
-  if (!program_.AppBarBusy) FollowFrame(down, x + lblSep[kGrip].Left(), y + lblSep[kGrip].Top());
+  program_.Guards.RestoreBusy = true;
+  if (!program_.Guards.AppBarBusy)
+    FollowFrame(down, x + lblSep[kGrip].Left(), y + lblSep[kGrip].Top());
 }
 
 void frmToolbar::lblSep_MouseUp(int index, forms::MouseButton button, forms::ShiftState shift,
                                 float x, float y) {
-  program_.RestoreBusy = false;
+  program_.Guards.RestoreBusy = false;
   const forms::Label& label = lblSep[index];
   const bool inside = x >= 0 && y >= 0 && x < label.Width() && y < label.Height();
   if (button == forms::MouseButton::Right && !program_.Entry.ItemDragging && !FrameMoved &&
@@ -84,7 +85,7 @@ void frmToolbar::Form_DblClick() {
 
 void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/, float x,
                                 float y) {
-  if (program_.AutoHide && !picToolbar.Visible() && Visible()) RevealFromLine();
+  if (program_.Strip.AutoHide && !picToolbar.Visible() && Visible()) RevealFromLine();
   if (down == forms::MouseButton::None) {
     EndLostPull();
     FrameDragging = false;
@@ -96,7 +97,7 @@ void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shi
     FrameDragging = true;
     return;
   }
-  if (!program_.RestoreBusy && !program_.AppBarBusy) FollowFrame(down, x, y);
+  if (!program_.Guards.RestoreBusy && !program_.Guards.AppBarBusy) FollowFrame(down, x, y);
 }
 
 void frmToolbar::FollowFrame(forms::MouseButton down, float x, float y) {
@@ -122,12 +123,12 @@ void frmToolbar::FollowPull() {
   CapturePort* const capture = program_.Ports.Capture;
   if (program_.Ports.Docking == nullptr || capture == nullptr) return;
   const Edge wanted = ChooseEdge(program_.Services.Pointer.PointerPosition(), ScreenPixels());
-  if (EdgeText(wanted) == program_.ToolbarEdge) {
+  if (wanted == program_.Strip.ToolbarEdge) {
     ClearOutline();
     DrawDragLook();
   } else {
     DrawBorders();
-    capture->SetPosition(EdgeText(wanted));
+    capture->SetPosition(wanted);
   }
 }
 
@@ -143,7 +144,7 @@ bool frmToolbar::EndPull() {
   std::string edge = capture->OutlineEdge();
   capture->ClearBg();
   const bool alreadyThere =
-      edge == "TOP" && program_.ToolbarEdge == "TOP" && !program_.AppBarDocked;
+      edge == "TOP" && program_.Strip.ToolbarEdge == Edge::Top && !program_.Strip.AppBarDocked;
   LoadedWindow* const image = program_.Ports.ImageWindow;
   // A side that is taken is told of by the docking, which then docks the strip in full sight.
   if (image != nullptr) image->UnloadWindow();
@@ -151,7 +152,7 @@ bool frmToolbar::EndPull() {
   DrawBorders();
   docking->SetAppBar(edge, true);
   if (!IsLoaded()) return true;
-  if (program_.AutoHide) docking->RevealToolbar();
+  if (program_.Strip.AutoHide) docking->RevealToolbar();
   SetFocus();
   DrawBorders();
   return true;
@@ -176,7 +177,7 @@ void frmToolbar::Form_MouseUp(forms::MouseButton button, forms::ShiftState /*shi
   }
   LetFrameGo();
   if (FrameMoved && !EndPull()) {
-    if (program_.AppBarDocked) {
+    if (program_.Strip.AppBarDocked) {
       DrawBorders();
     } else {
       EndSlide();
@@ -201,7 +202,7 @@ void frmToolbar::AbandonPull() {
 // let it.
 void frmToolbar::EndLostPull() {
   if (!FrameHeld) return;
-  const bool slid = FrameMoved && !program_.AppBarDocked;
+  const bool slid = FrameMoved && !program_.Strip.AppBarDocked;
   AbandonPull();
   if (slid) EndSlide();
 }
@@ -221,7 +222,7 @@ void frmToolbar::WatchPull() {
 }
 
 void frmToolbar::LetFrameGo() {
-  if (FrameHeld) program_.RestoreBusy = false;
+  if (FrameHeld) program_.Guards.RestoreBusy = false;
   FrameHeld = false;
 }
 
@@ -247,8 +248,8 @@ void frmToolbar::EndSlide() {
                          .ScreenWidth = program_.Windows.Screen().Width,
                          .TwipsX = TwipsX,
                          .CaptionButtonWidth = program_.Services.System.CaptionButtonWidth(),
-                         .MayPassRight = program_.OptionFlags.Is(13),
-                         .MayPassLeft = program_.OptionFlags.Is(27)};
+                         .MayPassRight = program_.OptionFlags.Is(Option::MayPassRight),
+                         .MayPassLeft = program_.OptionFlags.Is(Option::MayPassLeft)};
   SavedTop = -static_cast<float>(TopCut) * TwipsY;
   SavedLeft = SlideEnd(scene);
   Move(SavedLeft, SavedTop, Width(), Height());

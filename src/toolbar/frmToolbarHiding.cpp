@@ -41,12 +41,13 @@ bool frmToolbar::MayHide(PixelPoint pointer, WindowId under) const {
   if (overOurs || ImageLoaded() || MenuUp() || !picToolbar.Visible() || IsOursActive()) {
     return false;
   }
-  return !program_.AppBarDocked || PointerIsOff(AtEdge(), pointer, WindowPixels(), ScreenPixels());
+  return !program_.Strip.AppBarDocked ||
+         PointerIsOff(AtEdge(), pointer, WindowPixels(), ScreenPixels());
 }
 
 bool frmToolbar::MustReveal(PixelPoint pointer, WindowId under) const {
   if (picToolbar.Visible() && Visible()) return false;
-  if (!program_.AppBarDocked) return under == hWnd() && !picToolbar.Visible();
+  if (!program_.Strip.AppBarDocked) return under == hWnd() && !picToolbar.Visible();
   return PointerReveals(AtEdge(), pointer, WindowPixels(), ScreenPixels());
 }
 
@@ -60,21 +61,23 @@ PixelSize frmToolbar::ScreenPixels() const {
 }
 
 void frmToolbar::RevealFromLine() {
-  if (program_.Ports.Docking == nullptr || program_.HideBusy) return;
-  const forms::FlagScope busy(program_.HideBusy);
+  if (program_.Ports.Docking == nullptr || program_.Guards.HideBusy) return;
+  const forms::FlagScope busy(program_.Guards.HideBusy);
   program_.Ports.Docking->RevealToolbar();
   EnsureToolbarVisible();
 }
 
 void frmToolbar::EnsureToolbarVisible() {
-  if (!program_.FullScreenApp || program_.OptionFlags.Is(4)) return;
+  if (!program_.Strip.FullScreenApp || program_.OptionFlags.Is(Option::AboveFullScreen)) return;
   program_.DoEvents();
   if (!IsLoaded()) return;
   SetWindowPos(forms::InsertAfter::Topmost, forms::swp::KeepActivation);
 }
 
 void frmToolbar::SinkAgain() {
-  if (!program_.FullScreenApp || program_.NotOnTop || program_.OptionFlags.Is(4)) return;
+  if (!program_.Strip.FullScreenApp || program_.Strip.NotOnTop ||
+      program_.OptionFlags.Is(Option::AboveFullScreen))
+    return;
   SetWindowPos(forms::InsertAfter::Bottom, forms::swp::KeepActivation);
 }
 

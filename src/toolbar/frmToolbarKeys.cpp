@@ -15,7 +15,7 @@ constexpr char32_t kBlank = 32;
 void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
   if (program_.Entry.ItemDragging) return;
   // A menu that is being built is not up yet, and Enter is meant for it: it must not close it.
-  if (program_.MenuBuilding && keyCode != forms::key::Escape) return;
+  if (program_.Guards.MenuBuilding && keyCode != forms::key::Escape) return;
   switch (keyCode) {
     case forms::key::Escape:
       ResetMenu();
@@ -25,7 +25,7 @@ void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
       return;
     case forms::key::Left:
     case forms::key::Right:
-      if (KeyboardMoves()) SelectButton(NextButton(program_.CurButton, ButtonCount, keyCode));
+      if (KeyboardMoves()) SelectButton(NextButton(program_.Menu.CurButton, ButtonCount, keyCode));
       return;
     case forms::key::Enter:
       if (EnterIsOfMenu()) {
@@ -40,32 +40,32 @@ void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
 }
 
 bool frmToolbar::KeyboardMoves() const {
-  return program_.CurButton > 0 && program_.CurButton <= ButtonCount &&
+  return program_.Menu.CurButton > 0 && program_.Menu.CurButton <= ButtonCount &&
          program_.Services.Desktop.ActiveWindow() == hWnd();
 }
 
 // The system may leave the focus with the strip when a menu opens, or when a key selects an item
 // there. The item that the user sees selected is what Enter means, until arrow keys walk the strip.
 bool frmToolbar::EnterIsOfMenu() const {
-  return MenuUp() && program_.SelectedItem != 0 && !program_.KeyboardOnToolbar;
+  return MenuUp() && program_.Menu.SelectedItem != 0 && !program_.Menu.KeyboardOnToolbar;
 }
 
 // A user without a mouse begins at the first button, as in a menu bar.
 void frmToolbar::StartKeyboard() {
   GetCurButton();
-  if (program_.CurButton == 0 && ButtonCount > 0) SelectButton(1);
+  if (program_.Menu.CurButton == 0 && ButtonCount > 0) SelectButton(1);
 }
 
 // The pointer goes with the keyboard, so that both always mean the same button.
 void frmToolbar::SelectButton(int button) {
-  program_.KeyboardOnToolbar = true;
-  program_.CurButton = button;
+  program_.Menu.KeyboardOnToolbar = true;
+  program_.Menu.CurButton = button;
   program_.Services.Pointer.SetPointerPosition(
       ButtonMiddle(ToolbarButtons[static_cast<std::size_t>(button)], PlaceOnScreen()));
 }
 
 void frmToolbar::EnterCurButton() {
-  if (program_.MenuOpen) {
+  if (program_.Menu.MenuOpen) {
     ResetMenu();
   } else {
     // The button that the keys chose, wherever the system sees the pointer at this moment.
@@ -78,10 +78,10 @@ void frmToolbar::Form_KeyPress(char32_t character) {
 }
 
 void frmToolbar::ActivateKeyDown(int keyCode) {
-  if (program_.ToolbarVertical || program_.Entry.ItemDragging) return;
+  if (program_.Strip.ToolbarVertical || program_.Entry.ItemDragging) return;
   SetFocus();
   const int owner = MenuOwner();
-  if (owner > 0) program_.CurButton = owner;
+  if (owner > 0) program_.Menu.CurButton = owner;
   Form_KeyDown(keyCode, {});
 }
 

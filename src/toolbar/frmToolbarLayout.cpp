@@ -18,20 +18,20 @@ void Place(forms::Control& control, const TwipRect& bounds) {
 }  // namespace
 
 Placement frmToolbar::Where() const {
-  return program_.AppBarDocked || program_.AppBarRequested ? Placement::AtEdge
-                                                           : Placement::TopHugging;
+  return program_.Strip.AppBarDocked || program_.Strip.AppBarRequested ? Placement::AtEdge
+                                                                       : Placement::TopHugging;
 }
 
-Edge frmToolbar::AtEdge() const { return EdgeFromText(program_.ToolbarEdge).value_or(Edge::Top); }
+Edge frmToolbar::AtEdge() const { return program_.Strip.ToolbarEdge; }
 
-StripScale frmToolbar::Scale() const { return {program_.ToolbarVertical, TwipsX, TwipsY}; }
+StripScale frmToolbar::Scale() const { return {program_.Strip.ToolbarVertical, TwipsX, TwipsY}; }
 
 StripPlace frmToolbar::PlaceOnScreen() const { return {Left(), Top(), Scale()}; }
 
 void frmToolbar::MakeTemplates() {
   const TemplateSize size =
-      TemplateButton({.LargeIcons = program_.OptionFlags.Is(26),
-                      .IconSize = program_.IconSize,
+      TemplateButton({.LargeIcons = program_.OptionFlags.Is(Option::LargeIcons),
+                      .IconSize = program_.Icons.IconSize,
                       .TwipsX = TwipsX,
                       .TwipsY = TwipsY,
                       .CaptionHeight = program_.Services.System.CaptionHeight()});
@@ -104,13 +104,14 @@ void frmToolbar::SetToolbarPosition() {
 
 float frmToolbar::LastPosition() const {
   if (positionUnsaved_) return SavedLeft;
-  return LoadToolbarPosition(program_.Services.Files, program_.AppPath);
+  return LoadToolbarPosition(program_.Services.Files, program_.Paths.AppPath);
 }
 
 void frmToolbar::UpdateToolbarPosition() {
   if (!positioned_ || Where() != Placement::TopHugging) return;
   // On a disk that refuses it the strip keeps its place for this run only.
-  positionUnsaved_ = !SaveToolbarPosition(program_.Services.Files, program_.AppPath, SavedLeft);
+  positionUnsaved_ =
+      !SaveToolbarPosition(program_.Services.Files, program_.Paths.AppPath, SavedLeft);
 }
 
 void frmToolbar::ShowBorder(forms::Line& line, const BorderLine& border) {
@@ -126,7 +127,7 @@ void frmToolbar::DrawBorders() {
     LinTB1[1].SetBorderColor(forms::color::Highlight3D);
     LinTB1[1].SetBorderWidth(1);
   }
-  if (program_.AppBarDocked) program_.AppBarRequested = true;
+  if (program_.Strip.AppBarDocked) program_.Strip.AppBarRequested = true;
   const StripBorders borders = DrawBordersRule({.Where = Where(),
                                                 .At = AtEdge(),
                                                 .TwipsX = TwipsX,
@@ -163,20 +164,20 @@ void frmToolbar::SetMenuPosition() {
   QMenuPort* const menu = program_.Ports.QMenu;
   if (menu == nullptr) return;
   // The menu's own button, since the pointer may have gone on while the menu was built.
-  const int owner = MenuOwner() > 0 ? MenuOwner() : program_.CurButton;
+  const int owner = MenuOwner() > 0 ? MenuOwner() : program_.Menu.CurButton;
   if (owner < 0 || owner > ButtonCount) return;
   const ButtonRect& button = ToolbarButtons[static_cast<std::size_t>(owner)];
-  const MenuSpot spot =
-      MenuPosition({.Where = program_.AppBarDocked ? Placement::AtEdge : Placement::TopHugging,
-                    .At = AtEdge(),
-                    .Window = Bounds(),
-                    .ButtonLeft = button.Left,
-                    .ButtonTop = button.Top,
-                    .MenuWidth = menu->MenuWidth(),
-                    .MenuHeight = menu->MenuHeight(),
-                    .ScreenHeight = program_.Windows.Screen().Height,
-                    .TwipsX = TwipsX,
-                    .TwipsY = TwipsY});
+  const MenuSpot spot = MenuPosition(
+      {.Where = program_.Strip.AppBarDocked ? Placement::AtEdge : Placement::TopHugging,
+       .At = AtEdge(),
+       .Window = Bounds(),
+       .ButtonLeft = button.Left,
+       .ButtonTop = button.Top,
+       .MenuWidth = menu->MenuWidth(),
+       .MenuHeight = menu->MenuHeight(),
+       .ScreenHeight = program_.Windows.Screen().Height,
+       .TwipsX = TwipsX,
+       .TwipsY = TwipsY});
   menuLeft_ = spot.Left;
   menuTop_ = spot.Top;
   menu->MoveMenu(spot.Left, spot.Top);

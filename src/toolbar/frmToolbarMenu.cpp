@@ -45,7 +45,7 @@ void frmToolbar::HideMenuWindow() {
 }
 
 void frmToolbar::ShowMenu(int button) {
-  if (program_.StartingUp || !OpensMenu(button)) return;
+  if (program_.Guards.StartingUp || !OpensMenu(button)) return;
   QMenuPort& menu = *program_.Ports.QMenu;
   if (menu.OwnerTag().empty()) menu.SetOwnerTag("0");
   if (MenuUp() && menu.OwnerTag() == std::to_string(button)) {
@@ -77,12 +77,12 @@ void frmToolbar::ShowMenuOf(int button) {
   menu.SetOwnerTag(std::to_string(button));
   menu.SetPoll(false);
   SetMenuPosition();
-  program_.MenuOpen = true;
+  program_.Menu.MenuOpen = true;
   const std::string tag = lastTag_;
   menu.ShowMenu(tag, file);
   if (!IsLoaded()) return;
   // Events ran while the menu was built, and something may have closed it again.
-  if (!program_.MenuOpen || !MenuUp()) {
+  if (!program_.Menu.MenuOpen || !MenuUp()) {
     ResetMenu();
     return;
   }
@@ -96,15 +96,15 @@ std::string frmToolbar::MainMenuFile() {
   if (!program_.Ports.QMenu->HasBuiltMenu("Q1")) {
     // Without a fresh file the menu shows what the old one holds.
     static_cast<void>(
-        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.AppPath));
+        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath));
   }
-  return program_.AppPath + std::string(kMainMenuFileName);
+  return program_.Paths.AppPath + std::string(kMainMenuFileName);
 }
 
 void frmToolbar::OpenMenu(std::string_view tag) {
   const int button = ButtonOfTag(tag.empty() ? std::string_view(lastTag_) : tag);
   if (!OpensMenu(button)) return;
-  program_.CurButton = button;
+  program_.Menu.CurButton = button;
   SetButtonBorders();
   ShowMenuOf(button);
 }
@@ -150,15 +150,15 @@ void frmToolbar::RemoveQMenu(std::string_view tag) {
 }
 
 void frmToolbar::ResetMenu() {
-  if (!program_.MenuOpen && !program_.Entry.ItemDragging && !MenuUp()) return;
+  if (!program_.Menu.MenuOpen && !program_.Entry.ItemDragging && !MenuUp()) return;
   Timer2.SetEnabled(false);
-  program_.MenuOpen = false;
-  program_.CurButton = 0;
-  program_.KeyboardOnToolbar = false;
+  program_.Menu.MenuOpen = false;
+  program_.Menu.CurButton = 0;
+  program_.Menu.KeyboardOnToolbar = false;
   MenuOpening = false;
   LastOpenFlag = false;
   LastOpenButton = 0;
-  program_.DragOverButton = false;
+  program_.Drag.DragOverButton = false;
   WasHovering = false;
   TipDueAt = 0;
   TipHideAt = 0;

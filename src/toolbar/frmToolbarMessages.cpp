@@ -33,9 +33,10 @@ std::optional<std::intptr_t> frmToolbar::WindowProc(std::uint32_t message, std::
 std::optional<std::intptr_t> frmToolbar::ToolbarWndProc(std::uint32_t message,
                                                         std::uintptr_t wParam,
                                                         std::intptr_t lParam) {
-  if (!program_.ToolbarReady || (program_.AppBarBusy && program_.ToolbarMinimized)) {
+  if (!program_.Guards.ToolbarReady ||
+      (program_.Guards.AppBarBusy && program_.Strip.ToolbarMinimized)) {
     const auto answer = NoteForLater(message, wParam, lParam);
-    if (NewsWait() && !program_.ToolbarMinimized) Timer1.SetEnabled(true);
+    if (NewsWait() && !program_.Strip.ToolbarMinimized) Timer1.SetEnabled(true);
     return answer;
   }
   if (message == forms::message::AppBarCallback) return ShellNotify(wParam, lParam);
@@ -52,10 +53,11 @@ std::optional<std::intptr_t> frmToolbar::ToolbarWndProc(std::uint32_t message,
       FollowDisplay();
       break;
     case forms::message::TimeChange:
-      if (program_.AppBarDocked && program_.OptionFlags.Is(21)) UpdateLabelDate();
+      if (program_.Strip.AppBarDocked && program_.OptionFlags.Is(Option::ShowDate))
+        UpdateLabelDate();
       break;
     case forms::message::Move:
-      if (!program_.AppBarDocked) CheckToolbarMove();
+      if (!program_.Strip.AppBarDocked) CheckToolbarMove();
       break;
     default:
       break;
@@ -77,13 +79,13 @@ std::optional<std::intptr_t> frmToolbar::NoteForLater(std::uint32_t message, std
                                                       std::intptr_t lParam) {
   if (IsNewTaskBar(message)) newTaskBar_ = true;
   // One in the task bar looks at the screen when it comes back.
-  if (message == forms::message::DisplayChange) barsWait_ = !program_.ToolbarMinimized;
+  if (message == forms::message::DisplayChange) barsWait_ = !program_.Strip.ToolbarMinimized;
   if (message != forms::message::AppBarCallback) return std::nullopt;
   // What the shell says about the strip's own message is no news, and a strip that hides asks for
   // its place each time.
-  if (wParam == kPositionChanged && !TellingShell && !program_.AutoHide) barsWait_ = true;
+  if (wParam == kPositionChanged && !TellingShell && !program_.Strip.AutoHide) barsWait_ = true;
   if (wParam != kFullScreenProgram) return std::nullopt;
-  program_.FullScreenApp = lParam != 0;
+  program_.Strip.FullScreenApp = lParam != 0;
   levelWaits_ = true;
   return 0;
 }
@@ -96,7 +98,7 @@ void frmToolbar::CatchUp() {
     InitNewButtons();
   }
   if (!IsLoaded()) return;
-  if (std::exchange(levelWaits_, false) && !program_.NotOnTop) TakeLevel();
+  if (std::exchange(levelWaits_, false) && !program_.Strip.NotOnTop) TakeLevel();
   if (std::exchange(newTaskBar_, false)) {
     // It knows nothing of the bars of the one before.
     barsWait_ = true;
@@ -104,22 +106,22 @@ void frmToolbar::CatchUp() {
   }
   if (!std::exchange(barsWait_, false)) return;
   FollowDisplay();
-  if (IsLoaded() && program_.AppBarDocked) FollowBars();
+  if (IsLoaded() && program_.Strip.AppBarDocked) FollowBars();
 }
 
 // A docked strip answers the shell itself; without an edge the message goes on.
 std::optional<std::intptr_t> frmToolbar::ShellNotify(std::uintptr_t what, std::intptr_t lParam) {
   if (what == kFullScreenProgram) FullScreenNotify(lParam);
-  if (!program_.AppBarDocked) return std::nullopt;
+  if (!program_.Strip.AppBarDocked) return std::nullopt;
   if (what == kPositionChanged) FollowBars();
   return 0;
 }
 
 void frmToolbar::FollowBars() {
-  if (program_.Ports.Docking == nullptr || program_.PosChangeRunning) return;
+  if (program_.Ports.Docking == nullptr || program_.Guards.PosChangeRunning) return;
   barsWait_ = false;
-  const forms::FlagScope running(program_.PosChangeRunning);
-  program_.Ports.Docking->SetAppBar("", false);
+  const forms::FlagScope running(program_.Guards.PosChangeRunning);
+  program_.Ports.Docking->SetAppBar(std::nullopt, false);
 }
 
 void frmToolbar::FollowBarsLater() {
@@ -144,7 +146,7 @@ void frmToolbar::FollowDisplay() {
   ResetMenu();
   if (!IsLoaded()) return;
   // Not every shell tells its bars of another screen size.
-  if (program_.AppBarDocked) {
+  if (program_.Strip.AppBarDocked) {
     FollowBars();
   } else if (Right() > program_.Windows.Screen().Width) {
     SetToolbarPosition();
@@ -160,17 +162,17 @@ void frmToolbar::CacheDisplayMetrics() {
 }
 
 void frmToolbar::FullScreenNotify(std::intptr_t entering) {
-  if (program_.NotOnTop) return;
+  if (program_.Strip.NotOnTop) return;
   const bool staysAbove = program_.OptionFlags.Is(kStaysAbove);
-  if (staysAbove && entering != 0 && program_.FullScreenApp) return;
-  program_.FullScreenApp = entering != 0;
+  if (staysAbove && entering != 0 && program_.Strip.FullScreenApp) return;
+  program_.Strip.FullScreenApp = entering != 0;
   TakeLevel();
 }
 
 void frmToolbar::TakeLevel() {
   if (program_.OptionFlags.Is(kStaysAbove)) {
     SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
-  } else if (program_.FullScreenApp) {
+  } else if (program_.Strip.FullScreenApp) {
     SetWindowPos(forms::InsertAfter::Bottom, forms::swp::KeepActivation);
   } else {
     SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
@@ -185,9 +187,9 @@ void frmToolbar::TakeLevel() {
 
 void frmToolbar::OnMoved(const PixelRect& bounds) {
   Form::OnMoved(bounds);
-  if (!subclassed_ || !program_.ToolbarReady) return;
+  if (!subclassed_ || !program_.Guards.ToolbarReady) return;
   // Whoever moved the strip: it belongs where its edge is, or at its height on the screen.
-  if (program_.AppBarDocked) {
+  if (program_.Strip.AppBarDocked) {
     KeepPinned();
   } else {
     CheckToolbarMove();
@@ -195,23 +197,23 @@ void frmToolbar::OnMoved(const PixelRect& bounds) {
 }
 
 void frmToolbar::KeepPinned() {
-  if (program_.AutoHide || program_.PosChangeRunning) return;
-  Move(program_.PinnedLeft, program_.PinnedTop, Width(), Height());
+  if (program_.Strip.AutoHide || program_.Guards.PosChangeRunning) return;
+  Move(program_.Strip.PinnedLeft, program_.Strip.PinnedTop, Width(), Height());
 }
 
 void frmToolbar::CheckToolbarMove() {
-  if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
-      program_.AppBarDocked || program_.RestoreBusy) {
+  if (program_.Guards.StartingUp || program_.Guards.AppBarBusy || program_.Entry.ItemDragging ||
+      program_.Strip.AppBarDocked || program_.Guards.RestoreBusy) {
     return;
   }
-  if (program_.AutoHide && !picToolbar.Visible()) {
+  if (program_.Strip.AutoHide && !picToolbar.Visible()) {
     SetHeight(TwipsY);
     SetTop(0);
   } else {
     SetTop(SavedTop);
   }
   MinimizePort* const companion = program_.Ports.Minimize;
-  if (!program_.ToolbarMinimized && companion != nullptr) companion->HideCompanion();
+  if (!program_.Strip.ToolbarMinimized && companion != nullptr) companion->HideCompanion();
 }
 
 void frmToolbar::ShowToolbar() {
@@ -242,8 +244,8 @@ void frmToolbar::BringToForeground() {
 
 void frmToolbar::Form_Deactivate() {
   // A user who goes on elsewhere has done with the menus, also with one that is only hidden.
-  const bool hidden = program_.MenuOpen && !MenuUp();
-  if (hidden && !program_.MenuBuilding && !MenuRefreshing) ResetMenu();
+  const bool hidden = program_.Menu.MenuOpen && !MenuUp();
+  if (hidden && !program_.Guards.MenuBuilding && !MenuRefreshing) ResetMenu();
 }
 
 void frmToolbar::Form_Activate() {
@@ -265,24 +267,25 @@ void frmToolbar::Timer1_Timer() {
     if (free && !turned) SetFocus();
   }
   WatchPull();
-  if (program_.StartingUp || program_.AppBarBusy || program_.Entry.ItemDragging ||
-      program_.PosChangeRunning || program_.ButtonDragging || program_.RestoreBusy) {
+  if (program_.Guards.StartingUp || program_.Guards.AppBarBusy || program_.Entry.ItemDragging ||
+      program_.Guards.PosChangeRunning || program_.Drag.ButtonDragging ||
+      program_.Guards.RestoreBusy) {
     return;
   }
-  if (NewsWait() && !program_.ToolbarMinimized) {
-    if (program_.ToolbarReady) CatchUp();
+  if (NewsWait() && !program_.Strip.ToolbarMinimized) {
+    if (program_.Guards.ToolbarReady) CatchUp();
     return;
   }
   barsWait_ = false;
-  if (program_.ToolbarMinimized) {
+  if (program_.Strip.ToolbarMinimized) {
     Timer2.SetEnabled(false);
     if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
     Timer1.SetEnabled(false);
-  } else if (!program_.AutoHide) {
+  } else if (!program_.Strip.AutoHide) {
     // Who holds the frame may let it go elsewhere.
     Timer1.SetEnabled(FrameHeld);
-  } else if (program_.Ports.Docking != nullptr && !program_.HideBusy) {
-    const forms::FlagScope busy(program_.HideBusy);
+  } else if (program_.Ports.Docking != nullptr && !program_.Guards.HideBusy) {
+    const forms::FlagScope busy(program_.Guards.HideBusy);
     HideAndReveal();
   }
 }

@@ -12,15 +12,15 @@ namespace corvelle {
 void frmToolbar::AddNewButton() {
   if (!IsLoaded()) return;
   const auto path =
-      CreateButtonFile(program_.Services.Files, program_.Services.Ansi, program_.MenusPath);
+      CreateButtonFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!path) {
     program_.Say(hWnd(),
-                 NumberedFileError(program_.Services.Files, program_.MenusPath, path.Error()),
+                 NumberedFileError(program_.Services.Files, program_.Paths.MenusPath, path.Error()),
                  forms::msgbox::IconInformation | forms::msgbox::OnTop);
     return;
   }
   program_.TellMenusEdited();
-  program_.ToolbarReady = false;
+  program_.Guards.ToolbarReady = false;
   const bool floats = Where() == Placement::TopHugging;
   // The button's width goes to the left, where the screen has room for it.
   if (floats && Left() > 0) SetLeft(Left() - ToolbarButtons[0].Width - 2 * TwipsX);
@@ -36,7 +36,7 @@ void frmToolbar::AddNewButton() {
   DrawBorders();
   InvalidateAll();
   Refresh();
-  program_.ToolbarReady = true;
+  program_.Guards.ToolbarReady = true;
 }
 
 }  // namespace corvelle

@@ -43,11 +43,11 @@ void frmToolbar::WireDrags() {
   picToolbar.OLEDragOver = to(&frmToolbar::picToolbar_OLEDragOver);
   picToolbar.OLEDragDrop = to(&frmToolbar::picToolbar_OLEDragDrop);
   // The timer sees whether the drag has gone on into the menu or is over.
-  picToolbar.OLEDragLeave = [this] { program_.DragOverButton = false; };
+  picToolbar.OLEDragLeave = [this] { program_.Drag.DragOverButton = false; };
   picSingleButton.OLEDragOver = to(&frmToolbar::picSingleButton_OLEDragOver);
   picSingleButton.OLEDragDrop = to(&frmToolbar::picSingleButton_OLEDragDrop);
   // No timer watches the row, and the next address may come from another window.
-  picSingleButton.OLEDragLeave = [this] { program_.DragIsUrl = false; };
+  picSingleButton.OLEDragLeave = [this] { program_.Drag.DragIsUrl = false; };
   picToolbar.SetTakesDrops(true);
   picSingleButton.SetTakesDrops(true);
   tmrDragDrop.Tick = [this] { tmrDragDrop_Timer(); };
@@ -55,7 +55,8 @@ void frmToolbar::WireDrags() {
 }
 
 bool frmToolbar::TakesDrag(const DragData& data) const {
-  return IsOfUse(data) && program_.ToolbarReady && program_.TakesDrops() && !MenuRefreshing;
+  return IsOfUse(data) && program_.Guards.ToolbarReady && program_.Guards.TakesDrops() &&
+         !MenuRefreshing;
 }
 
 bool frmToolbar::IsItemButton(int button) const noexcept {
@@ -83,36 +84,36 @@ void frmToolbar::picToolbar_OLEDragOver(DragData& data, DropEffect& effect, Mous
   NoteDrag(data, down);
   effect = effect & EffectOfDrag(down);
   GetCurButton();
-  if (program_.CurButton == 1) {
+  if (program_.Menu.CurButton == 1) {
     effect = DropEffect::None;
     ResetMenu();
     // The drag is still here.
-    program_.DragOverButton = true;
+    program_.Drag.DragOverButton = true;
     return;
   }
   // A drop between the buttons would go nowhere.
-  if (program_.CurButton == 0) effect = DropEffect::None;
-  program_.MenuOpen = true;
+  if (program_.Menu.CurButton == 0) effect = DropEffect::None;
+  program_.Menu.MenuOpen = true;
   picToolbar_MouseMove(down, shift, x, y);
 }
 
 // The first time: who had the foreground, and where an address comes from.
 void frmToolbar::EnterDrag() {
-  program_.DragOverButton = true;
-  if (std::exchange(program_.DragEntered, true)) return;
+  program_.Drag.DragOverButton = true;
+  if (std::exchange(program_.Drag.DragEntered, true)) return;
   program_.SetHint("");
   const DesktopWindows& desktop = program_.Services.Desktop;
   SavedForeground = desktop.ForegroundWindow();
-  if (!program_.NotOnTop && desktop.ActiveWindow() != hWnd()) {
+  if (!program_.Strip.NotOnTop && desktop.ActiveWindow() != hWnd()) {
     picToolbar.ZOrder(forms::ZPlace::Front);
   }
 }
 
 void frmToolbar::NoteDrag(const DragData& data, MouseButton down) {
-  program_.DragButtons = down;
+  program_.Drag.DragButtons = down;
   if (program_.Entry.ItemDragging) AbandonCarry(program_);
-  if (program_.DragIsUrl || !data.Text || !DroppedAddress(*data.Text)) return;
-  program_.DragIsUrl = true;
+  if (program_.Drag.DragIsUrl || !data.Text || !DroppedAddress(*data.Text)) return;
+  program_.Drag.DragIsUrl = true;
   if (program_.Ports.Browser != nullptr) {
     program_.Ports.Browser->NoteDropSource(program_.Services.Desktop.ForegroundWindow());
   }
@@ -121,7 +122,7 @@ void frmToolbar::NoteDrag(const DragData& data, MouseButton down) {
 // ---- the end of a drag ----
 
 void frmToolbar::tmrDragDrop_Timer() {
-  if (!program_.DragEntered) {
+  if (!program_.Drag.DragEntered) {
     StopDrag();
     return;
   }
@@ -131,26 +132,26 @@ void frmToolbar::tmrDragDrop_Timer() {
   const bool over = under == picToolbar.hWnd() || IsOverMenu(under);
   // On the way from the strip into the menu lies the strip's own frame.
   if (held && under == hWnd()) return;
-  if (program_.DragOverButton && held) {
+  if (program_.Drag.DragOverButton && held) {
     quietTicks_ = 0;
   } else {
     ++quietTicks_;
   }
-  const int most = program_.DragOverButton ? kMostQuietTicks : kMostLostTicks;
+  const int most = program_.Drag.DragOverButton ? kMostQuietTicks : kMostLostTicks;
   if (over && quietTicks_ < most) return;
   EndDragOver();
 }
 
 void frmToolbar::StopDrag() {
   tmrDragDrop.SetEnabled(false);
-  program_.DragOverButton = false;
-  program_.DragEntered = false;
-  program_.DragIsUrl = false;
+  program_.Drag.DragOverButton = false;
+  program_.Drag.DragEntered = false;
+  program_.Drag.DragIsUrl = false;
 }
 
 void frmToolbar::EndDragOver() {
   StopDrag();
-  program_.MenuOpen = true;
+  program_.Menu.MenuOpen = true;
   ResetMenu();
   if (IsLoaded()) GiveForegroundBack();
 }
@@ -174,17 +175,18 @@ void frmToolbar::GiveForegroundBack() {
 void frmToolbar::picToolbar_OLEDragDrop(DragData& data, DropEffect& effect, MouseButton /*down*/,
                                         ShiftState /*shift*/, float /*x*/, float /*y*/) {
   const bool takes = TakesDrag(data);
-  effect = takes ? effect & EffectOfDrag(program_.DragButtons) : DropEffect::None;
+  effect = takes ? effect & EffectOfDrag(program_.Drag.DragButtons) : DropEffect::None;
   GetCurButton();
   // Events run from here on: the pointer may go on, and the buttons may be other ones.
-  const std::string path = IsItemButton(program_.CurButton)
-                               ? ToolbarButtons[static_cast<std::size_t>(program_.CurButton)].Path
-                               : std::string();
+  const std::string path =
+      IsItemButton(program_.Menu.CurButton)
+          ? ToolbarButtons[static_cast<std::size_t>(program_.Menu.CurButton)].Path
+          : std::string();
   StopDrag();
   Timer2.SetEnabled(false);
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
   program_.SetHint("");
-  if (program_.DragButtons == MouseButton::Right) ResetMenu();
+  if (program_.Drag.DragButtons == MouseButton::Right) ResetMenu();
   if (!IsLoaded()) return;
   CapturePort* const capture = program_.Ports.Capture;
   if (capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
@@ -205,7 +207,7 @@ void frmToolbar::DropFiles(std::vector<std::string> names, int button) {
   DroppedEntries dropped;
   {
     const forms::FlagScope dragging(program_.Entry.ItemDragging);
-    const forms::FlagScope busy(program_.ItemActionBusy);
+    const forms::FlagScope busy(program_.Guards.ItemActionBusy);
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
     dropped = DroppedRecords(files, ansi, std::move(names), [this](std::string_view name) {
@@ -267,7 +269,7 @@ void frmToolbar::picSingleButton_OLEDragOver(DragData& data, DropEffect& effect,
   const bool wanted = data.Files ? program_.Ports.SingleButtons != nullptr
                                  : data.Text && program_.Ports.WebLink != nullptr;
   effect = wanted && TakesDrag(data) ? effect & EffectOfDrag(down) : DropEffect::None;
-  if (!IsOfUse(data) || program_.OpenQuestions > 0) return;
+  if (!IsOfUse(data) || program_.Guards.OpenQuestions > 0) return;
   program_.SetHint("");
   NoteDrag(data, down);
   ResetMenu();
@@ -277,12 +279,12 @@ void frmToolbar::picSingleButton_OLEDragDrop(DragData& data, DropEffect& effect,
                                              MouseButton /*down*/, ShiftState /*shift*/,
                                              float /*x*/, float /*y*/) {
   const bool takes = TakesDrag(data);
-  effect = takes ? effect & EffectOfDrag(program_.DragButtons) : DropEffect::None;
+  effect = takes ? effect & EffectOfDrag(program_.Drag.DragButtons) : DropEffect::None;
   StopDrag();
   SingleButtonsPort* const singles = program_.Ports.SingleButtons;
   if (takes && data.Files && singles != nullptr) {
     // First of all it looks where the drop is; then it closes the hint and the menu.
-    singles->DropFilesOnSingles(std::exchange(*data.Files, {}), program_.DragButtons);
+    singles->DropFilesOnSingles(std::exchange(*data.Files, {}), program_.Drag.DragButtons);
     return;
   }
   // Events run from here on: the pointer may go on, and the row may be another one.

@@ -25,8 +25,8 @@ constexpr int kMenuBorder = 3;  // pixels around the inside of the menu window
 void frmToolbar::GetCurButton() { FindCurButton(program_.Services.Pointer.PointerPosition()); }
 
 void frmToolbar::FindCurButton(PixelPoint pointer) {
-  program_.CurButton =
-      ButtonAt(ToolbarButtons, PlaceOnScreen(), pointer, program_.CurButton, program_.MenuOpen);
+  program_.Menu.CurButton = ButtonAt(ToolbarButtons, PlaceOnScreen(), pointer,
+                                     program_.Menu.CurButton, program_.Menu.MenuOpen);
   WatchCarry();
 }
 
@@ -68,12 +68,12 @@ void frmToolbar::ShowRestingLook() {
 
 void frmToolbar::SetButtonBorders() {
   Timer2.SetEnabled(false);
-  const int current = program_.CurButton;
+  const int current = program_.Menu.CurButton;
   if (current < 1 || current > ButtonCount) return;
   const std::vector<ButtonLook> looks = ButtonLooks({.Buttons = ToolbarButtons,
                                                      .CurButton = current,
-                                                     .Vertical = program_.ToolbarVertical,
-                                                     .Docked = program_.AppBarDocked,
+                                                     .Vertical = program_.Strip.ToolbarVertical,
+                                                     .Docked = program_.Strip.AppBarDocked,
                                                      .TwipsX = TwipsX,
                                                      .TwipsY = TwipsY});
   for (int i = 1; i <= ButtonCount; ++i) ShowLook(i, looks[static_cast<std::size_t>(i)]);
@@ -102,40 +102,41 @@ void frmToolbar::picToolbar_MouseDown(forms::MouseButton button, forms::ShiftSta
 // Opens the menu of the current button, or closes it when it is up.
 void frmToolbar::PressCurButton() {
   // A press that arrives while a menu is being built is not the time to build another.
-  if (program_.MenuBuilding || program_.StartingUp || program_.CurButton == 0) return;
-  if (!OpensMenu(program_.CurButton)) {
+  if (program_.Guards.MenuBuilding || program_.Guards.StartingUp || program_.Menu.CurButton == 0)
+    return;
+  if (!OpensMenu(program_.Menu.CurButton)) {
     ResetMenu();
     return;
   }
   SetButtonBorders();
   MenuOpening = true;
   pressedAt_ = program_.Windows.Now();
-  ShowMenu(program_.CurButton);
+  ShowMenu(program_.Menu.CurButton);
 }
 
 void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/, float x,
                                       float y) {
-  if (program_.PosChangeRunning || program_.StartingUp) return;
+  if (program_.Guards.PosChangeRunning || program_.Guards.StartingUp) return;
   const bool anyDown = down != forms::MouseButton::None;
   if (!anyDown && !WasHovering) {
     StartHovering();
     if (!IsLoaded()) return;
   }
-  const int before = program_.CurButton;
+  const int before = program_.Menu.CurButton;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   FindCurButton(pointer);
-  const int current = program_.CurButton;
+  const int current = program_.Menu.CurButton;
   if (current != before) {
     if (anyDown) {
       LastOpenFlag = false;
       LastOpenButton = 0;
-    } else if (!program_.MenuOpen && !program_.Entry.ItemDragging) {
+    } else if (!program_.Menu.MenuOpen && !program_.Entry.ItemDragging) {
       TipDueAt = 0;
       TipHideAt = 0;
       program_.SetHint(HintOf(current));
     }
   }
-  if ((program_.MenuOpen || program_.Entry.ItemDragging) && LooksAtRest(current) &&
+  if ((program_.Menu.MenuOpen || program_.Entry.ItemDragging) && LooksAtRest(current) &&
       (IsOursActive() || program_.DragHolds())) {
     HoverButton(current);
   } else if (forms::Has(down, forms::MouseButton::Left) &&
@@ -147,7 +148,7 @@ void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState
 
 void frmToolbar::StartHovering() {
   program_.SetHint("");
-  program_.RestoreBusy = false;
+  program_.Guards.RestoreBusy = false;
   FrameMoved = false;
   WasHovering = true;
 }
@@ -178,16 +179,16 @@ void frmToolbar::KeepHintTimes(WindowId under) {
   }
   if (TipDueAt == 0 || now <= TipDueAt) return;
   TipDueAt = 0;
-  if (under != picToolbar.hWnd() || program_.CurButton == 0) return;
+  if (under != picToolbar.hWnd() || program_.Menu.CurButton == 0) return;
   TipHideAt = now + kHintTime;
-  program_.SetHint(HintOf(program_.CurButton));
+  program_.SetHint(HintOf(program_.Menu.CurButton));
 }
 
 // Moving along the strip changes the menu. The button of the program's own menu has none to show
 // where that menu is not part of the program: the one that is up goes.
 void frmToolbar::HoverButton(int button) {
   // A popup, a message or a menu of the shell stands over the menu that is up.
-  if (program_.OpenQuestions > 0) return;
+  if (program_.Guards.OpenQuestions > 0) return;
   if (!OpensMenu(button)) {
     HideMenuWhileTracking();
   } else if (!MenuUp() || MenuOwner() != button) {
@@ -206,7 +207,7 @@ void frmToolbar::HideMenuWhileTracking() {
   SetFocus();
   HideMenuWindow();
   // A drag that came straight into the menu, and whose source has died there, is over with it.
-  if (!program_.DragEntered) program_.DragOverButton = false;
+  if (!program_.Drag.DragEntered) program_.Drag.DragOverButton = false;
   program_.Ports.QMenu->SetOwnerTag("0");
   ShowRestingLook();
 }
@@ -234,7 +235,7 @@ void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState
     return;
   }
   FindCurButton(pointer);
-  if (LastOpenFlag && LastOpenButton == program_.CurButton) {
+  if (LastOpenFlag && LastOpenButton == program_.Menu.CurButton) {
     const int closed = LastOpenButton;
     ResetMenu();
     LastOpenFlag = true;
@@ -245,7 +246,7 @@ void frmToolbar::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftState
 // The popup of a button acts on the button's own record, the first of its file.
 void frmToolbar::ShowButtonPopup() {
   GetCurButton();
-  const int button = program_.CurButton;
+  const int button = program_.Menu.CurButton;
   if (program_.Ports.Popup == nullptr || button < 1 || button > ButtonCount) return ResetMenu();
   // Events run while the menu closes, and the button may be another one after them.
   const EntryEdit entry = EntryOfButton(button);
@@ -269,18 +270,20 @@ EntryEdit frmToolbar::EntryOfButton(int button) {
 }
 
 void frmToolbar::Timer2_Timer() {
-  if (program_.OpenQuestions > 0) return;
-  if (program_.Entry.ItemDragging || program_.PosChangeRunning || program_.MenuBuilding) return;
+  if (program_.Guards.OpenQuestions > 0) return;
+  if (program_.Entry.ItemDragging || program_.Guards.PosChangeRunning ||
+      program_.Guards.MenuBuilding)
+    return;
   // What another program drags changes and closes the menu by its own events.
   if (program_.DragHolds()) return;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   FindCurButton(pointer);
   const WindowId under = program_.Services.Desktop.WindowAt(pointer);
   // A hint that is due opens no menu.
-  const bool tracksMenu = program_.MenuOpen;
+  const bool tracksMenu = program_.Menu.MenuOpen;
   if (tracksMenu && under == picToolbar.hWnd()) {
-    if (LooksAtRest(program_.CurButton) && MenuOwner() != program_.CurButton) {
-      HoverButton(program_.CurButton);
+    if (LooksAtRest(program_.Menu.CurButton) && MenuOwner() != program_.Menu.CurButton) {
+      HoverButton(program_.Menu.CurButton);
     }
   } else if (tracksMenu && under == picSingleButton.hWnd()) {
     HideMenuWhileTracking();
@@ -290,7 +293,7 @@ void frmToolbar::Timer2_Timer() {
   KeepHintTimes(under);
   if (!IsLoaded()) return;
   if (HasLeft(under)) {
-    program_.MenuOpen = true;
+    program_.Menu.MenuOpen = true;
     ResetMenu();
   }
   if (!MenuUp() && TipDueAt == 0 && TipHideAt == 0) Timer2.SetEnabled(false);

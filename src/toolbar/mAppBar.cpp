@@ -22,7 +22,7 @@ void mAppBar::RegisterAppBar() {
 }
 
 void mAppBar::RemoveAppBar() {
-  const forms::FlagScope busy(program_.AppBarBusy);
+  const forms::FlagScope busy(program_.Guards.AppBarBusy);
   GiveUpHiding();
   Remove();
   RegisterAppBar();
@@ -47,7 +47,7 @@ void mAppBar::GiveUpHiding() {
   Send(abm::SetAutoHideBar);
 }
 
-bool mAppBar::AutoHideFree(std::string_view edge) {
+bool mAppBar::AutoHideFree(Edge edge) {
   AppBarRecord asked = AppBarData;
   asked.hWnd = strip_.hWnd();
   asked.uEdge = ShellEdge(EdgeFromText(edge).value_or(Edge::Top));
@@ -64,7 +64,7 @@ void mAppBar::ShowAutoHideTaken() {
 
 // Measures.
 
-Edge mAppBar::CurrentEdge() const { return EdgeFromText(program_.ToolbarEdge).value_or(Edge::Top); }
+Edge mAppBar::CurrentEdge() const { return program_.Strip.ToolbarEdge; }
 
 TwipSize mAppBar::Twips() const {
   const forms::ScreenInfo screen = program_.Windows.Screen();
@@ -86,42 +86,44 @@ void mAppBar::MoveWindow(const PixelRect& bounds) {
 }
 
 void mAppBar::PinHere() {
-  program_.PinnedLeft = strip_.Left();
-  program_.PinnedTop = strip_.Top();
+  program_.Strip.PinnedLeft = strip_.Left();
+  program_.Strip.PinnedTop = strip_.Top();
 }
 
 // The one entry for every change of edge or size.
 
 bool mAppBar::Waits() const {
-  return program_.ToolbarMinimized || program_.Entry.ItemDragging || program_.ButtonDragging ||
-         program_.MenuFormBusy ||
-         (program_.PosChangeRunning && (program_.AppBarBusy || program_.RestoreBusy));
+  return program_.Strip.ToolbarMinimized || program_.Entry.ItemDragging ||
+         program_.Drag.ButtonDragging || program_.Guards.MenuFormBusy ||
+         (program_.Guards.PosChangeRunning &&
+          (program_.Guards.AppBarBusy || program_.Guards.RestoreBusy));
 }
 
-void mAppBar::SetAppBar(std::string_view edge, bool rebuild) {
+void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   if (!strip_.IsLoaded()) return;
   if (Waits()) {
     // A change of bars is not told again; one in the task bar is placed anew when it comes back.
-    if (program_.PosChangeRunning && !program_.ToolbarMinimized) strip_.FollowBarsLater();
+    if (program_.Guards.PosChangeRunning && !program_.Strip.ToolbarMinimized)
+      strip_.FollowBarsLater();
     return;
   }
-  program_.ToolbarReady = false;
-  if (program_.PosChangeRunning && AppBarPosChanged()) {
-    program_.ToolbarReady = strip_.IsLoaded();
+  program_.Guards.ToolbarReady = false;
+  if (program_.Guards.PosChangeRunning && AppBarPosChanged()) {
+    program_.Guards.ToolbarReady = strip_.IsLoaded();
     return;
   }
   const ForegroundScope foreground(program_, strip_);
-  program_.AppBarBusy = true;
-  program_.AppBarRequested = true;
+  program_.Guards.AppBarBusy = true;
+  program_.Strip.AppBarRequested = true;
   CapturePort* const capture = program_.Ports.Capture;
   if (strip_.Visible() && capture != nullptr) capture->SetPicture1();
   // A text that is no edge leaves the strip where it belongs.
-  if (const auto wanted = EdgeFromText(edge)) program_.ToolbarEdge = EdgeText(*wanted);
+  if (const auto wanted = EdgeFromText(edge)) program_.Strip.ToolbarEdge = *wanted;
   const Edge at = CurrentEdge();
-  TurnTo(program_.ToolbarEdge, rebuild);
+  TurnTo(program_.Strip.ToolbarEdge, rebuild);
   if (strip_.IsLoaded()) PlaceAt(at);
-  program_.AppBarBusy = false;
-  program_.AppBarRequested = false;
+  program_.Guards.AppBarBusy = false;
+  program_.Strip.AppBarRequested = false;
   const LoadedWindow* const image = program_.Ports.ImageWindow;
   if (capture != nullptr && image != nullptr && image->WindowLoaded()) {
     capture->ResetPicture1();
@@ -129,20 +131,21 @@ void mAppBar::SetAppBar(std::string_view edge, bool rebuild) {
   }
   if (!strip_.IsLoaded()) return;
   PinHere();
-  program_.ToolbarReady = !program_.ToolbarMinimized;
+  program_.Guards.ToolbarReady = !program_.Strip.ToolbarMinimized;
 }
 
 // A strip that turns, or has not stood at an edge yet, is built anew.
 void mAppBar::TurnTo(std::string_view edge, bool rebuild) {
   const bool vertical = IsVertical(EdgeFromText(edge).value_or(Edge::Top));
-  const bool turns = program_.ToolbarVertical != vertical;
-  if (rebuild || !program_.AppBarDocked || turns) {
-    program_.ToolbarVertical = vertical;
+  const bool turns = program_.Strip.ToolbarVertical != vertical;
+  if (rebuild || !program_.Strip.AppBarDocked || turns) {
+    program_.Strip.ToolbarVertical = vertical;
     strip_.UnloadItems();
     if (strip_.IsLoaded()) strip_.InitButtons();
     return;
   }
-  if (vertical && program_.OptionFlags.Is(26) && program_.OptionFlags.Is(24)) {
+  if (vertical && program_.OptionFlags.Is(Option::LargeIcons) &&
+      program_.OptionFlags.Is(Option::SmallSingles)) {
     strip_.DoSingleButtons();
     strip_.SetControls();
   }
@@ -150,9 +153,9 @@ void mAppBar::TurnTo(std::string_view edge, bool rebuild) {
 
 void mAppBar::PlaceAt(Edge at) {
   const std::string_view edge = EdgeText(at);
-  if (program_.NotOnTop) {
+  if (program_.Strip.NotOnTop) {
     DockNotOnTop(edge);
-  } else if (!program_.AutoHide) {
+  } else if (!program_.Strip.AutoHide) {
     DockAppBar(edge);
   } else if (!AutoHideAppBar(edge)) {
     return;
@@ -168,16 +171,16 @@ void mAppBar::FinishPlacing(Edge at) {
   strip_.DoLabelDate();
   // The boxes have their size for the strip in full sight, and a line stays a line.
   if (hidden) strip_.Move(line.Left, line.Top, line.Width, line.Height);
-  if (!program_.AutoHide) {
+  if (!program_.Strip.AutoHide) {
     strip_.DrawBorders();
     strip_.ShowNoActivate();
     strip_.Refresh();
   }
-  if (program_.StartingUp && program_.AutoHide) RevealToolbar();
+  if (program_.Guards.StartingUp && program_.Strip.AutoHide) RevealToolbar();
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->InitIcons();
   program_.Windows.SetMousePointer(forms::MousePointer::Default);
   // Who starts the program wants it in front.
-  if (program_.StartingUp) strip_.SetForeground();
+  if (program_.Guards.StartingUp) strip_.SetForeground();
   strip_.SetFocus();
 }
 
@@ -255,7 +258,7 @@ void mAppBar::StandAt(Edge at, bool keepsRoom) {
   MoveWindow(window);
   program_.DoEvents();
   if (!strip_.IsLoaded()) return;
-  program_.AppBarDocked = true;
+  program_.Strip.AppBarDocked = true;
   PinHere();
 }
 
@@ -268,14 +271,14 @@ void mAppBar::ComeOutOfHiding() {
 }
 
 bool mAppBar::AppBarPosChanged() {
-  const forms::FlagScope busy(program_.AppBarBusy);
+  const forms::FlagScope busy(program_.Guards.AppBarBusy);
   const PixelRect before = AppBarData.rc;
   const Edge at = CurrentEdge();
   const PixelSize bar = WholeEdge(at);
-  const bool lifts = !program_.AutoHide;
+  const bool lifts = !program_.Strip.AutoHide;
   BarPlace place = AskForPlace(at, bar, lifts);
   // A strip that hides keeps no room.
-  const bool keepsRoom = !program_.NotOnTop && !program_.AutoHide;
+  const bool keepsRoom = !program_.Strip.NotOnTop && !program_.Strip.AutoHide;
   if (place.Reserved != before || keepsRoom != keepsRoom_) {
     if (keepsRoom) place = KeepPlace(at, bar, lifts);
     MoveWindow(BarWindow(at, place, bar));
@@ -283,13 +286,13 @@ bool mAppBar::AppBarPosChanged() {
     program_.DoEvents();
     if (!strip_.IsLoaded()) return true;
   }
-  if (program_.AutoHide) {
-    if (AutoHideFree(program_.ToolbarEdge)) {
-      AutoHideAppBar(program_.ToolbarEdge);
+  if (program_.Strip.AutoHide) {
+    if (AutoHideFree(program_.Strip.ToolbarEdge)) {
+      AutoHideAppBar(program_.Strip.ToolbarEdge);
     } else {
-      program_.OptionFlags.Set(3, false);
-      program_.AutoHide = false;
-      StandAt(at, !program_.NotOnTop);
+      program_.OptionFlags.Set(Option::AutoHide, false);
+      program_.Strip.AutoHide = false;
+      StandAt(at, !program_.Strip.NotOnTop);
       if (strip_.IsLoaded()) ResizeToEdge();
     }
   }

@@ -30,8 +30,8 @@ class mAppBar final : public DockingPort {
   void RemoveAppBar() override;
   void EndAppBar() override;
   void LeaveEdge() override;
-  [[nodiscard]] bool AutoHideFree(std::string_view edge) override;
-  void SetAppBar(std::string_view edge, bool rebuild) override;
+  [[nodiscard]] bool AutoHideFree(Edge edge) override;
+  void SetAppBar(std::optional<Edge> edge, bool rebuild) override;
   void HideToolbar() override;
   void RevealToolbar() override;
   void ShowAutoHideTaken() override;

@@ -9,25 +9,25 @@ namespace corvelle {
 
 bool mAppBar::AutoHideAppBar(std::string_view edge) {
   const Edge at = EdgeFromText(edge).value_or(CurrentEdge());
-  program_.ToolbarEdge = EdgeText(at);
-  if (!AutoHideFree(program_.ToolbarEdge)) {
-    program_.OptionFlags.Set(3, false);
-    program_.AutoHide = false;
-    program_.AppBarBusy = false;
+  program_.Strip.ToolbarEdge = at;
+  if (!AutoHideFree(program_.Strip.ToolbarEdge)) {
+    program_.OptionFlags.Set(Option::AutoHide, false);
+    program_.Strip.AutoHide = false;
+    program_.Guards.AppBarBusy = false;
     strip_.Timer1.SetEnabled(false);
-    program_.ToolbarReady = false;
+    program_.Guards.ToolbarReady = false;
     ShowAutoHideTaken();
     // One that went into the task bar meanwhile is placed when it comes back.
-    if (!strip_.IsLoaded() || program_.ToolbarMinimized) return false;
-    SetAppBar(program_.ToolbarEdge, true);
+    if (!strip_.IsLoaded() || program_.Strip.ToolbarMinimized) return false;
+    SetAppBar(program_.Strip.ToolbarEdge, true);
     if (!strip_.IsLoaded()) return false;
     strip_.ShowNoActivate();
     strip_.picToolbar.SetVisible(true);
     strip_.picSingleButton.SetVisible(true);
-    program_.ToolbarReady = true;
+    program_.Guards.ToolbarReady = true;
     return false;
   }
-  const forms::FlagScope busy(program_.AppBarBusy);
+  const forms::FlagScope busy(program_.Guards.AppBarBusy);
   // What was kept for the strip in full sight would stay kept.
   if (keepsRoom_) {
     Remove();
@@ -51,15 +51,15 @@ bool mAppBar::AutoHideAppBar(std::string_view edge) {
   AppBarData.rc = place.Reserved;
   MoveWindow(BarWindow(at, place, bar));
   strip_.ShowNoActivate();
-  program_.AppBarDocked = true;
+  program_.Strip.AppBarDocked = true;
   strip_.HideContents();
   strip_.Timer1.SetEnabled(true);
   return true;
 }
 
 void mAppBar::HideToolbar() {
-  if (program_.AppBarDocked) {
-    if (!AutoHideAppBar(program_.ToolbarEdge)) return;
+  if (program_.Strip.AppBarDocked) {
+    if (!AutoHideAppBar(program_.Strip.ToolbarEdge)) return;
     strip_.SinkAgain();
     return;
   }
@@ -74,7 +74,7 @@ void mAppBar::RevealToolbar() {
   if (strip_.picToolbar.Visible()) return;
   strip_.picToolbar.SetVisible(true);
   strip_.picSingleButton.SetVisible(true);
-  if (program_.AppBarDocked) {
+  if (program_.Strip.AppBarDocked) {
     // What was read anew for the line has its places from here on.
     ResizeToEdge();
     const TwipPoint corner = RevealedCorner(CurrentEdge(), strip_.WindowBounds(), line_, Twips());

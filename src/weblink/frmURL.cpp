@@ -88,8 +88,8 @@ void frmURL::OfferWebLink(std::string_view url, std::string_view title, std::str
   // One at a time. Drops are refused meanwhile.
   if (step_ != Step::Idle) return;
   step_ = Step::Offered;
-  program_.WebLinkPending = true;
-  ++program_.OpenQuestions;
+  WebLinkPending = true;
+  ++program_.Guards.OpenQuestions;
   target_ = program_.Entry;
   if (IsSinglesTag(tag)) target_.CurFile = std::string(file);
   txtTitle.SetText(std::string(title));
@@ -101,7 +101,7 @@ void frmURL::OfferWebLink(std::string_view url, std::string_view title, std::str
 
 void frmURL::tmrStep_Timer() {
   // Nobody else works on a menu or waits for an answer then; this one is the one question.
-  if (program_.IsWorking() || program_.OpenQuestions > 1) return;
+  if (program_.Guards.IsWorking() || program_.Guards.OpenQuestions > 1) return;
   tmrStep_.SetEnabled(false);
   if (step_ == Step::Confirmed) return Write();
   if (step_ != Step::Offered) return;
@@ -163,8 +163,8 @@ void frmURL::Finish() {
   target_ = {};
   ReleaseOthers();
   Unload();
-  program_.WebLinkPending = false;
-  --program_.OpenQuestions;
+  WebLinkPending = false;
+  --program_.Guards.OpenQuestions;
   CapturePort* const capture = program_.Ports.Capture;
   if (capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
   ToolbarPort* const strip = program_.Ports.Toolbar;

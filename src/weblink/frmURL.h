@@ -21,7 +21,7 @@ class Program;
 /// with option 18 the entry is made without it.
 ///
 /// Program::WebLinkPending is true from the drop until the entry is made or given up. Meanwhile
-/// nothing else is dropped and no menu is opened or closed by the pointer (Program::OpenQuestions);
+/// nothing else is dropped and no menu is opened or closed by the pointer (Program::Guards);
 /// while the dialog is up, the strip and the menu take no input. Nothing waits in a loop: each step
 /// is an event of its own, so that everything else goes on.
 class frmURL final : public forms::Form, public WebLinkPort {

@@ -26,14 +26,14 @@ MenuRecord RecordOf(const frmURL& form) {
 }  // namespace
 
 std::string frmURL::NewSingleFile() const {
-  const auto row = ReadSingleFiles(program_.Services.Files, program_.MenusPath);
+  const auto row = ReadSingleFiles(program_.Services.Files, program_.Paths.MenusPath);
   const int count = row ? static_cast<int>(row->size()) : 0;
-  return program_.MenusPath + SingleFileName(count + 1);
+  return program_.Paths.MenusPath + SingleFileName(count + 1);
 }
 
 void frmURL::UpdateToolbar() {
   ToolbarPort* const strip = program_.Ports.Toolbar;
-  if (strip != nullptr && !program_.HideBusy) strip->SetPointerWatch(false);
+  if (strip != nullptr && !program_.Guards.HideBusy) strip->SetPointerWatch(false);
   const WebLinkTarget target = ParseLinkTag(Tag);
   switch (target.Place) {
     case LinkPlace::MenuItem:

@@ -29,8 +29,8 @@ class DefaultEntriesTest : public testing::Test {
  protected:
   DefaultEntriesTest() {
     world.Files.Put("C:\\Corvelle\\corvelle.exe", "program");
-    program.AppPath = "C:\\Corvelle\\";
-    program.MenusPath = "C:\\Corvelle\\Menus\\";
+    program.Paths.AppPath = "C:\\Corvelle\\";
+    program.Paths.MenusPath = "C:\\Corvelle\\Menus\\";
     program.Ports.ShellLinks = &links;
     program.Ports.NetSearch = &search;
     world.Files.MakeFolders("C:\\Corvelle\\Menus");
@@ -45,9 +45,9 @@ class DefaultEntriesTest : public testing::Test {
   void Fill() { entries.IncludeCommonFiles(); }
 
   std::vector<MenuRecord> Read(const std::string& name) {
-    return ReadAllRecords(world.Files, world.Ansi, program.MenusPath + name).ValueOr({});
+    return ReadAllRecords(world.Files, world.Ansi, program.Paths.MenusPath + name).ValueOr({});
   }
-  std::vector<std::string> Names() { return world.Files.Names(program.MenusPath); }
+  std::vector<std::string> Names() { return world.Files.Names(program.Paths.MenusPath); }
   /// Titles of the single buttons, in their order.
   std::vector<std::string> Singles() {
     std::vector<std::string> titles;
@@ -71,7 +71,7 @@ class DefaultEntriesTest : public testing::Test {
                    command);
   }
   void Clear() {
-    for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+    for (const std::string& name : Names()) world.Files.Vanish(program.Paths.MenusPath + name);
   }
 
   sim::World world;
@@ -149,7 +149,7 @@ TEST_F(DefaultEntriesTest, TheMailProgramIsTheRegisteredOneIfItIsThere) {
   world.Keys.Set(RegistryRoot::ClassesRoot, kMailKey, "", "\"C:\\My Mail\\post.exe\" /to %1");
   Fill();
   EXPECT_EQ(Singles().size(), 4U);
-  for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+  for (const std::string& name : Names()) world.Files.Vanish(program.Paths.MenusPath + name);
   world.Files.Put("C:\\My Mail\\post.exe", "x");
   Fill();
   EXPECT_EQ(Singles().at(4), "Post");
@@ -245,14 +245,14 @@ TEST_F(DefaultEntriesTest, EntriesOfAnOlderInstallationStay) {
   program.Ports.NetSearch = nullptr;
   std::vector<std::string> before;
   for (int i = 0; i < 3; ++i) {
-    const std::string path = program.MenusPath + "BMENU00" + std::to_string(i + 1) + ".BTN";
+    const std::string path = program.Paths.MenusPath + "BMENU00" + std::to_string(i + 1) + ".BTN";
     ASSERT_TRUE(WriteRecords(world.Files, world.Ansi, path, {old[i]}));
     before.push_back(world.Files.Get(path).value_or(""));
   }
   Fill();
   EXPECT_EQ(Names(), (Texts{"BMENU001.BTN", "BMENU002.BTN", "BMENU003.BTN"}));
   for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(world.Files.Get(program.MenusPath + Names()[static_cast<std::size_t>(i)]),
+    EXPECT_EQ(world.Files.Get(program.Paths.MenusPath + Names()[static_cast<std::size_t>(i)]),
               before[static_cast<std::size_t>(i)]);
   }
 }
@@ -292,10 +292,10 @@ struct DotCounter final : StartupPort {
 TEST_F(DefaultEntriesTest, EachItemOfTheStartMenuTicksTheStartupWindow) {
   DotCounter startup;
   program.Ports.Startup = &startup;
-  program.StartingUp = true;
+  program.Guards.StartingUp = true;
   Fill();
   const int without = startup.Dots;
-  for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+  for (const std::string& name : Names()) world.Files.Vanish(program.Paths.MenusPath + name);
   world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
   Link("C:\\Start\\Programs\\Writer.lnk", "C:\\w\\a.exe");
   Link("C:\\Start\\Programs\\Games\\Zebra.lnk", "C:\\w\\a.exe");
@@ -337,28 +337,28 @@ TEST_F(DefaultEntriesTest, RecentDocumentsAreAFolderItem) {
 
 TEST_F(DefaultEntriesTest, AFolderWithEntriesIsLeftAlone) {
   for (const char* name : {"BMENU007.MNU", "BMENU007.BTN"}) {
-    world.Files.Put(program.MenusPath + name, "mine");
+    world.Files.Put(program.Paths.MenusPath + name, "mine");
     Fill();
     EXPECT_EQ(Names(), Texts{name});
-    world.Files.Vanish(program.MenusPath + name);
+    world.Files.Vanish(program.Paths.MenusPath + name);
   }
 }
 
 TEST_F(DefaultEntriesTest, AFolderWithTheNameOfAMenuIsNoEntry) {
   for (const char* name : {"old.mnu", "old.btn"}) {
-    world.Files.MakeFolders(program.MenusPath + name);
+    world.Files.MakeFolders(program.Paths.MenusPath + name);
     Fill();
-    EXPECT_TRUE(world.Files.Has(program.MenusPath + "BMENU005.MNU")) << name;
-    for (const std::string& made : Names()) world.Files.Vanish(program.MenusPath + made);
+    EXPECT_TRUE(world.Files.Has(program.Paths.MenusPath + "BMENU005.MNU")) << name;
+    for (const std::string& made : Names()) world.Files.Vanish(program.Paths.MenusPath + made);
   }
 }
 
 TEST_F(DefaultEntriesTest, AFirstMenuOfTheInstallationComesBeforeTheOthers) {
   world.Files.Put("C:\\Corvelle\\BMENU001.MNU", "shipped");
   Fill();
-  EXPECT_EQ(world.Files.Get(program.MenusPath + "BMENU001.MNU"), "shipped");
+  EXPECT_EQ(world.Files.Get(program.Paths.MenusPath + "BMENU001.MNU"), "shipped");
   EXPECT_EQ(Titles("BMENU002.MNU"), (Texts{"Desktop", "Desktop Items"}));
-  EXPECT_TRUE(world.Files.Has(program.MenusPath + "BMENU006.MNU"));
+  EXPECT_TRUE(world.Files.Has(program.Paths.MenusPath + "BMENU006.MNU"));
 }
 
 TEST_F(DefaultEntriesTest, AnyFailureOfAFileOfOursEndsItWithAMessage) {
@@ -366,7 +366,7 @@ TEST_F(DefaultEntriesTest, AnyFailureOfAFileOfOursEndsItWithAMessage) {
       "The following error has occured while Corvelle was trying to add sample entries.\r\n";
   int failures = 0;
   for (int n = 1;; ++n) {
-    for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+    for (const std::string& name : Names()) world.Files.Vanish(program.Paths.MenusPath + name);
     world.Files.FailCall(n, FileError::DiskFull);
     world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
     const std::size_t before = world.Desktop.Boxes().size();

@@ -85,7 +85,7 @@ TEST(InstalledFirstStart, AllThatIsWrittenLiesInTheUsersFolder) {
 
 TEST_F(FirstStart, TheStripStandsWholeAtTheRightEdge) {
   ASSERT_TRUE(started);
-  EXPECT_EQ(parts.TheProgram.ToolbarEdge, "RIGHT");
+  EXPECT_EQ(parts.TheProgram.Strip.ToolbarEdge, Edge::Right);
   EXPECT_EQ(Strip().ButtonCount, 6);
   ASSERT_EQ(Strip().SingleCount, 4);
   const PixelRect strip = world.Desktop.BoundsOf(Strip().hWnd());

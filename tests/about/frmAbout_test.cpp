@@ -21,7 +21,7 @@ class AboutWindow : public testing::Test {
     world.Files.Put("C:\\Corvelle\\corvelle.exe", "program");
     world.System.Drives["D:\\"] = {.Type = 5};
     world.System.Drives["E:\\"] = {2, "Stick", "FAT32", DriveRoom{999'000'000, 500'000}};
-    program.AppPath = "C:\\Corvelle\\";
+    program.Paths.AppPath = "C:\\Corvelle\\";
     program.Ports.Browser = &browser;
     program.Ports.About = &window;
     window.LoadWindow();

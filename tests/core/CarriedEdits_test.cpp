@@ -48,7 +48,7 @@ TEST(MoveRecord, PutsARecordBeforeAnother) {
 class CarriedEdits : public testing::Test {
  protected:
   CarriedEdits() {
-    program.MenusPath = "C:\\Corvelle\\Menus\\";
+    program.Paths.MenusPath = "C:\\Corvelle\\Menus\\";
     program.Ports.Toolbar = &toolbar;
     program.Ports.SingleButtons = &singles;
     world.Files.MakeFolders("C:\\Corvelle\\Menus");

@@ -140,8 +140,8 @@ TEST_F(StartElsewhere, OptionsLieInTheUsersFolderAndTheLinkLeadsToTheProgram) {
   world.Files.Put(std::string(kProgramFolder) + "anetsrch.org", "engines");
   const Run run(world);
   EXPECT_TRUE(run.Started);
-  EXPECT_EQ(run.TheProgram.AppPath, kUserFolder);
-  EXPECT_EQ(run.TheProgram.ShippedFile("icon.lib"), std::string(kProgramFolder) + "icon.lib");
+  EXPECT_EQ(run.TheProgram.Paths.AppPath, kUserFolder);
+  EXPECT_EQ(run.TheProgram.Paths.ShippedFile("icon.lib"), std::string(kProgramFolder) + "icon.lib");
   EXPECT_TRUE(world.Files.Has(std::string(kUserFolder) + "tmenu425.dat"));
   EXPECT_EQ(world.Files.Get(std::string(kUserFolder) + "netsrch.ini"), "engines");
   EXPECT_FALSE(world.Files.Has(std::string(kProgramFolder) + "tmenu425.dat"));

@@ -23,7 +23,7 @@ constexpr char kButtonQuestion[] =
 class EntryCommandsTest : public testing::Test {
  protected:
   EntryCommandsTest() {
-    program.MenusPath = "C:\\Corvelle\\Menus\\";
+    program.Paths.MenusPath = "C:\\Corvelle\\Menus\\";
     program.Ports.Toolbar = &toolbar;
     program.Ports.SingleButtons = &singles;
     world.Files.MakeFolders("C:\\Corvelle\\Menus");

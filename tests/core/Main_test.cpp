@@ -97,7 +97,7 @@ TEST_F(MainTest, StartsInItsGivenOrder) {
   EXPECT_TRUE(Main(program));
   EXPECT_EQ(log, (CallLog{"dot", "icons detected", "toolbar loads", "companion loads",
                           "startup window hides", "startup window unloads"}));
-  EXPECT_FALSE(program.StartingUp);
+  EXPECT_FALSE(program.Guards.StartingUp);
   EXPECT_EQ(program.Title, "Corvelle");
 }
 
@@ -115,7 +115,7 @@ TEST_F(MainTest, NotOnTopPutsTheIconIntoTheTray) {
   flags[22] = '1';
   PutFlags(flags);
   EXPECT_TRUE(Main(program));
-  EXPECT_TRUE(program.NotOnTop);
+  EXPECT_TRUE(program.Strip.NotOnTop);
   EXPECT_EQ(log.back(), "into the tray");
 }
 
@@ -301,9 +301,9 @@ TEST_F(MainTest, AFlagFileThatCannotBeReachedIsNoNewInstallation) {
   EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\toolbarp.dat"));
   EXPECT_TRUE(world.Desktop.Boxes().empty());
   // An installed version: its entries are there, and its questions have been asked.
-  EXPECT_TRUE(program.OptionFlags.Is(1));
-  EXPECT_TRUE(program.OptionFlags.Is(2));
-  EXPECT_FALSE(program.OptionFlags.Is(3));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::FirstRunDone));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::DefaultEntriesOffered));
+  EXPECT_FALSE(program.OptionFlags.Is(Option::AutoHide));
 }
 
 TEST_F(MainTest, WhereTheFlagsCannotBeKeptTheQuestionIsNotAskedAtEachStart) {
@@ -319,7 +319,7 @@ TEST_F(MainTest, WhereTheFlagsCannotBeKeptTheQuestionIsNotAskedAtEachStart) {
 TEST_F(MainTest, AFullDiskDoesNotStopTheStart) {
   world.Files.FillDisk(0);
   EXPECT_TRUE(Main(program));
-  EXPECT_TRUE(program.OptionFlags.Is(32));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::UpgradeDone));
   EXPECT_TRUE(toolbar.WindowLoaded());
 }
 

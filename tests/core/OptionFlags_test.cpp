@@ -16,11 +16,11 @@ TEST(OptionFlags, StartAsThirtyTwoZeros) { EXPECT_EQ(OptionFlags().Text(), std::
 
 TEST(OptionFlags, PositionsCountFromOne) {
   OptionFlags flags;
-  flags.Set(1, '1');
-  flags.Set(32, '1');
+  flags.Set(Option::FirstRunDone, '1');
+  flags.Set(Option::UpgradeDone, '1');
   EXPECT_EQ(flags.Text(), "1" + std::string(30, '0') + "1");
-  EXPECT_TRUE(flags.Is(32));
-  EXPECT_EQ(flags.At(32), '1');
+  EXPECT_TRUE(flags.Is(Option::UpgradeDone));
+  EXPECT_EQ(flags.At(Option::UpgradeDone), '1');
   EXPECT_EQ(flags.At(31), '0');
 }
 
@@ -36,13 +36,13 @@ TEST(OptionFlags, OutsideOfTheirPositionsNothingHappens) {
 
 TEST(OptionFlags, HoldZerosAndOnesOnly) {
   OptionFlags flags;
-  flags.Set(3, 'x');
-  EXPECT_EQ(flags.At(3), '0');
-  flags.Set(3, true);
-  flags.Flip(4);
+  flags.Set(Option::AutoHide, 'x');
+  EXPECT_EQ(flags.At(Option::AutoHide), '0');
+  flags.Set(Option::AutoHide, true);
+  flags.Flip(Option::AboveFullScreen);
   EXPECT_EQ(flags.Text().substr(2, 2), "11");
-  flags.Flip(4);
-  flags.Set(3, false);
+  flags.Flip(Option::AboveFullScreen);
+  flags.Set(Option::AutoHide, false);
   EXPECT_EQ(flags, OptionFlags());
 }
 
@@ -80,7 +80,7 @@ TEST(SaveOptionFlags, StoresThirtyTwoBytesAndNothingElse) {
   SimFiles disk;
   disk.Put(kFlagFile, std::string(100, 'x'));
   OptionFlags flags;
-  flags.Set(2, '1');
+  flags.Set(Option::DefaultEntriesOffered, '1');
   ASSERT_TRUE(SaveOptionFlags(disk, kApp, flags));
   EXPECT_EQ(disk.Get(kFlagFile), "01" + std::string(30, '0'));
 }
@@ -112,8 +112,8 @@ TEST(FlagsAfterUpgrade, AreTheDefaults) {
 
 TEST(FlagsAfterUpgrade, OnceTheFirstRunIsDoneTheRestIsZero) {
   OptionFlags flags = FlagsAfterUpgrade();
-  flags.Set(1, '1');
-  flags.Set(2, '1');
+  flags.Set(Option::FirstRunDone, '1');
+  flags.Set(Option::DefaultEntriesOffered, '1');
   for (int position = 1; position <= 32; ++position) {
     bool expected = false;
     for (const int set : {1, 2, 14, 15, 16, 19, 24, 26, 32}) expected = expected || set == position;
@@ -165,7 +165,7 @@ TEST(EdgeFlags, AFloatingStripLeavesTheSavedEdgeAlone) {
 
 TEST(EdgeFlags, WithoutPosition14NoEdgeIsAskedFor) {
   OptionFlags flags;
-  flags.Set(15, '1');
+  flags.Set(Option::EdgeCodeFirst, '1');
   EdgePlacement placement{true, false, "BOTTOM"};
   ReadEdgeFlags(flags, placement);
   EXPECT_EQ(placement, (EdgePlacement{false, false, "BOTTOM"}));

@@ -76,7 +76,7 @@ TEST(ToolbarPosition, AFailureLeavesTheOldOne) {
 
 OptionFlags WithOwnIcon() {
   OptionFlags flags;
-  flags.Set(12, '1');
+  flags.Set(Option::OwnWebLinkIcon, '1');
   return flags;
 }
 

@@ -28,7 +28,11 @@ class CustDesk {
     world.System.WorkFolder = "C:\\Corvelle\\";
     OptionFlags flags;
     // First run and samples are over, the tips are dismissed, there is no startup screen.
-    for (const int position : {1, 2, 5, 6, 7, 8, 9, 19, 32}) flags.Set(position, true);
+    for (const Option option :
+         {Option::FirstRunDone, Option::DefaultEntriesOffered, Option::IconLibraryTipDone,
+          Option::OtherFilesTipDone, Option::SelectFileTipDone, Option::AddFileTipDone,
+          Option::NoStartupScreen, Option::SystemPopupWithCtrl, Option::UpgradeDone})
+      flags.Set(option, true);
     world.Files.Put("C:\\Corvelle\\" + std::string(kOptionFlagsFileName), flags.Text());
     PutMenu(1, {"Letters", "Button", ""}, {Entry("Alpha"), Entry("Beta"), NewSeparatorRecord()});
     PutMenu(2, {"Tools", "Button", ""}, {Entry("Hammer"), Entry("Anvil")});

@@ -82,7 +82,7 @@ TEST(CustomizeOptions, AnExtensionThatIsLeftShowsInTheNextTitle) {
 TEST(CustomizeOptions, ResetOfTheTipsShowsThemAllAgain) {
   CustDesk desk;
   OptionFlags& flags = desk.parts->TheProgram.OptionFlags;
-  flags.Set(29, true);
+  flags.Set(Option::NotOnTopTipDone, true);
   const OptionFlags before = flags;
   desk.world.Desktop.Answer("Help tip dialog has been reset.", forms::msgbox::AnswerOk);
   desk.MenuBar("Options", "Reset Help Tip Dialog");
@@ -97,17 +97,17 @@ TEST(CustomizeOptions, ACustomIconForWebLinksIsNotedOnlyWhenOneIsChosen) {
   Program& program = desk.parts->TheProgram;
   desk.world.Desktop.CancelFiles();
   desk.MenuBar("Options", "Use Custom Icon for Web Links Entries");
-  EXPECT_FALSE(program.OptionFlags.Is(12));
+  EXPECT_FALSE(program.OptionFlags.Is(Option::OwnWebLinkIcon));
   EXPECT_TRUE(desk.Checked("Use Default HTML Icon for Web Links Entries"));
   desk.world.Desktop.ChooseFiles({"C:\\Tools\\Edit.exe"});
   desk.MenuBar("Options", "Use Custom Icon for Web Links Entries");
-  EXPECT_TRUE(program.OptionFlags.Is(12));
-  EXPECT_EQ(program.WebLinkIcon, "C:\\Tools\\Edit.exe");
+  EXPECT_TRUE(program.OptionFlags.Is(Option::OwnWebLinkIcon));
+  EXPECT_EQ(program.Icons.WebLinkIcon, "C:\\Tools\\Edit.exe");
   EXPECT_TRUE(desk.Checked("Use Custom Icon for Web Links Entries"));
   EXPECT_EQ(desk.world.Desktop.FileQuestions().back().Title, "Select one file.");
   desk.MenuBar("Options", "Use Default HTML Icon for Web Links Entries");
-  EXPECT_FALSE(program.OptionFlags.Is(12));
-  EXPECT_EQ(program.WebLinkIcon, "C:\\Corvelle\\httpicon.htm");
+  EXPECT_FALSE(program.OptionFlags.Is(Option::OwnWebLinkIcon));
+  EXPECT_EQ(program.Icons.WebLinkIcon, "C:\\Corvelle\\httpicon.htm");
 }
 
 TEST(CustomizeOptions, AnotherBrowserIsCheckedWhileItsFileIsThere) {
@@ -127,36 +127,36 @@ TEST(CustomizeOptions, AnotherBrowserIsCheckedWhileItsFileIsThere) {
 TEST(CustomizeOptions, LargeIconsInTheRestoredStripRebuildIt) {
   CustDesk desk;
   Program& program = desk.parts->TheProgram;
-  program.OptionFlags.Set(26, false);
+  program.OptionFlags.Set(Option::LargeIcons, false);
   desk.MenuBar("Options", "Show Large Icons in Restore/Normal Mode");
-  EXPECT_TRUE(program.OptionFlags.Is(25));
-  EXPECT_TRUE(program.OptionFlags.Is(26));
-  EXPECT_EQ(program.IconSize, 32);
+  EXPECT_TRUE(program.OptionFlags.Is(Option::LargeInRestoreMode));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::LargeIcons));
+  EXPECT_EQ(program.Icons.IconSize, 32);
   desk.MenuBar("Options", "Show Large Icons in Restore/Normal Mode");
-  EXPECT_FALSE(program.OptionFlags.Is(25));
-  EXPECT_FALSE(program.OptionFlags.Is(26));
-  EXPECT_EQ(program.IconSize, 16);
+  EXPECT_FALSE(program.OptionFlags.Is(Option::LargeInRestoreMode));
+  EXPECT_FALSE(program.OptionFlags.Is(Option::LargeIcons));
+  EXPECT_EQ(program.Icons.IconSize, 16);
 }
 
 TEST(CustomizeOptions, SmallSingleButtonsDockAFloatingStripAtTheRight) {
   CustDesk desk;
   Program& program = desk.parts->TheProgram;
-  ASSERT_FALSE(program.AppBarDocked);
+  ASSERT_FALSE(program.Strip.AppBarDocked);
   desk.MenuBar("Options", "Always Show Single Buttons with Small Icons");
-  EXPECT_TRUE(program.OptionFlags.Is(24));
-  EXPECT_TRUE(program.OptionFlags.Is(26));
-  EXPECT_TRUE(program.AppBarDocked);
-  EXPECT_EQ(program.ToolbarEdge, "RIGHT");
+  EXPECT_TRUE(program.OptionFlags.Is(Option::SmallSingles));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::LargeIcons));
+  EXPECT_TRUE(program.Strip.AppBarDocked);
+  EXPECT_EQ(program.Strip.ToolbarEdge, Edge::Right);
 }
 
 TEST(CustomizeOptions, LargeSingleButtonsOfAFloatingStripComeLater) {
   CustDesk desk;
-  desk.parts->TheProgram.OptionFlags.Set(24, true);
+  desk.parts->TheProgram.OptionFlags.Set(Option::SmallSingles, true);
   desk.world.Desktop.Answer(
       "The change will take effect next time you switch to large icons toolbar.",
       forms::msgbox::AnswerOk);
   desk.MenuBar("Options", "Always Show Single Buttons with Small Icons");
-  EXPECT_FALSE(desk.parts->TheProgram.OptionFlags.Is(24));
+  EXPECT_FALSE(desk.parts->TheProgram.OptionFlags.Is(Option::SmallSingles));
   EXPECT_EQ(desk.world.Desktop.AnswersLeft(), 0);
 }
 

@@ -69,7 +69,7 @@ TEST(CustomizeSave, TakesWhatStandsInTheBoxes) {
 
 TEST(CustomizeSave, KeepsTheGapAtTheRightOfAFloatingStrip) {
   ChangedDesk desk;
-  ASSERT_FALSE(desk.parts->TheProgram.AppBarDocked);
+  ASSERT_FALSE(desk.parts->TheProgram.Strip.AppBarDocked);
   const float gap = desk.parts->Toolbar.FreeWidth();
   desk.ClickNode("Letters");
   desk.Tool("button");

@@ -21,19 +21,19 @@ constexpr char kContainer[] = "C:\\Corvelle\\icon.lib";
 class LibraryDesk : public ::testing::Test {
  protected:
   LibraryDesk() {
-    program.AppPath = "C:\\Corvelle\\";
-    program.IconsPath = "C:\\Corvelle\\Icons\\";
-    program.StartingUp = true;
+    program.Paths.AppPath = "C:\\Corvelle\\";
+    program.Paths.IconsPath = "C:\\Corvelle\\Icons\\";
+    program.Guards.StartingUp = true;
     program.Ports.Startup = &startup;
-    world.Files.MakeFolders(program.IconsPath);
+    world.Files.MakeFolders(program.Paths.IconsPath);
   }
 
   void Pack(const std::string& bytes) { world.Files.Put(kContainer, bytes); }
   void Unpack() { IconLibrary(program).ExtractIconLibrary(); }
 
-  std::vector<std::string> Unpacked() { return world.Files.Names(program.IconsPath); }
+  std::vector<std::string> Unpacked() { return world.Files.Names(program.Paths.IconsPath); }
   std::string Content(const std::string& name) {
-    return world.Files.Get(program.IconsPath + name).value_or("(missing)");
+    return world.Files.Get(program.Paths.IconsPath + name).value_or("(missing)");
   }
 
   CallLog log;
@@ -101,8 +101,8 @@ TEST_F(LibraryDesk, AnEntryOfLengthNoughtInTheMiddleEndsTheUnpacking) {
 }
 
 TEST_F(LibraryDesk, FilesOfTheSameNameAreReplacedAndOthersStay) {
-  world.Files.Put(program.IconsPath + "A.ICO", "old and longer");
-  world.Files.Put(program.IconsPath + "mine.ico", "mine");
+  world.Files.Put(program.Paths.IconsPath + "A.ICO", "old and longer");
+  world.Files.Put(program.Paths.IconsPath + "mine.ico", "mine");
   Pack(Entry("a.ico", "first") + End());
   Unpack();
   EXPECT_EQ(Content("a.ico"), "first");
@@ -151,7 +151,7 @@ TEST_F(LibraryDesk, EventsRunBeforeAnEntryIsRead) {
 }
 
 TEST_F(LibraryDesk, WithTheStartupWindowTurnedOffNoDotIsCounted) {
-  program.OptionFlags.Set(9, '1');
+  program.OptionFlags.Set(Option::NoStartupScreen, '1');
   std::string bytes;
   for (int i = 0; i < 10; ++i) bytes += Entry(std::to_string(i) + ".ico", "data");
   Pack(bytes);
@@ -164,8 +164,8 @@ TEST_F(LibraryDesk, APartialContainerLeavesTheFilesWrittenSoFar) {
   const std::string whole = Entry("a.ico", "first") + Entry("b.ico", "second");
   const std::size_t first = Entry("a.ico", "first").size();
   for (std::size_t size = 0; size < whole.size(); ++size) {
-    world.Files.Vanish(program.IconsPath);
-    world.Files.MakeFolders(program.IconsPath);
+    world.Files.Vanish(program.Paths.IconsPath);
+    world.Files.MakeFolders(program.Paths.IconsPath);
     Pack(whole.substr(0, size));
     Unpack();
     EXPECT_EQ(Unpacked(),
@@ -202,17 +202,17 @@ TEST_F(LibraryDesk, NoEntryWritesOutsideTheFolder) {
 }
 
 TEST_F(LibraryDesk, AFileThatCannotBeWrittenDoesNotKeepTheOthersBack) {
-  world.Files.Put(program.IconsPath + "a.ico", "read-only");
-  world.Files.SetReadOnly(program.IconsPath + "a.ico", true);
-  world.Files.Put(program.IconsPath + "b.ico", "held");
-  world.Files.HoldOpen(program.IconsPath + "b.ico");
-  world.Files.MakeFolders(program.IconsPath + "c.ico");
+  world.Files.Put(program.Paths.IconsPath + "a.ico", "read-only");
+  world.Files.SetReadOnly(program.Paths.IconsPath + "a.ico", true);
+  world.Files.Put(program.Paths.IconsPath + "b.ico", "held");
+  world.Files.HoldOpen(program.Paths.IconsPath + "b.ico");
+  world.Files.MakeFolders(program.Paths.IconsPath + "c.ico");
   Pack(Entry("a.ico", "new") + Entry("b.ico", "new") + Entry("c.ico", "new") +
        Entry("d.ico", "new"));
   Unpack();
   EXPECT_EQ(Content("a.ico"), "read-only");
   EXPECT_EQ(Content("d.ico"), "new");
-  world.Files.LetGo(program.IconsPath + "b.ico");
+  world.Files.LetGo(program.Paths.IconsPath + "b.ico");
   EXPECT_EQ(Content("b.ico"), "held");
 }
 
@@ -220,8 +220,8 @@ TEST_F(LibraryDesk, AFullDiskLeavesWholeFilesOnly) {
   const std::string data(1000, 'x');
   for (std::uint64_t room = 0; room < 4000; room += 499) {
     world.Files.FreeDisk();
-    world.Files.Vanish(program.IconsPath);
-    world.Files.MakeFolders(program.IconsPath);
+    world.Files.Vanish(program.Paths.IconsPath);
+    world.Files.MakeFolders(program.Paths.IconsPath);
     Pack(Entry("a.ico", data) + Entry("b.ico", data) + Entry("c.ico", data) + Entry("d.ico", "ab"));
     world.Files.FillDisk(room);
     Unpack();
@@ -233,8 +233,8 @@ TEST_F(LibraryDesk, AFullDiskLeavesWholeFilesOnly) {
 
 TEST_F(LibraryDesk, AnyOneFailureLeavesEachFileOldOrNew) {
   for (int n = 1;; ++n) {
-    world.Files.Put(program.IconsPath + "a.ico", "old a");
-    world.Files.Put(program.IconsPath + "b.ico", "old b");
+    world.Files.Put(program.Paths.IconsPath + "a.ico", "old a");
+    world.Files.Put(program.Paths.IconsPath + "b.ico", "old b");
     Pack(Entry("a.ico", "new a") + Entry("b.ico", "new b") + End());
     world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
     world.Files.FailCall(n, FileError::DiskFull);
@@ -256,72 +256,72 @@ TEST_F(LibraryDesk, AnyOneFailureLeavesEachFileOldOrNew) {
 
 TEST_F(LibraryDesk, CategoriesAreTheListsInOrder) {
   for (const char* name : {"tools.INI", "Arrows.ini", "people.ini", "x.ico", "note.txt"}) {
-    world.Files.Put(program.IconsPath + name, "a.ico\r\n");
+    world.Files.Put(program.Paths.IconsPath + name, "a.ico\r\n");
   }
-  world.Files.MakeFolders(program.IconsPath + "folder.ini");
+  world.Files.MakeFolders(program.Paths.IconsPath + "folder.ini");
   EXPECT_EQ(LibraryCategories(program), (std::vector<std::string>{"Arrows", "people", "tools"}));
 }
 
 TEST_F(LibraryDesk, ACategoryHoldsTheLinesOfItsListThatAreNotBlank) {
-  world.Files.Put(program.IconsPath + "Tools.ini", "saw.ico\r\n\r\n  \r\nhammer.ico");
+  world.Files.Put(program.Paths.IconsPath + "Tools.ini", "saw.ico\r\n\r\n  \r\nhammer.ico");
   EXPECT_EQ(CategoryIcons(program, "tools"), (std::vector<std::string>{"saw.ico", "hammer.ico"}));
 }
 
 TEST_F(LibraryDesk, ADeletedListTakesItsCategoryAtOnceAndTheIconsStay) {
-  world.Files.Put(program.IconsPath + "Tools.ini", "saw.ico\r\n");
-  world.Files.Put(program.IconsPath + "saw.ico", "x");
-  world.Files.Vanish(program.IconsPath + "Tools.ini");
+  world.Files.Put(program.Paths.IconsPath + "Tools.ini", "saw.ico\r\n");
+  world.Files.Put(program.Paths.IconsPath + "saw.ico", "x");
+  world.Files.Vanish(program.Paths.IconsPath + "Tools.ini");
   EXPECT_TRUE(LibraryCategories(program).empty());
   EXPECT_TRUE(CategoryIcons(program, "Tools").empty());
   EXPECT_EQ(AllIcons(program), std::vector<std::string>{"saw.ico"});
 }
 
 TEST_F(LibraryDesk, AllIconsComeFromThePreparedListOnceItIsMade) {
-  world.Files.Put(program.IconsPath + "a.ico", "x");
+  world.Files.Put(program.Paths.IconsPath + "a.ico", "x");
   EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
   EXPECT_EQ(Content("CAT0.ics"), "a.ico\r\n");
-  world.Files.Put(program.IconsPath + "b.ico", "x");
+  world.Files.Put(program.Paths.IconsPath + "b.ico", "x");
   EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
   ResetLibrary(program);
   EXPECT_EQ(AllIcons(program).size(), 2U);
 }
 
 TEST_F(LibraryDesk, AllIconsAreFoundWithoutRoomForTheirList) {
-  world.Files.Put(program.IconsPath + "a.ico", "x");
+  world.Files.Put(program.Paths.IconsPath + "a.ico", "x");
   world.Files.FillDisk(0);
   EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
   EXPECT_EQ(Unpacked(), std::vector<std::string>{"a.ico"});
 }
 
 TEST_F(LibraryDesk, AResetDropsTheDerivedFilesAndNothingElse) {
-  program.LibraryBuilt = true;
+  program.Icons.LibraryBuilt = true;
   for (const char* name : {"CAT0.ics", "CAT0.dat", "others.dat", "a.ico", "Tools.ini"}) {
-    world.Files.Put(program.IconsPath + name, "x");
+    world.Files.Put(program.Paths.IconsPath + name, "x");
   }
   world.Files.Put("C:\\Corvelle\\clrlib.dat", "x");
   ResetLibrary(program);
   EXPECT_EQ(Unpacked(), (std::vector<std::string>{"Tools.ini", "a.ico"}));
   EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\clrlib.dat"));
-  EXPECT_FALSE(program.LibraryBuilt);
+  EXPECT_FALSE(program.Icons.LibraryBuilt);
 }
 
 TEST_F(LibraryDesk, WithoutBeingAskedTheUsersOwnFilesStayInTheirList) {
-  program.LibraryBuilt = true;
+  program.Icons.LibraryBuilt = true;
   for (const char* name : {"CAT0.ics", "CAT0.dat", "others.dat", "a.ico"}) {
-    world.Files.Put(program.IconsPath + name, "x");
+    world.Files.Put(program.Paths.IconsPath + name, "x");
   }
   DropPreparedLists(program);
   EXPECT_EQ(Unpacked(), (std::vector<std::string>{"a.ico", "others.dat"}));
-  EXPECT_FALSE(program.LibraryBuilt);
+  EXPECT_FALSE(program.Icons.LibraryBuilt);
   world.System.Depth = 8;
   EXPECT_TRUE(CheckLibraryDisplay(program));
-  EXPECT_TRUE(world.Files.Has(program.IconsPath + "others.dat"));
+  EXPECT_TRUE(world.Files.Has(program.Paths.IconsPath + "others.dat"));
 }
 
 TEST_F(LibraryDesk, AResetPassesOverWhatIsHeldOpen) {
-  world.Files.Put(program.IconsPath + "a.dat", "x");
-  world.Files.HoldOpen(program.IconsPath + "a.dat");
-  world.Files.Put(program.IconsPath + "b.ics", "x");
+  world.Files.Put(program.Paths.IconsPath + "a.dat", "x");
+  world.Files.HoldOpen(program.Paths.IconsPath + "a.dat");
+  world.Files.Put(program.Paths.IconsPath + "b.ics", "x");
   ResetLibrary(program);
   EXPECT_EQ(Unpacked(), std::vector<std::string>{"a.dat"});
 }
@@ -329,15 +329,15 @@ TEST_F(LibraryDesk, AResetPassesOverWhatIsHeldOpen) {
 TEST_F(LibraryDesk, AnotherDepthOrColourDropsTheDerivedFiles) {
   EXPECT_TRUE(CheckLibraryDisplay(program));
   EXPECT_EQ(world.Files.Get("C:\\Corvelle\\clrlib.dat")->size(), 16U);
-  world.Files.Put(program.IconsPath + "CAT0.ics", "x");
-  program.LibraryBuilt = true;
+  world.Files.Put(program.Paths.IconsPath + "CAT0.ics", "x");
+  program.Icons.LibraryBuilt = true;
   EXPECT_FALSE(CheckLibraryDisplay(program));
-  EXPECT_TRUE(program.LibraryBuilt);
-  EXPECT_TRUE(world.Files.Has(program.IconsPath + "CAT0.ics"));
+  EXPECT_TRUE(program.Icons.LibraryBuilt);
+  EXPECT_TRUE(world.Files.Has(program.Paths.IconsPath + "CAT0.ics"));
   world.System.Depth = 8;
   EXPECT_TRUE(CheckLibraryDisplay(program));
-  EXPECT_FALSE(program.LibraryBuilt);
-  EXPECT_FALSE(world.Files.Has(program.IconsPath + "CAT0.ics"));
+  EXPECT_FALSE(program.Icons.LibraryBuilt);
+  EXPECT_FALSE(world.Files.Has(program.Paths.IconsPath + "CAT0.ics"));
   EXPECT_FALSE(CheckLibraryDisplay(program));
 }
 

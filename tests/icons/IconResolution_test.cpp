@@ -32,9 +32,9 @@ class OneFolder final : public SpecialFoldersPort {
 class IconDesk : public ::testing::Test {
  protected:
   IconDesk() {
-    program.AppPath = "C:\\Corvelle\\";
-    program.IconsPath = "C:\\Corvelle\\Icons\\";
-    program.WebLinkIcon = "C:\\Corvelle\\httpicon.htm";
+    program.Paths.AppPath = "C:\\Corvelle\\";
+    program.Paths.IconsPath = "C:\\Corvelle\\Icons\\";
+    program.Icons.WebLinkIcon = "C:\\Corvelle\\httpicon.htm";
     world.Files.Put("C:\\Corvelle\\corvelle.exe", "x");
     world.Files.Put("C:\\Corvelle\\httpicon.htm", "x");
     Put(kFallback, 41, 1);
@@ -114,7 +114,7 @@ TEST_F(ResolveAndDrawTest, AMissingFileGivesTheBlankDocument) {
 }
 
 TEST_F(ResolveAndDrawTest, TheBlankDocumentComesFromTheShellWhereItDrawsIcons) {
-  program.ShellDrawsIcons = true;
+  program.Icons.ShellDrawsIcons = true;
   EXPECT_EQ(Drawn(""), System(41));
 }
 
@@ -146,7 +146,7 @@ TEST_F(ResolveAndDrawTest, IconsOfTheProgramMoveWithIt) {
 
 TEST_F(ResolveAndDrawTest, TheShellDrawsTheProgramsIconsWhereItShowsThem) {
   Put("C:\\Corvelle\\Icons\\x.ico", 50, 1);
-  program.ShellDrawsIcons = true;
+  program.Icons.ShellDrawsIcons = true;
   EXPECT_EQ(Drawn("\\icons\\x.ico"), System(50));
 }
 
@@ -237,7 +237,7 @@ TEST_F(ResolveAndDrawTest, SmallIconsAreSixteenPixelsAndAllOthersLarge) {
 
 TEST_F(ResolveAndDrawTest, IconFilesAreNotTakenApartWhereTheShellShowsThem) {
   EXPECT_TRUE(DrawIconFile(program, canvas, "C:\\Tools\\tool.exe", kAt, 16));
-  program.ShellDrawsIcons = true;
+  program.Icons.ShellDrawsIcons = true;
   Clear();
   EXPECT_FALSE(DrawIconFile(program, canvas, "C:\\Tools\\tool.exe", kAt, 16));
   EXPECT_EQ(canvas.PixelAt(kAt), kGround);
@@ -255,19 +255,19 @@ TEST_F(DetectShellIconsTest, TwoIconFilesTellWhateverTheRegistrySays) {
     for (const char* value : {"%1", "\"%1\"", "shell32.dll,1"}) {
       world.Keys.Set(RegistryRoot::ClassesRoot, "icofile\\DefaultIcon", "", value);
       Put("C:\\Corvelle\\Icons\\two.ico", row.second, 1);
-      program.ShellDrawsIcons = !row.expected;
+      program.Icons.ShellDrawsIcons = !row.expected;
       DetectShellIcons(program);
-      EXPECT_EQ(program.ShellDrawsIcons, row.expected) << row.name << ", " << value;
+      EXPECT_EQ(program.Icons.ShellDrawsIcons, row.expected) << row.name << ", " << value;
     }
   }
 }
 
 TEST_F(DetectShellIconsTest, NeedsNoMoreThanTheProgramsFolder) {
   // The start looks before the strip has set the other folders.
-  program.IconsPath.clear();
+  program.Paths.IconsPath.clear();
   Put("C:\\Corvelle\\Icons\\two.ico", 42, 1);
   DetectShellIcons(program);
-  EXPECT_TRUE(program.ShellDrawsIcons);
+  EXPECT_TRUE(program.Icons.ShellDrawsIcons);
 }
 
 TEST_F(DetectShellIconsTest, LooksAtTwoFilesAndNoMore) {
@@ -282,25 +282,25 @@ TEST_F(DetectShellIconsTest, LooksAtTwoFilesAndNoMore) {
 TEST_F(DetectShellIconsTest, AFolderIsNoIconFileWhateverItsName) {
   world.Files.MakeFolders("C:\\Corvelle\\Icons\\a.ico");
   DetectShellIcons(program);
-  EXPECT_FALSE(program.ShellDrawsIcons);
+  EXPECT_FALSE(program.Icons.ShellDrawsIcons);
 }
 
 TEST_F(DetectShellIconsTest, NeitherFolderNorTwoFilesMeansThatItDoesNot) {
-  program.ShellDrawsIcons = true;
+  program.Icons.ShellDrawsIcons = true;
   DetectShellIcons(program);
-  EXPECT_FALSE(program.ShellDrawsIcons) << "one icon file only";
-  program.ShellDrawsIcons = true;
+  EXPECT_FALSE(program.Icons.ShellDrawsIcons) << "one icon file only";
+  program.Icons.ShellDrawsIcons = true;
   world.Files.Vanish("C:\\Corvelle\\Icons");
   DetectShellIcons(program);
-  EXPECT_FALSE(program.ShellDrawsIcons) << "no folder";
+  EXPECT_FALSE(program.Icons.ShellDrawsIcons) << "no folder";
 }
 
 TEST_F(DetectShellIconsTest, AFolderThatCannotBeListedMeansThatItDoesNot) {
   Put("C:\\Corvelle\\Icons\\two.ico", 42, 1);
-  program.ShellDrawsIcons = true;
+  program.Icons.ShellDrawsIcons = true;
   world.Files.FailCall(1);
   DetectShellIcons(program);
-  EXPECT_FALSE(program.ShellDrawsIcons);
+  EXPECT_FALSE(program.Icons.ShellDrawsIcons);
 }
 
 }  // namespace corvelle

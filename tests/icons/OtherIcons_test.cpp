@@ -19,9 +19,9 @@ using Rows = std::vector<std::string>;
 class OthersDesk : public ::testing::Test {
  protected:
   OthersDesk() {
-    program.AppPath = "C:\\Corvelle\\";
-    program.IconsPath = "C:\\Corvelle\\Icons\\";
-    world.Files.MakeFolders(program.IconsPath);
+    program.Paths.AppPath = "C:\\Corvelle\\";
+    program.Paths.IconsPath = "C:\\Corvelle\\Icons\\";
+    world.Files.MakeFolders(program.Paths.IconsPath);
   }
 
   /// A program that is registered with this path, and holds so many icons.

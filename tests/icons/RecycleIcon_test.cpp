@@ -21,9 +21,9 @@ struct CheckRecycleIconTest : testing::Test {
   }
   /// Looks, and tells whether a change was noted.
   bool Look() {
-    program.RecycleIconChanged = false;
+    program.Icons.RecycleIconChanged = false;
     CheckRecycleIcon(program);
-    return program.RecycleIconChanged;
+    return program.Icons.RecycleIconChanged;
   }
 
   sim::World world;
@@ -35,7 +35,7 @@ struct CheckRecycleIconTest : testing::Test {
 TEST_F(CheckRecycleIconTest, TheFirstLookNotesTheIcon) {
   SetIcon(kEmptyBin);
   EXPECT_TRUE(Look());
-  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+  EXPECT_EQ(program.Icons.RecycleIconPath, kEmptyBin);
 }
 
 TEST_F(CheckRecycleIconTest, TheSameIconIsNoChange) {
@@ -49,10 +49,10 @@ TEST_F(CheckRecycleIconTest, FollowsTheBinWhenItFillsAndWhenItIsEmptied) {
   Look();
   SetIcon(kFullBin);
   EXPECT_TRUE(Look());
-  EXPECT_EQ(program.RecycleIconPath, kFullBin);
+  EXPECT_EQ(program.Icons.RecycleIconPath, kFullBin);
   SetIcon(kEmptyBin);
   EXPECT_TRUE(Look());
-  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+  EXPECT_EQ(program.Icons.RecycleIconPath, kEmptyBin);
 }
 
 TEST_F(CheckRecycleIconTest, FollowsTheCurrentUsersKeyBeforeThatOfAll) {
@@ -62,13 +62,13 @@ TEST_F(CheckRecycleIconTest, FollowsTheCurrentUsersKeyBeforeThatOfAll) {
   Look();
   world.Keys.Set(RegistryRoot::CurrentUser, users, {}, kFullBin);
   EXPECT_TRUE(Look());
-  EXPECT_EQ(program.RecycleIconPath, kFullBin);
+  EXPECT_EQ(program.Icons.RecycleIconPath, kFullBin);
   // The key of all users stays as it was installed.
   SetIcon("other.ico");
   EXPECT_FALSE(Look());
   world.Keys.Set(RegistryRoot::CurrentUser, users, {}, " ");
   EXPECT_TRUE(Look());
-  EXPECT_EQ(program.RecycleIconPath, "other.ico");
+  EXPECT_EQ(program.Icons.RecycleIconPath, "other.ico");
 }
 
 TEST_F(CheckRecycleIconTest, FollowsWhatTheShellDrawsThoughNoKeyChanges) {
@@ -78,18 +78,18 @@ TEST_F(CheckRecycleIconTest, FollowsWhatTheShellDrawsThoughNoKeyChanges) {
   EXPECT_FALSE(Look());
   world.Folders.SetSelf(10, {"Bin", 32});
   EXPECT_TRUE(Look());
-  EXPECT_EQ(program.RecycleIconIndex, 32);
-  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+  EXPECT_EQ(program.Icons.RecycleIconIndex, 32);
+  EXPECT_EQ(program.Icons.RecycleIconPath, kEmptyBin);
   world.Folders.Remove(10);
   EXPECT_FALSE(Look()) << "one that is not told";
-  EXPECT_EQ(program.RecycleIconIndex, 32);
+  EXPECT_EQ(program.Icons.RecycleIconIndex, 32);
 }
 
 TEST_F(CheckRecycleIconTest, AChangeThatNobodyLookedAtYetStays) {
   SetIcon(kEmptyBin);
   CheckRecycleIcon(program);
   CheckRecycleIcon(program);
-  EXPECT_TRUE(program.RecycleIconChanged);
+  EXPECT_TRUE(program.Icons.RecycleIconChanged);
 }
 
 TEST_F(CheckRecycleIconTest, BlanksAtTheEndsDoNotCount) {
@@ -97,7 +97,7 @@ TEST_F(CheckRecycleIconTest, BlanksAtTheEndsDoNotCount) {
   Look();
   SetIcon("  " + std::string(kEmptyBin) + " ");
   EXPECT_FALSE(Look());
-  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+  EXPECT_EQ(program.Icons.RecycleIconPath, kEmptyBin);
 }
 
 TEST_F(CheckRecycleIconTest, WhatIsMissingOrEmptyLeavesTheIconAsItWas) {
@@ -107,11 +107,11 @@ TEST_F(CheckRecycleIconTest, WhatIsMissingOrEmptyLeavesTheIconAsItWas) {
   for (const char* value : {"", "   "}) {
     SetIcon(value);
     EXPECT_FALSE(Look()) << '"' << value << '"';
-    EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+    EXPECT_EQ(program.Icons.RecycleIconPath, kEmptyBin);
   }
   world.Keys.Remove(RegistryRoot::ClassesRoot, kKey, {});
   EXPECT_FALSE(Look());
-  EXPECT_EQ(program.RecycleIconPath, kEmptyBin);
+  EXPECT_EQ(program.Icons.RecycleIconPath, kEmptyBin);
 }
 
 }  // namespace corvelle

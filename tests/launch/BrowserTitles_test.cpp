@@ -22,7 +22,7 @@ class TitleDesk : public testing::Test {
  protected:
   TitleDesk() {
     world.Files.MakeFolders("C:\\Corvelle");
-    program.AppPath = "C:\\Corvelle\\";
+    program.Paths.AppPath = "C:\\Corvelle\\";
     world.Associations.Set(".htm", "C:\\IE\\iexplore.exe");
   }
 

@@ -51,7 +51,7 @@ class BrowserDesk : public testing::Test {
   BrowserDesk() {
     world.Files.MakeFolders("C:\\Corvelle");
     for (const char* path : {kExplorer, kNetscape, kOther}) world.Files.Put(path, "x");
-    program.AppPath = "C:\\Corvelle\\";
+    program.Paths.AppPath = "C:\\Corvelle\\";
   }
 
   void SetKey(const char* key, const char* value) {

@@ -19,8 +19,8 @@ inline constexpr int kNo = forms::msgbox::AnswerNo;
 class BuiltInDesk : public ::testing::Test {
  protected:
   BuiltInDesk() {
-    program.AppPath = "C:\\Corvelle\\";
-    program.IconsPath = "C:\\Corvelle\\Icons\\";
+    program.Paths.AppPath = "C:\\Corvelle\\";
+    program.Paths.IconsPath = "C:\\Corvelle\\Icons\\";
     program.Ports.Toolbar = &toolbar;
     program.Ports.Startup = &startup;
     program.Ports.BuiltInCommands = &words;

@@ -91,7 +91,7 @@ TEST(GetFileTitle, AsksTheShellTheDiskAndTheOptions) {
   EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Plan.txt"), "Plan");
   EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Old.txt"), "Old.txt");
   EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Gone.txt"), "Gone");
-  program.OptionFlags.Set(10, '1');
+  program.OptionFlags.Set(Option::KeepExtension, '1');
   EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Plan.txt"), "Plan.txt");
 }
 

@@ -12,7 +12,7 @@ constexpr char kMissing[] = "Corvelle help file could not be found in Corvelle f
 
 class Help : public testing::Test {
  protected:
-  Help() { program.AppPath = "C:\\Corvelle\\"; }
+  Help() { program.Paths.AppPath = "C:\\Corvelle\\"; }
 
   void PutPages() {
     for (const char* name : {"index.html", "first-steps.html", "net-search.html"}) {

@@ -39,8 +39,8 @@ class BoxForm final : public forms::Form, public IconBoxPort {
 class LibraryDesk : public testing::Test {
  protected:
   explicit LibraryDesk(const sim::WorldOptions& options = {}) : world(options) {
-    program.AppPath = "C:\\Corvelle\\";
-    program.IconsPath = kIcons;
+    program.Paths.AppPath = "C:\\Corvelle\\";
+    program.Paths.IconsPath = kIcons;
     world.Files.MakeFolders(kIcons);
     PutIcon("anchor.ico");
     PutIcon("bell.ico");

@@ -17,9 +17,9 @@ using Rows = std::vector<std::string>;
 class OtherFilesDesk : public testing::Test {
  protected:
   OtherFilesDesk() {
-    program.AppPath = "C:\\Corvelle\\";
-    program.IconsPath = "C:\\Corvelle\\Icons\\";
-    world.Files.MakeFolders(program.IconsPath);
+    program.Paths.AppPath = "C:\\Corvelle\\";
+    program.Paths.IconsPath = "C:\\Corvelle\\Icons\\";
+    world.Files.MakeFolders(program.Paths.IconsPath);
     world.Files.Put(kTool, "x");
     world.Icons.SetIconCount(kTool, 3);
   }

@@ -35,7 +35,7 @@ TEST_F(LibraryDesk, OpensWithItsCategoriesAndAllIcons) {
   EXPECT_EQ(library.cmdOK.Caption(), "&OK");
   EXPECT_EQ(library.cmdCancel.Caption(), "&Cancel");
   EXPECT_TRUE(world.Files.Get(std::string(kIcons) + "CAT0.ics").has_value());
-  EXPECT_TRUE(program.LibraryBuilt);
+  EXPECT_TRUE(program.Icons.LibraryBuilt);
 }
 
 TEST_F(LibraryDesk, ACategoryShowsItsIconsWithoutGapsForBlankLines) {
@@ -478,7 +478,7 @@ TEST_F(LibraryDesk, RefreshResetsTheListsAndBuildsTheViewAgain) {
   EXPECT_FALSE(world.Files.Get(kOthers).has_value());
   EXPECT_EQ(library.List1.Selected(), 0);
   EXPECT_EQ(library.LibraryView.Captions().back(), "Zebra.ico");
-  EXPECT_TRUE(program.LibraryBuilt);
+  EXPECT_TRUE(program.Icons.LibraryBuilt);
 }
 
 TEST_F(LibraryDesk, OnceBuiltInARunThePreparedListIsRead) {
@@ -488,7 +488,7 @@ TEST_F(LibraryDesk, OnceBuiltInARunThePreparedListIsRead) {
   Open();
   EXPECT_EQ(library.LibraryView.Captions().size(), 3U);
   PressKey(Escape);
-  program.LibraryBuilt = false;  // another run
+  program.Icons.LibraryBuilt = false;  // another run
   Open();
   EXPECT_EQ(library.LibraryView.Captions().size(), 4U);
 }

@@ -150,7 +150,7 @@ class LongNames : public ::testing::TestWithParam<Script> {
  protected:
   LongNames() {
     // A right click shows the popup of the program, not that of the shell.
-    desk_.TheProgram.OptionFlags.Set(19, true);
+    desk_.TheProgram.OptionFlags.Set(Option::SystemPopupWithCtrl, true);
     desk_.TheProgram.Ports.SpecialFolders = &folders_;
     desk_.TheProgram.Ports.Popup = &popup_;
   }

@@ -51,7 +51,7 @@ class FolderDesk : public MenuDesk {
   }
   /// All records of the generated file.
   std::vector<MenuRecord> Generated(int number = 1) {
-    std::string name = TheProgram.MenusPath + MenuFileName(number);
+    std::string name = TheProgram.Paths.MenusPath + MenuFileName(number);
     name.replace(name.size() - 3, 3, "mfd");
     if (!World.Files.Has(name)) return {};
     return ReadAllRecords(World.Files, World.Ansi, name).ValueOr({});

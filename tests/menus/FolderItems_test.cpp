@@ -86,7 +86,7 @@ TEST(FolderItems, OneInTheLastRecordEndsTheMenu) {
 
 TEST(FolderItems, TheHeaderIsNoneWhateverItHolds) {
   FolderDesk desk;
-  desk.World.Files.Put(desk.TheProgram.MenusPath + "BMENU001.MNU",
+  desk.World.Files.Put(desk.TheProgram.Paths.MenusPath + "BMENU001.MNU",
                        FormatRecord(Item("Button", "", "C:\\Docs\\*.*"), desk.World.Ansi) +
                            FormatRecord(Item("Only"), desk.World.Ansi));
   desk.Reopen(1);
@@ -326,7 +326,7 @@ TEST(FolderItems, AnEditGoesToTheMenuFileItself) {
     EntryEdit Seen;
   } popup;
   desk.TheProgram.Ports.Popup = &popup;
-  desk.TheProgram.OptionFlags.Set(19, '1');
+  desk.TheProgram.OptionFlags.Set(Option::SystemPopupWithCtrl, '1');
   desk.PointAtItem(4);
   desk.World.Desktop.Click(forms::MouseButton::Right);
   EXPECT_EQ(popup.Shown, 1);

@@ -62,14 +62,14 @@ class TenThousandFiles : public ::testing::Test {
     int wanted = 2 * kFiles / 5 + 1;
     for (const char letter : {'c', 'c'}) {
       desktop.Type(std::string(1, letter));
-      EXPECT_EQ(desk_.TheProgram.SelectedItem, wanted++);
-      EXPECT_EQ(desk_.Menu.Lbl[desk_.TheProgram.SelectedItem].Caption()[0], letter);
+      EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, wanted++);
+      EXPECT_EQ(desk_.Menu.Lbl[desk_.TheProgram.Menu.SelectedItem].Caption()[0], letter);
       EXPECT_TRUE(PageIsRight());
     }
     // Past the last letter the search begins again.
     desktop.PressKey(forms::key::End);
     desktop.Type("a");
-    EXPECT_EQ(desk_.TheProgram.SelectedItem, 1);
+    EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 1);
     // No page asked the disk for anything, and each asked for the icons of its own items.
     EXPECT_EQ(DiskCalls(), 0);
     EXPECT_LE(desk_.World.Icons.Lookups(), 8 * ItemsOfPage());

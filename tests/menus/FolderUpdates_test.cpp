@@ -204,7 +204,7 @@ TEST(FolderFailures, AGeneratedFileThatCannotBeWrittenIsMissingAndTheMenuIsWhole
   EXPECT_EQ(desk.Captions(), (Strings{"Alpha.txt", "beta.txt", "gamma.doc", "b"}));
   EXPECT_EQ(desk.Numbers(), (std::vector<int>{5002, 5002, 5002, 3}));
   EXPECT_TRUE(desk.Generated().empty());
-  EXPECT_FALSE(desk.TheProgram.MenuBuilding);
+  EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding);
 }
 
 TEST(FolderFailures, AGeneratedFileThatIsHeldOpenStaysAndTheFolderOpens) {
@@ -284,7 +284,7 @@ TEST(FolderFailures, WhicheverCallFailsTheMenuFileStaysAndTheMenuOpens) {
       const bool hit = desk.World.Files.Hit();
       EXPECT_EQ(desk.World.Files.Get(file), before) << "failing call " << calls;
       EXPECT_TRUE(desk.Menu.MenuVisible()) << "failing call " << calls;
-      EXPECT_FALSE(desk.TheProgram.MenuBuilding) << "failing call " << calls;
+      EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding) << "failing call " << calls;
       for (const int number : desk.Numbers()) {
         EXPECT_TRUE((std::set<int>{2, 3, 4, 5003, 5004}.contains(number))) << number;
       }

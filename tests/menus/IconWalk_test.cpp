@@ -120,7 +120,7 @@ TEST_F(Fetched, AFolderThatCannotBeListedHoldsTheOthersUpByNothing) {
     desk_.World.Files.FailCall(call, FileError::AccessDenied);
     desk_.Menu.InitIcons();
     desk_.World.Files.StopFailing();
-    EXPECT_FALSE(desk_.TheProgram.IconsLoading) << call;
+    EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading) << call;
   }
   desk_.World.Files.Vanish("C:\\Docs");
   desk_.Menu.ResetPicIcons();
@@ -152,10 +152,10 @@ TEST_F(Fetched, LargeOnesAreThoseOfTheButtonsAndEachIsAskedForOnce) {
   put(1, "C:\\Tools\\tool.exe");
   put(2, "c:\\tools\\TOOL.exe");
   put(3, "Button");
-  desk_.TheProgram.IconSize = 16;
+  desk_.TheProgram.Icons.IconSize = 16;
   Fetch();
   EXPECT_EQ(Large(), Strings{});
-  desk_.TheProgram.IconSize = 32;
+  desk_.TheProgram.Icons.IconSize = 32;
   Fetch();
   ASSERT_EQ(Large().size(), 1U);
   EXPECT_TRUE(EqualNoCase(Large()[0], "C:\\Tools\\tool.exe"));
@@ -166,17 +166,17 @@ TEST_F(Fetched, LargeOnesAreThoseOfTheButtonsAndEachIsAskedForOnce) {
 TEST_F(Fetched, NoMenuComesUpMeanwhileUnlessTheStripIsAway) {
   desk_.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*")});
   for (const bool away : {false, true}) {
-    desk_.TheProgram.ToolbarMinimized = away;
+    desk_.TheProgram.Strip.ToolbarMinimized = away;
     desk_.Menu.ResetPicIcons();
     int asked = 0;
     desk_.World.Icons.WhileAsked([&] {
       ++asked;
-      EXPECT_EQ(desk_.TheProgram.IconsLoading, !away);
+      EXPECT_EQ(desk_.TheProgram.Guards.IconsLoading, !away);
       EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Hourglass);
     });
     Fetch();
     EXPECT_GT(asked, 3);
-    EXPECT_FALSE(desk_.TheProgram.IconsLoading);
+    EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading);
     EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
     desk_.World.Icons.WhileAsked({});
   }
@@ -189,7 +189,7 @@ TEST_F(Fetched, F5FetchesTheIconsOfTheOpenMenuOnly) {
   desk_.Menu.RefreshQMenu();
   EXPECT_EQ(Times("C:\\Docs\\Alpha.txt"), 1);
   EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 0);
-  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
+  EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading);
 }
 
 TEST_F(Fetched, TheProgramsOwnMenuIsWrittenAnewBeforeItsIconsAre) {
@@ -223,7 +223,7 @@ TEST_F(Fetched, AllIconsOfMenusAndLinksAreThereBeforehand) {
 TEST_F(Fetched, WithoutFoldersNoHarmIsDone) {
   desk_.World.Files.Vanish("C:\\Corvelle\\Menus");
   Fetch();
-  EXPECT_FALSE(desk_.TheProgram.IconsLoading);
+  EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading);
 }
 
 }  // namespace

@@ -23,11 +23,11 @@ class NotedEdge final : public DockingPort {
   void RegisterAppBar() override {}
   void RemoveAppBar() override {}
   void EndAppBar() override { Asked.emplace_back("EndAppBar"); }
-  bool AutoHideFree(std::string_view) override { return Free; }
-  void SetAppBar(std::string_view edge, bool rebuild) override {
+  bool AutoHideFree(Edge) override { return Free; }
+  void SetAppBar(std::optional<Edge> edge, bool rebuild) override {
     Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " anew" : ""));
-    program_.AppBarDocked = true;
-    program_.ToolbarEdge = edge;
+    program_.Strip.AppBarDocked = true;
+    program_.Strip.ToolbarEdge = edge;
   }
   void RevealToolbar() override {}
   void HideToolbar() override {}
@@ -50,13 +50,13 @@ class NotedCompanion final : public MinimizePort {
   bool WindowLoaded() const override { return true; }
   void ShowInSysTray() override {}
   void ActivateSysTray() override {
-    program_.NotOnTop = true;
-    program_.OptionFlags.Set(23, true);
+    program_.Strip.NotOnTop = true;
+    program_.OptionFlags.Set(Option::NotOnTop, true);
   }
   void DeActivateSysTray() override {
     Asked.emplace_back("DeActivateSysTray");
-    program_.NotOnTop = false;
-    program_.OptionFlags.Set(23, false);
+    program_.Strip.NotOnTop = false;
+    program_.OptionFlags.Set(Option::NotOnTop, false);
   }
   void MinimizeFor(const TwipRect& strip) override { TookPlace = strip; }
 
@@ -85,12 +85,12 @@ class NotedPicture final : public CapturePort {
   bool MenuCaptured() const override { return false; }
   // A change of mode that runs already takes none.
   void SetPicture1() override {
-    if (!program_.ChangingMode) asked_.emplace_back("SetPicture1");
+    if (!program_.Guards.ChangingMode) asked_.emplace_back("SetPicture1");
   }
   void ResetPicture1() override { asked_.emplace_back("ResetPicture1"); }
-  void SetPosition(std::string_view) override {}
+  void SetPosition(Edge) override {}
   void ClearBg() override {}
-  std::string OutlineEdge() const override { return {}; }
+  std::optional<Edge> OutlineEdge() const override { return {}; }
 
  private:
   const Program& program_;
@@ -104,11 +104,11 @@ class MainMenuTest : public testing::Test {
     program.Ports.Docking = &edge;
     program.Ports.Minimize = &companion;
     program.Ports.Capture = &still;
-    program.OptionFlags.Set(2, true);
+    program.OptionFlags.Set(Option::DefaultEntriesOffered, true);
   }
 
   void Open() {
-    const auto file = WriteMainMenuFile(desk.World.Files, desk.World.Ansi, program.AppPath);
+    const auto file = WriteMainMenuFile(desk.World.Files, desk.World.Ansi, program.Paths.AppPath);
     ASSERT_TRUE(file);
     desk.Menu.ShowMenu("Q1", *file);
     desk.World.Desktop.Pump();
@@ -135,7 +135,7 @@ class MainMenuTest : public testing::Test {
     return count;
   }
   std::string SavedFlags() {
-    return desk.World.Files.Get(program.AppPath + "tmenu425.dat").value_or("none");
+    return desk.World.Files.Get(program.Paths.AppPath + "tmenu425.dat").value_or("none");
   }
 
   MenuDesk desk;
@@ -162,9 +162,9 @@ TEST_F(MainMenuTest, MarksFollowTheOptionsAtEachOpening) {
     EXPECT_EQ(Ink(label), 0) << label;
     EXPECT_EQ(desk.Menu.Lbl[label].Tag, std::string(1, '\0'));
   }
-  program.OptionFlags.Set(26, true);
-  program.AutoHide = true;
-  program.NotOnTop = true;
+  program.OptionFlags.Set(Option::LargeIcons, true);
+  program.Strip.AutoHide = true;
+  program.Strip.NotOnTop = true;
   desk.Menu.HideMenu();
   Open();
   for (const int label : kMarkedLabels) {
@@ -172,7 +172,7 @@ TEST_F(MainMenuTest, MarksFollowTheOptionsAtEachOpening) {
     EXPECT_GT(Ink(label), 20) << label;
     EXPECT_EQ(desk.Menu.Lbl[label].Tag, std::string("\0xCircle\0", 9));
   }
-  program.OptionFlags.Set(26, false);
+  program.OptionFlags.Set(Option::LargeIcons, false);
   desk.Menu.HideMenu();
   Open();
   EXPECT_EQ(Ink(kLargeIconsLabel), 0);
@@ -185,7 +185,7 @@ TEST_F(MainMenuTest, AFloatingStripHasNoUseForRestoreAndADockedOneNoneForMaximiz
   EXPECT_TRUE(Enabled(kMaximizeLabel));
   EXPECT_TRUE(Enabled(kMinimizeLabel));
   desk.Menu.HideMenu();
-  program.AppBarDocked = true;
+  program.Strip.AppBarDocked = true;
   Open();
   EXPECT_TRUE(Enabled(kRestoreLabel));
   EXPECT_FALSE(Enabled(kMaximizeLabel));
@@ -195,11 +195,11 @@ TEST_F(MainMenuTest, AFloatingStripHasNoUseForRestoreAndADockedOneNoneForMaximiz
 
 TEST_F(MainMenuTest, AMenuThatIsCheckedAgainEnablesWhatIsOfUseNow) {
   Open();
-  program.AppBarDocked = true;
+  program.Strip.AppBarDocked = true;
   mainMenu.CheckLabels();
   EXPECT_TRUE(Enabled(kRestoreLabel));
   EXPECT_FALSE(Enabled(kMaximizeLabel));
-  program.AppBarDocked = false;
+  program.Strip.AppBarDocked = false;
   mainMenu.CheckLabels();
   EXPECT_FALSE(Enabled(kRestoreLabel));
   EXPECT_TRUE(Enabled(kMaximizeLabel));
@@ -226,7 +226,7 @@ TEST_F(MainMenuTest, TheMenuIsGoneAndEventsHaveRunBeforeAChoiceIsCarriedOut) {
 
 TEST_F(MainMenuTest, ADisabledChoiceDoesNothing) {
   Choose("Restore");
-  program.AppBarDocked = true;
+  program.Strip.AppBarDocked = true;
   Choose("Maximize");
   EXPECT_EQ(desk.Strip.Times("RestoreToolbar"), 0);
   EXPECT_EQ(edge.Asked, Texts{});
@@ -244,10 +244,10 @@ TEST_F(MainMenuTest, ANameStandsForTheItemsCaptionAndAnUnknownOneForNothing) {
   // Without a text it is the selected item, and there is none.
   mainMenu.xMainMenu(7, "");
   EXPECT_EQ(about.Loads, 2);
-  program.SelectedItem = 7;
+  program.Menu.SelectedItem = 7;
   mainMenu.xMainMenu(7, "");
   EXPECT_EQ(about.Loads, 3);
-  EXPECT_EQ(program.SelectedItem, 0);
+  EXPECT_EQ(program.Menu.SelectedItem, 0);
   EXPECT_FALSE(desk.Menu.MenuVisible());
 }
 
@@ -261,25 +261,25 @@ TEST_F(MainMenuTest, CustomizeAndAboutAreQuietWhereThereAreNone) {
 }
 
 TEST_F(MainMenuTest, LargeIconsOnAVerticalStripRebuildsTheButtonsAtOnce) {
-  program.AppBarDocked = true;
-  program.ToolbarVertical = true;
-  program.ToolbarEdge = "LEFT";
+  program.Strip.AppBarDocked = true;
+  program.Strip.ToolbarVertical = true;
+  program.Strip.ToolbarEdge = Edge::Left;
   Choose("Large Icons");
-  EXPECT_TRUE(program.OptionFlags.Is(26));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::LargeIcons));
   EXPECT_EQ(SavedFlags()[25], '1');
   EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 1);
   EXPECT_EQ(desk.Strip.Times("UnloadItems"), 0);
   EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
-  desk.Strip.WhileRebuilding = [this] { EXPECT_TRUE(program.ChangingMode); };
+  desk.Strip.WhileRebuilding = [this] { EXPECT_TRUE(program.Guards.ChangingMode); };
   Choose("Large Icons");
   EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 2);
   EXPECT_EQ(SavedFlags()[25], '0');
-  EXPECT_FALSE(program.ChangingMode);
+  EXPECT_FALSE(program.Guards.ChangingMode);
 }
 
 TEST_F(MainMenuTest, LargeIconsElsewhereUnloadsAndBuildsAnewAndTakesTheEdgeAgain) {
   Choose("Large Icons");
-  EXPECT_TRUE(program.OptionFlags.Is(26));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::LargeIcons));
   EXPECT_EQ(desk.Strip.Times("UnloadItems"), 1);
   EXPECT_EQ(desk.Strip.Times("InitButtons"), 1);
   EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 0);
@@ -287,19 +287,19 @@ TEST_F(MainMenuTest, LargeIconsElsewhereUnloadsAndBuildsAnewAndTakesTheEdgeAgain
   EXPECT_TRUE(IsBehindAPicture("InitButtons"));
   EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
   EXPECT_EQ(edge.Asked, Texts{});
-  program.AppBarDocked = true;
-  program.ToolbarEdge = "BOTTOM";
+  program.Strip.AppBarDocked = true;
+  program.Strip.ToolbarEdge = Edge::Bottom;
   Choose("Large Icons");
   EXPECT_EQ(edge.Asked, Texts{"SetAppBar BOTTOM"});
   EXPECT_EQ(SavedFlags()[25], '0');
 }
 
 TEST_F(MainMenuTest, AutoHideDocksAFloatingStripAndPutsItOnTop) {
-  program.NotOnTop = true;
-  program.OptionFlags.Set(23, true);
+  program.Strip.NotOnTop = true;
+  program.OptionFlags.Set(Option::NotOnTop, true);
   Choose("Auto Hide");
-  EXPECT_TRUE(program.AutoHide);
-  EXPECT_FALSE(program.NotOnTop);
+  EXPECT_TRUE(program.Strip.AutoHide);
+  EXPECT_FALSE(program.Strip.NotOnTop);
   EXPECT_EQ(edge.Asked, Texts{"SetAppBar TOP anew"});
   EXPECT_EQ(SavedFlags()[2], '1');
   EXPECT_EQ(SavedFlags()[22], '0');
@@ -308,39 +308,39 @@ TEST_F(MainMenuTest, AutoHideDocksAFloatingStripAndPutsItOnTop) {
   EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
   EXPECT_EQ(desk.Strip.Watches, (std::vector<bool>{false, true}));
   Choose("Auto Hide");
-  EXPECT_FALSE(program.AutoHide);
+  EXPECT_FALSE(program.Strip.AutoHide);
   EXPECT_EQ(SavedFlags()[2], '0');
-  EXPECT_FALSE(program.ChangingMode);
+  EXPECT_FALSE(program.Guards.ChangingMode);
 }
 
 TEST_F(MainMenuTest, AutoHideAtATakenEdgeChangesNothing) {
   edge.Free = false;
   Choose("Auto Hide");
-  EXPECT_FALSE(program.AutoHide);
-  EXPECT_FALSE(program.OptionFlags.Is(3));
+  EXPECT_FALSE(program.Strip.AutoHide);
+  EXPECT_FALSE(program.OptionFlags.Is(Option::AutoHide));
   EXPECT_EQ(edge.Asked, Texts{});
   EXPECT_EQ(SavedFlags(), "none");
 }
 
 TEST_F(MainMenuTest, NotOnTopIsSwitchedByTheCompanionAndSaved) {
   Choose("Not On Top");
-  EXPECT_TRUE(program.NotOnTop);
+  EXPECT_TRUE(program.Strip.NotOnTop);
   EXPECT_EQ(SavedFlags()[22], '1');
   EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 2);
   Choose("Not On Top");
-  EXPECT_FALSE(program.NotOnTop);
+  EXPECT_FALSE(program.Strip.NotOnTop);
   EXPECT_EQ(SavedFlags()[22], '0');
 }
 
 TEST_F(MainMenuTest, NoChangeOfModeBeginsInsideAnother) {
   const forms::TimerId timer = desk.World.Desktop.StartTimer(1, [this] { Choose("Large Icons"); });
-  program.ChangingMode = true;
+  program.Guards.ChangingMode = true;
   desk.World.Desktop.Advance(20);
-  EXPECT_FALSE(program.OptionFlags.Is(26));
+  EXPECT_FALSE(program.OptionFlags.Is(Option::LargeIcons));
   EXPECT_EQ(desk.Strip.Times("InitButtons"), 0);
   Choose("Refresh All");
   EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 0);
-  program.ChangingMode = false;
+  program.Guards.ChangingMode = false;
   desk.World.Desktop.Advance(1);
   EXPECT_EQ(desk.Strip.Times("InitButtons"), 1);
   desk.World.Desktop.StopTimer(timer);
@@ -357,21 +357,23 @@ TEST_F(MainMenuTest, RefreshAllReadsTheStripAnew) {
 }
 
 TEST_F(MainMenuTest, RestoreClearsTheEdgeAndTheLargeIconsThatTheTopIsNotToHave) {
-  program.AppBarDocked = true;
-  for (const int position : {14, 26}) program.OptionFlags.Set(position, true);
+  program.Strip.AppBarDocked = true;
+  for (const Option option : {Option::AtEdge, Option::LargeIcons})
+    program.OptionFlags.Set(option, true);
   Choose("Restore");
-  EXPECT_FALSE(program.OptionFlags.Is(14));
-  EXPECT_FALSE(program.OptionFlags.Is(26));
+  EXPECT_FALSE(program.OptionFlags.Is(Option::AtEdge));
+  EXPECT_FALSE(program.OptionFlags.Is(Option::LargeIcons));
   EXPECT_EQ(desk.Strip.Times("RestoreToolbar"), 1);
   EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
-  for (const int position : {25, 26}) program.OptionFlags.Set(position, true);
+  for (const Option option : {Option::LargeInRestoreMode, Option::LargeIcons})
+    program.OptionFlags.Set(option, true);
   Choose("Restore");
-  EXPECT_TRUE(program.OptionFlags.Is(26));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::LargeIcons));
 }
 
 TEST_F(MainMenuTest, MaximizeTakesTheStoredEdge) {
-  program.OptionFlags.Set(15, true);
-  program.OptionFlags.Set(16, true);
+  program.OptionFlags.Set(Option::EdgeCodeFirst, true);
+  program.OptionFlags.Set(Option::EdgeCodeSecond, true);
   Choose("Maximize");
   EXPECT_EQ(edge.Asked, Texts{"SetAppBar RIGHT anew"});
   EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
@@ -393,7 +395,7 @@ TEST_F(MainMenuTest, HelpTopicsWithoutTheFileSaysSoAndStartsNothing) {
 }
 
 TEST_F(MainMenuTest, HelpTopicsStartsTheFileUnlessItsWindowIsOpen) {
-  const std::string help = program.AppPath + "corvelle.hlp";
+  const std::string help = program.Paths.AppPath + "corvelle.hlp";
   desk.World.Files.Put(help, "x");
   desk.World.Shell.Associate(".hlp", "C:\\Windows\\winhlp32.exe");
   const WindowId window = desk.World.Desktop.AddOtherWindow({.Title = "Corvelle Help"});
@@ -420,7 +422,7 @@ TEST_F(MainMenuTest, WithoutEdgeAndCompanionTheirChoicesDoNothing) {
   program.Ports.Minimize = nullptr;
   for (const char* text : {"Auto Hide", "Not On Top", "Maximize", "Minimize"}) Choose(text);
   EXPECT_EQ(SavedFlags(), "none");
-  EXPECT_FALSE(program.ToolbarMinimized);
+  EXPECT_FALSE(program.Strip.ToolbarMinimized);
   EXPECT_EQ(desk.Strip.Times("HideWindow"), 0);
 }
 

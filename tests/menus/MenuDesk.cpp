@@ -28,10 +28,10 @@ MenuDesk::MenuDesk(const sim::WorldOptions& options, ShellExec* shell)
       TheProgram(Services(shell), World.Windows()),
       Menu(TheProgram),
       Strip(TheProgram, Menu) {
-  TheProgram.AppPath = "C:\\Corvelle\\";
-  TheProgram.MenusPath = "C:\\Corvelle\\Menus\\";
-  TheProgram.IconsPath = "C:\\Corvelle\\Icons\\";
-  TheProgram.ShellLinkPath = "C:\\Corvelle\\ShellLink\\";
+  TheProgram.Paths.AppPath = "C:\\Corvelle\\";
+  TheProgram.Paths.MenusPath = "C:\\Corvelle\\Menus\\";
+  TheProgram.Paths.IconsPath = "C:\\Corvelle\\Icons\\";
+  TheProgram.Paths.ShellLinkPath = "C:\\Corvelle\\ShellLink\\";
   TheProgram.Ports.Toolbar = &Strip;
   TheProgram.Ports.QMenu = &Menu;
   World.Files.MakeFolders("C:\\Corvelle\\Menus");
@@ -53,7 +53,7 @@ Platform MenuDesk::Services(ShellExec* shell) { return World.Services(shell); }
 std::string MenuDesk::PutMenu(int number, const std::vector<MenuRecord>& items) {
   std::string bytes = FormatRecord(Item("Button", "Button", ""), World.Ansi);
   for (const MenuRecord& item : items) bytes += FormatRecord(item, World.Ansi);
-  std::string path = TheProgram.MenusPath + MenuFileName(number);
+  std::string path = TheProgram.Paths.MenusPath + MenuFileName(number);
   World.Files.Put(path, bytes);
   return path;
 }
@@ -66,7 +66,7 @@ void MenuDesk::Open(int number, const std::vector<MenuRecord>& items) {
 void MenuDesk::Reopen(int number) {
   const std::string button = std::to_string(number + 1);
   Menu.SetOwnerTag(button);
-  Menu.ShowMenu("F" + button, TheProgram.MenusPath + MenuFileName(number));
+  Menu.ShowMenu("F" + button, TheProgram.Paths.MenusPath + MenuFileName(number));
   World.Desktop.Pump();
 }
 

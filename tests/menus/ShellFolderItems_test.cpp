@@ -106,7 +106,7 @@ TEST_F(ShellFolderItems, TheDesktopIsBuiltAnewOnlyWhenTheBinsIconChanged) {
   desk_.OpenAgain();
   EXPECT_EQ(desk_.Captions(), (Strings{"Bin", "My Computer", "New"}));
   EXPECT_EQ(desk_.Menu.GetIconName(1), "32");
-  EXPECT_FALSE(desk_.TheProgram.RecycleIconChanged);
+  EXPECT_FALSE(desk_.TheProgram.Icons.RecycleIconChanged);
   desk_.World.Files.ClearLog();
   desk_.OpenAgain();
   EXPECT_TRUE(desk_.World.Files.Log().empty());
@@ -142,28 +142,28 @@ TEST_F(ShellFolderItems, AChangeOfTheBinReachesEachMenuOfTheDesktop) {
 
 TEST_F(ShellFolderItems, AChangeThatWasNotedElsewhereIsTakenUp) {
   desk_.OpenCommands({"CSIDL_DESKTOP"});
-  desk_.TheProgram.RecycleIconChanged = true;
+  desk_.TheProgram.Icons.RecycleIconChanged = true;
   desk_.World.Files.ClearLog();
   desk_.OpenAgain();
   EXPECT_GT(desk_.Built(), 0);
-  EXPECT_FALSE(desk_.TheProgram.RecycleIconChanged);
+  EXPECT_FALSE(desk_.TheProgram.Icons.RecycleIconChanged);
 }
 
 TEST_F(ShellFolderItems, TheBinIsNotLookedAtForOtherFolders) {
   desk_.SetBin("empty.ico");
   desk_.OpenCommands({"CSIDL_DRIVES"});
   desk_.SetBin("full.ico");
-  desk_.TheProgram.RecycleIconChanged = true;
+  desk_.TheProgram.Icons.RecycleIconChanged = true;
   desk_.World.Files.ClearLog();
   desk_.OpenAgain();
   EXPECT_EQ(desk_.Built(), 0);
-  EXPECT_TRUE(desk_.TheProgram.RecycleIconChanged);
-  EXPECT_EQ(desk_.TheProgram.RecycleIconPath, "");
+  EXPECT_TRUE(desk_.TheProgram.Icons.RecycleIconChanged);
+  EXPECT_EQ(desk_.TheProgram.Icons.RecycleIconPath, "");
 }
 
 TEST_F(ShellFolderItems, ARightClickNamesTheEntryByItsTitle) {
   desk_.OpenCommands({"CSIDL_DRIVES/u"});
-  desk_.TheProgram.OptionFlags.Set(19, '1');
+  desk_.TheProgram.OptionFlags.Set(Option::SystemPopupWithCtrl, '1');
   struct Popup final : PopupPort {
     void ShowToolbarPopup(EntryEdit entry) override { Seen = std::move(entry); }
     EntryEdit Seen;

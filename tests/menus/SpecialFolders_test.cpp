@@ -245,7 +245,7 @@ TEST(ShellMenu, WithoutAChoiceTheMenuAndItsSelectionStay) {
   desk.PointAway();
   desk.Poll();
   EXPECT_TRUE(desk.Menu.MenuVisible());
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
   EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "Alpha");
   EXPECT_EQ(desk.TheProgram.Entry.CurCommand, "C:\\Tools\\tool.exe");
 }
@@ -286,7 +286,7 @@ TEST(ShellMenu, TheOptionAndCtrlDecideWhichMenuComesUp) {
   for (const bool popupFirst : {false, true}) {
     for (const bool ctrl : {false, true}) {
       RightClickDesk desk;
-      desk.TheProgram.OptionFlags.Set(19, popupFirst);
+      desk.TheProgram.OptionFlags.Set(Option::SystemPopupWithCtrl, popupFirst);
       const bool popup = popupFirst != ctrl;
       if (!popup) desk.World.Folders.Dismiss();
       if (ctrl) desk.World.Desktop.KeyDown(kCtrl);

@@ -86,7 +86,7 @@ TEST(frmQMenuShowMenu, AKeyWithoutANumberOrAnEmptyFileShowsNothing) {
 
 TEST(frmQMenuShowMenu, NothingOpensWhileTheIconsAreReadAnew) {
   MenuDesk desk;
-  desk.TheProgram.IconsLoading = true;
+  desk.TheProgram.Guards.IconsLoading = true;
   desk.Open(1, {Item("A")});
   EXPECT_FALSE(desk.Menu.MenuVisible());
 }
@@ -142,9 +142,9 @@ TEST(frmQMenuShowMenu, ASeparatorAtTheTopDrawsNothingButMarksTheFirstItem) {
   EXPECT_EQ(desk.Menu.Lbl[1].Tag[0], 's');
   EXPECT_EQ(desk.Menu.Lbl[2].Tag[0], 'n');
   static_cast<void>(desk.Menu.GetExeName(1));
-  EXPECT_TRUE(desk.TheProgram.ItemHasSeparator);
+  EXPECT_TRUE(desk.TheProgram.Menu.ItemHasSeparator);
   static_cast<void>(desk.Menu.GetExeName(2));
-  EXPECT_FALSE(desk.TheProgram.ItemHasSeparator);
+  EXPECT_FALSE(desk.TheProgram.Menu.ItemHasSeparator);
   for (int y = 0; y < 6; ++y) {
     EXPECT_EQ(desk.PixelInside(60, y), desk.SystemColour(forms::color::ButtonFace)) << y;
   }
@@ -268,7 +268,7 @@ TEST(frmQMenuResetQMenu, EmptiesTheWindow) {
   EXPECT_FALSE(desk.Menu.Timer1.Enabled());
   EXPECT_EQ(desk.Menu.Labels, 0);
   EXPECT_EQ(desk.Menu.Slides, 0);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   for (const forms::Graphic* graphic : desk.Menu.Graphics()) {
     EXPECT_FALSE(graphic->Visible()) << graphic->Name();
   }
@@ -285,7 +285,7 @@ TEST(frmQMenuBuildGuard, TheFlagIsClearedHoweverTheBuildEnds) {
     desk.PutMenu(1, Items(3));
     desk.World.Files.FailFrom(1, row.error);
     desk.Reopen(1);
-    EXPECT_FALSE(desk.TheProgram.MenuBuilding) << row.name;
+    EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding) << row.name;
     EXPECT_EQ(desk.Menu.Labels, 0) << row.name;
     EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default) << row.name;
   }
@@ -319,16 +319,16 @@ TEST(frmQMenuBuildGuard, AMoveInsideTheBuildSelectsNothing) {
   desk.TheProgram.Ports.FolderMenus = &folders;
   const PixelPoint second = desk.ItemPoint(2);
   folders.While = [&] {
-    EXPECT_TRUE(desk.TheProgram.MenuBuilding);
+    EXPECT_TRUE(desk.TheProgram.Guards.MenuBuilding);
     desk.Menu.Form_MouseMove(forms::MouseButton::None, {}, 400, 400);
     desk.PointAt(second);
-    EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   };
   desk.Menu.HideMenu();
   desk.Menu.ForgetMenu("F2");
   desk.Reopen(1);
   EXPECT_EQ(folders.Expanded, 1);
-  EXPECT_FALSE(desk.TheProgram.MenuBuilding);
+  EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding);
   EXPECT_EQ(desk.Menu.Labels, 5);
 }
 
@@ -426,7 +426,7 @@ TEST(frmQMenuDamage, DamagedFilesOpenAsWhatCanBeReadOfThem) {
     desk.Reopen(1);
     EXPECT_TRUE(desk.Menu.MenuVisible()) << row.name;
     EXPECT_EQ(desk.Menu.Labels, row.labels) << row.name;
-    EXPECT_FALSE(desk.TheProgram.MenuBuilding) << row.name;
+    EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding) << row.name;
   }
 }
 

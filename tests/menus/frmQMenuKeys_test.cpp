@@ -19,7 +19,7 @@ class PagedMenu : public ::testing::Test {
     ASSERT_EQ(desk_.Menu.Slides, 2);
   }
   void Key(int key) { desk_.World.Desktop.PressKey(key); }
-  int Selected() const { return desk_.TheProgram.SelectedItem; }
+  int Selected() const { return desk_.TheProgram.Menu.SelectedItem; }
 
   MenuDesk desk_;
 };
@@ -39,7 +39,7 @@ TEST(frmQMenuKeys, DownAndUpWalkAndWrapInsideThePage) {
   };
   for (const Row& row : rows) {
     desk.World.Desktop.PressKey(row.key);
-    EXPECT_EQ(desk.TheProgram.SelectedItem, row.selected) << row.name;
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, row.selected) << row.name;
     EXPECT_EQ(desk.BarredItem(), row.selected) << row.name;
     EXPECT_EQ(desk.Menu.Lbl[row.selected].ForeColor(), forms::color::HighlightText) << row.name;
   }
@@ -80,24 +80,24 @@ TEST(frmQMenuKeys, LeftAndRightGoToTheStrip) {
   desk.World.Desktop.PressKey(forms::key::Right);
   EXPECT_EQ(desk.Strip.Times("ActivateKeyDown 37"), 1);
   EXPECT_EQ(desk.Strip.Times("ActivateKeyDown 39"), 1);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
 }
 
 TEST(frmQMenuKeys, AKeyOfTheStripStartsFromTheTop) {
   MenuDesk desk;
   desk.Open(1, Items(3));
-  desk.TheProgram.KeyboardOnToolbar = true;
+  desk.TheProgram.Menu.KeyboardOnToolbar = true;
   desk.World.Desktop.PressKey(forms::key::Down);
   desk.World.Desktop.PressKey(forms::key::Down);
   desk.World.Desktop.TakeForeground(desk.Strip.hWnd());
   desk.Menu.ActivateKeyDown(forms::key::Down);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
-  EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
+  EXPECT_FALSE(desk.TheProgram.Menu.KeyboardOnToolbar);
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Menu.hWnd());
   desk.Menu.xKeyPress('i');
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
   desk.Menu.xKeyPress('i');
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
 }
 
 TEST(frmQMenuKeys, EachActInTheMenuTakesTheKeyboardFromTheStrip) {
@@ -115,9 +115,9 @@ TEST(frmQMenuKeys, EachActInTheMenuTakesTheKeyboardFromTheStrip) {
       {"a character", [&] { desk.Menu.Form_KeyPress('i'); }},
   };
   for (const Row& row : rows) {
-    desk.TheProgram.KeyboardOnToolbar = true;
+    desk.TheProgram.Menu.KeyboardOnToolbar = true;
     row.act();
-    EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar) << row.name;
+    EXPECT_FALSE(desk.TheProgram.Menu.KeyboardOnToolbar) << row.name;
   }
 }
 
@@ -127,7 +127,7 @@ TEST(frmQMenuKeys, AnEmptyMenuTakesEveryKeyQuietly) {
   for (const int key : {forms::key::Down, forms::key::Up, forms::key::PageDown, forms::key::PageUp,
                         forms::key::Home, forms::key::End, forms::key::Enter}) {
     desk.World.Desktop.PressKey(key);
-    EXPECT_EQ(desk.TheProgram.SelectedItem, 0) << key;
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0) << key;
   }
   EXPECT_TRUE(desk.Menu.MenuVisible());
 }
@@ -138,7 +138,7 @@ TEST(frmQMenuKeys, DuringADragKeysAreIgnored) {
   desk.TheProgram.Entry.ItemDragging = true;
   desk.World.Desktop.PressKey(forms::key::Down);
   desk.World.Desktop.PressKey(forms::key::Escape);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   EXPECT_TRUE(desk.Menu.MenuVisible());
 }
 
@@ -148,7 +148,7 @@ TEST(frmQMenuKeys, ADisabledItemIsReachedWithoutABar) {
   desk.Menu.DisableLabel(2);
   desk.World.Desktop.PressKey(forms::key::Down);
   desk.World.Desktop.PressKey(forms::key::Down);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   EXPECT_EQ(desk.BarredItem(), 0);
   desk.World.Desktop.PressKey(forms::key::Enter);
   EXPECT_TRUE(desk.Menu.MenuVisible());
@@ -374,7 +374,7 @@ TEST(frmQMenuTypeAhead, FindsTheNextItemWithThatLetterAndWrapsAround) {
   desk.Open(1, {Item("Beta"), Item("Alpha"), Item("beach"), Item("Gamma"), Item("Bell")});
   for (const int expected : {1, 3, 5, 1, 3}) {
     desk.World.Desktop.Type("b");
-    EXPECT_EQ(desk.TheProgram.SelectedItem, expected);
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, expected);
     EXPECT_EQ(desk.BarredItem(), expected);
   }
   EXPECT_EQ(desk.World.Desktop.Beeps(), 0);
@@ -385,10 +385,10 @@ TEST(frmQMenuTypeAhead, AnArrowGoesOnFromTheItemBehindTheOneFound) {
   desk.Open(1, {Item("Beta"), Item("Alpha"), Item("Gamma"), Item("Delta")});
   desk.World.Desktop.Type("b");
   desk.World.Desktop.PressKey(forms::key::Down);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   desk.World.Desktop.Type("b");
   desk.World.Desktop.PressKey(forms::key::Up);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
 }
 
 TEST(frmQMenuTypeAhead, ALetterThatNoItemStartsWithBeeps) {
@@ -397,7 +397,7 @@ TEST(frmQMenuTypeAhead, ALetterThatNoItemStartsWithBeeps) {
   desk.World.Desktop.Type("b");
   desk.World.Desktop.Type("x");
   EXPECT_EQ(desk.World.Desktop.Beeps(), 1);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
 }
 
 TEST(frmQMenuTypeAhead, TheSelectionStaysThoughThePointerIsElsewhere) {
@@ -407,7 +407,7 @@ TEST(frmQMenuTypeAhead, TheSelectionStaysThoughThePointerIsElsewhere) {
   desk.World.Desktop.Type("b");
   desk.Poll();
   desk.Poll();
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.World.Desktop.PressKey(forms::key::Enter);
   EXPECT_EQ(desk.Started().size(), 1U);
 }
@@ -425,7 +425,7 @@ TEST(frmQMenuTypeAhead, ALetterThatOnlyLaterPagesHoldTurnsToThem) {
   };
   for (const Row& row : {Row{5, 0}, Row{50, 1}, Row{90, 2}, Row{5, 0}}) {
     desk.World.Desktop.Type("z");
-    EXPECT_EQ(desk.TheProgram.SelectedItem, row.item);
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, row.item);
     EXPECT_EQ(desk.Menu.CurMenu, row.page) << row.item;
     EXPECT_EQ(desk.BarredItem(), row.item);
     EXPECT_TRUE(desk.Menu.Lbl[row.item].Visible());
@@ -436,11 +436,11 @@ TEST(frmQMenuTypeAhead, DigitsAndSignsCountAndBlanksDoNot) {
   MenuDesk desk;
   desk.Open(1, {Item("Alpha"), Item("7 dwarfs"), Item("~ home")});
   desk.World.Desktop.Type("7");
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.World.Desktop.Type("~");
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   desk.World.Desktop.Type(" ");
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   EXPECT_EQ(desk.World.Desktop.Beeps(), 0);
 }
 

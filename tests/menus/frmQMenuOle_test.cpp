@@ -40,9 +40,9 @@ struct NotedCapture final : CapturePort {
   bool MenuCaptured() const override { return Captured; }
   void SetPicture1() override {}
   void ResetPicture1() override {}
-  void SetPosition(std::string_view) override {}
+  void SetPosition(Edge) override {}
   void ClearBg() override {}
-  std::string OutlineEdge() const override { return {}; }
+  std::optional<Edge> OutlineEdge() const override { return {}; }
 };
 
 struct NotedFolders final : SpecialFoldersPort {
@@ -96,7 +96,7 @@ struct DragDesk : MenuDesk {
   void Drop(MouseButton button = MouseButton::Left) { World.Desktop.Release(button); }
   DropEffect Effect() const { return World.Desktop.DragEffect(); }
 
-  std::string File() const { return TheProgram.MenusPath + "BMENU001.MNU"; }
+  std::string File() const { return TheProgram.Paths.MenusPath + "BMENU001.MNU"; }
   Names Titles() {
     Names titles;
     for (const MenuRecord& record : ReadAllRecords(World.Files, World.Ansi, File()).ValueOr({})) {
@@ -122,7 +122,7 @@ TEST(MenuOLEDragOver, KeepsTheButtonOfTheDrag) {
   desk.TakeFiles({"C:\\docs\\a.txt"}, MouseButton::Right);
   desk.DragToItem(2);
   EXPECT_EQ(desk.Effect(), DropEffect::Link);
-  EXPECT_EQ(desk.TheProgram.DragButtons, MouseButton::Right);
+  EXPECT_EQ(desk.TheProgram.Drag.DragButtons, MouseButton::Right);
 }
 
 TEST(MenuOLEDragOver, TheGapOfASeparatorBelongsToTheItemBelow) {
@@ -130,10 +130,10 @@ TEST(MenuOLEDragOver, TheGapOfASeparatorBelongsToTheItemBelow) {
   const forms::Label& one = desk.Menu.Lbl[1];
   const float gap = one.Top() + one.Height() + 45;
   desk.PointAt(desk.OnScreen(600, gap));
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   desk.TakeFiles({"C:\\docs\\a.txt"});
   desk.PointAt(desk.OnScreen(600, gap));
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
 }
 
 TEST(MenuOLEDragOver, ADragThatLeavesDropsTheSelection) {
@@ -142,7 +142,7 @@ TEST(MenuOLEDragOver, ADragThatLeavesDropsTheSelection) {
   desk.DragToItem(2);
   desk.PointAway();
   EXPECT_EQ(desk.BarredItem(), 0);
-  EXPECT_FALSE(desk.TheProgram.DragOverButton);
+  EXPECT_FALSE(desk.TheProgram.Drag.DragOverButton);
 }
 
 TEST(MenuOLEDragOver, TheProgramsOwnMenuAndDataOfNoUseAreRefused) {
@@ -171,7 +171,7 @@ TEST(MenuOLEDragDrop, FilesGoBeforeTheItemUnderTheDropInAscendingOrder) {
       ReadRecord(desk.World.Files, desk.World.Ansi, desk.File(), 3).ValueOr({});
   EXPECT_EQ(stored, (MenuRecord{"a", "C:\\docs\\a.txt", "C:\\docs\\a.txt"}));
   EXPECT_EQ(desk.Strip.Times("RefreshMenu F2"), 1);
-  EXPECT_FALSE(desk.World.Files.Has(desk.TheProgram.MenusPath + "tFile.tmp"));
+  EXPECT_FALSE(desk.World.Files.Has(desk.TheProgram.Paths.MenusPath + "tFile.tmp"));
   EXPECT_TRUE(desk.Menu.Timer1.Enabled());
 }
 
@@ -179,7 +179,7 @@ TEST(MenuOLEDragDrop, WithNothingSelectedFilesGoToTheEnd) {
   DragDesk desk;
   desk.TakeFiles({"C:\\docs\\b.txt"});
   desk.DragBelow();
-  ASSERT_EQ(desk.TheProgram.SelectedItem, 0);
+  ASSERT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   EXPECT_EQ(desk.Effect(), DropEffect::Copy);
   desk.Drop();
   EXPECT_EQ(desk.Titles(), (Names{"Button", "Item 1", "Item 2", "Item 3", "b"}));
@@ -198,7 +198,7 @@ TEST(MenuOLEDragDrop, WhatNoRecordHoldsIsRefusedAndTheOthersAreTaken) {
 TEST(MenuOLEDragDrop, AnEntryOfAFolderItemStandsForTheItemInTheStoredFile) {
   DragDesk desk;
   // An expanded copy: the record behind "Item 1" is a folder item, which gave two entries.
-  const std::string generated = desk.TheProgram.MenusPath + "BMENU001.mfd";
+  const std::string generated = desk.TheProgram.Paths.MenusPath + "BMENU001.mfd";
   desk.World.Files.Put(generated, "for others");
   ExpandedMenus folders;
   folders.Generated = {
@@ -254,7 +254,7 @@ TEST(MenuOLEDragDrop, AFailureLeavesTheFileAndTheMenuAsTheyAre) {
     }
     EXPECT_EQ(desk.Strip.Times("RefreshMenu F2"), 0);
     EXPECT_TRUE(desk.Menu.Visible());
-    EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+    EXPECT_FALSE(desk.TheProgram.Guards.ItemActionBusy);
   }
 }
 
@@ -262,9 +262,9 @@ TEST(MenuOLEDragDrop, WhileAFileIsRewrittenADropIsRefused) {
   DragDesk desk;
   desk.TakeFiles({"C:\\docs\\b.txt"});
   desk.DragToItem(2);
-  desk.TheProgram.ItemActionBusy = true;
+  desk.TheProgram.Guards.ItemActionBusy = true;
   desk.World.Desktop.Release();
-  desk.TheProgram.ItemActionBusy = false;
+  desk.TheProgram.Guards.ItemActionBusy = false;
   EXPECT_EQ(desk.Titles().size(), 4U);
   EXPECT_EQ(desk.Effect(), DropEffect::None);
 }
@@ -373,7 +373,7 @@ TEST(MenuOLEDragDrop, OtherTextIsIgnored) {
 TEST(MenuPoll, LeavesTheMenuToADragThatGoesOn) {
   DragDesk desk;
   desk.PointAway();
-  desk.TheProgram.DragEntered = true;
+  desk.TheProgram.Drag.DragEntered = true;
   desk.World.Desktop.TakeForeground(desk.World.Desktop.DesktopWindow());
   desk.World.Desktop.Press();
   desk.Poll();
@@ -387,7 +387,7 @@ TEST(MenuPoll, LeavesTheMenuToADragThatGoesOn) {
 TEST(MenuPoll, ClosesAMenuThatIsHiddenUnderADrag) {
   DragDesk desk;
   desk.PointAway();
-  desk.TheProgram.DragEntered = true;
+  desk.TheProgram.Drag.DragEntered = true;
   desk.World.Desktop.Press();
   // As when a full-screen program goes.
   desk.Menu.SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);

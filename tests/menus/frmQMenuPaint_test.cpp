@@ -58,8 +58,8 @@ TEST_F(Painted, EachFormOfAnIconTextShowsItsIcon) {
   desk_.World.Icons.SetIconCount("C:\\Tools\\t5.exe", 3);
   desk_.World.Files.Put("C:\\Corvelle\\icons\\x.ico", "x");
   desk_.World.Icons.SetIndex("C:\\Corvelle\\icons\\x.ico", 77);
-  desk_.TheProgram.WebLinkIcon = Tool(9);
-  desk_.TheProgram.ShellDrawsIcons = true;
+  desk_.TheProgram.Icons.WebLinkIcon = Tool(9);
+  desk_.TheProgram.Icons.ShellDrawsIcons = true;
   struct Row {
     const char* name;
     std::string text;
@@ -279,7 +279,7 @@ TEST_F(Painted, ColoursThatChangeWhileIconsAreFetchedShowInTheWholeMenu) {
       EXPECT_EQ(desk.PixelInside(cell.x + 17, cell.y + 8), kGreen) << i;
     }
     EXPECT_TRUE(desk.Menu.MenuReady);
-    EXPECT_FALSE(desk.TheProgram.MenuBuilding);
+    EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding);
   }
 }
 

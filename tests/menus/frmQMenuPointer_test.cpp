@@ -20,11 +20,11 @@ TEST(frmQMenuPointer, MovesTheSelectionFromItemToItem) {
   MenuDesk desk;
   desk.Open(1, Items(4));
   desk.PointAtItem(2);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   EXPECT_EQ(desk.BarredItem(), 2);
   EXPECT_EQ(desk.Menu.Lbl[2].ForeColor(), forms::color::HighlightText);
   desk.PointAtItem(4);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 4);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 4);
   EXPECT_EQ(desk.BarredItem(), 4);
   EXPECT_EQ(desk.Menu.Lbl[2].ForeColor(), forms::color::ButtonText);
 }
@@ -34,10 +34,10 @@ TEST(frmQMenuPointer, ThePixelsRightAndLeftOfATextBelongToItsItemToo) {
   desk.Open(1, Items(3));
   const PixelPoint text = desk.ItemPoint(2);
   desk.PointAt({desk.OnScreen(0, 0).x + 1, text.y});
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.PointAtItem(1);
   desk.PointAt({desk.OnScreen(desk.Menu.Width(), 0).x - 12, text.y});
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
 }
 
 TEST(frmQMenuPointer, TheBarAndTheFrameOfTheIconStandWhereTheItemIs) {
@@ -78,11 +78,11 @@ TEST(frmQMenuPointer, BelowTheLastItemNothingIsSelected) {
   desk.Open(1, Items(3));
   desk.PointAtItem(3);
   desk.PointAt(desk.OnScreen(600, desk.Menu.Lbl[3].Bottom() + 60));
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   EXPECT_EQ(desk.BarredItem(), 0);
-  EXPECT_TRUE(desk.TheProgram.PointerBelowItems);
+  EXPECT_TRUE(desk.Menu.PointerBelowItems);
   desk.PointAtItem(2);
-  EXPECT_FALSE(desk.TheProgram.PointerBelowItems);
+  EXPECT_FALSE(desk.Menu.PointerBelowItems);
 }
 
 TEST(frmQMenuPointer, AMoveGivesTheMenuTheFocus) {
@@ -92,7 +92,7 @@ TEST(frmQMenuPointer, AMoveGivesTheMenuTheFocus) {
   EXPECT_NE(desk.World.Desktop.ActiveWindow(), desk.Menu.hWnd());
   desk.PointAtItem(2);
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Menu.hWnd());
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
 }
 
 TEST(frmQMenuPointer, AMoveOverAnotherWindowDropsTheSelection) {
@@ -101,7 +101,7 @@ TEST(frmQMenuPointer, AMoveOverAnotherWindowDropsTheSelection) {
   desk.PointAtItem(2);
   // A drag that is handed on when it has left the menu upwards.
   desk.Menu.xMouseMove(-600);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   EXPECT_TRUE(desk.Menu.PointerAway);
 }
 
@@ -110,10 +110,10 @@ TEST(frmQMenuPointer, TheStripHandsOnADragOverTheMenu) {
   desk.Open(1, Items(5));
   desk.PointAtItem(1);
   desk.Menu.xMouseMove(desk.Menu.Lbl[3].Top());
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   // In twips of the screen, 50 of which are the window's frame.
   desk.Menu.mMouseMove(desk.Menu.Left() + 400, desk.Menu.Top() + 50 + desk.Menu.Lbl[4].Top());
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 4);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 4);
 }
 
 TEST(frmQMenuChoice, StartsTheItemAfterTheMenuIsGone) {
@@ -127,7 +127,7 @@ TEST(frmQMenuChoice, StartsTheItemAfterTheMenuIsGone) {
   EXPECT_FALSE(desk.Menu.MenuVisible());
   EXPECT_EQ(desk.Menu.OwnerTag(), "0");
   EXPECT_EQ(desk.Strip.Times("ResetMenu"), 1);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
 }
 
 /// A shell that notes whether the menu was still up, and whether events had run, when it was asked.
@@ -199,7 +199,7 @@ TEST(frmQMenuChoice, ADisabledItemTakesTheSelectionWithoutABarAndAClickOnItDoesN
   desk.Menu.DisableLabel(2);
   desk.PointAtItem(1);
   desk.PointAtItem(2);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   EXPECT_EQ(desk.Menu.Lbl[2].ForeColor(), forms::color::HighlightText);
   EXPECT_EQ(desk.BarredItem(), 0);
   desk.World.Desktop.Click();
@@ -215,7 +215,7 @@ TEST(frmQMenuChoice, AClickInTheRuleBetweenTwoItemsDoesNothing) {
   desk.PointAtItem(1);
   // Two pixels below the rule's dark line.
   desk.PointAt(desk.OnScreen(600, desk.Menu.Lbl[1].Bottom() + 11 * 15.0F));
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   desk.World.Desktop.Click();
   EXPECT_TRUE(desk.Menu.MenuVisible());
   EXPECT_TRUE(desk.World.Shell.Log().empty());
@@ -246,12 +246,12 @@ TEST(frmQMenuChoice, AReleaseOutsideTheWindowChoosesNothing) {
 
 TEST(frmQMenuChoice, AReleaseHandedOnByTheStripChoosesTheItem) {
   MenuDesk desk;
-  desk.TheProgram.KeyboardOnToolbar = true;
+  desk.TheProgram.Menu.KeyboardOnToolbar = true;
   desk.Open(1, Items(3));
   desk.PointAtItem(2);
   desk.Menu.xMouseUp(MouseButton::Left, {}, 600, desk.Menu.Lbl[2].Top());
   EXPECT_EQ(desk.Started().size(), 1U);
-  EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar);
+  EXPECT_FALSE(desk.TheProgram.Menu.KeyboardOnToolbar);
 }
 
 TEST(frmQMenuChoice, AMenuOpenedWhileTheOldOneClosesKeepsItsOwnSelection) {
@@ -265,7 +265,7 @@ TEST(frmQMenuChoice, AMenuOpenedWhileTheOldOneClosesKeepsItsOwnSelection) {
   });
   desk.ClickItem(1);
   EXPECT_EQ(desk.Menu.CurrentKey(), "F3");
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   EXPECT_EQ(desk.BarredItem(), 3);
 }
 
@@ -276,7 +276,7 @@ class NotingPopup final : public PopupPort {
   void ShowToolbarPopup(EntryEdit entry) override {
     ++Shown;
     Seen = std::move(entry);
-    SelectedThen = program_.SelectedItem;
+    SelectedThen = program_.Menu.SelectedItem;
   }
   int Shown = 0;
   int SelectedThen = 0;
@@ -300,7 +300,7 @@ TEST(frmQMenuRightClick, NamesTheEntryAndShowsThePopup) {
   EXPECT_EQ(popup.Seen.CurMenuTag, "F2");
   EXPECT_EQ(popup.Seen.CurFile, "C:\\Corvelle\\Menus\\BMENU001.MNU");
   EXPECT_EQ(popup.Seen.CurRecord, 4);
-  EXPECT_TRUE(desk.TheProgram.ItemHasSeparator);
+  EXPECT_TRUE(desk.TheProgram.Menu.ItemHasSeparator);
   EXPECT_TRUE(desk.Menu.KeyboardActive);
   EXPECT_TRUE(desk.Menu.MenuVisible());
 }
@@ -351,7 +351,7 @@ class Rebuilt : public ::testing::Test {
     desk_.Menu.ForgetMenu("F2");
     desk_.Reopen(1);
     desk_.Menu.GetCurMenu();
-    ASSERT_EQ(desk_.TheProgram.SelectedItem, 0);
+    ASSERT_EQ(desk_.TheProgram.Menu.SelectedItem, 0);
   }
 
   MenuDesk desk_;
@@ -360,7 +360,7 @@ class Rebuilt : public ::testing::Test {
 
 TEST_F(Rebuilt, TheItemUnderTheStillPointerIsSelectedAtTheNextTick) {
   desk_.Poll();
-  EXPECT_EQ(desk_.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 2);
   EXPECT_EQ(desk_.BarredItem(), 2);
   EXPECT_EQ(desk_.Menu.CurItem, 2);
 }
@@ -378,23 +378,23 @@ TEST_F(Rebuilt, NorDoesAChoice) {
 
 TEST_F(Rebuilt, AKeyComesBeforeThePointer) {
   desk_.World.Desktop.PressKey(forms::key::Up);
-  EXPECT_EQ(desk_.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 3);
   desk_.Poll();
-  EXPECT_EQ(desk_.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 3);
 }
 
 TEST_F(Rebuilt, OnlyOnceIsItSelected) {
   desk_.Poll();
   desk_.World.Desktop.PressKey(forms::key::Down);
   desk_.Poll();
-  EXPECT_EQ(desk_.TheProgram.SelectedItem, 3);
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 3);
 }
 
 TEST_F(Rebuilt, APointerElsewhereSelectsNothing) {
   desk_.PointAway();
   Rebuild();
   desk_.Poll();
-  EXPECT_EQ(desk_.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 0);
 }
 
 TEST_F(Rebuilt, AnotherProgramInFrontStaysThere) {
@@ -402,7 +402,7 @@ TEST_F(Rebuilt, AnotherProgramInFrontStaysThere) {
   desk_.World.Desktop.TakeForeground(other);
   desk_.Poll();
   EXPECT_EQ(desk_.World.Desktop.ForegroundWindow(), other);
-  EXPECT_EQ(desk_.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 0);
 }
 
 TEST_F(Rebuilt, AnArrowUnderTheStillPointerIsFramed) {
@@ -422,7 +422,7 @@ TEST(frmQMenuPoll, LeavingTheMenuWithThePointerClearsTheSelection) {
   desk.PointAtItem(2);
   desk.PointAway();
   desk.Poll();
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   EXPECT_EQ(desk.BarredItem(), 0);
   EXPECT_TRUE(desk.Menu.MenuVisible());
 }
@@ -432,11 +432,11 @@ TEST(frmQMenuPoll, LeavingItAfterTheArrowKeysKeepsTheSelection) {
   desk.Open(1, Items(3));
   desk.PointAtItem(1);
   desk.World.Desktop.PressKey(forms::key::Down);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.PointAway();
   desk.Poll();
   desk.Poll();
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   EXPECT_EQ(desk.BarredItem(), 2);
 }
 
@@ -448,7 +448,7 @@ TEST(frmQMenuPoll, AMoveAfterTheKeysCountsAgain) {
   desk.PointAtItem(3);
   desk.PointAway();
   desk.Poll();
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
 }
 
 TEST(frmQMenuPoll, AnArrowBeginsAtTheTopOnceThePointerHasLeftTheItems) {
@@ -456,7 +456,7 @@ TEST(frmQMenuPoll, AnArrowBeginsAtTheTopOnceThePointerHasLeftTheItems) {
   desk.Open(1, Items(4));
   const auto next = [&] {
     desk.World.Desktop.PressKey(forms::key::Down);
-    return desk.TheProgram.SelectedItem;
+    return desk.TheProgram.Menu.SelectedItem;
   };
   desk.PointAtItem(2);
   desk.PointAway();
@@ -498,7 +498,7 @@ TEST(frmQMenuPoll, ComingBackSelectsAtTheFirstMove) {
   desk.Poll();
   EXPECT_TRUE(desk.Menu.PointerAway);
   desk.PointAtItem(2);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.World.Desktop.Click();
   EXPECT_EQ(desk.Started().size(), 1U);
 }
@@ -588,9 +588,9 @@ TEST(frmQMenuDrag, InAGapTheItemBelowIsTaken) {
   desk.PointAtItem(1);
   desk.TheProgram.Entry.ItemDragging = true;
   desk.Menu.xMouseMove(desk.Menu.Lbl[1].Bottom() + 11 * 15.0F);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.Menu.xMouseMove(15);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
 }
 
 }  // namespace

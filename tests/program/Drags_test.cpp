@@ -14,14 +14,14 @@ TEST(DragsOverTheProgram, OneWhoseSourceDiedOverTheMenuIsForgottenWhenTheMenuGoe
   desktop.StartDrag({.Data = {.Files = std::vector<std::string>{"C:\\Tools\\tool.exe"}}});
   desk.PointAt(desk.Item(2));
   desktop.Advance(50);
-  ASSERT_TRUE(desk.parts->TheProgram.DragOverButton);
-  ASSERT_FALSE(desk.parts->TheProgram.DragEntered);
+  ASSERT_TRUE(desk.parts->TheProgram.Drag.DragOverButton);
+  ASSERT_FALSE(desk.parts->TheProgram.Drag.DragEntered);
   desktop.KillDragSource();
   desktop.Release();
   desk.PointAt(desk.Single(1));
   desktop.Advance(50);
   EXPECT_FALSE(desk.parts->Menu.MenuVisible());
-  EXPECT_FALSE(desk.parts->TheProgram.DragOverButton);
+  EXPECT_FALSE(desk.parts->TheProgram.Drag.DragOverButton);
 }
 
 }  // namespace

@@ -30,7 +30,10 @@ class ProgramDesk {
     world.System.WorkFolder = "C:\\Corvelle\\";
     world.Desktop.AnswerAnyOther(forms::msgbox::AnswerYes);
     OptionFlags flags;
-    for (const int position : {1, 2, 9, 19, 32}) flags.Set(position, true);
+    for (const Option option :
+         {Option::FirstRunDone, Option::DefaultEntriesOffered, Option::NoStartupScreen,
+          Option::SystemPopupWithCtrl, Option::UpgradeDone})
+      flags.Set(option, true);
     world.Files.Put("C:\\Corvelle\\" + std::string(kOptionFlagsFileName), flags.Text());
     PutMenu(1, {"A", "B", "C", "D"});
     PutMenu(2, {"X", "Y"});

@@ -14,7 +14,7 @@ using Icons = std::vector<int>;
 class DesktopIconsTest : public testing::Test {
  protected:
   DesktopIconsTest() {
-    program.MenusPath = "C:\\Corvelle\\Menus\\";
+    program.Paths.MenusPath = "C:\\Corvelle\\Menus\\";
     world.Files.MakeFolders("C:\\Corvelle\\Menus");
   }
 

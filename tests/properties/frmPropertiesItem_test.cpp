@@ -281,7 +281,9 @@ TEST_F(PropertiesItem, ADriveThatHangsMarksNothingAndHoldsNothingUp) {
 class PropertiesBrowse : public PropertiesDesk {
  protected:
   PropertiesBrowse() {
-    for (const int position : {5, 6, 7}) TheProgram().OptionFlags.Set(position, true);
+    for (const Option option :
+         {Option::IconLibraryTipDone, Option::OtherFilesTipDone, Option::SelectFileTipDone})
+      TheProgram().OptionFlags.Set(option, true);
     world.Files.Put("C:\\Docs\\letter.doc", "x");
   }
 };
@@ -365,7 +367,7 @@ TEST_F(PropertiesBrowse, AFolderThatIsOnNoDiskIsReachedByALink) {
       .Name = "Computer",
       .Item = world.Links.SpecialFolderLocation(kNoWindow, 17).value_or(ItemIdList{"x"})});
   ClickOn(Window().cmdFolder);
-  const std::string link = TheProgram().ShellLinkPath + "Computer.lnk";
+  const std::string link = TheProgram().Paths.ShellLinkPath + "Computer.lnk";
   EXPECT_EQ(Window().txtCommand.Text(), link);
   EXPECT_TRUE(world.Files.Has(link));
   EXPECT_EQ(Window().txtTitle.Text(), "Computer");
@@ -381,14 +383,14 @@ TEST_F(PropertiesBrowse, AFolderThatCannotBeLinkedIsTold) {
 
 TEST_F(PropertiesBrowse, TheNoticesComeUntilTheyAreDismissed) {
   OpenItem(2);
-  TheProgram().OptionFlags.Set(7, false);
+  TheProgram().OptionFlags.Set(Option::SelectFileTipDone, false);
   Desktop().CancelFiles();
   ClickOn(Window().cmdSelectFile);
   EXPECT_TRUE(parts->Tip.Visible());
   EXPECT_EQ(parts->Tip.lblTitle.Caption(), "Select File/Folder");
   EXPECT_EQ(parts->Tip.TipField, 7);
   ClickOn(parts->Tip.cmdOK);
-  TheProgram().OptionFlags.Set(6, false);
+  TheProgram().OptionFlags.Set(Option::OtherFilesTipDone, false);
   Desktop().CancelFiles();
   ClickOn(Window().cmdAllFiles);
   EXPECT_EQ(parts->Tip.lblTitle.Caption(), "Other Files Icons");

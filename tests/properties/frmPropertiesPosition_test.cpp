@@ -105,8 +105,8 @@ TEST_F(PropertiesPosition, TheEdgeButtonsSendTheStripThere) {
   for (const auto& [button, edge] : buttons) {
     ClickOn(button);
     Desktop().Advance(300);
-    EXPECT_TRUE(TheProgram().AppBarDocked) << edge;
-    EXPECT_EQ(TheProgram().ToolbarEdge, edge);
+    EXPECT_TRUE(TheProgram().Strip.AppBarDocked) << edge;
+    EXPECT_EQ(TheProgram().Strip.ToolbarEdge, edge);
     EXPECT_TRUE(parts->Toolbar.Visible()) << edge;
     EXPECT_TRUE(Window().Visible()) << edge;
   }
@@ -129,17 +129,17 @@ TEST_F(PropertiesPosition, AnEdgeAtWhichItStandsIsLeftAlone) {
 
 TEST_F(PropertiesPosition, AStripOnItsWayIntoTheTaskBarIsLeftAlone) {
   OpenPosition();
-  TheProgram().ToolbarMinimizing = true;
+  TheProgram().Strip.ToolbarMinimizing = true;
   ClickOn(Window().cmdLeft);
-  EXPECT_FALSE(TheProgram().AppBarDocked);
-  TheProgram().ToolbarMinimizing = false;
+  EXPECT_FALSE(TheProgram().Strip.AppBarDocked);
+  TheProgram().Strip.ToolbarMinimizing = false;
 }
 
 TEST_F(PropertiesPosition, AStripThatHidesIsShownAtItsNewEdge) {
-  TheProgram().AutoHide = true;
+  TheProgram().Strip.AutoHide = true;
   OpenPosition();
   ClickOn(Window().cmdLeft);
-  EXPECT_EQ(TheProgram().ToolbarEdge, "LEFT");
+  EXPECT_EQ(TheProgram().Strip.ToolbarEdge, Edge::Left);
   EXPECT_TRUE(parts->Toolbar.Visible());
   EXPECT_TRUE(parts->Toolbar.picToolbar.Visible());
 }

@@ -41,7 +41,7 @@ class NetSearch : public testing::Test {
   NetSearch() {
     world.Files.MakeFolders("C:\\Corvelle");
     world.Files.Put(kList, kEngines);
-    program.AppPath = "C:\\Corvelle\\";
+    program.Paths.AppPath = "C:\\Corvelle\\";
     program.Ports.Browser = &browser;
     program.Ports.BuiltInCommands = &words;
     program.Ports.NetSearch = window.get();
@@ -285,7 +285,7 @@ TEST_F(NetSearch, WithoutItsListTheFactoryListIsCopied) {
 TEST_F(NetSearch, TheListOfAnInstalledProgramComesFromWhereTheProgramLies) {
   world.Files.Put("C:\\Programs\\Corvelle\\anetsrch.org",
                   "NAME=Made\r\nURL=http://made.example/[]\r\n");
-  program.ShippedPath = "C:\\Programs\\Corvelle\\";
+  program.Paths.ShippedPath = "C:\\Programs\\Corvelle\\";
   world.Files.Vanish(kList);
   Open();
   EXPECT_EQ(world.Files.Get(kList), "NAME=Made\r\nURL=http://made.example/[]\r\n");

@@ -20,7 +20,7 @@ class ShellDesk : public testing::Test {
     world.Files.MakeFolders("C:\\Links");
     world.Links.SetFolder(7, "C:\\Start\\Startup");
     world.Links.SetVirtualFolder(17);
-    program.AppPath = "C:\\Corvelle\\";
+    program.Paths.AppPath = "C:\\Corvelle\\";
     program.Ports.Toolbar = &toolbar;
     toolbar.LoadWindow();
     log.clear();

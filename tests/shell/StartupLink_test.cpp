@@ -75,14 +75,14 @@ TEST_F(FirstRun, YesMakesALinkToThisCopy) {
   EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 262180U);
   EXPECT_EQ(world.Desktop.Boxes()[0].Owner, toolbar.WindowHandle());
   EXPECT_EQ(world.Links.Get(kStartupLink), toThisCopy);
-  EXPECT_TRUE(program.OptionFlags.Is(1));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::FirstRunDone));
 }
 
 TEST_F(FirstRun, NoMakesNone) {
   world.Desktop.Answer(kQuestion, AnswerNo);
   EXPECT_TRUE(Main(program));
   EXPECT_FALSE(world.Files.Has(kStartupLink));
-  EXPECT_TRUE(program.OptionFlags.Is(1));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::FirstRunDone));
 }
 
 TEST_F(FirstRun, OfACopyDeletesAndRewritesTheLinkOfTheOldPlace) {
@@ -102,7 +102,7 @@ TEST_F(FirstRun, ALinkThatCannotBeDeletedStaysAndTheStartGoesOn) {
   EXPECT_TRUE(Main(program));
   world.Files.LetGo(kStartupLink);
   EXPECT_EQ(world.Links.Get(kStartupLink)->Path, "C:\\Old\\corvelle.exe");
-  EXPECT_TRUE(program.OptionFlags.Is(1));
+  EXPECT_TRUE(program.OptionFlags.Is(Option::FirstRunDone));
 }
 
 TEST_F(FirstRun, ALaterRunLeavesTheLinkAlone) {

@@ -32,8 +32,8 @@ struct NewsDesk : DockDesk {
   void ExpectQuiet() {
     Poll();
     EXPECT_EQ(WakeUps(2000), 0);
-    EXPECT_TRUE(TheProgram.ToolbarReady);
-    EXPECT_FALSE(TheProgram.AppBarBusy);
+    EXPECT_TRUE(TheProgram.Guards.ToolbarReady);
+    EXPECT_FALSE(TheProgram.Guards.AppBarBusy);
   }
 };
 
@@ -73,7 +73,7 @@ TEST(AppBarNews, ABarThatComesWhileTheStripIsPlacedIsNotCovered) {
     NewsDesk desk;
     desk.StartAt(at);
     desk.WhenEventsRun([&] { desk.World.Bars.AddOtherBar(at, 30); });
-    desk.Docking.SetAppBar(EdgeText(at), true);
+    desk.Docking.SetAppBar(at, true);
     desk.Poll();
     EXPECT_EQ(desk.Bounds(), Beside(at));
     desk.ExpectQuiet();
@@ -100,7 +100,7 @@ TEST(AppBarNews, AScreenThatShrinksWhileTheStripIsPlacedTakesItAlong) {
       if (!starting) desk.StartAt(at);
       desk.WhenEventsRun([&] { desk.World.Desktop.SetScreen({800, 600}); });
       if (starting) desk.StartAt(at);
-      if (!starting) desk.Docking.SetAppBar(EdgeText(at), true);
+      if (!starting) desk.Docking.SetAppBar(at, true);
       desk.Poll();
       EXPECT_EQ(desk.Bounds(), OnTheSmallScreen(at));
       EXPECT_EQ(desk.Strip.BaseWidth, 800);
@@ -111,7 +111,7 @@ TEST(AppBarNews, AScreenThatShrinksWhileTheStripIsPlacedTakesItAlong) {
 
 TEST(AppBarNews, AStripThatHidesAndReturnsToAnotherScreenStaysInSight) {
   NewsDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Right);
   desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
   desk.World.Desktop.SetScreen({800, 600});
@@ -124,7 +124,7 @@ TEST(AppBarNews, AStripThatHidesAndReturnsToAnotherScreenStaysInSight) {
 
 TEST(AppBarNews, NewsThatComeWhileABoxIsUpWaitForTheAnswer) {
   NewsDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Right);
   desk.World.Bars.ClaimAutoHide(Edge::Left, desk.World.Desktop.AddOtherWindow({.Title = "Bar"}));
   desk.World.Desktop.Answer(forms::msgbox::AnswerOk);
@@ -134,7 +134,7 @@ TEST(AppBarNews, NewsThatComeWhileABoxIsUpWaitForTheAnswer) {
     desk.World.Desktop.Advance(1000);
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
   });
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   desk.Poll();
   EXPECT_EQ(desk.Bounds(), OnTheSmallScreen(Edge::Left));
   desk.ExpectQuiet();
@@ -144,11 +144,11 @@ TEST(AppBarNews, AFullScreenProgramThatComesAndGoesWhileTheStripIsPlacedIsFollow
   NewsDesk desk;
   desk.StartAt(Edge::Right);
   desk.WhenEventsRun([&] { desk.World.Bars.SetFullScreen(true); });
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   desk.Poll();
   EXPECT_FALSE(desk.IsTopmost());
   desk.WhenEventsRun([&] { desk.World.Bars.SetFullScreen(false); });
-  desk.Docking.SetAppBar("RIGHT", true);
+  desk.Docking.SetAppBar(Edge::Right, true);
   desk.Poll();
   EXPECT_TRUE(desk.IsTopmost());
   EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Menu.hWnd()));
@@ -157,13 +157,13 @@ TEST(AppBarNews, AFullScreenProgramThatComesAndGoesWhileTheStripIsPlacedIsFollow
 
 TEST(AppBarNews, AStripThatOthersMayCoverStaysSoWhateverFullScreenProgramsDid) {
   NewsDesk desk;
-  desk.TheProgram.NotOnTop = true;
+  desk.TheProgram.Strip.NotOnTop = true;
   desk.StartAt(Edge::Right);
   desk.WhenEventsRun([&] {
     desk.World.Bars.SetFullScreen(true);
     desk.World.Bars.SetFullScreen(false);
   });
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   desk.Poll();
   EXPECT_FALSE(desk.IsTopmost());
   desk.ExpectQuiet();
@@ -186,14 +186,14 @@ TEST(AppBarNews, AStripInTheTaskBarMissesTheEndOfAFullScreenProgramAndIsOnTopAga
     desk.ComeBack();
     desk.Poll();
     EXPECT_TRUE(desk.IsTopmost());
-    EXPECT_FALSE(desk.TheProgram.FullScreenApp);
+    EXPECT_FALSE(desk.TheProgram.Strip.FullScreenApp);
     desk.ExpectQuiet();
   }
 }
 
 TEST(AppBarNews, ALineBesideAnotherBarIsOnTopAgainAfterAFullScreenProgram) {
   NewsDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.World.Bars.AddOtherBar(Edge::Right, 30);
   desk.StartAt(Edge::Right);
   desk.GoElsewhere();
@@ -211,7 +211,7 @@ TEST(AppBarNews, AHiddenStripStaysABareLineWhenTheColoursChange) {
   for (const Edge at : kEdges) {
     SCOPED_TRACE(std::string(EdgeText(at)));
     NewsDesk desk;
-    desk.SetOption(3, true);
+    desk.SetOption(Option::AutoHide, true);
     desk.StartAt(at);
     desk.GoElsewhere();
     desk.Poll();
@@ -256,7 +256,7 @@ TEST(AppBarNews, ANewTaskBarThatComesWhileTheStripIsPlacedLearnsOfItToo) {
     desk.World.Bars.StartAnew();
     desk.World.Desktop.Broadcast(desk.World.Tray.TaskbarCreatedMessage());
   });
-  desk.Docking.SetAppBar("RIGHT", true);
+  desk.Docking.SetAppBar(Edge::Right, true);
   desk.Poll();
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 982, 768}));
   desk.ExpectQuiet();
@@ -264,7 +264,7 @@ TEST(AppBarNews, ANewTaskBarThatComesWhileTheStripIsPlacedLearnsOfItToo) {
 
 TEST(AppBarNews, ANewTaskBarLearnsOfAHiddenStripWhichKeepsNoRoom) {
   NewShellDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Right);
   desk.GoElsewhere();
   desk.Poll();
@@ -307,7 +307,7 @@ TEST(AppBarNews, AStripThatReturnsToItsEdgeUnderANewTaskBarKeepsItsRoom) {
 
 TEST(AutoHide, AStripThatGoesIntoTheTaskBarWhileTheMessageIsUpStaysThere) {
   NewsDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Right);
   desk.World.Bars.ClaimAutoHide(Edge::Right, desk.World.Desktop.AddOtherWindow({.Title = "Bar"}));
   desk.World.Desktop.Answer(forms::msgbox::AnswerOk);
@@ -319,7 +319,7 @@ TEST(AutoHide, AStripThatGoesIntoTheTaskBarWhileTheMessageIsUpStaysThere) {
   desk.Poll();
   EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_FALSE(desk.Shown());
-  EXPECT_FALSE(desk.TheProgram.ToolbarReady);
+  EXPECT_FALSE(desk.TheProgram.Guards.ToolbarReady);
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
   desk.ComeBack();
   EXPECT_TRUE(desk.Shown());

@@ -17,7 +17,7 @@ constexpr char kTaken[] =
 
 struct HidingDesk : DockDesk {
   explicit HidingDesk(const sim::WorldOptions& options = {}) : DockDesk(options) {
-    SetOption(3, true);
+    SetOption(Option::AutoHide, true);
   }
   void StartHidden(Edge at) {
     StartAt(at);
@@ -89,7 +89,7 @@ TEST(AutoHide, ColoursAndFilesThatChangeLeaveALineALineUntilItIsTouched) {
   for (const LineRow& row : kLines) {
     SCOPED_TRACE(row.name);
     HidingDesk desk;
-    desk.SetOption(21, true);
+    desk.SetOption(Option::ShowDate, true);
     const std::string menus = "C:\\Corvelle\\Menus\\";
     for (int i = 1; i <= 3; ++i) {
       desk.World.Files.Put(menus + SingleFileName(i), Records({Entry("s", "", "C:\\s.exe")}));
@@ -132,7 +132,7 @@ TEST(AutoHide, TheClaimIsMadeOnceAndMovesWithTheEdge) {
   desk.Poll();
   EXPECT_EQ(desk.World.Bars.Log(), (Messages{"getautohide 2", "querypos 2"}));
   desk.World.Bars.ClearLog();
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   EXPECT_EQ(desk.World.Bars.Log(),
             (Messages{"getautohide 0", "setautohide 2 0", "setautohide 0 1", "querypos 0"}));
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
@@ -146,8 +146,8 @@ TEST(AutoHide, SwitchedOnAtAnEdgeTheStripIsALineThereAtOnce) {
         SCOPED_TRACE(std::string(row.name) + (rebuild ? ", rebuilt " : " ") + std::to_string(t));
         DockDesk desk({.TwipsPerPixel = t});
         desk.StartAt(row.at);
-        desk.TheProgram.AutoHide = true;
-        desk.Docking.SetAppBar("", rebuild);
+        desk.TheProgram.Strip.AutoHide = true;
+        desk.Docking.SetAppBar(std::nullopt, rebuild);
         EXPECT_EQ(desk.Bounds(), row.line);
         EXPECT_TRUE(desk.IsLine());
         EXPECT_TRUE(desk.Shown());
@@ -169,8 +169,8 @@ TEST(AutoHide, SwitchedOffItGivesUpTheClaimAndStandsInFullSight) {
     SCOPED_TRACE(rebuild);
     HidingDesk desk;
     desk.StartHidden(Edge::Right);
-    desk.TheProgram.AutoHide = false;
-    desk.Docking.SetAppBar("", rebuild);
+    desk.TheProgram.Strip.AutoHide = false;
+    desk.Docking.SetAppBar(std::nullopt, rebuild);
     EXPECT_EQ(desk.World.Bars.Log(),
               (Messages{"setautohide 2 0", "querypos 2", "setpos 2 982,0,1024,768"}));
     EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
@@ -188,8 +188,8 @@ TEST(AutoHide, SwitchedOnAtAnEdgeItGivesUpTheRoomThatItKept) {
     DockDesk desk;
     desk.StartAt(at);
     ASSERT_FALSE(desk.World.Bars.KeptBy(desk.Strip.hWnd()).IsEmpty());
-    desk.TheProgram.AutoHide = true;
-    desk.Docking.SetAppBar("", false);
+    desk.TheProgram.Strip.AutoHide = true;
+    desk.Docking.SetAppBar(std::nullopt, false);
     EXPECT_TRUE(desk.World.Bars.KeptBy(desk.Strip.hWnd()).IsEmpty());
     EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
     EXPECT_TRUE(desk.World.Bars.IsRegistered(desk.Strip.hWnd()));
@@ -200,8 +200,8 @@ TEST(AutoHide, SwitchedOnAtAnEdgeItGivesUpTheRoomThatItKept) {
 TEST(AutoHide, SwitchedOffOnTheWayToAnotherEdgeItGivesUpTheOldSide) {
   HidingDesk desk;
   desk.StartHidden(Edge::Right);
-  desk.TheProgram.AutoHide = false;
-  desk.Docking.SetAppBar("TOP", true);
+  desk.TheProgram.Strip.AutoHide = false;
+  desk.Docking.SetAppBar(Edge::Top, true);
   EXPECT_EQ(desk.World.Bars.Log()[0], "setautohide 2 0");
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
 }
@@ -224,7 +224,7 @@ TEST(AutoHide, ATakenSideAtTheStartIsGivenUpInSilence) {
   desk.World.Bars.ClaimAutoHide(Edge::Right, other);
   desk.StartAt(Edge::Right);
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
-  EXPECT_FALSE(desk.TheProgram.AutoHide);
+  EXPECT_FALSE(desk.TheProgram.Strip.AutoHide);
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 982, 768}));
 }
 
@@ -243,11 +243,11 @@ TEST(AutoHide, ASideTakenByAnotherIsToldOfOnceAndTheStripDocksInFullSight) {
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{41, 0, 1024, 768}));
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Left), other);
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
-  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(3));
-  EXPECT_FALSE(desk.TheProgram.AutoHide);
+  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(Option::AutoHide));
+  EXPECT_FALSE(desk.TheProgram.Strip.AutoHide);
   EXPECT_TRUE(desk.Strip.picToolbar.Visible());
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
-  EXPECT_FALSE(desk.TheProgram.AppBarBusy);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
+  EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
   desk.Poll();
   EXPECT_EQ(desk.WakeUps(2000), 0);
 }
@@ -260,15 +260,15 @@ TEST(AutoHide, WhileTheMessageIsUpTheStripIsNotReady) {
   desk.World.Desktop.Answer(kTaken, forms::msgbox::AnswerOk);
   bool ready = true;
   desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) {
-    ready = desk.TheProgram.ToolbarReady;
+    ready = desk.TheProgram.Guards.ToolbarReady;
     desk.World.Bars.ClearLog();
     desk.World.Bars.TellBars();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
     desk.World.Desktop.Advance(1000);
   });
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   EXPECT_FALSE(ready);
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
 }
 
 TEST(AutoHide, AStripThatGoesWhileTheMessageIsUpIsNotTouchedAnyMore) {
@@ -278,7 +278,7 @@ TEST(AutoHide, AStripThatGoesWhileTheMessageIsUpIsNotTouchedAnyMore) {
   desk.World.Bars.ClaimAutoHide(Edge::Left, other);
   desk.World.Desktop.Answer(kTaken, forms::msgbox::AnswerOk);
   desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { desk.Exit(); });
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   EXPECT_FALSE(desk.Strip.IsLoaded());
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
 }
@@ -388,8 +388,8 @@ TEST(AutoHide, ASideThatAnotherTookMeanwhileIsGivenUpWithTheNextNews) {
   const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Another bar"});
   desk.World.Bars.ClaimAutoHide(Edge::Left, other);
   desk.World.Bars.TellBars();
-  EXPECT_FALSE(desk.TheProgram.AutoHide);
-  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(3));
+  EXPECT_FALSE(desk.TheProgram.Strip.AutoHide);
+  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(Option::AutoHide));
   EXPECT_EQ(desk.Bounds(), (PixelRect{0, 0, 41, 768}));
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{41, 0, 1024, 768}));
   EXPECT_TRUE(desk.Strip.picToolbar.Visible());
@@ -448,12 +448,12 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
   HidingDesk desk;
   desk.StartHidden(Edge::Right);
   // Under a full-screen program a reveal lets events through, and the pointer has gone on by then.
-  desk.TheProgram.FullScreenApp = true;
+  desk.TheProgram.Strip.FullScreenApp = true;
   desk.World.Desktop.MoveOther(desk.World.Desktop.ForegroundWindow(), {0, 0, 1024, 768});
   int ticks = 0;
   const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk, &ticks] {
     ++ticks;
-    EXPECT_TRUE(desk.TheProgram.HideBusy);
+    EXPECT_TRUE(desk.TheProgram.Guards.HideBusy);
     // The strip is in full sight already, and the pointer and the foreground are elsewhere: a tick
     // that did its work would hide it.
     EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
@@ -465,7 +465,7 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
   desk.Strip.Form_MouseMove(forms::MouseButton::None, {}, 0, 0);
   desk.World.Desktop.StopTimer(inside);
   EXPECT_EQ(ticks, 1);
-  EXPECT_FALSE(desk.TheProgram.HideBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.HideBusy);
   EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
   // The same tick outside of the reveal hides the strip again.
   desk.Strip.Timer1_Timer();
@@ -475,7 +475,7 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
 TEST(AutoHide, ATickInsideTheTickThatRevealsStartsNoOther) {
   HidingDesk desk;
   desk.StartHidden(Edge::Right);
-  desk.TheProgram.FullScreenApp = true;
+  desk.TheProgram.Strip.FullScreenApp = true;
   // No move has come to the line yet.
   desk.World.Desktop.SetPointerPosition(kLines[3].touch);
   ASSERT_TRUE(desk.IsLine());
@@ -560,8 +560,8 @@ TEST(AutoHide, ACoveredStripIsPutBeforeTheOtherOnlyUnderAFullScreenProgram) {
       DockDesk desk;
       desk.StartAt(Edge::Top);
       desk.World.Bars.SetFullScreen(true);
-      desk.TheProgram.FullScreenApp = fullScreen;
-      desk.SetOption(4, option4);
+      desk.TheProgram.Strip.FullScreenApp = fullScreen;
+      desk.SetOption(Option::AboveFullScreen, option4);
       const WindowId cover =
           desk.World.Desktop.AddOtherWindow({.Title = "Full screen", .Bounds = {0, 0, 1024, 768}});
       desk.World.Desktop.TakeForeground(cover);

@@ -24,8 +24,8 @@ CarryDesk::CarryDesk(const sim::WorldOptions& options)
   World.Files.MakeFolders("C:\\Corvelle\\Icons");
   World.Files.Put("C:\\Corvelle\\Icons\\W95MBX02.ICO", "x");
   World.Files.Put("C:\\Tools\\tool.exe", "x");
-  TheProgram.AppPath = "C:\\Corvelle\\";
-  TheProgram.OptionFlags.Set(2, true);
+  TheProgram.Paths.AppPath = "C:\\Corvelle\\";
+  TheProgram.OptionFlags.Set(Option::DefaultEntriesOffered, true);
   TheProgram.Ports.Toolbar = &Strip;
   TheProgram.Ports.QMenu = &Menu;
   TheProgram.Ports.Minimize = &Companion;
@@ -63,10 +63,10 @@ Titles CarryDesk::ItemsOf(int number) {
 void CarryDesk::Start() {
   if (!World.Files.Has(FileOf(1))) Put(1, {"A", "B", "C", "D"});
   if (!World.Files.Has(FileOf(2))) Put(2, {"X", "Y"});
-  TheProgram.StartingUp = true;
+  TheProgram.Guards.StartingUp = true;
   Strip.LoadWindow();
   Companion.LoadWindow();
-  TheProgram.StartingUp = false;
+  TheProgram.Guards.StartingUp = false;
   World.Desktop.Pump();
 }
 

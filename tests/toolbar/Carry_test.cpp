@@ -50,12 +50,12 @@ TEST(Carry, DoesNotStartOtherwise) {
     desk.Open(2);
     if (row.disabled) desk.Menu.DisableLabel(2);
     desk.PointAt(desk.ItemPoint(2));
-    desk.TheProgram.MenuBuilding = row.building;
+    desk.TheProgram.Guards.MenuBuilding = row.building;
     if (row.ctrl) desk.World.Desktop.KeyDown(17);
     desk.World.Desktop.Press(row.button);
     EXPECT_FALSE(desk.Carries()) << row.name;
     EXPECT_EQ(desk.Pointer(), MousePointer::Default) << row.name;
-    desk.TheProgram.MenuBuilding = false;
+    desk.TheProgram.Guards.MenuBuilding = false;
   }
 }
 
@@ -65,7 +65,7 @@ TEST(Carry, DoesNotStartWhereTheKeysHaveSelectedAnotherItem) {
   desk.Open(2);
   desk.PointAt(desk.ItemPoint(2));
   desk.World.Desktop.PressKey(forms::key::Down);
-  ASSERT_EQ(desk.TheProgram.SelectedItem, 3);
+  ASSERT_EQ(desk.TheProgram.Menu.SelectedItem, 3);
   desk.World.Desktop.KeyDown(17);
   desk.World.Desktop.Press();
   EXPECT_FALSE(desk.Carries());
@@ -85,7 +85,7 @@ TEST(Carry, NothingIsTakenFromOrPutIntoTheProgramsOwnMenu) {
   desk.Open(1);
   ASSERT_EQ(desk.MenuUp(), 1);
   desk.PointAt(desk.ItemPoint(2));
-  ASSERT_EQ(desk.TheProgram.SelectedItem, 2);
+  ASSERT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   desk.World.Desktop.KeyDown(17);
   desk.World.Desktop.Press();
   EXPECT_FALSE(desk.Carries());
@@ -166,7 +166,7 @@ TEST(Carry, WithinAMenuTheItemComesToStandBeforeTheTarget) {
       desk.Start();
       desk.Carry(row.from);
       desk.To(desk.ItemPoint(row.to));
-      EXPECT_EQ(desk.TheProgram.SelectedItem, row.to) << row.name;
+      EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, row.to) << row.name;
       desk.Release();
       EXPECT_EQ(desk.ItemsOf(1), row.expected) << row.name;
       EXPECT_EQ(desk.MenuUp(), 2) << row.name;
@@ -215,7 +215,7 @@ TEST(Carry, PutDownBelowTheLastItemChangesNothing) {
   desk.Carry(2);
   const PixelPoint last = desk.ItemPoint(4);
   desk.To({last.x, last.y + 14});
-  ASSERT_EQ(desk.TheProgram.SelectedItem, 0);
+  ASSERT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   desk.Release();
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "B", "C", "D"}));
   EXPECT_FALSE(desk.Carries());
@@ -236,7 +236,7 @@ TEST(Carry, APopupCommandAtWorkKeepsTheEntryWhereItIs) {
   CarryDesk desk;
   desk.Start();
   desk.Carry(2);
-  desk.TheProgram.ItemActionBusy = true;
+  desk.TheProgram.Guards.ItemActionBusy = true;
   desk.To(desk.ItemPoint(4));
   desk.Release();
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "B", "C", "D"}));
@@ -271,14 +271,14 @@ TEST(Carry, OpensTheMenusOnItsWayAlongTheStrip) {
   desk.ToButton(3);
   EXPECT_EQ(desk.MenuUp(), 3);
   EXPECT_TRUE(desk.Carries());
-  EXPECT_TRUE(desk.TheProgram.ButtonDragging);
+  EXPECT_TRUE(desk.TheProgram.Drag.ButtonDragging);
   desk.ToButton(2);
   EXPECT_EQ(desk.MenuUp(), 2);
   EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "B");
   desk.ToButton(3);
   desk.To(desk.ItemPoint(2));
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
-  EXPECT_FALSE(desk.TheProgram.ButtonDragging);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
+  EXPECT_FALSE(desk.TheProgram.Drag.ButtonDragging);
   desk.Release();
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "C", "D"}));
   EXPECT_EQ(desk.ItemsOf(2), (Titles{"X", "B", "Y"}));
@@ -336,12 +336,12 @@ TEST(Carry, ADropOnAButtonOfADockedStripLeavesThePointerWhereItIs) {
   desk.ToButton(3);
   const PixelPoint at{desk.Middle(3).x - 9, desk.Middle(3).y};
   desk.PointAt(at);
-  desk.TheProgram.AppBarDocked = true;
+  desk.TheProgram.Strip.AppBarDocked = true;
   desk.Release();
   EXPECT_EQ(desk.ItemsOf(2), (Titles{"X", "Y", "B"}));
   EXPECT_EQ(desk.MenuUp(), 3);
   EXPECT_EQ(desk.World.Desktop.PointerPosition(), at);
-  desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.Strip.AppBarDocked = false;
 }
 
 TEST(Carry, ADropOnItsOwnButtonMovesToTheEnd) {
@@ -497,11 +497,11 @@ TEST(Carry, NoKeyDoesAnythingMeanwhile) {
     desk.World.Desktop.PressKey(key);
     EXPECT_TRUE(desk.Carries()) << key;
     EXPECT_EQ(desk.MenuUp(), 2) << key;
-    EXPECT_EQ(desk.TheProgram.SelectedItem, 2) << key;
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2) << key;
     EXPECT_EQ(desk.World.Desktop.PointerPosition(), pointer) << key;
   }
   desk.World.Desktop.Type("c");
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   EXPECT_TRUE(desk.World.Shell.Started().empty());
   // Nor on the strip, when that is the one that hears the keys.
   desk.Strip.SetFocus();
@@ -518,9 +518,9 @@ TEST(CarryGuards, AReleaseWhileAMenuIsBuiltPutsNothingDown) {
   desk.Start();
   desk.Carry(2);
   desk.To(desk.ItemPoint(4));
-  desk.TheProgram.MenuBuilding = true;
+  desk.TheProgram.Guards.MenuBuilding = true;
   desk.Release();
-  desk.TheProgram.MenuBuilding = false;
+  desk.TheProgram.Guards.MenuBuilding = false;
   EXPECT_FALSE(desk.Carries());
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "B", "C", "D"}));
   EXPECT_EQ(desk.Pointer(), MousePointer::Default);
@@ -532,7 +532,7 @@ TEST(CarryGuards, ASecondReleaseAClickAndTheTimersInsideADropDoNothing) {
   const PixelPoint row = desk.ShowRow();
   bool dropping = false;
   desk.Row.WhileDropping = [&] {
-    dropping = desk.TheProgram.ItemDropping;
+    dropping = desk.TheProgram.Drag.ItemDropping;
     desk.Menu.Form_MouseUp(MouseButton::Left, {}, 600, 600);
     desk.Strip.picToolbar_MouseUp(MouseButton::Left, {}, 0, 0);
     desk.Menu.Form_MouseDown(MouseButton::Left, {.Ctrl = true}, 600, 600);
@@ -551,7 +551,7 @@ TEST(CarryGuards, ASecondReleaseAClickAndTheTimersInsideADropDoNothing) {
   desk.Release();
   EXPECT_TRUE(dropping);
   EXPECT_EQ(desk.Row.Asked.size(), 1U);
-  EXPECT_FALSE(desk.TheProgram.ItemDropping);
+  EXPECT_FALSE(desk.TheProgram.Drag.ItemDropping);
   EXPECT_FALSE(desk.Carries());
 }
 
@@ -589,7 +589,7 @@ TEST(CarryGuards, TheProgramCanEndInsideADrop) {
   desk.To(row);
   desk.Release();
   EXPECT_EQ(desk.Row.Asked.size(), 1U);
-  EXPECT_FALSE(desk.TheProgram.ItemDropping);
+  EXPECT_FALSE(desk.TheProgram.Drag.ItemDropping);
   EXPECT_FALSE(desk.Carries());
 }
 

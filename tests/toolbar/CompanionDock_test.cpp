@@ -55,7 +55,7 @@ TEST(CompanionDock, AnUprightStripThatReturnsElsewhereEmptiesThemOnceMore) {
 
 TEST(CompanionDock, ASecondStartWhileTheMessageOfATakenSideIsUpChangesNothingOfTheReturn) {
   CompanionDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Right);
   desk.GoIntoTheTaskBar();
   desk.World.Bars.ClaimAutoHide(Edge::Right, desk.World.Desktop.AddOtherWindow({.Title = "Bar"}));
@@ -68,7 +68,7 @@ TEST(CompanionDock, ASecondStartWhileTheMessageOfATakenSideIsUpChangesNothingOfT
   EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(desk.Bounds(), (PixelRect{982, 0, 1024, 768}));
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 982, 768}));
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
   EXPECT_FALSE(desk.Companion.Visible());
   desk.Poll();
   EXPECT_EQ(desk.WakeUps(2000), 0);
@@ -93,7 +93,7 @@ TEST(CompanionDock, TheEndInTheMidstOfAChangeLeavesNoBarNoIconAndNoFlag) {
     for (const bool hides : {false, true}) {
       SCOPED_TRACE(std::string(row.name) + (hides ? ", hiding" : ""));
       CompanionDesk desk;
-      desk.SetOption(3, hides);
+      desk.SetOption(Option::AutoHide, hides);
       desk.StartAt(Edge::Right);
       row.before(desk);
       const forms::TimerId end = desk.World.Desktop.StartTimer(1, [&desk] { desk.Exit(); });
@@ -104,9 +104,9 @@ TEST(CompanionDock, TheEndInTheMidstOfAChangeLeavesNoBarNoIconAndNoFlag) {
       EXPECT_TRUE(desk.World.Tray.Shown.empty());
       EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
       EXPECT_EQ(desk.World.Desktop.Clock().Running(), 0);
-      EXPECT_FALSE(desk.TheProgram.AppBarBusy);
-      EXPECT_FALSE(desk.TheProgram.PosChangeRunning);
-      EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+      EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
+      EXPECT_FALSE(desk.TheProgram.Guards.PosChangeRunning);
+      EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
     }
   }
 }

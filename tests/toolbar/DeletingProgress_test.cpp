@@ -15,8 +15,8 @@ namespace {
 
 struct DeletingProgress : testing::Test {
   DeletingProgress() {
-    program.AppPath = "C:\\Corvelle\\";
-    program.IconsPath = "C:\\Corvelle\\Icons\\";
+    program.Paths.AppPath = "C:\\Corvelle\\";
+    program.Paths.IconsPath = "C:\\Corvelle\\Icons\\";
     program.Ports.Startup = &window;
     world.Files.Put(kPicture, "x");
     world.Icons.SetIconCount(kPicture, 1);

@@ -16,7 +16,7 @@ struct DockDesk : StripDesk {
     TheProgram.Ports.Docking = &Docking;
     TheProgram.Ports.Capture = &Picture;
     TheProgram.Ports.ImageWindow = &Picture;
-    SetOption(26, true);
+    SetOption(Option::LargeIcons, true);
     PutButtons(5);
   }
   DockDesk(const DockDesk&) = delete;
@@ -26,9 +26,9 @@ struct DockDesk : StripDesk {
   /// The edge that the next start asks for.
   void AskFor(Edge at) {
     const std::string code = EdgeCode(EdgeText(at));
-    SetOption(14, true);
-    SetOption(15, code[0] == '1');
-    SetOption(16, code[1] == '1');
+    SetOption(Option::AtEdge, true);
+    SetOption(Option::EdgeCodeFirst, code[0] == '1');
+    SetOption(Option::EdgeCodeSecond, code[1] == '1');
   }
   /// Starts at an edge, without what was said on the way.
   void StartAt(Edge at) {

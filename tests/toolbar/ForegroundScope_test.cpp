@@ -34,12 +34,13 @@ struct RebuildRow {
 };
 
 const RebuildRow kRebuilds[] = {
-    {"docking", [](BetweenDesk& desk) { desk.Docking.SetAppBar("LEFT", true); }},
-    {"docking without a rebuild", [](BetweenDesk& desk) { desk.Docking.SetAppBar("TOP", false); }},
+    {"docking", [](BetweenDesk& desk) { desk.Docking.SetAppBar(Edge::Left, true); }},
+    {"docking without a rebuild",
+     [](BetweenDesk& desk) { desk.Docking.SetAppBar(Edge::Top, false); }},
     {"refresh all", [](BetweenDesk& desk) { desk.Strip.InitNewButtons(); }},
     {"large icons",
      [](BetweenDesk& desk) {
-       desk.SetOption(26, false);
+       desk.SetOption(Option::LargeIcons, false);
        desk.Strip.InitNewButtons();
      }},
     {"back to the top", [](BetweenDesk& desk) { desk.Strip.RestoreToolbar(); }},
@@ -56,7 +57,7 @@ TEST(Foreground, StaysWithTheStripThroughEveryRebuild) {
     for (const RebuildRow& row : kRebuilds) {
       SCOPED_TRACE(std::string(row.name) + (docked ? ", docked" : ""));
       BetweenDesk desk;
-      desk.SetOption(29, true);
+      desk.SetOption(Option::NotOnTopTipDone, true);
       if (docked) desk.AskFor(Edge::Right);
       desk.Start();
       desk.UseStrip();
@@ -72,8 +73,8 @@ TEST(Foreground, StaysWithTheStripThroughEveryRebuild) {
       // The keys go there too.
       desk.PointAway();
       desk.World.Desktop.PressKey(forms::key::F10);
-      EXPECT_TRUE(desk.TheProgram.KeyboardOnToolbar);
-      EXPECT_EQ(desk.TheProgram.CurButton, 1);
+      EXPECT_TRUE(desk.TheProgram.Menu.KeyboardOnToolbar);
+      EXPECT_EQ(desk.TheProgram.Menu.CurButton, 1);
     }
   }
 }
@@ -83,7 +84,7 @@ TEST(Foreground, ARebuildWhileTheUserIsElsewhereTakesNothing) {
   desk.StartAt(Edge::Right);
   desk.GoElsewhere();
   const WindowId other = desk.World.Desktop.ForegroundWindow();
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), other);
   desk.World.Bars.AddOtherBar(Edge::Left, 30);
   desk.Poll();
@@ -100,7 +101,7 @@ TEST(Foreground, AUserWhoGoesElsewhereDuringARebuildStaysThere) {
     desk.World.Desktop.TakeForeground(desk.Topmost);
   });
   desk.World.Desktop.Jump(5);
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Topmost);
   EXPECT_TRUE(desk.Shown());
 }

@@ -227,7 +227,7 @@ TEST(PopupFailures, ADiskThatRefusesIsSaidToAndTheFileStaysWhatItWas) {
       EXPECT_EQ(desk.World.Desktop.Boxes().back().Flags, 0x40040U);
       EXPECT_EQ(desk.World.Files.Get(file), before);
       EXPECT_TRUE(desk.TheProgram.Entry.UndoMenuTag.empty());
-      EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+      EXPECT_FALSE(desk.TheProgram.Guards.ItemActionBusy);
     }
   }
 }
@@ -252,7 +252,7 @@ TEST(PopupFailures, AFullDiskAndAFolderThatIsGoneAreSaidToBeThat) {
     desk.RightClickItem(1, "Insert Menu Item");
     desk.World.Files.FreeDisk();
     EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
-    EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+    EXPECT_FALSE(desk.TheProgram.Guards.ItemActionBusy);
   }
 }
 
@@ -307,11 +307,11 @@ TEST(PopupGuard, ADropWaitsWhileACommandRewritesAFile) {
   desk.OpenMenuOf(2);
   bool busyInside = false;
   desk.World.Desktop.WhileBoxIsUp(
-      [&](const sim::MessageBox&) { busyInside = desk.TheProgram.ItemActionBusy; });
+      [&](const sim::MessageBox&) { busyInside = desk.TheProgram.Guards.ItemActionBusy; });
   desk.World.Desktop.Answer(kQuestion, forms::msgbox::AnswerNo);
   desk.RightClickButton(3, "Delete Item");
   EXPECT_TRUE(busyInside);
-  EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.ItemActionBusy);
 }
 
 // ---- who is told of an edit ----

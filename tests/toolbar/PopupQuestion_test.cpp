@@ -251,7 +251,7 @@ struct ShellMenus final : SpecialFoldersPort {
 struct ShellMenuDesk : QuestionDesk {
   ShellMenuDesk() {
     TheProgram.Ports.SpecialFolders = &Shell;
-    TheProgram.OptionFlags.Set(19, false);
+    TheProgram.OptionFlags.Set(Option::SystemPopupWithCtrl, false);
     OpenMenuOf(2);
   }
   ~ShellMenuDesk() { TheProgram.Ports.SpecialFolders = nullptr; }

@@ -31,7 +31,7 @@ TEST(PopupShown, HasAllItsLinesAtThePointerAndBelongsToTheMenuThatIsUp) {
   EXPECT_EQ(popup.Owner, desk.RealMenu.hWnd());
   // The item stays selected and the menu up, also after a while.
   desk.Wait(1000);
-  EXPECT_EQ(desk.TheProgram.SelectedItem, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 2);
   EXPECT_TRUE(desk.RealMenu.MenuVisible());
 }
 
@@ -269,7 +269,7 @@ TEST(PopupOnTheStrip, AddButtonMakesAFileWithOneItemAndShowsTheButton) {
   EXPECT_EQ(desk.RecordOf(3, 2).FIcon, "New");
   EXPECT_LE(desk.Strip.Left(), left);
   EXPECT_GE(desk.Strip.Left(), 0.0F);
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
   desk.OpenMenuOf(4);
   EXPECT_EQ(desk.Shown(), "New Menu Item|");
 }
@@ -283,7 +283,7 @@ TEST(PopupOnTheStrip, ADiskThatTakesNoNewButtonSaysSo) {
   desk.World.Files.Protect("C:\\Corvelle\\Menus", false);
   EXPECT_EQ(desk.Strip.ButtonCount, before);
   EXPECT_EQ(desk.World.Desktop.Boxes().back().Flags, 0x40040U);
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
 }
 
 // ---- a menu button ----

@@ -204,7 +204,7 @@ TEST(QuickHand, AClickChoosesThoughTheSelectionWentBetweenPressAndRelease) {
   desk.RealMenu.Form_MouseDown(MouseButton::Left, {}, at.X, at.Y);
   desk.PointAt({900, 700});
   desk.Wait(200);
-  ASSERT_EQ(desk.TheProgram.SelectedItem, 0);
+  ASSERT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   desk.RealMenu.Form_MouseUp(MouseButton::Left, {}, at.X, at.Y);
   EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i3.exe"});
   EXPECT_EQ(desk.RealMenuUp(), 0);
@@ -218,7 +218,7 @@ TEST(QuickHand, AReleaseFromTheStripChoosesThoughTheSelectionWentBeforeIt) {
   const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd());
   desk.PointAt({900, 700});
   desk.Wait(200);
-  ASSERT_EQ(desk.TheProgram.SelectedItem, 0);
+  ASSERT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   desk.Strip.picToolbar_MouseUp(MouseButton::Left, {},
                                 static_cast<float>(item.x - box.left) * desk.Strip.TwipsX,
                                 static_cast<float>(item.y - box.top) * desk.Strip.TwipsY);
@@ -384,7 +384,7 @@ TEST(StripAndMenu, TheKeyboardComesRoundOverTheMainButton) {
   desk.Wait(200);
   desk.World.Desktop.PressKey(forms::key::Right);
   desk.Wait(200);
-  EXPECT_EQ(desk.TheProgram.CurButton, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 1);
   EXPECT_EQ(desk.RealMenuUp(), 0);
   desk.World.Desktop.PressKey(forms::key::Right);
   desk.Wait(200);

@@ -91,7 +91,7 @@ TEST(SecondScreen, WhoWorksThereLetsTheStripHideAndOnlyThePrimarysEdgeBringsItBa
     for (const Edge at : kAllEdges) {
       SCOPED_TRACE(std::string(second.name) + ", " + std::string(EdgeText(at)));
       TwoScreens desk(second);
-      desk.SetOption(3, true);
+      desk.SetOption(Option::AutoHide, true);
       desk.StartAt(at);
       desk.WorkThere();
       desk.Poll();
@@ -117,7 +117,7 @@ TEST(SecondScreen, APullThatGoesThereShowsAndTakesTheNearEdgeOfThePrimary) {
     TwoScreens desk(second);
     desk.StartAt(wanted == Edge::Left ? Edge::Right : Edge::Left);
     desk.Pull(desk.JustBeyond());
-    EXPECT_EQ(desk.Picture.OutlineEdge(), EdgeText(wanted));
+    EXPECT_EQ(desk.Picture.OutlineEdge(), wanted);
     EXPECT_TRUE(Within(desk.World.Desktop.BoundsOf(desk.Picture.hWnd()), kPrimary));
     desk.World.Desktop.Release();
     EXPECT_EQ(desk.Bounds(), AtEdgeOf(wanted, kPrimary.Size()));
@@ -133,7 +133,7 @@ TEST(SecondScreen, ASlideThatGoesThereEndsOnThePrimary) {
     EXPECT_GE(desk.Bounds().left, 0);
     EXPECT_LE(desk.Bounds().right, kPrimary.right);
     EXPECT_EQ(desk.Bounds().top, -7);
-    EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+    EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
   }
 }
 
@@ -165,11 +165,11 @@ TEST(SecondScreen, AHintStaysOnThePrimary) {
 TEST(SecondScreen, AStillPictureShowsThePartOnThePrimaryOnly) {
   DockDesk desk;
   desk.Start();
-  desk.SetOption(4, true);
+  desk.SetOption(Option::AboveFullScreen, true);
   // Half of the strip hangs over to the left, as options 13 and 27 let it.
-  desk.TheProgram.RestoreBusy = true;
+  desk.TheProgram.Guards.RestoreBusy = true;
   desk.Strip.SetLeft(-desk.Strip.Width() / 2);
-  desk.TheProgram.RestoreBusy = false;
+  desk.TheProgram.Guards.RestoreBusy = false;
   desk.Picture.SetPicture1();
   const PixelRect picture = desk.World.Desktop.BoundsOf(desk.Picture.hWnd());
   EXPECT_EQ(picture.left, 0);
@@ -230,7 +230,7 @@ TEST(Resolution, AHiddenStripIsALineAtTheNewEdgeAndComesBackThere) {
     for (const Edge at : kAllEdges) {
       SCOPED_TRACE(std::string(row.name) + ", " + std::string(EdgeText(at)));
       Resized desk;
-      desk.SetOption(3, true);
+      desk.SetOption(Option::AutoHide, true);
       desk.StartAt(at);
       desk.GoElsewhere();
       desk.Poll();
@@ -252,7 +252,7 @@ TEST(Resolution, AHiddenStripIsALineAtTheNewEdgeAndComesBackThere) {
 
 TEST(Resolution, AHiddenStripAtNoEdgeStaysALineAtTheTop) {
   Resized desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.Start();
   desk.GoElsewhere();
   desk.Poll();
@@ -294,7 +294,7 @@ TEST(Resolution, AStripInTheTaskBarReturnsToTheNewScreen) {
         SCOPED_TRACE(std::string(row.name) + ", " + std::string(EdgeText(at)) +
                      (autoHide ? ", hiding" : ""));
         Resized desk;
-        desk.SetOption(3, autoHide);
+        desk.SetOption(Option::AutoHide, autoHide);
         desk.StartAt(at);
         desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
         EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
@@ -307,8 +307,8 @@ TEST(Resolution, AStripInTheTaskBarReturnsToTheNewScreen) {
         EXPECT_FALSE(desk.Companion.Visible());
         EXPECT_EQ(desk.Bounds(), AtEdgeOf(at, row.size));
         EXPECT_EQ(desk.World.Bars.HiddenBar(at), autoHide ? desk.Strip.hWnd() : kNoWindow);
-        EXPECT_TRUE(desk.TheProgram.ToolbarReady);
-        EXPECT_FALSE(desk.TheProgram.AppBarBusy);
+        EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
+        EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
       }
     }
   }

@@ -41,7 +41,7 @@ TEST(SingleCarry, APressShowsTheEntryAndFillsTheClipboard) {
   desk.PointAtSingle(2);
   desk.World.Desktop.Press();
   EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging);
-  EXPECT_TRUE(desk.TheProgram.MenuOpen);
+  EXPECT_TRUE(desk.TheProgram.Menu.MenuOpen);
   EXPECT_EQ(desk.Parts.Asked, std::vector<std::string>{"image C:\\Tools\\b.exe"});
   EXPECT_EQ(desk.TheProgram.Entry.ClipTitle, "b");
   EXPECT_EQ(desk.TheProgram.Entry.CurMenuTag, "SingleButtons");
@@ -77,8 +77,8 @@ TEST(SingleCarry, ToAnotherButtonMovesItInFront) {
   EXPECT_EQ(desk.OnDisk(), "1d 2a 3b 4c");
   EXPECT_TRUE(desk.Started().empty());
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
-  EXPECT_EQ(desk.TheProgram.CurSingle, 0);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
+  EXPECT_EQ(desk.TheProgram.Menu.CurSingle, 0);
 }
 
 TEST(SingleCarry, ToTheNextButtonChangesNothing) {
@@ -132,8 +132,8 @@ TEST(SingleCarry, TheRightButtonCopiesToTheEnd) {
 
 TEST(SingleCarry, InTwoRowsAButtonGoesToTheOtherRow) {
   SinglesDesk desk;
-  desk.SetOption(24, true);
-  desk.SetOption(26, true);
+  desk.SetOption(Option::SmallSingles, true);
+  desk.SetOption(Option::LargeIcons, true);
   desk.PutSingles("abc");
   desk.StartAt(Edge::Right);
   desk.Carry(3, desk.MiddleOf(2));
@@ -162,7 +162,7 @@ TEST(SingleCarry, ThatIsLostEndsWithTheNextMove) {
   desk.CarryTo(2, {200, 500});
   desk.Strip.picSingleButton_MouseMove(forms::MouseButton::None, {}, 0, 0);
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
   EXPECT_EQ(desk.Parts.Times("no image"), 1);
   desk.World.Desktop.Release();
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
@@ -193,7 +193,7 @@ TEST(SingleCarry, WhatAnotherProgramHasPutInItsPlaceStaysThereAndIsShown) {
 
 TEST(SingleCarry, WhileAPopupCommandWritesADropWaits) {
   DropDesk desk;
-  desk.TheProgram.ItemActionBusy = true;
+  desk.TheProgram.Guards.ItemActionBusy = true;
   desk.Carry(4, desk.MiddleOf(1));
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
@@ -297,7 +297,7 @@ TEST(AddNewButton, MakesAMenuBehindTheOthers) {
             Records({Entry("New Button", "Button"), Entry("New Menu Item", "New")}));
   // The strip grew to the left by what the button takes.
   EXPECT_EQ(desk.Strip.Left() + desk.Strip.Width(), right);
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
   EXPECT_EQ(desk.Row(), "ab");
 }
 
@@ -314,7 +314,7 @@ TEST(AddNewButton, OnADiskThatRefusesThereIsNone) {
   desk.World.Desktop.Answer("75 - Path/File access error", forms::msgbox::AnswerOk);
   desk.Strip.AddNewButton();
   EXPECT_EQ(desk.Strip.ButtonCount, 3);
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
 }
 
 // ---- files of other programs ----
@@ -384,13 +384,13 @@ TEST(DropFilesOnSingles, AtAnEdgeTheRowIsFittedAndTheStripShown) {
   SinglesDesk desk;
   desk.PutSingles("a");
   desk.StartAt(Edge::Bottom);
-  desk.TheProgram.AutoHide = true;
+  desk.TheProgram.Strip.AutoHide = true;
   const int fitted = desk.Edge.Fitted;
   desk.PointAtSingle(1);
   desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Left);
   EXPECT_EQ(desk.Edge.Fitted, fitted + 1);
   EXPECT_EQ(desk.Edge.Revealed, 1);
-  desk.TheProgram.AutoHide = false;
+  desk.TheProgram.Strip.AutoHide = false;
 }
 
 TEST(DropFilesOnSingles, ADiskThatRefusesLeavesTheRow) {

@@ -78,7 +78,7 @@ TEST(SingleRow, EachButtonShowsItsIconAndAnUnknownOneTheBlankDocument) {
   desk.World.Files.Put("C:\\Corvelle\\Icons\\W95MBX02.ICO", "icon");
   desk.World.Icons.SetIndex("C:\\Tools\\a.exe", 7);
   desk.World.Icons.SetIndex("C:\\Corvelle\\Icons\\W95MBX02.ICO", 8);
-  desk.TheProgram.ShellDrawsIcons = true;
+  desk.TheProgram.Icons.ShellDrawsIcons = true;
   desk.PutSingles("a");
   desk.PutSingle(2, Entry("b", "", "C:\\b.exe"));
   desk.PutSingle(3, Entry("c", "C:\\nowhere.ico", "C:\\c.exe"));
@@ -94,8 +94,8 @@ TEST(SingleRow, EachButtonShowsItsIconAndAnUnknownOneTheBlankDocument) {
 
 TEST(SingleRow, SmallIconsBesideLargeOnesStandInTwoRows) {
   SinglesDesk desk;
-  desk.SetOption(24, true);
-  desk.SetOption(26, true);
+  desk.SetOption(Option::SmallSingles, true);
+  desk.SetOption(Option::LargeIcons, true);
   desk.PutSingles("abc-d");
   desk.StartAt(Edge::Left);
   const std::vector<SingleRect>& row = desk.Strip.Singles.SingleButtons;
@@ -109,7 +109,7 @@ TEST(SingleRow, SmallIconsBesideLargeOnesStandInTwoRows) {
 
 TEST(SingleRow, LargeIconsAloneStandInOneRow) {
   SinglesDesk desk;
-  desk.SetOption(26, true);
+  desk.SetOption(Option::LargeIcons, true);
   desk.PutSingles("ab");
   desk.Start();
   EXPECT_EQ(desk.Strip.Singles.SingleButtons[2].Width, 32 * 15);
@@ -236,7 +236,7 @@ TEST(SingleClick, RunsTheButtonWhenOption11SaysSo) {
   desk.ClickSingle(2);
   EXPECT_EQ(desk.Started(), std::vector<std::string>{"C:\\Tools\\b.exe"});
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
   EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
   EXPECT_EQ(desk.Parts.Times("no image"), 1);
 }
@@ -275,7 +275,7 @@ TEST(SingleClick, OnAnotherButtonWhileTheFirstIsDealtWithRunsThatOneAfterwards) 
 
 TEST(SingleClick, WithoutOption11ADoubleClickRunsItOnce) {
   SinglesDesk desk;
-  desk.SetOption(11, false);
+  desk.SetOption(Option::SingleClick, false);
   desk.PutSingles("ab");
   desk.Start();
   desk.ClickSingle(2);
@@ -371,7 +371,7 @@ TEST(SingleGuards, WhileAnEntryIsCarriedAPressIsNone) {
   desk.World.Desktop.KeyDown(1);
   desk.Strip.picSingleButton_MouseDown(forms::MouseButton::Left, {}, 100, 100);
   EXPECT_TRUE(desk.Parts.Asked.empty());
-  desk.TheProgram.CurSingle = 1;
+  desk.TheProgram.Menu.CurSingle = 1;
   desk.Strip.Singles.RunSingleButton();
   EXPECT_TRUE(desk.Started().empty());
   desk.World.Desktop.KeyUp(1);
@@ -385,7 +385,7 @@ TEST(SingleGuards, WhileOneIsBeingStartedASecondClickStartsNone) {
   int asked = 0;
   desk.World.Shell.WhileAsked([&](const sim::Launch&) {
     if (++asked > 1) return;
-    desk.TheProgram.CurSingle = 1;
+    desk.TheProgram.Menu.CurSingle = 1;
     desk.Strip.Singles.RunSingleButton();
   });
   desk.ClickSingle(1);
@@ -396,7 +396,7 @@ TEST(SingleGuards, AtTheStartNothingRuns) {
   SinglesDesk desk;
   desk.PutSingles("a");
   desk.Start();
-  desk.TheProgram.StartingUp = true;
+  desk.TheProgram.Guards.StartingUp = true;
   desk.ClickSingle(1);
   EXPECT_TRUE(desk.Started().empty());
   EXPECT_EQ(desk.Parts.Hint, "");
@@ -406,10 +406,10 @@ TEST(SingleGuards, WhileThePlaceChangesThereIsNoHover) {
   SinglesDesk desk;
   desk.PutSingles("a");
   desk.Start();
-  desk.TheProgram.PosChangeRunning = true;
+  desk.TheProgram.Guards.PosChangeRunning = true;
   desk.PointAtSingle(1);
   EXPECT_EQ(desk.Parts.Hint, "");
-  desk.TheProgram.PosChangeRunning = false;
+  desk.TheProgram.Guards.PosChangeRunning = false;
 }
 
 TEST(SingleGuards, TheEndOfTheProgramInsideAStartIsHarmless) {
@@ -440,14 +440,14 @@ TEST(SingleHover, ShowsTheTitleAndTwoLinesAndEndsWithThePointer) {
   desk.PointAtSingle(2);
   EXPECT_EQ(desk.Parts.Hint, "b");
   EXPECT_EQ(HoverLinesShown(desk), 2);
-  EXPECT_EQ(desk.TheProgram.CurSingle, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.CurSingle, 2);
   desk.PointAtSingle(3);
   EXPECT_EQ(desk.Parts.Hint, "R&&D");
   desk.PointAway();
   desk.Wait(150);
   EXPECT_EQ(desk.Parts.Hint, "");
   EXPECT_EQ(HoverLinesShown(desk), 0);
-  EXPECT_EQ(desk.TheProgram.CurSingle, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.CurSingle, 0);
   desk.Wait(500);  // the end of the start
   EXPECT_EQ(desk.WakeUps(5000), 0);
 }
@@ -486,7 +486,7 @@ TEST(SingleHover, WithAMenuUpItClosesTheMenuAndShowsTheButton) {
   desk.PointAtSingle(1);
   desk.Wait();
   EXPECT_EQ(desk.MenuUp(), 0);
-  EXPECT_EQ(desk.TheProgram.CurSingle, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.CurSingle, 1);
   EXPECT_EQ(desk.Parts.Hint, "a");
 }
 
@@ -496,7 +496,7 @@ TEST(SingleRightClick, Option19AndCtrlChooseThePopup) {
   for (const bool option : {true, false}) {
     for (const bool ctrl : {true, false}) {
       SinglesDesk desk;
-      desk.SetOption(19, option);
+      desk.SetOption(Option::SystemPopupWithCtrl, option);
       desk.PutSingles("ab");
       desk.Start();
       if (ctrl) desk.World.Desktop.KeyDown(17);
@@ -568,7 +568,7 @@ TEST(GetCurIndex, AsksForThePlaceOnceAndSeesOtherWindows) {
   EXPECT_EQ(desk.Strip.Singles.GetCurIndex(), 2);
   desk.PointAtButton(2);
   EXPECT_EQ(desk.Strip.Singles.GetCurIndex(), 0);
-  EXPECT_EQ(desk.TheProgram.CurSingle, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.CurSingle, 0);
 }
 
 TEST(SingleRow, ItsEndTakesTheLinesOfTheSeparatorsAway) {
@@ -594,7 +594,7 @@ TEST(SingleHover, EndsWhenThePointerComesToTheDate) {
 
 TEST(SingleRightClick, AnEntryWithoutACommandHasNoShellMenu) {
   SinglesDesk desk;
-  desk.SetOption(19, true);
+  desk.SetOption(Option::SystemPopupWithCtrl, true);
   desk.PutSingle(1, Entry("a"));
   desk.Start();
   desk.World.Desktop.KeyDown(17);

@@ -4,21 +4,21 @@
 
 namespace corvelle {
 
-void NotedEdge::SetAppBar(std::string_view edge, bool rebuild) {
+void NotedEdge::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   Program& program = Desk.TheProgram;
-  program.AppBarRequested = true;
-  program.AppBarDocked = true;
-  program.ToolbarEdge = edge;
-  program.ToolbarVertical = IsVertical(EdgeFromText(edge).value_or(corvelle::Edge::Top));
+  program.Strip.AppBarRequested = true;
+  program.Strip.AppBarDocked = true;
+  program.Strip.ToolbarEdge = edge;
+  program.Strip.ToolbarVertical = IsVertical(EdgeFromText(edge).value_or(corvelle::Edge::Top));
   frmToolbar& strip = Desk.Strip;
   if (rebuild) {
-    program.AppBarBusy = true;
+    program.Guards.AppBarBusy = true;
     strip.UnloadItems();
     strip.InitButtons();
-    program.AppBarBusy = false;
+    program.Guards.AppBarBusy = false;
   }
   const forms::ScreenInfo screen = Desk.World.Windows().Screen();
-  if (program.ToolbarVertical) {
+  if (program.Strip.ToolbarVertical) {
     const float left = edge == "RIGHT" ? screen.Width - strip.Width() : 0;
     strip.Move(left, 0, strip.Width(), screen.Height);
   } else {
@@ -34,7 +34,7 @@ void NotedEdge::ResizeToEdge() {
   frmToolbar& strip = Desk.Strip;
   strip.SetControls();
   forms::PictureBox& box = strip.picSingleButton;
-  if (Desk.TheProgram.ToolbarVertical) {
+  if (Desk.TheProgram.Strip.ToolbarVertical) {
     box.SetHeight(strip.Height() - box.Top() - 2 * strip.TwipsY);
   } else {
     box.SetWidth(strip.Width() - box.Left() - 2 * strip.TwipsX);
@@ -50,8 +50,8 @@ SinglesDesk::SinglesDesk(const sim::WorldOptions& options) : StripDesk(options) 
   TheProgram.Ports.Popup = &Parts;
   Parts.Current = &TheProgram.Entry;
   TheProgram.Ports.SpecialFolders = &Parts;
-  SetOption(11, true);
-  SetOption(19, true);
+  SetOption(Option::SingleClick, true);
+  SetOption(Option::SystemPopupWithCtrl, true);
 }
 
 // The parts go before the strip.
@@ -81,7 +81,7 @@ void SinglesDesk::PutSingles(const std::string& titles) {
 void SinglesDesk::StartAt(corvelle::Edge at) {
   Start();
   TheProgram.Ports.Docking = &Edge;
-  Edge.SetAppBar(EdgeText(at), true);
+  Edge.SetAppBar(at, true);
   World.Desktop.Pump();
 }
 
@@ -115,8 +115,8 @@ PixelPoint SinglesDesk::MiddleOf(int single) const {
 
 PixelPoint SinglesDesk::BarePlace() const {
   const PixelRect box = World.Desktop.BoundsOf(Strip.picSingleButton.hWnd());
-  return TheProgram.ToolbarVertical ? PixelPoint{box.left + 8, box.bottom - 3}
-                                    : PixelPoint{box.right - 3, box.top + 8};
+  return TheProgram.Strip.ToolbarVertical ? PixelPoint{box.left + 8, box.bottom - 3}
+                                          : PixelPoint{box.right - 3, box.top + 8};
 }
 
 void SinglesDesk::CarryTo(int single, PixelPoint at) {

@@ -54,8 +54,8 @@ struct NotedEdge final : DockingPort {
   void RegisterAppBar() override {}
   void RemoveAppBar() override {}
   void EndAppBar() override {}
-  bool AutoHideFree(std::string_view) override { return true; }
-  void SetAppBar(std::string_view edge, bool rebuild) override;
+  bool AutoHideFree(Edge) override { return true; }
+  void SetAppBar(std::optional<Edge> edge, bool rebuild) override;
   void RevealToolbar() override { ++Revealed; }
   void HideToolbar() override {}
   void ShowAutoHideTaken() override {}

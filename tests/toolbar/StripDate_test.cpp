@@ -9,7 +9,7 @@ namespace {
 
 struct DateDesk : SinglesDesk {
   explicit DateDesk(const std::string& titles = "ab", corvelle::Edge at = corvelle::Edge::Top) {
-    SetOption(21, true);
+    SetOption(Option::ShowDate, true);
     PutSingles(titles);
     StartAt(at);
   }
@@ -39,7 +39,7 @@ TEST(StripDate, StandsAtTheFarEndOfALyingStrip) {
 TEST(StripDate, AnUprightOrFloatingStripNeverShowsIt) {
   for (const Edge at : {Edge::Left, Edge::Right}) EXPECT_TRUE(DateDesk("ab", at).Hidden());
   SinglesDesk floating;
-  floating.SetOption(21, true);
+  floating.SetOption(Option::ShowDate, true);
   floating.Start();
   floating.Strip.DoLabelDate();
   EXPECT_FALSE(floating.Strip.lblDate.Visible());
@@ -50,16 +50,16 @@ TEST(StripDate, AnUprightOrFloatingStripNeverShowsIt) {
 TEST(StripDate, GoesWithItsLinesWhenTheStripLeavesTheEdge) {
   DateDesk desk;
   ASSERT_TRUE(desk.Shown());
-  desk.TheProgram.AppBarDocked = false;
-  desk.TheProgram.AppBarRequested = false;
+  desk.TheProgram.Strip.AppBarDocked = false;
+  desk.TheProgram.Strip.AppBarRequested = false;
   desk.Strip.DoSingleButtons();
   EXPECT_TRUE(desk.Hidden());
 }
 
 TEST(StripDate, WithLargeIconsItIsBold) {
   SinglesDesk desk;
-  desk.SetOption(21, true);
-  desk.SetOption(26, true);
+  desk.SetOption(Option::ShowDate, true);
+  desk.SetOption(Option::LargeIcons, true);
   desk.StartAt(Edge::Top);
   EXPECT_TRUE(desk.Strip.lblDate.Visible());
   EXPECT_TRUE(desk.Strip.lblDate.Font().Bold);
@@ -72,10 +72,10 @@ TEST(StripDate, ManyButtonsHideItRatherThanLieUnderIt) {
 
 TEST(StripDate, GoesWithOption21) {
   DateDesk desk;
-  desk.SetOption(21, false);
+  desk.SetOption(Option::ShowDate, false);
   desk.Strip.DoLabelDate();
   EXPECT_TRUE(desk.Hidden());
-  desk.SetOption(21, true);
+  desk.SetOption(Option::ShowDate, true);
   desk.Strip.DoLabelDate();
   EXPECT_TRUE(desk.Shown());
 }
@@ -83,11 +83,11 @@ TEST(StripDate, GoesWithOption21) {
 TEST(StripDate, WaitsWhileTheStripIsRestored) {
   DateDesk desk;
   desk.World.System.Date = "3/15/2026";
-  desk.TheProgram.RestoreBusy = true;
+  desk.TheProgram.Guards.RestoreBusy = true;
   desk.Strip.UpdateLabelDate();
   desk.Strip.DoLabelDate();
   EXPECT_EQ(desk.Strip.lblDate.Caption(), "3/14/2026");
-  desk.TheProgram.RestoreBusy = false;
+  desk.TheProgram.Guards.RestoreBusy = false;
 }
 
 TEST(StripDate, AtMidnightItChangesWhenItIsNextAskedFor) {
@@ -121,7 +121,7 @@ TEST(StripDate, ClocksThatAreSetChangeItAtOnce) {
   EXPECT_EQ(desk.Strip.lblDate.Caption(), "12/15/2026");
   EXPECT_EQ(desk.Strip.lblDate.Right(), desk.Strip.picSingleButton.Width() - 50);
   // Without the date there is nothing to change.
-  desk.SetOption(21, false);
+  desk.SetOption(Option::ShowDate, false);
   desk.World.System.Date = "12/16/2026";
   desk.World.Desktop.Send(desk.Strip.hWnd(), forms::message::TimeChange, 0, 0);
   EXPECT_EQ(desk.Strip.lblDate.Caption(), "12/15/2026");
@@ -146,11 +146,11 @@ TEST(StripDate, TheHintOverItIsTheClock) {
   DateDesk desk;
   desk.PointAt(desk.OnDate());
   EXPECT_EQ(desk.Parts.Hint, "09:05 AM, Saturday, March 14, 2026");
-  EXPECT_EQ(desk.TheProgram.CurSingle, Program::kDateArea);
+  EXPECT_EQ(desk.TheProgram.Menu.CurSingle, MenuState::kDateArea);
   desk.PointAway();
   desk.Wait(150);
   EXPECT_EQ(desk.Parts.Hint, "");
-  EXPECT_EQ(desk.TheProgram.CurSingle, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.CurSingle, 0);
   desk.Wait(500);  // the end of the start
   EXPECT_EQ(desk.WakeUps(5000), 0);
 }
@@ -167,7 +167,7 @@ TEST(StripDate, AClickOnItNeverBeginsACarry) {
   desk.PointAt({box.right - 1, box.top + 2});
   desk.World.Desktop.Press();
   EXPECT_TRUE(desk.Strip.Singles.OnDate);
-  EXPECT_EQ(desk.TheProgram.CurSingle, Program::kDateArea);
+  EXPECT_EQ(desk.TheProgram.Menu.CurSingle, MenuState::kDateArea);
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
   desk.World.Desktop.Release();
   EXPECT_TRUE(desk.Parts.Asked.empty());
@@ -213,7 +213,7 @@ TEST(StripDate, APressClosesAMenu) {
   desk.PointAt(desk.OnDate());
   desk.World.Desktop.Press();
   EXPECT_EQ(desk.MenuUp(), 0);
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
   desk.World.Desktop.Release();
 }
 

@@ -11,12 +11,12 @@ void StandInMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) 
   key_ = menuKey;
   LastFile = menuFile;
   Asked.push_back("ShowMenu " + key_);
-  program_.MenuBuilding = true;
+  program_.Guards.MenuBuilding = true;
   if (WhileBuilding) {
     const auto action = std::exchange(WhileBuilding, nullptr);
     action();
   }
-  program_.MenuBuilding = false;
+  program_.Guards.MenuBuilding = false;
   if (Refuses || !IsLoaded()) return;
   Built.insert(key_);
   ShowNoActivate();
@@ -58,8 +58,8 @@ void StripDesk::Install() {
   World.Files.Put("C:\\Corvelle\\corvelle.exe", "program");
   World.Files.MakeFolders("C:\\Corvelle\\Menus");
   World.Files.MakeFolders("C:\\Corvelle\\Icons");
-  TheProgram.AppPath = "C:\\Corvelle\\";
-  TheProgram.OptionFlags.Set(2, true);
+  TheProgram.Paths.AppPath = "C:\\Corvelle\\";
+  TheProgram.OptionFlags.Set(Option::DefaultEntriesOffered, true);
   TheProgram.Ports.Toolbar = &Strip;
   TheProgram.Ports.SingleButtons = &Strip.Singles;
   TheProgram.Ports.QMenu = &Menu;
@@ -83,10 +83,10 @@ bool StripDesk::HasMenuFile(std::string_view name) const {
 }
 
 void StripDesk::Start() {
-  TheProgram.StartingUp = true;
+  TheProgram.Guards.StartingUp = true;
   Strip.LoadWindow();
   Companion.LoadWindow();
-  TheProgram.StartingUp = false;
+  TheProgram.Guards.StartingUp = false;
   World.Desktop.Pump();
 }
 

@@ -29,8 +29,8 @@ class OneDefaultMenu final : public DefaultEntriesPort {
   explicit OneDefaultMenu(Program& program) : program_(program) {}
   void IncludeCommonFiles() override {
     ++Calls;
-    EXPECT_TRUE(
-        CreateButtonFile(program_.Services.Files, program_.Services.Ansi, program_.MenusPath));
+    EXPECT_TRUE(CreateButtonFile(program_.Services.Files, program_.Services.Ansi,
+                                 program_.Paths.MenusPath));
   }
 
   int Calls = 0;
@@ -75,7 +75,7 @@ TEST_F(WholeStart, AFreshInstallationEndsWithTheDefaultFlagsAndNoOthers) {
   world.Desktop.Answer(forms::msgbox::AnswerNo);
   ASSERT_TRUE(Main(fresh.TheProgram));
   EXPECT_EQ(fresh.Entries.Calls, 1);
-  EXPECT_EQ(fresh.TheProgram.ToolbarEdge, "RIGHT");
+  EXPECT_EQ(fresh.TheProgram.Strip.ToolbarEdge, Edge::Right);
   // 38 pixels of a large button and the frame, the whole screen high.
   EXPECT_EQ(world.Desktop.BoundsOf(fresh.Strip.hWnd()), (PixelRect{982, 0, 1024, 768}));
   EXPECT_EQ(world.Bars.WorkArea(), (PixelRect{0, 0, 982, 768}));

@@ -98,12 +98,12 @@ TEST_F(Hint, ThePointerNeverRestsOnIt) {
 TEST_F(Hint, Option22DisablesItAndOnlyClosesOneThatIsUp) {
   desk.PointAtButton(2);
   ASSERT_TRUE(Up());
-  desk.SetOption(22, true);
+  desk.SetOption(Option::NoHints, true);
   hint.SetHint("another");
   EXPECT_FALSE(Up());
   desk.PointAtButton(3);
   EXPECT_FALSE(Up());
-  desk.SetOption(22, false);
+  desk.SetOption(Option::NoHints, false);
   desk.PointAtButton(2);
   EXPECT_TRUE(Up());
 }
@@ -178,7 +178,7 @@ TEST_F(Hint, AMenuThatIsOpenedAgainMeanwhileIsNotCovered) {
 }
 
 TEST_F(Hint, WithOption22NoneIsDueAfterASecondPressEither) {
-  desk.SetOption(22, true);
+  desk.SetOption(Option::NoHints, true);
   desk.Click(2);
   desk.Wait();
   desk.Click(2);
@@ -187,7 +187,7 @@ TEST_F(Hint, WithOption22NoneIsDueAfterASecondPressEither) {
 }
 
 TEST_F(Hint, NoneComesWhileTheProgramStartsOrTheStripIsPlacedAnew) {
-  for (bool Program::*const flag : {&Program::StartingUp, &Program::PosChangeRunning}) {
+  for (bool Program::*const flag : {&GuardFlags::StartingUp, &GuardFlags::PosChangeRunning}) {
     desk.TheProgram.*flag = true;
     desk.PointAtButton(2);
     EXPECT_FALSE(Up());

@@ -87,8 +87,8 @@ TEST(StillPicture, OfTheStripIsTakenOnlyWithOption4AndNotDuringAChangeOfMode) {
     for (const bool changing : {true, false}) {
       DockDesk desk;
       desk.StartAt(Edge::Right);
-      desk.SetOption(4, option4);
-      desk.TheProgram.ChangingMode = changing;
+      desk.SetOption(Option::AboveFullScreen, option4);
+      desk.TheProgram.Guards.ChangingMode = changing;
       desk.Picture.SetPicture1();
       EXPECT_EQ(desk.Picture.WindowLoaded(), option4 && !changing);
       desk.Picture.ResetPicture1();
@@ -100,7 +100,7 @@ TEST(StillPicture, OfTheStripIsTakenOnlyWithOption4AndNotDuringAChangeOfMode) {
 TEST(StillPicture, OfAStripAtTheTopIsThePartThatIsOnTheScreen) {
   DockDesk desk;
   desk.StartAt(Edge::Top);
-  desk.SetOption(4, true);
+  desk.SetOption(Option::AboveFullScreen, true);
   const sim::SimCanvas before = desk.World.Desktop.Picture();
   desk.Picture.SetPicture1();
   EXPECT_EQ(desk.World.Desktop.BoundsOf(desk.Picture.hWnd()), (PixelRect{0, 0, 1024, 38}));
@@ -117,7 +117,7 @@ TEST(StillPicture, ARebuildLeavesNoPictureBehind) {
   for (const bool docked : {true, false}) {
     SCOPED_TRACE(docked);
     DockDesk desk;
-    desk.SetOption(4, true);
+    desk.SetOption(Option::AboveFullScreen, true);
     if (docked) {
       desk.StartAt(Edge::Right);
     } else {
@@ -135,7 +135,7 @@ TEST(StillPicture, ARebuildLeavesNoPictureBehind) {
 TEST(StillPicture, AHiddenStripHasNone) {
   DockDesk desk;
   desk.StartAt(Edge::Right);
-  desk.SetOption(4, true);
+  desk.SetOption(Option::AboveFullScreen, true);
   desk.Strip.HideWindow();
   desk.Picture.SetPicture1();
   EXPECT_FALSE(desk.Picture.WindowLoaded());

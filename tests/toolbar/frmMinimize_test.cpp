@@ -112,7 +112,7 @@ TEST(CompanionEnd, ComesWithACloseFromOutside) {
 
 TEST(CompanionEnd, ComesWithTheEndOfTheSessionAndSavesAll) {
   Started desk;
-  desk.SetOption(22, true);
+  desk.SetOption(Option::NoHints, true);
   desk.World.Desktop.EndSession();
   EXPECT_FALSE(desk.Strip.IsLoaded());
   const auto flags = desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat");
@@ -156,7 +156,7 @@ TEST(CompanionWake, ASizeMessageWithoutASizeBringsTheStripForward) {
 }
 
 TEST(CompanionWake, ArrivesInVainWhileTheStripIsBuilt) {
-  for (bool Program::*flag : {&Program::StartingUp, &Program::AppBarBusy}) {
+  for (bool Program::*flag : {&GuardFlags::StartingUp, &GuardFlags::AppBarBusy}) {
     Started desk;
     desk.TheProgram.*flag = true;
     desk.Strip.Hide();
@@ -170,15 +170,15 @@ TEST(CompanionWake, BringsAMinimizedStripBackOutOfTheTaskBar) {
   Started desk;
   desk.Companion.Minimize();
   desk.Strip.Hide();
-  desk.TheProgram.ToolbarMinimized = true;
-  desk.TheProgram.ToolbarReady = false;
+  desk.TheProgram.Strip.ToolbarMinimized = true;
+  desk.TheProgram.Guards.ToolbarReady = false;
   const WindowId companion = desk.World.Desktop.Find("frmMinimize");
   desk.World.Desktop.Send(companion, forms::message::Size, 0, 0);
-  EXPECT_TRUE(desk.TheProgram.ToolbarMinimized);  // it is minimized still
+  EXPECT_TRUE(desk.TheProgram.Strip.ToolbarMinimized);  // it is minimized still
   desk.Companion.RestoreWindow();
   desk.World.Desktop.Send(companion, forms::message::Size, 0, 0);
-  EXPECT_FALSE(desk.TheProgram.ToolbarMinimized);
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_FALSE(desk.TheProgram.Strip.ToolbarMinimized);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
   EXPECT_TRUE(desk.Strip.Visible());
   EXPECT_FALSE(desk.Companion.Visible());
 }
@@ -267,10 +267,10 @@ struct NotedDocking final : DockingPort {
   void RemoveAppBar() override { Asked.emplace_back("RemoveAppBar"); }
   void EndAppBar() override { Asked.emplace_back("EndAppBar"); }
   void LeaveEdge() override { Asked.emplace_back("LeaveEdge"); }
-  bool AutoHideFree(std::string_view) override { return Free; }
-  void SetAppBar(std::string_view edge, bool rebuild) override {
+  bool AutoHideFree(Edge) override { return Free; }
+  void SetAppBar(std::optional<Edge> edge, bool rebuild) override {
     Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " anew" : ""));
-    TheProgram.AppBarDocked = true;
+    TheProgram.Strip.AppBarDocked = true;
   }
   void RevealToolbar() override { Asked.emplace_back("RevealToolbar"); }
   void HideToolbar() override {}
@@ -285,16 +285,16 @@ TEST(CompanionNotOnTop, LetsOtherWindowsCoverTheStripAndSaysHowToGetItBack) {
   NotedTip tip;
   Started desk;
   desk.TheProgram.Ports.Tip = &tip;
-  desk.TheProgram.AutoHide = true;
-  desk.SetOption(3, true);
+  desk.TheProgram.Strip.AutoHide = true;
+  desk.SetOption(Option::AutoHide, true);
   ASSERT_TRUE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
   desk.Companion.ActivateSysTray();
   EXPECT_FALSE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
   EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Menu.hWnd()));
   EXPECT_TRUE(desk.Strip.Visible());
   EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Strip.hWnd());
-  EXPECT_TRUE(desk.TheProgram.NotOnTop);
-  EXPECT_FALSE(desk.TheProgram.AutoHide);
+  EXPECT_TRUE(desk.TheProgram.Strip.NotOnTop);
+  EXPECT_FALSE(desk.TheProgram.Strip.AutoHide);
   const auto flags = desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat");
   ASSERT_TRUE(flags);
   EXPECT_EQ((*flags)[22], '1');
@@ -312,7 +312,7 @@ TEST(CompanionNotOnTop, SaysNothingToWhoWantsNoMoreOfIt) {
   NotedTip tip;
   Started desk;
   desk.TheProgram.Ports.Tip = &tip;
-  desk.SetOption(29, true);
+  desk.SetOption(Option::NotOnTopTipDone, true);
   desk.Companion.ActivateSysTray();
   EXPECT_EQ(tip.Field, 0);
 }
@@ -330,7 +330,7 @@ TEST(CompanionNotOnTop, SwitchedOffPutsTheStripOnTopAgain) {
   desk.Companion.ActivateSysTray();
   desk.Companion.DeActivateSysTray();
   EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
-  EXPECT_FALSE(desk.TheProgram.NotOnTop);
+  EXPECT_FALSE(desk.TheProgram.Strip.NotOnTop);
   EXPECT_EQ((*desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat"))[22], '0');
   EXPECT_TRUE(desk.World.Tray.Shown.empty());
 }
@@ -350,7 +350,7 @@ TEST(CompanionNotOnTop, PutsTheHintOnTopBothWaysWhereHintsAreShown) {
     SCOPED_TRACE(hints);
     HintLevels hint;
     Started desk;
-    desk.SetOption(22, !hints);
+    desk.SetOption(Option::NoHints, !hints);
     desk.TheProgram.Ports.Hint = &hint;
     desk.Companion.ActivateSysTray();
     const std::vector<std::string> once(hints ? 1 : 0, "-1 131");
@@ -366,15 +366,15 @@ TEST(CompanionNotOnTop, GivesTheEdgeBackAndTakesItAnewEachWay) {
   Started desk;
   NotedDocking docking(desk.TheProgram);
   desk.TheProgram.Ports.Docking = &docking;
-  desk.TheProgram.AppBarDocked = true;
-  desk.TheProgram.ToolbarEdge = "LEFT";
+  desk.TheProgram.Strip.AppBarDocked = true;
+  desk.TheProgram.Strip.ToolbarEdge = Edge::Left;
   const std::vector<std::string> anew = {"RemoveAppBar", "SetAppBar LEFT anew", "RevealToolbar"};
   desk.Companion.ActivateSysTray();
   EXPECT_EQ(docking.Asked, anew);
   docking.Asked.clear();
   desk.Companion.DeActivateSysTray();
   EXPECT_EQ(docking.Asked, anew);
-  desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.Strip.AppBarDocked = false;
   desk.TheProgram.Ports.Docking = nullptr;
 }
 
@@ -402,9 +402,9 @@ TEST(CompanionMinimize, PutsTheStripAwayAndAClickInTheTaskBarBringsItBack) {
   EXPECT_FALSE(desk.Strip.Visible());
   EXPECT_TRUE(desk.Companion.IsMinimized());
   EXPECT_TRUE(desk.Companion.Visible());
-  EXPECT_TRUE(desk.TheProgram.ToolbarMinimized);
-  EXPECT_FALSE(desk.TheProgram.ToolbarMinimizing);
-  EXPECT_FALSE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Strip.ToolbarMinimized);
+  EXPECT_FALSE(desk.TheProgram.Strip.ToolbarMinimizing);
+  EXPECT_FALSE(desk.TheProgram.Guards.ToolbarReady);
   // The tray's icon, when there is one, does the same as the task bar's button.
   desk.World.Desktop.Send(desk.Companion.hWnd(), 512, 1, 514);
   desk.World.Desktop.Send(desk.Companion.hWnd(), forms::message::Size, 0, 0);
@@ -412,19 +412,19 @@ TEST(CompanionMinimize, PutsTheStripAwayAndAClickInTheTaskBarBringsItBack) {
   EXPECT_FALSE(desk.Companion.Visible());
   EXPECT_EQ(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()), place);
   EXPECT_EQ(desk.World.Desktop.ForegroundWindow(), desk.Strip.hWnd());
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
 }
 
 struct AtEdge : Started {
   AtEdge() {
     TheProgram.Ports.Docking = &Docking;
-    TheProgram.AppBarDocked = true;
-    TheProgram.ToolbarEdge = "RIGHT";
+    TheProgram.Strip.AppBarDocked = true;
+    TheProgram.Strip.ToolbarEdge = Edge::Right;
   }
   ~AtEdge() {
     TheProgram.Ports.Docking = nullptr;
-    TheProgram.AppBarDocked = false;
-    TheProgram.AutoHide = false;
+    TheProgram.Strip.AppBarDocked = false;
+    TheProgram.Strip.AutoHide = false;
   }
   void ComeBack() {
     Companion.RestoreWindow();
@@ -437,18 +437,18 @@ TEST(CompanionMinimize, LeavesTheEdgeAndReturnsToIt) {
   AtEdge desk;
   desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
   EXPECT_EQ(desk.Docking.Asked, std::vector<std::string>{"LeaveEdge"});
-  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
-  EXPECT_TRUE(desk.TheProgram.WasDocked);
+  EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
+  EXPECT_TRUE(desk.TheProgram.Strip.WasDocked);
   EXPECT_EQ(desk.TheProgram.WasEdge, "RIGHT");
   EXPECT_EQ(desk.TheProgram.WasTop, desk.Strip.Top());
-  desk.TheProgram.ToolbarEdge = "TOP";
+  desk.TheProgram.Strip.ToolbarEdge = Edge::Top;
   desk.Docking.Asked.clear();
   desk.ComeBack();
   const std::vector<std::string> asked = {"RegisterAppBar", "SetAppBar RIGHT"};
   EXPECT_EQ(desk.Docking.Asked, asked);
-  EXPECT_FALSE(desk.TheProgram.WasDocked);
+  EXPECT_FALSE(desk.TheProgram.Strip.WasDocked);
   EXPECT_TRUE(desk.TheProgram.WasEdge.empty());
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Right);
   EXPECT_TRUE(desk.Strip.Visible());
 }
 
@@ -457,30 +457,30 @@ TEST(CompanionMinimize, TakesTheSizeThatTheStripHasByNow) {
   TwipRect place = desk.Strip.WindowBounds();
   place.Width += 1500;
   desk.Companion.MinimizeFor(place);
-  EXPECT_TRUE(desk.TheProgram.ToolbarMinimized);
-  EXPECT_TRUE(desk.TheProgram.WasDocked);
-  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+  EXPECT_TRUE(desk.TheProgram.Strip.ToolbarMinimized);
+  EXPECT_TRUE(desk.TheProgram.Strip.WasDocked);
+  EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
   EXPECT_FALSE(desk.Strip.Visible());
   EXPECT_EQ(desk.Companion.Width(), place.Width);
 }
 
 TEST(CompanionMinimize, ReturnsWithoutAutoHideWhereAnotherHidesByNow) {
   AtEdge desk;
-  desk.TheProgram.AutoHide = true;
-  desk.SetOption(3, true);
+  desk.TheProgram.Strip.AutoHide = true;
+  desk.SetOption(Option::AutoHide, true);
   desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
   desk.Docking.Asked.clear();
   desk.Docking.Free = false;
   desk.ComeBack();
   const std::vector<std::string> asked = {"ShowAutoHideTaken", "RegisterAppBar", "SetAppBar RIGHT"};
   EXPECT_EQ(desk.Docking.Asked, asked);
-  EXPECT_FALSE(desk.TheProgram.AutoHide);
-  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(3));
+  EXPECT_FALSE(desk.TheProgram.Strip.AutoHide);
+  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(Option::AutoHide));
 }
 
 TEST(CompanionMinimize, OfAStripThatHidesEndsWithItRevealed) {
   AtEdge desk;
-  desk.TheProgram.AutoHide = true;
+  desk.TheProgram.Strip.AutoHide = true;
   desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
   desk.ComeBack();
   EXPECT_EQ(desk.Docking.Asked.back(), "RevealToolbar");
@@ -489,10 +489,10 @@ TEST(CompanionMinimize, OfAStripThatHidesEndsWithItRevealed) {
 TEST(CompanionMinimize, OfAFloatingStripThatMovesLeavesNoCompanionInTheTaskBar) {
   Started desk;
   desk.Companion.ShowNoActivate();
-  desk.TheProgram.ToolbarMinimized = true;
+  desk.TheProgram.Strip.ToolbarMinimized = true;
   desk.Strip.SetTop(600);
   EXPECT_TRUE(desk.Companion.Visible());
-  desk.TheProgram.ToolbarMinimized = false;
+  desk.TheProgram.Strip.ToolbarMinimized = false;
   desk.Strip.SetTop(900);
   EXPECT_FALSE(desk.Companion.Visible());
 }
@@ -520,7 +520,7 @@ TEST(CompanionMinimize, WithoutAStripDoesNothing) {
   const TwipRect place = desk.Strip.WindowBounds();
   desk.Strip.UnloadWindow();
   desk.Companion.MinimizeFor(place);
-  EXPECT_FALSE(desk.TheProgram.ToolbarMinimized);
+  EXPECT_FALSE(desk.TheProgram.Strip.ToolbarMinimized);
   EXPECT_FALSE(desk.Companion.IsMinimized());
 }
 

@@ -13,9 +13,9 @@ namespace {
 
 struct StartupDesk {
   StartupDesk() {
-    TheProgram.AppPath = "C:\\Corvelle\\";
+    TheProgram.Paths.AppPath = "C:\\Corvelle\\";
     TheProgram.Ports.Startup = &Window;
-    TheProgram.StartingUp = true;
+    TheProgram.Guards.StartingUp = true;
   }
   sim::World World;
   Program TheProgram{World.Services(), World.Windows()};
@@ -61,11 +61,11 @@ TEST(StartupWindow, StartsAgainAfterFiftyDots) {
 
 TEST(StartupWindow, StaysAwayWithOption9AndAfterTheStart) {
   StartupDesk desk;
-  desk.TheProgram.OptionFlags.Set(9, true);
+  desk.TheProgram.OptionFlags.Set(Option::NoStartupScreen, true);
   desk.TheProgram.ShowStartupProgress();
   EXPECT_FALSE(desk.Window.IsLoaded());
-  desk.TheProgram.OptionFlags.Set(9, false);
-  desk.TheProgram.StartingUp = false;
+  desk.TheProgram.OptionFlags.Set(Option::NoStartupScreen, false);
+  desk.TheProgram.Guards.StartingUp = false;
   desk.TheProgram.ShowStartupProgress();
   EXPECT_FALSE(desk.Window.IsLoaded());
 }

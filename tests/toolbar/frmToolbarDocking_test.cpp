@@ -21,11 +21,11 @@ struct DockingWithEvents final : DockingPort {
   void RegisterAppBar() override { Asked.emplace_back("RegisterAppBar"); }
   void RemoveAppBar() override { Asked.emplace_back("RemoveAppBar"); }
   void EndAppBar() override { Asked.emplace_back("EndAppBar"); }
-  bool AutoHideFree(std::string_view edge) override {
+  bool AutoHideFree(Edge edge) override {
     Asked.push_back("AutoHideFree " + std::string(edge));
     return Free;
   }
-  void SetAppBar(std::string_view edge, bool rebuild) override {
+  void SetAppBar(std::optional<Edge> edge, bool rebuild) override {
     Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " rebuild" : ""));
     if (WhileDocking) WhileDocking();
   }
@@ -76,14 +76,14 @@ TEST(ToolbarDocking, ARequestedEdgeIsDocked) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     DockingDesk desk;
-    desk.SetOption(14, true);
-    desk.SetOption(15, row.code[0] == '1');
-    desk.SetOption(16, row.code[1] == '1');
+    desk.SetOption(Option::AtEdge, true);
+    desk.SetOption(Option::EdgeCodeFirst, row.code[0] == '1');
+    desk.SetOption(Option::EdgeCodeSecond, row.code[1] == '1');
     desk.Start();
     const Calls expected = {"RegisterAppBar", "SetAppBar " + std::string(row.edge) + " rebuild"};
     EXPECT_EQ(desk.Docking.Asked, expected);
-    EXPECT_EQ(desk.TheProgram.ToolbarVertical, row.vertical);
-    EXPECT_FALSE(desk.TheProgram.AppBarRequested);
+    EXPECT_EQ(desk.TheProgram.Strip.ToolbarVertical, row.vertical);
+    EXPECT_FALSE(desk.TheProgram.Strip.AppBarRequested);
   }
 }
 
@@ -92,12 +92,12 @@ TEST(ToolbarDocking, AutoHideIsGivenUpAtASideThatIsTaken) {
     SCOPED_TRACE(free);
     DockingDesk desk;
     desk.Docking.Free = free;
-    desk.SetOption(3, true);
-    desk.SetOption(14, true);
+    desk.SetOption(Option::AutoHide, true);
+    desk.SetOption(Option::AtEdge, true);
     desk.Start();
     const Calls expected = {"RegisterAppBar", "AutoHideFree TOP", "SetAppBar TOP rebuild"};
     EXPECT_EQ(desk.Docking.Asked, expected);
-    EXPECT_EQ(desk.TheProgram.AutoHide, free);
+    EXPECT_EQ(desk.TheProgram.Strip.AutoHide, free);
   }
 }
 
@@ -112,53 +112,53 @@ TEST(ToolbarDocking, TheEndGivesUpTheEdge) {
 TEST(ToolbarDocking, ARebuildOfADockedStripIsLeftToIt) {
   DockingDesk desk;
   desk.Start();
-  desk.TheProgram.AppBarDocked = true;
-  desk.TheProgram.ToolbarEdge = "LEFT";
+  desk.TheProgram.Strip.AppBarDocked = true;
+  desk.TheProgram.Strip.ToolbarEdge = Edge::Left;
   desk.Docking.Asked.clear();
   desk.Strip.InitNewButtons();
   EXPECT_EQ(desk.Docking.Asked, Calls{"SetAppBar LEFT rebuild"});
-  desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.Strip.AppBarDocked = false;
 }
 
 TEST(ToolbarDocking, ARebuildThatIsAskedForDuringAPlacingComesAfterwards) {
   DockingDesk desk;
   desk.Start();
-  desk.TheProgram.AppBarDocked = true;
-  desk.TheProgram.ToolbarEdge = "LEFT";
+  desk.TheProgram.Strip.AppBarDocked = true;
+  desk.TheProgram.Strip.ToolbarEdge = Edge::Left;
   desk.Docking.Asked.clear();
-  desk.TheProgram.AppBarBusy = true;
-  desk.SetOption(26, true);
+  desk.TheProgram.Guards.AppBarBusy = true;
+  desk.SetOption(Option::LargeIcons, true);
   desk.Strip.InitNewButtons();
   desk.Strip.InitNewButtons();
   desk.Wait(1000);
   EXPECT_EQ(desk.Docking.Asked, Calls{});
-  desk.TheProgram.AppBarBusy = false;
+  desk.TheProgram.Guards.AppBarBusy = false;
   desk.Wait(1000);
   EXPECT_EQ(desk.Docking.Asked, Calls{"SetAppBar LEFT rebuild"});
   desk.Wait(1000);
   EXPECT_EQ(desk.Docking.Asked, Calls{"SetAppBar LEFT rebuild"});
   EXPECT_EQ(desk.WakeUps(2000), 0);
-  desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.Strip.AppBarDocked = false;
 }
 
 TEST(ToolbarDocking, ARestoreThatIsAskedForDuringAPlacingComesAfterwardsAndIsTheOnlyRebuild) {
   DockingDesk desk;
   desk.Start();
-  desk.TheProgram.AppBarDocked = true;
-  desk.TheProgram.ToolbarEdge = "RIGHT";
-  desk.TheProgram.ToolbarVertical = true;
+  desk.TheProgram.Strip.AppBarDocked = true;
+  desk.TheProgram.Strip.ToolbarEdge = Edge::Right;
+  desk.TheProgram.Strip.ToolbarVertical = true;
   desk.Docking.Asked.clear();
-  desk.TheProgram.AppBarBusy = true;
+  desk.TheProgram.Guards.AppBarBusy = true;
   desk.Strip.RestoreToolbar();
   desk.Strip.InitNewButtons();
   desk.Wait(1000);
   EXPECT_EQ(desk.Docking.Asked, Calls{});
-  EXPECT_TRUE(desk.TheProgram.AppBarDocked);
-  desk.TheProgram.AppBarBusy = false;
+  EXPECT_TRUE(desk.TheProgram.Strip.AppBarDocked);
+  desk.TheProgram.Guards.AppBarBusy = false;
   desk.Wait(1000);
   EXPECT_EQ(desk.Docking.Asked, Calls{"RemoveAppBar"});
-  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "TOP");
+  EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Top);
   EXPECT_EQ(desk.Strip.ButtonCount, 3);
   EXPECT_EQ(desk.WakeUps(2000), 0);
 }
@@ -166,14 +166,14 @@ TEST(ToolbarDocking, ARestoreThatIsAskedForDuringAPlacingComesAfterwardsAndIsThe
 TEST(ToolbarDocking, RestoreGivesUpTheEdgeAndComesToTheTop) {
   DockingDesk desk;
   desk.Start();
-  desk.TheProgram.AppBarDocked = true;
-  desk.TheProgram.ToolbarEdge = "RIGHT";
-  desk.TheProgram.ToolbarVertical = true;
+  desk.TheProgram.Strip.AppBarDocked = true;
+  desk.TheProgram.Strip.ToolbarEdge = Edge::Right;
+  desk.TheProgram.Strip.ToolbarVertical = true;
   desk.Docking.Asked.clear();
   desk.Strip.RestoreToolbar();
   EXPECT_EQ(desk.Docking.Asked, Calls{"RemoveAppBar"});
-  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
-  EXPECT_FALSE(desk.TheProgram.ToolbarVertical);
+  EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
+  EXPECT_FALSE(desk.TheProgram.Strip.ToolbarVertical);
   EXPECT_EQ(desk.Strip.Top(), -7 * 15);
   EXPECT_EQ(desk.Strip.ButtonCount, 3);
 }
@@ -182,29 +182,29 @@ TEST(ToolbarDocking, ADockedStripAnswersTheShellAndAFloatingOneLetsItPass) {
   DockingDesk desk;
   desk.Start();
   EXPECT_FALSE(desk.Strip.ToolbarWndProc(message::AppBarCallback, 1, 0).has_value());
-  desk.TheProgram.AppBarDocked = true;
+  desk.TheProgram.Strip.AppBarDocked = true;
   desk.Docking.Asked.clear();
   EXPECT_TRUE(desk.Strip.ToolbarWndProc(message::AppBarCallback, 0, 0).has_value());
   EXPECT_TRUE(desk.Docking.Asked.empty());
   EXPECT_TRUE(desk.Strip.ToolbarWndProc(message::AppBarCallback, 1, 0).has_value());
   EXPECT_EQ(desk.Docking.Asked, Calls{"SetAppBar "});
   EXPECT_TRUE(desk.Strip.ToolbarWndProc(message::AppBarCallback, 2, 1).has_value());
-  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_TRUE(desk.TheProgram.Strip.FullScreenApp);
   EXPECT_FALSE(desk.Strip.ToolbarWndProc(message::Move, 0, 0).has_value());
-  desk.TheProgram.AppBarDocked = false;
+  desk.TheProgram.Strip.AppBarDocked = false;
 }
 
 TEST(ToolbarDocking, TheShellsAnswerWithinAPlacingStartsNoSecondOne) {
   DockingDesk desk;
   desk.Start();
-  desk.TheProgram.AppBarDocked = true;
+  desk.TheProgram.Strip.AppBarDocked = true;
   desk.Docking.Asked.clear();
   // The shell answers the strip's own placing with the same news.
   desk.Docking.WhileDocking = [&] { desk.Send(message::AppBarCallback, 1); };
   desk.Send(message::AppBarCallback, 1);
   EXPECT_EQ(desk.Docking.Asked, Calls{"SetAppBar "});
-  EXPECT_FALSE(desk.TheProgram.PosChangeRunning);
-  desk.TheProgram.AppBarDocked = false;
+  EXPECT_FALSE(desk.TheProgram.Guards.PosChangeRunning);
+  desk.TheProgram.Strip.AppBarDocked = false;
 }
 
 TEST(ToolbarDocking, NoMenuOpensWhileTheStripIsPlacedAnew) {
@@ -212,11 +212,11 @@ TEST(ToolbarDocking, NoMenuOpensWhileTheStripIsPlacedAnew) {
   desk.Start();
   desk.Click(2);
   desk.Wait();
-  desk.TheProgram.PosChangeRunning = true;
+  desk.TheProgram.Guards.PosChangeRunning = true;
   desk.PointAtButton(3);
   desk.Wait();
   EXPECT_EQ(desk.MenuUp(), 2);
-  desk.TheProgram.PosChangeRunning = false;
+  desk.TheProgram.Guards.PosChangeRunning = false;
   desk.Wait();
   EXPECT_EQ(desk.MenuUp(), 3);
 }
@@ -224,7 +224,7 @@ TEST(ToolbarDocking, NoMenuOpensWhileTheStripIsPlacedAnew) {
 TEST(ToolbarDocking, APointerOnTheHiddenLineRevealsTheStripOnce) {
   DockingDesk desk;
   desk.Start();
-  desk.TheProgram.AutoHide = true;
+  desk.TheProgram.Strip.AutoHide = true;
   desk.Strip.picToolbar.SetVisible(false);
   desk.Docking.Asked.clear();
   // A move arrives while the strip is being revealed.
@@ -233,37 +233,37 @@ TEST(ToolbarDocking, APointerOnTheHiddenLineRevealsTheStripOnce) {
   };
   desk.Strip.Form_MouseMove(forms::MouseButton::None, {}, 10, 0);
   EXPECT_EQ(desk.Docking.Asked, Calls{"RevealToolbar"});
-  EXPECT_FALSE(desk.TheProgram.HideBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.HideBusy);
 }
 
 TEST(ToolbarDocking, WithAutoHideTheTimerKeepsRunningAndStopsWhenItIsOff) {
   DockingDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.Start();
   desk.Wait(1000);
   EXPECT_TRUE(desk.Strip.Timer1.Enabled());
   EXPECT_EQ(desk.Strip.Timer1.Interval(), 250);
-  desk.TheProgram.AutoHide = false;
+  desk.TheProgram.Strip.AutoHide = false;
   desk.Wait(300);
   EXPECT_FALSE(desk.Strip.Timer1.Enabled());
 }
 
 TEST(ToolbarDocking, TheTimerLeavesAMinimizedStripAlone) {
   DockingDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.Start();
   desk.Click(2);
-  desk.TheProgram.ToolbarMinimized = true;
+  desk.TheProgram.Strip.ToolbarMinimized = true;
   desk.Wait(300);
   EXPECT_FALSE(desk.Strip.Timer1.Enabled());
   EXPECT_FALSE(desk.Strip.Timer2.Enabled());
   EXPECT_FALSE(desk.Menu.Poll);
-  desk.TheProgram.ToolbarMinimized = false;
+  desk.TheProgram.Strip.ToolbarMinimized = false;
 }
 
 TEST(ToolbarDocking, TheTimerStandsAsideWhileAGuardIsSet) {
-  for (bool Program::*flag : {&Program::StartingUp, &Program::AppBarBusy,
-                              &Program::PosChangeRunning, &Program::RestoreBusy}) {
+  for (bool Program::*flag : {&GuardFlags::StartingUp, &GuardFlags::AppBarBusy,
+                              &GuardFlags::PosChangeRunning, &GuardFlags::RestoreBusy}) {
     DockingDesk desk;
     desk.Start();
     desk.TheProgram.*flag = true;
@@ -282,13 +282,13 @@ TEST(ToolbarDocking, TheNewsOfAMovePutsBackAFloatingStripAndLeavesADockedOne) {
     desk.Start();
     const float top = desk.Strip.SavedTop;
     // While the grip is held the strip may be anywhere.
-    desk.TheProgram.RestoreBusy = true;
+    desk.TheProgram.Guards.RestoreBusy = true;
     desk.Strip.SetTop(300);
-    desk.TheProgram.RestoreBusy = false;
-    desk.TheProgram.AppBarDocked = docked;
+    desk.TheProgram.Guards.RestoreBusy = false;
+    desk.TheProgram.Strip.AppBarDocked = docked;
     EXPECT_FALSE(desk.Strip.ToolbarWndProc(message::Move, 0, 0).has_value());
     EXPECT_EQ(desk.Strip.Top(), docked ? 300 : top);
-    desk.TheProgram.AppBarDocked = false;
+    desk.TheProgram.Strip.AppBarDocked = false;
   }
 }
 
@@ -297,10 +297,10 @@ TEST(ToolbarDocking, WhileItIsDockedItsEdgeStaysAskedFor) {
     SCOPED_TRACE(docked);
     DockingDesk desk;
     desk.Start();
-    desk.TheProgram.AppBarDocked = docked;
+    desk.TheProgram.Strip.AppBarDocked = docked;
     desk.Strip.DrawBorders();
-    EXPECT_EQ(desk.TheProgram.AppBarRequested, docked);
-    desk.TheProgram.AppBarDocked = false;
+    EXPECT_EQ(desk.TheProgram.Strip.AppBarRequested, docked);
+    desk.TheProgram.Strip.AppBarDocked = false;
   }
 }
 

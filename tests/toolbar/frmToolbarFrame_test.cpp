@@ -53,12 +53,12 @@ TEST(ToolbarSlide, TheGripMovesTheStripAlongTheTop) {
   EXPECT_EQ(desk.Strip.Top(), -7 * 15);
   EXPECT_TRUE(desk.LooksDragged());
   // Nothing else places the strip while it is held.
-  EXPECT_TRUE(desk.TheProgram.RestoreBusy);
+  EXPECT_TRUE(desk.TheProgram.Guards.RestoreBusy);
   desk.World.Desktop.Release();
   EXPECT_EQ(desk.Strip.Left(), 4500);
   EXPECT_FALSE(desk.LooksDragged());
   EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(4500));
-  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
 }
 
 TEST(ToolbarSlide, TheBareBoxOfSingleButtonsIsAHandleToo) {
@@ -162,10 +162,10 @@ TEST(ToolbarSlide, APlaceThatTheDiskRefusedIsKeptThroughARebuild) {
 
 TEST(ToolbarSlide, NothingMovesWhileTheStripIsPlacedAnew) {
   Floating desk;
-  desk.TheProgram.AppBarBusy = true;
+  desk.TheProgram.Guards.AppBarBusy = true;
   desk.Pull(100);
   EXPECT_EQ(desk.Strip.Left(), 3000);
-  desk.TheProgram.AppBarBusy = false;
+  desk.TheProgram.Guards.AppBarBusy = false;
   desk.World.Desktop.Release();
 }
 
@@ -278,7 +278,7 @@ TEST(ToolbarFrame, AMoveOverItWithTheMenuUpLeavesMenuAndStripAlone) {
 }
 
 TEST(ToolbarFrame, TheBareFrameMovesNothingWhileTheStripIsPlacedAnew) {
-  for (bool Program::*const flag : {&Program::RestoreBusy, &Program::AppBarBusy}) {
+  for (bool Program::*const flag : {&GuardFlags::RestoreBusy, &GuardFlags::AppBarBusy}) {
     Floating desk;
     desk.Strip.Form_MouseDown(MouseButton::Left, {}, 30, 30);
     desk.TheProgram.*flag = true;
@@ -302,7 +302,7 @@ TEST(ToolbarFrame, AfterThePopupOfTheGripNobodyHoldsTheStrip) {
   desk.Strip.lblSep_MouseMove(0, MouseButton::Left, {}, 900, 60);
   EXPECT_EQ(desk.Strip.Left(), left);
   EXPECT_FALSE(desk.Strip.FrameMoved);
-  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
   desk.TheProgram.Ports.Popup = nullptr;
 }
 

@@ -46,7 +46,7 @@ TEST(ToolbarPress, OpensTheMenuUnderItsButton) {
     EXPECT_EQ(desk.Menu.LastFile, "C:\\Corvelle\\Menus\\BMENU002.MNU");
     EXPECT_EQ(desk.Menu.Top(), desk.Strip.Bottom());
     EXPECT_EQ(desk.Menu.Left(), desk.Strip.Left() + (2 * 24 + 1) * row.twips);
-    EXPECT_TRUE(desk.TheProgram.MenuOpen);
+    EXPECT_TRUE(desk.TheProgram.Menu.MenuOpen);
     EXPECT_TRUE(desk.Menu.Poll);
   }
 }
@@ -83,7 +83,7 @@ TEST(ToolbarPress, ASecondOneClosesTheMenuAndAThirdOpensIt) {
     desk.Wait(300);
     EXPECT_EQ(desk.MenuUp(), 0);
     EXPECT_EQ(desk.Menu.OwnerTag(), "0");
-    EXPECT_FALSE(desk.TheProgram.MenuOpen);
+    EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
     EXPECT_TRUE(desk.AtRest(2));
   }
 }
@@ -145,7 +145,7 @@ TEST(ToolbarPress, AnEnterThatComesWhileTheMenuIsBuiltDoesNotCloseIt) {
   };
   desk.Press(2);
   EXPECT_EQ(desk.MenuUp(), 2);
-  EXPECT_TRUE(desk.TheProgram.MenuOpen);
+  EXPECT_TRUE(desk.TheProgram.Menu.MenuOpen);
 }
 
 TEST(ToolbarPress, TheProgramMayEndWhileAMenuIsBuilt) {
@@ -164,7 +164,7 @@ TEST(ToolbarPress, AMenuThatIsClosedWhileItIsBuiltStaysClosed) {
     desk.Menu.WhileBuilding = [&] { desk.Strip.ResetMenu(); };
     desk.Press(2);
     EXPECT_EQ(desk.MenuUp(), 0);
-    EXPECT_FALSE(desk.TheProgram.MenuOpen);
+    EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
     EXPECT_FALSE(desk.Strip.Timer2.Enabled());
     EXPECT_TRUE(desk.AtRest(2));
   }
@@ -175,7 +175,7 @@ TEST(ToolbarPress, AMenuThatCannotBeShownLeavesTheStripAtRest) {
   desk.Menu.Refuses = true;
   desk.Click(2);
   EXPECT_TRUE(desk.AtRest(2));
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
   desk.Menu.Refuses = false;
   desk.Click(2);
   EXPECT_EQ(desk.MenuUp(), 2);
@@ -191,7 +191,7 @@ TEST(ToolbarPress, OnASeparatorOpensNothing) {
   desk.PointAt({desk.Middle(2).x + 16, desk.Middle(2).y});
   desk.World.Desktop.Click();
   EXPECT_EQ(desk.MenuUp(), 0);
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
 }
 
 TEST(ToolbarHover, WithAMenuOpenTheNextButtonsMenuComesWithoutAClick) {
@@ -223,7 +223,7 @@ TEST(ToolbarHover, WithNoMenuOpenNothingComes) {
   for (int button = 1; button <= 4; ++button) {
     desk.PointAtButton(button);
     desk.Wait();
-    EXPECT_EQ(desk.TheProgram.CurButton, button);
+    EXPECT_EQ(desk.TheProgram.Menu.CurButton, button);
   }
   EXPECT_EQ(desk.MenuUp(), 0);
 }
@@ -246,7 +246,7 @@ TEST(ToolbarHover, CrossingAGapKeepsTheMenu) {
   desk.Wait();
   desk.PointAt({desk.Middle(3).x + 14, desk.Middle(3).y});
   desk.Wait(300);
-  EXPECT_EQ(desk.TheProgram.CurButton, 3);
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 3);
   EXPECT_EQ(desk.MenuUp(), 3);
 }
 
@@ -280,7 +280,7 @@ TEST(ToolbarHover, AMenuHiddenThatWayIsForgottenWhenTheUserGoesElsewhere) {
   const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
   desk.World.Desktop.TakeForeground(other);
   desk.Wait();
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
   desk.PointAtButton(3);
   desk.Wait();
   EXPECT_EQ(desk.MenuUp(), 0);
@@ -290,7 +290,7 @@ TEST(ToolbarHover, OpensNothingWhileAnotherProgramIsActive) {
   ThreeMenus desk;
   const WindowId other = desk.World.Desktop.AddOtherWindow({.Title = "Other"});
   desk.World.Desktop.TakeForeground(other);
-  desk.TheProgram.MenuOpen = true;
+  desk.TheProgram.Menu.MenuOpen = true;
   desk.PointAtButton(3);
   EXPECT_EQ(desk.MenuUp(), 0);
 }
@@ -343,7 +343,7 @@ TEST(ToolbarClose, ThePollEndsWithAMenuThatWentByItself) {
 TEST(ToolbarClose, AMenuOnTheScreenIsClosedThoughNoneIsMarkedOpen) {
   ThreeMenus desk;
   desk.Click(2);
-  desk.TheProgram.MenuOpen = false;
+  desk.TheProgram.Menu.MenuOpen = false;
   desk.Strip.ResetMenu();
   EXPECT_EQ(desk.MenuUp(), 0);
 }
@@ -419,7 +419,7 @@ TEST(ToolbarMainMenu, APressClosesTheMenuOfAnother) {
   desk.Click(2);
   desk.Click(1);
   EXPECT_EQ(desk.MenuUp(), 0);
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
 }
 
 TEST(ToolbarMainMenu, ItsFileIsWrittenAnewOnlyWhenTheMenuIsNotBuilt) {
@@ -453,7 +453,7 @@ TEST(ToolbarKeys, LeftAndRightGoRoundTheStripWithThePointer) {
     ThreeMenus desk;
     desk.PointAtButton(row.from);
     desk.World.Desktop.PressKey(row.key);
-    EXPECT_EQ(desk.TheProgram.CurButton, row.to);
+    EXPECT_EQ(desk.TheProgram.Menu.CurButton, row.to);
     EXPECT_EQ(desk.World.Desktop.WindowAt(desk.World.Desktop.PointerPosition()),
               desk.Strip.picToolbar.hWnd());
   }
@@ -463,7 +463,7 @@ TEST(ToolbarKeys, F10StartsAtTheFirstButtonAndEnterOpensAMenu) {
   ThreeMenus desk;
   desk.PointAway();
   desk.World.Desktop.PressKey(forms::key::F10);
-  EXPECT_EQ(desk.TheProgram.CurButton, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 1);
   desk.World.Desktop.PressKey(forms::key::Right);
   desk.World.Desktop.PressKey(forms::key::Enter);
   EXPECT_EQ(desk.MenuUp(), 2);
@@ -474,7 +474,7 @@ TEST(ToolbarKeys, F10StartsAnewAfterThePointerLeftTheStrip) {
   desk.PointAtButton(3);
   desk.PointAway();
   desk.World.Desktop.PressKey(forms::key::F10);
-  EXPECT_EQ(desk.TheProgram.CurButton, 1);
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 1);
 }
 
 TEST(ToolbarKeys, EnterClosesAnOpenMenuWhenTheStripHasTheKeyboard) {
@@ -522,7 +522,7 @@ TEST(ToolbarKeys, AKeyOfTheMenuDoesNothingDuringACarry) {
   desk.Click(2);
   desk.TheProgram.Entry.ItemDragging = true;
   desk.Strip.ActivateKeyDown(forms::key::Right);
-  EXPECT_EQ(desk.TheProgram.CurButton, 2);
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 2);
   EXPECT_EQ(desk.MenuUp(), 2);
 }
 
@@ -649,8 +649,8 @@ TEST(ToolbarKeys, EscAloneSelectsNoButton) {
   desk.PutButtons(2);
   desk.Start();
   desk.Strip.Form_KeyDown(forms::key::Escape, {});
-  EXPECT_EQ(desk.TheProgram.CurButton, 0);
-  EXPECT_FALSE(desk.TheProgram.KeyboardOnToolbar);
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 0);
+  EXPECT_FALSE(desk.TheProgram.Menu.KeyboardOnToolbar);
 }
 
 TEST(ToolbarRefresh, AMenuThatIsBuiltAgainIsPolledAgain) {

@@ -36,7 +36,7 @@ TEST(ToolbarLoad, TheWindowIsTopmostUnlessOthersMayCoverIt) {
   for (const bool notOnTop : {false, true}) {
     SCOPED_TRACE(notOnTop);
     StripDesk desk;
-    desk.TheProgram.NotOnTop = notOnTop;
+    desk.TheProgram.Strip.NotOnTop = notOnTop;
     desk.PutButtons(1);
     desk.Start();
     EXPECT_EQ(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()), !notOnTop);
@@ -176,9 +176,9 @@ TEST(ToolbarMove, IsLeftAloneWhileTheStripIsPlacedAnew) {
     const char* name;
     bool Program::*flag;
   };
-  const Row rows[] = {{"starting up", &Program::StartingUp},
-                      {"a repositioning", &Program::AppBarBusy},
-                      {"a restore", &Program::RestoreBusy}};
+  const Row rows[] = {{"starting up", &GuardFlags::StartingUp},
+                      {"a repositioning", &GuardFlags::AppBarBusy},
+                      {"a restore", &GuardFlags::RestoreBusy}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     StripOfTwo desk;
@@ -193,11 +193,11 @@ TEST(ToolbarFullScreen, TheStripSinksBelowTheProgramAndComesBackWithTheMenuWindo
   StripOfTwo desk;
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
-  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_TRUE(desk.TheProgram.Strip.FullScreenApp);
   EXPECT_EQ(desk.OrderCalls(), std::vector<std::string>{"setwindowpos frmToolbar 1 19"});
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 0);
-  EXPECT_FALSE(desk.TheProgram.FullScreenApp);
+  EXPECT_FALSE(desk.TheProgram.Strip.FullScreenApp);
   const std::vector<std::string> expected = {"setwindowpos frmToolbar -1 67",
                                              "setwindowpos frmQMenu -1 131"};
   EXPECT_EQ(desk.OrderCalls(), expected);
@@ -214,7 +214,7 @@ TEST(ToolbarFullScreen, TheHintIsOnTopAgainAfterwardsWhereHintsAreShown) {
     EXPECT_FALSE(hint.IsLoaded());
     hint.SetHint("a title");
     ASSERT_TRUE(hint.IsLoaded());
-    desk.SetOption(22, !hints);
+    desk.SetOption(Option::NoHints, !hints);
     desk.Send(message::AppBarCallback, 2, 1);
     hint.SetWindowPos(forms::InsertAfter::NotTopmost, forms::swp::KeepActivation);
     desk.Send(message::AppBarCallback, 2, 0);
@@ -226,31 +226,31 @@ TEST(ToolbarFullScreen, TheHintIsOnTopAgainAfterwardsWhereHintsAreShown) {
 
 TEST(ToolbarFullScreen, WithOption4TheStripStaysAbove) {
   StripOfTwo desk;
-  desk.SetOption(4, true);
+  desk.SetOption(Option::AboveFullScreen, true);
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
   desk.Send(message::AppBarCallback, 2, 1);
   EXPECT_EQ(desk.OrderCalls(), std::vector<std::string>{"setwindowpos frmToolbar 0 19"});
   desk.Send(message::AppBarCallback, 2, 0);
-  EXPECT_FALSE(desk.TheProgram.FullScreenApp);
+  EXPECT_FALSE(desk.TheProgram.Strip.FullScreenApp);
   EXPECT_EQ(desk.OrderCalls().size(), 2U);
 }
 
 TEST(ToolbarFullScreen, AStripThatOthersMayCoverDoesNothing) {
   StripOfTwo desk;
-  desk.TheProgram.NotOnTop = true;
+  desk.TheProgram.Strip.NotOnTop = true;
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
   EXPECT_TRUE(desk.OrderCalls().empty());
-  EXPECT_FALSE(desk.TheProgram.FullScreenApp);
+  EXPECT_FALSE(desk.TheProgram.Strip.FullScreenApp);
 }
 
 TEST(ToolbarGuard, AStripThatIsNotReadyOnlyNotesFullScreenPrograms) {
   StripOfTwo desk;
-  desk.TheProgram.ToolbarReady = false;
+  desk.TheProgram.Guards.ToolbarReady = false;
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
-  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_TRUE(desk.TheProgram.Strip.FullScreenApp);
   EXPECT_TRUE(desk.OrderCalls().empty());
   desk.World.Desktop.SetSystemColor(15, 0x00123456);
   EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 0);
@@ -258,14 +258,14 @@ TEST(ToolbarGuard, AStripThatIsNotReadyOnlyNotesFullScreenPrograms) {
 
 TEST(ToolbarGuard, AMinimizedStripThatIsPlacedAnewOnlyNotesFullScreenPrograms) {
   StripOfTwo desk;
-  desk.TheProgram.AppBarBusy = true;
-  desk.TheProgram.ToolbarMinimized = true;
+  desk.TheProgram.Guards.AppBarBusy = true;
+  desk.TheProgram.Strip.ToolbarMinimized = true;
   desk.World.Desktop.ClearLog();
   desk.Send(message::AppBarCallback, 2, 1);
-  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_TRUE(desk.TheProgram.Strip.FullScreenApp);
   EXPECT_TRUE(desk.OrderCalls().empty());
-  desk.TheProgram.AppBarBusy = false;
-  desk.TheProgram.ToolbarMinimized = false;
+  desk.TheProgram.Guards.AppBarBusy = false;
+  desk.TheProgram.Strip.ToolbarMinimized = false;
 }
 
 TEST(ToolbarGuard, ACloseFromOutsideLeavesTheStripStanding) {
@@ -354,12 +354,12 @@ TEST(ToolbarMessages, NewsThatHasToWaitStartsThePollAndOtherMessagesDoNot) {
     StripDesk desk;
     desk.PutButtons(1);
     desk.Start();
-    desk.TheProgram.ToolbarReady = false;
+    desk.TheProgram.Guards.ToolbarReady = false;
     desk.Strip.Timer1.SetEnabled(false);
     const std::uint32_t message = news ? forms::message::DisplayChange : forms::message::Move;
     EXPECT_FALSE(desk.Strip.ToolbarWndProc(message, 0, 0).has_value());
     EXPECT_EQ(desk.Strip.Timer1.Enabled(), news);
-    desk.TheProgram.ToolbarReady = true;
+    desk.TheProgram.Guards.ToolbarReady = true;
   }
 }
 

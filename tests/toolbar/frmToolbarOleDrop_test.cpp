@@ -47,7 +47,7 @@ TEST(ToolbarOLEDragDrop, TheMenuIsReadAnewAndStaysOpenInFront) {
   EXPECT_EQ(desk.Foreground(), desk.Menu.hWnd());
   EXPECT_FALSE(desk.Strip.tmrDragDrop.Enabled());
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
-  EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.ItemActionBusy);
 }
 
 TEST(ToolbarOLEDragDrop, TheRightButtonStoresLikewise) {
@@ -87,7 +87,7 @@ TEST(ToolbarOLEDragDrop, AThousandFilesComeAndOneThatNoRecordHoldsIsNamedAfterwa
 TEST(ToolbarOLEDragDrop, MeansTheButtonThatIsUnderThePointerByThen) {
   DragDesk desk;
   desk.PointAtButton(3);
-  desk.TheProgram.CurButton = 2;
+  desk.TheProgram.Menu.CurButton = 2;
   forms::DragData data{.Files = Names{"C:\\c.txt"}};
   DropEffect effect = DropEffect::Copy;
   desk.Strip.picToolbar_OLEDragDrop(data, effect, MouseButton::None, {}, 0, 0);
@@ -105,13 +105,13 @@ TEST(ToolbarOLEDragDrop, BetweenTheButtonsNothingIsTaken) {
   desk.TakeFiles({"C:\\c.txt"});
   desk.PointAt({box.left + static_cast<int>((gap.Left() + gap.Width() / 2) / desk.Strip.TwipsX),
                 box.top + 10});
-  EXPECT_EQ(desk.TheProgram.CurButton, 0);
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 0);
   EXPECT_EQ(desk.Effect(), DropEffect::None);
   desk.Drop();
   EXPECT_TRUE(desk.FileUnchanged(1));
   EXPECT_TRUE(desk.FileUnchanged(3));
   desk.Wait(600);
-  EXPECT_FALSE(desk.TheProgram.MenuOpen);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
 }
 
 TEST(ToolbarOLEDragDrop, AStillPictureOfTheMenuGoes) {
@@ -171,7 +171,7 @@ TEST(ToolbarOLEDragDrop, AnAddressIsOfferedWithItsPageTitleForTheButton) {
   desk.Drop();
   EXPECT_EQ(links.Offered,
             Names{"http://example.com/a|A page|3|C:\\Corvelle\\Menus\\BMENU002.MNU"});
-  EXPECT_FALSE(desk.TheProgram.DragIsUrl);
+  EXPECT_FALSE(desk.TheProgram.Drag.DragIsUrl);
   EXPECT_TRUE(desk.FileUnchanged(2));
   desk.TheProgram.Ports.WebLink = nullptr;
   desk.TheProgram.Ports.Browser = nullptr;
@@ -231,13 +231,13 @@ struct Guard {
 };
 
 TEST(ToolbarOLE, WhileAFileOrMenuIsBeingWorkedOnADropIsRefused) {
-  const Guard guards[] = {{"StartingUp", &Program::StartingUp},
-                          {"MenuBuilding", &Program::MenuBuilding},
-                          {"IconsLoading", &Program::IconsLoading},
-                          {"ItemActionBusy", &Program::ItemActionBusy},
-                          {"MenuFormBusy", &Program::MenuFormBusy},
-                          {"AppBarBusy", &Program::AppBarBusy},
-                          {"PosChangeRunning", &Program::PosChangeRunning}};
+  const Guard guards[] = {{"StartingUp", &GuardFlags::StartingUp},
+                          {"MenuBuilding", &GuardFlags::MenuBuilding},
+                          {"IconsLoading", &GuardFlags::IconsLoading},
+                          {"ItemActionBusy", &GuardFlags::ItemActionBusy},
+                          {"MenuFormBusy", &GuardFlags::MenuFormBusy},
+                          {"AppBarBusy", &GuardFlags::AppBarBusy},
+                          {"PosChangeRunning", &GuardFlags::PosChangeRunning}};
   for (const Guard& guard : guards) {
     SCOPED_TRACE(guard.name);
     DragDesk desk;
@@ -276,7 +276,7 @@ TEST(ToolbarOLE, TimersAndClicksInsideTheDropChangeNothing) {
   desk.DragToButton(2);
   bool dragging = false;
   icons.WhileAsked = [&] {
-    dragging = desk.TheProgram.Entry.ItemDragging && desk.TheProgram.ItemActionBusy;
+    dragging = desk.TheProgram.Entry.ItemDragging && desk.TheProgram.Guards.ItemActionBusy;
     desk.World.Desktop.Advance(300);
     desk.Click(3);
     desk.World.Desktop.DoEvents();
@@ -286,7 +286,7 @@ TEST(ToolbarOLE, TimersAndClicksInsideTheDropChangeNothing) {
   ASSERT_EQ(desk.RecordsOf(1).size(), 4U);
   EXPECT_EQ(desk.RecordsOf(1)[3].FName, "C:\\d.txt");
   EXPECT_TRUE(desk.FileUnchanged(2));
-  EXPECT_FALSE(desk.TheProgram.ItemActionBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.ItemActionBusy);
 }
 
 TEST(ToolbarOLE, APointerThatGoesOnInsideTheDropChangesNoButton) {
@@ -360,7 +360,7 @@ TEST(SingleButtonsOLE, AnAddressIsOfferedForTheRow) {
   EXPECT_EQ(desk.Effect(), DropEffect::Copy);
   desk.Drop();
   EXPECT_EQ(links.Offered, Names{"http://example.com||SingleButtons|"});
-  EXPECT_FALSE(desk.TheProgram.DragIsUrl);
+  EXPECT_FALSE(desk.TheProgram.Drag.DragIsUrl);
   desk.TheProgram.Ports.WebLink = nullptr;
 }
 
@@ -385,9 +385,9 @@ TEST(SingleButtonsOLE, AnAddressThatLeavesIsForgottenAndTheNextComesFromItsOwnWi
   const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
   desk.TakeText("http://example.com");
   desk.PointAt({row.left + 5, row.top + 5});
-  EXPECT_TRUE(desk.TheProgram.DragIsUrl);
+  EXPECT_TRUE(desk.TheProgram.Drag.DragIsUrl);
   desk.PointAt(kDragSource);
-  EXPECT_FALSE(desk.TheProgram.DragIsUrl);
+  EXPECT_FALSE(desk.TheProgram.Drag.DragIsUrl);
   desk.Drop();
   const WindowId other =
       desk.World.Desktop.AddOtherWindow({.Title = "Mail", .Bounds = {600, 500, 900, 700}});

@@ -20,8 +20,8 @@ TEST(ToolbarOLEDragOver, OpensTheMenuUnderTheDragAndLeavesTheForegroundAlone) {
   desk.DragToButton(2);
   EXPECT_EQ(desk.MenuUp(), 2);
   EXPECT_EQ(desk.Effect(), DropEffect::Copy);
-  EXPECT_EQ(desk.TheProgram.DragButtons, MouseButton::Left);
-  EXPECT_TRUE(desk.TheProgram.DragOverButton);
+  EXPECT_EQ(desk.TheProgram.Drag.DragButtons, MouseButton::Left);
+  EXPECT_TRUE(desk.TheProgram.Drag.DragOverButton);
   EXPECT_EQ(desk.Foreground(), desk.Source);
 }
 
@@ -63,7 +63,7 @@ TEST(ToolbarOLEDragOver, TheRightButtonLinks) {
   desk.TakeFiles({"C:\\a.txt"}, MouseButton::Right);
   desk.DragToButton(2);
   EXPECT_EQ(desk.Effect(), DropEffect::Link);
-  EXPECT_EQ(desk.TheProgram.DragButtons, MouseButton::Right);
+  EXPECT_EQ(desk.TheProgram.Drag.DragButtons, MouseButton::Right);
 }
 
 TEST(ToolbarOLEDragOver, WhatTheSourceDoesNotAllowIsRefused) {
@@ -100,7 +100,7 @@ TEST(ToolbarOLEDragOver, AnAddressIsKnownByItsBeginningAndItsWindow) {
     desk.TheProgram.Ports.Browser = &browser;
     desk.TakeText(row.text);
     desk.DragToButton(2);
-    EXPECT_EQ(desk.TheProgram.DragIsUrl, row.expected);
+    EXPECT_EQ(desk.TheProgram.Drag.DragIsUrl, row.expected);
     EXPECT_EQ(browser.Sources,
               row.expected ? std::vector<WindowId>{desk.Source} : std::vector<WindowId>{});
     desk.TheProgram.Ports.Browser = nullptr;
@@ -147,8 +147,8 @@ TEST(ToolbarDragTimer, ADragThatLeavesClosesTheMenuWithinATick) {
   desk.PointAt(kDragSource);
   desk.Wait(110);
   EXPECT_EQ(desk.MenuUp(), 0);
-  EXPECT_FALSE(desk.TheProgram.DragOverButton);
-  EXPECT_FALSE(desk.TheProgram.DragIsUrl);
+  EXPECT_FALSE(desk.TheProgram.Drag.DragOverButton);
+  EXPECT_FALSE(desk.TheProgram.Drag.DragIsUrl);
   EXPECT_FALSE(desk.Strip.tmrDragDrop.Enabled());
   EXPECT_TRUE(desk.AtRest(2));
   desk.Drop();
@@ -208,12 +208,12 @@ TEST(ToolbarDragTimer, ASlowSourceMayTakeAMomentFromTheStripIntoTheMenu) {
   desk.TakeFiles({"C:\\a.txt"});
   desk.DragToButton(2);
   desk.World.Desktop.KillDragSource();
-  desk.TheProgram.DragOverButton = false;
+  desk.TheProgram.Drag.DragOverButton = false;
   const PixelRect menu = desk.World.Desktop.BoundsOf(desk.Menu.hWnd());
   desk.PointAt({menu.left + 20, menu.top + 20});
   desk.Wait(200);
   EXPECT_EQ(desk.MenuUp(), 2);
-  desk.TheProgram.DragOverButton = true;
+  desk.TheProgram.Drag.DragOverButton = true;
   desk.Wait(1000);
   EXPECT_EQ(desk.MenuUp(), 2);
 }
@@ -234,7 +234,7 @@ TEST(ToolbarDragTimer, ASourceThatDiesOverTheStripLeavesNothingBehind) {
     desk.Wait(1000);
     EXPECT_EQ(desk.MenuUp(), 0);
     EXPECT_FALSE(desk.Strip.tmrDragDrop.Enabled());
-    EXPECT_FALSE(desk.TheProgram.DragEntered);
+    EXPECT_FALSE(desk.TheProgram.Drag.DragEntered);
     desk.PointAway();
     desk.Wait(200);
     EXPECT_EQ(desk.WakeUps(2000), 0);

@@ -49,14 +49,14 @@ TEST(ToolbarPull, TheOutlineFollowsTheHandAndTheStripGoesWhereItIsDropped) {
       desk.StartAt(from.at);
       desk.Pull(QuarterOf(to.at));
       EXPECT_TRUE(ShowsOutline(desk, to.outline));
-      EXPECT_EQ(desk.Picture.OutlineEdge(), EdgeText(to.at));
+      EXPECT_EQ(desk.Picture.OutlineEdge(), to.at);
       EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Picture.hWnd()));
       EXPECT_EQ(desk.Bounds(), from.window);
       // The border rests while the outline is up.
       EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
       desk.World.Desktop.Release();
       EXPECT_EQ(desk.Bounds(), to.window);
-      EXPECT_EQ(desk.TheProgram.ToolbarEdge, EdgeText(to.at));
+      EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, to.at);
       EXPECT_FALSE(desk.Picture.IsLoaded());
       EXPECT_FALSE(desk.Strip.FrameMoved);
       EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Strip.hWnd());
@@ -71,7 +71,7 @@ TEST(ToolbarPull, OverItsOwnEdgeTheStripLooksGrabbedAndStays) {
   desk.Pull({30, 500});
   EXPECT_EQ(desk.Strip.bLine3.BorderColor(), 255U);
   EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 2);
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), std::nullopt);
   desk.World.Bars.ClearLog();
   desk.World.Desktop.Release();
   EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
@@ -87,9 +87,9 @@ TEST(ToolbarPull, BackOverItsOwnEdgeTheOutlineIsGone) {
   EXPECT_TRUE(desk.World.Desktop.IsShown(desk.Picture.hWnd()));
   desk.PointAt(QuarterOf(Edge::Left));
   EXPECT_FALSE(desk.World.Desktop.IsShown(desk.Picture.hWnd()));
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), std::nullopt);
   desk.World.Desktop.Release();
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left);
   EXPECT_FALSE(desk.Picture.IsLoaded());
 }
 
@@ -108,14 +108,14 @@ TEST(ToolbarPull, AcrossTheCornersTheLastEdgeHoldsUntilAnotherWins) {
   DockDesk desk;
   desk.StartAt(Edge::Left);
   desk.Pull(QuarterOf(Edge::Top));
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "TOP");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), Edge::Top);
   // Still above the diagonal from the middle (512, 384) to the corner (1024, 0).
   desk.PointAt({1020, 2});
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "TOP");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), Edge::Top);
   EXPECT_TRUE(ShowsOutline(desk, {0, 0, 1024, 41}));
   // On the diagonal the sides win.
   desk.PointAt({1024 - 4, 3});
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "RIGHT");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), Edge::Right);
   desk.PointAt({1020, 300});
   EXPECT_TRUE(ShowsOutline(desk, {982, 0, 1024, 768}));
   desk.PointAt(QuarterOf(Edge::Bottom));
@@ -143,14 +143,14 @@ TEST(ToolbarPull, AFloatingStripIsPulledToAnEdgeButNotToTheTop) {
     desk.Start();
     desk.Pull(QuarterOf(row.at));
     if (row.at == Edge::Top) {
-      EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+      EXPECT_EQ(desk.Picture.OutlineEdge(), std::nullopt);
       desk.World.Desktop.Release();
-      EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+      EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
       EXPECT_EQ(desk.Bounds().top, -7);
     } else {
       EXPECT_TRUE(ShowsOutline(desk, row.outline));
       desk.World.Desktop.Release();
-      EXPECT_TRUE(desk.TheProgram.AppBarDocked);
+      EXPECT_TRUE(desk.TheProgram.Strip.AppBarDocked);
       EXPECT_EQ(desk.Bounds(), row.window);
     }
   }
@@ -161,19 +161,19 @@ TEST(ToolbarPull, ASlideThatComesBackFromAnEdgeSlidesOn) {
   desk.Start();
   const int left = desk.Bounds().left;
   desk.Pull(QuarterOf(Edge::Bottom));
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "BOTTOM");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), Edge::Bottom);
   desk.PointAt({400, 10});
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), std::nullopt);
   EXPECT_LT(desk.Bounds().left, left);
   EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 2);
   desk.World.Desktop.Release();
-  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
+  EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
   EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
 }
 
 TEST(ToolbarPull, AHidingStripIsShownAtItsNewEdge) {
   DockDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Right);
   desk.PullAndDrop(QuarterOf(Edge::Bottom));
   EXPECT_EQ(desk.Bounds(), (PixelRect{0, 726, 1024, 768}));
@@ -194,7 +194,7 @@ TEST(ToolbarPull, WhileTheGripIsHeldOtherBarsWait) {
   desk.World.Bars.TellBars();
   EXPECT_EQ(desk.World.Bars.Log(), Messages{});
   desk.World.Desktop.Release();
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "BOTTOM");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Bottom);
 }
 
 TEST(ToolbarPull, TheOtherButtonDoesNotDisturbIt) {
@@ -203,11 +203,11 @@ TEST(ToolbarPull, TheOtherButtonDoesNotDisturbIt) {
   desk.Pull(QuarterOf(Edge::Bottom));
   desk.World.Desktop.Click(forms::MouseButton::Right);
   EXPECT_TRUE(desk.World.Desktop.Popups().empty());
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "BOTTOM");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), Edge::Bottom);
   desk.PointAt(QuarterOf(Edge::Right));
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "RIGHT");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), Edge::Right);
   desk.World.Desktop.Release();
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Right);
   EXPECT_FALSE(desk.Picture.IsLoaded());
 }
 
@@ -218,27 +218,27 @@ TEST(ToolbarPull, TheOtherButtonDoesNotDisturbItOnTheBareRowEither) {
   desk.PointAt({row.left + 10, row.bottom - 100});
   desk.World.Desktop.Press();
   desk.PointAt(QuarterOf(Edge::Bottom));
-  ASSERT_EQ(desk.Picture.OutlineEdge(), "BOTTOM");
+  ASSERT_EQ(desk.Picture.OutlineEdge(), Edge::Bottom);
   desk.World.Desktop.Click(forms::MouseButton::Right);
   desk.World.Desktop.Release();
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "BOTTOM");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Bottom);
   EXPECT_FALSE(desk.Picture.IsLoaded());
 }
 
 TEST(ToolbarPull, AStripThatHidesUnderTheHandIsLetGo) {
   DockDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Left);
   const PixelRect row = desk.World.Desktop.BoundsOf(desk.Strip.picSingleButton.hWnd());
   desk.PointAt({row.left + 10, row.bottom - 100});
   desk.World.Desktop.Press();
   desk.PointAt(QuarterOf(Edge::Bottom));
-  ASSERT_EQ(desk.Picture.OutlineEdge(), "BOTTOM");
+  ASSERT_EQ(desk.Picture.OutlineEdge(), Edge::Bottom);
   desk.World.Bars.TellBars();
   ASSERT_TRUE(desk.IsLine());
   EXPECT_FALSE(desk.Picture.IsLoaded());
   desk.World.Desktop.Release();
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left);
 }
 
 TEST(ToolbarPull, AButtonThatWentDownElsewhereDoesNotPull) {
@@ -262,16 +262,16 @@ TEST(ToolbarPull, WhoseReleaseAnotherProgramGotIsGivenUp) {
   DockDesk desk;
   desk.StartAt(Edge::Left);
   desk.Pull(QuarterOf(Edge::Bottom));
-  ASSERT_TRUE(desk.TheProgram.RestoreBusy);
+  ASSERT_TRUE(desk.TheProgram.Guards.RestoreBusy);
   desk.Wait(2000);
   ASSERT_TRUE(desk.Picture.IsLoaded());
   LoseRelease(desk);
   desk.Wait(600);
   EXPECT_FALSE(desk.Picture.IsLoaded());
-  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
   EXPECT_FALSE(desk.Strip.FrameHeld);
   EXPECT_FALSE(desk.Strip.FrameMoved);
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left);
   desk.Wait(600);
   EXPECT_FALSE(desk.Strip.Timer1.Enabled());
 }
@@ -289,7 +289,7 @@ TEST(ToolbarPull, WhoseReleaseAnotherProgramGotEndsWithTheNextMoveOrPress) {
       desk.Strip.Form_MouseMove(MouseButton::None, {}, 15, 15);
     }
     EXPECT_FALSE(desk.Picture.IsLoaded());
-    EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+    EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
     EXPECT_EQ(desk.Strip.FrameHeld, press);
   }
 }
@@ -326,7 +326,7 @@ TEST(ToolbarPull, OneWhoseReleaseWasLostLeavesNoOutlineToTheOtherButton) {
       desk.Strip.Form_MouseUp(MouseButton::Right, {}, 1, 1);
     }
     EXPECT_FALSE(desk.Picture.IsLoaded());
-    EXPECT_EQ(desk.Picture.OutlineEdge(), "");
+    EXPECT_EQ(desk.Picture.OutlineEdge(), std::nullopt);
     EXPECT_FALSE(desk.Strip.FrameHeld);
   }
 }
@@ -371,11 +371,11 @@ TEST(ToolbarPull, AMoveThatArrivesWhileTheOutlineIsShownDecides) {
   desk.World.Desktop.Jump(5);
   desk.PointAt(QuarterOf(Edge::Bottom));
   desk.World.Desktop.StopTimer(timer);
-  EXPECT_EQ(desk.Picture.OutlineEdge(), "RIGHT");
+  EXPECT_EQ(desk.Picture.OutlineEdge(), Edge::Right);
   EXPECT_TRUE(ShowsOutline(desk, {982, 0, 1024, 768}));
-  EXPECT_FALSE(desk.TheProgram.MovingToolbar);
+  EXPECT_FALSE(desk.Picture.MovingToolbar);
   desk.World.Desktop.Release();
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Right);
 }
 
 TEST(ToolbarPull, TheEndOfAMoveFromElsewhereStoresThePosition) {

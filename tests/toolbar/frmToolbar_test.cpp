@@ -53,9 +53,9 @@ TEST(ToolbarStart, MakesItsFoldersWhereTheyAreMissing) {
   EXPECT_TRUE(desk.World.Files.FolderExists("C:\\Corvelle\\Menus"));
   EXPECT_TRUE(desk.World.Files.FolderExists("C:\\Corvelle\\Icons"));
   EXPECT_TRUE(desk.World.Files.FolderExists("C:\\Corvelle\\ShellLink"));
-  EXPECT_EQ(desk.TheProgram.MenusPath, "C:\\Corvelle\\Menus\\");
-  EXPECT_EQ(desk.TheProgram.IconsPath, "C:\\Corvelle\\Icons\\");
-  EXPECT_EQ(desk.TheProgram.ShellLinkPath, "C:\\Corvelle\\ShellLink\\");
+  EXPECT_EQ(desk.TheProgram.Paths.MenusPath, "C:\\Corvelle\\Menus\\");
+  EXPECT_EQ(desk.TheProgram.Paths.IconsPath, "C:\\Corvelle\\Icons\\");
+  EXPECT_EQ(desk.TheProgram.Paths.ShellLinkPath, "C:\\Corvelle\\ShellLink\\");
 }
 
 TEST(ToolbarStart, ATextFileAmongTheMenusIsGone) {
@@ -181,19 +181,19 @@ TEST(ToolbarStart, TheFirstUseBringsTheDefaultEntriesWithoutAQuestion) {
   StripDesk desk;
   OneDefaultEntry entries(desk);
   desk.TheProgram.Ports.DefaultEntries = &entries;
-  desk.SetOption(2, false);
+  desk.SetOption(Option::DefaultEntriesOffered, false);
   desk.Start();
   EXPECT_EQ(entries.Times, 1);
-  EXPECT_TRUE(desk.TheProgram.OptionFlags.Is(2));
+  EXPECT_TRUE(desk.TheProgram.OptionFlags.Is(Option::DefaultEntriesOffered));
   EXPECT_EQ(desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat"), desk.TheProgram.OptionFlags.Text());
   EXPECT_EQ(desk.Strip.ButtonCount, 2);
 }
 
 TEST(ToolbarStart, AProgramWithoutDefaultEntriesLeavesTheFirstUseToComeLater) {
   StripDesk desk;
-  desk.SetOption(2, false);
+  desk.SetOption(Option::DefaultEntriesOffered, false);
   desk.Start();
-  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(2));
+  EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(Option::DefaultEntriesOffered));
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
   EXPECT_EQ(desk.Strip.ButtonCount, 1);
 }
@@ -204,7 +204,7 @@ TEST(ToolbarStart, SmallIconsMakeButtonsOf22Pixels) {
   desk.Start();
   EXPECT_EQ(desk.Strip.ToolbarButtons[0].Width, 22 * 15);
   EXPECT_EQ(desk.Strip.ToolbarButtons[0].Height, 22 * 15);
-  EXPECT_EQ(desk.TheProgram.IconSize, 16);
+  EXPECT_EQ(desk.TheProgram.Icons.IconSize, 16);
 }
 
 TEST(ToolbarStart, TheHeightOfACaptionDecidesHowFarTheStripIsPulledUp) {
@@ -230,10 +230,10 @@ TEST(ToolbarStart, TheHeightOfACaptionDecidesHowFarTheStripIsPulledUp) {
 
 TEST(ToolbarStart, LargeIconsMakeButtonsOf38PixelsWhateverTheCaption) {
   StripDesk desk({.CaptionHeight = 60});
-  desk.SetOption(26, true);
+  desk.SetOption(Option::LargeIcons, true);
   desk.PutButtons(1);
   desk.Start();
-  EXPECT_EQ(desk.TheProgram.IconSize, 32);
+  EXPECT_EQ(desk.TheProgram.Icons.IconSize, 32);
   EXPECT_EQ(desk.Strip.ToolbarButtons[0].Width, 38 * 15);
   EXPECT_EQ(desk.Strip.ToolbarButtons[0].Height, 38 * 15);
   EXPECT_EQ(desk.Strip.TopCut, 7);
@@ -249,10 +249,10 @@ TEST(ToolbarStart, TheLargeSizeIsTheShells) {
     SCOPED_TRACE(row.name);
     StripDesk desk;
     desk.World.Icons.SetLargeSize(row.shell);
-    desk.SetOption(26, true);
+    desk.SetOption(Option::LargeIcons, true);
     desk.PutButtons(1);
     desk.Start();
-    EXPECT_EQ(desk.TheProgram.IconSize, row.expected);
+    EXPECT_EQ(desk.TheProgram.Icons.IconSize, row.expected);
   }
 }
 
@@ -318,7 +318,7 @@ TEST(ToolbarPosition, AnExitSavesThePlaceAndTheFlags) {
   desk.PutButtons(2);
   desk.World.Files.Put(kPositionFile, PositionBytes(3000));
   desk.Start();
-  desk.SetOption(22, true);
+  desk.SetOption(Option::NoHints, true);
   desk.Exit();
   EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000));
   const auto flags = desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat");
@@ -339,13 +339,13 @@ TEST(ToolbarPosition, AnEndBeforeTheStripWasPlacedLeavesTheSavedPlace) {
 
 TEST(ToolbarPosition, AProgramWithoutDockingHugsTheTopWhateverEdgeIsAskedFor) {
   StripDesk desk;
-  desk.SetOption(14, true);
-  desk.SetOption(15, true);
+  desk.SetOption(Option::AtEdge, true);
+  desk.SetOption(Option::EdgeCodeFirst, true);
   desk.PutButtons(1);
   desk.Start();
-  EXPECT_FALSE(desk.TheProgram.AppBarRequested);
-  EXPECT_FALSE(desk.TheProgram.ToolbarVertical);
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "TOP");
+  EXPECT_FALSE(desk.TheProgram.Strip.AppBarRequested);
+  EXPECT_FALSE(desk.TheProgram.Strip.ToolbarVertical);
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Top);
   EXPECT_EQ(desk.Strip.Top(), -7 * 15);
   EXPECT_TRUE(desk.Strip.Visible());
 }
@@ -467,8 +467,8 @@ TEST(ToolbarRebuild, ReadsTheFilesAnewAndKeepsThePlace) {
   EXPECT_EQ(desk.Strip.ButtonCount, 3);
   EXPECT_EQ(desk.Strip.Left(), 3000);
   EXPECT_TRUE(desk.Strip.Visible());
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
-  EXPECT_FALSE(desk.TheProgram.AppBarBusy);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
+  EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
 }
 
 TEST(ToolbarRebuild, ForgetsTheMenusThatWereBuilt) {
@@ -512,10 +512,10 @@ TEST(ToolbarRebuild, RestoreLeavesAnEdgeForTheTop) {
   StripDesk desk;
   desk.PutButtons(1);
   desk.Start();
-  desk.TheProgram.ToolbarEdge = "BOTTOM";
+  desk.TheProgram.Strip.ToolbarEdge = Edge::Bottom;
   desk.Strip.RestoreToolbar();
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "TOP");
-  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Top);
+  EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
   EXPECT_TRUE(desk.Strip.Visible());
 }
 

@@ -53,10 +53,10 @@ TEST(AppBar, AStartAtAnEdgeKeepsItForTheStrip) {
     EXPECT_EQ(desk.Bounds(), row.window);
     EXPECT_EQ(desk.World.Bars.WorkArea(), row.work);
     EXPECT_TRUE(desk.Shown());
-    EXPECT_TRUE(desk.TheProgram.AppBarDocked);
-    EXPECT_EQ(desk.TheProgram.ToolbarVertical, IsVertical(row.at));
-    EXPECT_FALSE(desk.TheProgram.AppBarBusy);
-    EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+    EXPECT_TRUE(desk.TheProgram.Strip.AppBarDocked);
+    EXPECT_EQ(desk.TheProgram.Strip.ToolbarVertical, IsVertical(row.at));
+    EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
+    EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
     EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Strip.hWnd());
     EXPECT_EQ(desk.Menu.Times("InitIcons"), 1);
   }
@@ -70,9 +70,9 @@ TEST(AppBar, FromEveryEdgeToEveryOther) {
         SCOPED_TRACE(std::string(from.name) + " to " + to.name + (rebuild ? ", rebuilt" : ""));
         DockDesk desk;
         desk.StartAt(from.at);
-        desk.Docking.SetAppBar(EdgeText(to.at), rebuild);
+        desk.Docking.SetAppBar(to.at, rebuild);
         EXPECT_TRUE(desk.Shown());
-        EXPECT_EQ(desk.TheProgram.ToolbarEdge, EdgeText(to.at));
+        EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, to.at);
         // Without a rebuild a strip keeps the thickness that it had at the edge opposite.
         if (rebuild || IsVertical(from.at) != IsVertical(to.at)) {
           EXPECT_EQ(desk.Bounds(), to.window);
@@ -135,7 +135,7 @@ TEST(AppBar, AStripThatOthersMayCoverKeepsNoRoom) {
   for (const EdgeRow& row : kEdges) {
     SCOPED_TRACE(row.name);
     DockDesk desk;
-    desk.TheProgram.NotOnTop = true;
+    desk.TheProgram.Strip.NotOnTop = true;
     desk.AskFor(row.at);
     desk.Start();
     EXPECT_EQ(desk.World.Bars.Log(), (Messages{"new", row.query, "activate"}));
@@ -156,8 +156,8 @@ TEST(AppBar, RestoreGivesTheEdgeBackAndStaysRegistered) {
   EXPECT_EQ(std::count(log.begin(), log.end(), "new"), 1);
   EXPECT_TRUE(desk.World.Bars.IsRegistered(desk.Strip.hWnd()));
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
-  EXPECT_FALSE(desk.TheProgram.AppBarDocked);
-  EXPECT_FALSE(desk.TheProgram.AppBarBusy);
+  EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
+  EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
   EXPECT_EQ(desk.Bounds().top, -7);
   EXPECT_GT(desk.Bounds().Width(), desk.Bounds().Height());
 }
@@ -175,7 +175,7 @@ TEST(AppBar, TheEndLeavesNoBarAndRemembersTheEdge) {
 
 TEST(AppBar, TheEndOfAHiddenStripDoesNotGiveUpItsClaimFirst) {
   DockDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Left);
   desk.World.Bars.ClearLog();
   desk.Exit();
@@ -187,11 +187,11 @@ TEST(AppBar, ATextThatIsNoEdgeLeavesTheStripWhereItIs) {
   desk.StartAt(Edge::Left);
   for (const char* text : {"", "MIDDLE", "L", "\xC3\xA4"}) {
     desk.Docking.SetAppBar(text, true);
-    EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT") << text;
+    EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left) << text;
     EXPECT_EQ(desk.Bounds(), kEdges[2].window) << text;
   }
   desk.Docking.SetAppBar("  right ", false);
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Right);
 }
 
 TEST(AppBar, ADockedStripJumpsBackWhoeverMovesIt) {
@@ -201,8 +201,8 @@ TEST(AppBar, ADockedStripJumpsBackWhoeverMovesIt) {
     desk.StartAt(row.at);
     desk.World.Desktop.MoveOther(desk.Strip.hWnd(), RectAt({200, 300}, row.window.Size()));
     EXPECT_EQ(desk.Bounds(), row.window);
-    EXPECT_EQ(desk.TheProgram.PinnedLeft, desk.Strip.Left());
-    EXPECT_EQ(desk.TheProgram.PinnedTop, desk.Strip.Top());
+    EXPECT_EQ(desk.TheProgram.Strip.PinnedLeft, desk.Strip.Left());
+    EXPECT_EQ(desk.TheProgram.Strip.PinnedTop, desk.Strip.Top());
   }
 }
 
@@ -228,9 +228,9 @@ TEST(AppBar, AnotherBarPushesTheStripInwardAndItsEndLetsItBack) {
         EXPECT_EQ(moved, (PixelRect{952, 0, 994, 768}));
         break;
     }
-    EXPECT_FALSE(desk.TheProgram.PosChangeRunning);
-    EXPECT_FALSE(desk.TheProgram.AppBarBusy);
-    EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+    EXPECT_FALSE(desk.TheProgram.Guards.PosChangeRunning);
+    EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
+    EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
     // Its new place is the one to which it jumps back.
     desk.World.Desktop.MoveOther(desk.Strip.hWnd(), RectAt({200, 300}, moved.Size()));
     EXPECT_EQ(desk.Bounds(), moved);
@@ -308,7 +308,7 @@ TEST(AppBar, AFullScreenProgramSendsADockedStripToTheBottomAndItsEndBringsItBack
   desk.StartAt(Edge::Top);
   desk.World.Bars.SetFullScreen(true);
   EXPECT_FALSE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
-  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_TRUE(desk.TheProgram.Strip.FullScreenApp);
   desk.World.Desktop.ClearLog();
   desk.World.Bars.SetFullScreen(false);
   EXPECT_TRUE(desk.World.Desktop.IsTopmost(desk.Strip.hWnd()));
@@ -370,14 +370,14 @@ TEST(AppBarGuard, NewsThatArriveWhileTheStripIsPlacedOnlyTellOfFullScreenProgram
   desk.World.Desktop.Post(desk.Strip.hWnd(), message::AppBarCallback, 1, 0);
   desk.World.Desktop.Post(desk.Strip.hWnd(), message::AppBarCallback, 2, 1);
   desk.World.Desktop.ClearLog();
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   const Messages& log = desk.World.Bars.Log();
   EXPECT_EQ(std::count(log.begin(), log.end(), "querypos 0"), 1);
-  EXPECT_TRUE(desk.TheProgram.FullScreenApp);
+  EXPECT_TRUE(desk.TheProgram.Strip.FullScreenApp);
   for (const std::string& line : desk.World.Desktop.Log()) {
     EXPECT_FALSE(line.starts_with("setwindowpos frmToolbar 1")) << line;
   }
-  EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
 }
 
 TEST(AppBarGuard, ASecondPlacingByNewsWaitsWhileOneRuns) {
@@ -385,15 +385,15 @@ TEST(AppBarGuard, ASecondPlacingByNewsWaitsWhileOneRuns) {
     const char* name;
     bool Program::*flag;
   };
-  for (const Row& row : {Row{"a repositioning", &Program::AppBarBusy},
-                         Row{"a restore, or a hand on the grip", &Program::RestoreBusy}}) {
+  for (const Row& row : {Row{"a repositioning", &GuardFlags::AppBarBusy},
+                         Row{"a restore, or a hand on the grip", &GuardFlags::RestoreBusy}}) {
     SCOPED_TRACE(row.name);
     DockDesk desk;
     desk.StartAt(Edge::Right);
     desk.TheProgram.*row.flag = true;
     desk.World.Bars.TellBars();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
-    EXPECT_TRUE(desk.TheProgram.ToolbarReady);
+    EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
     desk.TheProgram.*row.flag = false;
     desk.World.Bars.TellBars();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{"querypos 2"});
@@ -406,10 +406,10 @@ TEST(AppBarGuard, NoPlacingWhileSomethingIsCarriedOrEditedOrMinimized) {
     std::function<bool&(Program&)> flag;
   };
   const Row rows[] = {
-      {"minimized", [](Program& p) -> bool& { return p.ToolbarMinimized; }},
+      {"minimized", [](Program& p) -> bool& { return p.Strip.ToolbarMinimized; }},
       {"an item", [](Program& p) -> bool& { return p.Entry.ItemDragging; }},
-      {"a button", [](Program& p) -> bool& { return p.ButtonDragging; }},
-      {"an edit", [](Program& p) -> bool& { return p.MenuFormBusy; }},
+      {"a button", [](Program& p) -> bool& { return p.Drag.ButtonDragging; }},
+      {"an edit", [](Program& p) -> bool& { return p.Guards.MenuFormBusy; }},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -417,12 +417,12 @@ TEST(AppBarGuard, NoPlacingWhileSomethingIsCarriedOrEditedOrMinimized) {
     desk.StartAt(Edge::Right);
     bool& flag = row.flag(desk.TheProgram);
     flag = true;
-    desk.Docking.SetAppBar("LEFT", true);
+    desk.Docking.SetAppBar(Edge::Left, true);
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
-    EXPECT_EQ(desk.TheProgram.ToolbarEdge, "RIGHT");
+    EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Right);
     flag = false;
-    desk.Docking.SetAppBar("LEFT", true);
-    EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
+    desk.Docking.SetAppBar(Edge::Left, true);
+    EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left);
   }
 }
 
@@ -433,9 +433,9 @@ TEST(AppBarGuard, AScreenThatShrinksWhileSomethingIsCarriedIsFollowedAfterwards)
   };
   const Row rows[] = {
       {"an item", [](Program& p) -> bool& { return p.Entry.ItemDragging; }},
-      {"a button", [](Program& p) -> bool& { return p.ButtonDragging; }},
-      {"an edit", [](Program& p) -> bool& { return p.MenuFormBusy; }},
-      {"the grip", [](Program& p) -> bool& { return p.RestoreBusy; }},
+      {"a button", [](Program& p) -> bool& { return p.Drag.ButtonDragging; }},
+      {"an edit", [](Program& p) -> bool& { return p.Guards.MenuFormBusy; }},
+      {"the grip", [](Program& p) -> bool& { return p.Guards.RestoreBusy; }},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -462,16 +462,16 @@ TEST(AppBarGuard, ARestoreThatArrivesWhileTheStripIsPlacedLeavesItAtItsEdge) {
   bool came = false;
   desk.World.Desktop.StartTimer(1, [&] {
     if (std::exchange(came, true)) return;
-    EXPECT_TRUE(desk.TheProgram.AppBarBusy);
+    EXPECT_TRUE(desk.TheProgram.Guards.AppBarBusy);
     desk.Strip.RestoreToolbar();
   });
   desk.World.Desktop.Jump(5);
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   EXPECT_TRUE(came);
-  EXPECT_TRUE(desk.TheProgram.AppBarDocked);
-  EXPECT_TRUE(desk.TheProgram.ToolbarVertical);
-  EXPECT_EQ(desk.TheProgram.ToolbarEdge, "LEFT");
-  EXPECT_FALSE(desk.TheProgram.RestoreBusy);
+  EXPECT_TRUE(desk.TheProgram.Strip.AppBarDocked);
+  EXPECT_TRUE(desk.TheProgram.Strip.ToolbarVertical);
+  EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left);
+  EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
   EXPECT_EQ(desk.Bounds().left, 0);
   EXPECT_EQ(desk.Bounds().Height(), 768);
 }
@@ -481,10 +481,10 @@ TEST(AppBarGuard, AStripThatGoesWhileItIsPlacedLeavesNothingBehind) {
   desk.StartAt(Edge::Right);
   desk.World.Desktop.StartTimer(1, [&desk] { desk.Exit(); });
   desk.World.Desktop.Jump(5);
-  desk.Docking.SetAppBar("LEFT", true);
+  desk.Docking.SetAppBar(Edge::Left, true);
   EXPECT_FALSE(desk.Strip.IsLoaded());
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
-  EXPECT_FALSE(desk.TheProgram.AppBarBusy);
+  EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
 }
 
 TEST(AppBarIdle, NothingWakesAStripAtAnEdge) {
@@ -492,7 +492,7 @@ TEST(AppBarIdle, NothingWakesAStripAtAnEdge) {
     for (const bool notOnTop : {false, true}) {
       SCOPED_TRACE(std::string(row.name) + (notOnTop ? ", not on top" : ""));
       DockDesk desk;
-      desk.TheProgram.NotOnTop = notOnTop;
+      desk.TheProgram.Strip.NotOnTop = notOnTop;
       desk.StartAt(row.at);
       desk.Wait(1000);
       EXPECT_EQ(desk.WakeUps(10'000), 0);
@@ -513,7 +513,7 @@ TEST(AppBarIdle, NothingWakesAStripInTheTaskBar) {
   for (const bool hides : {false, true}) {
     SCOPED_TRACE(hides);
     DockDesk desk;
-    desk.SetOption(3, hides);
+    desk.SetOption(Option::AutoHide, hides);
     desk.StartAt(Edge::Right);
     desk.Companion.MinimizeFor(desk.Strip.WindowBounds());
     desk.Wait(1000);
@@ -523,7 +523,7 @@ TEST(AppBarIdle, NothingWakesAStripInTheTaskBar) {
 
 TEST(AppBarIdle, AHiddenStripIsLookedAfterFourTimesASecond) {
   DockDesk desk;
-  desk.SetOption(3, true);
+  desk.SetOption(Option::AutoHide, true);
   desk.StartAt(Edge::Right);
   desk.GoElsewhere();
   desk.Wait(1000);
@@ -537,7 +537,7 @@ TEST(AppBarGuard, ManyChangesInARowLeaveTheStripInItsPlaceAndQuiet) {
     desk.World.Bars.RemoveOtherBar(desk.World.Bars.AddOtherBar(Edge::Top, 20));
   }
   EXPECT_EQ(desk.Bounds(), kEdges[0].window);
-  EXPECT_FALSE(desk.TheProgram.PosChangeRunning);
+  EXPECT_FALSE(desk.TheProgram.Guards.PosChangeRunning);
   desk.Poll();
   EXPECT_EQ(desk.WakeUps(2000), 0);
 }
@@ -545,8 +545,8 @@ TEST(AppBarGuard, ManyChangesInARowLeaveTheStripInItsPlaceAndQuiet) {
 TEST(AppBar, AStripThatHasBeenPlacedHasNoEdgeAskedForAnyMore) {
   DockDesk desk;
   desk.StartAt(Edge::Top);
-  desk.Docking.SetAppBar("LEFT", true);
-  EXPECT_FALSE(desk.TheProgram.AppBarRequested);
+  desk.Docking.SetAppBar(Edge::Left, true);
+  EXPECT_FALSE(desk.TheProgram.Strip.AppBarRequested);
 }
 
 TEST(AppBar, OnlyUprightLargeSingleButtonsAreMadeAgainWhenTheBarsMove) {
@@ -564,12 +564,12 @@ TEST(AppBar, OnlyUprightLargeSingleButtonsAreMadeAgainWhenTheBarsMove) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     DockDesk desk;
-    desk.SetOption(26, row.large);
-    desk.SetOption(24, row.option24);
+    desk.SetOption(Option::LargeIcons, row.large);
+    desk.SetOption(Option::SmallSingles, row.option24);
     desk.StartAt(row.at);
     desk.World.Files.Put("C:\\Corvelle\\Menus\\" + SingleFileName(1),
                          Records({Entry("s", "", "C:\\s.exe")}));
-    desk.Docking.SetAppBar("", false);
+    desk.Docking.SetAppBar(std::nullopt, false);
     EXPECT_EQ(desk.Strip.SingleCount, row.again ? 1 : 0);
   }
 }

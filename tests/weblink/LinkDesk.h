@@ -51,7 +51,7 @@ class LinkDesk : public ProgramDesk {
   }
   /// The dialog comes up 50 ms after the drop.
   void WaitForDialog() { world.Desktop.Advance(60); }
-  void NoDialog() { parts->TheProgram.OptionFlags.Set(18, true); }
+  void NoDialog() { parts->TheProgram.OptionFlags.Set(Option::NoWebLinkDialog, true); }
 
   frmURL& Dialog() { return parts->WebLink; }
   bool DialogUp() { return Dialog().IsLoaded() && Dialog().Visible(); }

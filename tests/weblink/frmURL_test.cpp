@@ -68,7 +68,7 @@ TEST(WebLinkDialog, TheKeyboardAloneCorrectsBothTextsAndTicksTheBox) {
   EXPECT_EQ(made.FTitle, "Mine");
   EXPECT_EQ(made.FIcon, "http");
   EXPECT_EQ(made.FName, "https://example.org");
-  EXPECT_TRUE(desk.parts->TheProgram.OptionFlags.Is(18));
+  EXPECT_TRUE(desk.parts->TheProgram.OptionFlags.Is(Option::NoWebLinkDialog));
 }
 
 TEST(WebLinkDialog, TheCloseBoxGivesTheEntryUp) {
@@ -106,10 +106,10 @@ TEST(WebLinkDialog, TheCheckBoxTakesEffectFromTheNextDropOn) {
   desk.DropOnButton(3);
   desk.WaitForDialog();
   desk.Click("Check1");
-  EXPECT_TRUE(desk.parts->TheProgram.OptionFlags.Is(18));
+  EXPECT_TRUE(desk.parts->TheProgram.OptionFlags.Is(Option::NoWebLinkDialog));
   EXPECT_TRUE(desk.DialogUp());  // the present one goes on
   desk.Click("Check1");
-  EXPECT_FALSE(desk.parts->TheProgram.OptionFlags.Is(18));
+  EXPECT_FALSE(desk.parts->TheProgram.OptionFlags.Is(Option::NoWebLinkDialog));
   desk.Click("Check1");
   desk.Click("cmdCancel");
   EXPECT_EQ(desk.Titles(2).size(), 3U);
@@ -267,7 +267,7 @@ TEST(WebLinkPending, TheStripTakesNoInputAndThenAgain) {
   EXPECT_TRUE(desk.DialogUp());
   desk.Click("cmdCancel");
   desk.OpenMenu(2);
-  EXPECT_EQ(desk.parts->TheProgram.OpenQuestions, 0);
+  EXPECT_EQ(desk.parts->TheProgram.Guards.OpenQuestions, 0);
 }
 
 TEST(WebLinkPending, NoTimerStepRunsTwice) {
@@ -285,11 +285,11 @@ TEST(WebLinkPending, AnEditThatIsUnderWayIsWaitedFor) {
   LinkDesk desk;
   desk.NoDialog();
   desk.DropOnButton(3);
-  desk.parts->TheProgram.ItemActionBusy = true;
+  desk.parts->TheProgram.Guards.ItemActionBusy = true;
   desk.world.Desktop.Advance(500);
   EXPECT_EQ(desk.Titles(2).size(), 3U);
   EXPECT_TRUE(desk.Pending());
-  desk.parts->TheProgram.ItemActionBusy = false;
+  desk.parts->TheProgram.Guards.ItemActionBusy = false;
   desk.WaitForDialog();
   EXPECT_EQ(desk.Titles(2).size(), 4U);
   EXPECT_FALSE(desk.Pending());
@@ -298,10 +298,10 @@ TEST(WebLinkPending, AnEditThatIsUnderWayIsWaitedFor) {
 TEST(WebLinkPending, AMessageThatIsUpIsAnsweredFirst) {
   LinkDesk desk;
   desk.DropOnButton(3);
-  ++desk.parts->TheProgram.OpenQuestions;
+  ++desk.parts->TheProgram.Guards.OpenQuestions;
   desk.world.Desktop.Advance(500);
   EXPECT_FALSE(desk.DialogUp());
-  --desk.parts->TheProgram.OpenQuestions;
+  --desk.parts->TheProgram.Guards.OpenQuestions;
   desk.WaitForDialog();
   EXPECT_TRUE(desk.DialogUp());
 }
@@ -360,7 +360,7 @@ TEST(WebLinkPending, TheProgramMayEndWhileTheDialogIsUp) {
   desk.world.Desktop.Pump();
   EXPECT_FALSE(desk.DialogUp());
   EXPECT_FALSE(desk.Pending());
-  EXPECT_EQ(desk.parts->TheProgram.OpenQuestions, 0);
+  EXPECT_EQ(desk.parts->TheProgram.Guards.OpenQuestions, 0);
   EXPECT_EQ(desk.Files(), before);
 }
 

@@ -30,9 +30,9 @@ TEST(ObjectCounts, TenThousandIconsOfAllKindsLeaveNothingBehind) {
   constexpr int kRounds = 1250;  // of eight icons
   win32::Win32Platform home;
   Program program(home.Services(), home.Windows());
-  program.AppPath = "C:\\windows\\";
-  program.IconsPath = "C:\\windows\\icons\\";
-  program.WebLinkIcon = "C:\\windows\\notepad.exe";
+  program.Paths.AppPath = "C:\\windows\\";
+  program.Paths.IconsPath = "C:\\windows\\icons\\";
+  program.Icons.WebLinkIcon = "C:\\windows\\notepad.exe";
   FirstIcons folders;
   program.Ports.SpecialFolders = &folders;
   const auto canvas = home.Windows().CreateCanvas({64, 64});
