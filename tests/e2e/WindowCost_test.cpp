@@ -181,7 +181,7 @@ TEST_F(WindowCost, ThePreviewLeavesNothingBehind) {
 TEST_F(WindowCost, TheLibraryLeavesNothingBehind) {
   ASSERT_TRUE(OpenProperties());
   ASSERT_TRUE(WaitForFront("frmProperties"));
-  PutKey(VK_TAB);  // from the title to the icon
+  desk_.Key(scenario::kKeyTab);  // from the title to the icon
   desk_.Pause(200);
   ExpectNothingIsLeft([this] {
     PutKey(VK_F3);
