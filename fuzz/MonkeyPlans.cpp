@@ -13,6 +13,7 @@ using forms::MouseButton;
 
 constexpr int kMainMenuButton = 1;
 constexpr int kMainMenuItems = 11;
+constexpr int kCustomizeItem = 1;
 constexpr int kExitItem = 11;
 constexpr int kReveal = 600;  // milliseconds in which a hidden strip has come out
 
@@ -70,6 +71,7 @@ void MonkeyLife::PlanMainMenu() {
   PlanMenu(kMainMenuButton);
   int item = 1 + Number(kMainMenuItems);
   if (item == kExitItem && Chance(90)) item = 1 + Number(kMainMenuItems - 1);
+  if (Chance(20)) item = kCustomizeItem;
   PlanMove([this, item] { return ItemPoint(item); });
   Plan([this, item] {
     const bool there = MenuUp() && parts_->Menu.MenuKey == "Q1" && parts_->Menu.Lbl.Has(item) &&
@@ -126,13 +128,16 @@ std::string MonkeyLife::PickFrom(const std::vector<const forms::PopupItem*>& off
   std::string caption;
   for (int tries = 3; tries > 0; --tries) {
     caption = offered[static_cast<std::size_t>(Number(static_cast<int>(offered.size())))]->Caption;
-    if (caption != "Refresh" && caption != "Properties") break;
+    if (caption != "Refresh" && (caption != "Properties" || Chance(30))) break;
   }
   return caption;
 }
 
 // The user's choice while a popup is up. What it may take away from the files is no loss.
 void MonkeyLife::ChooseFrom(const sim::Popup& popup) {
+  for (const forms::Form* form : OpenWindows()) {
+    if (popup.Owner == form->hWnd()) return ChooseInWindow(popup);
+  }
   // The command is for what was clicked, whatever becomes of the current entry meanwhile.
   const EntryEdit entry = parts_->TheProgram.Entry;
   if (Chance(15)) WhileUp("popup");

@@ -105,6 +105,7 @@ std::optional<Edge> frmProperties::EdgeInUse() const {
 void frmProperties::MoveToEdge(Edge edge) {
   DockingPort* const docking = program_.Ports.Docking;
   if (busy_ || docking == nullptr || program_.ToolbarMinimizing) return;
+  if (program_.ToolbarMinimized) return;
   if (program_.AppBarDocked && EqualNoCase(program_.ToolbarEdge, EdgeText(edge))) return;
   const forms::FlagScope busy(busy_);
   docking->SetAppBar(EdgeText(edge), false);

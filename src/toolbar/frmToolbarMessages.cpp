@@ -215,7 +215,8 @@ void frmToolbar::CheckToolbarMove() {
 }
 
 void frmToolbar::ShowToolbar() {
-  if (Visible()) return;
+  // A strip in the task bar comes back by its companion only.
+  if (Visible() || program_.ToolbarMinimized) return;
   ZOrder(forms::ZPlace::Front);
   ShowNoActivate();
 }
@@ -225,6 +226,7 @@ void frmToolbar::ShowAndRefresh() {
   Refresh();
   FollowColours();
   FollowDisplay();
+  if (rebuildWaits_) Timer1.SetEnabled(true);
 }
 
 void frmToolbar::BringToForeground() {

@@ -46,9 +46,6 @@ class WindowCost : public ::testing::Test {
   bool WaitFor(std::string_view window, bool visible = true) {
     return desk_.Wait([&] { return desk_.IsVisible(window) == visible; });
   }
-  bool WaitForFront(std::string_view window) {
-    return desk_.Wait([&] { return desk_.ForegroundClass() == window; });
-  }
   static bool Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR ignored = 0;
     return SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, 8000, &ignored) != 0;
@@ -61,7 +58,14 @@ class WindowCost : public ::testing::Test {
     return GetGUIThreadInfo(thread, &info) != FALSE ? info.hwndFocus : nullptr;
   }
   void PutKey(WPARAM key) const { PostMessageW(Focus(), WM_KEYDOWN, key, 1); }
+  bool WaitForKeyboardIn(std::string_view window) {
+    return desk_.Wait([&] {
+      HWND focus = Focus();
+      return focus != nullptr && GetAncestor(focus, GA_ROOT) == desk_.Handle(window);
+    });
+  }
   bool CloseByEscape(std::string_view window) {
+    if (!WaitForKeyboardIn(window)) return false;
     PutKey(VK_ESCAPE);
     return WaitFor(window, false);
   }
@@ -180,13 +184,14 @@ TEST_F(WindowCost, ThePreviewLeavesNothingBehind) {
 
 TEST_F(WindowCost, TheLibraryLeavesNothingBehind) {
   ASSERT_TRUE(OpenProperties());
-  ASSERT_TRUE(WaitForFront("frmProperties"));
-  desk_.Key(scenario::kKeyTab);  // from the title to the icon
-  desk_.Pause(200);
+  ASSERT_TRUE(WaitForKeyboardIn("frmProperties"));
+  HWND title = Focus();
+  desk_.Key(scenario::kKeyTab);  // to the icon
+  ASSERT_TRUE(desk_.Wait([&] { return Focus() != title; }));
   ExpectNothingIsLeft([this] {
     PutKey(VK_F3);
-    return WaitForFront("frmLibrary") && CloseByEscape("frmLibrary") &&
-           WaitForFront("frmProperties");
+    return WaitForKeyboardIn("frmLibrary") && CloseByEscape("frmLibrary") &&
+           WaitForKeyboardIn("frmProperties");
   });
 }
 
