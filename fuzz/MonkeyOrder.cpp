@@ -157,7 +157,9 @@ std::string MonkeyLife::WrongWindows() const {
   }
   if (seen.contains("frmStartup")) return "the window of the start stays";
   const bool pulled = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
-  if (parts_->StillPicture.IsLoaded() && !pulled) return "a still picture stays";
+  // The menu under a dropped address is covered until the address is dealt with.
+  const bool waits = parts_->TheProgram.WebLinkPending;
+  if (parts_->StillPicture.IsLoaded() && !pulled && !waits) return "a still picture stays";
   return {};
 }
 

@@ -243,13 +243,16 @@ void MonkeyLife::PlanDrag() {
   PlanStripInSight();
   PlanMove([this] { return OnScreen(); });
   sim::DragSource source;
-  if (Chance(75)) {
+  const bool address = Chance(15);
+  if (address) {
+    source.Data.Text = kTexts[0];
+  } else if (Chance(75)) {
     source.Data.Files.emplace();
     for (int count = Number(4); count >= 0; --count)
       source.Data.Files->push_back(kDragged[static_cast<std::size_t>(Number(7))]);
     if (Chance(5)) source.Data.Files->clear();
   }
-  if (Chance(30)) source.Data.Text = kTexts[static_cast<std::size_t>(Number(5))];
+  if (!address && Chance(30)) source.Data.Text = kTexts[static_cast<std::size_t>(Number(5))];
   source.Button = Chance(65) ? MouseButton::Left : MouseButton::Right;
   if (Chance(20)) source.Allowed = static_cast<forms::DropEffect>(Number(8));
   Plan([this, source]() mutable {
