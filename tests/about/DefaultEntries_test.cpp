@@ -309,19 +309,19 @@ TEST_F(DefaultEntriesTest, EachItemOfTheStartMenuTicksTheStartupWindow) {
 TEST_F(DefaultEntriesTest, EachMenuTicksTheStartupWindowBeforeItAndOnceBehindTheLastButOne) {
   DotCounter startup;
   program.Ports.Startup = &startup;
-  program.StartingUp = true;
+  program.Guards.StartingUp = true;
   // How many ticks come before the first menu, and how many with all of them.
   int before = -1;
   int all = 0;
   for (int n = 1; n < 200; ++n) {
-    for (const std::string& name : Names()) world.Files.Vanish(program.MenusPath + name);
+    for (const std::string& name : Names()) world.Files.Vanish(program.Paths.MenusPath + name);
     startup.Dots = 0;
     world.Files.FailFrom(n);
     world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
     Fill();
     const bool hit = world.Files.Hit();
     world.Files.StopFailing();
-    const bool menu = world.Files.Has(program.MenusPath + MenuFileName(1));
+    const bool menu = world.Files.Has(program.Paths.MenusPath + MenuFileName(1));
     if (!menu) before = startup.Dots;
     all = startup.Dots;
     if (!hit) break;

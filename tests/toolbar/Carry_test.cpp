@@ -458,9 +458,9 @@ class NotedStill final : public CapturePort {
   bool MenuCaptured() const override { return false; }
   void SetPicture1() override {}
   void ResetPicture1() override {}
-  void SetPosition(std::string_view) override {}
+  void SetPosition(Edge) override {}
   void ClearBg() override {}
-  std::string OutlineEdge() const override { return {}; }
+  std::optional<Edge> OutlineEdge() const override { return {}; }
 };
 
 TEST(MenuStill, CoversTheMenuUntilItsScopeEnds) {
