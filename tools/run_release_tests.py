@@ -245,6 +245,10 @@ class Machine:
                 return True
         return False
 
+    def crashes(self):
+        """The reports of crashes."""
+        return sorted(path.name for path in self.local.glob("Crashes/*"))
+
     def installed(self):
         return files_below(self.folder) if self.folder.is_dir() else []
 
@@ -290,6 +294,7 @@ def check_start(checks, machine, wanted):
     checks.check("it starts", machine.start())
     checks.check("the menu is the user's", (machine.data / "Menus" / "BMENU001.MNU").read_bytes() == menu_bytes())
     checks.check("nothing is written beside the program", machine.installed() == wanted, machine.installed())
+    checks.check("it has not crashed", not machine.crashes(), machine.crashes())
 
 
 def check_upgrade(checks, machine, wanted):
@@ -359,6 +364,7 @@ def check_portable(checks, machine, archive_path):
     checks.check("the zip runs where it was unpacked", wait_for(lambda: machine.windows() > 0 and
                                                                (folder / "ShellLink").is_dir()))
     checks.check("it ends", machine.end())
+    checks.check("the one from the zip has not crashed", not machine.crashes(), machine.crashes())
     checks.check("its data lies beside it", (folder / "tmenu425.dat").is_file() and (folder / "Icons").is_dir() and
                  not machine.data.exists())
 

@@ -20,6 +20,7 @@
 #include "toolbar/SingleRow.h"
 #include "toolbar/StripLayout.h"
 #include "toolbar/StripLook.h"
+#include "toolbar/StripPlace.h"
 #include "toolbar/StripPointer.h"
 
 namespace corvelle {
@@ -105,6 +106,7 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   void RefreshMenu(std::string_view tag) override;
   void ResetMenu() override;
   void SetMenuPosition() override;
+  [[nodiscard]] float TopOfMenu() const override;
   void RemoveQMenu(std::string_view tag) override;
 
   // ---- pointer (frmToolbarPointer.cpp, frmToolbarFrame.cpp) ----
@@ -361,8 +363,9 @@ class frmToolbar final : public forms::Form, public ToolbarPort {
   [[nodiscard]] bool OpensMenu(int button) const;
   /// Index of the button that owns the menu, 0 for none.
   [[nodiscard]] int MenuOwner() const;
+  /// Where a menu of that size goes; nothing without a button that it belongs to.
+  [[nodiscard]] std::optional<MenuSpot> SpotFor(const TwipSize& menu) const;
   void ShowMenuOf(int button);
-  [[nodiscard]] std::string MainMenuFile();
   void ReopenMenu(const std::string& tag);
   /// The strip becomes active if the menu is.
   void TakeOverFromMenu();

@@ -163,24 +163,34 @@ void frmToolbar::ResizeAfterEdit(float freeWidth) {
 void frmToolbar::SetMenuPosition() {
   QMenuPort* const menu = program_.Ports.QMenu;
   if (menu == nullptr) return;
+  const std::optional<MenuSpot> spot = SpotFor(menu->MenuSize());
+  if (!spot) return;
+  menuLeft_ = spot->Left;
+  menuTop_ = spot->Top;
+  menu->MoveMenu(spot->Left, spot->Top);
+}
+
+float frmToolbar::TopOfMenu() const {
+  const std::optional<MenuSpot> spot = SpotFor({});
+  return spot ? spot->Top : 0;
+}
+
+std::optional<MenuSpot> frmToolbar::SpotFor(const TwipSize& menu) const {
   // The menu's own button, since the pointer may have gone on while the menu was built.
   const int owner = MenuOwner() > 0 ? MenuOwner() : program_.Menu.CurButton;
-  if (owner < 0 || owner > ButtonCount) return;
+  if (owner < 0 || owner > ButtonCount) return std::nullopt;
   const ButtonRect& button = ToolbarButtons[static_cast<std::size_t>(owner)];
-  const MenuSpot spot = MenuPosition(
+  return MenuPosition(
       {.Where = program_.Strip.AppBarDocked ? Placement::AtEdge : Placement::TopHugging,
        .At = AtEdge(),
        .Window = Bounds(),
        .ButtonLeft = button.Left,
        .ButtonTop = button.Top,
-       .MenuWidth = menu->MenuWidth(),
-       .MenuHeight = menu->MenuHeight(),
+       .MenuWidth = menu.Width,
+       .MenuHeight = menu.Height,
        .ScreenHeight = program_.Windows.Screen().Height,
        .TwipsX = TwipsX,
        .TwipsY = TwipsY});
-  menuLeft_ = spot.Left;
-  menuTop_ = spot.Top;
-  menu->MoveMenu(spot.Left, spot.Top);
 }
 
 }  // namespace corvelle

@@ -12,8 +12,6 @@
 namespace corvelle {
 namespace {
 
-constexpr int kPollInterval = 100;  // milliseconds
-
 /// Number of the button in a menu's tag; 0 for a tag without one.
 int ButtonOfTag(std::string_view tag) {
   if (tag == "Q1") return 1;
@@ -67,16 +65,14 @@ void frmToolbar::ShowMenuOf(int button) {
   // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.
   if (MenuUp() && !program_.DragHolds()) SetFocus();
   HideMenuWindow();
-  menu.ResetQMenu();
 
   std::string file = ToolbarButtons[static_cast<std::size_t>(button)].Path;
   const bool isMainMenu = file == kMainMenuPath;
   lastTag_ = isMainMenu ? "Q1" : "F" + std::to_string(button);
-  if (isMainMenu) file = MainMenuFile();
+  if (isMainMenu) file = program_.Paths.AppPath + std::string(kMainMenuFileName);
 
   menu.SetOwnerTag(std::to_string(button));
   menu.SetPoll(false);
-  SetMenuPosition();
   program_.Menu.MenuOpen = true;
   const std::string tag = lastTag_;
   menu.ShowMenu(tag, file);
@@ -86,19 +82,9 @@ void frmToolbar::ShowMenuOf(int button) {
     ResetMenu();
     return;
   }
-  menu.SetPollInterval(kPollInterval);
   menu.SetPoll(true);
   WasHovering = false;
   Timer2.SetEnabled(true);
-}
-
-std::string frmToolbar::MainMenuFile() {
-  if (!program_.Ports.QMenu->HasBuiltMenu("Q1")) {
-    // Without a fresh file the menu shows what the old one holds.
-    static_cast<void>(
-        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath));
-  }
-  return program_.Paths.AppPath + std::string(kMainMenuFileName);
 }
 
 void frmToolbar::OpenMenu(std::string_view tag) {
@@ -112,6 +98,8 @@ void frmToolbar::OpenMenu(std::string_view tag) {
 void frmToolbar::RefreshMenu(std::string_view tag) {
   QMenuPort* const menu = program_.Ports.QMenu;
   if (menu == nullptr || MenuRefreshing) return;
+  // No menu opens beside a strip that is in the task bar: it is built when it opens.
+  if (program_.Strip.ToolbarMinimized) return RemoveQMenu(tag);
   const forms::FlagScope refreshing(MenuRefreshing);
   Timer2.SetEnabled(false);
   menu->SetPoll(false);
@@ -138,7 +126,6 @@ void frmToolbar::ReopenMenu(const std::string& tag) {
     OpenMenu(tag);
     if (IsLoaded() && MenuUp()) {
       menu.GetCurMenu();
-      menu.SetPollInterval(kPollInterval);
       menu.SetPoll(true);
     }
   }
