@@ -3,8 +3,8 @@
 # its icons, at its first start.
 if(TARGET corvelle)
   # All that the folder is made of.
-  add_custom_target(corvelle_package DEPENDS corvelle corvelle_icon_files corvelle_help)
-  install(TARGETS corvelle RUNTIME DESTINATION .)
+  add_custom_target(corvelle_package DEPENDS corvelle corvelle_icon_helper corvelle_icon_files corvelle_help)
+  install(TARGETS corvelle corvelle_icon_helper RUNTIME DESTINATION .)
   install(FILES ${CORVELLE_ICON_LIBRARY} DESTINATION .)
   # The list of search engines is the user's to change: one that is there stays as it is.
   set(engine_list ${PROJECT_SOURCE_DIR}/assets/search/netsrch.ini)

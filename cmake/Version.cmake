@@ -14,4 +14,13 @@ configure_file(src/base/Version.h.in ${CORVELLE_GENERATED}/base/Version.h @ONLY)
 if(WIN32)
   configure_file(src/win32/corvelle.rc.in ${CORVELLE_GENERATED}/corvelle.rc @ONLY)
   configure_file(src/win32/corvelle.manifest.in ${CORVELLE_GENERATED}/corvelle.manifest @ONLY)
+  # The process that looks for icons says the same of itself, but for its name and without an icon.
+  file(READ ${CORVELLE_GENERATED}/corvelle.rc shell_resources)
+  string(REPLACE "1 ICON \"corvelle.ico\"\n" "" shell_resources "${shell_resources}")
+  string(REPLACE "\"FileDescription\", \"Corvelle\"" "\"FileDescription\", \"Icons for Corvelle\""
+    shell_resources "${shell_resources}")
+  string(REPLACE "\"InternalName\", \"corvelle\"" "\"InternalName\", \"corvelle-shell\"" shell_resources
+    "${shell_resources}")
+  string(REPLACE "corvelle.exe" "corvelle-shell.exe" shell_resources "${shell_resources}")
+  file(CONFIGURE OUTPUT ${CORVELLE_GENERATED}/corvelle-shell.rc CONTENT "${shell_resources}" @ONLY)
 endif()

@@ -19,6 +19,10 @@ set(windows_libraries gdi32 user32 shell32 comctl32 comdlg32 ole32 advapi32 uuid
 corvelle_windows_tests(e2e/contract windows_contract_tests LINKS corvelle_win32 corvelle_icons corvelle_launch corvelle_core
   ${windows_libraries})
 
+if(TARGET corvelle_icon_helper)
+  add_dependencies(windows_contract_tests corvelle_icon_helper)
+endif()
+
 # The roads of tests/scenario, walked with a hand at the mouse of a real desktop.
 file(GLOB scenarios CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/scenario/*_test.cpp)
 corvelle_windows_tests(e2e e2e_tests LINKS corvelle_properties corvelle_core user32 gdi32

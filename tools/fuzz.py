@@ -22,7 +22,7 @@ import tempfile
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-TARGETS = ("records", "settings", "links", "engines", "edits", "iconlib", "drafts", "folders")
+TARGETS = ("records", "settings", "links", "engines", "edits", "iconlib", "drafts", "folders", "wire")
 # Seconds of the wall clock that one input may take. Other programs may be using the machine.
 INPUT_TIMEOUT = 120
 

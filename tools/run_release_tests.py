@@ -148,7 +148,7 @@ def check_files(checks, release):
         told = version_told((release / f"corvelle-{shown}-{width}-setup.exe").read_bytes())[0]
         checks.check(f"{width}: the installer tells the version", told == shown, told)
         names = zipfile.ZipFile(release / f"corvelle-{shown}-{width}-portable.zip").namelist()
-        needed = {f"Corvelle/{name}" for name in ("corvelle.exe", "icon.lib", "LICENSE.txt", MARK)}
+        needed = {f"Corvelle/{name}" for name in ("corvelle.exe", "corvelle-shell.exe", "icon.lib", "LICENSE.txt", MARK)}
         checks.check(f"{width}: the zip holds the program and its mark", needed <= set(names), names)
     manifest = (release / f"corvelle-{shown}-winget" / "Corvelle.Corvelle.installer.yaml").read_text()
     for width in WIDTHS:

@@ -117,7 +117,8 @@ def run_contract(arguments):
         nonlocal counts
         place = session.drive / "tests"
         place.mkdir()
-        shutil.copy2(program, place)
+        for name in (program.name, "corvelle-shell.exe"):
+            shutil.copy2(arguments.build / name, place)
         outcome = run_program(session, "tests",
                               [program.name, f"--gtest_filter={arguments.filter}",
                                "--gtest_output=xml:C:\\tests\\result.xml"],
@@ -252,7 +253,7 @@ def walk_once_more(failed, walk_alone):
 
 def run_e2e(arguments):
     """(passed, failed)"""
-    for needed in [program for _, program in PROGRAMS] + ["package/corvelle.exe", "corvelle.debug"]:
+    for needed in [program for _, program in PROGRAMS] + ["package/corvelle.exe", "package/corvelle-shell.exe", "corvelle.debug"]:
         if not (arguments.build / needed).is_file():
             say(f"wine: {arguments.build / needed} is not there")
             return 0, 1

@@ -10,6 +10,7 @@
 #include "core/OptionFlags.h"
 #include "core/ProgramPaths.h"
 #include "core/RecordEdits.h"
+#include "core/StartsUnderWay.h"
 #include "core/StripPlacement.h"
 #include "core/WindowPorts.h"
 #include "desk/AnswerDesk.h"
@@ -53,6 +54,8 @@ class Program {
   /// The entry that a menu or popup acted on last, the entry clipboard, the last deleted entry, and
   /// whether a menu item is being moved with the mouse.
   EntryEdit Entry;
+  /// What is being started beside the windows.
+  StartsUnderWay Starts;
 
   /// Lets waiting events run. Whoever calls it must be ready for anything to have happened. Called
   /// from what another call of it lets run, it only shows what waits to be painted: that other call

@@ -1,14 +1,19 @@
 #include "launch/LaunchItem.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <memory>
 #include <optional>
+#include <utility>
 
 #include "base/Text.h"
 #include "core/Program.h"
 #include "launch/CommandForm.h"
 #include "platform/FileSystem.h"
 #include "platform/ShellExec.h"
+#include "platform/ShellLinks.h"
+#include "platform/Starter.h"
 
 namespace corvelle {
 
@@ -52,63 +57,109 @@ void SayNoAccess(Program& program) {
   program.Say(program.ToolbarWindow(), kNoAccessText, msgbox::IconStop | msgbox::OnTop);
 }
 
-/// Opens through the shell. True when that settles it: it is started, the user has refused it, or
-/// is told that there is no access. What failed otherwise may be started another way.
-bool OpenSettled(Program& program, std::string_view file,
-                 std::optional<std::string_view> parameters,
-                 std::optional<std::string_view> folder) {
-  const auto opened = program.Services.Shell.Open(file, parameters, folder);
-  if (!opened && opened.Error() == OpenError::AccessDenied) SayNoAccess(program);
-  return opened || opened.Error() != OpenError::Other;
+/// How an attempt ended, and what the user is told.
+enum class StartEnd {
+  Settled,  // started, or the user has refused it
+  Unavailable,
+  NoAccess,
+};
+
+/// Tries one way after the other on the thread that starts; holds no more than values.
+using Attempts = std::function<StartEnd(const StartServices&)>;
+
+void Tell(Program& program, StartEnd end) {
+  switch (end) {
+    case StartEnd::Settled:
+      return;
+    case StartEnd::Unavailable:
+      SayUnavailable(program);
+      return;
+    case StartEnd::NoAccess:
+      SayNoAccess(program);
+      return;
+  }
+}
+
+/// Starts beside the windows and tells the user how it ended. Does nothing while `what` is being
+/// started already.
+void StartApart(Program& program, const std::string& what, Attempts attempts) {
+  if (!program.Starts.Begin(what)) return;
+  const auto end = std::make_shared<StartEnd>(StartEnd::Settled);
+  program.Services.Starts.Start([end, attempts = std::move(attempts)](
+                                    const StartServices& services) { *end = attempts(services); },
+                                [&program, what, end, watch = program.Starts.Watch()] {
+                                  if (watch.Gone()) return;
+                                  program.Starts.End(what);
+                                  Tell(program, *end);
+                                });
+}
+
+/// Opens through the shell. A result when that settles it: it is started, the user has refused it,
+/// or there is no access. What failed otherwise may be started another way.
+std::optional<StartEnd> OpenSettled(const StartServices& services, std::string_view file,
+                                    std::optional<std::string_view> parameters,
+                                    std::optional<std::string_view> folder) {
+  const auto opened = services.Shell.Open(file, parameters, folder);
+  if (opened || opened.Error() == OpenError::Cancelled) return StartEnd::Settled;
+  if (opened.Error() == OpenError::AccessDenied) return StartEnd::NoAccess;
+  return std::nullopt;
 }
 
 /// Only the shell can ask the user for the elevation that a program needs.
-void OpenElevated(Program& program, std::string_view commandLine) {
-  FileSystem& files = program.Services.Files;
+StartEnd OpenElevated(const StartServices& services, std::string_view commandLine) {
+  FileSystem& files = services.Files;
   const CommandLineParts parts = SplitCommandLine(
       commandLine, [&files](const std::string& path) { return files.FileExists(path); });
   const std::string folder = GetItemWorkDir(parts.Program);
-  if (!OpenSettled(program, parts.Program, parts.Arguments, IfAny(folder))) SayUnavailable(program);
+  return OpenSettled(services, parts.Program, parts.Arguments, IfAny(folder))
+      .value_or(StartEnd::Unavailable);
 }
 
 /// Starts a command line. When it does not start, the user is told why, or is offered the programs
 /// that might open the file of `command`.
-void RunCommandLine(Program& program, std::string_view commandLine, std::string_view command) {
-  ShellExec& shell = program.Services.Shell;
-  const auto started = shell.Run(commandLine);
-  if (started) return;
+StartEnd RunCommandLine(const StartServices& services, std::string_view commandLine,
+                        std::string_view command) {
+  const auto started = services.Shell.Run(commandLine);
+  if (started) return StartEnd::Settled;
   switch (started.Error()) {
     case RunError::BadFileName:
     case RunError::FileNotFound:
-      SayUnavailable(program);
-      return;
+      return StartEnd::Unavailable;
     case RunError::AccessDenied:
-      SayNoAccess(program);
-      return;
+      return StartEnd::NoAccess;
     case RunError::NeedsElevation:
-      OpenElevated(program, commandLine);
-      return;
+      return OpenElevated(services, commandLine);
     case RunError::Other:
       break;
   }
-  const bool offered = program.Services.Files.FileExists(command) &&
-                       shell.Run(std::string(kOpenWithCommand) + std::string(command));
-  if (!offered) SayUnavailable(program);
+  const bool offered = services.Files.FileExists(command) &&
+                       services.Shell.Run(std::string(kOpenWithCommand) + std::string(command));
+  return offered ? StartEnd::Settled : StartEnd::Unavailable;
 }
 
 /// A file or folder; failing that, a program with arguments.
 void OpenOrRun(Program& program, const std::string& text) {
-  const std::string folder = Trim(GetItemWorkDir(text));
-  if (OpenSettled(program, text, std::nullopt, IfAny(folder))) return;
-  program.Windows.PaintWaiting();
-  RunCommandLine(program, text, text);
+  StartApart(program, text, [text](const StartServices& services) {
+    const std::string folder = Trim(GetItemWorkDir(text));
+    const auto settled = OpenSettled(services, text, std::nullopt, IfAny(folder));
+    return settled ? *settled : RunCommandLine(services, text, text);
+  });
+}
+
+/// The target of a link; empty when it has none or cannot be read.
+std::string TargetOf(const StartServices& services, const std::string& link) {
+  const auto object = services.Links.CreateLinkObject();
+  if (object == nullptr || !object->Load(link)) return {};
+  return StripAtNull(object->GetPath().value_or(std::string()));
 }
 
 void OpenLink(Program& program, const std::string& link) {
-  std::string target;
-  const std::string folder = GetLinkWorkDir(program, link, target);
-  // The system was asked to say nothing itself.
-  if (!OpenSettled(program, link, std::nullopt, IfAny(folder))) SayUnavailable(program);
+  const bool readsLinks = program.Ports.ShellLinks != nullptr;
+  StartApart(program, link, [link, readsLinks](const StartServices& services) {
+    const std::string folder = readsLinks ? LinkFolder(TargetOf(services, link)) : std::string();
+    // The system was asked to say nothing itself.
+    return OpenSettled(services, link, std::nullopt, IfAny(folder)).value_or(StartEnd::Unavailable);
+  });
 }
 
 /// False when the command is no word of the program, or the program cannot carry it out.
@@ -140,17 +191,35 @@ bool OpenSpecialFolder(Program& program, std::string_view name, std::string_view
   return true;
 }
 
+void RunForm(Program& program, CommandKind kind, const std::string& text);
+
+/// The file is read beside the windows; what it holds is then carried out as a command is.
+void OpenUrlFile(Program& program, const std::string& file) {
+  if (!program.Starts.Begin(file)) return;
+  const auto bytes = std::make_shared<std::string>();
+  program.Services.Starts.Start(
+      [file, bytes](const StartServices& services) {
+        auto read = services.Files.Read(file, 0, kUrlFileLimit);
+        // What cannot be read holds no address.
+        if (read) *bytes = *std::move(read);
+      },
+      [&program, file, bytes, watch = program.Starts.Watch()] {
+        if (watch.Gone()) return;
+        program.Starts.End(file);
+        const std::string address = ParseUrlFile(*bytes, program.Services.Ansi).value_or(file);
+        RunForm(program, ClassifyAddress(address), address);
+      });
+}
+
 void RunForm(Program& program, CommandKind kind, const std::string& text) {
   bool done = false;
   switch (kind) {
     case CommandKind::Empty:
       program.Say(program.ToolbarWindow(), kEmptyText, msgbox::IconInformation | msgbox::OnTop);
       return;
-    case CommandKind::UrlFile: {
-      const std::string address = ReadUrlFile(program, text);
-      RunForm(program, ClassifyAddress(address), address);
+    case CommandKind::UrlFile:
+      OpenUrlFile(program, text);
       return;
-    }
     case CommandKind::ShellLink:
       OpenLink(program, text);
       return;
@@ -169,27 +238,21 @@ void RunForm(Program& program, CommandKind kind, const std::string& text) {
   if (!done) OpenOrRun(program, text);
 }
 
-/// What a file was dropped on, as the start of a command line.
-std::string ProgramOf(Program& program, const std::string& target) {
-  if (!EndsWithNoCase(target, ".lnk") || program.Ports.ShellLinks == nullptr) return target;
-  std::string path;
-  static_cast<void>(GetLinkWorkDir(program, target, path));
-  return path;
-}
-
 void OpenDropped(Program& program, const std::string& dropped, const std::string& target) {
   if (ClassifyCommand(target).Kind == CommandKind::SpecialFolder &&
       OpenSpecialFolder(program, target, dropped)) {
     return;
   }
-  if (OpenSettled(program, target, dropped, std::nullopt)) return;
-  const std::string command = ProgramOf(program, target);
-  // Without a program the line would start what was dropped.
-  if (command.empty()) {
-    SayUnavailable(program);
-    return;
-  }
-  RunCommandLine(program, command + " " + dropped, target);
+  const bool followsLink = EndsWithNoCase(target, ".lnk") && program.Ports.ShellLinks != nullptr;
+  StartApart(program, target + " " + dropped,
+             [dropped, target, followsLink](const StartServices& services) {
+               const auto settled = OpenSettled(services, target, dropped, std::nullopt);
+               if (settled) return *settled;
+               const std::string command = followsLink ? TargetOf(services, target) : target;
+               // Without a program the line would start what was dropped.
+               if (command.empty()) return StartEnd::Unavailable;
+               return RunCommandLine(services, command + " " + dropped, target);
+             });
 }
 
 }  // namespace

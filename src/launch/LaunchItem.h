@@ -7,8 +7,10 @@ namespace corvelle {
 
 class Program;
 
-// What is chosen is started here, and nothing that waits comes before it. The shell and messages
-// let events run meanwhile, so whoever calls must be ready for anything to have happened.
+// What is chosen is started here, and nothing that waits comes before it. Files, links and command
+// lines are started beside the windows (see Starter): the call returns before it is known how that
+// ends, a failure is told later, and the same entry is not started a second time meanwhile.
+// Messages let events run, so whoever calls must be ready for anything to have happened.
 
 /// Carries out the command of an entry, whatever its form. Failures that the user should know of
 /// are shown. Returns the command as it was run: trimmed and without its raw marker.

@@ -19,6 +19,7 @@ class ShellFiles;
 class ShellFolders;
 class ShellIcons;
 class ShellLinks;
+class Starter;
 class SystemInfo;
 class TrayIcons;
 
@@ -42,6 +43,7 @@ struct Platform {
   AppBars& Bars;
   TrayIcons& Tray;
   Lookups& SlowAnswers;
+  Starter& Starts;
   Clipboard& Copies;
   CrashReports& Crashes;
 };

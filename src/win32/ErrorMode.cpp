@@ -1,5 +1,7 @@
 #include "win32/ErrorMode.h"
 
+#include <mutex>
+
 #include "win32/Sys.h"
 
 namespace corvelle::win32 {
@@ -12,6 +14,18 @@ UINT ModeOfTheStart() noexcept {
   return mode;
 }
 
+/// The starts that go on just now, on whatever threads.
+struct StartCount {
+  std::mutex Lock;
+  int Count = 0;
+  UINT Before = 0;  // the mode outside of starts
+};
+
+StartCount& Starts() noexcept {
+  static StartCount starts;
+  return starts;
+}
+
 }  // namespace
 
 void SuppressCriticalErrorBoxes() noexcept {
@@ -19,8 +33,14 @@ void SuppressCriticalErrorBoxes() noexcept {
   SetThreadErrorMode(GetThreadErrorMode() | SEM_FAILCRITICALERRORS, nullptr);
 }
 
-ErrorModeForChildren::ErrorModeForChildren() noexcept : before_(SetErrorMode(ModeOfTheStart())) {}
+ErrorModeForChildren::ErrorModeForChildren() noexcept {
+  const std::scoped_lock lock(Starts().Lock);
+  if (Starts().Count++ == 0) Starts().Before = SetErrorMode(ModeOfTheStart());
+}
 
-ErrorModeForChildren::~ErrorModeForChildren() { SetErrorMode(before_); }
+ErrorModeForChildren::~ErrorModeForChildren() {
+  const std::scoped_lock lock(Starts().Lock);
+  if (--Starts().Count == 0) SetErrorMode(Starts().Before);
+}
 
 }  // namespace corvelle::win32

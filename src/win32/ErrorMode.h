@@ -10,15 +10,13 @@ void SuppressCriticalErrorBoxes() noexcept;
 
 /// While it lives, the process has the error mode that it was itself started with, so that a
 /// program started meanwhile inherits that one and has its boxes. The thread keeps its own setting.
+/// Several threads may be at it at a time.
 class ErrorModeForChildren {
  public:
   ErrorModeForChildren() noexcept;
   ErrorModeForChildren(const ErrorModeForChildren&) = delete;
   ErrorModeForChildren& operator=(const ErrorModeForChildren&) = delete;
   ~ErrorModeForChildren();
-
- private:
-  unsigned before_;
 };
 
 }  // namespace corvelle::win32

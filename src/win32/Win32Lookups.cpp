@@ -10,7 +10,9 @@
 #include <thread>
 #include <utility>
 
+#include "base/Text.h"
 #include "forms/LookupLedger.h"
+#include "win32/ShellHelpers.h"
 #include "win32/UniqueHandle.h"
 #include "win32/Win32Files.h"
 #include "win32/Win32ShellFolders.h"
@@ -86,8 +88,10 @@ UniqueKernel ThisThread() {
 /// What the threads and the program share; it lives as long as the last thread.
 class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
  public:
-  explicit Desk(std::shared_ptr<PostBox> posts)
-      : posts_(std::move(posts)), work_(CreateSemaphoreW(nullptr, 0, MAXLONG, nullptr)) {}
+  Desk(std::shared_ptr<PostBox> posts, std::string helper)
+      : helpers_(std::move(helper)),
+        posts_(std::move(posts)),
+        work_(CreateSemaphoreW(nullptr, 0, MAXLONG, nullptr)) {}
 
   void SetListener(Listener listener) { listener_ = std::move(listener); }
 
@@ -108,6 +112,7 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
   }
 
   void Cancel(LookupId id) {
+    helpers_.Cancel(id);
     // Under the lock, so that the call that is broken off is that question's and not the next
     // one's.
     const std::scoped_lock lock(mutex_);
@@ -128,6 +133,7 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
   void Close() {
     std::unique_lock lock(mutex_);
     closed_ = true;
+    helpers_.Close();
     listener_ = nullptr;  // a thread that stays behind keeps nothing of the program's
     ReleaseSemaphore(work_.Get(), static_cast<LONG>(kMostThreads), nullptr);
     left_.wait_for(lock, kFarewell, [this] { return threads_ == 0; });
@@ -146,7 +152,8 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
       Apartment apartment;
       const UniqueKernel self = ThisThread();
       while (const auto begun = Next(self.Get())) {
-        LookupAnswer answer = apartment.Answer(begun->Question);
+        auto helped = helpers_.Answer(begun->Id, begun->Question);
+        LookupAnswer answer = helped ? *std::move(helped) : apartment.Answer(begun->Question);
         const std::scoped_lock lock(mutex_);
         ++idle_;
         atWork_.erase(begun->Id);
@@ -201,6 +208,7 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
     return true;
   }
 
+  ShellHelpers helpers_;
   std::shared_ptr<PostBox> posts_;
   UniqueKernel work_;  // counts what came while threads were idle
   // On the thread of the windows only.
@@ -219,7 +227,11 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
 };
 
 Win32Lookups::Win32Lookups(std::shared_ptr<PostBox> posts)
-    : desk_(std::make_shared<Desk>(std::move(posts))) {}
+    : Win32Lookups(std::move(posts),
+                   EnsureBackslash(Win32SystemInfo().ApplicationFolder()) + "corvelle-shell.exe") {}
+
+Win32Lookups::Win32Lookups(std::shared_ptr<PostBox> posts, std::string helper)
+    : desk_(std::make_shared<Desk>(std::move(posts), std::move(helper))) {}
 
 Win32Lookups::~Win32Lookups() { desk_->Close(); }
 

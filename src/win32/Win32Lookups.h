@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "platform/Lookups.h"
 #include "win32/PostBox.h"
@@ -13,6 +14,9 @@ namespace corvelle::win32 {
 class Win32Lookups final : public Lookups {
  public:
   explicit Win32Lookups(std::shared_ptr<PostBox> posts);
+  /// With the program of that path for icons and names, in place of the one beside this program;
+  /// where there is none, the threads look for them.
+  Win32Lookups(std::shared_ptr<PostBox> posts, std::string helper);
   Win32Lookups(const Win32Lookups&) = delete;
   Win32Lookups& operator=(const Win32Lookups&) = delete;
   /// Waits for the threads for at most half a second.

@@ -20,6 +20,7 @@
 #include "win32/Win32ShellFolders.h"
 #include "win32/Win32ShellIcons.h"
 #include "win32/Win32ShellLinks.h"
+#include "win32/Win32Starter.h"
 #include "win32/Win32SystemInfo.h"
 #include "win32/Win32TrayIcons.h"
 #include "win32/Win32WindowSystem.h"
@@ -72,6 +73,7 @@ struct Win32Platform::Parts {
   Win32WindowSystem Windows;
   Win32Clipboard Copies;
   Win32Lookups SlowAnswers{Windows.Posts()};
+  Win32Starter Starts{Windows};
   Win32CrashReports Crashes;
 };
 
@@ -96,6 +98,7 @@ Platform Win32Platform::Services() const {
           .Bars = parts_->Bars,
           .Tray = parts_->Tray,
           .SlowAnswers = parts_->SlowAnswers,
+          .Starts = parts_->Starts,
           .Copies = parts_->Copies,
           .Crashes = parts_->Crashes};
 }

@@ -66,6 +66,8 @@ Result<Done, OpenError> Win32ShellExec::Open(std::string_view file,
   SHELLEXECUTEINFOW info{};
   info.cbSize = sizeof(info);
   info.fMask = SEE_MASK_FLAG_NO_UI;
+  // The shell may go on beside a thread that runs events; one that ends soon it must not leave.
+  if (thread_ == ShellExecThread::EndsSoon) info.fMask |= SEE_MASK_NOASYNC;
   info.hwnd = GetDesktopWindow();
   info.lpFile = wideFile.c_str();
   info.lpParameters = PointerTo(wideParameters);

@@ -54,6 +54,14 @@ UniqueIcon FileIcon(std::string_view file, int index, int size) {
 
 }  // namespace
 
+bool LiesElsewhere(unsigned long attributes) noexcept {
+  // The compiler's headers do not name the last two.
+  constexpr DWORD kRecallOnOpen = 0x00040000;
+  constexpr DWORD kRecallOnDataAccess = 0x00400000;
+  return attributes != INVALID_FILE_ATTRIBUTES &&
+         (attributes & (FILE_ATTRIBUTE_OFFLINE | kRecallOnOpen | kRecallOnDataAccess)) != 0;
+}
+
 std::optional<ShellFileInfo> Win32ShellIcons::FileInfo(std::string_view path, IconList list) {
   if (!CanNameFile(path)) return std::nullopt;
   SHFILEINFOW info{};
@@ -77,8 +85,12 @@ std::optional<std::string> Win32ShellIcons::DisplayName(std::string_view path) {
 std::optional<IconPixels> Win32ShellIcons::PixelsOfFile(std::string_view path, IconList list) {
   if (!CanNameFile(path)) return std::nullopt;
   SHFILEINFOW info{};
-  if (SHGetFileInfoW(Wide(path).c_str(), 0, &info, sizeof(info),
-                     SHGFI_ICON | SHGFI_SHELLICONSIZE | SizeFlag(list)) == 0) {
+  const std::wstring wide = Wide(path);
+  // To look into such a file would fetch it.
+  const bool byType = LiesElsewhere(GetFileAttributesW(wide.c_str()));
+  if (SHGetFileInfoW(wide.c_str(), FILE_ATTRIBUTE_NORMAL, &info, sizeof(info),
+                     (byType ? SHGFI_USEFILEATTRIBUTES : 0U) | SHGFI_ICON | SHGFI_SHELLICONSIZE |
+                         SizeFlag(list)) == 0) {
     return std::nullopt;
   }
   const UniqueIcon icon(info.hIcon);
@@ -88,6 +100,7 @@ std::optional<IconPixels> Win32ShellIcons::PixelsOfFile(std::string_view path, I
 std::optional<IconPixels> Win32ShellIcons::PixelsInFile(std::string_view file, int index,
                                                         int size) {
   if (size <= 0 || file.find('\0') != std::string_view::npos) return std::nullopt;
+  if (LiesElsewhere(GetFileAttributesW(Wide(file).c_str()))) return std::nullopt;
   const UniqueIcon icon = FileIcon(file, index, size);
   return PixelsOfIcon(icon.Get(), size);
 }

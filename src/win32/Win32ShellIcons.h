@@ -29,4 +29,8 @@ class Win32ShellIcons final : public ShellIcons {
   std::array<std::uintptr_t, 2> lists_{};
 };
 
+/// True for the attributes of a file whose content lies in a cloud or an archive and is fetched
+/// when it is read.
+[[nodiscard]] bool LiesElsewhere(unsigned long attributes) noexcept;
+
 }  // namespace corvelle::win32

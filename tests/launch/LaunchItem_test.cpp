@@ -365,6 +365,7 @@ TEST_F(LaunchItemTest, ALinkOpensInTheFolderOfItsTarget) {
 
 TEST_F(LaunchItemTest, ALinkWithoutATargetOpensWithoutAFolder) {
   AddServices();
+  world.Links.Put("C:\\Links\\tool.lnk", {.Item = {"item"}});
   LaunchItem(program, "C:\\Links\\tool.LNK");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Links\\tool.LNK")});
 }
@@ -470,6 +471,7 @@ TEST_F(OpenWithItemTest, AFailingLinkIsTriedByItsTarget) {
 TEST_F(OpenWithItemTest, ALinkThatLeadsNowhereIsUnavailableAndTheDroppedFileIsNotRunInItsPlace) {
   AddServices();
   ExpectUnavailable();
+  world.Links.Put("C:\\Links\\tool.lnk", {.Item = {"item"}});
   world.Shell.Fail("C:\\Links\\tool.lnk");
   OpenWithItem(program, "C:\\Tools\\tool.exe", "C:\\Links\\tool.lnk");
   EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
@@ -506,6 +508,60 @@ TEST_F(OpenWithItemTest, ThePointerIsNormalAgainHoweverItEnds) {
     OpenWithItem(program, "C:\\Docs\\plan.txt", target);
     EXPECT_EQ(world.Desktop.CurrentMousePointer(), forms::MousePointer::Default) << target;
   }
+}
+
+TEST_F(LaunchItemTest, WhatIsSlowToStartLetsTheNextBeStartedAndIsNotStartedTwice) {
+  world.Starts.Hang();
+  LaunchItem(program, "C:\\Tools\\tool.exe");
+  LaunchItem(program, " C:\\Tools\\tool.exe ");
+  LaunchItem(program, "C:\\Docs\\plan.txt");
+  EXPECT_EQ(Launches(), std::vector<Launch>{});
+  EXPECT_EQ(world.Starts.UnderWay(), 2);
+  world.Starts.Resume();
+  EXPECT_EQ(Launches(), (std::vector{Opened("C:\\Tools\\tool.exe", "C:\\Tools\\"),
+                                     Opened("C:\\Docs\\plan.txt", "C:\\Docs\\")}));
+  LaunchItem(program, "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches().size(), 3U) << "a press after the start is a start of its own";
+}
+
+TEST_F(LaunchItemTest, ALateFailureIsToldWhenItIsKnown) {
+  world.Starts.Hang();
+  for (const char* command : {"C:\\Tools\\gone.exe", "C:\\Links\\gone.lnk"})
+    LaunchItem(program, command);
+  EXPECT_EQ(Boxes(), 0U);
+  ExpectUnavailable();
+  ExpectUnavailable();
+  world.Starts.Resume();
+  EXPECT_EQ(Boxes(), 2U);
+}
+
+TEST_F(LaunchItemTest, AUrlFileThatIsSlowToReadOpensItsAddressOnce) {
+  AddServices();
+  world.Files.Put("C:\\Links\\site.url", "[InternetShortcut]\r\nURL=http://one.example/\r\n");
+  world.Starts.Hang();
+  LaunchItem(program, "C:\\Links\\site.url");
+  LaunchItem(program, "C:\\Links\\site.url");
+  EXPECT_TRUE(log.empty());
+  world.Starts.Resume();
+  EXPECT_EQ(log, CallLog{"OpenUrl http://one.example/"});
+}
+
+TEST_F(OpenWithItemTest, TheSameDropIsNotStartedTwiceWhileItIsSlow) {
+  world.Starts.Hang();
+  for (int i = 0; i < 2; ++i) OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  OpenWithItem(program, "C:\\Docs\\odd.xyz", "C:\\Tools\\tool.exe");
+  world.Starts.Resume();
+  EXPECT_EQ(Launches().size(), 2U);
+}
+
+TEST_F(LaunchItemTest, AProgramThatEndedIsToldNothingOfItsStarts) {
+  world.Starts.Hang();
+  {
+    Program ending(world.Services(), world.Windows());
+    LaunchItem(ending, "C:\\Tools\\gone.exe");
+  }
+  world.Starts.Resume();
+  EXPECT_EQ(Boxes(), 0U);
 }
 
 TEST_F(LaunchItemTest, ReadUrlFileGivesThePathWhereThereIsNoAddress) {

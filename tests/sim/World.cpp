@@ -27,6 +27,7 @@ World::~World() {
 }
 
 Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files) {
+  Starts.Use({shell != nullptr ? *shell : Shell, files != nullptr ? *files : Files, Links});
   return {.Files = files != nullptr ? *files : Files,
           .Ansi = Ansi,
           .Keys = Keys,
@@ -44,6 +45,7 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
           .Bars = Bars,
           .Tray = Tray,
           .SlowAnswers = SlowAnswers,
+          .Starts = Starts,
           .Copies = Copies,
           .Crashes = Crashes};
 }

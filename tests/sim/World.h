@@ -19,6 +19,7 @@
 #include "sim/SimShellFolders.h"
 #include "sim/SimShellIcons.h"
 #include "sim/SimShellLinks.h"
+#include "sim/SimStarter.h"
 #include "sim/SimSystemInfo.h"
 #include "sim/SimTrayIcons.h"
 
@@ -58,6 +59,7 @@ class World {
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
   SimLookups SlowAnswers{Desktop, {Files, Links, System, Icons, Folders}};
+  SimStarter Starts{{Shell, Files, Links}};
   SimCrashReports Crashes;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
