@@ -84,6 +84,19 @@ class HostIcons final : public ShellIcons {
                          .DisplayName = std::string(path.substr(path.rfind('\\') + 1)),
                          .TypeName = "File"};
   }
+  std::optional<std::string> DisplayName(std::string_view path) override {
+    const auto info = FileInfo(path, IconList::Small);
+    if (!info) return std::nullopt;
+    return info->DisplayName;
+  }
+  std::optional<IconPixels> PixelsOfFile(std::string_view path, IconList /*list*/) override {
+    if (!files_.FileExists(path)) return std::nullopt;
+    return IconPixels{16, 16, std::vector<std::uint32_t>(256, 0xFFFF0000U)};
+  }
+  std::optional<IconPixels> PixelsInFile(std::string_view /*file*/, int /*index*/,
+                                         int /*size*/) override {
+    return std::nullopt;
+  }
   int IconWidth(IconList /*list*/) override { return 16; }
   bool DrawSystemIcon(Canvas& canvas, IconList /*list*/, int /*index*/, PixelPoint at,
                       IconStyle /*style*/) override {
@@ -266,7 +279,7 @@ class MenuGround {
   void Open() {
     copy_.Menu.ShowMenu("F2", file_);
     desk_.World.Desktop.Pump();
-    if (copy_.Menu.Labels != items_) GiveUp("the menu lacks items");
+    if (copy_.Menu.Items().Count() != items_) GiveUp("the menu lacks items");
   }
   void OpenFromCache() {
     Open();
@@ -324,7 +337,7 @@ class FolderGround {
   void Open() {
     Program.Menu.ShowMenu("F2", File);
     Desk.World.Desktop.Pump();
-    if (Program.Menu.Labels != count_) GiveUp("the menu lacks files");
+    if (Program.Menu.Items().Count() != count_) GiveUp("the menu lacks files");
   }
   void Hide() { Program.Menu.HideMenu(); }
   void Drop() {
@@ -345,7 +358,9 @@ class FolderGround {
     Program.Menu.Form_KeyPress('z');
     if (Desk.World.Desktop.Beeps() != beeps + 1) GiveUp("a letter was found");
   }
-  [[nodiscard]] bool OnLastPage() const { return Program.Menu.CurMenu == Program.Menu.Slides; }
+  [[nodiscard]] bool OnLastPage() const {
+    return Program.Menu.Pages().CurMenu() == Program.Menu.Pages().Slides();
+  }
   /// Enumerates the folder, and asks the shell for each file.
   void ListBare(bool ask) {
     const auto listed = Desk.Files.List("C:\\Many", "*.*");

@@ -229,7 +229,8 @@ FileResult<std::string> CreateButtonFile(FileSystem& files, const CodePage& ansi
 FileResult<std::string> WriteMainMenuFile(FileSystem& files, const CodePage& ansi,
                                           std::string_view appPath) {
   std::string path = std::string(appPath) + std::string(kMainMenuFileName);
-  const FileStatus written = WriteRecords(files, ansi, path, MainMenuRecords());
+  // It is made again whenever it is asked for: nothing is lost with it.
+  const FileStatus written = files.ReplaceUnflushed(path, FormatRecords(MainMenuRecords(), ansi));
   if (!written) return written.Error();
   return path;
 }

@@ -18,6 +18,7 @@
 namespace corvelle {
 
 struct EntryEdit;
+class FolderMenusPort;
 namespace forms {
 class Form;
 }
@@ -61,8 +62,11 @@ class StripMenusPort {
   virtual void OpenMenu(std::string_view tag) = 0;
   /// Drops a built menu from the cache.
   virtual void RemoveQMenu(std::string_view tag) = 0;
-  /// Places the menu window against the strip.
+  /// Places the menu window, whose size is known by then, against the strip.
   virtual void SetMenuPosition() = 0;
+  /// Where SetMenuPosition would put the upper edge of a menu beside a strip that is not at the
+  /// bottom; on a vertical strip this depends on the menu's height, and says nothing. Twips.
+  [[nodiscard]] virtual float TopOfMenu() const = 0;
   /// A key of the menu that moves along the strip.
   virtual void ActivateKeyDown(int keyCode) = 0;
   /// The timer that follows the pointer over the strip.
@@ -165,19 +169,14 @@ class QMenuPort : public AskingWindow {
   /// Shows the menu of that key, from the cache or built from its file.
   virtual void ShowMenu(std::string_view menuKey, std::string_view menuFile) = 0;
   virtual void HideMenu() = 0;
-  /// Empties the window for another menu.
-  virtual void ResetQMenu() = 0;
   /// Drops a key from the cache of built menus; no matter if it is not there.
   virtual void ForgetMenu(std::string_view menuKey) = 0;
-  [[nodiscard]] virtual bool HasBuiltMenu(std::string_view menuKey) const = 0;
 
   /// The poll that closes the menu when the user leaves it.
   virtual void SetPoll(bool enabled) = 0;
-  virtual void SetPollInterval(int milliseconds) = 0;
 
   /// Twips.
-  [[nodiscard]] virtual float MenuWidth() const = 0;
-  [[nodiscard]] virtual float MenuHeight() const = 0;
+  [[nodiscard]] virtual TwipSize MenuSize() const = 0;
   virtual void MoveMenu(float left, float top) = 0;
 
   /// A key, a character, a move or a release that the strip got while the menu is up. Points are
@@ -363,30 +362,6 @@ class CapturePort {
   virtual void ClearBg() = 0;
   /// The edge of the outline; nothing while no outline is shown.
   [[nodiscard]] virtual std::optional<Edge> OutlineEdge() const = 0;
-};
-
-/// A menu whose open folder items are replaced by what they hold.
-struct ExpandedMenu {
-  std::string File;                  // full path of the generated file that holds a copy
-  std::vector<MenuRecord> Records;   // the first one is the menu's button
-  std::vector<EntryOrigin> Origins;  // of each record
-  std::string Stored;                // the menu file as it was read, in whole records
-};
-
-/// Folder items, which expand when their menu opens.
-class FolderMenusPort {
- public:
-  virtual ~FolderMenusPort() = default;
-
-  /// What the menu is built from; nothing for a file without open folder items, and for one that
-  /// cannot be read.
-  [[nodiscard]] virtual std::optional<ExpandedMenu> Expand(std::string_view menuKey,
-                                                           std::string_view menuFile) = 0;
-  /// Writes the generated file, for other programs; the menu itself does not need it. False, and
-  /// nothing is told, when it cannot be written.
-  virtual bool WriteGenerated(const ExpandedMenu& menu) = 0;
-  /// True if the folders of a built menu changed since.
-  virtual bool UpdateMenu(std::string_view menuKey) = 0;
 };
 
 /// Special folders of the shell.

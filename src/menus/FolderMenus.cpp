@@ -40,15 +40,14 @@ bool HasOpenFolder(std::string_view stored, const CodePage& ansi) {
 
 }  // namespace
 
-std::optional<ExpandedMenu> FolderMenus::Expand(std::string_view menuKey,
-                                                std::string_view menuFile) {
+std::optional<ExpandedMenu> FolderMenus::Expand(std::string_view menuKey, std::string_view menuFile,
+                                                std::string_view stored) {
   const std::string key = UpperCase(menuKey);
   built_.erase(key);
   Listed listed = std::exchange(listed_, {});
   if (listed.MenuKey != key) listed = {};
   const CodePage& ansi = program_.Services.Ansi;
   const std::string source(menuFile);
-  std::string stored = ReadStoredRecords(program_.Services.Files, source).ValueOr({});
   if (!HasOpenFolder(stored, ansi)) return std::nullopt;
 
   GeneratedMenu menu(ParseRecords(stored, ansi), ansi);
@@ -56,13 +55,16 @@ std::optional<ExpandedMenu> FolderMenus::Expand(std::string_view menuKey,
   built->Update.MenuKey = key;
   ExpandItems(menu, source, listed, *built);
   built_.insert_or_assign(key, std::move(built));
-  return ExpandedMenu{GeneratedFileName(source), menu.Records(), menu.Origins(), std::move(stored)};
+  ExpandedMenu expanded{.File = GeneratedFileName(source), .Items = {}, .Source = {}};
+  expanded.Items = std::move(menu).Items();
+  expanded.Source = std::move(menu).Source();
+  return expanded;
 }
 
 // Quiet: the menu is up, and nothing of it comes from this file.
 bool FolderMenus::WriteGenerated(const ExpandedMenu& menu) {
   FileSystem& files = program_.Services.Files;
-  if (files.Write(menu.File, GeneratedBytes(menu.Records, menu.Origins, program_.Services.Ansi))) {
+  if (files.Write(menu.File, GeneratedBytes(menu.Items, menu.Source, program_.Services.Ansi))) {
     return true;
   }
   // What is left of it would be of another time, or half a menu.

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/WindowPorts.h"
+#include "menus/FolderMenusPort.h"
 #include "menus/clsFolder.h"
 #include "menus/mFolder.h"
 #include "menus/sFolder.h"
@@ -23,7 +23,8 @@ class FolderMenus final : public FolderMenusPort {
  public:
   explicit FolderMenus(Program& program) : program_(program) {}
 
-  std::optional<ExpandedMenu> Expand(std::string_view menuKey, std::string_view menuFile) override;
+  std::optional<ExpandedMenu> Expand(std::string_view menuKey, std::string_view menuFile,
+                                     std::string_view stored) override;
   bool WriteGenerated(const ExpandedMenu& menu) override;
   bool UpdateMenu(std::string_view menuKey) override;
 

@@ -9,9 +9,7 @@ namespace corvelle {
 
 void GeneratedMenu::CopySource(int last) {
   for (; nextSource_ <= std::min(last, SourceCount()); ++nextSource_) {
-    MenuRecord record = source_[static_cast<std::size_t>(nextSource_) - 1];
-    record.FTitle = StripAtNull(record.FTitle);
-    Add(std::move(record), {nextSource_, {}});
+    Add(ItemOf(source_[static_cast<std::size_t>(nextSource_) - 1], nextSource_));
   }
 }
 
@@ -23,37 +21,40 @@ void GeneratedMenu::BeginItem(int record) {
 bool GeneratedMenu::AddEntry(int record, MenuRecord entry, std::string name) {
   if (IsFull()) return false;
   entry.FTitle = DecodeField(EncodeField(entry.FTitle, kTitleWidth, ansi_), ansi_);
-  Add(std::move(entry), {kGeneratedBase + record, std::move(name)});
+  MenuItem item = ItemOf(entry, kGeneratedBase + record);
+  item.Origin.Name = std::move(name);
+  Add(std::move(item));
   return true;
 }
 
-void GeneratedMenu::AddRule() { Add({"", std::string(kSeparatorIcon), ""}, {}); }
+void GeneratedMenu::AddRule() { Add(ItemOf({"", std::string(kSeparatorIcon), ""}, 0)); }
 
-void GeneratedMenu::Add(MenuRecord record, EntryOrigin origin) {
-  if (IsFull()) return;
-  records_.push_back(std::move(record));
-  origins_.push_back(std::move(origin));
+void GeneratedMenu::Add(MenuItem item) {
+  if (!IsFull()) items_.push_back(std::move(item));
 }
 
-std::string GeneratedBytes(const std::vector<MenuRecord>& records,
-                           const std::vector<EntryOrigin>& origins, const CodePage& ansi) {
+std::string GeneratedBytes(const std::vector<MenuItem>& items,
+                           const std::vector<MenuRecord>& source, const CodePage& ansi) {
   std::string bytes;
-  bytes.reserve(records.size() * kRecordLength);
+  bytes.reserve(items.size() * kRecordLength);
   int last = 0;
-  const MenuRecord* rule = nullptr;
-  for (std::size_t i = 0; i < records.size(); ++i) {
-    MenuRecord record = records[i];
-    const int stands = origins[i].Record;
+  bool rule = false;
+  for (const MenuItem& item : items) {
+    const int stands = item.Origin.Record;
     if (stands == 0) {
-      rule = &records[i];
+      rule = true;
       continue;
     }
+    MenuRecord record{"", item.Icon, item.Command};
+    if (!IsGenerated(stands)) record = source[static_cast<std::size_t>(stands) - 1];
     if (EncodeText(record.FName, ansi).size() > kNameWidth) continue;
     // Only between two entries of one folder item that are both there.
-    if (rule != nullptr && stands == last) bytes += FormatRecord(*rule, ansi);
-    rule = nullptr;
+    if (rule && stands == last) {
+      bytes += FormatRecord({"", std::string(kSeparatorIcon), ""}, ansi);
+    }
+    rule = false;
     last = stands;
-    record.FTitle = JoinTitle(record.FTitle, stands, ansi);
+    record.FTitle = JoinTitle(item.Title, stands, ansi);
     bytes += FormatRecord(record, ansi);
   }
   return bytes;

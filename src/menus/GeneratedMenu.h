@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/MenuRecord.h"
+#include "menus/MenuItem.h"
 
 namespace corvelle {
 
@@ -17,7 +17,7 @@ class GeneratedMenu {
   GeneratedMenu(std::vector<MenuRecord> source, const CodePage& ansi)
       : source_(std::move(source)), ansi_(ansi) {}
 
-  [[nodiscard]] const std::vector<MenuRecord>& Source() const noexcept { return source_; }
+  [[nodiscard]] const std::vector<MenuRecord>& Source() const& noexcept { return source_; }
   [[nodiscard]] int SourceCount() const noexcept { return static_cast<int>(source_.size()); }
 
   /// Copies the source's records that have not been taken yet, up to number `last`.
@@ -31,27 +31,28 @@ class GeneratedMenu {
   void AddRule();
 
   /// How many records there are so far.
-  [[nodiscard]] int Count() const noexcept { return static_cast<int>(records_.size()); }
+  [[nodiscard]] int Count() const noexcept { return static_cast<int>(items_.size()); }
   [[nodiscard]] bool IsFull() const noexcept { return Count() >= kMaxRecords; }
-  [[nodiscard]] const std::vector<MenuRecord>& Records() const noexcept { return records_; }
-  /// What each of the records stands for.
-  [[nodiscard]] const std::vector<EntryOrigin>& Origins() const noexcept { return origins_; }
+  /// All of them, each with the record that it stands for.
+  [[nodiscard]] const std::vector<MenuItem>& Items() const& noexcept { return items_; }
+  [[nodiscard]] std::vector<MenuItem> Items() && noexcept { return std::move(items_); }
+  [[nodiscard]] std::vector<MenuRecord> Source() && noexcept { return std::move(source_); }
 
  private:
-  void Add(MenuRecord record, EntryOrigin origin);
+  void Add(MenuItem item);
 
   std::vector<MenuRecord> source_;
   const CodePage& ansi_;
   int nextSource_ = 1;
-  std::vector<MenuRecord> records_;
-  std::vector<EntryOrigin> origins_;
+  std::vector<MenuItem> items_;
 };
 
 /// The bytes of the generated file: each title carries the number of the record that it stands for
 /// (see JoinTitle), and is cut to make room for it. Left out is what would mean another file
-/// because its command does not fit into its field.
-[[nodiscard]] std::string GeneratedBytes(const std::vector<MenuRecord>& records,
-                                         const std::vector<EntryOrigin>& origins,
+/// because its command does not fit into its field. `source`: the records of the menu file, whose
+/// icons and commands are copied with all that they hold.
+[[nodiscard]] std::string GeneratedBytes(const std::vector<MenuItem>& items,
+                                         const std::vector<MenuRecord>& source,
                                          const CodePage& ansi);
 
 }  // namespace corvelle

@@ -57,7 +57,7 @@ void MainMenu::CheckLabels() {
   const MainMenuFacts facts = Facts();
   bool changed = false;
   for (const int label : kMarkedLabels) {
-    changed = menu_.SetItemTag(label, MarkTag(IsMarked(label, facts))) || changed;
+    changed = menu_.SetItemIcon(label, MarkIcon(IsMarked(label, facts))) || changed;
   }
   if (changed) menu_.RedrawPage();
   // To enable one item takes the disabled look away from all.
@@ -73,8 +73,8 @@ void MainMenu::CheckLabels() {
 void MainMenu::xMainMenu(int index, std::string_view text) {
   std::string wanted = Trim(text);
   if (wanted.empty()) {
-    if (program_.Menu.SelectedItem == 0 || !menu_.Lbl.Has(index)) return;
-    wanted = Trim(SingleAmpersands(menu_.Lbl[index].Caption()));
+    if (program_.Menu.SelectedItem == 0) return;
+    wanted = menu_.Items()[index].Title;
   }
   menu_.HideMenu();
   program_.DoEvents();

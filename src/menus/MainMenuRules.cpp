@@ -21,9 +21,6 @@ bool IsChoosable(int label, const MainMenuFacts& facts) noexcept {
   return true;
 }
 
-std::string MarkTag(bool marked) {
-  constexpr char kNul = '\0';
-  return marked ? kNul + std::string("xCircle") + kNul : std::string(1, kNul);
-}
+std::string_view MarkIcon(bool marked) noexcept { return marked ? "xCircle" : ""; }
 
 }  // namespace corvelle

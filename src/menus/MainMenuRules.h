@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <string>
 #include <string_view>
 
 namespace corvelle {
@@ -30,7 +29,7 @@ struct MainMenuFacts {
 [[nodiscard]] bool IsMarked(int label, const MainMenuFacts& facts) noexcept;
 /// False for an item that has no use where the strip stands.
 [[nodiscard]] bool IsChoosable(int label, const MainMenuFacts& facts) noexcept;
-/// The tag of an item with a mark, or of one without.
-[[nodiscard]] std::string MarkTag(bool marked);
+/// The icon text of an item with a mark, or of one without.
+[[nodiscard]] std::string_view MarkIcon(bool marked) noexcept;
 
 }  // namespace corvelle

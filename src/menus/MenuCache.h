@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "menus/MenuItem.h"
 #include "platform/Canvas.h"
 
 namespace corvelle {
@@ -22,13 +23,6 @@ struct clsMenu {
   Picture MenuPicture;
 };
 
-/// One item of a menu.
-struct clsLabel {
-  std::string Title;  // the caption, "&" doubled
-  std::string Tag;
-  float Top = 0;  // twips
-};
-
 /// Summary of a menu. Sizes are twips.
 struct clsMenuInfo {
   int Labels = 0;
@@ -40,18 +34,16 @@ struct clsMenuInfo {
   float MenuHeight = 0;
   /// The page last on show, to which a reopened menu returns.
   int CurMenu = 0;
-  /// For each item, the first one at index 0, its first letter and the number of its page.
-  std::vector<std::string> CharArray;
 };
 
 /// All that is kept of one menu so that it opens again without its file.
 struct BuiltMenu {
   clsMenuInfo MenuInfo;
-  std::vector<clsMenu> SlideList;   // by page number
-  std::vector<clsLabel> LabelList;  // item 1 first
-  std::string Source;               // the file as it was given, before its folder items expanded
-  std::string Stored;               // its records as they were stored then
-  float Room = 0;                   // greatest height of the window when it was laid out, twips
+  std::vector<clsMenu> SlideList;  // by page number
+  std::vector<MenuItem> Items;     // item 1 first
+  std::string Source;              // the file as it was given, before its folder items expanded
+  std::string Stored;              // its records as they were stored then
+  float Room = 0;                  // greatest height of the window when it was laid out, twips
 };
 
 /// The built menus by their keys. They outlive the window's contents.

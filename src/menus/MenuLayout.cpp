@@ -3,10 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/Text.h"
 #include "menus/MenuRules.h"
-#include "menus/MenuTag.h"
-#include "menus/TypeAhead.h"
 
 namespace corvelle {
 namespace {
@@ -17,9 +14,7 @@ constexpr float kPageReserve = 3;       // pixels at a page's foot
 constexpr float kMarkRoom = 55;         // pixels right of the texts of the program's own menu
 constexpr float kMargin = 13;           // pixels right of and below the items
 
-constexpr std::string_view kHiddenTitle = "Corvelle";
-
-/// The second pass over a file: puts one record after the other onto the pages.
+/// The second pass over a file: puts one item after the other onto the pages.
 class Builder {
  public:
   explicit Builder(const MenuScene& scene)
@@ -28,11 +23,11 @@ class Builder {
   MenuLayout Build();
 
  private:
-  [[nodiscard]] std::span<const MenuRecord> Items() const;
+  [[nodiscard]] std::span<const MenuItem> Items() const;
   [[nodiscard]] float EstimatedHeight() const;
   [[nodiscard]] float NextTop() const;
   void AddSeparator();
-  void AddItem(const MenuRecord& record, int place);
+  void AddItem(MenuItem item);
   void StartPage();
   void EndLayout();
 
@@ -44,8 +39,8 @@ class Builder {
   bool afterSeparator_ = false;
 };
 
-std::span<const MenuRecord> Builder::Items() const {
-  const std::span<const MenuRecord> all = scene_.Records;
+std::span<const MenuItem> Builder::Items() const {
+  const std::span<const MenuItem> all = scene_.Items;
   const auto most = static_cast<std::size_t>(kMaxRecords);
   return all.empty() ? all : all.first(std::min(all.size(), most)).subspan(1);
 }
@@ -54,11 +49,10 @@ float Builder::EstimatedHeight() const {
   int items = 0;
   int separators = 0;
   bool inRun = false;
-  for (const MenuRecord& record : Items()) {
-    const bool separator = IsSeparatorIcon(Trim(record.FIcon));
-    if (!separator) ++items;
-    if (separator && !inRun) ++separators;
-    inRun = separator;
+  for (const MenuItem& item : Items()) {
+    if (!item.Separator) ++items;
+    if (item.Separator && !inRun) ++separators;
+    inRun = item.Separator;
   }
   return (scene_.LineHeight + metrics_.ItemGap) * static_cast<float>(items) +
          kSeparatorHeight * metrics_.TwipsY * static_cast<float>(separators);
@@ -78,17 +72,10 @@ void Builder::AddSeparator() {
   out_.Pages.back().Rules.push_back(RuleBelow(last, metrics_.ItemGap, metrics_.TwipsY));
 }
 
-void Builder::AddItem(const MenuRecord& record, int place) {
-  // What follows a NUL is a damaged rest.
-  const std::string title = StripAtNull(record.FTitle);
-  const auto index = static_cast<std::size_t>(place) - 1;
-  const EntryOrigin origin =
-      index < scene_.Origins.size() ? scene_.Origins[index] : EntryOrigin{place, {}};
-  MenuItem item;
+void Builder::AddItem(MenuItem item) {
+  item.AfterSeparator = afterSeparator_;
   item.Top = NextTop();
-  item.Caption = DoubleAmpersands(title);
-  item.Tag = JoinTag({afterSeparator_, record.FName, record.FIcon, origin.Record, origin.Name});
-  item.Width = scene_.TextWidth ? scene_.TextWidth(title) : 0;
+  item.Width = scene_.TextWidth ? scene_.TextWidth(item.Title) : 0;
   out_.MaxLabelWidth = std::max(out_.MaxLabelWidth, item.Width);
   afterSeparator_ = false;
   const int number = static_cast<int>(out_.Items.size()) + 1;
@@ -99,7 +86,6 @@ void Builder::AddItem(const MenuRecord& record, int place) {
   }
   out_.Pages.back().LastLabel = number;
   item.Page = static_cast<int>(out_.Pages.size()) - 1;
-  item.TypeAheadKey = TypeAheadKey(title, item.Page);
   out_.Items.push_back(std::move(item));
 }
 
@@ -139,14 +125,12 @@ MenuLayout Builder::Build() {
   out_.MenuHeight =
       paged_ ? scene_.WindowHeight - kArrowRow * metrics_.TwipsY : scene_.WindowHeight;
   pageEnd_ = out_.MenuHeight - reserve;
-  int place = 1;
-  for (const MenuRecord& record : Items()) {
-    ++place;
-    if (IsHiddenTitle(record.FTitle)) continue;
-    if (IsSeparatorIcon(Trim(record.FIcon))) {
+  for (const MenuItem& item : Items()) {
+    if (item.Hidden) continue;
+    if (item.Separator) {
       AddSeparator();
     } else {
-      AddItem(record, place);
+      AddItem(item);
     }
   }
   EndLayout();
@@ -175,10 +159,6 @@ float MenuRoom(const MenuRoomScene& s) noexcept {
   if (s.Vertical) return s.ScreenHeight;
   const float room = s.At == Edge::Bottom ? s.StripTop : s.ScreenHeight - s.MenuTop;
   return std::max(room, 0.0F);
-}
-
-bool IsHiddenTitle(std::string_view title) {
-  return EqualNoCase(title.substr(0, title.find('\0')), kHiddenTitle);
 }
 
 MenuLayout LayOutMenu(const MenuScene& scene) { return Builder(scene).Build(); }

@@ -8,11 +8,11 @@
 
 #include "base/Edge.h"
 #include "base/Twips.h"
-#include "core/MenuRecord.h"
+#include "menus/MenuItem.h"
 
 namespace corvelle {
 
-// From the records of a menu file to items and pages: pure rules. All measures are twips.
+// From the items of a menu file to pages: pure rules. All measures are twips.
 
 /// Key of the program's own menu; all other menus belong to buttons.
 inline constexpr std::string_view kMainMenuKey = "Q1";
@@ -55,26 +55,15 @@ struct MenuRoomScene {
 [[nodiscard]] float MenuRoom(const MenuRoomScene& scene) noexcept;
 
 struct MenuScene {
-  /// The whole file. The first record is the menu's own header and no item.
-  std::span<const MenuRecord> Records;
+  /// The whole file. The first one is the menu's own header and not shown.
+  std::span<const MenuItem> Items;
   std::string_view Key = "F2";
-  /// What each record stands for in the menu file; empty: for itself.
-  std::span<const EntryOrigin> Origins = {};
   float TwipsX = 15;
   float TwipsY = 15;
   float LineHeight = 195;     // of a label of one line
   float WindowHeight = 9000;  // the greatest there is room for
   /// Width of a text as it is shown, with single "&". Without one every text has no width.
   std::function<float(std::string_view)> TextWidth;
-};
-
-struct MenuItem {
-  std::string Caption;  // the title, each "&" doubled
-  std::string Tag;      // see menus/MenuTag.h
-  std::string TypeAheadKey;
-  float Top = 0;
-  float Width = 0;
-  int Page = 0;
 };
 
 /// One page. Items are numbered from 1 across all pages; an empty menu has a page from 1 to 0.
@@ -88,7 +77,7 @@ struct MenuPage {
 };
 
 struct MenuLayout {
-  std::vector<MenuItem> Items;  // item 1 first
+  std::vector<MenuItem> Items;  // those on show, item 1 first
   std::vector<MenuPage> Pages;  // at least one
   int Labels = 0;               // number of items
   int Slides = 0;               // number of the last page, 0 for a single one
@@ -99,13 +88,9 @@ struct MenuLayout {
   float ItemGap = 0;
 };
 
-/// Lays out a menu, in time that grows with the number of records only. Records past the greatest
-/// number are not looked at.
+/// Lays out a menu, in time that grows with the number of items only. Those past the greatest
+/// record number are not looked at.
 [[nodiscard]] MenuLayout LayOutMenu(const MenuScene& scene);
-
-/// True for the title of the entry that no menu shows: "Corvelle", case apart, also with a NUL at
-/// its end, whatever follows that.
-[[nodiscard]] bool IsHiddenTitle(std::string_view title);
 
 struct ArrowScene {
   float WindowWidth = 0;

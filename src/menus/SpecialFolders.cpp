@@ -18,9 +18,6 @@ namespace {
 using forms::MouseButton;
 
 constexpr int kDesktop = 0;
-constexpr int kControls = 3;
-constexpr int kPrinters = 4;
-constexpr int kDrives = 17;
 constexpr std::string_view kRootWindow = "? explorer.exe /root,";
 
 bool OpenPath(Program& program, int folder) {
@@ -37,16 +34,6 @@ bool OpenDesktop(Program& program, WindowId owner) {
   return true;
 }
 
-/// The control panel and the printers stand among the drives, where a shell still shows them there.
-bool OpenShellFolder(Program& program, int folder, WindowId owner) {
-  if (folder == kControls || folder == kPrinters) {
-    int icon = 0;
-    const std::string name = SpecialFolderName(program, folder, icon);
-    if (DoSpecialFolder(program, kDrives, name, MouseButton::Left, {}, {}, owner)) return true;
-  }
-  return program.Services.Folders.OpenFolder(folder, owner);
-}
-
 bool OpenFolder(Program& program, int folder, WindowId owner) {
   switch (KindOfSpecialFolder(folder)) {
     case SpecialFolderKind::Disk:
@@ -54,7 +41,7 @@ bool OpenFolder(Program& program, int folder, WindowId owner) {
     case SpecialFolderKind::Desktop:
       return OpenDesktop(program, owner);
     case SpecialFolderKind::Shell:
-      return OpenShellFolder(program, folder, owner);
+      return program.Services.Folders.OpenFolder(folder, owner);
     case SpecialFolderKind::None:
       break;
   }
@@ -82,12 +69,18 @@ bool IsSpecial(std::string_view command) {
 bool DoSpecialFolder(Program& program, int folder, std::string_view title, MouseButton button,
                      std::string_view argument, PixelPoint at, WindowId owner) {
   ShellFolders& folders = program.Services.Folders;
+  const std::string wanted = Trim(title);
+  const bool opens = button == MouseButton::Left;
+  // Most titles are whole names, which need no list with the icons of all entries.
+  if (opens && folders.OpenEntry(folder, wanted, argument, owner)) return true;
   const auto entries = folders.List(folder);
   if (!entries) return false;
-  const int index = FindEntryByTitle(*entries, Trim(title));
+  const int index = FindEntryByTitle(*entries, wanted);
   if (index < 0) return false;
   const std::string& name = (*entries)[static_cast<std::size_t>(index)].Name;
-  if (button == MouseButton::Left) return folders.OpenEntry(folder, name, argument, owner);
+  // The shell has refused that one.
+  if (opens && name == wanted) return false;
+  if (opens) return folders.OpenEntry(folder, name, argument, owner);
   return folders.EntryMenu(folder, name, at, owner);
 }
 

@@ -1,19 +1,16 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
+
+#include "menus/MenuItem.h"
 
 namespace corvelle {
 
 // Typing the first letter of an item: pure rules.
 
-/// The entry of an item: the first letter of its title in lower case, or a NUL for a blank one,
-/// followed by the number of its page.
-[[nodiscard]] std::string TypeAheadKey(std::string_view title, int page);
-
-/// The page number in an entry; 0 when there is none.
-[[nodiscard]] int TypeAheadPage(std::string_view key) noexcept;
+/// True if the title begins with the character, ignoring case.
+[[nodiscard]] bool BeginsWith(std::string_view title, char32_t character) noexcept;
 
 /// True for the characters that a search may be made for.
 [[nodiscard]] constexpr bool IsTypeAheadCharacter(char32_t character) noexcept {
@@ -29,9 +26,9 @@ struct TypeAheadHit {
   friend bool operator==(const TypeAheadHit&, const TypeAheadHit&) = default;
 };
 
-/// Searches the entries (`keys[0]` is item 1) from `curItem` to the end, then from item 1 on. With
-/// `curItem` 0 the search starts at `firstLabel`. Case apart.
-[[nodiscard]] TypeAheadHit FindTypeAhead(std::span<const std::string> keys, int curItem,
+/// Searches the titles (`items[0]` is item 1) from `curItem` to the end, then from item 1 on. With
+/// `curItem` 0 the search starts at `firstLabel`.
+[[nodiscard]] TypeAheadHit FindTypeAhead(std::span<const MenuItem> items, int curItem,
                                          int firstLabel, char32_t character);
 
 }  // namespace corvelle

@@ -42,8 +42,12 @@ frmQMenu::frmQMenu(Program& program)
       LineRight(*this, "LineRight"),
       LineDown(*this, "LineDown"),
       Timer1(program.Windows),
+      KeysTimer(program.Windows),
       program_(program),
-      icons_(program) {
+      icons_(program),
+      items_(program.Services.Ansi),
+      drops_(program, items_),
+      prefetch_(program, icons_) {
   LblButton.Load();
   imgButton.Load();
   WireEvents();
@@ -94,6 +98,8 @@ void frmQMenu::WireEvents() {
   };
   Paint = [this] { Form_Paint(); };
   Timer1.Tick = [this] { Timer1_Timer(); };
+  KeysTimer.Tick = [this] { ActHeldKeys(); };
+  KeysTimer.SetInterval(1);
   WireDrags();
   for (int i = 0; i <= 1; ++i) {
     WireArrow(LblButton[i], i);
@@ -128,6 +134,8 @@ void frmQMenu::Form_Load() {
 
 void frmQMenu::Form_Unload() {
   Timer1.SetEnabled(false);
+  KeysTimer.SetEnabled(false);
+  held_.Forget();
   MenuReady = false;
 }
 
@@ -178,7 +186,7 @@ void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   if (owner.empty() || owner == "0" || menuFile.empty()) return;
   ResetQMenu();
   PagePicture.reset();
-  if (!EqualNoCase(key, MenuKey)) SavedPage = 0;
+  if (!EqualNoCase(key, MenuKey)) pages_.ForgetSaved();
   MenuKey = key;
   const std::shared_ptr<BuiltMenu> built = cache_.Find(key);
   const bool changed = built && FoldersChanged(key);
@@ -195,6 +203,7 @@ void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   if (!IsLoaded()) return;
   if (EqualNoCase(key, kMainMenuKey)) CheckLabels();
   PresentMenu();
+  AwaitHeldKeys();
 }
 
 bool frmQMenu::FoldersChanged(std::string_view menuKey) {
@@ -207,20 +216,13 @@ bool frmQMenu::FoldersChanged(std::string_view menuKey) {
 
 bool frmQMenu::RestoreMenu(const std::shared_ptr<BuiltMenu>& built) {
   // A menu that was laid out for another screen or another place of the strip does not fit.
-  if (built->Room != PlaceForRoom()) return false;
-  menu_ = built;
-  const clsMenuInfo& info = menu_->MenuInfo;
-  Labels = info.Labels;
-  Slides = info.Slides;
-  MenuFile = info.File;
-  CurMenu = info.CurMenu;
-  PrevPage = CurMenu;
-  SavedPage = CurMenu;
-  Move(Left(), Top(), info.Width, info.Height);
-  const clsMenu& page = CurPage();
-  FirstLabel = page.FirstLabel;
-  LastLabel = page.LastLabel;
+  if (built->Room != RoomForMenu()) return false;
+  Take(built);
+  MenuFile = built->MenuInfo.File;
+  pages_.Save();
+  PlaceMenu();
   UpDownArrows();
+  const clsMenu& page = pages_.Current();
   if (page.Init == 0) {
     DrawPage(false);
   } else {
@@ -234,7 +236,6 @@ bool frmQMenu::RestoreMenu(const std::shared_ptr<BuiltMenu>& built) {
 void frmQMenu::PresentMenu() {
   MenuReady = true;
   UpDownArrows();
-  PlaceMenu();
   Timer1.SetEnabled(true);
   BringUp();
   InvalidateAll();
@@ -269,8 +270,9 @@ void frmQMenu::CloseMenu() {
 void frmQMenu::HideMenu() {
   if (!IsLoaded()) return;
   // A refresh hides the menu first, and comes back to the page that was up.
-  if (Visible()) SavedPage = CurMenu;
+  if (Visible()) pages_.Save();
   Hide();
+  if (!program_.Guards.MenuBuilding) held_.Forget();
 }
 
 void frmQMenu::ResetQMenu() {
@@ -282,14 +284,10 @@ void frmQMenu::ResetQMenu() {
   for (int i = 1; i <= LoadedLabels(); ++i) Lbl[i].SetVisible(false);
   Timer1.SetEnabled(false);
   menu_ = std::make_shared<BuiltMenu>();
+  items_.Clear();
+  pages_.Clear();
   pageBoxes_.clear();
   PagePicture.reset();
-  Labels = 0;
-  Slides = 0;
-  CurMenu = 0;
-  PrevPage = 0;
-  FirstLabel = 0;
-  LastLabel = 0;
   ShadowCount = 0;
   program_.Menu.SelectedItem = 0;
   CurItem = 0;

@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,16 +15,22 @@
 #include "forms/Form.h"
 #include "forms/Graphic.h"
 #include "forms/Timer.h"
+#include "menus/FolderMenusPort.h"
+#include "menus/HeldKeys.h"
+#include "menus/IconPrefetch.h"
 #include "menus/MenuCache.h"
+#include "menus/MenuDrops.h"
 #include "menus/MenuIcons.h"
 #include "menus/MenuLayout.h"
 #include "menus/MenuRules.h"
+#include "menus/ShownItems.h"
+#include "menus/ShownPages.h"
 
 namespace corvelle {
 
 class Program;
 
-/// The one menu window, which is filled anew for each menu. A menu that is taller than the screen
+/// The one menu window, which is filled again for each menu. A menu that is taller than the screen
 /// has pages, turned by two arrow buttons at its foot. All measures are twips.
 class frmQMenu final : public forms::Form, public QMenuPort {
  public:
@@ -45,15 +52,14 @@ class frmQMenu final : public forms::Form, public QMenuPort {
 
   void ShowMenu(std::string_view menuKey, std::string_view menuFile) override;
   void HideMenu() override;
-  void ResetQMenu() override;
+  /// Empties the window for another menu.
+  void ResetQMenu();
   void ForgetMenu(std::string_view menuKey) override { cache_.Remove(menuKey); }
-  [[nodiscard]] bool HasBuiltMenu(std::string_view menuKey) const override {
+  [[nodiscard]] bool HasBuiltMenu(std::string_view menuKey) const {
     return cache_.Find(menuKey) != nullptr;
   }
   void SetPoll(bool enabled) override { Timer1.SetEnabled(enabled); }
-  void SetPollInterval(int milliseconds) override { Timer1.SetInterval(milliseconds); }
-  [[nodiscard]] float MenuWidth() const override { return Width(); }
-  [[nodiscard]] float MenuHeight() const override { return Height(); }
+  [[nodiscard]] TwipSize MenuSize() const override { return {Width(), Height()}; }
   void MoveMenu(float left, float top) override { Move(left, top, Width(), Height()); }
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
     Form::SetWindowPos(after, flags);
@@ -73,32 +79,30 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   /// Brings the page CurMenu on the screen.
   void ShowSlide();
 
-  // ---- icons (frmQMenuIcons.cpp) ----
+  // ---- icons ----
 
-  /// Fetches the icons of all menu files, of the files of their folder items, and of the links.
-  void InitIcons() override;
-  /// Fetches those of one menu file.
-  void InitMenuIcons(std::string_view menuFile);
-  void ResetPicIcons() override;
+  void InitIcons() override { prefetch_.InitIcons(); }
+  void ResetPicIcons() override { icons_.ResetPicIcons(); }
 
   // ---- items and the selection (frmQMenuItems.cpp) ----
 
-  /// The command of an item; tells whether it follows a separator.
+  /// What is on show: items and pages.
+  [[nodiscard]] const ShownItems& Items() const noexcept { return items_; }
+  [[nodiscard]] const ShownPages& Pages() const noexcept { return pages_; }
+  /// The command of an item; notes in the program whether it follows a separator.
   [[nodiscard]] std::string GetExeName(int index);
-  [[nodiscard]] std::string GetIconName(int index) const;
-  /// What an item is called: its caption, or its whole name in a folder of the shell.
-  [[nodiscard]] std::string NameOf(int index) const;
-  [[nodiscard]] int GetRecordNum(int index) const;
+  [[nodiscard]] const std::string& GetIconName(int index) const { return items_[index].Icon; }
+  [[nodiscard]] int GetRecordNum(int index) const { return items_[index].Origin.Record; }
   /// Gives an item its disabled look, and takes that of all items away.
   void DisableLabel(int index);
   void EnableLabel(int index);
-  /// Gives an item another tag for as long as the menu is kept; true if it is another.
-  bool SetItemTag(int index, std::string tag);
-  /// Draws the icons of the page on show anew. All its items are enabled then.
+  /// Gives an item another icon for as long as the menu is kept; true if it is another.
+  bool SetItemIcon(int index, std::string_view icon) { return items_.SetIcon(index, icon); }
+  /// Repaints the icons of the page on show. All its items are enabled then.
   void RedrawPage() { DrawPage(false); }
   /// No item is selected any more.
   void DropSelection();
-  /// Reads the menu on show and its icons anew.
+  /// Reads the menu on show again, with the icons of the page that is up.
   void RefreshQMenu() override;
 
   // ---- pointer (frmQMenuPointer.cpp) ----
@@ -161,6 +165,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   forms::Line LineRight;
   forms::Line LineDown;
   forms::Timer Timer1;
+  forms::Timer KeysTimer;
 
   // ---- state ----
 
@@ -169,12 +174,6 @@ class frmQMenu final : public forms::Form, public QMenuPort {
 
   std::string MenuKey;
   std::string MenuFile;
-  int Labels = 0;
-  int Slides = 0;
-  int CurMenu = 0;
-  int PrevPage = 0;
-  int FirstLabel = 0;
-  int LastLabel = 0;
   float ItemGap = 105;
   float TwipsX = 15;
   float TwipsY = 15;
@@ -192,8 +191,6 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   int CurItem = 0;
   /// SelectedItem before the current event.
   int PrevItem = 0;
-  /// The page to return to after a refresh, from 1 on; 0 for none.
-  int SavedPage = 0;
   /// The arrow button under the pointer.
   int ActiveArrow = kNoArrow;
   /// The last act was a key or a right click: the selection stays though the pointer is away.
@@ -235,19 +232,23 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void HideArrows();
   [[nodiscard]] bool IsCaptured() const;
   /// The greatest height for the window where the strip puts it.
-  [[nodiscard]] float PlaceForRoom();
+  [[nodiscard]] float RoomForMenu() const;
 
   // Building (frmQMenuBuild.cpp).
   /// The menu with its folder items expanded, where it has open ones and there is a service for
   /// that.
-  [[nodiscard]] std::optional<ExpandedMenu> ExpandFolders(std::string_view menuFile);
+  [[nodiscard]] std::optional<ExpandedMenu> ExpandFolders(std::string_view menuFile,
+                                                          std::string_view stored);
+  void WriteOwnMenu();
+  [[nodiscard]] MenuLayout LayOut(std::span<const MenuItem> items, float room) const;
+  void Fill(BuiltMenu& menu, MenuLayout layout) const;
+  /// Makes a menu the one on show, and the window as large as it is.
+  void Take(const std::shared_ptr<BuiltMenu>& menu);
   /// Writes the generated file, once the menu is up.
   void KeepGenerated(const ExpandedMenu& expanded);
-  void TakeLayout(const MenuLayout& layout);
   void DisplayFirstPage();
 
   // Painting (frmQMenuPaint.cpp).
-  [[nodiscard]] clsMenu& CurPage();
   /// Gives the labels of the page on show their texts and places, hidden or not as they are.
   void FillPage();
   void ShowPage();
@@ -263,9 +264,6 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void ColoursChanged();
   void Form_Paint();
 
-  // Icons (frmQMenuIcons.cpp).
-  void LoadIconsOf(const std::string& menuFile);
-
   // Items (frmQMenuItems.cpp).
   [[nodiscard]] PageScene Page() const;
   [[nodiscard]] ItemBox BoxOf(int index) const;
@@ -274,9 +272,6 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void DrawBox(int index);
   void HideBox();
   static void SetLine(forms::Line& line, const TwipLine& at);
-  /// The entry that an item stands for; tells whether it follows a separator.
-  [[nodiscard]] EntryEdit EntryOf(int index);
-  void FillCurrentItem(int index);
 
   // Pointer (frmQMenuPointer.cpp).
   [[nodiscard]] bool PointerOver() const;
@@ -291,6 +286,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void RunItem(bool mainMenu, int index, const std::string& command, const std::string& title);
   void OfferItem(forms::ShiftState shift);
   void OfferShellMenu(int index);
+  /// The entry that an item stands for; notes in the program whether it follows a separator.
+  [[nodiscard]] EntryEdit CurrentEntry(int index);
   [[nodiscard]] WindowId HintWindow() const;
   void Timer1_Timer();
 
@@ -301,10 +298,6 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void WireDrags();
   void WireDrags(forms::Label& label, int index);
   [[nodiscard]] bool TakesDrop(const forms::DragData& data) const;
-  void DropFiles(const std::vector<std::string>& names);
-  void OpenDropped(const std::string& file, int item);
-  void InsertFiles(const std::vector<std::string>& names, int item);
-  void OfferAddress(const forms::DragData& data, int item);
 
   // Arrow buttons and pages (frmQMenuPages.cpp).
   void TurnTo(int page);
@@ -315,6 +308,11 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void DrawArrowFrame(int index, bool sunken);
 
   // Keys (frmQMenuKeys.cpp).
+  /// True for a key that comes before the menu is up: it acts on it then.
+  [[nodiscard]] bool HoldsKey(const HeldKey& key);
+  /// Lets them act as soon as nothing is being built.
+  void AwaitHeldKeys();
+  void ActHeldKeys();
   void KeyActs();
   void MoveCursor(int step);
   void MovePage(int keyCode);
@@ -326,6 +324,10 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   MenuIcons icons_;
   /// The menu on show with its pages; never null.
   std::shared_ptr<BuiltMenu> menu_ = std::make_shared<BuiltMenu>();
+  ShownItems items_;
+  ShownPages pages_;
+  MenuDrops drops_;
+  IconPrefetch prefetch_;
   /// The items of the page on show, from top to bottom.
   std::vector<ItemBox> pageBoxes_;
   /// The menu was rebuilt, and neither the pointer nor a key has done anything in it since.
@@ -337,6 +339,9 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   bool shellMenuUp_ = false;
   /// The left button went down in this menu and has not come up again.
   bool pressed_ = false;
+  HeldKeys held_;
+  /// One of them acts at this moment.
+  bool actsHeldKey_ = false;
   std::map<std::string, Picture, std::less<>> glyphs_;
 };
 

@@ -26,45 +26,57 @@ void frmQMenu::InitQMenu(std::string_view menuFile) {
   Lbl[0].SetCaption("lbl(0)");
 
   const std::string given(menuFile.substr(0, menuFile.find('\0')));
-  const std::optional<ExpandedMenu> expanded = ExpandFolders(given);
+  if (EqualNoCase(MenuKey, kMainMenuKey)) WriteOwnMenu();
+  // What cannot be read gives a menu without items.
+  std::string stored = ReadStoredRecords(program_.Services.Files, given).ValueOr({});
+  const std::optional<ExpandedMenu> expanded = ExpandFolders(given, stored);
   // The folders' listing lets events through.
   if (!IsLoaded()) return;
 
-  menu_ = std::make_shared<BuiltMenu>();
-  menu_->Source = given;
-  MenuFile = expanded ? expanded->File : given;
   Hide();
   SetCaption("");
   Cls();
   ActiveArrow = kNoArrow;
-  menu_->Room = PlaceForRoom();
-  // What cannot be read gives a menu without items.
-  menu_->Stored =
-      expanded ? expanded->Stored : ReadStoredRecords(program_.Services.Files, given).ValueOr({});
-  const std::vector<MenuRecord> stored =
-      expanded ? std::vector<MenuRecord>{} : ParseRecords(menu_->Stored, program_.Services.Ansi);
-  TakeLayout(LayOutMenu(
-      {.Records = expanded ? expanded->Records : stored,
-       .Key = MenuKey,
-       .Origins = expanded ? std::span(expanded->Origins) : std::span<const EntryOrigin>(),
-       .TwipsX = TwipsX,
-       .TwipsY = TwipsY,
-       .LineHeight = Lbl[0].Height(),
-       .WindowHeight = menu_->Room,
-       .TextWidth = [this](std::string_view text) {
-         const PixelSize size = program_.Windows.MeasureText(text, Lbl[0].Font());
-         return static_cast<float>(size.width) * program_.Windows.Screen().TwipsPerPixelX;
-       }}));
+  MenuFile = expanded ? expanded->File : given;
+  const std::vector<MenuItem> own =
+      expanded ? std::vector<MenuItem>{} : ReadItems(stored, program_.Services.Ansi);
+  auto menu = std::make_shared<BuiltMenu>();
+  menu->Source = given;
+  menu->Stored = std::move(stored);
+  menu->Room = RoomForMenu();
+  Fill(*menu, LayOut(expanded ? expanded->Items : own, menu->Room));
+  Take(menu);
   PlaceMenu();
   DisplayFirstPage();
   cache_.Add(menu_);
   if (expanded) KeepGenerated(*expanded);
 }
 
-std::optional<ExpandedMenu> frmQMenu::ExpandFolders(std::string_view menuFile) {
+// Without a fresh file the menu shows what the old one holds.
+void frmQMenu::WriteOwnMenu() {
+  static_cast<void>(
+      WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath));
+}
+
+MenuLayout frmQMenu::LayOut(std::span<const MenuItem> items, float room) const {
+  return LayOutMenu({.Items = items,
+                     .Key = MenuKey,
+                     .TwipsX = TwipsX,
+                     .TwipsY = TwipsY,
+                     .LineHeight = Lbl[0].Height(),
+                     .WindowHeight = room,
+                     .TextWidth = [this](std::string_view text) {
+                       const PixelSize size = program_.Windows.MeasureText(text, Lbl[0].Font());
+                       return static_cast<float>(size.width) *
+                              program_.Windows.Screen().TwipsPerPixelX;
+                     }});
+}
+
+std::optional<ExpandedMenu> frmQMenu::ExpandFolders(std::string_view menuFile,
+                                                    std::string_view stored) {
   FolderMenusPort* const folders = program_.Ports.FolderMenus;
   if (folders == nullptr || !IsMenuFile(menuFile)) return std::nullopt;
-  return folders->Expand(MenuKey, menuFile);
+  return folders->Expand(MenuKey, menuFile, stored);
 }
 
 void frmQMenu::KeepGenerated(const ExpandedMenu& expanded) {
@@ -74,46 +86,36 @@ void frmQMenu::KeepGenerated(const ExpandedMenu& expanded) {
   menu_->MenuInfo.File = MenuFile;
 }
 
-float frmQMenu::PlaceForRoom() {
+float frmQMenu::RoomForMenu() const {
   const forms::ScreenInfo screen = program_.Windows.Screen();
-  Move(Left(), Top(), screen.Width / 2, screen.Height);
-  PlaceMenu();
+  const ToolbarPort* const strip = program_.Ports.Toolbar;
   return MenuRoom({.Vertical = program_.Strip.ToolbarVertical,
                    .At = program_.Strip.ToolbarEdge,
                    .ScreenHeight = screen.Height,
-                   .MenuTop = Top(),
-                   .StripTop = program_.Ports.Toolbar != nullptr
-                                   ? program_.Ports.Toolbar->WindowBounds().Top
-                                   : screen.Height});
+                   .MenuTop = strip != nullptr ? strip->TopOfMenu() : Top(),
+                   .StripTop = strip != nullptr ? strip->WindowBounds().Top : screen.Height});
 }
 
-void frmQMenu::TakeLayout(const MenuLayout& layout) {
-  Labels = layout.Labels;
-  Slides = layout.Slides;
-  CurMenu = 0;
-  PrevPage = 0;
-  FirstLabel = layout.Pages.front().FirstLabel;
-  LastLabel = layout.Pages.front().LastLabel;
-  Move(Left(), Top(), layout.Width, layout.Height);
-
+void frmQMenu::Fill(BuiltMenu& menu, MenuLayout layout) const {
   for (const MenuPage& page : layout.Pages) {
-    menu_->SlideList.push_back({.FirstLabel = page.FirstLabel, .LastLabel = page.LastLabel});
+    menu.SlideList.push_back({.FirstLabel = page.FirstLabel, .LastLabel = page.LastLabel});
   }
-  clsMenuInfo& info = menu_->MenuInfo;
-  menu_->LabelList.reserve(layout.Items.size());
-  info.CharArray.reserve(layout.Items.size());
-  for (const MenuItem& item : layout.Items) {
-    menu_->LabelList.push_back({.Title = item.Caption, .Tag = item.Tag, .Top = item.Top});
-    info.CharArray.push_back(item.TypeAheadKey);
-  }
-  info.Labels = Labels;
-  info.Slides = Slides;
-  info.Key = MenuKey;
-  info.File = MenuFile;
-  info.Height = layout.Height;
-  info.Width = layout.Width;
-  info.MenuHeight = layout.MenuHeight;
-  info.CurMenu = 0;
+  menu.Items = std::move(layout.Items);
+  menu.MenuInfo = {.Labels = layout.Labels,
+                   .Slides = layout.Slides,
+                   .Key = MenuKey,
+                   .File = MenuFile,
+                   .Height = layout.Height,
+                   .Width = layout.Width,
+                   .MenuHeight = layout.MenuHeight,
+                   .CurMenu = 0};
+}
+
+void frmQMenu::Take(const std::shared_ptr<BuiltMenu>& menu) {
+  menu_ = menu;
+  items_.Show(menu);
+  pages_.Show(menu);
+  Move(Left(), Top(), menu->MenuInfo.Width, menu->MenuInfo.Height);
 }
 
 void frmQMenu::DisplayFirstPage() {

@@ -23,7 +23,7 @@ void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, flo
   if (EqualNoCase(MenuKey, kMainMenuKey)) return;
   const int index = program_.Menu.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled() || HitItem(Page(), y) != index) return;
-  FillCurrentItem(index);
+  SetCurrentEntry(program_.Entry, items_.EntryOf(index));
   if (MayBeCopied(program_, hWnd())) StartCarry(program_);
 }
 
@@ -36,7 +36,7 @@ void frmQMenu::DoItemDrag(ShiftState shift) {
   const int index = program_.Menu.SelectedItem;
   if (EqualNoCase(MenuKey, kMainMenuKey) || index == 0) return;
   const std::string key = MenuKey;
-  const DropPlace place{.File = menu_->Source, .Before = GetRecordNum(index)};
+  const DropPlace place{.File = items_.Source(), .Before = items_[index].Origin.Record};
   // An item without a number is none of the file's.
   if (place.Before == DropPlace::kEnd) return;
   if (IsDropOnItself(program_.Entry, place)) {

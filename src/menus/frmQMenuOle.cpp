@@ -1,14 +1,8 @@
 // What other programs drag over the items of the menu and drop there.
 
-#include <utility>
-
 #include "base/Text.h"
 #include "core/DroppedFiles.h"
-#include "core/DroppedTitle.h"
 #include "core/Program.h"
-#include "forms/Scopes.h"
-#include "launch/FileTitle.h"
-#include "launch/LaunchItem.h"
 #include "menus/frmQMenu.h"
 
 namespace corvelle {
@@ -53,8 +47,7 @@ void frmQMenu::Lbl_OLEDragDrop(int index, DragData& data, DropEffect& effect, Mo
 
 // The program's own menu holds nothing of the user's.
 bool frmQMenu::TakesDrop(const DragData& data) const {
-  return IsOfUse(data) && program_.Guards.TakesDrops() && MenuVisible() &&
-         !EqualNoCase(MenuKey, kMainMenuKey);
+  return MenuVisible() && !EqualNoCase(MenuKey, kMainMenuKey) && MenuDrops::Takes(program_, data);
 }
 
 void frmQMenu::Form_OLEDragOver(DragData& data, DropEffect& effect, MouseButton down,
@@ -80,80 +73,12 @@ void frmQMenu::Form_OLEDragDrop(DragData& data, DropEffect& effect, MouseButton 
     effect = DropEffect::None;
   } else {
     effect = effect & EffectOfDrag(program_.Drag.DragButtons);
-    if (data.Files) {
-      DropFiles(*data.Files);
-    } else {
-      OfferAddress(data, program_.Menu.SelectedItem);
-    }
+    const int item = program_.Menu.SelectedItem;
+    const bool enabled = item != 0 && Lbl[item].Enabled();
+    drops_.Drop(data, {.Item = item, .Enabled = enabled, .File = MenuFile},
+                [this] { CloseMenu(); });
   }
   if (MenuVisible()) Timer1.SetEnabled(true);
-}
-
-void frmQMenu::DropFiles(const std::vector<std::string>& names) {
-  if (names.empty()) return;
-  const int item = program_.Menu.SelectedItem;
-  const bool opens =
-      program_.Drag.DragButtons == MouseButton::Right && item != 0 && Lbl[item].Enabled();
-  if (opens) {
-    OpenDropped(names.front(), item);
-  } else {
-    InsertFiles(names, item);
-  }
-}
-
-void frmQMenu::OpenDropped(const std::string& file, int item) {
-  std::string command = GetExeName(item);
-  // A folder of the shell goes with the title of the entry in it; any other one opens as itself.
-  if (StartsWithNoCase(command, kSpecialFolderStart)) {
-    command += "\\" + NameOf(item);
-  } else {
-    command = Trim(command.substr(0, command.find('*')));
-  }
-  CloseMenu();
-  // An entry without a command has nothing that could open a file.
-  if (!command.empty()) OpenWithItem(program_, file, command);
-}
-
-void frmQMenu::InsertFiles(const std::vector<std::string>& names, int item) {
-  const int position = item != 0 ? GetRecordNum(item) : 0;
-  const std::string key = MenuKey;
-  const std::string file = StoredMenuFile(MenuFile);
-  CapturePort* const capture = program_.Ports.Capture;
-  const bool captures = capture != nullptr && !capture->MenuCaptured();
-  if (captures) capture->CaptureMenu();
-  auto outcome = EditOutcome::NothingToDo;
-  DroppedEntries dropped;
-  {
-    const forms::FlagScope busy(program_.Guards.ItemActionBusy);
-    FileSystem& files = program_.Services.Files;
-    const CodePage& ansi = program_.Services.Ansi;
-    dropped = DroppedRecords(files, ansi, names, [this](std::string_view name) {
-      return Trim(GetFileTitle(program_, name));
-    });
-    outcome = InsertDropped(files, ansi, file, position, dropped.Records);
-    if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
-  }
-  // After a failure the menu shows what the file still holds.
-  if (outcome == EditOutcome::Edited && program_.Ports.Toolbar != nullptr) {
-    program_.Ports.Toolbar->RefreshMenu(key);
-  }
-  if (captures) capture->ReleaseMenu();
-  if (program_.Ports.Toolbar != nullptr) {
-    program_.Ports.Toolbar->TellRefused(std::move(dropped.Refused));
-  }
-}
-
-// The dialog writes the entry before the item under the drop, or at the end of the button's menu.
-void frmQMenu::OfferAddress(const DragData& data, int item) {
-  WebLinkPort* const links = program_.Ports.WebLink;
-  const auto address = DroppedAddress(*data.Text);
-  if (links == nullptr || !address) return;
-  const std::string file = StoredMenuFile(MenuFile);
-  if (item != 0) FillCurrentItem(item);
-  program_.Entry.CurFile = file;
-  const std::string tag = item != 0 ? MenuKey : MenuKey.substr(1);
-  if (program_.Ports.Capture != nullptr) program_.Ports.Capture->CaptureMenu();
-  links->OfferWebLink(*address, TitleOfDrop(program_, data, *address), tag, file);
 }
 
 }  // namespace corvelle

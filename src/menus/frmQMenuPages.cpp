@@ -36,29 +36,27 @@ void frmQMenu::LblButton_MouseUp(int index, MouseButton button, float x, float y
     return;
   }
   picMouseUp(index);
-  if (Slides == 0 || button != MouseButton::Left) return;
+  if (pages_.Slides() == 0 || button != MouseButton::Left) return;
   const forms::Label& arrow = LblButton[index];
   if (x < 0 || y < 0 || x >= arrow.Width() || y >= arrow.Height()) return;
-  const int page = index == 0 ? CurMenu - 1 : CurMenu + 1;
-  if (page < 0 || page > Slides) return;
-  TurnTo(page);
+  const int page = pages_.CurMenu() + (index == 0 ? -1 : 1);
+  if (pages_.Has(page)) TurnTo(page);
 }
 
 void frmQMenu::TurnTo(int page) {
   // A page that is being drawn stays until it is done.
   if (drawingPage_) return;
   DropSelection();
-  PrevPage = CurMenu;
-  CurMenu = page;
+  pages_.TurnTo(page);
   ShowSlide();
-  const int used = page < PrevPage ? 0 : 1;
+  const int used = page < pages_.PrevPage() ? 0 : 1;
   if (!LblButton[used].Enabled()) HideUpDownButton();
-  menu_->MenuInfo.CurMenu = CurMenu;
+  AwaitHeldKeys();
 }
 
 void frmQMenu::GetCurMenu() {
-  if (const std::optional<int> page = ReturnPage(SavedPage, Slides)) TurnTo(*page);
-  for (int i = std::max(FirstLabel, 1); i <= LastLabel; ++i) SetNormal(i);
+  if (const std::optional<int> page = pages_.PageToReturnTo()) TurnTo(*page);
+  for (int i = std::max(pages_.FirstLabel(), 1); i <= pages_.LastLabel(); ++i) SetNormal(i);
   DropSelection();
   rebuilt_ = true;
 }

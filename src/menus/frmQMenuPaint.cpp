@@ -20,18 +20,15 @@ constexpr int kMostRedraws = 3;
 
 }  // namespace
 
-clsMenu& frmQMenu::CurPage() { return menu_->SlideList[static_cast<std::size_t>(CurMenu)]; }
-
 void frmQMenu::FillPage() {
-  while (LoadedLabels() < LastLabel) Lbl.Load();
+  while (LoadedLabels() < pages_.LastLabel()) Lbl.Load();
   pageBoxes_.clear();
-  for (int i = FirstLabel; i <= LastLabel; ++i) {
-    const clsLabel& item = menu_->LabelList[static_cast<std::size_t>(i) - 1];
+  for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) {
+    const MenuItem& item = items_[i];
     forms::Label& label = Lbl[i];
     label.SetLeft(Lbl[0].Left());
     label.SetTop(item.Top);
-    label.SetCaption(item.Title);
-    label.Tag = item.Tag;
+    label.SetCaption(DoubleAmpersands(item.Title));
     label.SetEnabled(true);
     label.SetForeColor(forms::color::ButtonText);
     pageBoxes_.push_back(BoxOf(i));
@@ -39,18 +36,16 @@ void frmQMenu::FillPage() {
 }
 
 void frmQMenu::ShowPage() {
-  for (int i = FirstLabel; i <= LastLabel; ++i) Lbl[i].SetVisible(true);
+  for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) Lbl[i].SetVisible(true);
 }
 
 void frmQMenu::ShowSlide() {
-  SavedPage = CurMenu;
+  pages_.Save();
   HideBox();
-  const clsMenu& old = menu_->SlideList[static_cast<std::size_t>(PrevPage)];
-  for (int i = old.FirstLabel; i <= old.LastLabel; ++i) Lbl[i].SetVisible(false);
+  const int old = pages_.PrevPage();
+  for (int i = pages_.FirstOf(old); i <= pages_.LastOf(old); ++i) Lbl[i].SetVisible(false);
   UpDownArrows();
-  const clsMenu& page = CurPage();
-  FirstLabel = page.FirstLabel;
-  LastLabel = page.LastLabel;
+  const clsMenu& page = pages_.Current();
   if (page.Init == 0) {
     DrawPage(true);
   } else {
@@ -59,7 +54,7 @@ void frmQMenu::ShowSlide() {
     ShowPage();
     InvalidateAll();
   }
-  LimitPictures(*menu_, CurMenu, kKeptPictures);
+  LimitPictures(*menu_, pages_.CurMenu(), kKeptPictures);
   if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
 }
 
@@ -88,7 +83,7 @@ void frmQMenu::DrawPageOnce(bool watched) {
     BringUp();
     Refresh();
   }
-  for (int i = FirstLabel; i <= LastLabel; ++i) {
+  for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) {
     DrawItemIcon(i);
     if (!IsLoaded()) return;
     if (watched) Refresh();
@@ -98,30 +93,29 @@ void frmQMenu::DrawPageOnce(bool watched) {
   KeepPage();
   Cls();
   SetAutoRedraw(false);
-  PagePicture = CurPage().MenuPicture;
+  PagePicture = pages_.Current().MenuPicture;
   MenuReady = true;
   InvalidateAll();
 }
 
 void frmQMenu::PrintCaptions() {
-  for (int i = FirstLabel; i <= LastLabel; ++i) {
-    Print(Lbl[i].Left(), Lbl[i].Top(), SingleAmpersands(Lbl[i].Caption()),
-          forms::color::ButtonText);
+  for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) {
+    Print(Lbl[i].Left(), Lbl[i].Top(), items_[i].Title, forms::color::ButtonText);
   }
 }
 
 void frmQMenu::WipeCaptions() {
-  for (int i = FirstLabel; i <= LastLabel; ++i) {
+  for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) {
     FillBox(Lbl[i].Left(), Lbl[i].Top(), Width(), Lbl[i].Bottom(), forms::color::ButtonFace);
   }
 }
 
 void frmQMenu::KeepPage() {
-  if (Slides > 0) {
+  if (pages_.Slides() > 0) {
     FillBox(0, LblButton[0].Top(), program_.Windows.Screen().Width, Height(),
             forms::color::ButtonFace);
   }
-  clsMenu& page = CurPage();
+  clsMenu& page = pages_.Current();
   page.MenuPicture = Image();
   page.Init = 1;
 }
@@ -129,7 +123,7 @@ void frmQMenu::KeepPage() {
 void frmQMenu::DrawItemIcon(int index) {
   const PixelPoint at = forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH),
                                         program_.Windows.Screen());
-  const std::string icon = GetIconName(index);
+  const std::string icon = items_[index].Icon;
   // No canvas is lent while the shell is asked.
   icons_.LoadSmallIcon(icon);
   DrawPixels(RectAt(at, {MenuIcons::kCell, MenuIcons::kCell}),
@@ -149,14 +143,13 @@ void frmQMenu::DrawRules() {
 
 void frmQMenu::Form_Paint() {
   if (!MenuReady) return;
-  if (LastLabel > 0 && Lbl[FirstLabel].Visible()) {
+  if (pages_.LastLabel() > 0 && Lbl[pages_.FirstLabel()].Visible()) {
     PaintPicture(PagePicture, 0, 0, Lbl[0].Left(), Height());
   } else {
     PaintPicture(PagePicture, 0, 0);
   }
   // No rest of the bar that was there may stay. Only an item of this page had its bar here.
-  if (PrevItem >= FirstLabel && PrevItem <= LastLabel && PrevItem > 0 &&
-      PrevItem != program_.Menu.SelectedItem) {
+  if (pages_.IsUp(PrevItem) && PrevItem != program_.Menu.SelectedItem) {
     const float top = DrawBoxRule(BoxOf(PrevItem), ItemGap, Shape1.Height(), TwipsX, TwipsY).BarTop;
     FillBox(19 * TwipsX, top, Shape1.Width(), top + Shape1.Height() - TwipsY,
             forms::color::ButtonFace);
@@ -165,13 +158,13 @@ void frmQMenu::Form_Paint() {
 }
 
 void frmQMenu::UpDownArrows() {
-  if (Slides == 0) return;
+  if (pages_.Slides() == 0) return;
   const ArrowLayout arrows = LayOutArrows({.WindowWidth = Width(),
                                            .MenuHeight = menu_->MenuInfo.MenuHeight,
                                            .TwipsX = TwipsX,
                                            .TwipsY = TwipsY,
-                                           .CurMenu = CurMenu,
-                                           .Slides = Slides});
+                                           .CurMenu = pages_.CurMenu(),
+                                           .Slides = pages_.Slides()});
   Line1.SetPoints(0, arrows.RuleY, Width(), arrows.RuleY);
   Line2.SetPoints(0, arrows.LightRuleY, Width(), arrows.LightRuleY);
   Line1.SetVisible(true);
@@ -208,7 +201,7 @@ void frmQMenu::ColoursChanged() {
   icons_.ResetPicIcons();
   cache_.DropPictures();
   coloursChanged_ = true;
-  if (!MenuReady || Labels == 0) return;
+  if (!MenuReady || items_.Count() == 0) return;
   UpDownArrows();
   const int selected = program_.Menu.SelectedItem;
   DrawPage(false);

@@ -123,11 +123,10 @@ void frmQMenu::ChooseItem(float x, float y) {
     DropSelection();
     return;
   }
-  const std::string title = NameOf(hit);
+  const std::string title = items_.NameOf(hit);
   const bool mainMenu = EqualNoCase(MenuKey, kMainMenuKey);
   // The program's own menu acts by its captions.
-  const std::string command =
-      mainMenu ? Trim(SingleAmpersands(Lbl[hit].Caption())) : GetExeName(hit);
+  const std::string command = mainMenu ? items_[hit].Title : GetExeName(hit);
   DropSelection();
   // The menu is gone before the item starts, and nothing comes between the two.
   CloseMenu();
@@ -167,14 +166,19 @@ void frmQMenu::OfferItem(ShiftState shift) {
     OfferShellMenu(index);
     return;
   }
-  if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup(EntryOf(index));
+  if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup(CurrentEntry(index));
+}
+
+EntryEdit frmQMenu::CurrentEntry(int index) {
+  program_.Menu.ItemHasSeparator = items_[index].AfterSeparator;
+  return items_.EntryOf(index);
 }
 
 void frmQMenu::OfferShellMenu(int index) {
-  FillCurrentItem(index);
+  SetCurrentEntry(program_.Entry, CurrentEntry(index));
   // The item may be another one by the time the menu of the shell is gone, and so may the window.
   const std::string command = GetExeName(index);
-  const std::string title = NameOf(index);
+  const std::string title = items_.NameOf(index);
   const std::string key = MenuKey;
   const auto watch = MakeWatch();
   const auto runs = [&] {
@@ -217,7 +221,7 @@ void frmQMenu::Timer1_Timer() {
     CurItem = 0;
   }
   if (over) FollowPointer();
-  if (Slides > 0 && !over) {
+  if (pages_.Slides() > 0 && !over) {
     HideUpDownButton();
     ActiveArrow = kNoArrow;
   }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "base/Wildcard.h"
 #include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "menus/GeneratedMenu.h"
@@ -16,18 +17,17 @@ namespace {
 
 constexpr std::string_view kAllNames = "*";
 
-/// The folder itself, and with the option S each folder directly below it by its name. None of
-/// those is looked into any deeper, so that a folder that holds itself does no harm.
-std::vector<std::string> FoldersOf(FileSystem& files, const FolderItem& item) {
-  std::vector<std::string> folders{item.Folder};
-  if (!item.SubFolders) return folders;
-  const auto listed = files.List(item.Folder, kAllNames);
-  if (!listed) return folders;
+/// The folders directly below, by their names. None of them is looked into any deeper, so that a
+/// folder that holds itself does no harm.
+std::vector<std::string> FoldersBelow(const FolderItem& item,
+                                      const std::vector<FileEntry>& listed) {
   std::vector<std::pair<std::string, std::string>> below;
-  for (const FileEntry& entry : *listed) {
+  for (const FileEntry& entry : listed) {
     if (IsShownFolder(entry)) below.emplace_back(UpperCase(entry.Name), entry.Name);
   }
   std::sort(below.begin(), below.end());
+  std::vector<std::string> folders;
+  folders.reserve(below.size());
   for (const auto& [key, name] : below) folders.push_back(item.Folder + name + "\\");
   return folders;
 }
@@ -48,25 +48,30 @@ std::string TitleOf(Program& program, const FolderItem& item, const std::string&
 
 }  // namespace
 
-void ScanFolder(FileSystem& files, const FolderItem& item, std::size_t folder, FoundFiles& found) {
-  auto listed = files.List(found.Folders[folder], item.Mask);
-  if (!listed) return;
-  for (FileEntry& entry : *listed) {
-    if (!IsShownFile(entry)) continue;
-    std::string key = SortKeyOf(entry.Name, item);
-    found.Files.push_back({folder, std::move(entry.Name), std::move(key)});
+void ScanFolder(const std::vector<FileEntry>& listed, const FolderItem& item, std::string folder,
+                FoundFiles& found) {
+  const std::size_t index = found.Folders.size();
+  const std::size_t before = found.Files.size();
+  found.Folders.push_back(std::move(folder));
+  for (const FileEntry& entry : listed) {
+    if (!IsShownFile(entry) || !FitsPattern(entry.Name, item.Mask)) continue;
+    found.Files.push_back({index, entry.Name, SortKeyOf(entry.Name, item)});
   }
+  if (!item.Merged) Sort(found.Files, before);
 }
 
 FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item) {
   FoundFiles found;
   // Without a folder there is nothing that the mask could be meant for.
   if (item.Folder.empty()) return found;
-  found.Folders = FoldersOf(files, item);
-  for (std::size_t folder = 0; folder < found.Folders.size(); ++folder) {
-    const std::size_t before = found.Files.size();
-    ScanFolder(files, item, folder, found);
-    if (!item.Merged) Sort(found.Files, before);
+  // A folder that cannot be listed has no files.
+  const auto root = files.List(item.Folder, item.SubFolders ? kAllNames : item.Mask).ValueOr({});
+  ScanFolder(root, item, item.Folder, found);
+  if (item.SubFolders) {
+    for (std::string& folder : FoldersBelow(item, root)) {
+      const auto listed = files.List(folder, item.Mask).ValueOr({});
+      ScanFolder(listed, item, std::move(folder), found);
+    }
   }
   if (item.Merged) Sort(found.Files, 0);
   return found;

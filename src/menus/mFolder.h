@@ -31,11 +31,13 @@ struct FoundFiles {
   }
 };
 
-/// Adds the files of folder `folder` (an index) that fit the item's mask. A folder that cannot be
-/// listed adds none.
-void ScanFolder(FileSystem& files, const FolderItem& item, std::size_t folder, FoundFiles& found);
+/// Adds a folder (with its trailing backslash) and the files of its listing that fit the item's
+/// mask, sorted unless all folders become one list.
+void ScanFolder(const std::vector<FileEntry>& listed, const FolderItem& item, std::string folder,
+                FoundFiles& found);
 
-/// All files of a folder item, sorted: folder by folder, or as one list.
+/// All files of a folder item, sorted: folder by folder, or as one list. Each folder is listed
+/// once.
 [[nodiscard]] FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item);
 
 /// Adds the entries of the folder item at record `record` of the source, behind the records before

@@ -181,7 +181,10 @@ FileResult<std::vector<FileEntry>> Win32Files::List(std::string_view folder,
                                          FIND_FIRST_EX_LARGE_FETCH));
   std::vector<FileEntry> entries;
   if (!find) {
-    const FileError error = LastFileError();
+    const DWORD code = GetLastError();
+    const FileError error = FileErrorOf(code);
+    // A part of the path is missing, or its server: to ask once more would be to wait once more.
+    if (code != ERROR_FILE_NOT_FOUND) return error;
     const DWORD attributes = AttributesOf(*wide);
     if (attributes == INVALID_FILE_ATTRIBUTES) return error;
     if (!IsFolder(attributes)) return FileError::NotFound;

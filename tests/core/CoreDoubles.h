@@ -35,6 +35,7 @@ class LoggingToolbar final : public ToolbarPort {
   void OpenMenu(std::string_view tag) override { Note("OpenMenu ", tag); }
   void RemoveQMenu(std::string_view tag) override { Note("RemoveQMenu ", tag); }
   void SetMenuPosition() override {}
+  float TopOfMenu() const override { return 0; }
   void ActivateKeyDown(int) override {}
   void InitNewButtons() override { log_.push_back("InitNewButtons"); }
   void DoToolbarButtons() override { log_.push_back("DoToolbarButtons"); }

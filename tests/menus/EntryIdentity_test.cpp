@@ -179,7 +179,7 @@ TEST_P(LongNames, OfEntriesOfTheShellStartTheRightOne) {
     const std::string stem = TextOf(script.Character, script.Stored, length);
     const std::vector<std::string> names = {stem, stem + "~1", stem + "~2 and more"};
     OpenWith({{names[0], 4}, {names[1], 5}, {names[2], 6}});
-    ASSERT_EQ(desk_.Menu.Labels, 3);
+    ASSERT_EQ(desk_.Menu.Items().Count(), 3);
     for (int item = 1; item <= 3; ++item) {
       const std::string& name = names[static_cast<std::size_t>(item) - 1];
       desk_.Menu.HideMenu();

@@ -29,12 +29,12 @@ class FolderDesk : public MenuDesk {
 
   Strings Captions() {
     Strings captions;
-    for (int i = 1; i <= Menu.Labels; ++i) captions.push_back(Menu.Lbl[i].Caption());
+    for (int i = 1; i <= Menu.Items().Count(); ++i) captions.push_back(Menu.Lbl[i].Caption());
     return captions;
   }
   std::vector<int> Numbers() {
     std::vector<int> numbers;
-    for (int i = 1; i <= Menu.Labels; ++i) numbers.push_back(Menu.GetRecordNum(i));
+    for (int i = 1; i <= Menu.Items().Count(); ++i) numbers.push_back(Menu.GetRecordNum(i));
     return numbers;
   }
   /// Opens a menu of these commands, each with the title "Item" and its place.

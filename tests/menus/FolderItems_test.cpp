@@ -1,5 +1,4 @@
 #include "menus/FolderDesk.h"
-#include "menus/MenuTag.h"
 
 namespace corvelle {
 namespace {
@@ -261,7 +260,7 @@ TEST_F(SubFolderItems, EachFolderIsSetOffByARuleAndAnEmptyOneIsNot) {
   EXPECT_EQ(desk_.Captions(), (Strings{"root.txt", "three.txt", "one.txt", "two.txt"}));
   const forms::Label& root = desk_.Menu.Lbl[1];
   EXPECT_GT(desk_.Menu.Lbl[2].Top() - root.Bottom(), desk_.Menu.ItemGap);
-  EXPECT_EQ(TagFollowsSeparator(desk_.Menu.Lbl[2].Tag), true);
+  EXPECT_EQ(desk_.Menu.Items()[2].AfterSeparator, true);
 }
 
 TEST_F(SubFolderItems, WithoutFilesOfItsOwnAFolderBeginsWithNoRule) {
@@ -333,6 +332,23 @@ TEST(FolderItems, AnEditGoesToTheMenuFileItself) {
   EXPECT_EQ(popup.Seen.CurFile, "C:\\Corvelle\\Menus\\BMENU001.MNU");
   EXPECT_EQ(popup.Seen.CurRecord, 3);
   EXPECT_EQ(popup.Seen.CurTitle, "Item 3");
+}
+
+TEST(FolderItems, WithTheFoldersBelowEachFolderIsListedOnce) {
+  FolderDesk desk;
+  desk.World.Files.Put("C:\\Docs\\inner\\deep.txt", "x");
+  desk.World.Files.Put("C:\\Docs\\inner\\deep.doc", "x");
+  desk.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.txt/S")});
+  desk.World.Files.ClearLog();
+  desk.Reopen(1);
+  EXPECT_EQ(desk.Captions(), (Strings{"Alpha.txt", "beta.txt", "deep.txt"}));
+  EXPECT_EQ(desk.World.Files.Count("List"), 2);
+  desk.World.Files.Vanish("C:\\Docs");
+  desk.Menu.HideMenu();
+  desk.Menu.ForgetMenu("F2");
+  desk.World.Files.ClearLog();
+  desk.Reopen(1);
+  EXPECT_EQ(desk.World.Files.Count("List"), 1);
 }
 
 }  // namespace

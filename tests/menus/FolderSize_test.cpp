@@ -30,10 +30,12 @@ class TenThousandFiles : public ::testing::Test {
     desk_.World.Icons.ClearCounts();
   }
   [[nodiscard]] int DiskCalls() const { return static_cast<int>(desk_.World.Files.Log().size()); }
-  [[nodiscard]] int ItemsOfPage() const { return desk_.Menu.LastLabel - desk_.Menu.FirstLabel + 1; }
+  [[nodiscard]] int ItemsOfPage() const {
+    return desk_.Menu.Pages().LastLabel() - desk_.Menu.Pages().FirstLabel() + 1;
+  }
   /// True if the page on show has the files from its first item's place in the sorted list on.
   [[nodiscard]] bool PageIsRight() const {
-    for (int i = desk_.Menu.FirstLabel; i <= desk_.Menu.LastLabel; ++i) {
+    for (int i = desk_.Menu.Pages().FirstLabel(); i <= desk_.Menu.Pages().LastLabel(); ++i) {
       const forms::Label& label = desk_.Menu.Lbl[i];
       if (label.Caption() != sorted_[static_cast<std::size_t>(i) - 1] || !label.Visible())
         return false;
@@ -45,18 +47,18 @@ class TenThousandFiles : public ::testing::Test {
   void TurnAndSearch() {
     sim::SimDesktop& desktop = desk_.World.Desktop;
     ClearCounts();
-    const int last = desk_.Menu.Slides;
+    const int last = desk_.Menu.Pages().Slides();
     EXPECT_EQ(last, (kFiles + ItemsOfPage() - 1) / ItemsOfPage() - 1);
     for (int page = 1; page <= 3; ++page) {
       desktop.PressKey(forms::key::PageDown);
-      EXPECT_EQ(desk_.Menu.CurMenu, page);
+      EXPECT_EQ(desk_.Menu.Pages().CurMenu(), page);
       EXPECT_TRUE(PageIsRight()) << page;
     }
     desktop.PressKey(forms::key::End);
-    EXPECT_EQ(desk_.Menu.LastLabel, kFiles);
+    EXPECT_EQ(desk_.Menu.Pages().LastLabel(), kFiles);
     EXPECT_TRUE(PageIsRight());
     desktop.PressKey(forms::key::Home);
-    EXPECT_EQ(desk_.Menu.FirstLabel, 1);
+    EXPECT_EQ(desk_.Menu.Pages().FirstLabel(), 1);
     EXPECT_TRUE(PageIsRight());
     // Each letter has two thousand names; the first key goes to the first of them, the next one on.
     int wanted = 2 * kFiles / 5 + 1;
@@ -83,7 +85,7 @@ TEST_F(TenThousandFiles, OpenByOneListingTurnTheirPagesAndAreFoundByTheirLetters
   desk_.PutMenu(1, {Item("Many", "", "C:\\Many\\*.*")});
   ClearCounts();
   desk_.Reopen(1);
-  ASSERT_EQ(desk_.Menu.Labels, kFiles);
+  ASSERT_EQ(desk_.Menu.Items().Count(), kFiles);
   EXPECT_EQ(desk_.World.Files.Count("List"), 1);
   EXPECT_EQ(desk_.World.Files.Count("Write"), 1);
   // The menu file, and once more what was made of it.
@@ -106,13 +108,13 @@ TEST_F(TenThousandFiles, OpenAgainWithoutAQuestionUnlessTheyAreToBeCompared) {
   EXPECT_EQ(DiskCalls(), 1);
   EXPECT_EQ(desk_.World.Files.Count("List"), 1);
   EXPECT_EQ(desk_.World.Icons.Lookups(), 0);
-  EXPECT_EQ(desk_.Menu.Labels, kFiles);
+  EXPECT_EQ(desk_.Menu.Items().Count(), kFiles);
   EXPECT_TRUE(PageIsRight());
   // One that is new is found by one more listing.
   desk_.World.Files.Put("C:\\Many\\new.txt", "x");
   ClearCounts();
   desk_.OpenAgain(2);
-  EXPECT_EQ(desk_.Menu.Labels, kFiles + 1);
+  EXPECT_EQ(desk_.Menu.Items().Count(), kFiles + 1);
   EXPECT_EQ(desk_.World.Files.Count("List"), 1);
   EXPECT_EQ(static_cast<int>(desk_.World.Icons.Asked(IconList::Large).size()), kFiles + 1);
   EXPECT_LE(DiskCalls(), 8);

@@ -13,7 +13,7 @@ using namespace std::string_literals;
 const Windows1252 kAnsi;
 
 std::vector<MenuRecord> InTheFile(const GeneratedMenu& menu) {
-  return ParseRecords(GeneratedBytes(menu.Records(), menu.Origins(), kAnsi), kAnsi);
+  return ParseRecords(GeneratedBytes(menu.Items(), menu.Source(), kAnsi), kAnsi);
 }
 
 TEST(GeneratedMenu, EndsWhereRecordNumbersEnd) {
@@ -26,14 +26,14 @@ TEST(GeneratedMenu, EndsWhereRecordNumbersEnd) {
   menu.AddRule();
   menu.CopySource(menu.SourceCount());
   EXPECT_EQ(menu.Count(), kMaxRecords);
-  EXPECT_EQ(GeneratedBytes(menu.Records(), menu.Origins(), kAnsi).size(),
+  EXPECT_EQ(GeneratedBytes(menu.Items(), menu.Source(), kAnsi).size(),
             static_cast<std::size_t>(kMaxRecords) * kRecordLength);
 }
 
 TEST(GeneratedMenu, TakesADamagedTitleAsWhatIsShownOfIt) {
   GeneratedMenu menu({{"Button", "", ""}, {std::string("a\0b", 3), "i", "c"}}, kAnsi);
   menu.CopySource(2);
-  EXPECT_EQ(menu.Records()[1], (MenuRecord{"a", "i", "c"}));
+  EXPECT_EQ(menu.Items()[1], ItemOf({"a", "i", "c"}, 2));
   EXPECT_EQ(InTheFile(menu)[1], (MenuRecord{"a\0002"s, "i", "c"}));
 }
 
@@ -42,9 +42,18 @@ TEST(GeneratedMenu, ShowsATitleAsItsFieldHoldsItAndKeepsTheNameWhole) {
   GeneratedMenu menu({{"Button", "", ""}}, kAnsi);
   menu.CopySource(1);
   menu.AddEntry(2, {name, "3", "CSIDL_DRIVES"}, name);
-  EXPECT_EQ(menu.Records()[1].FTitle, std::string(49, 'n'));
-  EXPECT_EQ(menu.Origins(), (std::vector<EntryOrigin>{{1, ""}, {5002, name}}));
+  EXPECT_EQ(menu.Items()[1].Title, std::string(49, 'n'));
+  EXPECT_EQ(menu.Items()[0].Origin, (EntryOrigin{1, ""}));
+  EXPECT_EQ(menu.Items()[1].Origin, (EntryOrigin{5002, name}));
   EXPECT_EQ(InTheFile(menu)[1].FTitle, std::string(45, 'n') + "\0005002"s);
+}
+
+TEST(GeneratedMenu, TheFileKeepsWhatFollowsANulInAnIconOfTheSource) {
+  const std::string marked = "i\0/h"s;
+  GeneratedMenu menu({{"Button", "", ""}, {"a", marked, "c"}}, kAnsi);
+  menu.CopySource(2);
+  EXPECT_EQ(menu.Items()[1].Icon, "i");
+  EXPECT_EQ(InTheFile(menu)[1].FIcon, marked);
 }
 
 TEST(GeneratedMenu, TheFileLeavesOutACommandThatItsFieldWouldCut) {

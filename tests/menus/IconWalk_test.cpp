@@ -22,6 +22,12 @@ class Fetched : public ::testing::Test {
     desk_.World.Files.ClearLog();
     desk_.Menu.InitIcons();
   }
+  /// F5, with what the strip does then.
+  void Refresh() {
+    desk_.Menu.RefreshQMenu();
+    desk_.Menu.ForgetMenu("F2");
+    desk_.OpenAgain();
+  }
   const Strings& Small() { return desk_.World.Icons.Asked(IconList::Small); }
   Strings Large() { return desk_.World.Icons.Asked(IconList::Large); }
   /// How often the shell was asked for the small icon of a path, case apart.
@@ -186,22 +192,48 @@ TEST_F(Fetched, F5FetchesTheIconsOfTheOpenMenuOnly) {
   desk_.PutMenu(2, {Item("Other", "C:\\Tools\\tool.exe")});
   desk_.OpenCommands({"C:\\Docs\\*.txt"});
   desk_.World.Icons.ClearCounts();
-  desk_.Menu.RefreshQMenu();
+  Refresh();
   EXPECT_EQ(Times("C:\\Docs\\Alpha.txt"), 1);
   EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 0);
   EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading);
 }
 
-TEST_F(Fetched, TheProgramsOwnMenuIsWrittenAnewBeforeItsIconsAre) {
-  const std::string file = "C:\\Corvelle\\mainmenu.dat";
-  for (const std::string& name : {file, std::string("c:\\corvelle\\MAINMENU.DAT")}) {
-    desk_.World.Files.Put(file, "old");
-    desk_.Menu.InitMenuIcons(name);
-    EXPECT_EQ(desk_.World.Files.Get(file).value_or("").size(), 16 * kRecordLength) << name;
+TEST_F(Fetched, ARefreshAsksForTheIconsOfThePageOnShowOnly) {
+  std::vector<MenuRecord> items;
+  for (int i = 1; i <= 100; ++i) {
+    const std::string file = "C:\\Tools\\" + std::to_string(i) + ".exe";
+    desk_.World.Files.Put(file, "x");
+    items.push_back(Item("Item", file));
   }
-  desk_.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", "old");
-  desk_.Menu.InitMenuIcons("C:\\Corvelle\\Menus\\BMENU001.MNU");
-  EXPECT_EQ(desk_.World.Files.Get("C:\\Corvelle\\Menus\\BMENU001.MNU"), "old");
+  desk_.Open(1, items);
+  ASSERT_EQ(desk_.Menu.Pages().LastLabel(), 34);
+  desk_.World.Icons.ClearCounts();
+  Refresh();
+  EXPECT_EQ(Small().size(), 34U);
+  EXPECT_EQ(Times("C:\\Tools\\34.exe"), 1);
+}
+
+TEST_F(Fetched, ARefreshReadsTheMenuFileOnceAndTheGeneratedOneNever) {
+  desk_.OpenCommands({"C:\\Docs\\*.*"});
+  desk_.World.Files.ClearLog();
+  desk_.Menu.RefreshQMenu();
+  EXPECT_EQ(desk_.World.Files.Count("Read"), 0);
+  EXPECT_EQ(desk_.Strip.Times("RefreshMenu F2"), 1);
+}
+
+TEST_F(Fetched, TheProgramsOwnMenuIsWrittenBeforeItIsBuilt) {
+  const std::string file = "C:\\Corvelle\\mainmenu.dat";
+  desk_.World.Files.Put(file, "old");
+  desk_.Menu.SetOwnerTag("1");
+  desk_.Menu.ShowMenu("Q1", file);
+  EXPECT_EQ(desk_.World.Files.Get(file).value_or("").size(), 16 * kRecordLength);
+  EXPECT_EQ(desk_.Menu.Items().Count(), 11);
+  // A menu that is built needs no file.
+  desk_.World.Files.Vanish(file);
+  desk_.Menu.HideMenu();
+  desk_.Menu.ShowMenu("Q1", file);
+  EXPECT_EQ(desk_.Menu.Items().Count(), 11);
+  EXPECT_FALSE(desk_.World.Files.Has(file));
 }
 
 TEST_F(Fetched, AllIconsOfMenusAndLinksAreThereBeforehand) {

@@ -161,7 +161,6 @@ TEST_F(MainMenuTest, MarksFollowTheOptionsAtEachOpening) {
   for (const int label : kMarkedLabels) {
     EXPECT_FALSE(Marked(label)) << label;
     EXPECT_EQ(Ink(label), 0) << label;
-    EXPECT_EQ(desk.Menu.Lbl[label].Tag, std::string(1, '\0'));
   }
   program.OptionFlags.Set(Option::LargeIcons, true);
   program.Strip.AutoHide = true;
@@ -171,7 +170,6 @@ TEST_F(MainMenuTest, MarksFollowTheOptionsAtEachOpening) {
   for (const int label : kMarkedLabels) {
     EXPECT_TRUE(Marked(label)) << label;
     EXPECT_GT(Ink(label), 20) << label;
-    EXPECT_EQ(desk.Menu.Lbl[label].Tag, std::string("\0xCircle\0", 9));
   }
   program.OptionFlags.Set(Option::LargeIcons, false);
   desk.Menu.HideMenu();

@@ -113,7 +113,7 @@ PixelPoint MenuDesk::IconCell(int index) const {
 
 int MenuDesk::BarredItem() const {
   if (!Menu.Shape1.Visible()) return 0;
-  for (int i = Menu.FirstLabel; i <= Menu.LastLabel; ++i) {
+  for (int i = Menu.Pages().FirstLabel(); i <= Menu.Pages().LastLabel(); ++i) {
     const forms::Label& label = Menu.Lbl[i];
     const float top = label.Top() - Menu.ItemGap + 4 * Menu.TwipsY;
     if (std::abs(Menu.Shape1.Top() - top) < 1) return i;

@@ -60,7 +60,11 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void TellRefused(std::vector<std::string> files) override {
     for (std::string& file : files) Refused.push_back(std::move(file));
   }
-  void SetMenuPosition() override { menu_.MoveMenu(MenuLeft, MenuTop); }
+  void SetMenuPosition() override {
+    Asked.emplace_back("SetMenuPosition");
+    menu_.MoveMenu(MenuLeft, MenuTop);
+  }
+  float TopOfMenu() const override { return MenuTop; }
   void ActivateKeyDown(int keyCode) override {
     Asked.push_back("ActivateKeyDown " + std::to_string(keyCode));
   }

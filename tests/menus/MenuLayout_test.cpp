@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "menus/MenuTag.h"
-
 namespace corvelle {
 namespace {
 
@@ -90,7 +88,7 @@ TEST(MenuRoom, IsWhatTheStripLeaves) {
 
 TEST(InitQMenu, PlacesItemsOneBelowTheOther) {
   const auto records = File("iii");
-  const MenuLayout menu = LayOutMenu({.Records = records});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
   EXPECT_EQ(Tops(menu), (std::vector<float>{90, 390, 690}));
   EXPECT_EQ(menu.Labels, 3);
   EXPECT_EQ(menu.Slides, 0);
@@ -103,7 +101,7 @@ TEST(InitQMenu, PlacesItemsOneBelowTheOther) {
 
 TEST(InitQMenu, WithLargeSystemFonts) {
   const auto records = File("isii");
-  const MenuLayout menu = LayOutMenu({.Records = records,
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records),
                                       .TwipsX = 12,
                                       .TwipsY = 12,
                                       .LineHeight = 192,
@@ -116,51 +114,60 @@ TEST(InitQMenu, WithLargeSystemFonts) {
 
 TEST(InitQMenu, TheHeaderIsNoItem) {
   std::vector<MenuRecord> records{kSeparator, Titled("First")};
-  const MenuLayout menu = LayOutMenu({.Records = records});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
   ASSERT_EQ(menu.Labels, 1);
-  EXPECT_EQ(menu.Items[0].Caption, "First");
-  EXPECT_FALSE(TagFollowsSeparator(menu.Items[0].Tag));
+  EXPECT_EQ(menu.Items[0].Title, "First");
+  EXPECT_FALSE(menu.Items[0].AfterSeparator);
 }
 
-TEST(InitQMenu, TagsCarryCommandIconAndPlaceInTheFile) {
+TEST(InitQMenu, ItemsCarryCommandIconAndPlaceInTheFile) {
   const auto records = File("isi");
-  const MenuLayout menu = LayOutMenu({.Records = records});
-  EXPECT_EQ(menu.Items[0].Tag, "nrun.exe\0icon.ico\0002"s);
-  EXPECT_EQ(menu.Items[1].Tag, "srun.exe\0icon.ico\0004"s);
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
+  const MenuItem expected{.Title = "Titled",
+                          .Icon = "icon.ico",
+                          .Command = "run.exe",
+                          .Origin = {4, ""},
+                          .AfterSeparator = true,
+                          .Top = menu.Items[1].Top};
+  EXPECT_EQ(menu.Items[1], expected);
+  EXPECT_FALSE(menu.Items[0].AfterSeparator);
+  EXPECT_EQ(menu.Items[0].Origin.Record, 2);
 }
 
 TEST(InitQMenu, WhatAnEntryStandsForIsTakenFromItsOrigin) {
-  const std::vector<MenuRecord> records{kHeader, Titled("Notes.txt"), Titled("A & B"),
-                                        Titled("Plain")};
-  const std::vector<EntryOrigin> origins{{1, ""}, {5007, "Notes.txt and more"}, {12, ""}};
-  const MenuLayout menu = LayOutMenu({.Records = records, .Origins = origins});
+  std::vector<MenuItem> items =
+      ItemsOf({kHeader, Titled("Notes.txt"), Titled("A & B"), Titled("Plain")});
+  items[1].Origin = {5007, "Notes.txt and more"};
+  items[2].Origin = {12, ""};
+  const MenuLayout menu = LayOutMenu({.Items = items});
   ASSERT_EQ(menu.Labels, 3);
-  EXPECT_EQ(menu.Items[0].Caption, "Notes.txt");
-  EXPECT_EQ(TagRecordNumber(menu.Items[0].Tag), 5007);
-  EXPECT_EQ(TagName(menu.Items[0].Tag), "Notes.txt and more");
-  EXPECT_EQ(menu.Items[1].Caption, "A && B");
-  EXPECT_EQ(TagRecordNumber(menu.Items[1].Tag), 12);
-  EXPECT_EQ(TagName(menu.Items[1].Tag), "");
-  EXPECT_EQ(menu.Items[2].Caption, "Plain");
-  EXPECT_EQ(TagRecordNumber(menu.Items[2].Tag), 4);
+  EXPECT_EQ(menu.Items[0].Title, "Notes.txt");
+  EXPECT_EQ(menu.Items[0].Origin.Record, 5007);
+  EXPECT_EQ(menu.Items[0].Origin.Name, "Notes.txt and more");
+  EXPECT_EQ(menu.Items[1].Title, "A & B");
+  EXPECT_EQ(menu.Items[1].Origin.Record, 12);
+  EXPECT_EQ(menu.Items[1].Origin.Name, "");
+  EXPECT_EQ(menu.Items[2].Title, "Plain");
+  EXPECT_EQ(menu.Items[2].Origin.Record, 4);
 }
 
 TEST(InitQMenu, ElsewhereANulInATitleIsADamagedRest) {
   const std::vector<MenuRecord> records{kHeader, Titled("Notes.txt\0005007"s)};
-  const MenuLayout menu = LayOutMenu({.Records = records});
-  EXPECT_EQ(menu.Items[0].Caption, "Notes.txt");
-  EXPECT_EQ(TagRecordNumber(menu.Items[0].Tag), 2);
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
+  EXPECT_EQ(menu.Items[0].Title, "Notes.txt");
+  EXPECT_EQ(menu.Items[0].Origin.Record, 2);
 }
 
 TEST(InitQMenu, AnAmpersandIsShownAndMeasuredAsItIs) {
   const std::vector<MenuRecord> records{kHeader, Titled("Tom & Jerry"), Titled("R&&D")};
   std::vector<std::string> measured;
-  const MenuLayout menu = LayOutMenu({.Records = records, .TextWidth = [&](std::string_view text) {
-                                        measured.emplace_back(text);
-                                        return 1.0F;
-                                      }});
-  EXPECT_EQ(menu.Items[0].Caption, "Tom && Jerry");
-  EXPECT_EQ(menu.Items[1].Caption, "R&&&&D");
+  const MenuLayout menu =
+      LayOutMenu({.Items = ItemsOf(records), .TextWidth = [&](std::string_view text) {
+                    measured.emplace_back(text);
+                    return 1.0F;
+                  }});
+  EXPECT_EQ(menu.Items[0].Title, "Tom & Jerry");
+  EXPECT_EQ(menu.Items[1].Title, "R&&D");
   EXPECT_EQ(measured, (std::vector<std::string>{"Tom & Jerry", "R&&D"}));
 }
 
@@ -170,7 +177,7 @@ TEST(MenuWidth, IsThatOfTheWidestCaptionWithRoomOnBothSides) {
   const auto hundred = [](std::string_view text) {
     return 110.0F * static_cast<float>(text.size());
   };
-  const MenuLayout menu = LayOutMenu({.Records = records, .TextWidth = hundred});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .TextWidth = hundred});
   EXPECT_FLOAT_EQ(menu.MaxLabelWidth, 1540);
   EXPECT_FLOAT_EQ(menu.Width, 2095);
   EXPECT_FLOAT_EQ(menu.Items[0].Width, 550);
@@ -180,27 +187,26 @@ TEST(MenuWidth, OfAButtonsMenuIs1750AtLeast) {
   const auto records = File("i");
   for (const float width : {0.0F, 1194.0F, 1195.0F}) {
     const auto text = [=](std::string_view) { return width; };
-    EXPECT_FLOAT_EQ(LayOutMenu({.Records = records, .TextWidth = text}).Width, 1750) << width;
+    EXPECT_FLOAT_EQ(LayOutMenu({.Items = ItemsOf(records), .TextWidth = text}).Width, 1750)
+        << width;
   }
   const auto text = [](std::string_view) { return 1196.0F; };
-  EXPECT_FLOAT_EQ(LayOutMenu({.Records = records, .TextWidth = text}).Width, 1751);
+  EXPECT_FLOAT_EQ(LayOutMenu({.Items = ItemsOf(records), .TextWidth = text}).Width, 1751);
 }
 
 TEST(MenuWidth, OfTheMainMenuLeavesRoomForMarksAndHasNoLeast) {
   const std::vector<MenuRecord> records = MainMenuRecords();
   const auto text = [](std::string_view) { return 300.0F; };
-  const MenuLayout menu = LayOutMenu({.Records = records, .Key = "Q1", .TextWidth = text});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .Key = "Q1", .TextWidth = text});
   EXPECT_FLOAT_EQ(menu.Width, 1485);
   EXPECT_EQ(menu.Labels, 11);
-  EXPECT_EQ(menu.Items[0].Caption, "Customize...");
-  EXPECT_EQ(menu.Items[10].Caption, "Exit");
+  EXPECT_EQ(menu.Items[0].Title, "Customize...");
+  EXPECT_EQ(menu.Items[10].Title, "Exit");
 }
 
 TEST(EmptyMenu, AFileOfFewerThanTwoRecordsHasTheLeastWidth) {
-  const auto header = File("");
-  for (const std::span<const MenuRecord> records :
-       {std::span<const MenuRecord>(), std::span<const MenuRecord>(header)}) {
-    const MenuLayout menu = LayOutMenu({.Records = records});
+  for (const std::vector<MenuRecord>& records : {std::vector<MenuRecord>(), File("")}) {
+    const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
     EXPECT_EQ(menu.Labels, 0);
     EXPECT_EQ(menu.Slides, 0);
     EXPECT_FLOAT_EQ(menu.Width, 1750);
@@ -212,7 +218,7 @@ TEST(EmptyMenu, AFileOfFewerThanTwoRecordsHasTheLeastWidth) {
 
 TEST(EmptyMenu, AFileOfSeparatorsOnlyHasTheLeastWidthAndNoRule) {
   const auto records = File("sssss");
-  const MenuLayout menu = LayOutMenu({.Records = records});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
   EXPECT_EQ(menu.Labels, 0);
   EXPECT_FLOAT_EQ(menu.Width, 1750);
   EXPECT_FLOAT_EQ(menu.Height, 480);
@@ -222,36 +228,36 @@ TEST(EmptyMenu, AFileOfSeparatorsOnlyHasTheLeastWidthAndNoRule) {
 TEST(MenuSeparators, DrawOneRuleAndAddTheirGapOnce) {
   for (const char* pattern : {"isi", "issi", "isssssi", "ibi", "ibsbi", "ishsi"}) {
     const auto records = File(pattern);
-    const MenuLayout menu = LayOutMenu({.Records = records});
+    const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
     EXPECT_EQ(Tops(menu), (std::vector<float>{90, 570})) << pattern;
     EXPECT_EQ(menu.Pages[0].Rules, (std::vector<float>{420})) << pattern;
-    EXPECT_FALSE(TagFollowsSeparator(menu.Items[0].Tag)) << pattern;
-    EXPECT_TRUE(TagFollowsSeparator(menu.Items[1].Tag)) << pattern;
+    EXPECT_FALSE(menu.Items[0].AfterSeparator) << pattern;
+    EXPECT_TRUE(menu.Items[1].AfterSeparator) << pattern;
     EXPECT_FLOAT_EQ(menu.Height, 960) << pattern;
   }
 }
 
 TEST(MenuSeparators, MarkTheItemRightAfterThemOnly) {
   const auto records = File("isiisi");
-  const MenuLayout menu = LayOutMenu({.Records = records});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
   std::string kinds;
-  for (const MenuItem& item : menu.Items) kinds += item.Tag[0];
+  for (const MenuItem& item : menu.Items) kinds += item.AfterSeparator ? 's' : 'n';
   EXPECT_EQ(kinds, "nsns");
 }
 
 TEST(MenuSeparators, AtTheVeryTopOneDrawsNoRuleButMarksTheFirstItem) {
   for (const char* pattern : {"si", "ssi", "hsi", "bi"}) {
     const auto records = File(pattern);
-    const MenuLayout menu = LayOutMenu({.Records = records});
+    const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
     EXPECT_EQ(Tops(menu), (std::vector<float>{90})) << pattern;
     EXPECT_TRUE(menu.Pages[0].Rules.empty()) << pattern;
-    EXPECT_EQ(menu.Items[0].Tag[0], 's') << pattern;
+    EXPECT_TRUE(menu.Items[0].AfterSeparator) << pattern;
   }
 }
 
 TEST(MenuSeparators, AtTheEndOfASinglePageTheRuleLiesUnderTheFrameAndIsNotSeen) {
   const auto records = File("iis");
-  const MenuLayout menu = LayOutMenu({.Records = records});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
   EXPECT_EQ(menu.Pages[0].Rules, (std::vector<float>{720}));
   EXPECT_FLOAT_EQ(menu.Height, 780);
   const float frame = 2 * 3 * 15;
@@ -264,7 +270,7 @@ TEST(MenuSeparators, AreKnownInAnyCase) {
                                         {"", " menulineseparator ", ""},
                                         {"", "MENUBREAKER", ""},
                                         Titled("Two")};
-  EXPECT_EQ(Tops(LayOutMenu({.Records = records})), (std::vector<float>{90, 570}));
+  EXPECT_EQ(Tops(LayOutMenu({.Items = ItemsOf(records)})), (std::vector<float>{90, 570}));
 }
 
 TEST(HiddenTitle, IsTheProgramsNameUpToItsNul) {
@@ -281,22 +287,10 @@ TEST(HiddenTitle, IsTheProgramsNameUpToItsNul) {
 TEST(HiddenTitle, ItsRecordIsSkippedWhateverItIs) {
   std::vector<MenuRecord> records = File("ihi");
   records[2].FIcon = "MenuLineSeparator";
-  const MenuLayout menu = LayOutMenu({.Records = records});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records)});
   EXPECT_EQ(Tops(menu), (std::vector<float>{90, 390}));
   EXPECT_TRUE(menu.Pages[0].Rules.empty());
-  EXPECT_EQ(TagRecordNumber(menu.Items[1].Tag), 4);
-}
-
-TEST(TypeAheadKeys, HoldTheFirstLetterAndThePage) {
-  std::vector<MenuRecord> records = File("iiiiiiiiii");
-  records[1].FTitle = "Zebra";
-  records[2].FTitle = "";
-  records[10].FTitle = "\xC3\x84pfel";  // begins with a capital A with diaeresis
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 2000});
-  EXPECT_EQ(menu.Items[0].TypeAheadKey, "z0");
-  EXPECT_EQ(menu.Items[1].TypeAheadKey, "\0000"s);
-  ASSERT_EQ(menu.Slides, 2);
-  EXPECT_EQ(menu.Items[9].TypeAheadKey, "\xC3\xA4\x32");
+  EXPECT_EQ(menu.Items[1].Origin.Record, 4);
 }
 
 TEST(Arrows, GoldenGeometry) {

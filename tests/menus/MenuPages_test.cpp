@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "menus/MenuLayout.h"
-#include "menus/MenuTag.h"
 
 namespace corvelle {
 namespace {
@@ -28,7 +27,7 @@ using Pages = std::vector<std::pair<int, int>>;
 // reserve make 3045.
 TEST(MenuPages, AMenuOfExactlyTheRoomStaysOnOnePage) {
   const auto records = FileOf(10);
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 3045});
   EXPECT_EQ(Ranges(menu), (Pages{{1, 10}}));
   EXPECT_EQ(menu.Slides, 0);
   EXPECT_FLOAT_EQ(menu.MenuHeight, 3045);
@@ -37,7 +36,7 @@ TEST(MenuPages, AMenuOfExactlyTheRoomStaysOnOnePage) {
 
 TEST(MenuPages, OneItemMoreStartsAPageAndKeeps36PixelsFree) {
   const auto records = FileOf(11);
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 3045});
   EXPECT_FLOAT_EQ(menu.MenuHeight, 2505);
   EXPECT_EQ(Ranges(menu), (Pages{{1, 8}, {9, 11}}));
   EXPECT_EQ(menu.Slides, 1);
@@ -51,22 +50,22 @@ TEST(MenuPages, OneItemMoreStartsAPageAndKeeps36PixelsFree) {
 
 TEST(MenuPages, ATwipLessOfRoomStartsAPage) {
   const auto records = FileOf(10);
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3044});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 3044});
   EXPECT_FLOAT_EQ(menu.MenuHeight, 2504);
   EXPECT_EQ(Ranges(menu), (Pages{{1, 8}, {9, 10}}));
 }
 
 // At 12 twips ten items of 192 with gaps of 72 are estimated at 2640.
 TEST(MenuPages, WithLargeSystemFonts) {
-  const auto ten = FileOf(10);
+  const auto ten = ItemsOf(FileOf(10));
   const MenuScene scene{
-      .Records = ten, .TwipsX = 12, .TwipsY = 12, .LineHeight = 192, .WindowHeight = 2676};
+      .Items = ten, .TwipsX = 12, .TwipsY = 12, .LineHeight = 192, .WindowHeight = 2676};
   const MenuLayout full = LayOutMenu(scene);
   EXPECT_EQ(Ranges(full), (Pages{{1, 10}}));
   EXPECT_FLOAT_EQ(full.MenuHeight, 2676);
-  const auto eleven = FileOf(11);
+  const auto eleven = ItemsOf(FileOf(11));
   MenuScene more = scene;
-  more.Records = eleven;
+  more.Items = eleven;
   const MenuLayout paged = LayOutMenu(more);
   EXPECT_FLOAT_EQ(paged.MenuHeight, 2244);
   EXPECT_EQ(Ranges(paged), (Pages{{1, 8}, {9, 11}}));
@@ -82,7 +81,7 @@ TEST(MenuPages, AnItemThatReachesTheReserveGoesToTheNextPage) {
   const Row rows[] = {{2431, 8}, {2430, 7}, {2429, 7}};
   for (const Row& row : rows) {
     const MenuLayout menu =
-        LayOutMenu({.Records = records, .WindowHeight = row.menuHeight + 36 * 15});
+        LayOutMenu({.Items = ItemsOf(records), .WindowHeight = row.menuHeight + 36 * 15});
     EXPECT_FLOAT_EQ(menu.MenuHeight, row.menuHeight);
     EXPECT_EQ(menu.Pages[0].LastLabel, row.lastOfFirstPage) << row.menuHeight;
   }
@@ -92,14 +91,14 @@ TEST(MenuPages, SeparatorsCountTwelvePixelsEachRunInTheEstimate) {
   // Nine items and a run of separators: 2700 + 180.
   std::vector<MenuRecord> records = FileOf(9);
   records.insert(records.begin() + 3, 4, kRule);
-  EXPECT_EQ(LayOutMenu({.Records = records, .WindowHeight = 2925}).Slides, 0);
-  EXPECT_EQ(LayOutMenu({.Records = records, .WindowHeight = 2924}).Slides, 1);
+  EXPECT_EQ(LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 2925}).Slides, 0);
+  EXPECT_EQ(LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 2924}).Slides, 1);
 }
 
 TEST(MenuPages, TheEntryThatIsNotShownCountsInTheEstimateAllTheSame) {
   std::vector<MenuRecord> records = FileOf(10);
   records.push_back({"Corvelle", "", ""});
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 3045});
   EXPECT_EQ(menu.Labels, 10);
   EXPECT_FLOAT_EQ(menu.MenuHeight, 2505);
   EXPECT_EQ(Ranges(menu), (Pages{{1, 8}, {9, 10}}));
@@ -108,18 +107,18 @@ TEST(MenuPages, TheEntryThatIsNotShownCountsInTheEstimateAllTheSame) {
 TEST(MenuPages, ASeparatorBetweenTwoPagesDrawsNoRuleButMarksTheItem) {
   std::vector<MenuRecord> records = FileOf(11);
   records.insert(records.begin() + 9, kRule);  // after item 8
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 3045});
   EXPECT_EQ(Ranges(menu), (Pages{{1, 8}, {9, 11}}));
   EXPECT_TRUE(menu.Pages[0].Rules.empty());
   EXPECT_TRUE(menu.Pages[1].Rules.empty());
-  EXPECT_EQ(menu.Items[8].Tag[0], 's');
+  EXPECT_TRUE(menu.Items[8].AfterSeparator);
   EXPECT_FLOAT_EQ(menu.Items[8].Top, 90);
 }
 
 TEST(MenuPages, ASeparatorsGapCanPushAnItemToTheNextPage) {
   std::vector<MenuRecord> records = FileOf(20);
   records.insert(records.begin() + 8, kRule);  // after item 7
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 3045});
   EXPECT_EQ(menu.Pages[0].LastLabel, 7);
   EXPECT_TRUE(menu.Pages[0].Rules.empty());
 }
@@ -128,7 +127,7 @@ TEST(MenuPages, RulesBelongToTheirPage) {
   std::vector<MenuRecord> records = FileOf(11);
   records.insert(records.begin() + 11, kRule);  // after item 10
   records.insert(records.begin() + 3, kRule);   // after item 2
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 3045});
   // The first page holds a separator and therefore one item less.
   EXPECT_EQ(Ranges(menu), (Pages{{1, 7}, {8, 11}}));
   EXPECT_EQ(menu.Pages[0].Rules, (std::vector<float>{720}));
@@ -138,7 +137,7 @@ TEST(MenuPages, RulesBelongToTheirPage) {
 TEST(MenuPages, ASeparatorAfterTheLastItemOfAPagedMenuDrawsNoRule) {
   std::vector<MenuRecord> records = FileOf(11);
   records.push_back(kRule);
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 3045});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 3045});
   ASSERT_EQ(menu.Slides, 1);
   EXPECT_TRUE(menu.Pages[1].Rules.empty());
 }
@@ -146,11 +145,11 @@ TEST(MenuPages, ASeparatorAfterTheLastItemOfAPagedMenuDrawsNoRule) {
 TEST(MenuPages, TenThousandItems) {
   const auto records = FileOf(10000);
   int measured = 0;
-  const MenuLayout menu =
-      LayOutMenu({.Records = records, .WindowHeight = 11145, .TextWidth = [&](std::string_view) {
-                    ++measured;
-                    return 500.0F;
-                  }});
+  const MenuLayout menu = LayOutMenu(
+      {.Items = ItemsOf(records), .WindowHeight = 11145, .TextWidth = [&](std::string_view) {
+         ++measured;
+         return 500.0F;
+       }});
   EXPECT_EQ(measured, 10000);
   EXPECT_FLOAT_EQ(menu.MenuHeight, 10605);
   EXPECT_EQ(menu.Labels, 10000);
@@ -158,21 +157,21 @@ TEST(MenuPages, TenThousandItems) {
   EXPECT_EQ(Ranges(menu)[0], (std::pair{1, 35}));
   EXPECT_EQ(Ranges(menu)[1], (std::pair{36, 70}));
   EXPECT_EQ(Ranges(menu)[285], (std::pair{9976, 10000}));
-  EXPECT_EQ(menu.Items[9999].TypeAheadKey, "i285");
-  EXPECT_EQ(TagRecordNumber(menu.Items[9999].Tag), 10001);
+  EXPECT_EQ(menu.Items[9999].Page, 285);
+  EXPECT_EQ(menu.Items[9999].Origin.Record, 10001);
 }
 
 TEST(MenuPages, RecordsPastTheSixteenBitLimitAreNotLookedAt) {
   const auto records = FileOf(40000);
-  const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = 11145});
+  const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = 11145});
   EXPECT_EQ(menu.Labels, 32766);
-  EXPECT_EQ(TagRecordNumber(menu.Items.back().Tag), 32767);
+  EXPECT_EQ(menu.Items.back().Origin.Record, 32767);
 }
 
 TEST(MenuPages, WithoutRoomEveryItemHasAPageOfItsOwn) {
   const auto records = FileOf(3);
   for (const float room : {0.0F, 15.0F, 300.0F}) {
-    const MenuLayout menu = LayOutMenu({.Records = records, .WindowHeight = room});
+    const MenuLayout menu = LayOutMenu({.Items = ItemsOf(records), .WindowHeight = room});
     EXPECT_EQ(Ranges(menu), (Pages{{1, 1}, {2, 2}, {3, 3}})) << room;
   }
 }
@@ -193,8 +192,9 @@ void ForEveryMenu(const Check& check) {
           if (every != 0 && i % every == 0) records.push_back(kRule);
           records.push_back(kItem);
         }
+        const std::vector<MenuItem> file = ItemsOf(records);
         for (float pixels = 100; pixels <= 800; pixels += 89) {
-          const MenuScene scene{.Records = records,
+          const MenuScene scene{.Items = file,
                                 .TwipsX = sweep.Twips,
                                 .TwipsY = sweep.Twips,
                                 .LineHeight = sweep.LineHeight,

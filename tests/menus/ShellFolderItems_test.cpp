@@ -59,7 +59,7 @@ TEST_F(ShellFolderItems, WithTheOptionAChangeIsShown) {
     desk_.World.Files.ClearLog();
     desk_.OpenAgain();
     EXPECT_EQ(desk_.Built(), 2) << entries.size();
-    EXPECT_EQ(desk_.Menu.Labels, static_cast<int>(entries.size()));
+    EXPECT_EQ(desk_.Menu.Items().Count(), static_cast<int>(entries.size()));
     desk_.World.Files.ClearLog();
     desk_.OpenAgain();
     EXPECT_EQ(desk_.Built(), 0) << entries.size();
@@ -71,7 +71,7 @@ TEST_F(ShellFolderItems, WithoutTheOptionNothingIsListedAgain) {
   desk_.World.Folders.Put(17, {});
   desk_.World.Files.ClearLog();
   desk_.OpenAgain();
-  EXPECT_EQ(desk_.Menu.Labels, 2);
+  EXPECT_EQ(desk_.Menu.Items().Count(), 2);
   EXPECT_TRUE(desk_.World.Files.Log().empty());
 }
 
@@ -100,7 +100,7 @@ TEST_F(ShellFolderItems, TheDesktopIsBuiltAnewOnlyWhenTheBinsIconChanged) {
   desk_.World.Folders.Put(0, {{"My Computer", 15}, {"Bin", 32}, {"New", 3}});
   for (int look = 0; look < 3; ++look) {
     desk_.OpenAgain();
-    EXPECT_EQ(desk_.Menu.Labels, 2) << look;
+    EXPECT_EQ(desk_.Menu.Items().Count(), 2) << look;
   }
   desk_.SetBin("full.ico");
   desk_.OpenAgain();

@@ -118,13 +118,19 @@ TEST(OpenSpecialFolder, AFolderOfTheShellOpensByTheShell) {
   EXPECT_TRUE(desk.Started().empty());
 }
 
-TEST(OpenSpecialFolder, TheControlPanelOpensAmongTheDrivesWhereItStandsThere) {
+TEST(OpenSpecialFolder, TheControlPanelOpensWithoutALookAtTheDrives) {
   FoldersDesk desk;
-  LaunchItem(desk.TheProgram, "CSIDL_CONTROLS");
   desk.World.Folders.Put(kDrives, {{"Disk (C:)", 50}, {"Control Panel", 31}});
   LaunchItem(desk.TheProgram, "CSIDL_CONTROLS");
-  EXPECT_EQ(desk.World.Folders.Opened(),
-            (std::vector{desk.Opened(kControls, ""), desk.Opened(kDrives, "Control Panel")}));
+  EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kControls, "")});
+  EXPECT_EQ(desk.World.Folders.Listings(), 0);
+}
+
+TEST(OpenSpecialFolder, AnEntryByItsWholeNameIsOpenedWithoutAList) {
+  FoldersDesk desk;
+  LaunchItem(desk.TheProgram, "Mouse\\CSIDL_CONTROLS");
+  EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kControls, "Mouse")});
+  EXPECT_EQ(desk.World.Folders.Listings(), 0);
 }
 
 TEST(OpenSpecialFolder, AnEntryIsOpenedByItsTitleInEitherOrder) {

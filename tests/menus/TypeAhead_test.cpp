@@ -7,26 +7,14 @@
 namespace corvelle {
 namespace {
 
-using namespace std::string_literals;
-
-TEST(TypeAheadKey, IsTheFirstLetterInLowerCaseAndThePage) {
-  EXPECT_EQ(TypeAheadKey("Notepad", 0), "n0");
-  EXPECT_EQ(TypeAheadKey("7-Zip", 12), "712");
-  EXPECT_EQ(TypeAheadKey("\xC3\x89tude", 3), "\xC3\xA9\x33");
-  EXPECT_EQ(TypeAheadKey("Notes\0005001"s, 1), "n1");
-}
-
-TEST(TypeAheadKey, OfABlankTitleBeginsWithANul) {
-  EXPECT_EQ(TypeAheadKey("", 4), "\0004"s);
-  EXPECT_EQ(TypeAheadKey("\00017"s, 4), "\0004"s);
-}
-
-TEST(TypeAheadPage, IsWhatFollowsTheLetter) {
-  EXPECT_EQ(TypeAheadPage("n0"), 0);
-  EXPECT_EQ(TypeAheadPage("712"), 12);
-  EXPECT_EQ(TypeAheadPage("\xC3\xA9\x33"), 3);
-  EXPECT_EQ(TypeAheadPage("\0004"s), 4);
-  EXPECT_EQ(TypeAheadPage(""), 0);
+TEST(TypeAheadLetter, IsTheFirstCharacterOfTheTitleIgnoringCase) {
+  EXPECT_TRUE(BeginsWith("Notepad", U'n'));
+  EXPECT_TRUE(BeginsWith("notepad", U'N'));
+  EXPECT_TRUE(BeginsWith("7-Zip", U'7'));
+  EXPECT_TRUE(BeginsWith("\xC3\x89tude", U'\u00E9'));
+  EXPECT_FALSE(BeginsWith("Notepad", U'o'));
+  EXPECT_FALSE(BeginsWith("", U'n'));
+  EXPECT_FALSE(BeginsWith("", U'\0'));
 }
 
 TEST(TypeAhead, TakesTheCharactersFrom33To126) {
@@ -39,7 +27,9 @@ TEST(TypeAhead, TakesTheCharactersFrom33To126) {
 }
 
 // Two pages: alpha, beta, Bravo on the first, Charlie, (blank), alto on the second.
-const std::vector<std::string> kKeys{"a0", "b0", "b0", "c1", "\0001"s, "a1"};
+const std::vector<MenuItem> kItems{{.Title = "alpha"},       {.Title = "beta"},
+                                   {.Title = "Bravo"},       {.Title = "Charlie", .Page = 1},
+                                   {.Title = "", .Page = 1}, {.Title = "alto", .Page = 1}};
 
 TEST(TypeAhead, GoldenSearches) {
   struct Row {
@@ -63,7 +53,7 @@ TEST(TypeAhead, GoldenSearches) {
       {"a digit of a page number is no letter", 0, 1, U'0', {}},
   };
   for (const Row& row : rows) {
-    const TypeAheadHit hit = FindTypeAhead(kKeys, row.curItem, row.firstLabel, row.character);
+    const TypeAheadHit hit = FindTypeAhead(kItems, row.curItem, row.firstLabel, row.character);
     EXPECT_EQ(hit, row.expected) << row.name << ": item " << hit.Item << " page " << hit.Page;
   }
 }
@@ -72,7 +62,7 @@ TEST(TypeAhead, RepeatingALetterVisitsEveryItemWithItAndStartsOver) {
   std::vector<int> visited;
   int cursor = 0;
   for (int i = 0; i < 4; ++i) {
-    const TypeAheadHit hit = FindTypeAhead(kKeys, cursor, 1, U'a');
+    const TypeAheadHit hit = FindTypeAhead(kItems, cursor, 1, U'a');
     visited.push_back(hit.Item);
     cursor = hit.NextItem;
   }

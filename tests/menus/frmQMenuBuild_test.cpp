@@ -4,6 +4,8 @@
 
 #include <random>
 
+#include "base/Text.h"
+#include "menus/FolderMenus.h"
 #include "menus/MenuDesk.h"
 
 namespace corvelle {
@@ -11,7 +13,8 @@ namespace {
 
 std::vector<std::string> Captions(const frmQMenu& menu) {
   std::vector<std::string> captions;
-  for (int i = menu.FirstLabel; i <= menu.LastLabel; ++i) captions.push_back(menu.Lbl[i].Caption());
+  for (int i = menu.Pages().FirstLabel(); i <= menu.Pages().LastLabel(); ++i)
+    captions.push_back(menu.Lbl[i].Caption());
   return captions;
 }
 
@@ -103,14 +106,14 @@ TEST(frmQMenuShowMenu, AMissingFileIsCreatedEmptyAndGivesAnEmptyMenu) {
   desk.Menu.ShowMenu("F2", "C:\\Corvelle\\Menus\\BMENU007.MNU");
   EXPECT_EQ(desk.World.Files.Get("C:\\Corvelle\\Menus\\BMENU007.MNU"), "");
   EXPECT_TRUE(desk.Menu.MenuVisible());
-  EXPECT_EQ(desk.Menu.Labels, 0);
+  EXPECT_EQ(desk.Menu.Items().Count(), 0);
   EXPECT_EQ(desk.Menu.Width(), 1750);
 }
 
 TEST(frmQMenuShowMenu, AFileOfSeparatorsOnlyGivesAnEmptyMenuOfTheLeastWidth) {
   MenuDesk desk;
   desk.Open(1, {Separator(), Separator(), Separator()});
-  EXPECT_EQ(desk.Menu.Labels, 0);
+  EXPECT_EQ(desk.Menu.Items().Count(), 0);
   EXPECT_EQ(desk.Menu.Width(), 1750);
 }
 
@@ -125,7 +128,7 @@ TEST(frmQMenuShowMenu, AFileNameIsCutAtItsNul) {
 TEST(frmQMenuShowMenu, ARunOfSeparatorsDrawsOneRuleAndAddsItsGapOnce) {
   MenuDesk desk;
   desk.Open(1, {Item("Alpha"), Separator(), Separator(), Separator(), Item("Beta")});
-  EXPECT_EQ(desk.Menu.Labels, 2);
+  EXPECT_EQ(desk.Menu.Items().Count(), 2);
   EXPECT_EQ(desk.Menu.Lbl[2].Top(), desk.Menu.Lbl[1].Bottom() + 105 + 180);
   // The rule lies 9 pixels below the first line's end, at 6 + 13.
   EXPECT_EQ(desk.PixelInside(60, 28), desk.SystemColour(forms::color::ButtonShadow));
@@ -139,8 +142,8 @@ TEST(frmQMenuShowMenu, ASeparatorAtTheTopDrawsNothingButMarksTheFirstItem) {
   MenuDesk desk;
   desk.Open(1, {Separator(), Item("Alpha"), Item("Beta")});
   EXPECT_EQ(desk.Menu.Lbl[1].Top(), 90);
-  EXPECT_EQ(desk.Menu.Lbl[1].Tag[0], 's');
-  EXPECT_EQ(desk.Menu.Lbl[2].Tag[0], 'n');
+  EXPECT_TRUE(desk.Menu.Items()[1].AfterSeparator);
+  EXPECT_FALSE(desk.Menu.Items()[2].AfterSeparator);
   static_cast<void>(desk.Menu.GetExeName(1));
   EXPECT_TRUE(desk.TheProgram.Menu.ItemHasSeparator);
   static_cast<void>(desk.Menu.GetExeName(2));
@@ -161,13 +164,13 @@ TEST(frmQMenuShowMenu, AnItemKnowsItsCommandItsIconAndItsRecord) {
 TEST(frmQMenuPages, AMenuOfJustTheHeightHasOnePageAndOneItemMoreHasTwo) {
   MenuDesk desk;
   desk.Open(1, Items(36));
-  EXPECT_EQ(desk.Menu.Slides, 0);
-  EXPECT_EQ(desk.Menu.Labels, 36);
+  EXPECT_EQ(desk.Menu.Pages().Slides(), 0);
+  EXPECT_EQ(desk.Menu.Items().Count(), 36);
   EXPECT_FALSE(desk.Menu.LblButton[0].Visible());
   desk.Open(2, Items(37));
-  EXPECT_EQ(desk.Menu.Slides, 1);
-  EXPECT_EQ(desk.Menu.FirstLabel, 1);
-  EXPECT_EQ(desk.Menu.LastLabel, 34);
+  EXPECT_EQ(desk.Menu.Pages().Slides(), 1);
+  EXPECT_EQ(desk.Menu.Pages().FirstLabel(), 1);
+  EXPECT_EQ(desk.Menu.Pages().LastLabel(), 34);
   EXPECT_EQ(desk.Menu.Height(), 768 * 15.0F - 450);
   EXPECT_TRUE(desk.Menu.LblButton[0].Visible());
   EXPECT_FALSE(desk.Menu.LblButton[0].Enabled());
@@ -193,6 +196,37 @@ TEST(frmQMenuPages, GapsAndRulesFollowTheScale) {
     desk.Open(1, {Item("A"), Item("B"), Separator(), Item("C")});
     EXPECT_EQ(desk.Menu.Lbl[2].Top() - desk.Menu.Lbl[1].Bottom(), row.gap) << row.name;
     EXPECT_EQ(desk.Menu.Lbl[3].Top() - desk.Menu.Lbl[2].Bottom(), row.gapWithRule) << row.name;
+  }
+}
+
+/// How often a file was read since the log was cleared.
+int Reads(const MenuDesk& desk, const std::string& file) {
+  int reads = 0;
+  for (const auto& call : desk.World.Files.Log()) {
+    if (call.Operation == "Read" && EqualNoCase(call.Path, file)) ++reads;
+  }
+  return reads;
+}
+
+TEST(frmQMenuBuild, ReadsTheMenuFileOnceAndIsPlacedOnce) {
+  for (const bool folders : {false, true}) {
+    MenuDesk desk;
+    FolderMenus items(desk.TheProgram);
+    desk.TheProgram.Ports.FolderMenus = &items;
+    desk.World.Files.Put("C:\\Docs\\a.txt", "x");
+    const std::string file =
+        desk.PutMenu(1, {Item("Alpha", "", folders ? "C:\\Docs\\*.*" : "a.exe")});
+    desk.World.Files.ClearLog();
+    desk.Reopen(1);
+    EXPECT_EQ(Captions(desk.Menu), std::vector<std::string>{folders ? "a.txt" : "Alpha"});
+    EXPECT_EQ(Reads(desk, file), 1) << folders;
+    EXPECT_EQ(Reads(desk, "C:\\Corvelle\\Menus\\BMENU001.mfd"), 0) << folders;
+    EXPECT_EQ(desk.Strip.Times("SetMenuPosition"), 1) << folders;
+    desk.Menu.HideMenu();
+    desk.Strip.Asked.clear();
+    desk.Reopen(1);
+    EXPECT_EQ(desk.Strip.Times("SetMenuPosition"), 1) << folders;
+    desk.TheProgram.Ports.FolderMenus = nullptr;
   }
 }
 
@@ -243,11 +277,11 @@ TEST(frmQMenuCache, ADroppedMenuIsReadAgain) {
 TEST(frmQMenuCache, AMenuThatNoLongerFitsItsPlaceIsLaidOutAnew) {
   MenuDesk desk;
   desk.Open(1, Items(36));
-  EXPECT_EQ(desk.Menu.Slides, 0);
+  EXPECT_EQ(desk.Menu.Pages().Slides(), 0);
   desk.Menu.HideMenu();
   desk.Strip.MenuTop = 900;
   desk.Reopen(1);
-  EXPECT_EQ(desk.Menu.Slides, 1);
+  EXPECT_EQ(desk.Menu.Pages().Slides(), 1);
 }
 
 TEST(frmQMenuCache, NoLabelOfTheMenuBeforeStaysOnTheScreen) {
@@ -266,8 +300,8 @@ TEST(frmQMenuResetQMenu, EmptiesTheWindow) {
   EXPECT_FALSE(desk.Menu.MenuVisible());
   EXPECT_FALSE(desk.Menu.MenuReady);
   EXPECT_FALSE(desk.Menu.Timer1.Enabled());
-  EXPECT_EQ(desk.Menu.Labels, 0);
-  EXPECT_EQ(desk.Menu.Slides, 0);
+  EXPECT_EQ(desk.Menu.Items().Count(), 0);
+  EXPECT_EQ(desk.Menu.Pages().Slides(), 0);
   EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   for (const forms::Graphic* graphic : desk.Menu.Graphics()) {
     EXPECT_FALSE(graphic->Visible()) << graphic->Name();
@@ -286,7 +320,7 @@ TEST(frmQMenuBuildGuard, TheFlagIsClearedHoweverTheBuildEnds) {
     desk.World.Files.FailFrom(1, row.error);
     desk.Reopen(1);
     EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding) << row.name;
-    EXPECT_EQ(desk.Menu.Labels, 0) << row.name;
+    EXPECT_EQ(desk.Menu.Items().Count(), 0) << row.name;
     EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default) << row.name;
   }
 }
@@ -295,7 +329,8 @@ TEST(frmQMenuBuildGuard, TheFlagIsClearedHoweverTheBuildEnds) {
 class SlowFolders final : public FolderMenusPort {
  public:
   explicit SlowFolders(MenuDesk& desk) : desk_(desk) {}
-  std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
+  std::optional<ExpandedMenu> Expand(std::string_view, std::string_view,
+                                     std::string_view) override {
     ++Expanded;
     if (While) While();
     desk_.TheProgram.DoEvents();
@@ -329,7 +364,7 @@ TEST(frmQMenuBuildGuard, AMoveInsideTheBuildSelectsNothing) {
   desk.Reopen(1);
   EXPECT_EQ(folders.Expanded, 1);
   EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding);
-  EXPECT_EQ(desk.Menu.Labels, 5);
+  EXPECT_EQ(desk.Menu.Items().Count(), 5);
 }
 
 TEST(frmQMenuBuildGuard, ThePollInsideTheBuildClosesNothing) {
@@ -357,7 +392,7 @@ TEST(frmQMenuBuildGuard, AnotherMenuAskedForInsideTheBuildWaitsForItsOwnTurn) {
   };
   desk.Open(1, Items(3));
   EXPECT_EQ(desk.Menu.CurrentKey(), "F2");
-  EXPECT_EQ(desk.Menu.Labels, 3);
+  EXPECT_EQ(desk.Menu.Items().Count(), 3);
   EXPECT_TRUE(desk.Menu.MenuVisible());
 }
 
@@ -380,7 +415,7 @@ TEST(frmQMenuFolders, AMenuWhoseFoldersChangedIsBuiltAnew) {
 TEST(frmQMenuFolders, WithoutTheirServiceAFolderItemIsAPlainItem) {
   MenuDesk desk;
   desk.Open(1, {Item("Tools", "", "C:\\Tools\\*.*/u")});
-  EXPECT_EQ(desk.Menu.Labels, 1);
+  EXPECT_EQ(desk.Menu.Items().Count(), 1);
   EXPECT_EQ(desk.Menu.Lbl[1].Caption(), "Tools");
 }
 
@@ -389,11 +424,12 @@ TEST(frmQMenuFolders, AnExpandedMenuTellsWhatItsEntriesStandFor) {
   const std::string expanded = "C:\\Corvelle\\Menus\\BMENU001.mfd";
   class Expander final : public FolderMenusPort {
    public:
-    std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
-      return ExpandedMenu{"C:\\Corvelle\\Menus\\BMENU001.mfd",
-                          {Item("Button"), Item("Plain"), Item("Found")},
-                          {{1, ""}, {2, ""}, {5003, "Found in a folder"}},
-                          ""};
+    std::optional<ExpandedMenu> Expand(std::string_view, std::string_view,
+                                       std::string_view) override {
+      MenuItem found = ItemOf(Item("Found"), 5003);
+      found.Origin.Name = "Found in a folder";
+      return ExpandedMenu{.File = "C:\\Corvelle\\Menus\\BMENU001.mfd",
+                          .Items = {ItemOf(Item("Button"), 1), ItemOf(Item("Plain"), 2), found}};
     }
     bool WriteGenerated(const ExpandedMenu&) override { return true; }
     bool UpdateMenu(std::string_view) override { return false; }
@@ -403,8 +439,8 @@ TEST(frmQMenuFolders, AnExpandedMenuTellsWhatItsEntriesStandFor) {
   EXPECT_EQ(Captions(desk.Menu), (std::vector<std::string>{"Plain", "Found"}));
   EXPECT_EQ(desk.Menu.GetRecordNum(1), 2);
   EXPECT_EQ(desk.Menu.GetRecordNum(2), 5003);
-  EXPECT_EQ(desk.Menu.NameOf(1), "Plain");
-  EXPECT_EQ(desk.Menu.NameOf(2), "Found in a folder");
+  EXPECT_EQ(desk.Menu.Items().NameOf(1), "Plain");
+  EXPECT_EQ(desk.Menu.Items().NameOf(2), "Found in a folder");
   EXPECT_EQ(desk.Menu.MenuFile, expanded);
 }
 
@@ -425,7 +461,7 @@ TEST(frmQMenuDamage, DamagedFilesOpenAsWhatCanBeReadOfThem) {
     desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", std::string(row.length, 'x'));
     desk.Reopen(1);
     EXPECT_TRUE(desk.Menu.MenuVisible()) << row.name;
-    EXPECT_EQ(desk.Menu.Labels, row.labels) << row.name;
+    EXPECT_EQ(desk.Menu.Items().Count(), row.labels) << row.name;
     EXPECT_FALSE(desk.TheProgram.Guards.MenuBuilding) << row.name;
   }
 }
@@ -459,22 +495,22 @@ TEST(frmQMenuDamage, EveryByteValueInATitleIsShownAsText) {
   }
   desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", bytes);
   desk.Reopen(1);
-  EXPECT_EQ(desk.Menu.Labels, 8);
+  EXPECT_EQ(desk.Menu.Items().Count(), 8);
   EXPECT_TRUE(desk.Menu.MenuVisible());
 }
 
 TEST(frmQMenuSize, TenThousandItemsOpenAndTurnToTheEnd) {
   MenuDesk desk;
   desk.Open(1, Items(10000));
-  EXPECT_EQ(desk.Menu.Labels, 10000);
-  EXPECT_EQ(desk.Menu.Slides, 294);  // 34 to a page
+  EXPECT_EQ(desk.Menu.Items().Count(), 10000);
+  EXPECT_EQ(desk.Menu.Pages().Slides(), 294);  // 34 to a page
   desk.World.Desktop.PressKey(forms::key::End);
-  EXPECT_EQ(desk.Menu.CurMenu, 294);
-  EXPECT_EQ(desk.Menu.LastLabel, 10000);
+  EXPECT_EQ(desk.Menu.Pages().CurMenu(), 294);
+  EXPECT_EQ(desk.Menu.Pages().LastLabel(), 10000);
   EXPECT_EQ(desk.Menu.Lbl[10000].Caption(), "Item 10000");
   desk.Menu.HideMenu();
   desk.Reopen(1);
-  EXPECT_EQ(desk.Menu.CurMenu, 294);
+  EXPECT_EQ(desk.Menu.Pages().CurMenu(), 294);
 }
 
 TEST(frmQMenuSize, AKeptPictureIsNoLargerThanTheInsideOfItsWindow) {
@@ -495,7 +531,7 @@ TEST(frmQMenuSize, NoMoreRecordsAreReadThanTheirNumbersCanCount) {
   for (int i = 0; i < 33000; ++i) bytes += record;
   desk.World.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", bytes);
   desk.Reopen(1);
-  EXPECT_EQ(desk.Menu.Labels, 32766);
+  EXPECT_EQ(desk.Menu.Items().Count(), 32766);
 }
 
 }  // namespace

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
+#include "menus/HeldKeys.h"
 #include "menus/MenuDesk.h"
 
 namespace corvelle {
@@ -16,7 +18,7 @@ class PagedMenu : public ::testing::Test {
  protected:
   void SetUp() override {
     desk_.Open(1, Items(100));
-    ASSERT_EQ(desk_.Menu.Slides, 2);
+    ASSERT_EQ(desk_.Menu.Pages().Slides(), 2);
   }
   void Key(int key) { desk_.World.Desktop.PressKey(key); }
   int Selected() const { return desk_.TheProgram.Menu.SelectedItem; }
@@ -156,21 +158,110 @@ TEST(frmQMenuKeys, ADisabledItemIsReachedWithoutABar) {
   EXPECT_EQ(desk.BarredItem(), 3);
 }
 
+TEST(HeldKeys, ComeInTheirOrderAndNotMoreThanAHandTypesAhead) {
+  HeldKeys keys;
+  EXPECT_EQ(keys.Take(), std::nullopt);
+  for (int i = 1; i <= 40; ++i) keys.Hold({.Code = i});
+  for (int i = 1; i <= 32; ++i) EXPECT_EQ(keys.Take(), HeldKey{.Code = i});
+  EXPECT_TRUE(keys.IsEmpty());
+  keys.Hold({.Character = U'a', .FromStrip = true});
+  EXPECT_EQ(keys.Take(), (HeldKey{.Character = U'a', .FromStrip = true}));
+  keys.Hold({.Code = 1});
+  keys.Forget();
+  EXPECT_TRUE(keys.IsEmpty());
+}
+
+/// Has keys come while the first icon of a menu of three items is looked for.
+void OpenTyping(MenuDesk& desk, const std::function<void()>& type) {
+  bool typed = false;
+  desk.World.Icons.WhileAsked([&] {
+    if (std::exchange(typed, true)) return;
+    EXPECT_TRUE(desk.TheProgram.Guards.MenuBuilding);
+    type();
+    EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
+  });
+  desk.Open(
+      1, {Item("Alpha", "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe 1"),
+          Item("Beta", "", "C:\\Tools\\tool.exe 2"), Item("Gamma", "", "C:\\Tools\\tool.exe 3")});
+  desk.World.Icons.WhileAsked({});
+  EXPECT_TRUE(typed);
+  desk.World.Desktop.Advance(10);
+}
+
+TEST(TypingAhead, KeysThatComeWhileAMenuIsBuiltActOnceItIsUp) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.World.Desktop.PressKey(forms::key::Down);
+    desk.World.Desktop.PressKey(forms::key::Down);
+  });
+  EXPECT_EQ(desk.BarredItem(), 2);
+  // The next one is not held any more.
+  desk.World.Desktop.PressKey(forms::key::Down);
+  EXPECT_EQ(desk.BarredItem(), 3);
+}
+
+TEST(TypingAhead, ALetterAndEnterStartTheItem) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.World.Desktop.Type("g");
+    desk.World.Desktop.PressKey(forms::key::Enter);
+  });
+  EXPECT_FALSE(desk.Menu.MenuVisible());
+  EXPECT_EQ(desk.Started(), std::vector<std::string>{"C:\\Tools\\tool.exe 3"});
+}
+
+TEST(TypingAhead, EscClosesTheMenuAndWhatIsTypedBehindItIsForgotten) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.World.Desktop.PressKey(forms::key::Escape);
+    desk.World.Desktop.PressKey(forms::key::Down);
+  });
+  EXPECT_FALSE(desk.Menu.MenuVisible());
+  desk.Reopen(1);
+  desk.World.Desktop.Advance(10);
+  EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
+}
+
+TEST(TypingAhead, KeysThatTheStripGetsWhileAMenuIsBuiltAreHeldToo) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.Menu.ActivateKeyDown(forms::key::Down);
+    desk.Menu.xKeyPress(U'b');
+  });
+  EXPECT_EQ(desk.BarredItem(), 2);
+}
+
+TEST(TypingAhead, APageThatIsDrawnForTheFirstTimeHoldsThemAsWell) {
+  MenuDesk desk;
+  std::vector<MenuRecord> items = Items(100);
+  items[40].FIcon = "C:\\Tools\\tool.exe";
+  desk.Open(1, items);
+  bool typed = false;
+  desk.World.Icons.WhileAsked([&] {
+    if (!std::exchange(typed, true)) desk.World.Desktop.PressKey(forms::key::PageDown);
+  });
+  desk.World.Desktop.PressKey(forms::key::PageDown);
+  desk.World.Desktop.Advance(10);
+  EXPECT_EQ(desk.Menu.Pages().CurMenu(), 2);
+}
+
 TEST(frmQMenuKeys, F5ReadsTheIconsAndTheMenuAnew) {
   MenuDesk desk;
   desk.Open(1, {Item("Alpha", "C:\\Tools\\tool.exe")});
   desk.World.Icons.ClearCounts();
   desk.World.Desktop.PressKey(forms::key::F5);
-  // The item's, the header's, and the blank document that stands in for that.
-  EXPECT_EQ(desk.World.Icons.Lookups(), 3);
   EXPECT_EQ(desk.Strip.Times("RefreshMenu F2"), 1);
+  desk.Menu.ForgetMenu("F2");
+  desk.Open(1, {Item("Changed", "C:\\Tools\\tool.exe")});
+  EXPECT_EQ(desk.World.Icons.Lookups(), 1);
+  EXPECT_EQ(desk.Menu.Lbl[1].Caption(), "Changed");
 }
 
 TEST_F(PagedMenu, UpAtTheFirstItemWrapsAndTurnsNoPage) {
   Key(forms::key::Down);
   Key(forms::key::Up);
   EXPECT_EQ(Selected(), 34);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, PagingKeysTurnToWhereTheyLead) {
@@ -191,9 +282,9 @@ TEST_F(PagedMenu, PagingKeysTurnToWhereTheyLead) {
   };
   for (const Row& row : rows) {
     Key(row.key);
-    EXPECT_EQ(desk_.Menu.CurMenu, row.page) << row.name;
-    EXPECT_EQ(desk_.Menu.FirstLabel, row.first) << row.name;
-    EXPECT_EQ(desk_.Menu.LastLabel, row.last) << row.name;
+    EXPECT_EQ(desk_.Menu.Pages().CurMenu(), row.page) << row.name;
+    EXPECT_EQ(desk_.Menu.Pages().FirstLabel(), row.first) << row.name;
+    EXPECT_EQ(desk_.Menu.Pages().LastLabel(), row.last) << row.name;
     for (int i = 1; i <= desk_.Menu.LoadedLabels(); ++i) {
       EXPECT_EQ(desk_.Menu.Lbl[i].Visible(), i >= row.first && i <= row.last) << row.name << i;
     }
@@ -232,14 +323,14 @@ TEST_F(PagedMenu, AfterEndALetterIsLookedForFromTheLastPageOn) {
   Key(forms::key::End);
   desk_.World.Desktop.Type("i");
   EXPECT_EQ(Selected(), 69);
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
 }
 
 TEST_F(PagedMenu, AfterPgDnALetterIsLookedForFromThePageThatWasLeft) {
   Key(forms::key::PageDown);
   desk_.World.Desktop.Type("i");
   EXPECT_EQ(Selected(), 34);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, ReopeningShowsThePageOnWhichItWasLeft) {
@@ -249,8 +340,8 @@ TEST_F(PagedMenu, ReopeningShowsThePageOnWhichItWasLeft) {
   desk_.Menu.HideMenu();
   desk_.World.Files.ClearLog();
   desk_.Reopen(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
-  EXPECT_EQ(desk_.Menu.FirstLabel, 35);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
+  EXPECT_EQ(desk_.Menu.Pages().FirstLabel(), 35);
   EXPECT_TRUE(desk_.Menu.Lbl[35].Visible());
   EXPECT_FALSE(desk_.Menu.Lbl[1].Visible());
   EXPECT_TRUE(desk_.Menu.LblButton[0].Enabled());
@@ -261,9 +352,9 @@ TEST_F(PagedMenu, ARebuiltMenuGoesBackToItsPage) {
   Key(forms::key::End);
   desk_.Menu.ForgetMenu("F2");
   desk_.Reopen(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   desk_.Menu.GetCurMenu();
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
   EXPECT_TRUE(desk_.Menu.Lbl[69].Visible());
   EXPECT_FALSE(desk_.Menu.Lbl[1].Visible());
 }
@@ -273,7 +364,7 @@ TEST_F(PagedMenu, AShorterMenuGoesBackToItsLastPage) {
   desk_.Menu.ForgetMenu("F2");
   desk_.Open(1, Items(40));
   desk_.Menu.GetCurMenu();
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
 }
 
 TEST_F(PagedMenu, AfterARefreshThePageIsTheOneThatWasUpAndNoneOfLongAgo) {
@@ -282,39 +373,39 @@ TEST_F(PagedMenu, AfterARefreshThePageIsTheOneThatWasUpAndNoneOfLongAgo) {
   // Something that changed the menu meanwhile: it begins at its first page again.
   desk_.Menu.ForgetMenu("F2");
   desk_.Reopen(1);
-  ASSERT_EQ(desk_.Menu.CurMenu, 0);
+  ASSERT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   desk_.Menu.HideMenu();
   desk_.Menu.ForgetMenu("F2");
   desk_.Reopen(1);
   desk_.Menu.GetCurMenu();
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, ThePageOfOneMenuIsNoneOfAnother) {
   Key(forms::key::End);
   desk_.Open(2, Items(100));
   desk_.Menu.GetCurMenu();
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, TheArrowButtonsTurnThePages) {
   desk_.ClickArrow(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
   desk_.ClickArrow(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
   desk_.ClickArrow(1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
   desk_.ClickArrow(0);
   desk_.ClickArrow(0);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
-  EXPECT_EQ(desk_.Menu.FirstLabel, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
+  EXPECT_EQ(desk_.Menu.Pages().FirstLabel(), 1);
   EXPECT_TRUE(desk_.Menu.MenuVisible());
 }
 
 TEST_F(PagedMenu, ADoubleClickOnAnArrowTurnsTwoPages) {
   desk_.PointAt(desk_.ArrowPoint(1));
   desk_.World.Desktop.DoubleClick();
-  EXPECT_EQ(desk_.Menu.CurMenu, 2);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 2);
 }
 
 TEST_F(PagedMenu, AnArrowIsFramedUnderThePointerAndSunkenWhilePressed) {
@@ -334,7 +425,7 @@ TEST_F(PagedMenu, AnArrowIsFramedUnderThePointerAndSunkenWhilePressed) {
   EXPECT_EQ(desk_.Menu.LineRight.BorderColor(), forms::color::Highlight3D);
   desk_.World.Desktop.Release();
   EXPECT_EQ(desk_.Menu.LineLeft.BorderColor(), forms::color::Highlight3D);
-  desk_.PointAtItem(desk_.Menu.FirstLabel);
+  desk_.PointAtItem(desk_.Menu.Pages().FirstLabel());
   EXPECT_FALSE(desk_.Menu.LineLeft.Visible());
   EXPECT_EQ(desk_.Menu.ActiveArrow, frmQMenu::kNoArrow);
 }
@@ -344,14 +435,14 @@ TEST_F(PagedMenu, AReleaseBesideTheArrowTurnsNothing) {
   desk_.World.Desktop.Press();
   desk_.PointAtItem(5);
   desk_.World.Desktop.Release();
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   EXPECT_TRUE(desk_.Menu.MenuVisible());
 }
 
 TEST_F(PagedMenu, TheRightButtonTurnsNothing) {
   desk_.PointAt(desk_.ArrowPoint(1));
   desk_.World.Desktop.Click(MouseButton::Right);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, LeavingTheMenuTakesTheFrameOfAnArrowAway) {
@@ -426,7 +517,7 @@ TEST(frmQMenuTypeAhead, ALetterThatOnlyLaterPagesHoldTurnsToThem) {
   for (const Row& row : {Row{5, 0}, Row{50, 1}, Row{90, 2}, Row{5, 0}}) {
     desk.World.Desktop.Type("z");
     EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, row.item);
-    EXPECT_EQ(desk.Menu.CurMenu, row.page) << row.item;
+    EXPECT_EQ(desk.Menu.Pages().CurMenu(), row.page) << row.item;
     EXPECT_EQ(desk.BarredItem(), row.item);
     EXPECT_TRUE(desk.Menu.Lbl[row.item].Visible());
   }
@@ -448,24 +539,24 @@ TEST_F(PagedMenu, AReleaseJustPastTheArrowsSideTurnsNothing) {
   const forms::Label& arrow = desk_.Menu.LblButton[1];
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, arrow.Width(), 0);
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 0, arrow.Height());
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, arrow.Width() - 1, arrow.Height() - 1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
 }
 
 TEST_F(PagedMenu, AReleaseOnTheArrowsFirstPixelTurnsThePage) {
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 0, 0);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
   desk_.Menu.LblButton_MouseUp(0, MouseButton::Left, -1, 0);
   desk_.Menu.LblButton_MouseUp(0, MouseButton::Left, 0, -1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
 }
 
 TEST_F(PagedMenu, WhatIsCarriedIsPutDownOnAnArrowAndTurnsNoPage) {
   desk_.TheProgram.Entry.ItemDragging = true;
   desk_.Menu.LblButton_MouseUp(1, MouseButton::Left, 15, 15);
   desk_.TheProgram.Entry.ItemDragging = false;
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
 }
 
 TEST_F(PagedMenu, ARaisedArrowIsNotSeenInTheNextMenu) {

@@ -59,7 +59,8 @@ struct NotedFolders final : SpecialFoldersPort {
 /// Expands every menu to the same one.
 struct ExpandedMenus final : FolderMenusPort {
   ExpandedMenu Generated;
-  std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
+  std::optional<ExpandedMenu> Expand(std::string_view, std::string_view,
+                                     std::string_view) override {
     return Generated;
   }
   bool WriteGenerated(const ExpandedMenu&) override { return true; }
@@ -90,7 +91,7 @@ struct DragDesk : MenuDesk {
   void DragToItem(int item) { PointAtItem(item); }
   /// Below the last item, where no item is selected.
   void DragBelow() {
-    const forms::Label& last = Menu.Lbl[Menu.LastLabel];
+    const forms::Label& last = Menu.Lbl[Menu.Pages().LastLabel()];
     PointAt(OnScreen(600, last.Top() + last.Height() + 90));
   }
   void Drop(MouseButton button = MouseButton::Left) { World.Desktop.Release(button); }
@@ -201,11 +202,9 @@ TEST(MenuOLEDragDrop, AnEntryOfAFolderItemStandsForTheItemInTheStoredFile) {
   const std::string generated = desk.TheProgram.Paths.MenusPath + "BMENU001.mfd";
   desk.World.Files.Put(generated, "for others");
   ExpandedMenus folders;
-  folders.Generated = {
-      generated,
-      {Item("Button", "Button", ""), Item("Item 1"), Item("First"), Item("Second")},
-      {{1, ""}, {2, ""}, {5003, ""}, {5003, ""}},
-      ""};
+  folders.Generated = {.File = generated,
+                       .Items = {ItemOf(Item("Button", "Button", ""), 1), ItemOf(Item("Item 1"), 2),
+                                 ItemOf(Item("First"), 5003), ItemOf(Item("Second"), 5003)}};
   desk.TheProgram.Ports.FolderMenus = &folders;
   desk.Menu.ForgetMenu("F2");
   desk.Reopen(1);

@@ -169,6 +169,15 @@ TEST(frmQMenuProgress, CaptionsStandBeforeTheIconsAndIconsComeOneByOne) {
                        std::to_string(icons));
       return world_.Icons.FileInfo(path, list);
     }
+    std::optional<std::string> DisplayName(std::string_view path) override {
+      return world_.Icons.DisplayName(path);
+    }
+    std::optional<IconPixels> PixelsOfFile(std::string_view path, IconList list) override {
+      return world_.Icons.PixelsOfFile(path, list);
+    }
+    std::optional<IconPixels> PixelsInFile(std::string_view file, int index, int size) override {
+      return world_.Icons.PixelsInFile(file, index, size);
+    }
     int IconWidth(IconList list) override { return world_.Icons.IconWidth(list); }
     bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                         IconStyle style) override {
@@ -207,7 +216,7 @@ TEST(frmQMenuProgress, CaptionsStandBeforeTheIconsAndIconsComeOneByOne) {
 
 TEST_F(Painted, APageIsDrawnWhenItIsFirstShownAndStandsAtOnceTheSecondTime) {
   desk_.Open(1, Tools(80));
-  ASSERT_EQ(desk_.Menu.Slides, 2);
+  ASSERT_EQ(desk_.Menu.Pages().Slides(), 2);
   EXPECT_EQ(desk_.World.Icons.Lookups(), 34);
   desk_.World.Desktop.PressKey(forms::key::PageDown);
   EXPECT_EQ(desk_.World.Icons.Lookups(), 68);
@@ -290,10 +299,10 @@ TEST_F(Painted, AReleaseOnAnArrowWhileAPageIsDrawnTurnsToNoOther) {
   });
   desk_.Open(1, Tools(100));
   EXPECT_GE(asked, 5);
-  EXPECT_EQ(desk_.Menu.CurMenu, 0);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 0);
   EXPECT_EQ(IconColour(1), ToolColour(0));
   desk_.Menu.LblButton_MouseUp(1, forms::MouseButton::Left, 1, 1);
-  EXPECT_EQ(desk_.Menu.CurMenu, 1);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
 }
 
 TEST_F(Painted, AnIconWithoutAFaceShowsTheNewColourOfItsGround) {
@@ -357,7 +366,7 @@ TEST_F(Painted, NoRuleOfAnotherPageIsSeen) {
   std::vector<MenuRecord> items = Items(60);
   items.insert(items.begin() + 5, Separator());
   desk_.Open(1, items);
-  ASSERT_GT(desk_.Menu.Slides, 0);
+  ASSERT_GT(desk_.Menu.Pages().Slides(), 0);
   const int rule = 6 + 20 * 4 + 13 + 9;
   EXPECT_EQ(desk_.PixelInside(80, rule), desk_.SystemColour(forms::color::ButtonShadow));
   desk_.World.Desktop.PressKey(forms::key::PageDown);
@@ -468,7 +477,8 @@ TEST(frmQMenuHourglass, ShowsWhileTheMenuIsBuiltUnlessAnItemIsDragged) {
     class Looking final : public FolderMenusPort {
      public:
       explicit Looking(MenuDesk& desk) : desk_(desk) {}
-      std::optional<ExpandedMenu> Expand(std::string_view, std::string_view) override {
+      std::optional<ExpandedMenu> Expand(std::string_view, std::string_view,
+                                         std::string_view) override {
         Then = desk_.World.Desktop.CurrentMousePointer();
         return std::nullopt;
       }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/MenuFile.h"
+#include "menus/FolderMenusPort.h"
 #include "toolbar/CarryDesk.h"
 #include "toolbar/StripDesk.h"
 
@@ -105,26 +106,23 @@ TEST(Carry, NothingIsTakenFromOrPutIntoTheProgramsOwnMenu) {
 
 TEST(Carry, AnItemOfAGeneratedMenuComesFromTheStoredFile) {
   struct Generated final : FolderMenusPort {
-    explicit Generated(FileSystem& disk) : Disk(disk) {}
-    std::optional<ExpandedMenu> Expand(std::string_view, std::string_view menuFile) override {
-      const auto line = [](const char* title) {
-        return MenuRecord{title, "C:\\Tools\\tool.exe",
-                          "C:\\Tools\\tool.exe " + std::string(title)};
+    std::optional<ExpandedMenu> Expand(std::string_view, std::string_view,
+                                       std::string_view) override {
+      const auto line = [](const char* title, int record) {
+        return ItemOf({title, "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe " + std::string(title)},
+                      record);
       };
       // B is a folder item here: its two files stand in its place.
       return ExpandedMenu{
-          "C:\\Corvelle\\Menus\\BMENU001.mfd",
-          {{"Menu", "Button", ""}, line("A"), line("one"), line("two"), line("C"), line("D")},
-          {{1, ""}, {2, ""}, {5003, ""}, {5003, ""}, {4, ""}, {5, ""}},
-          ReadStoredRecords(Disk, menuFile).ValueOr({})};
+          .File = "C:\\Corvelle\\Menus\\BMENU001.mfd",
+          .Items = {ItemOf({"Menu", "Button", ""}, 1), line("A", 2), line("one", 5003),
+                    line("two", 5003), line("C", 4), line("D", 5)}};
     }
     bool WriteGenerated(const ExpandedMenu&) override { return true; }
     bool UpdateMenu(std::string_view) override { return false; }
-
-    FileSystem& Disk;
   };
   CarryDesk desk;
-  Generated folders(desk.World.Files);
+  Generated folders;
   desk.TheProgram.Ports.FolderMenus = &folders;
   desk.Start();
   // A stored item dropped on a generated one comes to stand before its folder.
@@ -187,7 +185,7 @@ TEST(Carry, WithCtrlHeldAtTheEndItIsACopy) {
   desk.To(desk.ItemPoint(1));
   desk.Release();
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"C", "A", "B", "C", "D"}));
-  EXPECT_EQ(desk.Menu.Labels, 5);
+  EXPECT_EQ(desk.Menu.Items().Count(), 5);
 }
 
 TEST(Carry, PutDownOnItselfChangesNothing) {
@@ -283,10 +281,10 @@ TEST(Carry, OpensTheMenusOnItsWayAlongTheStrip) {
   EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "C", "D"}));
   EXPECT_EQ(desk.ItemsOf(2), (Titles{"X", "B", "Y"}));
   EXPECT_EQ(desk.MenuUp(), 3);
-  EXPECT_EQ(desk.Menu.Labels, 3);
+  EXPECT_EQ(desk.Menu.Items().Count(), 3);
   // The menu that it came from is read anew as well.
   desk.Open(2);
-  EXPECT_EQ(desk.Menu.Labels, 3);
+  EXPECT_EQ(desk.Menu.Items().Count(), 3);
   EXPECT_EQ(desk.Menu.Lbl[2].Caption(), "C");
 }
 

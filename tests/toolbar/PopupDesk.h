@@ -70,7 +70,7 @@ struct PopupDesk : StripDesk {
   [[nodiscard]] std::string Shown() const {
     std::string shown;
     if (!RealMenu.MenuVisible()) return shown;
-    for (int i = RealMenu.FirstLabel; i <= RealMenu.LastLabel; ++i) {
+    for (int i = RealMenu.Pages().FirstLabel(); i <= RealMenu.Pages().LastLabel(); ++i) {
       shown += RealMenu.Lbl[i].Caption() + "|";
     }
     return shown;

@@ -305,7 +305,7 @@ TEST(StripAndMenu, ARebuildLetsTheMenuShowTheNewFile) {
                        Records({Entry("Menu 1"), Entry("Only", "", "C:\\Tools\\m1i1.exe")}));
   desk.Strip.InitNewButtons();
   desk.Click(2);
-  EXPECT_EQ(desk.RealMenu.Labels, 1);
+  EXPECT_EQ(desk.RealMenu.Items().Count(), 1);
 }
 
 TEST(StripAndMenu, F5ShowsTheOldMenuUntilTheNewOneStands) {
@@ -431,7 +431,7 @@ TEST(StripAndMenu, AFileHeldByAnotherProgramOpensAnEmptyMenuOrNoneAndTheNextOneC
   desk.World.Files.HoldOpen("C:\\Corvelle\\Menus\\BMENU001.MNU");
   desk.Click(2);
   desk.Wait(200);
-  EXPECT_EQ(desk.RealMenu.Labels, 0);
+  EXPECT_EQ(desk.RealMenu.Items().Count(), 0);
   desk.PointAtButton(3);
   desk.Wait(200);
   EXPECT_EQ(desk.RealMenuUp(), 3);

@@ -56,15 +56,10 @@ class StandInMenu final : public forms::Form, public QMenuPort {
   const std::string& CurrentKey() const override { return key_; }
   void ShowMenu(std::string_view menuKey, std::string_view menuFile) override;
   void HideMenu() override { Hide(); }
-  void ResetQMenu() override { Asked.emplace_back("ResetQMenu"); }
   void ForgetMenu(std::string_view menuKey) override { Built.erase(std::string(menuKey)); }
-  bool HasBuiltMenu(std::string_view menuKey) const override {
-    return Built.contains(std::string(menuKey));
-  }
+  bool HasBuiltMenu(std::string_view menuKey) const { return Built.contains(std::string(menuKey)); }
   void SetPoll(bool enabled) override { Poll = enabled; }
-  void SetPollInterval(int) override {}
-  float MenuWidth() const override { return Width(); }
-  float MenuHeight() const override { return Height(); }
+  TwipSize MenuSize() const override { return {Width(), Height()}; }
   void MoveMenu(float left, float top) override { Move(left, top, Width(), Height()); }
   void ActivateKeyDown(int keyCode) override {
     Asked.push_back("ActivateKeyDown " + std::to_string(keyCode));

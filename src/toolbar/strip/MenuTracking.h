@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,7 @@
 #include "base/Twips.h"
 #include "forms/Types.h"
 #include "platform/WindowId.h"
+#include "toolbar/layout/StripPlace.h"
 #include "toolbar/layout/StripWindow.h"
 #include "toolbar/strip/HintTimes.h"
 
@@ -66,6 +68,8 @@ class MenuTracking {
   void ResetMenu();
   /// Places the menu window against the strip.
   void SetMenuPosition();
+  /// Where the top of a menu of the current button goes.
+  [[nodiscard]] float TopOfMenu() const;
 
   // ---- the pointer (MenuTrackingPointer.cpp) ----
 
@@ -101,8 +105,9 @@ class MenuTracking {
   HintTimes Hint;
 
  private:
+  /// Where a menu of that size goes; nothing without a button that it belongs to.
+  [[nodiscard]] std::optional<MenuSpot> SpotFor(const TwipSize& menu) const;
   void ShowMenuOf(int button);
-  [[nodiscard]] std::string MainMenuFile();
   void ReopenMenu(const std::string& tag);
   /// The strip becomes active if the menu is.
   void TakeOverFromMenu();

@@ -138,6 +138,7 @@ class frmToolbar final : public forms::Form,
   void RefreshMenu(std::string_view tag) override { Menus.RefreshMenu(tag); }
   void ResetMenu() override { Menus.ResetMenu(); }
   void SetMenuPosition() override { Menus.SetMenuPosition(); }
+  [[nodiscard]] float TopOfMenu() const override { return Menus.TopOfMenu(); }
   void RemoveQMenu(std::string_view tag) override { Menus.RemoveQMenu(tag); }
   int dragCurButton() override { return Drops.dragCurButton(); }
   void DoButtonDrag(int button, forms::MouseButton released) override {

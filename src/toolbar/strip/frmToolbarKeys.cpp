@@ -14,8 +14,15 @@ constexpr char32_t kBlank = 32;
 
 void frmToolbar::Form_KeyDown(int keyCode, forms::ShiftState /*shift*/) {
   if (program_.Entry.ItemDragging) return;
-  // A menu that is being built is not up yet, and Enter is meant for it: it must not close it.
-  if (program_.Guards.MenuBuilding && keyCode != forms::key::Escape) return;
+  // A menu that is being built is not up yet, and keys are meant for it: Enter must not close it.
+  if (program_.Guards.MenuBuilding && keyCode != forms::key::Escape) {
+    if (keyCode == forms::key::Enter) {
+      program_.Ports.QMenu->xKeyPress(static_cast<char32_t>(forms::key::Enter));
+    } else {
+      program_.Ports.QMenu->ActivateKeyDown(keyCode);
+    }
+    return;
+  }
   switch (keyCode) {
     case forms::key::Escape:
       ResetMenu();
@@ -73,7 +80,8 @@ void frmToolbar::EnterCurButton() {
 }
 
 void frmToolbar::Form_KeyPress(char32_t character) {
-  if (character > kBlank && MenuUp()) program_.Ports.QMenu->xKeyPress(character);
+  if (character > kBlank && (MenuUp() || program_.Guards.MenuBuilding))
+    program_.Ports.QMenu->xKeyPress(character);
 }
 
 void frmToolbar::ActivateKeyDown(int keyCode) {

@@ -1,18 +1,16 @@
-// Icons fetched before a menu asks for them.
+#include "menus/IconPrefetch.h"
 
 #include <optional>
 
-#include "base/Text.h"
-#include "core/MenuFile.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
 #include "menus/IconWalk.h"
-#include "menus/frmQMenu.h"
+#include "menus/MenuIcons.h"
 #include "platform/FileSystem.h"
 
 namespace corvelle {
 
-void frmQMenu::InitIcons() {
+void IconPrefetch::InitIcons() {
   FileSystem& files = program_.Services.Files;
   if (program_.Guards.MenuBuilding || program_.Guards.IconsLoading) return;
   // No menu can be asked for while the strip is away.
@@ -32,24 +30,11 @@ void frmQMenu::InitIcons() {
   }
 }
 
-void frmQMenu::LoadIconsOf(const std::string& menuFile) {
+void IconPrefetch::LoadIconsOf(const std::string& menuFile) {
   const IconTexts texts = IconTextsOf(program_, menuFile);
   icons_.LoadSmallIcon(texts.Button);
   icons_.FetchButtonIcon(texts.Button);
   for (const std::string& text : texts.Items) icons_.LoadSmallIcon(text);
 }
-
-void frmQMenu::InitMenuIcons(std::string_view menuFile) {
-  const std::string file(menuFile);
-  if (EqualNoCase(file, program_.Paths.AppPath + std::string(kMainMenuFileName))) {
-    // Where it cannot be written the old one has the same icons.
-    static_cast<void>(
-        WriteMainMenuFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath));
-  }
-  const forms::FlagScope loading(program_.Guards.IconsLoading);
-  LoadIconsOf(file);
-}
-
-void frmQMenu::ResetPicIcons() { icons_.ResetPicIcons(); }
 
 }  // namespace corvelle
