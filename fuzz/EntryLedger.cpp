@@ -21,13 +21,26 @@ EntryLedger::EntryLedger(const sim::SimFiles& files, std::string_view folder) {
     const auto bytes = files.Get(std::string(folder) + name);
     if (!bytes) continue;
     for (std::size_t at = 0; at + kRecordLength <= bytes->size(); at += kRecordLength) {
-      const MenuRecord record =
-          ParseRecord(std::string_view(*bytes).substr(at, kRecordLength), ansi);
-      // Blanks at the ends are lost on the way through the windows, which is no loss.
-      ++entries_[Trim(record.FTitle) + '\n' + Trim(record.FIcon) + '\n' + Trim(record.FName)];
-      ++size_;
+      Add(ParseRecord(std::string_view(*bytes).substr(at, kRecordLength), ansi));
     }
   }
+}
+
+EntryLedger::EntryLedger(const MenuSet& set, const CodePage& ansi) {
+  const auto add = [&](const MenuRecord& record) {
+    Add(ParseRecord(FormatRecord(record, ansi), ansi));
+  };
+  for (const Menu& menu : set.Menus) {
+    add(menu.Head);
+    for (const MenuRecord& item : menu.Items) add(item);
+  }
+  for (const MenuRecord& single : set.Singles) add(single);
+}
+
+void EntryLedger::Add(const MenuRecord& record) {
+  // Blanks at the ends are lost on the way through the windows, which is no loss.
+  ++entries_[Trim(record.FTitle) + '\n' + Trim(record.FIcon) + '\n' + Trim(record.FName)];
+  ++size_;
 }
 
 int EntryLedger::Lost(const EntryLedger& before, std::string& first) const {

@@ -4,6 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/CodePage.h"
+#include "core/MenuRecord.h"
+#include "customize/MenuSet.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle::fuzz {
@@ -15,12 +18,16 @@ class EntryLedger {
   EntryLedger() = default;
   /// Nothing when the folder is missing.
   EntryLedger(const sim::SimFiles& files, std::string_view folder);
+  /// The entries of a set of menus, as records hold them.
+  EntryLedger(const MenuSet& set, const CodePage& ansi);
 
   /// How many entries of `before` are not here any more; `first` becomes the texts of one of them.
   [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
   [[nodiscard]] int Size() const noexcept { return size_; }
 
  private:
+  void Add(const MenuRecord& record);
+
   std::map<std::string, int> entries_;
   int size_ = 0;
 };

@@ -281,6 +281,8 @@ PixelPoint MonkeyLife::DropPoint() {
     case 7:
       return PointIn("picSingleButton");
     default:
+      if (forms::Form* const window = WindowInFront(); window != nullptr && Chance(70))
+        return PointInControl(*window);
       return Chance(50) ? PointIn("frmQMenu") : OnScreen();
   }
 }

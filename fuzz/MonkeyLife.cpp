@@ -41,11 +41,17 @@ const std::array<std::string, 12> kIcons = {"",
                                             "imgIcons help",
                                             "CSIDL_DRIVES",
                                             "no such file|3"};
-const std::array<std::string, 10> kCommands = {"C:\\Tools\\tool.exe",     "",
-                                               "?C:\\Tools\\tool.exe /x", "http://a.example/",
-                                               "mailto:a@b.example",      "FileFind",
-                                               "C:\\Docs\\*.*/U",         "CSIDL_PROGRAMS/UE",
-                                               "C:\\Docs\\*.txt /X",      "ClearTempFolder"};
+const std::array<std::string, 11> kCommands = {"C:\\Tools\\tool.exe",
+                                               "",
+                                               "?C:\\Tools\\tool.exe /x",
+                                               "http://a.example/",
+                                               "mailto:a@b.example",
+                                               "FileFind",
+                                               "C:\\Docs\\*.*/U",
+                                               "CSIDL_PROGRAMS/UE",
+                                               "C:\\Docs\\*.txt /X",
+                                               "ClearTempFolder",
+                                               "NetSearch"};
 
 template <class List>
 const auto& Pick(const List& list, std::mt19937_64& random) {
@@ -144,6 +150,9 @@ void MonkeyLife::Furnish() {
     tally_.Note("box: " + box.Text);
     if (Chance(30)) WhileUp("box");
   });
+  world_->Desktop.AnswerAnyDialog(
+      [this](const forms::FileQuestion& question) { return ChooseFiles(question); },
+      [this](const forms::FolderQuestion&) { return ChooseFolder(); });
 }
 
 // ---- events ----
@@ -185,6 +194,10 @@ void MonkeyLife::Act() {
       if (quiet_) return;
     }
   }
+  if (forms::Form* const window = WindowInFront(); window != nullptr && Chance(45)) {
+    plan_.clear();
+    return UseWindow(*window);
+  }
   // Now and then something comes between.
   if (plan_.empty() || Chance(8)) return ActAtRandom();
   const Step step = std::move(plan_.front());
@@ -197,14 +210,6 @@ std::string MonkeyLife::Live(int events) {
   TakeStock();
   if (disk_ != Disk::Well && Chance(40)) SpoilDisk();
   parts_ = std::make_unique<Parts>(world_->Services(), world_->Windows());
-  // The monkey has no hand for windows with controls yet: the ways to them lead nowhere.
-  WindowPorts& ports = parts_->TheProgram.Ports;
-  ports.WebLink = nullptr;
-  ports.Properties = nullptr;
-  ports.Customize = nullptr;
-  ports.NetSearch = nullptr;
-  ports.About = nullptr;
-  ports.Help = nullptr;
   const bool started = Main(parts_->TheProgram);
   if (!started && disk_ == Disk::Well) return "the program does not start";
   world_->Desktop.Pump();
@@ -213,7 +218,13 @@ std::string MonkeyLife::Live(int events) {
   for (lived_ = 0; started && lived_ < events && wrong.empty(); ++lived_) {
     lossesAllowed_ = 0;
     deleting_.clear();
+    windowUsed_ = false;
+    filesChangedInside_ = false;
+    NoteTree();
+    propertiesUp_ = parts_->Properties.IsLoaded();
+    const bool before = TreeIsAtHand();
     Act();
+    windowUsed_ = windowUsed_ || before || TreeIsAtHand();
     if (world_->Desktop.QuitCalled() || !parts_->Companion.WindowLoaded()) break;
     wrong = WhatIsWrong();
     if (!wrong.empty()) wrong += " (event " + std::to_string(lived_) + ")";

@@ -115,6 +115,36 @@ class MonkeyLife {
   [[nodiscard]] std::string PickFrom(const std::vector<const forms::PopupItem*>& offered);
   void WhileUp(std::string_view what);
 
+  // ---- the windows with controls (MonkeyWindows.cpp) ----
+
+  /// Those that are loaded.
+  [[nodiscard]] std::vector<forms::Form*> OpenWindows() const;
+  /// One that takes input, the foreground one before others; null when there is none.
+  [[nodiscard]] forms::Form* WindowInFront();
+  [[nodiscard]] PixelPoint PointInControl(const forms::Form& form);
+  /// One gesture in it.
+  void UseWindow(forms::Form& form);
+  void PressWith(int held, int key);
+  void TypeInWindow();
+  void DragInWindow(const forms::Form& form);
+  void ChooseFromBar(const forms::Form& form);
+  void CloseInFront(forms::Form& form);
+  void ThinkOfAnswers();
+  [[nodiscard]] forms::FileChoice ChooseFiles(const forms::FileQuestion& question);
+  [[nodiscard]] forms::FolderChoice ChooseFolder();
+  void ChooseInWindow(const sim::Popup& popup);
+  [[nodiscard]] std::string WrongLink();
+  [[nodiscard]] std::string WrongTree();
+  [[nodiscard]] bool MayBeDisabled(const sim::SimWindow& window) const;
+  /// The entries of the tree of Customize, as they would be saved.
+  [[nodiscard]] EntryLedger TreeEntries() const;
+  /// True if keys or the pointer reach Customize.
+  [[nodiscard]] bool TreeIsAtHand() const;
+  /// What the tree holds before an event.
+  void NoteTree();
+  [[nodiscard]] bool LostByASave(const EntryLedger& files) const;
+  [[nodiscard]] bool LostByProperties(const EntryLedger& before, int lost) const;
+
   // ---- what happens without the user (MonkeyWorld.cpp) ----
 
   void ChangeFiles();
@@ -173,9 +203,15 @@ class MonkeyLife {
   bool quiet_ = false;  // everything was let go a while ago
   bool insideUp_ = false;
   EntryLedger entries_;
-  int stockTaken_ = -1;    // SimFiles::Changes when entries_ was read
-  int lossesAllowed_ = 0;  // in this event
-  std::string deleting_;   // the file that goes with its button in this event
+  int stockTaken_ = -1;       // SimFiles::Changes when entries_ was read
+  int lossesAllowed_ = 0;     // in this event
+  EntryLedger tree_;          // of Customize, before this event
+  EntryLedger filesOfTree_;   // the files when the tree took them up last
+  bool customizeUp_ = false;  // before this event, as the next one
+  bool propertiesUp_ = false;
+  bool windowUsed_ = false;          // in this event
+  bool filesChangedInside_ = false;  // while something asked, in this event
+  std::string deleting_;             // the file that goes with its button in this event
   std::string placeBefore_;
   std::size_t boxesBefore_ = 0;
   int lived_ = 0;

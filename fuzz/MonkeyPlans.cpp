@@ -13,6 +13,7 @@ using forms::MouseButton;
 
 constexpr int kMainMenuButton = 1;
 constexpr int kMainMenuItems = 11;
+constexpr int kCustomizeItem = 1;
 constexpr int kExitItem = 11;
 constexpr int kReveal = 600;  // milliseconds in which a hidden strip has come out
 
@@ -70,6 +71,7 @@ void MonkeyLife::PlanMainMenu() {
   PlanMenu(kMainMenuButton);
   int item = 1 + Number(kMainMenuItems);
   if (item == kExitItem && Chance(90)) item = 1 + Number(kMainMenuItems - 1);
+  if (Chance(20)) item = kCustomizeItem;
   PlanMove([this, item] { return ItemPoint(item); });
   Plan([this, item] {
     const bool there = MenuUp() && parts_->Menu.MenuKey == "Q1" && parts_->Menu.Lbl.Has(item) &&
@@ -126,13 +128,16 @@ std::string MonkeyLife::PickFrom(const std::vector<const forms::PopupItem*>& off
   std::string caption;
   for (int tries = 3; tries > 0; --tries) {
     caption = offered[static_cast<std::size_t>(Number(static_cast<int>(offered.size())))]->Caption;
-    if (caption != "Refresh" && caption != "Properties") break;
+    if (caption != "Refresh" && (caption != "Properties" || Chance(30))) break;
   }
   return caption;
 }
 
 // The user's choice while a popup is up. What it may take away from the files is no loss.
 void MonkeyLife::ChooseFrom(const sim::Popup& popup) {
+  for (const forms::Form* form : OpenWindows()) {
+    if (popup.Owner == form->hWnd()) return ChooseInWindow(popup);
+  }
   // The command is for what was clicked, whatever becomes of the current entry meanwhile.
   const EntryEdit entry = parts_->TheProgram.Entry;
   if (Chance(15)) WhileUp("popup");
@@ -238,13 +243,16 @@ void MonkeyLife::PlanDrag() {
   PlanStripInSight();
   PlanMove([this] { return OnScreen(); });
   sim::DragSource source;
-  if (Chance(75)) {
+  const bool address = Chance(15);
+  if (address) {
+    source.Data.Text = kTexts[0];
+  } else if (Chance(75)) {
     source.Data.Files.emplace();
     for (int count = Number(4); count >= 0; --count)
       source.Data.Files->push_back(kDragged[static_cast<std::size_t>(Number(7))]);
     if (Chance(5)) source.Data.Files->clear();
   }
-  if (Chance(30)) source.Data.Text = kTexts[static_cast<std::size_t>(Number(5))];
+  if (!address && Chance(30)) source.Data.Text = kTexts[static_cast<std::size_t>(Number(5))];
   source.Button = Chance(65) ? MouseButton::Left : MouseButton::Right;
   if (Chance(20)) source.Allowed = static_cast<forms::DropEffect>(Number(8));
   Plan([this, source]() mutable {

@@ -87,7 +87,14 @@ std::vector<std::string> MonkeyTally::Missing() const {
                                                 "drag of text",
                                                 "drag given up",
                                                 "drag that left",
-                                                "drag whose source died"};
+                                                "drag whose source died",
+                                                "used frmCust",
+                                                "used frmProperties",
+                                                "used frmLibrary",
+                                                "used frmURL",
+                                                "used frmNetSearch",
+                                                "used frmAbout",
+                                                "dialog for a folder"};
   std::vector<std::string> missing;
   for (const std::string_view deed : kDeeds) {
     if (Count(deed) == 0) missing.emplace_back(deed);

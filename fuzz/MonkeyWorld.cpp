@@ -17,6 +17,7 @@ Edge AnyEdge(int number) { return static_cast<Edge>(number % 4); }
 // ---- the disk ----
 
 void MonkeyLife::ChangeMenuFile() {
+  filesChangedInside_ = filesChangedInside_ || insideUp_;
   const int number = 1 + Number(kMenuFiles);
   const std::string path = MenuPath(number);
   world_->Files.LetGo(path);

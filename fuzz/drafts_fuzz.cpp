@@ -47,6 +47,10 @@ Draft TakeDraft(fuzz::Input& input) {
 void CheckParsing(const std::string& bytes) {
   const std::optional<Draft> draft = ParseDraft(bytes);
   if (draft) CORVELLE_CHECK(FormatDraft(draft->Files, draft->Set) == bytes);
+  // Of many, the whole ones at the front count.
+  const std::string again = FormatDrafts(ParseDrafts(bytes));
+  CORVELLE_CHECK(bytes.starts_with(again));
+  CORVELLE_CHECK(!draft || again == bytes);
 }
 
 }  // namespace
@@ -66,6 +70,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   } else {
     const Draft draft = TakeDraft(input);
     CORVELLE_CHECK(ParseDraft(FormatDraft(draft.Files, draft.Set)) == draft);
+    const Drafts drafts = {draft, TakeDraft(input)};
+    CORVELLE_CHECK(ParseDrafts(FormatDrafts(drafts)) == drafts);
   }
   return 0;
 }

@@ -7,7 +7,7 @@ contract: windows_contract_tests.exe as a whole, in one session.
 e2e: each test of e2e_tests.exe in a fresh session, beside a fresh copy of the program's folder
      (BUILD/package). Tests whose suite ends in AtEachScale run at 96 and at 120 dpi. Logs and pictures
      go below --out (build/e2e), one folder for each test. --times 10 lets the tests that repeat an act
-     (QuickMenus, Choices, DamagedMenus) go on ten times as long.
+     (QuickMenus, Choices, DamagedMenus, WindowCost) go on ten times as long.
 
 A session in which the test program did not come to its first line tells nothing of Corvelle: another one
 takes its place, and the run says so.

@@ -34,6 +34,8 @@ class ByteReader {
   }
   std::string Text() { return std::string(Take(Number(8))); }
   [[nodiscard]] bool Good() const noexcept { return good_; }
+  /// Bytes that were not taken yet.
+  [[nodiscard]] std::size_t Left() const noexcept { return rest_.size(); }
   [[nodiscard]] bool AtEnd() const noexcept { return rest_.empty(); }
 
  private:

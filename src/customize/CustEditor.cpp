@@ -142,6 +142,14 @@ bool CustEditor::Redo() {
 
 CustRef CustEditor::Find(std::string_view text) const {
   if (text.empty()) return kNoRef;
+  return FindWhere([this, text](CustRef node) {
+    const CustNode& content = Tree.At(node);
+    return ContainsNoCase(content.Text, text) || ContainsNoCase(content.Entry.FileName, text) ||
+           ContainsNoCase(content.Entry.FileExe, text);
+  });
+}
+
+CustRef CustEditor::FindWhere(const std::function<bool(CustRef)>& isOne) const {
   const std::vector<CustRef> order = Tree.InOrder();
   std::size_t first = 0;
   for (std::size_t i = 0; i < order.size(); ++i) {
@@ -151,12 +159,7 @@ CustRef CustEditor::Find(std::string_view text) const {
   }
   for (std::size_t i = 0; i < order.size(); ++i) {
     const CustRef node = order[(first + i) % order.size()];
-    const CustNode& content = Tree.At(node);
-    if (node == selected_ || content.Key.empty()) continue;
-    if (ContainsNoCase(content.Text, text) || ContainsNoCase(content.Entry.FileName, text) ||
-        ContainsNoCase(content.Entry.FileExe, text)) {
-      return node;
-    }
+    if (node != selected_ && !Tree.At(node).Key.empty() && isOne(node)) return node;
   }
   return kNoRef;
 }

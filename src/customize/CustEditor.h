@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -146,6 +147,9 @@ class CustEditor {
   bool Undo();
   bool Redo();
 
+  /// The node after the selected one that is such a one, the placeholders left out; from the
+  /// beginning again after the end. kNoRef when there is no other than the selected one.
+  [[nodiscard]] CustRef FindWhere(const std::function<bool(CustRef)>& isOne) const;
   /// The node after the selected one whose title, icon or command has the text, ignoring case; from
   /// the beginning again after the end. kNoRef when there is no other than the selected one.
   [[nodiscard]] CustRef Find(std::string_view text) const;

@@ -29,7 +29,14 @@ constexpr std::pair<std::string_view, std::string_view> kOwnPictures[] = {
 }  // namespace
 
 CustTreeControl::CustTreeControl(Program& program, CustTree& tree, forms::TreeView& control)
-    : program_(program), tree_(tree), control_(control), tmrPictures_(program.Windows) {
+    : program_(program),
+      tree_(tree),
+      control_(control),
+      targets_(program.Slow, program.Windows),
+      tmrPictures_(program.Windows) {
+  targets_.Changed = [this](CustRef node) {
+    if (tree_.IsInTree(node)) NodeChanged(node);
+  };
   tree_.SetView(this);
   tmrPictures_.SetInterval(kPictureWait);
   tmrPictures_.Tick = [this] { ShowNext(); };
@@ -49,6 +56,7 @@ CustRef CustTreeControl::RefOf(forms::NodeId id) const {
 
 void CustTreeControl::Clear() {
   tmrPictures_.SetEnabled(false);
+  targets_.Clear();
   TreeCleared();
 }
 
@@ -112,11 +120,13 @@ forms::NodeLook CustTreeControl::LookOf(CustRef node) {
   forms::NodeLook look;
   look.Text = content.Text;
   look.Dimmed = content.Picture.Hidden;
-  look.Image = ImageOf(content.Picture);
-  if (look.Image < 0) {
-    look.Image = Glyph("unknown");
+  look.Image = PlainImage(node);
+  if (ImageOf(content.Picture) < 0) {
     waiting_.push_back(node);
     tmrPictures_.SetEnabled(true);
+  }
+  if (!tree_.IsRoot(node) && targets_.Ask(node, content.Entry.FileExe)) {
+    look.Image = Marked(look.Image);
   }
   return look;
 }
@@ -134,8 +144,36 @@ int CustTreeControl::ImageOf(const NodePicture& picture) {
 
 int CustTreeControl::Glyph(const std::string& key) {
   const auto [place, isNew] = images_.try_emplace(key, 0);
-  if (isNew) place->second = control_.AddImage(MakeGlyph(program_.Windows, key));
+  if (isNew) place->second = AddImage(MakeGlyph(program_.Windows, key));
   return place->second;
+}
+
+int CustTreeControl::AddImage(Picture picture) {
+  pictures_.push_back(picture);
+  return control_.AddImage(std::move(picture));
+}
+
+int CustTreeControl::Marked(int image) {
+  const auto found = marked_.find(image);
+  if (found != marked_.end()) return found->second;
+  std::shared_ptr<Canvas> canvas = program_.Windows.CreateCanvas({kImageSize, kImageSize});
+  canvas->FillBox({0, 0, kImageSize, kImageSize}, forms::Image::kMask);
+  if (const Picture& plain = pictures_[static_cast<std::size_t>(image)]; plain != nullptr) {
+    canvas->DrawCanvas(*plain, {0, 0, kImageSize, kImageSize}, {0, 0});
+  }
+  DrawGlyph(*canvas, program_.Windows, "missing", {0, 0});
+  const int marked = AddImage(std::move(canvas));
+  marked_[image] = marked;
+  return marked;
+}
+
+int CustTreeControl::PlainImage(CustRef node) {
+  const int image = ImageOf(tree_.At(node).Picture);
+  return image < 0 ? Glyph("unknown") : image;
+}
+
+bool CustTreeControl::IsMissing(CustRef node) const {
+  return !tree_.IsRoot(node) && targets_.IsMissing(tree_.At(node).Entry.FileExe);
 }
 
 int CustTreeControl::Draw(const std::string& icon) {
@@ -144,7 +182,7 @@ int CustTreeControl::Draw(const std::string& icon) {
   if (!ResolveAndDraw(program_, *canvas, icon, {0, 0}, kImageSize, IconCaller::Tree)) {
     return Glyph("qmark");
   }
-  return control_.AddImage(std::move(canvas));
+  return AddImage(std::move(canvas));
 }
 
 void CustTreeControl::LookUp(CustRef node) {

@@ -3,8 +3,10 @@
 #include <deque>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "customize/CustTree.h"
+#include "customize/MissingTargets.h"
 #include "forms/Timer.h"
 #include "forms/TreeView.h"
 
@@ -27,6 +29,11 @@ class CustTreeControl final : public CustTreeView {
   /// All pictures that wait are looked up now.
   void FinishPictures();
   [[nodiscard]] bool PicturesWait() const noexcept { return !waiting_.empty(); }
+  /// True for an entry whose target is known to be missing: it bears a mark.
+  [[nodiscard]] bool IsMissing(CustRef node) const;
+  /// The number of a node's image as it is without that mark.
+  [[nodiscard]] int PlainImage(CustRef node);
+  [[nodiscard]] MissingTargets& Targets() noexcept { return targets_; }
   /// The window is closed.
   void Clear();
 
@@ -44,7 +51,10 @@ class CustTreeControl final : public CustTreeView {
   [[nodiscard]] forms::NodeLook LookOf(CustRef node);
   /// The image of a picture; -1 for one that has to wait.
   [[nodiscard]] int ImageOf(const NodePicture& picture);
+  /// The same with the mark of a missing target.
+  [[nodiscard]] int Marked(int image);
   [[nodiscard]] int Glyph(const std::string& key);
+  int AddImage(Picture picture);
   [[nodiscard]] int Draw(const std::string& icon);
   void ShowNext();
   void LookUp(CustRef node);
@@ -55,7 +65,10 @@ class CustTreeControl final : public CustTreeView {
   std::unordered_map<CustRef, forms::NodeId> ids_;
   std::unordered_map<forms::NodeId, CustRef> refs_;
   std::unordered_map<std::string, int> images_;  // by glyph or icon text in small letters
-  std::deque<CustRef> waiting_;                  // nodes whose picture is not drawn yet
+  std::unordered_map<int, int> marked_;          // images with the mark, by those without
+  std::vector<Picture> pictures_;                // of all images
+  MissingTargets targets_;
+  std::deque<CustRef> waiting_;  // nodes whose picture is not drawn yet
   forms::Timer tmrPictures_;
 };
 

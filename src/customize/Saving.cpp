@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "core/FileTransaction.h"
-#include "customize/Draft.h"
 #include "shell/FileErrorText.h"
 
 namespace corvelle {
@@ -39,10 +38,10 @@ std::vector<std::string> NamesOf(const StoredMenus& stored) {
 class Save {
  public:
   Save(FileSystem& files, const CodePage& ansi, std::string_view menusPath, const MenuSet& tree,
-       const MenusStamp& read)
-      : files_(files), ansi_(ansi), folder_(menusPath), tree_(tree), read_(read) {}
+       const MenusStamp& read, const DraftsAround& around)
+      : files_(files), ansi_(ansi), folder_(menusPath), tree_(tree), read_(read), around_(around) {}
 
-  SaveResult Run(const MenuSet* other);
+  SaveResult Run();
 
  private:
   SaveResult Fail(FileError error);
@@ -52,6 +51,9 @@ class Save {
   void EmptyBackup();
   void BackUp(const std::vector<std::string>& names);
   FileStatus Replace(const std::vector<std::string>& old, StoredMenus stored);
+  [[nodiscard]] FileStatus KeepDrafts(Drafts drafts) const;
+  [[nodiscard]] Drafts DraftsBefore() const;
+  [[nodiscard]] Drafts DraftsAfter(const MenusStamp& next) const;
 
   [[nodiscard]] std::string Backup() const { return folder_ + std::string(kBackupFolder); }
 
@@ -60,6 +62,7 @@ class Save {
   std::string folder_;
   const MenuSet& tree_;
   const MenusStamp& read_;
+  const DraftsAround& around_;
   bool kept_ = false;  // the draft is written
 };
 
@@ -102,15 +105,32 @@ void Save::BackUp(const std::vector<std::string>& names) {
   }
 }
 
+Drafts Save::DraftsBefore() const {
+  Drafts drafts = around_.Before;
+  drafts.insert(drafts.begin(), {read_, tree_});
+  return drafts;
+}
+
+Drafts Save::DraftsAfter(const MenusStamp& next) const {
+  Drafts drafts;
+  for (const MenuSet& set : around_.After) drafts.push_back({next, set});
+  return drafts;
+}
+
+FileStatus Save::KeepDrafts(Drafts drafts) const {
+  drafts.insert(drafts.end(), around_.Others.begin(), around_.Others.end());
+  return WriteDrafts(files_, folder_, drafts);
+}
+
 SaveResult Save::FailWith(const std::string& numberedError) {
   // The change takes itself back; what it could not put back then it may now. Else its journal
   // waits for the next start.
   static_cast<void>(RecoverFiles(files_, folder_));
-  if (!kept_) kept_ = WriteDraft(files_, folder_, read_, tree_).HasValue();
+  if ((!kept_ || !around_.After.empty()) && KeepDrafts(DraftsBefore())) kept_ = true;
   if (!kept_) {
     // The user's work is worth more than a copy of files that are there.
     EmptyBackup();
-    kept_ = WriteDraft(files_, folder_, read_, tree_).HasValue();
+    kept_ = KeepDrafts(DraftsBefore()).HasValue();
   }
   SaveResult result;
   result.End = SaveEnd::Recovered;
@@ -132,7 +152,7 @@ FileStatus Save::Replace(const std::vector<std::string>& old, StoredMenus stored
   return change.Commit();
 }
 
-SaveResult Save::Run(const MenuSet* other) {
+SaveResult Save::Run() {
   if (IsTooLarge(tree_)) return FailWith(std::string(kTooMany));
   // What an earlier run left half done would look like another's changes.
   if (const FileStatus settled = RecoverFiles(files_, folder_); !settled) {
@@ -145,7 +165,7 @@ SaveResult Save::Run(const MenuSet* other) {
     if (StampOf(*now) != read_) return Differ(*now);
     old = NamesOf(*now);
   }
-  kept_ = WriteDraft(files_, folder_, read_, tree_).HasValue();
+  kept_ = KeepDrafts(DraftsBefore()).HasValue();
   BackUp(old);
   // The copying takes its time, in which another program may have come.
   {
@@ -160,24 +180,27 @@ SaveResult Save::Run(const MenuSet* other) {
   SaveResult result;
   result.End = SaveEnd::Saved;
   result.Now = {ParseMenus(stored, ansi_), StampOf(stored)};
+  if (!around_.After.empty()) {
+    // From the moment at which the files are new ones these drafts are needed.
+    Drafts drafts = DraftsBefore();
+    const Drafts after = DraftsAfter(result.Now.Stamp);
+    drafts.insert(drafts.end(), after.begin(), after.end());
+    if (KeepDrafts(std::move(drafts))) kept_ = true;
+  }
   if (const FileStatus done = Replace(old, std::move(stored)); !done) {
     return Fail(done.Error());
   }
   EmptyBackup();
   // A draft that cannot be removed belongs to other files from now on, and is never offered.
-  if (other == nullptr) {
-    static_cast<void>(ForgetDraft(files_, folder_));
-  } else {
-    result.Kept = WriteDraft(files_, folder_, result.Now.Stamp, *other).HasValue();
-  }
+  result.Kept = KeepDrafts(DraftsAfter(result.Now.Stamp)).HasValue() && !around_.After.empty();
   return result;
 }
 
 }  // namespace
 
 SaveResult SaveMenus(FileSystem& files, const CodePage& ansi, std::string_view menusPath,
-                     const MenuSet& tree, const MenusStamp& read, const MenuSet* other) {
-  return Save(files, ansi, menusPath, tree, read).Run(other);
+                     const MenuSet& tree, const MenusStamp& read, const DraftsAround& around) {
+  return Save(files, ansi, menusPath, tree, read, around).Run();
 }
 
 }  // namespace corvelle

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "customize/Draft.h"
 #include "customize/MenuSet.h"
 #include "customize/MenuSetFiles.h"
 #include "platform/FileSystem.h"
@@ -25,7 +26,7 @@ struct SaveResult {
   SaveEnd End = SaveEnd::Recovered;
   /// Of Recovered the text of the message box, which bears an information icon.
   std::string Message;
-  /// The draft is written: of Recovered what was to be saved, of Saved the other version.
+  /// The drafts are written: of Recovered what was to be saved, of Saved those that go on.
   bool Kept = false;
   /// What the files hold. Of Saved it can differ from the tree: texts are cut to their fields, and
   /// from 1000 menus on the order is another. Nothing of Recovered.
@@ -38,10 +39,10 @@ struct SaveResult {
 /// is the stamp of the files that the tree was made from; the same stamp of a Conflict, given in a
 /// second call, overrides what the others made.
 ///
-/// What is to be saved lies in the draft until it is. Afterwards there is no draft, or one of
-/// `other`, if given: the version that was not kept after a conflict.
+/// What is to be saved lies in a draft until it is. `around` is what else is kept as drafts, before
+/// the save and after it; whenever the program ends, all of that is there.
 [[nodiscard]] SaveResult SaveMenus(FileSystem& files, const CodePage& ansi,
                                    std::string_view menusPath, const MenuSet& tree,
-                                   const MenusStamp& read, const MenuSet* other = nullptr);
+                                   const MenusStamp& read, const DraftsAround& around = {});
 
 }  // namespace corvelle

@@ -137,10 +137,7 @@ void frmCust::WireControls() {
   tmrEdits.SetInterval(kSettled);
   tmrEdits.Tick = [this] { TakeEditsMadeElsewhere(); };
   tmrDraft.SetInterval(kDraftEvery);
-  tmrDraft.Tick = [this] {
-    // One that is still offered is not written over before the window closes.
-    if (!draft_) KeepDraft();
-  };
+  tmrDraft.Tick = [this] { KeepDraft(); };
 }
 
 void frmCust::InitCustToolbar() {
@@ -208,7 +205,9 @@ void frmCust::Form_Load() {
     }
   }
   shownAt_ = keptAt_ = Editor.Tree.Revision();
-  OfferTheDraft();
+  theirs_.reset();
+  keeper_->Open(files_);
+  ShowOffer();
   LookForBrowser();
   MakeMenuBar();
   PlaceControls();
@@ -224,7 +223,7 @@ void frmCust::Form_Unload() {
   tmrEdits.SetEnabled(false);
   Editor.Close();
   tree_.Clear();
-  draft_.reset();
+  keeper_.reset();
   LibraryPort* const library = program_.Ports.Library;
   if (library != nullptr && library->WindowLoaded()) library->UnloadWindow();
 }
@@ -238,12 +237,12 @@ void frmCust::PlaceControls() {
                                           .Height = ScaleHeight(),
                                           .TwipsPerPixel = program_.Windows.Screen().TwipsPerPixelX,
                                           .Finding = finding_,
-                                          .Offering = draft_.has_value()});
+                                          .Offering = Offers() > 0});
   Place(lblMenuTree, at.MenuTree);
   Place(cmdShowDraft, at.ShowDraft);
   Place(cmdForgetDraft, at.ForgetDraft);
-  cmdShowDraft.SetVisible(draft_.has_value());
-  cmdForgetDraft.SetVisible(draft_.has_value());
+  cmdShowDraft.SetVisible(Offers() > 0);
+  cmdForgetDraft.SetVisible(Offers() > 0);
   Place(txtFind, at.Find);
   Place(TreeView1, at.Tree);
   Place(Toolbar1, at.ToolBar);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,6 +15,7 @@
 #include "customize/Draft.h"
 #include "customize/MenuMaker.h"
 #include "customize/MenuSetFiles.h"
+#include "customize/Saving.h"
 #include "forms/CheckBox.h"
 #include "forms/CommandButton.h"
 #include "forms/FlatButton.h"
@@ -52,6 +54,10 @@ class frmCust final : public forms::Form,
   [[nodiscard]] forms::Form& BoxWindow() override { return *this; }
   void SetBrowsing(bool browsing) override;
   void TakeIcon(std::string_view icon) override;
+  /// How the tree is shown.
+  [[nodiscard]] CustTreeControl& Tree() noexcept { return tree_; }
+  /// How many sets of unsaved changes are kept and not shown.
+  [[nodiscard]] std::size_t Offers() const { return keeper_ ? keeper_->Offered().size() : 0; }
   /// The library has filled the box for the icon.
   void UpdateField();
 
@@ -179,6 +185,8 @@ class frmCust final : public forms::Form,
   void StartRename();
   void BeginFind();
   void FindNext();
+  void NextMissing();
+  void SelectFound(CustRef found);
   void RunEntry();
 
   // The Options menu (frmCustOptions.cpp).
@@ -201,26 +209,33 @@ class frmCust final : public forms::Form,
   void TakeEditsMadeElsewhere();
   bool Merge();
   bool SettleConflict(const MenusStamp& theirs);
+  /// Writes the tree over the files of the last reading.
+  SaveResult WriteTree(DraftsAround& around);
+  void TakeSaved(SaveResult result, DraftsAround around);
   void Recover(const std::string& message);
   void RefreshStrip();
   /// False: the user wants to go on.
   bool AskToSave(bool canStay);
   [[nodiscard]] bool Unsaved() const;
-  void KeepDraft();
+  /// Keeps what is not saved. False when that cannot be written.
+  bool KeepDraft();
+  /// Keeps it for good, before the window goes. False: the user wants to go on.
+  bool SettleUnsaved(bool canStay);
   void ForgetTheDraft();
-  void OfferTheDraft();
+  void ShowOffer();
   void ShowDraft();
-  void ReadAgain();
+  void ShowSet(const MenuSet& set);
+  void ShowFiles();
 
   Program& program_;
   CustTreeControl tree_;
   MenuMaker menuBar_;
   std::unique_ptr<DraftKeeper> keeper_;
-  MenuFiles files_;               // as they were read or saved last
-  long shownAt_ = 0;              // revision of the tree that those files hold
-  long keptAt_ = 0;               // revision in the draft
-  std::optional<MenuSet> draft_;  // that is offered
-  bool ownBrowser_ = false;       // the user has chosen one
+  MenuFiles files_;                  // as they were read or saved last
+  std::optional<MenuFiles> theirs_;  // as they are now, where that could not come into the tree
+  long shownAt_ = 0;                 // revision of the tree that those files hold
+  long keptAt_ = 0;                  // revision in the draft
+  bool ownBrowser_ = false;          // the user has chosen one
   bool finding_ = false;
   bool arranging_ = false;
   bool messageWaits_ = false;  // the message of a drop on a root

@@ -68,6 +68,7 @@ void frmCust::MakeMenuBar() {
   menuBar_.AddGap();
   menuBar_.Add("&Find\tCtrl+F", [this] { BeginFind(); });
   menuBar_.Add("Find &Next\tF3", [this] { FindNext(); });
+  menuBar_.Add("Next &Missing\tF8", [this] { NextMissing(); });
   menuBar_.AddGap();
   menuBar_.Add("&Duplicate\tCtrl+D", [this] { Run(&CustEditor::Duplicate); });
   menuBar_.Add("Ru&n", [this] { RunEntry(); });
@@ -149,7 +150,14 @@ void frmCust::BeginFind() {
 
 void frmCust::FindNext() {
   if (txtFind.Text().empty()) return BeginFind();
-  const CustRef found = Editor.Find(txtFind.Text());
+  SelectFound(Editor.Find(txtFind.Text()));
+}
+
+void frmCust::NextMissing() {
+  SelectFound(Editor.FindWhere([this](CustRef node) { return tree_.IsMissing(node); }));
+}
+
+void frmCust::SelectFound(CustRef found) {
   if (found == kNoRef) return Beep();
   Editor.Select(found);
   Editor.UpdateEntryBoxes();

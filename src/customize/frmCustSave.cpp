@@ -16,6 +16,7 @@ constexpr unsigned kSaveQuestion = 35;      // Yes, No and Cancel, question
 constexpr unsigned kConflictQuestion = 36;  // Yes and No, question
 constexpr int kCancel = 2;
 constexpr int kNo = 7;
+constexpr long kNeverKept = -1;
 constexpr std::string_view kConflict =
     "The menus have been changed outside of this window since it was opened.\r\n"
     "Do you want to save your version over them? The other version is kept, and offered when this "
@@ -41,6 +42,7 @@ bool frmCust::SaveTree() {
   Editor.SavingNow = true;
   TakeBoxes();
   SaveResult result;
+  DraftsAround around;
   {
     const forms::HourglassScope hourglass(program_.Windows);
     Editor.cmdOK();
@@ -49,54 +51,67 @@ bool frmCust::SaveTree() {
       if (!IsLoaded()) return false;
     }
     Editor.TreeChanged = false;
-    result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath,
-                       Editor.Tree.ToMenuSet(), files_.Stamp);
+    result = WriteTree(around);
   }
-  if (result.End == SaveEnd::Conflict && Merge()) {
-    result = SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath,
-                       Editor.Tree.ToMenuSet(), files_.Stamp);
-  }
+  if (result.End == SaveEnd::Conflict && Merge()) result = WriteTree(around);
   if (result.End == SaveEnd::Conflict) return SettleConflict(result.Now.Stamp);
   if (result.End == SaveEnd::Recovered) {
     Recover(result.Message);
     return false;
   }
-  files_ = std::move(result.Now);
-  shownAt_ = keptAt_ = Editor.Tree.Revision();
-  draft_.reset();
-  RefreshStrip();
-  if (!IsLoaded()) return true;
-  PlaceControls();
-  ShowState();
+  TakeSaved(std::move(result), std::move(around));
   return true;
+}
+
+SaveResult frmCust::WriteTree(DraftsAround& around) {
+  const MenuSet tree = Editor.Tree.ToMenuSet();
+  around = keeper_->AroundSave(tree);
+  return SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, tree,
+                   files_.Stamp, around);
+}
+
+void frmCust::TakeSaved(SaveResult result, DraftsAround around) {
+  files_ = std::move(result.Now);
+  keeper_->Saved(std::move(around), files_);
+  theirs_.reset();
+  shownAt_ = keptAt_ = Editor.Tree.Revision();
+  RefreshStrip();
+  if (!IsLoaded()) return;
+  ShowOffer();
+  ShowState();
 }
 
 bool frmCust::SettleConflict(const MenusStamp& theirs) {
   const bool mine = Say(kConflict, kConflictQuestion) == forms::msgbox::AnswerYes;
   if (!IsLoaded()) return false;
-  const MenusResult<MenuFiles> read =
+  MenusResult<MenuFiles> read =
       ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!read || (*read).Stamp != theirs) {
     // Changed once more meanwhile: the next save asks again.
     Editor.TreeChanged = true;
     return false;
   }
-  const MenuSet tree = Editor.Tree.ToMenuSet();
+  keeper_->FilesChanged(*read);
+  files_ = *std::move(read);
+  theirs_.reset();
+  keptAt_ = kNeverKept;
   if (!mine) {
-    static_cast<void>(WriteDraft(program_.Services.Files, program_.Paths.MenusPath, theirs, tree));
-    ReadAgain();
+    static_cast<void>(keeper_->Offer(Editor.Tree.ToMenuSet(), files_.Set));
+    ShowFiles();
     return true;
   }
+  const MenuSet other = files_.Set;
+  const MenuSet tree = Editor.Tree.ToMenuSet();
+  DraftsAround around = keeper_->AroundSave(tree);
+  around.After.insert(around.After.begin(), other);
   SaveResult result = SaveMenus(program_.Services.Files, program_.Services.Ansi,
-                                program_.Paths.MenusPath, tree, theirs, &(*read).Set);
-  if (result.End != SaveEnd::Saved) {
-    if (result.End == SaveEnd::Recovered) Recover(result.Message);
-    return false;
+                                program_.Paths.MenusPath, tree, files_.Stamp, around);
+  if (result.End == SaveEnd::Saved) {
+    TakeSaved(std::move(result), std::move(around));
+    return true;
   }
-  files_ = std::move(result.Now);
-  shownAt_ = keptAt_ = Editor.Tree.Revision();
-  RefreshStrip();
-  return true;
+  if (result.End == SaveEnd::Recovered) Recover(result.Message);
+  return false;
 }
 
 void frmCust::Recover(const std::string& message) {
@@ -135,20 +150,26 @@ bool frmCust::AskToSave(bool canStay) {
   return SaveTree() || !canStay || !IsLoaded();
 }
 
+bool frmCust::SettleUnsaved(bool canStay) {
+  if (!AskToSave(canStay)) return false;
+  if (!IsLoaded() || KeepDraft()) return true;
+  // What would have gone into a draft in silence is asked about instead.
+  Editor.TreeChanged = true;
+  return AskToSave(canStay);
+}
+
 void frmCust::Form_QueryClose() {
   if (!IsLoaded()) return;
   if (program_.Ports.Library != nullptr && program_.Ports.Library->WindowLoaded()) return;
   TreeView1.EndEdit(true);
-  if (!AskToSave(true) || !IsLoaded()) return;
-  KeepDraft();
+  if (!SettleUnsaved(true) || !IsLoaded()) return;
   Unload();
 }
 
 void frmCust::UnloadWindow() {
   if (!IsLoaded()) return;
-  AskToSave(false);
+  SettleUnsaved(false);
   if (!IsLoaded()) return;
-  KeepDraft();
   Unload();
 }
 
@@ -160,78 +181,104 @@ void frmCust::Form_SessionEnd() {
 
 bool frmCust::Unsaved() const { return Editor.Tree.Revision() != shownAt_; }
 
-void frmCust::KeepDraft() {
-  if (keeper_ == nullptr || !Unsaved() || Editor.Tree.Revision() == keptAt_) return;
-  const MenuSet tree = Editor.Tree.ToMenuSet();
-  if (tree == files_.Set) {
-    // Taken back to what the files hold.
-    if (!draft_) static_cast<void>(keeper_->Forget());
-  } else if (!keeper_->Keep(files_.Stamp, tree)) {
-    return;  // the next turn tries again
+bool frmCust::KeepDraft() {
+  if (keeper_ == nullptr) return true;
+  if (!Unsaved() || Editor.Tree.Revision() == keptAt_) {
+    static_cast<void>(keeper_->Flush());
+    return true;
   }
+  MenuSet tree = Editor.Tree.ToMenuSet();
+  // Nothing is unsaved once all is taken back to what the files hold.
+  const bool same = tree == files_.Set;
+  if (theirs_ && !same) tree = MergeTrees(files_.Set, tree, theirs_->Set).Set;
+  if (!(same ? keeper_->Forget() : keeper_->Keep(tree))) return false;
   keptAt_ = Editor.Tree.Revision();
+  return true;
 }
 
-void frmCust::OfferTheDraft() {
-  draft_ = OfferDraft(program_.Services.Files, program_.Paths.MenusPath, files_);
-  lblMenuTree.SetCaption(draft_ ? "Menu Tree (unsaved changes are kept)" : "Menu Tree");
-}
-
-void frmCust::ForgetTheDraft() {
-  static_cast<void>(keeper_->Forget());
-  draft_.reset();
-  lblMenuTree.SetCaption("Menu Tree");
+void frmCust::ShowOffer() {
+  const std::size_t count = Offers();
+  std::string caption = "Menu Tree";
+  if (count == 1) caption += " (unsaved changes are kept)";
+  if (count > 1) caption += " (" + std::to_string(count) + " sets of unsaved changes)";
+  lblMenuTree.SetCaption(caption);
   PlaceControls();
 }
 
+void frmCust::ForgetTheDraft() {
+  static_cast<void>(keeper_->ForgetOffered());
+  ShowOffer();
+}
+
 void frmCust::ShowDraft() {
-  if (!draft_) return;
-  const MenuSet set = *std::exchange(draft_, std::nullopt);
-  lblMenuTree.SetCaption("Menu Tree");
+  if (Offers() == 0) return;
+  TreeView1.EndEdit(true);
+  std::optional<MenuSet> unsaved;
+  if (Unsaved()) unsaved = Editor.Tree.ToMenuSet();
+  if (unsaved == files_.Set) unsaved.reset();
+  ShowSet(keeper_->Show(std::move(unsaved)));
+  Editor.TreeChanged = true;
+  keptAt_ = Editor.Tree.Revision();
+  ShowOffer();
+}
+
+void frmCust::ShowSet(const MenuSet& set) {
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
+    const bool saving = Editor.SavingNow;
     Editor.InitMenuTree(set, program_.Paths.ShippedFile("corvelle.exe"), program_.Paths.MenusPath);
+    Editor.SavingNow = saving;
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());
     }
   }
-  Editor.TreeChanged = true;
-  keptAt_ = Editor.Tree.Revision();
-  PlaceControls();
   ShowState();
 }
 
-void frmCust::ReadAgain() {
-  if (!InitMenuTree()) return;
-  const forms::TreeView::FreezeScope freeze(TreeView1);
-  const bool saving = Editor.SavingNow;
-  Editor.InitMenuTree(files_.Set, program_.Paths.ShippedFile("corvelle.exe"),
-                      program_.Paths.MenusPath);
-  Editor.SavingNow = saving;
-  if (!Editor.Tree.Children(kMenusRoot).empty()) {
-    ShowNode(Editor.Tree.Children(kMenusRoot).front());
-  }
+void frmCust::ShowFiles() {
+  theirs_.reset();
+  ShowSet(files_.Set);
   shownAt_ = keptAt_ = Editor.Tree.Revision();
-  OfferTheDraft();
-  PlaceControls();
-  ShowState();
+  ShowOffer();
 }
 
 bool frmCust::Merge() {
   MenusResult<MenuFiles> read =
       ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!read) return false;
-  if ((*read).Stamp == files_.Stamp) return true;
+  if ((*read).Stamp == files_.Stamp) {
+    if (theirs_) {
+      // They are again what they were.
+      theirs_.reset();
+      keeper_->FilesChanged(files_);
+      keptAt_ = kNeverKept;
+      KeepDraft();
+    }
+    return true;
+  }
   const bool unsaved = Unsaved();
   const MergedSet merged = MergeTrees(files_.Set, Editor.Tree.ToMenuSet(), (*read).Set);
-  if (!merged.Conflicts.empty()) return false;
+  // What is kept belongs to the files of before.
+  if (keeper_->Stamp() != (*read).Stamp) keptAt_ = kNeverKept;
+  keeper_->FilesChanged(*read);
+  if (!merged.Conflicts.empty()) {
+    theirs_ = *std::move(read);
+    KeepDraft();
+    return false;
+  }
   Editor.TakeMerged(merged);
   files_ = *std::move(read);
-  if (!unsaved) shownAt_ = keptAt_ = Editor.Tree.Revision();
+  theirs_.reset();
+  if (!unsaved) shownAt_ = Editor.Tree.Revision();
+  KeepDraft();
   return true;
 }
 
-void frmCust::Form_Activate() { TakeEditsMadeElsewhere(); }
+void frmCust::Form_Activate() {
+  TakeEditsMadeElsewhere();
+  // The user may have been away to mend what is missing.
+  tree_.Targets().AskAgain();
+}
 
 void frmCust::MenusEdited() {
   if (IsLoaded() && keeper_ != nullptr) tmrEdits.SetEnabled(true);

@@ -33,6 +33,7 @@ std::string LaneOfLookup(const Lookup& question) {
     case LookupKind::IsThere:
     case LookupKind::FolderEntries:
     case LookupKind::Drive:
+    case LookupKind::DriveAtHand:
     case LookupKind::LinkTarget:
       return PlaceOfPath(question.Path);
     case LookupKind::ShellFolder:
@@ -83,6 +84,7 @@ std::string KeyOfLookup(const Lookup& question) {
       break;
     case LookupKind::IsThere:
     case LookupKind::Drive:
+    case LookupKind::DriveAtHand:
     case LookupKind::LinkTarget:
     case LookupKind::FileName:
       break;

@@ -77,6 +77,8 @@ LookupAnswer AnswerLookup(const LookupServices& services, const Lookup& question
     }
     case LookupKind::Drive:
       return {.Value = services.System.FactsOfDrive(path)};
+    case LookupKind::DriveAtHand:
+      return {.Value = services.System.IsDriveAtHand(path)};
     case LookupKind::LinkTarget: {
       const auto link = services.Links.CreateLinkObject();
       if (link == nullptr || !link->Load(path)) return {.End = LookupEnd::Failed};

@@ -13,7 +13,7 @@ namespace corvelle {
 namespace {
 
 // One character a pixel: "." nothing, "#" button text, "g" grey text, "w" highlight edge, "s"
-// shadow edge, "h" highlight, "f" button face.
+// shadow edge, "h" highlight, "f" button face, "r" red in every scheme.
 using Rows = std::span<const std::string_view>;
 
 constexpr std::array<std::string_view, 5> kUp = {
@@ -202,6 +202,25 @@ constexpr std::array<std::string_view, 16> kQuestion = {
     "................",
 };
 
+constexpr std::array<std::string_view, 16> kMissingFile = {
+    "................",  //
+    "................",  //
+    "................",  //
+    "................",  //
+    "................",  //
+    "................",  //
+    "................",  //
+    ".......wwwwwwwww",  //
+    ".......wrrwwwrrw",  //
+    ".......wrrrwrrrw",  //
+    ".......wwrrrrrww",  //
+    "........wwrrrww.",  //
+    ".......wwrrrrrww",  //
+    ".......wrrrwrrrw",  //
+    ".......wrrwwwrrw",  //
+    ".......wwwwwwwww",
+};
+
 constexpr std::array<std::string_view, 16> kUnknown = {
     "................",  //
     "..sssssssss.....",  //
@@ -378,13 +397,28 @@ struct Glyph {
   Rows Pixels;
 };
 
-constexpr std::array<Glyph, 21> kGlyphs = {
-    {{"up", kUp},           {"up2", kUp2},   {"down", kDown},      {"down2", kDown2},
-     {"circle", kCircle},   {"new", kNew},   {"cust", kCust},      {"help", kHelp},
-     {"hand", kHand},       {"tm", kTm},     {"button", kButton},  {"qmark", kQuestion},
-     {"unknown", kUnknown}, {"sep", kSep},   {"move up", kMoveUp}, {"move down", kMoveDown},
-     {"cut", kCut},         {"copy", kCopy}, {"paste", kPaste},    {"delete", kDelete},
-     {"undo", kUndo}}};
+constexpr std::array<Glyph, 22> kGlyphs = {{{"up", kUp},
+                                            {"up2", kUp2},
+                                            {"down", kDown},
+                                            {"down2", kDown2},
+                                            {"circle", kCircle},
+                                            {"new", kNew},
+                                            {"cust", kCust},
+                                            {"help", kHelp},
+                                            {"hand", kHand},
+                                            {"tm", kTm},
+                                            {"button", kButton},
+                                            {"qmark", kQuestion},
+                                            {"unknown", kUnknown},
+                                            {"missing", kMissingFile},
+                                            {"sep", kSep},
+                                            {"move up", kMoveUp},
+                                            {"move down", kMoveDown},
+                                            {"cut", kCut},
+                                            {"copy", kCopy},
+                                            {"paste", kPaste},
+                                            {"delete", kDelete},
+                                            {"undo", kUndo}}};
 
 const Glyph* FindGlyph(std::string_view key) noexcept {
   for (const Glyph& glyph : kGlyphs) {
@@ -396,6 +430,8 @@ const Glyph* FindGlyph(std::string_view key) noexcept {
 PixelSize SizeOf(const Glyph& glyph) noexcept {
   return {static_cast<int>(glyph.Pixels.front().size()), static_cast<int>(glyph.Pixels.size())};
 }
+
+constexpr forms::OleColor kRed = 0x2020D0;  // blue, green, red
 
 forms::OleColor ColourOf(char pixel) noexcept {
   switch (pixel) {
@@ -409,6 +445,8 @@ forms::OleColor ColourOf(char pixel) noexcept {
       return forms::color::ButtonFace;
     case 'h':
       return forms::color::Highlight;
+    case 'r':
+      return kRed;
     default:
       return forms::color::ButtonText;
   }

@@ -19,7 +19,8 @@ class WindowSystem;
 //     "new" (a new item), "cust", "help"
 //   carrying: "hand"
 //   the tree of entries: "tm" (the program), "button" (a new button), "sep" (a separator),
-//     "unknown" (no picture yet), "qmark" (no picture to be had)
+//     "unknown" (no picture yet), "qmark" (no picture to be had),
+//     "missing" (laid over the picture of an entry whose file is not there)
 //   tools: "move up", "move down", "cut", "copy", "paste", "delete", "undo"
 
 /// Size in pixels; empty for a key that is not known.

@@ -21,6 +21,7 @@ enum class LookupKind {
   IsThere,        // whether a file or folder of that path exists: bool
   FolderEntries,  // what FileSystem::List gives for the path and the pattern
   Drive,          // what SystemInfo::FactsOfDrive gives for the root: DriveFacts
+  DriveAtHand,    // what SystemInfo::IsDriveAtHand tells of the root: bool
   LinkTarget,     // where the shell link of that path leads: std::string, empty without a path
   FileName,       // the name by which the shell shows a file or folder: std::string
   FileIcon,       // the icon that the shell shows for a file or folder: IconPixels

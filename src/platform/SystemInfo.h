@@ -71,6 +71,10 @@ class SystemInfo {
   /// LookupKind::Drive. Never shows a box of the system's.
   [[nodiscard]] virtual DriveFacts FactsOfDrive(const std::string& root) const = 0;
 
+  /// True for a disk of this machine that is spinning: neither removable nor in the network nor at
+  /// rest. Asking does not wake a disk. May take long as well: LookupKind::DriveAtHand.
+  [[nodiscard]] virtual bool IsDriveAtHand(const std::string& root) const = 0;
+
   /// True if another process of this program runs in this session. The first question claims the
   /// session for this process; each later one gives the other a moment to end, and claims it then.
   [[nodiscard]] virtual bool AnotherInstanceRuns() = 0;

@@ -29,10 +29,4 @@ struct ItemControls {
 enum class ItemPlace { ToolbarButtons, SingleButtons, Menu };
 [[nodiscard]] ItemPlace PlaceOf(std::string_view key) noexcept;
 
-/// The file or folder of the disk that a command leads to, to be looked for, in the order of
-/// trying: without quotes one of several may be the program, and what follows it its arguments.
-/// None for what is not on a disk by its own path: web addresses, folders of the shell, built-in
-/// words, programs that the system finds by their name.
-[[nodiscard]] std::vector<std::string> TargetsOf(std::string_view command);
-
 }  // namespace corvelle

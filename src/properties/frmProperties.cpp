@@ -236,7 +236,6 @@ void frmProperties::Form_Unload() {
   tmrEdge_.SetEnabled(false);
   tmrTarget_.SetEnabled(false);
   program_.Slow.Drop(targetAsked_);
-  targetsLeft_ = 0;
   TabStrip1.Select(std::string(kItemTab));
   if (program_.Ports.Library != nullptr && program_.Ports.Library->WindowLoaded()) {
     program_.Ports.Library->UnloadWindow();

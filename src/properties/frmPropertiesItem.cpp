@@ -5,21 +5,13 @@
 #include "base/Text.h"
 #include "core/MenuFile.h"
 #include "core/Program.h"
+#include "launch/CommandForm.h"
 #include "platform/Input.h"
 #include "properties/ItemRules.h"
 #include "properties/frmProperties.h"
 #include "shell/FileErrorText.h"
 
 namespace corvelle {
-namespace {
-
-/// What a path's answer depends on: its drive, or its server.
-std::string LaneOf(const std::string& path) {
-  return UpperCase(path.substr(0, path.find('\\', path.starts_with("\\\\") ? 2 : 0)));
-}
-
-}  // namespace
-
 void frmProperties::SetFileItem(const MenuRecord& shown) {
   item_ = MakeFileItem(program_.Entry, shown, program_.Services.Ansi);
   EnableItem();
@@ -156,20 +148,18 @@ void frmProperties::AskTarget() {
   if (!txtCommand.Enabled()) return;
   for (std::string& path : TargetsOf(txtCommand.Text())) {
     Lookup question{.Path = std::move(path), .Generation = targetAsked_};
-    question.Lane = LaneOf(question.Path);
+    question.Lane = DriveOf(question.Path);
     ++targetsLeft_;
-    program_.Slow.Ask(std::move(question),
-                      [this](const LookupAnswer& answer) { HearTarget(answer); });
+    program_.Slow.Ask(std::move(question), [this](const LookupAnswer& end) { HearAnswer(end); });
   }
 }
 
-void frmProperties::HearTarget(const LookupAnswer& answer) {
-  if (targetsLeft_ == 0) return;
+void frmProperties::HearAnswer(const LookupAnswer& answer) {
   const bool* const there = std::get_if<bool>(&answer.Value);
   const bool missing = answer.End == LookupEnd::Answered && there != nullptr && !*there;
   // One that is there is enough, and so is one that cannot be told.
-  targetsLeft_ = missing ? targetsLeft_ - 1 : 0;
-  if (missing && targetsLeft_ == 0) lblMissing.SetVisible(true);
+  if (!missing) return program_.Slow.Drop(targetAsked_);
+  if (--targetsLeft_ == 0) lblMissing.SetVisible(true);
 }
 
 }  // namespace corvelle

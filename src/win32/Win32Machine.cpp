@@ -92,4 +92,18 @@ DriveFacts Win32SystemInfo::FactsOfDrive(const std::string& root) const {
   return facts;
 }
 
+bool Win32SystemInfo::IsDriveAtHand(const std::string& root) const {
+  const UINT type = GetDriveTypeW(Wide(root).c_str());
+  if (type != DRIVE_FIXED && type != DRIVE_RAMDISK) return false;
+  // The device and not its root: opened without any right it stays as it is.
+  const std::wstring device = Wide("\\\\.\\" + root.substr(0, 2));
+  const HANDLE drive = CreateFileW(device.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                   OPEN_EXISTING, 0, nullptr);
+  if (drive == INVALID_HANDLE_VALUE) return true;
+  BOOL awake = TRUE;
+  const bool told = GetDevicePowerState(drive, &awake) != 0;
+  CloseHandle(drive);
+  return !told || awake != FALSE;
+}
+
 }  // namespace corvelle::win32

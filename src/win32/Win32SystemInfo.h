@@ -25,6 +25,7 @@ class Win32SystemInfo final : public SystemInfo {
   std::optional<std::uint64_t> PhysicalMemory() const override;
   std::vector<std::string> LogicalDrives() const override;
   DriveFacts FactsOfDrive(const std::string& root) const override;
+  bool IsDriveAtHand(const std::string& root) const override;
   bool AnotherInstanceRuns() override;
   int CaptionHeight() const override;
   int CaptionButtonWidth() const override;

@@ -87,6 +87,14 @@ void Win32Tree::Destroy() {
   SetParent(handle_, system_.ToolOwner());
 }
 
+// The system leaves the pictures of the boxes to whoever asked for boxes.
+void Win32Tree::Ending() {
+  Win32Control::Ending();
+  if (!style_.CheckBoxes) return;
+  boxImages_.Reset(
+      reinterpret_cast<HIMAGELIST>(SendMessageW(handle_, TVM_GETIMAGELIST, TVSIL_STATE, 0)));
+}
+
 LRESULT Win32Tree::Press(UINT message, WPARAM wParam, LPARAM lParam) {
   // A text box that loses the focus has its say before another node is selected.
   if (GetFocus() != handle_ && EditOf(handle_) == nullptr) ::SetFocus(handle_);

@@ -46,6 +46,7 @@ class Win32Tree final : public Win32Control {
 
  protected:
   std::optional<LRESULT> Own(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void Ending() override;
 
  private:
   /// `event` is told when the system's call is over.
@@ -71,6 +72,7 @@ class Win32Tree final : public Win32Control {
   forms::TreeEvents& treeEvents_;
   UniqueImageList images_;
   UniqueImageList dragImages_;
+  UniqueImageList boxImages_;  // that the system made for the check boxes, once the tree ends
   std::unordered_map<forms::NodeId, HTREEITEM> items_;
   std::unordered_map<forms::NodeId, bool> checks_;  // as the program knows them
   std::deque<std::function<void()>> later_;

@@ -60,7 +60,7 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   virtual LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
   void PositionChanged(const WINDOWPOS& position);
   /// The system's window is about to end, whoever ends it.
-  void Ending();
+  virtual void Ending();
   /// The focus came or went, or the wheel was turned.
   std::optional<LRESULT> TreatFocus(UINT message, WPARAM wParam, LPARAM lParam);
   /// Tells the tool tips of a mouse message; the window may be gone by then.

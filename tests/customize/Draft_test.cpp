@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "base/ByteText.h"
 #include "base/Digest.h"
@@ -132,10 +134,10 @@ TEST(Draft, OutlivesTheCleaningAtAStart) {
 TEST(Draft, IsForgottenEvenReadOnly) {
   sim::SimFiles disk;
   PutFolder(disk, kFiles);
-  EXPECT_TRUE(ForgetDraft(disk, kMenus));
+  EXPECT_TRUE(WriteDrafts(disk, kMenus, {}));
   ASSERT_TRUE(WriteDraft(disk, kMenus, Now(disk).Stamp, Changed()));
   disk.SetReadOnly(kDraft, true);
-  EXPECT_TRUE(ForgetDraft(disk, kMenus));
+  EXPECT_TRUE(WriteDrafts(disk, kMenus, {}));
   EXPECT_FALSE(disk.Has(kDraft));
 }
 
@@ -172,39 +174,155 @@ TEST(Draft, AnEndOrAFailureAtAnyMomentOfWritingLeavesTheEarlierOneOrTheNew) {
 
 // ---- the keeper ----
 
-TEST(DraftKeeper, WritesOnlyWhatIsNew) {
+/// The files with one entry more.
+MenuSet With(const std::string& title) {
+  return {{{{"Games", "Button", ""}, {Item("Chess"), Item(title)}}}, {Item("Clock")}};
+}
+
+struct Desk {
+  Desk() {
+    PutFolder(disk, kFiles);
+    keeper.Open(Now(disk));
+  }
+  /// What the next window would offer.
+  std::vector<MenuSet> Next() { return OfferDrafts(disk, kMenus, Now(disk)); }
+
   sim::SimFiles disk;
-  PutFolder(disk, kFiles);
-  const MenusStamp stamp = Now(disk).Stamp;
-  DraftKeeper keeper(disk, kMenus);
-  disk.ClearLog();
-  EXPECT_TRUE(keeper.Keep(stamp, Changed()));
-  EXPECT_TRUE(keeper.Keep(stamp, Changed()));
-  EXPECT_EQ(disk.Log().size(), 1U);
-  EXPECT_TRUE(keeper.Keep(stamp, {}));
-  EXPECT_TRUE(keeper.Keep({}, {}));
-  EXPECT_EQ(disk.Count("Replace"), 3);
+  DraftKeeper keeper{disk, kMenus};
+};
+
+using Sets = std::vector<MenuSet>;
+
+TEST(DraftKeeper, WritesOnlyWhatIsNew) {
+  Desk desk;
+  EXPECT_TRUE(desk.keeper.Keep(Changed()));
+  EXPECT_TRUE(desk.keeper.Keep(Changed()));
+  EXPECT_EQ(desk.disk.Count("Replace"), 1);
+  EXPECT_TRUE(desk.keeper.Keep({}));
+  EXPECT_EQ(desk.disk.Count("Replace"), 2);
 }
 
 TEST(DraftKeeper, TriesAgainAfterAFailure) {
-  sim::SimFiles disk;
-  PutFolder(disk, kFiles);
-  DraftKeeper keeper(disk, kMenus);
-  disk.FailCall(1, FileError::DiskFull);
-  EXPECT_FALSE(keeper.Keep({}, Changed()));
-  EXPECT_TRUE(keeper.Keep({}, Changed()));
-  EXPECT_TRUE(disk.Has(kDraft));
+  Desk desk;
+  desk.disk.FailCall(1, FileError::DiskFull);
+  EXPECT_FALSE(desk.keeper.Keep(Changed()));
+  EXPECT_TRUE(desk.keeper.Keep(Changed()));
+  EXPECT_TRUE(desk.disk.Has(kDraft));
 }
 
 TEST(DraftKeeper, WritesAgainWhatWasForgotten) {
-  sim::SimFiles disk;
-  PutFolder(disk, kFiles);
-  DraftKeeper keeper(disk, kMenus);
-  EXPECT_TRUE(keeper.Keep({}, Changed()));
-  EXPECT_TRUE(keeper.Forget());
-  EXPECT_FALSE(disk.Has(kDraft));
-  EXPECT_TRUE(keeper.Keep({}, Changed()));
-  EXPECT_TRUE(disk.Has(kDraft));
+  Desk desk;
+  EXPECT_TRUE(desk.keeper.Keep(Changed()));
+  EXPECT_TRUE(desk.keeper.Forget());
+  EXPECT_FALSE(desk.disk.Has(kDraft));
+  EXPECT_TRUE(desk.keeper.Keep(Changed()));
+  EXPECT_TRUE(desk.disk.Has(kDraft));
+}
+
+TEST(DraftKeeper, OffersTheNewestFirstAndEachOnce) {
+  Desk desk;
+  const MenusStamp stamp = Now(desk.disk).Stamp;
+  ASSERT_TRUE(
+      WriteDrafts(desk.disk, kMenus, {{stamp, With("a")}, {stamp, With("b")}, {stamp, With("a")}}));
+  EXPECT_EQ(desk.Next(), (Sets{With("a"), With("b")}));
+}
+
+TEST(DraftKeeper, TheTreesOwnStandsBeforeThoseThatAreOffered) {
+  Desk desk;
+  ASSERT_TRUE(WriteDraft(desk.disk, kMenus, Now(desk.disk).Stamp, With("a")));
+  desk.keeper.Open(Now(desk.disk));
+  EXPECT_TRUE(desk.keeper.Keep(With("b")));
+  EXPECT_EQ(desk.Next(), (Sets{With("b"), With("a")}));
+  EXPECT_TRUE(desk.keeper.Keep(With("c")));
+  EXPECT_EQ(desk.Next(), (Sets{With("c"), With("a")}));
+  EXPECT_TRUE(desk.keeper.Forget());
+  EXPECT_EQ(desk.Next(), (Sets{With("a")}));
+}
+
+TEST(DraftKeeper, ShowChangesTheTreesOwnWithTheFirst) {
+  Desk desk;
+  ASSERT_TRUE(WriteDraft(desk.disk, kMenus, Now(desk.disk).Stamp, With("a")));
+  desk.keeper.Open(Now(desk.disk));
+  EXPECT_EQ(desk.keeper.Show(With("b")), With("a"));
+  EXPECT_EQ(desk.keeper.Offered(), (Sets{With("b")}));
+  EXPECT_EQ(desk.Next(), (Sets{With("a"), With("b")}));
+  EXPECT_EQ(desk.keeper.Show({}), With("b"));
+  EXPECT_EQ(desk.keeper.Offered(), Sets());
+}
+
+TEST(DraftKeeper, OfOtherFilesKeepsTheNewestFew) {
+  Desk desk;
+  Drafts drafts;
+  for (std::uint64_t i = 1; i <= 6; ++i) drafts.push_back({{i, i}, With("x")});
+  ASSERT_TRUE(WriteDrafts(desk.disk, kMenus, drafts));
+  desk.keeper.Open(Now(desk.disk));
+  EXPECT_EQ(desk.keeper.Offered(), Sets());
+  EXPECT_TRUE(desk.keeper.Keep(With("a")));
+  const auto kept = ReadDrafts(desk.disk, kMenus);
+  ASSERT_TRUE(kept.HasValue());
+  ASSERT_EQ(kept->size(), 1 + DraftKeeper::kMostOfOtherFiles);
+  EXPECT_EQ((*kept)[1], drafts[0]);
+  EXPECT_EQ(kept->back(), drafts[3]);
+}
+
+TEST(DraftKeeper, FilesThatWereHeldWhenTheWindowOpenedAreNotWrittenOver) {
+  Desk desk;
+  ASSERT_TRUE(WriteDraft(desk.disk, kMenus, Now(desk.disk).Stamp, With("a")));
+  desk.disk.HoldOpen(kDraft);
+  desk.keeper.Open(Now(desk.disk));
+  EXPECT_EQ(desk.keeper.Offered(), Sets());
+  EXPECT_FALSE(desk.keeper.Keep(With("b")));
+  desk.disk.LetGo(kDraft);
+  EXPECT_TRUE(desk.keeper.Flush());
+  EXPECT_EQ(desk.Next(), (Sets{With("b"), With("a")}));
+}
+
+TEST(DraftKeeper, WhatIsOfferedFollowsTheFiles) {
+  Desk desk;
+  ASSERT_TRUE(WriteDraft(desk.disk, kMenus, Now(desk.disk).Stamp, With("a")));
+  desk.keeper.Open(Now(desk.disk));
+  desk.disk.Put(InMenus("BMENU001.BTN"), Stored(Item("Bell")));
+  desk.keeper.FilesChanged(Now(desk.disk));
+  MenuSet both = With("a");
+  both.Singles = {Item("Bell")};
+  EXPECT_EQ(desk.keeper.Offered(), Sets{both});
+  EXPECT_EQ(desk.Next(), Sets()) << "not written yet";
+  EXPECT_TRUE(desk.keeper.Flush());
+  EXPECT_EQ(desk.Next(), Sets{both});
+  // Once the files hold it, it is no draft any more.
+  desk.disk.Put(InMenus("BMENU001.MNU"),
+                Stored("Games", "Button") + Stored(Item("Chess")) + Stored(Item("a")));
+  desk.keeper.FilesChanged(Now(desk.disk));
+  EXPECT_EQ(desk.keeper.Offered(), Sets());
+}
+
+TEST(DraftKeeper, ASaveTakesWhatIsOfferedAlong) {
+  Desk desk;
+  const Draft other = {{7, 7}, With("x")};
+  ASSERT_TRUE(WriteDrafts(desk.disk, kMenus, {{Now(desk.disk).Stamp, With("a")}, other}));
+  desk.keeper.Open(Now(desk.disk));
+  MenuSet tree = Now(desk.disk).Set;
+  tree.Singles.clear();
+  const DraftsAround around = desk.keeper.AroundSave(tree);
+  EXPECT_EQ(around.Before, (Drafts{{Now(desk.disk).Stamp, With("a")}}));
+  EXPECT_EQ(around.Others, Drafts{other});
+  MenuSet both = With("a");
+  both.Singles.clear();
+  EXPECT_EQ(around.After, Sets{both});
+  ASSERT_TRUE(desk.disk.Remove(InMenus("BMENU001.BTN")));
+  desk.keeper.Saved(around, Now(desk.disk));
+  EXPECT_TRUE(desk.keeper.Flush());
+  EXPECT_EQ(desk.Next(), Sets{both});
+}
+
+TEST(DraftFormat, ManyReadBackInTheirOrderUpToTheFirstDamage) {
+  const Drafts drafts = {{{1, 2}, With("a")}, {{3, 4}, Changed()}, {{1, 2}, {}}};
+  const std::string bytes = FormatDrafts(drafts);
+  EXPECT_EQ(ParseDrafts(bytes), drafts);
+  EXPECT_EQ(ParseDrafts(bytes + "x"), drafts);
+  EXPECT_EQ(ParseDrafts(bytes.substr(0, bytes.size() - 1)), (Drafts{drafts[0], drafts[1]}));
+  EXPECT_EQ(ParseDrafts(""), Drafts());
+  EXPECT_FALSE(ParseDraft(bytes)) << "more than one";
 }
 
 }  // namespace

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/CodePage.h"
 #include "core/MenuRecord.h"
+#include "customize/Draft.h"
 #include "customize/MenuSet.h"
 #include "sim/SimFiles.h"
 
@@ -46,5 +49,26 @@ inline MenuRecord Item(const std::string& title) {
 }
 
 inline std::string Stored(const MenuRecord& record) { return FormatRecord(record, kCodePage); }
+
+/// Makes this the only draft.
+inline FileStatus WriteDraft(FileSystem& files, std::string_view menusPath, const MenusStamp& stamp,
+                             const MenuSet& set) {
+  return WriteDrafts(files, menusPath, {{stamp, set}});
+}
+
+/// What a window over these files offers, the newest first.
+inline std::vector<MenuSet> OfferDrafts(FileSystem& files, std::string_view menusPath,
+                                        const MenuFiles& now) {
+  DraftKeeper keeper(files, menusPath);
+  keeper.Open(now);
+  return keeper.Offered();
+}
+
+inline std::optional<MenuSet> OfferDraft(FileSystem& files, std::string_view menusPath,
+                                         const MenuFiles& now) {
+  const std::vector<MenuSet> offered = OfferDrafts(files, menusPath, now);
+  if (offered.empty()) return std::nullopt;
+  return offered.front();
+}
 
 }  // namespace corvelle

@@ -550,7 +550,7 @@ TEST(SavingConflict, IsOverriddenByTheStampThatItToldAndTheOtherVersionIsKept) {
   const SaveResult conflict = SaveMenus(disk, kCodePage, kMenus, Tree(), read);
   ASSERT_EQ(conflict.End, SaveEnd::Conflict);
   const SaveResult forced =
-      SaveMenus(disk, kCodePage, kMenus, Tree(), conflict.Now.Stamp, &conflict.Now.Set);
+      SaveMenus(disk, kCodePage, kMenus, Tree(), conflict.Now.Stamp, {.After = {conflict.Now.Set}});
   EXPECT_EQ(forced.End, SaveEnd::Saved);
   EXPECT_TRUE(forced.Kept);
   EXPECT_EQ(MenusOf(disk), kNew);

@@ -2,7 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
+#include "core/FileTransaction.h"
 #include "customize/CustDesk.h"
+#include "customize/MenuFolderDesk.h"
 
 namespace corvelle {
 namespace {
@@ -188,6 +193,177 @@ TEST(CustomizeDraft, OneThatIsOfferedIsNotWrittenOverWhileTheWindowIsOpen) {
   desk.world.Desktop.Advance(12000);
   desk.ClickFlat(desk.Form().cmdShowDraft, desk.Form());
   EXPECT_EQ(desk.Shown(), kWithoutAnvil);
+  // What was renamed meanwhile changes places with it.
+  ASSERT_TRUE(desk.Form().cmdShowDraft.Visible());
+  desk.ClickFlat(desk.Form().cmdShowDraft, desk.Form());
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Hammer Anvil) | Watch Paint");
+}
+
+/// Closes the window with the tree unsaved and in no draft, without a question.
+struct TwoDraftsDesk : ChangedDesk {
+  static constexpr const char* kWatch = "Letters(Alpha Beta -) Tools(Hammer Anvil) | Watch Paint";
+
+  TwoDraftsDesk() {
+    world.Desktop.EndSession();
+    Open();
+    EXPECT_TRUE(Form().cmdShowDraft.Visible());
+    Rename("Clock", "Watch");
+  }
+  /// What the window offers, one after the other.
+  std::vector<std::string> Offered() {
+    std::vector<std::string> all;
+    const std::size_t count = Form().Offers();
+    for (std::size_t i = 0; i < count; ++i) {
+      ClickFlat(Form().cmdShowDraft, Form());
+      all.push_back(Shown());
+    }
+    return all;
+  }
+};
+
+TEST(CustomizeDraft, AnOlderOneThatWasNotShownOutlivesAClosingWithNewUnsavedEdits) {
+  TwoDraftsDesk desk;
+  desk.Close();
+  ASSERT_FALSE(desk.Form().IsLoaded());
+  desk.Open();
+  EXPECT_EQ(desk.Form().lblMenuTree.Caption(), "Menu Tree (2 sets of unsaved changes)");
+  EXPECT_EQ(desk.Offered(), (std::vector<std::string>{TwoDraftsDesk::kWatch, kWithoutAnvil}));
+}
+
+TEST(CustomizeDraft, ForgetDropsTheOneThatShowWouldShow) {
+  TwoDraftsDesk desk;
+  desk.Close();
+  desk.Open();
+  desk.ClickFlat(desk.Form().cmdForgetDraft, desk.Form());
+  EXPECT_EQ(desk.Form().lblMenuTree.Caption(), "Menu Tree (unsaved changes are kept)");
+  EXPECT_EQ(desk.Offered(), std::vector<std::string>{kWithoutAnvil});
+  EXPECT_FALSE(desk.Form().cmdForgetDraft.Visible());
+}
+
+TEST(CustomizeDraft, ANoForgetsTheTreesOwnAndNotTheOneThatIsOffered) {
+  TwoDraftsDesk desk;
+  desk.Expand("Single Buttons");
+  desk.ClickNode("Watch");
+  desk.world.Desktop.PressKey(key::Delete);
+  desk.world.Desktop.Answer(kQuestion, kNo);
+  desk.Close();
+  desk.Open();
+  EXPECT_EQ(desk.Offered(), std::vector<std::string>{kWithoutAnvil});
+}
+
+TEST(CustomizeDraft, ASaveOfOtherChangesBringsTheOfferedOneToTheNewFiles) {
+  TwoDraftsDesk desk;
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_EQ(desk.Stored(), TwoDraftsDesk::kWatch);
+  const std::vector<std::string> both{"Letters(Alpha Beta -) Tools(Hammer) | Watch Paint"};
+  desk.Close();
+  desk.Open();
+  EXPECT_EQ(desk.Offered(), both);
+}
+
+TEST(CustomizeDraft, AnEditElsewhereComesIntoTheOfferedOneToo) {
+  TwoDraftsDesk desk;
+  desk.Put(SingleFileName(2), {CustDesk::Entry("Edit")});
+  desk.parts->TheProgram.TellMenusEdited();
+  desk.world.Desktop.Advance(200);
+  const std::vector<std::string> both{"Letters(Alpha Beta -) Tools(Hammer) | Clock Edit",
+                                      "Letters(Alpha Beta -) Tools(Hammer Anvil) | Watch Edit"};
+  EXPECT_EQ(desk.Shown(), both[1]);
+  // The program ends here: what lies on the disk belongs to the files of now.
+  const auto now = ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus);
+  EXPECT_EQ(OfferDrafts(desk.world.Files, CustDesk::kMenus, *now).size(), 2U);
+  desk.ClickFlat(desk.Form().cmdShowDraft, desk.Form());
+  EXPECT_EQ(desk.Shown(), both[0]);
+}
+
+TEST(CustomizeDraft, ARenameThatCannotComeTogetherWithAnEditElsewhereIsOfferedAllTheSame) {
+  ChangedDesk desk;
+  desk.Editor().Undo();
+  desk.Editor().TreeChanged = false;
+  desk.Rename("Hammer", "Mallet");
+  desk.PutMenu(2, {"Tools", "Button", ""},
+               {{"Hammer", "other.ico", "other.exe"}, CustDesk::Entry("Anvil")});
+  desk.parts->TheProgram.TellMenusEdited();
+  desk.world.Desktop.Advance(200);
+  desk.Close();
+  ASSERT_FALSE(desk.Form().IsLoaded());
+  desk.Open();
+  EXPECT_EQ(desk.Shown(), kAtFirst);
+  ASSERT_TRUE(desk.Form().cmdShowDraft.Visible());
+  desk.ClickFlat(desk.Form().cmdShowDraft, desk.Form());
+  EXPECT_NE(desk.Shown().find("Mallet"), std::string::npos) << desk.Shown();
+}
+
+TEST(CustomizeDraft, WhatCannotBeKeptIsAskedAbout) {
+  for (const int answer : {kYes, kNo, kCancel}) {
+    ChangedDesk desk;
+    desk.Editor().Undo();
+    desk.Editor().TreeChanged = false;
+    desk.Rename("Hammer", "Mallet");
+    desk.world.Files.FillDisk(10);
+    desk.world.Desktop.Answer(kQuestion, answer);
+    desk.world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);  // after Yes, of the full disk
+    desk.Close();
+    EXPECT_EQ(desk.Form().IsLoaded(), answer == kCancel) << answer;
+  }
+}
+
+// Closing writes the drafts of both, and the start that follows reads them.
+TEST(CustomizeDraft, AnEndOrAFailureAtAnyCallOfTheClosingLosesNoOlderDraft) {
+  for (const bool ends : {false, true}) {
+    bool bothSeen = false;
+    for (int n = 1;; ++n) {
+      ASSERT_LT(n, 60);
+      TwoDraftsDesk desk;
+      desk.world.Desktop.AnswerAnyOther(kNo);
+      if (ends) {
+        desk.world.Files.FailFrom(n);
+      } else {
+        desk.world.Files.FailCall(n);
+      }
+      desk.Close();
+      const bool hit = desk.world.Files.Hit();
+      desk.world.Files.StopFailing();
+      const auto now = ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus);
+      const std::size_t kept = OfferDrafts(desk.world.Files, CustDesk::kMenus, *now).size();
+      EXPECT_GE(kept, 1U) << "ended before call " << n;
+      bothSeen = bothSeen || kept == 2;
+      if (!hit) break;
+    }
+    EXPECT_TRUE(bothSeen);
+  }
+}
+
+TEST(CustomizeDraft, AnEndOrAFailureAtAnyCallOfASaveLosesNoOlderDraft) {
+  for (const bool ends : {false, true}) {
+    bool oldSeen = false;
+    bool newSeen = false;
+    for (int n = 1;; ++n) {
+      ASSERT_LT(n, 200);
+      TwoDraftsDesk desk;
+      desk.world.Desktop.AnswerAnyOther(kNo);
+      if (ends) {
+        desk.world.Files.FailFrom(n);
+      } else {
+        desk.world.Files.FailCall(n);
+      }
+      desk.ClickControl(desk.Form().cmdSave);
+      const bool hit = desk.world.Files.Hit();
+      desk.world.Files.StopFailing();
+      EXPECT_TRUE(RecoverFiles(desk.world.Files, CustDesk::kMenus));
+      const auto now = ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus);
+      const bool saved = desk.Stored() == TwoDraftsDesk::kWatch;
+      oldSeen = oldSeen || !saved;
+      newSeen = newSeen || saved;
+      bool found = false;
+      for (const MenuSet& set : OfferDrafts(desk.world.Files, CustDesk::kMenus, *now)) {
+        found = found || set.Menus[1].Items.size() == 1;
+      }
+      EXPECT_TRUE(found) << (ends ? "ended before call " : "failing call ") << n;
+      if (!hit) break;
+    }
+    EXPECT_TRUE(oldSeen && newSeen);
+  }
 }
 
 TEST(CustomizeSave, TheFocusIsWhereItWasAndNotOnExit) {

@@ -51,6 +51,37 @@ int CountGdiEntries(HANDLE process) {
                                         [](const GdiEntry& entry) { return entry.Type != 0; }));
 }
 
+struct WindowCount {
+  DWORD Process = 0;
+  int Found = 0;
+};
+
+BOOL CALLBACK CountWindow(HWND window, LPARAM parameter) {
+  auto& count = *reinterpret_cast<WindowCount*>(parameter);
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  if (process == count.Process) ++count.Found;
+  return TRUE;
+}
+
+/// What lies in a window belongs to its process here.
+BOOL CALLBACK CountWithChildren(HWND window, LPARAM parameter) {
+  CountWindow(window, parameter);
+  EnumChildWindows(window, CountWindow, parameter);
+  return TRUE;
+}
+
+int CountWindows(DWORD process) {
+  WindowCount count{.Process = process};
+  EnumWindows(CountWithChildren, reinterpret_cast<LPARAM>(&count));
+  // Windows that only take messages are not listed with the others.
+  HWND window = nullptr;
+  while ((window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr) {
+    CountWithChildren(window, reinterpret_cast<LPARAM>(&count));
+  }
+  return count.Found;
+}
+
 /// For a system that does not tell: what the process has committed for itself alone.
 std::size_t CommittedBytes(HANDLE process) {
   std::size_t bytes = 0;
@@ -75,6 +106,7 @@ ProcessCounts CountsOf(HWND window) {
   if (counts.Gdi == 0) counts.Gdi = CountGdiEntries(process);
   counts.User = static_cast<int>(GetGuiResources(process, GR_USEROBJECTS));
   if (counts.User == 0) counts.User = HighestUserNumber();
+  counts.Windows = CountWindows(id);
   PROCESS_MEMORY_COUNTERS_EX memory = {};
   if (K32GetProcessMemoryInfo(process, reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory),
                               sizeof(memory)) != FALSE) {

@@ -11,6 +11,7 @@ struct ProcessCounts {
   int Gdi = 0;   // objects to draw with
   int User = 0;  // windows, icons, menus; where the system does not count them, the highest number
                  // that a new one gets
+  int Windows = 0;  // of the process, with all that they hold
   std::size_t PrivateBytes = 0;
 };
 

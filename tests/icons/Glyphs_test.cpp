@@ -28,6 +28,7 @@ TEST(Glyphs, EveryKeyGivesAPictureOfItsSizeInSystemColours) {
       {"button", {16, 16}, forms::color::ButtonFace},
       {"qmark", {16, 16}, forms::color::Highlight},
       {"unknown", {16, 16}, forms::color::ButtonText},
+      {"missing", {16, 16}, 0x2020D0},
       {"sep", {16, 16}, forms::color::ButtonShadow},
       {"move up", {16, 16}, forms::color::Highlight},
       {"move down", {16, 16}, forms::color::Highlight},

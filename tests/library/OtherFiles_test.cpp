@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Program.h"
+#include "icons/IconLibrary.h"
 #include "icons/OtherIcons.h"
 #include "sim/World.h"
 
@@ -121,6 +122,70 @@ TEST_F(OtherFilesDesk, ADiskThatRefusesKeepsTheOldListOnIt) {
   EXPECT_EQ(AddOtherFile(program, rows, kTool).Refusal, "");
   EXPECT_EQ(rows.size(), 2U);
   EXPECT_EQ(Stored(), "C:\\a.dll\r\n");
+}
+
+// ---- the program ends in the middle ----
+
+/// An act on the list that is stored, and the lists that the next start may find after it.
+struct StoredAct {
+  const char* Name;
+  Rows Before;
+  void (*Do)(Program& program, Rows& rows);
+  Rows After;
+};
+
+const Rows kShellFiles = {"Explorer.exe |C:\\Windows\\Explorer.exe",
+                          "Shell32.dll |C:\\Windows\\System32\\Shell32.dll"};
+const Rows kTwo = {"a.dll |C:\\a.dll", "z.dll |C:\\z.dll"};
+const StoredAct kStoredActs[] = {
+    {"the first list is made",
+     {},
+     [](Program& program, Rows&) { static_cast<void>(ReadOthers(program)); },
+     kShellFiles},
+    {"a file is added",
+     kTwo,
+     [](Program& program, Rows& rows) { AddOtherFile(program, rows, kTool); },
+     {"a.dll |C:\\a.dll", "tool.exe |C:\\Tools\\tool.exe", "z.dll |C:\\z.dll"}},
+    {"a row is removed",
+     kTwo,
+     [](Program& program, Rows& rows) { RemoveOtherFile(program, rows, 0); },
+     {"z.dll |C:\\z.dll"}},
+    // The next start makes the list that a new user has.
+    {"the last row is removed",
+     {"a.dll |C:\\a.dll"},
+     [](Program& program, Rows& rows) { RemoveOtherFile(program, rows, 0); },
+     kShellFiles},
+    {"the library is reset", kTwo, [](Program& program, Rows&) { ResetLibrary(program); },
+     kShellFiles},
+};
+
+TEST_F(OtherFilesDesk, AfterAnEndAtAnyCallTheNextStartFindsTheOldListOrTheNew) {
+  world.Files.Put("C:\\Windows\\System32\\Shell32.dll", "x");
+  world.Files.Put("C:\\Windows\\Explorer.exe", "x");
+  for (const StoredAct& act : kStoredActs) {
+    bool ended = true;
+    int foundNew = 0;
+    for (int n = 1; ended; ++n) {
+      SCOPED_TRACE(std::string(act.Name) + ", ended at call " + std::to_string(n));
+      world.Files.Vanish(kOthers);
+      if (!act.Before.empty()) SaveOthers(program, act.Before);
+      rows = act.Before;
+      world.Files.FailFrom(n, FileError::DiskFull);
+      act.Do(program, rows);
+      ended = world.Files.Hit();
+      world.Files.StopFailing();
+      const Rows found = ReadOthers(program);
+      // Without a list there was none to keep.
+      const bool old = found == (act.Before.empty() ? kShellFiles : act.Before);
+      EXPECT_TRUE(old || found == act.After) << found.size() << " rows";
+      foundNew += found == act.After ? 1 : 0;
+      if (!ended) {
+        EXPECT_EQ(found, act.After);
+      }
+      EXPECT_LT(n, 50);
+    }
+    EXPECT_GT(foundNew, 0) << act.Name;
+  }
 }
 
 }  // namespace

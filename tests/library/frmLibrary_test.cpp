@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "icons/IconLibrary.h"
 #include "icons/LibraryFile.h"
 #include "library/LibraryDesk.h"
 
@@ -510,6 +511,56 @@ TEST_F(LibraryDesk, AnotherColourDepthResetsItWithoutAMessage) {
   const auto record = world.Files.Get("C:\\Corvelle\\clrlib.dat");
   ASSERT_TRUE(record);
   EXPECT_EQ(record->size(), kDisplayRecord);
+}
+
+TEST_F(LibraryDesk, AfterAnEndAtAnyCallOfAResetTheNextStartShowsTheWholeLibrary) {
+  const std::string display = "C:\\Corvelle\\clrlib.dat";
+  bool ended = true;
+  for (int n = 1; ended; ++n) {
+    SCOPED_TRACE("ended at call " + std::to_string(n));
+    // A library that was built under other colours, and has an icon more by now.
+    world.Files.Vanish(std::string(kIcons) + "zebra.ico");
+    world.System.Depth = 32;
+    program.Icons.LibraryBuilt = false;
+    Open();
+    PressKey(Escape);
+    PutIcon("zebra.ico");
+    PutOthers({kTool});
+    world.System.Depth = 8;
+    // A writer that a full disk stops has written half.
+    world.Files.FailFrom(n, n % 2 == 0 ? FileError::DiskFull : FileError::Failed);
+    Open();
+    ended = world.Files.Hit();
+    library.Unload();
+    world.Files.StopFailing();
+    const std::string left = world.Files.Get(display).value_or("");
+    EXPECT_EQ(left.size(), kDisplayRecord);
+    program.Icons.LibraryBuilt = false;  // the next start
+    Open();
+    EXPECT_TRUE(world.Desktop.Boxes().empty());
+    EXPECT_EQ(library.LibraryView.Captions(),
+              (Names{"Anchor.ico", "Bell.ico", "Clock.ico", "Zebra.ico"}));
+    EXPECT_EQ(world.Files.Get(kOthers).value_or("(missing)"), std::string(kTool) + "\r\n");
+    library.Unload();
+    // And what it noted of the display is right: the opening after it resets nothing.
+    EXPECT_FALSE(CheckLibraryDisplay(program));
+    EXPECT_LT(n, 60);
+  }
+}
+
+TEST_F(LibraryDesk, ADisplayRecordThatWasCutShortCountsAsAnotherDisplay) {
+  Open();
+  PressKey(Escape);
+  const std::string display = "C:\\Corvelle\\clrlib.dat";
+  const std::string whole = world.Files.Get(display).value_or("");
+  ASSERT_EQ(whole.size(), kDisplayRecord);
+  constexpr std::size_t kTold = 5;  // bytes; those behind them are zeros, as missing ones are
+  for (std::size_t length = 0; length < kTold; ++length) {
+    world.Files.Put(display, whole.substr(0, length));
+    EXPECT_TRUE(CheckLibraryDisplay(program)) << length;
+    EXPECT_EQ(world.Files.Get(display).value_or(""), whole) << length;
+  }
+  EXPECT_FALSE(CheckLibraryDisplay(program));
 }
 
 TEST_F(LibraryDesk, TheWindowMayGoWhileAMessageOrDialogIsUp) {

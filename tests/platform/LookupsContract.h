@@ -203,6 +203,16 @@ TEST_P(LookupsContract, ADriveGivesItsFactsAndAMissingOneItsKind) {
   EXPECT_EQ(factsOf("Q:\\"), DriveFacts{.Type = 1});
 }
 
+TEST_P(LookupsContract, ADiskOfTheMachineIsAtHandAndAMissingOneIsNot) {
+  const auto atHand = [this](const std::string& root) {
+    const LookupAnswer answer =
+        AnswerTo({.Kind = LookupKind::DriveAtHand, .Path = root, .Lane = root});
+    return answer.Value == LookupValue(true);
+  };
+  EXPECT_TRUE(atHand("C:\\"));
+  EXPECT_FALSE(atHand("Q:\\"));
+}
+
 TEST_P(LookupsContract, EachQuestionEndsOnceAndALaneKeepsItsOrder) {
   std::map<std::string, std::vector<LookupId>> asked;
   for (int i = 0; i < 200; ++i) {

@@ -82,6 +82,12 @@ TEST_P(SystemContract, ADriveThatIsReadyHasAKindAFileSystemAndRoom) {
   EXPECT_LE(facts.Room->Free, facts.Room->Total);
 }
 
+TEST_P(SystemContract, ADriveThatIsReadyIsAtHandAndOneWithNothingInItIsNot) {
+  EXPECT_TRUE(system_.IsDriveAtHand(machine_->ReadyDrive()));
+  EXPECT_FALSE(system_.IsDriveAtHand(machine_->EmptyDrive()));
+  EXPECT_FALSE(system_.IsDriveAtHand(machine_->NoDrive()));
+}
+
 TEST_P(SystemContract, AMissingDriveHasNothingButItsKind) {
   EXPECT_EQ(system_.FactsOfDrive(machine_->NoDrive()), DriveFacts{.Type = 1});
 }

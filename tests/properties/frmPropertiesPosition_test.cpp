@@ -144,6 +144,35 @@ TEST_F(PropertiesPosition, AStripThatHidesIsShownAtItsNewEdge) {
   EXPECT_TRUE(parts->Toolbar.picToolbar.Visible());
 }
 
+TEST_F(PropertiesPosition, AStripInTheTaskBarStaysThere) {
+  OpenItem(1);
+  parts->Companion.MinimizeFor(parts->Toolbar.WindowBounds());
+  Desktop().Advance(300);
+  ASSERT_TRUE(TheProgram().Strip.ToolbarMinimized);
+  ASSERT_TRUE(Window().Visible());
+  // An edit of an entry, one of the order, and an edge.
+  TypeInto(Window().txtTitle, "other");
+  ClickOn(Window().cmdApply);
+  EXPECT_EQ(RecordAt("BMENU001.MNU", 2).FTitle, "other");
+  EXPECT_FALSE(parts->Toolbar.Visible());
+  EXPECT_FALSE(parts->Menu.MenuVisible());
+  OpenTab("buttons");
+  ClickNode(0, forms::TreePart::Check);
+  ClickOn(Window().cmdApply);
+  EXPECT_EQ(RecordAt("BMENU001.MNU", 1).FName, "/h");
+  EXPECT_FALSE(parts->Toolbar.Visible());
+  OpenTab("position");
+  ClickOn(Window().cmdLeft);
+  EXPECT_FALSE(parts->Toolbar.Visible());
+  EXPECT_FALSE(TheProgram().Strip.AppBarDocked);
+  EXPECT_TRUE(TheProgram().Strip.ToolbarMinimized);
+  // It comes back with what was changed.
+  Desktop().RestoreMinimized(parts->Companion.hWnd());
+  Desktop().Advance(300);
+  EXPECT_TRUE(parts->Toolbar.Visible());
+  EXPECT_EQ(parts->Toolbar.Buttons.ButtonCount, 2);
+}
+
 // ---- the window ----
 
 class PropertiesWindow : public PropertiesDesk {};

@@ -12,7 +12,7 @@ constexpr int kNoLibraryTip = 5;  // options
 /// A menu with one entry, whose properties ask for an icon.
 class Library : public ::testing::Test {
  protected:
-  void SetUp() override {
+  void Begin() {
     desk_ = MakeDesk();
     desk_->WriteFile(kFlagsFile, InstalledFlags({kNoLibraryTip}));
     desk_->WriteFile(kPositionFile,
@@ -20,6 +20,9 @@ class Library : public ::testing::Test {
     WriteMenu(*desk_, 1, "Letters", {Witness(*desk_, "alpha")});
     desk_->MovePointer(FarAway(*desk_));
     ASSERT_TRUE(StartAndWait(*desk_));
+  }
+  void SetUp() override {
+    Begin();
     ASSERT_TRUE(OpenMenu(*desk_, 2));
     const PixelPoint item = ItemMiddle(*desk_, 1, 1);
     desk_->MovePointer({item.x + 4, item.y});
@@ -122,6 +125,69 @@ TEST_F(Library, EscapeLeavesTheEntryAsItIs) {
   desk_->Key(kKeyEscape);
   ASSERT_TRUE(desk_->Wait([this] { return !desk_->IsVisible("frmProperties"); }));
   EXPECT_EQ(Icon(), desk_->WitnessProgram());
+}
+
+/// The same, asked for by the entry in Customize.
+class CustomizeLibraryAtEachScale : public Library {
+ protected:
+  void SetUp() override {
+    Begin();
+    ASSERT_TRUE(ChooseInMainMenu(*desk_, MainChoice::Customize));
+    ASSERT_TRUE(WaitForFront("frmCust"));
+    desk_->Pause(1300);
+    // To the button, which opens, and to its entry.
+    desk_->Key(kKeyDown);
+    desk_->Pause(100);
+    desk_->Key(kKeyRight);
+    desk_->Pause(1300);
+    desk_->Key(kKeyDown);
+    desk_->Pause(200);
+    // Over the title to the icon.
+    desk_->Key(kKeyTab);
+    desk_->Key(kKeyTab);
+    desk_->Key(kKeyF3);
+    ASSERT_TRUE(WaitForFront("frmLibrary"));
+    desk_->Pause(500);
+  }
+
+  /// Picks the marked icon, and saves the tree.
+  void PickAndSave() {
+    desk_->Key(kKeyEnter);
+    ASSERT_TRUE(desk_->Wait([this] { return !desk_->IsVisible("frmLibrary"); }));
+    ASSERT_TRUE(WaitForFront("frmCust"));
+    desk_->Pause(400);
+    desk_->Picture("customize-with-the-icon");
+    EXPECT_EQ(Icon(), desk_->WitnessProgram());
+    KeyWith(kKeyAlt, 'U');
+  }
+};
+
+TEST_F(CustomizeLibraryAtEachScale, AnIconOfACategoryIsPickedForTheEntryInTheTree) {
+  KeyWith(kKeyShift, kKeyTab);
+  KeyWith(kKeyShift, kKeyTab);
+  desk_->Key(kKeyDown);
+  desk_->Pause(500);
+  desk_->Key(kKeyTab);
+  desk_->Key(kKeyTab);
+  desk_->Key(kKeyHome);
+  desk_->Pause(300);
+  desk_->Picture("marked");
+  PickAndSave();
+  ASSERT_TRUE(desk_->Wait([this] { return Icon().starts_with("\\icons\\"); })) << Icon();
+  ASSERT_TRUE(WaitForFront("frmCust"));
+  desk_->Pause(300);
+  desk_->Picture("saved");
+}
+
+TEST_F(CustomizeLibraryAtEachScale, AnIconOfAnotherFileIsPickedForTheEntryInTheTree) {
+  desk_->WriteFile("Icons\\others.dat", "C:\\Corvelle\\corvelle.exe\r\n");
+  KeyWith(kKeyControl, kKeyTab);
+  desk_->Pause(700);
+  desk_->Key(kKeyHome);
+  desk_->Pause(200);
+  desk_->Picture("other-file");
+  PickAndSave();
+  ASSERT_TRUE(desk_->Wait([this] { return Icon() == "C:\\Corvelle\\corvelle.exe |0"; })) << Icon();
 }
 
 }  // namespace

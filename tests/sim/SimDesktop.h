@@ -146,6 +146,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void ChooseFolder(forms::FolderChoice choice) { folderChoices_.push_back(std::move(choice)); }
   void CancelFiles() { fileChoices_.emplace_back(); }
   void CancelFolder() { folderChoices_.emplace_back(); }
+  /// Answers every dialog that has no choice waiting for it, while it is up.
+  void AnswerAnyDialog(std::function<forms::FileChoice(const forms::FileQuestion&)> files,
+                       std::function<forms::FolderChoice(const forms::FolderQuestion&)> folders) {
+    anyFiles_ = std::move(files);
+    anyFolder_ = std::move(folders);
+  }
   /// Runs while each file or folder dialog is up.
   void WhileDialogIsUp(std::function<void()> action) { dialogAction_ = std::move(action); }
   const std::vector<forms::FileQuestion>& FileQuestions() const noexcept { return fileQuestions_; }
@@ -440,6 +446,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::vector<forms::FileQuestion> fileQuestions_;
   std::vector<forms::FolderQuestion> folderQuestions_;
   std::function<void()> dialogAction_;
+  std::function<forms::FileChoice(const forms::FileQuestion&)> anyFiles_;
+  std::function<forms::FolderChoice(const forms::FolderQuestion&)> anyFolder_;
   std::deque<std::string> choices_;
   std::function<void(const Popup&)> popupAction_;
   std::vector<Popup> popups_;

@@ -33,16 +33,18 @@ void SimDesktop::WhileDialogIsUp(WindowId owner, std::string title, const Act& a
 forms::FileChoice SimDesktop::AskFiles(WindowId owner, const forms::FileQuestion& question) {
   fileQuestions_.push_back(question);
   forms::FileChoice choice;
-  if (fileChoices_.empty()) {
+  const bool open = fileChoices_.empty() && anyFiles_;
+  if (fileChoices_.empty() && !open) {
     Complain("unexpected file dialog: \"" + question.Title + "\"");
-  } else {
+  } else if (!open) {
     choice = std::move(fileChoices_.front());
     fileChoices_.pop_front();
   }
   if (choice.Paths.size() > 1 && !question.Several) {
     Complain("several files for a dialog that asks for one");
   }
-  WhileDialogIsUp(owner, question.Title, [this] {
+  WhileDialogIsUp(owner, question.Title, [&] {
+    if (open) choice = anyFiles_(question);
     if (const auto action = dialogAction_) action();
   });
   return choice;
@@ -51,13 +53,15 @@ forms::FileChoice SimDesktop::AskFiles(WindowId owner, const forms::FileQuestion
 forms::FolderChoice SimDesktop::AskFolder(WindowId owner, const forms::FolderQuestion& question) {
   folderQuestions_.push_back(question);
   forms::FolderChoice choice;
-  if (folderChoices_.empty()) {
+  const bool open = folderChoices_.empty() && anyFolder_;
+  if (folderChoices_.empty() && !open) {
     Complain("unexpected folder dialog: \"" + question.Text + "\"");
-  } else {
+  } else if (!open) {
     choice = std::move(folderChoices_.front());
     folderChoices_.pop_front();
   }
-  WhileDialogIsUp(owner, "Browse for Folder", [this] {
+  WhileDialogIsUp(owner, "Browse for Folder", [&] {
+    if (open) choice = anyFolder_(question);
     if (const auto action = dialogAction_) action();
   });
   return choice;

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,7 @@ class SimSystemInfo final : public SystemInfo {
   /// By their roots.
   std::map<std::string, DriveFacts> Drives{
       {"C:\\", {3, "System", "NTFS", DriveRoom{512'000'000'000, 128'000'000'000}}}};
+  std::set<std::string> DrivesAtRest;
   int Caption = 19;
   int CaptionButton = 18;
   int Depth = 32;
@@ -59,6 +61,10 @@ class SimSystemInfo final : public SystemInfo {
   DriveFacts FactsOfDrive(const std::string& root) const override {
     const auto found = Drives.find(root);
     return found != Drives.end() ? found->second : DriveFacts{.Type = 1};
+  }
+  bool IsDriveAtHand(const std::string& root) const override {
+    const unsigned type = FactsOfDrive(root).Type;
+    return (type == 3 || type == 6) && !DrivesAtRest.contains(root);
   }
   bool AnotherInstanceRuns() override {
     if (OnInstanceAsked) OnInstanceAsked();

@@ -67,9 +67,16 @@ struct BusyIcons final : ShellIcons {
     if (const auto action = std::exchange(WhileAsked, nullptr)) action();
     return std::nullopt;
   }
+  std::optional<std::string> DisplayName(std::string_view) override { return std::nullopt; }
   int IconWidth(IconList) override { return 32; }
   bool DrawSystemIcon(Canvas&, IconList, int, PixelPoint, IconStyle) override { return false; }
   bool DrawFileIcon(Canvas&, std::string_view, int, PixelPoint, int) override { return false; }
+  std::optional<IconPixels> PixelsOfFile(std::string_view, IconList) override {
+    return std::nullopt;
+  }
+  std::optional<IconPixels> PixelsInFile(std::string_view, int, int) override {
+    return std::nullopt;
+  }
   int IconCount(std::string_view) override { return 0; }
 };
 

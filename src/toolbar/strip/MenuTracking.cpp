@@ -117,6 +117,8 @@ void MenuTracking::OpenMenu(std::string_view tag) {
 void MenuTracking::RefreshMenu(std::string_view tag) {
   QMenuPort* const menu = program_.Ports.QMenu;
   if (menu == nullptr || MenuRefreshing) return;
+  // No menu opens beside a strip that is in the task bar: it is built when it opens.
+  if (program_.Strip.ToolbarMinimized) return RemoveQMenu(tag);
   const forms::FlagScope refreshing(MenuRefreshing);
   timer2_.SetEnabled(false);
   menu->SetPoll(false);

@@ -321,10 +321,11 @@ void frmToolbar::OfferDefaultEntries() {
 
 void frmToolbar::InitNewButtons() {
   if (!IsLoaded()) return;
-  // One rebuild at a time. The one that runs may have read the options and files already.
-  if (program_.Guards.AppBarBusy) {
+  // One rebuild at a time. The one that runs may have read the options and files already. A strip
+  // in the task bar would be shown by it: it is rebuilt when it comes back.
+  if (program_.Guards.AppBarBusy || program_.Strip.ToolbarMinimized) {
     news_.Rebuild = true;
-    Timer1.SetEnabled(true);
+    if (!program_.Strip.ToolbarMinimized) Timer1.SetEnabled(true);
     return;
   }
   news_.Rebuild = false;

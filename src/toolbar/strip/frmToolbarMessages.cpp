@@ -213,7 +213,8 @@ void frmToolbar::CheckToolbarMove() {
 }
 
 void frmToolbar::ShowToolbar() {
-  if (Visible()) return;
+  // A strip in the task bar comes back by its companion only.
+  if (Visible() || program_.Strip.ToolbarMinimized) return;
   ZOrder(forms::ZPlace::Front);
   ShowNoActivate();
 }
@@ -223,6 +224,7 @@ void frmToolbar::ShowAndRefresh() {
   Refresh();
   FollowColours();
   FollowDisplay();
+  if (news_.Rebuild) Timer1.SetEnabled(true);
 }
 
 void frmToolbar::BringToForeground() {
