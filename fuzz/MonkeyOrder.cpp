@@ -162,7 +162,7 @@ std::string MonkeyLife::WrongWindows() const {
   if (seen.contains("frmStartup")) return "the window of the start stays";
   const bool pulled = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
   // The menu under a dropped address is covered until the address is dealt with.
-  const bool waits = parts_->TheProgram.WebLinkPending;
+  const bool waits = parts_->WebLink.WebLinkPending;
   if (parts_->StillPicture.IsLoaded() && !pulled && !waits) return "a still picture stays";
   return {};
 }
