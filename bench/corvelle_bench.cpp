@@ -202,7 +202,7 @@ class StartGround {
   void Start() {
     copy_->Start();
     desk_.World.Desktop.Pump();
-    if (copy_->Toolbar.ButtonCount != kButtons + 1) GiveUp("the strip lacks buttons");
+    if (copy_->Toolbar.Buttons.ButtonCount != kButtons + 1) GiveUp("the strip lacks buttons");
   }
   /// What a start reads.
   const std::vector<HostFiles::ReadCall>& Reads() {
@@ -252,7 +252,7 @@ void RegisterStart() {
       "strip/hit_test",
       [ground](benchmark::State& state) {
         Copy& copy = ground().Pointed();
-        Repeat(state, [&] { copy.Toolbar.GetCurButton(); });
+        Repeat(state, [&] { copy.Toolbar.Menus.GetCurButton(); });
         if (copy.TheProgram.Menu.CurButton < 2) GiveUp("no button was hit");
       },
       [ground](benchmark::State& state) {

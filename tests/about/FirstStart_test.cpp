@@ -72,7 +72,7 @@ TEST(InstalledFirstStart, AllThatIsWrittenLiesInTheUsersFolder) {
   Parts parts(world.Services(), world.Windows());
   ASSERT_TRUE(Main(parts.TheProgram));
   world.Desktop.Pump();
-  EXPECT_EQ(parts.Toolbar.ButtonCount, 6);
+  EXPECT_EQ(parts.Toolbar.Buttons.ButtonCount, 6);
   EXPECT_TRUE(world.Files.Has(data + "Menus\\BMENU001.MNU"));
   EXPECT_TRUE(world.Files.Has(data + "Icons\\W95MBX02.ICO"));
   EXPECT_TRUE(world.Files.Has(data + "ShellLink"));

@@ -530,7 +530,7 @@ TEST(Carry, WhoseReleaseAnotherProgramGotIsAbandoned) {
   desk.To(CarryDesk::kAway);
   EXPECT_TRUE(desk.Carries());
   desk.Release();
-  desk.Strip.GetCurButton();
+  desk.Strip.Menus.GetCurButton();
   EXPECT_TRUE(desk.Carries()) << "the release may still be on its way";
   desk.World.Desktop.Advance(400);
   EXPECT_FALSE(desk.Carries());
@@ -589,15 +589,15 @@ TEST(CarryGuards, ASecondReleaseAClickAndTheTimersInsideADropDoNothing) {
   desk.Row.WhileDropping = [&] {
     dropping = desk.TheProgram.Drag.ItemDropping;
     desk.Menu.Form_MouseUp(MouseButton::Left, {}, 600, 600);
-    desk.Strip.picToolbar_MouseUp(MouseButton::Left, {}, 0, 0);
+    desk.Strip.picToolbar.MouseUp(MouseButton::Left, {}, 0, 0);
     desk.Menu.Form_MouseDown(MouseButton::Left, {.Ctrl = true}, 600, 600);
-    desk.Strip.GetCurButton();
+    desk.Strip.Menus.GetCurButton();
     desk.World.Desktop.Jump(1000);
-    desk.Strip.GetCurButton();
+    desk.Strip.Menus.GetCurButton();
     desk.World.Desktop.SetPointerPosition(CarryDesk::kAway);
     desk.Picture.Timer1.Tick();
     EXPECT_EQ(desk.Pointer(), MousePointer::Hourglass);
-    desk.Strip.Timer2_Timer();
+    desk.Strip.Menus.Timer2_Timer();
     EXPECT_TRUE(desk.Carries());
     EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "B");
   };
