@@ -84,6 +84,19 @@ class HostIcons final : public ShellIcons {
                          .DisplayName = std::string(path.substr(path.rfind('\\') + 1)),
                          .TypeName = "File"};
   }
+  std::optional<std::string> DisplayName(std::string_view path) override {
+    const auto info = FileInfo(path, IconList::Small);
+    if (!info) return std::nullopt;
+    return info->DisplayName;
+  }
+  std::optional<IconPixels> PixelsOfFile(std::string_view path, IconList /*list*/) override {
+    if (!files_.FileExists(path)) return std::nullopt;
+    return IconPixels{16, 16, std::vector<std::uint32_t>(256, 0xFFFF0000U)};
+  }
+  std::optional<IconPixels> PixelsInFile(std::string_view /*file*/, int /*index*/,
+                                         int /*size*/) override {
+    return std::nullopt;
+  }
   int IconWidth(IconList /*list*/) override { return 16; }
   bool DrawSystemIcon(Canvas& canvas, IconList /*list*/, int /*index*/, PixelPoint at,
                       IconStyle /*style*/) override {

@@ -10,9 +10,10 @@
 #include "core/OptionFlags.h"
 #include "core/ProgramPaths.h"
 #include "core/RecordEdits.h"
-#include "core/SlowQuestions.h"
 #include "core/StripPlacement.h"
 #include "core/WindowPorts.h"
+#include "desk/AnswerDesk.h"
+#include "desk/SlowQuestions.h"
 #include "forms/WindowSystem.h"
 #include "platform/Platform.h"
 
@@ -23,7 +24,10 @@ namespace corvelle {
 class Program {
  public:
   Program(const Platform& services, forms::WindowSystem& windows)
-      : Services(services), Windows(windows), Slow(services.SlowAnswers) {}
+      : Services(services),
+        Windows(windows),
+        Slow(services.SlowAnswers),
+        Answers(Slow, services.System, windows) {}
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
@@ -32,6 +36,9 @@ class Program {
   WindowPorts Ports;
   /// What disks and drives are asked without waiting for them.
   SlowQuestions Slow;
+  /// The same with answers that are kept, what is on show first, and places that do not answer left
+  /// to rest.
+  desk::AnswerDesk Answers;
 
   /// Title of the application, which its message boxes bear.
   std::string Title = "Corvelle";

@@ -8,6 +8,12 @@ namespace {
 
 LookupAnswer DroppedAnswer(LookupId id) { return {.Id = id, .End = LookupEnd::Dropped}; }
 
+template <class T>
+LookupAnswer AnswerOf(std::optional<T> value) {
+  if (!value) return {.End = LookupEnd::Failed};
+  return {.Value = *std::move(value)};
+}
+
 }  // namespace
 
 LookupId LookupLedger::Open(Lookup question) {
@@ -59,23 +65,38 @@ std::vector<LookupAnswer> LookupLedger::TakeEnds() {
   return told;
 }
 
-LookupAnswer AnswerLookup(FileSystem& files, ShellLinks& links, const SystemInfo& system,
-                          const Lookup& question) {
+LookupAnswer AnswerLookup(const LookupServices& services, const Lookup& question) {
+  const std::string& path = question.Path;
   switch (question.Kind) {
     case LookupKind::IsThere:
-      return {.Value = files.FileExists(question.Path) || files.FolderExists(question.Path)};
+      return {.Value = services.Files.FileExists(path) || services.Files.FolderExists(path)};
     case LookupKind::FolderEntries: {
-      auto entries = files.List(question.Path, question.Pattern);
+      auto entries = services.Files.List(path, question.Pattern);
       if (!entries) return {.End = LookupEnd::Failed, .Error = entries.Error()};
       return {.Value = *std::move(entries)};
     }
     case LookupKind::Drive:
-      return {.Value = system.FactsOfDrive(question.Path)};
+      return {.Value = services.System.FactsOfDrive(path)};
     case LookupKind::LinkTarget: {
-      const auto link = links.CreateLinkObject();
-      if (link == nullptr || !link->Load(question.Path)) return {.End = LookupEnd::Failed};
+      const auto link = services.Links.CreateLinkObject();
+      if (link == nullptr || !link->Load(path)) return {.End = LookupEnd::Failed};
       return {.Value = link->GetPath().value_or(std::string())};
     }
+    case LookupKind::FileName:
+      return AnswerOf(services.Icons.DisplayName(path));
+    case LookupKind::FileIcon:
+      return AnswerOf(services.Icons.PixelsOfFile(path, question.List));
+    case LookupKind::IconInFile:
+      return AnswerOf(services.Icons.PixelsInFile(path, question.Number, question.Size));
+    case LookupKind::ShellFolder: {
+      auto self = services.Folders.Folder(question.Number);
+      if (!self) return {.End = LookupEnd::Failed};
+      return {.Value = std::vector<ShellFolderEntry>{*std::move(self)}};
+    }
+    case LookupKind::ShellEntries:
+      return AnswerOf(services.Folders.List(question.Number));
+    case LookupKind::ShellIcon:
+      return AnswerOf(services.Folders.PixelsOf(question.Number, path, question.List));
   }
   return {.End = LookupEnd::Failed};
 }

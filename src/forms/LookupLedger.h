@@ -37,6 +37,7 @@ class LookupLedger {
 
   /// The ends that have not been told yet, in their order. They are told with this.
   [[nodiscard]] std::vector<LookupAnswer> TakeEnds();
+  [[nodiscard]] bool HasEnds() const noexcept { return !ends_.empty(); }
 
  private:
   struct Ended {
@@ -50,9 +51,17 @@ class LookupLedger {
   LookupId last_ = 0;
 };
 
+/// What questions are answered with.
+struct LookupServices {
+  FileSystem& Files;
+  ShellLinks& Links;
+  const SystemInfo& System;
+  ShellIcons& Icons;
+  ShellFolders& Folders;
+};
+
 /// Answers a question with these services, and takes as long as they do. The id is left to the
 /// ledger.
-[[nodiscard]] LookupAnswer AnswerLookup(FileSystem& files, ShellLinks& links,
-                                        const SystemInfo& system, const Lookup& question);
+[[nodiscard]] LookupAnswer AnswerLookup(const LookupServices& services, const Lookup& question);
 
 }  // namespace corvelle::forms

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/Geometry.h"
+#include "platform/IconPixels.h"
 
 namespace corvelle {
 
@@ -46,6 +47,10 @@ class Canvas {
   /// Parts outside the bitmap are left out. `source` comes from the same window system and is
   /// another canvas.
   virtual void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) = 0;
+
+  /// Draws a picture with its upper left corner at `at`; where it is not opaque the ground shows
+  /// through. One that is not whole draws nothing.
+  virtual void DrawPixels(const IconPixels& picture, PixelPoint at) = 0;
 
   /// The colour at a point of the bitmap, without regard to the origin; 0 outside.
   [[nodiscard]] virtual Rgb PixelAt(PixelPoint at) const = 0;

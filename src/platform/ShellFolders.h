@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "base/Geometry.h"
+#include "platform/IconPixels.h"
+#include "platform/ShellIcons.h"
 #include "platform/WindowId.h"
 
 namespace corvelle {
@@ -31,6 +33,11 @@ class ShellFolders {
 
   /// The folder as an entry itself; nothing when the system does not have it.
   [[nodiscard]] virtual std::optional<ShellFolderEntry> Folder(int folder) = 0;
+
+  /// The icon of an entry of a folder, or of the folder itself for an empty name; nothing when
+  /// there is no such entry or it has no icon.
+  [[nodiscard]] virtual std::optional<IconPixels> PixelsOf(int folder, std::string_view name,
+                                                           IconList list) = 0;
 
   /// Path of a folder that lies on the disk; nothing for another.
   [[nodiscard]] virtual std::optional<std::string> PathOf(int folder) = 0;

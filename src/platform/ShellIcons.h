@@ -6,6 +6,7 @@
 
 #include "base/Geometry.h"
 #include "platform/Canvas.h"
+#include "platform/IconPixels.h"
 
 namespace corvelle {
 
@@ -32,6 +33,9 @@ class ShellIcons {
   [[nodiscard]] virtual std::optional<ShellFileInfo> FileInfo(std::string_view path,
                                                               IconList list) = 0;
 
+  /// The name alone of an existing file or folder, without its icon being looked for.
+  [[nodiscard]] virtual std::optional<std::string> DisplayName(std::string_view path) = 0;
+
   /// Width of the icons of a list; 0 when the system does not tell.
   [[nodiscard]] virtual int IconWidth(IconList list) = 0;
 
@@ -44,6 +48,15 @@ class ShellIcons {
   /// resource has the number -`index`. False when the file has no such icon. Keeps no handle.
   virtual bool DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                             int size) = 0;
+
+  /// The icon that the shell shows for an existing file or folder, as large as those of the list (a
+  /// small one is 16 by 16), and icon `index` of an icon file at `size` by `size` (see
+  /// DrawFileIcon). Nothing when there is none. Unlike the routines above they can be called on any
+  /// thread that has an object of its own.
+  [[nodiscard]] virtual std::optional<IconPixels> PixelsOfFile(std::string_view path,
+                                                               IconList list) = 0;
+  [[nodiscard]] virtual std::optional<IconPixels> PixelsInFile(std::string_view file, int index,
+                                                               int size) = 0;
 
   /// How many icons a file holds; 0 when it holds none or cannot be read.
   [[nodiscard]] virtual int IconCount(std::string_view file) = 0;

@@ -229,17 +229,14 @@ void frmProperties::Form_Load() {
   for (forms::PictureBox* page : {&Picture1, &picButtons, &Picture2}) {
     page->ZOrder(forms::ZPlace::Front);
   }
-  program_.Services.SlowAnswers.SetListener(
-      [this](const std::vector<LookupAnswer>& answers) { HearAnswers(answers); });
   ShowTab(std::string(kItemTab));
 }
 
 void frmProperties::Form_Unload() {
   tmrEdge_.SetEnabled(false);
   tmrTarget_.SetEnabled(false);
-  program_.Services.SlowAnswers.Drop(targetAsked_);
-  program_.Services.SlowAnswers.SetListener({});
-  targets_.clear();
+  program_.Slow.Drop(targetAsked_);
+  targetsLeft_ = 0;
   TabStrip1.Select(std::string(kItemTab));
   if (program_.Ports.Library != nullptr && program_.Ports.Library->WindowLoaded()) {
     program_.Ports.Library->UnloadWindow();

@@ -122,7 +122,7 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void ShowFileError(std::string_view path, FileError error);
   void AskTarget();
   void AskTargetSoon();
-  void HearAnswers(const std::vector<LookupAnswer>& answers);
+  void HearTarget(const LookupAnswer& answer);
 
   // ---- what the boxes are filled from (frmPropertiesBrowse.cpp) ----
   bool txtIcon_KeyDown(int keyCode);
@@ -180,7 +180,7 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   std::optional<Edge> shownEdge_;
   forms::Timer tmrEdge_;
   forms::Timer tmrTarget_;
-  std::vector<LookupId> targets_;  // what is asked about the command
+  std::size_t targetsLeft_ = 0;  // what is asked about the command and was not found missing yet
   std::uint64_t targetAsked_ = 0;
   std::string lastFolder_;
   std::string lastBrowseFolder_;

@@ -150,32 +150,26 @@ void frmProperties::AskTargetSoon() {
 void frmProperties::AskTarget() {
   tmrTarget_.SetEnabled(false);
   lblMissing.SetVisible(false);
-  Lookups& lookups = program_.Services.SlowAnswers;
-  lookups.Drop(targetAsked_);
-  ++targetAsked_;
-  targets_.clear();
+  program_.Slow.Drop(targetAsked_);
+  targetAsked_ = program_.Slow.NewGeneration();
+  targetsLeft_ = 0;
   if (!txtCommand.Enabled()) return;
   for (std::string& path : TargetsOf(txtCommand.Text())) {
     Lookup question{.Path = std::move(path), .Generation = targetAsked_};
     question.Lane = LaneOf(question.Path);
-    targets_.push_back(lookups.Ask(std::move(question)));
+    ++targetsLeft_;
+    program_.Slow.Ask(std::move(question),
+                      [this](const LookupAnswer& answer) { HearTarget(answer); });
   }
 }
 
-void frmProperties::HearAnswers(const std::vector<LookupAnswer>& answers) {
-  for (const LookupAnswer& answer : answers) {
-    const auto asked = std::find(targets_.begin(), targets_.end(), answer.Id);
-    if (asked == targets_.end()) continue;
-    const bool* const there = std::get_if<bool>(&answer.Value);
-    const bool missing = answer.End == LookupEnd::Answered && there != nullptr && !*there;
-    if (!missing) {
-      // One is enough, and so is one that cannot be told.
-      targets_.clear();
-      continue;
-    }
-    targets_.erase(asked);
-    if (targets_.empty()) lblMissing.SetVisible(true);
-  }
+void frmProperties::HearTarget(const LookupAnswer& answer) {
+  if (targetsLeft_ == 0) return;
+  const bool* const there = std::get_if<bool>(&answer.Value);
+  const bool missing = answer.End == LookupEnd::Answered && there != nullptr && !*there;
+  // One that is there is enough, and so is one that cannot be told.
+  targetsLeft_ = missing ? targetsLeft_ - 1 : 0;
+  if (missing && targetsLeft_ == 0) lblMissing.SetVisible(true);
 }
 
 }  // namespace corvelle

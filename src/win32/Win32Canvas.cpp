@@ -38,6 +38,17 @@ PixelRect BoxOfLine(PixelPoint from, PixelPoint to, int width) {
   return {left - reach, top - reach, right - reach + width, bottom - reach + width};
 }
 
+/// A pixel of a picture, 0xAABBGGRR, over one of the ground, 0x00RRGGBB.
+std::uint32_t MixOne(std::uint32_t pixel, std::uint32_t ground) {
+  const std::uint32_t alpha = pixel >> 24;
+  const auto channel = [&](unsigned from, unsigned to) {
+    const std::uint32_t over = (pixel >> from) & 0xFFU;
+    const std::uint32_t under = (ground >> to) & 0xFFU;
+    return ((over * alpha + under * (255U - alpha) + 127U) / 255U) << to;
+  };
+  return channel(0, 16) | channel(8, 8) | channel(16, 0);
+}
+
 }  // namespace
 
 void Win32Canvas::FillBox(const PixelRect& box, Rgb colour) {
@@ -93,6 +104,22 @@ void Win32Canvas::DrawCanvas(const Canvas& source, const PixelRect& part, PixelP
          inside.left, inside.top, SRCCOPY);
 }
 
+// The system's own blending lies in a library that is not among its known ones, and rounds in ways
+// of its own.
+void Win32Canvas::DrawPixels(const IconPixels& picture, PixelPoint at) {
+  if (picture.IsEmpty() || !picture.IsWhole()) return;
+  MemoryCanvas mixed({picture.Width, picture.Height}, tools_);
+  {
+    const CanvasDc from(*this);
+    const CanvasDc to(mixed);
+    if (!from || !to) return;
+    BitBlt(to.Get(), 0, 0, picture.Width, picture.Height, from.Get(), at.x + origin_.x,
+           at.y + origin_.y, SRCCOPY);
+  }
+  mixed.Mix(picture.Pixels);
+  DrawCanvas(mixed, {0, 0, picture.Width, picture.Height}, at);
+}
+
 Rgb Win32Canvas::PixelAt(PixelPoint at) const {
   const CanvasDc dc(*this);
   if (!dc || !IsInside(at)) return 0;
@@ -113,7 +140,7 @@ MemoryCanvas::MemoryCanvas(PixelSize size, std::shared_ptr<DrawingTools> tools)
   info.bmiHeader.biCompression = BI_RGB;
   void* pixels = nullptr;
   bitmap_.Reset(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
-  if (bitmap_) pixels_ = static_cast<const std::uint32_t*>(pixels);
+  if (bitmap_) pixels_ = static_cast<std::uint32_t*>(pixels);
 }
 
 Rgb MemoryCanvas::PixelAt(PixelPoint at) const {
@@ -124,6 +151,16 @@ Rgb MemoryCanvas::PixelAt(PixelPoint at) const {
       pixels_[static_cast<std::size_t>(at.y) * static_cast<std::size_t>(Size().width) +
               static_cast<std::size_t>(at.x)];
   return RGB((pixel >> 16) & 0xFFU, (pixel >> 8) & 0xFFU, pixel & 0xFFU);
+}
+
+void MemoryCanvas::Mix(const std::vector<std::uint32_t>& picture) {
+  if (pixels_ == nullptr) return;
+  GdiFlush();
+  std::uint32_t* ground = pixels_;
+  for (const std::uint32_t pixel : picture) {
+    *ground = MixOne(pixel, *ground);
+    ++ground;
+  }
 }
 
 HDC MemoryCanvas::Begin() const noexcept {

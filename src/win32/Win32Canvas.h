@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include "platform/Canvas.h"
 #include "win32/DrawingTools.h"
@@ -22,6 +23,7 @@ class Win32Canvas : public Canvas {
   void DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) override;
   void DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) override;
   void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) override;
+  void DrawPixels(const IconPixels& picture, PixelPoint at) override;
   Rgb PixelAt(PixelPoint at) const override;
 
   PixelPoint Origin() const noexcept { return origin_; }
@@ -75,13 +77,16 @@ class MemoryCanvas final : public Win32Canvas {
  public:
   MemoryCanvas(PixelSize size, std::shared_ptr<DrawingTools> tools);
 
+  /// Lays a picture of the canvas's own size over it (see IconPixels).
+  void Mix(const std::vector<std::uint32_t>& picture);
+
   Rgb PixelAt(PixelPoint at) const override;
   HDC Begin() const noexcept override;
   void End(HDC dc) const noexcept override;
 
  private:
   UniqueBitmap bitmap_;
-  const std::uint32_t* pixels_ = nullptr;  // 0x00RRGGBB, the top row first; owned by the bitmap
+  std::uint32_t* pixels_ = nullptr;  // 0x00RRGGBB, the top row first; owned by the bitmap
 };
 
 /// A canvas on a device context that belongs to someone else, for the time of a paint.

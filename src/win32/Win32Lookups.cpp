@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <map>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -12,6 +13,8 @@
 #include "forms/LookupLedger.h"
 #include "win32/UniqueHandle.h"
 #include "win32/Win32Files.h"
+#include "win32/Win32ShellFolders.h"
+#include "win32/Win32ShellIcons.h"
 #include "win32/Win32ShellLinks.h"
 #include "win32/Win32SystemInfo.h"
 
@@ -41,7 +44,7 @@ class Apartment {
   }
 
   LookupAnswer Answer(const Lookup& question) {
-    return forms::AnswerLookup(files_, links_, system_, question);
+    return forms::AnswerLookup({files_, links_, system_, icons_, folders_}, question);
   }
 
  private:
@@ -49,6 +52,8 @@ class Apartment {
   Win32Files files_;
   Win32ShellLinks links_;
   Win32SystemInfo system_;
+  Win32ShellIcons icons_;
+  Win32ShellFolders folders_;
 };
 
 /// Waits until there may be work, with the messages of the apartment running. False when none came
@@ -63,6 +68,17 @@ bool WaitForWork(HANDLE work) {
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) DispatchMessageW(&message);
   }
   return false;
+}
+
+/// A handle by which other threads can name this one; none when the system refuses.
+UniqueKernel ThisThread() {
+  UniqueKernel self;
+  HANDLE handle = nullptr;
+  if (DuplicateHandle(GetCurrentProcess(), GetCurrentThread(), GetCurrentProcess(), &handle,
+                      THREAD_TERMINATE, FALSE, 0) != 0) {
+    self.Reset(handle);
+  }
+  return self;
 }
 
 }  // namespace
@@ -91,6 +107,24 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
     if (ledger_.Drop(generation)) PostTelling();
   }
 
+  void Cancel(LookupId id) {
+    // Under the lock, so that the call that is broken off is that question's and not the next
+    // one's.
+    const std::scoped_lock lock(mutex_);
+    const auto found = atWork_.find(id);
+    if (found != atWork_.end()) CancelSynchronousIo(found->second);
+  }
+
+  bool Collect(int milliseconds) {
+    if (telling_) return false;
+    {
+      std::unique_lock lock(mutex_);
+      ended_.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                      [this] { return ledger_.HasEnds(); });
+    }
+    return Tell();
+  }
+
   void Close() {
     std::unique_lock lock(mutex_);
     closed_ = true;
@@ -110,11 +144,14 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
   void Work() {
     {
       Apartment apartment;
-      while (const auto begun = Next()) {
+      const UniqueKernel self = ThisThread();
+      while (const auto begun = Next(self.Get())) {
         LookupAnswer answer = apartment.Answer(begun->Question);
         const std::scoped_lock lock(mutex_);
         ++idle_;
+        atWork_.erase(begun->Id);
         if (ledger_.End(*begun, std::move(answer))) PostTelling();
+        ended_.notify_all();
       }
     }
     const std::scoped_lock lock(mutex_);
@@ -123,13 +160,14 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
   }
 
   /// The next question of this thread. Nothing when it is to end; it is not counted on any more.
-  std::optional<Begun> Next() {
+  std::optional<Begun> Next(HANDLE self) {
     for (bool goesOn = true;; goesOn = WaitForWork(work_.Get())) {
       const std::scoped_lock lock(mutex_);
       auto begun = closed_ ? std::nullopt : ledger_.Begin();
       // What came at the last moment was left to this thread.
       if (!begun && !closed_ && goesOn) continue;
       --idle_;
+      if (begun) atWork_.emplace(begun->Id, self);
       return begun;
     }
   }
@@ -141,24 +179,40 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
     });
   }
 
-  void Tell() {
+  bool Tell() {
+    if (telling_) {
+      late_ = true;
+      return false;
+    }
     std::vector<LookupAnswer> ends;
     {
       const std::scoped_lock lock(mutex_);
-      if (closed_) return;
+      if (closed_) return false;
       ends = ledger_.TakeEnds();
     }
-    // The listener may set another one.
+    // The listener may set another one, and may end the program.
     const Listener listener = listener_;
-    if (listener && !ends.empty()) listener(ends);
+    if (!listener || ends.empty()) return false;
+    const auto self = shared_from_this();
+    telling_ = true;
+    listener(ends);
+    telling_ = false;
+    if (std::exchange(late_, false)) PostTelling();
+    return true;
   }
 
   std::shared_ptr<PostBox> posts_;
   UniqueKernel work_;  // counts what came while threads were idle
-  Listener listener_;  // on the thread of the windows only
+  // On the thread of the windows only.
+  Listener listener_;
+  bool telling_ = false;
+  bool late_ = false;  // a turn to tell came while the listener was at work
+
   std::mutex mutex_;
   std::condition_variable left_;
+  std::condition_variable ended_;
   forms::LookupLedger ledger_;
+  std::map<LookupId, HANDLE> atWork_;  // the threads of the questions that are being answered
   std::size_t threads_ = 0;
   std::size_t idle_ = 0;  // of them, not at a question
   bool closed_ = false;
@@ -174,5 +228,9 @@ void Win32Lookups::SetListener(Listener listener) { desk_->SetListener(std::move
 LookupId Win32Lookups::Ask(Lookup question) { return desk_->Ask(std::move(question)); }
 
 void Win32Lookups::Drop(std::uint64_t generation) { desk_->Drop(generation); }
+
+void Win32Lookups::Cancel(LookupId id) { desk_->Cancel(id); }
+
+bool Win32Lookups::Collect(int milliseconds) { return desk_->Collect(milliseconds); }
 
 }  // namespace corvelle::win32

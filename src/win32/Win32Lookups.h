@@ -21,6 +21,8 @@ class Win32Lookups final : public Lookups {
   void SetListener(Listener listener) override;
   LookupId Ask(Lookup question) override;
   void Drop(std::uint64_t generation) override;
+  void Cancel(LookupId id) override;
+  bool Collect(int milliseconds) override;
 
  private:
   class Desk;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "win32/ComPointer.h"
+#include "win32/IconToPixels.h"
 #include "win32/ItemIds.h"
 #include "win32/ShellMenu.h"
 #include "win32/Wide.h"
@@ -70,6 +71,18 @@ ShellFolderEntry EntryAt(const ITEMIDLIST* item, std::string name) {
   SHGetFileInfoW(reinterpret_cast<LPCWSTR>(item), 0, &info, sizeof(info),
                  SHGFI_PIDL | SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
   return {.Name = std::move(name), .IconIndex = info.iIcon};
+}
+
+std::optional<IconPixels> PixelsAt(const ITEMIDLIST* item, IconList list) {
+  if (item == nullptr) return std::nullopt;
+  const UINT size = list == IconList::Small ? SHGFI_SMALLICON : SHGFI_LARGEICON;
+  SHFILEINFOW info{};
+  if (SHGetFileInfoW(reinterpret_cast<LPCWSTR>(item), 0, &info, sizeof(info),
+                     SHGFI_PIDL | SHGFI_ICON | SHGFI_SHELLICONSIZE | size) == 0) {
+    return std::nullopt;
+  }
+  const UniqueIcon icon(info.hIcon);
+  return PixelsOfIcon(icon.Get(), list == IconList::Small ? kSmallIconSize : 0);
 }
 
 /// Calls `visit` with each child of a folder until it says false. False when the folder cannot be
@@ -168,6 +181,15 @@ std::optional<ShellFolderEntry> Win32ShellFolders::Folder(int folder) {
     return std::nullopt;
   }
   return ShellFolderEntry{.Name = Narrow(info.szDisplayName), .IconIndex = info.iIcon};
+}
+
+std::optional<IconPixels> Win32ShellFolders::PixelsOf(int folder, std::string_view name,
+                                                      IconList list) {
+  if (name.empty()) return PixelsAt(LocationOf(folder).Get(), list);
+  const Found found = Find(folder, name);
+  if (!found.Child) return std::nullopt;
+  const UniqueItem whole(ILCombine(found.Location.Get(), found.Child.Get()));
+  return PixelsAt(whole.Get(), list);
 }
 
 std::optional<std::string> Win32ShellFolders::PathOf(int folder) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "win32/FileNames.h"
+#include "win32/IconToPixels.h"
 #include "win32/UniqueHandle.h"
 #include "win32/Wide.h"
 #include "win32/Win32Canvas.h"
@@ -47,6 +48,10 @@ UniqueIcon ResourceIcon(std::string_view file, int index, int size) {
   return icon;
 }
 
+UniqueIcon FileIcon(std::string_view file, int index, int size) {
+  return index < 0 ? ResourceIcon(file, index, size) : IndexedIcon(file, index, size);
+}
+
 }  // namespace
 
 std::optional<ShellFileInfo> Win32ShellIcons::FileInfo(std::string_view path, IconList list) {
@@ -59,6 +64,32 @@ std::optional<ShellFileInfo> Win32ShellIcons::FileInfo(std::string_view path, Ic
   return ShellFileInfo{.SystemIndex = info.iIcon,
                        .DisplayName = Narrow(info.szDisplayName),
                        .TypeName = Narrow(info.szTypeName)};
+}
+
+std::optional<std::string> Win32ShellIcons::DisplayName(std::string_view path) {
+  if (!CanNameFile(path)) return std::nullopt;
+  SHFILEINFOW info{};
+  if (SHGetFileInfoW(Wide(path).c_str(), 0, &info, sizeof(info), SHGFI_DISPLAYNAME) == 0)
+    return std::nullopt;
+  return Narrow(info.szDisplayName);
+}
+
+std::optional<IconPixels> Win32ShellIcons::PixelsOfFile(std::string_view path, IconList list) {
+  if (!CanNameFile(path)) return std::nullopt;
+  SHFILEINFOW info{};
+  if (SHGetFileInfoW(Wide(path).c_str(), 0, &info, sizeof(info),
+                     SHGFI_ICON | SHGFI_SHELLICONSIZE | SizeFlag(list)) == 0) {
+    return std::nullopt;
+  }
+  const UniqueIcon icon(info.hIcon);
+  return PixelsOfIcon(icon.Get(), list == IconList::Small ? kSmallIconSize : 0);
+}
+
+std::optional<IconPixels> Win32ShellIcons::PixelsInFile(std::string_view file, int index,
+                                                        int size) {
+  if (size <= 0 || file.find('\0') != std::string_view::npos) return std::nullopt;
+  const UniqueIcon icon = FileIcon(file, index, size);
+  return PixelsOfIcon(icon.Get(), size);
 }
 
 std::uintptr_t Win32ShellIcons::ListHandle(IconList list) {
@@ -102,8 +133,7 @@ bool Win32ShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, P
 bool Win32ShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                                    int size) {
   if (file.find('\0') != std::string_view::npos) return false;
-  const UniqueIcon icon =
-      index < 0 ? ResourceIcon(file, index, size) : IndexedIcon(file, index, size);
+  const UniqueIcon icon = FileIcon(file, index, size);
   if (!icon) return false;
   const Win32Canvas& target = AsWin32(canvas);
   const CanvasDc dc(target);

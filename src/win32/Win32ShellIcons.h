@@ -11,6 +11,9 @@ namespace corvelle::win32 {
 class Win32ShellIcons final : public ShellIcons {
  public:
   std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList list) override;
+  std::optional<std::string> DisplayName(std::string_view path) override;
+  std::optional<IconPixels> PixelsOfFile(std::string_view path, IconList list) override;
+  std::optional<IconPixels> PixelsInFile(std::string_view file, int index, int size) override;
   int IconWidth(IconList list) override;
   bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                       IconStyle style) override;

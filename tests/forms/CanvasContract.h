@@ -134,6 +134,28 @@ TEST_P(CanvasContract, PartsOutsideTheSourceAreLeftOut) {
   EXPECT_EQ(Count(*sheet, kGreen, {0, 0, 40, 30}), 1100);
 }
 
+TEST_P(CanvasContract, APictureCoversMixesOrLeavesTheGroundByItsAlpha) {
+  const auto sheet = Sheet();
+  sheet->FillBox({0, 0, 40, 30}, 0x00204060);
+  sheet->SetOrigin({1, 2});
+  sheet->DrawPixels({3, 1, {0xFF0000FFU, 0x800000FFU, 0x000000FFU}}, {4, 5});
+  EXPECT_EQ(sheet->PixelAt({5, 7}), kRed);
+  EXPECT_EQ(sheet->PixelAt({6, 7}), 0x001020B0U);
+  EXPECT_EQ(sheet->PixelAt({7, 7}), 0x00204060U);
+  EXPECT_EQ(Count(*sheet, 0x00204060, {0, 0, 40, 30}), 1198);
+}
+
+TEST_P(CanvasContract, APictureIsCutOffAtTheEdgesAndAWrongOneDrawsNothing) {
+  const auto sheet = Sheet();
+  const IconPixels square{4, 4, std::vector<std::uint32_t>(16, 0xFF00FF00U)};
+  sheet->DrawPixels(square, {-2, -2});
+  sheet->DrawPixels(square, {38, 28});
+  EXPECT_EQ(Count(*sheet, kGreen, {0, 0, 40, 30}), 8);
+  sheet->DrawPixels({4, 4, std::vector<std::uint32_t>(15, 0xFF0000FFU)}, {10, 10});
+  sheet->DrawPixels({}, {10, 10});
+  EXPECT_EQ(Count(*sheet, kRed, {0, 0, 40, 30}), 0);
+}
+
 TEST_P(CanvasContract, TextIsDrawnWithinItsMeasureOnTheGroundThatIsThere) {
   const auto sheet = Sheet(200, 60);
   constexpr Rgb kWhite = 0x00FFFFFF;

@@ -169,6 +169,15 @@ TEST(frmQMenuProgress, CaptionsStandBeforeTheIconsAndIconsComeOneByOne) {
                        std::to_string(icons));
       return world_.Icons.FileInfo(path, list);
     }
+    std::optional<std::string> DisplayName(std::string_view path) override {
+      return world_.Icons.DisplayName(path);
+    }
+    std::optional<IconPixels> PixelsOfFile(std::string_view path, IconList list) override {
+      return world_.Icons.PixelsOfFile(path, list);
+    }
+    std::optional<IconPixels> PixelsInFile(std::string_view file, int index, int size) override {
+      return world_.Icons.PixelsInFile(file, index, size);
+    }
     int IconWidth(IconList list) override { return world_.Icons.IconWidth(list); }
     bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                         IconStyle style) override {

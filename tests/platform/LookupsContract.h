@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/WindowSystem.h"
 #include "platform/Lookups.h"
 
 // What every side of the slow questions must do. One file of each test program includes this header
@@ -23,9 +24,12 @@ class ContractLookups {
   virtual ~ContractLookups() = default;
 
   virtual Lookups& Questions() = 0;
+  virtual forms::WindowSystem& Windows() = 0;
   virtual FileSystem& Files() = 0;
   /// With its trailing backslash.
   virtual std::string Folder() = 0;
+  /// A file that holds an icon. There are drives, too, which are a folder of the shell (17).
+  virtual std::string IconFile() = 0;
   /// Makes a link file that leads to `target`.
   virtual void PutLink(const std::string& file, const std::string& target) = 0;
   /// Asking for the target of the path that this gives hangs the lane until LetGo.
@@ -136,6 +140,58 @@ TEST_P(LookupsContract, ALinkGivesItsTargetAndADamagedOneFails) {
   EXPECT_EQ(AnswerTo({.Kind = LookupKind::LinkTarget, .Path = there_}).End, LookupEnd::Failed);
 }
 
+TEST_P(LookupsContract, AFileGivesItsNameAndItsIconAndAMissingOneFails) {
+  EXPECT_EQ(AnswerTo({.Kind = LookupKind::FileName, .Path = there_}).Value,
+            LookupValue(std::string("there.txt")));
+  for (const IconList list : {IconList::Small, IconList::Large}) {
+    const LookupAnswer answer =
+        AnswerTo({.Kind = LookupKind::FileIcon, .Path = there_, .List = list});
+    const auto* const icon = std::get_if<IconPixels>(&answer.Value);
+    ASSERT_NE(icon, nullptr);
+    EXPECT_TRUE(icon->IsWhole());
+    EXPECT_EQ(icon->Width, icon->Height);
+    EXPECT_EQ(icon->Width == kSmallIconSize, list == IconList::Small);
+    EXPECT_TRUE(std::any_of(icon->Pixels.begin(), icon->Pixels.end(), [](std::uint32_t pixel) {
+      return pixel >> 24 == 255;
+    })) << "nothing is drawn";
+  }
+  for (const LookupKind kind : {LookupKind::FileName, LookupKind::FileIcon, LookupKind::IconInFile})
+    EXPECT_EQ(AnswerTo({.Kind = kind, .Path = there_ + "x"}).End, LookupEnd::Failed);
+}
+
+TEST_P(LookupsContract, AnIconInAFileComesAtItsSize) {
+  const LookupAnswer answer = AnswerTo(
+      {.Kind = LookupKind::IconInFile, .Path = home_->IconFile(), .Number = 0, .Size = 24});
+  const auto* const icon = std::get_if<IconPixels>(&answer.Value);
+  ASSERT_NE(icon, nullptr);
+  EXPECT_TRUE(icon->IsWhole());
+  EXPECT_EQ(icon->Width, 24);
+}
+
+TEST_P(LookupsContract, AFolderOfTheShellGivesItselfItsEntriesAndTheirIcons) {
+  constexpr int kDrives = 17;
+  const LookupAnswer self = AnswerTo({.Kind = LookupKind::ShellFolder, .Number = kDrives});
+  const auto* const folder = std::get_if<std::vector<ShellFolderEntry>>(&self.Value);
+  ASSERT_NE(folder, nullptr);
+  ASSERT_EQ(folder->size(), 1U);
+  const LookupAnswer listed = AnswerTo({.Kind = LookupKind::ShellEntries, .Number = kDrives});
+  const auto* const entries = std::get_if<std::vector<ShellFolderEntry>>(&listed.Value);
+  ASSERT_NE(entries, nullptr);
+  ASSERT_FALSE(entries->empty());
+  for (const std::string& name : {std::string(), entries->front().Name}) {
+    const LookupAnswer answer =
+        AnswerTo({.Kind = LookupKind::ShellIcon, .Path = name, .Number = kDrives});
+    const auto* const icon = std::get_if<IconPixels>(&answer.Value);
+    ASSERT_NE(icon, nullptr) << name;
+    EXPECT_EQ(icon->Width, kSmallIconSize);
+    EXPECT_TRUE(icon->IsWhole());
+  }
+  EXPECT_EQ(AnswerTo({.Kind = LookupKind::ShellIcon, .Path = "No such", .Number = kDrives}).End,
+            LookupEnd::Failed);
+  for (const LookupKind kind : {LookupKind::ShellFolder, LookupKind::ShellEntries})
+    EXPECT_EQ(AnswerTo({.Kind = kind, .Number = 0x7A}).End, LookupEnd::Failed);
+}
+
 TEST_P(LookupsContract, ADriveGivesItsFactsAndAMissingOneItsKind) {
   const auto factsOf = [this](const std::string& root) {
     const LookupAnswer answer = AnswerTo({.Kind = LookupKind::Drive, .Path = root, .Lane = root});
@@ -214,6 +270,60 @@ TEST_P(LookupsContract, DroppingWhatNobodyAskedTellsNothing) {
   Drop(7);
   home_->RunEvents();
   EXPECT_TRUE(order_.empty());
+}
+
+TEST_P(LookupsContract, ACancelledQuestionFailsAndFreesItsLane) {
+  const LookupId hanging = AskHanging("dead");
+  const LookupId behind = AskIsThere(there_, "dead");
+  const LookupId other = AskIsThere(there_, "c");
+  ASSERT_TRUE(WaitFor(other));
+  ASSERT_FALSE(Ended(hanging));
+  // The call may be a moment away from the one that waits.
+  const bool ended = home_->RunUntil([&] {
+    asking_ = true;
+    home_->Questions().Cancel(hanging);
+    home_->Questions().Cancel(other);
+    asking_ = false;
+    return Ended(hanging);
+  });
+  ASSERT_TRUE(ended || WaitFor(hanging));
+  EXPECT_EQ(ends_[hanging].End, LookupEnd::Failed);
+  home_->LetGo("dead");
+  ASSERT_TRUE(WaitFor(behind));
+  EXPECT_EQ(ends_[behind].Value, LookupValue(true));
+}
+
+TEST_P(LookupsContract, CollectTellsWhatThereIsInsideTheCall) {
+  const LookupId id = AskIsThere(there_);
+  while (!Ended(id)) ASSERT_TRUE(home_->Questions().Collect(5000));
+  EXPECT_FALSE(home_->Questions().Collect(0));
+  home_->RunEvents();
+  EXPECT_EQ(order_.size(), 1U) << "told again by the turn of the loop";
+}
+
+TEST_P(LookupsContract, CollectWaitsNoLongerThanItIsToldAndRunsNoEvents) {
+  const LookupId hanging = AskHanging("dead");
+  bool ran = false;
+  home_->Windows().Post([&ran] { ran = true; });
+  EXPECT_FALSE(home_->Questions().Collect(20));
+  EXPECT_FALSE(ran);
+  home_->LetGo("dead");
+  EXPECT_TRUE(WaitFor(hanging));
+}
+
+TEST_P(LookupsContract, CollectInsideTheListenerDoesNothingAndLosesNothing) {
+  LookupId second = 0;
+  whenTold_ = [&] {
+    whenTold_ = nullptr;
+    second = home_->Questions().Ask({.Path = there_, .Lane = "d"});
+    EXPECT_FALSE(home_->Questions().Collect(50));
+    // Events that run here may bring the turn that would have told the second.
+    home_->RunEvents();
+    EXPECT_FALSE(Ended(second));
+  };
+  const LookupId first = AskIsThere(there_);
+  while (!Ended(first)) ASSERT_TRUE(home_->Questions().Collect(5000));
+  EXPECT_TRUE(WaitFor(second));
 }
 
 TEST_P(LookupsContract, TheListenerMayAskAndIsNotEnteredAgainThoughItLetsEventsRun) {

@@ -13,7 +13,13 @@ namespace {
 
 class SimulatedLookups final : public ContractLookups {
  public:
-  SimulatedLookups() { world_.Files.Put("C:\\Contract\\keep.txt~", ""); }
+  SimulatedLookups() {
+    world_.Files.Put("C:\\Contract\\keep.txt~", "");
+    world_.Icons.SetIconCount("C:\\Contract\\icons.dll", 1);
+    world_.Folders.Put(17, {{.Name = "Local Disk (C:)", .IconIndex = 8}});
+  }
+  forms::WindowSystem& Windows() override { return world_.Desktop; }
+  std::string IconFile() override { return "C:\\Contract\\icons.dll"; }
   Lookups& Questions() override { return *lookups_; }
   FileSystem& Files() override { return world_.Files; }
   std::string Folder() override { return "C:\\Contract\\"; }
@@ -39,8 +45,10 @@ class SimulatedLookups final : public ContractLookups {
 
  private:
   sim::World world_;
-  std::optional<sim::SimLookups> lookups_{std::in_place, world_.Desktop, world_.Files, world_.Links,
-                                          world_.System};
+  std::optional<sim::SimLookups> lookups_{
+      std::in_place, world_.Desktop,
+      forms::LookupServices{world_.Files, world_.Links, world_.System, world_.Icons,
+                            world_.Folders}};
 };
 
 std::unique_ptr<ContractLookups> MakeSimulatedLookups() {

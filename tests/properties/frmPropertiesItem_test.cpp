@@ -276,6 +276,21 @@ TEST_F(PropertiesItem, ADriveThatHangsMarksNothingAndHoldsNothingUp) {
   EXPECT_FALSE(Window().lblMissing.Visible());
 }
 
+TEST_F(PropertiesItem, OthersGetTheirAnswersWhileTheWindowIsOpenAndAfterwards) {
+  int answers = 0;
+  const auto ask = [&] {
+    TheProgram().Slow.Ask({.Path = "C:\\Tools", .Lane = "C:"},
+                          [&answers](const LookupAnswer&) { ++answers; });
+    Desktop().Advance(10);
+  };
+  ask();
+  OpenItem(2);
+  ask();
+  ClickOn(Window().cmdCancel);
+  ask();
+  EXPECT_EQ(answers, 3);
+}
+
 // ---- what the boxes are filled from ----
 
 class PropertiesBrowse : public PropertiesDesk {

@@ -19,6 +19,18 @@ void CopyPixels(const Rgb* from, Rgb* to, int count) {
   std::memcpy(to, from, static_cast<std::size_t>(count) * sizeof(Rgb));
 }
 
+/// A pixel of a picture over the ground.
+Rgb Blend(std::uint32_t pixel, Rgb ground) {
+  const std::uint32_t alpha = pixel >> 24;
+  Rgb blended = 0;
+  for (const unsigned shift : {0U, 8U, 16U}) {
+    const std::uint32_t over = (pixel >> shift) & 0xFFU;
+    const std::uint32_t under = (ground >> shift) & 0xFFU;
+    blended |= ((over * alpha + under * (255U - alpha) + 127U) / 255U) << shift;
+  }
+  return blended;
+}
+
 }  // namespace
 
 PixelSize CharacterSize(const FontSpec& font, float twipsPerPixel) {
@@ -125,6 +137,19 @@ void SimCanvas::DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoi
   for (int y = target.top; y < target.bottom; ++y) {
     CopyPixels(other->Row(y - shift.y) + (target.left - shift.x), Row(y) + target.left,
                target.Width());
+  }
+}
+
+void SimCanvas::DrawPixels(const IconPixels& picture, PixelPoint at) {
+  if (!picture.IsWhole()) return;
+  const std::uint32_t* pixel = picture.Pixels.data();
+  for (int y = 0; y < picture.Height; ++y) {
+    for (int x = 0; x < picture.Width; ++x, ++pixel) {
+      const PixelPoint place{at.x + origin_.x + x, at.y + origin_.y + y};
+      if (place.x < 0 || place.y < 0 || place.x >= size_.width || place.y >= size_.height) continue;
+      Rgb& ground = Row(place.y)[place.x];
+      ground = Blend(*pixel, ground);
+    }
   }
 }
 

@@ -22,6 +22,7 @@ class SimCanvas final : public Canvas {
   void DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) override;
   void DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) override;
   void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) override;
+  void DrawPixels(const IconPixels& picture, PixelPoint at) override;
   Rgb PixelAt(PixelPoint at) const override;
 
   /// Another size; what fits stays, the rest is black. Memory is taken for a size that is larger

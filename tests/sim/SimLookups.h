@@ -7,8 +7,6 @@
 #include "forms/LookupLedger.h"
 #include "platform/Lookups.h"
 #include "sim/SimDesktop.h"
-#include "sim/SimFiles.h"
-#include "sim/SimShellLinks.h"
 
 namespace corvelle::sim {
 
@@ -16,8 +14,8 @@ namespace corvelle::sim {
 /// answered as soon as its lane is free, and told by the next turn of the message loop.
 class SimLookups final : public Lookups {
  public:
-  SimLookups(SimDesktop& desktop, SimFiles& files, SimShellLinks& links, const SystemInfo& system)
-      : desktop_(desktop), files_(files), links_(links), system_(system) {}
+  SimLookups(SimDesktop& desktop, const forms::LookupServices& services)
+      : desktop_(desktop), services_(services) {}
   SimLookups(const SimLookups&) = delete;
   SimLookups& operator=(const SimLookups&) = delete;
   ~SimLookups() override;
@@ -27,6 +25,8 @@ class SimLookups final : public Lookups {
   void Delay(const std::string& lane, int milliseconds);
   /// From now on the lane answers nothing, until it is resumed.
   void Hang(const std::string& lane);
+  /// The same, and it cannot be cancelled.
+  void HangForGood(const std::string& lane);
   /// The system comes back: what hung is answered now.
   void Resume(const std::string& lane);
   /// How many questions were begun, and how many of them have not come back.
@@ -36,9 +36,13 @@ class SimLookups final : public Lookups {
   void SetListener(Listener listener) override { listener_ = std::move(listener); }
   LookupId Ask(Lookup question) override;
   void Drop(std::uint64_t generation) override;
+  void Cancel(LookupId id) override;
+  /// Time stands still: what takes its time is not waited for.
+  bool Collect(int milliseconds) override;
 
  private:
   static constexpr int kHangs = -1;
+  static constexpr int kHangsForGood = -2;
   using Begun = forms::LookupLedger::Begun;
 
   struct UnderWayEntry {
@@ -48,18 +52,21 @@ class SimLookups final : public Lookups {
 
   void BeginAll();
   void Finish(LookupId id);
-  void Complete(LookupId id);
+  [[nodiscard]] int DelayOf(const std::string& lane) const;
+  [[nodiscard]] LookupAnswer Answer(LookupId id) const;
+  void Complete(LookupId id, LookupAnswer answer);
   void PostTelling();
+  bool Tell();
 
   SimDesktop& desktop_;
-  SimFiles& files_;
-  SimShellLinks& links_;
-  const SystemInfo& system_;
+  forms::LookupServices services_;
   Listener listener_;
   forms::LookupLedger ledger_;
   std::map<std::string, int> delays_;
   std::map<LookupId, UnderWayEntry> underWay_;
   int asked_ = 0;
+  bool telling_ = false;
+  bool late_ = false;  // a turn to tell came while the listener was at work
   forms::Alive alive_;
 };
 

@@ -27,6 +27,9 @@ class SharedCanvas final : public Canvas {
   void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) override {
     canvas_->DrawCanvas(source, part, at);
   }
+  void DrawPixels(const IconPixels& picture, PixelPoint at) override {
+    canvas_->DrawPixels(picture, at);
+  }
   Rgb PixelAt(PixelPoint at) const override { return canvas_->PixelAt(at); }
 
  private:

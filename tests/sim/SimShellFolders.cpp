@@ -3,12 +3,14 @@
 #include <algorithm>
 
 #include "sim/Complain.h"
+#include "sim/SimShellIcons.h"
 
 namespace corvelle::sim {
 
 namespace {
 
 constexpr int kFirstOwnIcon = 200;
+constexpr int kLargeIcon = 32;  // pixels
 
 }  // namespace
 
@@ -53,6 +55,22 @@ std::optional<ShellFolderEntry> SimShellFolders::Folder(int folder) {
   const auto found = folders_.find(folder);
   if (found == folders_.end()) return std::nullopt;
   return found->second.Self;
+}
+
+std::optional<IconPixels> SimShellFolders::PixelsOf(int folder, std::string_view name,
+                                                    IconList list) {
+  const auto found = folders_.find(folder);
+  if (found == folders_.end()) return std::nullopt;
+  const int size = list == IconList::Small ? kSmallIconSize : kLargeIcon;
+  const auto square = [size](const ShellFolderEntry& entry) {
+    return SimShellIcons::Square(SimShellIcons::ColourOf(entry.IconIndex), size);
+  };
+  if (name.empty()) return square(found->second.Self);
+  if (found->second.Broken) return std::nullopt;
+  for (const ShellFolderEntry& entry : found->second.Entries) {
+    if (entry.Name == name) return square(entry);
+  }
+  return std::nullopt;
 }
 
 std::optional<std::string> SimShellFolders::PathOf(int folder) {

@@ -70,6 +70,7 @@ class SimShellFolders final : public ShellFolders {
 
   std::optional<std::vector<ShellFolderEntry>> List(int folder) override;
   std::optional<ShellFolderEntry> Folder(int folder) override;
+  std::optional<IconPixels> PixelsOf(int folder, std::string_view name, IconList list) override;
   std::optional<std::string> PathOf(int folder) override;
   bool OpenFolder(int folder, WindowId owner) override;
   bool OpenEntry(int folder, std::string_view name, std::string_view argument,

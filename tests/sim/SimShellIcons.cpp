@@ -56,12 +56,25 @@ Rgb SimShellIcons::ColourOf(std::string_view file, int index) {
   return 0x00600000U | (sum & 0xFFFFU);
 }
 
+IconPixels SimShellIcons::Square(Rgb colour, int size) {
+  const auto count = static_cast<std::size_t>(size) * static_cast<std::size_t>(size);
+  return {size, size, std::vector<std::uint32_t>(count, 0xFF000000U | colour)};
+}
+
+bool SimShellIcons::Shows(std::string_view path) const {
+  if (path.empty() || path.find_first_of("<>|?*\"") != std::string_view::npos) return false;
+  return files_.Has(path);
+}
+
 std::optional<ShellFileInfo> SimShellIcons::FileInfo(std::string_view path, IconList list) {
   ++lookups_;
   asked_[list].emplace_back(path);
   if (action_) action_();
-  if (path.empty() || path.find_first_of("<>|?*\"") != std::string_view::npos) return std::nullopt;
-  if (!files_.Has(path)) return std::nullopt;
+  return Look(path);
+}
+
+std::optional<ShellFileInfo> SimShellIcons::Look(std::string_view path) {
+  if (!Shows(path)) return std::nullopt;
   const bool folder = !files_.Get(path).has_value();
   const std::string kind = KindOf(path, folder);
   ShellFileInfo info{.DisplayName = NameOf(path), .TypeName = kind};
@@ -74,13 +87,41 @@ std::optional<ShellFileInfo> SimShellIcons::FileInfo(std::string_view path, Icon
   return info;
 }
 
+std::optional<std::string> SimShellIcons::DisplayName(std::string_view path) {
+  if (!Shows(path)) return std::nullopt;
+  return NameOf(path);
+}
+
+std::optional<IconPixels> SimShellIcons::PixelsOfFile(std::string_view path, IconList list) {
+  const auto info = Look(path);
+  if (!info) return std::nullopt;
+  return Square(ColourOf(info->SystemIndex), SizeOf(list));
+}
+
+std::optional<IconPixels> SimShellIcons::PixelsInFile(std::string_view file, int index, int size) {
+  if (size <= 0 || !HoldsIcon(file, index)) return std::nullopt;
+  return Square(ColourOf(file, index), size);
+}
+
+bool SimShellIcons::HoldsIcon(std::string_view file, int index) const {
+  const std::string key = UpperCase(file);
+  const auto count = iconCounts_.find(key);
+  return index < 0 ? resources_.contains({key, -index})
+                   : count != iconCounts_.end() && index < count->second;
+}
+
+int SimShellIcons::SizeOf(IconList list) const noexcept {
+  if (list == IconList::Small) return kSmallIconSize;
+  return large_ > 0 ? large_ : 32;
+}
+
 int SimShellIcons::IconWidth(IconList list) { return list == IconList::Small ? 16 : large_; }
 
 bool SimShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                                    IconStyle style) {
   ++draws_;
   if (index < 0) return false;
-  const int size = list == IconList::Small ? 16 : (large_ > 0 ? large_ : 32);
+  const int size = SizeOf(list);
   const Rgb colour = ColourOf(index);
   const bool blended = style == IconStyle::Blend25;
   canvas.FillBox(RectAt(at, {size, size}), blended ? Half(colour, 0x00800000) : colour);
@@ -90,11 +131,7 @@ bool SimShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, Pix
 bool SimShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                                  int size) {
   ++draws_;
-  const std::string key = UpperCase(file);
-  const auto count = iconCounts_.find(key);
-  const bool inside = index < 0 ? resources_.contains({key, -index})
-                                : count != iconCounts_.end() && index < count->second;
-  if (!inside) return false;
+  if (!HoldsIcon(file, index)) return false;
   canvas.FillBox(RectAt(at, {size, size}), ColourOf(file, index));
   return true;
 }

@@ -34,6 +34,9 @@ class SimShellIcons final : public ShellIcons {
   [[nodiscard]] static Rgb ColourOf(int index) noexcept;
   [[nodiscard]] static Rgb ColourOf(std::string_view file, int index);
 
+  /// A square of one colour that covers the ground.
+  [[nodiscard]] static IconPixels Square(Rgb colour, int size);
+
   [[nodiscard]] int Lookups() const noexcept { return lookups_; }
   [[nodiscard]] int Draws() const noexcept { return draws_; }
   void ClearCounts() noexcept {
@@ -46,6 +49,9 @@ class SimShellIcons final : public ShellIcons {
   void WhileAsked(std::function<void()> action) { action_ = std::move(action); }
 
   std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList list) override;
+  std::optional<std::string> DisplayName(std::string_view path) override;
+  std::optional<IconPixels> PixelsOfFile(std::string_view path, IconList list) override;
+  std::optional<IconPixels> PixelsInFile(std::string_view file, int index, int size) override;
   int IconWidth(IconList list) override;
   bool DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                       IconStyle style) override;
@@ -54,6 +60,11 @@ class SimShellIcons final : public ShellIcons {
   int IconCount(std::string_view file) override;
 
  private:
+  [[nodiscard]] bool Shows(std::string_view path) const;
+  [[nodiscard]] std::optional<ShellFileInfo> Look(std::string_view path);
+  [[nodiscard]] bool HoldsIcon(std::string_view file, int index) const;
+  [[nodiscard]] int SizeOf(IconList list) const noexcept;
+
   SimFiles& files_;
   std::map<std::string, int> indexes_;
   std::map<std::string, std::string> typeNames_;

@@ -57,7 +57,7 @@ class World {
   SimClipboard Copies;
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
-  SimLookups SlowAnswers{Desktop, Files, Links, System};
+  SimLookups SlowAnswers{Desktop, {Files, Links, System, Icons, Folders}};
   SimCrashReports Crashes;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it

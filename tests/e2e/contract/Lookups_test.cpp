@@ -24,6 +24,8 @@ using win32::Wide;
 class RealLookups final : public ContractLookups {
  public:
   Lookups& Questions() override { return *lookups_; }
+  forms::WindowSystem& Windows() override { return *windows_; }
+  std::string IconFile() override { return "C:\\windows\\notepad.exe"; }
   FileSystem& Files() override { return files_; }
   std::string Folder() override { return temp_.Path(); }
   void PutLink(const std::string& file, const std::string& target) override {

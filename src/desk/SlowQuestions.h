@@ -24,9 +24,12 @@ class SlowQuestions {
 
   /// `answered` is called once, by a later turn of the message loop; never for a question that was
   /// dropped. It may ask and drop.
-  void Ask(Lookup question, Answered answered);
+  LookupId Ask(Lookup question, Answered answered);
   /// Nobody wants to know the answers to the questions of that generation any more.
   void Drop(std::uint64_t generation);
+  /// See Lookups.
+  void Cancel(LookupId id) { lookups_.Cancel(id); }
+  bool Collect(int milliseconds) { return lookups_.Collect(milliseconds); }
 
  private:
   struct Waiting {

@@ -1,4 +1,4 @@
-#include "core/SlowQuestions.h"
+#include "desk/SlowQuestions.h"
 
 #include <utility>
 #include <vector>
@@ -9,7 +9,7 @@ SlowQuestions::~SlowQuestions() {
   if (listening_) lookups_.SetListener(nullptr);
 }
 
-void SlowQuestions::Ask(Lookup question, Answered answered) {
+LookupId SlowQuestions::Ask(Lookup question, Answered answered) {
   if (!listening_) {
     lookups_.SetListener([this](const std::vector<LookupAnswer>& ends) {
       for (const LookupAnswer& end : ends) Tell(end);
@@ -19,6 +19,7 @@ void SlowQuestions::Ask(Lookup question, Answered answered) {
   const std::uint64_t generation = question.Generation;
   const LookupId id = lookups_.Ask(std::move(question));
   waiting_.emplace(id, Waiting{generation, std::move(answered)});
+  return id;
 }
 
 void SlowQuestions::Drop(std::uint64_t generation) {

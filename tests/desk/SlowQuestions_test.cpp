@@ -1,4 +1,4 @@
-#include "core/SlowQuestions.h"
+#include "desk/SlowQuestions.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,177 @@
+#include "desk/AnswerDesk.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "desk/LookupPlaces.h"
+#include "forms/Scopes.h"
+
+namespace corvelle::desk {
+
+namespace {
+
+bool IsEndOf(const std::variant<TellStage, TellEnd>& told, Ticket ticket) {
+  const auto* const end = std::get_if<TellEnd>(&told);
+  return end != nullptr && end->Told.Number == ticket;
+}
+
+Ticket TicketOf(const std::variant<TellStage, TellEnd>& told) {
+  const auto* const end = std::get_if<TellEnd>(&told);
+  return end != nullptr ? end->Told.Number : std::get<TellStage>(told).Number;
+}
+
+}  // namespace
+
+AnswerDesk::AnswerDesk(SlowQuestions& questions, const SystemInfo& system,
+                       forms::WindowSystem& windows)
+    : questions_(questions), system_(system), windows_(windows), timer_(windows) {
+  timer_.Tick = [this] {
+    timer_.SetEnabled(false);
+    timerAt_.reset();
+    Take(TimePassed{});
+    TellWaiting();
+  };
+}
+
+Ticket AnswerDesk::Ask(Request request, Asker asker) {
+  NoteLocalPlaces();
+  const Ticket ticket = ++lastTicket_;
+  askers_.emplace(ticket, std::move(asker));
+  Take(Asked{ticket, std::move(request)});
+  PostTelling();
+  return ticket;
+}
+
+std::optional<Reply> AnswerDesk::AskAtOnce(Request request, Asker later, int milliseconds) {
+  const forms::CountScope waiting(waiting_);
+  const Ticket ticket = Ask(std::move(request), std::move(later));
+  const std::int64_t end = windows_.Now() + milliseconds;
+  for (;;) {
+    const auto found = std::find_if(told_.begin(), told_.end(),
+                                    [ticket](const Told& told) { return IsEndOf(told, ticket); });
+    if (found != told_.end()) {
+      Reply reply = std::move(std::get<TellEnd>(*found).Told);
+      askers_.erase(ticket);
+      std::erase_if(told_, [ticket](const Told& told) { return TicketOf(told) == ticket; });
+      return reply;
+    }
+    const std::int64_t left = end - windows_.Now();
+    if (left <= 0 || !questions_.Collect(static_cast<int>(left))) return std::nullopt;
+  }
+}
+
+const LookupValue* AnswerDesk::LastKnown(const Lookup& question) {
+  const auto* const kept = state_.Kept.Find(KeyOfLookup(question));
+  return kept != nullptr ? &kept->Value : nullptr;
+}
+
+void AnswerDesk::Drop(std::uint64_t owner) { Take(OwnerLeft{owner}); }
+
+void AnswerDesk::SetUrgency(Ticket ticket, Urgency how) { Take(UrgencyChanged{ticket, how}); }
+
+void AnswerDesk::TryAgain(const Lookup& question) { Take(corvelle::desk::TryAgain{question}); }
+
+void AnswerDesk::Take(const Event& event) {
+  Outcome outcome = Step(std::move(state_), event, windows_.Now());
+  state_ = std::move(outcome.Next);
+  Carry(outcome.Commands);
+  SetTimer();
+}
+
+void AnswerDesk::Carry(const std::vector<Command>& commands) {
+  for (const Command& command : commands) {
+    if (const auto* const begun = std::get_if<BeginOperation>(&command)) {
+      Begin(*begun);
+    } else if (const auto* const cancelled = std::get_if<CancelOperation>(&command)) {
+      if (const auto found = asked_.find(cancelled->Number); found != asked_.end())
+        questions_.Cancel(found->second);
+    } else if (const auto* const stage = std::get_if<TellStage>(&command)) {
+      told_.emplace_back(*stage);
+    } else if (const auto* const end = std::get_if<TellEnd>(&command)) {
+      if (end->Told.How != End::Dropped) {
+        told_.emplace_back(*end);
+        continue;
+      }
+      // Its stages may be waiting to be told.
+      const Ticket ticket = end->Told.Number;
+      askers_.erase(ticket);
+      std::erase_if(told_, [ticket](const Told& told) { return TicketOf(told) == ticket; });
+    }
+  }
+}
+
+void AnswerDesk::Begin(const BeginOperation& begun) {
+  const Operation number = begun.Number;
+  asked_[number] = questions_.Ask(begun.Question, [this, number](const LookupAnswer& answer) {
+    asked_.erase(number);
+    Take(Returned{number, answer});
+    if (waiting_ > 0) {
+      PostTelling();
+    } else {
+      TellWaiting();
+    }
+  });
+}
+
+void AnswerDesk::PostTelling() {
+  if (told_.empty() || std::exchange(posted_, true)) return;
+  windows_.Post([this, watch = alive_.MakeWatch()] {
+    if (watch.Gone()) return;
+    posted_ = false;
+    TellWaiting();
+  });
+}
+
+void AnswerDesk::TellWaiting() {
+  // What an asker lets run tells nobody; its own turn goes on with the rest.
+  if (telling_) return;
+  if (waiting_ > 0) {
+    PostTelling();
+    return;
+  }
+  const auto watch = alive_.MakeWatch();
+  telling_ = true;
+  while (!watch.Gone() && !told_.empty()) {
+    const Told told = std::move(told_.front());
+    told_.pop_front();
+    TellOne(told);
+  }
+  if (!watch.Gone()) telling_ = false;
+}
+
+void AnswerDesk::TellOne(const Told& told) {
+  const auto found = askers_.find(TicketOf(told));
+  if (found == askers_.end()) return;
+  if (const auto* const stage = std::get_if<TellStage>(&told)) {
+    const auto takesLonger = found->second.TakesLonger;
+    if (takesLonger) takesLonger(stage->What);
+    return;
+  }
+  const auto ended = std::move(found->second.Ended);
+  askers_.erase(found);
+  if (ended) ended(std::get<TellEnd>(told).Told);
+}
+
+void AnswerDesk::SetTimer() {
+  const auto next = NextMoment(state_);
+  if (!next) {
+    timer_.SetEnabled(false);
+    timerAt_.reset();
+    return;
+  }
+  // One that comes too early sets itself again.
+  if (timerAt_ && *timerAt_ <= *next) return;
+  timerAt_ = next;
+  timer_.SetInterval(static_cast<int>(std::max<std::int64_t>(*next - windows_.Now(), 1)));
+  timer_.SetEnabled(true);
+}
+
+void AnswerDesk::NoteLocalPlaces() {
+  if (std::exchange(knowsPlaces_, true)) return;
+  for (const std::string& folder : {system_.WindowsFolder(), system_.ApplicationFolder()}) {
+    if (folder.starts_with(R"(\\)")) continue;  // a program on a server is as remote as that
+    state_.LocalPlaces.insert(PlaceOfPath(folder));
+  }
+}
+
+}  // namespace corvelle::desk
