@@ -8,9 +8,9 @@ namespace corvelle {
 
 /// A key or a character that came while a menu was being built.
 struct HeldKey {
-  int Code = 0;             // of a key; 0 for a character
-  char32_t Character = 0;   // of a character
-  bool FromStrip = false;   // the strip had the focus
+  int Code = 0;            // of a key; 0 for a character
+  char32_t Character = 0;  // of a character
+  bool FromStrip = false;  // the strip had the focus
 
   friend bool operator==(const HeldKey&, const HeldKey&) = default;
 };
