@@ -1,7 +1,8 @@
 #!/bin/bash
 # Installs what is missing, builds and runs every test: natively with the sanitizers on the simulated
 # desktop, then the Windows side and the real corvelle.exe under Wine. The last line tells the totals.
-# With CORVELLE_RELEASE=1 a release is made and tested too, and built once more in another folder to compare its bytes.
+# A release is made and tested too. With CORVELLE_RELEASE=1 it is also built once more in another folder, to compare its
+# bytes, and the 32-bit one is installed and run, with all the tests that run on Windows.
 set -uo pipefail
 cd "$(dirname "$0")" || exit 1
 . tools/setup.sh
@@ -42,7 +43,7 @@ build_windows() {
   configure windows && build windows && rm -rf build/windows/package &&
     cmake --install build/windows --prefix build/windows/package >build/windows-install.log
 }
-build_windows32() { configure windows32 && build windows32; }
+build_windows32() { configure windows32 && build windows32 corvelle_package; }
 
 run_native() {
   # Beside the fixed ones, two monkeys of each run have seeds of their own: this number and 1 or 2.
@@ -75,15 +76,35 @@ run_reproducible() {
   add "$(tail -n 1 build/reproducible.txt)"
 }
 
+# What needs a 32-bit Wine; what was not run is not counted.
+run_32bits() {
+  build windows32 && rm -rf build/windows32/package &&
+    cmake --install build/windows32 --prefix build/windows32/package >build/windows32-install.log || return 1
+  local code
+  tools/wine32.sh wine --version
+  code=$?
+  if [ "$code" -eq 77 ]; then
+    say "NOT RUN: the 32-bit program, installed or not"
+    return 0
+  fi
+  [ "$code" -eq 0 ] || return 1
+  tools/wine32.sh tools/run_release_tests.py --release build/release/dist --only wine --width x86 |
+    tee build/release32-totals.txt
+  add "$(tail -n 1 build/release32-totals.txt)"
+  tools/wine32.sh tools/run_windows_tests.py --build build/windows32 --out build/wine32/out | tee build/wine32-totals.txt
+  add "$(tail -n 1 build/wine32-totals.txt)"
+}
+
 # shellcheck disable=SC2086
 install_packages $CORVELLE_BUILD_PACKAGES $CORVELLE_WINE_PACKAGES $CORVELLE_RELEASE_PACKAGES $CORVELLE_TEST_PACKAGES
 mkdir -p build
 stage "native build, with the address and undefined behaviour sanitizers" build_native &&
   stage "native tests" run_native
 stage "build for Windows" build_windows && stage "tests under Wine" run_wine
-stage "build for 32-bit Windows" build_windows32 && if [ -n "${CORVELLE_RELEASE:-}" ]; then
-  stage "release" build_release && stage "tests of the release" run_release &&
-    stage "the same release from another folder" run_reproducible
+stage "build for 32-bit Windows" build_windows32 && stage "release" build_release &&
+  stage "tests of the release" run_release && if [ -n "${CORVELLE_RELEASE:-}" ]; then
+  stage "the same release from another folder" run_reproducible
+  stage "the 32-bit program" run_32bits
 fi
 
 say "$SECONDS s"

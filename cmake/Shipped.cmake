@@ -9,6 +9,9 @@ if(WIN32)
     -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=../..=.
     -ffile-prefix-map=CMakeFiles=./build/${CMAKE_SYSTEM_PROCESSOR}/CMakeFiles
     -ffile-prefix-map=${CMAKE_BINARY_DIR}=./build/${CMAKE_SYSTEM_PROCESSOR})
+  # Calls of late libraries name the function itself. The 32-bit linker throws the code that looks a function up
+  # away where only its address is named, and such a call would lead to address 0.
+  target_compile_definitions(corvelle_shipped INTERFACE _COMCTL32_ _COMDLG32_)
 endif()
 
 # corvelle_late_library(PROGRAM DLL): what PROGRAM uses of a library that is no known library of the system

@@ -25,8 +25,8 @@ if(CORVELLE_SANITIZE)
   target_compile_options(corvelle_options INTERFACE -Wno-null-dereference)
 endif()
 if(WIN32)
-  # What nothing calls is left out of the program.
-  target_compile_options(corvelle_options INTERFACE -ffunction-sections -fdata-sections)
+  # What nothing calls is left out of the program, and so are the names of its types, which nothing asks for.
+  target_compile_options(corvelle_options INTERFACE -ffunction-sections -fdata-sections -fno-rtti)
   target_link_options(corvelle_options INTERFACE -Wl,--gc-sections)
   target_compile_definitions(corvelle_options INTERFACE
     UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)

@@ -128,7 +128,7 @@ void MonkeyLife::Furnish() {
   world_->Files.Put("C:\\Docs\\sub\\other.txt", "x");
   world_->Files.MakeFolders(kMenus);
   OptionFlags flags;
-  for (int position = 1; position <= 32; ++position) flags.Set(position, Chance(40));
+  for (int position = 1; position <= 32; ++position) flags.Set(OptionAt(position), Chance(40));
   flags.Set(Option::FirstRunDone, true);
   flags.Set(Option::DefaultEntriesOffered, true);
   flags.Set(Option::UpgradeDone, true);

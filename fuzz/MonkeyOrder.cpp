@@ -36,9 +36,9 @@ std::string MonkeyLife::WrongState() const {
   if (program.Guards.ItemActionBusy) return "an entry is still being edited";
   if (program.Drag.ItemDropping) return "an entry is still being put down";
   if (program.Guards.MenuFormBusy) return "a window still edits a menu";
-  if (program.MovingToolbar) return "the outline is still being moved";
+  if (parts_->StillPicture.MovingToolbar) return "the outline is still being moved";
   if (program.Strip.ToolbarMinimizing) return "the strip is still on its way into the task bar";
-  if (program.WebLinkPending) return "an address waits for a window that is not there";
+  if (parts_->WebLink.WebLinkPending) return "an address waits for a window that is not there";
   if (parts_->Toolbar.MenuRefreshing) return "a menu is still being reread";
   if (!program.Strip.ToolbarMinimized && !program.Guards.ToolbarReady)
     return "the strip does not listen";
@@ -204,9 +204,8 @@ std::string MonkeyLife::WrongPlace() const {
   const int thickness = program.Strip.ToolbarVertical ? bounds.Width() : bounds.Height();
   if (thickness > kMostThickness)
     return "the strip at an edge is " + std::to_string(thickness) + " pixels thick";
-  const auto edge = EdgeFromText(program.Strip.ToolbarEdge);
-  if (!edge) return "there is no edge " + program.Strip.ToolbarEdge;
-  if (IsVertical(*edge) != program.Strip.ToolbarVertical) return "the strip stands across its edge";
+  if (IsVertical(program.Strip.ToolbarEdge) != program.Strip.ToolbarVertical)
+    return "the strip stands across its edge";
   const bool pinned =
       strip.Left() == program.Strip.PinnedLeft && strip.Top() == program.Strip.PinnedTop;
   if (!program.Strip.AutoHide && !pinned) return "the strip is not where it is pinned";
@@ -314,8 +313,9 @@ std::string MonkeyLife::WrongQuiet() const {
 void MonkeyLife::NotePlace() {
   const Program& program = parts_->TheProgram;
   std::string place = program.Strip.ToolbarMinimized ? "in the task bar"
-                      : program.Strip.AppBarDocked   ? "at " + program.Strip.ToolbarEdge
-                                                     : "at no edge";
+                      : program.Strip.AppBarDocked
+                          ? "at " + std::string(EdgeText(program.Strip.ToolbarEdge))
+                          : "at no edge";
   if (program.Strip.AutoHide) place += ", hiding";
   if (program.Strip.NotOnTop) place += ", not on top";
   if (place == placeBefore_) return;

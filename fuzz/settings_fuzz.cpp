@@ -60,7 +60,7 @@ void CheckFiles(const std::string& bytes, bool ownIcon) {
   CORVELLE_CHECK(corvelle::LoadToolbarPosition(disk, kApp) == left);
 
   OptionFlags flags;
-  flags.Set(Option::OwnWebLinkIcon, ownIcon);
+  flags.Set(corvelle::Option::OwnWebLinkIcon, ownIcon);
   const std::string icon = corvelle::LoadWebLinkIcon(disk, ansi, kApp, flags);
   CORVELLE_CHECK(!icon.empty());
   CORVELLE_CHECK(corvelle::IsValidUtf8(icon));

@@ -185,13 +185,13 @@ def list_tests(arguments):
 
 
 def place_of(function, symbols):
-    """Where a function lies in the program, from the program's beginning."""
+    """Where a function lies in the program, from the program's beginning. In 32 bits names have one more underscore."""
     def read(*command):
         return subprocess.run([f"x86_64-w64-mingw32-{command[0]}", *command[1:], symbols], check=True, text=True,
                               stdout=subprocess.PIPE).stdout
 
     base = int(re.search(r"^ImageBase\s+(\w+)", read("objdump", "-p"), re.MULTILINE)[1], 16)
-    found = re.search(rf"^(\w+) T {function}$", read("nm"), re.MULTILINE)
+    found = re.search(rf"^(\w+) T _?{function}$", read("nm"), re.MULTILINE)
     if not found:
         raise SessionError(f"{symbols} does not know {function}")
     return int(found[1], 16) - base

@@ -273,7 +273,7 @@ class Session:
         self.size = size
         self.dpi = dpi
         self.given_display = display
-        self.cache = pathlib.Path(cache) if cache else ROOT / "build" / "wine"
+        self.cache = pathlib.Path(cache or os.environ.get("CORVELLE_WINE_FOLDER") or ROOT / "build" / "wine")
         self.verbose = verbose
         self.token = secrets.token_hex(8)
         self.display = None

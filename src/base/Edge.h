@@ -10,7 +10,7 @@ namespace corvelle {
 /// A side of the screen.
 enum class Edge { Top, Bottom, Left, Right };
 
-/// The name of an edge in the program's state: "TOP", "BOTTOM", "LEFT" or "RIGHT".
+/// The name of an edge for logs and messages: "TOP", "BOTTOM", "LEFT" or "RIGHT".
 [[nodiscard]] constexpr std::string_view EdgeText(Edge edge) noexcept {
   switch (edge) {
     case Edge::Bottom:

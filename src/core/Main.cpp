@@ -62,8 +62,9 @@ void OfferStartupLink(Program& program, StartupLinkPort& link) {
   if (answer == forms::msgbox::AnswerYes) link.Create(executable);
 }
 
-// Without shell links the question cannot be kept, so it waits, and position 1 with it. Where the
-// flags cannot be kept the answer could not be either: it would be asked for at each start.
+// Without shell links the question cannot be kept, so it waits, and Option::FirstRunDone with it.
+// Where the flags cannot be kept the answer could not be either: it would be asked for at each
+// start.
 void DoFirstRun(Program& program) {
   if (program.OptionFlags.Is(Option::FirstRunDone) || program.Ports.StartupLink == nullptr) return;
   program.DoEvents();

@@ -1,6 +1,6 @@
 #include "core/OptionFlags.h"
 
-#include "base/Text.h"
+#include <cstddef>
 
 namespace corvelle {
 
@@ -8,16 +8,19 @@ namespace {
 
 struct EdgeRow {
   std::string_view Code;
-  std::string_view Edge;
-  bool Vertical;
+  Edge At;
 };
 
 constexpr EdgeRow kEdges[] = {
-    {"00", "TOP", false},
-    {"01", "BOTTOM", false},
-    {"10", "LEFT", true},
-    {"11", "RIGHT", true},
+    {"00", Edge::Top},
+    {"01", Edge::Bottom},
+    {"10", Edge::Left},
+    {"11", Edge::Right},
 };
+
+constexpr bool IsPosition(int position) noexcept {
+  return position >= 1 && position <= OptionFlags::kLength;
+}
 
 }  // namespace
 
@@ -26,17 +29,18 @@ OptionFlags::OptionFlags() { flags_.fill('0'); }
 OptionFlags OptionFlags::Clean(std::string_view bytes) {
   OptionFlags flags;
   int position = 1;
-  for (const char c : bytes.substr(0, kLength)) flags.Set(position++, c);
+  for (const char c : bytes.substr(0, kLength)) flags.Set(OptionAt(position++), c);
   return flags;
 }
 
-char OptionFlags::At(int position) const noexcept {
-  if (position < 1 || position > kLength) return '0';
-  return flags_[static_cast<std::size_t>(position) - 1];
+char OptionFlags::At(Option option) const noexcept {
+  const int position = PositionOf(option);
+  return IsPosition(position) ? flags_[static_cast<std::size_t>(position) - 1] : '0';
 }
 
-void OptionFlags::Set(int position, char value) noexcept {
-  if (position < 1 || position > kLength) return;
+void OptionFlags::Set(Option option, char value) noexcept {
+  const int position = PositionOf(option);
+  if (!IsPosition(position)) return;
   flags_[static_cast<std::size_t>(position) - 1] = value == '1' ? '1' : '0';
 }
 
@@ -48,17 +52,25 @@ FileStatus SaveOptionFlags(FileSystem& files, std::string_view appPath, const Op
 
 OptionFlags FlagsAfterUpgrade() {
   OptionFlags flags;
-  for (const int position : {14, 15, 16, 19, 24, 26, 32}) flags.Set(position, '1');
+  for (const Option option :
+       {Option::AtEdge, Option::EdgeCodeFirst, Option::EdgeCodeSecond, Option::SystemPopupWithCtrl,
+        Option::SmallSingles, Option::LargeIcons, Option::UpgradeDone}) {
+    flags.Set(option, true);
+  }
   return flags;
 }
 
 void ResetHelpTips(OptionFlags& flags) noexcept {
-  for (const int position : {5, 6, 7, 8, 29}) flags.Set(position, '0');
+  for (const Option option :
+       {Option::IconLibraryTipDone, Option::OtherFilesTipDone, Option::SelectFileTipDone,
+        Option::AddFileTipDone, Option::NotOnTopTipDone}) {
+    flags.Set(option, false);
+  }
 }
 
-std::string EdgeCode(std::string_view toolbarEdge) {
+std::string_view EdgeCode(Edge edge) noexcept {
   for (const EdgeRow& row : kEdges) {
-    if (EqualNoCase(row.Edge, toolbarEdge)) return std::string(row.Code);
+    if (row.At == edge) return row.Code;
   }
   return "00";
 }
@@ -68,22 +80,22 @@ void ApplyEdgeCode(char atEdge, std::string_view code, EdgePlacement& placement)
   if (!placement.AppBarRequested) return;
   for (const EdgeRow& row : kEdges) {
     if (row.Code != code) continue;
-    placement.ToolbarEdge = row.Edge;
-    if (row.Vertical) placement.ToolbarVertical = true;
+    placement.ToolbarEdge = row.At;
+    if (IsVertical(row.At)) placement.ToolbarVertical = true;
   }
 }
 
 void ReadEdgeFlags(const OptionFlags& flags, EdgePlacement& placement) {
-  const char code[] = {flags.At(15), flags.At(16)};
-  ApplyEdgeCode(flags.At(14), {code, 2}, placement);
+  const char code[] = {flags.At(Option::EdgeCodeFirst), flags.At(Option::EdgeCodeSecond)};
+  ApplyEdgeCode(flags.At(Option::AtEdge), {code, 2}, placement);
 }
 
-void SaveEdgeFlags(OptionFlags& flags, bool atEdge, std::string_view toolbarEdge) {
-  flags.Set(14, atEdge);
+void SaveEdgeFlags(OptionFlags& flags, bool atEdge, Edge edge) {
+  flags.Set(Option::AtEdge, atEdge);
   if (!atEdge) return;
-  const std::string code = EdgeCode(toolbarEdge);
-  flags.Set(15, code[0]);
-  flags.Set(16, code[1]);
+  const std::string_view code = EdgeCode(edge);
+  flags.Set(Option::EdgeCodeFirst, code[0]);
+  flags.Set(Option::EdgeCodeSecond, code[1]);
 }
 
 }  // namespace corvelle

@@ -1,13 +1,52 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <string>
 #include <string_view>
 
+#include "base/Edge.h"
+#include "core/StripPlacement.h"
 #include "platform/FileSystem.h"
 
 namespace corvelle {
+
+/// The options by what "1" means; the value is the position in the stored text, from 1. Positions
+/// 17, 20, 28, 30 and 31 have no meaning.
+enum class Option {
+  FirstRunDone = 1,
+  DefaultEntriesOffered = 2,
+  AutoHide = 3,
+  AboveFullScreen = 4,  // the strip stays on top of full-screen programs
+  IconLibraryTipDone = 5,
+  OtherFilesTipDone = 6,
+  SelectFileTipDone = 7,
+  AddFileTipDone = 8,
+  NoStartupScreen = 9,
+  KeepExtension = 10,   // in the title of a file
+  SingleClick = 11,     // activates single buttons
+  OwnWebLinkIcon = 12,  // from httpicon.ini
+  MayPassRight = 13,    // a floating strip may pass the screen's right side
+  AtEdge = 14,          // the strip was at an edge when the program ended
+  EdgeCodeFirst = 15,   // which edge: "00" top, "01" bottom, "10" left, "11" right
+  EdgeCodeSecond = 16,
+  NoWebLinkDialog = 18,
+  SystemPopupWithCtrl = 19,  // Ctrl + right click brings the popup of the system, not our own
+  ShowDate = 21,
+  NoHints = 22,
+  NotOnTop = 23,
+  SmallSingles = 24,        // single buttons have small icons on a strip with large ones
+  LargeInRestoreMode = 25,  // a floating strip has large icons
+  LargeIcons = 26,
+  MayPassLeft = 27,
+  NotOnTopTipDone = 29,
+  UpgradeDone = 32,
+};
+
+/// The option at a position of the stored text.
+[[nodiscard]] constexpr Option OptionAt(int position) noexcept {
+  return static_cast<Option>(position);
+}
+[[nodiscard]] constexpr int PositionOf(Option option) noexcept { return static_cast<int>(option); }
 
 /// The options: 32 characters, each '0' or '1', addressed by positions from 1 to 32.
 class OptionFlags {
@@ -21,13 +60,13 @@ class OptionFlags {
   [[nodiscard]] static OptionFlags Clean(std::string_view bytes);
 
   /// The character at a position; '0' outside of 1 to 32.
-  [[nodiscard]] char At(int position) const noexcept;
-  [[nodiscard]] bool Is(int position) const noexcept { return At(position) == '1'; }
+  [[nodiscard]] char At(Option option) const noexcept;
+  [[nodiscard]] bool Is(Option option) const noexcept { return At(option) == '1'; }
 
   /// Replaces one character; anything but '1' counts as '0'. Outside of 1 to 32 nothing happens.
-  void Set(int position, char value) noexcept;
-  void Set(int position, bool value) noexcept { Set(position, value ? '1' : '0'); }
-  void Flip(int position) noexcept { Set(position, !Is(position)); }
+  void Set(Option option, char value) noexcept;
+  void Set(Option option, bool value) noexcept { Set(option, value ? '1' : '0'); }
+  void Flip(Option option) noexcept { Set(option, !Is(option)); }
 
   /// The 32 characters as they are stored.
   [[nodiscard]] std::string Text() const;
@@ -51,27 +90,18 @@ inline constexpr std::string_view kOptionFlagsFileName = "tmenu425.dat";
 /// Lets all tips show again.
 void ResetHelpTips(OptionFlags& flags) noexcept;
 
-/// What the flags and the strip tell each other about its place on the screen.
-struct EdgePlacement {
-  bool AppBarRequested = false;
-  bool ToolbarVertical = false;
-  std::string ToolbarEdge = "TOP";
+/// The two-character code of an edge.
+[[nodiscard]] std::string_view EdgeCode(Edge edge) noexcept;
 
-  friend bool operator==(const EdgePlacement&, const EdgePlacement&) = default;
-};
-
-/// The two-character code of an edge; "00" for a text that is no edge.
-[[nodiscard]] std::string EdgeCode(std::string_view toolbarEdge);
-
-/// Sets the placement by a flag ('0': no edge) and an edge code. A code that is none leaves the
-/// edge.
+/// Sets the placement by a flag ('0': no edge) and an edge code. An unknown code leaves the edge as
+/// it is.
 void ApplyEdgeCode(char atEdge, std::string_view code, EdgePlacement& placement);
 
-/// Sets the placement by positions 14 to 16.
+/// Sets the placement by Option::AtEdge and the edge code.
 void ReadEdgeFlags(const OptionFlags& flags, EdgePlacement& placement);
 
-/// Sets position 14 by whether the strip stands at an edge, be it docked or out of it for the
-/// moment only, and, if it does, positions 15 and 16 by the edge.
-void SaveEdgeFlags(OptionFlags& flags, bool atEdge, std::string_view toolbarEdge);
+/// Sets Option::AtEdge by whether the strip stands at an edge, be it docked or out of it for the
+/// moment only, and, if it does, the edge code by the edge.
+void SaveEdgeFlags(OptionFlags& flags, bool atEdge, Edge edge);
 
 }  // namespace corvelle

@@ -30,22 +30,15 @@ bool Program::DragHolds() const {
   constexpr int kLeftButtonKey = 1;
   constexpr int kRightButtonKey = 2;
   const Input& input = Services.Pointer;
-  return DragEntered && (input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey));
-}
-
-bool Program::TakesDrops() const noexcept { return OpenQuestions == 0 && !IsWorking(); }
-
-bool Program::IsWorking() const noexcept {
-  return StartingUp || MenuBuilding || IconsLoading || ItemActionBusy || MenuFormBusy ||
-         AppBarBusy || PosChangeRunning;
+  return Drag.DragEntered && (input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey));
 }
 
 void Program::DoEvents() {
-  if (EventsRunning) {
+  if (eventsRunning_) {
     Windows.PaintWaiting();
     return;
   }
-  const forms::FlagScope running(EventsRunning);
+  const forms::FlagScope running(eventsRunning_);
   Windows.DoEvents();
 }
 
@@ -54,38 +47,27 @@ void Program::SetHint(std::string_view text) {
 }
 
 void Program::ShowStartupProgress() {
-  if (!StartingUp || OptionFlags.Is(9)) return;
+  if (!Guards.StartingUp || OptionFlags.Is(Option::NoStartupScreen)) return;
   if (Ports.Startup != nullptr) Ports.Startup->AddDot();
-}
-
-std::string Program::ShippedFile(std::string_view name) const {
-  return (ShippedPath.empty() ? AppPath : ShippedPath) + std::string(name);
 }
 
 void Program::SaveOptionFlags() {
   // The flags stay in force for this run, and the next save tries again.
-  static_cast<void>(corvelle::SaveOptionFlags(Services.Files, AppPath, OptionFlags));
+  static_cast<void>(corvelle::SaveOptionFlags(Services.Files, Paths.AppPath, OptionFlags));
 }
 
 void Program::SaveEdgeFlags() {
-  corvelle::SaveEdgeFlags(OptionFlags, AppBarDocked || (WasDocked && ToolbarMinimized),
-                          ToolbarEdge);
+  corvelle::SaveEdgeFlags(OptionFlags, Strip.BelongsToEdge(), Strip.ToolbarEdge);
 }
 
-void Program::ReadEdgeFlags() {
-  EdgePlacement placement{AppBarRequested, ToolbarVertical, ToolbarEdge};
-  corvelle::ReadEdgeFlags(OptionFlags, placement);
-  AppBarRequested = placement.AppBarRequested;
-  ToolbarVertical = placement.ToolbarVertical;
-  ToolbarEdge = placement.ToolbarEdge;
-}
+void Program::ReadEdgeFlags() { corvelle::ReadEdgeFlags(OptionFlags, Strip); }
 
 int Program::Say(WindowId owner, std::string_view text, unsigned flags) {
   return SayAs(Title, owner, text, flags);
 }
 
 int Program::SayAs(std::string_view title, WindowId owner, std::string_view text, unsigned flags) {
-  const forms::CountScope asking(OpenQuestions);
+  const forms::CountScope asking(Guards.OpenQuestions);
   const InputHold strip(Ports.Toolbar, owner);
   const InputHold menu(Ports.QMenu, owner);
   return Windows.ShowMessage(owner, text, title, flags);

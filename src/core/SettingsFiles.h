@@ -19,8 +19,9 @@ class CodePage;
 /// After a failure the file is what it was.
 FileStatus SaveToolbarPosition(FileSystem& files, std::string_view appPath, float left);
 
-/// The file whose icon the entries of web links show: the user's own if position 12 is '1' and one
-/// is noted, else a web page made for the purpose, so that the icon is that of the browser's pages.
+/// The file whose icon the entries of web links show: the user's own with Option::OwnWebLinkIcon
+/// and one noted, else a web page made for the purpose, so that the icon is that of the browser's
+/// pages.
 [[nodiscard]] std::string LoadWebLinkIcon(FileSystem& files, const CodePage& ansi,
                                           std::string_view appPath, const OptionFlags& flags);
 /// Notes the user's own icon file for web links.

@@ -5,10 +5,12 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Edge.h"
 #include "base/Geometry.h"
 #include "base/Twips.h"
 #include "core/CommandPorts.h"
 #include "core/MenuRecord.h"
+#include "core/OptionFlags.h"
 #include "forms/Types.h"
 #include "platform/FileSystem.h"
 #include "platform/WindowId.h"
@@ -206,9 +208,10 @@ class TipPort {
  public:
   virtual ~TipPort() = default;
 
-  /// Shows a notice; its box writes position `field` of the options (0: none). Does nothing when
-  /// that position is "1".
-  virtual void ShowTip(std::string_view title, std::string_view text, int field) = 0;
+  /// Shows a notice; its box writes the option `field`, if there is one. Does nothing when that
+  /// option is set.
+  virtual void ShowTip(std::string_view title, std::string_view text,
+                       std::optional<Option> field) = 0;
 };
 
 /// The small window that counts dots while the program starts or deletes files.
@@ -251,7 +254,7 @@ class DockingPort {
   virtual void LeaveEdge() { EndAppBar(); }
   /// True if no other window hides at that edge.
   [[nodiscard]] virtual bool AutoHideFree(Edge edge) = 0;
-  /// Puts the strip at the edge, or anew at its edge when `edge` is empty.
+  /// Puts the strip at the edge; without one, again at the edge where it belongs.
   virtual void SetAppBar(std::optional<Edge> edge, bool rebuild) = 0;
   /// Auto Hide: shows the strip, hides it but for its line.
   virtual void RevealToolbar() = 0;
@@ -332,7 +335,7 @@ class CapturePort {
   /// The outline of the strip at an edge to which it is being pulled; none any more.
   virtual void SetPosition(Edge edge) = 0;
   virtual void ClearBg() = 0;
-  /// The edge of the outline; empty while no outline is shown.
+  /// The edge of the outline; nothing while no outline is shown.
   [[nodiscard]] virtual std::optional<Edge> OutlineEdge() const = 0;
 };
 

@@ -9,29 +9,30 @@ using enum CustOption;
 constexpr CustOptionLine kGapLine{Gap, "-"};
 
 constexpr CustOptionLine kLines[] = {
-    {KeepOnTop, "Keep Toolbar On Top of Full Screen Applications", 4},
-    {StartupScreen, "Show Startup Screen", 9, false},
-    {LeaveExtension, "Leave Extension in File Title", 10},
+    {KeepOnTop, "Keep Toolbar On Top of Full Screen Applications", Option::AboveFullScreen},
+    {StartupScreen, "Show Startup Screen", Option::NoStartupScreen, false},
+    {LeaveExtension, "Leave Extension in File Title", Option::KeepExtension},
     kGapLine,
-    {SingleClick, "Activate Single Buttons with Single Click", 11},
-    {DoubleClick, "Activate Single Buttons with Double Click", 11, false},
-    {SmallSingles, "Always Show Single Buttons with Small Icons", 24},
+    {SingleClick, "Activate Single Buttons with Single Click", Option::SingleClick},
+    {DoubleClick, "Activate Single Buttons with Double Click", Option::SingleClick, false},
+    {SmallSingles, "Always Show Single Buttons with Small Icons", Option::SmallSingles},
     kGapLine,
-    {CustomWebIcon, "Use Custom Icon for Web Links Entries", 12},
-    {DefaultWebIcon, "Use Default HTML Icon for Web Links Entries", 12, false},
-    {WebLinkDialog, "Show Web Link Dialog (URL Drag && Drop)", 18, false},
+    {CustomWebIcon, "Use Custom Icon for Web Links Entries", Option::OwnWebLinkIcon},
+    {DefaultWebIcon, "Use Default HTML Icon for Web Links Entries", Option::OwnWebLinkIcon, false},
+    {WebLinkDialog, "Show Web Link Dialog (URL Drag && Drop)", Option::NoWebLinkDialog, false},
     kGapLine,
     {AlternateBrowser, "Use Alternative Internet Browser"},
     {DefaultBrowser, "Use Default Internet Browser"},
     kGapLine,
-    {AdjustLeft, "Auto Adjust Toolbar Left Position (Restore Mode)", 27, false},
-    {AdjustRight, "Auto Adjust Toolbar Right Position (Restore Mode)", 13, false},
-    {LargeIcons, "Show Large Icons in Restore/Normal Mode", 25},
-    {ShowDate, "Show Date in Full Screen Mode (Top/Bottom)", 21},
-    {DisableHints, "Dsiable Toobar Tooltip (Icon Hint)", 22},
+    {AdjustLeft, "Auto Adjust Toolbar Left Position (Restore Mode)", Option::MayPassLeft, false},
+    {AdjustRight, "Auto Adjust Toolbar Right Position (Restore Mode)", Option::MayPassRight, false},
+    {LargeIcons, "Show Large Icons in Restore/Normal Mode", Option::LargeInRestoreMode},
+    {ShowDate, "Show Date in Full Screen Mode (Top/Bottom)", Option::ShowDate},
+    {DisableHints, "Dsiable Toobar Tooltip (Icon Hint)", Option::NoHints},
     kGapLine,
-    {SystemPopup, "Ctrl + Right Click Activates System Popup Menu", 19},
-    {OwnPopup, "Ctrl + Right Click Activates Corvelle Popup Menu", 19, false},
+    {SystemPopup, "Ctrl + Right Click Activates System Popup Menu", Option::SystemPopupWithCtrl},
+    {OwnPopup, "Ctrl + Right Click Activates Corvelle Popup Menu", Option::SystemPopupWithCtrl,
+     false},
     kGapLine,
     {SetStartup, "Set Corvelle as a Startup Program"},
     {RemoveStartup, "Remove Corvelle from the Startup Folder"},
@@ -44,9 +45,9 @@ constexpr CustOptionLine kLines[] = {
 std::span<const CustOptionLine> CustOptionLines() noexcept { return kLines; }
 
 bool IsChecked(const CustOptionLine& line, const OptionFlags& flags, bool ownBrowser) {
-  if (line.Option == AlternateBrowser) return ownBrowser;
-  if (line.Option == DefaultBrowser) return !ownBrowser;
-  return line.Position != 0 && flags.Is(line.Position) == line.CheckedAt;
+  if (line.Line == AlternateBrowser) return ownBrowser;
+  if (line.Line == DefaultBrowser) return !ownBrowser;
+  return line.Shows && flags.Is(*line.Shows) == line.CheckedAt;
 }
 
 }  // namespace corvelle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -33,12 +34,11 @@ enum class CustOption {
   Gap  // a separator line
 };
 
-/// One line: its caption, the position of the options that it shows (0 for none) and the value at
-/// which it is checked.
+/// One line: its caption, the option that it shows, if any, and the value at which it is checked.
 struct CustOptionLine {
-  CustOption Option;
+  CustOption Line;
   std::string_view Caption;
-  int Position = 0;
+  std::optional<Option> Shows;
   bool CheckedAt = true;
 };
 

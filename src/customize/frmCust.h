@@ -192,7 +192,7 @@ class frmCust final : public forms::Form,
   // The Options menu (frmCustOptions.cpp).
   void AddOptionLines(MenuMaker& menu);
   void ChooseOption(CustOption option);
-  void FlipOption(int position);
+  void FlipOption(Option option);
   void LookForBrowser();
   void ChooseWebIcon(bool custom);
   void ChooseBrowser(bool own);

@@ -16,10 +16,6 @@ namespace {
 
 constexpr int kKeyF3 = 114;
 constexpr int kMenuFilesFolder = 11;  // the Start menu
-constexpr int kLibraryTip = 5;
-constexpr int kAllFilesTip = 6;
-constexpr int kCommandTip = 7;
-constexpr int kAddTip = 8;
 constexpr std::string_view kOneFile = "Select one file.";
 
 constexpr std::string_view kAddText =
@@ -120,7 +116,7 @@ void frmCust::StopGuard() {
 
 void frmCust::ShowAddFileMsg() {
   if (program_.Ports.Tip != nullptr) {
-    program_.Ports.Tip->ShowTip("Add File/Folder", kAddText, kAddTip);
+    program_.Ports.Tip->ShowTip("Add File/Folder", kAddText, Option::AddFileTipDone);
   }
 }
 
@@ -227,8 +223,9 @@ void frmCust::FillBox(Field field, bool folder) {
   if (!MayFill()) return;
   if (program_.Ports.Tip != nullptr) {
     field == Field::Icon
-        ? program_.Ports.Tip->ShowTip("Other Files Icons", kAllFilesText, kAllFilesTip)
-        : program_.Ports.Tip->ShowTip("Select File/Folder", kCommandText, kCommandTip);
+        ? program_.Ports.Tip->ShowTip("Other Files Icons", kAllFilesText, Option::OtherFilesTipDone)
+        : program_.Ports.Tip->ShowTip("Select File/Folder", kCommandText,
+                                      Option::SelectFileTipDone);
   }
   forms::TextBox& box = field == Field::Icon ? txtFile : txtCommand;
   const std::string before = box.Text();
@@ -248,7 +245,7 @@ void frmCust::FillBox(Field field, bool folder) {
 void frmCust::ShowLibrary() {
   if (!MayFill()) return;
   if (program_.Ports.Tip != nullptr) {
-    program_.Ports.Tip->ShowTip("Icon Library", kLibraryText, kLibraryTip);
+    program_.Ports.Tip->ShowTip("Icon Library", kLibraryText, Option::IconLibraryTipDone);
   }
   if (program_.Ports.Library != nullptr) program_.Ports.Library->Show("frmCust");
 }

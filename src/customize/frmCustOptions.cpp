@@ -9,24 +9,14 @@
 
 namespace corvelle {
 
-namespace {
-
-constexpr int kWebIconOption = 12;
-constexpr int kEdgeOption = 14;
-constexpr int kSmallSinglesOption = 24;
-constexpr int kLargeInRestoreOption = 25;
-constexpr int kLargeOption = 26;
-
-}  // namespace
-
 void frmCust::AddOptionLines(MenuMaker& menu) {
   for (const CustOptionLine& line : CustOptionLines()) {
-    if (line.Option == CustOption::Gap) {
+    if (line.Line == CustOption::Gap) {
       menu.AddGap();
       continue;
     }
     menu.Add(
-        std::string(line.Caption), [this, option = line.Option] { ChooseOption(option); }, true,
+        std::string(line.Caption), [this, option = line.Line] { ChooseOption(option); }, true,
         IsChecked(line, program_.OptionFlags, ownBrowser_));
   }
 }
@@ -70,7 +60,7 @@ void frmCust::ChooseOption(CustOption option) {
       break;
     case CustOption::AdjustLeft:
     case CustOption::AdjustRight:
-      FlipOption(option == CustOption::AdjustLeft ? 27 : 13);
+      FlipOption(option == CustOption::AdjustLeft ? Option::MayPassLeft : Option::MayPassRight);
       if (strip != nullptr) strip->CheckToolbarMove();
       break;
     case CustOption::LargeIcons:
@@ -109,7 +99,7 @@ void frmCust::LookForBrowser() {
   ownBrowser_ = program_.Services.Files.FileExists(program_.Paths.AppPath + "openurl.ini");
 }
 
-void frmCust::FlipOption(int position) { program_.OptionFlags.Flip(position); }
+void frmCust::FlipOption(Option option) { program_.OptionFlags.Flip(option); }
 
 std::string frmCust::AskOneFile(std::string_view title, std::string_view startFolder) {
   const forms::FileChoice choice = program_.Windows.AskFiles(
@@ -125,7 +115,7 @@ void frmCust::ChooseWebIcon(bool custom) {
     if (!SaveWebLinkIcon(files, program_.Services.Ansi, program_.Paths.AppPath, icon))
       return Beep();
   }
-  program_.OptionFlags.Set(kWebIconOption, custom);
+  program_.OptionFlags.Set(Option::OwnWebLinkIcon, custom);
   program_.Icons.WebLinkIcon =
       LoadWebLinkIcon(files, program_.Services.Ansi, program_.Paths.AppPath, program_.OptionFlags);
 }
@@ -143,16 +133,16 @@ void frmCust::ChooseBrowser(bool own) {
 }
 
 void frmCust::SetLargeIcons() {
-  const bool large = !program_.OptionFlags.Is(kLargeInRestoreOption);
-  program_.OptionFlags.Set(kLargeInRestoreOption, large);
-  program_.OptionFlags.Set(kLargeOption, large);
-  program_.OptionFlags.Set(kEdgeOption, false);
+  const bool large = !program_.OptionFlags.Is(Option::LargeInRestoreMode);
+  program_.OptionFlags.Set(Option::LargeInRestoreMode, large);
+  program_.OptionFlags.Set(Option::LargeIcons, large);
+  program_.OptionFlags.Set(Option::AtEdge, false);
   if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->InitNewButtons();
 }
 
 void frmCust::SetSmallSingles() {
-  const bool small = !program_.OptionFlags.Is(kSmallSinglesOption);
-  program_.OptionFlags.Set(kSmallSinglesOption, small);
+  const bool small = !program_.OptionFlags.Is(Option::SmallSingles);
+  program_.OptionFlags.Set(Option::SmallSingles, small);
   DockingPort* const docking = program_.Ports.Docking;
   if (!small) {
     if (!program_.Strip.AppBarDocked) {
@@ -163,9 +153,9 @@ void frmCust::SetSmallSingles() {
     }
     return;
   }
-  program_.OptionFlags.Set(kLargeOption, true);
+  program_.OptionFlags.Set(Option::LargeIcons, true);
   if (docking == nullptr) return;
-  docking->SetAppBar(program_.Strip.AppBarDocked ? program_.Strip.ToolbarEdge : "RIGHT", true);
+  docking->SetAppBar(program_.Strip.AppBarDocked ? program_.Strip.ToolbarEdge : Edge::Right, true);
 }
 
 }  // namespace corvelle

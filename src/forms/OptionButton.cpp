@@ -7,7 +7,7 @@ namespace corvelle::forms {
 std::vector<OptionButton*> OptionButton::Group() const {
   std::vector<OptionButton*> group;
   for (Window* window : Container()->Children()) {
-    if (auto* const option = dynamic_cast<OptionButton*>(window)) group.push_back(option);
+    if (OptionButton* const option = window->AsOption()) group.push_back(option);
   }
   return group;
 }

@@ -17,6 +17,7 @@ class OptionButton final : public Button {
   [[nodiscard]] bool Value() const noexcept { return value_; }
   /// Choosing it takes the choice from the others of its group.
   void SetValue(bool value);
+  OptionButton* AsOption() noexcept override { return this; }
 
  protected:
   void Pressed() override;

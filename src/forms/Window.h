@@ -14,6 +14,7 @@
 namespace corvelle::forms {
 
 class Form;
+class OptionButton;
 
 /// A control with a window of its own: the base of forms, picture boxes and all that take the
 /// focus. Any window may hold others, which it outlives. The peer exists while the form is loaded;
@@ -36,6 +37,8 @@ class Window : public Control, protected WindowEvents {
   [[nodiscard]] Window* Container() const noexcept { return container_; }
   /// The windows inside this one, in the order in which they were made.
   [[nodiscard]] const std::vector<Window*>& Children() const noexcept { return children_; }
+  /// This window if it is an option button, which looks for those of its group; else null.
+  [[nodiscard]] virtual OptionButton* AsOption() noexcept { return nullptr; }
 
   /// Tab and Shift+Tab stop here, and the keys follow the rules of dialogs. Controls that take keys
   /// stop the Tab key from the start.

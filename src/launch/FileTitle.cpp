@@ -16,7 +16,6 @@ namespace {
 constexpr std::string_view kLinkStart = "Shortcut to";
 constexpr std::size_t kShortestLinkTitle = 13;  // characters
 constexpr std::string_view kFloppyRoot = "a:\\";
-constexpr int kKeepExtensionOption = 10;
 
 // Besides all extensions of three characters.
 constexpr std::string_view kKnownExtensions[] = {"html", "jpeg", "jfif", "mhtml", "mpeg",
@@ -54,7 +53,7 @@ std::string GetFileTitle(Program& program, std::string_view path) {
   const auto info = program.Services.Icons.FileInfo(path, IconList::Large);
   FileTitleFacts facts{.Path = path,
                        .IsFolder = program.Services.Files.FolderExists(path),
-                       .KeepExtension = program.OptionFlags.Is(kKeepExtensionOption)};
+                       .KeepExtension = program.OptionFlags.Is(Option::KeepExtension)};
   if (info) facts.DisplayName = info->DisplayName;
   return FileTitle(facts);
 }

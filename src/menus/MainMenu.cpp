@@ -15,12 +15,6 @@
 namespace corvelle {
 namespace {
 
-constexpr int kAutoHideOption = 3;
-constexpr int kEdgeOption = 14;
-constexpr int kNotOnTopOption = 23;
-constexpr int kLargeAtTopOption = 25;
-constexpr int kLargeOption = 26;
-
 /// The still picture of the strip, where there is a window for it.
 class StripPicture {
  public:
@@ -50,7 +44,7 @@ struct MainMenu::Choice {
 };
 
 MainMenuFacts MainMenu::Facts() const {
-  return {.LargeIcons = program_.OptionFlags.Is(kLargeOption),
+  return {.LargeIcons = program_.OptionFlags.Is(Option::LargeIcons),
           .AutoHide = program_.Strip.AutoHide,
           .NotOnTop = program_.Strip.NotOnTop,
           .Docked = program_.Strip.AppBarDocked};
@@ -141,7 +135,7 @@ void MainMenu::Forget() {
 void MainMenu::LargeIcons() {
   if (program_.Strip.AppBarDocked && program_.Strip.ToolbarVertical) {
     const forms::FlagScope changing(program_.Guards.ChangingMode);
-    program_.OptionFlags.Flip(kLargeOption);
+    program_.OptionFlags.Flip(Option::LargeIcons);
     program_.Ports.Toolbar->InitNewButtons();
   } else {
     ToggleLargeIcons();
@@ -155,7 +149,7 @@ void MainMenu::ToggleLargeIcons() {
   const StripPicture picture(program_);
   const forms::FlagScope changing(program_.Guards.ChangingMode);
   ToolbarPort& strip = *program_.Ports.Toolbar;
-  program_.OptionFlags.Flip(kLargeOption);
+  program_.OptionFlags.Flip(Option::LargeIcons);
   strip.UnloadItems();
   if (!strip.WindowLoaded()) return;
   strip.InitButtons();
@@ -189,10 +183,10 @@ bool MainMenu::StartAutoHide() {
   DockingPort& docking = *program_.Ports.Docking;
   if (!docking.AutoHideFree(program_.Strip.ToolbarEdge)) return false;
   program_.Strip.AutoHide = true;
-  program_.OptionFlags.Set(kAutoHideOption, true);
+  program_.OptionFlags.Set(Option::AutoHide, true);
   docking.SetAppBar(program_.Strip.ToolbarEdge, !program_.Strip.AppBarDocked);
   if (program_.Strip.NotOnTop) {
-    program_.OptionFlags.Set(kNotOnTopOption, false);
+    program_.OptionFlags.Set(Option::NotOnTop, false);
     if (program_.Ports.Minimize != nullptr) program_.Ports.Minimize->DeActivateSysTray();
     program_.Strip.NotOnTop = false;
   }
@@ -202,7 +196,7 @@ bool MainMenu::StartAutoHide() {
 // The edge is taken anew, with its room on the screen.
 void MainMenu::EndAutoHide() {
   program_.Strip.AutoHide = false;
-  program_.OptionFlags.Set(kAutoHideOption, false);
+  program_.OptionFlags.Set(Option::AutoHide, false);
   program_.Ports.Docking->SetAppBar(program_.Strip.ToolbarEdge, !program_.Strip.AppBarDocked);
 }
 
@@ -225,8 +219,9 @@ void MainMenu::NotOnTop() {
 // ---- the place of the strip ----
 
 void MainMenu::Restore() {
-  program_.OptionFlags.Set(kEdgeOption, false);
-  if (!program_.OptionFlags.Is(kLargeAtTopOption)) program_.OptionFlags.Set(kLargeOption, false);
+  program_.OptionFlags.Set(Option::AtEdge, false);
+  if (!program_.OptionFlags.Is(Option::LargeInRestoreMode))
+    program_.OptionFlags.Set(Option::LargeIcons, false);
   Forget();
   program_.Ports.Toolbar->RestoreToolbar();
 }
@@ -236,7 +231,7 @@ void MainMenu::Maximize() {
   if (docking == nullptr) return;
   Forget();
   corvelle::OptionFlags stored = program_.OptionFlags;
-  stored.Set(kEdgeOption, true);
+  stored.Set(Option::AtEdge, true);
   EdgePlacement placement;
   ReadEdgeFlags(stored, placement);
   docking->SetAppBar(placement.ToolbarEdge, true);

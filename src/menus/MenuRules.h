@@ -80,7 +80,7 @@ struct ButtonFrame {
 [[nodiscard]] std::optional<int> PageForKey(int keyCode, int curMenu, int slides) noexcept;
 
 /// True when a right click on an item shows the shell's menu of what the item stands for, false for
-/// the program's popup. `preference` is position 19 of the options, which Ctrl turns over; the
+/// the program's popup. `preference` is Option::SystemPopupWithCtrl, which Ctrl turns over; the
 /// items of the program's own menu stand for nothing of the shell.
 [[nodiscard]] bool OffersShellMenu(bool mainMenu, char preference, bool ctrl) noexcept;
 

@@ -2,17 +2,19 @@
 
 #include <string_view>
 
+#include "core/OptionFlags.h"
+
 namespace corvelle {
 
 /// A notice about a box for an entry, shown until the user dismisses it.
 struct BoxTip {
-  int Field = 0;  // the position of the options that keeps it away
+  Option Field;  // keeps it away
   std::string_view Title;
   std::string_view Text;
 };
 
 inline constexpr BoxTip kCommandTip{
-    7, "Select File/Folder",
+    Option::SelectFileTipDone, "Select File/Folder",
     "This option is useful for custom entries where you have an icon file different from the "
     "executable file. You can also enter a web site address here, for example "
     "http://www.example.com. See the Help file for more information.\r\n\r\n"
@@ -21,7 +23,7 @@ inline constexpr BoxTip kCommandTip{
     "Entry in this field is not required for Menu Buttons."};
 
 inline constexpr BoxTip kIconFileTip{
-    6, "Other Files Icons",
+    Option::OtherFilesTipDone, "Other Files Icons",
     "You can select an icon from any file in your hard disk that has an icon in the Windows "
     "Explorer. It dosn't have to be an actual icon file. Use icons from other files for the "
     "toolbar buttons and for entries that do not have icons such as DOS programs and custom "
@@ -30,7 +32,7 @@ inline constexpr BoxTip kIconFileTip{
     "application that already has one unless you want to do so."};
 
 inline constexpr BoxTip kLibraryTip{
-    5, "Icon Library",
+    Option::IconLibraryTipDone, "Icon Library",
     "Use icons from the library for the toolbar buttons and for applications that do not have "
     "icons such as DOS programs and custom commands. \r\n\r\n"
     "All Windows programs have built-in icons. You don't have to specify a different icon for an "

@@ -105,7 +105,7 @@ std::optional<Edge> frmProperties::EdgeInUse() const {
 void frmProperties::MoveToEdge(Edge edge) {
   DockingPort* const docking = program_.Ports.Docking;
   if (busy_ || docking == nullptr || program_.Strip.ToolbarMinimizing) return;
-  if (program_.Strip.AppBarDocked && EqualNoCase(program_.Strip.ToolbarEdge, edge)) return;
+  if (program_.Strip.AppBarDocked && program_.Strip.ToolbarEdge == edge) return;
   const forms::FlagScope busy(busy_);
   docking->SetAppBar(edge, false);
   if (!IsLoaded()) return;

@@ -5,9 +5,6 @@
 
 namespace corvelle {
 
-/// The position of the options that keeps hints away.
-inline constexpr int kDisablesHints = 22;
-
 /// What the place of a hint depends on. Twips, but for the pointer (pixels of the screen).
 struct HintScene {
   PixelPoint Pointer;

@@ -72,7 +72,7 @@ void SingleRow::ShowHover(int index) {
 }
 
 void SingleRow::sMouseMove() {
-  if (program_.Guards.StartingUp || program_.Guards.PosChangeRunning) return;
+  if (program_.Guards.IsSettling()) return;
   const int before = program_.Menu.CurSingle;
   const int now = GetCurIndex();
   if (now == before && now == hovered_) return;
@@ -311,7 +311,7 @@ void SingleRow::StopCarry() {
 
 // ---- right clicks ----
 
-// Option 19 tells which of the two popups needs the Ctrl key.
+// Option::SystemPopupWithCtrl tells which of the two popups needs the Ctrl key.
 void SingleRow::ShowSinglePopup(int index, bool ctrl) {
   const SingleRect single = SingleButtons[static_cast<std::size_t>(index)];
   CloseMenus();

@@ -44,7 +44,7 @@ struct StripScale {
 };
 
 struct TemplateScene {
-  bool LargeIcons = false;        // option 26
+  bool LargeIcons = false;        // Option::LargeIcons
   int IconSize = kSmallIconSize;  // pixels
   float TwipsX = 15;
   float TwipsY = 15;

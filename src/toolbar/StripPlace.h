@@ -58,8 +58,8 @@ struct SlideScene {
   float ScreenWidth = 0;
   float TwipsX = 15;
   int CaptionButtonWidth = 18;  // pixels, 0 when the system does not tell
-  bool MayPassRight = false;    // option 13
-  bool MayPassLeft = false;     // option 27
+  bool MayPassRight = false;    // Option::MayPassRight
+  bool MayPassLeft = false;     // Option::MayPassLeft
 };
 
 /// The window's Left after a slide along the top.

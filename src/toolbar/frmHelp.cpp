@@ -47,7 +47,7 @@ void frmHelp::SetHint(std::string_view text) {
     CloseHint();
     program_.Windows.PaintWaiting();
   }
-  if (wanted.empty() || program_.OptionFlags.Is(kDisablesHints)) return;
+  if (wanted.empty() || program_.OptionFlags.Is(Option::NoHints)) return;
   if (Load()) ShowHint(wanted);
 }
 

@@ -35,7 +35,7 @@ void frmImage::Form_Load() { SetWindowPos(forms::InsertAfter::Topmost, forms::sw
 
 void frmImage::Form_Unload() {
   menuCaptured_ = false;
-  Tag.clear();
+  outline_.reset();
   ShowLines(false);
   SetBackground(nullptr);
 }
@@ -119,24 +119,23 @@ void frmImage::ResetPicture1() {
 // Moves arrive while the outline is being shown: the last of them says where it belongs.
 void frmImage::SetPosition(Edge edge) {
   if (!Load()) return;
-  Tag = edge;
+  outline_ = edge;
   if (MovingToolbar) return;
   const forms::FlagScope moving(MovingToolbar);
-  for (std::string shown; IsLoaded() && !Tag.empty() && shown != Tag;) {
-    shown = Tag;
-    ShowOutline(shown);
+  for (std::optional<Edge> shown; IsLoaded() && outline_ && shown != outline_;) {
+    shown = outline_;
+    ShowOutline(*shown);
     program_.DoEvents();
   }
 }
 
-void frmImage::ShowOutline(std::string_view edge) {
+void frmImage::ShowOutline(Edge edge) {
   const forms::ScreenInfo screen = program_.Windows.Screen();
   const float x = screen.TwipsPerPixelX;
   const float y = screen.TwipsPerPixelY;
   const ButtonRect& button = strip_.ToolbarButtons.front();
   const TwipRect place =
-      OutlineAt(EdgeFromText(edge).value_or(Edge::Top), {button.Width, button.Height},
-                {screen.Width, screen.Height}, {x, y});
+      OutlineAt(edge, {button.Width, button.Height}, {screen.Width, screen.Height}, {x, y});
   const PixelRect bounds =
       forms::ToPixels(place.Left, place.Top, place.Width, place.Height, screen);
   if (Visible() && bounds == forms::ToPixels(Left(), Top(), Width(), Height(), screen)) return;
@@ -164,7 +163,7 @@ void frmImage::ShowOutline(std::string_view edge) {
 }
 
 void frmImage::ClearBg() {
-  Tag.clear();
+  outline_.reset();
   if (!IsLoaded()) return;
   Hide();
   ShowLines(false);

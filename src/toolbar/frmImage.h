@@ -29,13 +29,17 @@ class frmImage final : public forms::Form, public LoadedWindow, public CapturePo
   void ReleaseMenu() override;
   [[nodiscard]] bool MenuCaptured() const override { return menuCaptured_; }
 
-  /// Freezes the strip's look: only with option 4, and not while a change of mode runs.
+  /// Freezes the strip's look: only with Option::AboveFullScreen, and not while a change of mode
+  /// runs.
   void SetPicture1() override;
   void ResetPicture1() override;
 
   void SetPosition(Edge edge) override;
   void ClearBg() override;
-  [[nodiscard]] std::optional<Edge> OutlineEdge() const override { return Tag; }
+  [[nodiscard]] std::optional<Edge> OutlineEdge() const override { return outline_; }
+
+  /// The outline of the strip is being moved to another edge.
+  bool MovingToolbar = false;
 
   // The sides of the outline: above, left, below, right.
   forms::Line bLine1;
@@ -52,12 +56,13 @@ class frmImage final : public forms::Form, public LoadedWindow, public CapturePo
   /// nothing to show.
   bool Cover(WindowId window);
   void PlaceAt(const PixelRect& bounds);
-  void ShowOutline(std::string_view edge);
+  void ShowOutline(Edge edge);
   void ShowLines(bool visible);
 
   Program& program_;
   const frmToolbar& strip_;
   bool menuCaptured_ = false;
+  std::optional<Edge> outline_;
 };
 
 }  // namespace corvelle

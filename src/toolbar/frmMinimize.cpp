@@ -12,7 +12,6 @@ namespace corvelle {
 namespace {
 
 constexpr std::uint32_t kTrayIcon = 1;
-constexpr int kNotOnTopTip = 29;  // position in the options
 constexpr std::string_view kNotOnTopText =
     "If the Toolbar is set to 'Not On Top', any window can cover the toolbar. This is an "
     "alternative option to Auto Hide.\r\n\r\n"
@@ -98,8 +97,8 @@ void frmMinimize::ActivateSysTray() {
   ShowInSysTray();
   program_.SaveOptionFlags();
   subShowToolbar();
-  if (program_.OptionFlags.Is(kNotOnTopTip) || program_.Ports.Tip == nullptr) return;
-  program_.Ports.Tip->ShowTip("Not On Top", kNotOnTopText, kNotOnTopTip);
+  if (program_.OptionFlags.Is(Option::NotOnTopTipDone) || program_.Ports.Tip == nullptr) return;
+  program_.Ports.Tip->ShowTip("Not On Top", kNotOnTopText, Option::NotOnTopTipDone);
 }
 
 void frmMinimize::DeActivateSysTray() {
@@ -226,7 +225,7 @@ void frmMinimize::ReturnToEdge() {
   DockingPort& docking = *program_.Ports.Docking;
   ToolbarPort& strip = *program_.Ports.Toolbar;
   program_.Strip.WasDocked = false;
-  if (!WasEdge.empty()) program_.Strip.ToolbarEdge = std::exchange(WasEdge, {});
+  if (const auto edge = std::exchange(WasEdge, std::nullopt)) program_.Strip.ToolbarEdge = *edge;
   // Another program's bar may hide there by now.
   if (program_.Strip.AutoHide && !docking.AutoHideFree(program_.Strip.ToolbarEdge)) {
     program_.OptionFlags.Set(Option::AutoHide, false);

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "base/Edge.h"
 #include "core/WindowPorts.h"
 #include "forms/Form.h"
 
@@ -31,6 +32,9 @@ class frmMinimize final : public forms::Form, public MinimizePort {
 
   /// The icon is in the tray.
   bool InTray = false;
+  /// The edge that the strip left for the task bar, and its top then, twips.
+  std::optional<Edge> WasEdge;
+  float WasTop = 0;
 
  protected:
   void Form_Load() override;

@@ -47,14 +47,14 @@ frmTip::frmTip(Program& program)
 void frmTip::Form_Load() {
   SetCaption("");
   SetBackColor(forms::color::ButtonFace);
-  TipField = 0;
+  TipField.reset();
   Check1.SetValue(0);
   const forms::ScreenInfo screen = program_.Windows.Screen();
   Move((screen.Width - Width()) / 2, (screen.Height - Height()) / 2, Width(), Height());
 }
 
-void frmTip::ShowTip(std::string_view title, std::string_view text, int field) {
-  if (field > 0 && program_.OptionFlags.Is(field)) return;
+void frmTip::ShowTip(std::string_view title, std::string_view text, std::optional<Option> field) {
+  if (field && program_.OptionFlags.Is(*field)) return;
   // Another notice takes the place of one that is still up.
   Unload();
   lblTitle.SetCaption(DoubleAmpersands(title));
@@ -113,8 +113,8 @@ void frmTip::DrawPicture() {
 }
 
 void frmTip::cmdOK_Click() {
-  if (TipField > 0) {
-    program_.OptionFlags.Set(TipField, Check1.Value() == 1);
+  if (TipField) {
+    program_.OptionFlags.Set(*TipField, Check1.Value() == 1);
     program_.SaveOptionFlags();
   }
   Unload();

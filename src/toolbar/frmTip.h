@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,9 +22,9 @@ class frmTip final : public forms::Form, public TipPort {
  public:
   explicit frmTip(Program& program);
 
-  void ShowTip(std::string_view title, std::string_view text, int field) override;
-  /// The position of the options that the box writes; 0 for none.
-  void FieldNum(int field) noexcept { TipField = field; }
+  void ShowTip(std::string_view title, std::string_view text, std::optional<Option> field) override;
+  /// The option that the box writes, if any.
+  void FieldNum(std::optional<Option> field) noexcept { TipField = field; }
 
   forms::PictureBox Picture1;
   forms::Label lblTitle;
@@ -31,7 +32,7 @@ class frmTip final : public forms::Form, public TipPort {
   std::vector<std::unique_ptr<forms::Label>> lblTip;
   forms::CheckBox Check1;
   forms::CommandButton cmdOK;
-  int TipField = 0;
+  std::optional<Option> TipField;
 
  protected:
   void Form_Load() override;

@@ -10,9 +10,6 @@
 namespace corvelle {
 namespace {
 
-constexpr int kShowDate = 21;  // options
-constexpr int kLargeIcons = 26;
-
 constexpr std::string_view kDatePanel = "rundll32.exe shell32.dll,Control_RunDLL timedate.cpl,,0";
 
 }  // namespace
@@ -29,7 +26,7 @@ void frmToolbar::DoLabelDate() {
     HideDate();
     return;
   }
-  if (!program_.OptionFlags.Is(kShowDate)) {
+  if (!program_.OptionFlags.Is(Option::ShowDate)) {
     if (!lblDate.Visible()) return;
     HideDate();
     picSingleButton.FillBox(Singles.LastEnd() + TwipsX, 0, picSingleButton.Width(),
@@ -43,7 +40,7 @@ void frmToolbar::DoLabelDate() {
 
 void frmToolbar::ShowDate() {
   FontSpec font = lblDate.Font();
-  font.Bold = program_.OptionFlags.Is(kLargeIcons);
+  font.Bold = program_.OptionFlags.Is(Option::LargeIcons);
   lblDate.SetFont(font);
   const DateSpot spot = PlaceDate({.Box = {picSingleButton.Width(), picSingleButton.Height()},
                                    .Label = {lblDate.Width(), lblDate.Height()},
@@ -63,7 +60,7 @@ void frmToolbar::ShowDate() {
 }
 
 void frmToolbar::UpdateLabelDate() {
-  if (!program_.OptionFlags.Is(kShowDate) || program_.Strip.ToolbarVertical ||
+  if (!program_.OptionFlags.Is(Option::ShowDate) || program_.Strip.ToolbarVertical ||
       program_.Guards.RestoreBusy || Where() == Placement::TopHugging) {
     return;
   }

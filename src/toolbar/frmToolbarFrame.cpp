@@ -97,7 +97,7 @@ void frmToolbar::Form_MouseMove(forms::MouseButton down, forms::ShiftState /*shi
     FrameDragging = true;
     return;
   }
-  if (!program_.Guards.RestoreBusy && !program_.Guards.AppBarBusy) FollowFrame(down, x, y);
+  if (!program_.Guards.IsPlacing()) FollowFrame(down, x, y);
 }
 
 void frmToolbar::FollowFrame(forms::MouseButton down, float x, float y) {
@@ -134,21 +134,21 @@ void frmToolbar::FollowPull() {
 
 void frmToolbar::ClearOutline() {
   CapturePort* const capture = program_.Ports.Capture;
-  if (capture != nullptr && !capture->OutlineEdge().empty()) capture->ClearBg();
+  if (capture != nullptr && capture->OutlineEdge()) capture->ClearBg();
 }
 
 bool frmToolbar::EndPull() {
   CapturePort* const capture = program_.Ports.Capture;
   DockingPort* const docking = program_.Ports.Docking;
   if (capture == nullptr || docking == nullptr) return false;
-  std::string edge = capture->OutlineEdge();
+  const std::optional<Edge> edge = capture->OutlineEdge();
   capture->ClearBg();
   const bool alreadyThere =
-      edge == "TOP" && program_.Strip.ToolbarEdge == Edge::Top && !program_.Strip.AppBarDocked;
+      edge == Edge::Top && program_.Strip.ToolbarEdge == Edge::Top && !program_.Strip.AppBarDocked;
   LoadedWindow* const image = program_.Ports.ImageWindow;
   // A side that is taken is told of by the docking, which then docks the strip in full sight.
   if (image != nullptr) image->UnloadWindow();
-  if (edge.empty() || alreadyThere) return false;
+  if (!edge || alreadyThere) return false;
   DrawBorders();
   docking->SetAppBar(edge, true);
   if (!IsLoaded()) return true;

@@ -20,7 +20,6 @@ constexpr std::uintptr_t kPositionChanged = 1;
 constexpr std::uintptr_t kFullScreenProgram = 2;
 
 constexpr int kButtonFaceIndex = 15;
-constexpr int kStaysAbove = 4;  // option: above full-screen programs
 
 }  // namespace
 
@@ -163,14 +162,14 @@ void frmToolbar::CacheDisplayMetrics() {
 
 void frmToolbar::FullScreenNotify(std::intptr_t entering) {
   if (program_.Strip.NotOnTop) return;
-  const bool staysAbove = program_.OptionFlags.Is(kStaysAbove);
+  const bool staysAbove = program_.OptionFlags.Is(Option::AboveFullScreen);
   if (staysAbove && entering != 0 && program_.Strip.FullScreenApp) return;
   program_.Strip.FullScreenApp = entering != 0;
   TakeLevel();
 }
 
 void frmToolbar::TakeLevel() {
-  if (program_.OptionFlags.Is(kStaysAbove)) {
+  if (program_.OptionFlags.Is(Option::AboveFullScreen)) {
     SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
   } else if (program_.Strip.FullScreenApp) {
     SetWindowPos(forms::InsertAfter::Bottom, forms::swp::KeepActivation);
@@ -179,7 +178,7 @@ void frmToolbar::TakeLevel() {
     if (program_.Ports.QMenu != nullptr) {
       program_.Ports.QMenu->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
     }
-    if (program_.Ports.Hint != nullptr && !program_.OptionFlags.Is(kDisablesHints)) {
+    if (program_.Ports.Hint != nullptr && !program_.OptionFlags.Is(Option::NoHints)) {
       program_.Ports.Hint->SetHintLevel(forms::InsertAfter::Topmost, forms::swp::Hide);
     }
   }
@@ -202,8 +201,8 @@ void frmToolbar::KeepPinned() {
 }
 
 void frmToolbar::CheckToolbarMove() {
-  if (program_.Guards.StartingUp || program_.Guards.AppBarBusy || program_.Entry.ItemDragging ||
-      program_.Strip.AppBarDocked || program_.Guards.RestoreBusy) {
+  if (program_.Guards.StartingUp || program_.Guards.IsPlacing() || program_.Entry.ItemDragging ||
+      program_.Strip.AppBarDocked) {
     return;
   }
   if (program_.Strip.AutoHide && !picToolbar.Visible()) {
@@ -267,9 +266,8 @@ void frmToolbar::Timer1_Timer() {
     if (free && !turned) SetFocus();
   }
   WatchPull();
-  if (program_.Guards.StartingUp || program_.Guards.AppBarBusy || program_.Entry.ItemDragging ||
-      program_.Guards.PosChangeRunning || program_.Drag.ButtonDragging ||
-      program_.Guards.RestoreBusy) {
+  if (program_.Guards.IsSettling() || program_.Guards.IsPlacing() || program_.Entry.ItemDragging ||
+      program_.Drag.ButtonDragging) {
     return;
   }
   if (NewsWait() && !program_.Strip.ToolbarMinimized) {

@@ -144,9 +144,7 @@ void frmToolbar::tmrDragDrop_Timer() {
 
 void frmToolbar::StopDrag() {
   tmrDragDrop.SetEnabled(false);
-  program_.Drag.DragOverButton = false;
-  program_.Drag.DragEntered = false;
-  program_.Drag.DragIsUrl = false;
+  program_.Drag.EndDrag();
 }
 
 void frmToolbar::EndDragOver() {

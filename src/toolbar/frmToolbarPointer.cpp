@@ -116,7 +116,7 @@ void frmToolbar::PressCurButton() {
 
 void frmToolbar::picToolbar_MouseMove(forms::MouseButton down, forms::ShiftState /*shift*/, float x,
                                       float y) {
-  if (program_.Guards.PosChangeRunning || program_.Guards.StartingUp) return;
+  if (program_.Guards.IsSettling()) return;
   const bool anyDown = down != forms::MouseButton::None;
   if (!anyDown && !WasHovering) {
     StartHovering();
@@ -159,7 +159,7 @@ std::string frmToolbar::HintOf(int button) const {
 }
 
 void frmToolbar::AnnounceHint() {
-  if (program_.Ports.Hint == nullptr || program_.OptionFlags.Is(kDisablesHints)) return;
+  if (program_.Ports.Hint == nullptr || program_.OptionFlags.Is(Option::NoHints)) return;
   TipDueAt = program_.Windows.Now() + kHintDelay;
   Timer2.SetEnabled(true);
 }

@@ -50,7 +50,7 @@ void mAppBar::GiveUpHiding() {
 bool mAppBar::AutoHideFree(Edge edge) {
   AppBarRecord asked = AppBarData;
   asked.hWnd = strip_.hWnd();
-  asked.uEdge = ShellEdge(EdgeFromText(edge).value_or(Edge::Top));
+  asked.uEdge = ShellEdge(edge);
   const std::uintptr_t holder = program_.Services.Bars.Message(abm::GetAutoHideBar, asked);
   return holder == 0 || holder == strip_.hWnd();
 }
@@ -95,8 +95,7 @@ void mAppBar::PinHere() {
 bool mAppBar::Waits() const {
   return program_.Strip.ToolbarMinimized || program_.Entry.ItemDragging ||
          program_.Drag.ButtonDragging || program_.Guards.MenuFormBusy ||
-         (program_.Guards.PosChangeRunning &&
-          (program_.Guards.AppBarBusy || program_.Guards.RestoreBusy));
+         (program_.Guards.PosChangeRunning && program_.Guards.IsPlacing());
 }
 
 void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
@@ -117,8 +116,7 @@ void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   program_.Strip.AppBarRequested = true;
   CapturePort* const capture = program_.Ports.Capture;
   if (strip_.Visible() && capture != nullptr) capture->SetPicture1();
-  // A text that is no edge leaves the strip where it belongs.
-  if (const auto wanted = EdgeFromText(edge)) program_.Strip.ToolbarEdge = *wanted;
+  if (edge) program_.Strip.ToolbarEdge = *edge;
   const Edge at = CurrentEdge();
   TurnTo(program_.Strip.ToolbarEdge, rebuild);
   if (strip_.IsLoaded()) PlaceAt(at);
@@ -135,8 +133,8 @@ void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
 }
 
 // A strip that turns, or has not stood at an edge yet, is built anew.
-void mAppBar::TurnTo(std::string_view edge, bool rebuild) {
-  const bool vertical = IsVertical(EdgeFromText(edge).value_or(Edge::Top));
+void mAppBar::TurnTo(Edge edge, bool rebuild) {
+  const bool vertical = IsVertical(edge);
   const bool turns = program_.Strip.ToolbarVertical != vertical;
   if (rebuild || !program_.Strip.AppBarDocked || turns) {
     program_.Strip.ToolbarVertical = vertical;
@@ -152,12 +150,11 @@ void mAppBar::TurnTo(std::string_view edge, bool rebuild) {
 }
 
 void mAppBar::PlaceAt(Edge at) {
-  const std::string_view edge = EdgeText(at);
   if (program_.Strip.NotOnTop) {
-    DockNotOnTop(edge);
+    DockNotOnTop(at);
   } else if (!program_.Strip.AutoHide) {
-    DockAppBar(edge);
-  } else if (!AutoHideAppBar(edge)) {
+    DockAppBar(at);
+  } else if (!AutoHideAppBar(at)) {
     return;
   }
   if (strip_.IsLoaded()) FinishPlacing(at);
@@ -227,13 +224,9 @@ BarPlace mAppBar::KeepPlace(Edge at, PixelSize bar, bool mayLift) {
   return place;
 }
 
-void mAppBar::DockAppBar(std::string_view edge) {
-  StandAt(EdgeFromText(edge).value_or(CurrentEdge()), true);
-}
+void mAppBar::DockAppBar(Edge at) { StandAt(at, true); }
 
-void mAppBar::DockNotOnTop(std::string_view edge) {
-  StandAt(EdgeFromText(edge).value_or(CurrentEdge()), false);
-}
+void mAppBar::DockNotOnTop(Edge at) { StandAt(at, false); }
 
 void mAppBar::StandAt(Edge at, bool keepsRoom) {
   const ForegroundScope foreground(program_, strip_);

@@ -38,12 +38,12 @@ class mAppBar final : public DockingPort {
   void ResizeToEdge() override;
 
   /// Keeps room at the edge and stands the strip there, on top of all windows.
-  void DockAppBar(std::string_view edge);
+  void DockAppBar(Edge edge);
   /// Stands the strip at the edge and keeps no room, so that other windows may cover it.
-  void DockNotOnTop(std::string_view edge);
+  void DockNotOnTop(Edge edge);
   /// Shrinks the strip to a line at the edge and claims the edge for hiding. False when another
   /// window hides there: the user was told, and the strip is docked in full sight.
-  bool AutoHideAppBar(std::string_view edge);
+  bool AutoHideAppBar(Edge edge);
   /// The answer to the news that bars have moved. True when it dealt with the change.
   bool AppBarPosChanged();
 
@@ -52,7 +52,7 @@ class mAppBar final : public DockingPort {
   void GiveUpHiding();
   void Remove();
   [[nodiscard]] bool Waits() const;
-  void TurnTo(std::string_view edge, bool rebuild);
+  void TurnTo(Edge edge, bool rebuild);
   void PlaceAt(Edge at);
   void FinishPlacing(Edge at);
   void ComeOutOfHiding();

@@ -7,8 +7,7 @@
 
 namespace corvelle {
 
-bool mAppBar::AutoHideAppBar(std::string_view edge) {
-  const Edge at = EdgeFromText(edge).value_or(CurrentEdge());
+bool mAppBar::AutoHideAppBar(Edge at) {
   program_.Strip.ToolbarEdge = at;
   if (!AutoHideFree(program_.Strip.ToolbarEdge)) {
     program_.OptionFlags.Set(Option::AutoHide, false);

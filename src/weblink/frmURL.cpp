@@ -16,7 +16,6 @@ namespace {
 
 // The drop returns to its source at once; this is time enough for the source to let go.
 constexpr int kAfterDrop = 50;      // milliseconds
-constexpr int kNoDialog = 18;       // position in the options
 constexpr float kBoxOfCheck = 330;  // twips beside the caption of a check box
 
 template <class T>
@@ -107,7 +106,7 @@ void frmURL::tmrStep_Timer() {
   if (step_ != Step::Offered) return;
   // An address that has to be shortened is shown in any case.
   const bool fits = FitsRecord(Trim(txtAddress.Text()), program_.Services.Ansi);
-  if (program_.OptionFlags.Is(kNoDialog) && fits) return Write();
+  if (program_.OptionFlags.Is(Option::NoWebLinkDialog) && fits) return Write();
   OpenDialog();
 }
 
@@ -146,7 +145,7 @@ void frmURL::cmdCancel_Click() {
 }
 
 void frmURL::Check1_Click() {
-  program_.OptionFlags.Set(kNoDialog, Check1.Value() == 1);
+  program_.OptionFlags.Set(Option::NoWebLinkDialog, Check1.Value() == 1);
   program_.SaveOptionFlags();
 }
 

@@ -18,12 +18,12 @@ class Program;
 
 /// The dialog in which the user corrects title and address of a dropped web address before it
 /// becomes an entry. It comes a moment after the drop, which has returned to its source by then;
-/// with option 18 the entry is made without it.
+/// with Option::NoWebLinkDialog the entry is made without it.
 ///
-/// Program::WebLinkPending is true from the drop until the entry is made or given up. Meanwhile
-/// nothing else is dropped and no menu is opened or closed by the pointer (Program::Guards);
-/// while the dialog is up, the strip and the menu take no input. Nothing waits in a loop: each step
-/// is an event of its own, so that everything else goes on.
+/// WebLinkPending is true from the drop until the entry is made or given up. Meanwhile
+/// nothing else is dropped and no menu is opened or closed by the pointer
+/// (GuardFlags::OpenQuestions); while the dialog is up, the strip and the menu take no input.
+/// Nothing waits in a loop: each step is an event of its own, so that everything else goes on.
 class frmURL final : public forms::Form, public WebLinkPort {
  public:
   explicit frmURL(Program& program);
@@ -36,6 +36,9 @@ class frmURL final : public forms::Form, public WebLinkPort {
   /// files as they were, and nothing is told.
   void UpdateToolbar();
   void CancelURL() { cmdCancel_Click(); }
+
+  /// A dropped web address waits for its dialog.
+  bool WebLinkPending = false;
 
   forms::Label Label2;
   forms::TextBox txtTitle;

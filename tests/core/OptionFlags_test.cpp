@@ -21,15 +21,15 @@ TEST(OptionFlags, PositionsCountFromOne) {
   EXPECT_EQ(flags.Text(), "1" + std::string(30, '0') + "1");
   EXPECT_TRUE(flags.Is(Option::UpgradeDone));
   EXPECT_EQ(flags.At(Option::UpgradeDone), '1');
-  EXPECT_EQ(flags.At(31), '0');
+  EXPECT_EQ(flags.At(OptionAt(31)), '0');
 }
 
 TEST(OptionFlags, OutsideOfTheirPositionsNothingHappens) {
   OptionFlags flags;
   for (const int position : {0, -1, 33, 1000}) {
-    flags.Set(position, '1');
-    flags.Flip(position);
-    EXPECT_EQ(flags.At(position), '0') << position;
+    flags.Set(OptionAt(position), '1');
+    flags.Flip(OptionAt(position));
+    EXPECT_EQ(flags.At(OptionAt(position)), '0') << position;
   }
   EXPECT_EQ(flags, OptionFlags());
 }
@@ -117,7 +117,7 @@ TEST(FlagsAfterUpgrade, OnceTheFirstRunIsDoneTheRestIsZero) {
   for (int position = 1; position <= 32; ++position) {
     bool expected = false;
     for (const int set : {1, 2, 14, 15, 16, 19, 24, 26, 32}) expected = expected || set == position;
-    EXPECT_EQ(flags.Is(position), expected) << position;
+    EXPECT_EQ(flags.Is(OptionAt(position)), expected) << position;
   }
 }
 
@@ -126,56 +126,57 @@ TEST(ResetHelpTips, ShowsTheFiveTipsAgainAndChangesNothingElse) {
   ResetHelpTips(flags);
   for (int position = 1; position <= 32; ++position) {
     const bool tip = (position >= 5 && position <= 8) || position == 29;
-    EXPECT_EQ(flags.Is(position), !tip) << position;
+    EXPECT_EQ(flags.Is(OptionAt(position)), !tip) << position;
   }
 }
 
 struct EdgeRow {
   const char* code;
-  const char* edge;
+  Edge edge;
   bool vertical;
 };
 
-constexpr EdgeRow kEdges[] = {
-    {"00", "TOP", false}, {"01", "BOTTOM", false}, {"10", "LEFT", true}, {"11", "RIGHT", true}};
+constexpr EdgeRow kEdges[] = {{"00", Edge::Top, false},
+                              {"01", Edge::Bottom, false},
+                              {"10", Edge::Left, true},
+                              {"11", Edge::Right, true}};
 
 TEST(EdgeFlags, SaveTheEdgeAndReadItBack) {
   for (const EdgeRow& row : kEdges) {
     EXPECT_EQ(EdgeCode(row.edge), row.code);
     OptionFlags flags;
     SaveEdgeFlags(flags, true, row.edge);
-    EXPECT_EQ(flags.Text().substr(13, 3), "1" + std::string(row.code)) << row.edge;
+    EXPECT_EQ(flags.Text().substr(13, 3), "1" + std::string(row.code)) << row.code;
     EdgePlacement placement;
     ReadEdgeFlags(flags, placement);
-    EXPECT_EQ(placement, (EdgePlacement{true, row.vertical, row.edge})) << row.edge;
+    EXPECT_EQ(placement, (EdgePlacement{true, row.vertical, row.edge})) << row.code;
   }
 }
 
 TEST(EdgeFlags, AnUnknownEdgeIsSavedAsTheTop) {
-  EXPECT_EQ(EdgeCode("MIDDLE"), "00");
-  EXPECT_EQ(EdgeCode(""), "00");
-  EXPECT_EQ(EdgeCode("right"), "11");
+  for (const int number : {-1, 4, 100}) EXPECT_EQ(EdgeCode(static_cast<Edge>(number)), "00");
+  EXPECT_EQ(EdgeCode(Edge::Right), "11");
 }
 
 TEST(EdgeFlags, AFloatingStripLeavesTheSavedEdgeAlone) {
   OptionFlags flags = FlagsAfterUpgrade();
-  SaveEdgeFlags(flags, false, "BOTTOM");
+  SaveEdgeFlags(flags, false, Edge::Bottom);
   EXPECT_EQ(flags.Text().substr(13, 3), "011");
 }
 
 TEST(EdgeFlags, WithoutPosition14NoEdgeIsAskedFor) {
   OptionFlags flags;
   flags.Set(Option::EdgeCodeFirst, '1');
-  EdgePlacement placement{true, false, "BOTTOM"};
+  EdgePlacement placement{true, false, Edge::Bottom};
   ReadEdgeFlags(flags, placement);
-  EXPECT_EQ(placement, (EdgePlacement{false, false, "BOTTOM"}));
+  EXPECT_EQ(placement, (EdgePlacement{false, false, Edge::Bottom}));
 }
 
 TEST(EdgeFlags, AnyOtherCodeLeavesTheEdge) {
   for (const char* code : {"", "0", "2", "0x", "111", "  "}) {
-    EdgePlacement placement{false, true, "LEFT"};
+    EdgePlacement placement{false, true, Edge::Left};
     ApplyEdgeCode('1', code, placement);
-    EXPECT_EQ(placement, (EdgePlacement{true, true, "LEFT"})) << code;
+    EXPECT_EQ(placement, (EdgePlacement{true, true, Edge::Left})) << code;
   }
 }
 

@@ -179,29 +179,31 @@ TEST(CustomizeBoxes, OnASeparatorTheKeysAnswerWithItsMessage) {
 
 TEST(CustomizeBoxes, EachTipShowsOnceAndWritesItsPosition) {
   struct Row {
-    int position;
+    Option option;
     const char* title;
     std::function<void(BoxDesk&)> act;
   };
   const Row rows[] = {
-      {5, "Icon Library", [](BoxDesk& d) { d.ClickFlat(d.Form().cmdLibrary, d.Form().picFiles); }},
-      {6, "Other Files Icons",
+      {Option::IconLibraryTipDone, "Icon Library",
+       [](BoxDesk& d) { d.ClickFlat(d.Form().cmdLibrary, d.Form().picFiles); }},
+      {Option::OtherFilesTipDone, "Other Files Icons",
        [](BoxDesk& d) { d.ClickFlat(d.Form().cmdAllFiles, d.Form().picFiles); }},
-      {7, "Select File/Folder",
+      {Option::SelectFileTipDone, "Select File/Folder",
        [](BoxDesk& d) { d.ClickFlat(d.Form().cmdSelectFile, d.Form().picFiles); }},
-      {8, "Add File/Folder", [](BoxDesk& d) { d.ClickControl(d.Form().cmdBrowseFiles); }},
+      {Option::AddFileTipDone, "Add File/Folder",
+       [](BoxDesk& d) { d.ClickControl(d.Form().cmdBrowseFiles); }},
   };
   for (const Row& row : rows) {
     BoxDesk desk;
-    desk.parts->TheProgram.OptionFlags.Set(row.position, false);
-    if (row.position != 5) desk.world.Desktop.CancelFiles();
+    desk.parts->TheProgram.OptionFlags.Set(row.option, false);
+    if (row.option != Option::IconLibraryTipDone) desk.world.Desktop.CancelFiles();
     row.act(desk);
     ASSERT_TRUE(desk.parts->Tip.IsLoaded()) << row.title;
     EXPECT_EQ(desk.parts->Tip.lblTitle.Caption(), row.title);
-    EXPECT_EQ(desk.parts->Tip.TipField, row.position);
+    EXPECT_EQ(desk.parts->Tip.TipField, row.option);
     desk.parts->Tip.Unload();
-    desk.parts->TheProgram.OptionFlags.Set(row.position, true);
-    if (row.position != 5) desk.world.Desktop.CancelFiles();
+    desk.parts->TheProgram.OptionFlags.Set(row.option, true);
+    if (row.option != Option::IconLibraryTipDone) desk.world.Desktop.CancelFiles();
     row.act(desk);
     EXPECT_FALSE(desk.parts->Tip.IsLoaded()) << row.title;
   }

@@ -9,10 +9,10 @@ namespace {
 
 TEST(CustOptions, EachLineIsCheckedAtItsValue) {
   for (const CustOptionLine& line : CustOptionLines()) {
-    if (line.Position == 0) continue;
+    if (!line.Shows) continue;
     OptionFlags flags;
     EXPECT_EQ(IsChecked(line, flags, false), !line.CheckedAt) << line.Caption;
-    flags.Set(line.Position, true);
+    flags.Set(*line.Shows, true);
     EXPECT_EQ(IsChecked(line, flags, false), line.CheckedAt) << line.Caption;
   }
 }
@@ -20,17 +20,17 @@ TEST(CustOptions, EachLineIsCheckedAtItsValue) {
 TEST(CustomizeOptions, FlipTheirPositionAndTheirCheckMark) {
   struct Row {
     const char* line;
-    int position;
+    Option option;
   };
   const Row rows[] = {
-      {"Keep Toolbar On Top of Full Screen Applications", 4},
-      {"Show Startup Screen", 9},
-      {"Leave Extension in File Title", 10},
-      {"Show Web Link Dialog (URL Drag  Drop)", 18},
-      {"Auto Adjust Toolbar Left Position (Restore Mode)", 27},
-      {"Auto Adjust Toolbar Right Position (Restore Mode)", 13},
-      {"Show Date in Full Screen Mode (Top/Bottom)", 21},
-      {"Dsiable Toobar Tooltip (Icon Hint)", 22},
+      {"Keep Toolbar On Top of Full Screen Applications", Option::AboveFullScreen},
+      {"Show Startup Screen", Option::NoStartupScreen},
+      {"Leave Extension in File Title", Option::KeepExtension},
+      {"Show Web Link Dialog (URL Drag  Drop)", Option::NoWebLinkDialog},
+      {"Auto Adjust Toolbar Left Position (Restore Mode)", Option::MayPassLeft},
+      {"Auto Adjust Toolbar Right Position (Restore Mode)", Option::MayPassRight},
+      {"Show Date in Full Screen Mode (Top/Bottom)", Option::ShowDate},
+      {"Dsiable Toobar Tooltip (Icon Hint)", Option::NoHints},
   };
   CustDesk desk;
   OptionFlags& flags = desk.parts->TheProgram.OptionFlags;
@@ -38,7 +38,7 @@ TEST(CustomizeOptions, FlipTheirPositionAndTheirCheckMark) {
     const OptionFlags before = flags;
     const bool checked = desk.Checked(row.line);
     desk.MenuBar("Options", row.line);
-    EXPECT_NE(flags.Is(row.position), before.Is(row.position)) << row.line;
+    EXPECT_NE(flags.Is(row.option), before.Is(row.option)) << row.line;
     EXPECT_NE(desk.Checked(row.line), checked) << row.line;
     desk.MenuBar("Options", row.line);
     EXPECT_EQ(flags, before) << row.line << " changes nothing else";
@@ -50,19 +50,19 @@ TEST(CustomizeOptions, ThePairsCheckOneAndUncheckTheOther) {
   struct Row {
     const char* set;
     const char* clear;
-    int position;
+    Option option;
   };
   const Row rows[] = {
       {"Activate Single Buttons with Single Click", "Activate Single Buttons with Double Click",
-       11},
+       Option::SingleClick},
       {"Ctrl + Right Click Activates System Popup Menu",
-       "Ctrl + Right Click Activates Corvelle Popup Menu", 19},
+       "Ctrl + Right Click Activates Corvelle Popup Menu", Option::SystemPopupWithCtrl},
   };
   CustDesk desk;
   for (const Row& row : rows) {
     for (const bool value : {true, false, true}) {
       desk.MenuBar("Options", value ? row.set : row.clear);
-      EXPECT_EQ(desk.parts->TheProgram.OptionFlags.Is(row.position), value);
+      EXPECT_EQ(desk.parts->TheProgram.OptionFlags.Is(row.option), value);
       EXPECT_EQ(desk.Checked(row.set), value);
       EXPECT_EQ(desk.Checked(row.clear), !value);
     }
@@ -88,7 +88,7 @@ TEST(CustomizeOptions, ResetOfTheTipsShowsThemAllAgain) {
   desk.MenuBar("Options", "Reset Help Tip Dialog");
   for (int position = 1; position <= OptionFlags::kLength; ++position) {
     const bool tip = (position >= 5 && position <= 8) || position == 29;
-    EXPECT_EQ(flags.Is(position), !tip && before.Is(position)) << position;
+    EXPECT_EQ(flags.Is(OptionAt(position)), !tip && before.Is(OptionAt(position))) << position;
   }
 }
 

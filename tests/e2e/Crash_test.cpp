@@ -123,7 +123,9 @@ TEST_F(Crash, AnExceptionOfTheLanguageThatNobodyCatchesLeavesAReport) {
   ASSERT_FALSE(place.empty());
   DWORD process = 0;
   GetWindowThreadProcessId(FindWindowW(L"frmToolbar", nullptr), &process);
-  EXPECT_EQ(RunAt(ProgramIn(process) + std::strtoull(place.c_str(), nullptr, 16)), 0x20474343U);
+  EXPECT_EQ(RunAt(ProgramIn(process) +
+                  static_cast<std::uintptr_t>(std::strtoull(place.c_str(), nullptr, 16))),
+            0x20474343U);
   ExpectReport("a C++ exception was not caught");
 }
 

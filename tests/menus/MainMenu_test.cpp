@@ -25,9 +25,10 @@ class NotedEdge final : public DockingPort {
   void EndAppBar() override { Asked.emplace_back("EndAppBar"); }
   bool AutoHideFree(Edge) override { return Free; }
   void SetAppBar(std::optional<Edge> edge, bool rebuild) override {
-    Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " anew" : ""));
+    Asked.push_back("SetAppBar " + std::string(edge ? EdgeText(*edge) : "") +
+                    (rebuild ? " anew" : ""));
     program_.Strip.AppBarDocked = true;
-    program_.Strip.ToolbarEdge = edge;
+    if (edge) program_.Strip.ToolbarEdge = *edge;
   }
   void RevealToolbar() override {}
   void HideToolbar() override {}

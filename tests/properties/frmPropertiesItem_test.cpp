@@ -388,13 +388,13 @@ TEST_F(PropertiesBrowse, TheNoticesComeUntilTheyAreDismissed) {
   ClickOn(Window().cmdSelectFile);
   EXPECT_TRUE(parts->Tip.Visible());
   EXPECT_EQ(parts->Tip.lblTitle.Caption(), "Select File/Folder");
-  EXPECT_EQ(parts->Tip.TipField, 7);
+  EXPECT_EQ(parts->Tip.TipField, Option::SelectFileTipDone);
   ClickOn(parts->Tip.cmdOK);
   TheProgram().OptionFlags.Set(Option::OtherFilesTipDone, false);
   Desktop().CancelFiles();
   ClickOn(Window().cmdAllFiles);
   EXPECT_EQ(parts->Tip.lblTitle.Caption(), "Other Files Icons");
-  EXPECT_EQ(parts->Tip.TipField, 6);
+  EXPECT_EQ(parts->Tip.TipField, Option::OtherFilesTipDone);
 }
 
 TEST_F(PropertiesBrowse, AProgramThatEndsBehindADialogIsNoHarm) {

@@ -96,19 +96,19 @@ TEST_F(PropertiesPosition, ARebuildOfTheStripTakesItOutOfThePicture) {
 
 TEST_F(PropertiesPosition, TheEdgeButtonsSendTheStripThere) {
   OpenPosition();
-  const std::pair<forms::CommandButton&, const char*> buttons[] = {
-      {Window().cmdTop, "TOP"},
-      {Window().cmdBottom, "BOTTOM"},
-      {Window().cmdLeft, "LEFT"},
-      {Window().cmdRight, "RIGHT"},
+  const std::pair<forms::CommandButton&, Edge> buttons[] = {
+      {Window().cmdTop, Edge::Top},
+      {Window().cmdBottom, Edge::Bottom},
+      {Window().cmdLeft, Edge::Left},
+      {Window().cmdRight, Edge::Right},
   };
   for (const auto& [button, edge] : buttons) {
     ClickOn(button);
     Desktop().Advance(300);
-    EXPECT_TRUE(TheProgram().Strip.AppBarDocked) << edge;
+    EXPECT_TRUE(TheProgram().Strip.AppBarDocked) << EdgeText(edge);
     EXPECT_EQ(TheProgram().Strip.ToolbarEdge, edge);
-    EXPECT_TRUE(parts->Toolbar.Visible()) << edge;
-    EXPECT_TRUE(Window().Visible()) << edge;
+    EXPECT_TRUE(parts->Toolbar.Visible()) << EdgeText(edge);
+    EXPECT_TRUE(Window().Visible()) << EdgeText(edge);
   }
   const PixelRect strip = Desktop().BoundsOf(parts->Toolbar.hWnd());
   EXPECT_GE(strip.right, 1024);

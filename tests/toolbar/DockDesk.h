@@ -25,7 +25,7 @@ struct DockDesk : StripDesk {
 
   /// The edge that the next start asks for.
   void AskFor(Edge at) {
-    const std::string code = EdgeCode(EdgeText(at));
+    const std::string_view code = EdgeCode(at);
     SetOption(Option::AtEdge, true);
     SetOption(Option::EdgeCodeFirst, code[0] == '1');
     SetOption(Option::EdgeCodeSecond, code[1] == '1');

@@ -8,8 +8,8 @@ void NotedEdge::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   Program& program = Desk.TheProgram;
   program.Strip.AppBarRequested = true;
   program.Strip.AppBarDocked = true;
-  program.Strip.ToolbarEdge = edge;
-  program.Strip.ToolbarVertical = IsVertical(EdgeFromText(edge).value_or(corvelle::Edge::Top));
+  if (edge) program.Strip.ToolbarEdge = *edge;
+  program.Strip.ToolbarVertical = IsVertical(program.Strip.ToolbarEdge);
   frmToolbar& strip = Desk.Strip;
   if (rebuild) {
     program.Guards.AppBarBusy = true;
@@ -19,10 +19,10 @@ void NotedEdge::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   }
   const forms::ScreenInfo screen = Desk.World.Windows().Screen();
   if (program.Strip.ToolbarVertical) {
-    const float left = edge == "RIGHT" ? screen.Width - strip.Width() : 0;
+    const float left = edge == corvelle::Edge::Right ? screen.Width - strip.Width() : 0;
     strip.Move(left, 0, strip.Width(), screen.Height);
   } else {
-    const float top = edge == "BOTTOM" ? screen.Height - strip.Height() : 0;
+    const float top = edge == corvelle::Edge::Bottom ? screen.Height - strip.Height() : 0;
     strip.Move(0, top, screen.Width, strip.Height());
   }
   ResizeToEdge();

@@ -121,7 +121,7 @@ class StripDesk {
   /// So many buttons called "Menu 1", "Menu 2"...
   void PutButtons(int count);
   [[nodiscard]] bool HasMenuFile(std::string_view name) const;
-  void SetOption(int position, bool value) { TheProgram.OptionFlags.Set(position, value); }
+  void SetOption(Option option, bool value) { TheProgram.OptionFlags.Set(option, value); }
 
   /// What the start of the program does: loads both windows, and lets events through.
   void Start();

@@ -187,11 +187,11 @@ TEST_F(Hint, WithOption22NoneIsDueAfterASecondPressEither) {
 }
 
 TEST_F(Hint, NoneComesWhileTheProgramStartsOrTheStripIsPlacedAnew) {
-  for (bool Program::*const flag : {&GuardFlags::StartingUp, &GuardFlags::PosChangeRunning}) {
-    desk.TheProgram.*flag = true;
+  for (bool GuardFlags::*const flag : {&GuardFlags::StartingUp, &GuardFlags::PosChangeRunning}) {
+    desk.TheProgram.Guards.*flag = true;
     desk.PointAtButton(2);
     EXPECT_FALSE(Up());
-    desk.TheProgram.*flag = false;
+    desk.TheProgram.Guards.*flag = false;
     desk.PointAway();
   }
 }

@@ -156,13 +156,13 @@ TEST(CompanionWake, ASizeMessageWithoutASizeBringsTheStripForward) {
 }
 
 TEST(CompanionWake, ArrivesInVainWhileTheStripIsBuilt) {
-  for (bool Program::*flag : {&GuardFlags::StartingUp, &GuardFlags::AppBarBusy}) {
+  for (bool GuardFlags::*flag : {&GuardFlags::StartingUp, &GuardFlags::AppBarBusy}) {
     Started desk;
-    desk.TheProgram.*flag = true;
+    desk.TheProgram.Guards.*flag = true;
     desk.Strip.Hide();
     desk.World.Desktop.Send(desk.World.Desktop.Find("frmMinimize"), forms::message::Size, 0, 0);
     EXPECT_FALSE(desk.Strip.Visible());
-    desk.TheProgram.*flag = false;
+    desk.TheProgram.Guards.*flag = false;
   }
 }
 
@@ -250,14 +250,15 @@ TEST(CompanionTray, IsEnteredWhenATaskBarComesUpThatWasNotThereBefore) {
 // ---- Not On Top ----
 
 struct NotedTip final : TipPort {
-  void ShowTip(std::string_view title, std::string_view text, int field) override {
+  void ShowTip(std::string_view title, std::string_view text,
+               std::optional<Option> field) override {
     Title = title;
     Text = text;
     Field = field;
   }
   std::string Title;
   std::string Text;
-  int Field = 0;
+  std::optional<Option> Field;
 };
 
 /// Docking that only notes what it is asked for.
@@ -269,7 +270,8 @@ struct NotedDocking final : DockingPort {
   void LeaveEdge() override { Asked.emplace_back("LeaveEdge"); }
   bool AutoHideFree(Edge) override { return Free; }
   void SetAppBar(std::optional<Edge> edge, bool rebuild) override {
-    Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " anew" : ""));
+    Asked.push_back("SetAppBar " + std::string(edge ? EdgeText(*edge) : "") +
+                    (rebuild ? " anew" : ""));
     TheProgram.Strip.AppBarDocked = true;
   }
   void RevealToolbar() override { Asked.emplace_back("RevealToolbar"); }
@@ -305,7 +307,7 @@ TEST(CompanionNotOnTop, LetsOtherWindowsCoverTheStripAndSaysHowToGetItBack) {
             "If the Toolbar is set to 'Not On Top', any window can cover the toolbar. This is an "
             "alternative option to Auto Hide.\r\n\r\nTo bring the toolbar to the foreground, click "
             "Corvelle icon on the Taskbar/System Tray.\r\n\r\n");
-  EXPECT_EQ(tip.Field, 29);
+  EXPECT_EQ(tip.Field, Option::NotOnTopTipDone);
 }
 
 TEST(CompanionNotOnTop, SaysNothingToWhoWantsNoMoreOfIt) {
@@ -314,7 +316,7 @@ TEST(CompanionNotOnTop, SaysNothingToWhoWantsNoMoreOfIt) {
   desk.TheProgram.Ports.Tip = &tip;
   desk.SetOption(Option::NotOnTopTipDone, true);
   desk.Companion.ActivateSysTray();
-  EXPECT_EQ(tip.Field, 0);
+  EXPECT_EQ(tip.Field, std::nullopt);
 }
 
 TEST(CompanionNotOnTop, SwitchedOnTwiceIsSwitchedOnOnce) {
@@ -439,15 +441,15 @@ TEST(CompanionMinimize, LeavesTheEdgeAndReturnsToIt) {
   EXPECT_EQ(desk.Docking.Asked, std::vector<std::string>{"LeaveEdge"});
   EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
   EXPECT_TRUE(desk.TheProgram.Strip.WasDocked);
-  EXPECT_EQ(desk.TheProgram.WasEdge, "RIGHT");
-  EXPECT_EQ(desk.TheProgram.WasTop, desk.Strip.Top());
+  EXPECT_EQ(desk.Companion.WasEdge, Edge::Right);
+  EXPECT_EQ(desk.Companion.WasTop, desk.Strip.Top());
   desk.TheProgram.Strip.ToolbarEdge = Edge::Top;
   desk.Docking.Asked.clear();
   desk.ComeBack();
   const std::vector<std::string> asked = {"RegisterAppBar", "SetAppBar RIGHT"};
   EXPECT_EQ(desk.Docking.Asked, asked);
   EXPECT_FALSE(desk.TheProgram.Strip.WasDocked);
-  EXPECT_TRUE(desk.TheProgram.WasEdge.empty());
+  EXPECT_FALSE(desk.Companion.WasEdge);
   EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Right);
   EXPECT_TRUE(desk.Strip.Visible());
 }

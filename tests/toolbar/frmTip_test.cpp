@@ -9,7 +9,7 @@
 namespace corvelle {
 namespace {
 
-constexpr int kField = 29;
+constexpr Option kField = Option::NotOnTopTipDone;
 constexpr int kTabKey = 9;
 constexpr int kSpaceKey = 32;
 constexpr int kAltKey = 18;
@@ -96,7 +96,7 @@ TEST_F(Tip, WithoutTheTickItComesAgainWithAnEmptyBox) {
   Click("Check1");
   EXPECT_EQ(tip.Check1.Value(), 0);
   Click("cmdOK");
-  EXPECT_EQ(Saved()[kField - 1], '0');
+  EXPECT_EQ(Saved()[PositionOf(kField) - 1], '0');
   Show();
   EXPECT_TRUE(tip.IsLoaded());
   EXPECT_EQ(tip.Check1.Value(), 0);
@@ -104,7 +104,7 @@ TEST_F(Tip, WithoutTheTickItComesAgainWithAnEmptyBox) {
 
 TEST_F(Tip, WithoutAFieldTheBoxDoesNothing) {
   const OptionFlags before = desk.TheProgram.OptionFlags;
-  tip.ShowTip("Title", "Text", 0);
+  tip.ShowTip("Title", "Text", std::nullopt);
   desk.World.Desktop.Pump();
   Click("Check1");
   Click("cmdOK");
@@ -150,7 +150,7 @@ TEST_F(Tip, AnotherOneInItsPlaceComesWithAnEmptyBoxInTheMiddle) {
   Show();
   Click("Check1");
   tip.Move(0, 0, tip.Width(), tip.Height());
-  tip.ShowTip("Another", "Text", kField + 1);
+  tip.ShowTip("Another", "Text", Option::UpgradeDone);
   desk.World.Desktop.Pump();
   EXPECT_EQ(tip.lblTitle.Caption(), "Another");
   EXPECT_EQ(tip.Check1.Value(), 0);

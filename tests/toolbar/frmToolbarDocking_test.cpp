@@ -22,11 +22,12 @@ struct DockingWithEvents final : DockingPort {
   void RemoveAppBar() override { Asked.emplace_back("RemoveAppBar"); }
   void EndAppBar() override { Asked.emplace_back("EndAppBar"); }
   bool AutoHideFree(Edge edge) override {
-    Asked.push_back("AutoHideFree " + std::string(edge));
+    Asked.push_back("AutoHideFree " + std::string(EdgeText(edge)));
     return Free;
   }
   void SetAppBar(std::optional<Edge> edge, bool rebuild) override {
-    Asked.push_back("SetAppBar " + std::string(edge) + (rebuild ? " rebuild" : ""));
+    Asked.push_back("SetAppBar " + std::string(edge ? EdgeText(*edge) : "") +
+                    (rebuild ? " rebuild" : ""));
     if (WhileDocking) WhileDocking();
   }
   void HideToolbar() override {}
@@ -262,14 +263,14 @@ TEST(ToolbarDocking, TheTimerLeavesAMinimizedStripAlone) {
 }
 
 TEST(ToolbarDocking, TheTimerStandsAsideWhileAGuardIsSet) {
-  for (bool Program::*flag : {&GuardFlags::StartingUp, &GuardFlags::AppBarBusy,
-                              &GuardFlags::PosChangeRunning, &GuardFlags::RestoreBusy}) {
+  for (bool GuardFlags::*flag : {&GuardFlags::StartingUp, &GuardFlags::AppBarBusy,
+                                 &GuardFlags::PosChangeRunning, &GuardFlags::RestoreBusy}) {
     DockingDesk desk;
     desk.Start();
-    desk.TheProgram.*flag = true;
+    desk.TheProgram.Guards.*flag = true;
     desk.Strip.Timer1_Timer();
     EXPECT_TRUE(desk.Strip.Timer1.Enabled());
-    desk.TheProgram.*flag = false;
+    desk.TheProgram.Guards.*flag = false;
     desk.Strip.Timer1_Timer();
     EXPECT_FALSE(desk.Strip.Timer1.Enabled());
   }

@@ -120,18 +120,18 @@ TEST(ToolbarSlide, EndsWithinTheScreenUnlessTheOptionsLetItPass) {
   struct Row {
     const char* name;
     int pull;
-    int option;
+    std::optional<Option> option;
     float left;
   };
   // 1750 twips stay free at the right of a strip without single buttons.
-  const Row rows[] = {{"past the right", 750, 0, 15360 - 96 * 15 - 1750},
-                      {"past the right, allowed", 750, 13, 3000 + 750 * 15},
-                      {"past the left", -250, 0, 0},
-                      {"past the left, allowed", -250, 27, 3000 - 250 * 15}};
+  const Row rows[] = {{"past the right", 750, {}, 15360 - 96 * 15 - 1750},
+                      {"past the right, allowed", 750, Option::MayPassRight, 3000 + 750 * 15},
+                      {"past the left", -250, {}, 0},
+                      {"past the left, allowed", -250, Option::MayPassLeft, 3000 - 250 * 15}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     Floating desk;
-    if (row.option != 0) desk.SetOption(row.option, true);
+    if (row.option) desk.SetOption(*row.option, true);
     desk.Pull(row.pull);
     desk.World.Desktop.Release();
     EXPECT_EQ(desk.Strip.Left(), row.left);
@@ -278,13 +278,13 @@ TEST(ToolbarFrame, AMoveOverItWithTheMenuUpLeavesMenuAndStripAlone) {
 }
 
 TEST(ToolbarFrame, TheBareFrameMovesNothingWhileTheStripIsPlacedAnew) {
-  for (bool Program::*const flag : {&GuardFlags::RestoreBusy, &GuardFlags::AppBarBusy}) {
+  for (bool GuardFlags::*const flag : {&GuardFlags::RestoreBusy, &GuardFlags::AppBarBusy}) {
     Floating desk;
     desk.Strip.Form_MouseDown(MouseButton::Left, {}, 30, 30);
-    desk.TheProgram.*flag = true;
+    desk.TheProgram.Guards.*flag = true;
     desk.Strip.Form_MouseMove(MouseButton::Left, {}, 930, 30);
     EXPECT_EQ(desk.Strip.Left(), 3000);
-    desk.TheProgram.*flag = false;
+    desk.TheProgram.Guards.*flag = false;
     desk.Strip.Form_MouseMove(MouseButton::Left, {}, 930, 30);
     EXPECT_EQ(desk.Strip.Left(), 3900);
   }

@@ -174,7 +174,7 @@ TEST(ToolbarMove, WhoeverMovesAFloatingStripItKeepsItsHeightOnTheScreen) {
 TEST(ToolbarMove, IsLeftAloneWhileTheStripIsPlacedAnew) {
   struct Row {
     const char* name;
-    bool Program::*flag;
+    bool GuardFlags::*flag;
   };
   const Row rows[] = {{"starting up", &GuardFlags::StartingUp},
                       {"a repositioning", &GuardFlags::AppBarBusy},
@@ -182,10 +182,10 @@ TEST(ToolbarMove, IsLeftAloneWhileTheStripIsPlacedAnew) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     StripOfTwo desk;
-    desk.TheProgram.*row.flag = true;
+    desk.TheProgram.Guards.*row.flag = true;
     desk.Strip.SetTop(3000);
     EXPECT_EQ(desk.Strip.Top(), 3000);
-    desk.TheProgram.*row.flag = false;
+    desk.TheProgram.Guards.*row.flag = false;
   }
 }
 
@@ -341,7 +341,7 @@ TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromANotice) {
   StripOfTwo desk;
   frmTip tip(desk.TheProgram);
   desk.Strip.BringToForeground();
-  tip.ShowTip("Title", "Text", 0);
+  tip.ShowTip("Title", "Text", std::nullopt);
   desk.Wait(400);
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), tip.hWnd());
   desk.World.Desktop.PressKey(forms::key::Enter);

@@ -227,7 +227,7 @@ TEST(ToolbarOLEDragDrop, FilesComeBeforeText) {
 
 struct Guard {
   const char* name;
-  bool Program::*flag;
+  bool GuardFlags::*flag;
 };
 
 TEST(ToolbarOLE, WhileAFileOrMenuIsBeingWorkedOnADropIsRefused) {
@@ -242,17 +242,17 @@ TEST(ToolbarOLE, WhileAFileOrMenuIsBeingWorkedOnADropIsRefused) {
     SCOPED_TRACE(guard.name);
     DragDesk desk;
     desk.TakeFiles({"C:\\c.txt"});
-    desk.TheProgram.*guard.flag = true;
+    desk.TheProgram.Guards.*guard.flag = true;
     desk.DragToButton(2);
     EXPECT_EQ(desk.Effect(), DropEffect::None);
     EXPECT_EQ(desk.MenuUp(), 0);
-    desk.TheProgram.*guard.flag = false;
+    desk.TheProgram.Guards.*guard.flag = false;
     desk.Wait(60);
     EXPECT_EQ(desk.Effect(), DropEffect::Copy);
     // And one that the guard meets only at the drop.
-    desk.TheProgram.*guard.flag = true;
+    desk.TheProgram.Guards.*guard.flag = true;
     desk.World.Desktop.Release();
-    desk.TheProgram.*guard.flag = false;
+    desk.TheProgram.Guards.*guard.flag = false;
     EXPECT_TRUE(desk.FileUnchanged(1));
     EXPECT_EQ(desk.Effect(), DropEffect::None);
   }

@@ -182,15 +182,15 @@ TEST(AppBar, TheEndOfAHiddenStripDoesNotGiveUpItsClaimFirst) {
   EXPECT_EQ(desk.World.Bars.Log(), Messages{"remove"});
 }
 
-TEST(AppBar, ATextThatIsNoEdgeLeavesTheStripWhereItIs) {
+TEST(AppBar, WithoutAnEdgeTheStripStaysWhereItIs) {
   DockDesk desk;
   desk.StartAt(Edge::Left);
-  for (const char* text : {"", "MIDDLE", "L", "\xC3\xA4"}) {
-    desk.Docking.SetAppBar(text, true);
-    EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left) << text;
-    EXPECT_EQ(desk.Bounds(), kEdges[2].window) << text;
+  for (const bool rebuild : {true, false}) {
+    desk.Docking.SetAppBar(std::nullopt, rebuild);
+    EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left) << rebuild;
+    EXPECT_EQ(desk.Bounds(), kEdges[2].window) << rebuild;
   }
-  desk.Docking.SetAppBar("  right ", false);
+  desk.Docking.SetAppBar(Edge::Right, false);
   EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Right);
 }
 
@@ -383,18 +383,18 @@ TEST(AppBarGuard, NewsThatArriveWhileTheStripIsPlacedOnlyTellOfFullScreenProgram
 TEST(AppBarGuard, ASecondPlacingByNewsWaitsWhileOneRuns) {
   struct Row {
     const char* name;
-    bool Program::*flag;
+    bool GuardFlags::*flag;
   };
   for (const Row& row : {Row{"a repositioning", &GuardFlags::AppBarBusy},
                          Row{"a restore, or a hand on the grip", &GuardFlags::RestoreBusy}}) {
     SCOPED_TRACE(row.name);
     DockDesk desk;
     desk.StartAt(Edge::Right);
-    desk.TheProgram.*row.flag = true;
+    desk.TheProgram.Guards.*row.flag = true;
     desk.World.Bars.TellBars();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
     EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
-    desk.TheProgram.*row.flag = false;
+    desk.TheProgram.Guards.*row.flag = false;
     desk.World.Bars.TellBars();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{"querypos 2"});
   }

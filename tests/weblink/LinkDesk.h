@@ -55,7 +55,7 @@ class LinkDesk : public ProgramDesk {
 
   frmURL& Dialog() { return parts->WebLink; }
   bool DialogUp() { return Dialog().IsLoaded() && Dialog().Visible(); }
-  bool Pending() { return parts->TheProgram.WebLinkPending; }
+  bool Pending() { return parts->WebLink.WebLinkPending; }
   EntryEdit& Entry() { return parts->TheProgram.Entry; }
 
   void Click(const char* control) {

@@ -13,8 +13,8 @@
 // this program lead to routines of the test meanwhile.
 
 extern "C" {
-extern void* __imp_ShellExecuteExW;
-extern void* __imp_CreateProcessW;
+extern void* g_shellExecuteExW CORVELLE_IMPORT(ShellExecuteExW, 4);
+extern void* g_createProcessW CORVELLE_IMPORT(CreateProcessW, 40);
 }
 
 namespace corvelle {
@@ -63,8 +63,8 @@ class DivertedStart : public testing::Test {
   }
 
  private:
-  Diversion shell_{__imp_ShellExecuteExW, reinterpret_cast<void*>(&AnswerShellExecute)};
-  Diversion process_{__imp_CreateProcessW, reinterpret_cast<void*>(&AnswerCreateProcess)};
+  Diversion shell_{g_shellExecuteExW, reinterpret_cast<void*>(&AnswerShellExecute)};
+  Diversion process_{g_createProcessW, reinterpret_cast<void*>(&AnswerCreateProcess)};
 };
 
 TEST_F(DivertedStart, ARefusalIsToldFromAMissingRight) {

@@ -8,7 +8,7 @@
 // How often the disk is waited for.
 
 extern "C" {
-extern void* __imp_FlushFileBuffers;
+extern void* g_flushFileBuffers CORVELLE_IMPORT(FlushFileBuffers, 4);
 }
 
 namespace corvelle {
@@ -22,7 +22,7 @@ BOOL WINAPI CountFlush(HANDLE) {
 }
 
 TEST(FlushOnWindows, OneOfManyFilesIsNotWaitedFor) {
-  const Diversion diversion(__imp_FlushFileBuffers, reinterpret_cast<void*>(&CountFlush));
+  const Diversion diversion(g_flushFileBuffers, reinterpret_cast<void*>(&CountFlush));
   g_flushes = 0;
   const TempFolder folder;
   win32::Win32Files files;

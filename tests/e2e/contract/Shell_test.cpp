@@ -19,6 +19,13 @@
 namespace corvelle {
 namespace {
 
+/// Tells the number of the first resource that has one.
+BOOL CALLBACK TakeNumber(HMODULE, LPCWSTR, LPWSTR name, LONG_PTR found) {
+  if (!IS_INTRESOURCE(name)) return TRUE;
+  *reinterpret_cast<int*>(found) = static_cast<int>(reinterpret_cast<ULONG_PTR>(name));
+  return FALSE;
+}
+
 using win32::Narrow;
 using win32::Wide;
 
@@ -73,12 +80,7 @@ class RealShell final : public ContractShell {
     const HMODULE library =
         LoadLibraryExW(L"C:\\windows\\system32\\shell32.dll", nullptr, LOAD_LIBRARY_AS_DATAFILE);
     if (library == nullptr) return number;
-    const auto take = [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR found) -> BOOL {
-      if (!IS_INTRESOURCE(name)) return TRUE;
-      *reinterpret_cast<int*>(found) = static_cast<int>(reinterpret_cast<ULONG_PTR>(name));
-      return FALSE;
-    };
-    EnumResourceNamesW(library, RT_GROUP_ICON, take, reinterpret_cast<LONG_PTR>(&number));
+    EnumResourceNamesW(library, RT_GROUP_ICON, TakeNumber, reinterpret_cast<LONG_PTR>(&number));
     FreeLibrary(library);
     return number;
   }
