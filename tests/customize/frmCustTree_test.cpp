@@ -192,17 +192,6 @@ TEST(CustomizeTree, CtrlAtTheDropCopies) {
   EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta - Hammer) Tools(Hammer Anvil) | Clock Paint");
 }
 
-TEST(CustomizeTree, WhatIsDraggedIsSelectedMeanwhile) {
-  CustDesk desk;
-  desk.Expand("Letters");
-  desk.ClickNode("Tools");
-  desk.DragOver("Alpha", "Tools");
-  EXPECT_EQ(desk.Editor().Tree.At(desk.Editor().Selected()).Text, "Alpha");
-  EXPECT_EQ(desk.Form().txtTitle.Text(), "Alpha");
-  desk.world.Desktop.PressKey(key::Escape);
-  desk.world.Desktop.Release();
-}
-
 TEST(CustomizeTree, EscGivesADragUp) {
   CustDesk desk;
   desk.Expand("Tools");
