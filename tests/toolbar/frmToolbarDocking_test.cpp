@@ -229,9 +229,7 @@ TEST(ToolbarDocking, APointerOnTheHiddenLineRevealsTheStripOnce) {
   desk.Strip.picToolbar.SetVisible(false);
   desk.Docking.Asked.clear();
   // A move arrives while the strip is being revealed.
-  desk.Docking.WhileDocking = [&] {
-    desk.Strip.MouseMove(forms::MouseButton::None, {}, 10, 0);
-  };
+  desk.Docking.WhileDocking = [&] { desk.Strip.MouseMove(forms::MouseButton::None, {}, 10, 0); };
   desk.Strip.MouseMove(forms::MouseButton::None, {}, 10, 0);
   EXPECT_EQ(desk.Docking.Asked, Calls{"RevealToolbar"});
   EXPECT_FALSE(desk.TheProgram.Guards.HideBusy);
