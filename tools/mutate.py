@@ -2,7 +2,7 @@
 """Asks the native tests whether they notice small faults (mutants) in src/, and lists those that they do not notice.
 
   tools/mutate.py                                  400 mutants, drawn by --seed
-  tools/mutate.py --file 'src/toolbar/Strip*' --count 0     every mutant of these files
+  tools/mutate.py --file 'src/toolbar/layout/Strip*' --count 0     every mutant of these files
   tools/mutate.py --again                          those that survived the last time
 
 A copy of the sources below build/mutants holds all mutants at once (tools/mutants.py) and is built only once. A mutant
