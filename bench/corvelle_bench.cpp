@@ -18,6 +18,7 @@
 #include "HostFiles.h"
 #include "core/Main.h"
 #include "core/MenuRecord.h"
+#include "customize/CustEditor.h"
 #include "customize/MenuSetFiles.h"
 #include "customize/Saving.h"
 #include "customize/TreeMerge.h"
@@ -202,7 +203,7 @@ class StartGround {
   void Start() {
     copy_->Start();
     desk_.World.Desktop.Pump();
-    if (copy_->Toolbar.ButtonCount != kButtons + 1) GiveUp("the strip lacks buttons");
+    if (copy_->Toolbar.Buttons.ButtonCount != kButtons + 1) GiveUp("the strip lacks buttons");
   }
   /// What a start reads.
   const std::vector<HostFiles::ReadCall>& Reads() {
@@ -252,7 +253,7 @@ void RegisterStart() {
       "strip/hit_test",
       [ground](benchmark::State& state) {
         Copy& copy = ground().Pointed();
-        Repeat(state, [&] { copy.Toolbar.GetCurButton(); });
+        Repeat(state, [&] { copy.Toolbar.Menus.GetCurButton(); });
         if (copy.TheProgram.Menu.CurButton < 2) GiveUp("no button was hit");
       },
       [ground](benchmark::State& state) {
@@ -530,6 +531,17 @@ void RegisterIcons() {
       bare);
 }
 
+/// A user who is asked nothing.
+class NobodyHost final : public CustHost {
+ public:
+  void Beep() override {}
+  int Say(std::string_view, unsigned) override { return 0; }
+  bool FileExists(std::string_view) override { return false; }
+  bool IsPlainFolder(std::string_view) override { return false; }
+  std::string TitleOf(std::string_view) override { return {}; }
+  std::string RecentFolder() override { return {}; }
+};
+
 /// All menus as the Customize window reads and saves them.
 class CustomizeGround {
  public:
@@ -551,6 +563,23 @@ class CustomizeGround {
     return *std::move(read);
   }
   std::size_t ReadFloor() { return ReadBare(calls_); }
+
+  /// What the window does before it shows the tree.
+  void Open() {
+    editor_.InitMenuTree(Read().Set, "C:\\Corvelle\\corvelle.exe", kFolder);
+    editor_.Expand(kMenusRoot);
+  }
+  /// Looks for what no entry has, through all of them.
+  void Find() {
+    if (editor_.Tree.InOrder().empty()) Open();
+    if (editor_.Find("nowhere to be found") != kNoRef) GiveUp("it was found");
+  }
+  /// The same by one search of all the bytes.
+  void FindFloor() {
+    for (const std::string& bytes : bytes_) {
+      if (bytes.find("nowhere to be found") != std::string::npos) GiveUp("it was found");
+    }
+  }
 
   /// Makes a tree in which every menu is another one than in its file.
   void ChangeAll() {
@@ -593,6 +622,8 @@ class CustomizeGround {
   static constexpr const char* kFolder = "C:\\Corvelle\\Menus\\";
 
   Ground desk_;
+  NobodyHost host_;
+  CustEditor editor_{host_};
   MenuFiles now_;
   std::vector<HostFiles::ReadCall> calls_;
   std::vector<std::string> paths_;
@@ -611,6 +642,16 @@ void RegisterCustomize(int menus) {
       [ground](benchmark::State& state) {
         Repeat(state, [&] { benchmark::DoNotOptimize(ground().ReadFloor()); });
       });
+  Register(
+      "customize/open" + end,
+      [ground](benchmark::State& state) { Repeat(state, [&] { ground().Open(); }); },
+      [ground](benchmark::State& state) {
+        Repeat(state, [&] { benchmark::DoNotOptimize(ground().ReadFloor()); });
+      });
+  Register(
+      "customize/find" + end,
+      [ground](benchmark::State& state) { Repeat(state, [&] { ground().Find(); }); },
+      [ground](benchmark::State& state) { Repeat(state, [&] { ground().FindFloor(); }); });
   Register(
       "customize/save_all_changed" + end,
       [ground](benchmark::State& state) {

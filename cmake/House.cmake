@@ -4,7 +4,7 @@
 # corvelle_floor(NAME DEPENDS floors...): the library of src/NAME.
 function(corvelle_floor name)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${name}/*.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${name}/*.cpp)
   if(sources)
     add_library(corvelle_${name} STATIC ${sources})
     set(scope PUBLIC)

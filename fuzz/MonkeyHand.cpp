@@ -175,7 +175,7 @@ PixelPoint MonkeyLife::PointIn(std::string_view className) {
 }
 
 PixelPoint MonkeyLife::ButtonPoint(int index) const {
-  const auto& buttons = parts_->Toolbar.ToolbarButtons;
+  const auto& buttons = parts_->Toolbar.Buttons.ToolbarButtons;
   if (index < 1 || static_cast<std::size_t>(index) >= buttons.size()) return GripPoint();
   const ButtonRect& at = buttons[static_cast<std::size_t>(index)];
   return InWindow("picToolbar", at.Left + at.Width / 2, at.Top + at.Height / 2);
@@ -226,12 +226,12 @@ PixelPoint MonkeyLife::EdgePoint(Edge edge) {
 }
 
 int MonkeyLife::AnyButton() {
-  const int count = parts_->Toolbar.ButtonCount;
+  const int count = parts_->Toolbar.Buttons.ButtonCount;
   return count < 2 ? count : 2 + Number(count - 1);
 }
 
 int MonkeyLife::AnySingle() {
-  const int count = parts_->Toolbar.SingleCount;
+  const int count = parts_->Toolbar.Singles.SingleCount;
   return count < 1 ? 0 : 1 + Number(count);
 }
 

@@ -38,14 +38,14 @@ std::string MonkeyLife::WrongState() const {
   if (program.Guards.MenuFormBusy) return "a window still edits a menu";
   if (parts_->StillPicture.MovingToolbar) return "the outline is still being moved";
   if (program.Strip.ToolbarMinimizing) return "the strip is still on its way into the task bar";
-  if (parts_->Toolbar.MenuRefreshing) return "a menu is still being reread";
+  if (parts_->Toolbar.Menus.MenuRefreshing) return "a menu is still being reread";
   if (!program.Strip.ToolbarMinimized && !program.Guards.ToolbarReady)
     return "the strip does not listen";
   if (!parts_->Toolbar.Enabled() && !parts_->WebLink.IsLoaded()) return "the strip is disabled";
-  if (program.Menu.CurButton < 0 || program.Menu.CurButton > parts_->Toolbar.ButtonCount)
+  if (program.Menu.CurButton < 0 || program.Menu.CurButton > parts_->Toolbar.Buttons.ButtonCount)
     return "there is no current button " + std::to_string(program.Menu.CurButton);
   if (program.Menu.CurSingle != MenuState::kDateArea &&
-      program.Menu.CurSingle > parts_->Toolbar.SingleCount)
+      program.Menu.CurSingle > parts_->Toolbar.Singles.SingleCount)
     return "there is no current single button " + std::to_string(program.Menu.CurSingle);
   if (world_->Desktop.CurrentMousePointer() == forms::MousePointer::Hourglass)
     return "the hourglass stays";
@@ -77,7 +77,7 @@ std::string MonkeyLife::WrongHold() {
   if (IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right)) return {};
   const auto wrong = [this]() -> std::string {
     if (parts_->TheProgram.Guards.RestoreBusy) return "the grip is still held";
-    if (parts_->Toolbar.FrameHeld) return "the frame is still held";
+    if (parts_->Toolbar.Pull.FrameHeld) return "the frame is still held";
     return IsOffScreen() ? "the strip is off the screen" : "";
   };
   if (wrong().empty()) return {};
@@ -162,7 +162,7 @@ std::string MonkeyLife::WrongWindows() const {
   if (seen.contains("frmStartup")) return "the window of the start stays";
   const bool pulled = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
   // The menu under a dropped address is covered until the address is dealt with.
-  const bool waits = parts_->TheProgram.WebLinkPending;
+  const bool waits = parts_->WebLink.WebLinkPending;
   if (parts_->StillPicture.IsLoaded() && !pulled && !waits) return "a still picture stays";
   return {};
 }

@@ -233,7 +233,7 @@ void MonkeyLife::ChooseInWindow(const sim::Popup& popup) {
 // A dropped address is dealt with soon, or its dialog is up.
 std::string MonkeyLife::WrongLink() {
   const auto waits = [this] {
-    return parts_->TheProgram.WebLinkPending && !parts_->WebLink.IsLoaded();
+    return parts_->WebLink.WebLinkPending && !parts_->WebLink.IsLoaded();
   };
   if (!waits()) return {};
   constexpr int kSoon = 2000;

@@ -15,7 +15,8 @@ import pathlib
 import re
 import sys
 
-# Each folder of src/ with the folders that it may include besides itself. "." is main.cpp.
+# Each folder of src/ with the folders that it may include besides itself; a folder stands for those in it, too. "." is
+# main.cpp.
 FLOORS = {
     "base": [],
     "platform": ["base"],
@@ -25,7 +26,14 @@ FLOORS = {
     "launch": ["base", "platform", "forms", "desk", "core"],
     "icons": ["base", "platform", "forms", "desk", "core"],
     "shell": ["base", "platform", "forms", "desk", "core"],
-    "toolbar": ["base", "platform", "forms", "desk", "core", "launch", "icons", "shell"],
+    "toolbar/layout": ["base", "platform", "forms", "desk", "core"],
+    "toolbar/notices": ["base", "platform", "forms", "desk", "core"],
+    "toolbar/companion": ["base", "platform", "forms", "desk", "core", "launch", "icons", "shell", "toolbar/layout"],
+    "toolbar/docking": ["base", "platform", "forms", "desk", "core", "toolbar/layout"],
+    "toolbar/singles": ["base", "platform", "forms", "desk", "core", "launch", "icons", "shell", "toolbar/layout",
+                        "toolbar/docking"],
+    "toolbar/strip": ["base", "platform", "forms", "desk", "core", "launch", "icons", "shell", "toolbar/layout",
+                      "toolbar/notices", "toolbar/companion", "toolbar/docking", "toolbar/singles"],
     "menus": ["base", "platform", "forms", "desk", "core", "launch", "icons", "shell"],
     "customize": ["base", "platform", "forms", "desk", "core", "launch", "icons", "shell"],
     "library": ["base", "platform", "forms", "desk", "core", "launch", "icons", "shell"],
@@ -58,13 +66,25 @@ def files_below(folder):
     return sorted(path for path in folder.rglob("*") if path.suffix in SOURCES and path.is_file())
 
 
+def covers(floor, folder):
+    """True if a file in that folder, as its parts, belongs to the floor."""
+    parts = floor.split("/")
+    return list(folder[:len(parts)]) == parts
+
+
+def floor_of(folder):
+    """The floor to which a folder of src/, as its parts, belongs; None for none."""
+    return next((floor for floor in FLOORS if covers(floor, folder)), None)
+
+
 def check_source_file(path, source):
     """Breaches of one file of src/, and the files of src/ that it includes."""
     breaches, edges = [], []
     name = path.relative_to(source)
-    floor = name.parts[0] if len(name.parts) > 1 else "."
-    if floor != "." and floor not in FLOORS:
-        return [f"src/{name}: {floor} is no floor of the house"], []
+    folder = name.parts[:-1]
+    floor = floor_of(folder) if folder else "."
+    if floor is None:
+        return [f"src/{name}: {'/'.join(folder)} is no floor of the house"], []
     allowed = MAIN if floor == "." else [floor, *FLOORS[floor]]
     for quote, included, line in includes(path):
         if quote != '"':
@@ -78,7 +98,7 @@ def check_source_file(path, source):
         if ".." in target.parts:
             breaches.append(f'{where}: "{included}" is not written from src/')
             continue
-        if len(target.parts) < 2 or target.parts[0] not in allowed:
+        if not any(covers(each, target.parts[:-1]) for each in allowed):
             breaches.append(f'{where}: {floor} may not include "{included}"')
         edges.append(str(target))
     return breaches, edges

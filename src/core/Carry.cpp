@@ -27,7 +27,7 @@ void DropOnSingles(Program& program, forms::MouseButton released) {
 }
 
 void Drop(Program& program, WindowId under, forms::MouseButton released, forms::ShiftState shift) {
-  ToolbarPort* const strip = program.Ports.Toolbar;
+  StripCarryPort* const strip = program.Ports.Toolbar;
   QMenuPort* const menu = program.Ports.QMenu;
   const bool left = released == forms::MouseButton::Left;
   if (strip != nullptr && under == strip->ButtonBoxHandle()) {
@@ -40,7 +40,7 @@ void Drop(Program& program, WindowId under, forms::MouseButton released, forms::
 }
 
 bool TakesCopies(const Program& program, WindowId under) {
-  const ToolbarPort* const strip = program.Ports.Toolbar;
+  const StripCarryPort* const strip = program.Ports.Toolbar;
   return strip != nullptr && under != kNoWindow &&
          (under == strip->ButtonBoxHandle() || under == strip->SingleBoxHandle());
 }

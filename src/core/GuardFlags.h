@@ -12,6 +12,8 @@ struct GuardFlags {
   bool PosChangeRunning = false;
   bool RestoreBusy = false;
   bool HideBusy = false;
+  /// A message to the shell is on its way.
+  bool TellingShell = false;
   bool MenuBuilding = false;
   bool ChangingMode = false;
   bool IconsLoading = false;

@@ -97,6 +97,13 @@ FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi, std::
   return ParseRecord(*bytes, ansi);
 }
 
+std::optional<MenuRecord> ReadButtonRecord(FileSystem& files, const CodePage& ansi,
+                                           std::string_view path) {
+  const auto bytes = files.Read(path, 0, kRecordLength);
+  if (!bytes) return std::nullopt;
+  return ParseRecord(*bytes, ansi);
+}
+
 FileResult<int> CountRecords(FileSystem& files, std::string_view path) {
   const FileResult<std::uint64_t> length = LengthOrCreate(files, path);
   if (!length) return length.Error();

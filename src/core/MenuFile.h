@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +36,11 @@ inline constexpr std::string_view kRewriteFileName = "TTTTTTTT";
 /// created empty.
 [[nodiscard]] FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi,
                                                 std::string_view path, int number);
+
+/// The first record of a file, which is a button's own; nothing for a file that went away, that
+/// cannot be read, or that another program holds. Creates nothing.
+[[nodiscard]] std::optional<MenuRecord> ReadButtonRecord(FileSystem& files, const CodePage& ansi,
+                                                         std::string_view path);
 
 /// How many records a file has. A missing file is created empty.
 [[nodiscard]] FileResult<int> CountRecords(FileSystem& files, std::string_view path);

@@ -47,18 +47,16 @@ class AskingWindow : public LoadedWindow {
   virtual void ReleaseAfterMessage() {}
 };
 
-/// The strip.
-class ToolbarPort : public AskingWindow {
- public:
-  [[nodiscard]] virtual WindowId ButtonBoxHandle() const = 0;  // picToolbar
-  [[nodiscard]] virtual WindowId SingleBoxHandle() const = 0;  // picSingleButton
+// The strip has a port for each kind of client.
 
-  /// Place and size of the window on the screen.
-  [[nodiscard]] virtual TwipRect WindowBounds() const = 0;
+/// The menus of the strip's buttons, for the menu window and for whoever changes a menu file.
+class StripMenusPort {
+ public:
+  virtual ~StripMenusPort() = default;
 
   /// Closes any open menu and restores the look of the buttons.
   virtual void ResetMenu() = 0;
-  /// Reads a menu that is up anew, after its file changed. An empty tag takes the last one.
+  /// Builds a menu that is up again, after its file changed. An empty tag takes the last one.
   virtual void RefreshMenu(std::string_view tag) = 0;
   /// Opens a menu again from its tag.
   virtual void OpenMenu(std::string_view tag) = 0;
@@ -71,62 +69,90 @@ class ToolbarPort : public AskingWindow {
   [[nodiscard]] virtual float TopOfMenu() const = 0;
   /// A key of the menu that moves along the strip.
   virtual void ActivateKeyDown(int keyCode) = 0;
+  /// The timer that follows the pointer over the strip.
+  virtual void SetPointerWatch(bool enabled) = 0;
+};
+
+/// The strip under something that is carried or dropped.
+class StripCarryPort {
+ public:
+  virtual ~StripCarryPort() = default;
+
+  [[nodiscard]] virtual WindowId ButtonBoxHandle() const = 0;  // picToolbar
+  [[nodiscard]] virtual WindowId SingleBoxHandle() const = 0;  // picSingleButton
   /// Index of the button under the pointer while something is carried, 0 for none. Opens the menu
   /// of that button, and ends a carry whose release went to another program.
   [[nodiscard]] virtual int dragCurButton() = 0;
   /// Drops the carried entry on a button: appended to its menu, and taken away from where it came
   /// unless `released` is the right button, which copies.
   virtual void DoButtonDrag(int button, forms::MouseButton released) = 0;
-  /// The timer that follows the pointer over the strip.
-  virtual void SetPointerWatch(bool enabled) = 0;
-
-  /// Saves the options and rebuilds the strip after a change in the menus or the options.
-  virtual void InitNewButtons() = 0;
   /// Tells the user, once the current event is over, that these dropped files were not taken (see
   /// RefusedFilesText). Does nothing for an empty list.
   virtual void TellRefused(std::vector<std::string> files) = 0;
+};
+
+/// What is on the strip, for whoever changes its files or its options.
+class StripContentsPort {
+ public:
+  virtual ~StripContentsPort() = default;
+
+  /// Saves the options and rebuilds the strip after a change in the menus or the options.
+  virtual void InitNewButtons() = 0;
+  /// Unloads all that was made for the buttons; InitButtons makes it again from the files.
+  virtual void UnloadItems() = 0;
+  virtual void InitButtons() = 0;
   /// Reads the menu buttons again and repaints them, without sizing the strip.
   virtual void DoToolbarButtons() = 0;
   /// Reads the single buttons again and repaints them.
   virtual void DoSingleButtons() = 0;
+  /// Reads the menu buttons, or the single buttons, again and draws them on a strip that keeps its
+  /// size.
+  virtual void RefreshToolbarButtons() {}
+  virtual void RefreshSingleButtons() {}
+  /// Repaints the buttons without moving anything.
+  virtual void RefreshToolbar() = 0;
   /// Makes a new menu button with one item behind those there are.
   virtual void AddNewButton() = 0;
-  /// Empties the icon collections kept for menus.
+  /// Empties the icon collections kept for menus: at once, or with the next UnloadItems.
   virtual void ResetCollections() = 0;
+  virtual void MarkCollections() = 0;
   /// Room between the strip's right end and the screen's, twips.
   [[nodiscard]] virtual float FreeWidth() const = 0;
   /// Sizes the strip after its buttons changed in number; a floating strip keeps its right end, so
   /// that `freeWidth` (as it was before) stays free.
   virtual void ResizeAfterEdit(float freeWidth) = 0;
+  /// The date at the far end of the single buttons: shown, hidden and placed; its text.
+  virtual void DoLabelDate() = 0;
+};
 
-  /// Brings the strip to the foreground from another program's turn.
-  virtual void BringToForeground() = 0;
+/// The strip's window on the desktop.
+class StripPlacePort {
+ public:
+  virtual ~StripPlacePort() = default;
+
+  /// Place and size of the window on the screen.
+  [[nodiscard]] virtual TwipRect WindowBounds() const = 0;
   /// Puts a floating strip where it belongs, or keeps its hidden line.
   virtual void CheckToolbarMove() = 0;
   /// Leaves an edge for the place at the top.
   virtual void RestoreToolbar() = 0;
-  /// Unloads all that was made for the buttons; InitButtons makes it anew from the files.
-  virtual void UnloadItems() = 0;
-  virtual void InitButtons() = 0;
-  /// Draws the buttons anew without moving anything.
-  virtual void RefreshToolbar() = 0;
-  /// Reads the menu buttons, or the single buttons, again and draws them on a strip that keeps its
-  /// size.
-  virtual void RefreshToolbarButtons() {}
-  virtual void RefreshSingleButtons() {}
+  /// Brings the strip to the foreground from another program's turn.
+  virtual void BringToForeground() = 0;
   /// Shows the window in front, without making it active, if it is hidden.
   virtual void ShowToolbar() {}
-  virtual void HideWindow() = 0;
-  /// The date at the far end of the single buttons: shown, hidden and placed; its text.
-  virtual void DoLabelDate() = 0;
-  virtual void UpdateLabelDate() = 0;
   /// Shows the window without making it active and paints it.
   virtual void ShowAndRefresh() = 0;
-  /// The next UnloadItems empties the icon collections kept for menus.
-  virtual void MarkCollections() = 0;
+  virtual void HideWindow() = 0;
   /// Flags of SetWindowPos (forms::swp).
   virtual void SetWindowPos(forms::InsertAfter after, unsigned flags) = 0;
 };
+
+/// The strip, for those who need more than one of its sides.
+class ToolbarPort : public AskingWindow,
+                    public StripMenusPort,
+                    public StripCarryPort,
+                    public StripContentsPort,
+                    public StripPlacePort {};
 
 /// The one menu window.
 class QMenuPort : public AskingWindow {

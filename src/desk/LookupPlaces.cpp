@@ -42,6 +42,7 @@ std::string LaneOfLookup(const Lookup& question) {
     case LookupKind::ShellIcon:
       return std::string(kShellPlace) + kIconMark;
     case LookupKind::FileName:
+    case LookupKind::FileNames:
     case LookupKind::FileIcon:
     case LookupKind::IconInFile:
       break;
@@ -66,6 +67,7 @@ std::string KeyOfLookup(const Lookup& question) {
   key += entry ? question.Path : UpperCase(DropBackslash(question.Path));
   switch (question.Kind) {
     case LookupKind::FolderEntries:
+    case LookupKind::FileNames:
       key += '\n' + UpperCase(question.Pattern);
       break;
     case LookupKind::FileIcon:

@@ -1,5 +1,8 @@
 #include "forms/LookupLedger.h"
 
+#include <algorithm>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace corvelle::forms {
@@ -12,6 +15,20 @@ template <class T>
 LookupAnswer AnswerOf(std::optional<T> value) {
   if (!value) return {.End = LookupEnd::Failed};
   return {.Value = *std::move(value)};
+}
+
+/// A name that the shell does not know is shown as it is.
+std::vector<ShellFolderEntry> NamesOf(ShellIcons& icons, const std::string& folder,
+                                      std::string_view lines) {
+  std::vector<ShellFolderEntry> names;
+  while (!lines.empty()) {
+    const std::size_t end = std::min(lines.find('\n'), lines.size());
+    std::string name(lines.substr(0, end));
+    lines.remove_prefix(std::min(end + 1, lines.size()));
+    auto shown = icons.DisplayName(folder + name);
+    names.push_back({.Name = shown ? *std::move(shown) : std::move(name)});
+  }
+  return names;
 }
 
 }  // namespace
@@ -86,6 +103,8 @@ LookupAnswer AnswerLookup(const LookupServices& services, const Lookup& question
     }
     case LookupKind::FileName:
       return AnswerOf(services.Icons.DisplayName(path));
+    case LookupKind::FileNames:
+      return {.Value = NamesOf(services.Icons, path, question.Pattern)};
     case LookupKind::FileIcon:
       return AnswerOf(services.Icons.PixelsOfFile(path, question.List));
     case LookupKind::IconInFile:

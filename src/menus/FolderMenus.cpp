@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <utility>
+#include <variant>
 
 #include "base/Text.h"
 #include "core/MenuFile.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
+#include "core/SpecialFolders.h"
 #include "icons/RecycleIcon.h"
 #include "menus/FolderRules.h"
 #include "menus/GeneratedMenu.h"
@@ -44,21 +46,51 @@ std::optional<ExpandedMenu> FolderMenus::Expand(std::string_view menuKey, std::s
                                                 std::string_view stored) {
   const std::string key = UpperCase(menuKey);
   built_.erase(key);
-  Listed listed = std::exchange(listed_, {});
-  if (listed.MenuKey != key) listed = {};
   const CodePage& ansi = program_.Services.Ansi;
   const std::string source(menuFile);
-  if (!HasOpenFolder(stored, ansi)) return std::nullopt;
-
+  if (!HasOpenFolder(stored, ansi)) {
+    reading_ = {};
+    return std::nullopt;
+  }
+  if (reading_.MenuKey != key || !std::exchange(reading_.MayBuild, false)) BeginReading(key);
   GeneratedMenu menu(ParseRecords(stored, ansi), ansi);
   auto built = std::make_shared<Built>();
   built->Update.MenuKey = key;
-  ExpandItems(menu, source, listed, *built);
+  ExpandItems(menu, source, *built);
+  const bool whole = built->Whole;
   built_.insert_or_assign(key, std::move(built));
-  ExpandedMenu expanded{.File = GeneratedFileName(source), .Items = {}, .Source = {}};
+  ExpandedMenu expanded{
+      .File = GeneratedFileName(source), .Items = {}, .Source = {}, .Whole = whole};
   expanded.Items = std::move(menu).Items();
   expanded.Source = std::move(menu).Source();
   return expanded;
+}
+
+void FolderMenus::BeginReading(const std::string& key) {
+  reading_ = {};
+  reading_.MenuKey = key;
+  reading_.Questions =
+      std::make_unique<FolderQuestions>(program_.Answers, program_.Windows, [this] { Arrived(); });
+}
+
+void FolderMenus::Leave() { reading_ = {}; }
+
+void FolderMenus::TryAgain() {
+  if (reading_.Questions) reading_.Questions->TryAgain();
+  Arrived();
+}
+
+void FolderMenus::Arrived() {
+  reading_.Files.clear();
+  const auto found = built_.find(reading_.MenuKey);
+  if (found == built_.end()) return;
+  const std::shared_ptr<const Built> built = found->second;
+  if (built->Whole && !AnyChanged(*built)) return;
+  reading_.MayBuild = true;
+  // It may end the reading, and may set another listener.
+  const std::string key = reading_.MenuKey;
+  const auto listener = listener_;
+  if (listener) listener(key);
 }
 
 // Quiet: the menu is up, and nothing of it comes from this file.
@@ -72,38 +104,62 @@ bool FolderMenus::WriteGenerated(const ExpandedMenu& menu) {
   return false;
 }
 
-const FoundFiles& FolderMenus::FilesOf(std::string_view folderName, Listed& listed) {
-  auto found = listed.Files.find(folderName);
-  if (found == listed.Files.end()) {
-    FoundFiles files = ListFolderItem(program_.Services.Files, ParseFolderItem(folderName));
-    found = listed.Files.emplace(std::string(folderName), std::move(files)).first;
-  }
-  return found->second;
+const FoundFiles& FolderMenus::FilesOf(std::string_view folderName) {
+  const auto known = reading_.Files.find(folderName);
+  if (known != reading_.Files.end()) return known->second;
+  FolderState state = FolderState::Here;
+  const auto list = [&](const std::string& folder, const std::string& pattern) {
+    const FolderQuestions::Known& answer = reading_.Questions->Get(
+        {.Kind = LookupKind::FolderEntries, .Path = folder, .Pattern = pattern});
+    state = std::max(state, answer.State);
+    // A folder that cannot be listed has no files.
+    const auto* const entries = std::get_if<std::vector<FileEntry>>(&answer.Value);
+    return entries != nullptr ? *entries : std::vector<FileEntry>{};
+  };
+  FoundFiles found = ListFolderItem(list, ParseFolderItem(folderName));
+  found.State = state;
+  return reading_.Files.emplace(std::string(folderName), std::move(found)).first->second;
 }
 
-const SpecialFolderLines& FolderMenus::LinesOf(std::string_view folderName, Listed& listed) {
-  auto found = listed.Lines.find(folderName);
-  if (found == listed.Lines.end()) {
-    SpecialFolderLines lines = ListSpecialFolder(program_, folderName);
-    found = listed.Lines.emplace(std::string(folderName), std::move(lines)).first;
+void FolderMenus::NameFiles(FoundFiles& found) {
+  std::vector<std::string> names(found.Folders.size());
+  // No menu shows more.
+  const std::size_t most = std::min(found.Files.size(), static_cast<std::size_t>(kMaxRecords));
+  for (std::size_t i = 0; i < most; ++i) names[found.Files[i].Folder] += found.Files[i].Name + '\n';
+  std::vector<const std::vector<ShellFolderEntry>*> shown(names.size());
+  for (std::size_t folder = 0; folder < names.size(); ++folder) {
+    if (names[folder].empty()) continue;
+    const FolderQuestions::Known& answer = reading_.Questions->Get(
+        {.Kind = LookupKind::FileNames, .Path = found.Folders[folder], .Pattern = names[folder]});
+    const bool waits =
+        answer.State == FolderState::Reading || answer.State == FolderState::BeingRead;
+    if (waits) found.Named = false;
+    shown[folder] = std::get_if<std::vector<ShellFolderEntry>>(&answer.Value);
   }
-  return found->second;
+  std::vector<std::size_t> next(names.size());
+  for (std::size_t i = 0; i < most; ++i) {
+    FoundFiles::File& file = found.Files[i];
+    const auto* const list = shown[file.Folder];
+    const std::size_t at = next[file.Folder]++;
+    if (list != nullptr && at < list->size()) file.Shown = (*list)[at].Name;
+  }
 }
 
-void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Listed& listed,
-                              Built& built) {
+SpecialFolderLines FolderMenus::LinesOf(std::string_view folderName) {
+  NoteRecycleBin(program_, folderName);
+  const FolderQuestions::Known& answer = reading_.Questions->Get(
+      {.Kind = LookupKind::ShellEntries, .Number = CsidlValue(FolderWithoutOptions(folderName))});
+  SpecialFolderLines lines{.Lines = {}, .State = answer.State};
+  if (const auto* const entries = std::get_if<std::vector<ShellFolderEntry>>(&answer.Value)) {
+    lines.Lines = ShellFolderLines(*entries);
+  }
+  return lines;
+}
+
+void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Built& built) {
   for (int record = 2; record <= menu.SourceCount(); ++record) {
-    const MenuRecord& source = menu.Source()[static_cast<std::size_t>(record) - 1];
-    if (!IsOpenFolder(source)) continue;
-    std::vector<std::string> paths;
-    const std::string& name = source.FName;
-    clsFolder folder =
-        IsFolderItem(name)
-            ? ExpandFolderItem(program_, menu, record, FilesOf(name, listed), paths)
-            : ExpandSpecialFolder(program_, menu, record, LinesOf(name, listed), menuFile);
-    folder.FileTitle = menuFile;
-    built.Folders.push_back(std::move(folder));
-    built.Update.FileList.push_back(std::move(paths));
+    if (!IsOpenFolder(menu.Source()[static_cast<std::size_t>(record) - 1])) continue;
+    ExpandOne(menu, record, menuFile, built);
   }
   menu.CopySource(menu.SourceCount());
   const bool showsBin =
@@ -116,33 +172,79 @@ void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Li
   program_.Icons.RecycleIconChanged = false;
 }
 
+void FolderMenus::ExpandOne(GeneratedMenu& menu, int record, std::string_view menuFile,
+                            Built& built) {
+  const std::string name = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
+  std::vector<std::string> paths;
+  clsFolder folder;
+  FolderState state = FolderState::Here;
+  if (IsFolderItem(name)) {
+    FoundFiles found = FilesOf(name);
+    state = found.State;
+    NameFiles(found);
+    built.Whole = built.Whole && found.Named;
+    folder = ExpandFolderItem(program_, menu, record, found, paths);
+  } else {
+    const SpecialFolderLines lines = LinesOf(name);
+    state = lines.State;
+    folder = ExpandSpecialFolder(program_, menu, record, lines, menuFile);
+  }
+  if (state != FolderState::Here) {
+    built.Whole = false;
+    if (menu.Count() < folder.RecStart) ShowKept(menu, record, menuFile, state);
+  }
+  folder.FileTitle = menuFile;
+  built.Folders.push_back(std::move(folder));
+  built.Update.FileList.push_back(std::move(paths));
+}
+
+void FolderMenus::ShowKept(GeneratedMenu& menu, int record, std::string_view menuFile,
+                           FolderState state) {
+  const std::string name = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
+  constexpr std::size_t kMostBytes = static_cast<std::size_t>(kMaxRecords) * kRecordLength;
+  const std::string bytes =
+      program_.Services.Files.Read(GeneratedFileName(menuFile), 0, kMostBytes).ValueOr({});
+  std::vector<MenuItem> kept =
+      EntriesInGenerated(WholeRecords(bytes), record, name, program_.Services.Ansi);
+  if (kept.empty()) menu.AddWaiting(record, state);
+  for (MenuItem& entry : kept) menu.AddKept(record, std::move(entry));
+}
+
 bool FolderMenus::UpdateMenu(std::string_view menuKey) {
-  listed_ = {};
-  const auto found = built_.find(UpperCase(menuKey));
-  if (found == built_.end()) return false;
+  const std::string key = UpperCase(menuKey);
+  const auto found = built_.find(key);
+  if (found == built_.end()) {
+    reading_ = {};
+    return false;
+  }
+  BeginReading(key);
   // Listing may let events through; what is looked at stays until it is done.
   const std::shared_ptr<const Built> built = found->second;
-  Listed listed;
-  listed.MenuKey = built->Update.MenuKey;
-  for (std::size_t i = 0; i < built->Folders.size(); ++i) {
-    if (!HasChanged(*built, i, listed)) continue;
-    listed_ = std::move(listed);
-    return true;
+  reading_.MayBuild = AnyChanged(*built);
+  return reading_.MayBuild;
+}
+
+bool FolderMenus::AnyChanged(const Built& built) {
+  for (std::size_t i = 0; i < built.Folders.size(); ++i) {
+    if (HasChanged(built, i)) return true;
   }
   return false;
 }
 
-bool FolderMenus::HasChanged(const Built& built, std::size_t index, Listed& listed) {
+bool FolderMenus::HasChanged(const Built& built, std::size_t index) {
   const clsFolder& folder = built.Folders[index];
-  const bool ofShell = !IsFolderItem(folder.FolderName);
-  if (!folder.UpdateFolder) {
-    return ofShell && IsDesktopFolder(folder.FolderName) && BinHasChanged(built);
-  }
   const std::string& name = folder.FolderName;
+  const bool ofShell = !IsFolderItem(name);
+  if (!folder.UpdateFolder) return ofShell && IsDesktopFolder(name) && BinHasChanged(built);
+  // What is not known yet is compared when it comes.
   if (ofShell) {
-    return SpecialFolderChanged(program_, name, LinesOf(name, listed), folder.FileTitle);
+    const SpecialFolderLines lines = LinesOf(name);
+    return lines.State == FolderState::Here &&
+           SpecialFolderChanged(program_, name, lines, folder.FileTitle);
   }
-  return FolderChanged(FilesOf(name, listed), built.Update.FileList[index]) != folder.RecTotal;
+  const FoundFiles& files = FilesOf(name);
+  return files.State == FolderState::Here &&
+         FolderChanged(files, built.Update.FileList[index]) != folder.RecTotal;
 }
 
 bool FolderMenus::BinHasChanged(const Built& built) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "menus/FolderMenusPort.h"
+#include "menus/FolderQuestions.h"
 #include "menus/clsFolder.h"
 #include "menus/mFolder.h"
 #include "menus/sFolder.h"
@@ -27,6 +29,11 @@ class FolderMenus final : public FolderMenusPort {
                                      std::string_view stored) override;
   bool WriteGenerated(const ExpandedMenu& menu) override;
   bool UpdateMenu(std::string_view menuKey) override;
+  void SetListener(std::function<void(const std::string& menuKey)> listener) override {
+    listener_ = std::move(listener);
+  }
+  void Leave() override;
+  void TryAgain() override;
 
   /// The folder items of a built menu; none for a menu without.
   [[nodiscard]] std::vector<clsFolder> Folders(std::string_view menuKey) const;
@@ -39,26 +46,37 @@ class FolderMenus final : public FolderMenusPort {
     // The bin's icon as it was when the menu was built.
     std::string RecycleIcon;
     int RecycleIndex = -1;
+    bool Whole = true;  // see ExpandedMenu
   };
 
-  /// What the comparison of a menu listed, by the commands of its folder items. A menu that is
-  /// built because of it is built from that, so that no folder is listed twice for one opening.
-  struct Listed {
+  /// What was asked for a menu. One that is built because a comparison found a change, or because
+  /// more has come to be known, is built from that: no folder is listed twice for one opening.
+  struct Reading {
     std::string MenuKey;
-    std::map<std::string, FoundFiles, std::less<>> Files;
-    std::map<std::string, SpecialFolderLines, std::less<>> Lines;
+    std::unique_ptr<FolderQuestions> Questions;
+    bool MayBuild = false;
+    std::map<std::string, FoundFiles, std::less<>> Files;  // by the command of a folder item
   };
 
-  void ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Listed& listed, Built& built);
-  const FoundFiles& FilesOf(std::string_view folderName, Listed& listed);
-  const SpecialFolderLines& LinesOf(std::string_view folderName, Listed& listed);
-  [[nodiscard]] bool HasChanged(const Built& built, std::size_t index, Listed& listed);
+  void BeginReading(const std::string& key);
+  void ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Built& built);
+  void ExpandOne(GeneratedMenu& menu, int record, std::string_view menuFile, Built& built);
+  /// Shows what the menu had before in the place of folder item `record`, or the item itself.
+  void ShowKept(GeneratedMenu& menu, int record, std::string_view menuFile, FolderState state);
+  const FoundFiles& FilesOf(std::string_view folderName);
+  void NameFiles(FoundFiles& found);
+  [[nodiscard]] SpecialFolderLines LinesOf(std::string_view folderName);
+  [[nodiscard]] bool AnyChanged(const Built& built);
+  [[nodiscard]] bool HasChanged(const Built& built, std::size_t index);
   [[nodiscard]] bool BinHasChanged(const Built& built);
+  /// More is known of the menu that was asked for last.
+  void Arrived();
 
   Program& program_;
   std::map<std::string, std::shared_ptr<const Built>, std::less<>>
-      built_;      // by the key in capitals
-  Listed listed_;  // from a comparison that found a change until the next build or comparison
+      built_;  // by the key in capitals
+  Reading reading_;
+  std::function<void(const std::string& menuKey)> listener_;
 };
 
 }  // namespace corvelle

@@ -4,6 +4,7 @@
 
 #include "base/FieldText.h"
 #include "base/Text.h"
+#include "core/MenuFile.h"
 
 namespace corvelle {
 
@@ -27,10 +28,59 @@ bool GeneratedMenu::AddEntry(int record, MenuRecord entry, std::string name) {
   return true;
 }
 
+void GeneratedMenu::AddWaiting(int record, FolderState state) {
+  MenuItem item = ItemOf(source_[static_cast<std::size_t>(record) - 1], record);
+  if (item.Title.empty()) item.Title = FolderWithoutOptions(item.Command);
+  item.Title += WaitingText(state);
+  item.Folder = state;
+  Add(std::move(item));
+}
+
+void GeneratedMenu::AddKept(int record, MenuItem entry) {
+  entry.Origin.Record = kGeneratedBase + record;
+  Add(std::move(entry));
+}
+
 void GeneratedMenu::AddRule() { Add(ItemOf({"", std::string(kSeparatorIcon), ""}, 0)); }
 
 void GeneratedMenu::Add(MenuItem item) {
   if (!IsFull()) items_.push_back(std::move(item));
+}
+
+std::string_view WaitingText(FolderState state) noexcept {
+  switch (state) {
+    case FolderState::BeingRead:
+      return " (reading...)";
+    case FolderState::NotAvailable:
+      return " (not available)";
+    case FolderState::Here:
+    case FolderState::Reading:
+      break;
+  }
+  return "";
+}
+
+std::vector<MenuItem> EntriesInGenerated(std::string_view bytes, int record,
+                                         std::string_view command, const CodePage& ansi) {
+  const bool ofShell = IsSpecialFolder(command);
+  const std::string folder = FolderWithoutOptions(command);
+  const std::string start = folder.substr(0, folder.rfind('\\') + 1);
+  std::vector<MenuItem> entries;
+  int place = 0;
+  for (const MenuRecord& kept : ParseRecords(bytes, ansi)) {
+    ++place;
+    if (SplitTitle(kept.FTitle, place).Record != kGeneratedBase + record) continue;
+    // The menu file may have been edited since: only what comes from that folder counts.
+    const bool fits = ofShell ? EqualNoCase(kept.FName, folder)
+                              : StartsWithNoCase(kept.FName, start) && !start.empty();
+    MenuItem entry = ItemOf(kept, place);
+    if (!fits || entry.Separator) continue;
+    // The numbers of the shell's icons are those of one session.
+    if (ofShell) entry.Icon.clear();
+    if (ofShell) entry.Origin.Name = entry.Title;
+    entries.push_back(std::move(entry));
+  }
+  return entries;
 }
 
 std::string GeneratedBytes(const std::vector<MenuItem>& items,

@@ -30,6 +30,11 @@ class GeneratedMenu {
   bool AddEntry(int record, MenuRecord entry, std::string name = {});
   void AddRule();
 
+  /// Adds folder item `record` itself, whose title says how far its folder is known.
+  void AddWaiting(int record, FolderState state);
+  /// Adds an entry that the menu had when it was built before.
+  void AddKept(int record, MenuItem entry);
+
   /// How many records there are so far.
   [[nodiscard]] int Count() const noexcept { return static_cast<int>(items_.size()); }
   [[nodiscard]] bool IsFull() const noexcept { return Count() >= kMaxRecords; }
@@ -46,6 +51,15 @@ class GeneratedMenu {
   int nextSource_ = 1;
   std::vector<MenuItem> items_;
 };
+
+/// What a folder item's title says of its folder while nothing of it can be shown.
+[[nodiscard]] std::string_view WaitingText(FolderState state) noexcept;
+
+/// The entries of folder item `record` in the bytes of a generated file; none where they come from
+/// another folder than that of its command.
+[[nodiscard]] std::vector<MenuItem> EntriesInGenerated(std::string_view bytes, int record,
+                                                       std::string_view command,
+                                                       const CodePage& ansi);
 
 /// The bytes of the generated file: each title carries the number of the record that it stands for
 /// (see JoinTitle), and is cut to make room for it. Left out is what would mean another file

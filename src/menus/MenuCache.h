@@ -43,6 +43,7 @@ struct BuiltMenu {
   std::vector<MenuItem> Items;     // item 1 first
   std::string Source;              // the file as it was given, before its folder items expanded
   std::string Stored;              // its records as they were stored then
+  bool Whole = true;               // false while something is not known of its folders
   float Room = 0;                  // greatest height of the window when it was laid out, twips
 };
 

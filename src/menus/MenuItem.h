@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/MenuRecord.h"
+#include "menus/FolderState.h"
 
 namespace corvelle {
 
@@ -19,6 +20,8 @@ struct MenuItem {
   bool Hidden = false;          // the entry that no menu shows, see IsHiddenTitle
   bool Separator = false;       // a line of the file; the menu on show has rules for these
   bool AfterSeparator = false;  // directly follows one
+  /// Of a folder item that stands for itself until it is known what it holds.
+  FolderState Folder = FolderState::Here;
   // Where the layout has put it: twips, and the number of its page.
   float Top = 0;
   float Width = 0;

@@ -43,6 +43,7 @@ frmQMenu::frmQMenu(Program& program)
       LineDown(*this, "LineDown"),
       Timer1(program.Windows),
       KeysTimer(program.Windows),
+      UpdateTimer(program.Windows),
       program_(program),
       icons_(program),
       items_(program.Services.Ansi),
@@ -100,6 +101,7 @@ void frmQMenu::WireEvents() {
   Timer1.Tick = [this] { Timer1_Timer(); };
   KeysTimer.Tick = [this] { ActHeldKeys(); };
   KeysTimer.SetInterval(1);
+  UpdateTimer.Tick = [this] { TryUpdate(); };
   WireDrags();
   for (int i = 0; i <= 1; ++i) {
     WireArrow(LblButton[i], i);
@@ -135,6 +137,8 @@ void frmQMenu::Form_Load() {
 void frmQMenu::Form_Unload() {
   Timer1.SetEnabled(false);
   KeysTimer.SetEnabled(false);
+  UpdateTimer.SetEnabled(false);
+  updateSince_.reset();
   held_.Forget();
   MenuReady = false;
 }
@@ -185,6 +189,7 @@ void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   const std::string owner = OwnerOf(key);
   if (owner.empty() || owner == "0" || menuFile.empty()) return;
   ResetQMenu();
+  ListenToFolders();
   PagePicture.reset();
   if (!EqualNoCase(key, MenuKey)) pages_.ForgetSaved();
   MenuKey = key;
@@ -272,7 +277,9 @@ void frmQMenu::HideMenu() {
   // A refresh hides the menu first, and comes back to the page that was up.
   if (Visible()) pages_.Save();
   Hide();
-  if (!program_.Guards.MenuBuilding) held_.Forget();
+  if (program_.Guards.MenuBuilding) return;
+  held_.Forget();
+  ForgetUpdate();
 }
 
 void frmQMenu::ResetQMenu() {
@@ -283,6 +290,7 @@ void frmQMenu::ResetQMenu() {
   Cls();
   for (int i = 1; i <= LoadedLabels(); ++i) Lbl[i].SetVisible(false);
   Timer1.SetEnabled(false);
+  ForgetUpdate();
   menu_ = std::make_shared<BuiltMenu>();
   items_.Clear();
   pages_.Clear();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
@@ -166,6 +167,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   forms::Line LineDown;
   forms::Timer Timer1;
   forms::Timer KeysTimer;
+  forms::Timer UpdateTimer;
 
   // ---- state ----
 
@@ -240,6 +242,10 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   [[nodiscard]] std::optional<ExpandedMenu> ExpandFolders(std::string_view menuFile,
                                                           std::string_view stored);
   void WriteOwnMenu();
+  /// The menu of a file, not shown yet; null when the window is gone. `expanded`: see
+  /// ExpandFolders.
+  [[nodiscard]] std::shared_ptr<BuiltMenu> Build(std::string_view menuFile,
+                                                 std::optional<ExpandedMenu>& expanded);
   [[nodiscard]] MenuLayout LayOut(std::span<const MenuItem> items, float room) const;
   void Fill(BuiltMenu& menu, MenuLayout layout) const;
   /// Makes a menu the one on show, and the window as large as it is.
@@ -247,6 +253,19 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   /// Writes the generated file, once the menu is up.
   void KeepGenerated(const ExpandedMenu& expanded);
   void DisplayFirstPage();
+
+  // What comes later (frmQMenuUpdate.cpp).
+  void ListenToFolders();
+  /// More is known of the folders of a menu.
+  void FoldersArrived(const std::string& key);
+  /// Updates the menu on show, now or as soon as the pointer lets it.
+  void TryUpdate();
+  /// The menu closes, or another one comes.
+  void ForgetUpdate();
+  /// Builds the menu on show again without closing it.
+  void UpdateInPlace();
+  /// After an update: the item that keys had selected, or what the pointer is on.
+  void SelectAgain(const MenuItem& selected);
 
   // Painting (frmQMenuPaint.cpp).
   /// Gives the labels of the page on show their texts and places, hidden or not as they are.
@@ -339,6 +358,11 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   bool shellMenuUp_ = false;
   /// The left button went down in this menu and has not come up again.
   bool pressed_ = false;
+  /// Since when there is something new to show of the menu that is up.
+  std::optional<std::int64_t> updateSince_;
+  /// When the pointer moved over the menu last, and to where.
+  std::int64_t movedAt_ = 0;
+  TwipPoint movedTo_;
   HeldKeys held_;
   /// One of them acts at this moment.
   bool actsHeldKey_ = false;

@@ -25,18 +25,29 @@ void frmQMenu::InitQMenu(std::string_view menuFile) {
   // Measures the height of one line.
   Lbl[0].SetCaption("lbl(0)");
 
-  const std::string given(menuFile.substr(0, menuFile.find('\0')));
-  if (EqualNoCase(MenuKey, kMainMenuKey)) WriteOwnMenu();
-  // What cannot be read gives a menu without items.
-  std::string stored = ReadStoredRecords(program_.Services.Files, given).ValueOr({});
-  const std::optional<ExpandedMenu> expanded = ExpandFolders(given, stored);
-  // The folders' listing lets events through.
-  if (!IsLoaded()) return;
-
+  std::optional<ExpandedMenu> expanded;
+  const std::shared_ptr<BuiltMenu> menu = Build(menuFile, expanded);
+  if (!menu) return;
   Hide();
   SetCaption("");
   Cls();
   ActiveArrow = kNoArrow;
+  Take(menu);
+  PlaceMenu();
+  DisplayFirstPage();
+  cache_.Add(menu_);
+  if (expanded && expanded->Whole) KeepGenerated(*expanded);
+}
+
+std::shared_ptr<BuiltMenu> frmQMenu::Build(std::string_view menuFile,
+                                           std::optional<ExpandedMenu>& expanded) {
+  const std::string given(menuFile.substr(0, menuFile.find('\0')));
+  if (EqualNoCase(MenuKey, kMainMenuKey)) WriteOwnMenu();
+  // What cannot be read gives a menu without items.
+  std::string stored = ReadStoredRecords(program_.Services.Files, given).ValueOr({});
+  expanded = ExpandFolders(given, stored);
+  // The folders' listing may let events through.
+  if (!IsLoaded()) return nullptr;
   MenuFile = expanded ? expanded->File : given;
   const std::vector<MenuItem> own =
       expanded ? std::vector<MenuItem>{} : ReadItems(stored, program_.Services.Ansi);
@@ -44,12 +55,9 @@ void frmQMenu::InitQMenu(std::string_view menuFile) {
   menu->Source = given;
   menu->Stored = std::move(stored);
   menu->Room = RoomForMenu();
+  menu->Whole = !expanded || expanded->Whole;
   Fill(*menu, LayOut(expanded ? expanded->Items : own, menu->Room));
-  Take(menu);
-  PlaceMenu();
-  DisplayFirstPage();
-  cache_.Add(menu_);
-  if (expanded) KeepGenerated(*expanded);
+  return menu;
 }
 
 // Without a fresh file the menu shows what the old one holds.

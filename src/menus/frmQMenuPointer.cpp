@@ -43,6 +43,10 @@ void frmQMenu::TakeFocus() {
 
 void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, float y) {
   PrevItem = program_.Menu.SelectedItem;
+  if (const TwipPoint at{x, y}; at != movedTo_) {
+    movedTo_ = at;
+    movedAt_ = program_.Windows.Now();
+  }
   if (program_.Guards.MenuBuilding) return;
   program_.Menu.KeyboardOnToolbar = false;
   const bool dragging = program_.Entry.ItemDragging || program_.Drag.DragOverButton;
@@ -121,6 +125,11 @@ void frmQMenu::ChooseItem(float x, float y) {
   const int hit = IsOutsideItems(Page(), y) ? 0 : HitItem(Page(), y);
   if (hit == 0 || !Lbl[hit].Enabled()) {
     DropSelection();
+    return;
+  }
+  if (items_[hit].Folder == FolderState::NotAvailable) {
+    DropSelection();
+    program_.Ports.FolderMenus->TryAgain();
     return;
   }
   const std::string title = items_.NameOf(hit);

@@ -9,7 +9,6 @@
 #include "core/DroppedFiles.h"
 #include "core/Program.h"
 #include "menus/GeneratedMenu.h"
-#include "platform/ShellIcons.h"
 
 namespace corvelle {
 
@@ -39,13 +38,6 @@ void Sort(std::vector<FoundFiles::File>& files, std::size_t from) {
             });
 }
 
-std::string TitleOf(Program& program, const FolderItem& item, const std::string& path,
-                    std::string_view name) {
-  const auto info = program.Services.Icons.FileInfo(path, IconList::Large);
-  return FileTitleOf(info ? std::string_view(info->DisplayName) : std::string_view(), name,
-                     item.WithoutExtension);
-}
-
 }  // namespace
 
 void ScanFolder(const std::vector<FileEntry>& listed, const FolderItem& item, std::string folder,
@@ -55,26 +47,34 @@ void ScanFolder(const std::vector<FileEntry>& listed, const FolderItem& item, st
   found.Folders.push_back(std::move(folder));
   for (const FileEntry& entry : listed) {
     if (!IsShownFile(entry) || !FitsPattern(entry.Name, item.Mask)) continue;
-    found.Files.push_back({index, entry.Name, SortKeyOf(entry.Name, item)});
+    found.Files.push_back(
+        {.Folder = index, .Name = entry.Name, .SortKey = SortKeyOf(entry.Name, item), .Shown = {}});
   }
   if (!item.Merged) Sort(found.Files, before);
 }
 
-FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item) {
+FoundFiles ListFolderItem(const FolderLister& list, const FolderItem& item) {
   FoundFiles found;
   // Without a folder there is nothing that the mask could be meant for.
   if (item.Folder.empty()) return found;
-  // A folder that cannot be listed has no files.
-  const auto root = files.List(item.Folder, item.SubFolders ? kAllNames : item.Mask).ValueOr({});
+  const auto root = list(item.Folder, item.SubFolders ? std::string(kAllNames) : item.Mask);
   ScanFolder(root, item, item.Folder, found);
   if (item.SubFolders) {
     for (std::string& folder : FoldersBelow(item, root)) {
-      const auto listed = files.List(folder, item.Mask).ValueOr({});
+      const auto listed = list(folder, item.Mask);
       ScanFolder(listed, item, std::move(folder), found);
     }
   }
   if (item.Merged) Sort(found.Files, 0);
   return found;
+}
+
+FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item) {
+  return ListFolderItem(
+      [&files](const std::string& folder, const std::string& pattern) {
+        return files.List(folder, pattern).ValueOr({});
+      },
+      item);
 }
 
 clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
@@ -97,7 +97,8 @@ clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
     // What no record can hold starts from the menu all the same.
     const std::string stored =
         PathForRecord(program.Services.Files, program.Services.Ansi, path).value_or(path);
-    menu.AddEntry(record, {TitleOf(program, item, path, file.Name), stored, stored});
+    menu.AddEntry(record,
+                  {FileTitleOf(file.Shown, file.Name, item.WithoutExtension), stored, stored});
   }
   folder.RecEnd = menu.Count();
   return folder;

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "menus/FolderRules.h"
+#include "menus/FolderState.h"
 #include "menus/clsFolder.h"
 #include "platform/FileSystem.h"
 
@@ -21,10 +23,13 @@ struct FoundFiles {
     std::size_t Folder = 0;  // index in Folders
     std::string Name;
     std::string SortKey;
+    std::string Shown;  // the name that the shell shows; empty while it is not known
   };
 
   std::vector<std::string> Folders;  // each with its trailing backslash
   std::vector<File> Files;
+  FolderState State = FolderState::Here;  // of the folder that is known least
+  bool Named = true;                      // false while names are still asked for
 
   [[nodiscard]] std::string PathOf(const File& file) const {
     return Folders[file.Folder] + file.Name;
@@ -36,8 +41,13 @@ struct FoundFiles {
 void ScanFolder(const std::vector<FileEntry>& listed, const FolderItem& item, std::string folder,
                 FoundFiles& found);
 
+/// What a folder holds, as FileSystem::List gives it; nothing for one that cannot be listed.
+using FolderLister =
+    std::function<std::vector<FileEntry>(const std::string& folder, const std::string& pattern)>;
+
 /// All files of a folder item, sorted: folder by folder, or as one list. Each folder is listed
 /// once.
+[[nodiscard]] FoundFiles ListFolderItem(const FolderLister& list, const FolderItem& item);
 [[nodiscard]] FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item);
 
 /// Adds the entries of the folder item at record `record` of the source, behind the records before

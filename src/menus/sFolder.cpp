@@ -39,13 +39,8 @@ std::string ListCacheBytes(const std::vector<std::string>& lines, const CodePage
   return bytes;
 }
 
-SpecialFolderLines ListSpecialFolder(Program& program, std::string_view folderName) {
-  const std::string command = FolderWithoutOptions(folderName);
-  // Before the listing, so that what changes meanwhile is found at the next opening.
-  if (ShowsRecycleBin(command)) CheckRecycleIcon(program);
-  const auto entries = program.Services.Folders.List(CsidlValue(command));
-  if (!entries) return std::nullopt;
-  return ShellFolderLines(*entries);
+void NoteRecycleBin(Program& program, std::string_view folderName) {
+  if (ShowsRecycleBin(FolderWithoutOptions(folderName))) CheckRecycleIcon(program);
 }
 
 clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
@@ -57,14 +52,15 @@ clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
   menu.BeginItem(record);
   folder.RecStart = menu.Count() + 1;
   const std::string cache = ListCacheName(menuFile, command);
-  if (lines) {
-    KeepList(program, cache, ListCacheBytes(*lines, program.Services.Ansi));
-    for (const std::string& line : *lines) {
+  const bool here = lines.State == FolderState::Here;
+  if (lines.Lines) {
+    if (here) KeepList(program, cache, ListCacheBytes(*lines.Lines, program.Services.Ansi));
+    for (const std::string& line : *lines.Lines) {
       const ShellFolderLine entry = ParseShellFolderLine(line);
       menu.AddEntry(record, {entry.Name, entry.Icon, command}, entry.Name);
     }
-    folder.RecTotal = static_cast<int>(lines->size());
-  } else {
+    folder.RecTotal = static_cast<int>(lines.Lines->size());
+  } else if (here) {
     static_cast<void>(program.Services.Files.Remove(cache));
   }
   folder.RecEnd = menu.Count();
@@ -73,8 +69,8 @@ clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
 
 bool SpecialFolderChanged(Program& program, std::string_view folderName,
                           const SpecialFolderLines& lines, std::string_view menuFile) {
-  if (!lines) return false;
-  const std::string now = ListCacheBytes(*lines, program.Services.Ansi);
+  if (!lines.Lines) return false;
+  const std::string now = ListCacheBytes(*lines.Lines, program.Services.Ansi);
   // One byte more than there should be tells a longer list.
   const auto kept = program.Services.Files.Read(
       ListCacheName(menuFile, FolderWithoutOptions(folderName)), 0, now.size() + 1);

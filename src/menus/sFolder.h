@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "menus/FolderState.h"
 #include "menus/clsFolder.h"
 
 namespace corvelle {
@@ -21,13 +22,20 @@ class Program;
 [[nodiscard]] std::string ListCacheBytes(const std::vector<std::string>& lines,
                                          const CodePage& ansi);
 
-/// What a special folder holds now, as ShellFolderLines; nothing when it cannot be listed. The
-/// shell may let events through.
-using SpecialFolderLines = std::optional<std::vector<std::string>>;
-[[nodiscard]] SpecialFolderLines ListSpecialFolder(Program& program, std::string_view folderName);
+/// What a special folder holds.
+struct SpecialFolderLines {
+  /// As ShellFolderLines; nothing when it cannot be listed.
+  std::optional<std::vector<std::string>> Lines;
+  FolderState State = FolderState::Here;
+};
+
+/// Notes the bin's icon as it is now if the folder shows it. To be called before the folder is
+/// listed, so that what changes meanwhile is found at the next opening.
+void NoteRecycleBin(Program& program, std::string_view folderName);
 
 /// Adds the entries of the special folder at record `record` of the source, behind the records
-/// before it, and writes what it holds. A folder that cannot be listed has no entries.
+/// before it, and writes what it holds, if that is known. A folder that cannot be listed has no
+/// entries.
 [[nodiscard]] clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
                                             const SpecialFolderLines& lines,
                                             std::string_view menuFile);

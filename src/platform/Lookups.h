@@ -24,6 +24,8 @@ enum class LookupKind {
   DriveAtHand,    // what SystemInfo::IsDriveAtHand tells of the root: bool
   LinkTarget,     // where the shell link of that path leads: std::string, empty without a path
   FileName,       // the name by which the shell shows a file or folder: std::string
+  FileNames,      // the names by which the shell shows files of the folder Path, one to a line of
+                  // Pattern (each with a line feed): a list of entries in that order
   FileIcon,       // the icon that the shell shows for a file or folder: IconPixels
   IconInFile,     // icon `Number` of an icon file, at `Size`: IconPixels
   ShellFolder,    // folder `Number` of the shell as an entry: one ShellFolderEntry in a list

@@ -161,7 +161,7 @@ void frmProperties::ShowLoss() {
 
 bool frmProperties::ApplyOrder() {
   const forms::HourglassScope hourglass(program_.Windows);
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  StripContentsPort* const strip = program_.Ports.Toolbar;
   const float gap = strip != nullptr ? strip->FreeWidth() : 0;
   const std::size_t place = order_.FindPath(item_.File);
   const OrderOutcome outcome = ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi,

@@ -32,7 +32,7 @@ std::string frmURL::NewSingleFile() const {
 }
 
 void frmURL::UpdateToolbar() {
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  StripMenusPort* const strip = program_.Ports.Toolbar;
   if (strip != nullptr && !program_.Guards.HideBusy) strip->SetPointerWatch(false);
   const WebLinkTarget target = ParseLinkTag(Tag);
   switch (target.Place) {
@@ -87,7 +87,7 @@ void frmURL::InsertSingle(std::string_view before) {
 void frmURL::AppendItem(const std::string& menu, const std::string& file) {
   FileSystem& files = program_.Services.Files;
   const EditOutcome outcome = AppendDropped(files, program_.Services.Ansi, file, {RecordOf(*this)});
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  StripMenusPort* const strip = program_.Ports.Toolbar;
   if (outcome != EditOutcome::Edited || strip == nullptr) return;
   QMenuPort* const shown = program_.Ports.QMenu;
   const bool up =

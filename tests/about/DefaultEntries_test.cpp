@@ -306,6 +306,31 @@ TEST_F(DefaultEntriesTest, EachItemOfTheStartMenuTicksTheStartupWindow) {
   program.Ports.Startup = nullptr;
 }
 
+TEST_F(DefaultEntriesTest, EachMenuTicksTheStartupWindowBeforeItAndOnceBehindTheLastButOne) {
+  DotCounter startup;
+  program.Ports.Startup = &startup;
+  program.Guards.StartingUp = true;
+  // How many ticks come before the first menu, and how many with all of them.
+  int before = -1;
+  int all = 0;
+  for (int n = 1; n < 200; ++n) {
+    for (const std::string& name : Names()) world.Files.Vanish(program.Paths.MenusPath + name);
+    startup.Dots = 0;
+    world.Files.FailFrom(n);
+    world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+    Fill();
+    const bool hit = world.Files.Hit();
+    world.Files.StopFailing();
+    const bool menu = world.Files.Has(program.Paths.MenusPath + MenuFileName(1));
+    if (!menu) before = startup.Dots;
+    all = startup.Dots;
+    if (!hit) break;
+  }
+  ASSERT_GE(before, 0);
+  EXPECT_EQ(all, before + 4);
+  program.Ports.Startup = nullptr;
+}
+
 TEST_F(DefaultEntriesTest, ASeparatorNeedsFilesAboveItAndFoldersBelow) {
   world.Links.SetFolder(kPrograms, "C:\\Start\\Programs");
   Link("C:\\Start\\Programs\\Tools\\axe.lnk", "C:\\w\\a.exe");

@@ -34,7 +34,7 @@ class FirstStart : public testing::Test {
             bounds.top + RoundToInt(top / Strip().TwipsY)};
   }
   PixelPoint MiddleOfButton(int index) {
-    const ButtonRect& button = Strip().ToolbarButtons[static_cast<std::size_t>(index)];
+    const ButtonRect& button = Strip().Buttons.ToolbarButtons[static_cast<std::size_t>(index)];
     return InBox(Strip().picToolbar, button.Left + button.Width / 2,
                  button.Top + button.Height / 2);
   }
@@ -72,7 +72,7 @@ TEST(InstalledFirstStart, AllThatIsWrittenLiesInTheUsersFolder) {
   Parts parts(world.Services(), world.Windows());
   ASSERT_TRUE(Main(parts.TheProgram));
   world.Desktop.Pump();
-  EXPECT_EQ(parts.Toolbar.ButtonCount, 6);
+  EXPECT_EQ(parts.Toolbar.Buttons.ButtonCount, 6);
   EXPECT_TRUE(world.Files.Has(data + "Menus\\BMENU001.MNU"));
   EXPECT_TRUE(world.Files.Has(data + "Icons\\W95MBX02.ICO"));
   EXPECT_TRUE(world.Files.Has(data + "ShellLink"));
@@ -86,8 +86,8 @@ TEST(InstalledFirstStart, AllThatIsWrittenLiesInTheUsersFolder) {
 TEST_F(FirstStart, TheStripStandsWholeAtTheRightEdge) {
   ASSERT_TRUE(started);
   EXPECT_EQ(parts.TheProgram.Strip.ToolbarEdge, Edge::Right);
-  EXPECT_EQ(Strip().ButtonCount, 6);
-  ASSERT_EQ(Strip().SingleCount, 4);
+  EXPECT_EQ(Strip().Buttons.ButtonCount, 6);
+  ASSERT_EQ(Strip().Singles.SingleCount, 4);
   const PixelRect strip = world.Desktop.BoundsOf(Strip().hWnd());
   EXPECT_EQ(strip.right, 1024);
   EXPECT_EQ(strip.Height(), 768);

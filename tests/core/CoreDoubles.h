@@ -58,7 +58,6 @@ class LoggingToolbar final : public ToolbarPort {
   void RefreshToolbar() override {}
   void HideWindow() override {}
   void DoLabelDate() override {}
-  void UpdateLabelDate() override {}
   void MarkCollections() override {}
   void SetWindowPos(forms::InsertAfter, unsigned) override {}
 

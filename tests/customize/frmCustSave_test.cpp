@@ -47,11 +47,11 @@ TEST(CustomizeSave, WritesTheTreeAndRebuildsTheStrip) {
   ChangedDesk desk;
   desk.ClickNode("Letters");
   desk.Tool("button");
-  const int before = desk.parts->Toolbar.ButtonCount;
+  const int before = desk.parts->Toolbar.Buttons.ButtonCount;
   desk.ClickControl(desk.Form().cmdSave);
   EXPECT_EQ(desk.Stored(),
             "Letters(Alpha Beta -) Tools(Hammer) New Button(New Menu Item) | Clock Paint");
-  EXPECT_EQ(desk.parts->Toolbar.ButtonCount, before + 1);
+  EXPECT_EQ(desk.parts->Toolbar.Buttons.ButtonCount, before + 1);
   EXPECT_TRUE(desk.Form().IsLoaded()) << "the window stays open";
   EXPECT_TRUE(desk.Form().cmdSave.Enabled());
   EXPECT_FALSE(desk.Editor().TreeChanged);

@@ -47,10 +47,11 @@ TEST(HungBrowser, ADroppedAddressDoesNotWaitForAWindowThatAnswersNothing) {
   scenario::WriteMenu(desk, 1, "Letters", {scenario::Witness(desk, "alpha")});
   desk.MovePointer(scenario::FarAway(desk));
   ASSERT_TRUE(scenario::StartAndWait(desk));
-  // A source without a name of its own, so that the titles of all windows are looked at.
+  // The source has no title of its own, so that the titles of all windows are looked at.
   const PixelPoint away = scenario::FarAway(desk);
   desk.OpenDragSource({away.x - 100, away.y - 60, away.x + 100, away.y + 60}, {},
-                      "http://example.com/page");
+                      "http://example.com/page", {});
+  SetWindowTextW(desk.Handle("DragSource"), L"");
   const HungWindow browser(L"A page that hangs - Internet Explorer");
   desk.BringToFront("DragSource");
   desk.Pause(200);
@@ -73,7 +74,7 @@ TEST(HungBrowser, ADroppedAddressDoesNotWaitForAWindowThatAnswersNothing) {
   const MenuRecord made =
       ParseRecord(std::string_view(bytes).substr(2 * kRecordLength), Windows1252());
   EXPECT_EQ(made.FName, "http://example.com/page");
-  std::printf("its title: %s\n", made.FTitle.c_str());
+  EXPECT_EQ(made.FTitle, "A page that hangs");
 }
 
 }  // namespace

@@ -40,6 +40,21 @@ TEST_F(FormTest, LoadMakesHiddenWindowsNamedAsFormAndBoxAndThenCallsFormLoad) {
   EXPECT_FALSE(Desktop().IsShown(Form.Box.hWnd()));
 }
 
+class BarForm final : public forms::Form {
+ public:
+  BarForm(WindowSystem& windows, bool inTaskbar)
+      : forms::Form(windows, "BarForm", BorderStyle::Fixed, inTaskbar) {}
+};
+
+TEST_F(FormTest, HasAButtonInTheTaskBarOnlyIfItWasMadeWithOne) {
+  for (const bool wanted : {false, true}) {
+    BarForm other(World.Windows(), wanted);
+    ASSERT_TRUE(other.Load());
+    EXPECT_EQ(Desktop().Look(other.hWnd())->InTaskbar, wanted);
+    other.Unload();
+  }
+}
+
 TEST_F(FormTest, LoadingTwiceCallsFormLoadOnce) {
   Form.Load();
   Form.Load();

@@ -87,6 +87,8 @@ TEST_P(StoredTitles, OfEveryLengthAreFoundInAMenuWithAnOpenFolder) {
       RightClick(number - 1);
       ASSERT_EQ(desk_.TheProgram.Entry.CurRecord, number);
       EXPECT_EQ(desk_.TheProgram.Entry.CurTitle, title);
+      // What the entry is compared with later is the record itself, not what was shown of it.
+      EXPECT_EQ(desk_.TheProgram.Entry.CurStored, record);
       // Cut.
       EXPECT_EQ(DeleteItem(desk_.TheProgram, true), EditOutcome::Edited);
       EXPECT_EQ(NowStored(), WithoutRecord(stored_, number));

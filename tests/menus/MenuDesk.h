@@ -91,7 +91,6 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void RefreshToolbar() override { Asked.emplace_back("RefreshToolbar"); }
   void HideWindow() override { Asked.emplace_back("HideWindow"); }
   void DoLabelDate() override { Asked.emplace_back("DoLabelDate"); }
-  void UpdateLabelDate() override { Asked.emplace_back("UpdateLabelDate"); }
   void AddNewButton() override { Asked.emplace_back("AddNewButton"); }
   void MarkCollections() override { Asked.emplace_back("MarkCollections"); }
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {

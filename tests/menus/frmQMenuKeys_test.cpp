@@ -238,7 +238,7 @@ TEST(TypingAhead, APageThatIsDrawnForTheFirstTimeHoldsThemAsWell) {
   desk.Open(1, items);
   bool typed = false;
   desk.World.Icons.WhileAsked([&] {
-    if (!std::exchange(typed, true)) desk.World.Desktop.PressKey(forms::key::PageDown);
+    if (!std::exchange(typed, true)) desk.Menu.Form_KeyDown(forms::key::PageDown, {});
   });
   desk.World.Desktop.PressKey(forms::key::PageDown);
   desk.World.Desktop.Advance(10);

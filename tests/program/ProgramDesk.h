@@ -51,7 +51,7 @@ class ProgramDesk {
     parts = std::make_unique<Parts>(world.Services(), world.Windows());
     ASSERT_TRUE(Main(parts->TheProgram));
     world.Desktop.Pump();
-    ASSERT_EQ(parts->Toolbar.ButtonCount, 3);
+    ASSERT_EQ(parts->Toolbar.Buttons.ButtonCount, 3);
   }
   /// The program is gone, without another word to the disk.
   void End() {
@@ -116,7 +116,7 @@ class ProgramDesk {
   // ---- places on the screen ----
 
   [[nodiscard]] PixelPoint MenuButton(int index) const {
-    const ButtonRect& at = parts->Toolbar.ToolbarButtons[static_cast<std::size_t>(index)];
+    const ButtonRect& at = parts->Toolbar.Buttons.ToolbarButtons[static_cast<std::size_t>(index)];
     return In("picToolbar", at.Left + at.Width / 2, at.Top + at.Height / 2);
   }
   [[nodiscard]] PixelPoint Single(int index) const {

@@ -35,8 +35,9 @@ class PropertiesButtons : public PropertiesDesk {
   /// The strip reads the order when it is built again.
   std::vector<std::string> OnStrip() {
     std::vector<std::string> titles;
-    for (int i = 2; i <= parts->Toolbar.ButtonCount; ++i) {
-      const std::string& path = parts->Toolbar.ToolbarButtons[static_cast<std::size_t>(i)].Path;
+    for (int i = 2; i <= parts->Toolbar.Buttons.ButtonCount; ++i) {
+      const std::string& path =
+          parts->Toolbar.Buttons.ToolbarButtons[static_cast<std::size_t>(i)].Path;
       titles.push_back(RecordAt(path.substr(path.rfind('\\') + 1), 1).FTitle);
     }
     return titles;

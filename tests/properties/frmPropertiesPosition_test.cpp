@@ -170,7 +170,7 @@ TEST_F(PropertiesPosition, AStripInTheTaskBarStaysThere) {
   Desktop().RestoreMinimized(parts->Companion.hWnd());
   Desktop().Advance(300);
   EXPECT_TRUE(parts->Toolbar.Visible());
-  EXPECT_EQ(parts->Toolbar.ButtonCount, 2);
+  EXPECT_EQ(parts->Toolbar.Buttons.ButtonCount, 2);
 }
 
 // ---- the window ----

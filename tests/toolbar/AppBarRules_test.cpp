@@ -1,6 +1,6 @@
 // The strip as a bar of the shell: rules by tables.
 
-#include "toolbar/AppBarRules.h"
+#include "toolbar/docking/AppBarRules.h"
 
 #include <gtest/gtest.h>
 

@@ -107,11 +107,11 @@ TEST(AutoHide, ColoursAndFilesThatChangeLeaveALineALineUntilItIsTouched) {
     desk.Poll();
     EXPECT_EQ(desk.Bounds(), row.revealed);
     const frmToolbar& strip = desk.Strip;
-    EXPECT_EQ(strip.ButtonCount, 5);
-    EXPECT_EQ(strip.SingleCount, 2);
+    EXPECT_EQ(strip.Buttons.ButtonCount, 5);
+    EXPECT_EQ(strip.Singles.SingleCount, 2);
     EXPECT_TRUE(strip.picSingleButton.Visible());
     // Both boxes have the places of what is left.
-    const ButtonRect& last = strip.ToolbarButtons.back();
+    const ButtonRect& last = strip.Buttons.ToolbarButtons.back();
     if (IsVertical(row.at)) {
       EXPECT_EQ(strip.picToolbar.Height(), last.Bottom() + strip.TwipsY);
       EXPECT_EQ(strip.picSingleButton.Bottom(), strip.Height() - 2 * strip.TwipsY);
@@ -462,7 +462,7 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
   });
   desk.World.Desktop.Jump(5);
-  desk.Strip.Form_MouseMove(forms::MouseButton::None, {}, 0, 0);
+  desk.Strip.MouseMove(forms::MouseButton::None, {}, 0, 0);
   desk.World.Desktop.StopTimer(inside);
   EXPECT_EQ(ticks, 1);
   EXPECT_FALSE(desk.TheProgram.Guards.HideBusy);
@@ -565,7 +565,7 @@ TEST(AutoHide, ACoveredStripIsPutBeforeTheOtherOnlyUnderAFullScreenProgram) {
       const WindowId cover =
           desk.World.Desktop.AddOtherWindow({.Title = "Full screen", .Bounds = {0, 0, 1024, 768}});
       desk.World.Desktop.TakeForeground(cover);
-      desk.Strip.EnsureToolbarVisible();
+      desk.Strip.Hiding.EnsureToolbarVisible();
       const bool before = desk.World.Desktop.WindowAt({50, 20}) != cover;
       EXPECT_EQ(before, fullScreen && !option4);
     }

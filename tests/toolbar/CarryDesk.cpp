@@ -73,7 +73,7 @@ void CarryDesk::Start() {
 void CarryDesk::Exit() { Companion.Unload(); }
 
 PixelPoint CarryDesk::Middle(int button) const {
-  const ButtonRect& rect = Strip.ToolbarButtons[static_cast<std::size_t>(button)];
+  const ButtonRect& rect = Strip.Buttons.ToolbarButtons[static_cast<std::size_t>(button)];
   const float x = Strip.Left() + Strip.picToolbar.Left() + rect.Left + rect.Width / 2;
   const float y = Strip.Top() + Strip.picToolbar.Top() + rect.Top + rect.Height / 2;
   return {RoundToInt(x / Strip.TwipsX), RoundToInt(y / Strip.TwipsY)};

@@ -10,9 +10,9 @@
 #include "core/Program.h"
 #include "menus/frmQMenu.h"
 #include "sim/World.h"
-#include "toolbar/DragImage.h"
-#include "toolbar/frmMinimize.h"
-#include "toolbar/frmToolbar.h"
+#include "toolbar/companion/DragImage.h"
+#include "toolbar/companion/frmMinimize.h"
+#include "toolbar/strip/frmToolbar.h"
 
 namespace corvelle {
 

@@ -1,4 +1,4 @@
-#include "toolbar/CarryRules.h"
+#include "toolbar/layout/CarryRules.h"
 
 #include <gtest/gtest.h>
 

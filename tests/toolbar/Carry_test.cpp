@@ -1,5 +1,7 @@
 // Entries in the hand: picked up in a menu, carried, put down.
 
+#include "core/Carry.h"
+
 #include <gtest/gtest.h>
 
 #include "core/MenuFile.h"
@@ -445,6 +447,61 @@ TEST(Carry, AnEntryOfTheRowGoesIntoAMenuAndLeavesTheRow) {
   EXPECT_FALSE(desk.World.Files.Has("C:\\Corvelle\\Menus\\BMENU001.BTN"));
 }
 
+// ---- the still picture ----
+
+/// Notes what is covered and uncovered.
+class NotedStill final : public CapturePort {
+ public:
+  Titles Asked;
+  void CaptureMenu() override { Asked.emplace_back("cover"); }
+  void ReleaseMenu() override { Asked.emplace_back("uncover"); }
+  bool MenuCaptured() const override { return false; }
+  void SetPicture1() override {}
+  void ResetPicture1() override {}
+  void SetPosition(Edge) override {}
+  void ClearBg() override {}
+  std::optional<Edge> OutlineEdge() const override { return {}; }
+};
+
+TEST(MenuStill, CoversTheMenuUntilItsScopeEnds) {
+  NotedStill still;
+  {
+    const MenuStill covered(&still);
+    EXPECT_EQ(still.Asked, Titles{"cover"});
+  }
+  EXPECT_EQ(still.Asked, (Titles{"cover", "uncover"}));
+  const MenuStill without(nullptr);
+}
+
+TEST(Carry, AnItemThatIsPutDownOnItselfChangesNothingAndCoversNothing) {
+  CarryDesk desk;
+  NotedStill still;
+  desk.Start();
+  desk.Open(2);
+  desk.PointAt(desk.ItemPoint(2));
+  EntryEdit& entry = desk.TheProgram.Entry;
+  const auto stored = desk.World.Files.Get(desk.FileOf(1));
+  entry.ItemDragging = true;
+  entry.CurMenuTag = "F2";
+  entry.CurFile = desk.FileOf(1);
+  entry.CurTitle = "B";
+  entry.CurRecord = 3;
+  entry.CurStored = stored->substr(2 * kRecordLength, kRecordLength);
+  desk.TheProgram.Ports.Capture = &still;
+  desk.Menu.DoItemDrag({});
+  EXPECT_EQ(still.Asked, Titles{});
+  EXPECT_EQ(desk.World.Files.Get(desk.FileOf(1)), stored);
+  EXPECT_TRUE(desk.Menu.MenuVisible());
+  // On another one it is covered while the files are rewritten, and seen again then.
+  desk.PointAt(desk.ItemPoint(4));
+  desk.Menu.DoItemDrag({});
+  EXPECT_GE(still.Asked.size(), 2U);
+  EXPECT_EQ(still.Asked.front(), "cover");
+  EXPECT_EQ(still.Asked.back(), "uncover");
+  EXPECT_EQ(desk.ItemsOf(1), (Titles{"A", "C", "B", "D"}));
+  desk.TheProgram.Ports.Capture = nullptr;
+}
+
 // ---- elsewhere ----
 
 TEST(Carry, PutDownElsewhereNothingHappens) {
@@ -473,7 +530,7 @@ TEST(Carry, WhoseReleaseAnotherProgramGotIsAbandoned) {
   desk.To(CarryDesk::kAway);
   EXPECT_TRUE(desk.Carries());
   desk.Release();
-  desk.Strip.GetCurButton();
+  desk.Strip.Menus.GetCurButton();
   EXPECT_TRUE(desk.Carries()) << "the release may still be on its way";
   desk.World.Desktop.Advance(400);
   EXPECT_FALSE(desk.Carries());
@@ -532,15 +589,15 @@ TEST(CarryGuards, ASecondReleaseAClickAndTheTimersInsideADropDoNothing) {
   desk.Row.WhileDropping = [&] {
     dropping = desk.TheProgram.Drag.ItemDropping;
     desk.Menu.Form_MouseUp(MouseButton::Left, {}, 600, 600);
-    desk.Strip.picToolbar_MouseUp(MouseButton::Left, {}, 0, 0);
+    desk.Strip.picToolbar.MouseUp(MouseButton::Left, {}, 0, 0);
     desk.Menu.Form_MouseDown(MouseButton::Left, {.Ctrl = true}, 600, 600);
-    desk.Strip.GetCurButton();
+    desk.Strip.Menus.GetCurButton();
     desk.World.Desktop.Jump(1000);
-    desk.Strip.GetCurButton();
+    desk.Strip.Menus.GetCurButton();
     desk.World.Desktop.SetPointerPosition(CarryDesk::kAway);
     desk.Picture.Timer1.Tick();
     EXPECT_EQ(desk.Pointer(), MousePointer::Hourglass);
-    desk.Strip.Timer2_Timer();
+    desk.Strip.Menus.Timer2_Timer();
     EXPECT_TRUE(desk.Carries());
     EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "B");
   };

@@ -8,7 +8,7 @@
 #include "core/Program.h"
 #include "launch/BuiltInTempFiles.h"
 #include "sim/World.h"
-#include "toolbar/frmStartup.h"
+#include "toolbar/notices/frmStartup.h"
 
 namespace corvelle {
 namespace {

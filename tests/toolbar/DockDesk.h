@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "toolbar/StripDesk.h"
-#include "toolbar/frmImage.h"
-#include "toolbar/mAppBar.h"
+#include "toolbar/docking/frmImage.h"
+#include "toolbar/docking/mAppBar.h"
 
 namespace corvelle {
 

@@ -1,6 +1,6 @@
 // The picture at the pointer while an entry is carried.
 
-#include "toolbar/DragImage.h"
+#include "toolbar/companion/DragImage.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Who is active after the strip was hidden for a rebuild, and meanwhile.
 
-#include "toolbar/ForegroundScope.h"
+#include "toolbar/docking/ForegroundScope.h"
 
 #include <gtest/gtest.h>
 

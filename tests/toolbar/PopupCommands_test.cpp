@@ -264,7 +264,7 @@ TEST(PopupFailures, AButtonWhoseFileIsHeldStaysAndThatIsSaid) {
   desk.RightClickButton(2, "Delete Item");
   desk.World.Files.LetGo(PopupDesk::FileOf(1));
   EXPECT_EQ(desk.World.Desktop.Boxes().size(), 2U);
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
 }
 
 TEST(PopupFailures, ASingleButtonThatCannotBeWrittenStaysAndThatIsSaid) {

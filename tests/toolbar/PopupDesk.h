@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "menus/frmQMenu.h"
-#include "toolbar/Popup.h"
 #include "toolbar/StripDesk.h"
+#include "toolbar/companion/Popup.h"
 
 namespace corvelle {
 

@@ -1,6 +1,6 @@
 // The popup of right clicks: its lines and when each is enabled.
 
-#include "toolbar/PopupRules.h"
+#include "toolbar/companion/PopupRules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Right clicks: the popup, and what each of its lines does to files and screen.
 
-#include "toolbar/Popup.h"
+#include "toolbar/companion/Popup.h"
 
 #include <gtest/gtest.h>
 
@@ -260,10 +260,10 @@ TEST(PopupOnAnItem, InsertSeparatorPutsOneAboveItButNeverAboveTheFirst) {
 
 TEST(PopupOnTheStrip, AddButtonMakesAFileWithOneItemAndShowsTheButton) {
   PopupDesk desk;
-  const int before = desk.Strip.ButtonCount;
+  const int before = desk.Strip.Buttons.ButtonCount;
   const float left = desk.Strip.Left();
   desk.RightClickFrame("Add Button");
-  EXPECT_EQ(desk.Strip.ButtonCount, before + 1);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, before + 1);
   EXPECT_EQ(desk.Titles(3), "New Button|New Menu Item|");
   EXPECT_EQ(desk.RecordOf(3, 1).FIcon, "Button");
   EXPECT_EQ(desk.RecordOf(3, 2).FIcon, "New");
@@ -276,12 +276,12 @@ TEST(PopupOnTheStrip, AddButtonMakesAFileWithOneItemAndShowsTheButton) {
 
 TEST(PopupOnTheStrip, ADiskThatTakesNoNewButtonSaysSo) {
   PopupDesk desk;
-  const int before = desk.Strip.ButtonCount;
+  const int before = desk.Strip.Buttons.ButtonCount;
   desk.World.Desktop.Answer("75 - Path/File access error", forms::msgbox::AnswerOk);
   desk.World.Files.Protect("C:\\Corvelle\\Menus");
   desk.RightClickFrame("Add Button");
   desk.World.Files.Protect("C:\\Corvelle\\Menus", false);
-  EXPECT_EQ(desk.Strip.ButtonCount, before);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, before);
   EXPECT_EQ(desk.World.Desktop.Boxes().back().Flags, 0x40040U);
   EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
 }
@@ -293,7 +293,7 @@ TEST(PopupOnAButton, DeleteAsksAndTakesTheButtonWithItsMenu) {
   desk.World.Desktop.Answer(kDeleteQuestion, forms::msgbox::AnswerYes);
   desk.RightClickButton(2, "Delete Item");
   EXPECT_EQ(desk.World.Desktop.Boxes().back().Flags & 0xFU, forms::msgbox::YesNo);
-  EXPECT_EQ(desk.Strip.ButtonCount, 2);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 2);
   EXPECT_EQ(desk.Titles(1), "Others|Other|");
   EXPECT_EQ(desk.Titles(2), "");
   EXPECT_TRUE(desk.TheProgram.Entry.UndoMenuTag.empty());
@@ -305,7 +305,7 @@ TEST(PopupOnAButton, DeleteWithANoChangesNothing) {
   desk.RightClickItem(1, "Delete Item");
   desk.World.Desktop.Answer(kDeleteQuestion, forms::msgbox::AnswerNo);
   desk.RightClickButton(3, "Delete Item");
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
   EXPECT_EQ(desk.Titles(2), "Others|Other|");
   // What was deleted before can still be brought back.
   EXPECT_EQ(desk.TheProgram.Entry.UndoMenuTag, "F2");
@@ -342,7 +342,7 @@ TEST(PopupRefresh, ReadsTheButtonsAnew) {
     } else {
       desk.RightClickButton(2, "Refresh");
     }
-    EXPECT_EQ(desk.Strip.ButtonCount, 4);
+    EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 4);
     // The new one has its place on the strip.
     desk.OpenMenuOf(4);
     EXPECT_EQ(desk.Shown(), "Newest|");
@@ -359,7 +359,7 @@ TEST(PopupRefresh, MovesTheStripForOtherButtonsAlone) {
   // A button less takes its width from the left, as the edit of a button does.
   desk.World.Files.Vanish(PopupDesk::FileOf(2));
   desk.RightClickFrame("Refresh");
-  EXPECT_EQ(desk.Strip.ButtonCount, 2);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 2);
   EXPECT_LT(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).Width(), strip.Width());
   EXPECT_EQ(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).right, strip.right);
 }
@@ -370,7 +370,7 @@ TEST(PopupRefresh, OnAnItemOfTheMainMenuClosesItAndNothingElse) {
   desk.PutMenu(3, {Entry("Third", "Button")});
   desk.ChooseFor({.CurTitle = "About...", .CurMenuTag = "Q1", .CurRecord = 9}, "Refresh");
   EXPECT_FALSE(desk.RealMenu.MenuVisible());
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
 }
 
 }  // namespace

@@ -9,8 +9,8 @@
 #include "menus/frmQMenu.h"
 #include "platform/Input.h"
 #include "toolbar/StripDesk.h"
-#include "toolbar/frmHelp.h"
-#include "toolbar/frmImage.h"
+#include "toolbar/docking/frmImage.h"
+#include "toolbar/notices/frmHelp.h"
 
 namespace corvelle {
 namespace {
@@ -219,7 +219,7 @@ TEST(QuickHand, AReleaseFromTheStripChoosesThoughTheSelectionWentBeforeIt) {
   desk.PointAt({900, 700});
   desk.Wait(200);
   ASSERT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
-  desk.Strip.picToolbar_MouseUp(MouseButton::Left, {},
+  desk.Strip.picToolbar.MouseUp(MouseButton::Left, {},
                                 static_cast<float>(item.x - box.left) * desk.Strip.TwipsX,
                                 static_cast<float>(item.y - box.top) * desk.Strip.TwipsY);
   EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i3.exe"});

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/Twips.h"
-#include "toolbar/StripLook.h"
+#include "toolbar/layout/StripLook.h"
 
 namespace corvelle {
 

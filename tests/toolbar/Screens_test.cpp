@@ -5,7 +5,7 @@
 #include <string>
 
 #include "toolbar/DockDesk.h"
-#include "toolbar/frmHelp.h"
+#include "toolbar/notices/frmHelp.h"
 
 namespace corvelle {
 namespace {

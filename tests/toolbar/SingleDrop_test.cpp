@@ -160,7 +160,7 @@ TEST(SingleCarry, OverAMenuButtonItsMenuOpensAndTheDropGoesThere) {
 TEST(SingleCarry, ThatIsLostEndsWithTheNextMove) {
   DropDesk desk;
   desk.CarryTo(2, {200, 500});
-  desk.Strip.picSingleButton_MouseMove(forms::MouseButton::None, {}, 0, 0);
+  desk.Strip.picSingleButton.MouseMove(forms::MouseButton::None, {}, 0, 0);
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
   EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
   EXPECT_EQ(desk.Parts.Times("no image"), 1);
@@ -292,7 +292,7 @@ TEST(AddNewButton, MakesAMenuBehindTheOthers) {
   DropDesk desk("ab");
   const float right = desk.Strip.Left() + desk.Strip.Width();
   desk.Strip.AddNewButton();
-  EXPECT_EQ(desk.Strip.ButtonCount, 4);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 4);
   EXPECT_EQ(desk.World.Files.Get(std::string(kMenus) + MenuFileName(3)),
             Records({Entry("New Button", "Button"), Entry("New Menu Item", "New")}));
   // The strip grew to the left by what the button takes.
@@ -313,7 +313,7 @@ TEST(AddNewButton, OnADiskThatRefusesThereIsNone) {
   desk.World.Files.Protect("C:\\Corvelle\\Menus");
   desk.World.Desktop.Answer("75 - Path/File access error", forms::msgbox::AnswerOk);
   desk.Strip.AddNewButton();
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
   EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
 }
 

@@ -1,4 +1,4 @@
-#include "toolbar/SingleLayout.h"
+#include "toolbar/singles/SingleLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The row of single buttons: what stands in it, and running what stands there.
 
-#include "toolbar/SingleRow.h"
+#include "toolbar/singles/SingleRow.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ TEST(SingleRow, StandsInTheOrderOfItsFiles) {
   desk.PutSingle(5, "b");
   desk.Start();
   EXPECT_EQ(desk.Row(), "a-bc");
-  EXPECT_EQ(desk.Strip.SingleCount, 4);
+  EXPECT_EQ(desk.Strip.Singles.SingleCount, 4);
   EXPECT_EQ(desk.Strip.Singles.LineCount, 1);
   // They are not renamed.
   EXPECT_EQ(desk.OnDisk(), "2a 3Separator 5b 10c");
@@ -51,7 +51,7 @@ TEST(SingleRow, DamagedFilesHarmNoOtherButton) {
   desk.PutSingle(6, "f");
   desk.World.Files.HoldOpen("C:\\Corvelle\\Menus\\BMENU005.BTN");
   desk.Start();
-  ASSERT_EQ(desk.Strip.SingleCount, 5);
+  ASSERT_EQ(desk.Strip.Singles.SingleCount, 5);
   EXPECT_EQ(desk.Strip.Singles.SingleButtons[1].Title, "a");
   EXPECT_EQ(desk.Strip.Singles.SingleButtons[2].Title, "");
   EXPECT_EQ(desk.Strip.Singles.SingleButtons[4].Title, "d");
@@ -63,7 +63,7 @@ TEST(SingleRow, TwoHundredButtonsAreReadOnceEachAndDrawn) {
   for (int i = 1; i <= 200; ++i) desk.PutSingle(i, "b");
   desk.World.Files.ClearLog();
   desk.Start();
-  EXPECT_EQ(desk.Strip.SingleCount, 200);
+  EXPECT_EQ(desk.Strip.Singles.SingleCount, 200);
   EXPECT_EQ(desk.World.Files.Reads(), 200 + 2 + 2);  // the menus, the saved position, no journal
   // A repaint asks for no icon.
   desk.World.Icons.ClearCounts();
@@ -169,7 +169,7 @@ TEST(SingleRow, ColoursAndFilesThatChangeWhileIconsAreFetchedShowInTheWholeStrip
     desk.Strip.RefreshToolbar();
     EXPECT_GT(asked, at);
     EXPECT_EQ(desk.Row(), "abc" + std::string(16, 'd'));
-    EXPECT_EQ(desk.Strip.ButtonCount, 20);
+    EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 20);
     const auto row = desk.Strip.picSingleButton.Image();
     EXPECT_EQ(row->PixelAt({1, 2}), 0x00123456U);
     for (int i = 1; i <= 19; ++i) {
@@ -222,7 +222,7 @@ TEST(SingleRow, AnUnloadedStripHasNone) {
   desk.PutSingles("a-");
   desk.Start();
   desk.Strip.UnloadItems();
-  EXPECT_EQ(desk.Strip.SingleCount, 0);
+  EXPECT_EQ(desk.Strip.Singles.SingleCount, 0);
   EXPECT_EQ(desk.Strip.Singles.SingleButtons.size(), 1U);
   EXPECT_EQ(desk.Strip.Line1.Last(), 0);
 }
@@ -345,7 +345,7 @@ TEST(SingleClick, ThatClosesAMenuRunsNothing) {
   desk.ClickSingle(1);
   EXPECT_EQ(desk.MenuUp(), 0);
   EXPECT_TRUE(desk.Started().empty());
-  EXPECT_FALSE(desk.Strip.FrameDragging);
+  EXPECT_FALSE(desk.Strip.Pull.FrameDragging);
 }
 
 TEST(SingleClick, ARowThatIsReadAnewUnderThePressRunsNothing) {
@@ -369,7 +369,7 @@ TEST(SingleGuards, WhileAnEntryIsCarriedAPressIsNone) {
   desk.Start();
   desk.TheProgram.Entry.ItemDragging = true;
   desk.World.Desktop.KeyDown(1);
-  desk.Strip.picSingleButton_MouseDown(forms::MouseButton::Left, {}, 100, 100);
+  desk.Strip.picSingleButton.MouseDown(forms::MouseButton::Left, {}, 100, 100);
   EXPECT_TRUE(desk.Parts.Asked.empty());
   desk.TheProgram.Menu.CurSingle = 1;
   desk.Strip.Singles.RunSingleButton();

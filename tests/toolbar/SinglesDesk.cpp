@@ -87,7 +87,7 @@ void SinglesDesk::StartAt(corvelle::Edge at) {
 
 std::string SinglesDesk::Row() const {
   std::string row;
-  for (int i = 1; i <= Strip.SingleCount; ++i) {
+  for (int i = 1; i <= Strip.Singles.SingleCount; ++i) {
     const SingleRect& single = Strip.Singles.SingleButtons[static_cast<std::size_t>(i)];
     row += single.Kind == SingleKind::Separator ? "-" : single.Title.substr(0, 1);
   }

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "toolbar/RuleText.h"
-#include "toolbar/StripLayout.h"
+#include "toolbar/layout/StripLayout.h"
 
 namespace corvelle {
 namespace {

@@ -191,8 +191,8 @@ TEST(StripDate, ADoubleClickOpensThePanelOfDateAndTime) {
 TEST(StripDate, WhileAnEntryIsCarriedItDoesNothing) {
   DateDesk desk;
   desk.TheProgram.Entry.ItemDragging = true;
-  desk.Strip.lblDate_MouseMove(forms::MouseButton::None, {}, 0, 0);
-  desk.Strip.lblDate_DblClick();
+  desk.Strip.lblDate.MouseMove(forms::MouseButton::None, {}, 0, 0);
+  desk.Strip.lblDate.DblClick();
   EXPECT_EQ(desk.Parts.Hint, "");
   EXPECT_TRUE(desk.World.Shell.Log().empty());
   desk.TheProgram.Entry.ItemDragging = false;

@@ -93,7 +93,7 @@ void StripDesk::Start() {
 void StripDesk::Exit() { Companion.Unload(); }
 
 PixelPoint StripDesk::Middle(int button) const {
-  const ButtonRect& rect = Strip.ToolbarButtons[static_cast<std::size_t>(button)];
+  const ButtonRect& rect = Strip.Buttons.ToolbarButtons[static_cast<std::size_t>(button)];
   const float x = Strip.Left() + Strip.picToolbar.Left() + rect.Left + rect.Width / 2;
   const float y = Strip.Top() + Strip.picToolbar.Top() + rect.Top + rect.Height / 2;
   return {RoundToInt(x / Strip.TwipsX), RoundToInt(y / Strip.TwipsY)};
@@ -124,8 +124,8 @@ int StripDesk::WakeUps(int milliseconds) {
 
 std::vector<std::string> StripDesk::ButtonFiles() const {
   std::vector<std::string> files;
-  for (int i = 1; i <= Strip.ButtonCount; ++i) {
-    files.push_back(Strip.ToolbarButtons[static_cast<std::size_t>(i)].Path);
+  for (int i = 1; i <= Strip.Buttons.ButtonCount; ++i) {
+    files.push_back(Strip.Buttons.ToolbarButtons[static_cast<std::size_t>(i)].Path);
   }
   return files;
 }

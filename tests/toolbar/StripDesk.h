@@ -13,8 +13,8 @@
 #include "core/Program.h"
 #include "forms/Form.h"
 #include "sim/World.h"
-#include "toolbar/frmMinimize.h"
-#include "toolbar/frmToolbar.h"
+#include "toolbar/companion/frmMinimize.h"
+#include "toolbar/strip/frmToolbar.h"
 
 namespace corvelle {
 

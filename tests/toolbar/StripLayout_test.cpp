@@ -1,4 +1,4 @@
-#include "toolbar/StripLayout.h"
+#include "toolbar/layout/StripLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "toolbar/StripLook.h"
+#include "toolbar/layout/StripLook.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "toolbar/StripPlace.h"
+#include "toolbar/layout/StripPlace.h"
 
 #include <gtest/gtest.h>
 

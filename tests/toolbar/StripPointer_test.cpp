@@ -1,4 +1,4 @@
-#include "toolbar/StripPointer.h"
+#include "toolbar/layout/StripPointer.h"
 
 #include <gtest/gtest.h>
 

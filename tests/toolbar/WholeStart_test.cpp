@@ -9,10 +9,10 @@
 #include "core/Program.h"
 #include "menus/frmQMenu.h"
 #include "sim/World.h"
-#include "toolbar/frmMinimize.h"
-#include "toolbar/frmStartup.h"
-#include "toolbar/frmToolbar.h"
-#include "toolbar/mAppBar.h"
+#include "toolbar/companion/frmMinimize.h"
+#include "toolbar/docking/mAppBar.h"
+#include "toolbar/notices/frmStartup.h"
+#include "toolbar/strip/frmToolbar.h"
 
 namespace corvelle {
 namespace {
@@ -93,7 +93,7 @@ TEST_F(WholeStart, TheSecondStartAsksNothingAndMakesNoEntries) {
   Installation second(world);
   ASSERT_TRUE(Main(second.TheProgram));
   EXPECT_EQ(second.Entries.Calls, 0);
-  EXPECT_EQ(second.Strip.ButtonCount, 2);
+  EXPECT_EQ(second.Strip.Buttons.ButtonCount, 2);
   EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
   second.Companion.Unload();
 }

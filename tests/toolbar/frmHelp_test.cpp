@@ -1,9 +1,9 @@
-#include "toolbar/frmHelp.h"
+#include "toolbar/notices/frmHelp.h"
 
 #include <gtest/gtest.h>
 
-#include "toolbar/HintPlace.h"
 #include "toolbar/StripDesk.h"
+#include "toolbar/notices/HintPlace.h"
 
 namespace corvelle {
 namespace {
@@ -182,7 +182,7 @@ TEST_F(Hint, WithOption22NoneIsDueAfterASecondPressEither) {
   desk.Click(2);
   desk.Wait();
   desk.Click(2);
-  EXPECT_EQ(desk.Strip.TipDueAt, 0);
+  EXPECT_EQ(desk.Strip.Menus.Hint.TipDueAt, 0);
   EXPECT_FALSE(desk.Strip.Timer2.Enabled());
 }
 
@@ -208,7 +208,7 @@ TEST_F(Hint, GoesAtOnceWhenThePointerComesToTheGrip) {
 TEST_F(Hint, APressOnTheFrameTakesItAway) {
   hint.SetHint("a hint");
   ASSERT_TRUE(Up());
-  desk.Strip.Form_MouseDown(forms::MouseButton::Left, {}, 5, 5);
+  desk.Strip.MouseDown(forms::MouseButton::Left, {}, 5, 5);
   EXPECT_FALSE(Up());
 }
 

@@ -1,6 +1,6 @@
 // The still picture that covers the menu or the strip while it is rebuilt.
 
-#include "toolbar/frmImage.h"
+#include "toolbar/docking/frmImage.h"
 
 #include <gtest/gtest.h>
 

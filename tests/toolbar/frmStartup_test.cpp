@@ -6,7 +6,7 @@
 
 #include "core/Program.h"
 #include "sim/World.h"
-#include "toolbar/frmStartup.h"
+#include "toolbar/notices/frmStartup.h"
 
 namespace corvelle {
 namespace {

@@ -1,10 +1,10 @@
-#include "toolbar/frmTip.h"
+#include "toolbar/notices/frmTip.h"
 
 #include <gtest/gtest.h>
 
 #include "core/OptionFlags.h"
 #include "toolbar/StripDesk.h"
-#include "toolbar/TipLayout.h"
+#include "toolbar/notices/TipLayout.h"
 
 namespace corvelle {
 namespace {

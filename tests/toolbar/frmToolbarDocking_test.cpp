@@ -60,7 +60,7 @@ TEST(ToolbarDocking, AStripAtTheTopOnlyRegisters) {
   DockingDesk desk;
   desk.Start();
   EXPECT_EQ(desk.Docking.Asked, Calls{"RegisterAppBar"});
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
 }
 
 TEST(ToolbarDocking, ARequestedEdgeIsDocked) {
@@ -160,7 +160,7 @@ TEST(ToolbarDocking, ARestoreThatIsAskedForDuringAPlacingComesAfterwardsAndIsThe
   EXPECT_EQ(desk.Docking.Asked, Calls{"RemoveAppBar"});
   EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
   EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Top);
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
   EXPECT_EQ(desk.WakeUps(2000), 0);
 }
 
@@ -176,7 +176,7 @@ TEST(ToolbarDocking, RestoreGivesUpTheEdgeAndComesToTheTop) {
   EXPECT_FALSE(desk.TheProgram.Strip.AppBarDocked);
   EXPECT_FALSE(desk.TheProgram.Strip.ToolbarVertical);
   EXPECT_EQ(desk.Strip.Top(), -7 * 15);
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
 }
 
 TEST(ToolbarDocking, ADockedStripAnswersTheShellAndAFloatingOneLetsItPass) {
@@ -229,10 +229,8 @@ TEST(ToolbarDocking, APointerOnTheHiddenLineRevealsTheStripOnce) {
   desk.Strip.picToolbar.SetVisible(false);
   desk.Docking.Asked.clear();
   // A move arrives while the strip is being revealed.
-  desk.Docking.WhileDocking = [&] {
-    desk.Strip.Form_MouseMove(forms::MouseButton::None, {}, 10, 0);
-  };
-  desk.Strip.Form_MouseMove(forms::MouseButton::None, {}, 10, 0);
+  desk.Docking.WhileDocking = [&] { desk.Strip.MouseMove(forms::MouseButton::None, {}, 10, 0); };
+  desk.Strip.MouseMove(forms::MouseButton::None, {}, 10, 0);
   EXPECT_EQ(desk.Docking.Asked, Calls{"RevealToolbar"});
   EXPECT_FALSE(desk.TheProgram.Guards.HideBusy);
 }

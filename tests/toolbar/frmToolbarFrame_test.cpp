@@ -79,7 +79,7 @@ TEST(ToolbarSlide, TheSecondPressOfAQuickPairTakesHoldToo) {
     const PixelPoint from = byGrip ? desk.Grip() : PixelPoint{strip.left + 3, strip.bottom - 2};
     desk.PointAt(from);
     desk.World.Desktop.DoubleClick();
-    EXPECT_FALSE(desk.Strip.FrameHeld);
+    EXPECT_FALSE(desk.Strip.Pull.FrameHeld);
     EXPECT_EQ(desk.Strip.Left(), 3000);
     // Held this time.
     const std::function<void()>& second =
@@ -88,9 +88,9 @@ TEST(ToolbarSlide, TheSecondPressOfAQuickPairTakesHoldToo) {
     second();
     const float x = static_cast<float>(from.x - strip.left + 50) * 15;
     const float y = static_cast<float>(from.y - strip.top) * 15;
-    desk.Strip.Form_MouseMove(MouseButton::Left, {}, x, y);
+    desk.Strip.MouseMove(MouseButton::Left, {}, x, y);
     EXPECT_EQ(desk.Strip.Left(), 3000 + 50 * 15);
-    desk.Strip.Form_MouseUp(MouseButton::Left, {}, x, y);
+    desk.Strip.MouseUp(MouseButton::Left, {}, x, y);
     EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000 + 50 * 15));
     EXPECT_FALSE(desk.LooksDragged());
   }
@@ -171,10 +171,10 @@ TEST(ToolbarSlide, NothingMovesWhileTheStripIsPlacedAnew) {
 
 TEST(ToolbarSlide, APressDuringACarryTakesNoHold) {
   Floating desk;
-  desk.Strip.DownX = -1;
+  desk.Strip.Pull.DownX = -1;
   desk.TheProgram.Entry.ItemDragging = true;
-  desk.Strip.Form_MouseDown(MouseButton::Left, {}, 100, 100);
-  EXPECT_EQ(desk.Strip.DownX, -1);
+  desk.Strip.MouseDown(MouseButton::Left, {}, 100, 100);
+  EXPECT_EQ(desk.Strip.Pull.DownX, -1);
 }
 
 TEST(ToolbarFrame, APointerWithoutAButtonDrawsTheRestingBorder) {
@@ -269,10 +269,10 @@ TEST(ToolbarFrame, AMoveOverItWithTheMenuUpLeavesMenuAndStripAlone) {
   Floating desk;
   desk.Click(2);
   ASSERT_EQ(desk.MenuUp(), 2);
-  desk.Strip.FrameHeld = true;
-  desk.Strip.Form_MouseMove(MouseButton::Left, {}, desk.Strip.DownX + 900, desk.Strip.DownY);
-  EXPECT_TRUE(desk.Strip.FrameDragging);
-  EXPECT_FALSE(desk.Strip.FrameMoved);
+  desk.Strip.Pull.FrameHeld = true;
+  desk.Strip.MouseMove(MouseButton::Left, {}, desk.Strip.Pull.DownX + 900, desk.Strip.Pull.DownY);
+  EXPECT_TRUE(desk.Strip.Pull.FrameDragging);
+  EXPECT_FALSE(desk.Strip.Pull.FrameMoved);
   EXPECT_EQ(desk.MenuUp(), 2);
   EXPECT_EQ(desk.Strip.Left(), 3000);
 }
@@ -280,12 +280,12 @@ TEST(ToolbarFrame, AMoveOverItWithTheMenuUpLeavesMenuAndStripAlone) {
 TEST(ToolbarFrame, TheBareFrameMovesNothingWhileTheStripIsPlacedAnew) {
   for (bool GuardFlags::*const flag : {&GuardFlags::RestoreBusy, &GuardFlags::AppBarBusy}) {
     Floating desk;
-    desk.Strip.Form_MouseDown(MouseButton::Left, {}, 30, 30);
+    desk.Strip.MouseDown(MouseButton::Left, {}, 30, 30);
     desk.TheProgram.Guards.*flag = true;
-    desk.Strip.Form_MouseMove(MouseButton::Left, {}, 930, 30);
+    desk.Strip.MouseMove(MouseButton::Left, {}, 930, 30);
     EXPECT_EQ(desk.Strip.Left(), 3000);
     desk.TheProgram.Guards.*flag = false;
-    desk.Strip.Form_MouseMove(MouseButton::Left, {}, 930, 30);
+    desk.Strip.MouseMove(MouseButton::Left, {}, 930, 30);
     EXPECT_EQ(desk.Strip.Left(), 3900);
   }
 }
@@ -299,9 +299,9 @@ TEST(ToolbarFrame, AfterThePopupOfTheGripNobodyHoldsTheStrip) {
   ASSERT_EQ(popup.Tags.size(), 1U);
   const float left = desk.Strip.Left();
   // Another program's press that comes over the grip without its keeping the mouse.
-  desk.Strip.lblSep_MouseMove(0, MouseButton::Left, {}, 900, 60);
+  desk.Strip.lblSep[0].MouseMove(MouseButton::Left, {}, 900, 60);
   EXPECT_EQ(desk.Strip.Left(), left);
-  EXPECT_FALSE(desk.Strip.FrameMoved);
+  EXPECT_FALSE(desk.Strip.Pull.FrameMoved);
   EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
   desk.TheProgram.Ports.Popup = nullptr;
 }

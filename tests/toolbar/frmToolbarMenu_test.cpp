@@ -54,8 +54,8 @@ TEST(ToolbarPress, OpensTheMenuUnderItsButton) {
 TEST(ToolbarPress, MeansTheButtonUnderThePressWhereverThePointerIsByThen) {
   ThreeMenus desk;
   desk.PointAt({600, 500});
-  const ButtonRect& third = desk.Strip.ToolbarButtons[3];
-  desk.Strip.picToolbar_MouseDown(MouseButton::Left, {}, third.Left + third.Width / 2, 100);
+  const ButtonRect& third = desk.Strip.Buttons.ToolbarButtons[3];
+  desk.Strip.picToolbar.MouseDown(MouseButton::Left, {}, third.Left + third.Width / 2, 100);
   EXPECT_EQ(desk.MenuUp(), 3);
 }
 
@@ -214,7 +214,7 @@ TEST(ToolbarHover, ThePollFindsAPointerWhoseMoveNobodyReported) {
   ASSERT_TRUE(desk.Strip.Timer2.Enabled());
   // The menu window has the capture: the strip gets no move.
   desk.World.Desktop.SetPointerPosition(desk.Middle(3));
-  desk.Strip.Timer2_Timer();
+  desk.Strip.Menus.Timer2_Timer();
   EXPECT_EQ(desk.MenuUp(), 3);
 }
 
@@ -241,7 +241,7 @@ TEST(ToolbarHover, CrossingAGapKeepsTheMenu) {
   ThreeMenus desk;
   desk.PutButton(3, "", "MenuLineSeparator");
   desk.Strip.InitNewButtons();
-  ASSERT_EQ(desk.Strip.SepCount, 1);
+  ASSERT_EQ(desk.Strip.Buttons.SepCount, 1);
   desk.Click(3);
   desk.Wait();
   desk.PointAt({desk.Middle(3).x + 14, desk.Middle(3).y});
@@ -392,7 +392,7 @@ TEST(ToolbarRefresh, ATagWithoutAButtonOpensNothing) {
     desk.Strip.OpenMenu(tag);
     EXPECT_EQ(desk.MenuUp(), 0);
     EXPECT_TRUE(desk.Strip.Enabled());
-    EXPECT_FALSE(desk.Strip.MenuRefreshing);
+    EXPECT_FALSE(desk.Strip.Menus.MenuRefreshing);
   }
 }
 
@@ -403,7 +403,7 @@ TEST(ToolbarRefresh, OneThatArrivesWithinAnotherDoesNothing) {
   desk.Menu.WhileBuilding = [&] { desk.Strip.RefreshMenu("F2"); };
   desk.Strip.RefreshMenu("F2");
   EXPECT_EQ(desk.Menu.Times("ShowMenu F2"), 1);
-  EXPECT_FALSE(desk.Strip.MenuRefreshing);
+  EXPECT_FALSE(desk.Strip.Menus.MenuRefreshing);
 }
 
 TEST(ToolbarMainMenu, APressOpensNothingInAProgramWithoutOne) {
@@ -526,10 +526,10 @@ TEST(ToolbarCarry, IsAbandonedWhenNoMouseButtonIsDown) {
   desk.TheProgram.Entry.ItemDragging = true;
   desk.TheProgram.Entry.CurTitle = "Carried";
   desk.World.Desktop.SetMousePointer(forms::MousePointer::Hourglass);
-  desk.Strip.GetCurButton();
+  desk.Strip.Menus.GetCurButton();
   EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging) << "the release may still be on its way";
   desk.World.Desktop.Jump(150);
-  desk.Strip.GetCurButton();
+  desk.Strip.Menus.GetCurButton();
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
   EXPECT_TRUE(desk.TheProgram.Entry.CurTitle.empty());
   EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);

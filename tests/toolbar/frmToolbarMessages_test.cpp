@@ -6,8 +6,8 @@
 #include <string>
 
 #include "toolbar/StripDesk.h"
-#include "toolbar/frmHelp.h"
-#include "toolbar/frmTip.h"
+#include "toolbar/notices/frmHelp.h"
+#include "toolbar/notices/frmTip.h"
 
 namespace corvelle {
 namespace {

@@ -5,7 +5,7 @@
 #include "core/DroppedFiles.h"
 #include "core/NotedEdits.h"
 #include "toolbar/DragDesk.h"
-#include "toolbar/frmImage.h"
+#include "toolbar/docking/frmImage.h"
 
 namespace corvelle {
 namespace {
@@ -90,7 +90,7 @@ TEST(ToolbarOLEDragDrop, MeansTheButtonThatIsUnderThePointerByThen) {
   desk.TheProgram.Menu.CurButton = 2;
   forms::DragData data{.Files = Names{"C:\\c.txt"}};
   DropEffect effect = DropEffect::Copy;
-  desk.Strip.picToolbar_OLEDragDrop(data, effect, MouseButton::None, {}, 0, 0);
+  desk.Strip.picToolbar.OLEDragDrop(data, effect, MouseButton::None, {}, 0, 0);
   EXPECT_TRUE(desk.FileUnchanged(1));
   EXPECT_EQ(desk.RecordsOf(2).size(), 3U);
 }
@@ -99,7 +99,7 @@ TEST(ToolbarOLEDragDrop, BetweenTheButtonsNothingIsTaken) {
   DragDesk desk;
   desk.PutButton(2, "Separator", "MenuLineSeparator");
   desk.Strip.InitNewButtons();
-  ASSERT_EQ(desk.Strip.SepCount, 1);
+  ASSERT_EQ(desk.Strip.Buttons.SepCount, 1);
   const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd());
   const forms::Label& gap = desk.Strip.lblSep[1];
   desk.TakeFiles({"C:\\c.txt"});
@@ -261,11 +261,11 @@ TEST(ToolbarOLE, WhileAFileOrMenuIsBeingWorkedOnADropIsRefused) {
 TEST(ToolbarOLE, WhileTheMenuIsReadAnewADropIsRefused) {
   DragDesk desk;
   desk.TakeFiles({"C:\\c.txt"});
-  desk.Strip.MenuRefreshing = true;
+  desk.Strip.Menus.MenuRefreshing = true;
   desk.DragToButton(2);
   EXPECT_EQ(desk.Effect(), DropEffect::None);
   desk.Drop();
-  desk.Strip.MenuRefreshing = false;
+  desk.Strip.Menus.MenuRefreshing = false;
   EXPECT_TRUE(desk.FileUnchanged(1));
 }
 
@@ -370,9 +370,9 @@ TEST(SingleButtonsOLE, ClosesTheHintWhenItComesAndWhenItIsDropped) {
   desk.TheProgram.Ports.Hint = &hint;
   forms::DragData data{.Text = "a text"};
   DropEffect effect = DropEffect::Copy;
-  desk.Strip.picSingleButton_OLEDragOver(data, effect, MouseButton::Left, {}, 5, 5);
+  desk.Strip.picSingleButton.OLEDragOver(data, effect, MouseButton::Left, {}, 5, 5);
   EXPECT_EQ(hint.Closed, 1);
-  desk.Strip.picSingleButton_OLEDragDrop(data, effect, MouseButton::None, {}, 5, 5);
+  desk.Strip.picSingleButton.OLEDragDrop(data, effect, MouseButton::None, {}, 5, 5);
   EXPECT_EQ(hint.Closed, 2);
   desk.TheProgram.Ports.Hint = nullptr;
 }

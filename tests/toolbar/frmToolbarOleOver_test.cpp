@@ -128,11 +128,11 @@ TEST(ToolbarOLEDragOver, ClosesTheHintAlsoWhereThePointerWasOnTheStripBefore) {
   DragDesk desk;
   NotedHint hint;
   desk.TheProgram.Ports.Hint = &hint;
-  desk.Strip.WasHovering = true;
+  desk.Strip.Menus.WasHovering = true;
   forms::DragData data{.Files = Names{"C:\\a.txt"}};
   DropEffect effect = DropEffect::Copy;
   // Beside the buttons, where no menu opens that would close the hint as well.
-  desk.Strip.picToolbar_OLEDragOver(data, effect, MouseButton::Left, {}, 5, 5);
+  desk.Strip.picToolbar.OLEDragOver(data, effect, MouseButton::Left, {}, 5, 5);
   EXPECT_EQ(hint.Closed, 1);
   desk.TheProgram.Ports.Hint = nullptr;
 }
@@ -261,7 +261,7 @@ TEST(ToolbarDragTimer, GivesTheForegroundToNoMenuThatIsGone) {
   // The source has no window in the foreground.
   desk.World.Desktop.StartDrag({.Data = {.Files = std::vector<std::string>{"C:\\a.txt"}}});
   desk.DragToButton(3);
-  ASSERT_EQ(desk.Strip.SavedForeground, desk.Menu.hWnd());
+  ASSERT_EQ(desk.Strip.Drops.SavedForeground, desk.Menu.hWnd());
   desk.World.Desktop.TakeForeground(desk.Strip.hWnd());
   desk.PointAway();
   desk.Wait(110);
@@ -273,12 +273,12 @@ TEST(ToolbarDragTimer, GivesTheForegroundBackThatTheMenuTook) {
   DragDesk desk;
   desk.TakeFiles({"C:\\a.txt"});
   desk.DragToButton(2);
-  EXPECT_EQ(desk.Strip.SavedForeground, desk.Source);
+  EXPECT_EQ(desk.Strip.Drops.SavedForeground, desk.Source);
   desk.World.Desktop.LockForeground(false);
   desk.Menu.SetForeground();
   ASSERT_EQ(desk.Foreground(), desk.Menu.hWnd());
   desk.DragToButton(3);
-  EXPECT_EQ(desk.Strip.SavedForeground, desk.Source);
+  EXPECT_EQ(desk.Strip.Drops.SavedForeground, desk.Source);
   desk.PointAway();
   desk.Wait(110);
   EXPECT_EQ(desk.Foreground(), desk.Source);

@@ -58,7 +58,7 @@ TEST(ToolbarPull, TheOutlineFollowsTheHandAndTheStripGoesWhereItIsDropped) {
       EXPECT_EQ(desk.Bounds(), to.window);
       EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, to.at);
       EXPECT_FALSE(desk.Picture.IsLoaded());
-      EXPECT_FALSE(desk.Strip.FrameMoved);
+      EXPECT_FALSE(desk.Strip.Pull.FrameMoved);
       EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Strip.hWnd());
       EXPECT_EQ(desk.Strip.bLine3.BorderWidth(), 1);
     }
@@ -249,9 +249,9 @@ TEST(ToolbarPull, AButtonThatWentDownElsewhereDoesNotPull) {
   const PixelRect strip = desk.Bounds();
   for (const int y : {strip.top + 20, strip.top + 60, strip.bottom - 20}) {
     // As the other program does not keep the mouse, the strip is told of the moves.
-    desk.Strip.Form_MouseMove(MouseButton::Left, {}, 15, static_cast<float>(y) * 15);
+    desk.Strip.MouseMove(MouseButton::Left, {}, 15, static_cast<float>(y) * 15);
   }
-  EXPECT_FALSE(desk.Strip.FrameMoved);
+  EXPECT_FALSE(desk.Strip.Pull.FrameMoved);
   EXPECT_FALSE(desk.Picture.IsLoaded());
 }
 
@@ -269,8 +269,8 @@ TEST(ToolbarPull, WhoseReleaseAnotherProgramGotIsGivenUp) {
   desk.Wait(600);
   EXPECT_FALSE(desk.Picture.IsLoaded());
   EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
-  EXPECT_FALSE(desk.Strip.FrameHeld);
-  EXPECT_FALSE(desk.Strip.FrameMoved);
+  EXPECT_FALSE(desk.Strip.Pull.FrameHeld);
+  EXPECT_FALSE(desk.Strip.Pull.FrameMoved);
   EXPECT_EQ(desk.TheProgram.Strip.ToolbarEdge, Edge::Left);
   desk.Wait(600);
   EXPECT_FALSE(desk.Strip.Timer1.Enabled());
@@ -284,13 +284,13 @@ TEST(ToolbarPull, WhoseReleaseAnotherProgramGotEndsWithTheNextMoveOrPress) {
     desk.Pull(QuarterOf(Edge::Bottom));
     LoseRelease(desk);
     if (press) {
-      desk.Strip.Form_MouseDown(MouseButton::Left, {}, 15, 15);
+      desk.Strip.MouseDown(MouseButton::Left, {}, 15, 15);
     } else {
-      desk.Strip.Form_MouseMove(MouseButton::None, {}, 15, 15);
+      desk.Strip.MouseMove(MouseButton::None, {}, 15, 15);
     }
     EXPECT_FALSE(desk.Picture.IsLoaded());
     EXPECT_FALSE(desk.TheProgram.Guards.RestoreBusy);
-    EXPECT_EQ(desk.Strip.FrameHeld, press);
+    EXPECT_EQ(desk.Strip.Pull.FrameHeld, press);
   }
 }
 
@@ -319,25 +319,25 @@ TEST(ToolbarPull, OneWhoseReleaseWasLostLeavesNoOutlineToTheOtherButton) {
     desk.Pull(QuarterOf(Edge::Right));
     ASSERT_TRUE(desk.Picture.IsLoaded());
     LoseRelease(desk);
-    desk.Strip.FrameMoved = false;
+    desk.Strip.Pull.FrameMoved = false;
     if (overGrip) {
-      desk.Strip.lblSep_MouseUp(0, MouseButton::Right, {}, 1, 1);
+      desk.Strip.lblSep[0].MouseUp(MouseButton::Right, {}, 1, 1);
     } else {
-      desk.Strip.Form_MouseUp(MouseButton::Right, {}, 1, 1);
+      desk.Strip.MouseUp(MouseButton::Right, {}, 1, 1);
     }
     EXPECT_FALSE(desk.Picture.IsLoaded());
     EXPECT_EQ(desk.Picture.OutlineEdge(), std::nullopt);
-    EXPECT_FALSE(desk.Strip.FrameHeld);
+    EXPECT_FALSE(desk.Strip.Pull.FrameHeld);
   }
 }
 
 TEST(ToolbarPull, AHoldWithoutAMoveIsGivenUpToo) {
   DockDesk desk;
   desk.StartAt(Edge::Left);
-  desk.Strip.Form_MouseDown(MouseButton::Left, {}, 15, 15);
-  EXPECT_TRUE(desk.Strip.FrameHeld);
+  desk.Strip.MouseDown(MouseButton::Left, {}, 15, 15);
+  EXPECT_TRUE(desk.Strip.Pull.FrameHeld);
   desk.Wait(600);
-  EXPECT_FALSE(desk.Strip.FrameHeld);
+  EXPECT_FALSE(desk.Strip.Pull.FrameHeld);
 }
 
 TEST(ToolbarPull, ARightClickOnTheGripOrTheBareRowHoldsNothing) {
@@ -353,10 +353,10 @@ TEST(ToolbarPull, ARightClickOnTheGripOrTheBareRowHoldsNothing) {
       desk.PointAt({row.left + 10, row.bottom - 100});
       desk.World.Desktop.Click(MouseButton::Right);
     }
-    EXPECT_FALSE(desk.Strip.FrameHeld);
+    EXPECT_FALSE(desk.Strip.Pull.FrameHeld);
     // A button that goes down elsewhere now, and comes over the strip, pulls nothing.
     desk.PointAt(QuarterOf(Edge::Bottom));
-    desk.Strip.Form_MouseMove(MouseButton::Left, {}, 9000, 9000);
+    desk.Strip.MouseMove(MouseButton::Left, {}, 9000, 9000);
     EXPECT_FALSE(desk.Picture.IsLoaded());
   }
 }
@@ -382,11 +382,11 @@ TEST(ToolbarPull, TheEndOfAMoveFromElsewhereStoresThePosition) {
   DockDesk desk;
   desk.Start();
   desk.Strip.SetLeft(-300);
-  desk.Strip.AdjustToolbarPosition();
+  desk.Strip.Pull.AdjustToolbarPosition();
   EXPECT_EQ(desk.Strip.Left(), 0);
   EXPECT_EQ(desk.Strip.SavedLeft, 0);
   EXPECT_TRUE(desk.World.Files.Has("C:\\Corvelle\\toolbarp.dat"));
-  EXPECT_FALSE(desk.Strip.FrameMoved);
+  EXPECT_FALSE(desk.Strip.Pull.FrameMoved);
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ TEST(ToolbarStart, ATextFileAmongTheMenusIsGone) {
   desk.World.Files.Put("C:\\Corvelle\\Menus\\notes.txt", "text");
   desk.Start();
   EXPECT_FALSE(desk.HasMenuFile("notes.txt"));
-  EXPECT_EQ(desk.Strip.ButtonCount, 2);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 2);
 }
 
 TEST(ToolbarStart, FilesNumberedTwoAndFiveBecomeOneAndTwoInThatOrder) {
@@ -86,12 +86,12 @@ TEST(ToolbarStart, ButtonsHaveKeysAndStandSideBySide) {
   StripDesk desk;
   desk.PutButtons(2);
   desk.Start();
-  ASSERT_EQ(desk.Strip.ButtonCount, 3);
-  EXPECT_EQ(desk.Strip.ToolbarButtons[1].Key, "B1");
-  EXPECT_EQ(desk.Strip.ToolbarButtons[3].Key, "B3");
-  EXPECT_EQ(desk.Strip.ToolbarButtons[1].Left, 0);
-  EXPECT_EQ(desk.Strip.ToolbarButtons[2].Left, 24 * 15);
-  EXPECT_EQ(desk.Strip.ToolbarButtons[3].Left, 48 * 15);
+  ASSERT_EQ(desk.Strip.Buttons.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[1].Key, "B1");
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[3].Key, "B3");
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[1].Left, 0);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[2].Left, 24 * 15);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[3].Left, 48 * 15);
   EXPECT_EQ(desk.Strip.picToolbar.Width(), 72 * 15);
   EXPECT_EQ(desk.Strip.picToolbar.Height(), 22 * 15);
   for (int i = 1; i <= 3; ++i) EXPECT_TRUE(desk.AtRest(i)) << i;
@@ -115,14 +115,14 @@ TEST(ToolbarStart, ASeparatorStandsBetweenItsNeighbours) {
   desk.PutButton(2, "", "menulineseparator");
   desk.PutButton(3, "Third");
   desk.Start();
-  ASSERT_EQ(desk.Strip.ButtonCount, 3);
-  ASSERT_EQ(desk.Strip.SepCount, 1);
+  ASSERT_EQ(desk.Strip.Buttons.ButtonCount, 3);
+  ASSERT_EQ(desk.Strip.Buttons.SepCount, 1);
   const forms::Label& separator = desk.Strip.lblSep[1];
   EXPECT_EQ(&separator.Container(), &desk.Strip.picToolbar);
   EXPECT_TRUE(separator.Visible());
   EXPECT_EQ(separator.Left(), 48 * 15);
   EXPECT_EQ(separator.Width(), 8 * 15);
-  EXPECT_EQ(desk.Strip.ToolbarButtons[3].Left, 56 * 15);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[3].Left, 56 * 15);
 }
 
 TEST(ToolbarStart, TheGripStandsOnTheWindowBetweenTheBoxes) {
@@ -155,7 +155,7 @@ TEST(ToolbarStart, NoEntriesAndTheAnswerYesBringTheDefaultEntries) {
   desk.World.Desktop.Answer(kDefaultsQuestion, AnswerYes);
   desk.Start();
   EXPECT_EQ(entries.Times, 1);
-  EXPECT_EQ(desk.Strip.ButtonCount, 2);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 2);
 }
 
 TEST(ToolbarStart, ASingleButtonAloneIsAnEntryToo) {
@@ -186,7 +186,7 @@ TEST(ToolbarStart, TheFirstUseBringsTheDefaultEntriesWithoutAQuestion) {
   EXPECT_EQ(entries.Times, 1);
   EXPECT_TRUE(desk.TheProgram.OptionFlags.Is(Option::DefaultEntriesOffered));
   EXPECT_EQ(desk.World.Files.Get("C:\\Corvelle\\tmenu425.dat"), desk.TheProgram.OptionFlags.Text());
-  EXPECT_EQ(desk.Strip.ButtonCount, 2);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 2);
 }
 
 TEST(ToolbarStart, AProgramWithoutDefaultEntriesLeavesTheFirstUseToComeLater) {
@@ -195,15 +195,15 @@ TEST(ToolbarStart, AProgramWithoutDefaultEntriesLeavesTheFirstUseToComeLater) {
   desk.Start();
   EXPECT_FALSE(desk.TheProgram.OptionFlags.Is(Option::DefaultEntriesOffered));
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
-  EXPECT_EQ(desk.Strip.ButtonCount, 1);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 1);
 }
 
 TEST(ToolbarStart, SmallIconsMakeButtonsOf22Pixels) {
   StripDesk desk;
   desk.PutButtons(1);
   desk.Start();
-  EXPECT_EQ(desk.Strip.ToolbarButtons[0].Width, 22 * 15);
-  EXPECT_EQ(desk.Strip.ToolbarButtons[0].Height, 22 * 15);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[0].Width, 22 * 15);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[0].Height, 22 * 15);
   EXPECT_EQ(desk.TheProgram.Icons.IconSize, 16);
 }
 
@@ -222,7 +222,7 @@ TEST(ToolbarStart, TheHeightOfACaptionDecidesHowFarTheStripIsPulledUp) {
     StripDesk desk({.CaptionHeight = row.caption});
     desk.PutButtons(1);
     desk.Start();
-    EXPECT_EQ(desk.Strip.TopCut, row.topCut);
+    EXPECT_EQ(desk.Strip.Buttons.TopCut, row.topCut);
     EXPECT_EQ(desk.Strip.Top(), static_cast<float>(-row.topCut * 15));
     EXPECT_EQ(desk.Strip.SavedTop, desk.Strip.Top());
   }
@@ -234,9 +234,9 @@ TEST(ToolbarStart, LargeIconsMakeButtonsOf38PixelsWhateverTheCaption) {
   desk.PutButtons(1);
   desk.Start();
   EXPECT_EQ(desk.TheProgram.Icons.IconSize, 32);
-  EXPECT_EQ(desk.Strip.ToolbarButtons[0].Width, 38 * 15);
-  EXPECT_EQ(desk.Strip.ToolbarButtons[0].Height, 38 * 15);
-  EXPECT_EQ(desk.Strip.TopCut, 7);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[0].Width, 38 * 15);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[0].Height, 38 * 15);
+  EXPECT_EQ(desk.Strip.Buttons.TopCut, 7);
 }
 
 TEST(ToolbarStart, TheLargeSizeIsTheShells) {
@@ -370,7 +370,7 @@ TEST(ToolbarBadInput, AFileThatVanishesWhileTheListIsReadIsLeftOutAndNotMadeAnew
   desk.PutButtons(3);
   desk.Start();
   EXPECT_EQ(startup.Dots, 3);
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
   EXPECT_FALSE(desk.HasMenuFile("BMENU002.MNU"));
 }
 
@@ -385,7 +385,7 @@ TEST(ToolbarBadInput, FilesOfOddLengthsAndContentsGiveButtons) {
     desk.World.Files.Put("C:\\Corvelle\\Menus\\" + MenuFileName(++number), bytes);
   }
   desk.Start();
-  EXPECT_EQ(desk.Strip.ButtonCount, 1 + number);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 1 + number);
   for (int i = 1; i <= number; ++i) {
     EXPECT_EQ(desk.World.Files.Get("C:\\Corvelle\\Menus\\" + MenuFileName(i)),
               contents[static_cast<std::size_t>(i - 1)]);
@@ -396,8 +396,8 @@ TEST(ToolbarBadInput, ThreeHundredMenuFilesAllStand) {
   StripDesk desk;
   desk.PutButtons(300);
   desk.Start();
-  ASSERT_EQ(desk.Strip.ButtonCount, 301);
-  EXPECT_EQ(desk.Strip.ToolbarButtons[301].Left, 300 * 24 * 15);
+  ASSERT_EQ(desk.Strip.Buttons.ButtonCount, 301);
+  EXPECT_EQ(desk.Strip.Buttons.ToolbarButtons[301].Left, 300 * 24 * 15);
   EXPECT_EQ(desk.Strip.picToolbar.Width(), 301 * 24 * 15);
   EXPECT_EQ(desk.Strip.Left(), 0);
 }
@@ -422,7 +422,7 @@ TEST(ToolbarBadInput, AReadOnlyStrayFileStaysAndHarmsNothing) {
   desk.World.Files.SetReadOnly("C:\\Corvelle\\Menus\\BMENU001.MNU", true);
   desk.Start();
   EXPECT_TRUE(desk.HasMenuFile("notes.txt"));
-  EXPECT_EQ(desk.Strip.ButtonCount, 2);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 2);
 }
 
 TEST(ToolbarBadInput, AFullDiskLeavesTheOldPositionAndFlags) {
@@ -432,7 +432,7 @@ TEST(ToolbarBadInput, AFullDiskLeavesTheOldPositionAndFlags) {
   desk.World.Files.Put("C:\\Corvelle\\tmenu425.dat", std::string(32, '0'));
   desk.World.Files.FillDisk(0);
   desk.Start();
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
   desk.Strip.SavedLeft = 4500;
   desk.Exit();
   EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000));
@@ -448,7 +448,7 @@ TEST(ToolbarBadInput, AnyOneFailureAtTheStartLeavesAStripAndEveryMenuFile) {
     desk.Start();
     const bool hit = desk.World.Files.Hit();
     desk.World.Files.StopFailing();
-    EXPECT_GE(desk.Strip.ButtonCount, 1);
+    EXPECT_GE(desk.Strip.Buttons.ButtonCount, 1);
     EXPECT_TRUE(desk.Strip.Visible());
     EXPECT_TRUE(desk.HasMenuFile("BMENU001.MNU"));
     EXPECT_TRUE(desk.HasMenuFile("BMENU002.MNU"));
@@ -464,7 +464,7 @@ TEST(ToolbarRebuild, ReadsTheFilesAnewAndKeepsThePlace) {
   desk.Start();
   desk.PutButton(2, "New");
   desk.Strip.InitNewButtons();
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
   EXPECT_EQ(desk.Strip.Left(), 3000);
   EXPECT_TRUE(desk.Strip.Visible());
   EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
@@ -492,7 +492,7 @@ TEST(ToolbarRebuild, AnotherOneWithinARebuildWaitsForNothing) {
   desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { desk.Strip.InitNewButtons(); });
   desk.Strip.InitNewButtons();
   EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
-  EXPECT_EQ(desk.Strip.ButtonCount, 1);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 1);
 }
 
 TEST(ToolbarRebuild, TheProgramMayEndWhileTheQuestionIsUp) {
@@ -529,7 +529,7 @@ TEST(ToolbarRebuild, AfterAnEditTheStripKeepsItsRightEnd) {
   desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU002.MNU");
   desk.Strip.DoToolbarButtons();
   desk.Strip.ResizeAfterEdit(free);
-  EXPECT_EQ(desk.Strip.ButtonCount, 3);
+  EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 3);
   EXPECT_EQ(desk.Strip.Right(), right);
   EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000 + 24 * 15));
 }

@@ -1,6 +1,6 @@
 // The strip at an edge: what it tells the shell, where it stands, and what it follows.
 
-#include "toolbar/mAppBar.h"
+#include "toolbar/docking/mAppBar.h"
 
 #include <gtest/gtest.h>
 
@@ -80,7 +80,7 @@ TEST(AppBar, FromEveryEdgeToEveryOther) {
           EXPECT_EQ(desk.World.Bars.Log()[0], to.query);
           EXPECT_EQ(desk.World.Bars.Log()[1], to.set);
         }
-        EXPECT_EQ(desk.Strip.ButtonCount, 6);
+        EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 6);
         EXPECT_TRUE(desk.Strip.picToolbar.Visible());
       }
     }
@@ -570,7 +570,7 @@ TEST(AppBar, OnlyUprightLargeSingleButtonsAreMadeAgainWhenTheBarsMove) {
     desk.World.Files.Put("C:\\Corvelle\\Menus\\" + SingleFileName(1),
                          Records({Entry("s", "", "C:\\s.exe")}));
     desk.Docking.SetAppBar(std::nullopt, false);
-    EXPECT_EQ(desk.Strip.SingleCount, row.again ? 1 : 0);
+    EXPECT_EQ(desk.Strip.Singles.SingleCount, row.again ? 1 : 0);
   }
 }
 

@@ -177,7 +177,7 @@ TEST(WebLinkTarget, ASingleButtonUnderTheDropGetsANeighbourBeforeIt) {
   EXPECT_EQ(desk.Dialog().Tag, "SingleButtons");
   desk.Click("cmdOK");
   EXPECT_EQ(desk.Singles(), (Names{"one", "A page", "two", "three", "four"}));
-  EXPECT_EQ(desk.parts->Toolbar.SingleCount, 5);
+  EXPECT_EQ(desk.parts->Toolbar.Singles.SingleCount, 5);
 }
 
 TEST(WebLinkTarget, BehindTheSingleButtonsItBecomesANewOne) {

@@ -16,10 +16,10 @@ class CheckFloors(unittest.TestCase):
         self.root = pathlib.Path(folder.name)
         self.write("src/base/Text.h", "#pragma once\n#include <string>\n")
         self.write("src/core/Menu.h", '#pragma once\n#include "base/Text.h"\n')
-        self.write("src/toolbar/Strip.cpp", '#include "toolbar/Strip.h"\n#include "core/Menu.h"\n')
-        self.write("src/toolbar/Strip.h", "#pragma once\n")
+        self.write("src/toolbar/strip/Strip.cpp", '#include "toolbar/strip/Strip.h"\n#include "core/Menu.h"\n')
+        self.write("src/toolbar/strip/Strip.h", "#pragma once\n")
         self.write("src/win32/Window.cpp", '#include <windows.h>\n#include "base/Text.h"\n')
-        self.write("src/main.cpp", '#include "toolbar/Strip.h"\n#include "win32/Window.h"\n')
+        self.write("src/main.cpp", '#include "toolbar/strip/Strip.h"\n#include "win32/Window.h"\n')
         self.write("src/win32/Window.h", "#pragma once\n")
         self.write("tests/CMakeLists.txt", "  corvelle_tests(base LINKS corvelle_base)\n")
         self.write("tests/base/Text_test.cpp", '#include "base/Text.h"\n')
@@ -44,8 +44,19 @@ class CheckFloors(unittest.TestCase):
         self.assert_one("src/base/Text.h:3", "core/Menu2.h")
 
     def test_rooms_of_one_floor_do_not_include_each_other(self):
-        self.write("src/menus/Menu.cpp", '#include "toolbar/Strip.h"\n')
+        self.write("src/menus/Menu.cpp", '#include "toolbar/strip/Strip.h"\n')
         self.assert_one("menus may not include")
+
+    def test_floors_of_a_folder_have_their_order(self):
+        self.write("src/toolbar/layout/Rules.h", "#pragma once\n")
+        self.write("src/toolbar/strip/Strip.h", '#pragma once\n#include "toolbar/layout/Rules.h"\n')
+        self.assertEqual(check_floors.check(self.root), [])
+        self.write("src/toolbar/layout/Rules.cpp", '#include "toolbar/strip/Strip.h"\n')
+        self.assert_one("src/toolbar/layout/Rules.cpp:1", "toolbar/layout may not include")
+
+    def test_a_file_beside_the_floors_of_its_folder_is_found(self):
+        self.write("src/toolbar/Loose.h", "#pragma once\n")
+        self.assert_one("src/toolbar/Loose.h", "toolbar is no floor")
 
     def test_the_windows_side_sees_no_core(self):
         self.write("src/win32/Peer.cpp", '#include "core/Menu.h"\n')

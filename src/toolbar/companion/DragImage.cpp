@@ -1,0 +1,132 @@
+#include "toolbar/companion/DragImage.h"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+
+#include "base/Text.h"
+#include "core/Program.h"
+#include "forms/Graphic.h"
+#include "icons/Glyphs.h"
+#include "icons/IconForm.h"
+#include "icons/IconResolution.h"
+#include "platform/DesktopWindows.h"
+#include "platform/Input.h"
+#include "platform/ShellIcons.h"
+
+namespace corvelle {
+namespace {
+
+constexpr int kFollowMilliseconds = 100;
+constexpr int kLeastSize = 32;  // pixels
+constexpr int kGlyphSize = 16;
+constexpr Rgb kBlack = 0x00000000;
+constexpr Rgb kWhite = 0x00FFFFFF;
+
+}  // namespace
+
+DragImage::DragImage(Program& program) : Timer1(program.Windows), program_(program) {
+  Timer1.SetInterval(kFollowMilliseconds);
+  Timer1.SetEnabled(false);
+  Timer1.Tick = [this] { Timer1_Timer(); };
+}
+
+void DragImage::SetDragImage(std::string_view icon) {
+  forms::WindowSystem& windows = program_.Windows;
+  const Picture picture = MakePicture(Trim(icon));
+  const PixelSize size = picture ? picture->Size() : PixelSize{};
+  windows.SetMouseIcon(picture, {size.width / 2, size.height / 2});
+  windows.SetMousePointer(forms::MousePointer::Custom);
+  DragCursorOk = true;
+  Timer1.SetEnabled(true);
+}
+
+void DragImage::RemoveDragImage() {
+  Timer1.SetEnabled(false);
+  DragCursorOk = false;
+  program_.Windows.SetMousePointer(forms::MousePointer::Default);
+  program_.Windows.SetMouseIcon(nullptr, {});
+}
+
+int DragImage::PictureSize() const {
+  return std::max(program_.Services.Icons.IconWidth(IconList::Large), kLeastSize);
+}
+
+Picture DragImage::MakePicture(std::string_view icon) {
+  const int scale = PictureSize() / kGlyphSize;
+  const IconForm form = ClassifyIcon(icon,
+                                     {.AppPath = program_.Paths.AppPath,
+                                      .IconsPath = program_.Paths.IconsPath,
+                                      .WebLinkIcon = program_.Icons.WebLinkIcon},
+                                     IconCaller::Menu);
+  Picture picture = form.Kind == IconKind::BuiltIn ? MakeGlyph(program_.Windows, form.Text, scale)
+                                                   : CutOutIcon(icon);
+  return picture ? picture : MakeGlyph(program_.Windows, "hand", scale);
+}
+
+// Icons have soft edges, and a pointer has none: each pixel is shown whole or not at all.
+Picture DragImage::CutOutIcon(std::string_view icon) {
+  forms::WindowSystem& windows = program_.Windows;
+  const int side = PictureSize();
+  const PixelRect whole{0, 0, side, side};
+  const std::unique_ptr<Canvas> onBlack = windows.CreateCanvas(whole.Size());
+  const std::unique_ptr<Canvas> onWhite = windows.CreateCanvas(whole.Size());
+  onBlack->FillBox(whole, kBlack);
+  onWhite->FillBox(whole, kWhite);
+  if (!ResolveAndDraw(program_, *onBlack, icon, {0, 0}, side) ||
+      !ResolveAndDraw(program_, *onWhite, icon, {0, 0}, side)) {
+    return nullptr;
+  }
+  std::shared_ptr<Canvas> picture = windows.CreateCanvas(whole.Size());
+  for (int y = 0; y < side; ++y) {
+    for (int x = 0; x < side; ++x) {
+      const Rgb pixel =
+          CutOut(onBlack->PixelAt({x, y}), onWhite->PixelAt({x, y}), forms::Image::kMask);
+      picture->FillBox({x, y, x + 1, y + 1}, pixel);
+    }
+  }
+  return picture;
+}
+
+void DragImage::Timer1_Timer() {
+  // What is being put down is followed no more, and whoever does it takes the picture away.
+  if (program_.Drag.ItemDropping) return;
+  ToolbarPort* const strip = program_.Ports.Toolbar;
+  // Tells of a release that went to another program, and opens the menus on the way.
+  const int button = program_.Entry.ItemDragging && strip != nullptr ? strip->dragCurButton() : 0;
+  if (!program_.Entry.ItemDragging) {
+    RemoveDragImage();
+    return;
+  }
+  const CarryScene scene = Scene(button);
+  if (scene.Over == CarryOver::Buttons) strip->SetPointerWatch(true);
+  const bool may = MayDrop(scene);
+  if (may == DragCursorOk) return;
+  DragCursorOk = may;
+  ShowPointer();
+}
+
+CarryScene DragImage::Scene(int button) const {
+  const WindowId under =
+      program_.Services.Desktop.WindowAt(program_.Services.Pointer.PointerPosition());
+  CarryScene scene{.Button = button};
+  if (under == kNoWindow) return scene;
+  const StripCarryPort* const strip = program_.Ports.Toolbar;
+  const QMenuPort* const menu = program_.Ports.QMenu;
+  if (menu != nullptr && menu->MenuVisible() && under == menu->WindowHandle()) {
+    scene.Over = CarryOver::Menu;
+    scene.MainMenu = menu->OwnerTag() == "1";
+  } else if (strip != nullptr && under == strip->ButtonBoxHandle()) {
+    scene.Over = CarryOver::Buttons;
+  } else if (strip != nullptr && under == strip->SingleBoxHandle()) {
+    scene.Over = CarryOver::SingleButtons;
+  }
+  return scene;
+}
+
+void DragImage::ShowPointer() {
+  program_.Windows.SetMousePointer(DragCursorOk ? forms::MousePointer::Custom
+                                                : forms::MousePointer::NoDrop);
+}
+
+}  // namespace corvelle

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string_view>
+
+#include "core/WindowPorts.h"
+#include "forms/Timer.h"
+#include "platform/Canvas.h"
+#include "toolbar/layout/CarryRules.h"
+
+namespace corvelle {
+
+class Program;
+
+/// The picture that the pointer carries while an entry is dragged: the entry's icon where it may be
+/// put down, the "no drop" sign elsewhere.
+class DragImage final : public DragImagePort {
+ public:
+  explicit DragImage(Program& program);
+
+  void SetDragImage(std::string_view icon) override;
+  void RemoveDragImage() override;
+
+  /// Ten times a second while something is carried: looks where the pointer is.
+  forms::Timer Timer1;
+  /// The carried entry may be put down here; the pointer shows its picture.
+  bool DragCursorOk = false;
+
+ private:
+  void Timer1_Timer();
+  [[nodiscard]] CarryScene Scene(int button) const;
+  void ShowPointer();
+  /// The side of the picture in pixels: that of the shell's large icons, which follows the scale.
+  [[nodiscard]] int PictureSize() const;
+  /// The icon cut out of its ground; a hand where the icon cannot be drawn.
+  [[nodiscard]] Picture MakePicture(std::string_view icon);
+  [[nodiscard]] Picture CutOutIcon(std::string_view icon);
+
+  Program& program_;
+};
+
+}  // namespace corvelle

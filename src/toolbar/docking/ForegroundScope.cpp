@@ -1,0 +1,40 @@
+#include "toolbar/docking/ForegroundScope.h"
+
+#include "core/Program.h"
+#include "forms/Form.h"
+#include "platform/DesktopWindows.h"
+
+namespace corvelle {
+namespace {
+
+/// Where Windows puts what nobody is to see, on no screen. Pixels on both axes.
+constexpr float kNowhere = -32000;
+
+class Keeper final : public forms::Form {
+ public:
+  explicit Keeper(forms::WindowSystem& windows) : Form(windows, "frmKeeper") {
+    const forms::ScreenInfo screen = windows.Screen();
+    Move(kNowhere * screen.TwipsPerPixelX, kNowhere * screen.TwipsPerPixelY, screen.TwipsPerPixelX,
+         screen.TwipsPerPixelY);
+  }
+};
+
+}  // namespace
+
+ForegroundScope::ForegroundScope(Program& program, forms::Form& strip)
+    : program_(program), strip_(strip) {
+  const WindowId active = program_.Services.Desktop.ActiveWindow();
+  const QMenuPort* const menu = program_.Ports.QMenu;
+  const bool ours = active == strip_.hWnd() || (menu != nullptr && active == menu->WindowHandle());
+  if (active == kNoWindow || !ours) return;
+  keeper_ = std::make_unique<Keeper>(program_.Windows);
+  keeper_->Show();
+}
+
+ForegroundScope::~ForegroundScope() {
+  if (keeper_ == nullptr) return;
+  const WindowId active = program_.Services.Desktop.ActiveWindow();
+  if (active != kNoWindow && active == keeper_->hWnd() && strip_.Visible()) strip_.SetFocus();
+}
+
+}  // namespace corvelle

@@ -1,0 +1,87 @@
+// Auto Hide: the strip as a line, and back.
+
+#include "core/Program.h"
+#include "forms/Form.h"
+#include "forms/Scopes.h"
+#include "toolbar/docking/mAppBar.h"
+
+namespace corvelle {
+
+bool mAppBar::AutoHideAppBar(Edge at) {
+  program_.Strip.ToolbarEdge = at;
+  if (!AutoHideFree(program_.Strip.ToolbarEdge)) {
+    program_.OptionFlags.Set(Option::AutoHide, false);
+    program_.Strip.AutoHide = false;
+    program_.Guards.AppBarBusy = false;
+    strip_.WatchHiding(false);
+    program_.Guards.ToolbarReady = false;
+    ShowAutoHideTaken();
+    // One that went into the task bar meanwhile is placed when it comes back.
+    if (!window_.IsLoaded() || program_.Strip.ToolbarMinimized) return false;
+    SetAppBar(program_.Strip.ToolbarEdge, true);
+    if (!window_.IsLoaded()) return false;
+    window_.ShowNoActivate();
+    strip_.ShowContents();
+    program_.Guards.ToolbarReady = true;
+    return false;
+  }
+  const forms::FlagScope busy(program_.Guards.AppBarBusy);
+  // What was kept for the strip in full sight would stay kept.
+  if (keepsRoom_) {
+    Remove();
+    RegisterAppBar();
+  }
+  const PixelSize screen = ScreenPixels();
+  if (AppBarData.uEdge != ShellEdge(at)) {
+    AppBarData.lParam = 0;
+    Send(abm::SetAutoHideBar);
+  }
+  AppBarData.uEdge = ShellEdge(at);
+  if (AppBarData.lParam == 0) {
+    AppBarData.lParam = 1;
+    Send(abm::SetAutoHideBar);
+  }
+  PixelSize bar = BarSize(at, 1, screen);
+  BarPlace place = AskForPlace(at, bar, false);
+  line_ = LineThickness(at, BarWindow(at, place, bar), screen, Twips());
+  bar = BarSize(at, line_, screen);
+  place = CutToBar(at, place.Reserved, bar, false);
+  AppBarData.rc = place.Reserved;
+  MoveWindow(BarWindow(at, place, bar));
+  window_.ShowNoActivate();
+  program_.Strip.AppBarDocked = true;
+  strip_.HideContents();
+  strip_.WatchHiding(true);
+  return true;
+}
+
+void mAppBar::HideToolbar() {
+  if (program_.Strip.AppBarDocked) {
+    if (!AutoHideAppBar(program_.Strip.ToolbarEdge)) return;
+    strip_.SinkAgain();
+    return;
+  }
+  strip_.HideContents();
+  strip_.WatchHiding(true);
+  window_.ShowNoActivate();
+  window_.Move(window_.Left(), 0, window_.Width(), Twips().Height);
+  strip_.SinkAgain();
+}
+
+void mAppBar::RevealToolbar() {
+  if (strip_.ContentsVisible()) return;
+  strip_.ShowContents();
+  if (program_.Strip.AppBarDocked) {
+    // What was read anew for the line has its places from here on.
+    ResizeToEdge();
+    const TwipPoint corner = RevealedCorner(CurrentEdge(), window_.Bounds(), line_, Twips());
+    window_.Move(corner.X, corner.Y, window_.Width(), window_.Height());
+  } else {
+    strip_.SetControls();
+    strip_.DrawBorders();
+  }
+  window_.ShowNoActivate();
+  window_.Refresh();
+}
+
+}  // namespace corvelle

@@ -1,0 +1,241 @@
+#include "toolbar/strip/ButtonRow.h"
+
+#include "base/Text.h"
+#include "core/MenuFile.h"
+#include "core/MenuFolder.h"
+#include "core/Program.h"
+#include "forms/Form.h"
+#include "icons/IconResolution.h"
+#include "platform/FileSystem.h"
+#include "platform/SystemInfo.h"
+#include "toolbar/layout/IconDrawing.h"
+
+namespace corvelle {
+
+ButtonRow::ButtonRow(Program& program, StripWindow& strip, const ButtonControls& controls)
+    : ToolbarButtons(1), program_(program), strip_(strip), controls_(controls), records_(1) {}
+
+void ButtonRow::MakeTemplates() {
+  const StripScale scale = strip_.Shape().Scale;
+  const TemplateSize size =
+      TemplateButton({.LargeIcons = program_.OptionFlags.Is(Option::LargeIcons),
+                      .IconSize = program_.Icons.IconSize,
+                      .TwipsX = scale.TwipsX,
+                      .TwipsY = scale.TwipsY,
+                      .CaptionHeight = program_.Services.System.CaptionHeight()});
+  TopCut = size.TopCut;
+  ButtonRect& button = ToolbarButtons[0];
+  button = ButtonRect{.Width = size.Width, .Height = size.Height};
+
+  const ButtonLines lines = TemplateLines(button, scale);
+  forms::Line& line1 = controls_.LinTB1[0];
+  forms::Line& line2 = controls_.LinTB2[0];
+  line1.SetPoints(lines.LinTB1.X1, lines.LinTB1.Y1, lines.LinTB1.X2, lines.LinTB1.Y2);
+  line2.SetPoints(lines.LinTB2.X1, lines.LinTB2.Y1, lines.LinTB2.X2, lines.LinTB2.Y2);
+  line1.SetVisible(false);
+  line2.SetVisible(false);
+
+  const TwipSize separator = TemplateSeparator(button, scale);
+  forms::Label& grip = controls_.lblSep[0];
+  grip.Move(grip.Left(), 0, separator.Width, separator.Height);
+  grip.SetVisible(false);
+  grip.SetCaption("");
+}
+
+std::vector<ButtonRow::ButtonFile> ButtonRow::ReadButtonFiles() const {
+  std::vector<ButtonFile> buttons;
+  // A folder that cannot be listed gives a strip with the program's own button only.
+  const auto names = OrderedMenuFiles(program_.Services.Files, program_.Paths.MenusPath);
+  if (!names) return buttons;
+  for (const std::string& name : *names) {
+    program_.ShowStartupProgress();
+    const std::string path = program_.Paths.MenusPath + name;
+    const std::optional<MenuRecord> record =
+        ReadButtonRecord(program_.Services.Files, program_.Services.Ansi, path);
+    // A button that cannot be read is left out, and the others come all the same.
+    if (!record) continue;
+    buttons.push_back(
+        {.Entry = {path, EntryKindOf(record->FIcon, record->FName)}, .Record = *record});
+  }
+  return buttons;
+}
+
+void ButtonRow::ForgetMenus() {
+  if (program_.Ports.QMenu == nullptr) return;
+  for (int button = 1; button <= ButtonCount; ++button) {
+    program_.Ports.QMenu->ForgetMenu("F" + std::to_string(button));
+  }
+}
+
+void ButtonRow::Unload() {
+  ForgetMenus();
+  controls_.LinTB1.UnloadAbove(0);
+  controls_.LinTB2.UnloadAbove(0);
+  controls_.lblSep.UnloadAbove(0);
+  ToolbarButtons.resize(1);
+  records_.resize(1);
+  ButtonCount = 0;
+  SepCount = 0;
+  program_.Menu.CurButton = 0;
+}
+
+TwipSize ButtonRow::Make() {
+  ForgetCurrentEntry(program_.Entry);
+  Unload();
+  const std::vector<ButtonFile> files = ReadButtonFiles();
+  std::vector<StripEntry> entries;
+  entries.reserve(files.size());
+  // The program's own menu comes first.
+  records_.push_back({program_.Title, program_.Paths.ShippedFile("corvelle.exe"), ""});
+  for (const ButtonFile& file : files) {
+    entries.push_back(file.Entry);
+    if (file.Entry.Kind == EntryKind::Button) records_.push_back(file.Record);
+  }
+  const TemplateSize size{ToolbarButtons[0].Width, ToolbarButtons[0].Height, TopCut};
+  const StripContents strip = LayOutStrip(size, entries, strip_.Shape().Scale);
+  for (const TwipRect& separator : strip.Separators) AddSeparator(separator);
+  for (std::size_t i = 1; i < strip.Buttons.size(); ++i) AddButton(strip.Buttons[i]);
+  return strip.Box;
+}
+
+void ButtonRow::AddSeparator(const TwipRect& place) {
+  forms::Label& separator = controls_.lblSep.Load();
+  SepCount = controls_.lblSep.Last();
+  separator.SetCaption("");
+  separator.Move(place.Left, place.Top, place.Width, place.Height);
+}
+
+void ButtonRow::AddButton(const ButtonRect& button) {
+  ToolbarButtons.push_back(button);
+  const ButtonLines lines = LinesOf(button, ToolbarButtons[0], strip_.Shape().Scale);
+  controls_.LinTB1.Load().SetPoints(lines.LinTB1.X1, lines.LinTB1.Y1, lines.LinTB1.X2,
+                                    lines.LinTB1.Y2);
+  controls_.LinTB2.Load().SetPoints(lines.LinTB2.X1, lines.LinTB2.Y1, lines.LinTB2.X2,
+                                    lines.LinTB2.Y2);
+  ButtonCount = controls_.LinTB1.Last();
+  ShowLook(ButtonCount, kRestingLook);
+}
+
+void ButtonRow::DrawIcons() {
+  forms::PictureBox& box = controls_.picToolbar;
+  const unsigned round = ++iconRounds_;
+  box.SetBackground({});
+  for (int i = 1; i <= ButtonCount; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    DrawButtonIcon(std::string(records_[at].FIcon), ButtonRect(ToolbarButtons[at]));
+    // Messages that came in meanwhile have had all of them drawn again, perhaps other ones.
+    if (round != iconRounds_ || !strip_.AsForm().IsLoaded()) return;
+  }
+  box.Refresh();
+  // From here on a repaint is a copy of this picture.
+  box.SetBackground(box.Image());
+}
+
+void ButtonRow::DrawButtonIcon(const std::string& iconText, const ButtonRect& button) {
+  if (iconText.empty() || EqualNoCase(iconText, kNewButtonIcon)) return;
+  const StripShape shape = strip_.Shape();
+  const int size = program_.Icons.IconSize;
+  const PixelPoint at = IconPlace({.Button = {button.Left, button.Top, button.Width, button.Height},
+                                   .IconSize = size,
+                                   .TwipsX = shape.Scale.TwipsX,
+                                   .TwipsY = shape.Scale.TwipsY,
+                                   .Where = shape.Where,
+                                   .Vertical = shape.Scale.Vertical,
+                                   .TopCut = TopCut});
+  DrawIconIn(program_.Windows, strip_.AsForm(), controls_.picToolbar, RectAt(at, {size, size}),
+             iconRounds_, [&](Canvas& canvas) {
+               // What has no icon at all keeps an empty face.
+               static_cast<void>(ResolveAndDraw(program_, canvas, iconText, {0, 0}, size));
+             });
+}
+
+void ButtonRow::DoToolbarButtons() {
+  forms::PictureBox& box = controls_.picToolbar;
+  box.SetVisible(false);
+  const TwipSize size = Make();
+  box.Move(box.Left(), box.Top(), size.Width, size.Height);
+  DrawIcons();
+  box.SetVisible(true);
+}
+
+void ButtonRow::Refresh() {
+  Make();
+  DrawIcons();
+}
+
+// ---- which button ----
+
+StripPlace ButtonRow::PlaceOnScreen() const {
+  const forms::Form& window = strip_.AsForm();
+  return {window.Left(), window.Top(), strip_.Shape().Scale};
+}
+
+int ButtonRow::At(PixelPoint pointer, int current, bool menuOpen) const {
+  return ButtonAt(ToolbarButtons, PlaceOnScreen(), pointer, current, menuOpen);
+}
+
+PixelPoint ButtonRow::Middle(int button) const {
+  return ButtonMiddle(ToolbarButtons[static_cast<std::size_t>(button)], PlaceOnScreen());
+}
+
+int ButtonRow::ItemButtonOf(std::string_view path) const {
+  for (int i = 2; i <= ButtonCount; ++i) {
+    if (EqualNoCase(PathOf(i), path)) return i;
+  }
+  return 0;
+}
+
+std::string ButtonRow::HintOf(int button) const {
+  if (!Has(button)) return {};
+  return DoubleAmpersands(records_[static_cast<std::size_t>(button)].FTitle);
+}
+
+EntryEdit ButtonRow::EntryOf(int button) const {
+  EntryEdit entry{.CurMenuTag = "B" + std::to_string(button)};
+  if (button == 1) return entry;
+  entry.CurFile = PathOf(button);
+  // A file that cannot be read now leaves the texts empty, and no edit will find its record.
+  const MenuRecord record =
+      ReadButtonRecord(program_.Services.Files, program_.Services.Ansi, entry.CurFile)
+          .value_or(MenuRecord{});
+  entry.CurRecord = 1;
+  entry.CurTitle = record.FTitle;
+  entry.CurIcon = record.FIcon;
+  entry.CurCommand = record.FName;
+  return entry;
+}
+
+// ---- looks ----
+
+void ButtonRow::ShowLook(int button, const ButtonLook& look) {
+  forms::Line& line1 = controls_.LinTB1[button];
+  forms::Line& line2 = controls_.LinTB2[button];
+  line1.SetBorderColor(ColorValue(look.LinTB1.Color));
+  line1.SetVisible(look.LinTB1.Visible);
+  line2.SetBorderColor(ColorValue(look.LinTB2.Color));
+  line2.SetVisible(look.LinTB2.Visible);
+}
+
+void ButtonRow::ShowResting() {
+  for (int i = 1; i <= ButtonCount; ++i) ShowLook(i, kRestingLook);
+}
+
+void ButtonRow::ShowPressed(int button) {
+  if (!Has(button)) return;
+  const StripScale scale = strip_.Shape().Scale;
+  const std::vector<ButtonLook> looks = ButtonLooks({.Buttons = ToolbarButtons,
+                                                     .CurButton = button,
+                                                     .Vertical = scale.Vertical,
+                                                     .Docked = program_.Strip.AppBarDocked,
+                                                     .TwipsX = scale.TwipsX,
+                                                     .TwipsY = scale.TwipsY});
+  for (int i = 1; i <= ButtonCount; ++i) ShowLook(i, looks[static_cast<std::size_t>(i)]);
+  controls_.LinTB1[button].ZOrder(forms::ZPlace::Front);
+  controls_.LinTB2[button].ZOrder(forms::ZPlace::Front);
+}
+
+bool ButtonRow::LooksAtRest(int button) const {
+  return button > 0 && controls_.LinTB1.Has(button) && controls_.LinTB1[button].Visible();
+}
+
+}  // namespace corvelle

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Geometry.h"
+#include "forms/DragDrop.h"
+#include "forms/Timer.h"
+#include "forms/Types.h"
+#include "platform/WindowId.h"
+#include "toolbar/layout/CarryRules.h"
+#include "toolbar/layout/StripWindow.h"
+
+namespace corvelle {
+
+class ButtonRow;
+class MenuTracking;
+class Program;
+class SingleRow;
+namespace forms {
+class PictureBox;
+}
+
+/// What is dropped on the strip: entries carried over its buttons, and what other programs drag
+/// over its two boxes.
+class StripDrops {
+ public:
+  StripDrops(Program& program, StripWindow& strip, ButtonRow& buttons, MenuTracking& menus,
+             SingleRow& singles, forms::PictureBox& picToolbar, forms::PictureBox& picSingleButton,
+             forms::Timer& timer2, forms::Timer& tmrDragDrop, forms::Timer& tmrRefused);
+  StripDrops(const StripDrops&) = delete;
+  StripDrops& operator=(const StripDrops&) = delete;
+
+  // ---- entries that are carried (StripDrops.cpp) ----
+
+  /// Index of the button under the pointer while something is carried, 0 for none. Opens the menu
+  /// of that button, and ends a carry whose release went to another program.
+  int dragCurButton();
+  /// Drops the carried entry on a button: appended to its menu, and taken away from where it came
+  /// unless `released` is the right button, which copies.
+  void DoButtonDrag(int button, forms::MouseButton released);
+  /// Notices when the release of what is carried went to another program.
+  void WatchCarry();
+  /// Tells the user, once the current event is over, that these files were not taken.
+  void TellRefused(std::vector<std::string> files);
+
+  // ---- drags of other programs (StripDropsOle.cpp) ----
+
+  void picToolbar_OLEDragOver(forms::DragData& data, forms::DropEffect& effect,
+                              forms::MouseButton down, float x, float y);
+  void picToolbar_OLEDragDrop(forms::DragData& data, forms::DropEffect& effect);
+  void picSingleButton_OLEDragOver(forms::DragData& data, forms::DropEffect& effect,
+                                   forms::MouseButton down);
+  void picSingleButton_OLEDragDrop(forms::DragData& data, forms::DropEffect& effect);
+  /// Looks each 100 ms whether a drag that came over the strip is still there.
+  void tmrDragDrop_Timer();
+  /// The drag is over; nothing is closed or given back.
+  void StopDrag();
+
+  /// The window in front when a drag came over the strip.
+  WindowId SavedForeground = kNoWindow;
+
+ private:
+  void WireDrags();
+  void AbandonDrag();
+  void ShowDroppedMenu(int button);
+  void tmrRefused_Timer();
+  /// True if there is something for the strip, and it is not being worked on.
+  [[nodiscard]] bool TakesDrag(const forms::DragData& data) const;
+  void NoteDrag(const forms::DragData& data, forms::MouseButton down);
+  void EnterDrag();
+  /// The drag is over without a drop here.
+  void EndDragOver();
+  void GiveForegroundBack();
+  void DropFiles(std::vector<std::string> names, int button);
+  void ShowDropped(int button);
+  void DropAddress(const forms::DragData& data, int button);
+  void OfferAddress(const forms::DragData& data, std::string_view tag, const std::string& file);
+
+  Program& program_;
+  forms::Form& window_;
+  ButtonRow& buttons_;
+  MenuTracking& menus_;
+  SingleRow& singles_;
+  forms::PictureBox& picToolbar_;
+  forms::PictureBox& picSingleButton_;
+  forms::Timer& timer2_;
+  forms::Timer& tmrDragDrop_;
+  forms::Timer& tmrRefused_;
+  AbandonWatch carryWatch_;
+  std::vector<std::string> refused_;  // of a drop, not told yet
+  int quietTicks_ = 0;                // of tmrDragDrop, since the drag was last heard of
+};
+
+}  // namespace corvelle

@@ -1,0 +1,166 @@
+// Folders that do not answer at once, while their menu is up.
+
+#include <gtest/gtest.h>
+
+#include "menus/FolderDesk.h"
+#include "menus/UpdateRules.h"
+
+namespace corvelle {
+namespace {
+
+TEST(UpdateRules, AMenuChangesWhenThePointerLetsIt) {
+  struct Row {
+    const char* name;
+    UpdateScene scene;
+    bool expected;
+  };
+  const Row rows[] = {
+      {"away", {}, true},
+      {"on its way to a press", {.PointerOver = true, .SinceMove = 99, .Waited = 299}, false},
+      {"resting", {.PointerOver = true, .SinceMove = 100}, true},
+      {"moving for too long", {.PointerOver = true, .SinceMove = 0, .Waited = 300}, true},
+      {"between press and release",
+       {.Busy = true, .PointerOver = true, .SinceMove = 5000, .Waited = 5000},
+       false},
+      {"pressed elsewhere", {.Busy = true, .Waited = 5000}, false},
+  };
+  for (const Row& row : rows) EXPECT_EQ(MayUpdate(row.scene), row.expected) << row.name;
+}
+
+/// A menu with a plain item and a folder on a drive of its own.
+class SlowFolder : public ::testing::Test {
+ protected:
+  SlowFolder() {
+    desk_.World.Files.AddDrive('D');
+    for (const char* name : {"one.txt", "two.txt"}) {
+      desk_.World.Files.Put("D:\\Docs\\" + std::string(name), "x");
+    }
+  }
+  void Open(const std::string& options = {}) {
+    desk_.OpenCommands({"C:\\Tools\\tool.exe", "D:\\Docs\\*.*" + options});
+  }
+  void Advance(int milliseconds) { desk_.World.Desktop.Advance(milliseconds); }
+  sim::SimLookups& Slow() { return desk_.World.SlowAnswers; }
+
+  const Strings stored_{"Item 2", "Item 3"};
+  const Strings filled_{"Item 2", "one.txt", "two.txt"};
+  FolderDesk desk_;
+};
+
+TEST_F(SlowFolder, AMenuIsUpWithItsStoredRecordsWhileAFolderDoesNotAnswer) {
+  Slow().Hang("D:");
+  const auto before = desk_.World.Desktop.Now();
+  Open();
+  EXPECT_EQ(desk_.World.Desktop.Now(), before);
+  EXPECT_TRUE(desk_.Menu.MenuVisible());
+  EXPECT_EQ(desk_.Captions(), stored_);
+  Advance(200);
+  EXPECT_EQ(desk_.Captions(), (Strings{"Item 2", "Item 3 (reading...)"}));
+  Advance(6000);
+  EXPECT_EQ(desk_.Captions(), (Strings{"Item 2", "Item 3 (not available)"}));
+  // What is not known is not written for others.
+  EXPECT_TRUE(desk_.Generated().empty());
+}
+
+TEST_F(SlowFolder, WhatItHoldsComesIntoTheMenuThatIsUp) {
+  Slow().Delay("D:", 120);
+  Open();
+  EXPECT_EQ(desk_.Captions(), stored_);
+  Advance(400);
+  EXPECT_EQ(desk_.Captions(), filled_);
+  EXPECT_TRUE(desk_.Menu.MenuVisible());
+  EXPECT_EQ(desk_.Generated().size(), 4U);
+  EXPECT_EQ(desk_.Strip.Times("ResetMenu"), 0);
+}
+
+TEST_F(SlowFolder, AMenuThatIsClosedMeanwhileStaysClosedAndOpensWithWhatCame) {
+  Slow().Delay("D:", 300);
+  Open();
+  desk_.Menu.HideMenu();
+  Advance(1000);
+  EXPECT_FALSE(desk_.Menu.MenuVisible());
+  Slow().Hang("D:");
+  desk_.Reopen(1);
+  EXPECT_EQ(desk_.Captions(), filled_);
+}
+
+TEST_F(SlowFolder, AFolderThatIsComparedShowsFirstAndComparesAfterwards) {
+  Open("/u");
+  EXPECT_EQ(desk_.Captions(), filled_);
+  desk_.Menu.HideMenu();
+  desk_.World.Files.Put("D:\\Docs\\three.txt", "x");
+  Slow().Delay("D:", 300);
+  desk_.Reopen(1);
+  EXPECT_EQ(desk_.Captions(), filled_);
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), (Strings{"Item 2", "one.txt", "three.txt", "two.txt"}));
+}
+
+TEST_F(SlowFolder, WhatTheKeysHadSelectedStaysSelected) {
+  Open("/u");
+  desk_.Menu.HideMenu();
+  desk_.World.Files.Put("D:\\Docs\\three.txt", "x");
+  Slow().Delay("D:", 300);
+  desk_.Reopen(1);
+  for (int i = 0; i < 3; ++i) desk_.World.Desktop.PressKey(forms::key::Down);
+  ASSERT_EQ(desk_.Menu.Items()[desk_.TheProgram.Menu.SelectedItem].Title, "two.txt");
+  Advance(1000);
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 4);
+  EXPECT_EQ(desk_.Menu.Items()[4].Title, "two.txt");
+  EXPECT_EQ(desk_.BarredItem(), 4);
+}
+
+TEST_F(SlowFolder, NothingMovesBetweenPressAndRelease) {
+  Slow().Delay("D:", 120);
+  Open();
+  desk_.PointAtItem(1);
+  desk_.World.Desktop.Press();
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), stored_);
+  desk_.World.Desktop.Release();
+  EXPECT_EQ(desk_.Started(), Strings{"C:\\Tools\\tool.exe"});
+}
+
+TEST_F(SlowFolder, AfterARestartTheGeneratedFileIsShownFirst) {
+  Open();
+  const std::string name = "C:\\Corvelle\\Menus\\BMENU001.mfd";
+  const std::string kept = desk_.World.Files.Get(name).value_or("");
+  ASSERT_FALSE(kept.empty());
+  FolderDesk next;
+  next.World.Files.Put(name, kept);
+  next.World.SlowAnswers.Hang("D:");
+  next.OpenCommands({"C:\\Tools\\tool.exe", "D:\\Docs\\*.*"});
+  EXPECT_EQ(next.Captions(), filled_);
+  EXPECT_EQ(next.Numbers(), (std::vector<int>{2, 5003, 5003}));
+  // Entries of another folder are none of this one's.
+  next.Menu.HideMenu();
+  next.World.SlowAnswers.Hang("E:");
+  next.OpenCommands({"C:\\Tools\\tool.exe", "E:\\Other\\*.*"});
+  EXPECT_EQ(next.Captions(), stored_);
+}
+
+TEST_F(SlowFolder, APressOnAFolderThatIsNotAvailableTriesAgain) {
+  Slow().Hang("D:");
+  Open();
+  Advance(6000);
+  ASSERT_EQ(desk_.Captions(), (Strings{"Item 2", "Item 3 (not available)"}));
+  Slow().Resume("D:");
+  desk_.ClickItem(2);
+  EXPECT_TRUE(desk_.Menu.MenuVisible());
+  EXPECT_TRUE(desk_.Started().empty());
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), filled_);
+}
+
+TEST_F(SlowFolder, NamesThatComeLateReplaceThoseOfTheFiles) {
+  Slow().Delay("D:*", 300);
+  Open();
+  EXPECT_EQ(desk_.Captions(), filled_);
+  EXPECT_TRUE(desk_.Generated().empty());
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), filled_);
+  EXPECT_EQ(desk_.Generated().size(), 4U);
+}
+
+}  // namespace
+}  // namespace corvelle
