@@ -253,7 +253,8 @@ def walk_once_more(failed, walk_alone):
 
 def run_e2e(arguments):
     """(passed, failed)"""
-    for needed in [program for _, program in PROGRAMS] + ["package/corvelle.exe", "package/corvelle-shell.exe", "corvelle.debug"]:
+    packaged = ["package/corvelle.exe", "package/corvelle-shell.exe", "corvelle.debug"]
+    for needed in [program for _, program in PROGRAMS] + packaged:
         if not (arguments.build / needed).is_file():
             say(f"wine: {arguments.build / needed} is not there")
             return 0, 1
