@@ -92,7 +92,10 @@ void frmCust::ChooseOption(CustOption option) {
     case CustOption::Gap:
       break;
   }
-  if (IsLoaded()) MakeMenuBar();
+  if (!IsLoaded()) return;
+  MakeMenuBar();
+  // The box about the Startup folder belongs to the strip, which is in the foreground after it.
+  if (option == CustOption::SetStartup || option == CustOption::RemoveStartup) SetForeground();
 }
 
 void frmCust::LookForBrowser() {

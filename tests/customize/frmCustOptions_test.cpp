@@ -166,6 +166,7 @@ TEST(CustomizeOptions, TheStartupEntryIsMadeAndTakenAway) {
   desk.world.Desktop.Answer("Corvelle has been set as a startup program", forms::msgbox::AnswerOk);
   desk.MenuBar("Options", "Set Corvelle as a Startup Program");
   EXPECT_TRUE(desk.world.Files.FileExists("C:\\Startup\\Corvelle.lnk"));
+  EXPECT_TRUE(desk.Form().TreeView1.HasFocus()) << "the box was the strip's";
   desk.world.Desktop.Answer(
       "Corvelle has been removed from the Startup folder. Next time you start your computer, "
       "Corvelle will not run.",
