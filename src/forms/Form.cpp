@@ -69,12 +69,10 @@ void Form::ShowModalTo(Form& owner) {
 }
 
 // The owner takes input again before this form goes: the system looks for the next active window
-// then.
+// then, and takes the owner if this form was active. A user who has turned to another program
+// stays there.
 void Form::ReleaseOwner() {
-  if (blocked_ == nullptr) return;
-  Form& owner = *std::exchange(blocked_, nullptr);
-  owner.SetEnabled(true);
-  if (owner.Visible()) owner.SetForeground();
+  if (blocked_ != nullptr) std::exchange(blocked_, nullptr)->SetEnabled(true);
 }
 
 bool Form::Load() {
