@@ -69,10 +69,13 @@ void Form::ShowModalTo(Form& owner) {
 }
 
 // The owner takes input again before this form goes: the system looks for the next active window
-// then, and takes the owner if this form was active. A user who has turned to another program
-// stays there.
+// then. The owner follows a form that is active, whatever lies between; a user who has turned to
+// another program stays there.
 void Form::ReleaseOwner() {
-  if (blocked_ != nullptr) std::exchange(blocked_, nullptr)->SetEnabled(true);
+  if (blocked_ == nullptr) return;
+  Form& owner = *std::exchange(blocked_, nullptr);
+  owner.SetEnabled(true);
+  if (active_ && owner.Visible()) owner.SetForeground();
 }
 
 bool Form::Load() {
@@ -147,6 +150,7 @@ void Form::Resized() {
 }
 
 void Form::OnActivated(bool active) {
+  active_ = active;
   if (active) {
     Form_Activate();
   } else {
