@@ -237,8 +237,8 @@ int MonkeyLife::AnySingle() {
 
 int MonkeyLife::AnyItem() {
   const frmQMenu& menu = parts_->Menu;
-  const int count = menu.LastLabel - menu.FirstLabel + 1;
-  return count < 1 ? 0 : menu.FirstLabel + Number(count);
+  const int count = menu.Pages().LastLabel() - menu.Pages().FirstLabel() + 1;
+  return count < 1 ? 0 : menu.Pages().FirstLabel() + Number(count);
 }
 
 PixelPoint MonkeyLife::SomePoint() {

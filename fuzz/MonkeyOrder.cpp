@@ -61,11 +61,14 @@ std::string MonkeyLife::WrongMenu() const {
   if (!menu.MenuReady) return "a menu is up without being ready";
   if (menu.OwnerTag() == "0" || menu.OwnerTag().empty()) return "a menu is up that no button owns";
   if (program.Strip.ToolbarMinimized) return "a menu is up without its strip";
-  if (menu.CurMenu < 0 || menu.CurMenu > menu.Slides) return "there is no such page";
-  if (menu.Labels > 0 && (menu.FirstLabel < 1 || menu.LastLabel > menu.Labels))
+  if (menu.Pages().CurMenu() < 0 || menu.Pages().CurMenu() > menu.Pages().Slides())
+    return "there is no such page";
+  const bool empty = menu.Pages().LastLabel() < menu.Pages().FirstLabel();
+  if (!empty && (menu.Pages().FirstLabel() < 1 || !menu.Lbl.Has(menu.Pages().LastLabel())))
     return "the page has items that the menu has not";
   const int selected = program.Menu.SelectedItem;
-  if (selected != 0 && (selected < menu.FirstLabel || selected > menu.LastLabel))
+  if (selected != 0 &&
+      (selected < menu.Pages().FirstLabel() || selected > menu.Pages().LastLabel()))
     return "the selection " + std::to_string(selected) + " is not on the page";
   if (menu.Shape1.Visible() && selected == 0) return "a bar is shown without a selection";
   return {};

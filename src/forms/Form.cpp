@@ -69,12 +69,13 @@ void Form::ShowModalTo(Form& owner) {
 }
 
 // The owner takes input again before this form goes: the system looks for the next active window
-// then.
+// then. The owner follows a form that is active, whatever lies between; a user who has turned to
+// another program stays there.
 void Form::ReleaseOwner() {
   if (blocked_ == nullptr) return;
   Form& owner = *std::exchange(blocked_, nullptr);
   owner.SetEnabled(true);
-  if (owner.Visible()) owner.SetForeground();
+  if (active_ && owner.Visible()) owner.SetForeground();
 }
 
 bool Form::Load() {
@@ -149,6 +150,7 @@ void Form::Resized() {
 }
 
 void Form::OnActivated(bool active) {
+  active_ = active;
   if (active) {
     Form_Activate();
   } else {

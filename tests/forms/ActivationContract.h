@@ -4,6 +4,7 @@
 // and where the keys go. A test program includes this header once and instantiates the suite with
 // its own homes.
 
+#include "forms/Form.h"
 #include "forms/InputContract.h"
 
 namespace corvelle::forms {
@@ -63,6 +64,47 @@ class ActivationContract : public testing::TestWithParam<ActivationHomeFactory> 
     return form.Notes.Saw("key 40");
   }
 };
+
+// A form that is modal to its owner goes.
+
+class OwningForm final : public Form {
+ public:
+  OwningForm(WindowSystem& windows, const char* name, float left)
+      : Form(windows, name, BorderStyle::Fixed) {
+    Move(left, 2250, 3000, 1500);
+  }
+};
+
+TEST_P(ActivationContract, TheOwnerOfAModalFormFollowsItAndNotWhatLiesBetween) {
+  OwningForm owner(home_->Windows(), "CorvelleOwner", 1500);
+  OwningForm modal(home_->Windows(), "CorvelleModal", 6000);
+  owner.Show();
+  Settle();
+  const auto between = Open("CorvelleBetween", {500, 400, 700, 500});
+  modal.ShowModalTo(owner);
+  Settle();
+  EXPECT_EQ(Desktop().ForegroundWindow(), modal.hWnd());
+  modal.Unload();
+  Settle();
+  EXPECT_EQ(Desktop().ForegroundWindow(), owner.hWnd());
+  owner.Unload();
+}
+
+TEST_P(ActivationContract, AModalFormThatGoesBehindAnotherProgramTakesNothingFromIt) {
+  OwningForm owner(home_->Windows(), "CorvelleOwner", 1500);
+  OwningForm modal(home_->Windows(), "CorvelleModal", 6000);
+  owner.Show();
+  modal.ShowModalTo(owner);
+  Settle();
+  const WindowId other = home_->OpenOther();
+  Settle();
+  ASSERT_EQ(Desktop().ForegroundWindow(), other);
+  modal.Unload();
+  Settle();
+  EXPECT_EQ(Desktop().ForegroundWindow(), other);
+  EXPECT_TRUE(owner.Enabled());
+  owner.Unload();
+}
 
 // The active window goes away.
 
