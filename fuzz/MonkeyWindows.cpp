@@ -15,13 +15,13 @@ namespace {
 
 using forms::MouseButton;
 
-constexpr int kShift = 16;
-constexpr int kControl = 17;
+constexpr int kShiftKey = 16;
+constexpr int kControlKey = 17;
 constexpr int kAlt = 18;
 constexpr int kAnswerCancel = 2;
 
-constexpr std::array<int, 21> kKeys = {9,  9,  9,  13, 13, 32, 33, 34,  35,  36, 37,
-                                       38, 38, 39, 40, 40, 46, 93, 113, 114, 115};
+constexpr std::array<int, 21> kWindowKeys = {9,  9,  9,  13, 13, 32, 33, 34,  35,  36, 37,
+                                             38, 38, 39, 40, 40, 46, 93, 113, 114, 115};
 // With Ctrl: commands of the tree and of a text box, and the tabs.
 constexpr std::array<int, 20> kWithControl = {'A', 'B', 'C', 'D', 'E', 'F', 'H', 'I', 'L', 'M',
                                               'N', 'S', 'U', 'V', 'X', 'Y', 'Z', 9,   33,  34};
@@ -174,14 +174,14 @@ void MonkeyLife::UseWindow(forms::Form& form) {
       ClickAt(at, Chance(88) ? MouseButton::Left : MouseButton::Right);
     }
   } else if (what < 54) {
-    const int key = kKeys[static_cast<std::size_t>(Number(kKeys.size()))];
-    if (Chance(10)) return PressWith(kShift, key);
+    const int key = kWindowKeys[static_cast<std::size_t>(Number(kWindowKeys.size()))];
+    if (Chance(10)) return PressWith(kShiftKey, key);
     Tell("key " + std::to_string(key));
     world_->Desktop.PressKey(key);
   } else if (what < 66) {
     TypeInWindow();
   } else if (what < 74) {
-    PressWith(kControl, kWithControl[static_cast<std::size_t>(Number(kWithControl.size()))]);
+    PressWith(kControlKey, kWithControl[static_cast<std::size_t>(Number(kWithControl.size()))]);
   } else if (what < 80) {
     PressWith(kAlt, 'A' + Number(26));
   } else if (what < 86) {

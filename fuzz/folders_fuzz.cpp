@@ -41,11 +41,9 @@ struct Home {
 };
 
 void CheckOrigins(const ExpandedMenu& menu, const std::vector<MenuRecord>& source) {
-  CORVELLE_CHECK(menu.Records.size() == menu.Origins.size());
-  for (std::size_t i = 0; i < menu.Records.size(); ++i) {
-    const int number = menu.Origins[i].Record;
-    const MenuRecord& record = menu.Records[i];
-    if (number == 0 && record.FTitle.empty() && record.FIcon == kSeparatorIcon) continue;
+  for (const MenuItem& item : menu.Items) {
+    const int number = item.Origin.Record;
+    if (number == 0 && item.Title.empty() && item.Separator) continue;
     const int real = RealRecord(number);
     CORVELLE_CHECK(real >= 1 && real <= static_cast<int>(source.size()));
     const std::string& command = source[static_cast<std::size_t>(real) - 1].FName;
@@ -58,13 +56,13 @@ void CheckOrigins(const ExpandedMenu& menu, const std::vector<MenuRecord>& sourc
 // Each title of the generated file carries the number of the record that it stands for.
 void CheckGenerated(Home& home, const ExpandedMenu& menu) {
   const auto records = ReadAllRecords(home.world.Files, home.world.Ansi, menu.File);
-  CORVELLE_CHECK(records && records->size() <= menu.Records.size());
+  CORVELLE_CHECK(records && records->size() <= menu.Items.size());
   std::size_t at = 0;
   for (const MenuRecord& record : *records) {
     const int number = SplitTitle(record.FTitle, 0).Record;
     const int written = record.FTitle.find('\0') == std::string::npos ? 0 : number;
-    while (at < menu.Origins.size() && menu.Origins[at].Record != written) ++at;
-    CORVELLE_CHECK(at < menu.Origins.size());
+    while (at < menu.Items.size() && menu.Items[at].Origin.Record != written) ++at;
+    CORVELLE_CHECK(at < menu.Items.size());
     ++at;
   }
 }
@@ -92,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   disk.Put(kOther, "untouched");
   if (fault < 24)
     disk.FailCall(1 + fault % 12, fault < 12 ? FileError::DiskFull : FileError::InUse);
-  const std::optional<ExpandedMenu> expanded = home.folders.Expand("F2", kFile);
+  const std::optional<ExpandedMenu> expanded = home.folders.Expand("F2", kFile, bytes);
   const bool written = expanded && home.folders.WriteGenerated(*expanded);
   disk.StopFailing();
   CORVELLE_CHECK(disk.Get(kFile) == bytes && disk.Get(kOther) == "untouched");
