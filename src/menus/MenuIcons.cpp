@@ -19,12 +19,23 @@ constexpr int kFirstRoom = 16;
 constexpr int kMostTries = 3;
 /// Under which the fallback icon is kept; no icon text is like it.
 const std::string kFallbackKey(1, '\0');
+/// For how long a disk that has answered is not asked again. Milliseconds.
+constexpr std::int64_t kReachableFor = 10'000;
+
+/// "D:\\", or the share of a path on a server; empty for a text that is no full path.
+std::string RootOfPath(std::string_view path) {
+  if (path.size() > 2 && path[1] == ':' && path[2] == '\\') return std::string(path.substr(0, 3));
+  if (!path.starts_with("\\\\")) return {};
+  const std::size_t share = path.find('\\', 2);
+  if (share == std::string_view::npos) return std::string(path);
+  return std::string(path.substr(0, path.find('\\', share + 1)));
+}
 
 }  // namespace
 
-MenuIcons::MenuIcons(Program& program) : program_(program) {}
+MenuIcons::MenuIcons(Program& program) : program_(program), owner_(program.Answers.NewOwner()) {}
 
-MenuIcons::~MenuIcons() = default;
+MenuIcons::~MenuIcons() { program_.Answers.Drop(owner_); }
 
 void MenuIcons::ResetPicIcons() {
   ++resets_;
@@ -80,9 +91,27 @@ int MenuIcons::LoadFileIcon(const std::string& text, const IconForm& form) {
   std::string key = LowerCase(text);
   const auto known = colIconFile_.find(key);
   if (known != colIconFile_.end()) return known->second;
+  if (form.Kind == IconKind::File && !IsReachable(form.Text)) {
+    stoodIn_ = true;
+    return LoadFallback();
+  }
   const int cell = LoadFile(text, form);
   colIconFile_.emplace(std::move(key), cell);
   return cell;
+}
+
+bool MenuIcons::IsReachable(std::string_view path) {
+  const std::string root = RootOfPath(path);
+  // The disk on which the program itself lies answers.
+  if (root.empty() || EqualNoCase(root, RootOfPath(program_.Paths.AppPath))) return true;
+  const desk::Request request{.Question = {.Kind = LookupKind::IsThere, .Path = root},
+                              .Owner = owner_,
+                              .MaxAge = kReachableFor};
+  const auto reply = program_.Answers.AskAtOnce(request, {.Ended = [this](const desk::Reply& r) {
+                                                  if (r.How == desk::End::NotAvailable) return;
+                                                  if (const auto arrived = Arrived) arrived();
+                                                }});
+  return reply && reply->How != desk::End::NotAvailable;
 }
 
 int MenuIcons::LoadFile(const std::string& text, const IconForm& form) {

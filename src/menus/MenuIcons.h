@@ -1,11 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include "base/Geometry.h"
 #include "icons/IconForm.h"
@@ -38,6 +40,13 @@ class MenuIcons {
   /// while the strip shows small icons.
   void FetchButtonIcon(std::string_view iconText);
 
+  /// Called, by a turn of its own, when a disk has answered whose icons stood in for until then:
+  /// each is found when it is drawn again.
+  std::function<void()> Arrived;
+
+  /// Whether an icon has been stood in for since the last call.
+  [[nodiscard]] bool TakeStoodIn() noexcept { return std::exchange(stoodIn_, false); }
+
   /// Forgets all icons, so that each is asked for again.
   void ResetPicIcons();
 
@@ -55,11 +64,16 @@ class MenuIcons {
   /// The cell of an icon of the system's list, which all texts that mean it share.
   int LoadSystemIcon(int index);
   int LoadFallback();
+  /// False for a file of a disk or server that does not answer at once: no icon is looked for there
+  /// until it does.
+  [[nodiscard]] bool IsReachable(std::string_view path);
   /// Draws on a cell of the menu's ground and appends it to the strip.
   int AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw);
   void MakeRoom();
 
   Program& program_;
+  std::uint64_t owner_ = 0;  // of questions to the desk
+  bool stoodIn_ = false;
   std::unique_ptr<Canvas> picIcons_;
   int cells_ = 0;
   int room_ = 0;

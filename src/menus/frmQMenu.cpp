@@ -102,6 +102,7 @@ void frmQMenu::WireEvents() {
   KeysTimer.Tick = [this] { ActHeldKeys(); };
   KeysTimer.SetInterval(1);
   UpdateTimer.Tick = [this] { TryUpdate(); };
+  icons_.Arrived = [this] { IconsArrived(); };
   WireDrags();
   for (int i = 0; i <= 1; ++i) {
     WireArrow(LblButton[i], i);

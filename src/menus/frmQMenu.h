@@ -281,6 +281,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void KeepPage();
   void CenterGlyph(int index, std::string_view glyph);
   void ColoursChanged();
+  /// Icons that could not be asked for can be now: each takes its place on the page on show.
+  void IconsArrived();
   void Form_Paint();
 
   // Items (frmQMenuItems.cpp).

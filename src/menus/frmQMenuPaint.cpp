@@ -83,6 +83,7 @@ void frmQMenu::DrawPageOnce(bool watched) {
     BringUp();
     Refresh();
   }
+  static_cast<void>(icons_.TakeStoodIn());
   for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) {
     DrawItemIcon(i);
     if (!IsLoaded()) return;
@@ -117,7 +118,8 @@ void frmQMenu::KeepPage() {
   }
   clsMenu& page = pages_.Current();
   page.MenuPicture = Image();
-  page.Init = 1;
+  // One on which an icon was stood in for is drawn again when it is shown again.
+  page.Init = icons_.TakeStoodIn() ? 0 : 1;
 }
 
 void frmQMenu::DrawItemIcon(int index) {
@@ -205,6 +207,17 @@ void frmQMenu::ColoursChanged() {
   UpDownArrows();
   const int selected = program_.Menu.SelectedItem;
   DrawPage(false);
+  if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
+  if (selected > 0) SelectItem(selected);
+}
+
+void frmQMenu::IconsArrived() {
+  // A page of another menu is drawn again when it is shown.
+  cache_.DropPictures();
+  if (!MenuReady || !MenuVisible() || items_.Count() == 0) return;
+  const int selected = program_.Menu.SelectedItem;
+  DrawPage(false);
+  if (!IsLoaded()) return;
   if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
   if (selected > 0) SelectItem(selected);
 }
