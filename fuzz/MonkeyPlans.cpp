@@ -123,7 +123,7 @@ std::string MonkeyLife::PickFrom(const std::vector<const forms::PopupItem*>& off
     const bool rare = caption == "Undo Delete" || caption == "Delete Separator" ||
                       caption == "Open Folder" || caption == "Close Folder" ||
                       caption == "Folder Properties";
-    if (rare && Chance(40)) return caption;
+    if (rare && Chance(70)) return caption;
   }
   std::string caption;
   for (int tries = 3; tries > 0; --tries) {

@@ -79,7 +79,7 @@ int SimLookups::DelayOf(const std::string& lane) const {
 }
 
 LookupAnswer SimLookups::Answer(LookupId id) const {
-  return forms::AnswerLookup(services_, underWay_.at(id).Question.Question);
+  return forms::AnswerLookup(*services_, underWay_.at(id).Question.Question);
 }
 
 void SimLookups::Complete(LookupId id, LookupAnswer answer) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 
 #include "forms/Alive.h"
@@ -14,11 +15,15 @@ namespace corvelle::sim {
 /// answered as soon as its lane is free, and told by the next turn of the message loop.
 class SimLookups final : public Lookups {
  public:
-  SimLookups(SimDesktop& desktop, const forms::LookupServices& services)
-      : desktop_(desktop), services_(services) {}
+  SimLookups(SimDesktop& desktop, const forms::LookupServices& services) : desktop_(desktop) {
+    Use(services);
+  }
   SimLookups(const SimLookups&) = delete;
   SimLookups& operator=(const SimLookups&) = delete;
   ~SimLookups() override;
+
+  /// What the answers come from, from now on.
+  void Use(const forms::LookupServices& services) { services_.emplace(services); }
 
   // Setting up and asking. A lane keeps what was said of it last.
   /// From now on each question of a lane takes so long. Milliseconds.
@@ -59,7 +64,7 @@ class SimLookups final : public Lookups {
   bool Tell();
 
   SimDesktop& desktop_;
-  forms::LookupServices services_;
+  std::optional<forms::LookupServices> services_;
   Listener listener_;
   forms::LookupLedger ledger_;
   std::map<std::string, int> delays_;
