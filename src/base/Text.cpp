@@ -13,7 +13,12 @@ namespace {
 std::string_view TrimView(std::string_view text) noexcept {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+  text.remove_prefix(first);
+  // A field of a record is mostly blanks: several at a time.
+  constexpr std::string_view kBlanks = "                ";
+  while (text.ends_with(kBlanks)) text.remove_suffix(kBlanks.size());
+  while (text.back() == ' ') text.remove_suffix(1);
+  return text;
 }
 
 /// What a character weighs when case does not count.

@@ -108,6 +108,9 @@ void CustTreeControl::Forget(CustRef node) {
 }
 
 forms::NodeId CustTreeControl::NextShown(CustRef node) const {
+  const CustRef parent = tree_.Parent(node);
+  // The last one, as each is while a menu is read, needs no search among its siblings.
+  if (parent != kNoRef && tree_.Children(parent).back() == node) return forms::kNoNode;
   // Of several that come at once the later ones are not shown yet.
   for (CustRef next = tree_.Next(node); next != kNoRef; next = tree_.Next(next)) {
     if (const forms::NodeId id = IdOf(next); id != forms::kNoNode) return id;

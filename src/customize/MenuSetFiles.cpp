@@ -16,21 +16,48 @@ constexpr std::size_t kLongestMenu = static_cast<std::size_t>(kMaxRecords) * kRe
 
 using Names = FileResult<std::vector<std::string>>;
 
-MenusResult<std::vector<StoredFile>> ReadRow(FileSystem& files, std::string_view menusPath,
-                                             const Names& names) {
+/// Hands the files of a row over, one after the other. The result is how many of them were there.
+template <class Take>
+MenusResult<std::size_t> ReadEach(FileSystem& files, std::string_view menusPath, const Names& names,
+                                  const Take& take) {
   const std::string folder(menusPath);
   if (!names) return MenusError{names.Error(), folder};
-  std::vector<StoredFile> row;
-  row.reserve(names->size());
+  std::size_t there = 0;
   for (const std::string& name : *names) {
     FileResult<std::string> bytes = files.Read(folder + name, 0, kLongestMenu + 1);
     if (!bytes && bytes.Error() == FileError::NotFound) continue;
     if (!bytes) return MenusError{bytes.Error(), folder + name};
     if (bytes->size() > kLongestMenu) return MenusError{FileError::Failed, folder + name};
-    row.push_back({name, *std::move(bytes)});
+    ++there;
+    take(name, *std::move(bytes));
   }
+  return there;
+}
+
+MenusResult<std::vector<StoredFile>> ReadRow(FileSystem& files, std::string_view menusPath,
+                                             const Names& names) {
+  std::vector<StoredFile> row;
+  const auto there = ReadEach(files, menusPath, names, [&](const std::string& name, std::string b) {
+    row.push_back({name, std::move(b)});
+  });
+  if (!there) return there.Error();
   return row;
 }
+
+/// Makes the stamp of files that come one after the other.
+class Stamper {
+ public:
+  void BeginRow(std::size_t filesOfRow) { digest_.Add(filesOfRow); }
+  void Add(std::string_view bytes) {
+    length_ += bytes.size();
+    digest_.Add(bytes);
+  }
+  [[nodiscard]] MenusStamp Stamp() const { return {length_, digest_.Value()}; }
+
+ private:
+  Digest digest_;
+  std::uint64_t length_ = 0;
+};
 
 Menu ParseMenu(std::string_view bytes, const CodePage& ansi) {
   Menu menu;
@@ -70,17 +97,12 @@ MenusResult<StoredMenus> ReadStoredMenus(FileSystem& files, std::string_view men
 }
 
 MenusStamp StampOf(const StoredMenus& stored) {
-  MenusStamp stamp;
-  Digest digest;
+  Stamper stamper;
   for (const auto* row : {&stored.Menus, &stored.Singles}) {
-    digest.Add(row->size());
-    for (const StoredFile& file : *row) {
-      stamp.Length += file.Bytes.size();
-      digest.Add(file.Bytes);
-    }
+    stamper.BeginRow(row->size());
+    for (const StoredFile& file : *row) stamper.Add(file.Bytes);
   }
-  stamp.Hash = digest.Value();
-  return stamp;
+  return stamper.Stamp();
 }
 
 MenuSet ParseMenus(const StoredMenus& stored, const CodePage& ansi) {
@@ -117,9 +139,33 @@ StoredMenus InListOrder(StoredMenus stored) {
 
 MenusResult<MenuFiles> ReadMenuFiles(FileSystem& files, const CodePage& ansi,
                                      std::string_view menusPath) {
-  const MenusResult<StoredMenus> stored = ReadStoredMenus(files, menusPath);
-  if (!stored) return stored.Error();
-  return MenuFiles{ParseMenus(*stored, ansi), StampOf(*stored)};
+  // Parsed one by one: the bytes of all of them together may be much.
+  MenuFiles read;
+  Stamper stamper;
+  const Names menus = ListMenuFiles(files, menusPath);
+  if (menus) stamper.BeginRow(menus->size());
+  const auto menusThere =
+      ReadEach(files, menusPath, menus, [&](const std::string&, const std::string& bytes) {
+        stamper.Add(bytes);
+        read.Set.Menus.push_back(ParseMenu(bytes, ansi));
+      });
+  if (!menusThere) return menusThere.Error();
+  const Names singles = OrderedSingleFiles(files, menusPath);
+  if (singles) stamper.BeginRow(singles->size());
+  const auto singlesThere =
+      ReadEach(files, menusPath, singles, [&](const std::string&, const std::string& bytes) {
+        stamper.Add(bytes);
+        read.Set.Singles.push_back(ParseRecord(bytes, ansi));
+      });
+  if (!singlesThere) return singlesThere.Error();
+  if (*menusThere != menus->size() || *singlesThere != singles->size()) {
+    // One has gone since the listing, which the stamp has counted.
+    const MenusResult<StoredMenus> stored = ReadStoredMenus(files, menusPath);
+    if (!stored) return stored.Error();
+    return MenuFiles{ParseMenus(*stored, ansi), StampOf(*stored)};
+  }
+  read.Stamp = stamper.Stamp();
+  return read;
 }
 
 }  // namespace corvelle

@@ -123,7 +123,9 @@ void frmCust::WireControls() {
   cmdAllFiles.SetCaption("File");
   cmdAllFiles.SetToolTip("Select Icon From File");
   cmdShowDraft.SetCaption("Show");
+  cmdShowDraft.SetToolTip("Show Changes That Were Not Saved");
   cmdForgetDraft.SetCaption("Forget");
+  cmdForgetDraft.SetToolTip("Forget Changes That Were Not Saved");
   txtFind.SetVisible(false);
   txtFind.SetCue("Find");
   for (forms::Surface* box :

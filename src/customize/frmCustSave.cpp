@@ -198,9 +198,10 @@ bool frmCust::KeepDraft() {
 
 void frmCust::ShowOffer() {
   const std::size_t count = Offers();
+  // Beside the two buttons there is room for a word.
   std::string caption = "Menu Tree";
-  if (count == 1) caption += " (unsaved changes are kept)";
-  if (count > 1) caption += " (" + std::to_string(count) + " sets of unsaved changes)";
+  if (count == 1) caption = "Unsaved:";
+  if (count > 1) caption = "Unsaved (" + std::to_string(count) + "):";
   lblMenuTree.SetCaption(caption);
   PlaceControls();
 }

@@ -61,6 +61,11 @@ void frmCust::WireTree() {
   TreeView1.DragBegin = [this](forms::NodeId node) {
     if (TreeHeld()) return false;
     Editor.DragNode = tree_.RefOf(node);
+    if (Editor.DragNode != Editor.Selected()) {
+      Editor.Select(Editor.DragNode);
+      Editor.UpdateEntryBoxes();
+      ShowState();
+    }
     Dragging = true;
     return true;
   };

@@ -247,5 +247,38 @@ TEST(FormatMenus, TheThousandthMenuHasFourDigitsAndIsReadBeforeNumber101) {
   EXPECT_EQ(titles, (std::vector<std::string>{"99", "100", "1000", "1001", "101"}));
 }
 
+// ---- growth ----
+
+/// What the reading of so many menus asks of the disk.
+std::size_t CallsToRead(int menus) {
+  sim::SimFiles disk;
+  Folder files;
+  for (int i = 1; i <= menus; ++i) files[MenuFileName(i)] = Stored("m") + Stored(Item("a"));
+  PutFolder(disk, files);
+  disk.ClearLog();
+  EXPECT_TRUE(ReadMenuFiles(disk, kCodePage, kMenus).HasValue());
+  return disk.Log().size();
+}
+
+TEST(MenuSetFiles, ReadingAsksForEachFileOnce) {
+  // Two listings, and the files.
+  for (const int menus : {0, 1, 10, 300}) {
+    EXPECT_EQ(CallsToRead(menus), static_cast<std::size_t>(menus) + 2) << menus;
+  }
+}
+
+TEST(MenuSetFiles, AFileThatGoesWhileTheyAreReadGivesTheStampOfTheOthers) {
+  sim::SimFiles disk;
+  PutFolder(disk, {{"BMENU001.MNU", Stored("a")}, {"BMENU002.MNU", Stored("b")}});
+  // The second reading fails: that file is gone then.
+  disk.FailCall(3, FileError::NotFound);
+  const auto read = ReadMenuFiles(disk, kCodePage, kMenus);
+  ASSERT_TRUE(read.HasValue());
+  disk.StopFailing();
+  const auto again = ReadMenuFiles(disk, kCodePage, kMenus);
+  EXPECT_EQ((*read).Stamp, (*again).Stamp) << "looked at once more, it was there";
+  EXPECT_EQ((*read).Set, (*again).Set);
+}
+
 }  // namespace
 }  // namespace corvelle

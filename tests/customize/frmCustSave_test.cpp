@@ -226,7 +226,7 @@ TEST(CustomizeDraft, AnOlderOneThatWasNotShownOutlivesAClosingWithNewUnsavedEdit
   desk.Close();
   ASSERT_FALSE(desk.Form().IsLoaded());
   desk.Open();
-  EXPECT_EQ(desk.Form().lblMenuTree.Caption(), "Menu Tree (2 sets of unsaved changes)");
+  EXPECT_EQ(desk.Form().lblMenuTree.Caption(), "Unsaved (2):");
   EXPECT_EQ(desk.Offered(), (std::vector<std::string>{TwoDraftsDesk::kWatch, kWithoutAnvil}));
 }
 
@@ -235,7 +235,7 @@ TEST(CustomizeDraft, ForgetDropsTheOneThatShowWouldShow) {
   desk.Close();
   desk.Open();
   desk.ClickFlat(desk.Form().cmdForgetDraft, desk.Form());
-  EXPECT_EQ(desk.Form().lblMenuTree.Caption(), "Menu Tree (unsaved changes are kept)");
+  EXPECT_EQ(desk.Form().lblMenuTree.Caption(), "Unsaved:");
   EXPECT_EQ(desk.Offered(), std::vector<std::string>{kWithoutAnvil});
   EXPECT_FALSE(desk.Form().cmdForgetDraft.Visible());
 }
