@@ -69,13 +69,12 @@ void Form::ShowModalTo(Form& owner) {
 }
 
 // The owner takes input again before this form goes: the system looks for the next active window
-// then. The owner follows a form that is active, whatever lies between; a user who has turned to
-// another program stays there.
+// then.
 void Form::ReleaseOwner() {
   if (blocked_ == nullptr) return;
   Form& owner = *std::exchange(blocked_, nullptr);
   owner.SetEnabled(true);
-  if (active_ && owner.Visible()) owner.SetForeground();
+  if (owner.Visible()) owner.SetForeground();
 }
 
 bool Form::Load() {
@@ -150,7 +149,6 @@ void Form::Resized() {
 }
 
 void Form::OnActivated(bool active) {
-  active_ = active;
   if (active) {
     Form_Activate();
   } else {

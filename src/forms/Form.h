@@ -159,7 +159,6 @@ class Form : public Surface {
   BorderStyle border_;
   bool inTaskbar_;
   bool loaded_ = false;
-  bool active_ = false;
   bool unloading_ = false;
   bool keyPreview_ = false;
   bool swallowed_ = false;

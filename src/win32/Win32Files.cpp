@@ -183,9 +183,8 @@ FileResult<std::vector<FileEntry>> Win32Files::List(std::string_view folder,
   if (!find) {
     const DWORD code = GetLastError();
     const FileError error = FileErrorOf(code);
-    // A part of the path is missing, or its server: to ask once more would be to wait once more. The
-    // last two are said of a file, and of a folder that may not be read.
-    if (code != ERROR_FILE_NOT_FOUND && code != ERROR_DIRECTORY && code != ERROR_ACCESS_DENIED)
+    // A part of the path is missing, or its server: to ask once more would be to wait once more.
+    if (code == ERROR_PATH_NOT_FOUND || code == ERROR_BAD_NETPATH || code == ERROR_BAD_NET_NAME)
       return error;
     const DWORD attributes = AttributesOf(*wide);
     if (attributes == INVALID_FILE_ATTRIBUTES) return error;
