@@ -3,7 +3,7 @@
 
   tools/run_windows_tests.py --build build/windows [--filter PATTERN] [--jobs N] [--times N] [contract] [e2e]
 
-contract: windows_contract_tests.exe as a whole, in one session.
+contract: windows_contract_tests.exe as a whole, in one session, beside the first roads.
 e2e: each test of e2e_tests.exe in a fresh session, beside a fresh copy of the program's folder
      (BUILD/package). Tests whose suite ends in AtEachScale run at 96 and at 120 dpi. Logs and pictures
      go below --out (build/e2e), one folder for each test. --times 10 lets the tests that repeat an act
@@ -296,10 +296,13 @@ def main():
     which = arguments.which or ["contract", "e2e"]
     passed = failed = 0
     try:
-        for kind, run in (("contract", run_contract), ("e2e", run_e2e)):
-            if kind in which:
-                more = run(arguments)
-                passed, failed = passed + more[0], failed + more[1]
+        # Side by side: the contract suites are one program, which waits most of its time.
+        with concurrent.futures.ThreadPoolExecutor(2) as pool:
+            running = [pool.submit(run, arguments) for kind, run in (("contract", run_contract), ("e2e", run_e2e))
+                       if kind in which]
+        for one in running:
+            more = one.result()
+            passed, failed = passed + more[0], failed + more[1]
     except SessionError as error:
         say(f"wine: {error}")
         failed += 1
