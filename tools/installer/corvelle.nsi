@@ -71,12 +71,16 @@ Function ${un}ProgramRuns
   ${EndIf}
 FunctionEnd
 
-; Tells one window that the session ends, as the system does: it is asked, and then told.
+; Tells one window that the session ends, as the system does: it is asked, and then told. "error" in $2 if it
+; does not answer.
 Function ${un}EndWindow
+  StrCpy $2 ""
   FindWindow $1 "$0"
   ${If} $1 P<> 0
     SendMessage $1 ${WM_QUERYENDSESSION} 0 1 $2 /TIMEOUT=5000
-    SendMessage $1 ${WM_ENDSESSION} 1 1 $2 /TIMEOUT=5000
+    ${If} $2 != "error"
+      SendMessage $1 ${WM_ENDSESSION} 1 1 $2 /TIMEOUT=5000
+    ${EndIf}
   ${EndIf}
 FunctionEnd
 
@@ -88,10 +92,16 @@ Function ${un}EndProgram
   ${If} $0 == 0
     Return
   ${EndIf}
-  StrCpy $0 "frmMinimize"
-  Call ${un}EndWindow
+  StrCpy $2 ""
   StrCpy $Tries 0
   ${Do}
+    ; Each second, since one that is still starting does not listen yet; not again if it does not answer.
+    IntOp $1 $Tries % 10
+    ${If} $1 == 0
+    ${AndIf} $2 != "error"
+      StrCpy $0 "frmMinimize"
+      Call ${un}EndWindow
+    ${EndIf}
     Call ${un}ProgramRuns
     ${If} $0 == 0
       StrCpy $WasRunning 1
