@@ -1,8 +1,8 @@
 #!/bin/bash
 # Installs what is missing, builds and runs every test: natively with the sanitizers on the simulated
 # desktop, then the Windows side and the real corvelle.exe under Wine. The last line tells the totals.
-# With CORVELLE_RELEASE=1 a release is made and tested too, built once more in another folder to compare its bytes, and
-# the 32-bit one is installed and run, with all the tests that run on Windows.
+# A release is made and tested too. With CORVELLE_RELEASE=1 it is also built once more in another folder, to compare its
+# bytes, and the 32-bit one is installed and run, with all the tests that run on Windows.
 set -uo pipefail
 cd "$(dirname "$0")" || exit 1
 . tools/setup.sh
@@ -101,8 +101,8 @@ mkdir -p build
 stage "native build, with the address and undefined behaviour sanitizers" build_native &&
   stage "native tests" run_native
 stage "build for Windows" build_windows && stage "tests under Wine" run_wine
-stage "build for 32-bit Windows" build_windows32 && if [ -n "${CORVELLE_RELEASE:-}" ]; then
-  stage "release" build_release && stage "tests of the release" run_release
+stage "build for 32-bit Windows" build_windows32 && stage "release" build_release &&
+  stage "tests of the release" run_release && if [ -n "${CORVELLE_RELEASE:-}" ]; then
   stage "the same release from another folder" run_reproducible
   stage "the 32-bit program" run_32bits
 fi
