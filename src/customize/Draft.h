@@ -42,7 +42,7 @@ using Drafts = std::vector<Draft>;
 [[nodiscard]] FileResult<Drafts> ReadDrafts(FileSystem& files, std::string_view menusPath);
 
 /// Puts these drafts in the place of those in the file, in one step: after a failure these are
-/// there. Without a draft there is no file.
+/// there. With no drafts the file is deleted.
 FileStatus WriteDrafts(FileSystem& files, std::string_view menusPath, const Drafts& drafts);
 
 /// The drafts around a save, but that of the tree itself; the newest first.

@@ -20,7 +20,7 @@ class FolderQuestions {
   /// What is known so far.
   struct Known {
     FolderState State = FolderState::Reading;
-    /// The answer; while there is none the one that came last, if any. Nothing after a refusal.
+    /// The answer; until it comes, the previous answer if one is kept. Empty after a failure.
     LookupValue Value;
   };
 

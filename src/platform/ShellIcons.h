@@ -51,8 +51,8 @@ class ShellIcons {
 
   /// The icon that the shell shows for an existing file or folder, as large as those of the list (a
   /// small one is 16 by 16), and icon `index` of an icon file at `size` by `size` (see
-  /// DrawFileIcon). Nothing when there is none. Unlike the routines above they can be called on any
-  /// thread that has an object of its own.
+  /// DrawFileIcon). Empty when the file has no icon. Unlike the routines above they can be called
+  /// on any thread that has an object of its own.
   [[nodiscard]] virtual std::optional<IconPixels> PixelsOfFile(std::string_view path,
                                                                IconList list) = 0;
   [[nodiscard]] virtual std::optional<IconPixels> PixelsInFile(std::string_view file, int index,

@@ -51,7 +51,7 @@ class ShellHelpers {
 };
 
 /// The icon, or the name, that a file has by its type alone: no disk, no extension of the shell and
-/// no cloud is asked. A failure for what is no file.
+/// no cloud is asked. Fails for other questions, and when the path names no file.
 [[nodiscard]] LookupAnswer AnswerByType(const Lookup& question);
 
 }  // namespace corvelle::win32

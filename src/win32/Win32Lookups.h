@@ -15,7 +15,7 @@ class Win32Lookups final : public Lookups {
  public:
   explicit Win32Lookups(std::shared_ptr<PostBox> posts);
   /// With the program of that path for icons and names, in place of the one beside this program;
-  /// where there is none, the threads look for them.
+  /// without that file the threads look for them.
   Win32Lookups(std::shared_ptr<PostBox> posts, std::string helper);
   Win32Lookups(const Win32Lookups&) = delete;
   Win32Lookups& operator=(const Win32Lookups&) = delete;

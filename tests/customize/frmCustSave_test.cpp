@@ -308,6 +308,15 @@ TEST(CustomizeDraft, WhatCannotBeKeptIsAskedAbout) {
   }
 }
 
+/// The program ends before that call of the disk, or that call alone fails.
+void BreakAt(sim::SimFiles& files, int call, bool ends) {
+  if (ends) {
+    files.FailFrom(call);
+  } else {
+    files.FailCall(call);
+  }
+}
+
 // Closing writes the drafts of both, and the start that follows reads them.
 TEST(CustomizeDraft, AnEndOrAFailureAtAnyCallOfTheClosingLosesNoOlderDraft) {
   for (const bool ends : {false, true}) {
@@ -316,11 +325,7 @@ TEST(CustomizeDraft, AnEndOrAFailureAtAnyCallOfTheClosingLosesNoOlderDraft) {
       ASSERT_LT(n, 60);
       TwoDraftsDesk desk;
       desk.world.Desktop.AnswerAnyOther(kNo);
-      if (ends) {
-        desk.world.Files.FailFrom(n);
-      } else {
-        desk.world.Files.FailCall(n);
-      }
+      BreakAt(desk.world.Files, n, ends);
       desk.Close();
       const bool hit = desk.world.Files.Hit();
       desk.world.Files.StopFailing();
@@ -342,11 +347,7 @@ TEST(CustomizeDraft, AnEndOrAFailureAtAnyCallOfASaveLosesNoOlderDraft) {
       ASSERT_LT(n, 200);
       TwoDraftsDesk desk;
       desk.world.Desktop.AnswerAnyOther(kNo);
-      if (ends) {
-        desk.world.Files.FailFrom(n);
-      } else {
-        desk.world.Files.FailCall(n);
-      }
+      BreakAt(desk.world.Files, n, ends);
       desk.ClickControl(desk.Form().cmdSave);
       const bool hit = desk.world.Files.Hit();
       desk.world.Files.StopFailing();

@@ -58,7 +58,7 @@ class BareForm final : public Form {
   explicit BareForm(WindowSystem& windows) : Form(windows, "frmBare") {}
 };
 
-// Before it is loaded there is no window that could clear its line.
+// An unloaded box has no window, so nothing clears the selected line.
 TEST(ComboBox, ThatIsNotLoadedForgetsTheTextOfARemovedChoice) {
   sim::World world;
   BareForm form(world.Windows());

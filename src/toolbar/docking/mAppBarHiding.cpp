@@ -72,7 +72,7 @@ void mAppBar::RevealToolbar() {
   if (strip_.ContentsVisible()) return;
   strip_.ShowContents();
   if (program_.Strip.AppBarDocked) {
-    // What was read anew for the line has its places from here on.
+    // The buttons that were read again while only the line was seen get their places now.
     ResizeToEdge();
     const TwipPoint corner = RevealedCorner(CurrentEdge(), window_.Bounds(), line_, Twips());
     window_.Move(corner.X, corner.Y, window_.Width(), window_.Height());

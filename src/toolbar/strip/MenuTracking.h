@@ -122,7 +122,7 @@ class MenuTracking {
   /// True if the user has gone to another program's window.
   [[nodiscard]] bool HasLeft(WindowId under) const;
   void StartHovering();
-  /// A release over the menu is a choice there. False when it is none of the menu's.
+  /// A release over the menu is a choice there. False when the pointer is not over the menu.
   bool ReleaseInMenu(forms::MouseButton button, forms::ShiftState shift, PixelPoint at);
   void ShowButtonPopup();
   void AnnounceHint();
