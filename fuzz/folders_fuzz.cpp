@@ -7,8 +7,8 @@
 #include "Input.h"
 #include "core/MenuFile.h"
 #include "core/Program.h"
-#include "menus/FolderMenus.h"
-#include "menus/FolderRules.h"
+#include "menus/folders/FolderMenus.h"
+#include "menus/folders/FolderRules.h"
 #include "sim/World.h"
 
 // Menu files of any bytes with folder items of any text, on a disk that fails where it likes.

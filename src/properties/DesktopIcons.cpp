@@ -5,7 +5,7 @@
 
 #include "core/Program.h"
 #include "core/SpecialFolders.h"
-#include "menus/FolderRules.h"
+#include "menus/folders/FolderRules.h"
 #include "properties/PreviewPlan.h"
 
 namespace corvelle {

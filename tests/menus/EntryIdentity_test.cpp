@@ -7,7 +7,7 @@
 #include "core/SpecialFolders.h"
 #include "launch/LaunchItem.h"
 #include "menus/FolderDesk.h"
-#include "menus/SpecialFolders.h"
+#include "menus/folders/SpecialFolders.h"
 
 namespace corvelle {
 namespace {

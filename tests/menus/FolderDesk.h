@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "core/MenuFile.h"
-#include "menus/FolderMenus.h"
 #include "menus/MenuDesk.h"
+#include "menus/folders/FolderMenus.h"
 
 namespace corvelle {
 

@@ -1,4 +1,4 @@
-#include "menus/FolderRules.h"
+#include "menus/folders/FolderRules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "menus/GeneratedMenu.h"
+#include "menus/folders/GeneratedMenu.h"
 
 #include <gtest/gtest.h>
 

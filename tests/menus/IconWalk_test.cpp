@@ -1,6 +1,6 @@
 // Icons that are fetched before a menu asks for them.
 
-#include "menus/IconWalk.h"
+#include "menus/icons/IconWalk.h"
 
 #include <algorithm>
 

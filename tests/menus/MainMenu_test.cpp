@@ -1,4 +1,4 @@
-#include "menus/MainMenu.h"
+#include "menus/window/MainMenu.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "menus/MenuCache.h"
+#include "menus/items/MenuCache.h"
 
 #include <gtest/gtest.h>
 

@@ -10,7 +10,7 @@
 #include "core/MenuRecord.h"
 #include "core/Program.h"
 #include "forms/Form.h"
-#include "menus/frmQMenu.h"
+#include "menus/window/frmQMenu.h"
 #include "sim/World.h"
 
 namespace corvelle {

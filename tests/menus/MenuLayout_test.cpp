@@ -1,4 +1,4 @@
-#include "menus/MenuLayout.h"
+#include "menus/items/MenuLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "menus/MenuLayout.h"
+#include "menus/items/MenuLayout.h"
 
 namespace corvelle {
 namespace {

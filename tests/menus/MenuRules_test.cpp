@@ -1,4 +1,4 @@
-#include "menus/MenuRules.h"
+#include "menus/items/MenuRules.h"
 
 #include <gtest/gtest.h>
 

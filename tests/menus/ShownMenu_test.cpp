@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "base/CodePage.h"
-#include "menus/ShownItems.h"
-#include "menus/ShownPages.h"
+#include "menus/items/ShownItems.h"
+#include "menus/items/ShownPages.h"
 
 namespace corvelle {
 namespace {

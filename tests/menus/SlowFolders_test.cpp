@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "menus/FolderDesk.h"
-#include "menus/UpdateRules.h"
+#include "menus/items/UpdateRules.h"
 
 namespace corvelle {
 namespace {

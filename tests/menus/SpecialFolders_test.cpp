@@ -1,6 +1,6 @@
 // Folders of the shell: opened, shown by their icons, and with the menus of the shell.
 
-#include "menus/SpecialFolders.h"
+#include "menus/folders/SpecialFolders.h"
 
 #include <gtest/gtest.h>
 

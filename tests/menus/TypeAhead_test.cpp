@@ -1,4 +1,4 @@
-#include "menus/TypeAhead.h"
+#include "menus/items/TypeAhead.h"
 
 #include <gtest/gtest.h>
 

@@ -5,8 +5,8 @@
 #include <random>
 
 #include "base/Text.h"
-#include "menus/FolderMenus.h"
 #include "menus/MenuDesk.h"
+#include "menus/folders/FolderMenus.h"
 
 namespace corvelle {
 namespace {

@@ -5,8 +5,8 @@
 #include <functional>
 #include <utility>
 
-#include "menus/HeldKeys.h"
 #include "menus/MenuDesk.h"
+#include "menus/items/HeldKeys.h"
 
 namespace corvelle {
 namespace {

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <optional>
 
-#include "menus/FolderMenus.h"
 #include "menus/MenuDesk.h"
+#include "menus/folders/FolderMenus.h"
 #include "platform/ShellExec.h"
 
 namespace corvelle {

@@ -8,7 +8,7 @@
 
 #include "core/MenuRecord.h"
 #include "core/Program.h"
-#include "menus/frmQMenu.h"
+#include "menus/window/frmQMenu.h"
 #include "sim/World.h"
 #include "toolbar/companion/DragImage.h"
 #include "toolbar/companion/frmMinimize.h"

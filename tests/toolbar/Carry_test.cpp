@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "core/MenuFile.h"
-#include "menus/FolderMenusPort.h"
+#include "menus/folders/FolderMenusPort.h"
 #include "toolbar/CarryDesk.h"
 #include "toolbar/StripDesk.h"
 

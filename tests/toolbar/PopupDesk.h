@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "menus/frmQMenu.h"
+#include "menus/window/frmQMenu.h"
 #include "toolbar/StripDesk.h"
 #include "toolbar/companion/Popup.h"
 

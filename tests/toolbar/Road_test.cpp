@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "menus/frmQMenu.h"
+#include "menus/window/frmQMenu.h"
 #include "platform/Input.h"
 #include "toolbar/StripDesk.h"
 #include "toolbar/docking/frmImage.h"

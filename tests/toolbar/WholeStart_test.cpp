@@ -7,7 +7,7 @@
 #include "core/Main.h"
 #include "core/MenuFile.h"
 #include "core/Program.h"
-#include "menus/frmQMenu.h"
+#include "menus/window/frmQMenu.h"
 #include "sim/World.h"
 #include "toolbar/companion/frmMinimize.h"
 #include "toolbar/docking/mAppBar.h"

@@ -44,8 +44,8 @@ class CheckFloors(unittest.TestCase):
         self.assert_one("src/base/Text.h:3", "core/Menu2.h")
 
     def test_rooms_of_one_floor_do_not_include_each_other(self):
-        self.write("src/menus/Menu.cpp", '#include "toolbar/strip/Strip.h"\n')
-        self.assert_one("menus may not include")
+        self.write("src/menus/window/Menu.cpp", '#include "toolbar/strip/Strip.h"\n')
+        self.assert_one("menus/window may not include")
 
     def test_floors_of_a_folder_have_their_order(self):
         self.write("src/toolbar/layout/Rules.h", "#pragma once\n")

@@ -1,0 +1,265 @@
+#include "menus/folders/FolderMenus.h"
+
+#include <algorithm>
+#include <utility>
+#include <variant>
+
+#include "base/Text.h"
+#include "core/MenuFile.h"
+#include "core/MenuRecord.h"
+#include "core/Program.h"
+#include "core/SpecialFolders.h"
+#include "icons/RecycleIcon.h"
+#include "menus/folders/FolderRules.h"
+#include "menus/folders/GeneratedMenu.h"
+
+namespace corvelle {
+
+namespace {
+
+bool IsOpenFolder(const MenuRecord& record) {
+  const std::string_view name = record.FName;
+  return (IsFolderItem(name) || IsSpecialFolder(name)) && !IsClosedFolder(name);
+}
+
+/// True if the bytes of a record may be those of a folder item. Most menus have none, and are told
+/// by this without taking their records apart.
+bool MayBeFolder(std::string_view record) {
+  const std::size_t at = std::min(kTitleWidth + kIconWidth, record.size());
+  std::string_view name = record.substr(at);
+  name.remove_prefix(std::min(name.find_first_not_of(' '), name.size()));
+  return IsFolderItem(name) || StartsWithNoCase(name, kSpecialFolderStart);
+}
+
+/// True if one of the stored records is an open folder item. The first one is the menu's button.
+bool HasOpenFolder(std::string_view stored, const CodePage& ansi) {
+  for (std::size_t at = kRecordLength; at < stored.size(); at += kRecordLength) {
+    const std::string_view record = stored.substr(at, kRecordLength);
+    if (MayBeFolder(record) && IsOpenFolder(ParseRecord(record, ansi))) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::optional<ExpandedMenu> FolderMenus::Expand(std::string_view menuKey, std::string_view menuFile,
+                                                std::string_view stored) {
+  const std::string key = UpperCase(menuKey);
+  built_.erase(key);
+  const CodePage& ansi = program_.Services.Ansi;
+  const std::string source(menuFile);
+  if (!HasOpenFolder(stored, ansi)) {
+    reading_ = {};
+    return std::nullopt;
+  }
+  if (reading_.MenuKey != key || !std::exchange(reading_.MayBuild, false)) BeginReading(key);
+  GeneratedMenu menu(ParseRecords(stored, ansi), ansi);
+  auto built = std::make_shared<Built>();
+  built->Update.MenuKey = key;
+  ExpandItems(menu, source, *built);
+  const bool whole = built->Whole;
+  built_.insert_or_assign(key, std::move(built));
+  ExpandedMenu expanded{
+      .File = GeneratedFileName(source), .Items = {}, .Source = {}, .Whole = whole};
+  expanded.Items = std::move(menu).Items();
+  expanded.Source = std::move(menu).Source();
+  return expanded;
+}
+
+void FolderMenus::BeginReading(const std::string& key) {
+  reading_ = {};
+  reading_.MenuKey = key;
+  reading_.Questions =
+      std::make_unique<FolderQuestions>(program_.Answers, program_.Windows, [this] { Arrived(); });
+}
+
+void FolderMenus::Leave() { reading_ = {}; }
+
+void FolderMenus::TryAgain() {
+  if (reading_.Questions) reading_.Questions->TryAgain();
+  Arrived();
+}
+
+void FolderMenus::Arrived() {
+  reading_.Files.clear();
+  const auto found = built_.find(reading_.MenuKey);
+  if (found == built_.end()) return;
+  const std::shared_ptr<const Built> built = found->second;
+  if (built->Whole && !AnyChanged(*built)) return;
+  reading_.MayBuild = true;
+  // It may end the reading, and may set another listener.
+  const std::string key = reading_.MenuKey;
+  const auto listener = listener_;
+  if (listener) listener(key);
+}
+
+// Quiet: the menu is up, and nothing of it comes from this file.
+bool FolderMenus::WriteGenerated(const ExpandedMenu& menu) {
+  FileSystem& files = program_.Services.Files;
+  if (files.Write(menu.File, GeneratedBytes(menu.Items, menu.Source, program_.Services.Ansi))) {
+    return true;
+  }
+  // What is left of it would be of another time, or half a menu.
+  static_cast<void>(files.Remove(menu.File));
+  return false;
+}
+
+const FoundFiles& FolderMenus::FilesOf(std::string_view folderName) {
+  const auto known = reading_.Files.find(folderName);
+  if (known != reading_.Files.end()) return known->second;
+  FolderState state = FolderState::Here;
+  const auto list = [&](const std::string& folder, const std::string& pattern) {
+    const FolderQuestions::Known& answer = reading_.Questions->Get(
+        {.Kind = LookupKind::FolderEntries, .Path = folder, .Pattern = pattern});
+    state = std::max(state, answer.State);
+    // A folder that cannot be listed has no files.
+    const auto* const entries = std::get_if<std::vector<FileEntry>>(&answer.Value);
+    return entries != nullptr ? *entries : std::vector<FileEntry>{};
+  };
+  FoundFiles found = ListFolderItem(list, ParseFolderItem(folderName));
+  found.State = state;
+  return reading_.Files.emplace(std::string(folderName), std::move(found)).first->second;
+}
+
+void FolderMenus::NameFiles(FoundFiles& found) {
+  std::vector<std::string> names(found.Folders.size());
+  // No menu shows more.
+  const std::size_t most = std::min(found.Files.size(), static_cast<std::size_t>(kMaxRecords));
+  for (std::size_t i = 0; i < most; ++i) names[found.Files[i].Folder] += found.Files[i].Name + '\n';
+  std::vector<const std::vector<ShellFolderEntry>*> shown(names.size());
+  for (std::size_t folder = 0; folder < names.size(); ++folder) {
+    if (names[folder].empty()) continue;
+    const FolderQuestions::Known& answer = reading_.Questions->Get(
+        {.Kind = LookupKind::FileNames, .Path = found.Folders[folder], .Pattern = names[folder]});
+    const bool waits =
+        answer.State == FolderState::Reading || answer.State == FolderState::BeingRead;
+    if (waits) found.Named = false;
+    shown[folder] = std::get_if<std::vector<ShellFolderEntry>>(&answer.Value);
+  }
+  std::vector<std::size_t> next(names.size());
+  for (std::size_t i = 0; i < most; ++i) {
+    FoundFiles::File& file = found.Files[i];
+    const auto* const list = shown[file.Folder];
+    const std::size_t at = next[file.Folder]++;
+    if (list != nullptr && at < list->size()) file.Shown = (*list)[at].Name;
+  }
+}
+
+SpecialFolderLines FolderMenus::LinesOf(std::string_view folderName) {
+  NoteRecycleBin(program_, folderName);
+  const FolderQuestions::Known& answer = reading_.Questions->Get(
+      {.Kind = LookupKind::ShellEntries, .Number = CsidlValue(FolderWithoutOptions(folderName))});
+  SpecialFolderLines lines{.Lines = {}, .State = answer.State};
+  if (const auto* const entries = std::get_if<std::vector<ShellFolderEntry>>(&answer.Value)) {
+    lines.Lines = ShellFolderLines(*entries);
+  }
+  return lines;
+}
+
+void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Built& built) {
+  for (int record = 2; record <= menu.SourceCount(); ++record) {
+    if (!IsOpenFolder(menu.Source()[static_cast<std::size_t>(record) - 1])) continue;
+    ExpandOne(menu, record, menuFile, built);
+  }
+  menu.CopySource(menu.SourceCount());
+  const bool showsBin =
+      std::any_of(built.Folders.begin(), built.Folders.end(),
+                  [](const clsFolder& folder) { return IsDesktopFolder(folder.FolderName); });
+  if (!showsBin) return;
+  // The bin is shown as it is now.
+  built.RecycleIcon = program_.Icons.RecycleIconPath;
+  built.RecycleIndex = program_.Icons.RecycleIconIndex;
+  program_.Icons.RecycleIconChanged = false;
+}
+
+void FolderMenus::ExpandOne(GeneratedMenu& menu, int record, std::string_view menuFile,
+                            Built& built) {
+  const std::string name = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
+  std::vector<std::string> paths;
+  clsFolder folder;
+  FolderState state = FolderState::Here;
+  if (IsFolderItem(name)) {
+    FoundFiles found = FilesOf(name);
+    state = found.State;
+    NameFiles(found);
+    built.Whole = built.Whole && found.Named;
+    folder = ExpandFolderItem(program_, menu, record, found, paths);
+  } else {
+    const SpecialFolderLines lines = LinesOf(name);
+    state = lines.State;
+    folder = ExpandSpecialFolder(program_, menu, record, lines, menuFile);
+  }
+  if (state != FolderState::Here) {
+    built.Whole = false;
+    if (menu.Count() < folder.RecStart) ShowKept(menu, record, menuFile, state);
+  }
+  folder.FileTitle = menuFile;
+  built.Folders.push_back(std::move(folder));
+  built.Update.FileList.push_back(std::move(paths));
+}
+
+void FolderMenus::ShowKept(GeneratedMenu& menu, int record, std::string_view menuFile,
+                           FolderState state) {
+  const std::string name = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
+  constexpr std::size_t kMostBytes = static_cast<std::size_t>(kMaxRecords) * kRecordLength;
+  const std::string bytes =
+      program_.Services.Files.Read(GeneratedFileName(menuFile), 0, kMostBytes).ValueOr({});
+  std::vector<MenuItem> kept =
+      EntriesInGenerated(WholeRecords(bytes), record, name, program_.Services.Ansi);
+  if (kept.empty()) menu.AddWaiting(record, state);
+  for (MenuItem& entry : kept) menu.AddKept(record, std::move(entry));
+}
+
+bool FolderMenus::UpdateMenu(std::string_view menuKey) {
+  const std::string key = UpperCase(menuKey);
+  const auto found = built_.find(key);
+  if (found == built_.end()) {
+    reading_ = {};
+    return false;
+  }
+  BeginReading(key);
+  // Listing may let events through; what is looked at stays until it is done.
+  const std::shared_ptr<const Built> built = found->second;
+  reading_.MayBuild = AnyChanged(*built);
+  return reading_.MayBuild;
+}
+
+bool FolderMenus::AnyChanged(const Built& built) {
+  for (std::size_t i = 0; i < built.Folders.size(); ++i) {
+    if (HasChanged(built, i)) return true;
+  }
+  return false;
+}
+
+bool FolderMenus::HasChanged(const Built& built, std::size_t index) {
+  const clsFolder& folder = built.Folders[index];
+  const std::string& name = folder.FolderName;
+  const bool ofShell = !IsFolderItem(name);
+  if (!folder.UpdateFolder) return ofShell && IsDesktopFolder(name) && BinHasChanged(built);
+  // What is not known yet is compared when it comes.
+  if (ofShell) {
+    const SpecialFolderLines lines = LinesOf(name);
+    return lines.State == FolderState::Here &&
+           SpecialFolderChanged(program_, name, lines, folder.FileTitle);
+  }
+  const FoundFiles& files = FilesOf(name);
+  return files.State == FolderState::Here &&
+         FolderChanged(files, built.Update.FileList[index]) != folder.RecTotal;
+}
+
+bool FolderMenus::BinHasChanged(const Built& built) {
+  CheckRecycleIcon(program_);
+  // Several menus may show the desktop, and the flag is taken down by the first that is built anew.
+  const bool changed = program_.Icons.RecycleIconChanged ||
+                       built.RecycleIcon != program_.Icons.RecycleIconPath ||
+                       built.RecycleIndex != program_.Icons.RecycleIconIndex;
+  program_.Icons.RecycleIconChanged = false;
+  return changed;
+}
+
+std::vector<clsFolder> FolderMenus::Folders(std::string_view menuKey) const {
+  const auto found = built_.find(UpperCase(menuKey));
+  return found != built_.end() ? found->second->Folders : std::vector<clsFolder>{};
+}
+
+}  // namespace corvelle

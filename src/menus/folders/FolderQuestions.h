@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "desk/AnswerDesk.h"
+#include "menus/items/FolderState.h"
+#include "platform/Lookups.h"
+
+namespace corvelle {
+
+/// What is asked of folders for one opening of a menu. A quick disk answers at once, as if it had
+/// been asked here; what is slower is told when it comes. Each question is asked once. No window.
+class FolderQuestions {
+ public:
+  /// What is known so far.
+  struct Known {
+    FolderState State = FolderState::Reading;
+    /// The answer; until it comes, the previous answer if one is kept. Empty after a failure.
+    LookupValue Value;
+  };
+
+  /// Milliseconds for which all questions together may hold up the menu.
+  static constexpr int kAtOnce = 80;
+
+  /// `changed` is called, never inside a call of this, whenever more is known. It may end this.
+  FolderQuestions(desk::AnswerDesk& desk, forms::WindowSystem& windows,
+                  std::function<void()> changed);
+  FolderQuestions(const FolderQuestions&) = delete;
+  FolderQuestions& operator=(const FolderQuestions&) = delete;
+  /// Nobody wants to know any more; the desk keeps what still comes.
+  ~FolderQuestions();
+
+  /// Asks if nobody has asked that yet.
+  const Known& Get(const Lookup& question);
+  /// Asks places again that do not answer.
+  void TryAgain();
+
+ private:
+  struct Asked {
+    Lookup Question;
+    Known Answer;
+  };
+
+  void Ask(Asked& asked);
+  void Take(const std::string& key, const desk::Reply& reply);
+  void TakeStage(const std::string& key, desk::Stage stage);
+
+  desk::AnswerDesk& desk_;
+  forms::WindowSystem& windows_;
+  std::function<void()> changed_;
+  std::uint64_t owner_ = 0;
+  std::int64_t until_ = 0;  // questions may wait for their answers until then
+  std::map<std::string, Asked> asked_;
+};
+
+}  // namespace corvelle

@@ -1,0 +1,80 @@
+#include "menus/folders/sFolder.h"
+
+#include "base/CodePage.h"
+#include "base/FieldText.h"
+#include "base/Text.h"
+#include "core/Program.h"
+#include "core/SpecialFolders.h"
+#include "icons/RecycleIcon.h"
+#include "menus/folders/FolderRules.h"
+#include "menus/folders/GeneratedMenu.h"
+
+namespace corvelle {
+
+namespace {
+
+/// Shows the Recycle Bin's icon, or the bin itself.
+bool ShowsRecycleBin(std::string_view command) noexcept {
+  const int folder = CsidlValue(command);
+  return folder == kDesktopFolder || folder == kRecycleBinFolder || IsDesktopFolder(command);
+}
+
+void KeepList(Program& program, const std::string& cache, const std::string& bytes) {
+  // A list that is not kept makes the next comparison find a change, which is harmless; half a list
+  // would as well.
+  if (!program.Services.Files.Write(cache, bytes)) {
+    static_cast<void>(program.Services.Files.Remove(cache));
+  }
+}
+
+}  // namespace
+
+std::string ListCacheBytes(const std::vector<std::string>& lines, const CodePage& ansi) {
+  std::string bytes;
+  for (const std::string& line : lines) {
+    bytes += EncodeText(UpperCase(line), ansi);
+    bytes += '\0';
+    bytes += EncodeText(line, ansi) + "\r\n";
+  }
+  return bytes;
+}
+
+void NoteRecycleBin(Program& program, std::string_view folderName) {
+  if (ShowsRecycleBin(FolderWithoutOptions(folderName))) CheckRecycleIcon(program);
+}
+
+clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
+                              const SpecialFolderLines& lines, std::string_view menuFile) {
+  clsFolder folder;
+  folder.FolderName = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
+  const std::string command = FolderWithoutOptions(folder.FolderName);
+  folder.UpdateFolder = FolderOptions(folder.FolderName).find('U') != std::string::npos;
+  menu.BeginItem(record);
+  folder.RecStart = menu.Count() + 1;
+  const std::string cache = ListCacheName(menuFile, command);
+  const bool here = lines.State == FolderState::Here;
+  if (lines.Lines) {
+    if (here) KeepList(program, cache, ListCacheBytes(*lines.Lines, program.Services.Ansi));
+    for (const std::string& line : *lines.Lines) {
+      const ShellFolderLine entry = ParseShellFolderLine(line);
+      menu.AddEntry(record, {entry.Name, entry.Icon, command}, entry.Name);
+    }
+    folder.RecTotal = static_cast<int>(lines.Lines->size());
+  } else if (here) {
+    static_cast<void>(program.Services.Files.Remove(cache));
+  }
+  folder.RecEnd = menu.Count();
+  return folder;
+}
+
+bool SpecialFolderChanged(Program& program, std::string_view folderName,
+                          const SpecialFolderLines& lines, std::string_view menuFile) {
+  if (!lines.Lines) return false;
+  const std::string now = ListCacheBytes(*lines.Lines, program.Services.Ansi);
+  // One byte more than there should be tells a longer list.
+  const auto kept = program.Services.Files.Read(
+      ListCacheName(menuFile, FolderWithoutOptions(folderName)), 0, now.size() + 1);
+  return !kept || *kept != now;
+}
+
+}  // namespace corvelle
