@@ -107,6 +107,19 @@ TEST(ToolbarPress, AQuickSecondOneClosesTheMenuToo) {
   EXPECT_EQ(desk.MenuUp(), 2);
 }
 
+// Both presses wait in the queue, and the hand has gone on.
+TEST(ToolbarPress, AQuickSecondOneMeansItsOwnPlaceWhereverThePointerIsByThen) {
+  ThreeMenus desk;
+  desk.PointAtButton(3);
+  desk.World.Desktop.Post([&] {
+    desk.World.Desktop.DoubleClick();
+    desk.PointAway();
+  });
+  desk.Wait(0);
+  EXPECT_EQ(desk.Menu.Times("ShowMenu F3"), 1);
+  EXPECT_EQ(desk.MenuUp(), 0);
+}
+
 TEST(ToolbarPress, OfTheRightButtonOpensNothing) {
   ThreeMenus desk;
   desk.PointAtButton(2);

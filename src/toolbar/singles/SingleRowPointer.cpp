@@ -195,7 +195,10 @@ void SingleRow::picSingleButton_DblClick() {
     Date.lblDate_DblClick();
     return;
   }
-  if (!IsButton(GetCurIndex())) return;
+  // The place of the press, as with every press.
+  const int index = SingleAt(SingleButtons, controls_.Box.PressPlace());
+  program_.Menu.CurSingle = index;
+  if (!IsButton(index)) return;
   if (!pull_.FrameMoved && !program_.OptionFlags.Is(Option::SingleClick)) RunSingleButton();
 }
 
