@@ -73,6 +73,10 @@ void SimDesktop::ClickAt(int x, int y, forms::MouseButton button) {
   Click(button);
 }
 
+void SimDesktop::TakeCapture() {
+  UserEvent([this] { LoseCapture(); });
+}
+
 void SimDesktop::DoubleClick() {
   Click();
   keys_.insert(KeyOf(forms::MouseButton::Left));
