@@ -136,6 +136,8 @@ class WindowPeer {
   virtual void SetForeground() = 0;
   virtual void SetZOrder(ZPlace place) = 0;
   virtual void SetWindowPos(InsertAfter after, unsigned flags) = 0;
+  /// True for the foreground window of the whole desktop.
+  [[nodiscard]] virtual bool IsForeground() const = 0;
   /// Of a form that the user can size: he cannot make it smaller than this. The program can.
   virtual void SetLeastSize(PixelSize size) = 0;
   /// The menu bar of a form in a frame of the system; an empty list removes it.
