@@ -388,6 +388,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second);
   void DeliverRelease(const Mouse& mouse, forms::MouseButton button);
   [[nodiscard]] const SimWindow* KeyTarget() const;
+  void DeliverKeyUp(int virtualKey, forms::ShiftState shift);
   void DeliverKey(int virtualKey, forms::ShiftState shift);
   void DeliverCharacter(char32_t character);
 
