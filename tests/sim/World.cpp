@@ -29,7 +29,8 @@ World::~World() {
 Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files) {
   SlowAnswers.Use({files != nullptr ? *files : Files, Links, System,
                    icons != nullptr ? *icons : Icons, Folders});
-  Starts.Use({shell != nullptr ? *shell : Shell, files != nullptr ? *files : Files, Links});
+  Starts.Use({shell != nullptr ? *shell : Shell, files != nullptr ? *files : Files, Links, Dde,
+              Associations, Keys, Folders, Ansi});
   return {.Files = files != nullptr ? *files : Files,
           .Ansi = Ansi,
           .Keys = Keys,
