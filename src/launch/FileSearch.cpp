@@ -13,7 +13,7 @@ namespace {
 
 // Among all that is under way; no entry can bear such a text.
 constexpr std::string_view kSearch = "\"\"search";
-constexpr std::string_view kUnavailableText = "File/Device unavailable.";
+constexpr std::string_view kNoSearchText = "File/Device unavailable.";
 
 /// A way to the search, and what is registered where the machine has it. The second is for machines
 /// whose administrator has taken the protocol away.
@@ -47,7 +47,7 @@ bool OpenSearchApart(const StartServices& services) {
 void OpenFileSearch(Program& program) {
   StartBeside<bool>(program, std::string(kSearch), &OpenSearchApart, [&program](bool opened) {
     if (opened) return;
-    program.Say(program.ToolbarWindow(), kUnavailableText,
+    program.Say(program.ToolbarWindow(), kNoSearchText,
                 forms::msgbox::IconStop | forms::msgbox::OnTop);
   });
 }

@@ -6,11 +6,12 @@
 #include <vector>
 
 #include "platform/Starter.h"
+#include "sim/CallCosts.h"
 
 namespace corvelle::sim {
 
 /// Starts inside the call, unless a test says that the system takes its time.
-class SimStarter final : public Starter {
+class SimStarter final : public Starter, public Priced {
  public:
   explicit SimStarter(const StartServices& services) { Use(services); }
 
@@ -36,7 +37,10 @@ class SimStarter final : public Starter {
 
  private:
   void Carry(const Work& work, const std::function<void()>& done) {
-    work(*services_);
+    {
+      const CallCosts::Apart thread(Costs());
+      work(*services_);
+    }
     done();
   }
 

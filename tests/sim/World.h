@@ -4,6 +4,7 @@
 
 #include "base/CodePage.h"
 #include "platform/Platform.h"
+#include "sim/CallCosts.h"
 #include "sim/SimAppBars.h"
 #include "sim/SimClipboard.h"
 #include "sim/SimCrashReports.h"
@@ -42,6 +43,7 @@ class World {
   World& operator=(const World&) = delete;
   ~World();
 
+  CallCosts Costs;
   SimFiles Files;
   Windows1252 Ansi;
   SimRegistry Keys;
