@@ -174,12 +174,12 @@ void frmNetSearch::cmdFind_Click() {
   if (Queries.Add(query)) ShowHistory();
   const std::string url = AddressOf(query);
   if (url.empty() || program_.Ports.Browser == nullptr) return;
-  const forms::Alive::Watch watch = MakeWatch();
   program_.SetHint("");
   Minimize();
-  const bool opened = program_.Ports.Browser->OpenUrl(url);
-  // The user goes on here when there is no browser.
-  if (!opened && !watch.Gone() && IsLoaded()) LoadWindow();
+  program_.Ports.Browser->OpenUrl(url, [this, watch = MakeWatch()](bool opened) {
+    // The user goes on here when there is no browser.
+    if (!opened && !watch.Gone() && IsLoaded()) LoadWindow();
+  });
 }
 
 std::string frmNetSearch::AddressOf(const std::string& query) {

@@ -122,11 +122,12 @@ Found Find(int folder, std::string_view name) {
   return found;
 }
 
-bool Open(ITEMIDLIST* item, std::string_view argument, WindowId owner) {
+bool Open(ITEMIDLIST* item, std::string_view argument, WindowId owner, ShellExecThread thread) {
   const std::wstring parameters = Wide(argument);
   SHELLEXECUTEINFOW info{};
   info.cbSize = sizeof(info);
   info.fMask = SEE_MASK_IDLIST | SEE_MASK_FLAG_NO_UI;
+  if (thread == ShellExecThread::EndsSoon) info.fMask |= SEE_MASK_NOASYNC;
   info.hwnd = owner != kNoWindow ? ToHwnd(owner) : GetDesktopWindow();
   info.lpIDList = item;
   info.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
@@ -203,7 +204,7 @@ std::optional<std::string> Win32ShellFolders::PathOf(int folder) {
 
 bool Win32ShellFolders::OpenFolder(int folder, WindowId owner) {
   const UniqueItem location = LocationOf(folder);
-  return location && Open(location.Get(), {}, owner);
+  return location && Open(location.Get(), {}, owner, thread_);
 }
 
 bool Win32ShellFolders::OpenEntry(int folder, std::string_view name, std::string_view argument,
@@ -211,7 +212,7 @@ bool Win32ShellFolders::OpenEntry(int folder, std::string_view name, std::string
   const Found found = Find(folder, name);
   if (!found.Child) return false;
   const UniqueItem whole(ILCombine(found.Location.Get(), found.Child.Get()));
-  return whole && Open(whole.Get(), argument, owner);
+  return whole && Open(whole.Get(), argument, owner, thread_);
 }
 
 bool Win32ShellFolders::FolderMenu(int folder, PixelPoint at, WindowId owner) {

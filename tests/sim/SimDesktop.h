@@ -50,6 +50,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Jump(int milliseconds);
   /// Runs what waits: posted events, paints, timers that are due. Moves no time.
   void Pump();
+  /// Runs before the loop, or one inside it, takes each event.
+  void WhenTurnBegins(std::function<void()> action) { turnBegins_ = std::move(action); }
   /// The most event loops that may run inside each other: that of the program, a yield in one of
   /// its events, a popup menu or a question in an event of that, and one question out of them. What
   /// goes deeper has no bound, and uses up the stack when events come quickly enough.
@@ -438,6 +440,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   int loops_ = 0;  // loops that run inside each other
   int deepestLoops_ = 0;
   std::function<void()> runScript_;
+  std::function<void()> turnBegins_;
   bool quit_ = false;
   std::deque<ScriptedAnswer> answers_;
   std::optional<int> standingAnswer_;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/ShellFolders.h"
+#include "sim/CallCosts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle::sim {
@@ -38,7 +39,7 @@ struct ShownMenu {
 };
 
 /// The shell's folders of a test: what it puts there. Nothing is there at first.
-class SimShellFolders final : public ShellFolders {
+class SimShellFolders final : public ShellFolders, public Priced {
  public:
   explicit SimShellFolders(SimFiles& files) : files_(files) {}
 

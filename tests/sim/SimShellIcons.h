@@ -9,13 +9,14 @@
 #include <vector>
 
 #include "platform/ShellIcons.h"
+#include "sim/CallCosts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle::sim {
 
 /// A shell that shows each kind of file by an icon of its own: a square of one colour, which tells
 /// which icon it is.
-class SimShellIcons final : public ShellIcons {
+class SimShellIcons final : public ShellIcons, public Priced {
  public:
   explicit SimShellIcons(SimFiles& files) : files_(files) {}
 

@@ -7,11 +7,12 @@
 #include <vector>
 
 #include "platform/SystemInfo.h"
+#include "sim/CallCosts.h"
 
 namespace corvelle::sim {
 
 /// A machine of which a test sets every fact.
-class SimSystemInfo final : public SystemInfo {
+class SimSystemInfo final : public SystemInfo, public Priced {
  public:
   struct HelpCall {
     WindowId Window = kNoWindow;
@@ -59,11 +60,12 @@ class SimSystemInfo final : public SystemInfo {
     return roots;
   }
   DriveFacts FactsOfDrive(const std::string& root) const override {
-    const auto found = Drives.find(root);
-    return found != Drives.end() ? found->second : DriveFacts{.Type = 1};
+    TellCall("FactsOfDrive", root);
+    return Look(root);
   }
   bool IsDriveAtHand(const std::string& root) const override {
-    const unsigned type = FactsOfDrive(root).Type;
+    TellCall("IsDriveAtHand", root);
+    const unsigned type = Look(root).Type;
     return (type == 3 || type == 6) && !DrivesAtRest.contains(root);
   }
   bool AnotherInstanceRuns() override {
@@ -79,6 +81,12 @@ class SimSystemInfo final : public SystemInfo {
   bool ShowHelpTopic(WindowId window, const std::string& file, int topic) override {
     HelpCalls.push_back({window, file, topic});
     return HasHelpViewer;
+  }
+
+ private:
+  [[nodiscard]] DriveFacts Look(const std::string& root) const {
+    const auto found = Drives.find(root);
+    return found != Drives.end() ? found->second : DriveFacts{.Type = 1};
   }
 };
 

@@ -4,6 +4,7 @@
 
 #include "base/CodePage.h"
 #include "platform/Platform.h"
+#include "sim/CallCosts.h"
 #include "sim/SimAppBars.h"
 #include "sim/SimClipboard.h"
 #include "sim/SimCrashReports.h"
@@ -42,6 +43,7 @@ class World {
   World& operator=(const World&) = delete;
   ~World();
 
+  CallCosts Costs;
   SimFiles Files;
   Windows1252 Ansi;
   SimRegistry Keys;
@@ -59,7 +61,7 @@ class World {
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
   SimLookups SlowAnswers{Desktop, {Files, Links, System, Icons, Folders}};
-  SimStarter Starts{{Shell, Files, Links}};
+  SimStarter Starts{{Shell, Files, Links, Dde, Associations, Keys, Folders, Ansi}};
   SimCrashReports Crashes;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it

@@ -27,7 +27,7 @@ struct NotedLinks final : WebLinkPort {
 
 struct NotedBrowser final : BrowserPort {
   std::vector<WindowId> Sources;
-  bool OpenUrl(std::string_view) override { return true; }
+  void OpenUrl(std::string_view, std::function<void(bool)>) override {}
   void OpenMail(std::string_view) override {}
   std::string WindowTitle(std::string_view) override { return "A page "; }
   void NoteDropSource(WindowId window) override { Sources.push_back(window); }
