@@ -249,6 +249,7 @@ TEST_P(ControlContract, SpacePressesTheOneWithTheFocusUnlessItIsUsedUpAndAllKeys
     MakeControl(kind);
     control_->SetFocus();
     home_->Wait(50);
+    controlNotes_.KeysUp.clear();
     controlNotes_.UsesKeys = true;
     home_->PressKey(kSpace);
     EXPECT_FALSE(controlNotes_.Saw("press")) << "used up";
@@ -256,7 +257,6 @@ TEST_P(ControlContract, SpacePressesTheOneWithTheFocusUnlessItIsUsedUpAndAllKeys
     home_->PressKey(kSpace);
     EXPECT_TRUE(controlNotes_.Saw("press"));
     EXPECT_EQ(controlNotes_.KeysUp, (std::vector<std::string>{"32", "32"}));
-    controlNotes_.KeysUp.clear();
     for (const int key : {kTab, key::Enter, key::Escape}) home_->PressKey(key);
     EXPECT_TRUE(controlNotes_.Saw("key 9"));
     EXPECT_TRUE(controlNotes_.Saw("key 13"));
