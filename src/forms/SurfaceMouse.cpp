@@ -54,7 +54,7 @@ void Surface::StartPress(MouseButton button, Graphic* target) noexcept {
 void Surface::CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
                         MouseHandler Surface::*ofSurface, MouseButton button, ShiftState shift,
                         PixelPoint at) {
-  const ScreenInfo screen = Windows().Screen();
+  const ScreenInfo screen = Screen();
   const int border = BorderPixels();
   float x = static_cast<float>(at.x - border) * screen.TwipsPerPixelX;
   float y = static_cast<float>(at.y - border) * screen.TwipsPerPixelY;
