@@ -69,12 +69,13 @@ void Form::ShowModalTo(Form& owner) {
 }
 
 // The owner takes input again before this form goes: the system looks for the next active window
-// then.
+// then. A user who is in another program by now stays there.
 void Form::ReleaseOwner() {
   if (blocked_ == nullptr) return;
   Form& owner = *std::exchange(blocked_, nullptr);
+  const bool front = Peer() != nullptr && Peer()->IsForeground();
   owner.SetEnabled(true);
-  if (owner.Visible()) owner.SetForeground();
+  if (front && owner.Visible()) owner.SetForeground();
 }
 
 void Form::SetDpi(int dpi) {

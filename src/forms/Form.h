@@ -58,7 +58,7 @@ class Form : public Surface {
   void SetMenu(std::vector<PopupItem> items);
   [[nodiscard]] const std::vector<PopupItem>& Menu() const noexcept { return menu_; }
   /// Shows the form in front of `owner`, which takes no input until the form is hidden or unloaded,
-  /// and has the foreground again then. Returns at once.
+  /// and has the foreground again then, if this form had it. Returns at once.
   void ShowModalTo(Form& owner);
   /// Puts the form in the middle of the screen.
   void Center();

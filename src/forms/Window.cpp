@@ -186,6 +186,11 @@ void Window::OnMoved(const PixelRect& bounds) {
 
 // The keyboard and the wheel.
 
+void Window::OnKeyUp(int keyCode, ShiftState shift) {
+  const auto handler = KeyUp;  // it may destroy the window
+  if (handler) handler(keyCode, shift);
+}
+
 bool Window::OnControlKey(int keyCode, ShiftState shift) {
   return OwnForm().ControlKey(*this, keyCode, shift);
 }

@@ -66,6 +66,8 @@ class Window : public Control, protected WindowEvents {
   /// uses it up.
   std::function<bool(int keyCode, ShiftState shift)> KeyDown;
   std::function<bool(char32_t character)> KeyPress;
+  /// A key went up while the window had the focus.
+  std::function<void(int keyCode, ShiftState shift)> KeyUp;
   /// The wheel was turned: 120 is one notch, away from the user. True uses it up; otherwise the
   /// container gets it.
   std::function<bool(int delta, ShiftState shift)> Wheel;
@@ -150,6 +152,7 @@ class Window : public Control, protected WindowEvents {
   void OnDoubleClick(PixelPoint) override {}
   void OnKeyDown(int, ShiftState) override {}
   void OnKeyPress(char32_t) override {}
+  void OnKeyUp(int keyCode, ShiftState shift) override;
   bool OnControlKey(int keyCode, ShiftState shift) override;
   bool OnControlCharacter(char32_t character) override;
   void OnFocus(bool gained) override;

@@ -41,6 +41,8 @@ class WindowEvents {
   virtual void OnKeyDown(int keyCode, ShiftState shift) = 0;
   /// A typed character; control characters (Enter 13, Esc 27) come here too.
   virtual void OnKeyPress(char32_t character) = 0;
+  /// A key went up while the window, or control of the system, had the focus.
+  virtual void OnKeyUp(int /*keyCode*/, ShiftState /*shift*/) {}
 
   /// A key goes down in a control that the system works, which gets it only if the answer is false.
   /// What is typed with a key that was used up does not reach the control either.
@@ -134,6 +136,8 @@ class WindowPeer {
   virtual void SetFocus() = 0;
   /// Makes the window the foreground window of the whole desktop, if the system lets it.
   virtual void SetForeground() = 0;
+  /// True for the foreground window of the whole desktop.
+  [[nodiscard]] virtual bool IsForeground() const = 0;
   virtual void SetZOrder(ZPlace place) = 0;
   virtual void SetWindowPos(InsertAfter after, unsigned flags) = 0;
   /// Of a form that the user can size: he cannot make it smaller than this. The program can.

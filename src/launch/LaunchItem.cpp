@@ -83,15 +83,17 @@ void Tell(Program& program, StartEnd end) {
 /// Starts beside the windows and tells the user how it ended. Does nothing while `what` is being
 /// started already.
 void StartApart(Program& program, const std::string& what, Attempts attempts) {
-  if (!program.Starts.Begin(what)) return;
+  const auto start = program.Starts.Begin(what);
+  if (start == nullptr) return;
   const auto end = std::make_shared<StartEnd>(StartEnd::Settled);
-  program.Services.Starts.Start([end, attempts = std::move(attempts)](
-                                    const StartServices& services) { *end = attempts(services); },
-                                [&program, what, end, watch = program.Starts.Watch()] {
-                                  if (watch.Gone()) return;
-                                  program.Starts.End(what);
-                                  Tell(program, *end);
-                                });
+  program.Services.Starts.Start(
+      [start, end, attempts = std::move(attempts)](const StartServices& services) {
+        *end = attempts(services);
+        start->SetOver();
+      },
+      [&program, end, watch = program.Starts.Watch()] {
+        if (!watch.Gone()) Tell(program, *end);
+      });
 }
 
 /// Opens through the shell. A result when that settles it: it is started, the user has refused it,
@@ -195,7 +197,8 @@ void RunForm(Program& program, CommandKind kind, const std::string& text);
 
 /// The file is read beside the windows; what it holds is then carried out as a command is.
 void OpenUrlFile(Program& program, const std::string& file) {
-  if (!program.Starts.Begin(file)) return;
+  const auto start = program.Starts.Begin(file);
+  if (start == nullptr) return;
   const auto bytes = std::make_shared<std::string>();
   program.Services.Starts.Start(
       [file, bytes](const StartServices& services) {
@@ -203,9 +206,10 @@ void OpenUrlFile(Program& program, const std::string& file) {
         // What cannot be read holds no address.
         if (read) *bytes = *std::move(read);
       },
-      [&program, file, bytes, watch = program.Starts.Watch()] {
+      [&program, start, file, bytes, watch = program.Starts.Watch()] {
         if (watch.Gone()) return;
-        program.Starts.End(file);
+        // Nothing is started before this.
+        start->SetOver();
         const std::string address = ParseUrlFile(*bytes, program.Services.Ansi).value_or(file);
         RunForm(program, ClassifyAddress(address), address);
       });

@@ -132,6 +132,10 @@ std::optional<LRESULT> Win32Control::TreatControlKeys(UINT message, WPARAM wPara
       if (used) return 0;
       return std::nullopt;
     }
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+      events_->OnKeyUp(static_cast<int>(wParam), ShiftNow());
+      return std::nullopt;
     case WM_CHAR: {
       const auto character = Complete(static_cast<wchar_t>(wParam));
       const bool told = character && events_->OnControlCharacter(*character);

@@ -73,6 +73,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   /// Press and release. Two clicks are never taken for a double click.
   void Click(forms::MouseButton button = forms::MouseButton::Left);
   void ClickAt(int x, int y, forms::MouseButton button = forms::MouseButton::Left);
+  /// Another window takes the mouse from the one that was pressed, which is told so.
+  void TakeCapture();
   void DoubleClick();
   /// A key goes down, or up again. Enter and Esc bring their characters with them.
   void KeyDown(int virtualKey);
@@ -398,6 +400,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second);
   void DeliverRelease(const Mouse& mouse, forms::MouseButton button);
   [[nodiscard]] const SimWindow* KeyTarget() const;
+  void DeliverKeyUp(int virtualKey, forms::ShiftState shift);
   void DeliverKey(int virtualKey, forms::ShiftState shift);
   void DeliverCharacter(char32_t character);
 

@@ -88,7 +88,10 @@ std::unique_ptr<forms::Label> frmToolbar::MakeSeparator(int index) {
   label->MouseUp = [this, index](MouseButton button, ShiftState, float x, float y) {
     lblSep_MouseUp(index, button, x, y);
   };
-  if (index == 0) label->DblClick = [this] { Form_DblClick(); };
+  if (index == 0) {
+    label->DblClick = [this] { Form_DblClick(); };
+    label->CaptureLost = [this] { Pull.LosePress(); };
+  }
   return label;
 }
 
@@ -103,6 +106,7 @@ void frmToolbar::WireEvents() {
   };
   MouseUp = [this](MouseButton button, ShiftState, float, float) { Pull.MouseUp(button); };
   DblClick = [this] { Form_DblClick(); };
+  CaptureLost = [this] { Pull.LosePress(); };
   picToolbar.MouseDown = [this](MouseButton button, ShiftState, float x, float y) {
     Menus.picToolbar_MouseDown(button, x, y);
   };
@@ -131,6 +135,7 @@ void frmToolbar::WireRow() {
   picSingleButton.MouseMove = to(&SingleRow::picSingleButton_MouseMove);
   picSingleButton.MouseUp = to(&SingleRow::picSingleButton_MouseUp);
   picSingleButton.DblClick = [this] { Singles.picSingleButton_DblClick(); };
+  picSingleButton.CaptureLost = [this] { Singles.picSingleButton_CaptureLost(); };
 }
 
 void frmToolbar::LoadWindow() { static_cast<void>(Load()); }

@@ -266,7 +266,6 @@ void frmToolbar::TakeRequestedFocus() {
 
 void frmToolbar::Timer1_Timer() {
   TakeRequestedFocus();
-  Pull.WatchPull();
   if (program_.Guards.IsSettling() || program_.Guards.IsPlacing() || program_.Entry.ItemDragging ||
       program_.Drag.ButtonDragging) {
     return;
@@ -279,8 +278,7 @@ void frmToolbar::Timer1_Timer() {
   if (program_.Strip.ToolbarMinimized) {
     StopTimers();
   } else if (!program_.Strip.AutoHide) {
-    // Who holds the frame may let it go elsewhere.
-    Timer1.SetEnabled(Pull.FrameHeld);
+    Timer1.SetEnabled(false);
   } else {
     Hiding.HideAndReveal();
   }
