@@ -1,6 +1,8 @@
 #pragma once
 
-#include <set>
+#include <atomic>
+#include <map>
+#include <memory>
 #include <string>
 
 #include "forms/Alive.h"
@@ -11,15 +13,33 @@ namespace corvelle {
 /// slow to start does not start it twice.
 class StartsUnderWay {
  public:
-  /// False when it is being started already.
-  [[nodiscard]] bool Begin(const std::string& what) { return underWay_.insert(what).second; }
-  void End(const std::string& what) { underWay_.erase(what); }
+  /// One start until it is over. `SetOver` may be called on any thread, and after the program's
+  /// end.
+  class Start {
+   public:
+    void SetOver() noexcept { over_ = true; }
+    [[nodiscard]] bool IsOver() const noexcept { return over_; }
+
+   private:
+    std::atomic<bool> over_ = false;
+  };
+
+  /// Nothing when it is being started already. Whoever starts sets the answer over as soon as the
+  /// system has answered: the user may see the program by then and choose it again, before any
+  /// event tells how the start ended.
+  [[nodiscard]] std::shared_ptr<Start> Begin(const std::string& what) {
+    std::erase_if(underWay_, [](const auto& known) { return known.second->IsOver(); });
+    const auto [at, added] = underWay_.try_emplace(what);
+    if (!added) return nullptr;
+    at->second = std::make_shared<Start>();
+    return at->second;
+  }
 
   /// Tells what comes back later whether the program is still there.
   [[nodiscard]] forms::Alive::Watch Watch() const { return alive_.MakeWatch(); }
 
  private:
-  std::set<std::string> underWay_;
+  std::map<std::string, std::shared_ptr<Start>> underWay_;
   forms::Alive alive_;
 };
 

@@ -47,6 +47,7 @@ void frmCust::WireTree() {
   TreeView1.KeyDown = [this](int keyCode, forms::ShiftState shift) {
     return TreeView1_KeyDown(keyCode, shift);
   };
+  TreeView1.KeyUp = [this](int, forms::ShiftState) { ShiftDown = false; };
   TreeView1.KeyPress = [this](char32_t character) {
     return ShiftDown || character == forms::key::Enter;
   };

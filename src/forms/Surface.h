@@ -63,6 +63,9 @@ class Surface : public Window {
   std::function<void(MouseButton, ShiftState, float, float)> MouseMove;
   std::function<void(MouseButton, ShiftState, float, float)> MouseUp;
   std::function<void()> DblClick;
+  /// Where the last press was, the second one of a double click too. When its event is dealt with,
+  /// the pointer may be elsewhere.
+  [[nodiscard]] TwipPoint PressPlace() const;
   /// The press on the surface itself ended without a release: a message box came up, another window
   /// took the mouse, or this one was hidden. A graphic that was pressed is told instead.
   std::function<void()> CaptureLost;
@@ -95,6 +98,7 @@ class Surface : public Window {
   void OnDoubleClick(PixelPoint at) override;
   void OnCaptureLost() override;
   void ToolTipChanged() override;
+  void ScaleChanged() override;
   void PeerGoing() override { shownToolTip_ = ToolTip(); }
   DropEffect OnDragOver(DragData& data, DropEffect allowed, const DragPoint& where) override;
   void OnDragLeave() override;
@@ -121,6 +125,8 @@ class Surface : public Window {
   /// Who gets a mouse event at a point of the window: a graphic, or null for the surface itself.
   [[nodiscard]] Graphic* TargetAt(PixelPoint at) const;
   void StartPress(MouseButton button, Graphic* target) noexcept;
+  /// A point of the window in twips of the inside.
+  [[nodiscard]] TwipPoint InsideTwips(PixelPoint at) const;
   void CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
                  MouseHandler Surface::*ofSurface, MouseButton button, ShiftState shift,
                  PixelPoint at);
@@ -140,6 +146,7 @@ class Surface : public Window {
   Graphic* captured_ = nullptr;           // the graphic that was pressed
   std::string shownToolTip_;              // of the window: its own or that of a graphic
   MouseButton down_ = MouseButton::None;  // buttons down since a press on whom it concerns
+  PixelPoint pressedAt_;                  // the last press, in the window
   OleColor backColor_ = color::ButtonFace;
   FontSpec font_;
   bool autoRedraw_ = false;

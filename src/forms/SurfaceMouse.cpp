@@ -51,13 +51,19 @@ void Surface::StartPress(MouseButton button, Graphic* target) noexcept {
   down_ = down_ | button;
 }
 
+TwipPoint Surface::InsideTwips(PixelPoint at) const {
+  const ScreenInfo screen = Screen();
+  const int border = BorderPixels();
+  return {static_cast<float>(at.x - border) * screen.TwipsPerPixelX,
+          static_cast<float>(at.y - border) * screen.TwipsPerPixelY};
+}
+
+TwipPoint Surface::PressPlace() const { return InsideTwips(pressedAt_); }
+
 void Surface::CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
                         MouseHandler Surface::*ofSurface, MouseButton button, ShiftState shift,
                         PixelPoint at) {
-  const ScreenInfo screen = Windows().Screen();
-  const int border = BorderPixels();
-  float x = static_cast<float>(at.x - border) * screen.TwipsPerPixelX;
-  float y = static_cast<float>(at.y - border) * screen.TwipsPerPixelY;
+  auto [x, y] = InsideTwips(at);
   if (target != nullptr) {
     x -= target->Left();
     y -= target->Top();
@@ -70,6 +76,7 @@ void Surface::CallMouse(Graphic* target, MouseHandler Graphic::*ofGraphic,
 void Surface::OnMouseDown(MouseButton button, ShiftState shift, PixelPoint at) {
   Graphic* const target = TargetAt(at);
   StartPress(button, target);
+  pressedAt_ = at;
   CallMouse(target, &Graphic::MouseDown, &Surface::MouseDown, button, shift, at);
 }
 
@@ -109,6 +116,7 @@ void Surface::OnCaptureLost() {
 void Surface::OnDoubleClick(PixelPoint at) {
   Graphic* const target = TargetAt(at);
   StartPress(MouseButton::Left, target);
+  pressedAt_ = at;
   const std::function<void()> handler = target != nullptr ? target->DblClick : DblClick;
   if (handler) handler();
 }

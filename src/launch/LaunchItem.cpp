@@ -197,7 +197,8 @@ void OpenUrlFile(Program& program, const std::string& file) {
       },
       [&program](const std::string& address) {
         RunForm(program, ClassifyAddress(address), address);
-      });
+      },
+      UnderWay::UntilTold);
 }
 
 void RunForm(Program& program, CommandKind kind, const std::string& text) {

@@ -20,12 +20,17 @@ struct WorkAtOnce {
 }  // namespace
 
 bool RunBeside(Program& program, const std::string& what, Starter::Work work,
-               std::function<void()> done) {
-  if (!program.Starts.Begin(what)) return false;
+               std::function<void()> done, UnderWay until) {
+  const auto start = program.Starts.Begin(what);
+  if (start == nullptr) return false;
   program.Services.Starts.Start(
-      std::move(work), [&program, what, done = std::move(done), watch = program.Starts.Watch()] {
+      [start, until, work = std::move(work)](const StartServices& services) {
+        work(services);
+        if (until == UnderWay::UntilDone) start->SetOver();
+      },
+      [start, done = std::move(done), watch = program.Starts.Watch()] {
         if (watch.Gone()) return;
-        program.Starts.End(what);
+        start->SetOver();
         done();
       });
   return true;

@@ -12,11 +12,16 @@
 
 namespace corvelle {
 
+/// Until when what was begun counts as under way: the end of its work, after which the user may see
+/// what it started and choose it again; or until `then` was told, because only that starts
+/// something.
+enum class UnderWay { UntilDone, UntilTold };
+
 /// Runs `work` beside the windows, with services of its own thread, and then `done` on the thread
 /// of the windows; see Starter. False, and nothing is done, while `what` is under way already.
 /// `work` holds values only; `done` is not called once the program is gone.
 bool RunBeside(Program& program, const std::string& what, Starter::Work work,
-               std::function<void()> done);
+               std::function<void()> done, UnderWay until = UnderWay::UntilDone);
 
 /// The same, and true when the work was over almost at once. When it takes longer, or `what` is
 /// still under way from before, nobody is told. No events run. For what is needed inside an event
@@ -26,14 +31,14 @@ bool RunBeside(Program& program, const std::string& what, Starter::Work work,
 /// RunBeside for work that has a result, which is handed to `then`.
 template <class Outcome, class Work>
 void StartBeside(Program& program, const std::string& what, Work work,
-                 std::function<void(Outcome)> then) {
+                 std::function<void(Outcome)> then, UnderWay until = UnderWay::UntilDone) {
   const auto outcome = std::make_shared<Outcome>();
   RunBeside(
       program, what,
       [outcome, work = std::move(work)](const StartServices& services) {
         *outcome = work(services);
       },
-      [outcome, then = std::move(then)] { then(std::move(*outcome)); });
+      [outcome, then = std::move(then)] { then(std::move(*outcome)); }, until);
 }
 
 /// RunAtOnce for work that has a result; nothing when it was not there at once.

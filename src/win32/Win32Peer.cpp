@@ -107,6 +107,8 @@ void Win32PeerCore::SetFocus() {
 
 void Win32PeerCore::SetForeground() { SetForegroundWindow(Handle()); }
 
+bool Win32PeerCore::IsForeground() const { return GetForegroundWindow() == Handle(); }
+
 void Win32PeerCore::SetZOrder(ZPlace place) {
   ::SetWindowPos(Handle(), place == ZPlace::Front ? HWND_TOP : HWND_BOTTOM, 0, 0, 0, 0, kOrderOnly);
 }

@@ -31,6 +31,7 @@ class Win32PeerCore {
   void PaintNow();
   void SetFocus();
   void SetForeground();
+  [[nodiscard]] bool IsForeground() const;
   void SetZOrder(forms::ZPlace place);
   void SetWindowPos(forms::InsertAfter after, unsigned flags);
   std::unique_ptr<Canvas> ScreenCanvas();
@@ -63,6 +64,7 @@ class Win32PeerOf : public Interface {
   void PaintNow() override { core_.PaintNow(); }
   void SetFocus() override { core_.SetFocus(); }
   void SetForeground() override { core_.SetForeground(); }
+  bool IsForeground() const override { return core_.IsForeground(); }
   void SetZOrder(forms::ZPlace place) override { core_.SetZOrder(place); }
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
     core_.SetWindowPos(after, flags);
@@ -71,6 +73,7 @@ class Win32PeerOf : public Interface {
   void SetMenuBar(const std::vector<forms::PopupItem>& items) override {
     core_.Window().SetMenuBar(items);
   }
+  void SetDpi(int dpi) override { core_.Window().SetDpi(dpi); }
   std::unique_ptr<Canvas> ScreenCanvas() override { return core_.ScreenCanvas(); }
 
  protected:

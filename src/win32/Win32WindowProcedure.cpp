@@ -301,6 +301,12 @@ std::optional<LRESULT> Win32Window::TreatKeys(UINT message, WPARAM wParam, LPARA
       events_->OnKeyDown(static_cast<int>(wParam), ShiftOfKeyboard());
       if (wParam == VK_F10) return 0;
       return Default(message, wParam, lParam);
+    case WM_KEYUP:
+      events_->OnKeyUp(static_cast<int>(wParam), ShiftOfKeyboard());
+      return 0;
+    case WM_SYSKEYUP:
+      events_->OnKeyUp(static_cast<int>(wParam), ShiftOfKeyboard());
+      return Default(message, wParam, lParam);
     case WM_CHAR:
       if (const auto character = Complete(static_cast<wchar_t>(wParam))) {
         events_->OnKeyPress(*character);

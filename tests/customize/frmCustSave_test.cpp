@@ -488,6 +488,7 @@ TEST(CustomizeKeyboard, FromOpeningToSavingWithoutAMouse) {
   user.PressKey(key::Enter);
   EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Hammer Anvil Saw) | Clock Paint");
   desk.Keys({key::Alt}, 'U');
+  EXPECT_TRUE(desk.Form().cmdSave.HasFocus()) << "as in every dialog of the system";
   EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Hammer Anvil Saw) | Clock Paint");
   EXPECT_EQ(desk.Editor().Tree.At(desk.Editor().Selected()).Entry,
             (clsFile{"New", "C:\\Tools\\Edit.exe"}));

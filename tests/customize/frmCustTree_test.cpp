@@ -52,6 +52,18 @@ TEST(CustomizeTree, TheArrowKeysSelectToo) {
   EXPECT_EQ(desk.Boxes(), "Letters;Button;");
 }
 
+// An input method types without a key.
+TEST(CustomizeTree, WhatIsTypedWhileShiftIsHeldIsSwallowedAndNotAfterwards) {
+  CustDesk desk;
+  ASSERT_TRUE(desk.Form().TreeView1.HasFocus());
+  const auto swallows = [&desk] { return desk.Form().TreeView1.KeyPress(U'\u00e9'); };
+  EXPECT_FALSE(swallows());
+  desk.world.Desktop.KeyDown(key::Shift);
+  EXPECT_TRUE(swallows());
+  desk.world.Desktop.KeyUp(key::Shift);
+  EXPECT_FALSE(swallows());
+}
+
 TEST(CustomizeTree, ForASecondAfterAnExpansionNoMenuComesAndNoDragBegins) {
   CustDesk desk;
   desk.ClickAt(desk.Expander("Letters"));

@@ -90,6 +90,22 @@ TEST_P(ActivationContract, TheOwnerOfAModalFormFollowsItAndNotWhatLiesBetween) {
   owner.Unload();
 }
 
+TEST_P(ActivationContract, AModalFormThatGoesBehindAnotherProgramLeavesItTheForeground) {
+  OwningForm owner(home_->Windows(), "CorvelleOwner", 1500);
+  OwningForm modal(home_->Windows(), "CorvelleModal", 6000);
+  owner.Show();
+  modal.ShowModalTo(owner);
+  Settle();
+  const WindowId other = home_->OpenOther();
+  Settle();
+  ASSERT_EQ(Desktop().ForegroundWindow(), other);
+  modal.Unload();
+  Settle();
+  EXPECT_EQ(Desktop().ForegroundWindow(), other);
+  EXPECT_TRUE(owner.Enabled());
+  owner.Unload();
+}
+
 // The active window goes away.
 
 TEST_P(ActivationContract, TheNextWindowBelowTheHiddenOneBecomesActiveAndGetsTheKeys) {

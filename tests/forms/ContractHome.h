@@ -41,6 +41,7 @@ class EventNotes final : public WindowEvents, public ButtonEvents {
  public:
   std::vector<std::string> Seen;
   std::vector<std::string> Focus;
+  std::vector<std::string> KeysUp;
   bool UsesKeys = false;  // of a control, and the wheel
   int Paints = 0;
   PixelRect LastDirty;
@@ -68,6 +69,9 @@ class EventNotes final : public WindowEvents, public ButtonEvents {
   }
   void OnKeyPress(char32_t character) override {
     Seen.push_back("char " + std::to_string(static_cast<unsigned>(character)));
+  }
+  void OnKeyUp(int keyCode, ShiftState shift) override {
+    KeysUp.push_back(std::to_string(keyCode) + (shift.Shift ? " shift" : ""));
   }
   void OnPress() override {
     Seen.emplace_back("press");

@@ -140,6 +140,14 @@ TEST_P(InputContract, ADoubleClickIsPressReleaseDoubleRelease) {
             (std::vector<std::string>{"down 1 10,10", "up 1 10,10", "double 10,10", "up 1 10,10"}));
 }
 
+TEST_P(InputContract, AKeyThatGoesUpIsToldWithThoseThatAreStillHeld) {
+  home_->KeyDown(key::Shift);
+  home_->PressKey(key::Down);
+  home_->KeyUp(key::Shift);
+  const std::string shift = std::to_string(key::Shift);
+  EXPECT_EQ(notes_.KeysUp, (std::vector<std::string>{"40 shift", shift}));
+}
+
 TEST_P(InputContract, KeysReachTheActiveWindow) {
   home_->PressKey(key::Down);
   home_->PressKey(key::Enter);
@@ -241,12 +249,14 @@ TEST_P(ControlContract, SpacePressesTheOneWithTheFocusUnlessItIsUsedUpAndAllKeys
     MakeControl(kind);
     control_->SetFocus();
     home_->Wait(50);
+    controlNotes_.KeysUp.clear();
     controlNotes_.UsesKeys = true;
     home_->PressKey(kSpace);
     EXPECT_FALSE(controlNotes_.Saw("press")) << "used up";
     controlNotes_.UsesKeys = false;
     home_->PressKey(kSpace);
     EXPECT_TRUE(controlNotes_.Saw("press"));
+    EXPECT_EQ(controlNotes_.KeysUp, (std::vector<std::string>{"32", "32"}));
     for (const int key : {kTab, key::Enter, key::Escape}) home_->PressKey(key);
     EXPECT_TRUE(controlNotes_.Saw("key 9"));
     EXPECT_TRUE(controlNotes_.Saw("key 13"));

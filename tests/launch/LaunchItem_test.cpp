@@ -524,6 +524,30 @@ TEST_F(LaunchItemTest, WhatIsSlowToStartLetsTheNextBeStartedAndIsNotStartedTwice
   EXPECT_EQ(Launches().size(), 3U) << "a press after the start is a start of its own";
 }
 
+// The user sees the program already; the event that tells of its start waits behind what the hand
+// does.
+TEST_F(LaunchItemTest, WhatIsChosenAgainAsSoonAsItHasStartedStartsAgain) {
+  world.Starts.HoldEnds();
+  for (int i = 0; i < 3; ++i) LaunchItem(program, "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches().size(), 3U);
+  for (int i = 0; i < 2; ++i) OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  EXPECT_EQ(Launches().size(), 5U);
+  world.Starts.TellEnds();
+  EXPECT_EQ(Boxes(), 0U);
+}
+
+// Its address is not started before the file has been read.
+TEST_F(LaunchItemTest, AUrlFileIsNotOpenedTwiceWhileWhatItHoldsWaits) {
+  AddServices();
+  world.Files.Put("C:\\Links\\site.url", "[InternetShortcut]\r\nURL=http://one.example/\r\n");
+  world.Starts.HoldEnds();
+  for (int i = 0; i < 2; ++i) LaunchItem(program, "C:\\Links\\site.url");
+  world.Starts.TellEnds();
+  EXPECT_EQ(log, CallLog{"OpenUrl http://one.example/"});
+  LaunchItem(program, "C:\\Links\\site.url");
+  EXPECT_EQ(log.size(), 2U);
+}
+
 TEST_F(LaunchItemTest, ALateFailureIsToldWhenItIsKnown) {
   world.Starts.Hang();
   for (const char* command : {"C:\\Tools\\gone.exe", "C:\\Links\\gone.lnk"})

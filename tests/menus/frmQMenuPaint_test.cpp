@@ -238,7 +238,7 @@ TEST_F(Painted, ThePictureOfAPageHoldsNoCaption) {
   for (int item = 1; item <= 3; ++item) {
     const forms::Label& label = desk_.Menu.Lbl[item];
     const PixelRect row = forms::ToPixels(label.Left(), label.Top(), label.Width(), label.Height(),
-                                          desk_.World.Windows().Screen());
+                                          desk_.World.Desktop.Screen());
     for (int y = row.top; y < row.bottom; ++y) {
       for (int x = row.left; x < row.right; ++x) {
         ASSERT_EQ(desk_.Menu.PagePicture->PixelAt({x, y}), Face()) << item;

@@ -24,10 +24,18 @@
 
 namespace corvelle::sim {
 
+/// A monitor beside the primary one. Forms may lie on it and take its scale; what they show there
+/// is on no picture of the screen.
+struct OtherMonitor {
+  PixelRect Bounds;
+  int Dpi = forms::kPlainDpi;
+};
+
 struct DesktopOptions {
-  float TwipsPerPixel = 15;  // 15 at 96 dpi, 12 at 120 dpi
+  float TwipsPerPixel = 15;  // of the primary screen: 15 at 96 dpi, 12 at 120 dpi
   PixelSize Screen{1024, 768};
   int ScreenBits = 32;
+  std::vector<OtherMonitor> OtherMonitors;
 };
 
 /// A desktop without a screen: windows of this program and of others, a Z order, a pointer, a
@@ -67,6 +75,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   /// Press and release. Two clicks are never taken for a double click.
   void Click(forms::MouseButton button = forms::MouseButton::Left);
   void ClickAt(int x, int y, forms::MouseButton button = forms::MouseButton::Left);
+  /// Another window takes the mouse from the one that was pressed, which is told so.
+  void TakeCapture();
   void DoubleClick();
   /// A key goes down, or up again. Enter and Esc bring their characters with them.
   void KeyDown(int virtualKey);
@@ -222,14 +232,18 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   // forms::WindowSystem
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
-  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar) const override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar, int dpi) const override;
   forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
   std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) override;
-  PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
+  PixelSize MeasureText(std::string_view text, const ScaledFont& font) override;
   Rgb SystemColor(int index) const override;
-  forms::ScreenInfo Screen() const override;
+  int DpiAt(const PixelRect& bounds) const override;
+  PixelSize ScreenSize() const override { return options_.Screen; }
+  /// The primary screen by its own scale, for a test that reckons with pixels.
+  [[nodiscard]] forms::ScreenInfo Screen() const;
+  [[nodiscard]] int PrimaryDpi() const noexcept;
   int ScreenBits() const override { return options_.ScreenBits; }
   void SetMousePointer(forms::MousePointer shape) override { pointerShape_ = shape; }
   forms::MousePointer CurrentMousePointer() const override { return pointerShape_; }
@@ -388,6 +402,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void DeliverPress(const Mouse& mouse, forms::MouseButton button, bool second);
   void DeliverRelease(const Mouse& mouse, forms::MouseButton button);
   [[nodiscard]] const SimWindow* KeyTarget() const;
+  void DeliverKeyUp(int virtualKey, forms::ShiftState shift);
   void DeliverKey(int virtualKey, forms::ShiftState shift);
   void DeliverCharacter(char32_t character);
 

@@ -73,6 +73,10 @@ void SimDesktop::ClickAt(int x, int y, forms::MouseButton button) {
   Click(button);
 }
 
+void SimDesktop::TakeCapture() {
+  UserEvent([this] { LoseCapture(); });
+}
+
 void SimDesktop::DoubleClick() {
   Click();
   keys_.insert(KeyOf(forms::MouseButton::Left));
@@ -91,7 +95,10 @@ void SimDesktop::KeyDown(int virtualKey) {
   });
 }
 
-void SimDesktop::KeyUp(int virtualKey) { keys_.erase(virtualKey); }
+void SimDesktop::KeyUp(int virtualKey) {
+  keys_.erase(virtualKey);
+  UserEvent([this, virtualKey, shift = Shift()] { DeliverKeyUp(virtualKey, shift); });
+}
 
 void SimDesktop::PressKey(int virtualKey) {
   KeyDown(virtualKey);
@@ -226,6 +233,12 @@ void SimDesktop::DeliverKey(int virtualKey, forms::ShiftState shift) {
   usedUp_ = used;
   at = Look(target);
   if (!used && at != nullptr && at->Control != nullptr) at->Control->Key(virtualKey, shift);
+}
+
+void SimDesktop::DeliverKeyUp(int virtualKey, forms::ShiftState shift) {
+  const SimWindow* const at = popup_ == kNoWindow ? KeyTarget() : nullptr;
+  if (at == nullptr || (at->Control != nullptr && at->Control->TakesAllKeys())) return;
+  at->Events->OnKeyUp(virtualKey, shift);
 }
 
 void SimDesktop::DeliverCharacter(char32_t character) {

@@ -31,6 +31,7 @@ class SimPeerCore {
   void PaintNow() { desktop_.PaintNow(window_); }
   void SetFocus() { desktop_.SetFocusTo(window_); }
   void SetForeground();
+  [[nodiscard]] bool IsForeground() const { return desktop_.ForegroundWindow() == window_; }
   void SetZOrder(forms::ZPlace place) { desktop_.SetZOrder(window_, place); }
   void SetWindowPos(forms::InsertAfter after, unsigned flags) {
     desktop_.SetWindowPos(window_, after, flags);
@@ -62,6 +63,7 @@ class SimPeerOf : public Interface {
   void PaintNow() override { core_.PaintNow(); }
   void SetFocus() override { core_.SetFocus(); }
   void SetForeground() override { core_.SetForeground(); }
+  bool IsForeground() const override { return core_.IsForeground(); }
   void SetZOrder(forms::ZPlace place) override { core_.SetZOrder(place); }
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
     core_.SetWindowPos(after, flags);
@@ -69,6 +71,10 @@ class SimPeerOf : public Interface {
   void SetLeastSize(PixelSize size) override { core_.Window().LeastSize = size; }
   void SetMenuBar(const std::vector<forms::PopupItem>& items) override {
     core_.Desktop().SetMenuBar(core_.Id(), items);
+  }
+  void SetDpi(int dpi) override {
+    core_.Window().Dpi = dpi;
+    core_.InvalidateAll();
   }
   std::unique_ptr<Canvas> ScreenCanvas() override { return core_.ScreenCanvas(); }
 

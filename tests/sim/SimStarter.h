@@ -10,7 +10,8 @@
 
 namespace corvelle::sim {
 
-/// Starts inside the call, unless a test says that the system takes its time.
+/// Starts inside the call, unless a test says that the system takes its time, or that the event
+/// which tells how a start ended waits behind others.
 class SimStarter final : public Starter, public Priced {
  public:
   explicit SimStarter(const StartServices& services) { Use(services); }
@@ -23,6 +24,12 @@ class SimStarter final : public Starter, public Priced {
   void Resume() {
     hangs_ = false;
     for (const auto& [work, done] : std::exchange(waiting_, {})) Carry(work, done);
+  }
+  /// From now on what is started is told to be only when TellEnds is called.
+  void HoldEnds() { holdsEnds_ = true; }
+  void TellEnds() {
+    holdsEnds_ = false;
+    for (const auto& done : std::exchange(ends_, {})) done();
   }
   /// How many starts hang.
   [[nodiscard]] int UnderWay() const noexcept { return static_cast<int>(waiting_.size()); }
@@ -41,12 +48,18 @@ class SimStarter final : public Starter, public Priced {
       const CallCosts::Apart thread(Costs());
       work(*services_);
     }
-    done();
+    if (holdsEnds_) {
+      ends_.push_back(done);
+    } else {
+      done();
+    }
   }
 
   std::optional<StartServices> services_;
   std::vector<std::pair<Work, std::function<void()>>> waiting_;
+  std::vector<std::function<void()>> ends_;
   bool hangs_ = false;
+  bool holdsEnds_ = false;
 };
 
 }  // namespace corvelle::sim

@@ -37,6 +37,8 @@ class SimSystemInfo final : public SystemInfo, public Priced {
   std::map<std::string, DriveFacts> Drives{
       {"C:\\", {3, "System", "NTFS", DriveRoom{512'000'000'000, 128'000'000'000}}}};
   std::set<std::string> DrivesAtRest;
+  /// Measures of a caption on the primary screen, whose scale is Dpi.
+  int Dpi = 96;
   int Caption = 19;
   int CaptionButton = 18;
   int Depth = 32;
@@ -72,8 +74,8 @@ class SimSystemInfo final : public SystemInfo, public Priced {
     if (OnInstanceAsked) OnInstanceAsked();
     return OtherInstance;
   }
-  int CaptionHeight() const override { return Caption; }
-  int CaptionButtonWidth() const override { return CaptionButton; }
+  int CaptionHeight(int dpi) const override { return Caption * dpi / Dpi; }
+  int CaptionButtonWidth(int dpi) const override { return CaptionButton * dpi / Dpi; }
   std::string ShortDate() const override { return Date; }
   std::string LongDate() const override { return DateInFull; }
   std::string TimeOfDay() const override { return Time; }

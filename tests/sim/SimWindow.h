@@ -32,6 +32,7 @@ struct SimWindow {
   forms::FrameStyle Frame = forms::FrameStyle::None;
   forms::FrameMargins Margins;  // of the frame
   bool MinimizeBox = false;
+  int Dpi = forms::kPlainDpi;  // which its text is drawn for
   PixelSize LeastSize{1, 1};
   std::vector<forms::PopupItem> MenuBar;
   bool Visible = false;

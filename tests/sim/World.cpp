@@ -15,7 +15,10 @@ World::World(const WorldOptions& options)
       FileOps(Files),
       Associations(Files),
       Folders(Files),
-      Desktop({.TwipsPerPixel = options.TwipsPerPixel, .Screen = options.Screen}) {
+      Desktop({.TwipsPerPixel = options.TwipsPerPixel,
+               .Screen = options.Screen,
+               .OtherMonitors = options.OtherMonitors}) {
+  System.Dpi = Desktop.PrimaryDpi();
   System.Caption = options.CaptionHeight;
   System.CaptionButton = options.CaptionButtonWidth;
   for (Priced* const service :

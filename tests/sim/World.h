@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/CodePage.h"
 #include "platform/Platform.h"
@@ -27,10 +28,11 @@
 namespace corvelle::sim {
 
 struct WorldOptions {
-  float TwipsPerPixel = 15;  // 15 at 96 dpi, 12 at 120 dpi
+  float TwipsPerPixel = 15;  // of the primary screen: 15 at 96 dpi, 12 at 120 dpi
   PixelSize Screen{1024, 768};
   int CaptionHeight = 19;
   int CaptionButtonWidth = 18;
+  std::vector<OtherMonitor> OtherMonitors;
 };
 
 /// All that a program runs on, made afresh for one test: the disk with drive C:, the desktop with

@@ -55,15 +55,19 @@ struct DockDesk : StripDesk {
            !Strip.bLine1.Visible() && !Strip.bLineXY.Visible();
   }
 
-  /// Takes the strip by its grip and pulls it somewhere, without letting go.
-  void Pull(PixelPoint to) {
+  /// The middle of the grip.
+  [[nodiscard]] PixelPoint Grip() const {
     const forms::Label& grip = Strip.lblSep[0];
     const PixelRect window = Bounds();
     const auto middle = [&](float left, float width) {
       return static_cast<int>((left + width / 2) / Strip.TwipsX);
     };
-    PointAt({window.left + middle(grip.Left(), grip.Width()),
-             window.top + middle(grip.Top(), grip.Height())});
+    return {window.left + middle(grip.Left(), grip.Width()),
+            window.top + middle(grip.Top(), grip.Height())};
+  }
+  /// Takes the strip by its grip and pulls it somewhere, without letting go.
+  void Pull(PixelPoint to) {
+    PointAt(Grip());
     World.Desktop.Press();
     PointAt(to);
   }

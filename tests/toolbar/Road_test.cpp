@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -476,12 +477,22 @@ std::string MenuPixels(const RoadDesk& desk) {
   return pixels;
 }
 
-/// A desk whose programs have icons of their own, not fetched yet.
+/// A desk whose second menu has an icon of each kind for which the shell is asked, none of them
+/// fetched yet: a program's; one of the program's own folder, and one of a library without such an
+/// icon, which are asked for while they are drawn.
 struct IconDesk : RoadDesk {
   IconDesk() {
-    for (int i = 1; i <= 3; ++i) {
-      World.Icons.SetIndex("C:\\Tools\\m1i" + std::to_string(i) + ".exe", 20 + i);
-    }
+    TheProgram.Paths.IconsPath = "C:\\Corvelle\\Icons\\";
+    World.Icons.SetIndex("C:\\Tools\\m1i1.exe", 21);
+    World.Files.Put("C:\\Corvelle\\Icons\\own.ico", "x");
+    World.Icons.SetIconCount("C:\\Corvelle\\Icons\\own.ico", 1);
+    World.Files.Put("C:\\Tools\\some.dll", "x");
+    World.Icons.SetIndex("C:\\Tools\\some.dll", 23);
+    World.Files.Put("C:\\Corvelle\\Menus\\" + MenuFileName(1),
+                    Records({Entry("Menu 1", "Button"),
+                             Entry("Program", "C:\\Tools\\m1i1.exe", "C:\\Tools\\m1i1.exe"),
+                             Entry("Own", "\\Icons\\own.ico", "C:\\Tools\\m1i2.exe"),
+                             Entry("Library", "C:\\Tools\\some.dll|7", "C:\\Tools\\m1i3.exe")}));
     RealMenu.ResetPicIcons();
   }
   void OpenSecond() {
@@ -491,45 +502,81 @@ struct IconDesk : RoadDesk {
   }
 };
 
-// The message is sent, so that it comes in the middle of the shell's answer. Another size closes
-// the menu, for the strip may move; another depth empties the store of icons under it.
-TEST(DisplayChange, WhileIconsAreFetchedLeavesNoMenuWithoutItsIcons) {
-  struct Row {
-    PixelSize screen;
-    int bits;
-  };
-  for (const Row& row : {Row{{800, 600}, 32}, Row{{1024, 768}, 16}}) {
-    std::string whole;
-    {
-      IconDesk desk;
-      desk.World.Desktop.SetScreen(row.screen, row.bits);
-      desk.Wait(300);
-      desk.OpenSecond();
-      ASSERT_EQ(desk.RealMenuUp(), 2);
-      whole = MenuPixels(desk);
+/// What the system tells all windows at once, by messages that are sent: they come in the middle of
+/// the shell's answer.
+struct ScreenNews {
+  const char* Name;
+  void (*Tell)(RoadDesk&);
+  bool ClosesMenu = false;  // the strip may move
+};
+
+constexpr ScreenNews kScreenNews[] = {
+    {"other colours", [](RoadDesk& desk) { desk.World.Desktop.SetSystemColor(15, 0x00123456); }},
+    {"another depth",
+     [](RoadDesk& desk) {
+       desk.World.Desktop.SetScreen({1024, 768}, 16);
+     }},
+    {"another size",
+     [](RoadDesk& desk) {
+       desk.World.Desktop.SetScreen({800, 600}, 32);
+     },
+     true},
+};
+
+class NewsWhileIconsAreFetched : public testing::TestWithParam<ScreenNews> {
+ protected:
+  /// The menu of a desk that has heard the news before.
+  [[nodiscard]] static std::string Expected() {
+    IconDesk desk;
+    GetParam().Tell(desk);
+    desk.Wait(300);
+    desk.OpenSecond();
+    EXPECT_EQ(desk.RealMenuUp(), 2);
+    return MenuPixels(desk);
+  }
+  /// How often the shell is asked while the menu comes up.
+  [[nodiscard]] static int Questions() {
+    IconDesk desk;
+    int asked = 0;
+    desk.World.Icons.WhileAsked([&asked] { ++asked; });
+    desk.OpenSecond();
+    return asked;
+  }
+};
+
+TEST_P(NewsWhileIconsAreFetched, LeavesNoMenuWithoutItsIconsOrInOldColours) {
+  const std::string expected = Expected();
+  const int questions = Questions();
+  EXPECT_GE(questions, 3);
+  for (int at = 0; at < questions; ++at) {
+    SCOPED_TRACE(at);
+    IconDesk desk;
+    int asked = 0;
+    desk.World.Icons.WhileAsked([&] {
+      if (asked++ == at) GetParam().Tell(desk);
+    });
+    desk.OpenSecond();
+    EXPECT_GT(asked, at);
+    EXPECT_EQ(desk.RealMenuUp(), GetParam().ClosesMenu ? 0 : 2);
+    if (desk.RealMenuUp() == 2) {
+      EXPECT_TRUE(MenuPixels(desk) == expected);
     }
-    for (int at = 0; at < 3; ++at) {
-      SCOPED_TRACE(std::to_string(row.bits) + ", icon " + std::to_string(at));
-      IconDesk desk;
-      int asked = 0;
-      desk.World.Icons.WhileAsked([&] {
-        if (asked++ == at) desk.World.Desktop.SetScreen(row.screen, row.bits);
-      });
-      desk.OpenSecond();
-      EXPECT_GT(asked, at);
-      EXPECT_EQ(desk.RealMenuUp(), row.bits == 16 ? 2 : 0);
-      if (desk.RealMenuUp() == 2) {
-        EXPECT_TRUE(MenuPixels(desk) == whole);
-      }
-      desk.Strip.ResetMenu();
-      desk.Wait(300);
-      desk.OpenSecond();
-      ASSERT_EQ(desk.RealMenuUp(), 2);
-      EXPECT_TRUE(MenuPixels(desk) == whole);
-      EXPECT_LE(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).right, row.screen.width);
-    }
+    desk.Strip.ResetMenu();
+    desk.Wait(300);
+    desk.OpenSecond();
+    ASSERT_EQ(desk.RealMenuUp(), 2);
+    EXPECT_TRUE(MenuPixels(desk) == expected);
+    EXPECT_LE(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).right,
+              desk.World.Desktop.Picture().Size().width);
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(Screen, NewsWhileIconsAreFetched, testing::ValuesIn(kScreenNews),
+                         [](const auto& row) {
+                           std::string name = row.param.Name;
+                           std::replace(name.begin(), name.end(), ' ', '_');
+                           return name;
+                         });
 
 }  // namespace
 }  // namespace corvelle

@@ -168,6 +168,18 @@ TEST(SingleCarry, ThatIsLostEndsWithTheNextMove) {
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
 }
 
+TEST(SingleCarry, ThatLosesTheMouseEndsThereAndPutsNothingDown) {
+  DropDesk desk;
+  desk.CarryTo(2, desk.MiddleOf(4));
+  desk.World.Desktop.TakeCapture();
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  EXPECT_FALSE(desk.TheProgram.Menu.MenuOpen);
+  EXPECT_EQ(desk.Parts.Times("no image"), 1);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
+  EXPECT_TRUE(desk.Started().empty());
+}
+
 TEST(SingleCarry, ADiskThatRefusesLeavesTheRow) {
   DropDesk desk;
   desk.World.Files.SetReadOnly(desk.File(3), true);

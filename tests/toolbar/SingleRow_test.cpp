@@ -284,6 +284,22 @@ TEST(SingleClick, WithoutOption11ADoubleClickRunsItOnce) {
   EXPECT_EQ(desk.Started(), std::vector<std::string>{"C:\\Tools\\b.exe"});
 }
 
+TEST(SingleClick, ADoubleClickRunsTheOneThatWasPressedWhereverThePointerIsByThen) {
+  SinglesDesk desk;
+  desk.SetOption(Option::SingleClick, false);
+  desk.PutSingles("ab");
+  desk.Start();
+  for (const PixelPoint then : {PixelPoint{20, 700}, desk.MiddleOf(1)}) {
+    desk.PointAtSingle(2);
+    desk.World.Desktop.Post([&] {
+      desk.World.Desktop.DoubleClick();
+      desk.PointAt(then);
+    });
+    desk.Wait(10);
+  }
+  EXPECT_EQ(desk.Started(), (std::vector<std::string>{"C:\\Tools\\b.exe", "C:\\Tools\\b.exe"}));
+}
+
 TEST(SingleClick, WithOption11ADoubleClickRunsItOnceToo) {
   SinglesDesk desk;
   desk.PutSingles("a");

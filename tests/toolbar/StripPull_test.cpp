@@ -34,11 +34,9 @@ struct HeldStrip final : forms::Form, PulledStrip {
   void DrawDragLook() override { Asked.emplace_back("DrawDragLook"); }
   void EndSlide() override { Asked.emplace_back("EndSlide"); }
   void SetPointerWatch(bool) override {}
-  void WatchHiding(bool enabled) override { Watched = enabled; }
 
   Calls Asked;
   bool HasMenu = false;
-  bool Watched = false;
 };
 
 /// The picture that shows the outline of a pull.
@@ -82,11 +80,10 @@ struct PullDesk {
   StripPull Pull{TheProgram, Strip};
 };
 
-TEST(StripPull, APressHoldsTheFrameClosesTheMenuAndWatchesForALostRelease) {
+TEST(StripPull, APressHoldsTheFrameAndClosesTheMenu) {
   PullDesk desk;
   desk.Pull.MouseDown(MouseButton::Left, 700, 30);
   EXPECT_TRUE(desk.Pull.FrameHeld);
-  EXPECT_TRUE(desk.Strip.Watched);
   EXPECT_EQ(desk.Strip.Asked, Calls{"ResetMenu"});
   EXPECT_EQ(desk.Pull.GrabX, 100);
   EXPECT_EQ(desk.Pull.GrabY, 30 - 285);
@@ -136,17 +133,15 @@ TEST(StripPull, WithAMenuUpAPressedPointerPullsNothing) {
   EXPECT_EQ(desk.Strip.Left(), 3000);
 }
 
-TEST(StripPull, ALostReleaseEndsASlideAfterItsGrace) {
+TEST(StripPull, APressThatIsLostEndsASlideAtOnce) {
   PullDesk desk;
   desk.Pull.MouseDown(MouseButton::Left, 700, 30);
   desk.Pull.MouseMove(MouseButton::Left, 1000, 30);
-  // No button is down on this desktop: the release went to another program.
-  desk.Pull.WatchPull();
-  EXPECT_TRUE(desk.Pull.FrameHeld);
-  desk.World.Desktop.Advance(AbandonWatch::kGrace + 1);
-  desk.Pull.WatchPull();
+  desk.Pull.LosePress();
   EXPECT_FALSE(desk.Pull.FrameHeld);
-  EXPECT_EQ(desk.Strip.Asked.back(), "EndSlide");
+  EXPECT_EQ(desk.Strip.Asked, (Calls{"ResetMenu", "DrawDragLook", "EndSlide"}));
+  desk.Pull.LosePress();
+  EXPECT_EQ(desk.Strip.Asked.size(), 3U);
 }
 
 TEST(StripPull, AnAbandonedPullMovesNothingAndTakesTheOutlineAway) {

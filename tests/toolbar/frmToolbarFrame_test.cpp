@@ -76,12 +76,14 @@ TEST(ToolbarSlide, TheSecondPressOfAQuickPairTakesHoldToo) {
     SCOPED_TRACE(byGrip);
     Floating desk;
     const PixelRect strip = desk.World.Desktop.BoundsOf(desk.Strip.hWnd());
-    const PixelPoint from = byGrip ? desk.Grip() : PixelPoint{strip.left + 3, strip.bottom - 2};
+    const PixelPoint from = byGrip ? desk.Grip() : PixelPoint{desk.Grip().x + 12, desk.Grip().y};
+    ASSERT_EQ(desk.World.Desktop.WindowAt(from), desk.Strip.hWnd());
     desk.PointAt(from);
     desk.World.Desktop.DoubleClick();
     EXPECT_FALSE(desk.Strip.Pull.FrameHeld);
     EXPECT_EQ(desk.Strip.Left(), 3000);
-    // Held this time.
+    // Held this time, and the pointer has gone on when the press is dealt with.
+    desk.PointAt({from.x + 30, from.y});
     const std::function<void()>& second =
         byGrip ? desk.Strip.lblSep[0].DblClick : desk.Strip.DblClick;
     ASSERT_TRUE(second);

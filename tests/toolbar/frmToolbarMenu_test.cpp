@@ -107,6 +107,18 @@ TEST(ToolbarPress, AQuickSecondOneClosesTheMenuToo) {
   EXPECT_EQ(desk.MenuUp(), 2);
 }
 
+// What the first press opened is closed by a choice, the second one comes soon enough to be of a
+// pair, and the hand has gone on when it is dealt with.
+TEST(ToolbarPress, AQuickSecondOneMeansItsOwnPlaceWhereverThePointerIsByThen) {
+  ThreeMenus desk;
+  desk.Click(3);
+  desk.Strip.ResetMenu();
+  ASSERT_EQ(desk.MenuUp(), 0);
+  desk.PointAway();
+  desk.Strip.picToolbar.DblClick();
+  EXPECT_EQ(desk.MenuUp(), 3);
+}
+
 TEST(ToolbarPress, OfTheRightButtonOpensNothing) {
   ThreeMenus desk;
   desk.PointAtButton(2);

@@ -156,7 +156,7 @@ void frmQMenu::InitElements() {
   Lbl[0].SetTop(metrics.FirstTop);
   Lbl[0].SetForeColor(forms::color::ButtonText);
   Label1.SetVisible(false);
-  Shape1.Move(metrics.BarLeft, 0, program_.Windows.Screen().Width, metrics.BarHeight);
+  Shape1.Move(metrics.BarLeft, 0, Screen().Width, metrics.BarHeight);
   Shape1.SetVisible(false);
   ShapeLeft = Shape1.Left();
   for (forms::Line* line : {&mLineLeft, &mLineTop, &LineLeft, &LineTop, &Line2}) {
@@ -171,7 +171,9 @@ void frmQMenu::InitElements() {
 }
 
 void frmQMenu::TakeScale() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  // A menu belongs to the strip, and comes up on its monitor.
+  if (program_.Ports.Toolbar != nullptr) SetDpi(program_.Ports.Toolbar->WindowDpi());
+  const forms::ScreenInfo screen = Screen();
   TwipsX = std::trunc(screen.TwipsPerPixelX);
   TwipsY = std::trunc(screen.TwipsPerPixelY);
   const MenuMetrics metrics = MetricsFor(TwipsX, TwipsY);
@@ -222,7 +224,7 @@ bool frmQMenu::FoldersChanged(std::string_view menuKey) {
 
 bool frmQMenu::RestoreMenu(const std::shared_ptr<BuiltMenu>& built) {
   // A menu that was laid out for another screen or another place of the strip does not fit.
-  if (built->Room != RoomForMenu()) return false;
+  if (built->Room != RoomForMenu() || built->Dpi != Dpi()) return false;
   Take(built);
   MenuFile = built->MenuInfo.File;
   pages_.Save();

@@ -223,6 +223,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void WireArrow(forms::Graphic& control, int index);
   void InitElements();
   void TakeScale();
+  void Form_ScaleChanged() override { InitElements(); }
   /// False for a menu that was laid out for another place.
   [[nodiscard]] bool RestoreMenu(const std::shared_ptr<BuiltMenu>& built);
   /// True if a folder of a built menu holds something else than when it was built.

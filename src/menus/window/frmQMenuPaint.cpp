@@ -113,8 +113,7 @@ void frmQMenu::WipeCaptions() {
 
 void frmQMenu::KeepPage() {
   if (pages_.Slides() > 0) {
-    FillBox(0, LblButton[0].Top(), program_.Windows.Screen().Width, Height(),
-            forms::color::ButtonFace);
+    FillBox(0, LblButton[0].Top(), Screen().Width, Height(), forms::color::ButtonFace);
   }
   clsMenu& page = pages_.Current();
   page.MenuPicture = Image();
@@ -123,8 +122,8 @@ void frmQMenu::KeepPage() {
 }
 
 void frmQMenu::DrawItemIcon(int index) {
-  const PixelPoint at = forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH),
-                                        program_.Windows.Screen());
+  const PixelPoint at =
+      forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH), Screen());
   const std::string icon = items_[index].Icon;
   // No canvas is lent while the shell is asked.
   icons_.LoadSmallIcon(icon);
@@ -133,7 +132,7 @@ void frmQMenu::DrawItemIcon(int index) {
 }
 
 void frmQMenu::DrawRules() {
-  const float right = program_.Windows.Screen().Width;
+  const float right = Screen().Width;
   for (std::size_t i = 1; i < pageBoxes_.size(); ++i) {
     const ItemBox& above = pageBoxes_[i - 1];
     if (!HasRuleBetween(above, pageBoxes_[i], ItemGap)) continue;

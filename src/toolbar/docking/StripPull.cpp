@@ -13,7 +13,6 @@ namespace corvelle {
 namespace {
 
 constexpr int kLeftButtonKey = 1;
-constexpr int kRightButtonKey = 2;
 
 }  // namespace
 
@@ -32,7 +31,6 @@ void StripPull::MouseDown(forms::MouseButton button, float x, float y) {
   if (!window.IsLoaded()) return;
   FrameMoved = false;
   FrameHeld = true;
-  strip_.WatchHiding(true);
   const TwipSize box = strip_.ButtonBox();
   DownX = x;
   DownY = y;
@@ -79,9 +77,8 @@ void StripPull::Follow(forms::MouseButton down, float x, float y) {
 void StripPull::FollowPull() {
   CapturePort* const capture = program_.Ports.Capture;
   if (program_.Ports.Docking == nullptr || capture == nullptr) return;
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  const Edge wanted = ChooseEdge(program_.Services.Pointer.PointerPosition(),
-                                 forms::ToPixels(0, 0, screen.Width, screen.Height, screen).Size());
+  const Edge wanted =
+      ChooseEdge(program_.Services.Pointer.PointerPosition(), program_.Windows.ScreenSize());
   if (wanted == program_.Strip.ToolbarEdge) {
     ClearOutline();
     strip_.DrawDragLook();
@@ -163,16 +160,10 @@ void StripPull::EndLostPull() {
   if (slid) strip_.EndSlide();
 }
 
-void StripPull::WatchPull() {
-  const Input& input = program_.Services.Pointer;
-  const bool anyDown = input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey);
-  if (!FrameHeld) {
-    watch_.Reset();
-  } else if (watch_.Look(anyDown, program_.Windows.Now())) {
-    watch_.Reset();
-    EndLostPull();
-    if (strip_.ContentsVisible()) strip_.DrawBorders();
-  }
+void StripPull::LosePress() {
+  if (!FrameHeld) return;
+  EndLostPull();
+  if (strip_.ContentsVisible()) strip_.DrawBorders();
 }
 
 void StripPull::LetFrameGo() {

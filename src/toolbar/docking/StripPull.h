@@ -5,7 +5,6 @@
 #include "base/Edge.h"
 #include "base/Geometry.h"
 #include "forms/Types.h"
-#include "toolbar/layout/CarryRules.h"
 #include "toolbar/layout/StripWindow.h"
 
 namespace corvelle {
@@ -28,8 +27,6 @@ class PulledStrip : public virtual StripWindow {
   virtual void EndSlide() = 0;
   /// The timer that follows the pointer over the strip.
   virtual void SetPointerWatch(bool enabled) = 0;
-  /// The timer that also looks for a lost release.
-  virtual void WatchHiding(bool enabled) = 0;
 };
 
 /// The hand on the strip's frame and grip: it slides a strip along the top or pulls it to an edge.
@@ -52,8 +49,8 @@ class StripPull {
   void LetFrameGo();
   /// Ends a pull for which no release will come: nothing moves any more, and the outline goes.
   void AbandonPull();
-  /// Notices when the release of the frame went to another program.
-  void WatchPull();
+  /// A message, a menu or another window has taken the mouse from the hand on the frame.
+  void LosePress();
   /// Forgets a move of before, as the pointer comes to something else.
   void ForgetMove() noexcept { FrameMoved = false; }
   /// Ends a move of the strip: it takes the place that the screen and the options let it have.
@@ -73,7 +70,7 @@ class StripPull {
   bool FrameHeld = false;
 
  private:
-  /// The release went to another program. A strip that was slid stays where the screen and the
+  /// No release will come. A strip that was slid stays where the screen and the
   /// options let it.
   void EndLostPull();
   /// Shows where the strip would go, and what a pull along its own edge looks like.
@@ -85,7 +82,6 @@ class StripPull {
 
   Program& program_;
   PulledStrip& strip_;
-  AbandonWatch watch_;
 };
 
 }  // namespace corvelle

@@ -55,6 +55,7 @@ class SingleRow final : public SingleButtonsPort {
   void picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift, float x,
                                float y);
   void picSingleButton_DblClick();
+  void picSingleButton_CaptureLost();
   /// The pointer has come to the date.
   void EnterDate() { ShowHover(0); }
 
@@ -127,6 +128,7 @@ class SingleRow final : public SingleButtonsPort {
   void EndCarry(const Press& press, forms::MouseButton released, forms::ShiftState shift);
   void DropCarried(forms::MouseButton released, forms::ShiftState shift);
   void StopCarry();
+  void LoseCarry();
   void CloseMenus();
   [[nodiscard]] bool OffersPopup(const Press& press) const;
   void ShowSinglePopup(int index, bool ctrl);

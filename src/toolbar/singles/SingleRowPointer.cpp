@@ -195,8 +195,24 @@ void SingleRow::picSingleButton_DblClick() {
     Date.lblDate_DblClick();
     return;
   }
-  if (!IsButton(GetCurIndex())) return;
+  // The place of the press, as with every press.
+  const int index = SingleAt(SingleButtons, controls_.Box.PressPlace());
+  program_.Menu.CurSingle = index;
+  if (!IsButton(index)) return;
   if (!pull_.FrameMoved && !program_.OptionFlags.Is(Option::SingleClick)) RunSingleButton();
+}
+
+// No release will come: nothing was pressed, and what is carried is put down nowhere.
+void SingleRow::picSingleButton_CaptureLost() {
+  if (carrying_) return LoseCarry();
+  const Press press = std::exchange(press_, {});
+  if (press.On == PressOn::Frame) pull_.LosePress();
+}
+
+void SingleRow::LoseCarry() {
+  press_ = {};
+  StopCarry();
+  CloseMenus();
 }
 
 void SingleRow::CloseMenus() {
@@ -252,9 +268,7 @@ void SingleRow::BeginCarry(int index) {
 void SingleRow::FollowCarry(forms::MouseButton down, forms::ShiftState shift) {
   if (down == forms::MouseButton::None || !program_.Entry.ItemDragging) {
     // The release went to another program.
-    press_ = {};
-    StopCarry();
-    CloseMenus();
+    LoseCarry();
     return;
   }
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();

@@ -121,6 +121,8 @@ class MenuTracking {
   [[nodiscard]] WindowId WindowUnder(PixelPoint pointer) const;
   /// True if the user has gone to another program's window.
   [[nodiscard]] bool HasLeft(WindowId under) const;
+  /// The left button went down at a point of the screen.
+  void PressAt(PixelPoint at);
   void StartHovering();
   /// A release over the menu is a choice there. False when the pointer is not over the menu.
   bool ReleaseInMenu(forms::MouseButton button, forms::ShiftState shift, PixelPoint at);

@@ -54,7 +54,7 @@ TwipPoint MenuTracking::InMenu(PixelPoint pointer) const {
 
 PixelPoint MenuTracking::InBox(float x, float y) const {
   return forms::ToPixels(window_.Left() + picToolbar_.Left() + x,
-                         window_.Top() + picToolbar_.Top() + y, program_.Windows.Screen());
+                         window_.Top() + picToolbar_.Top() + y, window_.Screen());
 }
 
 void MenuTracking::SetButtonBorders() {
@@ -63,17 +63,20 @@ void MenuTracking::SetButtonBorders() {
 }
 
 void MenuTracking::picToolbar_MouseDown(forms::MouseButton button, float x, float y) {
-  if (button != forms::MouseButton::Left) return;
-  // The place of the press: by now the pointer may be elsewhere, or not be known to be here yet.
-  pressedPlace_ = InBox(x, y);
-  FindCurButton(pressedPlace_);
+  if (button == forms::MouseButton::Left) PressAt(InBox(x, y));
+}
+
+// The place of the press: by now the pointer may be elsewhere, or not be known to be here yet.
+void MenuTracking::PressAt(PixelPoint at) {
+  pressedPlace_ = at;
+  FindCurButton(at);
   PressCurButton();
 }
 
 // The second press of a quick pair closes what the first opened, like any other second press.
 void MenuTracking::picToolbar_DblClick() {
-  GetCurButton();
-  PressCurButton();
+  const TwipPoint at = picToolbar_.PressPlace();
+  PressAt(InBox(at.X, at.Y));
 }
 
 void MenuTracking::PressCurButton() {

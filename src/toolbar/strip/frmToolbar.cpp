@@ -88,7 +88,10 @@ std::unique_ptr<forms::Label> frmToolbar::MakeSeparator(int index) {
   label->MouseUp = [this, index](MouseButton button, ShiftState, float x, float y) {
     lblSep_MouseUp(index, button, x, y);
   };
-  if (index == 0) label->DblClick = [this] { Form_DblClick(); };
+  if (index == 0) {
+    label->DblClick = [this] { Form_DblClick(); };
+    label->CaptureLost = [this] { Pull.LosePress(); };
+  }
   return label;
 }
 
@@ -103,6 +106,7 @@ void frmToolbar::WireEvents() {
   };
   MouseUp = [this](MouseButton button, ShiftState, float, float) { Pull.MouseUp(button); };
   DblClick = [this] { Form_DblClick(); };
+  CaptureLost = [this] { Pull.LosePress(); };
   picToolbar.MouseDown = [this](MouseButton button, ShiftState, float x, float y) {
     Menus.picToolbar_MouseDown(button, x, y);
   };
@@ -131,6 +135,7 @@ void frmToolbar::WireRow() {
   picSingleButton.MouseMove = to(&SingleRow::picSingleButton_MouseMove);
   picSingleButton.MouseUp = to(&SingleRow::picSingleButton_MouseUp);
   picSingleButton.DblClick = [this] { Singles.picSingleButton_DblClick(); };
+  picSingleButton.CaptureLost = [this] { Singles.picSingleButton_CaptureLost(); };
 }
 
 void frmToolbar::LoadWindow() { static_cast<void>(Load()); }
@@ -148,7 +153,7 @@ void frmToolbar::Form_Load() {
   SetBackColor(forms::color::ButtonFace);
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->LoadWindow();
   if (!program_.Strip.NotOnTop) SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
-  SetLeft(program_.Windows.Screen().Width);
+  SetLeft(Screen().Width);
   picToolbar.SetAutoRedraw(true);
   picSingleButton.SetAutoRedraw(true);
   ReadPlacement();
@@ -275,7 +280,7 @@ void frmToolbar::StopTimers() {
 }
 
 void frmToolbar::ReadTwips() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   TwipsX = screen.TwipsPerPixelX;
   TwipsY = screen.TwipsPerPixelY;
 }
@@ -300,7 +305,7 @@ void frmToolbar::OfferDefaultEntries() {
     entries->IncludeCommonFiles();
     program_.OptionFlags.Set(Option::DefaultEntriesOffered, true);
     program_.SaveOptionFlags();
-    SetLeft(program_.Windows.Screen().Width);
+    SetLeft(Screen().Width);
     return;
   }
   if (HoldsAny(files, program_.Paths.MenusPath, "*.MNU") ||

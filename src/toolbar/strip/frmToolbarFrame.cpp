@@ -1,7 +1,6 @@
 // The strip's frame and its grip, by which the strip is moved.
 
 #include "core/Program.h"
-#include "platform/Input.h"
 #include "toolbar/strip/frmToolbar.h"
 
 namespace corvelle {
@@ -44,9 +43,8 @@ void frmToolbar::lblSep_MouseUp(int index, forms::MouseButton button, float x, f
 
 // The second press of a quick pair takes hold of the strip like any other press.
 void frmToolbar::Form_DblClick() {
-  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
-  Pull.MouseDown(forms::MouseButton::Left, static_cast<float>(pointer.x) * TwipsX - Left(),
-                 static_cast<float>(pointer.y) * TwipsY - Top());
+  const TwipPoint at = PressPlace();
+  Pull.MouseDown(forms::MouseButton::Left, at.X, at.Y);
 }
 
 void frmToolbar::FrameMouseMove(forms::MouseButton down, float x, float y) {

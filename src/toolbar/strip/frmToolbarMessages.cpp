@@ -144,17 +144,17 @@ void frmToolbar::FollowDisplay() {
   // Not every shell tells its bars of another screen size.
   if (program_.Strip.AppBarDocked) {
     FollowBars();
-  } else if (Right() > program_.Windows.Screen().Width) {
+  } else if (Right() > Screen().Width) {
     SetToolbarPosition();
   }
 }
 
 void frmToolbar::CacheDisplayMetrics() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const PixelSize screen = program_.Windows.ScreenSize();
   BaseColor = program_.Windows.SystemColor(kButtonFaceIndex);
   BaseBits = program_.Windows.ScreenBits();
-  BaseWidth = RoundToInt(screen.Width / screen.TwipsPerPixelX);
-  BaseHeight = RoundToInt(screen.Height / screen.TwipsPerPixelY);
+  BaseWidth = screen.width;
+  BaseHeight = screen.height;
 }
 
 void frmToolbar::FullScreenNotify(std::intptr_t entering) {
@@ -266,7 +266,6 @@ void frmToolbar::TakeRequestedFocus() {
 
 void frmToolbar::Timer1_Timer() {
   TakeRequestedFocus();
-  Pull.WatchPull();
   if (program_.Guards.IsSettling() || program_.Guards.IsPlacing() || program_.Entry.ItemDragging ||
       program_.Drag.ButtonDragging) {
     return;
@@ -279,8 +278,7 @@ void frmToolbar::Timer1_Timer() {
   if (program_.Strip.ToolbarMinimized) {
     StopTimers();
   } else if (!program_.Strip.AutoHide) {
-    // Who holds the frame may let it go elsewhere.
-    Timer1.SetEnabled(Pull.FrameHeld);
+    Timer1.SetEnabled(false);
   } else {
     Hiding.HideAndReveal();
   }
