@@ -173,6 +173,20 @@ std::optional<std::vector<ShellFolderEntry>> Win32ShellFolders::List(int folder)
   return entries;
 }
 
+std::optional<std::vector<std::string>> Win32ShellFolders::Names(int folder) {
+  const UniqueItem location = LocationOf(folder);
+  const ComPointer<IShellFolder> open = OpenAt(location.Get());
+  if (!open) return std::nullopt;
+  std::vector<std::string> names;
+  const bool listed = VisitChildren(*open.Get(), [&](const ITEMIDLIST* child) {
+    auto name = NameOf(*open.Get(), child);
+    if (name && !name->empty()) names.push_back(std::move(*name));
+    return true;
+  });
+  if (!listed) return std::nullopt;
+  return names;
+}
+
 std::optional<ShellFolderEntry> Win32ShellFolders::Folder(int folder) {
   const UniqueItem location = LocationOf(folder);
   if (!location) return std::nullopt;

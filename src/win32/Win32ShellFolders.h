@@ -17,6 +17,7 @@ class Win32ShellFolders final : public ShellFolders {
       : thread_(thread) {}
 
   std::optional<std::vector<ShellFolderEntry>> List(int folder) override;
+  std::optional<std::vector<std::string>> Names(int folder) override;
   std::optional<ShellFolderEntry> Folder(int folder) override;
   std::optional<IconPixels> PixelsOf(int folder, std::string_view name, IconList list) override;
   std::optional<std::string> PathOf(int folder) override;

@@ -272,6 +272,15 @@ TEST(ShellMenu, WithoutAChoiceTheMenuAndItsSelectionStay) {
   EXPECT_EQ(desk.TheProgram.Entry.CurCommand, "C:\\Tools\\tool.exe");
 }
 
+TEST(ShellMenu, OfAnEntryAsksForNoIconOfItsFolder) {
+  RightClickDesk desk;
+  const int before = desk.World.Folders.Listings();
+  desk.World.Folders.Dismiss();
+  desk.RightClick(2);
+  EXPECT_EQ(desk.World.Folders.Menus().size(), 1U);
+  EXPECT_EQ(desk.World.Folders.Listings(), before);
+}
+
 TEST(ShellMenu, OfAnEntryInAFolderOfTheShellIsThatOfTheEntry) {
   RightClickDesk desk;
   desk.World.Folders.Choose("Open");

@@ -125,6 +125,11 @@ int SimDesktop::PaintCount(WindowId window) const {
   return at != nullptr ? at->PaintCount : 0;
 }
 
+PixelRect SimDesktop::LastPainted(WindowId window) const {
+  const SimWindow* at = Look(window);
+  return at != nullptr ? at->LastPainted : PixelRect{};
+}
+
 bool SimDesktop::IsTopmost(WindowId window) const {
   const SimWindow* at = Look(window);
   return at != nullptr && at->Topmost;

@@ -210,6 +210,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   /// On the screen.
   PixelRect BoundsOf(WindowId window) const;
   int PaintCount(WindowId window) const;
+  /// What of it was painted last. Pixels of its inside.
+  PixelRect LastPainted(WindowId window) const;
   /// All that is painted by now, of all windows.
   int PaintCount() const noexcept { return paints_; }
   WindowId FocusWindow() const noexcept { return focus_; }

@@ -34,6 +34,7 @@ bool SimDesktop::PaintOne(WindowId window) {
   const PixelRect dirty = at->Dirty;
   at->Dirty = {};
   ++at->PaintCount;
+  at->LastPainted = dirty;
   ++paints_;
   // Held, since the window may be destroyed by its own painting.
   const std::shared_ptr<SimCanvas> content = at->Content;

@@ -52,6 +52,14 @@ std::optional<std::vector<ShellFolderEntry>> SimShellFolders::List(int folder) {
   return found->second.Entries;
 }
 
+std::optional<std::vector<std::string>> SimShellFolders::Names(int folder) {
+  const auto found = folders_.find(folder);
+  if (found == folders_.end() || found->second.Broken) return std::nullopt;
+  std::vector<std::string> names;
+  for (const ShellFolderEntry& entry : found->second.Entries) names.push_back(entry.Name);
+  return names;
+}
+
 std::optional<ShellFolderEntry> SimShellFolders::Folder(int folder) {
   TellCall("Folder", "shell");
   const auto found = folders_.find(folder);

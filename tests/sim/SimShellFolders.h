@@ -66,10 +66,11 @@ class SimShellFolders final : public ShellFolders, public Priced {
 
   const std::vector<OpenedEntry>& Opened() const noexcept { return opened_; }
   const std::vector<ShownMenu>& Menus() const noexcept { return menus_; }
-  /// How often a folder was listed.
+  /// How often a folder was listed with its icons.
   int Listings() const noexcept { return listings_; }
 
   std::optional<std::vector<ShellFolderEntry>> List(int folder) override;
+  std::optional<std::vector<std::string>> Names(int folder) override;
   std::optional<ShellFolderEntry> Folder(int folder) override;
   std::optional<IconPixels> PixelsOf(int folder, std::string_view name, IconList list) override;
   std::optional<std::string> PathOf(int folder) override;

@@ -95,8 +95,7 @@ std::optional<std::string> SimShellIcons::DisplayName(std::string_view path) {
 }
 
 std::optional<IconPixels> SimShellIcons::PixelsOfFile(std::string_view path, IconList list) {
-  TellCall("PixelsOfFile", path);
-  const auto info = Look(path);
+  const auto info = FileInfo(path, list);
   if (!info) return std::nullopt;
   return Square(ColourOf(info->SystemIndex), SizeOf(list));
 }

@@ -49,6 +49,7 @@ struct SimWindow {
 
   PixelRect Dirty;     // what it owes to paint
   int PaintCount = 0;  // times that it was asked to paint
+  PixelRect LastPainted;
   std::shared_ptr<SimCanvas> Content;
 
   /// How another program's window answers messages; none: with 0.

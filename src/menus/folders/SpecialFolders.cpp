@@ -68,13 +68,13 @@ bool DoSpecialFolder(ShellFolders& folders, int folder, std::string_view title, 
                      std::string_view argument, PixelPoint at, WindowId owner) {
   const std::string wanted = Trim(title);
   const bool opens = button == MouseButton::Left;
-  // Most titles are whole names, which need no list with the icons of all entries.
+  // Most titles are whole names, which need no list.
   if (opens && folders.OpenEntry(folder, wanted, argument, owner)) return true;
-  const auto entries = folders.List(folder);
-  if (!entries) return false;
-  const int index = FindEntryByTitle(*entries, wanted);
+  const auto names = folders.Names(folder);
+  if (!names) return false;
+  const int index = FindEntryByTitle(*names, wanted);
   if (index < 0) return false;
-  const std::string& name = (*entries)[static_cast<std::size_t>(index)].Name;
+  const std::string& name = (*names)[static_cast<std::size_t>(index)];
   // The shell has refused that one.
   if (opens && name == wanted) return false;
   if (opens) return folders.OpenEntry(folder, name, argument, owner);

@@ -1,9 +1,6 @@
 #include "menus/icons/IconPrefetch.h"
 
-#include <optional>
-
 #include "core/Program.h"
-#include "forms/Scopes.h"
 #include "menus/icons/IconWalk.h"
 #include "menus/icons/MenuIcons.h"
 #include "platform/FileSystem.h"
@@ -12,12 +9,8 @@ namespace corvelle {
 
 void IconPrefetch::InitIcons() {
   FileSystem& files = program_.Services.Files;
-  if (program_.Guards.MenuBuilding || program_.Guards.IconsLoading) return;
-  // No menu can be asked for while the strip is away.
-  std::optional<forms::FlagScope> loading;
-  if (!program_.Strip.ToolbarMinimized) loading.emplace(program_.Guards.IconsLoading);
-  const forms::HourglassScope hourglass(program_.Windows);
-  icons_.LoadSmallIcon(program_.Paths.ShippedFile("corvelle.exe"));
+  if (program_.Guards.MenuBuilding) return;
+  icons_.Fetch(program_.Paths.ShippedFile("corvelle.exe"));
   // A folder that cannot be listed has no icons to fetch.
   const auto menus = files.List(program_.Paths.MenusPath, "*.mnu");
   if (menus) {
@@ -25,16 +18,15 @@ void IconPrefetch::InitIcons() {
   }
   const auto links = files.List(program_.Paths.ShellLinkPath, "*.lnk");
   if (links) {
-    for (const FileEntry& entry : *links)
-      icons_.LoadSmallIcon(program_.Paths.ShellLinkPath + entry.Name);
+    for (const FileEntry& entry : *links) icons_.Fetch(program_.Paths.ShellLinkPath + entry.Name);
   }
 }
 
 void IconPrefetch::LoadIconsOf(const std::string& menuFile) {
   const IconTexts texts = IconTextsOf(program_, menuFile);
-  icons_.LoadSmallIcon(texts.Button);
+  icons_.Fetch(texts.Button);
   icons_.FetchButtonIcon(texts.Button);
-  for (const std::string& text : texts.Items) icons_.LoadSmallIcon(text);
+  for (const std::string& text : texts.Items) icons_.Fetch(text);
 }
 
 }  // namespace corvelle

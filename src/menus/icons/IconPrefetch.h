@@ -12,8 +12,8 @@ class IconPrefetch {
  public:
   IconPrefetch(Program& program, MenuIcons& icons) : program_(program), icons_(icons) {}
 
-  /// Those of all menu files, of the files of their folder items, and of the links. No menu opens
-  /// meanwhile; does nothing while one is being built.
+  /// Those of all menu files, of the files of their folder items, and of the links, each when
+  /// nothing more urgent is asked. Does nothing while a menu is being built.
   void InitIcons();
 
  private:

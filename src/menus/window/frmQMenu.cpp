@@ -184,14 +184,15 @@ void frmQMenu::TakeScale() {
 
 void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   program_.SetHint("");
-  // A build or an icon walk lets nothing else into the window.
-  if (program_.Guards.IconsLoading || program_.Guards.MenuBuilding) return;
+  // A build lets nothing else into the window.
+  if (program_.Guards.MenuBuilding) return;
   if (!Load()) return;
   TakeScale();
   const std::string key(menuKey);
   const std::string owner = OwnerOf(key);
   if (owner.empty() || owner == "0" || menuFile.empty()) return;
   ResetQMenu();
+  HoldUpForIcons();
   ListenToFolders();
   PagePicture.reset();
   if (!EqualNoCase(key, MenuKey)) pages_.ForgetSaved();
@@ -283,10 +284,11 @@ void frmQMenu::HideMenu() {
   if (program_.Guards.MenuBuilding) return;
   held_.Forget();
   ForgetUpdate();
+  icons_.PutAside();
 }
 
 void frmQMenu::ResetQMenu() {
-  if (program_.Guards.IconsLoading || program_.Guards.MenuBuilding || !IsLoaded()) return;
+  if (program_.Guards.MenuBuilding || !IsLoaded()) return;
   MenuReady = false;
   Hide();
   SetAutoRedraw(false);
@@ -294,10 +296,12 @@ void frmQMenu::ResetQMenu() {
   for (int i = 1; i <= LoadedLabels(); ++i) Lbl[i].SetVisible(false);
   Timer1.SetEnabled(false);
   ForgetUpdate();
+  icons_.PutAside();
   menu_ = std::make_shared<BuiltMenu>();
   items_.Clear();
   pages_.Clear();
   pageBoxes_.clear();
+  pageIcons_.clear();
   PagePicture.reset();
   ShadowCount = 0;
   program_.Menu.SelectedItem = 0;
