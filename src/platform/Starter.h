@@ -11,6 +11,7 @@ class FileSystem;
 class Registry;
 class ShellExec;
 class ShellFolders;
+class ShellIcons;
 class ShellLinks;
 
 /// Services of the thread that starts something; nobody else uses them.
@@ -22,6 +23,7 @@ struct StartServices {
   FileAssociations& Associations;
   Registry& Keys;
   ShellFolders& Folders;
+  ShellIcons& Icons;
   const CodePage& Ansi;
 };
 

@@ -16,6 +16,7 @@
 #include "win32/Win32Registry.h"
 #include "win32/Win32ShellExec.h"
 #include "win32/Win32ShellFolders.h"
+#include "win32/Win32ShellIcons.h"
 #include "win32/Win32ShellLinks.h"
 #include "win32/Win32WindowSystem.h"
 
@@ -37,8 +38,9 @@ void RunApart(const Starter::Work& work) {
     Win32FileAssociations associations;
     Win32Registry keys;
     Win32ShellFolders folders(ShellExecThread::EndsSoon);
+    Win32ShellIcons icons;
     const Win32CodePage ansi;
-    work({shell, files, links, dde, associations, keys, folders, ansi});
+    work({shell, files, links, dde, associations, keys, folders, icons, ansi});
   }
   if (ready) CoUninitialize();
 }

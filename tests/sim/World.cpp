@@ -40,7 +40,7 @@ Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files)
   SlowAnswers.Use({files != nullptr ? *files : Files, Links, System,
                    icons != nullptr ? *icons : Icons, Folders});
   Starts.Use({shell != nullptr ? *shell : Shell, files != nullptr ? *files : Files, Links, Dde,
-              Associations, Keys, Folders, Ansi});
+              Associations, Keys, Folders, icons != nullptr ? *icons : Icons, Ansi});
   return {.Files = files != nullptr ? *files : Files,
           .Ansi = Ansi,
           .Keys = Keys,

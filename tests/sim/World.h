@@ -63,7 +63,7 @@ class World {
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
   SimLookups SlowAnswers{Desktop, {Files, Links, System, Icons, Folders}};
-  SimStarter Starts{{Shell, Files, Links, Dde, Associations, Keys, Folders, Ansi}};
+  SimStarter Starts{{Shell, Files, Links, Dde, Associations, Keys, Folders, Icons, Ansi}};
   SimCrashReports Crashes;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it
