@@ -11,6 +11,10 @@
 
 namespace corvelle::fuzz {
 
+/// What stands at the end of a file that the monkey has broken. An edit of that file may make a
+/// whole record of it, which is no entry of the user.
+inline constexpr std::string_view kDamage = "broken by a monkey";
+
 /// The entries that stand in the menu files and single buttons of a folder: the three texts of
 /// each, as often as it stands there.
 class EntryLedger {

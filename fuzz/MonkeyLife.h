@@ -47,7 +47,6 @@ class MonkeyLife {
   static constexpr std::string_view kMenus = "C:\\Corvelle\\Menus\\";
   static constexpr int kMenuFiles = 6;  // that the monkey writes
   static constexpr int kSingles = 7;    // that stand in the row at most when a life begins
-  static constexpr std::string_view kDamage = "broken by a monkey";
 
   // ---- the world before the start, and the choice of events (MonkeyLife.cpp) ----
 
