@@ -54,7 +54,7 @@ TEST_F(Fetched, TheIconsOfAFolderItemsFilesComeWithThoseOfTheRecords) {
   Fetch();
   EXPECT_EQ(Small(), (Strings{"C:\\Corvelle\\corvelle.exe", "Button",
                               "C:\\Corvelle\\Icons\\W95MBX02.ICO", "C:\\Tools\\tool.exe",
-                              "C:\\Docs\\Alpha.txt", "C:\\Docs\\beta.txt", "C:\\Docs\\gamma.doc"}));
+                              "C:\\Docs\\gamma.doc", "C:\\Docs\\Alpha.txt", "C:\\Docs\\beta.txt"}));
   EXPECT_EQ(Listed("C:\\Docs\\"), 1);
   EXPECT_EQ(desk_.World.Files.Count("Write"), 0);
 }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <vector>
+
+#include "menus/folders/FolderQuestions.h"
 
 namespace corvelle {
 
@@ -18,9 +22,15 @@ class IconPrefetch {
 
  private:
   void LoadIconsOf(const std::string& menuFile);
+  /// Those of the files of folder items whose listing has come.
+  void FetchListed();
+  /// False while it is not known what the folder item holds.
+  [[nodiscard]] bool FetchFilesOf(const std::string& folderItem);
 
   Program& program_;
   MenuIcons& icons_;
+  std::vector<std::string> folders_;  // folder items that are not listed yet
+  std::unique_ptr<FolderQuestions> questions_;
 };
 
 }  // namespace corvelle

@@ -19,14 +19,6 @@ std::string IconOf(const MenuRecord& record) {
   return IsSkippedIcon(record.FIcon) ? std::string() : StripAtNull(record.FIcon);
 }
 
-void AddFiles(Program& program, std::string_view folderItem, std::vector<std::string>& texts) {
-  const FoundFiles found = ListFolderItem(program.Services.Files, ParseFolderItem(folderItem));
-  // No menu shows more.
-  const std::size_t most = std::min(found.Files.size(), static_cast<std::size_t>(kMaxRecords));
-  texts.reserve(texts.size() + most);
-  for (std::size_t i = 0; i < most; ++i) texts.push_back(found.PathOf(found.Files[i]));
-}
-
 }  // namespace
 
 bool IsSkippedIcon(std::string_view icon) {
@@ -47,7 +39,7 @@ IconTexts IconTextsOf(Program& program, std::string_view menuFile) {
     }
     texts.Items.push_back(IconOf(record));
     if (IsFolderItem(record.FName) && !IsClosedFolder(record.FName)) {
-      AddFiles(program, record.FName, texts.Items);
+      texts.Folders.push_back(record.FName);
     }
   }
   return texts;
