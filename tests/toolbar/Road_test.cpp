@@ -571,6 +571,17 @@ TEST_P(NewsWhileIconsAreFetched, LeavesNoMenuWithoutItsIconsOrInOldColours) {
   }
 }
 
+// A hand that waits for a slow menu has not looked around in it.
+TEST(OneGesture, TheTimeThatTheMenuTookToComeUpDoesNotCount) {
+  IconDesk desk;
+  desk.World.Icons.WhileAsked([&desk] { desk.World.Desktop.Jump(2000); });
+  desk.Press(2);
+  ASSERT_EQ(desk.RealMenuUp(), 2);
+  desk.PointAt(desk.Item(1));
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i1.exe"});
+}
+
 INSTANTIATE_TEST_SUITE_P(Screen, NewsWhileIconsAreFetched, testing::ValuesIn(kScreenNews),
                          [](const auto& row) {
                            std::string name = row.param.Name;
