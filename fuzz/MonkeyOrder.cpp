@@ -30,7 +30,6 @@ std::string MonkeyLife::WrongState() const {
   if (program.Guards.MenuBuilding) return "a menu is still being built";
   if (program.Guards.AppBarBusy) return "the strip is still being placed";
   if (program.Guards.PosChangeRunning) return "the edge is still being changed";
-  if (program.Guards.IconsLoading) return "icons are still being loaded";
   if (program.Guards.HideBusy) return "the strip is still being hidden";
   if (program.Guards.ChangingMode) return "the mode is still being changed";
   if (program.Guards.ItemActionBusy) return "an entry is still being edited";

@@ -6,6 +6,8 @@
 - A file below src/ includes files of its own folder and of the floors below it, written from src/, and
   never one above; and the files of src/ never include each other in a circle.
 - windows.h and its like are included below src/win32/ and in the tests that run on Windows only.
+- Scale belongs to the window (forms::Window::Dpi): nothing below src/ but the window system asks for the scale of a
+  monitor, of the system or of nothing in particular.
 - Every *_test.cpp lies in a folder whose test program takes it.
 
 Says each breach on a line of its own and ends with 1 when there is one.
@@ -56,6 +58,15 @@ WINDOWS_HEADERS = {"windows.h", "windowsx.h", "winuser.h", "wingdi.h", "winbase.
                    "commctrl.h", "commoncontrols.h", "shellapi.h", "shlobj.h", "shlwapi.h", "shobjidl.h",
                    "shlguid.h", "objbase.h", "ole2.h", "oleidl.h", "ddeml.h", "dde.h", "commdlg.h",
                    "tlhelp32.h", "dbghelp.h", "versionhelpers.h"}
+# What tells a scale that belongs to no window, and the places that may ask for it.
+SCALE = re.compile(r"\b(LOGPIXELS[XY]|GetDpiFor\w+|GetScaleFactorForMonitor|DpiAt|kPlainDpi|1440"
+                   r"|GetSystemMetrics\(\s*SM_C[XY](?!SCREEN|VIRTUALSCREEN)\w+)")
+SCALE_PLACES = ("src/forms/",
+                "src/win32/MonitorScale.cpp",
+                "src/win32/Win32WindowSystem.",
+                # The lists of icons that the system keeps have the system's scale.
+                "src/win32/Win32ShellIcons.cpp")
+COMMENT = re.compile(r"//.*")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 SOURCES = {".h", ".cpp", ".inl"}
 
@@ -143,6 +154,19 @@ def check_windows_headers(root):
     return breaches
 
 
+def check_scale(root):
+    breaches = []
+    for path in files_below(root / "src"):
+        name = path.relative_to(root).as_posix()
+        if name.startswith(SCALE_PLACES):
+            continue
+        for number, line in enumerate(path.read_text(encoding="utf-8", errors="replace").split("\n"), 1):
+            found = SCALE.search(COMMENT.sub("", line))
+            if found:
+                breaches.append(f"{name}:{number}: {found.group(1)} is the scale of no window; ask Window::Dpi")
+    return breaches
+
+
 def check_tests_are_built(root):
     """A test folder takes every file in it, so a test is lost only in a folder without a program."""
     lists = [root / "tests" / "CMakeLists.txt", root / "tests" / "windows.cmake"]
@@ -168,6 +192,7 @@ def check(root):
         graph[path.relative_to(source).as_posix()] = edges
     breaches += ["circle of includes: " + " -> ".join(circle) for circle in find_circles(graph)]
     breaches += check_windows_headers(root)
+    breaches += check_scale(root)
     breaches += check_tests_are_built(root)
     return breaches
 

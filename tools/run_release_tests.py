@@ -22,8 +22,9 @@ import zipfile
 from make_release import MARK, WIDTHS, files_below, version
 from wine_session import ROOT, Session, SessionError, end_quietly
 
-# Of the program itself. A fifth of the 32-bit one are tables for exceptions.
-MOST_BYTES = {"x64": 1_600_000, "x86": 1_700_000}
+# A fifth of the 32-bit programs are tables for exceptions.
+MOST_BYTES = {"corvelle.exe": {"x64": 1_600_000, "x86": 1_700_000},
+              "corvelle-shell.exe": {"x64": 600_000, "x86": 700_000}}
 TOOLS = {"x64": "x86_64-w64-mingw32-", "x86": "i686-w64-mingw32-"}
 # Libraries that every Windows keeps a list of, so that nobody can put another in their place.
 KNOWN_LIBRARIES = {"advapi32.dll", "comdlg32.dll", "gdi32.dll", "imm32.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll",
@@ -37,6 +38,8 @@ HEADERS = ("windows.h", "commdlg.h", "ddeml.h", "imm.h", "ole2.h", "oleauto.h", 
            "malloc.h", "mbstring.h")
 # Of the C library, which has them all in every Windows: what start-up code and compiler use without a header.
 PRIVATE_C = re.compile(r"^(_|__)\w+$")
+# What the check of the stack says when it fails.
+GUARD = b"stack smashing detected"
 INSTALLED_FLAGS = "11000000100000000010000101000001"
 
 
@@ -91,24 +94,34 @@ def unknown_functions(imports, words):
 
 
 def check_headers(checks, build, width):
-    program = build / "corvelle.exe"
+    words = declared(width)
+    for name, most in MOST_BYTES.items():
+        check_program(checks, build, width, name, most[width], words)
+    checks.check(f"{width}: the functions of the program, and not only of its libraries, guard the stack",
+                 guards_stack(build, width))
+
+
+def check_program(checks, build, width, name, most, words):
+    """The headers, the imports and the size of one program."""
+    what = f"{width}: {name}"
+    program = build / name
     text = subprocess.run([TOOLS[width] + "objdump", "-p", program], text=True, check=True,
                           stdout=subprocess.PIPE).stdout
     flags, imports = parse_headers(text)
-    checks.check(f"{width}: protected against common attacks", FLAGS[width] <= flags, FLAGS[width] - flags)
+    checks.check(f"{what}: protected against common attacks", FLAGS[width] <= flags, FLAGS[width] - flags)
     if width == "x86":
-        checks.check("x86: may use all of its addresses", "large address aware" in text)
-    checks.check(f"{width}: no debug information, no time of the build", "Thu Jan  1 00:00:00 1970" in text)
+        checks.check(f"{what}: may use all of its addresses", "large address aware" in text)
+    checks.check(f"{what}: no debug information, no time of the build", "Thu Jan  1 00:00:00 1970" in text)
     others = set(imports) - KNOWN_LIBRARIES
-    checks.check(f"{width}: only known libraries of the system are loaded at once", imports and not others, others)
-    unknown = unknown_functions(imports, declared(width))
-    checks.check(f"{width}: Windows 7 has every function",
+    checks.check(f"{what}: only known libraries of the system are loaded at once", imports and not others, others)
+    unknown = unknown_functions(imports, words)
+    checks.check(f"{what}: Windows 7 has every function",
                  not unknown and sum(map(len, imports.values())) > 100, unknown)
-    checks.check(f"{width}: the stack is protected", guards_stack(build, width))
-    told = version_told(program.read_bytes())
-    checks.check(f"{width}: its properties and its manifest tell the version", told == version_wanted(), told)
-    size = program.stat().st_size
-    checks.check(f"{width}: {size} bytes are fewer than {MOST_BYTES[width]}", size < MOST_BYTES[width])
+    content = program.read_bytes()
+    checks.check(f"{what}: the stack is protected", GUARD in content)
+    told = version_told(content)
+    checks.check(f"{what}: its properties and its manifest tell the version", told == version_wanted(), told)
+    checks.check(f"{what}: {len(content)} bytes are fewer than {most}", len(content) < most)
 
 
 def version_wanted():

@@ -48,6 +48,29 @@ os.environ.setdefault("CORVELLE_WINEDEBUG", "-all,err+all")
 printing = threading.Lock()
 
 
+HANGING = ROOT / "tests" / "e2e" / "hanging" / "hanging.c"
+
+
+class RoadSession(Session):
+    """A session in which a folder can stop answering; see tests/e2e/hanging."""
+    library = None
+
+    def environment(self, prefix=None):
+        environment = super().environment(prefix)
+        if self.library and self.folder:
+            environment["LD_PRELOAD"] = str(self.library)
+            environment["CORVELLE_HANG"] = str(self.folder / "prefix" / "drive_c" / "e2e" / "hang")
+        return environment
+
+
+def build_hanging(folder):
+    """Compiles the library that makes a folder hang, for the machine that Wine runs on."""
+    library = folder / "hanging.so"
+    subprocess.run(["cc", "-shared", "-fPIC", "-O1", "-Wall", "-Wextra", "-Werror", "-o", library, HANGING],
+                   check=True)
+    return library
+
+
 def say(text):
     with printing:
         print(text, flush=True)
@@ -92,7 +115,7 @@ def in_session(what, run, dpi=96):
     """What run(session) gives, in the first session in which the program comes to its first line."""
     for _ in range(SESSIONS):
         try:
-            with Session(dpi=dpi) as session:
+            with RoadSession(dpi=dpi) as session:
                 outcome = run(session)
         except (OSError, SessionError) as error:
             outcome = Run(None, "", str(error))
@@ -260,6 +283,7 @@ def run_e2e(arguments):
             return 0, 1
     arguments.out.mkdir(parents=True, exist_ok=True)
     arguments.throw_place = place_of(THROWING, arguments.build / "corvelle.debug")
+    RoadSession.library = build_hanging(arguments.out.resolve())
     roads = []
     for name in list_tests(arguments):
         scales = SCALES if name.split(".")[0].endswith("AtEachScale") else SCALES[:1]

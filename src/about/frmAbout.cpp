@@ -135,16 +135,14 @@ void frmAbout::Form_KeyDown(int keyCode, forms::ShiftState shift) {
 // ---- the look ----
 
 float frmAbout::WidthOf(std::string_view text) const {
-  return static_cast<float>(program_.Windows.MeasureText(text, {}).width) *
-         program_.Windows.Screen().TwipsPerPixelX;
+  return static_cast<float>(MeasureText(text).width) * Screen().TwipsPerPixelX;
 }
 
 AboutScene frmAbout::Scene() const {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const forms::FrameMargins frame = Margins();
   const auto height = [&](const FontSpec& font) {
-    return static_cast<float>(program_.Windows.MeasureText("X", font).height) *
-           screen.TwipsPerPixelY;
+    return static_cast<float>(MeasureText("X", font).height) * screen.TwipsPerPixelY;
   };
   return {.TextHeight = height({}),
           .TitleHeight = height({.Points = kTitlePoints, .Bold = true}),
@@ -155,7 +153,7 @@ AboutScene frmAbout::Scene() const {
 }
 
 void frmAbout::LayOut() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const AboutScene scene = Scene();
   const AboutLayout l = LayOutAbout(scene);
   const auto move = [](forms::Control& control, const TwipRect& place) {
@@ -198,7 +196,7 @@ void frmAbout::PlacePanels(const AboutPanels& places) {
 }
 
 void frmAbout::DrawTitle() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   for (forms::PictureBox* const box : {&picCorvelle, &picLogo, &picTitle}) {
     box->SetBackColor(forms::color::WindowGround);
     box->SetAutoRedraw(true);
@@ -285,9 +283,8 @@ void frmAbout::PrintSystemInfo() {
 
 void frmAbout::Print(InfoPage page) {
   page_ = std::move(page);
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  const float line = static_cast<float>(program_.Windows.MeasureText("X", {}).height) *
-                     screen.TwipsPerPixelY * 3 / 2;
+  const forms::ScreenInfo screen = Screen();
+  const float line = static_cast<float>(MeasureText("X").height) * screen.TwipsPerPixelY * 3 / 2;
   float tab = 0;
   for (const InfoLine& one : page_) tab = std::max(tab, WidthOf(one.Caption) + WidthOf(" "));
   picInfo.SetBackColor(forms::color::WindowGround);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -27,8 +28,9 @@ class BrowserPort {
  public:
   virtual ~BrowserPort() = default;
 
-  /// Opens one web address. False when no browser took it.
-  virtual bool OpenUrl(std::string_view url) = 0;
+  /// Opens one web address; it may go on beside the windows, and the same address is not opened
+  /// twice meanwhile. `then`, which may be empty, is told whether a browser took it.
+  virtual void OpenUrl(std::string_view url, std::function<void(bool)> then) = 0;
   /// Opens one "mailto:" address.
   virtual void OpenMail(std::string_view address) = 0;
 

@@ -59,16 +59,16 @@ std::optional<std::string> PathForRecord(FileSystem& files, const CodePage& ansi
 }
 
 DroppedEntries DroppedRecords(FileSystem& files, const CodePage& ansi,
-                              std::vector<std::string> names,
-                              const std::function<std::string(std::string_view)>& titleOf) {
+                              std::vector<std::string> names, const TitlesOf& titlesOf) {
   SortTexts(names);
+  const std::vector<std::string> titles = titlesOf(names);
   DroppedEntries dropped;
-  for (std::string& name : names) {
-    const std::optional<std::string> path = PathForRecord(files, ansi, name);
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const std::optional<std::string> path = PathForRecord(files, ansi, names[i]);
     if (path) {
-      dropped.Records.push_back({.FTitle = titleOf(name), .FIcon = *path, .FName = *path});
+      dropped.Records.push_back({.FTitle = titles[i], .FIcon = *path, .FName = *path});
     } else {
-      dropped.Refused.push_back(std::move(name));
+      dropped.Refused.push_back(std::move(names[i]));
     }
   }
   return dropped;

@@ -34,11 +34,12 @@ struct DroppedEntries {
   std::vector<std::string> Refused;  // full paths that no record can hold
 };
 
-/// One record for each file, in ascending order of the names: its title by `titleOf`, its icon and
-/// its command the full path.
-[[nodiscard]] DroppedEntries DroppedRecords(
-    FileSystem& files, const CodePage& ansi, std::vector<std::string> names,
-    const std::function<std::string(std::string_view)>& titleOf);
+/// One record for each file, in ascending order of the names: its title by `titlesOf`, which gets
+/// them in that order, its icon and its command the full path.
+using TitlesOf = std::function<std::vector<std::string>(const std::vector<std::string>&)>;
+[[nodiscard]] DroppedEntries DroppedRecords(FileSystem& files, const CodePage& ansi,
+                                            std::vector<std::string> names,
+                                            const TitlesOf& titlesOf);
 
 /// What the user is told of the files that were refused; there is one at least. Names the first
 /// ten.

@@ -16,7 +16,6 @@ struct GuardFlags {
   bool TellingShell = false;
   bool MenuBuilding = false;
   bool ChangingMode = false;
-  bool IconsLoading = false;
   /// A popup command rewrites a menu file; a drop waits.
   bool ItemActionBusy = false;
   /// An edit of a menu from a window is under way; docking waits.
@@ -31,8 +30,8 @@ struct GuardFlags {
   [[nodiscard]] bool IsSettling() const noexcept { return StartingUp || PosChangeRunning; }
   /// True while a file or a menu is being worked on: nobody else rewrites one meanwhile.
   [[nodiscard]] bool IsWorking() const noexcept {
-    return StartingUp || MenuBuilding || IconsLoading || ItemActionBusy || MenuFormBusy ||
-           AppBarBusy || PosChangeRunning;
+    return StartingUp || MenuBuilding || ItemActionBusy || MenuFormBusy || AppBarBusy ||
+           PosChangeRunning;
   }
   /// False while the program works on a file or a menu, or waits for an answer: a drop waits, which
   /// OLE calls refusing it.

@@ -140,11 +140,11 @@ std::string SpecialFolderEntryCommand(std::string_view name, std::string_view fo
          std::string(folder);
 }
 
-int FindEntryByTitle(const std::vector<ShellFolderEntry>& entries, std::string_view title) {
+int FindEntryByTitle(const std::vector<std::string>& names, std::string_view title) {
   int best = -1;
   Fit bestFit = kNoFit;
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    const Fit fit = TitleFit(entries[i].Name, title);
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const Fit fit = TitleFit(names[i], title);
     if (fit >= bestFit) continue;
     best = static_cast<int>(i);
     bestFit = fit;

@@ -54,10 +54,9 @@ struct SpecialFolderText {
 [[nodiscard]] std::string SpecialFolderEntryCommand(std::string_view name, std::string_view folder,
                                                     const CodePage& ansi);
 
-/// Index of the entry that a title stands for: the same text, or else the same but for case and
-/// blanks at its ends, or else, for a title that a record may have cut, the first that begins with
-/// it. -1 when none does.
-[[nodiscard]] int FindEntryByTitle(const std::vector<ShellFolderEntry>& entries,
-                                   std::string_view title);
+/// Index of the entry's name that a title stands for: the same text, or else the same but for case
+/// and blanks at its ends, or else, for a title that a record may have cut, the first that begins
+/// with it. -1 when none does.
+[[nodiscard]] int FindEntryByTitle(const std::vector<std::string>& names, std::string_view title);
 
 }  // namespace corvelle

@@ -132,6 +132,8 @@ class StripPlacePort {
 
   /// Place and size of the window on the screen.
   [[nodiscard]] virtual TwipRect WindowBounds() const = 0;
+  /// Its scale in dots of an inch, which what comes up at the strip has too.
+  [[nodiscard]] virtual int WindowDpi() const = 0;
   /// Puts a floating strip where it belongs, or keeps its hidden line.
   virtual void CheckToolbarMove() = 0;
   /// Leaves an edge for the place at the top.

@@ -185,7 +185,7 @@ void frmCust::Form_Load() {
   SetCaption(program_.Title + " . Customize");
   SetBackColor(forms::color::ButtonFace);
   SetTakesDrops(true);
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   Move((screen.Width - kCustWidth) / 2, (screen.Height - kCustHeight) / 2, kCustWidth, kCustHeight);
   Timer1.SetInterval(kGuard);
   Editor.LastFolder = GetSpecialFolder(program_, kStartMenuFolder);
@@ -237,7 +237,7 @@ void frmCust::PlaceControls() {
   const forms::FlagScope arranging(arranging_);
   const CustLayout at = ArrangeCustomize({.Width = ScaleWidth(),
                                           .Height = ScaleHeight(),
-                                          .TwipsPerPixel = program_.Windows.Screen().TwipsPerPixelX,
+                                          .TwipsPerPixel = Screen().TwipsPerPixelX,
                                           .Finding = finding_,
                                           .Offering = Offers() > 0});
   Place(lblMenuTree, at.MenuTree);

@@ -107,7 +107,7 @@ void frmCust::ShowTreeMenu(float x, float y, bool byKey) {
   AddPopupLines(menu);
   PixelPoint at = program_.Services.Pointer.PointerPosition();
   if (byKey) {
-    const forms::ScreenInfo screen = program_.Windows.Screen();
+    const forms::ScreenInfo screen = Screen();
     const forms::FrameMargins frame = Margins();
     at = {static_cast<int>((Left() + TreeView1.Left() + x) / screen.TwipsPerPixelX) + frame.Left,
           static_cast<int>((Top() + TreeView1.Top() + y) / screen.TwipsPerPixelY) + frame.Top};

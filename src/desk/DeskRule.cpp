@@ -35,6 +35,10 @@ class Turn {
       Commands.push_back(TellEnd{{asked.Number, End::Answered, kept->Value, {}}});
       return;
     }
+    if (KeyRests(key)) {
+      Commands.push_back(TellEnd{{asked.Number, End::NotAvailable, {}, {}}});
+      return;
+    }
     const std::uint64_t job = JobFor(key, what.Question, what.How);
     state_.Jobs.at(job).Waiters.insert(asked.Number);
     state_.Waiters[asked.Number] = {what.How, what.Owner, job, now_, 0};
@@ -56,6 +60,7 @@ class Turn {
     if (answered) {
       lane.RestsUntil = 0;
       lane.Rest = 0;
+      state_.RestingKeys.erase(under.Key);
       state_.Kept.Keep(under.Key, answer.Value, now_);
     }
     if (under.Job == 0) {
@@ -66,7 +71,12 @@ class Turn {
     // What had to be called back did not answer in time.
     if (!answered && under.Cancelled) {
       EndJob(under.Job, End::NotAvailable, answer);
-      RestLane(under.Lane);
+      // What looks for icons on a disk of this machine can stop at one file alone.
+      if (IsIconLane(under.Lane) && !IsRemote(under.Lane)) {
+        RestKey(under.Key, under.Lane);
+      } else {
+        RestLane(under.Lane);
+      }
       return;
     }
     // What was shown of it is gone or cannot be read now.
@@ -101,6 +111,8 @@ class Turn {
       const auto found = state_.Lanes.find(each);
       if (found != state_.Lanes.end()) found->second.RestsUntil = 0;
     }
+    std::erase_if(state_.RestingKeys,
+                  [&place](const auto& each) { return PlaceOfLane(each.second.Lane) == place; });
   }
 
   void On(const TimePassed& /*passed*/) {}
@@ -276,10 +288,25 @@ class Turn {
   /// Ends all that waits in a lane that did not answer in time.
   void RestLane(const std::string& name) {
     State::Lane& lane = state_.Lanes.at(name);
-    lane.Rest = lane.Rest == 0 ? state_.Numbers.FirstRest
-                               : std::min(2 * lane.Rest, state_.Numbers.LongestRest);
+    lane.Rest = NextRest(lane.Rest);
     lane.RestsUntil = now_ + lane.Rest;
     EndRefused();
+  }
+
+  void RestKey(const std::string& key, const std::string& lane) {
+    State::Resting& resting = state_.RestingKeys[key];
+    resting.Lane = lane;
+    resting.Rest = NextRest(resting.Rest);
+    resting.Until = now_ + resting.Rest;
+  }
+
+  [[nodiscard]] bool KeyRests(const std::string& key) const {
+    const auto found = state_.RestingKeys.find(key);
+    return found != state_.RestingKeys.end() && now_ < found->second.Until;
+  }
+
+  [[nodiscard]] std::int64_t NextRest(std::int64_t last) const {
+    return last == 0 ? state_.Numbers.FirstRest : std::min(2 * last, state_.Numbers.LongestRest);
   }
 
   void EndRefused() {

@@ -151,6 +151,14 @@ struct State {
     bool Cancelled = false;
   };
 
+  /// A question about an icon of this machine that had to be called back, and so is not asked again
+  /// for a while. Its lane goes on: one such file holds up none of the others.
+  struct Resting {
+    std::string Lane;
+    std::int64_t Until = 0;
+    std::int64_t Rest = 0;
+  };
+
   explicit State(Figures figures = {}) : Numbers(figures), Kept(figures.KeptRoom) {}
 
   Figures Numbers;
@@ -161,6 +169,7 @@ struct State {
   std::map<std::uint64_t, Job> Jobs;
   std::map<std::string, std::uint64_t> JobOfKey;
   std::map<std::string, Lane> Lanes;
+  std::map<std::string, Resting> RestingKeys;
   std::map<Operation, Under> Operations;
   std::set<std::pair<std::int64_t, Ticket>> StagesDue;
   std::uint64_t LastJob = 0;

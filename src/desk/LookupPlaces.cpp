@@ -52,6 +52,10 @@ std::string LaneOfLookup(const Lookup& question) {
 
 std::string IconLaneOf(std::string_view path) { return PlaceOfPath(path) + kIconMark; }
 
+bool IsIconLane(std::string_view lane) noexcept {
+  return lane.find(kIconMark) != std::string_view::npos;
+}
+
 std::string PlaceOfLane(std::string_view lane) {
   return std::string(lane.substr(0, lane.find(kIconMark)));
 }

@@ -22,6 +22,9 @@ inline constexpr char kIconMark = '*';
 /// The same for an icon that is looked for at another path than the question's: a link's target.
 [[nodiscard]] std::string IconLaneOf(std::string_view path);
 
+/// True for a lane in which icons are looked for.
+[[nodiscard]] bool IsIconLane(std::string_view lane) noexcept;
+
 /// The place of a lane.
 [[nodiscard]] std::string PlaceOfLane(std::string_view lane);
 

@@ -65,11 +65,11 @@ void FlatButton::Paint(Canvas& canvas) const {
   canvas.FillBox({box.left, box.top, box.left + 1, box.bottom - 1}, first);
   canvas.FillBox({box.left, box.bottom - 1, box.right, box.bottom}, last);
   canvas.FillBox({box.right - 1, box.top, box.right, box.bottom}, last);
-  const PixelSize words = Container().Windows().MeasureText(caption_, {});
+  const PixelSize words = Container().MeasureText(caption_);
   const int shift = down_ ? 1 : 0;
   canvas.DrawString({(box.left + box.right - words.width) / 2 + shift,
                      (box.top + box.bottom - words.height) / 2 + shift},
-                    caption_, {},
+                    caption_, Container().Scaled(),
                     Resolve(windows, Enabled() ? color::ButtonText : color::GrayText));
 }
 

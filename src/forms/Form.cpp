@@ -45,17 +45,17 @@ FrameStyle Form::Frame() const noexcept {
   return border_ == BorderStyle::Sizable ? FrameStyle::Sizable : FrameStyle::None;
 }
 
-FrameMargins Form::Margins() const { return Windows().MarginsOf(Frame(), !menu_.empty()); }
+FrameMargins Form::Margins() const { return Windows().MarginsOf(Frame(), !menu_.empty(), Dpi()); }
 
 void Form::SetLeastSize(float width, float height) {
   leastWidth_ = width;
   leastHeight_ = height;
   if (Peer() == nullptr || Frame() != FrameStyle::Sizable) return;
-  Peer()->SetLeastSize(ToPixels(0, 0, width, height, Windows().Screen()).Size());
+  Peer()->SetLeastSize(ToPixels(0, 0, width, height, Screen()).Size());
 }
 
 void Form::Center() {
-  const ScreenInfo screen = Windows().Screen();
+  const ScreenInfo screen = Screen();
   Move((screen.Width - Width()) / 2, (screen.Height - Height()) / 2, Width(), Height());
 }
 
@@ -78,8 +78,21 @@ void Form::ReleaseOwner() {
   if (front && owner.Visible()) owner.SetForeground();
 }
 
+void Form::SetDpi(int dpi) {
+  scaleGiven_ = true;
+  ChangeDpi(dpi);
+}
+
+void Form::ScaleChanged() {
+  if (Peer() != nullptr) SetLeastSize(leastWidth_, leastHeight_);
+  const Alive::Watch watch = MakeWatch();
+  Surface::ScaleChanged();
+  if (!watch.Gone()) Form_ScaleChanged();
+}
+
 bool Form::Load() {
   if (loaded_) return true;
+  if (!scaleGiven_) ChangeDpi(owner_ != nullptr ? owner_->Dpi() : Windows().DpiAt(PixelBounds()));
   if (!CreateWindows(nullptr)) {
     DestroyWindows();
     return false;

@@ -27,6 +27,7 @@ class Form : public Surface {
   ~Form() override;
 
   /// Does nothing when loaded already. False when the system refuses the window.
+  /// A form takes the scale of its owner, else of the monitor on which it lies.
   bool Load();
   /// Does nothing when not loaded.
   void Unload();
@@ -61,6 +62,10 @@ class Form : public Surface {
   void ShowModalTo(Form& owner);
   /// Puts the form in the middle of the screen.
   void Center();
+  /// Lays the form out for this many dots of an inch from now on, whichever monitor it lies on: a
+  /// menu has the scale of the strip that it belongs to. Its corner stays where it is in pixels,
+  /// its size stays in twips; Form_ScaleChanged puts right what was worked out from the old scale.
+  void SetDpi(int dpi);
 
   /// Makes the form the foreground window, if the system lets it.
   void SetForeground();
@@ -86,6 +91,9 @@ class Form : public Surface {
   virtual void Form_KeyDown(int /*keyCode*/, ShiftState /*shift*/) {}
   virtual void Form_KeyPress(char32_t /*character*/) {}
   virtual void Form_Resize() {}
+  /// The form has another scale. Its controls have been sized by it; places that were worked out
+  /// from the twips of a pixel, or from the width of a text, are the form's to set again.
+  virtual void Form_ScaleChanged() {}
   /// A line of the menu bar was chosen; counted as ShowPopup counts.
   virtual void Form_Menu(int /*line*/) {}
   /// A menu of the bar is about to come up. SetMenu changes what it shows.
@@ -109,6 +117,7 @@ class Form : public Surface {
   std::unique_ptr<WindowPeer> NewPeer(WindowPeer* parent) override;
   void PeerMade() override;
   void VisibleChanged() override;
+  void ScaleChanged() override;
   void OnKeyDown(int keyCode, ShiftState shift) override;
   void OnKeyPress(char32_t character) override { Form_KeyPress(character); }
   void Resized() override;
@@ -156,6 +165,7 @@ class Form : public Surface {
   float leastWidth_ = 0;
   float leastHeight_ = 0;
   bool minimizeBox_ = false;
+  bool scaleGiven_ = false;  // by SetDpi
   BorderStyle border_;
   bool inTaskbar_;
   bool loaded_ = false;

@@ -23,7 +23,7 @@ void Graphic::ZOrder(ZPlace place) {
 }
 
 PixelRect Graphic::PaintBounds() const {
-  return ToPixels(Left(), Top(), Width(), Height(), container_->Windows().Screen());
+  return ToPixels(Left(), Top(), Width(), Height(), container_->Screen());
 }
 
 void Graphic::Changed() {
@@ -42,8 +42,7 @@ void Graphic::EnabledChanged() {
 
 void Graphic::BoundsChanged(float oldLeft, float oldTop, float oldWidth, float oldHeight) {
   if (!Visible()) return;
-  const PixelRect before =
-      ToPixels(oldLeft, oldTop, oldWidth, oldHeight, container_->Windows().Screen());
+  const PixelRect before = ToPixels(oldLeft, oldTop, oldWidth, oldHeight, container_->Screen());
   if (before == PaintBounds()) return;
   container_->Invalidate(before);
   container_->Invalidate(PaintBounds());

@@ -30,6 +30,9 @@ class Graphic : public Control {
   /// True for a control that takes mouse events; a disabled one lets them through to its container.
   [[nodiscard]] virtual bool TakesMouse() const noexcept { return false; }
 
+  /// The container has another scale.
+  virtual void ScaleChanged() {}
+
   /// Mouse events in twips from the control's own upper left corner.
   std::function<void(MouseButton, ShiftState, float, float)> MouseDown;
   std::function<void(MouseButton, ShiftState, float, float)> MouseMove;
@@ -75,6 +78,7 @@ class Label final : public Graphic {
 
   void Paint(Canvas& canvas) const override;
   bool TakesMouse() const noexcept override { return true; }
+  void ScaleChanged() override { Fit(); }
 
  private:
   void Fit();
@@ -146,8 +150,10 @@ class Image final : public Graphic {
 
   void Paint(Canvas& canvas) const override;
   bool TakesMouse() const noexcept override { return true; }
+  void ScaleChanged() override { Fit(); }
 
  private:
+  void Fit();
   void FindParts();
   void AddRun(const PixelRect& run);
 

@@ -25,8 +25,8 @@ std::string Unescape(std::string_view caption) {
 }
 
 /// As many whole characters of `text` as are no wider than `pixels`.
-std::string FitText(WindowSystem& windows, std::string text, const FontSpec& font, int pixels) {
-  while (!text.empty() && windows.MeasureText(text, font).width > pixels) {
+std::string FitText(const Window& window, std::string text, const FontSpec& font, int pixels) {
+  while (!text.empty() && window.MeasureText(text, font).width > pixels) {
     text = CutUtf8(text, text.size() - 1);
   }
   return text;
@@ -66,19 +66,19 @@ void Label::SetAutoSize(bool autoSize) {
 
 void Label::Fit() {
   if (!autoSize_) return;
-  WindowSystem& windows = Container().Windows();
-  const PixelSize text = windows.MeasureText(Unescape(caption_), font_);
-  const ScreenInfo screen = windows.Screen();
+  const PixelSize text = Container().MeasureText(Unescape(caption_), font_);
+  const ScreenInfo screen = Container().Screen();
   Move(Left(), Top(), static_cast<float>(text.width) * screen.TwipsPerPixelX,
        static_cast<float>(text.height) * screen.TwipsPerPixelY);
 }
 
 void Label::Paint(Canvas& canvas) const {
-  WindowSystem& windows = Container().Windows();
   const PixelRect box = PaintBounds();
   std::string text = Unescape(caption_);
-  if (!autoSize_) text = FitText(windows, std::move(text), font_, box.Width());
-  if (!text.empty()) canvas.DrawString(box.TopLeft(), text, font_, Resolve(windows, foreColor_));
+  if (!autoSize_) text = FitText(Container(), std::move(text), font_, box.Width());
+  if (text.empty()) return;
+  canvas.DrawString(box.TopLeft(), text, Container().Scaled(font_),
+                    Resolve(Container().Windows(), foreColor_));
 }
 
 // Line
@@ -118,7 +118,7 @@ void Line::SetBorderWidth(int pixels) {
 }
 
 PixelRect Line::PaintBounds() const {
-  const ScreenInfo screen = Container().Windows().Screen();
+  const ScreenInfo screen = Container().Screen();
   const PixelPoint from = ToPixels(x1_, y1_, screen);
   const PixelPoint to = ToPixels(x2_, y2_, screen);
   const int reach = drawWidth_ / 2;
@@ -128,7 +128,7 @@ PixelRect Line::PaintBounds() const {
 
 void Line::Paint(Canvas& canvas) const {
   WindowSystem& windows = Container().Windows();
-  const ScreenInfo screen = windows.Screen();
+  const ScreenInfo screen = Container().Screen();
   canvas.DrawLine(ToPixels(x1_, y1_, screen), ToPixels(x2_, y2_, screen), Resolve(windows, colour_),
                   drawWidth_);
 }
@@ -156,8 +156,12 @@ void Image::SetPicture(corvelle::Picture picture) {
   picture_ = std::move(picture);
   FindParts();
   Changed();
+  Fit();
+}
+
+void Image::Fit() {
   if (!picture_) return;
-  const ScreenInfo screen = Container().Windows().Screen();
+  const ScreenInfo screen = Container().Screen();
   Move(Left(), Top(), static_cast<float>(picture_->Size().width) * screen.TwipsPerPixelX,
        static_cast<float>(picture_->Size().height) * screen.TwipsPerPixelY);
 }

@@ -4,6 +4,11 @@
 
 namespace corvelle::forms {
 
+float TwipsOfPixel(int dpi) noexcept {
+  constexpr float kTwipsOfAnInch = 1440;
+  return kTwipsOfAnInch / static_cast<float>(dpi);
+}
+
 int ToPixels(float twips, float twipsPerPixel) noexcept {
   return RoundToInt(static_cast<double>(twips) / static_cast<double>(twipsPerPixel));
 }

@@ -5,6 +5,9 @@
 
 namespace corvelle::forms {
 
+/// How many twips a pixel has at this many dots of an inch.
+[[nodiscard]] float TwipsOfPixel(int dpi) noexcept;
+
 /// Twips to the nearest pixel, halves to the even one.
 [[nodiscard]] int ToPixels(float twips, float twipsPerPixel) noexcept;
 

@@ -45,15 +45,22 @@ PixelSize Surface::InsideSize() const {
 float Surface::ScaleWidth() const noexcept {
   const FrameMargins margins = Margins();
   const float border = static_cast<float>(2 * BorderPixels() + margins.Left + margins.Right) *
-                       Windows().Screen().TwipsPerPixelX;
+                       Screen().TwipsPerPixelX;
   return std::max(Width() - border, 0.0F);
 }
 
 float Surface::ScaleHeight() const noexcept {
   const FrameMargins margins = Margins();
   const float border = static_cast<float>(2 * BorderPixels() + margins.Top + margins.Bottom) *
-                       Windows().Screen().TwipsPerPixelY;
+                       Screen().TwipsPerPixelY;
   return std::max(Height() - border, 0.0F);
+}
+
+// What was drawn keeps its pixels until it is drawn again.
+void Surface::ScaleChanged() {
+  for (Graphic* graphic : graphics_) graphic->ScaleChanged();
+  InvalidateAll();
+  Window::ScaleChanged();
 }
 
 void Surface::Invalidate(const PixelRect& part) {
@@ -141,16 +148,16 @@ void Surface::DrawOn(const PixelRect& touched, const std::function<void(Canvas&)
 }
 
 void Surface::DrawLine(float x1, float y1, float x2, float y2, OleColor colour, int drawWidth) {
-  const PixelPoint from = ToPixels(x1, y1, Windows().Screen());
-  const PixelPoint to = ToPixels(x2, y2, Windows().Screen());
+  const PixelPoint from = ToPixels(x1, y1, Screen());
+  const PixelPoint to = ToPixels(x2, y2, Screen());
   const Rgb rgb = Resolve(Windows(), colour);
   DrawOn(AroundLine(from, to, drawWidth),
          [&](Canvas& canvas) { canvas.DrawLine(from, to, rgb, drawWidth); });
 }
 
 void Surface::FillBox(float x1, float y1, float x2, float y2, OleColor colour) {
-  const PixelPoint a = ToPixels(x1, y1, Windows().Screen());
-  const PixelPoint b = ToPixels(x2, y2, Windows().Screen());
+  const PixelPoint a = ToPixels(x1, y1, Screen());
+  const PixelPoint b = ToPixels(x2, y2, Screen());
   const PixelRect box{std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x) + 1,
                       std::max(a.y, b.y) + 1};
   const Rgb rgb = Resolve(Windows(), colour);
@@ -158,23 +165,24 @@ void Surface::FillBox(float x1, float y1, float x2, float y2, OleColor colour) {
 }
 
 void Surface::Print(float x, float y, std::string_view text, OleColor colour) {
-  const PixelPoint at = ToPixels(x, y, Windows().Screen());
+  const PixelPoint at = ToPixels(x, y, Screen());
   const Rgb rgb = Resolve(Windows(), colour);
-  DrawOn(RectAt(at, Windows().MeasureText(text, font_)),
-         [&](Canvas& canvas) { canvas.DrawString(at, text, font_, rgb); });
+  const ScaledFont font = Scaled(font_);
+  DrawOn(RectAt(at, Windows().MeasureText(text, font)),
+         [&](Canvas& canvas) { canvas.DrawString(at, text, font, rgb); });
 }
 
 void Surface::PaintPicture(const Picture& picture, float x, float y) {
   if (!picture) return;
-  const PixelPoint at = ToPixels(x, y, Windows().Screen());
+  const PixelPoint at = ToPixels(x, y, Screen());
   const PixelRect part = Whole(picture->Size());
   DrawOn(RectAt(at, part.Size()), [&](Canvas& canvas) { canvas.DrawCanvas(*picture, part, at); });
 }
 
 void Surface::PaintPicture(const Picture& picture, float x, float y, float width, float height) {
   if (!picture) return;
-  const PixelPoint at = ToPixels(x, y, Windows().Screen());
-  const PixelRect wanted = ToPixels(0, 0, width, height, Windows().Screen());
+  const PixelPoint at = ToPixels(x, y, Screen());
+  const PixelRect wanted = ToPixels(0, 0, width, height, Screen());
   const PixelRect part = Intersect(wanted, Whole(picture->Size()));
   if (part.IsEmpty()) return;
   DrawOn(RectAt(at, part.Size()), [&](Canvas& canvas) { canvas.DrawCanvas(*picture, part, at); });

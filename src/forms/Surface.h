@@ -98,6 +98,7 @@ class Surface : public Window {
   void OnDoubleClick(PixelPoint at) override;
   void OnCaptureLost() override;
   void ToolTipChanged() override;
+  void ScaleChanged() override;
   void PeerGoing() override { shownToolTip_ = ToolTip(); }
   DropEffect OnDragOver(DragData& data, DropEffect allowed, const DragPoint& where) override;
   void OnDragLeave() override;

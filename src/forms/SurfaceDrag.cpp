@@ -6,7 +6,7 @@ namespace corvelle::forms {
 
 DropEffect Surface::CallDrag(DragHandler Graphic::*ofGraphic, const DragHandler& ofSurface,
                              DragData& data, DropEffect allowed, const DragPoint& where) {
-  const ScreenInfo screen = Windows().Screen();
+  const ScreenInfo screen = Screen();
   const PixelPoint inside{where.At.x - BorderPixels(), where.At.y - BorderPixels()};
   float x = static_cast<float>(inside.x) * screen.TwipsPerPixelX;
   float y = static_cast<float>(inside.y) * screen.TwipsPerPixelY;

@@ -52,7 +52,7 @@ void Surface::StartPress(MouseButton button, Graphic* target) noexcept {
 }
 
 TwipPoint Surface::InsideTwips(PixelPoint at) const {
-  const ScreenInfo screen = Windows().Screen();
+  const ScreenInfo screen = Screen();
   const int border = BorderPixels();
   return {static_cast<float>(at.x - border) * screen.TwipsPerPixelX,
           static_cast<float>(at.y - border) * screen.TwipsPerPixelY};

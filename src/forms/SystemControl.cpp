@@ -18,7 +18,7 @@ bool SystemControl::MenuAsked(PixelPoint at, bool byKey) {
   // A copy, since the handler may destroy the control.
   const auto handler = ContextMenu;
   if (!handler) return false;
-  const ScreenInfo screen = Windows().Screen();
+  const ScreenInfo screen = Screen();
   handler(static_cast<float>(at.x) * screen.TwipsPerPixelX,
           static_cast<float>(at.y) * screen.TwipsPerPixelY, byKey);
   return true;

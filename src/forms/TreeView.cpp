@@ -231,7 +231,7 @@ bool TreeView::MenuAsked(PixelPoint at, bool byKey) {
   } else {
     node = HitTest(at).Node;
   }
-  const ScreenInfo screen = Windows().Screen();
+  const ScreenInfo screen = Screen();
   handler(node, static_cast<float>(where.x) * screen.TwipsPerPixelX,
           static_cast<float>(where.y) * screen.TwipsPerPixelY, byKey);
   return true;
@@ -302,7 +302,7 @@ void TreeView::OnNodeActivated(NodeId node) {
 Picture TreeView::DragPicture(NodeId node) {
   constexpr int kGap = 3;
   const NodeLook& look = Look(node);
-  const PixelSize words = Windows().MeasureText(look.Text, {});
+  const PixelSize words = MeasureText(look.Text);
   const bool image = look.Image >= 0 && look.Image < static_cast<int>(images_.size());
   const int left = image ? style_.ImageSize + kGap : 0;
   const PixelSize size{left + words.width + kGap, std::max(words.height, style_.ImageSize)};
@@ -313,7 +313,7 @@ Picture TreeView::DragPicture(NodeId node) {
                         {0, 0, style_.ImageSize, style_.ImageSize},
                         {0, (size.height - style_.ImageSize) / 2});
   }
-  picture->DrawString({left, (size.height - words.height) / 2}, look.Text, {},
+  picture->DrawString({left, (size.height - words.height) / 2}, look.Text, Scaled(),
                       Resolve(Windows(), color::ButtonText));
   return picture;
 }

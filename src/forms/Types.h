@@ -101,8 +101,11 @@ inline constexpr unsigned HideBit = 0x80;
 /// How a window comes up.
 enum class ShowKind { Hidden, Normal, NoActivate, Minimized, Restored };
 
-/// The screen as forms see it, the primary one of several: its size in twips and the twips of one
-/// pixel (15 at 96 dpi, 12 at 120 dpi).
+/// Dots of an inch at the scale of 100 %.
+inline constexpr int kPlainDpi = 96;
+
+/// The screen as a window sees it by its own scale: the twips of one pixel (15 at 96 dpi, 12 at 120
+/// dpi), and the size of the primary screen in such twips.
 struct ScreenInfo {
   float TwipsPerPixelX = 15;
   float TwipsPerPixelY = 15;

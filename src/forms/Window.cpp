@@ -8,6 +8,10 @@
 
 namespace corvelle::forms {
 
+// Until a form is loaded it counts as one of the primary screen.
+Window::Window(WindowSystem& windows, std::string name)
+    : Control(std::move(name)), windows_(windows), dpi_(windows.DpiAt({})) {}
+
 Window::Window(Window& container, std::string name)
     : Control(std::move(name)), windows_(container.Windows()), container_(&container) {
   container.children_.push_back(this);
@@ -38,14 +42,51 @@ void Window::ZOrder(ZPlace place) {
   if (peer_) peer_->SetZOrder(place);
 }
 
+int Window::Dpi() const noexcept {
+  const Window* top = this;
+  while (top->container_ != nullptr) top = top->container_;
+  return top->dpi_;
+}
+
+ScreenInfo Window::Screen() const {
+  const float twips = TwipsOfPixel(Dpi());
+  const PixelSize pixels = windows_.ScreenSize();
+  return {.TwipsPerPixelX = twips,
+          .TwipsPerPixelY = twips,
+          .Width = static_cast<float>(pixels.width) * twips,
+          .Height = static_cast<float>(pixels.height) * twips};
+}
+
+PixelSize Window::MeasureText(std::string_view text, const FontSpec& font) const {
+  return windows_.MeasureText(text, Scaled(font));
+}
+
+void Window::ChangeDpi(int dpi) {
+  if (dpi == dpi_) return;
+  const PixelPoint corner = PixelBounds().TopLeft();
+  dpi_ = dpi;
+  const float twips = TwipsOfPixel(dpi);
+  AdoptBounds(static_cast<float>(corner.x) * twips, static_cast<float>(corner.y) * twips, Width(),
+              Height());
+  ScaleChanged();
+}
+
+void Window::ScaleChanged() {
+  for (Window* child : children_) child->ScaleChanged();
+  if (!peer_) return;
+  peer_->SetDpi(Dpi());
+  const PixelRect wanted = PixelBounds();
+  if (wanted != shownBounds_) peer_->SetBounds(wanted);
+}
+
 PixelRect Window::PixelBounds() const {
-  const PixelRect bounds = ToPixels(Left(), Top(), Width(), Height(), windows_.Screen());
+  const PixelRect bounds = ToPixels(Left(), Top(), Width(), Height(), Screen());
   const PixelPoint origin = container_ != nullptr ? container_->InsideOrigin() : PixelPoint{};
   return RectAt({bounds.left + origin.x, bounds.top + origin.y}, bounds.Size());
 }
 
 PeerSpec Window::SpecIn(WindowPeer* parent) const {
-  return {.ClassName = Name(), .Parent = parent, .Bounds = PixelBounds()};
+  return {.ClassName = Name(), .Parent = parent, .Bounds = PixelBounds(), .Dpi = Dpi()};
 }
 
 bool Window::CreateWindows(WindowPeer* parent) {
@@ -133,7 +174,7 @@ void Window::OnMoved(const PixelRect& bounds) {
   shownBounds_ = bounds;
   // Twips finer than a pixel survive the report of what was asked for.
   if (bounds != PixelBounds()) {
-    const ScreenInfo screen = windows_.Screen();
+    const ScreenInfo screen = Screen();
     const PixelPoint origin = (container_ != nullptr ? container_->InsideOrigin() : PixelPoint{});
     AdoptBounds(static_cast<float>(bounds.left - origin.x) * screen.TwipsPerPixelX,
                 static_cast<float>(bounds.top - origin.y) * screen.TwipsPerPixelY,

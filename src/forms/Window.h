@@ -4,6 +4,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms/Alive.h"
@@ -32,6 +34,15 @@ class Window : public Control, protected WindowEvents {
   void ZOrder(ZPlace place) override;
 
   WindowSystem& Windows() const noexcept { return windows_; }
+
+  /// The scale that this window is laid out for, in dots of an inch: that of its form.
+  [[nodiscard]] int Dpi() const noexcept;
+  /// The screen by that scale.
+  [[nodiscard]] ScreenInfo Screen() const;
+  /// A font as large as it is in this window.
+  [[nodiscard]] ScaledFont Scaled(const FontSpec& font = {}) const { return {font, Dpi()}; }
+  /// Size in pixels of one line of text in this window.
+  [[nodiscard]] PixelSize MeasureText(std::string_view text, const FontSpec& font = {}) const;
 
   /// The window around this one; null for a form.
   [[nodiscard]] Window* Container() const noexcept { return container_; }
@@ -75,7 +86,7 @@ class Window : public Control, protected WindowEvents {
   void SetTakesDrops(bool takesDrops);
 
  protected:
-  Window(WindowSystem& windows, std::string name) : Control(std::move(name)), windows_(windows) {}
+  Window(WindowSystem& windows, std::string name);
   Window(Window& container, std::string name);
 
   WindowPeer* Peer() const noexcept { return peer_.get(); }
@@ -85,6 +96,12 @@ class Window : public Control, protected WindowEvents {
   [[nodiscard]] virtual PixelPoint InsideOrigin() const noexcept { return {}; }
   /// The bounds in pixels that the peer is to have.
   [[nodiscard]] PixelRect PixelBounds() const;
+
+  /// Gives a window without a container, and all inside it, another scale. Its corner stays where
+  /// it is in pixels, its size stays in twips.
+  void ChangeDpi(int dpi);
+  /// The scale is another one, of this window and of what lies around it.
+  virtual void ScaleChanged();
 
   /// Makes the peer in `parent`. Null when the system refuses.
   virtual std::unique_ptr<WindowPeer> NewPeer(WindowPeer* parent) = 0;
@@ -167,6 +184,7 @@ class Window : public Control, protected WindowEvents {
   bool tabStop_ = false;
   bool hasFocus_ = false;
   int inputHolds_ = 0;
+  int dpi_ = kPlainDpi;    // of a window without a container
   PixelRect shownBounds_;  // as the peer last told
 };
 

@@ -144,6 +144,8 @@ class WindowPeer {
   virtual void SetLeastSize(PixelSize size) = 0;
   /// The menu bar of a form in a frame of the system; an empty list removes it.
   virtual void SetMenuBar(const std::vector<PopupItem>& items) = 0;
+  /// The scale of the window is another one from now on (see PeerSpec::Dpi).
+  virtual void SetDpi(int dpi) = 0;
 
   /// A canvas on the window's pixels on the screen, for drawing that the next paint wipes out;
   /// null while the window is not visible.
@@ -165,6 +167,7 @@ struct PeerSpec {
   // A picture box that keys reach by the rules of dialogs: a press on it takes the focus.
   bool TabStop = false;
   bool InTaskbar = false;  // a form that shows a button in the task bar when it is visible
+  int Dpi = kPlainDpi;     // which the text of a control is sized for
   FrameStyle Frame = FrameStyle::None;
   bool MinimizeBox = false;     // in the frame
   WindowPeer* Owner = nullptr;  // of a form with a frame: it stays in front of its owner
@@ -199,9 +202,9 @@ class WindowSystem {
   /// refuses.
   virtual std::unique_ptr<WindowPeer> CreatePeer(const PeerSpec& wanted, WindowEvents& events) = 0;
 
-  /// How wide the system's frame is. Points of a window count from its inside, its bounds are those
-  /// of the frame.
-  [[nodiscard]] virtual FrameMargins MarginsOf(FrameStyle frame, bool menuBar) const = 0;
+  /// How wide the system's frame is around a window of this scale. Points of a window count from
+  /// its inside, its bounds are those of the frame.
+  [[nodiscard]] virtual FrameMargins MarginsOf(FrameStyle frame, bool menuBar, int dpi) const = 0;
 
   /// Makes the controls that the system draws and works.
   virtual ControlMaker& Controls() = 0;
@@ -218,12 +221,17 @@ class WindowSystem {
 
   /// Size in pixels of one line of text as DrawString draws it. The height does not depend on the
   /// text.
-  [[nodiscard]] virtual PixelSize MeasureText(std::string_view text, const FontSpec& font) = 0;
+  [[nodiscard]] virtual PixelSize MeasureText(std::string_view text, const ScaledFont& font) = 0;
 
   /// The colour `index` of GetSysColor.
   [[nodiscard]] virtual Rgb SystemColor(int index) const = 0;
 
-  [[nodiscard]] virtual ScreenInfo Screen() const = 0;
+  /// The scale of the monitor on which most of `bounds` lies, or of the nearest one: dots of an
+  /// inch. The place is in pixels of the desktop. A form asks when it is loaded and keeps the
+  /// answer; everyone else asks the window (Window::Dpi, Window::Screen).
+  [[nodiscard]] virtual int DpiAt(const PixelRect& bounds) const = 0;
+  /// Size in pixels of the primary screen.
+  [[nodiscard]] virtual PixelSize ScreenSize() const = 0;
   /// Bits of one pixel of that screen.
   [[nodiscard]] virtual int ScreenBits() const = 0;
 

@@ -392,12 +392,88 @@ constexpr std::array<std::string_view, 16> kUndo = {
     "................",
 };
 
+constexpr std::array<std::string_view, 16> kDocument = {
+    "................",  //
+    "..sssssssss.....",  //
+    "..swwwwwwwss....",  //
+    "..swwwwwwwsws...",  //
+    "..swwwwwwwssss..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..############..",  //
+    "................",
+};
+
+constexpr std::array<std::string_view, 16> kFolder = {
+    "................",  //
+    "................",  //
+    "................",  //
+    "..sssss.........",  //
+    ".swwwwws........",  //
+    ".swwwwwsssssss..",  //
+    ".swwwwwwwwwwww#.",  //
+    ".swfffffffffff#.",  //
+    ".swfffffffffff#.",  //
+    ".swfffffffffff#.",  //
+    ".swfffffffffff#.",  //
+    ".swfffffffffff#.",  //
+    ".swfffffffffff#.",  //
+    "..#############.",  //
+    "................",  //
+    "................",
+};
+
+constexpr std::array<std::string_view, 16> kProgram = {
+    "................",  //
+    "................",  //
+    ".ssssssssssssss.",  //
+    ".shhhhhhhhhhhh#.",  //
+    ".shhhhhhhhhhhh#.",  //
+    ".swwwwwwwwwwww#.",  //
+    ".swwwwwwwwwwww#.",  //
+    ".swwwwwwwwwwww#.",  //
+    ".swwwwwwwwwwww#.",  //
+    ".swwwwwwwwwwww#.",  //
+    ".swwwwwwwwwwww#.",  //
+    ".swwwwwwwwwwww#.",  //
+    ".##############.",  //
+    "................",  //
+    "................",  //
+    "................",
+};
+
+constexpr std::array<std::string_view, 16> kLink = {
+    "................",  //
+    "..sssssssss.....",  //
+    "..swwwwwwwss....",  //
+    "..swwwwwwwsws...",  //
+    "..swwwwwwwssss..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwww#www#..",  //
+    "..swwwwww##ww#..",  //
+    "..sww#######w#..",  //
+    "..sww#www##ww#..",  //
+    "..sww#www#www#..",  //
+    "..swwwwwwwwww#..",  //
+    "..swwwwwwwwww#..",  //
+    "..############..",  //
+    "................",
+};
+
 struct Glyph {
   std::string_view Key;
   Rows Pixels;
 };
 
-constexpr std::array<Glyph, 22> kGlyphs = {{{"up", kUp},
+constexpr std::array<Glyph, 26> kGlyphs = {{{"up", kUp},
                                             {"up2", kUp2},
                                             {"down", kDown},
                                             {"down2", kDown2},
@@ -412,6 +488,10 @@ constexpr std::array<Glyph, 22> kGlyphs = {{{"up", kUp},
                                             {"unknown", kUnknown},
                                             {"missing", kMissingFile},
                                             {"sep", kSep},
+                                            {"document", kDocument},
+                                            {"folder", kFolder},
+                                            {"program", kProgram},
+                                            {"link", kLink},
                                             {"move up", kMoveUp},
                                             {"move down", kMoveDown},
                                             {"cut", kCut},

@@ -16,7 +16,8 @@ class WindowSystem;
 // change. All are 16 by 16 pixels but the arrows of menus.
 //   menus: "up", "up2", "down", "down2" (arrows, the second ones disabled), "circle" (a state
 //   mark),
-//     "new" (a new item), "cust", "help"
+//     "new" (a new item), "cust", "help"; "document", "folder", "program", "link" (while the icon
+//     of such a thing is not known)
 //   carrying: "hand"
 //   the tree of entries: "tm" (the program), "button" (a new button), "sep" (a separator),
 //     "unknown" (no picture yet), "qmark" (no picture to be had),

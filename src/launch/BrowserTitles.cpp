@@ -1,10 +1,12 @@
-#include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "base/Text.h"
 #include "core/Program.h"
 #include "launch/Browser.h"
 #include "launch/BrowserRules.h"
 #include "launch/RegistryValue.h"
+#include "launch/StartBeside.h"
 #include "platform/DesktopWindows.h"
 #include "platform/FileSystem.h"
 #include "platform/Registry.h"
@@ -18,10 +20,69 @@ constexpr std::string_view kBookmarkFiles[] = {"bookmark.htm", "bookmark.html"};
 // No list of bookmarks that a person keeps is longer.
 constexpr std::size_t kBookmarkLimit = 16'777'216;
 constexpr std::size_t kChoiceLimit = 65536;
+// What is looked for, among all that is under way; no entry can bear such a text.
+constexpr std::string_view kBookmarks = "\"\"bookmarks";
+constexpr std::string_view kOtherBrowser = "\"\"other browser";
 
 std::string CaptionOf(const DesktopWindows& desktop, WindowId window) {
   const std::string text = desktop.Text(window);
   return text.substr(0, text.find('\0'));
+}
+
+/// A title, and the folder of the file that told it or would tell it; each empty when not known.
+struct Bookmark {
+  std::string Folder;
+  std::string Title;
+};
+
+/// The folder of the one user that the browser knows, beside its program; empty when there are
+/// more.
+std::string FolderOfOnlyUser(const StartServices& services, const ProbeFiles& probe) {
+  const std::string browser = ProgramForPages(services, probe).value_or("");
+  if (!ContainsNoCase(browser, "netscape.exe")) return {};
+  for (const std::string& users : UsersFolders(browser)) {
+    const auto entries = services.Files.List(users, "*");
+    if (!entries) continue;
+    std::vector<std::string> found;
+    for (const FileEntry& entry : *entries) {
+      if (entry.IsFolder) found.push_back(users + entry.Name);
+    }
+    if (found.size() == 1) return found.front();
+  }
+  return {};
+}
+
+/// With a trailing backslash; empty when it is not known.
+std::string FindBookmarkDir(const StartServices& services, const ProbeFiles& probe) {
+  std::string folder;
+  std::string user;
+  if (ReadRegistryValue(services.Keys, RegistryRoot::LocalMachine, kUsersKey, "CurrentUser",
+                        user)) {
+    const std::string userKey = std::string(kUsersKey) + "\\" + user;
+    // Without that value there is no folder yet.
+    static_cast<void>(
+        ReadRegistryValue(services.Keys, RegistryRoot::LocalMachine, userKey, "DirRoot", folder));
+  }
+  if (folder.empty()) folder = FolderOfOnlyUser(services, probe);
+  if (folder.empty()) {
+    const auto bytes = services.Files.Read(probe.Folder + "openurl.ini", 0, kChoiceLimit);
+    if (bytes) folder = ParseBookmarkFolder(*bytes, services.Ansi);
+  }
+  return folder.empty() ? folder : EnsureBackslash(folder);
+}
+
+Bookmark FindBookmark(const StartServices& services, const ProbeFiles& probe, std::string folder,
+                      std::string_view url) {
+  if (folder.empty()) folder = FindBookmarkDir(services, probe);
+  Bookmark found{.Folder = std::move(folder), .Title = {}};
+  if (found.Folder.empty()) return found;
+  for (const std::string_view name : kBookmarkFiles) {
+    const auto bytes = services.Files.Read(found.Folder + std::string(name), 0, kBookmarkLimit);
+    if (!bytes) continue;
+    found.Title = ParseBookmarkTitle(*bytes, url, services.Ansi);
+    break;
+  }
+  return found;
 }
 
 bool IsShownByItself(const DesktopWindows& desktop, WindowId window) {
@@ -37,7 +98,7 @@ void Browser::NoteDropSource(WindowId window) {
 
 std::string Browser::WindowTitle(std::string_view url) {
   const std::string address(url);
-  if (BrowserApplication.empty()) InitBrowser();
+  if (BrowserApplication.empty()) InitBrowser();  // for the addresses to come
   if (auto title = TitleOfDropSource(address)) return *std::move(title);
   return TitleOfAnyBrowser(address);
 }
@@ -86,11 +147,13 @@ std::string Browser::TitleOfAnyBrowser(std::string_view url) {
 
 bool Browser::IsNetscapeOnTop(WindowId window) {
   if (!netscapeKnown_) {
-    netscapeKnown_ =
-        program_.Services.Keys.Value(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser") ||
-        ContainsNoCase(ProgramForPages().value_or(""), "Netscape");
+    netscapeKnown_ = AtOnce<bool>(
+        program_, std::string(kOtherBrowser), [probe = Probe()](const StartServices& services) {
+          return services.Keys.Value(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser") ||
+                 ContainsNoCase(ProgramForPages(services, probe).value_or(""), "Netscape");
+        });
   }
-  if (!*netscapeKnown_) return false;
+  if (!netscapeKnown_.value_or(false)) return false;
   const DesktopWindows& desktop = program_.Services.Desktop;
   for (const WindowId other : desktop.TopLevel()) {
     if (!IsShownByItself(desktop, other)) continue;
@@ -107,49 +170,14 @@ bool Browser::IsNetscapeOnTop(WindowId window) {
 }
 
 std::string Browser::BookmarkTitle(std::string_view url) {
-  if (BookmarkDir.empty()) FindBookmarkDir();
-  if (BookmarkDir.empty()) return {};
-  FileSystem& files = program_.Services.Files;
-  for (const std::string_view name : kBookmarkFiles) {
-    const auto bytes = files.Read(BookmarkDir + std::string(name), 0, kBookmarkLimit);
-    if (bytes) return ParseBookmarkTitle(*bytes, url, program_.Services.Ansi);
-  }
-  return {};
-}
-
-void Browser::FindBookmarkDir() {
-  const Registry& keys = program_.Services.Keys;
-  FileSystem& files = program_.Services.Files;
-  std::string folder;
-  std::string user;
-  if (ReadRegistryValue(keys, RegistryRoot::LocalMachine, kUsersKey, "CurrentUser", user)) {
-    const std::string userKey = std::string(kUsersKey) + "\\" + user;
-    // Without that value there is no folder yet.
-    static_cast<void>(
-        ReadRegistryValue(keys, RegistryRoot::LocalMachine, userKey, "DirRoot", folder));
-  }
-  if (folder.empty()) folder = FolderOfOnlyUser();
-  if (folder.empty()) {
-    const auto bytes = files.Read(program_.Paths.AppPath + "openurl.ini", 0, kChoiceLimit);
-    if (bytes) folder = ParseBookmarkFolder(*bytes, program_.Services.Ansi);
-  }
-  if (!folder.empty()) BookmarkDir = EnsureBackslash(folder);
-}
-
-// The folder of the one user that the browser knows, beside its program; empty when there are more.
-std::string Browser::FolderOfOnlyUser() {
-  const std::string browser = ProgramForPages().value_or("");
-  if (!ContainsNoCase(browser, "netscape.exe")) return {};
-  for (const std::string& users : UsersFolders(browser)) {
-    const auto entries = program_.Services.Files.List(users, "*");
-    if (!entries) continue;
-    std::vector<std::string> found;
-    for (const FileEntry& entry : *entries) {
-      if (entry.IsFolder) found.push_back(users + entry.Name);
-    }
-    if (found.size() == 1) return found.front();
-  }
-  return {};
+  const auto found = AtOnce<Bookmark>(program_, std::string(kBookmarks),
+                                      [probe = Probe(), folder = BookmarkDir,
+                                       address = std::string(url)](const StartServices& services) {
+                                        return FindBookmark(services, probe, folder, address);
+                                      });
+  if (!found) return {};
+  BookmarkDir = found->Folder;
+  return found->Title;
 }
 
 }  // namespace corvelle

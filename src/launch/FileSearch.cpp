@@ -1,15 +1,19 @@
 #include "launch/FileSearch.h"
 
+#include <string>
 #include <string_view>
 
 #include "core/Program.h"
+#include "launch/StartBeside.h"
 #include "platform/ShellExec.h"
 
 namespace corvelle {
 
 namespace {
 
-constexpr std::string_view kUnavailableText = "File/Device unavailable.";
+// Among all that is under way; no entry can bear such a text.
+constexpr std::string_view kSearch = "\"\"search";
+constexpr std::string_view kNoSearchText = "File/Device unavailable.";
 
 /// A way to the search, and what is registered where the machine has it. The second is for machines
 /// whose administrator has taken the protocol away.
@@ -29,16 +33,23 @@ bool Has(const Registry& keys, const SearchWay& way) {
   return keys.Value(RegistryRoot::ClassesRoot, way.Key, way.Value).has_value();
 }
 
+/// False when the machine has no search, or none that starts.
+bool OpenSearchApart(const StartServices& services) {
+  for (const SearchWay& way : kSearchWays) {
+    if (!Has(services.Keys, way)) continue;
+    if (IsSettled(services.Shell.Open(way.Address, std::nullopt, std::nullopt))) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 void OpenFileSearch(Program& program) {
-  for (const SearchWay& way : kSearchWays) {
-    if (!Has(program.Services.Keys, way)) continue;
-    const auto opened = program.Services.Shell.Open(way.Address, std::nullopt, std::nullopt);
-    if (opened || opened.Error() == OpenError::Cancelled) return;
-  }
-  program.Say(program.ToolbarWindow(), kUnavailableText,
-              forms::msgbox::IconStop | forms::msgbox::OnTop);
+  StartBeside<bool>(program, std::string(kSearch), &OpenSearchApart, [&program](bool opened) {
+    if (opened) return;
+    program.Say(program.ToolbarWindow(), kNoSearchText,
+                forms::msgbox::IconStop | forms::msgbox::OnTop);
+  });
 }
 
 bool HasFileSearch(const Registry& keys) {

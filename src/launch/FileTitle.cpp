@@ -6,6 +6,8 @@
 #include "base/Text.h"
 #include "base/Utf8.h"
 #include "core/Program.h"
+#include "desk/LookupPlaces.h"
+#include "launch/StartBeside.h"
 #include "platform/FileSystem.h"
 #include "platform/ShellIcons.h"
 
@@ -31,6 +33,21 @@ bool IsUsualExtension(std::string_view extension) noexcept {
                      [&](std::string_view known) { return EqualNoCase(extension, known); });
 }
 
+/// What the disk and the shell know of a file.
+struct ShownFile {
+  std::optional<std::string> Name;
+  bool IsFolder = false;
+};
+
+std::vector<ShownFile> LookAtFiles(const StartServices& services,
+                                   const std::vector<std::string>& paths) {
+  std::vector<ShownFile> found;
+  found.reserve(paths.size());
+  for (const std::string& path : paths)
+    found.push_back({services.Icons.DisplayName(path), services.Files.FolderExists(path)});
+  return found;
+}
+
 }  // namespace
 
 std::string FileTitle(const FileTitleFacts& facts) {
@@ -50,12 +67,32 @@ std::string FileTitle(const FileTitleFacts& facts) {
 }
 
 std::string GetFileTitle(Program& program, std::string_view path) {
-  const auto info = program.Services.Icons.FileInfo(path, IconList::Large);
-  FileTitleFacts facts{.Path = path,
-                       .IsFolder = program.Services.Files.FolderExists(path),
-                       .KeepExtension = program.OptionFlags.Is(Option::KeepExtension)};
-  if (info) facts.DisplayName = info->DisplayName;
-  return FileTitle(facts);
+  return GetFileTitles(program, {std::string(path)}).front();
+}
+
+std::vector<std::string> GetFileTitles(Program& program, const std::vector<std::string>& paths) {
+  // Each place by itself: one that hangs takes no name from the files of another.
+  const std::string place = paths.empty() ? std::string() : desk::PlaceOfPath(paths.front());
+  auto found = AtOnce<std::vector<ShownFile>>(
+      program, "\"\"titles " + place,
+      [paths](const StartServices& services) { return LookAtFiles(services, paths); });
+  if (!found) found.emplace(paths.size());
+  const bool keep = program.OptionFlags.Is(Option::KeepExtension);
+  std::vector<std::string> titles;
+  for (std::size_t i = 0; i < paths.size(); ++i) {
+    const ShownFile& file = (*found)[i];
+    titles.push_back(FileTitle({.Path = paths[i],
+                                .DisplayName = file.Name,
+                                .IsFolder = file.IsFolder,
+                                .KeepExtension = keep}));
+  }
+  return titles;
+}
+
+std::vector<std::string> GetTrimmedTitles(Program& program, const std::vector<std::string>& paths) {
+  std::vector<std::string> titles = GetFileTitles(program, paths);
+  for (std::string& title : titles) title = Trim(title);
+  return titles;
 }
 
 }  // namespace corvelle

@@ -2,6 +2,7 @@
 
 #include "core/Program.h"
 #include "launch/LaunchItem.h"
+#include "launch/StartBeside.h"
 #include "platform/FileSystem.h"
 #include "platform/ShellExec.h"
 
@@ -27,7 +28,12 @@ bool HelpViewer::ShowPage(HelpPage page) {
 void HelpViewer::OfferPage(HelpPage page) {
   const std::string path = PathOf(page);
   if (!program_.Services.Files.FileExists(path)) return;
-  static_cast<void>(program_.Services.Shell.Open(path, std::nullopt, std::nullopt));
+  StartBeside<bool>(
+      program_, path,
+      [path](const StartServices& services) {
+        return IsSettled(services.Shell.Open(path, std::nullopt, std::nullopt));
+      },
+      [](bool) {});
 }
 
 void HelpViewer::ShowPageOf(std::string_view windowName) {

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
-#include <memory>
 #include <optional>
 #include <utility>
 
 #include "base/Text.h"
 #include "core/Program.h"
 #include "launch/CommandForm.h"
+#include "launch/StartBeside.h"
 #include "platform/FileSystem.h"
 #include "platform/ShellExec.h"
 #include "platform/ShellLinks.h"
@@ -83,17 +83,8 @@ void Tell(Program& program, StartEnd end) {
 /// Starts beside the windows and tells the user how it ended. Does nothing while `what` is being
 /// started already.
 void StartApart(Program& program, const std::string& what, Attempts attempts) {
-  const auto start = program.Starts.Begin(what);
-  if (start == nullptr) return;
-  const auto end = std::make_shared<StartEnd>(StartEnd::Settled);
-  program.Services.Starts.Start(
-      [start, end, attempts = std::move(attempts)](const StartServices& services) {
-        *end = attempts(services);
-        start->SetOver();
-      },
-      [&program, end, watch = program.Starts.Watch()] {
-        if (!watch.Gone()) Tell(program, *end);
-      });
+  StartBeside<StartEnd>(program, what, std::move(attempts),
+                        [&program](StartEnd end) { Tell(program, end); });
 }
 
 /// Opens through the shell. A result when that settles it: it is started, the user has refused it,
@@ -102,7 +93,7 @@ std::optional<StartEnd> OpenSettled(const StartServices& services, std::string_v
                                     std::optional<std::string_view> parameters,
                                     std::optional<std::string_view> folder) {
   const auto opened = services.Shell.Open(file, parameters, folder);
-  if (opened || opened.Error() == OpenError::Cancelled) return StartEnd::Settled;
+  if (IsSettled(opened)) return StartEnd::Settled;
   if (opened.Error() == OpenError::AccessDenied) return StartEnd::NoAccess;
   return std::nullopt;
 }
@@ -179,7 +170,7 @@ bool OpenAddress(Program& program, CommandKind kind, const std::string& address)
   BrowserPort* browser = program.Ports.Browser;
   if (browser == nullptr) return false;
   if (kind == CommandKind::WebAddress) {
-    browser->OpenUrl(address);
+    browser->OpenUrl(address, {});
   } else {
     browser->OpenMail(address);
   }
@@ -197,22 +188,17 @@ void RunForm(Program& program, CommandKind kind, const std::string& text);
 
 /// The file is read beside the windows; what it holds is then carried out as a command is.
 void OpenUrlFile(Program& program, const std::string& file) {
-  const auto start = program.Starts.Begin(file);
-  if (start == nullptr) return;
-  const auto bytes = std::make_shared<std::string>();
-  program.Services.Starts.Start(
-      [file, bytes](const StartServices& services) {
-        auto read = services.Files.Read(file, 0, kUrlFileLimit);
+  StartBeside<std::string>(
+      program, file,
+      [file](const StartServices& services) {
+        const auto bytes = services.Files.Read(file, 0, kUrlFileLimit);
         // What cannot be read holds no address.
-        if (read) *bytes = *std::move(read);
+        return bytes ? ParseUrlFile(*bytes, services.Ansi).value_or(file) : file;
       },
-      [&program, start, file, bytes, watch = program.Starts.Watch()] {
-        if (watch.Gone()) return;
-        // Nothing is started before this.
-        start->SetOver();
-        const std::string address = ParseUrlFile(*bytes, program.Services.Ansi).value_or(file);
+      [&program](const std::string& address) {
         RunForm(program, ClassifyAddress(address), address);
-      });
+      },
+      UnderWay::UntilTold);
 }
 
 void RunForm(Program& program, CommandKind kind, const std::string& text) {

@@ -5,6 +5,7 @@
 
 #include "core/Program.h"
 #include "launch/RegistryValue.h"
+#include "launch/StartBeside.h"
 #include "platform/Registry.h"
 #include "platform/ShellExec.h"
 
@@ -15,22 +16,25 @@ namespace {
 constexpr std::string_view kMailKey = "mailto\\shell\\open\\command";
 constexpr std::string_view kMailError = "Unable to communicate with your default email program.";
 
-/// True when the shell has started it, or when the user has refused that.
-bool IsSettled(const Result<Done, OpenError>& opened) {
-  return opened || opened.Error() == OpenError::Cancelled;
+/// False when no program took the address.
+bool OpenMailApart(const StartServices& services, std::string_view address) {
+  if (IsSettled(services.Shell.Open(address, std::nullopt, std::nullopt))) return true;
+  std::string command;
+  return ReadRegistryValue(services.Keys, RegistryRoot::ClassesRoot, kMailKey, "", command) &&
+         IsSettled(services.Shell.Open(command, address, std::nullopt));
 }
 
 }  // namespace
 
 void OpenMail(Program& program, std::string_view address) {
-  ShellExec& shell = program.Services.Shell;
-  if (IsSettled(shell.Open(address, std::nullopt, std::nullopt))) return;
-  std::string command;
-  if (ReadRegistryValue(program.Services.Keys, RegistryRoot::ClassesRoot, kMailKey, "", command) &&
-      IsSettled(shell.Open(command, address, std::nullopt))) {
-    return;
-  }
-  program.Say(program.ToolbarWindow(), kMailError, forms::msgbox::OnTop);
+  StartBeside<bool>(
+      program, std::string(address),
+      [text = std::string(address)](const StartServices& services) {
+        return OpenMailApart(services, text);
+      },
+      [&program](bool opened) {
+        if (!opened) program.Say(program.ToolbarWindow(), kMailError, forms::msgbox::OnTop);
+      });
 }
 
 }  // namespace corvelle

@@ -122,7 +122,7 @@ void IconView::Mark(int place) {
 }
 
 void IconView::Press(float x, float y) {
-  const int place = grid_.IndexAt(forms::ToPixels(x, y, program_.Windows.Screen()));
+  const int place = grid_.IndexAt(forms::ToPixels(x, y, sheet_.Screen()));
   pressedCell_ = place >= 0;
   if (pressedCell_) Mark(place);
 }
@@ -177,7 +177,7 @@ void IconView::PaintCell(Canvas& canvas, int place) const {
   if (pictures_.IsDrawn(index)) pictures_.Show(index, canvas, icon.TopLeft());
   const PixelRect label = grid_.LabelOf(place);
   const std::string& caption = cells_[index].Caption;
-  const PixelSize text = program_.Windows.MeasureText(caption, {});
+  const PixelSize text = sheet_.MeasureText(caption);
   const PixelPoint at{label.left + (label.Width() - text.width) / 2, label.top};
   const bool marked = place == marked_;
   if (marked) {
@@ -190,7 +190,8 @@ void IconView::PaintCell(Canvas& canvas, int place) const {
     canvas.FillBox({icon.left - width, icon.top, icon.left, icon.bottom}, line);
     canvas.FillBox({icon.right, icon.top, icon.right + width, icon.bottom}, line);
   }
-  canvas.DrawString(at, caption, {}, colour(marked ? forms::color::HighlightText : kWindowText));
+  canvas.DrawString(at, caption, sheet_.Scaled(),
+                    colour(marked ? forms::color::HighlightText : kWindowText));
 }
 
 std::vector<std::string> IconView::Captions() const {

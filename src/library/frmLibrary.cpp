@@ -126,8 +126,8 @@ void frmLibrary::Form_Unload() {
 // Pictures that were made under other colours are made again.
 void frmLibrary::SetFormSize() {
   static_cast<void>(CheckLibraryDisplay(program_));
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  const PixelSize caption = program_.Windows.MeasureText(kSampleCaption, {});
+  const forms::ScreenInfo screen = Screen();
+  const PixelSize caption = MeasureText(kSampleCaption);
   const auto scaled = [&](int pixels) {
     return static_cast<int>(static_cast<float>(pixels) * kTwipsOfPixel / screen.TwipsPerPixelX);
   };

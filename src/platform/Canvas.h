@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/Geometry.h"
 #include "platform/IconPixels.h"
@@ -19,6 +20,17 @@ struct FontSpec {
   bool Bold = false;
 
   friend bool operator==(const FontSpec&, const FontSpec&) = default;
+};
+
+/// A font as large as a window of some scale shows it. There is no scale that would do for every
+/// window, so whoever measures or draws text says which one: see forms::Window::Scaled.
+struct ScaledFont {
+  ScaledFont(FontSpec spec, int dotsOfAnInch) : Spec(std::move(spec)), Dpi(dotsOfAnInch) {}
+
+  FontSpec Spec;
+  int Dpi;
+
+  friend bool operator==(const ScaledFont&, const ScaledFont&) = default;
 };
 
 /// A bitmap that can be drawn on. Coordinates are pixels from its upper left corner, plus the
@@ -40,7 +52,7 @@ class Canvas {
   virtual void DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) = 0;
 
   /// One line of text with its upper left corner at `at`, no background, "&" as it stands.
-  virtual void DrawString(PixelPoint at, std::string_view text, const FontSpec& font,
+  virtual void DrawString(PixelPoint at, std::string_view text, const ScaledFont& font,
                           Rgb colour) = 0;
 
   /// Copies `part` of `source`, in pixels of its bitmap without regard to its origin, to `at`.

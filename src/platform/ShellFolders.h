@@ -31,6 +31,9 @@ class ShellFolders {
   /// What a folder holds, in the shell's order; nothing when it cannot be listed.
   [[nodiscard]] virtual std::optional<std::vector<ShellFolderEntry>> List(int folder) = 0;
 
+  /// The same without the icons, which others may have to be asked for.
+  [[nodiscard]] virtual std::optional<std::vector<std::string>> Names(int folder) = 0;
+
   /// The folder as an entry itself; nothing when the system does not have it.
   [[nodiscard]] virtual std::optional<ShellFolderEntry> Folder(int folder) = 0;
 

@@ -4,8 +4,14 @@
 
 namespace corvelle {
 
+class CodePage;
+class DdeClient;
+class FileAssociations;
 class FileSystem;
+class Registry;
 class ShellExec;
+class ShellFolders;
+class ShellIcons;
 class ShellLinks;
 
 /// Services of the thread that starts something; nobody else uses them.
@@ -13,6 +19,12 @@ struct StartServices {
   ShellExec& Shell;
   FileSystem& Files;
   ShellLinks& Links;
+  DdeClient& Dde;
+  FileAssociations& Associations;
+  Registry& Keys;
+  ShellFolders& Folders;
+  ShellIcons& Icons;
+  const CodePage& Ansi;
 };
 
 /// Starting programs and documents takes as long as their disk, their server and the system's

@@ -79,10 +79,10 @@ class SystemInfo {
   /// session for this process; each later one gives the other a moment to end, and claims it then.
   [[nodiscard]] virtual bool AnotherInstanceRuns() = 0;
 
-  /// Height of a window's caption (SM_CYCAPTION) and width of its buttons (SM_CXSIZE), in pixels; 0
-  /// when the system does not tell.
-  [[nodiscard]] virtual int CaptionHeight() const = 0;
-  [[nodiscard]] virtual int CaptionButtonWidth() const = 0;
+  /// Height of a window's caption (SM_CYCAPTION) and width of its buttons (SM_CXSIZE), in pixels of
+  /// a window with this many dots of an inch; 0 when the system does not tell.
+  [[nodiscard]] virtual int CaptionHeight(int dpi) const = 0;
+  [[nodiscard]] virtual int CaptionButtonWidth(int dpi) const = 0;
 
   /// Today's date as the user's settings write it, short and long; empty when the system does not
   /// tell.

@@ -165,16 +165,10 @@ void frmProperties::WireEdges() {
   };
 }
 
-int frmProperties::Dpi() const {
-  constexpr float kTwipsOfInch = 1440;
-  return static_cast<int>(kTwipsOfInch / program_.Windows.Screen().TwipsPerPixelX);
-}
-
 void frmProperties::PlaceControls() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  const PixelSize pixels{static_cast<int>(screen.Width / screen.TwipsPerPixelX),
-                         static_cast<int>(screen.Height / screen.TwipsPerPixelY)};
-  const PropertiesLayout at = LayOutProperties({.Dpi = Dpi(), .Screen = pixels});
+  const forms::ScreenInfo screen = Screen();
+  const PropertiesLayout at =
+      LayOutProperties({.Dpi = Dpi(), .Screen = program_.Windows.ScreenSize()});
   const std::pair<forms::Control&, const PixelRect&> places[] = {
       {TabStrip1, at.TabStrip},
       {Picture1, at.Page},
@@ -304,7 +298,7 @@ void frmProperties::FocusPage(const std::string& key) {
 void frmProperties::DrawIcon() {
   Label1.SetCaption(DoubleAmpersands(Trim(txtTitle.Text())));
   const std::string icon = Trim(txtIcon.Text());
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const PixelSize side{static_cast<int>(Pix.Width() / screen.TwipsPerPixelX),
                        static_cast<int>(Pix.Height() / screen.TwipsPerPixelY)};
   // The shell may let messages in while it is asked for an icon.

@@ -161,7 +161,6 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void DrawStrip(std::optional<Edge> edge);
   [[nodiscard]] std::optional<Edge> EdgeInUse() const;
   void MoveToEdge(Edge edge);
-  [[nodiscard]] int Dpi() const;
 
   void cmdApply_Click();
   void cmdOK_Click();

@@ -15,7 +15,8 @@
 namespace corvelle {
 namespace {
 
-void Draw(Canvas& canvas, const forms::WindowSystem& windows, const PreviewPlan& plan) {
+void Draw(Canvas& canvas, const forms::Window& window, const PreviewPlan& plan) {
+  const forms::WindowSystem& windows = window.Windows();
   for (const PreviewBox& box : plan.Boxes) {
     canvas.FillBox(box.Area, forms::Resolve(windows, box.Colour));
   }
@@ -24,7 +25,8 @@ void Draw(Canvas& canvas, const forms::WindowSystem& windows, const PreviewPlan&
                    forms::Resolve(windows, line.Colour));
   }
   for (const PreviewText& text : plan.Texts) {
-    canvas.DrawString(text.At, text.Text, {}, forms::Resolve(windows, forms::color::ButtonText));
+    canvas.DrawString(text.At, text.Text, window.Scaled(),
+                      forms::Resolve(windows, forms::color::ButtonText));
   }
 }
 
@@ -38,19 +40,19 @@ void frmProperties::LoadPositionTab() {
 }
 
 void frmProperties::DrawPreview() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   scene_ = {.Box = {static_cast<int>(picScreen.Width() / screen.TwipsPerPixelX),
                     static_cast<int>(picScreen.Height() / screen.TwipsPerPixelY)},
             .Dpi = Dpi(),
-            .StartText = program_.Windows.MeasureText(kStartText, {}),
-            .ClockText = program_.Windows.MeasureText(kClockText, {})};
+            .StartText = MeasureText(kStartText),
+            .ClockText = MeasureText(kClockText)};
   const int width = program_.Services.Icons.IconWidth(IconList::Large);
   if (width > 0) scene_.IconSize = width;
   // The shell may let messages in while it lists the desktop.
   const std::vector<int> icons = DesktopIcons(program_);
   const std::vector<PixelPoint> places = IconGrid(scene_, icons.size());
   const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas(scene_.Box);
-  Draw(*drawn, program_.Windows, PlanPreview(scene_));
+  Draw(*drawn, *this, PlanPreview(scene_));
   for (std::size_t i = 0; i < places.size(); ++i) {
     // One that the system does not have leaves its place empty.
     static_cast<void>(program_.Services.Icons.DrawSystemIcon(*drawn, IconList::Large, icons[i],
@@ -68,15 +70,14 @@ void frmProperties::DrawStrip(std::optional<Edge> edge) {
   picScreen.Cls();
   picScreen.PaintPicture(desktop_, 0, 0);
   if (edge) {
-    const forms::ScreenInfo screen = program_.Windows.Screen();
+    const forms::ScreenInfo screen = Screen();
     const TwipRect strip =
         program_.Ports.Toolbar != nullptr ? program_.Ports.Toolbar->WindowBounds() : TwipRect{};
     const auto thickness =
         static_cast<int>(std::min(strip.Width, strip.Height) / screen.TwipsPerPixelX);
     const PixelRect at = PreviewStrip(scene_, *edge, thickness,
                                       static_cast<int>(screen.Width / screen.TwipsPerPixelX));
-    picScreen.DrawPixels(at,
-                         [&](Canvas& canvas) { Draw(canvas, program_.Windows, PlanStrip(at)); });
+    picScreen.DrawPixels(at, [&](Canvas& canvas) { Draw(canvas, *this, PlanStrip(at)); });
   }
   picScreen.Refresh();
 }

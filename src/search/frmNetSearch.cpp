@@ -84,12 +84,12 @@ void frmNetSearch::Form_Load() {
 }
 
 void frmNetSearch::LayOut() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const forms::FrameMargins frame = Margins();
   const auto width = [&](const std::string& text) {
-    return static_cast<float>(program_.Windows.MeasureText(text, {}).width) * screen.TwipsPerPixelX;
+    return static_cast<float>(MeasureText(text).width) * screen.TwipsPerPixelX;
   };
-  const auto height = program_.Windows.MeasureText("X", {}).height;
+  const auto height = MeasureText("X").height;
   const NetSearchLayout l = LayOutNetSearch(
       {.TextHeight = static_cast<float>(height) * screen.TwipsPerPixelY,
        .LabelWidth = std::max(width(Label1.Caption()), width(Label2.Caption())),
@@ -174,12 +174,12 @@ void frmNetSearch::cmdFind_Click() {
   if (Queries.Add(query)) ShowHistory();
   const std::string url = AddressOf(query);
   if (url.empty() || program_.Ports.Browser == nullptr) return;
-  const forms::Alive::Watch watch = MakeWatch();
   program_.SetHint("");
   Minimize();
-  const bool opened = program_.Ports.Browser->OpenUrl(url);
-  // The user goes on here when there is no browser.
-  if (!opened && !watch.Gone() && IsLoaded()) LoadWindow();
+  program_.Ports.Browser->OpenUrl(url, [this, watch = MakeWatch()](bool opened) {
+    // The user goes on here when there is no browser.
+    if (!opened && !watch.Gone() && IsLoaded()) LoadWindow();
+  });
 }
 
 std::string frmNetSearch::AddressOf(const std::string& query) {

@@ -58,11 +58,11 @@ void frmURL::Form_Load() {
 }
 
 void frmURL::LayOut() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const auto widthOf = [&](const std::string& text) {
-    return static_cast<float>(program_.Windows.MeasureText(text, {}).width) * screen.TwipsPerPixelX;
+    return static_cast<float>(MeasureText(text).width) * screen.TwipsPerPixelX;
   };
-  const auto height = static_cast<float>(program_.Windows.MeasureText("X", {}).height);
+  const auto height = static_cast<float>(MeasureText("X").height);
   const WebLinkLayout layout =
       LayOutWebLink({.LabelWidth = std::max(widthOf(Label2.Caption()), widthOf(Label3.Caption())),
                      .TextHeight = height * screen.TwipsPerPixelY,

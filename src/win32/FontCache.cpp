@@ -15,19 +15,19 @@ constexpr double kPointsOfAnInch = 72;
 
 }  // namespace
 
-UniqueFont FontCache::Make(const FontSpec& wanted) const {
-  const int dotsOfAnInch = GetDeviceCaps(dc_.Get(), LOGPIXELSY);
+UniqueFont FontCache::Make(const ScaledFont& wanted) const {
   LOGFONTW font{};
-  font.lfHeight = -RoundToInt(static_cast<double>(wanted.Points) * dotsOfAnInch / kPointsOfAnInch);
-  font.lfWeight = wanted.Bold ? FW_BOLD : FW_NORMAL;
+  font.lfHeight =
+      -RoundToInt(static_cast<double>(wanted.Spec.Points) * wanted.Dpi / kPointsOfAnInch);
+  font.lfWeight = wanted.Spec.Bold ? FW_BOLD : FW_NORMAL;
   font.lfCharSet = DEFAULT_CHARSET;
-  const std::wstring face = wanted.Face.empty() ? L"MS Shell Dlg 2" : Wide(wanted.Face);
+  const std::wstring face = wanted.Spec.Face.empty() ? L"MS Shell Dlg 2" : Wide(wanted.Spec.Face);
   const std::size_t length = std::min<std::size_t>(face.size(), LF_FACESIZE - 1);
   std::copy_n(face.begin(), length, font.lfFaceName);
   return UniqueFont(CreateFontIndirectW(&font));
 }
 
-HFONT FontCache::Get(const FontSpec& wanted) {
+HFONT FontCache::Get(const ScaledFont& wanted) {
   const auto at = std::find_if(fonts_.begin(), fonts_.end(),
                                [&](const Entry& entry) { return entry.Wanted == wanted; });
   if (at != fonts_.end()) {
@@ -40,7 +40,7 @@ HFONT FontCache::Get(const FontSpec& wanted) {
   return font ? font.Get() : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
 }
 
-PixelSize FontCache::Measure(std::string_view text, const FontSpec& wanted) {
+PixelSize FontCache::Measure(std::string_view text, const ScaledFont& wanted) {
   const SelectedObject font(dc_.Get(), Get(wanted));
   TEXTMETRICW metrics{};
   GetTextMetricsW(dc_.Get(), &metrics);

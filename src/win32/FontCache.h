@@ -15,19 +15,19 @@ class FontCache {
  public:
   static constexpr std::size_t kMostFonts = 12;
 
-  /// The font for the screen's resolution; the system's own when it cannot be made. Stays valid
+  /// The font the system's own when it cannot be made. Stays valid
   /// until the next call.
-  [[nodiscard]] HFONT Get(const FontSpec& wanted);
+  [[nodiscard]] HFONT Get(const ScaledFont& wanted);
 
   /// A font of the caller's own; none when it cannot be made.
-  [[nodiscard]] UniqueFont Make(const FontSpec& wanted) const;
+  [[nodiscard]] UniqueFont Make(const ScaledFont& wanted) const;
 
   /// Size in pixels of one line of text.
-  [[nodiscard]] PixelSize Measure(std::string_view text, const FontSpec& wanted);
+  [[nodiscard]] PixelSize Measure(std::string_view text, const ScaledFont& wanted);
 
  private:
   struct Entry {
-    FontSpec Wanted;
+    ScaledFont Wanted;
     UniqueFont Font;
   };
 

@@ -80,7 +80,7 @@ void Win32Canvas::DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width
   }
 }
 
-void Win32Canvas::DrawString(PixelPoint at, std::string_view text, const FontSpec& font,
+void Win32Canvas::DrawString(PixelPoint at, std::string_view text, const ScaledFont& font,
                              Rgb colour) {
   const CanvasDc dc(*this);
   if (!dc) return;

@@ -21,7 +21,8 @@ class Win32Canvas : public Canvas {
   void SetOrigin(PixelPoint origin) override { origin_ = origin; }
   void FillBox(const PixelRect& box, Rgb colour) override;
   void DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) override;
-  void DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) override;
+  void DrawString(PixelPoint at, std::string_view text, const ScaledFont& font,
+                  Rgb colour) override;
   void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) override;
   void DrawPixels(const IconPixels& picture, PixelPoint at) override;
   Rgb PixelAt(PixelPoint at) const override;

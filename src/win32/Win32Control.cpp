@@ -3,6 +3,7 @@
 #include "win32/Win32Control.h"
 
 #include <cstdint>
+#include <utility>
 
 #include "win32/Win32WindowSystem.h"
 
@@ -37,10 +38,16 @@ bool Win32Control::CreateAs(const wchar_t* name, DWORD style, DWORD exStyle,
                     reinterpret_cast<LONG_PTR>(static_cast<Win32Window*>(this)));
   systemProcedure_ = reinterpret_cast<WNDPROC>(
       SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
-  font_ = system_.Tools()->Fonts.Make({});
-  SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()), FALSE);
+  SetDpi(wanted.Dpi);
   ::SetWindowPos(handle_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   return true;
+}
+
+void Win32Control::SetDpi(int dpi) {
+  // The old font must outlive its use.
+  UniqueFont font = system_.Tools()->Fonts.Make({{}, dpi});
+  SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
+  font_ = std::move(font);
 }
 
 LRESULT Win32Control::Default(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -20,6 +20,7 @@ class Win32Control : public Win32Window {
                               const forms::PeerSpec& wanted);
 
   [[nodiscard]] bool TakesFocus() const override { return true; }
+  void SetDpi(int dpi) override;
 
   /// True for the address of the procedure of all controls.
   static bool Is(LONG_PTR procedure) noexcept;

@@ -73,6 +73,7 @@ class Win32PeerOf : public Interface {
   void SetMenuBar(const std::vector<forms::PopupItem>& items) override {
     core_.Window().SetMenuBar(items);
   }
+  void SetDpi(int dpi) override { core_.Window().SetDpi(dpi); }
   std::unique_ptr<Canvas> ScreenCanvas() override { return core_.ScreenCanvas(); }
 
  protected:

@@ -122,11 +122,12 @@ Found Find(int folder, std::string_view name) {
   return found;
 }
 
-bool Open(ITEMIDLIST* item, std::string_view argument, WindowId owner) {
+bool Open(ITEMIDLIST* item, std::string_view argument, WindowId owner, ShellExecThread thread) {
   const std::wstring parameters = Wide(argument);
   SHELLEXECUTEINFOW info{};
   info.cbSize = sizeof(info);
   info.fMask = SEE_MASK_IDLIST | SEE_MASK_FLAG_NO_UI;
+  if (thread == ShellExecThread::EndsSoon) info.fMask |= SEE_MASK_NOASYNC;
   info.hwnd = owner != kNoWindow ? ToHwnd(owner) : GetDesktopWindow();
   info.lpIDList = item;
   info.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
@@ -172,6 +173,20 @@ std::optional<std::vector<ShellFolderEntry>> Win32ShellFolders::List(int folder)
   return entries;
 }
 
+std::optional<std::vector<std::string>> Win32ShellFolders::Names(int folder) {
+  const UniqueItem location = LocationOf(folder);
+  const ComPointer<IShellFolder> open = OpenAt(location.Get());
+  if (!open) return std::nullopt;
+  std::vector<std::string> names;
+  const bool listed = VisitChildren(*open.Get(), [&](const ITEMIDLIST* child) {
+    auto name = NameOf(*open.Get(), child);
+    if (name && !name->empty()) names.push_back(std::move(*name));
+    return true;
+  });
+  if (!listed) return std::nullopt;
+  return names;
+}
+
 std::optional<ShellFolderEntry> Win32ShellFolders::Folder(int folder) {
   const UniqueItem location = LocationOf(folder);
   if (!location) return std::nullopt;
@@ -203,7 +218,7 @@ std::optional<std::string> Win32ShellFolders::PathOf(int folder) {
 
 bool Win32ShellFolders::OpenFolder(int folder, WindowId owner) {
   const UniqueItem location = LocationOf(folder);
-  return location && Open(location.Get(), {}, owner);
+  return location && Open(location.Get(), {}, owner, thread_);
 }
 
 bool Win32ShellFolders::OpenEntry(int folder, std::string_view name, std::string_view argument,
@@ -211,7 +226,7 @@ bool Win32ShellFolders::OpenEntry(int folder, std::string_view name, std::string
   const Found found = Find(folder, name);
   if (!found.Child) return false;
   const UniqueItem whole(ILCombine(found.Location.Get(), found.Child.Get()));
-  return whole && Open(whole.Get(), argument, owner);
+  return whole && Open(whole.Get(), argument, owner, thread_);
 }
 
 bool Win32ShellFolders::FolderMenu(int folder, PixelPoint at, WindowId owner) {

@@ -9,8 +9,14 @@
 
 #include "win32/ErrorMode.h"
 #include "win32/PostBox.h"
+#include "win32/Win32CodePage.h"
+#include "win32/Win32Dde.h"
+#include "win32/Win32FileAssociations.h"
 #include "win32/Win32Files.h"
+#include "win32/Win32Registry.h"
 #include "win32/Win32ShellExec.h"
+#include "win32/Win32ShellFolders.h"
+#include "win32/Win32ShellIcons.h"
 #include "win32/Win32ShellLinks.h"
 #include "win32/Win32WindowSystem.h"
 
@@ -28,7 +34,13 @@ void RunApart(const Starter::Work& work) {
     Win32ShellExec shell(ShellExecThread::EndsSoon);
     Win32Files files;
     Win32ShellLinks links;
-    work({shell, files, links});
+    Win32Dde dde;
+    Win32FileAssociations associations;
+    Win32Registry keys;
+    Win32ShellFolders folders(ShellExecThread::EndsSoon);
+    Win32ShellIcons icons;
+    const Win32CodePage ansi;
+    work({shell, files, links, dde, associations, keys, folders, icons, ansi});
   }
   if (ready) CoUninitialize();
 }

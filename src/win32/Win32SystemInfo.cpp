@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "win32/MonitorScale.h"
 #include "win32/UniqueHandle.h"
 #include "win32/Wide.h"
 
@@ -93,9 +94,9 @@ bool Win32SystemInfo::AnotherInstanceRuns() {
   return claim_->TakenBefore;
 }
 
-int Win32SystemInfo::CaptionHeight() const { return GetSystemMetrics(SM_CYCAPTION); }
+int Win32SystemInfo::CaptionHeight(int dpi) const { return MetricForDpi(SM_CYCAPTION, dpi); }
 
-int Win32SystemInfo::CaptionButtonWidth() const { return GetSystemMetrics(SM_CXSIZE); }
+int Win32SystemInfo::CaptionButtonWidth(int dpi) const { return MetricForDpi(SM_CXSIZE, dpi); }
 
 std::string Win32SystemInfo::ShortDate() const { return DateNow(DATE_SHORTDATE); }
 

@@ -27,8 +27,8 @@ class Win32SystemInfo final : public SystemInfo {
   DriveFacts FactsOfDrive(const std::string& root) const override;
   bool IsDriveAtHand(const std::string& root) const override;
   bool AnotherInstanceRuns() override;
-  int CaptionHeight() const override;
-  int CaptionButtonWidth() const override;
+  int CaptionHeight(int dpi) const override;
+  int CaptionButtonWidth(int dpi) const override;
   std::string ShortDate() const override;
   std::string LongDate() const override;
   std::string TimeOfDay() const override;

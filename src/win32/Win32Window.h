@@ -37,6 +37,8 @@ class Win32Window : public std::enable_shared_from_this<Win32Window> {
   [[nodiscard]] bool IsForm() const noexcept { return kind_ == forms::PeerKind::Form; }
 
   void SetMenuBar(const std::vector<forms::PopupItem>& items);
+  /// A window whose text the system draws has it in another size.
+  virtual void SetDpi(int /*dpi*/) {}
   void SetLeastSize(PixelSize size) noexcept { leastSize_ = size; }
   /// One of ours; null for any other window.
   static Win32Window* Of(HWND handle) noexcept;

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "win32/MonitorScale.h"
 #include "win32/Wide.h"
 #include "win32/Win32Canvas.h"
 #include "win32/Win32Cursor.h"
@@ -15,8 +16,6 @@ namespace {
 
 /// More events than ever wait at a time; whoever makes them faster must not hold up the program.
 constexpr int kMostEventsAtOnce = 5000;
-
-constexpr float kTwipsOfAnInch = 1440;
 
 void Deliver(const MSG& message) {
   TranslateMessage(&message);
@@ -52,15 +51,6 @@ bool PointerIsOurs() {
 
 }  // namespace
 
-// The scale stays what it is at the start of a process, and it is asked for all the time.
-Win32WindowSystem::Win32WindowSystem() {
-  const WindowDc screen(nullptr);
-  const int dotsX = std::max(GetDeviceCaps(screen.Get(), LOGPIXELSX), 1);
-  const int dotsY = std::max(GetDeviceCaps(screen.Get(), LOGPIXELSY), 1);
-  scale_.TwipsPerPixelX = kTwipsOfAnInch / static_cast<float>(dotsX);
-  scale_.TwipsPerPixelY = kTwipsOfAnInch / static_cast<float>(dotsY);
-}
-
 Win32WindowSystem::~Win32WindowSystem() {
   posts_->Close();
   if (quit_) ForgetQuit();
@@ -74,10 +64,11 @@ std::unique_ptr<forms::WindowPeer> Win32WindowSystem::CreatePeer(const forms::Pe
   return std::make_unique<Win32Peer>(*this, std::move(window));
 }
 
-forms::FrameMargins Win32WindowSystem::MarginsOf(forms::FrameStyle frame, bool menuBar) const {
+forms::FrameMargins Win32WindowSystem::MarginsOf(forms::FrameStyle frame, bool menuBar,
+                                                 int dpi) const {
   if (frame == forms::FrameStyle::None) return {};
   RECT rect{};
-  AdjustWindowRectEx(&rect, FrameStyleOf(frame), menuBar ? TRUE : FALSE, 0);
+  AddFrame(rect, FrameStyleOf(frame), menuBar, dpi);
   return {static_cast<int>(-rect.left), static_cast<int>(-rect.top), static_cast<int>(rect.right),
           static_cast<int>(rect.bottom)};
 }
@@ -101,22 +92,20 @@ forms::WindowPicture Win32WindowSystem::PictureOfWindow(WindowId window) {
 
 std::unique_ptr<Canvas> Win32WindowSystem::PictureOfScreen(const PixelRect& part) {
   if (part.IsEmpty()) return nullptr;
-  const ScreenCanvas screen(nullptr, {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)},
-                            tools_);
+  const ScreenCanvas screen(nullptr, ScreenSize(), tools_);
   return CopyOf(screen, part, tools_);
 }
 
-PixelSize Win32WindowSystem::MeasureText(std::string_view text, const FontSpec& font) {
+PixelSize Win32WindowSystem::MeasureText(std::string_view text, const ScaledFont& font) {
   return tools_->Fonts.Measure(text, font);
 }
 
 Rgb Win32WindowSystem::SystemColor(int index) const { return GetSysColor(index); }
 
-forms::ScreenInfo Win32WindowSystem::Screen() const {
-  forms::ScreenInfo info = scale_;
-  info.Width = static_cast<float>(GetSystemMetrics(SM_CXSCREEN)) * info.TwipsPerPixelX;
-  info.Height = static_cast<float>(GetSystemMetrics(SM_CYSCREEN)) * info.TwipsPerPixelY;
-  return info;
+int Win32WindowSystem::DpiAt(const PixelRect& bounds) const { return DpiOfMonitorAt(bounds); }
+
+PixelSize Win32WindowSystem::ScreenSize() const {
+  return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
 int Win32WindowSystem::ScreenBits() const {

@@ -15,21 +15,22 @@ namespace corvelle::win32 {
 /// The windows of the program on the desktop of Windows.
 class Win32WindowSystem final : public forms::WindowSystem {
  public:
-  Win32WindowSystem();
+  Win32WindowSystem() = default;
   Win32WindowSystem(const Win32WindowSystem&) = delete;
   Win32WindowSystem& operator=(const Win32WindowSystem&) = delete;
   ~Win32WindowSystem() override;
 
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
-  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar) const override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar, int dpi) const override;
   forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
   std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) override;
-  PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
+  PixelSize MeasureText(std::string_view text, const ScaledFont& font) override;
   Rgb SystemColor(int index) const override;
-  forms::ScreenInfo Screen() const override;
+  int DpiAt(const PixelRect& bounds) const override;
+  PixelSize ScreenSize() const override;
   int ScreenBits() const override;
   void SetMousePointer(forms::MousePointer shape) override;
   forms::MousePointer CurrentMousePointer() const override { return pointer_; }
@@ -61,7 +62,6 @@ class Win32WindowSystem final : public forms::WindowSystem {
 
  private:
   std::shared_ptr<DrawingTools> tools_ = std::make_shared<DrawingTools>();
-  forms::ScreenInfo scale_;  // its size is asked anew
   UniqueWindow toolOwner_;
   Win32Timers timers_;
   std::shared_ptr<PostBox> posts_ = std::make_shared<PostBox>();

@@ -29,6 +29,7 @@ class LoggingToolbar final : public ToolbarPort {
   WindowId ButtonBoxHandle() const override { return ButtonBox; }
   WindowId SingleBoxHandle() const override { return SingleBox; }
   TwipRect WindowBounds() const override { return {}; }
+  int WindowDpi() const override { return forms::kPlainDpi; }
   void ResetMenu() override { log_.push_back("ResetMenu"); }
   void RefreshMenu(std::string_view tag) override { Note("RefreshMenu ", tag); }
   void TellRefused(std::vector<std::string>) override { log_.push_back("TellRefused"); }

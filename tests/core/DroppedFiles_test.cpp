@@ -16,6 +16,12 @@ using Names = std::vector<std::string>;
 
 std::string PlainTitle(std::string_view path) { return "title of " + std::string(path); }
 
+Names PlainTitles(const Names& paths) {
+  Names titles;
+  for (const std::string& path : paths) titles.push_back(PlainTitle(path));
+  return titles;
+}
+
 Names TitlesIn(SimFiles& disk) {
   Names titles;
   for (const MenuRecord& record : ReadAllRecords(disk, kAnsi, kFile).ValueOr({})) {
@@ -33,7 +39,7 @@ TEST(EffectOfDrag, TheRightButtonLinksAndTheOthersCopy) {
 TEST(DroppedRecords, StandInAscendingOrderOfTheNamesWithTheirExtensions) {
   SimFiles disk;
   const auto records =
-      DroppedRecords(disk, kAnsi, {"C:\\b.txt", "c:\\C.doc", "C:\\a.exe"}, PlainTitle).Records;
+      DroppedRecords(disk, kAnsi, {"C:\\b.txt", "c:\\C.doc", "C:\\a.exe"}, PlainTitles).Records;
   ASSERT_EQ(records.size(), 3U);
   EXPECT_EQ(records[0], (MenuRecord{"title of C:\\a.exe", "C:\\a.exe", "C:\\a.exe"}));
   EXPECT_EQ(records[1], (MenuRecord{"title of C:\\b.txt", "C:\\b.txt", "C:\\b.txt"}));
@@ -73,12 +79,12 @@ TEST(DroppedRecords, RefuseWhatNoRecordHoldsAndTakeTheOthers) {
   disk.Put(WideFolder() + "b.txt", "x");
   disk.Put("C:\\a.txt", "x");
   const std::string refused = WideFolder() + "b.txt";
-  DroppedEntries dropped = DroppedRecords(disk, kAnsi, {refused, "C:\\a.txt"}, PlainTitle);
+  DroppedEntries dropped = DroppedRecords(disk, kAnsi, {refused, "C:\\a.txt"}, PlainTitles);
   ASSERT_EQ(dropped.Records.size(), 1U);
   EXPECT_EQ(dropped.Records[0].FName, "C:\\a.txt");
   EXPECT_EQ(dropped.Refused, Names{refused});
   disk.GiveShortName(WideFolder(), "6A2F~1");
-  dropped = DroppedRecords(disk, kAnsi, {refused}, PlainTitle);
+  dropped = DroppedRecords(disk, kAnsi, {refused}, PlainTitles);
   EXPECT_TRUE(dropped.Refused.empty());
   EXPECT_EQ(
       dropped.Records,
@@ -216,9 +222,9 @@ TEST(Dropped, NamesOfAnyScriptSurvive) {
   SimFiles disk;
   disk.Put(kFile, kFour);
   const std::string name = "C:\\\xD0\xBF\xD0\xB8\xD1\x81\xD1\x8C\xD0\xBC\xD0\xBE.txt";
-  EXPECT_EQ(
-      InsertDropped(disk, kAnsi, kFile, 0, DroppedRecords(disk, kAnsi, {name}, PlainTitle).Records),
-      EditOutcome::Edited);
+  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 0,
+                          DroppedRecords(disk, kAnsi, {name}, PlainTitles).Records),
+            EditOutcome::Edited);
   EXPECT_EQ(ReadRecord(disk, kAnsi, kFile, 5).ValueOr({}).FName, name);
 }
 
@@ -228,7 +234,7 @@ TEST(Dropped, AThousandFilesComeAtOnce) {
   Names names;
   for (int i = 1000; i >= 1; --i) names.push_back("C:\\f" + std::to_string(10000 + i));
   EXPECT_EQ(
-      InsertDropped(disk, kAnsi, kFile, 3, DroppedRecords(disk, kAnsi, names, PlainTitle).Records),
+      InsertDropped(disk, kAnsi, kFile, 3, DroppedRecords(disk, kAnsi, names, PlainTitles).Records),
       EditOutcome::Edited);
   const auto all = ReadAllRecords(disk, kAnsi, kFile).ValueOr({});
   ASSERT_EQ(all.size(), 1004U);

@@ -23,7 +23,6 @@ constexpr GuardRow kGuardRows[] = {
     {"TellingShell", &GuardFlags::TellingShell, false, false, false},
     {"MenuBuilding", &GuardFlags::MenuBuilding, true, false, false},
     {"ChangingMode", &GuardFlags::ChangingMode, false, false, false},
-    {"IconsLoading", &GuardFlags::IconsLoading, true, false, false},
     {"ItemActionBusy", &GuardFlags::ItemActionBusy, true, false, false},
     {"MenuFormBusy", &GuardFlags::MenuFormBusy, true, false, false},
 };

@@ -127,19 +127,19 @@ TEST(SpecialFolderEntryCommand, ALongFolderLeavesTheNameNoRoom) {
 
 TEST(FindEntryByTitle, TakesTheBestOfTheNames) {
   const std::string stem(46, 'x');
-  const std::vector<ShellFolderEntry> entries = {
-      {"mouse", 1}, {"Mouse", 2},       {" Fonts ", 3},      {"\xD0\x96\xD1\x83\xD0\xBA", 4},
-      {stem, 5},    {stem + "ycut", 6}, {stem + "ycut2", 7}, {"Mouse2", 8}};
-  EXPECT_EQ(FindEntryByTitle(entries, "Mouse"), 1);
-  EXPECT_EQ(FindEntryByTitle(entries, "MOUSE"), 0);
-  EXPECT_EQ(FindEntryByTitle(entries, "fonts"), 2);
-  EXPECT_EQ(FindEntryByTitle(entries, "\xD0\xB6\xD0\xA3\xD0\x9A"), 3);
+  const std::vector<std::string> names = {
+      "mouse", "Mouse",       " Fonts ",      "\xD0\x96\xD1\x83\xD0\xBA",
+      stem,    stem + "ycut", stem + "ycut2", "Mouse2"};
+  EXPECT_EQ(FindEntryByTitle(names, "Mouse"), 1);
+  EXPECT_EQ(FindEntryByTitle(names, "MOUSE"), 0);
+  EXPECT_EQ(FindEntryByTitle(names, "fonts"), 2);
+  EXPECT_EQ(FindEntryByTitle(names, "\xD0\xB6\xD0\xA3\xD0\x9A"), 3);
   // A title of 42 bytes may be cut, a shorter one is whole.
-  EXPECT_EQ(FindEntryByTitle(entries, stem + "y"), 5);
-  EXPECT_EQ(FindEntryByTitle(entries, stem.substr(0, 42)), 4);
-  EXPECT_EQ(FindEntryByTitle(entries, stem.substr(0, 41)), -1);
-  EXPECT_EQ(FindEntryByTitle(entries, "Mous"), -1);
-  EXPECT_EQ(FindEntryByTitle(entries, ""), -1);
+  EXPECT_EQ(FindEntryByTitle(names, stem + "y"), 5);
+  EXPECT_EQ(FindEntryByTitle(names, stem.substr(0, 42)), 4);
+  EXPECT_EQ(FindEntryByTitle(names, stem.substr(0, 41)), -1);
+  EXPECT_EQ(FindEntryByTitle(names, "Mous"), -1);
+  EXPECT_EQ(FindEntryByTitle(names, ""), -1);
   EXPECT_EQ(FindEntryByTitle({}, "Mouse"), -1);
 }
 

@@ -146,7 +146,8 @@ class CustDesk {
     const float twips = world.Desktop.Screen().TwipsPerPixelX;
     PixelRect at = world.Desktop.BoundsOf(box.hWnd());
     if (&box == &Form()) {
-      const forms::FrameMargins frame = world.Desktop.MarginsOf(forms::FrameStyle::Sizable, true);
+      const forms::FrameMargins frame =
+          world.Desktop.MarginsOf(forms::FrameStyle::Sizable, true, Form().Dpi());
       at.left += frame.Left;
       at.top += frame.Top;
     }

@@ -310,6 +310,36 @@ TEST_F(DeskRule, AnIconThatHangsHoldsUpNoListingOfItsDrive) {
   static_cast<void>(folder);
 }
 
+TEST_F(DeskRule, AFileOfThisMachineWhoseIconHangsHoldsUpNoOther) {
+  const auto icon = [](const std::string& path) {
+    return Lookup{.Kind = LookupKind::FileIcon, .Path = path};
+  };
+  const Ticket bad = desk.Ask(icon("C:\\bad.foo"));
+  const Ticket behind = desk.Ask(icon("C:\\good.txt"));
+  desk.Advance(2000);
+  desk.Fail("C:\\bad.foo");
+  EXPECT_TRUE(desk.Ended(bad, End::NotAvailable));
+  EXPECT_EQ(desk.Begun(), std::vector<std::string>{"C:\\good.txt"});
+  desk.Return("C:\\good.txt");
+  EXPECT_TRUE(desk.Ended(behind, End::Answered));
+  // It is left alone for a while, and then for longer.
+  for (const std::int64_t rest : {10'000, 20'000}) {
+    desk.Now += rest - 1;
+    EXPECT_TRUE(desk.Ended(desk.Ask(icon("c:\\BAD.foo")), End::NotAvailable)) << rest;
+    desk.Now += 1;
+    EXPECT_TRUE(desk.IsOpen(desk.Ask(icon("C:\\bad.foo")))) << rest;
+    desk.Advance(2000);
+    desk.Fail("C:\\bad.foo");
+  }
+  // A press asks at once; an answer makes all good.
+  desk.Take(TryAgain{icon("C:\\other.txt")});
+  const Ticket again = desk.Ask(icon("C:\\bad.foo"));
+  EXPECT_TRUE(desk.IsOpen(again));
+  desk.Return("C:\\bad.foo");
+  EXPECT_TRUE(desk.Ended(again, End::Answered));
+  EXPECT_TRUE(desk.Desk().RestingKeys.empty());
+}
+
 TEST_F(DeskRule, NoIconIsLookedForWhereNothingAnswers) {
   desk.AskIsThere("D:\\a");
   desk.Advance(2000);

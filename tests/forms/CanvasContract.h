@@ -55,7 +55,7 @@ TEST_P(CanvasContract, WhatFallsOutsideIsCutOff) {
   sheet->FillBox({-10, -10, 5, 5}, kRed);
   sheet->FillBox({35, 25, 400, 300}, kRed);
   sheet->DrawLine({-100, 10}, {100, 10}, kGreen, 1);
-  sheet->DrawString({-500, -500}, "text", {}, kRed);
+  sheet->DrawString({-500, -500}, "text", {{}, kPlainDpi}, kRed);
   EXPECT_EQ(Count(*sheet, kRed, {0, 0, 40, 30}), 50);
   EXPECT_EQ(Count(*sheet, kGreen, {0, 0, 40, 30}), 40);
   EXPECT_EQ(sheet->PixelAt({-1, 0}), 0U);
@@ -160,7 +160,7 @@ TEST_P(CanvasContract, TextIsDrawnWithinItsMeasureOnTheGroundThatIsThere) {
   const auto sheet = Sheet(200, 60);
   constexpr Rgb kWhite = 0x00FFFFFF;
   sheet->FillBox({0, 0, 200, 60}, kWhite);
-  const FontSpec font;
+  const ScaledFont font{{}, kPlainDpi};
   const PixelSize size = Windows().MeasureText("Text", font);
   sheet->DrawString({20, 20}, "Text", font, 0);
   const int touched = size.width * size.height - Count(*sheet, kWhite, RectAt({20, 20}, size));
@@ -173,7 +173,7 @@ TEST_P(CanvasContract, TextIsDrawnWithinItsMeasureOnTheGroundThatIsThere) {
 }
 
 TEST_P(CanvasContract, AnAmpersandIsACharacterLikeOthers) {
-  const FontSpec font;
+  const ScaledFont font{{}, kPlainDpi};
   EXPECT_GT(Windows().MeasureText("a&b", font).width, Windows().MeasureText("ab", font).width);
 }
 

@@ -64,7 +64,7 @@ class ControlsContract : public testing::TestWithParam<InputHomeFactory> {
   }
   /// A point of a window in pixels of the screen.
   PixelPoint At(const Window& window, int x, int y) {
-    const ScreenInfo screen = Windows().Screen();
+    const ScreenInfo screen = sheet_.Screen();
     float left = 0;
     float top = 0;
     for (const Window* at = &window; at != nullptr; at = at->Container()) {
@@ -248,7 +248,7 @@ TEST_P(ButtonsContract, TheMenuKeyAndTheRightButtonAskForTheContextMenuOnce) {
   home_->MovePointer(At(Tick, 10, 8));
   home_->Press(MouseButton::Right);
   home_->Release(MouseButton::Right);
-  const int twips = static_cast<int>(10 * Windows().Screen().TwipsPerPixelX);
+  const int twips = static_cast<int>(10 * sheet_.Screen().TwipsPerPixelX);
   EXPECT_EQ(sheet_.Seen, Texts{"at " + std::to_string(twips)});
 }
 

@@ -42,10 +42,11 @@ class FrameContract : public testing::TestWithParam<InputHomeFactory> {
     form.Seen.clear();
   }
   PixelRect Bounds(const Form& form) {
-    return ToPixels(form.Left(), form.Top(), form.Width(), form.Height(),
-                    home_->Windows().Screen());
+    return ToPixels(form.Left(), form.Top(), form.Width(), form.Height(), form.Screen());
   }
-  FrameMargins Margins() { return home_->Windows().MarginsOf(FrameStyle::Sizable, false); }
+  FrameMargins Margins() {
+    return home_->Windows().MarginsOf(FrameStyle::Sizable, false, form_.Dpi());
+  }
   void Drag(PixelPoint from, PixelPoint to) {
     // The last move may be taken together with the release.
     home_->DragAlong({from, {(from.x + to.x) / 2, (from.y + to.y) / 2}, to, to});
@@ -56,12 +57,12 @@ class FrameContract : public testing::TestWithParam<InputHomeFactory> {
 TEST_P(FrameContract, TheInsideIsWhatTheFrameLeaves) {
   const FrameMargins margins = Margins();
   EXPECT_GT(margins.Top, margins.Bottom) << "there is a caption";
-  const ScreenInfo screen = home_->Windows().Screen();
+  const ScreenInfo screen = form_.Screen();
   EXPECT_EQ(form_.ScaleWidth(), form_.Width() - static_cast<float>(margins.Left + margins.Right) *
                                                     screen.TwipsPerPixelX);
   EXPECT_EQ(form_.ScaleHeight(), form_.Height() - static_cast<float>(margins.Top + margins.Bottom) *
                                                       screen.TwipsPerPixelY);
-  EXPECT_EQ(home_->Windows().MarginsOf(FrameStyle::None, true), FrameMargins{});
+  EXPECT_EQ(home_->Windows().MarginsOf(FrameStyle::None, true, form_.Dpi()), FrameMargins{});
   EXPECT_EQ(home_->Desktop().Text(form_.hWnd()), "Framed");
 }
 
@@ -99,7 +100,7 @@ TEST_P(FrameContract, ItsCornerSizesTheFormDownToTheLeastSize) {
   const PixelRect larger = Bounds(form_);
   EXPECT_EQ(larger.Size(), (PixelSize{before.Width() + 30, before.Height() + 20}));
   EXPECT_NE(std::count(form_.Seen.begin(), form_.Seen.end(), "size"), 0);
-  const ScreenInfo screen = home_->Windows().Screen();
+  const ScreenInfo screen = form_.Screen();
   form_.SetLeastSize(200 * screen.TwipsPerPixelX, 150 * screen.TwipsPerPixelY);
   Drag({larger.right - 2, larger.bottom - 2}, {larger.left + 50, larger.top + 60});
   EXPECT_EQ(Bounds(form_).Size(), (PixelSize{200, 150}));
@@ -116,9 +117,16 @@ TEST_P(FrameContract, ItIsMinimizedAndComesBack) {
   EXPECT_EQ(Bounds(form_), before);
 }
 
+TEST_P(FrameContract, AFrameIsNoThinnerInALargerScale) {
+  const FrameMargins plain = home_->Windows().MarginsOf(FrameStyle::Sizable, true, 96);
+  const FrameMargins large = home_->Windows().MarginsOf(FrameStyle::Sizable, true, 192);
+  EXPECT_GE(large.Top, plain.Top);
+  EXPECT_GE(large.Left, plain.Left);
+}
+
 TEST_P(FrameContract, ItIsPutInTheMiddleOfTheScreen) {
   form_.Center();
-  const ScreenInfo screen = home_->Windows().Screen();
+  const ScreenInfo screen = form_.Screen();
   EXPECT_EQ(form_.Left(), (screen.Width - form_.Width()) / 2);
   EXPECT_EQ(form_.Top(), (screen.Height - form_.Height()) / 2);
 }
@@ -148,10 +156,10 @@ TEST_P(FrameContract, AMenuBarTakesItsPlaceFromTheInsideAndGivesItBack) {
   form_.SetMenu({{.Caption = "&File", .Items = {{.Caption = "Save\tCtrl+S"}, {.Caption = "E&xit"}}},
                  {.Caption = "&Options", .Items = {{.Caption = "Large", .Checked = true}}}});
   home_->Wait(50);
-  const int menu = home_->Windows().MarginsOf(FrameStyle::Sizable, true).Top - Margins().Top;
+  const int menu =
+      home_->Windows().MarginsOf(FrameStyle::Sizable, true, form_.Dpi()).Top - Margins().Top;
   EXPECT_GT(menu, 10);
-  EXPECT_EQ(form_.ScaleHeight(),
-            before - static_cast<float>(menu) * home_->Windows().Screen().TwipsPerPixelY);
+  EXPECT_EQ(form_.ScaleHeight(), before - static_cast<float>(menu) * form_.Screen().TwipsPerPixelY);
   const PixelRect bounds = Bounds(form_);
   EXPECT_EQ(home_->Desktop().WindowAt(
                 {bounds.left + Margins().Left + 2, bounds.top + Margins().Top + menu + 2}),

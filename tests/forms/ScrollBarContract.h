@@ -16,7 +16,7 @@ class ScrollBarContract : public ControlsContract {
     Bar.Scroll = [this] { sheet_.Note("scroll"); };
     Other.Move(3000, 150, 1200, 375);
     Show();
-    height_ = ToPixels(0, Bar.Height(), Windows().Screen()).y;
+    height_ = ToPixels(0, Bar.Height(), sheet_.Screen()).y;
   }
 
   ScrollBar Bar{sheet_, "Bar"};

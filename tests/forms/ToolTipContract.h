@@ -32,7 +32,7 @@ class ToolTipContract : public ControlsContract {
     return home_->ToolTip();
   }
   PixelPoint OnGraphic(const Graphic& graphic) {
-    const PixelPoint corner = ToPixels(graphic.Left(), graphic.Top(), Windows().Screen());
+    const PixelPoint corner = ToPixels(graphic.Left(), graphic.Top(), sheet_.Screen());
     return At(sheet_, corner.x + 8, corner.y + 8);
   }
 

@@ -250,9 +250,8 @@ TEST_P(WindowSystemContract, TheFocusBringsItsFormToTheForeground) {
 }
 
 TEST_P(WindowSystemContract, TheScreenHasASizeAndColours) {
-  const ScreenInfo screen = Windows().Screen();
-  EXPECT_GT(screen.Width, 0);
-  EXPECT_GT(screen.Height, 0);
+  EXPECT_GE(Windows().ScreenSize().width, 640);
+  EXPECT_GE(Windows().ScreenSize().height, 480);
   EXPECT_GE(Windows().ScreenBits(), 8);
 }
 
@@ -569,13 +568,13 @@ TEST_P(WindowSystemContract, ThePointerCanBeAPictureOrNone) {
   Windows().SetMousePointer(MousePointer::Default);
 }
 
-TEST_P(WindowSystemContract, TheScreenHasASizeAndAScale) {
-  const ScreenInfo screen = Windows().Screen();
-  EXPECT_GE(screen.TwipsPerPixelX, 5.0F);
-  EXPECT_LE(screen.TwipsPerPixelX, 15.0F);
-  EXPECT_EQ(screen.TwipsPerPixelX, screen.TwipsPerPixelY);
-  EXPECT_GE(screen.Width / screen.TwipsPerPixelX, 640.0F);
-  EXPECT_GE(screen.Height / screen.TwipsPerPixelY, 480.0F);
+TEST_P(WindowSystemContract, EveryPlaceHasAScale) {
+  const int dpi = Windows().DpiAt({});
+  EXPECT_GE(dpi, 96);
+  EXPECT_LE(dpi, 288);
+  EXPECT_EQ(Windows().DpiAt({10, 10, 200, 100}), dpi) << "of the same screen";
+  // Where there is no monitor the nearest one counts.
+  EXPECT_EQ(Windows().DpiAt({-32000, -32000, -31999, -31999}), dpi);
 }
 
 TEST_P(WindowSystemContract, SystemColoursAreColours) {
@@ -586,7 +585,7 @@ TEST_P(WindowSystemContract, SystemColoursAreColours) {
 }
 
 TEST_P(WindowSystemContract, TextIsWiderWithMoreCharactersAndAlwaysAsHigh) {
-  const FontSpec font;
+  const ScaledFont font{{}, kPlainDpi};
   const PixelSize none = Windows().MeasureText("", font);
   const PixelSize one = Windows().MeasureText("W", font);
   const PixelSize five = Windows().MeasureText("WWWWW", font);
@@ -596,7 +595,14 @@ TEST_P(WindowSystemContract, TextIsWiderWithMoreCharactersAndAlwaysAsHigh) {
   EXPECT_GT(none.height, 5);
   EXPECT_EQ(one.height, none.height);
   EXPECT_EQ(five.height, none.height);
-  EXPECT_GT(Windows().MeasureText("W", {.Points = 24}).height, none.height);
+  EXPECT_GT(Windows().MeasureText("W", {{.Points = 24}, kPlainDpi}).height, none.height);
+}
+
+TEST_P(WindowSystemContract, TextIsAsLargeAsTheScaleWants) {
+  const PixelSize plain = Windows().MeasureText("WWWWW", {{.Points = 12}, 96});
+  const PixelSize twice = Windows().MeasureText("WWWWW", {{.Points = 12}, 192});
+  EXPECT_NEAR(twice.width, 2 * plain.width, plain.width / 4);
+  EXPECT_NEAR(twice.height, 2 * plain.height, plain.height / 4);
 }
 
 // Pictures.

@@ -37,6 +37,10 @@ TEST(Glyphs, EveryKeyGivesAPictureOfItsSizeInSystemColours) {
       {"paste", {16, 16}, forms::color::Highlight},
       {"delete", {16, 16}, forms::color::ButtonText},
       {"undo", {16, 16}, forms::color::Highlight},
+      {"document", {16, 16}, forms::color::ButtonText},
+      {"folder", {16, 16}, forms::color::ButtonFace},
+      {"program", {16, 16}, forms::color::Highlight},
+      {"link", {16, 16}, forms::color::ButtonText},
   };
   sim::World world;
   for (const Row& row : rows) {

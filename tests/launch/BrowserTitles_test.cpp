@@ -158,6 +158,20 @@ TEST_F(OpenBrowsers, TheBrowserIsLookedForOnce) {
   EXPECT_EQ(world.Associations.Asked().size(), asked);
 }
 
+TEST_F(OpenBrowsers, NoTitleWaitsForADiskThatDoesNotAnswer) {
+  HaveBookmarks();
+  NoteBookmarkFolder("C:\\Ann");
+  Open("Below - Netscape");
+  Open("Bookmarks for Ann");
+  world.Starts.Hang();
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "Below ");
+  EXPECT_EQ(world.Starts.UnderWay(), 2) << "the browser and the bookmarks";
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "Below ");
+  EXPECT_EQ(world.Starts.UnderWay(), 2) << "each is asked once";
+  world.Starts.Resume();
+  EXPECT_EQ(browser.WindowTitle(kPageAddress), "The bookmark");
+}
+
 // ---- the bookmark file ----
 
 struct BookmarkFolder : TitleDesk {

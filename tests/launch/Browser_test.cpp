@@ -70,6 +70,7 @@ class BrowserDesk : public testing::Test {
     world.Associations.Set(".htm", path);
     if (*service != '\0') world.Dde.AddServer(service, kTopic);
   }
+  void OpenUrl(std::string_view url) { browser.OpenUrl(url, {}); }
   void ExpectNoTempFiles() {
     EXPECT_FALSE(world.Files.Has(kPageFile));
     EXPECT_FALSE(world.Files.Has(kUrlFile));
@@ -125,7 +126,7 @@ TEST_F(InitBrowserTest, ANameWithoutAProgramIsTriedAndTheShellGetsTheAddressNoSe
   EXPECT_EQ(browser.BrowserCommand, "");
   EXPECT_EQ(browser.BrowserApplication, "whatever");
   EXPECT_TRUE(browser.BrowserUseDde);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Tries(), 1);
   EXPECT_EQ(world.Shell.Log(), (std::vector<Launch>{Opened("", kUrl, {}, false), Opened(kUrl)}));
   EXPECT_FALSE(browser.BrowserUseDde);
@@ -221,15 +222,15 @@ TEST_F(InitBrowserTest, NoFailureOfTheDiskLeavesATornChoice) {
   }
 }
 
-TEST_F(InitBrowserTest, EventsRunWhileTheProbePageIsThere) {
+TEST_F(InitBrowserTest, ALookThatTakesItsTimeIsMadeOnceAndBesideTheWindows) {
   HaveBrowser(kExplorer);
-  bool there = false;
-  const forms::TimerId timer =
-      world.Desktop.StartTimer(1, [&] { there = world.Files.Has(kPageFile); });
-  world.Desktop.Jump(1);
+  world.Starts.Hang();
   browser.InitBrowser();
-  world.Desktop.StopTimer(timer);
-  EXPECT_TRUE(there);
+  browser.InitBrowser();
+  EXPECT_TRUE(world.Associations.Asked().empty());
+  world.Starts.Resume();
+  EXPECT_EQ(world.Associations.Asked().size(), 1U);
+  EXPECT_EQ(browser.BrowserCommand, kExplorer);
 }
 
 // ---- opening an address ----
@@ -238,18 +239,13 @@ struct OpenUrlTest : BrowserDesk {};
 
 TEST_F(OpenUrlTest, ASecondAddressWhileTheBrowserIsLookedForGoesTheSameWay) {
   HaveBrowser(kExplorer);
-  bool nested = false;
-  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] {
-    if (std::exchange(nested, true)) return;
-    browser.OpenUrl("http://second.example/");
-  });
-  world.Desktop.Jump(1);
-  browser.OpenUrl(kUrl);
-  world.Desktop.StopTimer(timer);
-  EXPECT_TRUE(nested);
+  world.Starts.Hang();
+  OpenUrl(kUrl);
+  OpenUrl("http://second.example/");
+  world.Starts.Resume();
   EXPECT_EQ(world.Shell.Log(),
-            (std::vector<Launch>{Opened(kExplorer, "http://second.example/", "C:\\IE\\"),
-                                 Opened(kExplorer, kUrl, "C:\\IE\\")}));
+            (std::vector<Launch>{Opened(kExplorer, kUrl, "C:\\IE\\"),
+                                 Opened(kExplorer, "http://second.example/", "C:\\IE\\")}));
   EXPECT_EQ(browser.BrowserCommand, kExplorer);
   EXPECT_TRUE(browser.BrowserUseDde);
   ExpectNoTempFiles();
@@ -257,7 +253,7 @@ TEST_F(OpenUrlTest, ASecondAddressWhileTheBrowserIsLookedForGoesTheSameWay) {
 
 TEST_F(OpenUrlTest, ARunningBrowserGetsTheAddressByDde) {
   HaveBrowser(kExplorer, "IExplore");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"IExplore", kTopic, kItem}}));
   EXPECT_TRUE(world.Shell.Log().empty());
   ExpectNoTempFiles();
@@ -265,7 +261,7 @@ TEST_F(OpenUrlTest, ARunningBrowserGetsTheAddressByDde) {
 
 TEST_F(OpenUrlTest, AClosedBrowserIsStartedWithTheAddressAsItsArgument) {
   HaveBrowser(kExplorer);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Tries(), 1);
   EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened(kExplorer, kUrl, "C:\\IE\\")});
   EXPECT_TRUE(browser.BrowserUseDde);
@@ -274,18 +270,17 @@ TEST_F(OpenUrlTest, AClosedBrowserIsStartedWithTheAddressAsItsArgument) {
 TEST_F(OpenUrlTest, AnAddressWhoseTextGoesAwayMeanwhileIsOpenedAllTheSame) {
   HaveBrowser(kExplorer);
   std::string text = kUrl;
-  const forms::TimerId timer = world.Desktop.StartTimer(1, [&] { text.assign(text.size(), 'x'); });
-  world.Desktop.Jump(1);
-  browser.OpenUrl(text);
-  world.Desktop.StopTimer(timer);
-  EXPECT_NE(text, kUrl);
+  world.Starts.Hang();
+  OpenUrl(text);
+  text.assign(text.size(), 'x');
+  world.Starts.Resume();
   EXPECT_EQ(world.Shell.Log(), std::vector{Opened(kExplorer, kUrl, "C:\\IE\\")});
 }
 
 TEST_F(OpenUrlTest, ABrowserWithoutADriveInItsPathStartsWithoutAFolder) {
   world.Files.Put(kIniFile, "Command=iexplore.exe\r\nApplication=IExplore\r\n");
   world.Shell.AddToPath("iexplore.exe");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened("iexplore.exe", kUrl)});
 }
 
@@ -294,17 +289,17 @@ TEST_F(OpenUrlTest, ABrowserThatRefusesOrKeepsSilentIsStarted) {
     world.Shell.ClearLog();
     HaveBrowser(kExplorer);
     world.Dde.AddServer("IExplore", kTopic, outcome);
-    browser.OpenUrl(kUrl);
+    OpenUrl(kUrl);
     EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened(kExplorer, kUrl, "C:\\IE\\")});
   }
 }
 
 TEST_F(OpenUrlTest, ASecondAddressDoesNotLookForTheBrowserAgain) {
   HaveBrowser(kExplorer, "IExplore");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   const std::size_t asked = world.Associations.Asked().size();
   HaveBrowser(kNetscape, "NSShell");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Associations.Asked().size(), asked);
   EXPECT_EQ(world.Dde.Told().size(), 2U);
   EXPECT_EQ(world.Dde.Told()[1].Service, "IExplore");
@@ -313,10 +308,10 @@ TEST_F(OpenUrlTest, ASecondAddressDoesNotLookForTheBrowserAgain) {
 TEST_F(OpenUrlTest, ASecondAddressOfTheShellDoesNotLookForTheBrowserEither) {
   HaveBrowser(kOther);
   world.Associations.Set(".url", "C:\\opener.exe");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   const std::size_t asked = world.Associations.Asked().size();
   HaveBrowser(kExplorer, "IExplore");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Associations.Asked().size(), asked);
   EXPECT_EQ(world.Shell.Log(), (std::vector<Launch>{Opened(kUrl), Opened(kUrl)}));
   EXPECT_TRUE(world.Dde.Told().empty());
@@ -325,7 +320,7 @@ TEST_F(OpenUrlTest, ASecondAddressOfTheShellDoesNotLookForTheBrowserEither) {
 TEST_F(OpenUrlTest, ABrowserThatDoesNotStartLeavesTheAddressToTheShell) {
   HaveBrowser(kExplorer);
   world.Shell.Fail(kExplorer);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Shell.Log(),
             (std::vector<Launch>{Opened(kExplorer, kUrl, "C:\\IE\\", false), Opened(kUrl)}));
   EXPECT_TRUE(browser.BrowserUseDde);
@@ -338,7 +333,7 @@ TEST_F(OpenUrlTest, WhenAllFailEveryStepIsTriedInItsOrderAndTheUserIsTold) {
   world.Shell.Fail(kExplorer);
   world.Shell.Fail(kUrl);
   world.Desktop.Answer(kBrowserError, forms::msgbox::AnswerOk);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Shell.Log(),
             (std::vector<Launch>{Opened(kExplorer, kUrl, "C:\\IE\\", false),
                                  Opened(kUrl, {}, {}, false), Opened(kExplorer, kUrl, {}, false),
@@ -353,7 +348,7 @@ TEST_F(OpenUrlTest, WithoutAProgramForPagesAnyMoreTheShellGetsTheAddress) {
   browser.InitBrowser();
   world.Associations.Set(".htm", "");
   world.Shell.Fail(kExplorer);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Shell.Log(),
             (std::vector<Launch>{Opened(kExplorer, kUrl, "C:\\IE\\", false), Opened(kUrl)}));
   EXPECT_FALSE(browser.BrowserUseDde);
@@ -365,7 +360,7 @@ TEST_F(OpenUrlTest, TheShellThatRefusesTheAddressGetsAFileOfIt) {
   world.Associations.Set(".url", "C:\\opener.exe");
   world.Shell.Associate(".url", "C:\\opener.exe");
   world.Shell.Fail(kUrl);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Shell.Log(),
             (std::vector<Launch>{Opened(kUrl, {}, {}, false), Opened(kUrlFile)}));
   EXPECT_EQ(world.Files.Get(kUrlFile), "[InternetShortcut]\r\nURL=http://a.example/\r\n");
@@ -374,7 +369,7 @@ TEST_F(OpenUrlTest, TheShellThatRefusesTheAddressGetsAFileOfIt) {
 }
 
 TEST_F(OpenUrlTest, WithoutAnyProgramTheShellGetsTheAddressBeforeAnyError) {
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened(kUrl)});
   EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
@@ -409,7 +404,7 @@ TEST_F(OpenUrlTest, TheUsersChoiceComesBeforeAnotherProgramForPages) {
     HaveBrowser(kExplorer);
     const int tries = world.Dde.Tries();
     Browser fresh(program);
-    fresh.OpenUrl(kUrl);
+    fresh.OpenUrl(kUrl, {});
     EXPECT_EQ(world.Dde.Tries() - tries, row.AsksByDde ? 1 : 0) << row.Name;
     EXPECT_EQ(world.Shell.Log(), row.Expected) << row.Name;
   }
@@ -417,11 +412,11 @@ TEST_F(OpenUrlTest, TheUsersChoiceComesBeforeAnotherProgramForPages) {
 
 TEST_F(OpenUrlTest, AChoiceThatChangesMeanwhileIsFollowed) {
   HaveBrowser(kExplorer, "IExplore");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().size(), 1U);
   world.Keys.Set(RegistryRoot::CurrentUser, kChoiceKey, "ProgId", "Chosen");
   SetKey("Chosen\\shell\\open\\command", kOther);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().size(), 1U);
   EXPECT_EQ(world.Shell.Log(), std::vector<Launch>{Opened(kUrl)});
 }
@@ -431,30 +426,30 @@ TEST_F(OpenUrlTest, ABrowserChosenInThisProgramIsTheUsersChoice) {
   world.Keys.Set(RegistryRoot::CurrentUser, kChoiceKey, "ProgId", "Chosen");
   SetKey("Chosen\\shell\\open\\command", kOther);
   world.Dde.AddServer("IExplore", kTopic);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().size(), 1U);
   ASSERT_TRUE(browser.UseBrowser(kNetscape));
   world.Dde.AddServer("NSShell", kTopic);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().size(), 2U);
 }
 
 TEST_F(OpenUrlTest, WithoutAnyBrowserTheMessageComesAndTheNextAddressLooksAgain) {
   world.Shell.Fail(kUrl);
   world.Desktop.Answer(kBrowserError, forms::msgbox::AnswerOk);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   ASSERT_EQ(world.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(world.Desktop.Boxes()[0].Flags, kErrorFlags);
   EXPECT_EQ(world.Desktop.Boxes()[0].Title, "Corvelle");
   HaveBrowser(kExplorer, "IExplore");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().size(), 1U);
 }
 
 TEST_F(OpenUrlTest, ABrowserThatTheUserRefusesEndsItQuietly) {
   HaveBrowser(kExplorer);
   world.Shell.FailToOpen(kExplorer, OpenError::Cancelled);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Shell.Log().size(), 1U);
   EXPECT_TRUE(browser.BrowserUseDde);
 }
@@ -462,16 +457,80 @@ TEST_F(OpenUrlTest, ABrowserThatTheUserRefusesEndsItQuietly) {
 TEST_F(OpenUrlTest, AnAddressThatTheUserRefusesToOpenEndsItQuietly) {
   world.Associations.Set(".url", kOther);
   world.Shell.FailToOpen(kUrl, OpenError::Cancelled);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Shell.Log().size(), 1U);
   EXPECT_TRUE(browser.BrowserUseShell);
 }
 
 TEST_F(OpenUrlTest, AnAddressCannotEndItsArgument) {
   HaveBrowser(kExplorer);
-  browser.OpenUrl("http://a\" -flag");
+  OpenUrl("http://a\" -flag");
   ASSERT_EQ(world.Shell.Log().size(), 1U);
   EXPECT_EQ(world.Shell.Log()[0].Parameters, "http://a%22%20-flag");
+}
+
+// ---- a browser that does not answer ----
+
+struct SlowBrowserTest : BrowserDesk {};
+
+TEST_F(SlowBrowserTest, AConversationThatIsNotAnsweredHoldsUpNothing) {
+  HaveBrowser(kExplorer, "IExplore");
+  world.Starts.Hang();
+  OpenUrl(kUrl);
+  EXPECT_EQ(world.Dde.Tries(), 0) << "nothing is asked by the windows themselves";
+  EXPECT_TRUE(world.Files.Log().empty());
+  LaunchItem(program, kOther);
+  EXPECT_EQ(world.Starts.UnderWay(), 2) << "the next choice is started beside it";
+  world.Starts.Resume();
+  EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"IExplore", kTopic, kItem}}));
+  EXPECT_EQ(world.Shell.Started(), std::vector<std::string>{kOther});
+}
+
+TEST_F(SlowBrowserTest, ASecondPressMeanwhileIsNotASecondStart) {
+  HaveBrowser(kExplorer, "IExplore");
+  world.Starts.Hang();
+  OpenUrl(kUrl);
+  OpenUrl(kUrl);
+  OpenUrl("http://b.example/");
+  EXPECT_EQ(world.Starts.UnderWay(), 2);
+  world.Starts.Resume();
+  EXPECT_EQ(world.Dde.Told().size(), 2U);
+  OpenUrl(kUrl);
+  EXPECT_EQ(world.Dde.Told().size(), 3U) << "a press after the end is a start of its own";
+}
+
+TEST_F(SlowBrowserTest, ALateFailureIsToldWhenItIsKnown) {
+  world.Shell.Fail(kUrl);
+  world.Starts.Hang();
+  std::vector<bool> told;
+  browser.OpenUrl(kUrl, [&told](bool taken) { told.push_back(taken); });
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+  world.Desktop.Answer(kBrowserError, forms::msgbox::AnswerOk);
+  world.Starts.Resume();
+  EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(told, std::vector<bool>{false});
+}
+
+TEST_F(SlowBrowserTest, ABrowserThatIsChosenMeanwhileStaysChosen) {
+  HaveBrowser(kExplorer);
+  world.Starts.Hang();
+  OpenUrl(kUrl);
+  EXPECT_TRUE(browser.UseBrowser(kNetscape));
+  world.Starts.Resume();
+  EXPECT_EQ(browser.BrowserCommand, kNetscape);
+  EXPECT_EQ(browser.BrowserApplication, "NSShell");
+  EXPECT_TRUE(browser.BrowserUseDde);
+}
+
+TEST_F(SlowBrowserTest, ABrowserThatEndedIsToldNothing) {
+  world.Shell.Fail(kUrl);
+  world.Starts.Hang();
+  {
+    Browser ending(program);
+    ending.OpenUrl(kUrl, {});
+  }
+  world.Starts.Resume();
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
 // ---- choosing a browser ----
@@ -481,14 +540,14 @@ struct BrowserChoiceTest : BrowserDesk {};
 TEST_F(BrowserChoiceTest, TheDefaultBrowserIsLookedForWithTheNextAddress) {
   world.Files.Put(kIniFile, "Command=c:\\ie\\iexplore.exe\r\nApplication=IExplore\r\n");
   world.Dde.AddServer("IExplore", kTopic);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   HaveBrowser(kNetscape, "NSShell");
   browser.UseDefaultBrowser();
   EXPECT_FALSE(world.Files.Has(kIniFile));
   EXPECT_EQ(browser.BrowserCommand, "");
   EXPECT_EQ(browser.BrowserApplication, "");
   EXPECT_FALSE(browser.BrowserUseDde);
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().back().Service, "NSShell");
 }
 
@@ -497,7 +556,7 @@ TEST_F(BrowserChoiceTest, AChosenBrowserIsNotedAndUsedFromThenOn) {
   EXPECT_TRUE(browser.UseBrowser(kNetscape));
   EXPECT_EQ(world.Files.Get(kIniFile),
             "Command=" + std::string(kNetscape) + "\r\nApplication=NSShell\r\n");
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"NSShell", kTopic, kItem}}));
 }
 
@@ -524,7 +583,7 @@ TEST_F(BrowserChoiceTest, AChoiceThatCannotBeSavedLeavesTheOldBrowserInForce) {
   world.Files.FailFrom(1, FileError::DiskFull);
   EXPECT_FALSE(browser.UseBrowser(kNetscape));
   world.Files.StopFailing();
-  browser.OpenUrl(kUrl);
+  OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"IExplore", kTopic, kItem}}));
 }
 
@@ -569,6 +628,18 @@ TEST_F(OpenMailTest, AMailProgramThatDoesNotStartGivesTheMailMessage) {
   SetKey("mailto\\shell\\open\\command", "C:\\gone.exe");
   world.Desktop.Answer(kMailError, forms::msgbox::AnswerOk);
   browser.OpenMail("mailto:x");
+  EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
+}
+
+TEST_F(OpenMailTest, AMailProgramThatTakesItsTimeIsStartedOnceAndHoldsUpNothing) {
+  world.Shell.Fail("mailto:x");
+  world.Starts.Hang();
+  browser.OpenMail("mailto:x");
+  browser.OpenMail("mailto:x");
+  EXPECT_EQ(world.Starts.UnderWay(), 1);
+  EXPECT_TRUE(world.Shell.Log().empty());
+  world.Desktop.Answer(kMailError, forms::msgbox::AnswerOk);
+  world.Starts.Resume();
   EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -34,9 +35,9 @@ class LoggingBrowser final : public BrowserPort {
   /// False: no browser takes an address.
   bool Takes = true;
 
-  bool OpenUrl(std::string_view url) override {
+  void OpenUrl(std::string_view url, std::function<void(bool)> then) override {
     log_.push_back("OpenUrl " + std::string(url));
-    return Takes;
+    if (then) then(Takes);
   }
   void OpenMail(std::string_view address) override {
     log_.push_back("OpenMail " + std::string(address));

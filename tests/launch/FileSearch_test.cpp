@@ -57,6 +57,15 @@ TEST_F(FileSearchTest, WhatTheUserRefusesEndsThere) {
   EXPECT_EQ(BoxCount(), 0U);
 }
 
+TEST_F(FileSearchTest, ASearchThatTakesItsTimeIsOpenedOnceAndHoldsUpNothing) {
+  world.Starts.Hang();
+  for (int i = 0; i < 2; ++i) LaunchItem(program, "FileFind");
+  EXPECT_EQ(world.Starts.UnderWay(), 1);
+  EXPECT_TRUE(world.Shell.Log().empty());
+  world.Starts.Resume();
+  EXPECT_EQ(world.Shell.Started(), Strings{kAddress});
+}
+
 TEST_F(FileSearchTest, AMachineWithoutASearchSaysSo) {
   RemoveProtocol();
   EXPECT_FALSE(HasFileSearch(world.Keys));

@@ -95,4 +95,20 @@ TEST(GetFileTitle, AsksTheShellTheDiskAndTheOptions) {
   EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Plan.txt"), "Plan.txt");
 }
 
+TEST(GetFileTitle, OfADiskThatDoesNotAnswerIsThatOfThePath) {
+  sim::World world;
+  Program program(world.Services(), world.Windows());
+  world.Files.AddDrive('D');
+  world.Files.MakeFolders("D:\\Docs\\Old.txt");
+  world.Starts.Hang();
+  EXPECT_EQ(GetFileTitles(program, {"D:\\Docs\\Plan.txt", "D:\\Docs\\Old.txt"}),
+            (std::vector<std::string>{"Plan", "Old"}));
+  EXPECT_EQ(GetFileTitle(program, "D:\\Docs\\Plan.txt"), "Plan");
+  EXPECT_EQ(world.Starts.UnderWay(), 1) << "while it hangs it is not asked again";
+  EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Plan.txt"), "Plan");
+  EXPECT_EQ(world.Starts.UnderWay(), 2) << "another disk is";
+  world.Starts.Resume();
+  EXPECT_EQ(GetFileTitle(program, "D:\\Docs\\Old.txt"), "Old.txt");
+}
+
 }  // namespace corvelle

@@ -21,6 +21,7 @@ class Fetched : public ::testing::Test {
     desk_.World.Icons.ClearCounts();
     desk_.World.Files.ClearLog();
     desk_.Menu.InitIcons();
+    desk_.World.Desktop.Advance(1000);
   }
   /// F5, with what the strip does then.
   void Refresh() {
@@ -125,8 +126,9 @@ TEST_F(Fetched, AFolderThatCannotBeListedHoldsTheOthersUpByNothing) {
     desk_.World.Icons.ClearCounts();
     desk_.World.Files.FailCall(call, FileError::AccessDenied);
     desk_.Menu.InitIcons();
+    desk_.World.Desktop.Advance(1000);
     desk_.World.Files.StopFailing();
-    EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading) << call;
+    desk_.World.Desktop.Pump();
   }
   desk_.World.Files.Vanish("C:\\Docs");
   desk_.Menu.ResetPicIcons();
@@ -169,23 +171,94 @@ TEST_F(Fetched, LargeOnesAreThoseOfTheButtonsAndEachIsAskedForOnce) {
   EXPECT_EQ(Large(), Strings{});
 }
 
-TEST_F(Fetched, NoMenuComesUpMeanwhileUnlessTheStripIsAway) {
-  desk_.PutMenu(1, {Item("Docs", "", "C:\\Docs\\*.*")});
-  for (const bool away : {false, true}) {
-    desk_.TheProgram.Strip.ToolbarMinimized = away;
-    desk_.Menu.ResetPicIcons();
-    int asked = 0;
-    desk_.World.Icons.WhileAsked([&] {
-      ++asked;
-      EXPECT_EQ(desk_.TheProgram.Guards.IconsLoading, !away);
-      EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Hourglass);
-    });
-    Fetch();
-    EXPECT_GT(asked, 3);
-    EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading);
-    EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
-    desk_.World.Icons.WhileAsked({});
+TEST_F(Fetched, AMenuThatIsOpenedMeanwhileOvertakesThem) {
+  std::vector<MenuRecord> items;
+  for (int i = 0; i < 20; ++i) {
+    const std::string file = "C:\\Tools\\" + std::to_string(i) + ".exe";
+    desk_.World.Files.Put(file, "x");
+    items.push_back(Item("Item", file));
   }
+  desk_.PutMenu(1, items);
+  desk_.PutMenu(2, {Item("a", "C:\\Docs\\beta.txt"), Item("b", "C:\\Docs\\gamma.doc")});
+  desk_.World.SlowAnswers.Delay("C:*", 30);
+  desk_.Menu.InitIcons();
+  desk_.World.Desktop.Advance(IconPrefetch::kFirstPause + 100);
+  const auto before = desk_.World.Desktop.Now();
+  const std::size_t fetched = Small().size();
+  EXPECT_GT(fetched, 1U);
+  desk_.Reopen(2);
+  EXPECT_TRUE(desk_.Menu.MenuVisible());
+  EXPECT_EQ(desk_.World.Desktop.Now(), before);
+  // One was under way; then come the two on show.
+  desk_.World.Desktop.Advance(100);
+  for (const char* shown : {"C:\\Docs\\beta.txt", "C:\\Docs\\gamma.doc"}) {
+    const auto at = std::find(Small().begin(), Small().end(), shown) - Small().begin();
+    EXPECT_LE(static_cast<std::size_t>(at), fetched + 2) << shown;
+  }
+  desk_.World.Desktop.Advance(2000);
+  EXPECT_EQ(Times("C:\\Tools\\19.exe"), 1);
+  EXPECT_EQ(Times("C:\\Docs\\beta.txt"), 1);
+}
+
+TEST_F(Fetched, NothingIsAskedOrReadBeforeTheStripHasHadItsMoment) {
+  desk_.PutMenu(1, {Item("a", "C:\\Tools\\tool.exe"), Item("Docs", "", "C:\\Docs\\*.*")});
+  desk_.World.Icons.ClearCounts();
+  desk_.World.Files.ClearLog();
+  const auto before = desk_.World.Desktop.Now();
+  desk_.Menu.InitIcons();
+  desk_.World.Desktop.Advance(IconPrefetch::kFirstPause - 1);
+  EXPECT_EQ(desk_.World.Desktop.Now(), before + IconPrefetch::kFirstPause - 1);
+  EXPECT_EQ(Small(), Strings{});
+  EXPECT_TRUE(desk_.World.Files.Log().empty());
+  EXPECT_EQ(desk_.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
+  desk_.World.Desktop.Advance(1000);
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 1);
+  EXPECT_EQ(Times("C:\\Docs\\Alpha.txt"), 1);
+}
+
+TEST_F(Fetched, AFolderThatDoesNotAnswerHoldsUpNoOtherMenu) {
+  desk_.World.Files.AddDrive('D');
+  desk_.World.Files.Put("D:\\Far\\far.txt", "x");
+  desk_.PutMenu(1, {Item("Far", "", "D:\\Far\\*.*"), Item("here", "C:\\Docs\\gamma.doc")});
+  desk_.PutMenu(2, {Item("a", "C:\\Tools\\tool.exe")});
+  desk_.World.SlowAnswers.Delay("D:", 1500);
+  const auto before = desk_.World.Desktop.Now();
+  Fetch();
+  EXPECT_EQ(desk_.World.Desktop.Now(), before + 1000);
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 1);
+  EXPECT_EQ(Times("D:\\Far\\far.txt"), 0);
+  desk_.World.Desktop.Advance(1000);
+  EXPECT_EQ(Times("D:\\Far\\far.txt"), 1);
+  EXPECT_EQ(Times("C:\\Docs\\gamma.doc"), 1);
+  EXPECT_EQ(Listed("D:\\Far\\"), 1);
+}
+
+TEST_F(Fetched, AWalkThatBeginsAgainLeavesTheOneBefore) {
+  desk_.PutMenu(1, {Item("a", "C:\\Tools\\tool.exe")});
+  desk_.Menu.InitIcons();
+  desk_.World.Desktop.Advance(100);
+  desk_.PutMenu(1, {Item("b", "C:\\Docs\\gamma.doc")});
+  Fetch();
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 0);
+  EXPECT_EQ(Times("C:\\Docs\\gamma.doc"), 1);
+  desk_.Menu.InitIcons();
+  desk_.Menu.UnloadWindow();
+  desk_.World.Files.ClearLog();
+  desk_.World.Desktop.Advance(1000);
+  EXPECT_TRUE(desk_.World.Files.Log().empty());
+}
+
+TEST_F(Fetched, ADiskThatDoesNotAnswerHoldsUpThoseOfOthersForAMoment) {
+  desk_.World.Files.AddDrive('D');
+  std::vector<MenuRecord> items;
+  for (int i = 0; i < 12; ++i) items.push_back(Item("far", "D:\\" + std::to_string(i) + ".exe"));
+  items.push_back(Item("near", "C:\\Tools\\tool.exe"));
+  desk_.PutMenu(1, items);
+  desk_.World.SlowAnswers.Hang("D:*");
+  Fetch();
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 0);
+  desk_.World.Desktop.Advance(4000);
+  EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 1);
 }
 
 TEST_F(Fetched, F5FetchesTheIconsOfTheOpenMenuOnly) {
@@ -195,7 +268,6 @@ TEST_F(Fetched, F5FetchesTheIconsOfTheOpenMenuOnly) {
   Refresh();
   EXPECT_EQ(Times("C:\\Docs\\Alpha.txt"), 1);
   EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 0);
-  EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading);
 }
 
 TEST_F(Fetched, ARefreshAsksForTheIconsOfThePageOnShowOnly) {
@@ -255,7 +327,7 @@ TEST_F(Fetched, AllIconsOfMenusAndLinksAreThereBeforehand) {
 TEST_F(Fetched, WithoutFoldersNoHarmIsDone) {
   desk_.World.Files.Vanish("C:\\Corvelle\\Menus");
   Fetch();
-  EXPECT_FALSE(desk_.TheProgram.Guards.IconsLoading);
+  EXPECT_EQ(Small().front(), "C:\\Corvelle\\corvelle.exe");
 }
 
 }  // namespace

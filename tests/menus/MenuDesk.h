@@ -42,6 +42,7 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   WindowId ButtonBoxHandle() const override { return kNoWindow; }
   WindowId SingleBoxHandle() const override { return kNoWindow; }
   TwipRect WindowBounds() const override { return {Left(), Top(), Width(), Height()}; }
+  int WindowDpi() const override { return Dpi(); }
   void ResetMenu() override {
     Asked.emplace_back("ResetMenu");
     menu_.SetPoll(false);

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "menus/FolderDesk.h"
 #include "menus/items/UpdateRules.h"
 
@@ -162,31 +160,6 @@ TEST_F(SlowFolder, NamesThatComeLateReplaceThoseOfTheFiles) {
   Advance(1000);
   EXPECT_EQ(desk_.Captions(), filled_);
   EXPECT_EQ(desk_.Generated().size(), 4U);
-}
-
-TEST_F(SlowFolder, AnIconOnADiskThatDoesNotAnswerStandsInUntilItDoes) {
-  desk_.World.Icons.SetIndex(".txt", 5);
-  Slow().Delay("D:", 400);
-  desk_.Open(
-      1, {Item("here", "C:\\Docs\\beta.txt", "a.exe"), Item("far", "D:\\Docs\\one.txt", "b.exe")});
-  const auto colour = [this](int item) {
-    const PixelPoint cell = desk_.IconCell(item);
-    return desk_.PixelInside(cell.x + 8, cell.y + 8);
-  };
-  const auto asked = [this] {
-    const Strings& paths = desk_.World.Icons.Asked(IconList::Small);
-    return std::count(paths.begin(), paths.end(), "D:\\Docs\\one.txt");
-  };
-  EXPECT_TRUE(desk_.Menu.MenuVisible());
-  EXPECT_EQ(colour(1), sim::SimShellIcons::ColourOf(5));
-  EXPECT_NE(colour(2), sim::SimShellIcons::ColourOf(5));
-  EXPECT_EQ(asked(), 0);
-  desk_.World.Desktop.PressKey(forms::key::Down);
-  desk_.World.Desktop.PressKey(forms::key::Down);
-  Advance(1000);
-  EXPECT_EQ(colour(2), sim::SimShellIcons::ColourOf(5));
-  EXPECT_EQ(asked(), 1);
-  EXPECT_EQ(desk_.BarredItem(), 2);
 }
 
 }  // namespace

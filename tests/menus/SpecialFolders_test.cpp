@@ -38,11 +38,11 @@ struct FoldersDesk : MenuDesk {
     World.Folders.Put(kDrives, {{"Disk (C:)", 50}});
   }
 
-  [[nodiscard]] OpenedEntry Opened(int folder, std::string name, std::string argument = {}) const {
+  [[nodiscard]] static OpenedEntry Opened(int folder, std::string name, std::string argument = {}) {
     return {.Folder = folder,
             .Name = std::move(name),
             .Argument = std::move(argument),
-            .Owner = TheProgram.ToolbarWindow()};
+            .Owner = kNoWindow};
   }
 
   SpecialFolders Folders{TheProgram};
@@ -172,6 +172,22 @@ TEST(OpenSpecialFolder, WhatIsGoneIsPassedOverQuietly) {
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
 }
 
+TEST(OpenSpecialFolder, WhatTakesItsTimeIsOpenedOnceAndHoldsUpNothing) {
+  FoldersDesk desk;
+  desk.World.Starts.Hang();
+  for (int i = 0; i < 2; ++i) {
+    LaunchItem(desk.TheProgram, "CSIDL_CONTROLS\\Mouse");
+    LaunchItem(desk.TheProgram, "CSIDL_PROGRAMS");
+    LaunchItem(desk.TheProgram, "CSIDL_DRIVES");
+  }
+  EXPECT_EQ(desk.World.Starts.UnderWay(), 3);
+  EXPECT_TRUE(desk.World.Folders.Opened().empty());
+  desk.World.Starts.Resume();
+  EXPECT_EQ(desk.World.Folders.Opened(),
+            (std::vector{desk.Opened(kControls, "Mouse"), desk.Opened(kDrives, "")}));
+  EXPECT_EQ(desk.Started(), Strings{"C:\\Users\\Ann\\Programs"});
+}
+
 // ---- in a menu ----
 
 TEST(SpecialFolderInAMenu, AClickOpensTheEntryOfTheCaption) {
@@ -254,6 +270,15 @@ TEST(ShellMenu, WithoutAChoiceTheMenuAndItsSelectionStay) {
   EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 1);
   EXPECT_EQ(desk.TheProgram.Entry.CurTitle, "Alpha");
   EXPECT_EQ(desk.TheProgram.Entry.CurCommand, "C:\\Tools\\tool.exe");
+}
+
+TEST(ShellMenu, OfAnEntryAsksForNoIconOfItsFolder) {
+  RightClickDesk desk;
+  const int before = desk.World.Folders.Listings();
+  desk.World.Folders.Dismiss();
+  desk.RightClick(2);
+  EXPECT_EQ(desk.World.Folders.Menus().size(), 1U);
+  EXPECT_EQ(desk.World.Folders.Listings(), before);
 }
 
 TEST(ShellMenu, OfAnEntryInAFolderOfTheShellIsThatOfTheEntry) {

@@ -87,13 +87,6 @@ TEST(frmQMenuShowMenu, AKeyWithoutANumberOrAnEmptyFileShowsNothing) {
   EXPECT_FALSE(desk.Menu.MenuVisible());
 }
 
-TEST(frmQMenuShowMenu, NothingOpensWhileTheIconsAreReadAnew) {
-  MenuDesk desk;
-  desk.TheProgram.Guards.IconsLoading = true;
-  desk.Open(1, {Item("A")});
-  EXPECT_FALSE(desk.Menu.MenuVisible());
-}
-
 TEST(frmQMenuShowMenu, AnAmpersandIsShownAsItStands) {
   MenuDesk desk;
   desk.Open(1, {Item("Cut & Paste")});

@@ -123,8 +123,11 @@ TEST_F(Painted, FilesOfOneShellIconShareIt) {
   desk_.World.Files.Put("C:\\b.txt", "x");
   desk_.Open(1, {Item("A", "C:\\a.txt"), Item("B", "C:\\b.txt")});
   EXPECT_EQ(desk_.World.Icons.Lookups(), 2);
-  EXPECT_EQ(desk_.World.Icons.Draws(), 1);
   EXPECT_EQ(IconColour(1), IconColour(2));
+  MenuIcons icons(desk_.TheProgram);
+  icons.WaitUntil(desk_.World.Desktop.Now() + 1);
+  EXPECT_EQ(icons.Find("C:\\a.txt").Cell, icons.Find("C:\\b.txt").Cell);
+  EXPECT_EQ(icons.Count(), 1);
 }
 
 TEST_F(Painted, ForgottenIconsAreAskedForAgain) {
@@ -149,6 +152,12 @@ TEST(frmQMenuProgress, CaptionsStandBeforeTheIconsAndIconsComeOneByOne) {
    public:
     Icons(sim::World& world, std::vector<std::string>& steps) : world_(world), steps_(steps) {}
     std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList list) override {
+      return world_.Icons.FileInfo(path, list);
+    }
+    std::optional<std::string> DisplayName(std::string_view path) override {
+      return world_.Icons.DisplayName(path);
+    }
+    std::optional<IconPixels> PixelsOfFile(std::string_view path, IconList list) override {
       const WindowId menu = world_.Desktop.Find("frmQMenu");
       const bool shown = world_.Desktop.IsShown(menu);
       bool text = false;
@@ -167,12 +176,6 @@ TEST(frmQMenuProgress, CaptionsStandBeforeTheIconsAndIconsComeOneByOne) {
       }
       steps_.push_back(std::string(shown ? "shown" : "hidden") + (text ? " captions" : "") + " " +
                        std::to_string(icons));
-      return world_.Icons.FileInfo(path, list);
-    }
-    std::optional<std::string> DisplayName(std::string_view path) override {
-      return world_.Icons.DisplayName(path);
-    }
-    std::optional<IconPixels> PixelsOfFile(std::string_view path, IconList list) override {
       return world_.Icons.PixelsOfFile(path, list);
     }
     std::optional<IconPixels> PixelsInFile(std::string_view file, int index, int size) override {
@@ -238,7 +241,7 @@ TEST_F(Painted, ThePictureOfAPageHoldsNoCaption) {
   for (int item = 1; item <= 3; ++item) {
     const forms::Label& label = desk_.Menu.Lbl[item];
     const PixelRect row = forms::ToPixels(label.Left(), label.Top(), label.Width(), label.Height(),
-                                          desk_.World.Windows().Screen());
+                                          desk_.World.Desktop.Screen());
     for (int y = row.top; y < row.bottom; ++y) {
       for (int x = row.left; x < row.right; ++x) {
         ASSERT_EQ(desk_.Menu.PagePicture->PixelAt({x, y}), Face()) << item;

@@ -291,8 +291,10 @@ TEST_P(ShellContract, TheMachineTellsItsFacts) {
   SystemInfo& system = shell_->System();
   EXPECT_NE(system.ApplicationFolder().find(":\\"), std::string::npos);
   EXPECT_NE(system.CurrentFolder().find(":\\"), std::string::npos);
-  EXPECT_GE(system.CaptionHeight(), 0);
-  EXPECT_GE(system.CaptionButtonWidth(), 0);
+  EXPECT_GE(system.CaptionHeight(96), 8);
+  EXPECT_GE(system.CaptionButtonWidth(96), 8);
+  EXPECT_GE(system.CaptionHeight(192), system.CaptionHeight(96));
+  EXPECT_GE(system.CaptionButtonWidth(192), system.CaptionButtonWidth(96));
   EXPECT_GE(system.ColourDepth(), 8);
 }
 

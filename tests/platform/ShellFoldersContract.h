@@ -65,6 +65,16 @@ TEST_P(ShellFoldersContract, ListsAFolderByTheNamesThatTheShellShows) {
   for (const ShellFolderEntry& entry : *entries) EXPECT_GE(entry.IconIndex, 0) << entry.Name;
 }
 
+TEST_P(ShellFoldersContract, ItsNamesAreThoseOfItsEntries) {
+  for (const int folder : {kPrograms, kDrives}) {
+    const auto entries = Shell().List(folder);
+    ASSERT_TRUE(entries.has_value()) << folder;
+    std::vector<std::string> expected;
+    for (const ShellFolderEntry& entry : *entries) expected.push_back(entry.Name);
+    EXPECT_EQ(Shell().Names(folder), expected) << folder;
+  }
+}
+
 TEST_P(ShellFoldersContract, ListsAFolderThatLiesNowhere) {
   const auto entries = Shell().List(kDrives);
   ASSERT_TRUE(entries.has_value());
@@ -87,6 +97,7 @@ TEST_P(ShellFoldersContract, AFolderHasAnEntryOfItsOwnAndMayHaveAPath) {
 TEST_P(ShellFoldersContract, AnUnknownFolderIsNone) {
   for (const int folder : {kUnknown, -1, 0x8000, 0x10002}) {
     EXPECT_EQ(Shell().List(folder), std::nullopt) << folder;
+    EXPECT_EQ(Shell().Names(folder), std::nullopt) << folder;
     EXPECT_EQ(Shell().Folder(folder), std::nullopt) << folder;
     EXPECT_EQ(Shell().PathOf(folder), std::nullopt) << folder;
     EXPECT_FALSE(Shell().OpenFolder(folder, kNoWindow)) << folder;

@@ -4,10 +4,16 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
+#include "base/CodePage.h"
 #include "forms/WindowSystem.h"
+#include "platform/DdeClient.h"
+#include "platform/FileAssociations.h"
 #include "platform/FileSystem.h"
+#include "platform/Registry.h"
 #include "platform/ShellExec.h"
+#include "platform/ShellFolders.h"
 #include "platform/ShellLinks.h"
 #include "platform/Starter.h"
 
@@ -63,6 +69,35 @@ TEST_P(StarterContract, TheWorkHasServicesThatAnswer) {
   ASSERT_TRUE(home_->RunUntil([&] { return done; }));
   EXPECT_FALSE(*found);
   EXPECT_EQ(*error, RunError::FileNotFound);
+}
+
+TEST_P(StarterContract, TheWorkCanAskProgramsFoldersAndTheRegistry) {
+  struct Seen {
+    DdeOutcome Said = DdeOutcome::Done;
+    bool HasProgram = true;
+    bool HasKey = true;
+    bool Opened = true;
+    std::string Decoded;
+  };
+  const auto seen = std::make_shared<Seen>();
+  bool done = false;
+  home_->Starts().Start(
+      [seen](const StartServices& services) {
+        seen->Said = services.Dde.Execute("NoSuchProgram", "NoTopic", "x");
+        seen->HasProgram =
+            services.Associations.ProgramFor("C:\\no such file.corvelle").has_value();
+        seen->HasKey =
+            services.Keys.Text(RegistryRoot::CurrentUser, "Software\\NoSuchKey", "").has_value();
+        seen->Opened = services.Folders.OpenEntry(3, "No such entry", {}, kNoWindow);
+        seen->Decoded = services.Ansi.Decode("abc");
+      },
+      [&] { done = true; });
+  ASSERT_TRUE(home_->RunUntil([&] { return done; }));
+  EXPECT_EQ(seen->Said, DdeOutcome::NoServer);
+  EXPECT_FALSE(seen->HasProgram);
+  EXPECT_FALSE(seen->HasKey);
+  EXPECT_FALSE(seen->Opened);
+  EXPECT_EQ(seen->Decoded, "abc");
 }
 
 TEST_P(StarterContract, AnEndThatLetsEventsRunHoldsUpNoPostedWork) {

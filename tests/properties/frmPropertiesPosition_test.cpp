@@ -24,8 +24,8 @@ class PropertiesPosition : public PropertiesDesk {
   PreviewScene Scene() {
     const PixelRect box = Desktop().BoundsOf(Window().picScreen.hWnd());
     return {.Box = box.Size(),
-            .StartText = Desktop().MeasureText(kStartText, {}),
-            .ClockText = Desktop().MeasureText(kClockText, {})};
+            .StartText = Desktop().MeasureText(kStartText, {{}, forms::kPlainDpi}),
+            .ClockText = Desktop().MeasureText(kClockText, {{}, forms::kPlainDpi})};
   }
   Rgb Colour(forms::OleColor colour) { return forms::Resolve(Desktop(), colour); }
 };

@@ -52,7 +52,7 @@ void SimButton::Paint(SimCanvas& canvas, const SimWindow& window, bool focused) 
   const PixelSize size = window.Bounds.Size();
   canvas.FillBox({0, 0, size.width, size.height}, desktop.SystemColor(15));
   const std::string text = WithoutAccessKey(window.Text);
-  const PixelSize words = Desktop().MeasureText(text, {});
+  const PixelSize words = TextSize(text, {{}, window.Dpi});
   const Rgb ink = desktop.SystemColor(window.Enabled ? 18 : 17);
   PixelPoint place{(size.width - words.width) / 2, (size.height - words.height) / 2};
   switch (look_) {
@@ -70,7 +70,7 @@ void SimButton::Paint(SimCanvas& canvas, const SimWindow& window, bool focused) 
       place.x = kBox + 4;
       break;
   }
-  canvas.DrawString(place, text, {}, ink);
+  canvas.DrawString(place, text, {{}, window.Dpi}, ink);
   if (!focused) return;
   const int under = place.y + words.height;
   canvas.DrawLine({place.x, under}, {place.x + words.width, under}, desktop.SystemColor(16), 1);

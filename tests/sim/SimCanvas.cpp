@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "base/Utf8.h"
+#include "forms/Types.h"
 #include "sim/Complain.h"
 #include "sim/SimFont.h"
 
@@ -33,24 +34,24 @@ Rgb Blend(std::uint32_t pixel, Rgb ground) {
 
 }  // namespace
 
-PixelSize CharacterSize(const FontSpec& font, float twipsPerPixel) {
-  const float scale = font.Points / 8.25F * 15.0F / twipsPerPixel;
+PixelSize CharacterSize(const ScaledFont& font) {
+  const float scale = font.Spec.Points / 8.25F * static_cast<float>(font.Dpi) /
+                      static_cast<float>(forms::kPlainDpi);
   const int width = static_cast<int>(static_cast<float>(kBaseCharacter.width) * scale);
   const int height = static_cast<int>(static_cast<float>(kBaseCharacter.height) * scale);
-  return {std::max(width + (font.Bold ? 1 : 0), 1), std::max(height, 1)};
+  return {std::max(width + (font.Spec.Bold ? 1 : 0), 1), std::max(height, 1)};
 }
 
-PixelSize TextSize(std::string_view text, const FontSpec& font, float twipsPerPixel) {
-  const PixelSize character = CharacterSize(font, twipsPerPixel);
+PixelSize TextSize(std::string_view text, const ScaledFont& font) {
+  const PixelSize character = CharacterSize(font);
   int count = 0;
   for (std::size_t at = 0; at < text.size(); at += NextCharacter(text, at).Length) ++count;
   return {character.width * count, character.height};
 }
 
-SimCanvas::SimCanvas(PixelSize size, float twipsPerPixel)
+SimCanvas::SimCanvas(PixelSize size)
     : size_{std::max(size.width, 1), std::max(size.height, 1)},
       room_(size_),
-      twipsPerPixel_(twipsPerPixel),
       pixels_(static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(size_.height)) {
   std::memset(pixels_.data(), 0, pixels_.size() * sizeof(Rgb));
 }
@@ -111,8 +112,9 @@ void SimCanvas::DrawGlyph(const PixelRect& cell, char32_t character, Rgb colour)
   }
 }
 
-void SimCanvas::DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) {
-  const PixelSize character = CharacterSize(font, twipsPerPixel_);
+void SimCanvas::DrawString(PixelPoint at, std::string_view text, const ScaledFont& font,
+                           Rgb colour) {
+  const PixelSize character = CharacterSize(font);
   PixelPoint place = at;
   for (std::size_t i = 0; i < text.size();) {
     const Utf8Step step = NextCharacter(text, i);
@@ -162,8 +164,7 @@ void SimCanvas::Resize(PixelSize size) {
   const PixelSize old = size_;
   const PixelSize wanted{std::max(size.width, 1), std::max(size.height, 1)};
   if (wanted.width > room_.width || wanted.height > room_.height) {
-    SimCanvas larger({std::max(wanted.width, room_.width), std::max(wanted.height, room_.height)},
-                     twipsPerPixel_);
+    SimCanvas larger({std::max(wanted.width, room_.width), std::max(wanted.height, room_.height)});
     larger.DrawCanvas(*this, {0, 0, old.width, old.height}, {0, 0});
     room_ = larger.room_;
     pixels_ = std::move(larger.pixels_);

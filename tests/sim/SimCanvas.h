@@ -13,14 +13,15 @@ namespace corvelle::sim {
 /// A bitmap in memory. Its text is of one built-in fixed-width font.
 class SimCanvas final : public Canvas {
  public:
-  /// At least 1 by 1, all black. `twipsPerPixel` sizes the text.
-  explicit SimCanvas(PixelSize size, float twipsPerPixel = 15);
+  /// At least 1 by 1, all black.
+  explicit SimCanvas(PixelSize size);
 
   PixelSize Size() const override { return size_; }
   void SetOrigin(PixelPoint origin) override { origin_ = origin; }
   void FillBox(const PixelRect& box, Rgb colour) override;
   void DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) override;
-  void DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) override;
+  void DrawString(PixelPoint at, std::string_view text, const ScaledFont& font,
+                  Rgb colour) override;
   void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) override;
   void DrawPixels(const IconPixels& picture, PixelPoint at) override;
   Rgb PixelAt(PixelPoint at) const override;
@@ -49,14 +50,13 @@ class SimCanvas final : public Canvas {
   PixelSize size_;
   PixelSize room_;  // of pixels_, which size_ is a part of
   PixelPoint origin_;
-  float twipsPerPixel_;
   std::vector<Rgb, UnsetPixels> pixels_;
 };
 
 /// Size of one character of the built-in font.
-[[nodiscard]] PixelSize CharacterSize(const FontSpec& font, float twipsPerPixel);
+[[nodiscard]] PixelSize CharacterSize(const ScaledFont& font);
 
 /// Size of a line of text in the built-in font.
-[[nodiscard]] PixelSize TextSize(std::string_view text, const FontSpec& font, float twipsPerPixel);
+[[nodiscard]] PixelSize TextSize(std::string_view text, const ScaledFont& font);
 
 }  // namespace corvelle::sim

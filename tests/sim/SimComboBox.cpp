@@ -95,7 +95,8 @@ void SimComboBox::Focus(bool gained) {
 void SimComboBox::Paint(SimCanvas& canvas, const SimWindow& window, bool /*focused*/) const {
   const PixelSize size = window.Bounds.Size();
   canvas.FillBox({0, 0, size.width, size.height}, Desktop().SystemColor(5));
-  canvas.DrawString({4, 3}, edit_.Text(), {}, Desktop().SystemColor(window.Enabled ? 8 : 17));
+  canvas.DrawString({4, 3}, edit_.Text(), {{}, window.Dpi},
+                    Desktop().SystemColor(window.Enabled ? 8 : 17));
   PaintEdge(Desktop(), canvas, {0, 0, size.width, size.height}, false);
   const PixelRect arrow{size.width - size.height, 1, size.width - 1, size.height - 1};
   canvas.FillBox(arrow, Desktop().SystemColor(15));

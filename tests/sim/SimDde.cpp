@@ -22,6 +22,7 @@ void SimDde::RemoveServer(std::string_view service, std::string_view topic) {
 
 DdeOutcome SimDde::Execute(std::string_view service, std::string_view topic,
                            std::string_view command) {
+  TellCall("Execute", service);
   ++tries_;
   // A name that is none stands for any program, which would be the wrong one.
   if (service.empty() || topic.empty()) return DdeOutcome::NoServer;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/DdeClient.h"
+#include "sim/CallCosts.h"
 
 namespace corvelle::sim {
 
@@ -22,7 +23,7 @@ struct DdeCommand {
 
 /// Programs that offer services, as a test sets them up: each takes every command, or refuses it,
 /// or does not answer.
-class SimDde final : public DdeClient {
+class SimDde final : public DdeClient, public Priced {
  public:
   /// A program that answers so from now on.
   void AddServer(std::string_view service, std::string_view topic,

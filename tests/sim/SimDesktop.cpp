@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Numbers.h"
 #include "sim/Complain.h"
 
 namespace corvelle::sim {
@@ -37,11 +38,11 @@ SimDesktop::~SimDesktop() {
 // Facts.
 
 std::unique_ptr<Canvas> SimDesktop::CreateCanvas(PixelSize size) {
-  return std::make_unique<SimCanvas>(size, options_.TwipsPerPixel);
+  return std::make_unique<SimCanvas>(size);
 }
 
-PixelSize SimDesktop::MeasureText(std::string_view text, const FontSpec& font) {
-  return TextSize(text, font, options_.TwipsPerPixel);
+PixelSize SimDesktop::MeasureText(std::string_view text, const ScaledFont& font) {
+  return TextSize(text, font);
 }
 
 Rgb SimDesktop::SystemColor(int index) const {
@@ -49,6 +50,28 @@ Rgb SimDesktop::SystemColor(int index) const {
   if (found != colours_.end()) return found->second;
   Complain("no system colour " + std::to_string(index));
   return 0;
+}
+
+int SimDesktop::PrimaryDpi() const noexcept {
+  return RoundToInt(1440.0 / static_cast<double>(options_.TwipsPerPixel));
+}
+
+int SimDesktop::DpiAt(const PixelRect& bounds) const {
+  // An empty place is the pixel at its corner.
+  const PixelRect place =
+      RectAt(bounds.TopLeft(), {std::max(bounds.Width(), 1), std::max(bounds.Height(), 1)});
+  const auto roomOn = [&](const PixelRect& monitor) {
+    const PixelRect part = Intersect(place, monitor);
+    return part.IsEmpty() ? 0 : part.Width() * part.Height();
+  };
+  int most = roomOn({0, 0, options_.Screen.width, options_.Screen.height});
+  int dpi = PrimaryDpi();
+  for (const OtherMonitor& monitor : options_.OtherMonitors) {
+    if (roomOn(monitor.Bounds) <= most) continue;
+    most = roomOn(monitor.Bounds);
+    dpi = monitor.Dpi;
+  }
+  return dpi;
 }
 
 forms::ScreenInfo SimDesktop::Screen() const {
@@ -100,6 +123,11 @@ PixelRect SimDesktop::BoundsOf(WindowId window) const {
 int SimDesktop::PaintCount(WindowId window) const {
   const SimWindow* at = Look(window);
   return at != nullptr ? at->PaintCount : 0;
+}
+
+PixelRect SimDesktop::LastPainted(WindowId window) const {
+  const SimWindow* at = Look(window);
+  return at != nullptr ? at->LastPainted : PixelRect{};
 }
 
 bool SimDesktop::IsTopmost(WindowId window) const {

@@ -24,10 +24,18 @@
 
 namespace corvelle::sim {
 
+/// A monitor beside the primary one. Forms may lie on it and take its scale; what they show there
+/// is on no picture of the screen.
+struct OtherMonitor {
+  PixelRect Bounds;
+  int Dpi = forms::kPlainDpi;
+};
+
 struct DesktopOptions {
-  float TwipsPerPixel = 15;  // 15 at 96 dpi, 12 at 120 dpi
+  float TwipsPerPixel = 15;  // of the primary screen: 15 at 96 dpi, 12 at 120 dpi
   PixelSize Screen{1024, 768};
   int ScreenBits = 32;
+  std::vector<OtherMonitor> OtherMonitors;
 };
 
 /// A desktop without a screen: windows of this program and of others, a Z order, a pointer, a
@@ -50,6 +58,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Jump(int milliseconds);
   /// Runs what waits: posted events, paints, timers that are due. Moves no time.
   void Pump();
+  /// Runs before the loop, or one inside it, takes each event.
+  void WhenTurnBegins(std::function<void()> action) { turnBegins_ = std::move(action); }
   /// The most event loops that may run inside each other: that of the program, a yield in one of
   /// its events, a popup menu or a question in an event of that, and one question out of them. What
   /// goes deeper has no bound, and uses up the stack when events come quickly enough.
@@ -200,6 +210,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   /// On the screen.
   PixelRect BoundsOf(WindowId window) const;
   int PaintCount(WindowId window) const;
+  /// What of it was painted last. Pixels of its inside.
+  PixelRect LastPainted(WindowId window) const;
   /// All that is painted by now, of all windows.
   int PaintCount() const noexcept { return paints_; }
   WindowId FocusWindow() const noexcept { return focus_; }
@@ -222,14 +234,18 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   // forms::WindowSystem
   std::unique_ptr<forms::WindowPeer> CreatePeer(const forms::PeerSpec& wanted,
                                                 forms::WindowEvents& events) override;
-  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar) const override;
+  forms::FrameMargins MarginsOf(forms::FrameStyle frame, bool menuBar, int dpi) const override;
   forms::ControlMaker& Controls() override { return controls_; }
   std::unique_ptr<Canvas> CreateCanvas(PixelSize size) override;
   forms::WindowPicture PictureOfWindow(WindowId window) override;
   std::unique_ptr<Canvas> PictureOfScreen(const PixelRect& part) override;
-  PixelSize MeasureText(std::string_view text, const FontSpec& font) override;
+  PixelSize MeasureText(std::string_view text, const ScaledFont& font) override;
   Rgb SystemColor(int index) const override;
-  forms::ScreenInfo Screen() const override;
+  int DpiAt(const PixelRect& bounds) const override;
+  PixelSize ScreenSize() const override { return options_.Screen; }
+  /// The primary screen by its own scale, for a test that reckons with pixels.
+  [[nodiscard]] forms::ScreenInfo Screen() const;
+  [[nodiscard]] int PrimaryDpi() const noexcept;
   int ScreenBits() const override { return options_.ScreenBits; }
   void SetMousePointer(forms::MousePointer shape) override { pointerShape_ = shape; }
   forms::MousePointer CurrentMousePointer() const override { return pointerShape_; }
@@ -438,6 +454,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   int loops_ = 0;  // loops that run inside each other
   int deepestLoops_ = 0;
   std::function<void()> runScript_;
+  std::function<void()> turnBegins_;
   bool quit_ = false;
   std::deque<ScriptedAnswer> answers_;
   std::optional<int> standingAnswer_;

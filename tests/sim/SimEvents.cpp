@@ -30,6 +30,7 @@ void SimDesktop::Pump() {
 
 void SimDesktop::RunWaiting() {
   for (int count = 0; count < kEndlessLoop; ++count) {
+    if (turnBegins_) turnBegins_();
     std::deque<std::function<void()>>& next = !afterEvent_.empty() ? afterEvent_ : events_;
     if (!next.empty()) {
       const std::function<void()> event = std::move(next.front());

@@ -9,6 +9,7 @@ void SimFileAssociations::Set(std::string_view extension, std::string_view progr
 }
 
 std::optional<std::string> SimFileAssociations::ProgramFor(std::string_view file) {
+  TellCall("ProgramFor", file);
   const auto bytes = files_.Get(file);
   if (!bytes) return std::nullopt;
   asked_.emplace_back(file, *bytes);

@@ -6,13 +6,14 @@
 #include <vector>
 
 #include "platform/FileAssociations.h"
+#include "sim/CallCosts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle::sim {
 
 /// Programs by the extensions of files, as a test sets them up. A file must be on the disk to be
 /// asked about.
-class SimFileAssociations final : public FileAssociations {
+class SimFileAssociations final : public FileAssociations, public Priced {
  public:
   explicit SimFileAssociations(const SimFiles& files) : files_(files) {}
 

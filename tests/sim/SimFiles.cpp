@@ -285,6 +285,7 @@ FileResult<SimFiles::Place> SimFiles::FindWritable(std::string_view path) const 
 std::optional<FileError> SimFiles::Enter(std::string_view operation, std::string_view path,
                                          std::string_view other) {
   log_.push_back({std::string(operation), std::string(path), std::string(other)});
+  TellCall(operation, path);
   if (failOn_ && hit_) return failWith_;
   if (failIn_ == 0 || --failIn_ > 0) return std::nullopt;
   hit_ = true;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/FileSystem.h"
+#include "sim/CallCosts.h"
 #include "sim/SimPaths.h"
 
 namespace corvelle::sim {
@@ -17,7 +18,7 @@ namespace corvelle::sim {
 /// A disk that behaves as one of Windows, over real files in a temporary folder that goes with the
 /// object. Drive C: is there from the start. Tests set it up and ask it; what they do themselves is
 /// neither logged nor made to fail.
-class SimFiles final : public FileSystem {
+class SimFiles final : public FileSystem, public Priced {
  public:
   /// One operation as the program asked for it.
   struct Call {

@@ -16,7 +16,8 @@ constexpr int kMenuBar = 19;
 
 }  // namespace
 
-forms::FrameMargins SimDesktop::MarginsOf(forms::FrameStyle frame, bool menuBar) const {
+forms::FrameMargins SimDesktop::MarginsOf(forms::FrameStyle frame, bool menuBar,
+                                          int /*dpi*/) const {
   if (frame == forms::FrameStyle::None) return {};
   const int side = frame == forms::FrameStyle::Sizable ? 4 : 3;
   return {side, side + kCaption + (menuBar ? kMenuBar : 0), side, side};
@@ -25,7 +26,7 @@ forms::FrameMargins SimDesktop::MarginsOf(forms::FrameStyle frame, bool menuBar)
 void SimDesktop::SetMenuBar(WindowId window, const std::vector<forms::PopupItem>& items) {
   SimWindow& form = *Get(window);
   form.MenuBar = items;
-  form.Margins = MarginsOf(form.Frame, !items.empty());
+  form.Margins = MarginsOf(form.Frame, !items.empty(), form.Dpi);
   if (form.Content->Size() != InsideOf(form)) form.Content->Resize(InsideOf(form));
   InvalidateTree(window);
 }
@@ -143,13 +144,15 @@ void SimDesktop::PaintFrame(SimCanvas& screen, const SimWindow& window) const {
   const PixelRect caption{bounds.left + side, bounds.top + side, bounds.right - side,
                           bounds.top + side + kCaption - 1};
   screen.FillBox(caption, SystemColor(window.Id == foreground_ ? 2 : 3));
-  screen.DrawString({caption.left + 3, caption.top + 3}, window.Text, {}, SystemColor(9));
+  screen.DrawString({caption.left + 3, caption.top + 3}, window.Text, {{}, window.Dpi},
+                    SystemColor(9));
   int left = caption.left + 6;
   for (const forms::PopupItem& item : window.MenuBar) {
     if (!item.Visible) continue;
     const std::string text = WithoutAccessKey(item.Caption);
-    screen.DrawString({left, caption.bottom + 4}, text, {}, SystemColor(item.Enabled ? 7 : 17));
-    left += TextSize(text, {}, options_.TwipsPerPixel).width + 12;
+    screen.DrawString({left, caption.bottom + 4}, text, {{}, window.Dpi},
+                      SystemColor(item.Enabled ? 7 : 17));
+    left += TextSize(text, {{}, window.Dpi}).width + 12;
   }
   for (int box = 1; box <= (window.MinimizeBox ? 2 : 1); ++box) {
     const PixelRect place = RectAt({caption.right - box * kButton, caption.top + 2}, {14, 14});

@@ -112,7 +112,7 @@ void SimListBox::Paint(SimCanvas& canvas, const SimWindow& window, bool /*focuse
     if (row == selected_) {
       canvas.FillBox({kEdge, top, size.width - kEdge, top + kRowHeight}, Desktop().SystemColor(13));
     }
-    canvas.DrawString({kEdge + 2, top + 2}, rows_[static_cast<std::size_t>(row)], {},
+    canvas.DrawString({kEdge + 2, top + 2}, rows_[static_cast<std::size_t>(row)], {{}, window.Dpi},
                       Desktop().SystemColor(!window.Enabled    ? 17
                                             : row == selected_ ? 14
                                                                : 8));

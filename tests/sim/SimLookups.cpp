@@ -51,7 +51,11 @@ void SimLookups::Cancel(LookupId id) {
   BeginAll();
 }
 
-bool SimLookups::Collect(int /*milliseconds*/) { return Tell(); }
+bool SimLookups::Collect(int milliseconds) {
+  if (Tell()) return true;
+  if (Costs() != nullptr) Costs()->Wait(milliseconds);
+  return false;
+}
 
 void SimLookups::BeginAll() {
   while (auto begun = ledger_.Begin()) {
@@ -79,6 +83,7 @@ int SimLookups::DelayOf(const std::string& lane) const {
 }
 
 LookupAnswer SimLookups::Answer(LookupId id) const {
+  const CallCosts::Apart thread(Costs());
   return forms::AnswerLookup(*services_, underWay_.at(id).Question.Question);
 }
 

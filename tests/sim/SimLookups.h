@@ -7,13 +7,14 @@
 #include "forms/Alive.h"
 #include "forms/LookupLedger.h"
 #include "platform/Lookups.h"
+#include "sim/CallCosts.h"
 #include "sim/SimDesktop.h"
 
 namespace corvelle::sim {
 
 /// Slow answers without threads: a test says how long each lane takes. At first every question is
 /// answered as soon as its lane is free, and told by the next turn of the message loop.
-class SimLookups final : public Lookups {
+class SimLookups final : public Lookups, public Priced {
  public:
   SimLookups(SimDesktop& desktop, const forms::LookupServices& services) : desktop_(desktop) {
     Use(services);

@@ -34,6 +34,7 @@ bool SimDesktop::PaintOne(WindowId window) {
   const PixelRect dirty = at->Dirty;
   at->Dirty = {};
   ++at->PaintCount;
+  at->LastPainted = dirty;
   ++paints_;
   // Held, since the window may be destroyed by its own painting.
   const std::shared_ptr<SimCanvas> content = at->Content;
@@ -77,7 +78,8 @@ void SimDesktop::Compose(SimCanvas& screen, const SimWindow& window) const {
                    SystemColor(window.Id == foreground_ ? 2 : 3));
     screen.FillBox({bounds.left + 3, bounds.top + 22, bounds.right - 3, bounds.bottom - 3},
                    SystemColor(5));
-    screen.DrawString({bounds.left + 6, bounds.top + 5}, window.Text, {}, SystemColor(9));
+    screen.DrawString({bounds.left + 6, bounds.top + 5}, window.Text, {{}, PrimaryDpi()},
+                      SystemColor(9));
   }
   for (auto child = window.Children.rbegin(); child != window.Children.rend(); ++child) {
     Compose(screen, *Look(*child));
@@ -88,7 +90,7 @@ forms::WindowPicture SimDesktop::PictureOfWindow(WindowId window) {
   if (!IsShown(window)) return {};
   // The window by itself; nothing is to be seen of what lies left of the screen or above it.
   const PixelRect bounds = BoundsOf(window);
-  auto picture = std::make_unique<SimCanvas>(bounds.Size(), options_.TwipsPerPixel);
+  auto picture = std::make_unique<SimCanvas>(bounds.Size());
   picture->SetOrigin({-bounds.left, -bounds.top});
   Compose(*picture, *Look(window));
   picture->FillBox({bounds.left, bounds.top, 0, bounds.bottom}, 0);
@@ -99,7 +101,7 @@ forms::WindowPicture SimDesktop::PictureOfWindow(WindowId window) {
 
 std::unique_ptr<Canvas> SimDesktop::PictureOfScreen(const PixelRect& part) {
   if (part.IsEmpty()) return nullptr;
-  auto picture = std::make_unique<SimCanvas>(part.Size(), options_.TwipsPerPixel);
+  auto picture = std::make_unique<SimCanvas>(part.Size());
   picture->SetOrigin({-part.left, -part.top});
   ComposeAll(*picture);
   // Beyond the screen there is nothing.
@@ -113,7 +115,7 @@ std::unique_ptr<Canvas> SimDesktop::PictureOfScreen(const PixelRect& part) {
 }
 
 SimCanvas SimDesktop::Picture() const {
-  SimCanvas screen(options_.Screen, options_.TwipsPerPixel);
+  SimCanvas screen(options_.Screen);
   ComposeAll(screen);
   return screen;
 }

@@ -21,7 +21,8 @@ class SharedCanvas final : public Canvas {
   void DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) override {
     canvas_->DrawLine(from, to, colour, width);
   }
-  void DrawString(PixelPoint at, std::string_view text, const FontSpec& font, Rgb colour) override {
+  void DrawString(PixelPoint at, std::string_view text, const ScaledFont& font,
+                  Rgb colour) override {
     canvas_->DrawString(at, text, font, colour);
   }
   void DrawCanvas(const Canvas& source, const PixelRect& part, PixelPoint at) override {

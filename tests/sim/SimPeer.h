@@ -72,6 +72,10 @@ class SimPeerOf : public Interface {
   void SetMenuBar(const std::vector<forms::PopupItem>& items) override {
     core_.Desktop().SetMenuBar(core_.Id(), items);
   }
+  void SetDpi(int dpi) override {
+    core_.Window().Dpi = dpi;
+    core_.InvalidateAll();
+  }
   std::unique_ptr<Canvas> ScreenCanvas() override { return core_.ScreenCanvas(); }
 
  protected:

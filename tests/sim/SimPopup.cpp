@@ -111,7 +111,7 @@ int SimDesktop::ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& i
   PixelSize size{2 * kFrame, 2 * kFrame};
   for (const forms::PopupItem& item : items) {
     size.height += HeightOf(item);
-    const int width = MeasureText(item.Caption, {}).width + 2 * kTextLeft + 2 * kFrame;
+    const int width = TextSize(item.Caption, {{}, PrimaryDpi()}).width + 2 * kTextLeft + 2 * kFrame;
     if (item.Visible) size.width = std::max(size.width, width);
   }
   const PixelPoint corner{std::clamp(at.x, 0, std::max(options_.Screen.width - size.width, 0)),
@@ -130,7 +130,7 @@ int SimDesktop::ShowPopup(WindowId owner, const std::vector<forms::PopupItem>& i
       content->FillBox({kFrame, top + kRule / 2, size.width - kFrame, top + kRule / 2 + 1},
                        SystemColor(16));
     } else if (item.Visible) {
-      content->DrawString({kFrame + kTextLeft, top + 2}, item.Caption, {},
+      content->DrawString({kFrame + kTextLeft, top + 2}, item.Caption, {{}, PrimaryDpi()},
                           SystemColor(item.Enabled ? 7 : 17));
     }
     top += HeightOf(item);

@@ -62,6 +62,7 @@ std::vector<std::string> SimShellExec::Started() const {
 }
 
 void SimShellExec::Note(const Launch& launch) {
+  TellCall(launch.How == Launch::Kind::Open ? "Open" : "Run", launch.File);
   log_.push_back(launch);
   if (whileAsked_) whileAsked_(launch);
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/ShellExec.h"
+#include "sim/CallCosts.h"
 #include "sim/SimFiles.h"
 #include "sim/SimShellLinks.h"
 
@@ -29,7 +30,7 @@ struct Launch {
 /// A shell that starts nothing and remembers everything. Programs (exe, com, bat, pif) start when
 /// their file is on the disk, links when they are whole and lead to a file or an item; documents
 /// need an association; folders and addresses open.
-class SimShellExec final : public ShellExec {
+class SimShellExec final : public ShellExec, public Priced {
  public:
   SimShellExec(SimFiles& files, const SimShellLinks& links) : files_(files), links_(links) {}
 

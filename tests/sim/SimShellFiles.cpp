@@ -14,6 +14,7 @@ constexpr int kInvalidFiles = 0x7C;
 }  // namespace
 
 int SimShellFiles::ShFileOperation(const FileOperation& operation) {
+  TellCall("ShFileOperation", operation.From);
   log_.push_back(operation);
   if (operation.Function != fileop::Delete) Complain("a file operation other than deleting");
   if ((operation.Flags & fileop::FilesOnly) == 0) Complain("a file operation on folders too");

@@ -5,12 +5,13 @@
 #include <vector>
 
 #include "platform/ShellFiles.h"
+#include "sim/CallCosts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle::sim {
 
 /// A shell that deletes files of the simulated disk, into a bin where it may.
-class SimShellFiles final : public ShellFiles {
+class SimShellFiles final : public ShellFiles, public Priced {
  public:
   explicit SimShellFiles(SimFiles& files) : files_(files) {}
 

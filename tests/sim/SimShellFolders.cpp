@@ -45,13 +45,23 @@ void SimShellFolders::WhenOpened(int folder, std::string name, std::function<voi
 }
 
 std::optional<std::vector<ShellFolderEntry>> SimShellFolders::List(int folder) {
+  TellCall("ListFolder", "shell");
   ++listings_;
   const auto found = folders_.find(folder);
   if (found == folders_.end() || found->second.Broken) return std::nullopt;
   return found->second.Entries;
 }
 
+std::optional<std::vector<std::string>> SimShellFolders::Names(int folder) {
+  const auto found = folders_.find(folder);
+  if (found == folders_.end() || found->second.Broken) return std::nullopt;
+  std::vector<std::string> names;
+  for (const ShellFolderEntry& entry : found->second.Entries) names.push_back(entry.Name);
+  return names;
+}
+
 std::optional<ShellFolderEntry> SimShellFolders::Folder(int folder) {
+  TellCall("Folder", "shell");
   const auto found = folders_.find(folder);
   if (found == folders_.end()) return std::nullopt;
   return found->second.Self;
@@ -59,6 +69,7 @@ std::optional<ShellFolderEntry> SimShellFolders::Folder(int folder) {
 
 std::optional<IconPixels> SimShellFolders::PixelsOf(int folder, std::string_view name,
                                                     IconList list) {
+  TellCall("PixelsOf", "shell");
   const auto found = folders_.find(folder);
   if (found == folders_.end()) return std::nullopt;
   const int size = list == IconList::Small ? kSmallIconSize : kLargeIcon;
@@ -74,6 +85,7 @@ std::optional<IconPixels> SimShellFolders::PixelsOf(int folder, std::string_view
 }
 
 std::optional<std::string> SimShellFolders::PathOf(int folder) {
+  TellCall("PathOf", "shell");
   const auto found = folders_.find(folder);
   if (found == folders_.end()) return std::nullopt;
   return found->second.Path;
@@ -88,6 +100,7 @@ bool SimShellFolders::Holds(int folder, std::string_view name) const {
 }
 
 bool SimShellFolders::OpenFolder(int folder, WindowId owner) {
+  TellCall("OpenFolder", "shell");
   if (!folders_.contains(folder) || refused_.contains({folder, ""})) return false;
   opened_.push_back({.Folder = folder, .Name = {}, .Argument = {}, .Owner = owner});
   return true;
@@ -95,6 +108,7 @@ bool SimShellFolders::OpenFolder(int folder, WindowId owner) {
 
 bool SimShellFolders::OpenEntry(int folder, std::string_view name, std::string_view argument,
                                 WindowId owner) {
+  TellCall("OpenEntry", "shell");
   const std::pair<int, std::string> place{folder, name};
   if (!Holds(folder, name) || refused_.contains(place)) return false;
   opened_.push_back(
@@ -118,17 +132,20 @@ bool SimShellFolders::Show(ShownMenu menu) {
 }
 
 bool SimShellFolders::FolderMenu(int folder, PixelPoint at, WindowId owner) {
+  TellCall("FolderMenu", "shell");
   if (!folders_.contains(folder)) return false;
   return Show({.Folder = folder, .Name = {}, .At = at, .Owner = owner, .Chosen = {}});
 }
 
 bool SimShellFolders::EntryMenu(int folder, std::string_view name, PixelPoint at, WindowId owner) {
+  TellCall("EntryMenu", "shell");
   if (!Holds(folder, name)) return false;
   return Show(
       {.Folder = folder, .Name = std::string(name), .At = at, .Owner = owner, .Chosen = {}});
 }
 
 bool SimShellFolders::FileMenu(std::string_view path, PixelPoint at, WindowId owner) {
+  TellCall("FileMenu", path);
   if (!files_.Has(path)) return false;
   return Show({.Folder = -1, .Name = std::string(path), .At = at, .Owner = owner, .Chosen = {}});
 }

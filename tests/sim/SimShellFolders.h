@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/ShellFolders.h"
+#include "sim/CallCosts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle::sim {
@@ -38,7 +39,7 @@ struct ShownMenu {
 };
 
 /// The shell's folders of a test: what it puts there. Nothing is there at first.
-class SimShellFolders final : public ShellFolders {
+class SimShellFolders final : public ShellFolders, public Priced {
  public:
   explicit SimShellFolders(SimFiles& files) : files_(files) {}
 
@@ -65,10 +66,11 @@ class SimShellFolders final : public ShellFolders {
 
   const std::vector<OpenedEntry>& Opened() const noexcept { return opened_; }
   const std::vector<ShownMenu>& Menus() const noexcept { return menus_; }
-  /// How often a folder was listed.
+  /// How often a folder was listed with its icons.
   int Listings() const noexcept { return listings_; }
 
   std::optional<std::vector<ShellFolderEntry>> List(int folder) override;
+  std::optional<std::vector<std::string>> Names(int folder) override;
   std::optional<ShellFolderEntry> Folder(int folder) override;
   std::optional<IconPixels> PixelsOf(int folder, std::string_view name, IconList list) override;
   std::optional<std::string> PathOf(int folder) override;

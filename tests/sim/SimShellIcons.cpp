@@ -67,6 +67,11 @@ bool SimShellIcons::Shows(std::string_view path) const {
 }
 
 std::optional<ShellFileInfo> SimShellIcons::FileInfo(std::string_view path, IconList list) {
+  TellCall("FileInfo", path);
+  return LookUp(path, list);
+}
+
+std::optional<ShellFileInfo> SimShellIcons::LookUp(std::string_view path, IconList list) {
   ++lookups_;
   asked_[list].emplace_back(path);
   if (action_) action_();
@@ -88,17 +93,20 @@ std::optional<ShellFileInfo> SimShellIcons::Look(std::string_view path) {
 }
 
 std::optional<std::string> SimShellIcons::DisplayName(std::string_view path) {
+  TellCall("DisplayName", path);
   if (!Shows(path)) return std::nullopt;
   return NameOf(path);
 }
 
 std::optional<IconPixels> SimShellIcons::PixelsOfFile(std::string_view path, IconList list) {
-  const auto info = Look(path);
+  TellCall("PixelsOfFile", path);
+  const auto info = LookUp(path, list);
   if (!info) return std::nullopt;
   return Square(ColourOf(info->SystemIndex), SizeOf(list));
 }
 
 std::optional<IconPixels> SimShellIcons::PixelsInFile(std::string_view file, int index, int size) {
+  TellCall("PixelsInFile", file);
   if (size <= 0 || !HoldsIcon(file, index)) return std::nullopt;
   return Square(ColourOf(file, index), size);
 }
@@ -130,6 +138,7 @@ bool SimShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, Pix
 
 bool SimShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int index, PixelPoint at,
                                  int size) {
+  TellCall("DrawFileIcon", file);
   ++draws_;
   if (!HoldsIcon(file, index)) return false;
   canvas.FillBox(RectAt(at, {size, size}), ColourOf(file, index));
@@ -137,6 +146,7 @@ bool SimShellIcons::DrawFileIcon(Canvas& canvas, std::string_view file, int inde
 }
 
 int SimShellIcons::IconCount(std::string_view file) {
+  TellCall("IconCount", file);
   const auto count = iconCounts_.find(UpperCase(file));
   return count == iconCounts_.end() ? 0 : count->second;
 }

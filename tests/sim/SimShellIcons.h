@@ -9,13 +9,14 @@
 #include <vector>
 
 #include "platform/ShellIcons.h"
+#include "sim/CallCosts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle::sim {
 
 /// A shell that shows each kind of file by an icon of its own: a square of one colour, which tells
 /// which icon it is.
-class SimShellIcons final : public ShellIcons {
+class SimShellIcons final : public ShellIcons, public Priced {
  public:
   explicit SimShellIcons(SimFiles& files) : files_(files) {}
 
@@ -61,6 +62,8 @@ class SimShellIcons final : public ShellIcons {
 
  private:
   [[nodiscard]] bool Shows(std::string_view path) const;
+  /// Counted, and told to whoever acts on a look-up.
+  std::optional<ShellFileInfo> LookUp(std::string_view path, IconList list);
   [[nodiscard]] std::optional<ShellFileInfo> Look(std::string_view path);
   [[nodiscard]] bool HoldsIcon(std::string_view file, int index) const;
   [[nodiscard]] int SizeOf(IconList list) const noexcept;

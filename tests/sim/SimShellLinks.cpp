@@ -118,6 +118,7 @@ class SimShellLinks::Object final : public ShellLinkObject {
   }
 
   bool Resolve(unsigned flags) override {
+    shell_.TellCall("Resolve", link_.Path);
     if (!shell_.Enter("Resolve", std::to_string(flags))) return false;
     if (link_.Path.empty()) return !link_.Item.IsEmpty();
     if (shell_.files_.Has(link_.Path)) return true;
@@ -143,6 +144,7 @@ class SimShellLinks::Object final : public ShellLinkObject {
   std::optional<std::int32_t> GetShowCmd() override { return Tell("GetShowCmd", link_.ShowCmd); }
 
   bool Load(std::string_view linkFile) override {
+    shell_.TellCall("Load", linkFile);
     if (!shell_.Enter("Load", linkFile)) return false;
     const auto bytes = shell_.files_.Read(linkFile, 0, kLongestFile);
     if (!bytes) return false;
@@ -151,6 +153,7 @@ class SimShellLinks::Object final : public ShellLinkObject {
     return link.has_value();
   }
   bool Save(std::string_view linkFile) override {
+    shell_.TellCall("Save", linkFile);
     return shell_.Enter("Save", linkFile) && shell_.files_.Write(linkFile, Format(link_));
   }
 
@@ -211,6 +214,7 @@ std::unique_ptr<ShellLinkObject> SimShellLinks::CreateLinkObject() {
 }
 
 std::optional<ItemIdList> SimShellLinks::SpecialFolderLocation(WindowId, int folder) {
+  TellCall("SpecialFolderLocation", "shell");
   if (!Enter("SpecialFolderLocation", std::to_string(folder))) return std::nullopt;
   const auto found = folders_.find(folder);
   if (found == folders_.end()) return std::nullopt;

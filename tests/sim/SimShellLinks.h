@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/ShellLinks.h"
+#include "sim/CallCosts.h"
 #include "sim/SimFiles.h"
 
 namespace corvelle::sim {
@@ -28,7 +29,7 @@ struct SimLink {
 /// Links as files of the simulated disk, with a content of their own, and the special folders that
 /// a test sets up. A link to a missing file does not resolve; asking for it not quietly would bring
 /// up a box, and makes the test fail.
-class SimShellLinks final : public ShellLinks {
+class SimShellLinks final : public ShellLinks, public Priced {
  public:
   explicit SimShellLinks(SimFiles& files) : files_(files) {}
   SimShellLinks(const SimShellLinks&) = delete;

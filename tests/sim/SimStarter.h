@@ -6,12 +6,13 @@
 #include <vector>
 
 #include "platform/Starter.h"
+#include "sim/CallCosts.h"
 
 namespace corvelle::sim {
 
 /// Starts inside the call, unless a test says that the system takes its time, or that the event
 /// which tells how a start ended waits behind others.
-class SimStarter final : public Starter {
+class SimStarter final : public Starter, public Priced {
  public:
   explicit SimStarter(const StartServices& services) { Use(services); }
 
@@ -43,7 +44,10 @@ class SimStarter final : public Starter {
 
  private:
   void Carry(const Work& work, const std::function<void()>& done) {
-    work(*services_);
+    {
+      const CallCosts::Apart thread(Costs());
+      work(*services_);
+    }
     if (holdsEnds_) {
       ends_.push_back(done);
     } else {

@@ -7,11 +7,12 @@
 #include <vector>
 
 #include "platform/SystemInfo.h"
+#include "sim/CallCosts.h"
 
 namespace corvelle::sim {
 
 /// A machine of which a test sets every fact.
-class SimSystemInfo final : public SystemInfo {
+class SimSystemInfo final : public SystemInfo, public Priced {
  public:
   struct HelpCall {
     WindowId Window = kNoWindow;
@@ -36,6 +37,8 @@ class SimSystemInfo final : public SystemInfo {
   std::map<std::string, DriveFacts> Drives{
       {"C:\\", {3, "System", "NTFS", DriveRoom{512'000'000'000, 128'000'000'000}}}};
   std::set<std::string> DrivesAtRest;
+  /// Measures of a caption on the primary screen, whose scale is Dpi.
+  int Dpi = 96;
   int Caption = 19;
   int CaptionButton = 18;
   int Depth = 32;
@@ -59,19 +62,20 @@ class SimSystemInfo final : public SystemInfo {
     return roots;
   }
   DriveFacts FactsOfDrive(const std::string& root) const override {
-    const auto found = Drives.find(root);
-    return found != Drives.end() ? found->second : DriveFacts{.Type = 1};
+    TellCall("FactsOfDrive", root);
+    return Look(root);
   }
   bool IsDriveAtHand(const std::string& root) const override {
-    const unsigned type = FactsOfDrive(root).Type;
+    TellCall("IsDriveAtHand", root);
+    const unsigned type = Look(root).Type;
     return (type == 3 || type == 6) && !DrivesAtRest.contains(root);
   }
   bool AnotherInstanceRuns() override {
     if (OnInstanceAsked) OnInstanceAsked();
     return OtherInstance;
   }
-  int CaptionHeight() const override { return Caption; }
-  int CaptionButtonWidth() const override { return CaptionButton; }
+  int CaptionHeight(int dpi) const override { return Caption * dpi / Dpi; }
+  int CaptionButtonWidth(int dpi) const override { return CaptionButton * dpi / Dpi; }
   std::string ShortDate() const override { return Date; }
   std::string LongDate() const override { return DateInFull; }
   std::string TimeOfDay() const override { return Time; }
@@ -79,6 +83,12 @@ class SimSystemInfo final : public SystemInfo {
   bool ShowHelpTopic(WindowId window, const std::string& file, int topic) override {
     HelpCalls.push_back({window, file, topic});
     return HasHelpViewer;
+  }
+
+ private:
+  [[nodiscard]] DriveFacts Look(const std::string& root) const {
+    const auto found = Drives.find(root);
+    return found != Drives.end() ? found->second : DriveFacts{.Type = 1};
   }
 };
 

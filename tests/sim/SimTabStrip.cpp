@@ -28,7 +28,7 @@ PixelRect SimTabStrip::TabRect(int tab) const {
   constexpr int kBesideText = 12;
   int left = 2;
   for (int at = 0; at < Count(); ++at) {
-    const PixelSize words = Desktop().MeasureText(tabs_[static_cast<std::size_t>(at)], {});
+    const PixelSize words = TextSize(tabs_[static_cast<std::size_t>(at)], {{}, Window().Dpi});
     const int right = left + words.width + kBesideText;
     if (at == tab) return {left, 2, right, kTabHeight};
     left = right;
@@ -65,8 +65,8 @@ void SimTabStrip::Paint(SimCanvas& canvas, const SimWindow& window, bool /*focus
   for (int tab = 0; tab < Count(); ++tab) {
     const PixelRect place = TabRect(tab);
     PaintEdge(Desktop(), canvas, place, tab != selected_);
-    canvas.DrawString({place.left + 6, place.top + 3}, tabs_[static_cast<std::size_t>(tab)], {},
-                      Desktop().SystemColor(18));
+    canvas.DrawString({place.left + 6, place.top + 3}, tabs_[static_cast<std::size_t>(tab)],
+                      {{}, Window().Dpi}, Desktop().SystemColor(18));
   }
 }
 

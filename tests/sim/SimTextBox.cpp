@@ -43,7 +43,7 @@ void SimTextBox::Undo() { Tell(!readOnly_ && edit_.Undo()); }
 void SimTextBox::Press(forms::MouseButton button, forms::ShiftState shift, PixelPoint at,
                        bool /*second*/) {
   if (button != forms::MouseButton::Left) return;
-  const int width = Desktop().MeasureText("x", {}).width;
+  const int width = TextSize("x", {{}, Window().Dpi}).width;
   edit_.SetCaret((at.x - 3 + width / 2) / width, shift.Shift);
   Changed();
 }
@@ -65,7 +65,7 @@ void SimTextBox::Paint(SimCanvas& canvas, const SimWindow& window, bool focused)
   canvas.FillBox({0, 0, size.width, size.height}, Resolve(Desktop(), backColor_));
   const std::string text = edit_.Text();
   const bool cue = text.empty() && !focused;
-  canvas.DrawString({3, 3}, cue ? cue_ : text, {},
+  canvas.DrawString({3, 3}, cue ? cue_ : text, {{}, window.Dpi},
                     Desktop().SystemColor(window.Enabled && !cue ? 8 : 17));
   if (style_.Border) PaintEdge(Desktop(), canvas, {0, 0, size.width, size.height}, false);
 }

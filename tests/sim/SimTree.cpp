@@ -168,7 +168,7 @@ forms::TreeHit SimTree::HitTest(PixelPoint at) const {
     if (at.x < left + style_.ImageSize) return {node, TreePart::Image};
     left += style_.ImageSize + 2;
   }
-  const int width = Desktop().MeasureText(found.Look.Text, {}).width + 4;
+  const int width = TextSize(found.Look.Text, {{}, Window().Dpi}).width + 4;
   return {node, at.x < left + width ? TreePart::Label : TreePart::Beside};
 }
 
@@ -426,10 +426,10 @@ void SimTree::Paint(SimCanvas& canvas, const SimWindow& window, bool focused) co
     if (!images_.empty()) left += style_.ImageSize + 2;
     const std::string text = id == edited_ ? edit_.Text() : node.Look.Text;
     const bool marked = (id == selected_ && focused) || id == dropTarget_;
-    const PixelSize words = Desktop().MeasureText(text, {});
+    const PixelSize words = TextSize(text, {{}, window.Dpi});
     if (marked)
       canvas.FillBox({left, top, left + words.width + 4, top + 16}, desktop.SystemColor(13));
-    canvas.DrawString({left + 2, top + 2}, text, {},
+    canvas.DrawString({left + 2, top + 2}, text, {{}, window.Dpi},
                       desktop.SystemColor(!window.Enabled ? 17
                                           : marked        ? 14
                                                           : 8));

@@ -32,6 +32,7 @@ struct SimWindow {
   forms::FrameStyle Frame = forms::FrameStyle::None;
   forms::FrameMargins Margins;  // of the frame
   bool MinimizeBox = false;
+  int Dpi = forms::kPlainDpi;  // which its text is drawn for
   PixelSize LeastSize{1, 1};
   std::vector<forms::PopupItem> MenuBar;
   bool Visible = false;
@@ -48,6 +49,7 @@ struct SimWindow {
 
   PixelRect Dirty;     // what it owes to paint
   int PaintCount = 0;  // times that it was asked to paint
+  PixelRect LastPainted;
   std::shared_ptr<SimCanvas> Content;
 
   /// How another program's window answers messages; none: with 0.

@@ -44,7 +44,7 @@ WindowId SimDesktop::Add(SimWindow window) {
   const WindowId id = ++lastId_;
   window.Id = id;
   window.Told = window.Bounds;
-  window.Margins = MarginsOf(window.Frame, !window.MenuBar.empty());
+  window.Margins = MarginsOf(window.Frame, !window.MenuBar.empty(), window.Dpi);
   if (window.Own) window.Content = std::make_shared<SimCanvas>(InsideOf(window));
   const WindowId parent = window.Parent;
   windows_.emplace(id, std::move(window));
@@ -69,6 +69,7 @@ WindowId SimDesktop::AddOwn(const forms::PeerSpec& wanted, forms::WindowEvents& 
                            .Bounds = wanted.Bounds,
                            .Frame = wanted.Frame,
                            .MinimizeBox = wanted.MinimizeBox,
+                           .Dpi = wanted.Dpi,
                            .InTaskbar = wanted.InTaskbar,
                            .HasOwner = wanted.Owner != nullptr});
   Note("create", *Get(id));

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <fstream>
+#include <initializer_list>
 
 #include "sim/Complain.h"
 
@@ -14,9 +15,18 @@ World::World(const WorldOptions& options)
       FileOps(Files),
       Associations(Files),
       Folders(Files),
-      Desktop({.TwipsPerPixel = options.TwipsPerPixel, .Screen = options.Screen}) {
+      Desktop({.TwipsPerPixel = options.TwipsPerPixel,
+               .Screen = options.Screen,
+               .OtherMonitors = options.OtherMonitors}) {
+  System.Dpi = Desktop.PrimaryDpi();
   System.Caption = options.CaptionHeight;
   System.CaptionButton = options.CaptionButtonWidth;
+  for (Priced* const service :
+       std::initializer_list<Priced*>{&Files, &Icons, &Links, &Shell, &FileOps, &Dde, &Associations,
+                                      &System, &Folders, &SlowAnswers, &Starts}) {
+    service->ChargeTo(Costs);
+  }
+  Desktop.WhenTurnBegins([this] { Costs.BeginTurn(); });
   // The search for files of the system.
   Keys.Set(RegistryRoot::ClassesRoot, "search-ms", "URL Protocol", "");
 }
@@ -29,7 +39,8 @@ World::~World() {
 Platform World::Services(ShellExec* shell, ShellIcons* icons, FileSystem* files) {
   SlowAnswers.Use({files != nullptr ? *files : Files, Links, System,
                    icons != nullptr ? *icons : Icons, Folders});
-  Starts.Use({shell != nullptr ? *shell : Shell, files != nullptr ? *files : Files, Links});
+  Starts.Use({shell != nullptr ? *shell : Shell, files != nullptr ? *files : Files, Links, Dde,
+              Associations, Keys, Folders, icons != nullptr ? *icons : Icons, Ansi});
   return {.Files = files != nullptr ? *files : Files,
           .Ansi = Ansi,
           .Keys = Keys,

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/CodePage.h"
 #include "platform/Platform.h"
+#include "sim/CallCosts.h"
 #include "sim/SimAppBars.h"
 #include "sim/SimClipboard.h"
 #include "sim/SimCrashReports.h"
@@ -26,10 +28,11 @@
 namespace corvelle::sim {
 
 struct WorldOptions {
-  float TwipsPerPixel = 15;  // 15 at 96 dpi, 12 at 120 dpi
+  float TwipsPerPixel = 15;  // of the primary screen: 15 at 96 dpi, 12 at 120 dpi
   PixelSize Screen{1024, 768};
   int CaptionHeight = 19;
   int CaptionButtonWidth = 18;
+  std::vector<OtherMonitor> OtherMonitors;
 };
 
 /// All that a program runs on, made afresh for one test: the disk with drive C:, the desktop with
@@ -42,6 +45,7 @@ class World {
   World& operator=(const World&) = delete;
   ~World();
 
+  CallCosts Costs;
   SimFiles Files;
   Windows1252 Ansi;
   SimRegistry Keys;
@@ -59,7 +63,7 @@ class World {
   SimDesktop Desktop;
   SimAppBars Bars{Desktop};
   SimLookups SlowAnswers{Desktop, {Files, Links, System, Icons, Folders}};
-  SimStarter Starts{{Shell, Files, Links}};
+  SimStarter Starts{{Shell, Files, Links, Dde, Associations, Keys, Folders, Icons, Ansi}};
   SimCrashReports Crashes;
 
   /// The services, as the program takes them; with a shell, icons or a disk of the test's own if it

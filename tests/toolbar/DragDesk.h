@@ -27,7 +27,7 @@ struct NotedLinks final : WebLinkPort {
 
 struct NotedBrowser final : BrowserPort {
   std::vector<WindowId> Sources;
-  bool OpenUrl(std::string_view) override { return true; }
+  void OpenUrl(std::string_view, std::function<void(bool)>) override {}
   void OpenMail(std::string_view) override {}
   std::string WindowTitle(std::string_view) override { return "A page "; }
   void NoteDropSource(WindowId window) override { Sources.push_back(window); }
@@ -64,10 +64,12 @@ struct NotedHint final : HintPort {
 struct BusyIcons final : ShellIcons {
   std::function<void()> WhileAsked;
   std::optional<ShellFileInfo> FileInfo(std::string_view, IconList) override {
+    return std::nullopt;
+  }
+  std::optional<std::string> DisplayName(std::string_view) override {
     if (const auto action = std::exchange(WhileAsked, nullptr)) action();
     return std::nullopt;
   }
-  std::optional<std::string> DisplayName(std::string_view) override { return std::nullopt; }
   int IconWidth(IconList) override { return 32; }
   bool DrawSystemIcon(Canvas&, IconList, int, PixelPoint, IconStyle) override { return false; }
   bool DrawFileIcon(Canvas&, std::string_view, int, PixelPoint, int) override { return false; }

@@ -17,7 +17,7 @@ void NotedEdge::SetAppBar(std::optional<Edge> edge, bool rebuild) {
     strip.InitButtons();
     program.Guards.AppBarBusy = false;
   }
-  const forms::ScreenInfo screen = Desk.World.Windows().Screen();
+  const forms::ScreenInfo screen = Desk.World.Desktop.Screen();
   if (program.Strip.ToolbarVertical) {
     const float left = edge == corvelle::Edge::Right ? screen.Width - strip.Width() : 0;
     strip.Move(left, 0, strip.Width(), screen.Height);

@@ -68,7 +68,7 @@ TEST_F(Hint, OverAButtonShowsItsTitleWithoutTakingTheForeground) {
   const PixelRect bounds = desk.World.Desktop.BoundsOf(hint.hWnd());
   EXPECT_EQ(bounds.left, pointer.x - 2);
   EXPECT_EQ(bounds.top, pointer.y + 18);
-  const PixelSize words = desk.World.Desktop.MeasureText(" Letters & more ", {});
+  const PixelSize words = hint.MeasureText(" Letters & more ");
   EXPECT_EQ(bounds.Width(), words.width + 4);
   EXPECT_EQ(bounds.Height(), words.height + 6);
   desk.PointAtButton(3);

@@ -233,7 +233,6 @@ struct Guard {
 TEST(ToolbarOLE, WhileAFileOrMenuIsBeingWorkedOnADropIsRefused) {
   const Guard guards[] = {{"StartingUp", &GuardFlags::StartingUp},
                           {"MenuBuilding", &GuardFlags::MenuBuilding},
-                          {"IconsLoading", &GuardFlags::IconsLoading},
                           {"ItemActionBusy", &GuardFlags::ItemActionBusy},
                           {"MenuFormBusy", &GuardFlags::MenuFormBusy},
                           {"AppBarBusy", &GuardFlags::AppBarBusy},

@@ -35,6 +35,20 @@ class CheckFloors(unittest.TestCase):
         for part in parts:
             self.assertIn(part, breaches[0])
 
+    def test_a_scale_that_belongs_to_no_window_is_found(self):
+        for text in ("int dpi = GetDeviceCaps(dc, LOGPIXELSX);", "int dpi = windows.DpiAt({});", "return kPlainDpi;",
+                     "float twips = 1440.0F / dpi;", "int width = GetSystemMetrics(SM_CXSIZE);",
+                     "UINT dpi = GetDpiForSystem();"):
+            with self.subTest(text):
+                self.write("src/toolbar/strip/Strip.cpp", f"// the strip\n{text}\n")
+                self.assert_one("src/toolbar/strip/Strip.cpp:2", "the scale of no window")
+
+    def test_the_window_system_may_ask_for_scales(self):
+        self.write("src/forms/Form.cpp", "int dpi = windows.DpiAt(bounds);\n")
+        self.write("src/win32/MonitorScale.cpp", "int dpi = GetDeviceCaps(dc, LOGPIXELSX);\n")
+        self.write("src/toolbar/strip/Strip.cpp", "// not kPlainDpi\nint width = GetSystemMetrics(SM_CXSCREEN);\n")
+        self.assertEqual(check_floors.check(self.root), [])
+
     def test_an_orderly_tree_passes(self):
         self.assertEqual(check_floors.check(self.root), [])
 

@@ -7,12 +7,13 @@
 namespace corvelle {
 
 FolderQuestions::FolderQuestions(desk::AnswerDesk& desk, forms::WindowSystem& windows,
-                                 std::function<void()> changed)
+                                 std::function<void()> changed, desk::Urgency how)
     : desk_(desk),
       windows_(windows),
       changed_(std::move(changed)),
+      how_(how),
       owner_(desk.NewOwner()),
-      until_(windows.Now() + kAtOnce) {}
+      until_(how == desk::Urgency::OnShow ? windows.Now() + kAtOnce : 0) {}
 
 FolderQuestions::~FolderQuestions() { desk_.Drop(owner_); }
 
@@ -28,7 +29,7 @@ void FolderQuestions::Ask(Asked& asked) {
   if (const LookupValue* const last = desk_.LastKnown(asked.Question)) asked.Answer.Value = *last;
   desk::Asker later{.Ended = [this, key](const desk::Reply& reply) { Take(key, reply); },
                     .TakesLonger = [this, key](desk::Stage stage) { TakeStage(key, stage); }};
-  desk::Request request{.Question = asked.Question, .Owner = owner_};
+  desk::Request request{.Question = asked.Question, .How = how_, .Owner = owner_};
   const std::int64_t left = until_ - windows_.Now();
   if (left <= 0) {
     desk_.Ask(std::move(request), std::move(later));

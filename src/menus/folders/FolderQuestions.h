@@ -28,8 +28,9 @@ class FolderQuestions {
   static constexpr int kAtOnce = 80;
 
   /// `changed` is called, never inside a call of this, whenever more is known. It may end this.
+  /// What is not asked for a menu on show holds nothing up.
   FolderQuestions(desk::AnswerDesk& desk, forms::WindowSystem& windows,
-                  std::function<void()> changed);
+                  std::function<void()> changed, desk::Urgency how = desk::Urgency::OnShow);
   FolderQuestions(const FolderQuestions&) = delete;
   FolderQuestions& operator=(const FolderQuestions&) = delete;
   /// Nobody wants to know any more; the desk keeps what still comes.
@@ -53,6 +54,7 @@ class FolderQuestions {
   desk::AnswerDesk& desk_;
   forms::WindowSystem& windows_;
   std::function<void()> changed_;
+  desk::Urgency how_;
   std::uint64_t owner_ = 0;
   std::int64_t until_ = 0;  // questions may wait for their answers until then
   std::map<std::string, Asked> asked_;

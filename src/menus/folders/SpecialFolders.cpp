@@ -8,6 +8,7 @@
 #include "core/SpecialFolders.h"
 #include "launch/CommandForm.h"
 #include "launch/LaunchItem.h"
+#include "launch/StartBeside.h"
 #include "platform/ShellFolders.h"
 #include "platform/ShellIcons.h"
 
@@ -20,32 +21,29 @@ using forms::MouseButton;
 constexpr int kDesktop = 0;
 constexpr std::string_view kRootWindow = "? explorer.exe /root,";
 
-bool OpenPath(Program& program, int folder) {
-  const auto path = program.Services.Folders.PathOf(folder);
-  if (!path) return false;
-  LaunchItem(program, *path);
-  return true;
-}
-
-bool OpenDesktop(Program& program, WindowId owner) {
-  const auto path = program.Services.Folders.PathOf(kDesktop);
-  if (!path) return program.Services.Folders.OpenFolder(kDesktop, owner);
-  LaunchItem(program, std::string(kRootWindow) + *path);
-  return true;
-}
-
-bool OpenFolder(Program& program, int folder, WindowId owner) {
-  switch (KindOfSpecialFolder(folder)) {
-    case SpecialFolderKind::Disk:
-      return OpenPath(program, folder);
-    case SpecialFolderKind::Desktop:
-      return OpenDesktop(program, owner);
-    case SpecialFolderKind::Shell:
-      return program.Services.Folders.OpenFolder(folder, owner);
-    case SpecialFolderKind::None:
-      break;
+/// Opens a folder; what is left to do for it as a command, else empty.
+std::string OpenFolder(ShellFolders& folders, int folder) {
+  const SpecialFolderKind kind = KindOfSpecialFolder(folder);
+  if (kind == SpecialFolderKind::None) return {};
+  if (kind != SpecialFolderKind::Shell) {
+    const auto path = folders.PathOf(folder);
+    if (path && kind == SpecialFolderKind::Desktop) return std::string(kRootWindow) + *path;
+    if (path || kind == SpecialFolderKind::Disk) return path.value_or("");
   }
-  return false;
+  // Nothing is asked, and a dialog of the shell would hold up the windows of its owner.
+  static_cast<void>(folders.OpenFolder(folder, kNoWindow));
+  return {};
+}
+
+/// The same for an entry with "CSIDL_": the folder, or the entry of its title in it.
+std::string OpenApart(ShellFolders& folders, const SpecialFolderText& text,
+                      std::string_view argument) {
+  const int folder = CsidlValue(text.Name);
+  if (text.Title.empty()) return OpenFolder(folders, folder);
+  // What is gone or refused is passed over.
+  static_cast<void>(
+      DoSpecialFolder(folders, folder, text.Title, MouseButton::Left, argument, {}, kNoWindow));
+  return {};
 }
 
 /// The root of all folders has no menu; that of its folder on the disk stands in for it.
@@ -66,18 +64,17 @@ bool IsSpecial(std::string_view command) {
 
 }  // namespace
 
-bool DoSpecialFolder(Program& program, int folder, std::string_view title, MouseButton button,
+bool DoSpecialFolder(ShellFolders& folders, int folder, std::string_view title, MouseButton button,
                      std::string_view argument, PixelPoint at, WindowId owner) {
-  ShellFolders& folders = program.Services.Folders;
   const std::string wanted = Trim(title);
   const bool opens = button == MouseButton::Left;
-  // Most titles are whole names, which need no list with the icons of all entries.
+  // Most titles are whole names, which need no list.
   if (opens && folders.OpenEntry(folder, wanted, argument, owner)) return true;
-  const auto entries = folders.List(folder);
-  if (!entries) return false;
-  const int index = FindEntryByTitle(*entries, wanted);
+  const auto names = folders.Names(folder);
+  if (!names) return false;
+  const int index = FindEntryByTitle(*names, wanted);
   if (index < 0) return false;
-  const std::string& name = (*entries)[static_cast<std::size_t>(index)].Name;
+  const std::string& name = (*names)[static_cast<std::size_t>(index)];
   // The shell has refused that one.
   if (opens && name == wanted) return false;
   if (opens) return folders.OpenEntry(folder, name, argument, owner);
@@ -100,17 +97,6 @@ std::string SpecialFolderName(Program& program, std::string_view path, int& icon
   return info ? info->DisplayName : std::string();
 }
 
-bool RunSpecialFolder(Program& program, std::string_view command, std::string_view title,
-                      MouseButton button, std::string_view argument, PixelPoint at,
-                      WindowId owner) {
-  const SpecialFolderText text = ParseSpecialFolder(command, title);
-  const int folder = CsidlValue(text.Name);
-  if (!text.Title.empty())
-    return DoSpecialFolder(program, folder, text.Title, button, argument, at, owner);
-  if (button == MouseButton::Left) return OpenFolder(program, folder, owner);
-  return ShowFolderMenu(program, folder, at, owner);
-}
-
 int SpecialFolders::SpecialFolderIconIndex(std::string_view name) {
   int icon = -1;
   static_cast<void>(
@@ -120,18 +106,27 @@ int SpecialFolders::SpecialFolderIconIndex(std::string_view name) {
 
 void SpecialFolders::OpenSpecialFolder(std::string_view name, std::string_view argument) {
   const bool file = IsQuoted(argument);
-  // What is gone or refused is passed over.
-  static_cast<void>(RunSpecialFolder(program_, name, file ? std::string_view() : argument,
-                                     MouseButton::Left, file ? argument : std::string_view(), {},
-                                     program_.ToolbarWindow()));
+  const SpecialFolderText text = ParseSpecialFolder(name, file ? std::string_view() : argument);
+  StartBeside<std::string>(
+      program_, std::string(name) + "\n" + std::string(argument),
+      [text, parameters = file ? std::string(argument) : std::string()](
+          const StartServices& services) { return OpenApart(services.Folders, text, parameters); },
+      [&program = program_](const std::string& command) {
+        if (!command.empty()) LaunchItem(program, command);
+      });
 }
 
 bool SpecialFolders::ShowContextMenu(std::string_view command, std::string_view title,
                                      PixelPoint at, WindowId owner) {
-  if (IsSpecial(command))
-    return RunSpecialFolder(program_, command, title, MouseButton::Right, {}, at, owner);
-  // A folder that is not expanded has the menu of the folder.
-  return DoExplorerMenu(program_, owner, Trim(command.substr(0, command.find('*'))), at);
+  if (!IsSpecial(command)) {
+    // A folder that is not expanded has the menu of the folder.
+    return DoExplorerMenu(program_, owner, Trim(command.substr(0, command.find('*'))), at);
+  }
+  const SpecialFolderText text = ParseSpecialFolder(command, title);
+  const int folder = CsidlValue(text.Name);
+  if (text.Title.empty()) return ShowFolderMenu(program_, folder, at, owner);
+  return DoSpecialFolder(program_.Services.Folders, folder, text.Title, MouseButton::Right, {}, at,
+                         owner);
 }
 
 }  // namespace corvelle

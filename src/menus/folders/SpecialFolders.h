@@ -8,11 +8,12 @@
 namespace corvelle {
 
 class Program;
+class ShellFolders;
 
 /// Acts on an entry of a folder of the shell by its title: the left button opens it, `argument` on
 /// its command line; any other shows its context menu at a point of the screen (pixels). True when
 /// it was opened or a command of the menu ran. An entry that is gone is none, quietly.
-bool DoSpecialFolder(Program& program, int folder, std::string_view title,
+bool DoSpecialFolder(ShellFolders& folders, int folder, std::string_view title,
                      forms::MouseButton button, std::string_view argument, PixelPoint at,
                      WindowId owner);
 
@@ -24,14 +25,8 @@ bool DoExplorerMenu(Program& program, WindowId owner, std::string_view path, Pix
 std::string SpecialFolderName(Program& program, int folder, int& iconOut);
 std::string SpecialFolderName(Program& program, std::string_view path, int& iconOut);
 
-/// What an entry with "CSIDL_" does: the button on the folder, or on the entry of that title in
-/// it. See DoSpecialFolder.
-bool RunSpecialFolder(Program& program, std::string_view command, std::string_view title,
-                      forms::MouseButton button, std::string_view argument, PixelPoint at,
-                      WindowId owner);
-
 /// The folders of the shell, for all who open them, show their icons or their menus. What is not
-/// there is passed over quietly.
+/// there is passed over quietly. They open beside the windows; see StartBeside.
 class SpecialFolders final : public SpecialFoldersPort {
  public:
   explicit SpecialFolders(Program& program) : program_(program) {}

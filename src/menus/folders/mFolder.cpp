@@ -69,14 +69,6 @@ FoundFiles ListFolderItem(const FolderLister& list, const FolderItem& item) {
   return found;
 }
 
-FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item) {
-  return ListFolderItem(
-      [&files](const std::string& folder, const std::string& pattern) {
-        return files.List(folder, pattern).ValueOr({});
-      },
-      item);
-}
-
 clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
                            const FoundFiles& found, std::vector<std::string>& paths) {
   clsFolder folder;

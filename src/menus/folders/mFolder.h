@@ -48,7 +48,6 @@ using FolderLister =
 /// All files of a folder item, sorted: folder by folder, or as one list. Each folder is listed
 /// once.
 [[nodiscard]] FoundFiles ListFolderItem(const FolderLister& list, const FolderItem& item);
-[[nodiscard]] FoundFiles ListFolderItem(FileSystem& files, const FolderItem& item);
 
 /// Adds the entries of the folder item at record `record` of the source, behind the records before
 /// it. `found`: what it holds. `paths` gets the full paths of its files when the item is to be

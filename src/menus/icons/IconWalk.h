@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "menus/folders/mFolder.h"
+
 namespace corvelle {
 
 class Program;
@@ -16,9 +18,10 @@ struct IconTexts {
   std::vector<std::string> Items;
 };
 
-/// Reads a menu file and lists its open folder items on the disk. A file that cannot be read has no
-/// icons, and a folder that cannot be listed no files.
-[[nodiscard]] IconTexts IconTextsOf(Program& program, std::string_view menuFile);
+/// Reads a menu file; `list` says what its open folder items hold. A file that cannot be read has
+/// no icons.
+[[nodiscard]] IconTexts IconTextsOf(Program& program, std::string_view menuFile,
+                                    const FolderLister& list);
 
 /// True for an icon text that is not fetched beforehand: "/h", case apart, stands behind its first
 /// NUL.

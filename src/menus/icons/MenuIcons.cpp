@@ -2,11 +2,15 @@
 
 #include <algorithm>
 #include <utility>
+#include <variant>
 
+#include "base/Digest.h"
 #include "base/Text.h"
 #include "core/MenuRecord.h"
 #include "core/Program.h"
+#include "desk/LookupPlaces.h"
 #include "icons/Glyphs.h"
+#include "icons/IconQuestions.h"
 #include "icons/IconResolution.h"
 #include "platform/ShellIcons.h"
 
@@ -15,36 +19,63 @@ namespace corvelle {
 namespace {
 
 constexpr int kFirstRoom = 16;
-/// How often an icon is drawn whose colours change each time meanwhile.
-constexpr int kMostTries = 3;
-/// Under which the fallback icon is kept; no icon text is like it.
-const std::string kFallbackKey(1, '\0');
-/// For how long a disk that has answered is not asked again. Milliseconds.
-constexpr std::int64_t kReachableFor = 10'000;
+/// Under which the blank document is kept; no icon text is like it.
+const std::string kBlankKey(1, '\0');
+/// With what the key of a large icon begins.
+constexpr char kLargeMark = '\1';
+/// How long one place is waited for while the icons of a page are asked for. Milliseconds.
+constexpr int kMostOfOnePlace = 40;
+/// Of the icons that are fetched beforehand, so many that do not answer may be under way.
+constexpr std::size_t kMostSlow = 8;
 
-/// "D:\\", or the share of a path on a server; empty for a text that is no full path.
-std::string RootOfPath(std::string_view path) {
-  if (path.size() > 2 && path[1] == ':' && path[2] == '\\') return std::string(path.substr(0, 3));
-  if (!path.starts_with("\\\\")) return {};
-  const std::size_t share = path.find('\\', 2);
-  if (share == std::string_view::npos) return std::string(path);
-  return std::string(path.substr(0, path.find('\\', share + 1)));
+const IconPixels* PixelsOf(const LookupValue& value) {
+  const auto* const pixels = std::get_if<IconPixels>(&value);
+  return pixels != nullptr && !pixels->IsEmpty() && pixels->IsWhole() ? pixels : nullptr;
+}
+
+std::uint64_t DigestOf(const IconPixels& pixels) {
+  Digest digest;
+  digest.Add(static_cast<std::uint64_t>(pixels.Width));
+  for (const std::uint32_t pixel : pixels.Pixels) digest.Add(std::uint64_t{pixel});
+  return digest.Value();
+}
+
+/// What is waited for when the question is: a link leads to a place that is not known yet.
+std::string PlaceAskedOf(const Lookup& question) {
+  return desk::DependsOnTarget(question) ? "links" : desk::LaneOfLookup(question);
 }
 
 }  // namespace
 
-MenuIcons::MenuIcons(Program& program) : program_(program), owner_(program.Answers.NewOwner()) {}
+MenuIcons::MenuIcons(Program& program)
+    : program_(program), shown_(program.Answers.NewOwner()), ahead_(program.Answers.NewOwner()) {}
 
-MenuIcons::~MenuIcons() { program_.Answers.Drop(owner_); }
+MenuIcons::~MenuIcons() {
+  program_.Answers.Drop(shown_);
+  program_.Answers.Drop(ahead_);
+}
 
 void MenuIcons::ResetPicIcons() {
   ++resets_;
+  late_.clear();
+  program_.Answers.Drop(shown_);
+  program_.Answers.Drop(ahead_);
+  toFetch_.clear();
+  fetching_.clear();
+  slow_.clear();
   colIconFile_.clear();
   colIconIndex_.clear();
+  cellsByPixels_.clear();
+  cellsByExtension_.clear();
   fetched_.clear();
   picIcons_.reset();
   cells_ = 0;
   room_ = 0;
+}
+
+void MenuIcons::WaitUntil(std::int64_t moment) {
+  waitUntil_ = moment;
+  late_.clear();
 }
 
 IconForm MenuIcons::Classify(std::string_view text, IconCaller caller) const {
@@ -55,24 +86,207 @@ IconForm MenuIcons::Classify(std::string_view text, IconCaller caller) const {
                       caller);
 }
 
-void MenuIcons::DrawMenuIcon(Canvas& canvas, PixelPoint at, std::string_view iconText) {
+IconPicture MenuIcons::Find(std::string_view iconText) {
+  const std::string text = Trim(iconText);
+  const IconForm form = Classify(text);
+  const std::string key = Enter(text, form);
+  if (key.empty()) return Peek(iconText);
+  colIconFile_.at(key).OnShow = true;
+  Ask(key, desk::Urgency::OnShow, true);
+  const auto entry = colIconFile_.find(key);
+  if (entry != colIconFile_.end() && entry->second.Is == State::Missing) {
+    const std::string blank = EnterBlank();
+    colIconFile_.at(blank).OnShow = true;
+    Ask(blank, desk::Urgency::OnShow, true);
+  }
+  return Peek(iconText);
+}
+
+IconPicture MenuIcons::Peek(std::string_view iconText) {
+  const std::string text = Trim(iconText);
+  const IconForm form = Classify(text);
+  if (form.Kind == IconKind::BuiltIn) return {.Glyph = form.Text};
+  if (form.Kind == IconKind::Empty || IsSeparatorIcon(text)) return {};
+  if (form.Kind == IconKind::SystemIndex) return {.Cell = LoadSystemIcon(form.Index)};
+  const std::string key = LowerCase(text);
+  if (colIconFile_.contains(key)) return PictureOf(key);
+  return {.Glyph = std::string(NeutralGlyph(form)), .Final = false};
+}
+
+IconPicture MenuIcons::PictureOf(const std::string& key) {
+  const Entry& entry = colIconFile_.at(key);
+  if (entry.Is == State::Found) return {.Cell = entry.Cell};
+  if (entry.Is != State::Missing) return StandIn(entry);
+  const auto blank = colIconFile_.find(kBlankKey);
+  if (blank == colIconFile_.end()) return StandIn(entry);
+  if (blank->second.Is == State::Found) return {.Cell = blank->second.Cell};
+  // What has no icon at all keeps its empty cell.
+  if (blank->second.Is == State::Missing) return {};
+  return StandIn(entry);
+}
+
+IconPicture MenuIcons::StandIn(const Entry& entry) {
+  for (const Lookup& question : entry.Questions) {
+    const LookupValue* const last = program_.Answers.LastKnown(question);
+    const IconPixels* const pixels = last != nullptr ? PixelsOf(*last) : nullptr;
+    if (pixels != nullptr) return {.Cell = CellOf(*pixels), .Final = false};
+  }
+  const std::string extension = SharedIconExtension(entry.Form);
+  const auto kind = cellsByExtension_.find(extension);
+  if (!extension.empty() && kind != cellsByExtension_.end())
+    return {.Cell = kind->second, .Final = false};
+  return {.Glyph = std::string(NeutralGlyph(entry.Form)), .Final = false};
+}
+
+void MenuIcons::Draw(Canvas& canvas, PixelPoint at, const IconPicture& picture) const {
   // Nothing of an earlier icon may shine through.
   canvas.FillBox(RectAt(at, {kCell, kCell}),
                  forms::Resolve(program_.Windows, forms::color::ButtonFace));
-  const std::string text = Trim(iconText);
-  const IconForm form = Classify(text);
-  if (form.Kind == IconKind::BuiltIn) {
-    DrawGlyph(canvas, program_.Windows, form.Text, at);
-    return;
+  if (!picture.Glyph.empty()) {
+    DrawGlyph(canvas, program_.Windows, picture.Glyph, at);
+  } else if (picture.Cell >= 0 && picture.Cell < cells_) {
+    canvas.DrawCanvas(*picIcons_, RectAt({picture.Cell * kCell, 0}, {kCell, kCell}), at);
   }
-  const int cell = LoadFileIcon(text, form);
-  if (cell == kNoCell) return;
-  canvas.DrawCanvas(*picIcons_, RectAt({cell * kCell, 0}, {kCell, kCell}), at);
 }
 
-void MenuIcons::LoadSmallIcon(std::string_view iconText) {
+// ---- questions ----
+
+std::string MenuIcons::Enter(std::string_view text, const IconForm& form) {
+  if (IsSeparatorIcon(text)) return {};
+  std::vector<Lookup> questions = SmallIconQuestions(form, program_.Icons.ShellDrawsIcons);
+  if (questions.empty()) return {};
+  std::string key = LowerCase(text);
+  colIconFile_.try_emplace(key, Entry{.Form = form, .Questions = std::move(questions)});
+  return key;
+}
+
+std::string MenuIcons::EnterBlank() {
+  colIconFile_.try_emplace(kBlankKey,
+                           Entry{.Form = {.Kind = IconKind::File, .Text = {}, .File = {}},
+                                 .Questions = BlankIconQuestions(program_.Paths.IconsPath,
+                                                                 program_.Icons.ShellDrawsIcons)});
+  return kBlankKey;
+}
+
+int MenuIcons::MayWait(const Lookup& question) const {
+  const std::int64_t left = waitUntil_ - program_.Windows.Now();
+  if (left <= 0 || late_.contains(PlaceAskedOf(question))) return 0;
+  return static_cast<int>(std::min<std::int64_t>(left, kMostOfOnePlace));
+}
+
+void MenuIcons::Ask(const std::string& key, desk::Urgency how, bool mayWait) {
+  for (;;) {
+    // What is asked below may forget all icons.
+    const auto found = colIconFile_.find(key);
+    if (found == colIconFile_.end()) return;
+    Entry& entry = found->second;
+    if (entry.Is == State::Found || entry.Is == State::Missing) return;
+    const bool onShow = how == desk::Urgency::OnShow;
+    const std::size_t next = entry.Next;
+    const Lookup question = entry.Questions[next];
+    // Only an answer that has come since it was asked for is as good as a new one.
+    const std::int64_t now = program_.Windows.Now();
+    if (entry.Is != State::Waiting) entry.AskedAt = now;
+    desk::Request request{.Question = question,
+                          .How = how,
+                          .Owner = onShow ? shown_ : ahead_,
+                          .MaxAge = now - entry.AskedAt - 1};
+    desk::Asker later{
+        .Ended = [this, key, next](const desk::Reply& reply) { TakeLate(key, next, reply); },
+        .TakesLonger = {}};
+    entry.Is = State::Waiting;
+    if (!onShow) {
+      later.TakesLonger = [this, key](desk::Stage) {
+        if (fetching_.contains(key)) slow_.insert(key);
+        GoOnFetching();
+      };
+      program_.Answers.Ask(std::move(request), std::move(later));
+      return;
+    }
+    const int wait = mayWait ? MayWait(question) : 0;
+    const auto reply = program_.Answers.AskAtOnce(std::move(request), std::move(later), wait);
+    if (!reply) {
+      if (wait > 0) late_.insert(PlaceAskedOf(question));
+      return;
+    }
+    Take(key, next, *reply);
+    if (reply->How != desk::End::Failed) return;
+  }
+}
+
+void MenuIcons::Take(const std::string& key, std::size_t question, const desk::Reply& reply) {
+  const auto found = colIconFile_.find(key);
+  if (found == colIconFile_.end()) return;
+  Entry& entry = found->second;
+  // Others may have asked the same and been told before.
+  if (entry.Is != State::Waiting || entry.Next != question) return;
+  const IconPixels* const pixels =
+      reply.How == desk::End::Answered ? PixelsOf(reply.Value) : nullptr;
+  if (pixels != nullptr) {
+    entry.Cell = CellOf(*pixels);
+    entry.Is = State::Found;
+    const std::string extension = SharedIconExtension(entry.Form);
+    if (!extension.empty()) cellsByExtension_[extension] = entry.Cell;
+    return;
+  }
+  if (reply.How == desk::End::NotAvailable) {
+    entry.Is = State::NotAvailable;
+    return;
+  }
+  ++entry.Next;
+  entry.Is = entry.Next < entry.Questions.size() ? State::New : State::Missing;
+}
+
+void MenuIcons::TakeLate(const std::string& key, std::size_t question, const desk::Reply& reply) {
+  Take(key, question, reply);
+  const auto found = colIconFile_.find(key);
+  if (found == colIconFile_.end()) return;
+  const Entry& entry = found->second;
+  const desk::Urgency how = entry.OnShow ? desk::Urgency::OnShow : desk::Urgency::Ahead;
+  if (entry.Is == State::New) Ask(key, how, false);
+  if (entry.Is == State::Missing && key != kBlankKey) {
+    Entry& blank = colIconFile_.at(EnterBlank());
+    blank.OnShow = blank.OnShow || entry.OnShow;
+    if (blank.Is == State::New) {
+      Ask(kBlankKey, how, false);
+      // It counts as a part of what leads to it.
+      if (fetching_.contains(key)) fetching_.insert(kBlankKey);
+    }
+  }
+  if (entry.OnShow) PostArrived();
+  if (entry.Is != State::Waiting) Fetched(key);
+}
+
+void MenuIcons::PostArrived() {
+  if (std::exchange(posted_, true)) return;
+  program_.Windows.Post([this, watch = alive_.MakeWatch(), resets = resets_] {
+    if (watch.Gone()) return;
+    posted_ = false;
+    // What is forgotten is asked for when it is drawn again.
+    if (resets != resets_) return;
+    if (const auto arrived = Arrived) arrived();
+  });
+}
+
+void MenuIcons::PutAside() {
+  waitUntil_ = 0;
+  std::vector<std::string> asked;
+  for (auto& [key, entry] : colIconFile_) {
+    if (!std::exchange(entry.OnShow, false) || entry.Is != State::Waiting) continue;
+    asked.push_back(key);
+  }
+  for (const std::string& key : asked) Ask(key, desk::Urgency::Ahead, false);
+  program_.Answers.Drop(shown_);
+}
+
+// ---- beforehand ----
+
+void MenuIcons::Fetch(std::string_view iconText) {
   const std::string text = Trim(iconText);
-  LoadFileIcon(text, Classify(text));
+  std::string key = Enter(text, Classify(text));
+  if (key.empty() || colIconFile_.at(key).Is != State::New) return;
+  toFetch_.push_back(std::move(key));
+  GoOnFetching();
 }
 
 void MenuIcons::FetchButtonIcon(std::string_view iconText) {
@@ -80,50 +294,40 @@ void MenuIcons::FetchButtonIcon(std::string_view iconText) {
   const std::string text = Trim(iconText);
   const IconForm form = Classify(text, IconCaller::Toolbar);
   if (form.Kind != IconKind::File || !fetched_.insert(LowerCase(text)).second) return;
-  // The shell keeps what it finds; a file that is gone has no icon.
-  static_cast<void>(program_.Services.Icons.FileInfo(form.Text, IconList::Large));
+  toFetch_.push_back(kLargeMark + form.Text);
+  GoOnFetching();
 }
 
-int MenuIcons::LoadFileIcon(const std::string& text, const IconForm& form) {
-  if (form.Kind == IconKind::Empty || form.Kind == IconKind::BuiltIn || IsSeparatorIcon(text)) {
-    return kNoCell;
+void MenuIcons::GoOnFetching() {
+  while (!toFetch_.empty() && fetching_.size() == slow_.size() && slow_.size() < kMostSlow) {
+    const std::string key = std::move(toFetch_.front());
+    toFetch_.pop_front();
+    if (key.front() == kLargeMark) {
+      fetching_.insert(key);
+      // The desk keeps it; a file that is gone has no icon.
+      program_.Answers.Ask(
+          {.Question = {.Kind = LookupKind::FileIcon,
+                        .Path = key.substr(1),
+                        .List = IconList::Large},
+           .How = desk::Urgency::Ahead,
+           .Owner = ahead_},
+          {.Ended = [this, key](const desk::Reply&) { Fetched(key); }, .TakesLonger = {}});
+      continue;
+    }
+    const auto found = colIconFile_.find(key);
+    // A menu may have asked for it meanwhile.
+    if (found == colIconFile_.end() || found->second.Is != State::New) continue;
+    fetching_.insert(key);
+    Ask(key, desk::Urgency::Ahead, false);
   }
-  std::string key = LowerCase(text);
-  const auto known = colIconFile_.find(key);
-  if (known != colIconFile_.end()) return known->second;
-  if (form.Kind == IconKind::File && !IsReachable(form.Text)) {
-    stoodIn_ = true;
-    return LoadFallback();
-  }
-  const int cell = LoadFile(text, form);
-  colIconFile_.emplace(std::move(key), cell);
-  return cell;
 }
 
-bool MenuIcons::IsReachable(std::string_view path) {
-  const std::string root = RootOfPath(path);
-  // The disk on which the program itself lies answers.
-  if (root.empty() || EqualNoCase(root, RootOfPath(program_.Paths.AppPath))) return true;
-  const desk::Request request{.Question = {.Kind = LookupKind::IsThere, .Path = root},
-                              .Owner = owner_,
-                              .MaxAge = kReachableFor};
-  const auto reply = program_.Answers.AskAtOnce(request, {.Ended = [this](const desk::Reply& r) {
-                                                  if (r.How == desk::End::NotAvailable) return;
-                                                  if (const auto arrived = Arrived) arrived();
-                                                }});
-  return reply && reply->How != desk::End::NotAvailable;
+void MenuIcons::Fetched(const std::string& key) {
+  slow_.erase(key);
+  if (fetching_.erase(key) > 0) GoOnFetching();
 }
 
-int MenuIcons::LoadFile(const std::string& text, const IconForm& form) {
-  if (form.Kind == IconKind::SystemIndex) return LoadSystemIcon(form.Index);
-  if (form.Kind == IconKind::File && (!form.OwnIcon || program_.Icons.ShellDrawsIcons)) {
-    const auto info = program_.Services.Icons.FileInfo(form.Text, IconList::Small);
-    return info ? LoadSystemIcon(info->SystemIndex) : LoadFallback();
-  }
-  return AddCell([&](Canvas& strip, PixelPoint at) {
-    return ResolveAndDraw(program_, strip, text, at, kCell, IconCaller::Menu);
-  });
-}
+// ---- the strip ----
 
 int MenuIcons::LoadSystemIcon(int index) {
   const std::string key = "i" + std::to_string(index);
@@ -137,31 +341,22 @@ int MenuIcons::LoadSystemIcon(int index) {
   return cell;
 }
 
-int MenuIcons::LoadFallback() {
-  const auto known = colIconFile_.find(kFallbackKey);
-  if (known != colIconFile_.end()) return known->second;
-  const int cell = AddCell(
-      [&](Canvas& strip, PixelPoint at) { return DrawFallbackIcon(program_, strip, at, kCell); });
-  colIconFile_.emplace(kFallbackKey, cell);
-  return cell;
+int MenuIcons::CellOf(const IconPixels& pixels) {
+  const auto [known, isNew] = cellsByPixels_.try_emplace(DigestOf(pixels), cells_);
+  if (!isNew) return known->second;
+  return AddCell([&](Canvas& strip, PixelPoint at) {
+    strip.DrawPixels(pixels, at);
+    return true;
+  });
 }
 
-// The shell may let messages in while it is asked, and they may empty the strip or add to it: the
-// icon is drawn aside, and comes into the strip when it is done.
 int MenuIcons::AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw) {
-  const PixelRect whole{0, 0, kCell, kCell};
-  const std::unique_ptr<Canvas> icon = program_.Windows.CreateCanvas(whole.Size());
-  unsigned resets = resets_;
-  for (int tries = 0; tries < kMostTries; ++tries) {
-    resets = resets_;
-    icon->FillBox(whole, forms::Resolve(program_.Windows, forms::color::ButtonFace));
-    // What has no icon at all keeps its empty cell, and is not asked for again.
-    draw(*icon, {0, 0});
-    // After a reset the ground may have another colour.
-    if (resets == resets_) break;
-  }
   MakeRoom();
-  picIcons_->DrawCanvas(*icon, whole, {cells_ * kCell, 0});
+  const PixelPoint at{cells_ * kCell, 0};
+  picIcons_->FillBox(RectAt(at, {kCell, kCell}),
+                     forms::Resolve(program_.Windows, forms::color::ButtonFace));
+  // What has no icon at all keeps its empty cell, and is not asked for again.
+  draw(*picIcons_, at);
   return cells_++;
 }
 

@@ -1,51 +1,76 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "base/Geometry.h"
+#include "desk/DeskRule.h"
+#include "forms/Alive.h"
 #include "icons/IconForm.h"
 #include "platform/Canvas.h"
+#include "platform/Lookups.h"
 
 namespace corvelle {
 
 class Program;
 
-/// The small icons of menus: each text is asked for once and then copied from a strip of icons that
-/// stand side by side. Nothing here fails visibly: what has no icon keeps an empty cell.
+/// What is drawn in the icon cell of an item.
+struct IconPicture {
+  static constexpr int kNoCell = -1;
+
+  int Cell = kNoCell;  // of the strip of icons
+  std::string Glyph;   // key of a picture of the program, where there is no cell
+  bool Final = true;   // false while it only stands for the icon
+
+  [[nodiscard]] bool LooksLike(const IconPicture& other) const noexcept {
+    return Cell == other.Cell && Glyph == other.Glyph;
+  }
+};
+
+/// The small icons of menus: each text is asked for once, of the desk, and then copied from a strip
+/// of icons that stand side by side. An icon that is not known yet is stood for by the one that was
+/// known last, by that of its kind, or by a picture of the program. Nothing here fails visibly:
+/// what has no icon keeps an empty cell.
 class MenuIcons {
  public:
   /// Width and height of a cell, pixels.
   static constexpr int kCell = 16;
+  /// Milliseconds for which all that is asked for one opening may hold up the menu.
+  static constexpr int kAtOnce = 80;
 
   explicit MenuIcons(Program& program);
   ~MenuIcons();
   MenuIcons(const MenuIcons&) = delete;
   MenuIcons& operator=(const MenuIcons&) = delete;
 
-  /// Draws what an icon text means into the cell at `at`. Messages may come in while the shell is
-  /// asked for an icon; one that LoadSmallIcon has fetched is drawn without.
-  void DrawMenuIcon(Canvas& canvas, PixelPoint at, std::string_view iconText);
+  /// Up to that moment (as WindowSystem::Now) Find may wait for answers, without running events.
+  void WaitUntil(std::int64_t moment);
 
-  /// Fetches an icon into the strip without drawing it.
-  void LoadSmallIcon(std::string_view iconText);
+  /// What is to be drawn now for an icon text, which is asked for if it is not known.
+  IconPicture Find(std::string_view iconText);
+  /// The same without asking.
+  [[nodiscard]] IconPicture Peek(std::string_view iconText);
+  /// Draws it into the cell at `at`.
+  void Draw(Canvas& canvas, PixelPoint at, const IconPicture& picture) const;
 
-  /// Has the shell fetch the large icon of a file that the strip shows on a button. Does nothing
-  /// while the strip shows small icons.
-  void FetchButtonIcon(std::string_view iconText);
-
-  /// Called, by a turn of its own, when a disk has answered whose icons stood in for until then:
-  /// each is found when it is drawn again.
+  /// Called, by a turn of its own, when more is known of what Find asked for. It may end this.
   std::function<void()> Arrived;
+  /// Nobody looks at what Find asked for any more: it is still asked for, after what is looked at.
+  void PutAside();
 
-  /// Whether an icon has been stood in for since the last call.
-  [[nodiscard]] bool TakeStoodIn() noexcept { return std::exchange(stoodIn_, false); }
+  /// Asks for an icon, and for the large one of a button of the strip (while that shows large
+  /// ones), when nothing more urgent is asked.
+  void Fetch(std::string_view iconText);
+  void FetchButtonIcon(std::string_view iconText);
 
   /// Forgets all icons, so that each is asked for again.
   void ResetPicIcons();
@@ -54,33 +79,65 @@ class MenuIcons {
   [[nodiscard]] int Count() const noexcept { return cells_; }
 
  private:
-  static constexpr int kNoCell = -1;
+  enum class State { New, Waiting, Found, Missing, NotAvailable };
+
+  /// One icon text.
+  struct Entry {
+    IconForm Form;
+    std::vector<Lookup> Questions;
+    std::size_t Next = 0;  // of them, the one that is to be asked or is being asked
+    State Is = State::New;
+    std::int64_t AskedAt = 0;  // when the question that is being asked was asked first
+    int Cell = IconPicture::kNoCell;
+    bool OnShow = false;  // Find has asked for it
+  };
 
   [[nodiscard]] IconForm Classify(std::string_view text,
                                   IconCaller caller = IconCaller::Menu) const;
-  /// The cell of an icon text; loads the icon the first time. kNoCell for texts without one.
-  int LoadFileIcon(const std::string& text, const IconForm& form);
-  int LoadFile(const std::string& text, const IconForm& form);
-  /// The cell of an icon of the system's list, which all texts that mean it share.
+  /// The entry of an icon text that is asked for, by its key; an empty key for other texts.
+  std::string Enter(std::string_view text, const IconForm& form);
+  std::string EnterBlank();
+  /// Asks what is still to be asked for an entry; what is not answered at once comes to TakeLate.
+  void Ask(const std::string& key, desk::Urgency how, bool mayWait);
+  void Take(const std::string& key, std::size_t question, const desk::Reply& reply);
+  void TakeLate(const std::string& key, std::size_t question, const desk::Reply& reply);
+  [[nodiscard]] int MayWait(const Lookup& question) const;
+  [[nodiscard]] IconPicture PictureOf(const std::string& key);
+  [[nodiscard]] IconPicture StandIn(const Entry& entry);
+  void PostArrived();
+
+  /// Asks for what is fetched beforehand, one after the other.
+  void GoOnFetching();
+  void Fetched(const std::string& key);
+
+  /// The cell of an icon of the system's list.
   int LoadSystemIcon(int index);
-  int LoadFallback();
-  /// False for a file of a disk or server that does not answer at once: no icon is looked for there
-  /// until it does.
-  [[nodiscard]] bool IsReachable(std::string_view path);
+  /// The cell of a picture, which all texts that mean the same share.
+  int CellOf(const IconPixels& pixels);
   /// Draws on a cell of the menu's ground and appends it to the strip.
   int AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw);
   void MakeRoom();
 
   Program& program_;
-  std::uint64_t owner_ = 0;  // of questions to the desk
-  bool stoodIn_ = false;
+  // Of questions to the desk.
+  std::uint64_t shown_ = 0;
+  std::uint64_t ahead_ = 0;
+  std::int64_t waitUntil_ = 0;
+  std::set<std::string> late_;  // lanes that have been waited for in vain since WaitUntil
+  std::deque<std::string> toFetch_;
+  std::set<std::string> fetching_;
+  std::set<std::string> slow_;  // of these, those that hold up the others no longer
+  bool posted_ = false;
   std::unique_ptr<Canvas> picIcons_;
   int cells_ = 0;
   int room_ = 0;
   unsigned resets_ = 0;
-  std::unordered_map<std::string, int> colIconFile_;   // by the text in lower case
-  std::unordered_map<std::string, int> colIconIndex_;  // by "i" and the index in the system's list
-  std::unordered_set<std::string> fetched_;            // large icons, by the text in lower case
+  std::unordered_map<std::string, Entry> colIconFile_;  // by the text in lower case
+  std::unordered_map<std::string, int> colIconIndex_;   // by "i" and the index in the system's list
+  std::unordered_map<std::uint64_t, int> cellsByPixels_;
+  std::unordered_map<std::string, int> cellsByExtension_;
+  std::unordered_set<std::string> fetched_;  // large icons, by the text in lower case
+  forms::Alive alive_;
 };
 
 }  // namespace corvelle

@@ -45,6 +45,7 @@ struct BuiltMenu {
   std::string Stored;              // its records as they were stored then
   bool Whole = true;               // false while something is not known of its folders
   float Room = 0;                  // greatest height of the window when it was laid out, twips
+  int Dpi = 0;                     // scale of the window then
 };
 
 /// The built menus by their keys. They outlive the window's contents.

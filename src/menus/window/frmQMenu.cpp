@@ -139,6 +139,7 @@ void frmQMenu::Form_Unload() {
   Timer1.SetEnabled(false);
   KeysTimer.SetEnabled(false);
   UpdateTimer.SetEnabled(false);
+  prefetch_.Stop();
   updateSince_.reset();
   held_.Forget();
   MenuReady = false;
@@ -156,7 +157,7 @@ void frmQMenu::InitElements() {
   Lbl[0].SetTop(metrics.FirstTop);
   Lbl[0].SetForeColor(forms::color::ButtonText);
   Label1.SetVisible(false);
-  Shape1.Move(metrics.BarLeft, 0, program_.Windows.Screen().Width, metrics.BarHeight);
+  Shape1.Move(metrics.BarLeft, 0, Screen().Width, metrics.BarHeight);
   Shape1.SetVisible(false);
   ShapeLeft = Shape1.Left();
   for (forms::Line* line : {&mLineLeft, &mLineTop, &LineLeft, &LineTop, &Line2}) {
@@ -171,7 +172,9 @@ void frmQMenu::InitElements() {
 }
 
 void frmQMenu::TakeScale() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  // A menu belongs to the strip, and comes up on its monitor.
+  if (program_.Ports.Toolbar != nullptr) SetDpi(program_.Ports.Toolbar->WindowDpi());
+  const forms::ScreenInfo screen = Screen();
   TwipsX = std::trunc(screen.TwipsPerPixelX);
   TwipsY = std::trunc(screen.TwipsPerPixelY);
   const MenuMetrics metrics = MetricsFor(TwipsX, TwipsY);
@@ -182,14 +185,15 @@ void frmQMenu::TakeScale() {
 
 void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
   program_.SetHint("");
-  // A build or an icon walk lets nothing else into the window.
-  if (program_.Guards.IconsLoading || program_.Guards.MenuBuilding) return;
+  // A build lets nothing else into the window.
+  if (program_.Guards.MenuBuilding) return;
   if (!Load()) return;
   TakeScale();
   const std::string key(menuKey);
   const std::string owner = OwnerOf(key);
   if (owner.empty() || owner == "0" || menuFile.empty()) return;
   ResetQMenu();
+  HoldUpForIcons();
   ListenToFolders();
   PagePicture.reset();
   if (!EqualNoCase(key, MenuKey)) pages_.ForgetSaved();
@@ -222,7 +226,7 @@ bool frmQMenu::FoldersChanged(std::string_view menuKey) {
 
 bool frmQMenu::RestoreMenu(const std::shared_ptr<BuiltMenu>& built) {
   // A menu that was laid out for another screen or another place of the strip does not fit.
-  if (built->Room != RoomForMenu()) return false;
+  if (built->Room != RoomForMenu() || built->Dpi != Dpi()) return false;
   Take(built);
   MenuFile = built->MenuInfo.File;
   pages_.Save();
@@ -281,10 +285,11 @@ void frmQMenu::HideMenu() {
   if (program_.Guards.MenuBuilding) return;
   held_.Forget();
   ForgetUpdate();
+  icons_.PutAside();
 }
 
 void frmQMenu::ResetQMenu() {
-  if (program_.Guards.IconsLoading || program_.Guards.MenuBuilding || !IsLoaded()) return;
+  if (program_.Guards.MenuBuilding || !IsLoaded()) return;
   MenuReady = false;
   Hide();
   SetAutoRedraw(false);
@@ -292,10 +297,12 @@ void frmQMenu::ResetQMenu() {
   for (int i = 1; i <= LoadedLabels(); ++i) Lbl[i].SetVisible(false);
   Timer1.SetEnabled(false);
   ForgetUpdate();
+  icons_.PutAside();
   menu_ = std::make_shared<BuiltMenu>();
   items_.Clear();
   pages_.Clear();
   pageBoxes_.clear();
+  pageIcons_.clear();
   PagePicture.reset();
   ShadowCount = 0;
   program_.Menu.SelectedItem = 0;

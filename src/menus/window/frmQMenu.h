@@ -83,7 +83,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   // ---- icons ----
 
   void InitIcons() override { prefetch_.InitIcons(); }
-  void ResetPicIcons() override { icons_.ResetPicIcons(); }
+  void ResetPicIcons() override;
 
   // ---- items and the selection (frmQMenuItems.cpp) ----
 
@@ -223,6 +223,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void WireArrow(forms::Graphic& control, int index);
   void InitElements();
   void TakeScale();
+  void Form_ScaleChanged() override { InitElements(); }
   /// False for a menu that was laid out for another place.
   [[nodiscard]] bool RestoreMenu(const std::shared_ptr<BuiltMenu>& built);
   /// True if a folder of a built menu holds something else than when it was built.
@@ -275,13 +276,19 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void DrawPage(bool watched);
   void DrawPageOnce(bool watched);
   void DrawItemIcon(int index);
+  /// Where an item of the page on show has its icon: pixels of the inside.
+  [[nodiscard]] PixelRect IconCell(int index) const;
+  [[nodiscard]] bool IconsAreFinal() const;
+  [[nodiscard]] std::shared_ptr<Canvas> CopyOf(const Canvas& picture);
+  /// From now on the page that is drawn may wait a moment for its icons.
+  void HoldUpForIcons();
   void DrawRules();
   void PrintCaptions();
   void WipeCaptions();
   void KeepPage();
   void CenterGlyph(int index, std::string_view glyph);
   void ColoursChanged();
-  /// Icons that could not be asked for can be now: each takes its place on the page on show.
+  /// More icons are known: each takes its place on the page on show, and nothing else is painted.
   void IconsArrived();
   void Form_Paint();
 
@@ -349,13 +356,14 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   ShownPages pages_;
   MenuDrops drops_;
   IconPrefetch prefetch_;
-  /// The items of the page on show, from top to bottom.
+  /// The items of the page on show, from top to bottom, and what is drawn for their icons.
   std::vector<ItemBox> pageBoxes_;
+  std::vector<IconPicture> pageIcons_;
   /// The menu was rebuilt, and neither the pointer nor a key has done anything in it since.
   bool rebuilt_ = false;
-  /// A page is being drawn, and the colours have changed since that began.
+  /// A page is being drawn, and its colours or icons have gone since that began.
   bool drawingPage_ = false;
-  bool coloursChanged_ = false;
+  bool drawAgain_ = false;
   /// A menu of the shell is up for an item, or its command runs.
   bool shellMenuUp_ = false;
   /// The left button went down in this menu and has not come up again.

@@ -55,6 +55,7 @@ std::shared_ptr<BuiltMenu> frmQMenu::Build(std::string_view menuFile,
   menu->Source = given;
   menu->Stored = std::move(stored);
   menu->Room = RoomForMenu();
+  menu->Dpi = Dpi();
   menu->Whole = !expanded || expanded->Whole;
   Fill(*menu, LayOut(expanded ? expanded->Items : own, menu->Room));
   return menu;
@@ -74,9 +75,8 @@ MenuLayout frmQMenu::LayOut(std::span<const MenuItem> items, float room) const {
                      .LineHeight = Lbl[0].Height(),
                      .WindowHeight = room,
                      .TextWidth = [this](std::string_view text) {
-                       const PixelSize size = program_.Windows.MeasureText(text, Lbl[0].Font());
-                       return static_cast<float>(size.width) *
-                              program_.Windows.Screen().TwipsPerPixelX;
+                       const PixelSize size = MeasureText(text, Lbl[0].Font());
+                       return static_cast<float>(size.width) * Screen().TwipsPerPixelX;
                      }});
 }
 
@@ -95,7 +95,7 @@ void frmQMenu::KeepGenerated(const ExpandedMenu& expanded) {
 }
 
 float frmQMenu::RoomForMenu() const {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const ToolbarPort* const strip = program_.Ports.Toolbar;
   return MenuRoom({.Vertical = program_.Strip.ToolbarVertical,
                    .At = program_.Strip.ToolbarEdge,

@@ -28,7 +28,7 @@ void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, flo
 }
 
 PixelPoint frmQMenu::OnScreen(float x, float y) const {
-  const PixelPoint at = forms::ToPixels(Left() + x, Top() + y, program_.Windows.Screen());
+  const PixelPoint at = forms::ToPixels(Left() + x, Top() + y, Screen());
   return {at.x + BorderPixels(), at.y + BorderPixels()};
 }
 

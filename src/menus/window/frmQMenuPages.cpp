@@ -47,6 +47,7 @@ void frmQMenu::TurnTo(int page) {
   // A page that is being drawn stays until it is done.
   if (drawingPage_) return;
   DropSelection();
+  HoldUpForIcons();
   pages_.TurnTo(page);
   ShowSlide();
   const int used = page < pages_.PrevPage() ? 0 : 1;

@@ -1,5 +1,7 @@
 // The window's picture: pages, icons, rules, arrow glyphs.
 
+#include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "base/Text.h"
@@ -17,12 +19,15 @@ namespace {
 constexpr int kKeptPictures = 32;
 /// How often a page is drawn whose colours change each time meanwhile.
 constexpr int kMostRedraws = 3;
+/// A cell that no icon has.
+constexpr int kForgottenCell = -2;
 
 }  // namespace
 
 void frmQMenu::FillPage() {
   while (LoadedLabels() < pages_.LastLabel()) Lbl.Load();
   pageBoxes_.clear();
+  pageIcons_.clear();
   for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) {
     const MenuItem& item = items_[i];
     forms::Label& label = Lbl[i];
@@ -64,9 +69,9 @@ void frmQMenu::DrawPage(bool watched) {
   if (std::exchange(drawingPage_, true)) return;
   const forms::FlagScope building(program_.Guards.MenuBuilding);
   for (int tries = 0; tries < kMostRedraws; ++tries) {
-    coloursChanged_ = false;
+    drawAgain_ = false;
     DrawPageOnce(watched && tries == 0);
-    if (!coloursChanged_ || !IsLoaded()) break;
+    if (!drawAgain_ || !IsLoaded()) break;
   }
   drawingPage_ = false;
 }
@@ -83,7 +88,6 @@ void frmQMenu::DrawPageOnce(bool watched) {
     BringUp();
     Refresh();
   }
-  static_cast<void>(icons_.TakeStoodIn());
   for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) {
     DrawItemIcon(i);
     if (!IsLoaded()) return;
@@ -113,27 +117,35 @@ void frmQMenu::WipeCaptions() {
 
 void frmQMenu::KeepPage() {
   if (pages_.Slides() > 0) {
-    FillBox(0, LblButton[0].Top(), program_.Windows.Screen().Width, Height(),
-            forms::color::ButtonFace);
+    FillBox(0, LblButton[0].Top(), Screen().Width, Height(), forms::color::ButtonFace);
   }
   clsMenu& page = pages_.Current();
   page.MenuPicture = Image();
-  // One on which an icon was stood in for is drawn again when it is shown again.
-  page.Init = icons_.TakeStoodIn() ? 0 : 1;
+  page.Init = IconsAreFinal() ? 1 : 0;
 }
 
 void frmQMenu::DrawItemIcon(int index) {
-  const PixelPoint at = forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH),
-                                        program_.Windows.Screen());
-  const std::string icon = items_[index].Icon;
-  // No canvas is lent while the shell is asked.
-  icons_.LoadSmallIcon(icon);
-  DrawPixels(RectAt(at, {MenuIcons::kCell, MenuIcons::kCell}),
-             [&](Canvas& canvas) { icons_.DrawMenuIcon(canvas, at, icon); });
+  const PixelRect cell = IconCell(index);
+  // No canvas is lent while an answer is waited for.
+  const IconPicture icon = icons_.Find(items_[index].Icon);
+  DrawPixels(cell, [&](Canvas& canvas) { icons_.Draw(canvas, {cell.left, cell.top}, icon); });
+  pageIcons_.push_back(icon);
+}
+
+PixelRect frmQMenu::IconCell(int index) const {
+  const PixelPoint at =
+      forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH), Screen());
+  return RectAt(at, {MenuIcons::kCell, MenuIcons::kCell});
+}
+
+// A page on which an icon is stood for is drawn again when it is shown again.
+bool frmQMenu::IconsAreFinal() const {
+  return std::all_of(pageIcons_.begin(), pageIcons_.end(),
+                     [](const IconPicture& icon) { return icon.Final; });
 }
 
 void frmQMenu::DrawRules() {
-  const float right = program_.Windows.Screen().Width;
+  const float right = Screen().Width;
   for (std::size_t i = 1; i < pageBoxes_.size(); ++i) {
     const ItemBox& above = pageBoxes_[i - 1];
     if (!HasRuleBetween(above, pageBoxes_[i], ItemGap)) continue;
@@ -200,9 +212,10 @@ void frmQMenu::CenterGlyph(int index, std::string_view glyph) {
 void frmQMenu::ColoursChanged() {
   // Pictures hold the colours that they were drawn in.
   glyphs_.clear();
+  HoldUpForIcons();
   icons_.ResetPicIcons();
   cache_.DropPictures();
-  coloursChanged_ = true;
+  drawAgain_ = true;
   if (!MenuReady || items_.Count() == 0) return;
   UpDownArrows();
   const int selected = program_.Menu.SelectedItem;
@@ -212,14 +225,49 @@ void frmQMenu::ColoursChanged() {
 }
 
 void frmQMenu::IconsArrived() {
-  // A page of another menu is drawn again when it is shown.
-  cache_.DropPictures();
-  if (!MenuReady || !MenuVisible() || items_.Count() == 0) return;
-  const int selected = program_.Menu.SelectedItem;
-  DrawPage(false);
-  if (!IsLoaded()) return;
-  if (EqualNoCase(MenuKey, kMainMenuKey)) CheckLabels();
-  if (selected > 0) SelectItem(selected);
+  // Other pages and menus are drawn with it when they are shown.
+  const auto count = static_cast<std::size_t>(pages_.LastLabel() - pages_.FirstLabel() + 1);
+  if (!MenuReady || !MenuVisible() || drawingPage_ || pageIcons_.size() != count) return;
+  std::shared_ptr<Canvas> picture;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (pageIcons_[i].Final) continue;
+    const int index = pages_.FirstLabel() + static_cast<int>(i);
+    const IconPicture icon = icons_.Peek(items_[index].Icon);
+    const bool same = icon.LooksLike(std::exchange(pageIcons_[i], icon));
+    if (same) continue;
+    if (!picture && PagePicture) picture = CopyOf(*PagePicture);
+    if (!picture) return;
+    const PixelRect cell = IconCell(index);
+    icons_.Draw(*picture, {cell.left, cell.top}, icon);
+    Invalidate(cell);
+  }
+  clsMenu& page = pages_.Current();
+  page.Init = IconsAreFinal() ? 1 : 0;
+  if (!picture) return;
+  PagePicture = std::move(picture);
+  page.MenuPicture = PagePicture;
 }
+
+std::shared_ptr<Canvas> frmQMenu::CopyOf(const Canvas& picture) {
+  const PixelRect whole{0, 0, picture.Size().width, picture.Size().height};
+  std::shared_ptr<Canvas> copy = program_.Windows.CreateCanvas(whole.Size());
+  copy->DrawCanvas(picture, whole, {0, 0});
+  return copy;
+}
+
+void frmQMenu::ResetPicIcons() {
+  icons_.ResetPicIcons();
+  drawAgain_ = true;
+  if (drawingPage_ || !MenuVisible()) return;
+  // Those that the page on show waits for are asked for again.
+  for (std::size_t i = 0; i < pageIcons_.size(); ++i) {
+    if (pageIcons_[i].Final) continue;
+    static_cast<void>(icons_.Find(items_[pages_.FirstLabel() + static_cast<int>(i)].Icon));
+    pageIcons_[i] = {.Cell = kForgottenCell, .Final = false};
+  }
+  IconsArrived();
+}
+
+void frmQMenu::HoldUpForIcons() { icons_.WaitUntil(program_.Windows.Now() + MenuIcons::kAtOnce); }
 
 }  // namespace corvelle

@@ -45,7 +45,7 @@ void frmQMenu::TryUpdate() {
   const std::int64_t now = program_.Windows.Now();
   const bool busy = pressed_ || program_.Guards.MenuBuilding || program_.Guards.OpenQuestions > 0 ||
                     program_.Entry.ItemDragging || program_.DragHolds() ||
-                    program_.Guards.ItemActionBusy || program_.Guards.IconsLoading;
+                    program_.Guards.ItemActionBusy;
   if (!MayUpdate({.Busy = busy,
                   .PointerOver = PointerOver(),
                   .SinceMove = now - movedAt_,
@@ -67,6 +67,7 @@ void frmQMenu::ForgetUpdate() {
 }
 
 void frmQMenu::UpdateInPlace() {
+  HoldUpForIcons();
   const MenuItem selected = items_[program_.Menu.SelectedItem];
   const int page = pages_.CurMenu();
   std::optional<ExpandedMenu> expanded;

@@ -13,7 +13,7 @@ constexpr float kNowhere = -32000;
 class Keeper final : public forms::Form {
  public:
   explicit Keeper(forms::WindowSystem& windows) : Form(windows, "frmKeeper") {
-    const forms::ScreenInfo screen = windows.Screen();
+    const forms::ScreenInfo screen = Screen();
     Move(kNowhere * screen.TwipsPerPixelX, kNowhere * screen.TwipsPerPixelY, screen.TwipsPerPixelX,
          screen.TwipsPerPixelY);
   }

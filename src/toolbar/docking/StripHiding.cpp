@@ -47,13 +47,10 @@ bool StripHiding::MustReveal(PixelPoint pointer, WindowId under) const {
 PixelRect StripHiding::WindowPixels() const {
   const forms::Form& window = strip_.AsForm();
   return forms::ToPixels(window.Left(), window.Top(), window.Width(), window.Height(),
-                         program_.Windows.Screen());
+                         window.Screen());
 }
 
-PixelSize StripHiding::ScreenPixels() const {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  return forms::ToPixels(0, 0, screen.Width, screen.Height, screen).Size();
-}
+PixelSize StripHiding::ScreenPixels() const { return program_.Windows.ScreenSize(); }
 
 void StripHiding::RevealFromLine() {
   if (program_.Ports.Docking == nullptr || program_.Guards.HideBusy) return;

@@ -79,9 +79,8 @@ void StripPull::Follow(forms::MouseButton down, float x, float y) {
 void StripPull::FollowPull() {
   CapturePort* const capture = program_.Ports.Capture;
   if (program_.Ports.Docking == nullptr || capture == nullptr) return;
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  const Edge wanted = ChooseEdge(program_.Services.Pointer.PointerPosition(),
-                                 forms::ToPixels(0, 0, screen.Width, screen.Height, screen).Size());
+  const Edge wanted =
+      ChooseEdge(program_.Services.Pointer.PointerPosition(), program_.Windows.ScreenSize());
   if (wanted == program_.Strip.ToolbarEdge) {
     ClearOutline();
     strip_.DrawDragLook();

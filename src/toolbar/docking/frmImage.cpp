@@ -44,7 +44,7 @@ void frmImage::ShowLines(bool visible) {
 }
 
 void frmImage::PlaceAt(const PixelRect& bounds) {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   Move(static_cast<float>(bounds.left) * screen.TwipsPerPixelX,
        static_cast<float>(bounds.top) * screen.TwipsPerPixelY,
        static_cast<float>(bounds.Width()) * screen.TwipsPerPixelX,
@@ -56,9 +56,7 @@ void frmImage::PlaceAt(const PixelRect& bounds) {
 bool frmImage::Cover(WindowId window) {
   const forms::WindowPicture seen = program_.Windows.PictureOfWindow(window);
   if (seen.Pixels == nullptr) return false;
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  const PixelRect shown =
-      Intersect(seen.Bounds, forms::ToPixels(0, 0, screen.Width, screen.Height, screen));
+  const PixelRect shown = Intersect(seen.Bounds, RectAt({0, 0}, program_.Windows.ScreenSize()));
   if (shown.IsEmpty() || !Load()) return false;
   std::unique_ptr<Canvas> picture = program_.Windows.CreateCanvas(shown.Size());
   const PixelPoint corner{shown.left - seen.Bounds.left, shown.top - seen.Bounds.top};
@@ -129,7 +127,8 @@ void frmImage::SetPosition(Edge edge) {
 }
 
 void frmImage::ShowOutline(Edge edge) {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  SetDpi(strip_.AsForm().Dpi());
+  const forms::ScreenInfo screen = Screen();
   const float x = screen.TwipsPerPixelX;
   const float y = screen.TwipsPerPixelY;
   const TwipRect place =

@@ -68,15 +68,11 @@ void mAppBar::ShowAutoHideTaken() {
 Edge mAppBar::CurrentEdge() const { return program_.Strip.ToolbarEdge; }
 
 TwipSize mAppBar::Twips() const {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = window_.Screen();
   return {screen.TwipsPerPixelX, screen.TwipsPerPixelY};
 }
 
-PixelSize mAppBar::ScreenPixels() const {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
-  return {RoundToInt(static_cast<double>(screen.Width / screen.TwipsPerPixelX)),
-          RoundToInt(static_cast<double>(screen.Height / screen.TwipsPerPixelY))};
-}
+PixelSize mAppBar::ScreenPixels() const { return program_.Windows.ScreenSize(); }
 
 void mAppBar::MoveWindow(const PixelRect& bounds) {
   const TwipSize twips = Twips();

@@ -33,7 +33,6 @@ void frmHelp::Form_Load() {
   SetBackColor(forms::color::TooltipFace);
   Label1.SetAutoSize(true);
   Label1.SetForeColor(forms::color::TooltipText);
-  Label1.SetLeft(program_.Windows.Screen().TwipsPerPixelX);
   Label1.SetTop(kFirstTop);
   Timer1.SetEnabled(false);
   Timer1.SetInterval(kWatch);
@@ -64,9 +63,11 @@ void frmHelp::CloseHint() {
 }
 
 void frmHelp::ShowHint(std::string_view text) {
+  if (program_.Ports.Toolbar != nullptr) SetDpi(program_.Ports.Toolbar->WindowDpi());
+  Label1.SetLeft(Screen().TwipsPerPixelX);
   Label1.SetCaption("");
   Label1.SetCaption(" " + std::string(text) + " ");
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const HintPlace place = PlaceHint({.Pointer = program_.Services.Pointer.PointerPosition(),
                                      .Label = {Label1.Width(), Label1.Height()},
                                      .TwipsX = screen.TwipsPerPixelX,
@@ -94,7 +95,7 @@ void frmHelp::Timer1_Timer() {
 
 // A thin frame in the colour of the text.
 void frmHelp::Form_Paint() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const float right = ScaleWidth() - screen.TwipsPerPixelX;
   const float bottom = ScaleHeight() - screen.TwipsPerPixelY;
   FillBox(0, 0, right, 0, forms::color::TooltipText);

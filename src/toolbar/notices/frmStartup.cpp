@@ -42,7 +42,7 @@ frmStartup::frmStartup(Program& program)
 
 void frmStartup::Form_Load() {
   SetCaption("");
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const float picture = static_cast<float>(kPictureSize);
   const float height = kPictureTop + kRoomBelow;
   Move((screen.Width - kWidth) / 2, screen.Height / 2 - height, kWidth, height);

@@ -49,7 +49,7 @@ void frmTip::Form_Load() {
   SetBackColor(forms::color::ButtonFace);
   TipField.reset();
   Check1.SetValue(0);
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   Move((screen.Width - Width()) / 2, (screen.Height - Height()) / 2, Width(), Height());
 }
 
@@ -69,12 +69,11 @@ void frmTip::ShowTip(std::string_view title, std::string_view text, std::optiona
 }
 
 void frmTip::LayOut(std::string_view text) {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const float left = 2 * kTipMargin * kTwipsOfOne + kPicture * screen.TwipsPerPixelX;
   std::vector<std::string> lines =
       WrapText(text, kTextWidth * kTwipsOfOne, [&](std::string_view line) {
-        return static_cast<float>(program_.Windows.MeasureText(line, {}).width) *
-               screen.TwipsPerPixelX;
+        return static_cast<float>(MeasureText(line).width) * screen.TwipsPerPixelX;
       });
   // What follows has its own distance.
   while (!lines.empty() && lines.back().empty()) lines.pop_back();

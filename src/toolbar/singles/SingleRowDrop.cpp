@@ -148,9 +148,9 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
     OpenWithItem(program_, names.front(), target.Command);
     return;
   }
-  DroppedEntries dropped =
-      DroppedRecords(program_.Services.Files, program_.Services.Ansi, std::move(names),
-                     [this](std::string_view name) { return GetFileTitle(program_, name); });
+  DroppedEntries dropped = DroppedRecords(
+      program_.Services.Files, program_.Services.Ansi, std::move(names),
+      [this](const std::vector<std::string>& paths) { return GetFileTitles(program_, paths); });
   AddDropped(dropped.Records, target.File);
   // Last, so that nothing here lets its timer through.
   if (window_.IsLoaded()) strip_.TellRefused(std::move(dropped.Refused));

@@ -17,12 +17,12 @@ ButtonRow::ButtonRow(Program& program, StripWindow& strip, const ButtonControls&
 
 void ButtonRow::MakeTemplates() {
   const StripScale scale = strip_.Shape().Scale;
-  const TemplateSize size =
-      TemplateButton({.LargeIcons = program_.OptionFlags.Is(Option::LargeIcons),
-                      .IconSize = program_.Icons.IconSize,
-                      .TwipsX = scale.TwipsX,
-                      .TwipsY = scale.TwipsY,
-                      .CaptionHeight = program_.Services.System.CaptionHeight()});
+  const TemplateSize size = TemplateButton(
+      {.LargeIcons = program_.OptionFlags.Is(Option::LargeIcons),
+       .IconSize = program_.Icons.IconSize,
+       .TwipsX = scale.TwipsX,
+       .TwipsY = scale.TwipsY,
+       .CaptionHeight = program_.Services.System.CaptionHeight(strip_.AsForm().Dpi())});
   TopCut = size.TopCut;
   ButtonRect& button = ToolbarButtons[0];
   button = ButtonRect{.Width = size.Width, .Height = size.Height};

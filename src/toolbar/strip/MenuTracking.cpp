@@ -206,7 +206,7 @@ std::optional<MenuSpot> MenuTracking::SpotFor(const TwipSize& menu) const {
        .ButtonTop = button.Top,
        .MenuWidth = menu.Width,
        .MenuHeight = menu.Height,
-       .ScreenHeight = program_.Windows.Screen().Height,
+       .ScreenHeight = window_.Screen().Height,
        .TwipsX = shape.Scale.TwipsX,
        .TwipsY = shape.Scale.TwipsY});
 }

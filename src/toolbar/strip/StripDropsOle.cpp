@@ -176,9 +176,10 @@ void StripDrops::DropFiles(std::vector<std::string> names, int button) {
     const forms::FlagScope busy(program_.Guards.ItemActionBusy);
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
-    dropped = DroppedRecords(files, ansi, std::move(names), [this](std::string_view name) {
-      return Trim(GetFileTitle(program_, name));
-    });
+    dropped = DroppedRecords(files, ansi, std::move(names),
+                             [this](const std::vector<std::string>& paths) {
+                               return GetTrimmedTitles(program_, paths);
+                             });
     outcome = AppendDropped(files, ansi, path, dropped.Records);
     if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
   }

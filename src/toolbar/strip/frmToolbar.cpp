@@ -153,7 +153,7 @@ void frmToolbar::Form_Load() {
   SetBackColor(forms::color::ButtonFace);
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->LoadWindow();
   if (!program_.Strip.NotOnTop) SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
-  SetLeft(program_.Windows.Screen().Width);
+  SetLeft(Screen().Width);
   picToolbar.SetAutoRedraw(true);
   picSingleButton.SetAutoRedraw(true);
   ReadPlacement();
@@ -280,7 +280,7 @@ void frmToolbar::StopTimers() {
 }
 
 void frmToolbar::ReadTwips() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   TwipsX = screen.TwipsPerPixelX;
   TwipsY = screen.TwipsPerPixelY;
 }
@@ -305,7 +305,7 @@ void frmToolbar::OfferDefaultEntries() {
     entries->IncludeCommonFiles();
     program_.OptionFlags.Set(Option::DefaultEntriesOffered, true);
     program_.SaveOptionFlags();
-    SetLeft(program_.Windows.Screen().Width);
+    SetLeft(Screen().Width);
     return;
   }
   if (HoldsAny(files, program_.Paths.MenusPath, "*.MNU") ||

@@ -80,6 +80,7 @@ class frmToolbar final : public forms::Form,
   [[nodiscard]] WindowId ButtonBoxHandle() const override { return picToolbar.hWnd(); }
   [[nodiscard]] WindowId SingleBoxHandle() const override { return picSingleButton.hWnd(); }
   [[nodiscard]] TwipRect WindowBounds() const override { return Bounds(); }
+  [[nodiscard]] int WindowDpi() const override { return Dpi(); }
   void SetWindowPos(forms::InsertAfter after, unsigned flags) override {
     Form::SetWindowPos(after, flags);
   }

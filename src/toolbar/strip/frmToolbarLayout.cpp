@@ -64,13 +64,13 @@ void frmToolbar::SetControls() {
 }
 
 void frmToolbar::SetToolbarPosition() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const forms::ScreenInfo screen = Screen();
   const StripPosition position =
       PlaceTopHugging({.SavedLeft = LastPosition(),
                        .ScreenWidth = screen.Width,
                        .TwipsX = TwipsX,
                        .TwipsY = TwipsY,
-                       .CaptionButtonWidth = program_.Services.System.CaptionButtonWidth(),
+                       .CaptionButtonWidth = program_.Services.System.CaptionButtonWidth(Dpi()),
                        .WindowWidth = Width(),
                        .Singles = picSingleButton.Bounds(),
                        .ButtonsHeight = picToolbar.Height(),
@@ -113,7 +113,7 @@ void frmToolbar::DrawBorders() {
                                                 .TwipsX = TwipsX,
                                                 .TwipsY = TwipsY,
                                                 .Window = Bounds(),
-                                                .ScreenWidth = program_.Windows.Screen().Width,
+                                                .ScreenWidth = Screen().Width,
                                                 .SingleCount = Singles.SingleCount,
                                                 .Singles = picSingleButton.Bounds()});
   picSingleButton.SetHeight(borders.SinglesHeight);
@@ -124,12 +124,12 @@ void frmToolbar::DrawBorders() {
   ShowBorder(bLineXY, borders.bLineXY);
 }
 
-float frmToolbar::FreeWidth() const { return program_.Windows.Screen().Width - (Left() + Width()); }
+float frmToolbar::FreeWidth() const { return Screen().Width - (Left() + Width()); }
 
 void frmToolbar::ResizeAfterEdit(float freeWidth) {
   SetControls();
   if (Shape().Where == Placement::TopHugging) {
-    SavedLeft = std::max(program_.Windows.Screen().Width - freeWidth - Width(), 0.0F);
+    SavedLeft = std::max(Screen().Width - freeWidth - Width(), 0.0F);
     SetLeft(SavedLeft);
     UpdateToolbarPosition();
   } else if (program_.Ports.Docking != nullptr) {
@@ -157,9 +157,9 @@ void frmToolbar::EndSlide() {
                          .Width = Width(),
                          .ButtonsWidth = picToolbar.Width(),
                          .SingleCount = Singles.SingleCount,
-                         .ScreenWidth = program_.Windows.Screen().Width,
+                         .ScreenWidth = Screen().Width,
                          .TwipsX = TwipsX,
-                         .CaptionButtonWidth = program_.Services.System.CaptionButtonWidth(),
+                         .CaptionButtonWidth = program_.Services.System.CaptionButtonWidth(Dpi()),
                          .MayPassRight = program_.OptionFlags.Is(Option::MayPassRight),
                          .MayPassLeft = program_.OptionFlags.Is(Option::MayPassLeft)};
   SavedTop = -static_cast<float>(Buttons.TopCut) * TwipsY;

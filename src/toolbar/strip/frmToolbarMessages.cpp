@@ -144,17 +144,17 @@ void frmToolbar::FollowDisplay() {
   // Not every shell tells its bars of another screen size.
   if (program_.Strip.AppBarDocked) {
     FollowBars();
-  } else if (Right() > program_.Windows.Screen().Width) {
+  } else if (Right() > Screen().Width) {
     SetToolbarPosition();
   }
 }
 
 void frmToolbar::CacheDisplayMetrics() {
-  const forms::ScreenInfo screen = program_.Windows.Screen();
+  const PixelSize screen = program_.Windows.ScreenSize();
   BaseColor = program_.Windows.SystemColor(kButtonFaceIndex);
   BaseBits = program_.Windows.ScreenBits();
-  BaseWidth = RoundToInt(screen.Width / screen.TwipsPerPixelX);
-  BaseHeight = RoundToInt(screen.Height / screen.TwipsPerPixelY);
+  BaseWidth = screen.width;
+  BaseHeight = screen.height;
 }
 
 void frmToolbar::FullScreenNotify(std::intptr_t entering) {

@@ -139,12 +139,12 @@ TEST(ObjectCounts, CanvasesAndWhatIsDrawnOnThemAreGivenBack) {
 
 TEST(ObjectCounts, FontsAreGivenBack) {
   Win32WindowSystem windows;
-  const PixelSize first = windows.MeasureText("Text", {.Points = 9.5F, .Bold = true});
+  const PixelSize first = windows.MeasureText("Text", {{.Points = 9.5F, .Bold = true}, 96});
   for (int round = 0; round < kMoreThanAProcessHolds; ++round) {
-    const FontSpec font{.Points = 6 + static_cast<float>(round % 50) / 4};
+    const ScaledFont font{{.Points = 6 + static_cast<float>(round % 50) / 4}, 96};
     EXPECT_GT(windows.MeasureText("T", font).width, 0);
   }
-  EXPECT_EQ(windows.MeasureText("Text", {.Points = 9.5F, .Bold = true}), first);
+  EXPECT_EQ(windows.MeasureText("Text", {{.Points = 9.5F, .Bold = true}, 96}), first);
 }
 
 /// The highest place in the system's table of icons and windows that some new icons get. It rises
@@ -182,7 +182,7 @@ TEST(MemoryCanvas, OneThatTheSystemHasNoMemoryForSwallowsWhatIsDrawn) {
   const auto small = windows.CreateCanvas({4, 4});
   canvas->FillBox({0, 0, 10, 10}, 0x00FFFFFF);
   canvas->DrawLine({0, 0}, {5, 5}, 0x00FFFFFF, 1);
-  canvas->DrawString({0, 0}, "Text", {}, 0x00FFFFFF);
+  canvas->DrawString({0, 0}, "Text", {{}, 96}, 0x00FFFFFF);
   canvas->DrawCanvas(*small, {0, 0, 4, 4}, {0, 0});
   small->DrawCanvas(*canvas, {0, 0, 4, 4}, {0, 0});
   EXPECT_EQ(canvas->Size(), (PixelSize{1'000'000, 1'000'000}));
@@ -200,15 +200,17 @@ TEST(MemoryCanvas, APictureOutlivesItsWindowSystem) {
 
 TEST(FontCache, GivesTheSameFontAgain) {
   FontCache fonts;
-  const HFONT first = fonts.Get({});
-  EXPECT_NE(fonts.Get({.Bold = true}), first);
-  EXPECT_EQ(fonts.Get({}), first);
+  const int dpi = forms::kPlainDpi;
+  const HFONT first = fonts.Get({{}, dpi});
+  EXPECT_NE(fonts.Get({{.Bold = true}, dpi}), first);
+  EXPECT_NE(fonts.Get({{}, 2 * dpi}), first);
+  EXPECT_EQ(fonts.Get({{}, dpi}), first);
 }
 
 TEST(FontCache, AFontThatDoesNotExistIsReplacedByOneThatDoes) {
   FontCache fonts;
-  EXPECT_GT(fonts.Measure("Text", {.Face = "No Such Face"}).width, 0);
-  EXPECT_GT(fonts.Measure("Text", {.Face = std::string(100, 'x')}).width, 0);
+  EXPECT_GT(fonts.Measure("Text", {{.Face = "No Such Face"}, forms::kPlainDpi}).width, 0);
+  EXPECT_GT(fonts.Measure("Text", {{.Face = std::string(100, 'x')}, forms::kPlainDpi}).width, 0);
 }
 
 }  // namespace

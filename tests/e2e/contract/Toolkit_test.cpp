@@ -80,7 +80,7 @@ TEST_F(ToolkitTest, AChangeToTheSameIsNotPainted) {
 
 TEST_F(ToolkitTest, TheScreenShowsTheBoxInsideTheFrame) {
   ShowOnTop();
-  const ScreenInfo screen = Home.Windows().Screen();
+  const ScreenInfo screen = Form.Screen();
   const int left = static_cast<int>(3075 / screen.TwipsPerPixelX) + 3;
   const int top = static_cast<int>(2850 / screen.TwipsPerPixelY) + 3;
   EXPECT_EQ(ScreenPixel(left, top), 0x00336699U);
@@ -94,7 +94,7 @@ TEST_F(ToolkitTest, WhatIsHiddenAndShownAgainIsPaintedWhole) {
   Home.Wait(50);
   Form.Box.SetVisible(true);
   Home.Wait(100);
-  const ScreenInfo screen = Home.Windows().Screen();
+  const ScreenInfo screen = Form.Screen();
   EXPECT_EQ(ScreenPixel(static_cast<int>(3500 / screen.TwipsPerPixelX),
                         static_cast<int>(3000 / screen.TwipsPerPixelY)),
             0x00336699U);
@@ -121,7 +121,7 @@ TEST_F(ToolkitTest, AFormMayUnloadInAnyOfItsEvents) {
 
 TEST_F(ToolkitTest, AFormThatOthersMoveKnowsItsPlace) {
   ShowOnTop();
-  const ScreenInfo screen = Home.Windows().Screen();
+  const ScreenInfo screen = Form.Screen();
   ::SetWindowPos(reinterpret_cast<HWND>(Form.hWnd()), nullptr, 40, 30, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   EXPECT_EQ(Form.Left(), 40 * screen.TwipsPerPixelX);

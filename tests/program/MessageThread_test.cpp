@@ -1,0 +1,193 @@
+// No disk, no net and no extension of the shell is asked by the thread of the windows: there each
+// call costs time, which is measured. The program's own folder is small and local, and is asked.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Text.h"
+#include "core/Main.h"
+#include "core/MenuRecord.h"
+#include "program/ProgramDesk.h"
+
+namespace corvelle {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+constexpr int kPrice = 10;  // milliseconds of each call
+
+/// What the windows still ask themselves, each with its reason.
+constexpr std::string_view kStillAsked[] = {
+    "FileInfo ",      // the icon of a file whose disk has answered just now
+    "DrawFileIcon ",  // the same of an icon in a file
+    "PathOf shell",   // once at the start: the shell keeps the paths of its folders in memory
+};
+
+bool IsStillAsked(const std::string& call) {
+  return std::any_of(std::begin(kStillAsked), std::end(kStillAsked),
+                     [&](std::string_view known) { return call.starts_with(known); });
+}
+
+/// A strip with a menu of plain items and folders, a menu that has pages, and single buttons, on a
+/// machine where each call takes its time.
+class MessageThread : public ::testing::Test {
+ protected:
+  MessageThread() {
+    World().Files.AddDrive('D');
+    for (int i = 0; i < 12; ++i)
+      World().Files.Put("D:\\Docs\\letter " + std::to_string(10 + i) + ".txt", "x");
+    World().Folders.Put(3, {{"Mouse", 40}, {"Fonts", 41}});
+    desk_.Start();
+    World().Desktop.Advance(2000);
+    // Only now, so that the start has asked for nothing of them.
+    PutMenu(1, {{"Near", "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe"},
+                {"Far", "", "D:\\Docs\\*.*"},
+                {"Also far", "D:\\Docs\\letter 10.txt", "D:\\Docs\\letter 10.txt"},
+                {"Controls", "", "CSIDL_CONTROLS"}});
+    std::vector<MenuRecord> many;
+    for (int i = 0; i < 120; ++i)
+      many.push_back({"Item " + std::to_string(i), "", "D:\\Docs\\letter 10.txt"});
+    PutMenu(2, many);
+    World().Costs.SetPrice(
+        [](std::string_view, std::string_view about) { return IsOwn(about) ? 0 : kPrice; });
+    World().Costs.WhenCharged([this](int milliseconds) { World().Desktop.Jump(milliseconds); });
+  }
+
+  static bool IsOwn(std::string_view path) { return StartsWithNoCase(path, "C:\\Corvelle"); }
+
+  sim::World& World() { return desk_.world; }
+  void PutMenu(int number, const std::vector<MenuRecord>& items) {
+    std::string bytes = FormatRecord({"Menu", "Button", ""}, World().Ansi);
+    for (const MenuRecord& item : items) bytes += FormatRecord(item, World().Ansi);
+    World().Files.Put(kMenus + MenuFileName(number), bytes);
+  }
+  /// The calls that cost something while `act` ran, each once, sorted by name.
+  template <class Act>
+  Calls CostsOf(Act act) {
+    World().Costs.Clear();
+    act();
+    Calls calls = World().Costs.Charged();
+    calls.erase(std::remove_if(calls.begin(), calls.end(), &IsStillAsked), calls.end());
+    std::sort(calls.begin(), calls.end());
+    calls.erase(std::unique(calls.begin(), calls.end()), calls.end());
+    return calls;
+  }
+  void Press(int button) {
+    desk_.PointAt(desk_.MenuButton(button));
+    World().Desktop.Click();
+    ASSERT_TRUE(desk_.parts->Menu.MenuVisible());
+  }
+
+  ProgramDesk desk_;
+};
+
+TEST_F(MessageThread, AMenuOverFoldersOpensWithoutACall) {
+  EXPECT_EQ(CostsOf([this] { Press(2); }), Calls());
+}
+
+TEST_F(MessageThread, AndFillsWithoutOne) {
+  EXPECT_EQ(CostsOf([this] {
+              Press(2);
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+}
+
+TEST_F(MessageThread, PassingOverItsItemsMakesNone) {
+  Press(2);
+  World().Desktop.Advance(2000);
+  EXPECT_EQ(CostsOf([this] {
+              for (int item = 1; item <= 4; ++item) {
+                desk_.PointAt(desk_.Item(item));
+                World().Desktop.Advance(700);
+              }
+            }),
+            Calls());
+}
+
+TEST_F(MessageThread, PagingMakesNone) {
+  Press(3);
+  World().Desktop.Advance(2000);
+  const int page = desk_.parts->Menu.Pages().CurMenu();
+  EXPECT_EQ(CostsOf([this] {
+              World().Desktop.PressKey(forms::key::PageDown);
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+  EXPECT_NE(desk_.parts->Menu.Pages().CurMenu(), page);
+}
+
+TEST_F(MessageThread, F5MakesNone) {
+  Press(2);
+  World().Desktop.Advance(2000);
+  EXPECT_EQ(CostsOf([this] {
+              World().Desktop.PressKey(forms::key::F5);
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+}
+
+TEST_F(MessageThread, TheStartMakesNone) {
+  desk_.parts.reset();
+  EXPECT_EQ(CostsOf([this] {
+              desk_.Start();
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+}
+
+TEST_F(MessageThread, ChoosingAnEntryMakesNone) {
+  World().Associations.Set(".htm", "C:\\Browser\\browser.exe");
+  PutMenu(2, {{"Program", "", "D:\\Docs\\letter 10.txt"},
+              {"Page", "", "http://a.example/"},
+              {"Mail", "", "mailto:a@b.example"},
+              {"Search", "", "FileFind"},
+              {"Folder", "", "CSIDL_CONTROLS"},
+              {"Link", "", "D:\\a.url"}});
+  for (int item = 1; item <= 6; ++item) {
+    Press(3);
+    World().Desktop.Advance(2000);
+    EXPECT_EQ(CostsOf([&] {
+                desk_.PointAt(desk_.Item(item));
+                World().Desktop.Click();
+                World().Desktop.Advance(500);
+              }),
+              Calls())
+        << item;
+  }
+}
+
+TEST_F(MessageThread, ADropMakesNone) {
+  World().Files.Put("D:\\new.txt", "x");
+  const PixelPoint at = desk_.MenuButton(2);
+  World().Desktop.DragFilesOver({"D:\\new.txt", "D:\\Docs\\letter 11.txt"}, at);
+  World().Desktop.Advance(500);
+  EXPECT_EQ(CostsOf([&] {
+              World().Desktop.Release();
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+  EXPECT_EQ(World().Files.Get(kMenus + MenuFileName(1)).value_or("").size(), 7 * kRecordLength);
+}
+
+/// A question that is not answered is waited for once in a turn, however many there are.
+TEST_F(MessageThread, FoldersThatDoNotAnswerAreWaitedForLessThanATenthOfASecondTogether) {
+  PutMenu(1, {{"One", "", "D:\\Docs\\*.*"},
+              {"Two", "", "E:\\Docs\\*.*"},
+              {"Three", "", "\\\\server\\share\\*.*"}});
+  for (const char* lane : {"D:", "E:", "\\\\SERVER"}) World().SlowAnswers.Hang(lane);
+  World().Costs.Clear();
+  Press(2);
+  World().Desktop.Advance(500);
+  EXPECT_LT(World().Costs.LongestTurn(), 100);
+  EXPECT_GT(World().Costs.LongestTurn(), 0);
+}
+
+}  // namespace
+}  // namespace corvelle
