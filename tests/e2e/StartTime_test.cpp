@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/CodePage.h"
 #include "core/MenuRecord.h"
 #include "e2e/Times.h"
 #include "e2e/WineDesk.h"
@@ -22,7 +23,7 @@ using scenario::kFlagsFile;
 using scenario::WriteMenu;
 
 constexpr double kTooLong = 20'000;
-constexpr int kButtons = 8;
+constexpr int kMenusOfStart = 8;
 
 double Now() {
   LARGE_INTEGER now = {};
@@ -106,7 +107,7 @@ void PutEntries(WineDesk& desk) {
     CopyFileW(Wide(desk.WitnessProgram()).c_str(), name.c_str(), TRUE);
     return Narrow(name);
   };
-  for (int menu = 1; menu <= kButtons; ++menu) {
+  for (int menu = 1; menu <= kMenusOfStart; ++menu) {
     std::vector<MenuRecord> items;
     for (int i = 1; i <= 10; ++i) {
       const std::string path = tool();
@@ -114,7 +115,7 @@ void PutEntries(WineDesk& desk) {
     }
     WriteMenu(desk, menu, "Menu " + std::to_string(menu), items);
   }
-  for (int single = 1; single <= kButtons; ++single) {
+  for (int single = 1; single <= kMenusOfStart; ++single) {
     const std::string path = tool();
     desk.WriteFile("Menus\\" + SingleFileName(single),
                    FormatRecord({.FTitle = "Single", .FIcon = path, .FName = path}, Windows1252()));
@@ -154,7 +155,7 @@ TEST(StartTime, OfTheStripBesideThatOfTheBareCalls) {
     answers.push_back(start.Answers);
     // At different moments of the first half second.
     desk.Pause(round * 450 / rounds);
-    press.push_back(TimeOfPress(desk, 2 + round % kButtons));
+    press.push_back(TimeOfPress(desk, 2 + round % kMenusOfStart));
     desk.Release(scenario::Button::Left);
     EXPECT_LT(press.back(), kTooLong) << round;
     desk.Key(scenario::kKeyEscape);
