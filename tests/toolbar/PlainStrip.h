@@ -79,6 +79,7 @@ struct PlainStrip final : forms::Form, TrackedStrip, PulledStrip, RowHost {
   void DrawBorders() override {}
   void DrawDragLook() override {}
   void EndSlide() override {}
+  void WatchHiding(bool) override {}
 
   // RowHost
   const forms::PictureBox& ButtonsBox() const noexcept override { return picToolbar; }
