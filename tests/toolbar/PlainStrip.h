@@ -80,7 +80,6 @@ struct PlainStrip final : forms::Form, TrackedStrip, PulledStrip, RowHost {
   void WatchHiding(bool) override {}
   void DrawDragLook() override {}
   void EndSlide() override {}
-  void WatchHiding(bool) override {}
 
   // RowHost
   const forms::PictureBox& ButtonsBox() const noexcept override { return picToolbar; }
