@@ -154,6 +154,8 @@ TEST(CustomizeMissing, NothingIsAskedOfServersAndOfDrivesThatAreNotAtHand) {
                {{"Alpha", "", "N:\\none.exe"}, {"Beta", "", "\\\\server\\share\\none.exe"}});
   desk.PutMenu(2, {"Tools", "Button", ""},
                {{"Hammer", "", "R:\\none.exe"}, {"Edit", "", "S:\\none.exe"}});
+  // The icons of the menus have come by then.
+  desk.world.Desktop.Advance(3000);
   const int before = desk.world.SlowAnswers.Asked();
   desk.OpenAndLook();
   EXPECT_EQ(desk.AllMarked(), "");
