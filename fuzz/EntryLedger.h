@@ -28,12 +28,15 @@ class EntryLedger {
   /// How many entries of `before` are not here any more; `first` becomes the texts of one of them.
   [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
   [[nodiscard]] int Size() const noexcept { return size_; }
+  /// With the records that bear the monkey's damage.
+  [[nodiscard]] int Records() const noexcept { return size_ + damaged_; }
 
  private:
   void Add(const MenuRecord& record);
 
   std::map<std::string, int> entries_;
   int size_ = 0;
+  int damaged_ = 0;
 };
 
 /// True for the files that hold entries of the user, by the end of their name.

@@ -77,9 +77,9 @@ struct PlainStrip final : forms::Form, TrackedStrip, PulledStrip, RowHost {
   bool ContentsVisible() const override { return true; }
   bool MenuUp() const override { return false; }
   void DrawBorders() override {}
+  void WatchHiding(bool) override {}
   void DrawDragLook() override {}
   void EndSlide() override {}
-  void WatchHiding(bool) override {}
 
   // RowHost
   const forms::PictureBox& ButtonsBox() const noexcept override { return picToolbar; }
