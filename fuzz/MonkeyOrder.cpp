@@ -34,7 +34,6 @@ std::string MonkeyLife::WrongState() const {
   if (program.Guards.ChangingMode) return "the mode is still being changed";
   if (program.Guards.ItemActionBusy) return "an entry is still being edited";
   if (program.Drag.ItemDropping) return "an entry is still being put down";
-  if (program.Guards.MenuFormBusy) return "a window still edits a menu";
   if (parts_->StillPicture.MovingToolbar) return "the outline is still being moved";
   if (program.Strip.ToolbarMinimizing) return "the strip is still on its way into the task bar";
   if (parts_->Toolbar.Menus.MenuRefreshing) return "a menu is still being reread";

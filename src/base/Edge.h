@@ -25,14 +25,6 @@ enum class Edge { Top, Bottom, Left, Right };
   return "TOP";
 }
 
-/// The edge of a name, case and blanks at its ends apart; nothing for a text that is none.
-[[nodiscard]] inline std::optional<Edge> EdgeFromText(std::string_view text) {
-  for (const Edge edge : {Edge::Top, Edge::Bottom, Edge::Left, Edge::Right}) {
-    if (EqualNoCase(Trim(text), EdgeText(edge))) return edge;
-  }
-  return std::nullopt;
-}
-
 /// True for the edges at which the strip stands upright.
 [[nodiscard]] constexpr bool IsVertical(Edge edge) noexcept {
   return edge == Edge::Left || edge == Edge::Right;

@@ -27,7 +27,7 @@ char32_t Weight(const Utf8Step& step, std::string_view text, std::size_t at) noe
   return 0x110000U + static_cast<unsigned char>(text[at]);
 }
 
-/// Bytes of `text` from byte `at` that equal `what`, case apart; npos when they do not.
+/// Bytes of `text` from byte `at` that equal `what` ignoring case; npos when they do not.
 std::size_t MatchAt(std::string_view text, std::size_t at, std::string_view what) noexcept {
   std::size_t here = at;
   for (std::size_t there = 0; there < what.size();) {

@@ -32,8 +32,8 @@ namespace corvelle {
 /// Every "&&" made one "&".
 [[nodiscard]] std::string SingleAmpersands(std::string_view caption);
 
-/// Below, at or above 0 as `a` sorts before, with or after `b`, case apart. Bytes that are part of
-/// no character sort by their value, after all characters.
+/// Below, at or above 0 as `a` sorts before, with or after `b`, ignoring case. Bytes that are part
+/// of no character sort by their value, after all characters.
 [[nodiscard]] int CompareNoCase(std::string_view a, std::string_view b) noexcept;
 
 [[nodiscard]] bool EqualNoCase(std::string_view a, std::string_view b) noexcept;
@@ -51,7 +51,7 @@ namespace corvelle {
 [[nodiscard]] char32_t UpperCharacter(char32_t character) noexcept;
 [[nodiscard]] char32_t LowerCharacter(char32_t character) noexcept;
 
-/// The whole number that the text, blanks at its ends apart, is; nothing when it is none or when an
+/// The whole number in the text, which may have blanks around it; nothing without one or when an
 /// int cannot hold it.
 [[nodiscard]] std::optional<int> ParseNumber(std::string_view text) noexcept;
 

@@ -19,7 +19,7 @@ struct Utf8Step {
 /// True for well-formed UTF-8: shortest forms only, no surrogates, nothing above U+10FFFF.
 [[nodiscard]] bool IsValidUtf8(std::string_view text) noexcept;
 
-/// Appends a character; what is none (a surrogate, a value above U+10FFFF) as U+FFFD.
+/// Appends a character; no character (a surrogate, a value above U+10FFFF) as U+FFFD.
 void AppendUtf8(std::string& text, char32_t character);
 
 /// UTF-16 of the text; each byte that is part of no character becomes U+FFFD.

@@ -32,7 +32,7 @@ EditOutcome Told(const Program& program, const EditOutcome& outcome) {
   return outcome;
 }
 
-// The row of single buttons is rewritten as a whole, by whoever owns it, and read anew whatever
+// The row of single buttons is rewritten as a whole, by whoever owns it, and read again whatever
 // came of it.
 template <class Edit>
 EditOutcome EditSingles(Program& program, const Edit& edit) {

@@ -18,8 +18,6 @@ struct GuardFlags {
   bool ChangingMode = false;
   /// A popup command rewrites a menu file; a drop waits.
   bool ItemActionBusy = false;
-  /// An edit of a menu from a window is under way; docking waits.
-  bool MenuFormBusy = false;
   /// How many popups, messages and menus of the shell wait for the user's answer: until then no
   /// pointer that passes opens or closes a menu, and nothing is dropped.
   int OpenQuestions = 0;
@@ -30,8 +28,7 @@ struct GuardFlags {
   [[nodiscard]] bool IsSettling() const noexcept { return StartingUp || PosChangeRunning; }
   /// True while a file or a menu is being worked on: nobody else rewrites one meanwhile.
   [[nodiscard]] bool IsWorking() const noexcept {
-    return StartingUp || MenuBuilding || ItemActionBusy || MenuFormBusy || AppBarBusy ||
-           PosChangeRunning;
+    return StartingUp || MenuBuilding || ItemActionBusy || AppBarBusy || PosChangeRunning;
   }
   /// False while the program works on a file or a menu, or waits for an answer: a drop waits, which
   /// OLE calls refusing it.

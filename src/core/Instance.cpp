@@ -21,8 +21,7 @@ bool IsWanted(const DesktopWindows& desktop, WindowId window, std::string_view t
 
 }  // namespace
 
-bool ActivatePrevInstance(Program& program, std::string_view title) {
-  DesktopWindows& desktop = program.Services.Desktop;
+bool ActivatePrevInstance(DesktopWindows& desktop, std::string_view title) {
   for (const WindowId window : desktop.TopLevel()) {
     if (!IsWanted(desktop, window, title)) continue;
     if (desktop.IsMinimized(window)) {
@@ -46,11 +45,11 @@ bool ClaimSession(Program& program) {
   program.Title = "xyz";
   SystemInfo& system = program.Services.System;
   bool other = system.AnotherInstanceRuns();
-  bool woken = other && ActivatePrevInstance(program, kTitle);
+  bool woken = other && ActivatePrevInstance(program.Services.Desktop, kTitle);
   // One that is just ending has no window any more, and one that starts has none yet.
   for (int look = 1; look < kLooks && other && !woken; ++look) {
     other = system.AnotherInstanceRuns();
-    woken = other && ActivatePrevInstance(program, kTitle);
+    woken = other && ActivatePrevInstance(program.Services.Desktop, kTitle);
   }
   program.Title = kTitle;
   if (other && !woken) {

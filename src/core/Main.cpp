@@ -46,7 +46,7 @@ void ShowWelcome(Program& program) {
   }
 }
 
-// The link of an earlier copy is made anew, so that it points to this one.
+// The link of an earlier copy is made again, so that it points to this one.
 void OfferStartupLink(Program& program, StartupLinkPort& link) {
   const std::string executable = program.Paths.ShippedFile("corvelle.exe");
   if (link.Exists()) {

@@ -15,7 +15,7 @@ namespace {
 // More than record numbers reach, so that the count of a longer file still rounds as it should.
 constexpr std::size_t kReadLimit = (static_cast<std::size_t>(kMaxRecords) + 1) * kRecordLength;
 
-// A menu file larger than this is none, and is not taken into memory to be rewritten.
+// A file larger than this is no menu, and is not read into memory to be rewritten.
 constexpr std::uint64_t kRewriteLimit = 256ULL << 20U;
 
 // Behind it no free number is looked for any more.

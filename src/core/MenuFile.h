@@ -92,7 +92,7 @@ FileStatus RewriteMenuFileBy(FileSystem& files, const std::string& temporary, st
 [[nodiscard]] FileResult<std::string> CreateButtonFile(FileSystem& files, const CodePage& ansi,
                                                        std::string_view menusPath);
 
-/// Writes the file of the program's own menu anew and gives its path.
+/// Writes the file of the program's own menu again and gives its path.
 [[nodiscard]] FileResult<std::string> WriteMainMenuFile(FileSystem& files, const CodePage& ansi,
                                                         std::string_view appPath);
 

@@ -13,10 +13,10 @@ class CodePage;
 inline constexpr int kDesktopFolder = 0;
 inline constexpr int kRecycleBinFolder = 10;
 
-/// True for the name of a special folder that the program knows, case apart.
+/// True for the name of a special folder that the program knows, ignoring case.
 [[nodiscard]] bool IsKnownSpecialFolder(std::string_view name) noexcept;
 
-/// The shell's number of a special folder by its name ("CSIDL_DRIVES", case apart, nothing around
+/// The shell's number of a special folder by its name ("CSIDL_DRIVES", in any case, nothing around
 /// it). Any other text is the desktop, 0.
 [[nodiscard]] int CsidlValue(std::string_view name) noexcept;
 

@@ -80,8 +80,8 @@ class StripCarryPort {
 
   [[nodiscard]] virtual WindowId ButtonBoxHandle() const = 0;  // picToolbar
   [[nodiscard]] virtual WindowId SingleBoxHandle() const = 0;  // picSingleButton
-  /// Index of the button under the pointer while something is carried, 0 for none. Opens the menu
-  /// of that button, and ends a carry whose release went to another program.
+  /// Follows what is carried: opens the menu of the button under the pointer, or ends a carry whose
+  /// release went to another program. Returns the index of that button, 0 for none.
   [[nodiscard]] virtual int dragCurButton() = 0;
   /// Drops the carried entry on a button: appended to its menu, and taken away from where it came
   /// unless `released` is the right button, which copies.
@@ -196,7 +196,7 @@ class QMenuPort : public AskingWindow {
 
   /// Back to the page that was up before a rebuild.
   virtual void GetCurMenu() = 0;
-  /// Reads the menu on show and its icons anew.
+  /// Reads the menu on show and its icons again.
   virtual void RefreshQMenu() = 0;
 
   virtual void InitIcons() = 0;
@@ -273,7 +273,7 @@ class DockingPort {
   virtual ~DockingPort() = default;
 
   virtual void RegisterAppBar() = 0;
-  /// Gives up the edge and registers anew, empty.
+  /// Gives up the edge and registers again, without one.
   virtual void RemoveAppBar() = 0;
   /// Gives up the edge for good.
   virtual void EndAppBar() = 0;

@@ -30,7 +30,7 @@ struct Asker {
 /// answer: that place then rests (NotAvailable) while all others go on. Nothing here waits but
 /// AskAtOnce.
 ///
-/// A menu that shows what it knows and reads the folder afresh, then the icon of an entry:
+/// A menu that shows what it knows and reads the folder again, then the icon of an entry:
 ///
 ///   owner_ = desk.NewOwner();
 ///   const Lookup folder{.Kind = LookupKind::FolderEntries, .Path = "D:\\Tools\\"};

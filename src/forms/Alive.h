@@ -4,7 +4,7 @@
 
 namespace corvelle::forms {
 
-/// Lets a routine that calls a handler ask afterwards whether its object still stands.
+/// Lets a routine that calls a handler ask afterwards whether its object still exists.
 class Alive {
  public:
   /// Asks after one object.

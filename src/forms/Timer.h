@@ -7,7 +7,7 @@
 namespace corvelle::forms {
 
 /// Calls its Tick every Interval milliseconds while it is enabled. Interval 0 never ticks. Setting
-/// the interval, to the same value too, or switching the timer on starts the wait afresh; switching
+/// the interval, to the same value too, or switching the timer on starts the wait again; switching
 /// on one that is on changes nothing.
 class Timer {
  public:

@@ -120,7 +120,7 @@ class Window : public Control, protected WindowEvents {
   void ToolTipChanged() override;
   void BoundsChanged(float oldLeft, float oldTop, float oldWidth, float oldHeight) override;
 
-  /// Asks whether this window still stands after a handler ran.
+  /// Tells after a handler ran whether this window still exists.
   [[nodiscard]] Alive::Watch MakeWatch() const { return alive_.MakeWatch(); }
 
   /// What the rules of the keyboard need to know.

@@ -18,12 +18,12 @@
 
 namespace corvelle::forms {
 
-/// What a backend tells the portable object that stands behind a window. Points are pixels from the
+/// What a backend tells the portable object that is behind a window. Points are pixels from the
 /// upper left corner of the window.
 ///
 /// Any of these calls may destroy the peer that makes it, and other peers with it: the backend
 /// keeps the call's arguments (the canvas too) until the call returns, and touches neither peer nor
-/// events afterwards without asking whether they still stand. A peer whose destructor has begun
+/// events afterwards without asking whether they still exist. A peer whose destructor has begun
 /// tells its events nothing more.
 ///
 /// Mouse: the window that is pressed gets all moves and releases until every button is up, outside

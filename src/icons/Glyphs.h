@@ -12,7 +12,7 @@ class WindowSystem;
 }
 
 // The small pictures that are drawn by the program itself, by their keys. Their colours are the
-// system's at the moment of drawing, so that a picture that is kept must be made anew when these
+// system's at the moment of drawing, so that a picture that is kept must be made again when these
 // change. All are 16 by 16 pixels but the arrows of menus.
 //   menus: "up", "up2", "down", "down2" (arrows, the second ones disabled), "circle" (a state
 //   mark),

@@ -59,7 +59,7 @@ void RemoveAll(Program& program, std::string_view pattern) {
   // A folder that cannot be listed holds nothing to remove.
   if (!entries) return;
   for (const FileEntry& entry : *entries) {
-    // What cannot be removed is written anew when its list is.
+    // What cannot be removed is written again with its list.
     if (!entry.IsFolder) static_cast<void>(files.Remove(program.Paths.IconsPath + entry.Name));
   }
 }

@@ -12,7 +12,7 @@ class Canvas;
 class Program;
 
 // Drawing of icons. Points and sizes are pixels. Nothing here shows a message or keeps an icon:
-// each draw asks the shell anew, and what cannot be drawn is left as it was.
+// each draw asks the shell again, and what cannot be drawn is left as it was.
 
 /// Looks once how the shell shows icon files and sets Program::Icons: true when each
 /// shows its own picture, false when all of them show the same one.

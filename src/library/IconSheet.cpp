@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/Program.h"
+#include "forms/WindowSystem.h"
 #include "platform/ShellIcons.h"
 
 namespace corvelle {
@@ -32,13 +32,13 @@ void IconSheet::Draw(std::size_t index, const IconCell& cell) {
   std::unique_ptr<Canvas>& bitmap = bitmaps_[index / kOnABitmap];
   if (bitmap == nullptr) {
     const int side = side_ * static_cast<int>(kInARow);
-    bitmap = program_.Windows.CreateCanvas({side, side});
+    bitmap = windows_.CreateCanvas({side, side});
     bitmap->FillBox({0, 0, side, side}, ground_);
   }
   drawn_[index] = true;
   // A file that cannot be read leaves its cell empty.
-  static_cast<void>(program_.Services.Icons.DrawFileIcon(*bitmap, cell.File, cell.Index,
-                                                         PlaceOf(index).TopLeft(), side_));
+  static_cast<void>(
+      icons_.DrawFileIcon(*bitmap, cell.File, cell.Index, PlaceOf(index).TopLeft(), side_));
 }
 
 void IconSheet::Show(std::size_t index, Canvas& target, PixelPoint at) const {

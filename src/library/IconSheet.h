@@ -9,13 +9,16 @@
 
 namespace corvelle {
 
-class Program;
+class ShellIcons;
+namespace forms {
+class WindowSystem;
+}
 
 /// The pictures of cells, drawn one by one and kept; no icon of the system is. Many share one
 /// bitmap, so that thousands take a few objects of the system.
 class IconSheet {
  public:
-  explicit IconSheet(Program& program) : program_(program) {}
+  IconSheet(forms::WindowSystem& windows, ShellIcons& icons) : windows_(windows), icons_(icons) {}
 
   /// Forgets all pictures. From now on there are `count` cells with icons of `side` pixels on a
   /// ground of that colour.
@@ -33,7 +36,8 @@ class IconSheet {
  private:
   [[nodiscard]] PixelRect PlaceOf(std::size_t index) const noexcept;
 
-  Program& program_;
+  forms::WindowSystem& windows_;
+  ShellIcons& icons_;
   int side_ = 32;
   Rgb ground_ = 0;
   std::vector<bool> drawn_;

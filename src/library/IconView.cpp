@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/Program.h"
 #include "forms/Scale.h"
 
 namespace corvelle {
@@ -22,8 +21,8 @@ constexpr int kBorder = 1;  // pixels around the marked cell
 
 }  // namespace
 
-IconView::IconView(Program& program, forms::PictureBox& sheet, forms::ScrollBar& bar)
-    : program_(program), sheet_(sheet), bar_(bar), tmrDraw_(program.Windows), pictures_(program) {
+IconView::IconView(ShellIcons& icons, forms::PictureBox& sheet, forms::ScrollBar& bar)
+    : sheet_(sheet), bar_(bar), tmrDraw_(sheet.Windows()), pictures_(sheet.Windows(), icons) {
   sheet_.SetTabStop(true);
   sheet_.SetWants({.Arrows = true, .Paging = true, .Typing = true});
   sheet_.SetBackColor(forms::color::WindowGround);
@@ -59,7 +58,7 @@ void IconView::SetMetrics(const CellMetrics& cell, PixelSize view) {
 void IconView::SetCells(std::vector<IconCell> cells) {
   cells_ = std::move(cells);
   pictures_.Start(cells_.size(), grid_.Cell.Icon,
-                  forms::Resolve(program_.Windows, forms::color::WindowGround));
+                  forms::Resolve(sheet_.Windows(), forms::color::WindowGround));
   grid_.TopRow = 0;
   ShowCells(-1);
 }
@@ -143,8 +142,8 @@ bool IconView::OnCharacter(char32_t character) {
 // ---- drawing ----
 
 void IconView::DrawSome() {
-  const std::int64_t end = program_.Windows.Now() + kDrawTime;
-  for (int i = 0; i < kDrawnAtOnce && program_.Windows.Now() < end; ++i) {
+  const std::int64_t end = sheet_.Windows().Now() + kDrawTime;
+  for (int i = 0; i < kDrawnAtOnce && sheet_.Windows().Now() < end; ++i) {
     const int place = NextToDraw(
         grid_, [this](int at) { return pictures_.IsDrawn(shown_[static_cast<std::size_t>(at)]); });
     if (place < 0) return tmrDraw_.SetEnabled(false);
@@ -172,7 +171,7 @@ void IconView::PaintCells() {
 
 void IconView::PaintCell(Canvas& canvas, int place) const {
   const std::size_t index = shown_[static_cast<std::size_t>(place)];
-  const auto colour = [this](forms::OleColor of) { return forms::Resolve(program_.Windows, of); };
+  const auto colour = [this](forms::OleColor of) { return forms::Resolve(sheet_.Windows(), of); };
   const PixelRect icon = grid_.IconOf(place);
   if (pictures_.IsDrawn(index)) pictures_.Show(index, canvas, icon.TopLeft());
   const PixelRect label = grid_.LabelOf(place);

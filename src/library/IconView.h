@@ -15,14 +15,14 @@
 
 namespace corvelle {
 
-class Program;
+class ShellIcons;
 
 /// The cells of one tab of the library: what stands in them, which of them is marked and which are
 /// seen. Their icons are drawn a few at a time, those in view first, so that the user can scroll
 /// and pick meanwhile. The sheet and its bar outlive it.
 class IconView {
  public:
-  IconView(Program& program, forms::PictureBox& sheet, forms::ScrollBar& bar);
+  IconView(ShellIcons& icons, forms::PictureBox& sheet, forms::ScrollBar& bar);
 
   /// The measures of cells, and the inside of the sheet in pixels.
   void SetMetrics(const CellMetrics& cell, PixelSize view);
@@ -63,7 +63,6 @@ class IconView {
   void PaintCell(Canvas& canvas, int place) const;
   void Repaint(int place);
 
-  Program& program_;
   forms::PictureBox& sheet_;
   forms::ScrollBar& bar_;
   forms::Timer tmrDraw_;

@@ -33,7 +33,7 @@ int PlaceOf(const std::vector<std::string>& rows, std::string_view row) {
 
 AddedFile AddOtherFile(Program& program, std::vector<std::string>& rows, std::string_view chosen) {
   const bool shortcut = EndsWithNoCase(chosen, kShortcut);
-  const std::string path = Trim(ResolveChosenFile(program, chosen));
+  const std::string path = Trim(ResolveChosenFile(program.Services.Links, chosen));
   if (path.empty()) return {.Refusal = std::string(kNoTarget)};
   const std::string row = OtherFileRow(path);
   const std::string named =

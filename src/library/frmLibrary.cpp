@@ -46,8 +46,8 @@ frmLibrary::frmLibrary(Program& program)
       cmdRemove(*this, "cmdRemove"),
       cmdOK(*this, "cmdOK"),
       cmdCancel(*this, "cmdCancel"),
-      LibraryView(program, Pic2, VS1),
-      OtherView(program, picOther, vsOther),
+      LibraryView(program.Services.Icons, Pic2, VS1),
+      OtherView(program.Services.Icons, picOther, vsOther),
       program_(program) {
   TabStrip1.Add(kLibraryTab, "Library");
   TabStrip1.Add(kOtherTab, "Other Files");

@@ -75,8 +75,8 @@ class SystemInfo {
   /// rest. Asking does not wake a disk. May take long as well: LookupKind::DriveAtHand.
   [[nodiscard]] virtual bool IsDriveAtHand(const std::string& root) const = 0;
 
-  /// True if another process of this program runs in this session. The first question claims the
-  /// session for this process; each later one gives the other a moment to end, and claims it then.
+  /// Claims the session for this process at the first call, and each later one gives the process
+  /// that had it before a moment to end. True while that other process of this program runs.
   [[nodiscard]] virtual bool AnotherInstanceRuns() = 0;
 
   /// Height of a window's caption (SM_CYCAPTION) and width of its buttons (SM_CXSIZE), in pixels of
@@ -89,7 +89,7 @@ class SystemInfo {
   [[nodiscard]] virtual std::string ShortDate() const = 0;
   [[nodiscard]] virtual std::string LongDate() const = 0;
   /// The time of day in hours and minutes of two digits each, with the user's word for before or
-  /// after noon; where there is none the hours go to 23. Empty when the system does not tell.
+  /// after noon; without such a word the hours go to 23. Empty when the system does not tell.
   [[nodiscard]] virtual std::string TimeOfDay() const = 0;
 
   /// Bits per pixel of the screen.

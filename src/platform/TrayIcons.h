@@ -30,7 +30,7 @@ class TrayIcons {
   /// Does nothing when there is no such icon.
   virtual void Remove(WindowId window, std::uint32_t id) = 0;
 
-  /// The message that every top-level window gets when the task bar comes up anew, without the
+  /// The message that every top-level window gets when the task bar is started again, without the
   /// icons that it showed before. 0 when the system has none.
   [[nodiscard]] virtual std::uint32_t TaskbarCreatedMessage() const = 0;
 };

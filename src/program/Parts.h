@@ -66,7 +66,7 @@ class Parts {
   BuiltInCommands TheBuiltIns{TheProgram};
   Browser TheBrowser{TheProgram};
   SpecialFolders TheSpecialFolders{TheProgram};
-  LinkReader Links{TheProgram};
+  LinkReader Links{TheProgram.Services.Links};
   StartupLink TheStartupLink{TheProgram};
   DragImage Carried{TheProgram};
   frmURL WebLink{TheProgram};

@@ -3,19 +3,21 @@
 #include <string>
 #include <string_view>
 
-#include "core/Program.h"
 #include "core/SpecialFolders.h"
 #include "menus/folders/FolderRules.h"
+#include "platform/FileSystem.h"
+#include "platform/ShellFolders.h"
 #include "properties/PreviewPlan.h"
 
 namespace corvelle {
 
-std::vector<int> DesktopIcons(Program& program) {
+std::vector<int> DesktopIcons(ShellFolders& folders, FileSystem& files,
+                              std::string_view menusPath) {
   for (const std::string_view name : {"dtf", "dtf.mfd", "dtf.tmp"}) {
     // One that stays does no harm: the next start removes it.
-    static_cast<void>(program.Services.Files.Remove(program.Paths.MenusPath + std::string(name)));
+    static_cast<void>(files.Remove(std::string(menusPath) + std::string(name)));
   }
-  const auto entries = program.Services.Folders.List(kDesktopFolder);
+  const auto entries = folders.List(kDesktopFolder);
   if (!entries) return {};
   std::vector<std::string> texts;
   for (const std::string& line : ShellFolderLines(*entries)) {

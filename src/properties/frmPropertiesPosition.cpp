@@ -49,7 +49,8 @@ void frmProperties::DrawPreview() {
   const int width = program_.Services.Icons.IconWidth(IconList::Large);
   if (width > 0) scene_.IconSize = width;
   // The shell may let messages in while it lists the desktop.
-  const std::vector<int> icons = DesktopIcons(program_);
+  const std::vector<int> icons =
+      DesktopIcons(program_.Services.Folders, program_.Services.Files, program_.Paths.MenusPath);
   const std::vector<PixelPoint> places = IconGrid(scene_, icons.size());
   const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas(scene_.Box);
   Draw(*drawn, *this, PlanPreview(scene_));

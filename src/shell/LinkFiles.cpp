@@ -12,26 +12,26 @@ std::string GetSpecialFolder(Program& program, int folder) {
       .value_or(std::string());
 }
 
-bool MakeLink(Program& program, std::string_view LnkFile, std::string_view ExeFile,
+bool MakeLink(ShellLinks& links, std::string_view LnkFile, std::string_view ExeFile,
               std::string_view WorkDir) {
-  return cShellLink(program.Services.Links)
-      .CreateShellLink(LnkFile, {.ExeFile = std::string(ExeFile), .WorkDir = std::string(WorkDir)});
+  return cShellLink(links).CreateShellLink(
+      LnkFile, {.ExeFile = std::string(ExeFile), .WorkDir = std::string(WorkDir)});
 }
 
-std::optional<LinkTarget> ReadLink(Program& program, std::string_view LnkFile) {
-  auto info = cShellLink(program.Services.Links).GetShellLinkInfo(LnkFile);
+std::optional<LinkTarget> ReadLink(ShellLinks& links, std::string_view LnkFile) {
+  auto info = cShellLink(links).GetShellLinkInfo(LnkFile);
   if (!info) return std::nullopt;
   return LinkTarget{.ExeFile = std::move(info->Fields.ExeFile),
                     .Args = std::move(info->Fields.ExeArgs)};
 }
 
-std::string ResolveChosenFile(Program& program, std::string_view path) {
+std::string ResolveChosenFile(ShellLinks& links, std::string_view path) {
   if (!EndsWithNoCase(path, ".lnk")) return std::string(path);
-  return ReadLink(program, path).value_or(LinkTarget{}).ExeFile;
+  return ReadLink(links, path).value_or(LinkTarget{}).ExeFile;
 }
 
 std::string LinkReader::TargetOf(std::string_view linkPath) {
-  return ReadLink(program_, linkPath).value_or(LinkTarget{}).ExeFile;
+  return ReadLink(links_, linkPath).value_or(LinkTarget{}).ExeFile;
 }
 
 }  // namespace corvelle

@@ -9,6 +9,7 @@
 namespace corvelle {
 
 class Program;
+class ShellLinks;
 
 // Links and special folders in one call each, for all windows of the program.
 
@@ -17,7 +18,7 @@ class Program;
 [[nodiscard]] std::string GetSpecialFolder(Program& program, int folder);
 
 /// Writes a link to a program that starts in `WorkDir`, with a normal window. False on failure.
-bool MakeLink(Program& program, std::string_view LnkFile, std::string_view ExeFile,
+bool MakeLink(ShellLinks& links, std::string_view LnkFile, std::string_view ExeFile,
               std::string_view WorkDir);
 
 struct LinkTarget {
@@ -29,20 +30,20 @@ struct LinkTarget {
 
 /// What a link starts; nothing when it cannot be read. A link to an item without a path has an
 /// empty target.
-[[nodiscard]] std::optional<LinkTarget> ReadLink(Program& program, std::string_view LnkFile);
+[[nodiscard]] std::optional<LinkTarget> ReadLink(ShellLinks& links, std::string_view LnkFile);
 
 /// A file that the user chose or dropped: a link stands for its target, anything else for itself.
 /// Empty for a link that leads to no path.
-[[nodiscard]] std::string ResolveChosenFile(Program& program, std::string_view path);
+[[nodiscard]] std::string ResolveChosenFile(ShellLinks& links, std::string_view path);
 
 /// Links for those who only want to know where they lead.
 class LinkReader final : public ShellLinksPort {
  public:
-  explicit LinkReader(Program& program) : program_(program) {}
+  explicit LinkReader(ShellLinks& links) : links_(links) {}
   std::string TargetOf(std::string_view linkPath) override;
 
  private:
-  Program& program_;
+  ShellLinks& links_;
 };
 
 }  // namespace corvelle

@@ -20,8 +20,8 @@ void Note(Program& program, std::string_view text) {
 
 bool MakeStartupLink(Program& program, std::string_view executable) {
   const std::string link = StartupLinkPath(program);
-  return !link.empty() &&
-         MakeLink(program, link, executable, program.Services.System.ApplicationFolder());
+  return !link.empty() && MakeLink(program.Services.Links, link, executable,
+                                   program.Services.System.ApplicationFolder());
 }
 
 }  // namespace

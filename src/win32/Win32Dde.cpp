@@ -176,7 +176,7 @@ DdeOutcome Win32Dde::Execute(std::string_view service, std::string_view topic,
                              std::string_view command) {
   const UniqueGlobalAtom serviceAtom(MakeAtom(service));
   const UniqueGlobalAtom topicAtom(MakeAtom(topic));
-  // A name that is none stands for any program, which would be the wrong one.
+  // An empty name stands for any program, which would be the wrong one.
   if (!serviceAtom || !topicAtom || !RegisterClient()) return DdeOutcome::NoServer;
   const UniqueWindow window(CreateWindowExW(0, kClientClass, nullptr, WS_POPUP, 0, 0, 0, 0, nullptr,
                                             nullptr, Module(), nullptr));

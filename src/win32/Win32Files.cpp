@@ -243,7 +243,7 @@ FileStatus Win32Files::Write(std::string_view path, std::string_view bytes) {
   if (!wide) return FileError::BadName;
   const FileResult<DWORD> attributes = WritableAttributes(*wide);
   if (!attributes) return attributes.Error();
-  // Opened rather than made anew, so that a hidden file is written and stays hidden.
+  // Opened rather than created, so that a hidden file is written and stays hidden.
   const UniqueFile file = OpenForWriting(*wide, OPEN_ALWAYS);
   return StatusOf(file && SetEndOfFile(file.Get()) != 0 && WriteAll(file.Get(), bytes));
 }

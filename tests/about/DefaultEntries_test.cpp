@@ -77,7 +77,7 @@ class DefaultEntriesTest : public testing::Test {
   sim::World world;
   SearchWindow search;
   Program program{world.Services(), world.Windows()};
-  LinkReader links{program};
+  LinkReader links{program.Services.Links};
   DefaultEntries entries{program};
 };
 

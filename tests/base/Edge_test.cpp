@@ -5,7 +5,7 @@
 namespace corvelle {
 namespace {
 
-TEST(EdgeNames, AreReadBackAsTheyAreWritten) {
+TEST(EdgeNames, AreThoseOfTheFourSides) {
   struct Row {
     Edge edge;
     const char* text;
@@ -19,20 +19,8 @@ TEST(EdgeNames, AreReadBackAsTheyAreWritten) {
   };
   for (const Row& row : rows) {
     EXPECT_EQ(EdgeText(row.edge), row.text);
-    EXPECT_EQ(EdgeFromText(row.text), row.edge) << row.text;
     EXPECT_EQ(IsVertical(row.edge), row.vertical) << row.text;
   }
-}
-
-TEST(EdgeNames, AreReadWithoutRegardToCaseAndBlanksAround) {
-  EXPECT_EQ(EdgeFromText(" left "), Edge::Left);
-  EXPECT_EQ(EdgeFromText("Bottom"), Edge::Bottom);
-}
-
-TEST(EdgeNames, OtherTextsAreNoEdge) {
-  EXPECT_EQ(EdgeFromText(""), std::nullopt);
-  EXPECT_EQ(EdgeFromText("MIDDLE"), std::nullopt);
-  EXPECT_EQ(EdgeFromText("TOPS"), std::nullopt);
 }
 
 }  // namespace

@@ -24,7 +24,6 @@ constexpr GuardRow kGuardRows[] = {
     {"MenuBuilding", &GuardFlags::MenuBuilding, true, false, false},
     {"ChangingMode", &GuardFlags::ChangingMode, false, false, false},
     {"ItemActionBusy", &GuardFlags::ItemActionBusy, true, false, false},
-    {"MenuFormBusy", &GuardFlags::MenuFormBusy, true, false, false},
 };
 
 TEST(GuardFlags, EachQuestionAsksItsOwnFlags) {

@@ -17,20 +17,20 @@ class ActivatePrevInstanceTest : public testing::Test {
 TEST_F(ActivatePrevInstanceTest, WithoutSuchAWindowAnswersFalse) {
   world.Desktop.AddOtherWindow({.Title = ""});
   world.Desktop.AddOtherWindow({.Title = "Corvelle Help - contents"});
-  EXPECT_FALSE(ActivatePrevInstance(program, "Corvelle Help"));
+  EXPECT_FALSE(ActivatePrevInstance(program.Services.Desktop, "Corvelle Help"));
 }
 
 TEST_F(ActivatePrevInstanceTest, BringsAnyOtherWindowToTheForeground) {
   const WindowId help = world.Desktop.AddOtherWindow({.Title = "corvelle HELP"});
   const WindowId other = world.Desktop.AddOtherWindow({.Title = "Letters"});
   world.Desktop.TakeForeground(other);
-  EXPECT_TRUE(ActivatePrevInstance(program, "Corvelle Help"));
+  EXPECT_TRUE(ActivatePrevInstance(program.Services.Desktop, "Corvelle Help"));
   EXPECT_EQ(world.Desktop.ForegroundWindow(), help);
 }
 
 TEST_F(ActivatePrevInstanceTest, RestoresAMinimizedWindowToItsNormalSize) {
   const WindowId help = world.Desktop.AddOtherWindow({.Title = "Corvelle Help", .Minimized = true});
-  EXPECT_TRUE(ActivatePrevInstance(program, "Corvelle Help"));
+  EXPECT_TRUE(ActivatePrevInstance(program.Services.Desktop, "Corvelle Help"));
   EXPECT_FALSE(world.Desktop.IsMinimized(help));
   EXPECT_FALSE(world.Desktop.Look(help)->Maximized);
 }
@@ -38,7 +38,7 @@ TEST_F(ActivatePrevInstanceTest, RestoresAMinimizedWindowToItsNormalSize) {
 TEST_F(ActivatePrevInstanceTest, RestoresMaximizedWhatWasMaximized) {
   const WindowId help = world.Desktop.AddOtherWindow(
       {.Title = "Corvelle Help", .Minimized = true, .RestoresMaximized = true});
-  EXPECT_TRUE(ActivatePrevInstance(program, "Corvelle Help"));
+  EXPECT_TRUE(ActivatePrevInstance(program.Services.Desktop, "Corvelle Help"));
   EXPECT_TRUE(world.Desktop.Look(help)->Maximized);
 }
 

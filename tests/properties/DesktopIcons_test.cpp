@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Program.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -13,31 +12,29 @@ using Icons = std::vector<int>;
 
 class DesktopIconsTest : public testing::Test {
  protected:
-  DesktopIconsTest() {
-    program.Paths.MenusPath = "C:\\Corvelle\\Menus\\";
-    world.Files.MakeFolders("C:\\Corvelle\\Menus");
-  }
+  DesktopIconsTest() { world.Files.MakeFolders("C:\\Corvelle\\Menus"); }
+
+  Icons Listed() { return DesktopIcons(world.Folders, world.Files, "C:\\Corvelle\\Menus\\"); }
 
   sim::World world;
-  Program program{world.Services(), world.Windows()};
 };
 
 TEST_F(DesktopIconsTest, AreTheIconsOfItsEntriesInTheOrderOfTheirNames) {
   world.Folders.Put(kDesktop, {{"Zebra", 5}, {"apple", 7}, {"Mango|x", 0}});
-  EXPECT_EQ(DesktopIcons(program), (Icons{7, 0, 5}));
+  EXPECT_EQ(Listed(), (Icons{7, 0, 5}));
 }
 
 TEST_F(DesktopIconsTest, TwoShortcutsWithOneIconAreOnePicture) {
   world.Folders.Put(kDesktop, {{"a", 5}, {"b", 7}, {"c", 5}, {"d", -1}});
-  EXPECT_EQ(DesktopIcons(program), (Icons{5, 7}));
+  EXPECT_EQ(Listed(), (Icons{5, 7}));
 }
 
 TEST_F(DesktopIconsTest, AnEmptyDesktopAndOneThatCannotBeReadHaveNone) {
   world.Folders.Put(kDesktop, {});
-  EXPECT_EQ(DesktopIcons(program), Icons{});
+  EXPECT_EQ(Listed(), Icons{});
   world.Folders.Put(kDesktop, {{"a", 5}});
   world.Folders.Break(kDesktop);
-  EXPECT_EQ(DesktopIcons(program), Icons{});
+  EXPECT_EQ(Listed(), Icons{});
 }
 
 TEST_F(DesktopIconsTest, NoTemporaryFileIsThereAfterwardsWhateverFails) {
@@ -46,14 +43,14 @@ TEST_F(DesktopIconsTest, NoTemporaryFileIsThereAfterwardsWhateverFails) {
     world.Files.ClearLog();
     if (n > 0) world.Files.FailCall(n);
     if (n == 7) world.Folders.Break(kDesktop);
-    static_cast<void>(DesktopIcons(program));
+    static_cast<void>(Listed());
     world.Files.StopFailing();
     EXPECT_TRUE(world.Files.Names("C:\\Corvelle\\Menus").empty()) << n;
     EXPECT_EQ(world.Files.Count("Write") + world.Files.Count("Replace"), 0) << n;
   }
   for (const std::string& name : names) world.Files.Put("C:\\Corvelle\\Menus\\" + name, "left");
   world.Files.Put("C:\\Corvelle\\Menus\\BMENU001.MNU", "menu");
-  static_cast<void>(DesktopIcons(program));
+  static_cast<void>(Listed());
   EXPECT_EQ(world.Files.Names("C:\\Corvelle\\Menus"), std::vector<std::string>{"BMENU001.MNU"});
 }
 

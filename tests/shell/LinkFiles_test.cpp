@@ -8,38 +8,38 @@ namespace {
 class LinkFilesTest : public ShellDesk {};
 
 TEST_F(LinkFilesTest, AMadeLinkHasATargetAndAFolderAndNothingElse) {
-  EXPECT_TRUE(MakeLink(program, kLink, kTool, "C:\\Tools"));
+  EXPECT_TRUE(MakeLink(program.Services.Links, kLink, kTool, "C:\\Tools"));
   EXPECT_EQ(world.Links.Get(kLink),
             (sim::SimLink{
                 .Path = kTool, .WorkDir = "C:\\Tools", .Item = sim::SimShellLinks::ItemOf(kTool)}));
-  EXPECT_EQ(ReadLink(program, kLink), (LinkTarget{kTool, ""}));
+  EXPECT_EQ(ReadLink(program.Services.Links, kLink), (LinkTarget{kTool, ""}));
 }
 
 TEST_F(LinkFilesTest, ALinkIsReadWithItsArguments) {
   world.Links.Put(kLink, {.Path = kTool, .Arguments = "/x"});
-  EXPECT_EQ(ReadLink(program, kLink), (LinkTarget{kTool, "/x"}));
+  EXPECT_EQ(ReadLink(program.Services.Links, kLink), (LinkTarget{kTool, "/x"}));
 }
 
 TEST_F(LinkFilesTest, NothingIsReadOfADamagedLink) {
   world.Files.Put(kLink, "x");
-  EXPECT_EQ(ReadLink(program, kLink), std::nullopt);
-  EXPECT_EQ(LinkReader(program).TargetOf(kLink), "");
+  EXPECT_EQ(ReadLink(program.Services.Links, kLink), std::nullopt);
+  EXPECT_EQ(LinkReader(program.Services.Links).TargetOf(kLink), "");
   EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
 TEST_F(LinkFilesTest, TheTargetOfALinkIsToldToWhoeverAsks) {
   world.Links.Put(kLink, {.Path = kTool, .Arguments = "/x"});
-  EXPECT_EQ(LinkReader(program).TargetOf(kLink), kTool);
+  EXPECT_EQ(LinkReader(program.Services.Links).TargetOf(kLink), kTool);
 }
 
 TEST_F(LinkFilesTest, AChosenLinkStandsForItsTargetAndAnyOtherFileForItself) {
   world.Links.Put("C:\\Links\\TOOL.LNK", {.Path = kTool});
   world.Links.Put("C:\\Links\\drives.lnk", {.Item = {"folder:17"}});
-  EXPECT_EQ(ResolveChosenFile(program, "C:\\Links\\TOOL.LNK"), kTool);
-  EXPECT_EQ(ResolveChosenFile(program, kTool), kTool);
-  EXPECT_EQ(ResolveChosenFile(program, "C:\\Links\\drives.lnk"), "");
-  EXPECT_EQ(ResolveChosenFile(program, "C:\\Links\\gone.lnk"), "");
-  EXPECT_EQ(ResolveChosenFile(program, ""), "");
+  EXPECT_EQ(ResolveChosenFile(program.Services.Links, "C:\\Links\\TOOL.LNK"), kTool);
+  EXPECT_EQ(ResolveChosenFile(program.Services.Links, kTool), kTool);
+  EXPECT_EQ(ResolveChosenFile(program.Services.Links, "C:\\Links\\drives.lnk"), "");
+  EXPECT_EQ(ResolveChosenFile(program.Services.Links, "C:\\Links\\gone.lnk"), "");
+  EXPECT_EQ(ResolveChosenFile(program.Services.Links, ""), "");
 }
 
 TEST_F(LinkFilesTest, ASpecialFolderWithoutAPathIsEmpty) {

@@ -234,7 +234,6 @@ TEST(ToolbarOLE, WhileAFileOrMenuIsBeingWorkedOnADropIsRefused) {
   const Guard guards[] = {{"StartingUp", &GuardFlags::StartingUp},
                           {"MenuBuilding", &GuardFlags::MenuBuilding},
                           {"ItemActionBusy", &GuardFlags::ItemActionBusy},
-                          {"MenuFormBusy", &GuardFlags::MenuFormBusy},
                           {"AppBarBusy", &GuardFlags::AppBarBusy},
                           {"PosChangeRunning", &GuardFlags::PosChangeRunning}};
   for (const Guard& guard : guards) {

@@ -400,7 +400,7 @@ TEST(AppBarGuard, ASecondPlacingByNewsWaitsWhileOneRuns) {
   }
 }
 
-TEST(AppBarGuard, NoPlacingWhileSomethingIsCarriedOrEditedOrMinimized) {
+TEST(AppBarGuard, NoPlacingWhileSomethingIsCarriedOrTheStripIsMinimized) {
   struct Row {
     const char* name;
     std::function<bool&(Program&)> flag;
@@ -409,7 +409,6 @@ TEST(AppBarGuard, NoPlacingWhileSomethingIsCarriedOrEditedOrMinimized) {
       {"minimized", [](Program& p) -> bool& { return p.Strip.ToolbarMinimized; }},
       {"an item", [](Program& p) -> bool& { return p.Entry.ItemDragging; }},
       {"a button", [](Program& p) -> bool& { return p.Drag.ButtonDragging; }},
-      {"an edit", [](Program& p) -> bool& { return p.Guards.MenuFormBusy; }},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -434,7 +433,6 @@ TEST(AppBarGuard, AScreenThatShrinksWhileSomethingIsCarriedIsFollowedAfterwards)
   const Row rows[] = {
       {"an item", [](Program& p) -> bool& { return p.Entry.ItemDragging; }},
       {"a button", [](Program& p) -> bool& { return p.Drag.ButtonDragging; }},
-      {"an edit", [](Program& p) -> bool& { return p.Guards.MenuFormBusy; }},
       {"the grip", [](Program& p) -> bool& { return p.Guards.RestoreBusy; }},
   };
   for (const Row& row : rows) {

@@ -249,7 +249,7 @@ bool FolderMenus::HasChanged(const Built& built, std::size_t index) {
 
 bool FolderMenus::BinHasChanged(const Built& built) {
   CheckRecycleIcon(program_);
-  // Several menus may show the desktop, and the flag is taken down by the first that is built anew.
+  // Several menus may show the desktop, and the flag is taken down by the first that is rebuilt.
   const bool changed = program_.Icons.RecycleIconChanged ||
                        built.RecycleIcon != program_.Icons.RecycleIconPath ||
                        built.RecycleIndex != program_.Icons.RecycleIconIndex;

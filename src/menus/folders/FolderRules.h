@@ -58,8 +58,8 @@ struct FolderItem {
 /// True for the folders of the shell whose menu shows the Recycle Bin's icon.
 [[nodiscard]] bool IsDesktopFolder(std::string_view folderName) noexcept;
 
-/// The entries of a special folder as lines "name|icon index", sorted case apart. An entry without
-/// a name is left out; a name ends at its first NUL.
+/// The entries of a special folder as lines "name|icon index", sorted ignoring case. An entry
+/// without a name is left out; a name ends at its first NUL.
 [[nodiscard]] std::vector<std::string> ShellFolderLines(
     const std::vector<ShellFolderEntry>& entries);
 

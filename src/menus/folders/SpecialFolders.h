@@ -12,7 +12,7 @@ class ShellFolders;
 
 /// Acts on an entry of a folder of the shell by its title: the left button opens it, `argument` on
 /// its command line; any other shows its context menu at a point of the screen (pixels). True when
-/// it was opened or a command of the menu ran. An entry that is gone is none, quietly.
+/// it was opened or a command of the menu ran. An entry that is gone counts as none.
 bool DoSpecialFolder(ShellFolders& folders, int folder, std::string_view title,
                      forms::MouseButton button, std::string_view argument, PixelPoint at,
                      WindowId owner);

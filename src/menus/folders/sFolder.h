@@ -41,7 +41,7 @@ void NoteRecycleBin(Program& program, std::string_view folderName);
                                             std::string_view menuFile);
 
 /// True if the folder holds something else than what is kept of it, or if nothing is kept; false
-/// when it cannot be listed, so that such a folder is not built anew for ever.
+/// when it cannot be listed, so that such a folder is not rebuilt for ever.
 [[nodiscard]] bool SpecialFolderChanged(Program& program, std::string_view folderName,
                                         const SpecialFolderLines& lines, std::string_view menuFile);
 

@@ -23,7 +23,7 @@ struct IconTexts {
 [[nodiscard]] IconTexts IconTextsOf(Program& program, std::string_view menuFile,
                                     const FolderLister& list);
 
-/// True for an icon text that is not fetched beforehand: "/h", case apart, stands behind its first
+/// True for an icon text that is not fetched beforehand: "/h", in any case, follows its first
 /// NUL.
 [[nodiscard]] bool IsSkippedIcon(std::string_view icon);
 

@@ -51,13 +51,13 @@ struct BuiltMenu {
 /// The built menus by their keys. They outlive the window's contents.
 class MenuCache {
  public:
-  /// The menu of a key, case apart; null when there is none.
+  /// The menu of a key, ignoring case; null when there is none.
   [[nodiscard]] std::shared_ptr<BuiltMenu> Find(std::string_view menuKey) const;
   /// Takes a menu under its own key, in the place of an older one.
   void Add(std::shared_ptr<BuiltMenu> menu);
   void Remove(std::string_view menuKey);
   void Clear() { menus_.clear(); }
-  /// Takes the pictures of all pages away, so that they are drawn anew.
+  /// Takes the pictures of all pages away, so that they are drawn again.
   void DropPictures();
 
  private:
@@ -65,7 +65,7 @@ class MenuCache {
 };
 
 /// Keeps no more than `most` pictures in a menu besides those of page 0 and page `current`: what is
-/// farthest from `current` goes first and is drawn anew when it is shown again.
+/// farthest from `current` goes first and is drawn again when it is shown again.
 void LimitPictures(BuiltMenu& menu, int current, int most);
 
 }  // namespace corvelle

@@ -193,7 +193,7 @@ bool MainMenu::StartAutoHide() {
   return true;
 }
 
-// The edge is taken anew, with its room on the screen.
+// The edge is taken again, with its room on the screen.
 void MainMenu::EndAutoHide() {
   program_.Strip.AutoHide = false;
   program_.OptionFlags.Set(Option::AutoHide, false);
@@ -254,7 +254,7 @@ void MainMenu::HelpTopics() {
                  forms::msgbox::IconStop | forms::msgbox::OnTop);
     return;
   }
-  if (!ActivatePrevInstance(program_, "Corvelle Help")) LaunchItem(program_, help);
+  if (!ActivatePrevInstance(program_.Services.Desktop, "Corvelle Help")) LaunchItem(program_, help);
 }
 
 // The companion's end is the program's end; what the strip has to save it saves before.

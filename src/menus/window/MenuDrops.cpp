@@ -85,7 +85,7 @@ void MenuDrops::OfferAddress(const DragData& data, const Target& target) {
   program_.Entry.CurFile = file;
   const std::string tag = target.Item != 0 ? key : key.substr(1);
   if (program_.Ports.Capture != nullptr) program_.Ports.Capture->CaptureMenu();
-  links->OfferWebLink(*address, TitleOfDrop(program_, data, *address), tag, file);
+  links->OfferWebLink(*address, TitleOfDrop(program_.Ports.Browser, data, *address), tag, file);
 }
 
 }  // namespace corvelle

@@ -37,7 +37,7 @@ void frmQMenu::DoItemDrag(ShiftState shift) {
   if (EqualNoCase(MenuKey, kMainMenuKey) || index == 0) return;
   const std::string key = MenuKey;
   const DropPlace place{.File = items_.Source(), .Before = items_[index].Origin.Record};
-  // An item without a number is none of the file's.
+  // An item without a number is not in the file.
   if (place.Before == DropPlace::kEnd) return;
   if (IsDropOnItself(program_.Entry, place)) return;
   // Both would rewrite the same files: the entry stays where it is, and can be carried again.

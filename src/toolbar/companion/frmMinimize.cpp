@@ -175,7 +175,7 @@ void frmMinimize::subShowToolbar() {
 std::optional<std::intptr_t> frmMinimize::WindowProc(std::uint32_t message, std::uintptr_t wParam,
                                                      std::intptr_t lParam) {
   if (message != 0 && message == program_.Services.Tray.TaskbarCreatedMessage()) {
-    // The task bar came up anew, without the icons that the one before showed.
+    // The task bar was started again, without the icons that the one before showed.
     InTray = false;
     if (program_.Strip.NotOnTop) ShowInSysTray();
     return std::nullopt;

@@ -91,14 +91,14 @@ void mAppBar::PinHere() {
 
 bool mAppBar::Waits() const {
   return program_.Strip.ToolbarMinimized || program_.Entry.ItemDragging ||
-         program_.Drag.ButtonDragging || program_.Guards.MenuFormBusy ||
+         program_.Drag.ButtonDragging ||
          (program_.Guards.PosChangeRunning && program_.Guards.IsPlacing());
 }
 
 void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   if (!window_.IsLoaded()) return;
   if (Waits()) {
-    // A change of bars is not told again; one in the task bar is placed anew when it comes back.
+    // A change of bars is not told again; one in the task bar is placed again when it comes back.
     if (program_.Guards.PosChangeRunning && !program_.Strip.ToolbarMinimized)
       strip_.FollowBarsLater();
     return;
@@ -129,7 +129,7 @@ void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   program_.Guards.ToolbarReady = !program_.Strip.ToolbarMinimized;
 }
 
-// A strip that turns, or has not stood at an edge yet, is built anew.
+// A strip that turns, or has not been at an edge yet, is rebuilt.
 void mAppBar::TurnTo(Edge edge, bool rebuild) {
   const bool vertical = IsVertical(edge);
   const bool turns = program_.Strip.ToolbarVertical != vertical;

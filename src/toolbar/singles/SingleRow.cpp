@@ -197,7 +197,7 @@ void SingleRow::DrawIcon(const SingleRect& single) {
   const PixelRect touched = RectAt(at, {scene.IconSize, scene.IconSize});
   DrawIconIn(program_.Windows, window_, controls_.Box, touched, iconRounds_, [&](Canvas& canvas) {
     if (ResolveAndDraw(program_, canvas, single.Icon, {0, 0}, scene.IconSize)) return;
-    // A button without any face could not be found. Without the blank document there is none.
+    // A button without any face could not be found. Without the blank document it has none.
     static_cast<void>(DrawFallbackIcon(program_, canvas, {0, 0}, scene.IconSize));
   });
 }

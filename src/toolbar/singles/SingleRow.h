@@ -21,7 +21,7 @@ class Program;
 class StripPull;
 
 /// The single buttons of the strip: what stands in its second box, and what the mouse does there.
-/// Each button is a file of its own; every change rewrites files, and the row is read anew.
+/// Each button is a file of its own; every change rewrites files, and the row is read again.
 /// Measures are twips of the box. The strip outlives it.
 class SingleRow final : public SingleButtonsPort {
  public:
@@ -29,7 +29,7 @@ class SingleRow final : public SingleButtonsPort {
 
   // ---- the row (SingleRow.cpp) ----
 
-  /// Reads the files in their order, makes every entry anew and draws them.
+  /// Reads the files in their order, makes every entry again and draws them.
   void DoSingleButtons();
   /// Reads the same files again and draws their icons; every size stays.
   void RefreshSingleButtons();
@@ -70,7 +70,7 @@ class SingleRow final : public SingleButtonsPort {
   /// neither.
   [[nodiscard]] std::string FileUnderPointer() { return Under().File; }
   /// Rewrites the files without the button of `file`, or with the clipboard's entry before it.
-  /// Whoever calls it reads the row anew. A disk that refuses leaves the row as it was.
+  /// Whoever calls it reads the row again. A disk that refuses leaves the row as it was.
   FileStatus DeletePasteSB(std::string_view file, int action);
 
   static constexpr int kDelete = 0;

@@ -81,7 +81,7 @@ void SingleRow::sMouseMove() {
   const int now = GetCurIndex();
   if (now == before && now == hovered_) return;
   ShowHover(now);
-  // Back on a menu button, its own hint is due anew.
+  // Back on a menu button, its own hint is due again.
   strip_.EndHovering();
   if (!program_.Menu.MenuOpen) program_.Menu.CurButton = 0;
   program_.SetHint(IsButton(now)

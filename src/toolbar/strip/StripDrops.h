@@ -34,8 +34,8 @@ class StripDrops {
 
   // ---- entries that are carried (StripDrops.cpp) ----
 
-  /// Index of the button under the pointer while something is carried, 0 for none. Opens the menu
-  /// of that button, and ends a carry whose release went to another program.
+  /// Follows what is carried: opens the menu of the button under the pointer, or ends a carry whose
+  /// release went to another program. Returns the index of that button, 0 for none.
   int dragCurButton();
   /// Drops the carried entry on a button: appended to its menu, and taken away from where it came
   /// unless `released` is the right button, which copies.

@@ -211,7 +211,7 @@ void StripDrops::OfferAddress(const DragData& data, std::string_view tag, const 
   WebLinkPort* const links = program_.Ports.WebLink;
   const auto address = DroppedAddress(*data.Text);
   if (links == nullptr || !address) return;
-  links->OfferWebLink(*address, TitleOfDrop(program_, data, *address), tag, file);
+  links->OfferWebLink(*address, TitleOfDrop(program_.Ports.Browser, data, *address), tag, file);
 }
 
 // ---- the row of single buttons ----
