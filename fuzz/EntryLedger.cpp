@@ -38,6 +38,10 @@ EntryLedger::EntryLedger(const MenuSet& set, const CodePage& ansi) {
 }
 
 void EntryLedger::Add(const MenuRecord& record) {
+  if (record.FTitle.starts_with(kDamage)) {
+    ++damaged_;
+    return;
+  }
   // Blanks at the ends are lost on the way through the windows, which is no loss.
   ++entries_[Trim(record.FTitle) + '\n' + Trim(record.FIcon) + '\n' + Trim(record.FName)];
   ++size_;

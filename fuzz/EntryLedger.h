@@ -11,6 +11,10 @@
 
 namespace corvelle::fuzz {
 
+/// What stands at the end of a file that the monkey has broken. An edit of that file may make a
+/// whole record of it, which is no entry of the user.
+inline constexpr std::string_view kDamage = "broken by a monkey";
+
 /// The entries that stand in the menu files and single buttons of a folder: the three texts of
 /// each, as often as it stands there.
 class EntryLedger {
@@ -24,12 +28,15 @@ class EntryLedger {
   /// How many entries of `before` are not here any more; `first` becomes the texts of one of them.
   [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
   [[nodiscard]] int Size() const noexcept { return size_; }
+  /// With the records that bear the monkey's damage.
+  [[nodiscard]] int Records() const noexcept { return size_ + damaged_; }
 
  private:
   void Add(const MenuRecord& record);
 
   std::map<std::string, int> entries_;
   int size_ = 0;
+  int damaged_ = 0;
 };
 
 /// True for the files that hold entries of the user, by the end of their name.

@@ -49,7 +49,6 @@ class MonkeyLife {
   static constexpr int kMenuFiles = 6;  // that the monkey writes
   static constexpr int kSingles = 7;    // that stand in the row at most when a life begins
   static constexpr std::string_view kFarFolder = "D:\\Docs\\";
-  static constexpr std::string_view kDamage = "broken by a monkey";
 
   // ---- the world before the start, and the choice of events (MonkeyLife.cpp) ----
 

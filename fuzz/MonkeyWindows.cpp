@@ -287,7 +287,9 @@ bool MonkeyLife::LostByASave(const EntryLedger& files) const {
 
 // Properties change an entry in its place, or the records of the buttons: none comes or goes.
 bool MonkeyLife::LostByProperties(const EntryLedger& before, int lost) const {
-  return propertiesUp_ && entries_.Size() == before.Size() && lost <= kMenuFiles + kSingles;
+  // One that bears the monkey's damage may be edited too, and get its old title back.
+  const bool asMany = entries_.Size() == before.Size() || entries_.Records() == before.Records();
+  return propertiesUp_ && asMany && lost <= kMenuFiles + kSingles;
 }
 
 // The tree changes by what the user does in the window; else only by what became of the files.

@@ -45,11 +45,13 @@ def run_for(command, seconds, log, poll=1.0):
         process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=out, stderr=out,
                                    preexec_fn=lambda: os.nice(19))
         used = 0.0
+        asked = False
         while process.poll() is None:
             used = max(used, cpu_seconds(process.pid))
-            if used >= seconds:
-                # The fuzzer ends after the input it is at.
+            if used >= seconds and not asked:
+                # The fuzzer ends after the input it is at. Asked again on its way out, it would be killed.
                 process.send_signal(signal.SIGUSR1)
+                asked = True
             time.sleep(poll)
     return process.returncode, used
 

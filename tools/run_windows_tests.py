@@ -38,7 +38,8 @@ from wine_session import ROOT, Session, SessionError, end_quietly
 E2E_SECONDS = 90
 CONTRACT_SECONDS = 300
 SCALES = (96, 120)
-PROGRAMS = (("witness", "witness.exe"), ("e2e", "e2e_tests.exe"), ("e2e", "planted.dll"), ("e2e", "naive.exe"))
+PROGRAMS = (("witness", "witness.exe"), ("e2e", "e2e_tests.exe"), ("e2e", "planted.dll"), ("e2e", "naive.exe"),
+            ("e2e", "bare.exe"), ("e2e", "bareshell.exe"))
 # Of the library of C++: it throws because there is no memory.
 THROWING = "_ZSt17__throw_bad_allocv"
 SESSIONS = 3  # for one test program to come to its first line

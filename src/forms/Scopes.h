@@ -4,7 +4,8 @@
 
 namespace corvelle::forms {
 
-/// Shows the hourglass until the scope ends, then the pointer that was there before.
+/// Shows the hourglass until the scope ends, then the pointer that was there before. A shape that
+/// somebody has given the pointer meanwhile stays.
 class HourglassScope {
  public:
   explicit HourglassScope(WindowSystem& windows)
@@ -13,7 +14,10 @@ class HourglassScope {
   }
   HourglassScope(const HourglassScope&) = delete;
   HourglassScope& operator=(const HourglassScope&) = delete;
-  ~HourglassScope() { windows_.SetMousePointer(before_); }
+  ~HourglassScope() {
+    if (windows_.CurrentMousePointer() == MousePointer::Hourglass)
+      windows_.SetMousePointer(before_);
+  }
 
  private:
   WindowSystem& windows_;

@@ -213,7 +213,12 @@ TEST_F(WindowCost, TheDialogForWebLinksLeavesNothingBehind) {
         desk_.Pause(50);
         desk_.DragTo(scenario::FarAway(desk_), ButtonMiddle(desk_, 2));
         desk_.Release(scenario::Button::Left);
-        return WaitFor("frmURL") && CloseByEscape("frmURL") && WaitFor("frmQMenu", false);
+        if (!WaitFor("frmURL")) {
+          std::printf("the drag ended with %s; the menu is %s\n", desk_.DragEnd().c_str(),
+                      desk_.IsVisible("frmQMenu") ? "up" : "not up");
+          return false;
+        }
+        return CloseByEscape("frmURL") && WaitFor("frmQMenu", false);
       },
       8);
 }

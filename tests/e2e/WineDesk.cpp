@@ -429,6 +429,16 @@ void WineDesk::OpenDragSource(PixelRect bounds, const std::vector<std::string>& 
   Wait([this] { return GetForegroundWindow() == source_->Window(); }, 5000);
 }
 
+std::string WineDesk::DragEnd() const {
+  if (source_ == nullptr) return "no source";
+  if (source_->Dragging()) return "nothing yet";
+  const HRESULT result = source_->Result();
+  const char* const how = result == DRAGDROP_S_DROP     ? "a drop"
+                          : result == DRAGDROP_S_CANCEL ? "a cancel"
+                                                        : "an error";
+  return std::string(how) + ", effect " + std::to_string(source_->Effect());
+}
+
 std::intptr_t WineDesk::Send(std::string_view className, std::uint32_t message,
                              std::uintptr_t wParam, std::intptr_t lParam) {
   HWND window = Handle(className);

@@ -64,6 +64,8 @@ class WineDesk final : public scenario::Desk {
   void CloseOtherBar() override;
   void OpenDragSource(PixelRect bounds, const std::vector<std::string>& files,
                       std::string_view text, std::string_view title) override;
+  /// How the last drag from that source ended, for the notes of a test that failed.
+  [[nodiscard]] std::string DragEnd() const;
   std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
                      std::intptr_t lParam) override;
   void Post(std::string_view className, std::uint32_t message, std::uintptr_t wParam,

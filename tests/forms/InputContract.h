@@ -144,6 +144,7 @@ TEST_P(InputContract, AKeyThatGoesUpIsToldWithThoseThatAreStillHeld) {
   home_->KeyDown(key::Shift);
   home_->PressKey(key::Down);
   home_->KeyUp(key::Shift);
+  home_->Wait(50);
   const std::string shift = std::to_string(key::Shift);
   EXPECT_EQ(notes_.KeysUp, (std::vector<std::string>{"40 shift", shift}));
 }

@@ -335,6 +335,17 @@ TEST_F(FormTest, MayUnloadWhenItLosesTheActivation) {
   EXPECT_EQ(Desktop().ActiveWindow(), Form.hWnd());
 }
 
+TEST_F(FormTest, AModalOneThatIsDestroyedWhileItIsUpGivesItsOwnerTheInputBack) {
+  Form.Show();
+  {
+    TestForm modal{World.Windows()};
+    modal.ShowModalTo(Form);
+    EXPECT_FALSE(Form.Enabled());
+  }
+  EXPECT_TRUE(Form.Enabled());
+  EXPECT_TRUE(Desktop().Look(Form.hWnd())->Enabled);
+}
+
 TEST_F(FormTest, MayBeDestroyedInsideItsBoxesPress) {
   auto other = std::make_unique<TestForm>(World.Windows(), BorderStyle::None, "Other");
   other->Show();

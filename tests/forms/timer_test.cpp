@@ -242,6 +242,17 @@ TEST(ControlArrays, AnElementMayBeUnloadedInItsOwnHandler) {
 
 // Scopes.
 
+// A carry that ends while the program is busy takes its picture off the pointer for good.
+TEST(Scopes, TheHourglassLeavesAShapeThatThePointerWasGivenMeanwhile) {
+  sim::World world;
+  world.Desktop.SetMousePointer(MousePointer::NoDrop);
+  {
+    const HourglassScope busy(world.Windows());
+    world.Desktop.SetMousePointer(MousePointer::Default);
+  }
+  EXPECT_EQ(world.Desktop.CurrentMousePointer(), MousePointer::Default);
+}
+
 TEST(Scopes, TheHourglassGivesWayToThePointerThatWasThere) {
   sim::World world;
   {

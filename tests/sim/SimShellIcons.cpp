@@ -68,6 +68,10 @@ bool SimShellIcons::Shows(std::string_view path) const {
 
 std::optional<ShellFileInfo> SimShellIcons::FileInfo(std::string_view path, IconList list) {
   TellCall("FileInfo", path);
+  return LookUp(path, list);
+}
+
+std::optional<ShellFileInfo> SimShellIcons::LookUp(std::string_view path, IconList list) {
   ++lookups_;
   asked_[list].emplace_back(path);
   if (action_) action_();
@@ -95,7 +99,8 @@ std::optional<std::string> SimShellIcons::DisplayName(std::string_view path) {
 }
 
 std::optional<IconPixels> SimShellIcons::PixelsOfFile(std::string_view path, IconList list) {
-  const auto info = FileInfo(path, list);
+  TellCall("PixelsOfFile", path);
+  const auto info = LookUp(path, list);
   if (!info) return std::nullopt;
   return Square(ColourOf(info->SystemIndex), SizeOf(list));
 }

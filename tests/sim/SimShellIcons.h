@@ -62,6 +62,8 @@ class SimShellIcons final : public ShellIcons, public Priced {
 
  private:
   [[nodiscard]] bool Shows(std::string_view path) const;
+  /// Counted, and told to whoever acts on a look-up.
+  std::optional<ShellFileInfo> LookUp(std::string_view path, IconList list);
   [[nodiscard]] std::optional<ShellFileInfo> Look(std::string_view path);
   [[nodiscard]] bool HoldsIcon(std::string_view file, int index) const;
   [[nodiscard]] int SizeOf(IconList list) const noexcept;

@@ -571,6 +571,24 @@ TEST_P(NewsWhileIconsAreFetched, LeavesNoMenuWithoutItsIconsOrInOldColours) {
   }
 }
 
+// A hand that waits for a slow menu has not looked around in it.
+TEST(OneGesture, TheTimeThatTheMenuTookToComeUpDoesNotCount) {
+  IconDesk desk;
+  bool pressing = true;
+  int asked = 0;
+  desk.World.Icons.WhileAsked([&] {
+    if (pressing && desk.TheProgram.Guards.MenuBuilding) desk.World.Desktop.Jump(6000);
+    asked += pressing ? 1 : 0;
+  });
+  desk.Press(2);
+  pressing = false;
+  ASSERT_GT(asked, 0);
+  ASSERT_EQ(desk.RealMenuUp(), 2);
+  desk.PointAt(desk.Item(1));
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.World.Shell.Started(), std::vector<std::string>{"C:\\Tools\\m1i1.exe"});
+}
+
 INSTANTIATE_TEST_SUITE_P(Screen, NewsWhileIconsAreFetched, testing::ValuesIn(kScreenNews),
                          [](const auto& row) {
                            std::string name = row.param.Name;

@@ -27,6 +27,7 @@ struct HeldStrip final : forms::Form, PulledStrip {
   forms::Form& AsForm() noexcept override { return *this; }
   StripShape Shape() const override { return {}; }
   TwipSize ButtonBox() const override { return {600, 285}; }
+  void WatchHiding(bool) override {}
   bool ContentsVisible() const override { return true; }
   bool MenuUp() const override { return HasMenu; }
   void ResetMenu() override { Asked.emplace_back("ResetMenu"); }
@@ -142,6 +143,18 @@ TEST(StripPull, APressThatIsLostEndsASlideAtOnce) {
   EXPECT_EQ(desk.Strip.Asked, (Calls{"ResetMenu", "DrawDragLook", "EndSlide"}));
   desk.Pull.LosePress();
   EXPECT_EQ(desk.Strip.Asked.size(), 3U);
+}
+
+TEST(StripPull, AReleaseThatNobodyTellsEndsASlideAfterItsGrace) {
+  PullDesk desk;
+  desk.Pull.MouseDown(MouseButton::Left, 700, 30);
+  desk.Pull.MouseMove(MouseButton::Left, 1000, 30);
+  desk.Pull.WatchPull();
+  EXPECT_TRUE(desk.Pull.FrameHeld);
+  desk.World.Desktop.Advance(AbandonWatch::kGrace + 1);
+  desk.Pull.WatchPull();
+  EXPECT_FALSE(desk.Pull.FrameHeld);
+  EXPECT_EQ(desk.Strip.Asked.back(), "EndSlide");
 }
 
 TEST(StripPull, AnAbandonedPullMovesNothingAndTakesTheOutlineAway) {

@@ -13,7 +13,7 @@ FolderQuestions::FolderQuestions(desk::AnswerDesk& desk, forms::WindowSystem& wi
       changed_(std::move(changed)),
       how_(how),
       owner_(desk.NewOwner()),
-      until_(how == desk::Urgency::Ahead ? 0 : windows.Now() + kAtOnce) {}
+      until_(how == desk::Urgency::OnShow ? windows.Now() + kAtOnce : 0) {}
 
 FolderQuestions::~FolderQuestions() { desk_.Drop(owner_); }
 

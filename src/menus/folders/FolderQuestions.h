@@ -28,7 +28,7 @@ class FolderQuestions {
   static constexpr int kAtOnce = 80;
 
   /// `changed` is called, never inside a call of this, whenever more is known. It may end this.
-  /// What is asked ahead of time waits for no answer and comes after all that is on show.
+  /// What is not asked for a menu on show holds nothing up.
   FolderQuestions(desk::AnswerDesk& desk, forms::WindowSystem& windows,
                   std::function<void()> changed, desk::Urgency how = desk::Urgency::OnShow);
   FolderQuestions(const FolderQuestions&) = delete;

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
+#include <deque>
 #include <memory>
 #include <string>
-#include <vector>
 
+#include "forms/Timer.h"
 #include "menus/folders/FolderQuestions.h"
 
 namespace corvelle {
@@ -11,26 +13,35 @@ namespace corvelle {
 class MenuIcons;
 class Program;
 
-/// Fetches icons before a menu asks for them. No window.
+/// Fetches icons before a menu asks for them, in moments when nothing else is to be done: one menu
+/// file at a time, from a timer. No window.
 class IconPrefetch {
  public:
-  IconPrefetch(Program& program, MenuIcons& icons) : program_(program), icons_(icons) {}
+  /// Milliseconds from InitIcons to the first file.
+  static constexpr int kFirstPause = 200;
+
+  IconPrefetch(Program& program, MenuIcons& icons);
 
   /// Those of all menu files, of the files of their folder items, and of the links, each when
-  /// nothing more urgent is asked. Does nothing while a menu is being built.
+  /// nothing more urgent is asked. Begins again when it has not come to its end yet.
   void InitIcons();
+  /// Nothing more is fetched.
+  void Stop();
 
  private:
-  void LoadIconsOf(const std::string& menuFile);
-  /// Those of the files of folder items whose listing has come.
-  void FetchListed();
-  /// False while it is not known what the folder item holds.
-  [[nodiscard]] bool FetchFilesOf(const std::string& folderItem);
+  void Step();
+  void ListFiles();
+  /// False when a folder item of the file is not known yet.
+  [[nodiscard]] bool LoadIconsOf(const std::string& menuFile);
+  void GoOn(int milliseconds);
 
   Program& program_;
   MenuIcons& icons_;
-  std::vector<std::string> folders_;  // folder items that are not listed yet
-  std::unique_ptr<FolderQuestions> questions_;
+  forms::Timer timer_;
+  std::unique_ptr<FolderQuestions> folders_;
+  bool listed_ = false;
+  std::deque<std::string> files_;  // menu files and links that are still to be looked at
+  std::size_t waiting_ = 0;        // of them, those at the end that wait for what a folder holds
 };
 
 }  // namespace corvelle

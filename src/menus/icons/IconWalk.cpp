@@ -19,6 +19,15 @@ std::string IconOf(const MenuRecord& record) {
   return IsSkippedIcon(record.FIcon) ? std::string() : StripAtNull(record.FIcon);
 }
 
+void AddFiles(const FolderLister& list, std::string_view folderItem,
+              std::vector<std::string>& texts) {
+  const FoundFiles found = ListFolderItem(list, ParseFolderItem(folderItem));
+  // No menu shows more.
+  const std::size_t most = std::min(found.Files.size(), static_cast<std::size_t>(kMaxRecords));
+  texts.reserve(texts.size() + most);
+  for (std::size_t i = 0; i < most; ++i) texts.push_back(found.PathOf(found.Files[i]));
+}
+
 }  // namespace
 
 bool IsSkippedIcon(std::string_view icon) {
@@ -26,7 +35,7 @@ bool IsSkippedIcon(std::string_view icon) {
   return end != std::string_view::npos && StartsWithNoCase(Trim(icon.substr(end + 1)), kSkipMark);
 }
 
-IconTexts IconTextsOf(Program& program, std::string_view menuFile) {
+IconTexts IconTextsOf(Program& program, std::string_view menuFile, const FolderLister& list) {
   IconTexts texts;
   const auto records = ReadAllRecords(program.Services.Files, program.Services.Ansi, menuFile);
   if (!records) return texts;
@@ -39,7 +48,7 @@ IconTexts IconTextsOf(Program& program, std::string_view menuFile) {
     }
     texts.Items.push_back(IconOf(record));
     if (IsFolderItem(record.FName) && !IsClosedFolder(record.FName)) {
-      texts.Folders.push_back(record.FName);
+      AddFiles(list, record.FName, texts.Items);
     }
   }
   return texts;

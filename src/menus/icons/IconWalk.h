@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "menus/folders/mFolder.h"
+
 namespace corvelle {
 
 class Program;
@@ -11,15 +13,15 @@ class Program;
 /// The icon texts of a menu file.
 struct IconTexts {
   std::string Button;  // of its first record; empty when there is none to fetch
-  /// Of the other records in their order.
+  /// Of the other records in their order, each open folder item's followed by the full paths of the
+  /// files that it holds now, which are the icon texts of its entries.
   std::vector<std::string> Items;
-  /// The commands of its open folder items on the disk. The paths of the files that they hold are
-  /// the icon texts of their entries.
-  std::vector<std::string> Folders;
 };
 
-/// Reads a menu file. One that cannot be read has no icons.
-[[nodiscard]] IconTexts IconTextsOf(Program& program, std::string_view menuFile);
+/// Reads a menu file; `list` says what its open folder items hold. A file that cannot be read has
+/// no icons.
+[[nodiscard]] IconTexts IconTextsOf(Program& program, std::string_view menuFile,
+                                    const FolderLister& list);
 
 /// True for an icon text that is not fetched beforehand: "/h", case apart, stands behind its first
 /// NUL.

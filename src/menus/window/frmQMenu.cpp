@@ -139,6 +139,7 @@ void frmQMenu::Form_Unload() {
   Timer1.SetEnabled(false);
   KeysTimer.SetEnabled(false);
   UpdateTimer.SetEnabled(false);
+  prefetch_.Stop();
   updateSince_.reset();
   held_.Forget();
   MenuReady = false;

@@ -39,10 +39,7 @@ void frmQMenu::DoItemDrag(ShiftState shift) {
   const DropPlace place{.File = items_.Source(), .Before = items_[index].Origin.Record};
   // An item without a number is none of the file's.
   if (place.Before == DropPlace::kEnd) return;
-  if (IsDropOnItself(program_.Entry, place)) {
-    if (!Visible()) ShowNoActivate();
-    return;
-  }
+  if (IsDropOnItself(program_.Entry, place)) return;
   // Both would rewrite the same files: the entry stays where it is, and can be carried again.
   if (program_.Guards.ItemActionBusy) return;
   // Only now: the picture may take the activation, and the menu its selection back.

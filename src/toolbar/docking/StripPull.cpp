@@ -13,6 +13,7 @@ namespace corvelle {
 namespace {
 
 constexpr int kLeftButtonKey = 1;
+constexpr int kRightButtonKey = 2;
 
 }  // namespace
 
@@ -31,6 +32,7 @@ void StripPull::MouseDown(forms::MouseButton button, float x, float y) {
   if (!window.IsLoaded()) return;
   FrameMoved = false;
   FrameHeld = true;
+  strip_.WatchHiding(true);
   const TwipSize box = strip_.ButtonBox();
   DownX = x;
   DownY = y;
@@ -158,6 +160,17 @@ void StripPull::EndLostPull() {
   const bool slid = FrameMoved && !program_.Strip.AppBarDocked;
   AbandonPull();
   if (slid) strip_.EndSlide();
+}
+
+void StripPull::WatchPull() {
+  const Input& input = program_.Services.Pointer;
+  const bool anyDown = input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey);
+  if (!FrameHeld) {
+    watch_.Reset();
+  } else if (watch_.Look(anyDown, program_.Windows.Now())) {
+    watch_.Reset();
+    LosePress();
+  }
 }
 
 void StripPull::LosePress() {

@@ -5,6 +5,7 @@
 #include "base/Edge.h"
 #include "base/Geometry.h"
 #include "forms/Types.h"
+#include "toolbar/layout/CarryRules.h"
 #include "toolbar/layout/StripWindow.h"
 
 namespace corvelle {
@@ -20,6 +21,8 @@ class PulledStrip : public virtual StripWindow {
   [[nodiscard]] virtual bool ContentsVisible() const = 0;
   [[nodiscard]] virtual bool MenuUp() const = 0;
   virtual void ResetMenu() = 0;
+  /// The timer that also looks for a lost release.
+  virtual void WatchHiding(bool enabled) = 0;
   /// The border at rest, and while the strip is pulled.
   virtual void DrawBorders() = 0;
   virtual void DrawDragLook() = 0;
@@ -51,6 +54,9 @@ class StripPull {
   void AbandonPull();
   /// A message, a menu or another window has taken the mouse from the hand on the frame.
   void LosePress();
+  /// Notices when the hand on the frame has let go and nobody has told so: a strip that is rebuilt
+  /// under the hand, or a button that goes up beside another, leaves the frame held.
+  void WatchPull();
   /// Forgets a move of before, as the pointer comes to something else.
   void ForgetMove() noexcept { FrameMoved = false; }
   /// Ends a move of the strip: it takes the place that the screen and the options let it have.
@@ -82,6 +88,7 @@ class StripPull {
 
   Program& program_;
   PulledStrip& strip_;
+  AbandonWatch watch_;
 };
 
 }  // namespace corvelle

@@ -89,8 +89,9 @@ void MenuTracking::PressCurButton() {
   }
   SetButtonBorders();
   MenuOpening = true;
-  pressedAt_ = program_.Windows.Now();
   ShowMenu(program_.Menu.CurButton);
+  // From now on the hand can choose: how long the menu took to come up does not count.
+  pressedAt_ = program_.Windows.Now();
 }
 
 void MenuTracking::picToolbar_MouseMove(forms::MouseButton down, float x, float y) {

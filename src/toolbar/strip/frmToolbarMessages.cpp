@@ -266,6 +266,7 @@ void frmToolbar::TakeRequestedFocus() {
 
 void frmToolbar::Timer1_Timer() {
   TakeRequestedFocus();
+  Pull.WatchPull();
   if (program_.Guards.IsSettling() || program_.Guards.IsPlacing() || program_.Entry.ItemDragging ||
       program_.Drag.ButtonDragging) {
     return;
@@ -278,7 +279,8 @@ void frmToolbar::Timer1_Timer() {
   if (program_.Strip.ToolbarMinimized) {
     StopTimers();
   } else if (!program_.Strip.AutoHide) {
-    Timer1.SetEnabled(false);
+    // Who holds the frame may let it go unnoticed.
+    Timer1.SetEnabled(Pull.FrameHeld);
   } else {
     Hiding.HideAndReveal();
   }

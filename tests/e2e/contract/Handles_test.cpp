@@ -200,15 +200,17 @@ TEST(MemoryCanvas, APictureOutlivesItsWindowSystem) {
 
 TEST(FontCache, GivesTheSameFontAgain) {
   FontCache fonts;
-  const HFONT first = fonts.Get({});
-  EXPECT_NE(fonts.Get({.Bold = true}), first);
-  EXPECT_EQ(fonts.Get({}), first);
+  const int dpi = forms::kPlainDpi;
+  const HFONT first = fonts.Get({{}, dpi});
+  EXPECT_NE(fonts.Get({{.Bold = true}, dpi}), first);
+  EXPECT_NE(fonts.Get({{}, 2 * dpi}), first);
+  EXPECT_EQ(fonts.Get({{}, dpi}), first);
 }
 
 TEST(FontCache, AFontThatDoesNotExistIsReplacedByOneThatDoes) {
   FontCache fonts;
-  EXPECT_GT(fonts.Measure("Text", {.Face = "No Such Face"}).width, 0);
-  EXPECT_GT(fonts.Measure("Text", {.Face = std::string(100, 'x')}).width, 0);
+  EXPECT_GT(fonts.Measure("Text", {{.Face = "No Such Face"}, forms::kPlainDpi}).width, 0);
+  EXPECT_GT(fonts.Measure("Text", {{.Face = std::string(100, 'x')}, forms::kPlainDpi}).width, 0);
 }
 
 }  // namespace

@@ -1,0 +1,48 @@
+// The same with what a strip at the edge of the screen cannot do without: OLE, the shell's first
+// icon, a place at the edge.
+
+#include <windows.h>
+
+#include <ole2.h>
+#include <shellapi.h>
+
+namespace {
+
+LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_DESTROY) PostQuitMessage(0);
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
+  if (FAILED(OleInitialize(nullptr))) return 1;
+  WNDCLASSW look = {};
+  look.lpfnWndProc = Procedure;
+  look.hInstance = instance;
+  look.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  look.lpszClassName = L"bareshell";
+  RegisterClassW(&look);
+  HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, look.lpszClassName, L"", WS_POPUP, 0, 0, 400, 30,
+                                nullptr, nullptr, instance, nullptr);
+  wchar_t program[MAX_PATH] = {};
+  GetModuleFileNameW(nullptr, program, MAX_PATH);
+  SHFILEINFOW info = {};
+  SHGetFileInfoW(program, 0, &info, sizeof(info), SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
+  APPBARDATA bar = {};
+  bar.cbSize = sizeof(bar);
+  bar.hWnd = window;
+  bar.uCallbackMessage = WM_APP;
+  bar.uEdge = ABE_TOP;
+  bar.rc = {0, 0, GetSystemMetrics(SM_CXSCREEN), 30};
+  SHAppBarMessage(ABM_NEW, &bar);
+  SHAppBarMessage(ABM_QUERYPOS, &bar);
+  SHAppBarMessage(ABM_SETPOS, &bar);
+  SetWindowPos(window, HWND_TOPMOST, bar.rc.left, bar.rc.top, bar.rc.right - bar.rc.left, 30,
+               SWP_SHOWWINDOW);
+  MSG message = {};
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+  SHAppBarMessage(ABM_REMOVE, &bar);
+  OleUninitialize();
+  return 0;
+}
