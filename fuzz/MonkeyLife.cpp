@@ -60,8 +60,8 @@ const auto& Pick(const List& list, std::mt19937_64& random) {
 
 }  // namespace
 
-MonkeyLife::MonkeyLife(std::uint64_t seed, bool tell, MonkeyTally& tally)
-    : random_(seed), tell_(tell), tally_(tally) {
+MonkeyLife::MonkeyLife(std::uint64_t seed, bool tell, MonkeyTally& tally, bool slowPlaces)
+    : random_(seed), tell_(tell), tally_(tally), slowPlaces_(slowPlaces) {
   handlerBefore_ =
       sim::SetComplaintHandler([this](const std::string& what) { complaints_.push_back(what); });
 }
@@ -102,6 +102,11 @@ bool MonkeyLife::MenuUp() const { return parts_->Menu.MenuVisible(); }
 std::string MonkeyLife::RandomRecords(int count) {
   std::string bytes;
   for (int i = 0; i < count; ++i) {
+    if (slowPlaces_ && Chance(20)) {
+      const std::string far(kFarFolder);
+      bytes += FormatRecord({"Far", "", far + (Chance(60) ? "*.*/U" : "far.txt")}, world_->Ansi);
+      continue;
+    }
     bytes += FormatRecord({.FTitle = Pick(kTitles, random_),
                            .FIcon = Pick(kIcons, random_),
                            .FName = Pick(kCommands, random_)},
@@ -132,6 +137,7 @@ void MonkeyLife::Furnish() {
   world_->Files.Put("C:\\Tools\\tool.exe", "x");
   world_->Files.Put("C:\\Docs\\letter.txt", "x");
   world_->Files.Put("C:\\Docs\\sub\\other.txt", "x");
+  if (slowPlaces_) FurnishSlowPlaces();
   world_->Files.MakeFolders(kMenus);
   OptionFlags flags;
   for (int position = 1; position <= 32; ++position) flags.Set(OptionAt(position), Chance(40));
@@ -177,6 +183,7 @@ void MonkeyLife::ActAtRandom() {
   if (what < 540) return PressOrRelease();
   if (what < 700) return UseKeys();
   if (what < 830) return LetTimePass();
+  if (slowPlaces_ && what < 860) return ChangePlaces();
   if (what < 880) return ChangeFiles();
   if (what < 920) return ChangeWindows();
   if (what < 950) return ChangeSystem();
@@ -221,6 +228,7 @@ std::string MonkeyLife::Live(int events) {
     windowUsed_ = false;
     filesChangedInside_ = false;
     NoteTree();
+    NoteMenu();
     propertiesUp_ = parts_->Properties.IsLoaded();
     const bool before = TreeIsAtHand();
     Act();

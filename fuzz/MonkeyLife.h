@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <random>
 #include <set>
@@ -23,8 +24,8 @@ namespace corvelle::fuzz {
 /// random events, an end. The same seed gives the same life.
 class MonkeyLife {
  public:
-  /// `tell`: every event is printed before it happens.
-  MonkeyLife(std::uint64_t seed, bool tell, MonkeyTally& tally);
+  /// `tell`: every event is printed before it happens. `slowPlaces`: places answer late, or not.
+  MonkeyLife(std::uint64_t seed, bool tell, MonkeyTally& tally, bool slowPlaces = false);
   ~MonkeyLife();
   MonkeyLife(const MonkeyLife&) = delete;
   MonkeyLife& operator=(const MonkeyLife&) = delete;
@@ -47,6 +48,7 @@ class MonkeyLife {
   static constexpr std::string_view kMenus = "C:\\Corvelle\\Menus\\";
   static constexpr int kMenuFiles = 6;  // that the monkey writes
   static constexpr int kSingles = 7;    // that stand in the row at most when a life begins
+  static constexpr std::string_view kFarFolder = "D:\\Docs\\";
 
   // ---- the world before the start, and the choice of events (MonkeyLife.cpp) ----
 
@@ -155,6 +157,15 @@ class MonkeyLife {
   void ChangeBars();
   void EndFromOutside();
 
+  // ---- places that are slow, dead or dying (MonkeySlow.cpp) ----
+
+  void FurnishSlowPlaces();
+  void ChangePlaces();
+  void HealPlaces();
+  void NoteMenu();
+  [[nodiscard]] std::string WrongTurns() const;
+  [[nodiscard]] std::string WrongRows() const;
+
   // ---- what must hold when nothing runs (MonkeyOrder.cpp); empty when it does ----
 
   [[nodiscard]] std::string WhatIsWrong();
@@ -188,12 +199,17 @@ class MonkeyLife {
   std::mt19937_64 random_;
   bool tell_;
   MonkeyTally& tally_;
+  bool slowPlaces_;
   std::vector<std::string> complaints_;
   sim::ComplaintHandler handlerBefore_;
   std::unique_ptr<sim::World> world_;
   std::unique_ptr<Parts> parts_;
   WindowId strip_ = kNoWindow;
   Disk disk_ = Disk::Well;
+  std::map<std::string, int> troubles_;  // lanes, and what a call costs who waits for it
+  std::int64_t wellSince_ = 0;           // no place is in trouble
+  std::int64_t farChangedAt_ = 0;
+  std::int64_t menuUpSince_ = -1;
   std::vector<WindowId> others_;
   std::vector<WindowId> bars_;
   bool taskBar_ = false;

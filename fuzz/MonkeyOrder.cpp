@@ -47,7 +47,8 @@ std::string MonkeyLife::WrongState() const {
     return "there is no current single button " + std::to_string(program.Menu.CurSingle);
   if (world_->Desktop.CurrentMousePointer() == forms::MousePointer::Hourglass)
     return "the hourglass stays";
-  if (world_->Desktop.Clock().Running() > kMostTimers) return "timers pile up";
+  if (world_->Desktop.Clock().Running() - world_->SlowAnswers.UnderWay() > kMostTimers)
+    return "timers pile up";
   return {};
 }
 
@@ -349,7 +350,8 @@ std::string MonkeyLife::WhatIsWrong() {
   for (const auto check :
        {&MonkeyLife::WrongState, &MonkeyLife::WrongMenu, &MonkeyLife::WrongWindows,
         &MonkeyLife::WrongForeground, &MonkeyLife::WrongPlace, &MonkeyLife::WrongBars,
-        &MonkeyLife::WrongOptions, &MonkeyLife::WrongQuiet}) {
+        &MonkeyLife::WrongOptions, &MonkeyLife::WrongQuiet, &MonkeyLife::WrongTurns,
+        &MonkeyLife::WrongRows}) {
     if (std::string wrong = (this->*check)(); !wrong.empty()) return wrong;
   }
   if (std::string wrong = WrongFiles(); !wrong.empty()) return wrong;
@@ -357,6 +359,7 @@ std::string MonkeyLife::WhatIsWrong() {
 }
 
 std::string MonkeyLife::WrongEnd() {
+  HealPlaces();
   if (parts_->Companion.WindowLoaded()) parts_->Companion.UnloadWindow();
   if (!complaints_.empty()) return complaints_.front();
   if (!world_->Desktop.QuitCalled()) return "the end of the companion is not the end";
@@ -376,7 +379,8 @@ std::string MonkeyLife::WrongEnd() {
   for (const auto& [name, timer] : timers) {
     if (timer->Enabled()) return std::string(name) + " outlives the end";
   }
-  if (world_->Desktop.Clock().Running() > (world_->Desktop.Dragging() ? 1 : 0))
+  const int slow = world_->SlowAnswers.UnderWay();  // each of them may have a timer of the system's
+  if (world_->Desktop.Clock().Running() > slow + (world_->Desktop.Dragging() ? 1 : 0))
     return "a timer outlives the end";
   return WrongFiles();
 }

@@ -352,6 +352,7 @@ void MonkeyLife::Rest() {
   LetGo();
   if (others_.empty()) others_.push_back(world_->Desktop.AddOtherWindow({}));
   MoveTo({500, 400});
+  HealPlaces();
   Tell("the user turns to another program");
   world_->Desktop.TakeForeground(others_.front());
   LetPass(3000);

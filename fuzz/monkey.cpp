@@ -7,6 +7,7 @@
 // With --seeds N it goes on with the next seeds, N in all, and makes so many events with each. With
 // --own N the seed is one of this run's own: N more than CORVELLE_MONKEY_SEED says, than the clock
 // without it. The seed is always told.
+// With --slow there are places that answer late, not at all, or only again after a while.
 // With --go-on a life that fails is told in one line and the next one begins.
 // With --tally it says what it came to; a long run that came past something that it should know
 // fails. Several shorter runs are judged together: each leaves its tally with --keep FILE, and
@@ -33,6 +34,7 @@ struct Wish {
   bool Tell = false;
   bool Tally = false;
   bool GoOn = false;
+  bool SlowPlaces = false;
   std::string Keep;                // where the tally goes
   std::vector<std::string> Judge;  // tallies of earlier runs
 };
@@ -64,6 +66,8 @@ Wish ReadWish(int argc, char** argv) {
       wish.Tell = true;
     } else if (std::strcmp(argv[i], "--tally") == 0) {
       wish.Tally = true;
+    } else if (std::strcmp(argv[i], "--slow") == 0) {
+      wish.SlowPlaces = true;
     } else if (std::strcmp(argv[i], "--go-on") == 0) {
       wish.GoOn = true;
     } else if (std::strcmp(argv[i], "--keep") == 0 && i + 1 < argc) {
@@ -74,7 +78,7 @@ Wish ReadWish(int argc, char** argv) {
     } else {
       std::fprintf(stderr,
                    "usage: %s [--events N] [--seed N | --own N] [--seeds N] [--life N] [--tell] "
-                   "[--tally] [--go-on] [--keep FILE] | --judge FILE...\n",
+                   "[--tally] [--go-on] [--slow] [--keep FILE] | --judge FILE...\n",
                    argv[0]);
       std::exit(2);
     }
@@ -113,7 +117,7 @@ Lived LiveSeed(const Wish& wish, std::uint64_t seed, corvelle::fuzz::MonkeyTally
     if (wish.OnlyLife >= 0 && life < wish.OnlyLife) continue;
     const int events = std::min(wish.EventsPerLife, wish.Events - lived.Events);
     corvelle::fuzz::MonkeyLife monkey(seed * 1'000'003 + static_cast<std::uint64_t>(life),
-                                      wish.Tell, tally);
+                                      wish.Tell, tally, wish.SlowPlaces);
     if (const std::string wrong = monkey.Live(events); !wrong.empty()) {
       const std::string told = wish.GoOn ? wrong.substr(0, wrong.find('\n')) : wrong;
       std::fprintf(stderr, "seed %llu, life %d: %s\n", static_cast<unsigned long long>(seed), life,

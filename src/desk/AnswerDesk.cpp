@@ -45,7 +45,9 @@ Ticket AnswerDesk::Ask(Request request, Asker asker) {
 std::optional<Reply> AnswerDesk::AskAtOnce(Request request, Asker later, int milliseconds) {
   const forms::CountScope waiting(waiting_);
   const Ticket ticket = Ask(std::move(request), std::move(later));
-  const std::int64_t end = windows_.Now() + milliseconds;
+  const std::int64_t began = windows_.Now();
+  const std::int64_t end = began + std::min<std::int64_t>(milliseconds, kAtOnce - waited_);
+  const auto noteWait = [&] { NoteWait(windows_.Now() - began); };
   for (;;) {
     const auto found = std::find_if(told_.begin(), told_.end(),
                                     [ticket](const Told& told) { return IsEndOf(told, ticket); });
@@ -53,11 +55,24 @@ std::optional<Reply> AnswerDesk::AskAtOnce(Request request, Asker later, int mil
       Reply reply = std::move(std::get<TellEnd>(*found).Told);
       askers_.erase(ticket);
       std::erase_if(told_, [ticket](const Told& told) { return TicketOf(told) == ticket; });
+      noteWait();
       return reply;
     }
     const std::int64_t left = end - windows_.Now();
-    if (left <= 0 || !questions_.Collect(static_cast<int>(left))) return std::nullopt;
+    if (left > 0 && questions_.Collect(static_cast<int>(left))) continue;
+    noteWait();
+    return std::nullopt;
   }
+}
+
+void AnswerDesk::NoteWait(std::int64_t milliseconds) {
+  if (milliseconds <= 0) return;
+  if (waited_ == 0) {
+    windows_.Post([this, watch = alive_.MakeWatch()] {
+      if (!watch.Gone()) waited_ = 0;
+    });
+  }
+  waited_ += milliseconds;
 }
 
 const LookupValue* AnswerDesk::LastKnown(const Lookup& question) {

@@ -68,7 +68,8 @@ class AnswerDesk {
 
   /// Asks, and waits up to `milliseconds` for the answer without running events. Gives the reply
   /// when it came in that time, and then `later` is not called; nothing when it did not, and
-  /// `later` is told. What comes for others meanwhile is told later.
+  /// `later` is told. What comes for others meanwhile is told later. All calls in one turn of the
+  /// message loop wait for kAtOnce together.
   [[nodiscard]] std::optional<Reply> AskAtOnce(Request request, Asker later,
                                                int milliseconds = kAtOnce);
 
@@ -89,6 +90,7 @@ class AnswerDesk {
   void Take(const Event& event);
   void Carry(const std::vector<Command>& commands);
   void Begin(const BeginOperation& begun);
+  void NoteWait(std::int64_t milliseconds);
   void PostTelling();
   void TellWaiting();
   void TellOne(const Told& told);
@@ -109,7 +111,8 @@ class AnswerDesk {
   Ticket lastTicket_ = 0;
   bool telling_ = false;
   bool posted_ = false;
-  int waiting_ = 0;  // calls of AskAtOnce: nobody is told inside them
+  std::int64_t waited_ = 0;  // in this turn of the message loop, milliseconds
+  int waiting_ = 0;          // calls of AskAtOnce: nobody is told inside them
   bool knowsPlaces_ = false;
 };
 

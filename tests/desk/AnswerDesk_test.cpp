@@ -54,6 +54,21 @@ class AnswerDeskTest : public testing::Test {
   std::function<void()> then_;
 };
 
+TEST_F(AnswerDeskTest, AllThatIsWaitedForInOneTurnIsWaitedForOnce) {
+  for (const char* lane : {"D:", "E:"}) World.SlowAnswers.Hang(lane);
+  World.Costs.SetPrice([](std::string_view, std::string_view) { return 1; });
+  World.Costs.WhenCharged([this](int milliseconds) { World.Desktop.Jump(milliseconds); });
+  const auto wait = [this] {
+    const auto before = World.Desktop.Now();
+    EXPECT_EQ(Desk->AskAtOnce(IsThere("D:\\here\\a.txt"), Noted("d")), std::nullopt);
+    EXPECT_EQ(Desk->AskAtOnce(IsThere("E:\\here\\a.txt"), Noted("e"), 60), std::nullopt);
+    return World.Desktop.Now() - before;
+  };
+  EXPECT_EQ(wait(), AnswerDesk::kAtOnce);
+  World.Desktop.Pump();
+  EXPECT_EQ(wait(), AnswerDesk::kAtOnce) << "the next turn";
+}
+
 TEST_F(AnswerDeskTest, AnAnswerComesByALaterTurnAndNotInsideTheCall) {
   Desk->Ask(IsThere("C:\\here\\a.txt"), Noted("a"));
   EXPECT_EQ(told_, Lines{});

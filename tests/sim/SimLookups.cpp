@@ -3,6 +3,8 @@
 #include <utility>
 #include <vector>
 
+#include "sim/Complain.h"
+
 namespace corvelle::sim {
 
 namespace {
@@ -35,6 +37,7 @@ void SimLookups::Resume(const std::string& lane) {
 
 LookupId SimLookups::Ask(Lookup question) {
   const LookupId id = ledger_.Open(std::move(question));
+  open_.insert(id);
   BeginAll();
   return id;
 }
@@ -110,6 +113,9 @@ bool SimLookups::Tell() {
   // The listener may set another one, and may end the program.
   const Listener listener = listener_;
   if (!listener || ends.empty()) return false;
+  for (const LookupAnswer& end : ends) {
+    if (open_.erase(end.Id) == 0) Complain("a question ended twice");
+  }
   const auto watch = alive_.MakeWatch();
   telling_ = true;
   listener(ends);

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "forms/Alive.h"
@@ -71,6 +72,7 @@ class SimLookups final : public Lookups, public Priced {
   std::map<std::string, int> delays_;
   std::map<LookupId, UnderWayEntry> underWay_;
   int asked_ = 0;
+  std::set<LookupId> open_;  // asked, and nobody was told of their ends
   bool telling_ = false;
   bool late_ = false;  // a turn to tell came while the listener was at work
   forms::Alive alive_;
