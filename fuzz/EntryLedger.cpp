@@ -59,4 +59,17 @@ int EntryLedger::Lost(const EntryLedger& before, std::string& first) const {
   return lost;
 }
 
+int EntryLedger::LostOf(const EntryLedger& before, const EntryLedger& wanted) const {
+  const auto countIn = [](const EntryLedger& ledger, const std::string& record) {
+    const auto found = ledger.entries_.find(record);
+    return found == ledger.entries_.end() ? 0 : found->second;
+  };
+  int lost = 0;
+  for (const auto& [record, count] : before.entries_) {
+    const int here = countIn(*this, record);
+    lost += std::max(std::min(count, countIn(wanted, record)) - here, 0);
+  }
+  return lost;
+}
+
 }  // namespace corvelle::fuzz

@@ -27,6 +27,8 @@ class EntryLedger {
 
   /// How many entries of `before` are not here any more; `first` becomes the texts of one of them.
   [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
+  /// How many entries of `before` are missing here that `wanted` has too.
+  [[nodiscard]] int LostOf(const EntryLedger& before, const EntryLedger& wanted) const;
   [[nodiscard]] int Size() const noexcept { return size_; }
   /// With the records that bear the monkey's damage.
   [[nodiscard]] int Records() const noexcept { return size_ + damaged_; }

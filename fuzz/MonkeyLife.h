@@ -143,7 +143,7 @@ class MonkeyLife {
   [[nodiscard]] bool TreeIsAtHand() const;
   /// What the tree holds before an event.
   void NoteTree();
-  [[nodiscard]] bool LostByASave(const EntryLedger& files) const;
+  [[nodiscard]] bool LostByASave(const EntryLedger& before, const EntryLedger& files) const;
   [[nodiscard]] bool LostByProperties(const EntryLedger& before, int lost) const;
 
   // ---- what happens without the user (MonkeyWorld.cpp) ----
@@ -226,7 +226,9 @@ class MonkeyLife {
   bool propertiesUp_ = false;
   bool windowUsed_ = false;          // in this event
   bool filesChangedInside_ = false;  // while something asked, in this event
-  std::string deleting_;             // the file that goes with its button in this event
+  bool filesChangedUnseen_ =
+      false;              // since Customize is up, by another program: it looks at its save
+  std::string deleting_;  // the file that goes with its button in this event
   std::string placeBefore_;
   std::size_t boxesBefore_ = 0;
   int lived_ = 0;

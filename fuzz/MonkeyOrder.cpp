@@ -272,7 +272,7 @@ std::string MonkeyLife::WrongFiles() {
   TakeStock();
   std::string first;
   const int lost = entries_.Lost(before, first);
-  const bool told = LostByProperties(before, lost) || (lost > 0 && LostByASave(entries_));
+  const bool told = LostByProperties(before, lost) || (lost > 0 && LostByASave(before, entries_));
   if (disk_ != Disk::Failing && lost > lossesAllowed_ && !told) {
     std::string added;
     const int more = before.Lost(entries_, added);

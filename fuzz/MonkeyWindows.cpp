@@ -272,17 +272,24 @@ bool MonkeyLife::TreeIsAtHand() const {
 
 void MonkeyLife::NoteTree() {
   customizeUp_ = parts_->Customize.IsLoaded();
-  if (customizeUp_) tree_ = TreeEntries();
+  if (customizeUp_) {
+    tree_ = TreeEntries();
+  } else {
+    filesChangedUnseen_ = false;
+  }
 }
 
 // A save replaces the files by the tree: what is lost with it the user has taken out of the tree.
 // What was typed last may have come into the tree with the save.
-bool MonkeyLife::LostByASave(const EntryLedger& files) const {
+bool MonkeyLife::LostByASave(const EntryLedger& before, const EntryLedger& files) const {
   if (!customizeUp_) return false;
   std::string first;
   if (parts_->Customize.IsLoaded()) return files.Lost(TreeEntries(), first) == 0;
   // Of a file that changed while the window asked, the tree of before says nothing.
-  return filesChangedInside_ || files.Lost(tree_, first) <= 1;
+  if (filesChangedInside_ || files.Lost(tree_, first) <= 1) return true;
+  // What another program took away is in the tree until the save: the tree says only what it has
+  // that went with the save.
+  return filesChangedUnseen_ && files.LostOf(before, tree_) <= 1;
 }
 
 // Properties change an entry in its place, or the records of the buttons: none comes or goes.

@@ -99,17 +99,17 @@ TEST_F(TwoMonitors, TextsAndPicturesAreMeasuredByTheirForm) {
 }
 
 TEST_F(TwoMonitors, WhatIsDrawnAndPressedCountsInTheFormsOwnTwips) {
-  constexpr Rgb kRed = 0x000000FF;
+  constexpr Rgb kMark = 0x000000FF;
   Sheet right(World.Windows());
   right.SetAutoRedraw(true);
   LoadAtPixel(right, 1200);
-  right.FillBox(2000, 1500, 2090, 1590, kRed);
+  right.FillBox(2000, 1500, 2090, 1590, kMark);
   const Picture image = right.Image();
   EXPECT_EQ(image->Size(), (PixelSize{300, 240}));
-  EXPECT_EQ(image->PixelAt({200, 150}), kRed);
-  EXPECT_EQ(image->PixelAt({209, 159}), kRed);
-  EXPECT_NE(image->PixelAt({199, 150}), kRed);
-  EXPECT_NE(image->PixelAt({211, 150}), kRed);
+  EXPECT_EQ(image->PixelAt({200, 150}), kMark);
+  EXPECT_EQ(image->PixelAt({209, 159}), kMark);
+  EXPECT_NE(image->PixelAt({199, 150}), kMark);
+  EXPECT_NE(image->PixelAt({211, 150}), kMark);
   PixelPoint pressed;
   right.MouseDown = [&](MouseButton, ShiftState, float x, float y) {
     pressed = {static_cast<int>(x), static_cast<int>(y)};
