@@ -175,6 +175,32 @@ TEST_F(Keyboard, IsOnTheStripAfterItWasPulledToAnEdge) {
   }
 }
 
+TEST_F(Keyboard, OpensCustomizeFromTheMainMenuAndClosesIt) {
+  Begin();
+  desk_->BringToFront("frmToolbar");
+  ASSERT_TRUE(WaitForForeground("frmToolbar"));
+  desk_->Pause(400);
+  desk_->Key(kKeyF10);
+  ASSERT_TRUE(
+      desk_->Wait([this] { return desk_->BoundsOf("picToolbar").Contains(desk_->Pointer()); }));
+  desk_->Pause(300);
+  desk_->Key(kKeyEnter);
+  ASSERT_TRUE(WaitForMenuAt(*desk_, 1));
+  ASSERT_TRUE(WaitForForeground("frmQMenu"));
+  desk_->Type('c');
+  desk_->Pause(200);
+  desk_->Picture("chosen");
+  desk_->Key(kKeyEnter);
+  ASSERT_TRUE(WaitForForeground("frmCust"));
+  desk_->Pause(1300);
+  desk_->Picture("open");
+  desk_->HoldKey(kKeyAlt);
+  desk_->Key('X');
+  desk_->LetKeyGo(kKeyAlt);
+  EXPECT_TRUE(desk_->Wait([this] { return !desk_->IsVisible("frmCust"); }));
+  EXPECT_EQ(desk_->RunningCopies(), 1);
+}
+
 TEST_F(Keyboard, IsOnTheStripAfterRefreshAllAndLargeIcons) {
   for (const bool docked : {false, true}) {
     SCOPED_TRACE(docked);
