@@ -53,6 +53,19 @@ TEST(CompanionDock, AnUprightStripThatReturnsElsewhereEmptiesThemOnceMore) {
   EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 2);
 }
 
+TEST(CompanionDock, AHiddenStripThatWentIntoTheTaskBarStaysThereWhateverWouldRevealIt) {
+  CompanionDesk desk;
+  desk.SetOption(Option::AutoHide, true);
+  desk.StartAt(Edge::Right);
+  desk.TheProgram.Ports.Docking->HideToolbar();
+  desk.GoIntoTheTaskBar();
+  desk.TheProgram.Ports.Docking->RevealToolbar();
+  EXPECT_FALSE(desk.Strip.Visible()) << "as when Customize saves meanwhile";
+  desk.ComeBack();
+  EXPECT_TRUE(desk.Strip.Visible());
+  EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
+}
+
 TEST(CompanionDock, ASecondStartWhileTheMessageOfATakenSideIsUpChangesNothingOfTheReturn) {
   CompanionDesk desk;
   desk.SetOption(Option::AutoHide, true);

@@ -69,7 +69,8 @@ void mAppBar::HideToolbar() {
 }
 
 void mAppBar::RevealToolbar() {
-  if (strip_.ContentsVisible()) return;
+  // A strip in the task bar comes back by its companion only.
+  if (strip_.ContentsVisible() || program_.Strip.ToolbarMinimized) return;
   strip_.ShowContents();
   if (program_.Strip.AppBarDocked) {
     // The buttons that were read again while only the line was seen get their places now.
