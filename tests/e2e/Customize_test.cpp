@@ -479,6 +479,29 @@ TEST_F(CustomizeByHand, ABrowserThatIsNoneIsRefused) {
   EXPECT_FALSE(desk_.ReadFile("openurl.ini"));
 }
 
+TEST_F(CustomizeByHand, AnotherBrowserIsChosenAndGetsTheNextAddress) {
+  // By its name it is one that can be asked; what it is asked is written down.
+  std::string browser = desk_.WitnessProgram();
+  browser.replace(browser.rfind('\\') + 1, std::string::npos, "iexplore.exe");
+  ASSERT_TRUE(CopyFileW(Wide(desk_.WitnessProgram()).c_str(), Wide(browser).c_str(), FALSE));
+  ASSERT_NO_FATAL_FAILURE(ChooseOption(CustOption::AlternateBrowser));
+  desk_.Pause(1000);
+  TypeText(browser);
+  desk_.Picture("file");
+  Press(scenario::kKeyEnter);
+  ASSERT_TRUE(desk_.Wait([this] { return desk_.ReadFile("openurl.ini").has_value(); }));
+  With(scenario::kKeyAlt, 'X');
+  ASSERT_TRUE(scenario::CloseAndWait(desk_));
+  scenario::WriteMenu(desk_, 1, "One", {{"page", "http", "http://a.example/x"}});
+  ASSERT_TRUE(scenario::StartAndWait(desk_));
+  ASSERT_TRUE(scenario::OpenMenu(desk_, 2));
+  desk_.Click(scenario::ItemMiddle(desk_, 1, 1));
+  ASSERT_TRUE(desk_.Wait([this] { return !desk_.Launched().empty(); }));
+  EXPECT_TRUE(desk_.Launched()[0].Program.ends_with("iexplore.exe")) << desk_.Launched()[0].Program;
+  EXPECT_EQ(desk_.Launched()[0].Arguments, "http://a.example/x");
+  EXPECT_TRUE(desk_.Messages().empty());
+}
+
 TEST_F(CustomizeByHand, ResetHelpTipsSaysSoAndShowsThemAgain) {
   With(scenario::kKeyAlt, 'X');
   ASSERT_TRUE(scenario::CloseAndWait(desk_));
