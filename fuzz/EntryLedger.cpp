@@ -50,8 +50,7 @@ void EntryLedger::Add(const MenuRecord& record) {
 int EntryLedger::Lost(const EntryLedger& before, std::string& first) const {
   int lost = 0;
   for (const auto& [record, count] : before.entries_) {
-    const auto found = entries_.find(record);
-    const int missing = count - (found == entries_.end() ? 0 : found->second);
+    const int missing = count - CountOf(record);
     if (missing <= 0) continue;
     if (lost == 0) first = record;
     lost += missing;
@@ -59,15 +58,31 @@ int EntryLedger::Lost(const EntryLedger& before, std::string& first) const {
   return lost;
 }
 
+int EntryLedger::CountOf(const std::string& record) const {
+  const auto found = entries_.find(record);
+  return found == entries_.end() ? 0 : found->second;
+}
+
+void EntryLedger::Cover(const EntryLedger& other) {
+  for (const auto& [record, count] : other.entries_) {
+    int& here = entries_[record];
+    size_ += std::max(count - here, 0);
+    here = std::max(here, count);
+  }
+}
+
 int EntryLedger::LostOf(const EntryLedger& before, const EntryLedger& wanted) const {
-  const auto countIn = [](const EntryLedger& ledger, const std::string& record) {
-    const auto found = ledger.entries_.find(record);
-    return found == ledger.entries_.end() ? 0 : found->second;
-  };
   int lost = 0;
   for (const auto& [record, count] : before.entries_) {
-    const int here = countIn(*this, record);
-    lost += std::max(std::min(count, countIn(wanted, record)) - here, 0);
+    lost += std::max(std::min(count, wanted.CountOf(record)) - CountOf(record), 0);
+  }
+  return lost;
+}
+
+int EntryLedger::LostBeyond(const EntryLedger& known, const EntryLedger& wanted) const {
+  int lost = 0;
+  for (const auto& [record, count] : wanted.entries_) {
+    lost += std::max(count - std::max(CountOf(record), known.CountOf(record)), 0);
   }
   return lost;
 }

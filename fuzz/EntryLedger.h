@@ -29,11 +29,16 @@ class EntryLedger {
   [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
   /// How many entries of `before` are missing here that `wanted` has too.
   [[nodiscard]] int LostOf(const EntryLedger& before, const EntryLedger& wanted) const;
+  /// How many entries of `wanted` are missing here that `known` does not have either.
+  [[nodiscard]] int LostBeyond(const EntryLedger& known, const EntryLedger& wanted) const;
+  /// Has all that `other` has from now on, each as often at least.
+  void Cover(const EntryLedger& other);
   [[nodiscard]] int Size() const noexcept { return size_; }
   /// With the records that bear the monkey's damage.
   [[nodiscard]] int Records() const noexcept { return size_ + damaged_; }
 
  private:
+  [[nodiscard]] int CountOf(const std::string& record) const;
   void Add(const MenuRecord& record);
 
   std::map<std::string, int> entries_;

@@ -222,13 +222,12 @@ class MonkeyLife {
   int lossesAllowed_ = 0;     // in this event
   EntryLedger tree_;          // of Customize, before this event
   EntryLedger filesOfTree_;   // the files when the tree took them up last
+  EntryLedger filesSeen_;     // all that the files held since Customize is up
   bool customizeUp_ = false;  // before this event, as the next one
   bool propertiesUp_ = false;
   bool windowUsed_ = false;          // in this event
   bool filesChangedInside_ = false;  // while something asked, in this event
-  bool filesChangedUnseen_ =
-      false;              // since Customize is up, by another program: it looks at its save
-  std::string deleting_;  // the file that goes with its button in this event
+  std::string deleting_;             // the file that goes with its button in this event
   std::string placeBefore_;
   std::size_t boxesBefore_ = 0;
   int lived_ = 0;

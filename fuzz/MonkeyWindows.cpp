@@ -272,11 +272,12 @@ bool MonkeyLife::TreeIsAtHand() const {
 
 void MonkeyLife::NoteTree() {
   customizeUp_ = parts_->Customize.IsLoaded();
-  if (customizeUp_) {
-    tree_ = TreeEntries();
-  } else {
-    filesChangedUnseen_ = false;
+  if (!customizeUp_) {
+    filesSeen_ = {};
+    return;
   }
+  tree_ = TreeEntries();
+  filesSeen_.Cover(entries_);
 }
 
 // A save replaces the files by the tree: what is lost with it the user has taken out of the tree.
@@ -287,9 +288,9 @@ bool MonkeyLife::LostByASave(const EntryLedger& before, const EntryLedger& files
   if (parts_->Customize.IsLoaded()) return files.Lost(TreeEntries(), first) == 0;
   // Of a file that changed while the window asked, the tree of before says nothing.
   if (filesChangedInside_ || files.Lost(tree_, first) <= 1) return true;
-  // What another program took away is in the tree until the save: the tree says only what it has
-  // that went with the save.
-  return filesChangedUnseen_ && files.LostOf(before, tree_) <= 1;
+  // What was taken away elsewhere may be in the tree until the save. What the files had and the
+  // tree has does not go with it, and neither does what is in the tree alone.
+  return files.LostOf(before, tree_) <= 1 && files.LostBeyond(filesSeen_, tree_) <= 1;
 }
 
 // Properties change an entry in its place, or the records of the buttons: none comes or goes.

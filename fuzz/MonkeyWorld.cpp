@@ -18,7 +18,6 @@ Edge AnyEdge(int number) { return static_cast<Edge>(number % 4); }
 
 void MonkeyLife::ChangeMenuFile() {
   filesChangedInside_ = filesChangedInside_ || insideUp_;
-  filesChangedUnseen_ = true;
   const int number = 1 + Number(kMenuFiles);
   const std::string path = MenuPath(number);
   world_->Files.LetGo(path);
