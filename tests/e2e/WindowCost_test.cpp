@@ -211,7 +211,16 @@ TEST_F(WindowCost, TheDialogForWebLinksLeavesNothingBehind) {
       [this] {
         desk_.BringToFront("DragSource");
         desk_.Pause(50);
-        desk_.DragTo(scenario::FarAway(desk_), ButtonMiddle(desk_, 2));
+        const PixelPoint button = ButtonMiddle(desk_, 2);
+        desk_.DragTo(scenario::FarAway(desk_), button);
+        // The system tells of a drag when the pointer moves, and a hand is never quite still.
+        int step = 0;
+        const auto menuIsUp = [&] {
+          desk_.MovePointer({button.x + step++ % 2, button.y});
+          return desk_.IsVisible("frmQMenu");
+        };
+        if (!desk_.Wait(menuIsUp)) return false;
+        desk_.Pause(50);
         desk_.Release(scenario::Button::Left);
         if (!WaitFor("frmURL")) {
           std::printf("the drag ended with %s; the menu is %s\n", desk_.DragEnd().c_str(),

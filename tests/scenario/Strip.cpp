@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <cstdio>
 
 #include "base/CodePage.h"
 
@@ -118,9 +119,14 @@ bool WaitForMenuAt(Desk& desk, int button) {
     return StandsAtButton(desk.BoundsOf("frmQMenu"), desk.BoundsOf("picToolbar"),
                           ButtonMiddle(desk, button));
   };
-  if (!desk.Wait(stands)) return false;
-  desk.Pause(200);  // Icons still arrive.
-  return stands();
+  const bool stood = desk.Wait(stands);
+  if (stood) desk.Pause(200);  // Icons still arrive.
+  if (stood && stands()) return true;
+  const PixelRect at = desk.BoundsOf("frmQMenu");
+  std::printf("the menu %s is at %d,%d to %d,%d and %s; in front is %s\n",
+              stood ? "was there, but" : "", at.left, at.top, at.right, at.bottom,
+              desk.IsVisible("frmQMenu") ? "visible" : "hidden", desk.ForegroundClass().c_str());
+  return false;
 }
 
 bool OpenMenu(Desk& desk, int button) {
