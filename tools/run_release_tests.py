@@ -331,8 +331,6 @@ def check_upgrade(checks, machine, wanted):
 
 def check_frozen(checks, machine, wanted):
     """An upgrade over a program that does not answer."""
-    # It is at rest by then: one that is stopped inside a call to Wine's server would hold up the installer, too.
-    time.sleep(3)
     frozen = machine.programs()
     for process in frozen:
         os.kill(process, signal.SIGSTOP)
