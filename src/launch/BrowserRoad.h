@@ -42,9 +42,9 @@ struct ProbeFiles {
 /// the one for .url files.
 [[nodiscard]] BrowserState FindBrowser(const StartServices& services, const ProbeFiles& probe);
 
-/// Opens an address the way that is known, after a look for the browser if there is none, and falls
-/// back step by step. Returns what is known afterwards: neither DDE nor the shell when nobody took
-/// the address.
+/// Opens an address as `known` says, finding the browser first when `known` says nothing, and falls
+/// back step by step. Returns what is known afterwards: neither DDE nor the shell when no program
+/// took the address.
 [[nodiscard]] BrowserState OpenAddress(const StartServices& services, const ProbeFiles& probe,
                                        BrowserState known, std::string_view url);
 

@@ -25,9 +25,9 @@ struct FontSpec {
 /// A font as large as a window of some scale shows it. There is no scale that would do for every
 /// window, so whoever measures or draws text says which one: see forms::Window::Scaled.
 struct ScaledFont {
-  ScaledFont(FontSpec spec, int dotsOfAnInch) : Spec(std::move(spec)), Dpi(dotsOfAnInch) {}
+  ScaledFont(FontSpec font, int dotsOfAnInch) : Font(std::move(font)), Dpi(dotsOfAnInch) {}
 
-  FontSpec Spec;
+  FontSpec Font;
   int Dpi;
 
   friend bool operator==(const ScaledFont&, const ScaledFont&) = default;

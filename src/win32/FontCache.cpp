@@ -18,10 +18,10 @@ constexpr double kPointsOfAnInch = 72;
 UniqueFont FontCache::Make(const ScaledFont& wanted) const {
   LOGFONTW font{};
   font.lfHeight =
-      -RoundToInt(static_cast<double>(wanted.Spec.Points) * wanted.Dpi / kPointsOfAnInch);
-  font.lfWeight = wanted.Spec.Bold ? FW_BOLD : FW_NORMAL;
+      -RoundToInt(static_cast<double>(wanted.Font.Points) * wanted.Dpi / kPointsOfAnInch);
+  font.lfWeight = wanted.Font.Bold ? FW_BOLD : FW_NORMAL;
   font.lfCharSet = DEFAULT_CHARSET;
-  const std::wstring face = wanted.Spec.Face.empty() ? L"MS Shell Dlg 2" : Wide(wanted.Spec.Face);
+  const std::wstring face = wanted.Font.Face.empty() ? L"MS Shell Dlg 2" : Wide(wanted.Font.Face);
   const std::size_t length = std::min<std::size_t>(face.size(), LF_FACESIZE - 1);
   std::copy_n(face.begin(), length, font.lfFaceName);
   return UniqueFont(CreateFontIndirectW(&font));

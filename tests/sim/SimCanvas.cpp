@@ -35,11 +35,11 @@ Rgb Blend(std::uint32_t pixel, Rgb ground) {
 }  // namespace
 
 PixelSize CharacterSize(const ScaledFont& font) {
-  const float scale = font.Spec.Points / 8.25F * static_cast<float>(font.Dpi) /
+  const float scale = font.Font.Points / 8.25F * static_cast<float>(font.Dpi) /
                       static_cast<float>(forms::kPlainDpi);
   const int width = static_cast<int>(static_cast<float>(kBaseCharacter.width) * scale);
   const int height = static_cast<int>(static_cast<float>(kBaseCharacter.height) * scale);
-  return {std::max(width + (font.Spec.Bold ? 1 : 0), 1), std::max(height, 1)};
+  return {std::max(width + (font.Font.Bold ? 1 : 0), 1), std::max(height, 1)};
 }
 
 PixelSize TextSize(std::string_view text, const ScaledFont& font) {

@@ -51,7 +51,7 @@ struct BuiltMenu {
 /// The built menus by their keys. They outlive the window's contents.
 class MenuCache {
  public:
-  /// The menu of a key, ignoring case; null when there is none.
+  /// The menu with this key, ignoring case; null when it is not in the cache.
   [[nodiscard]] std::shared_ptr<BuiltMenu> Find(std::string_view menuKey) const;
   /// Takes a menu under its own key, in the place of an older one.
   void Add(std::shared_ptr<BuiltMenu> menu);
