@@ -77,11 +77,42 @@ Function ${un}EndWindow
   StrCpy $2 ""
   FindWindow $1 "$0"
   ${If} $1 P<> 0
-    SendMessage $1 ${WM_QUERYENDSESSION} 0 1 $2 /TIMEOUT=5000
-    ${If} $2 != "error"
-      SendMessage $1 ${WM_ENDSESSION} 1 1 $2 /TIMEOUT=5000
+    ; The flag for errors is what tells of a window that does not answer. Looking at it clears it.
+    ClearErrors
+    SendMessage $1 ${WM_QUERYENDSESSION} 0 1 /TIMEOUT=5000
+    ${If} ${Errors}
+      StrCpy $2 "error"
+    ${Else}
+      SendMessage $1 ${WM_ENDSESSION} 1 1 /TIMEOUT=5000
+      ${If} ${Errors}
+        StrCpy $2 "error"
+      ${EndIf}
     ${EndIf}
   ${EndIf}
+FunctionEnd
+
+; The process that looks for icons ends with the program; one whose program does not answer goes on, and its
+; file gets another name.
+Function ${un}FreeHelper
+  StrCpy $Tries 0
+  ${Do}
+    ClearErrors
+    Delete "$INSTDIR\corvelle-shell.exe"
+    ${IfNot} ${Errors}
+      Return
+    ${EndIf}
+    Sleep 100
+    IntOp $Tries $Tries + 1
+  ${LoopUntil} $Tries >= 20
+  StrCpy $Tries 0
+  ${Do}
+    IntOp $Tries $Tries + 1
+    ClearErrors
+    Rename "$INSTDIR\corvelle-shell.exe" "$INSTDIR\corvelle-shell-old$Tries.exe"
+    ${IfNot} ${Errors}
+      Return
+    ${EndIf}
+  ${LoopUntil} $Tries >= 20
 FunctionEnd
 
 ; Ends the program that runs in $INSTDIR, all saved. One that does not answer keeps running, and its file
@@ -130,6 +161,7 @@ Function ${un}RemoveOldPrograms
   ${Do}
     IntOp $Tries $Tries + 1
     Delete "$INSTDIR\corvelle-old$Tries.exe"
+    Delete "$INSTDIR\corvelle-shell-old$Tries.exe"
   ${LoopUntil} $Tries >= 20
 FunctionEnd
 
@@ -141,6 +173,7 @@ Section "Corvelle"
   SectionIn RO
   SetShellVarContext current
   Call EndProgram
+  Call FreeHelper
   Call RemoveOldPrograms
   SetOutPath "$INSTDIR"
   SetOverwrite on
@@ -208,6 +241,7 @@ FunctionEnd
 Section "Uninstall"
   SetShellVarContext current
   Call un.EndProgram
+  Call un.FreeHelper
   Call un.RemoveOldPrograms
   !include "${FILES}"
   Delete "$INSTDIR\uninstall.exe"
