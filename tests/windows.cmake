@@ -43,6 +43,7 @@ endforeach()
 # What the start of the program is measured beside.
 foreach(program bare bareshell)
   add_executable(${program} WIN32 e2e/start/${program}.cpp)
+  target_include_directories(${program} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${program} PRIVATE corvelle_options)
   target_link_options(${program} PRIVATE -municode -static -s)
 endforeach()

@@ -6,25 +6,12 @@
 #include <ole2.h>
 #include <shellapi.h>
 
-namespace {
-
-LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_DESTROY) PostQuitMessage(0);
-  return DefWindowProcW(window, message, wParam, lParam);
-}
-
-}  // namespace
+#include "e2e/start/Bare.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
   if (FAILED(OleInitialize(nullptr))) return 1;
-  WNDCLASSW look = {};
-  look.lpfnWndProc = Procedure;
-  look.hInstance = instance;
-  look.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  look.lpszClassName = L"bareshell";
-  RegisterClassW(&look);
-  HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, look.lpszClassName, L"", WS_POPUP, 0, 0, 400, 30,
-                                nullptr, nullptr, instance, nullptr);
+  HWND window = corvelle::bare::MakeWindow(instance, L"bareshell", 0);
+  if (window == nullptr) return 1;
   wchar_t program[MAX_PATH] = {};
   GetModuleFileNameW(nullptr, program, MAX_PATH);
   SHFILEINFOW info = {};
@@ -40,8 +27,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
   SHAppBarMessage(ABM_SETPOS, &bar);
   SetWindowPos(window, HWND_TOPMOST, bar.rc.left, bar.rc.top, bar.rc.right - bar.rc.left, 30,
                SWP_SHOWWINDOW);
-  MSG message = {};
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+  corvelle::bare::RunMessages();
   SHAppBarMessage(ABM_REMOVE, &bar);
   OleUninitialize();
   return 0;
