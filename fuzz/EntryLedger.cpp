@@ -79,10 +79,12 @@ int EntryLedger::LostOf(const EntryLedger& before, const EntryLedger& wanted) co
   return lost;
 }
 
-int EntryLedger::LostBeyond(const EntryLedger& known, const EntryLedger& wanted) const {
+int EntryLedger::LostBeyond(const EntryLedger& known, const EntryLedger& before,
+                            const EntryLedger& wanted) const {
   int lost = 0;
   for (const auto& [record, count] : wanted.entries_) {
-    lost += std::max(count - std::max(CountOf(record), known.CountOf(record)), 0);
+    const int gone = std::max(known.CountOf(record) - before.CountOf(record), 0);
+    lost += std::max(count - CountOf(record) - gone, 0);
   }
   return lost;
 }

@@ -29,8 +29,10 @@ class EntryLedger {
   [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
   /// How many entries of `before` are missing here that `wanted` has too.
   [[nodiscard]] int LostOf(const EntryLedger& before, const EntryLedger& wanted) const;
-  /// How many entries of `wanted` are missing here that `known` does not have either.
-  [[nodiscard]] int LostBeyond(const EntryLedger& known, const EntryLedger& wanted) const;
+  /// How many entries of `wanted` are missing here besides those that had gone before: `known` has
+  /// them, `before` does not.
+  [[nodiscard]] int LostBeyond(const EntryLedger& known, const EntryLedger& before,
+                               const EntryLedger& wanted) const;
   /// Has all that `other` has from now on, each as often at least.
   void Cover(const EntryLedger& other);
   [[nodiscard]] int Size() const noexcept { return size_; }

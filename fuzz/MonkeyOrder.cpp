@@ -360,6 +360,8 @@ std::string MonkeyLife::WhatIsWrong() {
 
 std::string MonkeyLife::WrongEnd() {
   HealPlaces();
+  // The windows may save what the last event did in them.
+  NoteTree();
   if (parts_->Companion.WindowLoaded()) parts_->Companion.UnloadWindow();
   if (!complaints_.empty()) return complaints_.front();
   if (!world_->Desktop.QuitCalled()) return "the end of the companion is not the end";

@@ -290,7 +290,7 @@ bool MonkeyLife::LostByASave(const EntryLedger& before, const EntryLedger& files
   if (filesChangedInside_ || files.Lost(tree_, first) <= 1) return true;
   // What was taken away elsewhere may be in the tree until the save. What the files had and the
   // tree has does not go with it, and neither does what is in the tree alone.
-  return files.LostOf(before, tree_) <= 1 && files.LostBeyond(filesSeen_, tree_) <= 1;
+  return files.LostOf(before, tree_) <= 1 && files.LostBeyond(filesSeen_, before, tree_) <= 1;
 }
 
 // Properties change an entry in its place, or the records of the buttons: none comes or goes.
