@@ -136,6 +136,8 @@ class StripPlacePort {
   [[nodiscard]] virtual int WindowDpi() const = 0;
   /// Puts a floating strip where it belongs, or keeps its hidden line.
   virtual void CheckToolbarMove() = 0;
+  /// Ends a move: a floating strip takes the place that the screen and the options let it have.
+  virtual void AdjustToolbarPosition() = 0;
   /// Leaves an edge for the place at the top.
   virtual void RestoreToolbar() = 0;
   /// Brings the strip to the foreground from another program's turn.

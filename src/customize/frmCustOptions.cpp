@@ -61,7 +61,7 @@ void frmCust::ChooseOption(CustOption option) {
     case CustOption::AdjustLeft:
     case CustOption::AdjustRight:
       FlipOption(option == CustOption::AdjustLeft ? Option::MayPassLeft : Option::MayPassRight);
-      if (strip != nullptr) strip->CheckToolbarMove();
+      if (strip != nullptr) strip->AdjustToolbarPosition();
       break;
     case CustOption::LargeIcons:
       SetLargeIcons();

@@ -49,6 +49,7 @@ class LoggingToolbar final : public ToolbarPort {
   }
   void BringToForeground() override {}
   void CheckToolbarMove() override {}
+  void AdjustToolbarPosition() override {}
   void ShowAndRefresh() override {}
   int dragCurButton() override { return 0; }
   void DoButtonDrag(int, forms::MouseButton) override {}

@@ -138,6 +138,45 @@ TEST(CustomizeOptions, LargeIconsInTheRestoredStripRebuildIt) {
   EXPECT_EQ(program.Icons.IconSize, 16);
 }
 
+TEST(CustomizeOptions, AStripBesideTheScreenComesBackWhenItMayNoLongerPass) {
+  struct Row {
+    const char* Line;
+    Option MayPass;
+    float Left;
+  };
+  for (const Row& row :
+       {Row{"Auto Adjust Toolbar Left Position (Restore Mode)", Option::MayPassLeft, -30000},
+        Row{"Auto Adjust Toolbar Right Position (Restore Mode)", Option::MayPassRight, 30000}}) {
+    SCOPED_TRACE(row.Line);
+    CustDesk desk;
+    frmToolbar& strip = desk.parts->Toolbar;
+    desk.MenuBar("Options", row.Line);
+    ASSERT_TRUE(desk.parts->TheProgram.OptionFlags.Is(row.MayPass));
+    strip.SetLeft(row.Left);
+    strip.AdjustToolbarPosition();
+    ASSERT_EQ(strip.Left(), row.Left) << "it may be there";
+    desk.MenuBar("Options", row.Line);
+    EXPECT_GE(strip.Left(), 0);
+    EXPECT_LE(strip.Left() + strip.Width(), strip.Screen().Width);
+    EXPECT_EQ(strip.SavedLeft, strip.Left());
+  }
+}
+
+TEST(CustomizeOptions, TheLineOfAHiddenStripStaysALine) {
+  CustDesk desk;
+  Program& program = desk.parts->TheProgram;
+  program.OptionFlags.Set(Option::AutoHide, true);
+  program.Strip.AutoHide = true;
+  program.Ports.Docking->HideToolbar();
+  const TwipRect line = desk.parts->Toolbar.Bounds();
+  ASSERT_EQ(line.Top, 0);
+  ASSERT_NE(desk.parts->Toolbar.SavedTop, 0) << "where it is in full sight";
+  ASSERT_EQ(line.Height, 15) << "one pixel";
+  desk.MenuBar("Options", "Auto Adjust Toolbar Left Position (Restore Mode)");
+  EXPECT_EQ(desk.parts->Toolbar.Bounds().Top, line.Top);
+  EXPECT_EQ(desk.parts->Toolbar.Bounds().Height, line.Height);
+}
+
 TEST(CustomizeOptions, SmallSingleButtonsDockAFloatingStripAtTheRight) {
   CustDesk desk;
   Program& program = desk.parts->TheProgram;

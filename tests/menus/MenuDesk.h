@@ -80,6 +80,7 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   void ResizeAfterEdit(float) override { Asked.emplace_back("ResizeAfterEdit"); }
   void BringToForeground() override { Asked.emplace_back("BringToForeground"); }
   void CheckToolbarMove() override { Asked.emplace_back("CheckToolbarMove"); }
+  void AdjustToolbarPosition() override { Asked.emplace_back("AdjustToolbarPosition"); }
   void ShowAndRefresh() override { Asked.emplace_back("ShowAndRefresh"); }
   int dragCurButton() override { return 0; }
   void DoButtonDrag(int button, forms::MouseButton) override {

@@ -188,6 +188,7 @@ class frmToolbar final : public forms::Form,
                                               std::intptr_t lParam);
   void FullScreenNotify(std::intptr_t entering);
   void CheckToolbarMove() override;
+  void AdjustToolbarPosition() override { Pull.AdjustToolbarPosition(); }
   void CacheDisplayMetrics();
   void ShowToolbar() override;
   void BringToForeground() override;
