@@ -98,6 +98,16 @@ TEST(ToolbarSlide, TheSecondPressOfAQuickPairTakesHoldToo) {
   }
 }
 
+TEST(ToolbarSlide, AStripThatHidesOnTheWayOutOfTheScreenStaysWhereItMay) {
+  Floating desk;
+  desk.Pull(-1000);
+  ASSERT_LT(desk.Strip.Left() + desk.Strip.Width(), 0);
+  desk.Strip.HideContents();
+  EXPECT_EQ(desk.Strip.Left(), 0);
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.Strip.Left(), 0);
+}
+
 TEST(ToolbarSlide, ThreePixelsAreNoMove) {
   Floating desk;
   desk.Pull(3);

@@ -52,6 +52,8 @@ class StripPull {
   void LetFrameGo();
   /// Ends a pull for which no release will come: nothing moves any more, and the outline goes.
   void AbandonPull();
+  /// The same; a strip that was slid stays where the screen and the options let it.
+  void EndLostPull();
   /// A message, a menu or another window has taken the mouse from the hand on the frame.
   void LosePress();
   /// Notices when the hand on the frame has let go and nobody has told so: a strip that is rebuilt
@@ -76,9 +78,6 @@ class StripPull {
   bool FrameHeld = false;
 
  private:
-  /// No release will come. A strip that was slid stays where the screen and the
-  /// options let it.
-  void EndLostPull();
   /// Shows where the strip would go, and what a pull along its own edge looks like.
   void FollowPull();
   void ClearOutline();

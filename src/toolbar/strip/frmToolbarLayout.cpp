@@ -175,7 +175,7 @@ void frmToolbar::ShowContents() {
 }
 
 void frmToolbar::HideContents() {
-  Pull.AbandonPull();
+  Pull.EndLostPull();
   picToolbar.SetVisible(false);
   picSingleButton.SetVisible(false);
   for (forms::Line* line : {&bLine1, &bLine2, &bLine3, &bLine4, &bLineXY}) line->SetVisible(false);
