@@ -106,6 +106,8 @@ bool MonkeyLife::IsOffScreen() const {
 // What a tick of the poll has to end: a menu that the desktop hid.
 std::string MonkeyLife::WrongRest() {
   if (parts_->Menu.MenuVisible() || !parts_->Menu.Timer1.Enabled()) return {};
+  // While it is asked where an address goes, the poll changes nothing.
+  if (parts_->WebLink.IsLoaded()) return {};
   world_->Desktop.Advance(kTwoPolls);
   const bool stays = !parts_->Menu.MenuVisible() && parts_->Menu.Timer1.Enabled();
   return stays ? "the poll runs on without a menu" : "";
