@@ -185,8 +185,7 @@ void frmCust::Form_Load() {
   SetCaption(program_.Title + " . Customize");
   SetBackColor(forms::color::ButtonFace);
   SetTakesDrops(true);
-  const forms::ScreenInfo screen = Screen();
-  Move((screen.Width - kCustWidth) / 2, (screen.Height - kCustHeight) / 2, kCustWidth, kCustHeight);
+  Center(kCustWidth, kCustHeight);
   Timer1.SetInterval(kGuard);
   Editor.LastFolder = GetSpecialFolder(program_, kStartMenuFolder);
   LastBrowseFolder.clear();

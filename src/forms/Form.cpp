@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "forms/MonitorPlace.h"
 #include "forms/Scale.h"
 
 namespace corvelle::forms {
@@ -54,9 +55,12 @@ void Form::SetLeastSize(float width, float height) {
   Peer()->SetLeastSize(ToPixels(0, 0, width, height, Screen()).Size());
 }
 
-void Form::Center() {
+void Form::Center(float width, float height) {
   const ScreenInfo screen = Screen();
-  Move((screen.Width - Width()) / 2, (screen.Height - Height()) / 2, Width(), Height());
+  const PixelRect on = MonitorToOpenOn(opensOn_, Windows().Monitors());
+  const auto across = static_cast<float>(on.left + on.right) * screen.TwipsPerPixelX;
+  const auto down = static_cast<float>(on.top + on.bottom) * screen.TwipsPerPixelY;
+  Move((across - width) / 2, (down - height) / 2, width, height);
 }
 
 void Form::ShowModalTo(Form& owner) {
@@ -92,7 +96,12 @@ void Form::ScaleChanged() {
 
 bool Form::Load() {
   if (loaded_) return true;
-  if (!scaleGiven_) ChangeDpi(owner_ != nullptr ? owner_->Dpi() : Windows().DpiAt(PixelBounds()));
+  const bool opened = !closedAt_.IsEmpty();
+  opensOn_ = MonitorToOpenOn(closedAt_, Windows().Monitors());
+  if (!scaleGiven_) {
+    ChangeDpi(owner_ != nullptr ? owner_->Dpi()
+                                : Windows().DpiAt(opened ? opensOn_ : PixelBounds()));
+  }
   if (!CreateWindows(nullptr)) {
     DestroyWindows();
     return false;
@@ -110,6 +119,7 @@ void Form::Unload() {
   Form_Unload();
   if (watch.Gone()) return;
   loaded_ = false;
+  if (Frame() != FrameStyle::None) closedAt_ = PixelBounds();
   AdoptVisible(false);
   ReleaseOwner();
   DestroyWindows();
@@ -148,7 +158,7 @@ void Form::SetWindowPos(InsertAfter after, unsigned flags) {
 
 void Form::VisibleChanged() {
   if (Visible()) {
-    // Visible only once the window stands.
+    // Visible only once the window exists.
     AdoptVisible(false);
     Show();
   } else if (Peer() != nullptr) {

@@ -27,7 +27,7 @@ class Form : public Surface {
   ~Form() override;
 
   /// Does nothing when loaded already. False when the system refuses the window.
-  /// A form takes the scale of its owner, else of the monitor on which it lies.
+  /// A form takes the scale of its owner, else of the monitor on which it lies or will open.
   bool Load();
   /// Does nothing when not loaded.
   void Unload();
@@ -60,8 +60,11 @@ class Form : public Surface {
   /// Shows the form in front of `owner`, which takes no input until the form is hidden or unloaded,
   /// and has the foreground again then, if this form had it. Returns at once.
   void ShowModalTo(Form& owner);
-  /// Puts the form in the middle of the screen.
-  void Center();
+  /// Puts the form in the middle of the monitor on which it opened: the primary one, or that on
+  /// which a form with a frame of the system was when it was last unloaded, if it is there still.
+  void Center() { Center(Width(), Height()); }
+  /// The same with another size.
+  void Center(float width, float height);
   /// Lays the form out for this many dots of an inch from now on, whichever monitor it lies on: a
   /// menu has the scale of the strip that it belongs to. Its corner stays where it is in pixels,
   /// its size stays in twips; Form_ScaleChanged puts right what was worked out from the old scale.
@@ -100,9 +103,9 @@ class Form : public Surface {
   virtual void Form_MenuOpening(int /*line*/) {}
   virtual void Form_Activate() {}
   virtual void Form_Deactivate() {}
-  /// The window is asked to close; as it stands, it unloads.
+  /// The window is asked to close; unless overridden, it unloads.
   virtual void Form_QueryClose() { Unload(); }
-  /// The session of Windows ends; as it stands, the form unloads.
+  /// The session of Windows ends; unless overridden, the form unloads.
   virtual void Form_SessionEnd() { Unload(); }
   /// Every message before the system's own treatment; an answer ends it there.
   virtual std::optional<std::intptr_t> WindowProc(std::uint32_t /*message*/,
@@ -164,6 +167,8 @@ class Form : public Surface {
   std::vector<PopupItem> menu_;
   float leastWidth_ = 0;
   float leastHeight_ = 0;
+  PixelRect closedAt_;  // with a frame of the system: where it was when it was last unloaded
+  PixelRect opensOn_;   // the monitor, since it was last loaded
   bool minimizeBox_ = false;
   bool scaleGiven_ = false;  // by SetDpi
   BorderStyle border_;

@@ -183,7 +183,7 @@ struct FrameMargins {
   friend bool operator==(const FrameMargins&, const FrameMargins&) = default;
 };
 
-/// What a window shows, and where it stands on the screen.
+/// What a window shows, and its place on the screen.
 struct WindowPicture {
   std::unique_ptr<Canvas> Pixels;
   PixelRect Bounds;
@@ -230,6 +230,9 @@ class WindowSystem {
   /// inch. The place is in pixels of the desktop. A form asks when it is loaded and keeps the
   /// answer; everyone else asks the window (Window::Dpi, Window::Screen).
   [[nodiscard]] virtual int DpiAt(const PixelRect& bounds) const = 0;
+  /// The monitors in pixels of the desktop, at least one; the first is the primary one, whose
+  /// corner is the desktop's origin.
+  [[nodiscard]] virtual std::vector<PixelRect> Monitors() const = 0;
   /// Size in pixels of the primary screen.
   [[nodiscard]] virtual PixelSize ScreenSize() const = 0;
   /// Bits of one pixel of that screen.

@@ -27,6 +27,14 @@ BOOL CALLBACK PaintWindow(HWND window, LPARAM /*parameter*/) noexcept {
   return TRUE;
 }
 
+/// Adds the monitors beside the primary one, whose corner alone is the desktop's origin.
+BOOL CALLBACK AddMonitor(HMONITOR /*monitor*/, HDC /*dc*/, LPRECT place, LPARAM list) {
+  if (place->left != 0 || place->top != 0) {
+    reinterpret_cast<std::vector<PixelRect>*>(list)->push_back(FromRect(*place));
+  }
+  return TRUE;
+}
+
 /// The wish to end stays in the thread's queue and would end the next loop too.
 void ForgetQuit() {
   MSG message{};
@@ -103,6 +111,12 @@ PixelSize Win32WindowSystem::MeasureText(std::string_view text, const ScaledFont
 Rgb Win32WindowSystem::SystemColor(int index) const { return GetSysColor(index); }
 
 int Win32WindowSystem::DpiAt(const PixelRect& bounds) const { return DpiOfMonitorAt(bounds); }
+
+std::vector<PixelRect> Win32WindowSystem::Monitors() const {
+  std::vector<PixelRect> monitors = {RectAt({0, 0}, ScreenSize())};
+  EnumDisplayMonitors(nullptr, nullptr, AddMonitor, reinterpret_cast<LPARAM>(&monitors));
+  return monitors;
+}
 
 PixelSize Win32WindowSystem::ScreenSize() const {
   return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};

@@ -30,6 +30,7 @@ class Win32WindowSystem final : public forms::WindowSystem {
   PixelSize MeasureText(std::string_view text, const ScaledFont& font) override;
   Rgb SystemColor(int index) const override;
   int DpiAt(const PixelRect& bounds) const override;
+  std::vector<PixelRect> Monitors() const override;
   PixelSize ScreenSize() const override;
   int ScreenBits() const override;
   void SetMousePointer(forms::MousePointer shape) override;

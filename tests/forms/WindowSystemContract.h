@@ -577,6 +577,16 @@ TEST_P(WindowSystemContract, EveryPlaceHasAScale) {
   EXPECT_EQ(Windows().DpiAt({-32000, -32000, -31999, -31999}), dpi);
 }
 
+TEST_P(WindowSystemContract, TheFirstMonitorIsThePrimaryOneAndIsThereOnce) {
+  const std::vector<PixelRect> monitors = Windows().Monitors();
+  ASSERT_FALSE(monitors.empty());
+  EXPECT_EQ(monitors.front(), RectAt({0, 0}, Windows().ScreenSize()));
+  for (std::size_t i = 1; i < monitors.size(); ++i) {
+    EXPECT_FALSE(monitors[i].IsEmpty()) << i;
+    EXPECT_FALSE(monitors[i].Contains({0, 0})) << i;
+  }
+}
+
 TEST_P(WindowSystemContract, SystemColoursAreColours) {
   for (const int index : {13, 14, 15, 16, 17, 18, 20, 21, 22, 24}) {
     EXPECT_EQ(Windows().SystemColor(index) & 0xFF000000U, 0U) << index;

@@ -149,6 +149,72 @@ TEST_F(TwoMonitors, AFormThatIsLoadedAgainElsewhereTakesTheScaleThere) {
   EXPECT_EQ(Desktop.BoundsOf(sheet.Go.hWnd()), (PixelRect{110, 120, 210, 150}));
 }
 
+// ---- a form with a frame of the system, opened again ----
+
+/// Opens in the middle of a monitor.
+class Dialog final : public Form {
+ public:
+  explicit Dialog(WindowSystem& windows) : Form(windows, "Dialog", BorderStyle::Fixed) {}
+
+  /// Size 300 by 160 pixels at 96 dots an inch, as it was closed last at a pixel.
+  void CloseAtPixel(float left, float top) {
+    Move(left * Screen().TwipsPerPixelX, top * Screen().TwipsPerPixelY, Width(), Height());
+    Unload();
+  }
+
+ protected:
+  void Form_Load() override { Center(4500, 2400); }
+};
+
+TEST_F(TwoMonitors, AFormOpensInTheMiddleOfThePrimaryOneAtFirst) {
+  Dialog dialog(World.Windows());
+  dialog.Show();
+  EXPECT_EQ(Desktop.BoundsOf(dialog.hWnd()), RectAt({362, 304}, {300, 160}));
+}
+
+TEST_F(TwoMonitors, AFormOpensAgainInTheMiddleOfTheOneWhereItWasClosedInItsScale) {
+  Dialog dialog(World.Windows());
+  dialog.Show();
+  dialog.CloseAtPixel(1800, 20);
+  dialog.Show();
+  EXPECT_EQ(dialog.Dpi(), 144);
+  EXPECT_EQ(Desktop.BoundsOf(dialog.hWnd()), RectAt({1599, 480}, {450, 240}));
+  dialog.CloseAtPixel(10, 10);
+  dialog.Show();
+  EXPECT_EQ(dialog.Dpi(), 96);
+  EXPECT_EQ(Desktop.BoundsOf(dialog.hWnd()), RectAt({362, 304}, {300, 160}));
+}
+
+TEST_F(TwoMonitors, AFormWhoseMonitorWasUnpluggedOpensOnThePrimaryOneInItsScale) {
+  Dialog dialog(World.Windows());
+  dialog.Show();
+  dialog.CloseAtPixel(1800, 20);
+  Desktop.UnplugOtherMonitors();
+  dialog.Show();
+  EXPECT_EQ(dialog.Dpi(), 96);
+  EXPECT_EQ(Desktop.BoundsOf(dialog.hWnd()), RectAt({362, 304}, {300, 160}));
+}
+
+TEST_F(TwoMonitors, AFormThatIsClosedInTheTaskBarOpensAgainWhereItWasBefore) {
+  Dialog dialog(World.Windows());
+  dialog.Show();
+  dialog.Move(1800 * 15, 300, dialog.Width(), dialog.Height());
+  dialog.Minimize();
+  dialog.Unload();
+  dialog.Show();
+  EXPECT_EQ(dialog.Dpi(), 144);
+  EXPECT_TRUE(Desktop.BoundsOf(dialog.hWnd()).left >= 1024);
+}
+
+TEST_F(TwoMonitors, AFormWithoutAFrameOpensWhereItIsPutNext) {
+  Sheet sheet(World.Windows());
+  LoadAtPixel(sheet, 1200);
+  sheet.Unload();
+  ASSERT_TRUE(sheet.Load());
+  sheet.Center();
+  EXPECT_EQ(Desktop.BoundsOf(sheet.hWnd()), RectAt({362, 264}, {300, 240}));
+}
+
 TEST_F(TwoMonitors, AScaleThatWasGivenStays) {
   Sheet sheet(World.Windows());
   sheet.SetDpi(144);

@@ -24,7 +24,7 @@ using Folder = std::map<std::string, std::string>;  // bytes by the names of the
 /// A running program with two menus and four single buttons, and its user.
 class ProgramDesk {
  public:
-  ProgramDesk() {
+  explicit ProgramDesk(const sim::WorldOptions& options = {}) : world(options) {
     world.Files.Put("C:\\Corvelle\\corvelle.exe", "program");
     world.Files.Put("C:\\Tools\\tool.exe", "x");
     world.System.WorkFolder = "C:\\Corvelle\\";

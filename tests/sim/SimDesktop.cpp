@@ -74,6 +74,12 @@ int SimDesktop::DpiAt(const PixelRect& bounds) const {
   return dpi;
 }
 
+std::vector<PixelRect> SimDesktop::Monitors() const {
+  std::vector<PixelRect> monitors = {RectAt({0, 0}, options_.Screen)};
+  for (const OtherMonitor& other : options_.OtherMonitors) monitors.push_back(other.Bounds);
+  return monitors;
+}
+
 forms::ScreenInfo SimDesktop::Screen() const {
   return {.TwipsPerPixelX = options_.TwipsPerPixel,
           .TwipsPerPixelY = options_.TwipsPerPixel,
@@ -279,6 +285,23 @@ void SimDesktop::SetScreen(PixelSize size, int bits) {
   SetBounds(desktopWindow_, {0, 0, size.width, size.height});
   Broadcast(forms::message::DisplayChange, static_cast<std::uintptr_t>(bits),
             static_cast<std::intptr_t>((size.height << 16) | size.width));
+}
+
+void SimDesktop::UnplugOtherMonitors() {
+  const std::vector<PixelRect> monitors = Monitors();
+  for (const WindowId id : order_) {
+    const SimWindow* window = Look(id);
+    if (window == nullptr || !window->Own || !window->Visible || window->Parent != kNoWindow) {
+      continue;
+    }
+    for (std::size_t i = 1; i < monitors.size(); ++i) {
+      if (!Intersect(window->Bounds, monitors[i]).IsEmpty()) {
+        Complain("a window is up on a monitor that is unplugged");
+      }
+    }
+  }
+  options_.OtherMonitors.clear();
+  SetScreen(options_.Screen);
 }
 
 void SimDesktop::SetSystemColor(int index, Rgb colour) {

@@ -131,6 +131,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   /// Another resolution, or other colours; windows are told by a display change message.
   void SetScreen(PixelSize size) { SetScreen(size, options_.ScreenBits); }
   void SetScreen(PixelSize size, int bits);
+  /// The monitors beside the primary one are taken away; none of our windows may be up on them.
+  void UnplugOtherMonitors();
   /// Another system colour; windows are told by a message.
   void SetSystemColor(int index, Rgb colour);
 
@@ -242,6 +244,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   PixelSize MeasureText(std::string_view text, const ScaledFont& font) override;
   Rgb SystemColor(int index) const override;
   int DpiAt(const PixelRect& bounds) const override;
+  std::vector<PixelRect> Monitors() const override;
   PixelSize ScreenSize() const override { return options_.Screen; }
   /// The primary screen by its own scale, for a test that reckons with pixels.
   [[nodiscard]] forms::ScreenInfo Screen() const;
