@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/IconState.h"
 #include "core/SpecialFolders.h"
 #include "platform/Registry.h"
 #include "platform/ShellFolders.h"
@@ -35,16 +35,16 @@ int DrawnIcon(ShellFolders& folders) {
 
 }  // namespace
 
-void CheckRecycleIcon(Program& program) {
-  std::string path = RegisteredIcon(program.Services.Keys);
-  int index = DrawnIcon(program.Services.Folders);
+void CheckRecycleIcon(const Registry& keys, ShellFolders& folders, IconState& icons) {
+  std::string path = RegisteredIcon(keys);
+  int index = DrawnIcon(folders);
   // A bin whose icon is not told keeps the one it had.
-  if (path.empty()) path = program.Icons.RecycleIconPath;
-  if (index < 0) index = program.Icons.RecycleIconIndex;
-  if (path == program.Icons.RecycleIconPath && index == program.Icons.RecycleIconIndex) return;
-  program.Icons.RecycleIconPath = std::move(path);
-  program.Icons.RecycleIconIndex = index;
-  program.Icons.RecycleIconChanged = true;
+  if (path.empty()) path = icons.RecycleIconPath;
+  if (index < 0) index = icons.RecycleIconIndex;
+  if (path == icons.RecycleIconPath && index == icons.RecycleIconIndex) return;
+  icons.RecycleIconPath = std::move(path);
+  icons.RecycleIconIndex = index;
+  icons.RecycleIconChanged = true;
 }
 
 }  // namespace corvelle

@@ -53,7 +53,8 @@ class Parts {
   mAppBar Docking{TheProgram, Toolbar};
   frmImage StillPicture{TheProgram, Toolbar};
   frmQMenu Menu{TheProgram};
-  FolderMenus TheFolderMenus{TheProgram};
+  FolderMenus TheFolderMenus{TheProgram.Services, TheProgram.Windows, TheProgram.Answers,
+                             TheProgram.Icons};
   frmMinimize Companion{TheProgram};
   frmStartup Startup{TheProgram};
   Popup ThePopup{TheProgram};

@@ -22,7 +22,7 @@ struct CheckRecycleIconTest : testing::Test {
   /// Looks, and tells whether a change was noted.
   bool Look() {
     program.Icons.RecycleIconChanged = false;
-    CheckRecycleIcon(program);
+    CheckRecycleIcon(world.Keys, world.Folders, program.Icons);
     return program.Icons.RecycleIconChanged;
   }
 
@@ -87,8 +87,8 @@ TEST_F(CheckRecycleIconTest, FollowsWhatTheShellDrawsThoughNoKeyChanges) {
 
 TEST_F(CheckRecycleIconTest, AChangeThatNobodyLookedAtYetStays) {
   SetIcon(kEmptyBin);
-  CheckRecycleIcon(program);
-  CheckRecycleIcon(program);
+  CheckRecycleIcon(world.Keys, world.Folders, program.Icons);
+  CheckRecycleIcon(world.Keys, world.Folders, program.Icons);
   EXPECT_TRUE(program.Icons.RecycleIconChanged);
 }
 

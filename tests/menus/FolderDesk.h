@@ -16,7 +16,8 @@ using Strings = std::vector<std::string>;
 class FolderDesk : public MenuDesk {
  public:
   explicit FolderDesk(const sim::WorldOptions& options = {})
-      : MenuDesk(options), Items(TheProgram) {
+      : MenuDesk(options),
+        Items(TheProgram.Services, TheProgram.Windows, TheProgram.Answers, TheProgram.Icons) {
     TheProgram.Ports.FolderMenus = &Items;
     for (const char* name : {"beta.txt", "Alpha.txt", "gamma.doc"}) {
       World.Files.Put("C:\\Docs\\" + std::string(name), "x");

@@ -69,14 +69,14 @@ TEST(SpecialFolderIconIndex, OfAFolderThatTheSystemLacksIsNone) {
 TEST(SpecialFolderName, IsTheShellsNameByNumberAndByPath) {
   FoldersDesk desk;
   int icon = 0;
-  EXPECT_EQ(SpecialFolderName(desk.TheProgram, kDrives, icon), "My Computer");
+  EXPECT_EQ(SpecialFolderName(desk.World.Folders, kDrives, icon), "My Computer");
   EXPECT_EQ(icon, 32);
-  EXPECT_EQ(SpecialFolderName(desk.TheProgram, 99, icon), "");
+  EXPECT_EQ(SpecialFolderName(desk.World.Folders, 99, icon), "");
   EXPECT_EQ(icon, -1);
   desk.World.Icons.SetIndex("C:\\Tools\\tool.exe", 77);
-  EXPECT_NE(SpecialFolderName(desk.TheProgram, "C:\\Tools\\tool.exe", icon), "");
+  EXPECT_NE(SpecialFolderName(desk.World.Icons, "C:\\Tools\\tool.exe", icon), "");
   EXPECT_EQ(icon, 77);
-  EXPECT_EQ(SpecialFolderName(desk.TheProgram, "C:\\gone.exe", icon), "");
+  EXPECT_EQ(SpecialFolderName(desk.World.Icons, "C:\\gone.exe", icon), "");
   EXPECT_EQ(icon, -1);
 }
 

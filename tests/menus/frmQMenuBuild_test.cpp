@@ -204,7 +204,8 @@ int Reads(const MenuDesk& desk, const std::string& file) {
 TEST(frmQMenuBuild, ReadsTheMenuFileOnceAndIsPlacedOnce) {
   for (const bool folders : {false, true}) {
     MenuDesk desk;
-    FolderMenus items(desk.TheProgram);
+    FolderMenus items(desk.TheProgram.Services, desk.TheProgram.Windows, desk.TheProgram.Answers,
+                      desk.TheProgram.Icons);
     desk.TheProgram.Ports.FolderMenus = &items;
     desk.World.Files.Put("C:\\Docs\\a.txt", "x");
     const std::string file =

@@ -309,7 +309,8 @@ TEST(frmQMenuRightClick, AnEntryOfAFolderOfTheShellIsNamedByItsTitleInIt) {
   MenuDesk desk;
   NotingPopup popup(desk.TheProgram);
   desk.TheProgram.Ports.Popup = &popup;
-  FolderMenus folders(desk.TheProgram);
+  FolderMenus folders(desk.TheProgram.Services, desk.TheProgram.Windows, desk.TheProgram.Answers,
+                      desk.TheProgram.Icons);
   desk.TheProgram.Ports.FolderMenus = &folders;
   desk.World.Folders.Put(3, {{"Fonts", 37}});
   desk.Open(1, {Item("Panel", "", "CSIDL_CONTROLS"), Item("Drives", "15", "CSIDL_DRIVES/X")});

@@ -5,13 +5,14 @@
 #include <variant>
 
 #include "base/Text.h"
+#include "core/IconState.h"
 #include "core/MenuFile.h"
 #include "core/MenuRecord.h"
-#include "core/Program.h"
 #include "core/SpecialFolders.h"
 #include "icons/RecycleIcon.h"
 #include "menus/folders/FolderRules.h"
 #include "menus/folders/GeneratedMenu.h"
+#include "platform/Platform.h"
 
 namespace corvelle {
 
@@ -46,7 +47,7 @@ std::optional<ExpandedMenu> FolderMenus::Expand(std::string_view menuKey, std::s
                                                 std::string_view stored) {
   const std::string key = UpperCase(menuKey);
   built_.erase(key);
-  const CodePage& ansi = program_.Services.Ansi;
+  const CodePage& ansi = services_.Ansi;
   const std::string source(menuFile);
   if (!HasOpenFolder(stored, ansi)) {
     reading_ = {};
@@ -69,8 +70,7 @@ std::optional<ExpandedMenu> FolderMenus::Expand(std::string_view menuKey, std::s
 void FolderMenus::BeginReading(const std::string& key) {
   reading_ = {};
   reading_.MenuKey = key;
-  reading_.Questions =
-      std::make_unique<FolderQuestions>(program_.Answers, program_.Windows, [this] { Arrived(); });
+  reading_.Questions = std::make_unique<FolderQuestions>(answers_, windows_, [this] { Arrived(); });
 }
 
 void FolderMenus::Leave() { reading_ = {}; }
@@ -95,8 +95,8 @@ void FolderMenus::Arrived() {
 
 // Quiet: the menu is up, and nothing of it comes from this file.
 bool FolderMenus::WriteGenerated(const ExpandedMenu& menu) {
-  FileSystem& files = program_.Services.Files;
-  if (files.Write(menu.File, GeneratedBytes(menu.Items, menu.Source, program_.Services.Ansi))) {
+  FileSystem& files = services_.Files;
+  if (files.Write(menu.File, GeneratedBytes(menu.Items, menu.Source, services_.Ansi))) {
     return true;
   }
   // What is left of it would be of another time, or half a menu.
@@ -146,7 +146,8 @@ void FolderMenus::NameFiles(FoundFiles& found) {
 }
 
 SpecialFolderLines FolderMenus::LinesOf(std::string_view folderName) {
-  NoteRecycleBin(program_, folderName);
+  // Before the folder is listed, so that what changes meanwhile is found at the next opening.
+  if (ShowsRecycleBin(folderName)) LookAtBin();
   const FolderQuestions::Known& answer = reading_.Questions->Get(
       {.Kind = LookupKind::ShellEntries, .Number = CsidlValue(FolderWithoutOptions(folderName))});
   SpecialFolderLines lines{.Lines = {}, .State = answer.State};
@@ -167,9 +168,9 @@ void FolderMenus::ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Bu
                   [](const clsFolder& folder) { return IsDesktopFolder(folder.FolderName); });
   if (!showsBin) return;
   // The bin is shown as it is now.
-  built.RecycleIcon = program_.Icons.RecycleIconPath;
-  built.RecycleIndex = program_.Icons.RecycleIconIndex;
-  program_.Icons.RecycleIconChanged = false;
+  built.RecycleIcon = icons_.RecycleIconPath;
+  built.RecycleIndex = icons_.RecycleIconIndex;
+  icons_.RecycleIconChanged = false;
 }
 
 void FolderMenus::ExpandOne(GeneratedMenu& menu, int record, std::string_view menuFile,
@@ -183,11 +184,11 @@ void FolderMenus::ExpandOne(GeneratedMenu& menu, int record, std::string_view me
     state = found.State;
     NameFiles(found);
     built.Whole = built.Whole && found.Named;
-    folder = ExpandFolderItem(program_, menu, record, found, paths);
+    folder = ExpandFolderItem(services_.Files, services_.Ansi, menu, record, found, paths);
   } else {
     const SpecialFolderLines lines = LinesOf(name);
     state = lines.State;
-    folder = ExpandSpecialFolder(program_, menu, record, lines, menuFile);
+    folder = ExpandSpecialFolder(services_.Files, services_.Ansi, menu, record, lines, menuFile);
   }
   if (state != FolderState::Here) {
     built.Whole = false;
@@ -203,9 +204,9 @@ void FolderMenus::ShowKept(GeneratedMenu& menu, int record, std::string_view men
   const std::string name = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
   constexpr std::size_t kMostBytes = static_cast<std::size_t>(kMaxRecords) * kRecordLength;
   const std::string bytes =
-      program_.Services.Files.Read(GeneratedFileName(menuFile), 0, kMostBytes).ValueOr({});
+      services_.Files.Read(GeneratedFileName(menuFile), 0, kMostBytes).ValueOr({});
   std::vector<MenuItem> kept =
-      EntriesInGenerated(WholeRecords(bytes), record, name, program_.Services.Ansi);
+      EntriesInGenerated(WholeRecords(bytes), record, name, services_.Ansi);
   if (kept.empty()) menu.AddWaiting(record, state);
   for (MenuItem& entry : kept) menu.AddKept(record, std::move(entry));
 }
@@ -240,20 +241,21 @@ bool FolderMenus::HasChanged(const Built& built, std::size_t index) {
   if (ofShell) {
     const SpecialFolderLines lines = LinesOf(name);
     return lines.State == FolderState::Here &&
-           SpecialFolderChanged(program_, name, lines, folder.FileTitle);
+           SpecialFolderChanged(services_.Files, services_.Ansi, name, lines, folder.FileTitle);
   }
   const FoundFiles& files = FilesOf(name);
   return files.State == FolderState::Here &&
          FolderChanged(files, built.Update.FileList[index]) != folder.RecTotal;
 }
 
+void FolderMenus::LookAtBin() { CheckRecycleIcon(services_.Keys, services_.Folders, icons_); }
+
 bool FolderMenus::BinHasChanged(const Built& built) {
-  CheckRecycleIcon(program_);
+  LookAtBin();
   // Several menus may show the desktop, and the flag is taken down by the first that is rebuilt.
-  const bool changed = program_.Icons.RecycleIconChanged ||
-                       built.RecycleIcon != program_.Icons.RecycleIconPath ||
-                       built.RecycleIndex != program_.Icons.RecycleIconIndex;
-  program_.Icons.RecycleIconChanged = false;
+  const bool changed = icons_.RecycleIconChanged || built.RecycleIcon != icons_.RecycleIconPath ||
+                       built.RecycleIndex != icons_.RecycleIconIndex;
+  icons_.RecycleIconChanged = false;
   return changed;
 }
 

@@ -17,13 +17,16 @@
 namespace corvelle {
 
 class GeneratedMenu;
-class Program;
+struct IconState;
+struct Platform;
 
 /// Folder items: a menu that has open ones is built from memory, with what they hold in their
 /// places, and that is remembered for each menu until it is built again.
 class FolderMenus final : public FolderMenusPort {
  public:
-  explicit FolderMenus(Program& program) : program_(program) {}
+  FolderMenus(const Platform& services, forms::WindowSystem& windows, desk::AnswerDesk& answers,
+              IconState& icons)
+      : services_(services), windows_(windows), answers_(answers), icons_(icons) {}
 
   std::optional<ExpandedMenu> Expand(std::string_view menuKey, std::string_view menuFile,
                                      std::string_view stored) override;
@@ -69,10 +72,15 @@ class FolderMenus final : public FolderMenusPort {
   [[nodiscard]] bool AnyChanged(const Built& built);
   [[nodiscard]] bool HasChanged(const Built& built, std::size_t index);
   [[nodiscard]] bool BinHasChanged(const Built& built);
+  /// Looks which icon the Recycle Bin has now.
+  void LookAtBin();
   /// More is known of the menu that was asked for last.
   void Arrived();
 
-  Program& program_;
+  const Platform& services_;
+  forms::WindowSystem& windows_;
+  desk::AnswerDesk& answers_;
+  IconState& icons_;
   std::map<std::string, std::shared_ptr<const Built>, std::less<>>
       built_;  // by the key in capitals
   Reading reading_;

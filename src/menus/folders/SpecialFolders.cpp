@@ -47,11 +47,11 @@ std::string OpenApart(ShellFolders& folders, const SpecialFolderText& text,
 }
 
 /// The root of all folders has no menu; that of its folder on the disk stands in for it.
-bool ShowFolderMenu(Program& program, int folder, PixelPoint at, WindowId owner) {
+bool ShowFolderMenu(ShellFolders& folders, int folder, PixelPoint at, WindowId owner) {
   if (KindOfSpecialFolder(folder) == SpecialFolderKind::Shell)
-    return program.Services.Folders.FolderMenu(folder, at, owner);
-  const auto path = program.Services.Folders.PathOf(folder);
-  return path && DoExplorerMenu(program, owner, *path, at);
+    return folders.FolderMenu(folder, at, owner);
+  const auto path = folders.PathOf(folder);
+  return path && DoExplorerMenu(folders, owner, *path, at);
 }
 
 bool IsQuoted(std::string_view text) noexcept {
@@ -81,26 +81,26 @@ bool DoSpecialFolder(ShellFolders& folders, int folder, std::string_view title, 
   return folders.EntryMenu(folder, name, at, owner);
 }
 
-bool DoExplorerMenu(Program& program, WindowId owner, std::string_view path, PixelPoint at) {
-  return program.Services.Folders.FileMenu(path, at, owner);
+bool DoExplorerMenu(ShellFolders& folders, WindowId owner, std::string_view path, PixelPoint at) {
+  return folders.FileMenu(path, at, owner);
 }
 
-std::string SpecialFolderName(Program& program, int folder, int& iconOut) {
-  const auto self = program.Services.Folders.Folder(folder);
+std::string SpecialFolderName(ShellFolders& folders, int folder, int& iconOut) {
+  const auto self = folders.Folder(folder);
   iconOut = self ? self->IconIndex : -1;
   return self ? self->Name : std::string();
 }
 
-std::string SpecialFolderName(Program& program, std::string_view path, int& iconOut) {
-  const auto info = program.Services.Icons.FileInfo(path, IconList::Small);
+std::string SpecialFolderName(ShellIcons& icons, std::string_view path, int& iconOut) {
+  const auto info = icons.FileInfo(path, IconList::Small);
   iconOut = info ? info->SystemIndex : -1;
   return info ? info->DisplayName : std::string();
 }
 
 int SpecialFolders::SpecialFolderIconIndex(std::string_view name) {
   int icon = -1;
-  static_cast<void>(
-      SpecialFolderName(program_, CsidlValue(ParseSpecialFolder(name, {}).Name), icon));
+  static_cast<void>(SpecialFolderName(program_.Services.Folders,
+                                      CsidlValue(ParseSpecialFolder(name, {}).Name), icon));
   return icon;
 }
 
@@ -120,11 +120,12 @@ bool SpecialFolders::ShowContextMenu(std::string_view command, std::string_view 
                                      PixelPoint at, WindowId owner) {
   if (!IsSpecial(command)) {
     // A folder that is not expanded has the menu of the folder.
-    return DoExplorerMenu(program_, owner, Trim(command.substr(0, command.find('*'))), at);
+    return DoExplorerMenu(program_.Services.Folders, owner,
+                          Trim(command.substr(0, command.find('*'))), at);
   }
   const SpecialFolderText text = ParseSpecialFolder(command, title);
   const int folder = CsidlValue(text.Name);
-  if (text.Title.empty()) return ShowFolderMenu(program_, folder, at, owner);
+  if (text.Title.empty()) return ShowFolderMenu(program_.Services.Folders, folder, at, owner);
   return DoSpecialFolder(program_.Services.Folders, folder, text.Title, MouseButton::Right, {}, at,
                          owner);
 }

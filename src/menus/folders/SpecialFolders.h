@@ -9,6 +9,7 @@ namespace corvelle {
 
 class Program;
 class ShellFolders;
+class ShellIcons;
 
 /// Acts on an entry of a folder of the shell by its title: the left button opens it, `argument` on
 /// its command line; any other shows its context menu at a point of the screen (pixels). True when
@@ -18,12 +19,12 @@ bool DoSpecialFolder(ShellFolders& folders, int folder, std::string_view title,
                      WindowId owner);
 
 /// The shell's context menu of a file or folder of the disk. True when a command ran.
-bool DoExplorerMenu(Program& program, WindowId owner, std::string_view path, PixelPoint at);
+bool DoExplorerMenu(ShellFolders& folders, WindowId owner, std::string_view path, PixelPoint at);
 
 /// The shell's name for a special folder by its number, or for a file by its path; empty when it
 /// has none. `iconOut`: its icon in the system's lists, -1 when it has none.
-std::string SpecialFolderName(Program& program, int folder, int& iconOut);
-std::string SpecialFolderName(Program& program, std::string_view path, int& iconOut);
+std::string SpecialFolderName(ShellFolders& folders, int folder, int& iconOut);
+std::string SpecialFolderName(ShellIcons& icons, std::string_view path, int& iconOut);
 
 /// The folders of the shell, for all who open them, show their icons or their menus. What is not
 /// there is passed over quietly. They open beside the windows; see StartBeside.

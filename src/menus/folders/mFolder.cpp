@@ -7,7 +7,6 @@
 #include "base/Text.h"
 #include "base/Wildcard.h"
 #include "core/DroppedFiles.h"
-#include "core/Program.h"
 #include "menus/folders/GeneratedMenu.h"
 
 namespace corvelle {
@@ -69,7 +68,7 @@ FoundFiles ListFolderItem(const FolderLister& list, const FolderItem& item) {
   return found;
 }
 
-clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
+clsFolder ExpandFolderItem(FileSystem& files, const CodePage& ansi, GeneratedMenu& menu, int record,
                            const FoundFiles& found, std::vector<std::string>& paths) {
   clsFolder folder;
   folder.FolderName = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
@@ -87,8 +86,7 @@ clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
     if (!item.Merged && last != found.Folders.size() && last != file.Folder) menu.AddRule();
     last = file.Folder;
     // What no record can hold starts from the menu all the same.
-    const std::string stored =
-        PathForRecord(program.Services.Files, program.Services.Ansi, path).value_or(path);
+    const std::string stored = PathForRecord(files, ansi, path).value_or(path);
     menu.AddEntry(record,
                   {FileTitleOf(file.Shown, file.Name, item.WithoutExtension), stored, stored});
   }

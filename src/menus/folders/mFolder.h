@@ -12,8 +12,8 @@
 
 namespace corvelle {
 
+class CodePage;
 class GeneratedMenu;
-class Program;
 
 // Folder items of the disk.
 
@@ -52,8 +52,9 @@ using FolderLister =
 /// Adds the entries of the folder item at record `record` of the source, behind the records before
 /// it. `found`: what it holds. `paths` gets the full paths of its files when the item is to be
 /// compared later.
-[[nodiscard]] clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
-                                         const FoundFiles& found, std::vector<std::string>& paths);
+[[nodiscard]] clsFolder ExpandFolderItem(FileSystem& files, const CodePage& ansi,
+                                         GeneratedMenu& menu, int record, const FoundFiles& found,
+                                         std::vector<std::string>& paths);
 
 /// How many files there are now; -1 when there are as many as `paths` but others, so that the
 /// answer is clsFolder::RecTotal only for a folder that did not change.

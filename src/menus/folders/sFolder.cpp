@@ -3,28 +3,19 @@
 #include "base/CodePage.h"
 #include "base/FieldText.h"
 #include "base/Text.h"
-#include "core/Program.h"
 #include "core/SpecialFolders.h"
-#include "icons/RecycleIcon.h"
 #include "menus/folders/FolderRules.h"
 #include "menus/folders/GeneratedMenu.h"
+#include "platform/FileSystem.h"
 
 namespace corvelle {
 
 namespace {
 
-/// Shows the Recycle Bin's icon, or the bin itself.
-bool ShowsRecycleBin(std::string_view command) noexcept {
-  const int folder = CsidlValue(command);
-  return folder == kDesktopFolder || folder == kRecycleBinFolder || IsDesktopFolder(command);
-}
-
-void KeepList(Program& program, const std::string& cache, const std::string& bytes) {
+void KeepList(FileSystem& files, const std::string& cache, const std::string& bytes) {
   // A list that is not kept makes the next comparison find a change, which is harmless; half a list
   // would as well.
-  if (!program.Services.Files.Write(cache, bytes)) {
-    static_cast<void>(program.Services.Files.Remove(cache));
-  }
+  if (!files.Write(cache, bytes)) static_cast<void>(files.Remove(cache));
 }
 
 }  // namespace
@@ -39,12 +30,15 @@ std::string ListCacheBytes(const std::vector<std::string>& lines, const CodePage
   return bytes;
 }
 
-void NoteRecycleBin(Program& program, std::string_view folderName) {
-  if (ShowsRecycleBin(FolderWithoutOptions(folderName))) CheckRecycleIcon(program);
+bool ShowsRecycleBin(std::string_view folderName) {
+  const std::string command = FolderWithoutOptions(folderName);
+  const int folder = CsidlValue(command);
+  return folder == kDesktopFolder || folder == kRecycleBinFolder || IsDesktopFolder(command);
 }
 
-clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
-                              const SpecialFolderLines& lines, std::string_view menuFile) {
+clsFolder ExpandSpecialFolder(FileSystem& files, const CodePage& ansi, GeneratedMenu& menu,
+                              int record, const SpecialFolderLines& lines,
+                              std::string_view menuFile) {
   clsFolder folder;
   folder.FolderName = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
   const std::string command = FolderWithoutOptions(folder.FolderName);
@@ -54,26 +48,26 @@ clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
   const std::string cache = ListCacheName(menuFile, command);
   const bool here = lines.State == FolderState::Here;
   if (lines.Lines) {
-    if (here) KeepList(program, cache, ListCacheBytes(*lines.Lines, program.Services.Ansi));
+    if (here) KeepList(files, cache, ListCacheBytes(*lines.Lines, ansi));
     for (const std::string& line : *lines.Lines) {
       const ShellFolderLine entry = ParseShellFolderLine(line);
       menu.AddEntry(record, {entry.Name, entry.Icon, command}, entry.Name);
     }
     folder.RecTotal = static_cast<int>(lines.Lines->size());
   } else if (here) {
-    static_cast<void>(program.Services.Files.Remove(cache));
+    static_cast<void>(files.Remove(cache));
   }
   folder.RecEnd = menu.Count();
   return folder;
 }
 
-bool SpecialFolderChanged(Program& program, std::string_view folderName,
+bool SpecialFolderChanged(FileSystem& files, const CodePage& ansi, std::string_view folderName,
                           const SpecialFolderLines& lines, std::string_view menuFile) {
   if (!lines.Lines) return false;
-  const std::string now = ListCacheBytes(*lines.Lines, program.Services.Ansi);
+  const std::string now = ListCacheBytes(*lines.Lines, ansi);
   // One byte more than there should be tells a longer list.
-  const auto kept = program.Services.Files.Read(
-      ListCacheName(menuFile, FolderWithoutOptions(folderName)), 0, now.size() + 1);
+  const auto kept =
+      files.Read(ListCacheName(menuFile, FolderWithoutOptions(folderName)), 0, now.size() + 1);
   return !kept || *kept != now;
 }
 

@@ -12,7 +12,7 @@ namespace corvelle {
 
 class CodePage;
 class GeneratedMenu;
-class Program;
+class FileSystem;
 
 // Folder items of the shell. What a folder held is kept in a file beside the menu file (see
 // ListCacheName): for each line of ShellFolderLines the line in capitals, a NUL, the line and CR
@@ -29,20 +29,21 @@ struct SpecialFolderLines {
   FolderState State = FolderState::Here;
 };
 
-/// Notes the bin's icon as it is now if the folder shows it. To be called before the folder is
-/// listed, so that what changes meanwhile is found at the next opening.
-void NoteRecycleBin(Program& program, std::string_view folderName);
+/// True for a folder that shows the Recycle Bin's icon, or is the bin itself.
+[[nodiscard]] bool ShowsRecycleBin(std::string_view folderName);
 
 /// Adds the entries of the special folder at record `record` of the source, behind the records
 /// before it, and writes what it holds, if that is known. A folder that cannot be listed has no
 /// entries.
-[[nodiscard]] clsFolder ExpandSpecialFolder(Program& program, GeneratedMenu& menu, int record,
+[[nodiscard]] clsFolder ExpandSpecialFolder(FileSystem& files, const CodePage& ansi,
+                                            GeneratedMenu& menu, int record,
                                             const SpecialFolderLines& lines,
                                             std::string_view menuFile);
 
 /// True if the folder holds something else than what is kept of it, or if nothing is kept; false
 /// when it cannot be listed, so that such a folder is not rebuilt for ever.
-[[nodiscard]] bool SpecialFolderChanged(Program& program, std::string_view folderName,
+[[nodiscard]] bool SpecialFolderChanged(FileSystem& files, const CodePage& ansi,
+                                        std::string_view folderName,
                                         const SpecialFolderLines& lines, std::string_view menuFile);
 
 }  // namespace corvelle
