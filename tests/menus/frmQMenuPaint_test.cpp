@@ -124,7 +124,12 @@ TEST_F(Painted, FilesOfOneShellIconShareIt) {
   desk_.Open(1, {Item("A", "C:\\a.txt"), Item("B", "C:\\b.txt")});
   EXPECT_EQ(desk_.World.Icons.Lookups(), 2);
   EXPECT_EQ(IconColour(1), IconColour(2));
-  MenuIcons icons(desk_.TheProgram);
+  Program& program = desk_.TheProgram;
+  MenuIcons icons({.Windows = program.Windows,
+                   .Answers = program.Answers,
+                   .Shell = program.Services.Icons,
+                   .Paths = program.Paths,
+                   .Icons = program.Icons});
   icons.WaitUntil(desk_.World.Desktop.Now() + 1);
   EXPECT_EQ(icons.Find("C:\\a.txt").Cell, icons.Find("C:\\b.txt").Cell);
   EXPECT_EQ(icons.Count(), 1);

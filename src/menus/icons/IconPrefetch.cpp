@@ -89,8 +89,9 @@ bool IconPrefetch::LoadIconsOf(const std::string& menuFile) {
     return true;
   }
   bool known = true;
-  const IconTexts texts =
-      IconTextsOf(program_, menuFile, [&](const std::string& folder, const std::string& pattern) {
+  const IconTexts texts = IconTextsOf(
+      program_.Services.Files, program_.Services.Ansi, menuFile,
+      [&](const std::string& folder, const std::string& pattern) {
         const FolderQuestions::Known& answer =
             folders_->Get({.Kind = LookupKind::FolderEntries, .Path = folder, .Pattern = pattern});
         if (answer.State == FolderState::Reading || answer.State == FolderState::BeingRead)

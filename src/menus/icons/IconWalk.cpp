@@ -6,7 +6,6 @@
 #include "base/Text.h"
 #include "core/MenuFile.h"
 #include "core/MenuRecord.h"
-#include "core/Program.h"
 #include "menus/folders/mFolder.h"
 
 namespace corvelle {
@@ -35,9 +34,10 @@ bool IsSkippedIcon(std::string_view icon) {
   return end != std::string_view::npos && StartsWithNoCase(Trim(icon.substr(end + 1)), kSkipMark);
 }
 
-IconTexts IconTextsOf(Program& program, std::string_view menuFile, const FolderLister& list) {
+IconTexts IconTextsOf(FileSystem& files, const CodePage& ansi, std::string_view menuFile,
+                      const FolderLister& list) {
   IconTexts texts;
-  const auto records = ReadAllRecords(program.Services.Files, program.Services.Ansi, menuFile);
+  const auto records = ReadAllRecords(files, ansi, menuFile);
   if (!records) return texts;
   for (std::size_t i = 0; i < records->size(); ++i) {
     const MenuRecord& record = (*records)[i];

@@ -8,7 +8,8 @@
 
 namespace corvelle {
 
-class Program;
+class CodePage;
+class FileSystem;
 
 /// The icon texts of a menu file.
 struct IconTexts {
@@ -20,8 +21,8 @@ struct IconTexts {
 
 /// Reads a menu file; `list` says what its open folder items hold. A file that cannot be read has
 /// no icons.
-[[nodiscard]] IconTexts IconTextsOf(Program& program, std::string_view menuFile,
-                                    const FolderLister& list);
+[[nodiscard]] IconTexts IconTextsOf(FileSystem& files, const CodePage& ansi,
+                                    std::string_view menuFile, const FolderLister& list);
 
 /// True for an icon text that is not fetched beforehand: "/h", in any case, follows its first
 /// NUL.

@@ -6,9 +6,12 @@
 
 #include "base/Digest.h"
 #include "base/Text.h"
+#include "core/IconState.h"
 #include "core/MenuRecord.h"
-#include "core/Program.h"
+#include "core/ProgramPaths.h"
+#include "desk/AnswerDesk.h"
 #include "desk/LookupPlaces.h"
+#include "forms/WindowSystem.h"
 #include "icons/Glyphs.h"
 #include "icons/IconQuestions.h"
 #include "icons/IconResolution.h"
@@ -47,19 +50,19 @@ std::string PlaceAskedOf(const Lookup& question) {
 
 }  // namespace
 
-MenuIcons::MenuIcons(Program& program)
-    : program_(program), shown_(program.Answers.NewOwner()), ahead_(program.Answers.NewOwner()) {}
+MenuIcons::MenuIcons(const MenuIconSources& from)
+    : from_(from), shown_(from.Answers.NewOwner()), ahead_(from.Answers.NewOwner()) {}
 
 MenuIcons::~MenuIcons() {
-  program_.Answers.Drop(shown_);
-  program_.Answers.Drop(ahead_);
+  from_.Answers.Drop(shown_);
+  from_.Answers.Drop(ahead_);
 }
 
 void MenuIcons::ResetPicIcons() {
   ++resets_;
   late_.clear();
-  program_.Answers.Drop(shown_);
-  program_.Answers.Drop(ahead_);
+  from_.Answers.Drop(shown_);
+  from_.Answers.Drop(ahead_);
   toFetch_.clear();
   fetching_.clear();
   slow_.clear();
@@ -80,9 +83,9 @@ void MenuIcons::WaitUntil(std::int64_t moment) {
 
 IconForm MenuIcons::Classify(std::string_view text, IconCaller caller) const {
   return ClassifyIcon(text,
-                      {.AppPath = program_.Paths.AppPath,
-                       .IconsPath = program_.Paths.IconsPath,
-                       .WebLinkIcon = program_.Icons.WebLinkIcon},
+                      {.AppPath = from_.Paths.AppPath,
+                       .IconsPath = from_.Paths.IconsPath,
+                       .WebLinkIcon = from_.Icons.WebLinkIcon},
                       caller);
 }
 
@@ -127,7 +130,7 @@ IconPicture MenuIcons::PictureOf(const std::string& key) {
 
 IconPicture MenuIcons::StandIn(const Entry& entry) {
   for (const Lookup& question : entry.Questions) {
-    const LookupValue* const last = program_.Answers.LastKnown(question);
+    const LookupValue* const last = from_.Answers.LastKnown(question);
     const IconPixels* const pixels = last != nullptr ? PixelsOf(*last) : nullptr;
     if (pixels != nullptr) return {.Cell = CellOf(*pixels), .Final = false};
   }
@@ -141,9 +144,9 @@ IconPicture MenuIcons::StandIn(const Entry& entry) {
 void MenuIcons::Draw(Canvas& canvas, PixelPoint at, const IconPicture& picture) const {
   // Nothing of an earlier icon may shine through.
   canvas.FillBox(RectAt(at, {kCell, kCell}),
-                 forms::Resolve(program_.Windows, forms::color::ButtonFace));
+                 forms::Resolve(from_.Windows, forms::color::ButtonFace));
   if (!picture.Glyph.empty()) {
-    DrawGlyph(canvas, program_.Windows, picture.Glyph, at);
+    DrawGlyph(canvas, from_.Windows, picture.Glyph, at);
   } else if (picture.Cell >= 0 && picture.Cell < cells_) {
     canvas.DrawCanvas(*picIcons_, RectAt({picture.Cell * kCell, 0}, {kCell, kCell}), at);
   }
@@ -153,7 +156,7 @@ void MenuIcons::Draw(Canvas& canvas, PixelPoint at, const IconPicture& picture) 
 
 std::string MenuIcons::Enter(std::string_view text, const IconForm& form) {
   if (IsSeparatorIcon(text)) return {};
-  std::vector<Lookup> questions = SmallIconQuestions(form, program_.Icons.ShellDrawsIcons);
+  std::vector<Lookup> questions = SmallIconQuestions(form, from_.Icons.ShellDrawsIcons);
   if (questions.empty()) return {};
   std::string key = LowerCase(text);
   colIconFile_.try_emplace(key, Entry{.Form = form, .Questions = std::move(questions)});
@@ -161,15 +164,15 @@ std::string MenuIcons::Enter(std::string_view text, const IconForm& form) {
 }
 
 std::string MenuIcons::EnterBlank() {
-  colIconFile_.try_emplace(kBlankKey,
-                           Entry{.Form = {.Kind = IconKind::File, .Text = {}, .File = {}},
-                                 .Questions = BlankIconQuestions(program_.Paths.IconsPath,
-                                                                 program_.Icons.ShellDrawsIcons)});
+  colIconFile_.try_emplace(
+      kBlankKey,
+      Entry{.Form = {.Kind = IconKind::File, .Text = {}, .File = {}},
+            .Questions = BlankIconQuestions(from_.Paths.IconsPath, from_.Icons.ShellDrawsIcons)});
   return kBlankKey;
 }
 
 int MenuIcons::MayWait(const Lookup& question) const {
-  const std::int64_t left = waitUntil_ - program_.Windows.Now();
+  const std::int64_t left = waitUntil_ - from_.Windows.Now();
   if (left <= 0 || late_.contains(PlaceAskedOf(question))) return 0;
   return static_cast<int>(std::min<std::int64_t>(left, kMostOfOnePlace));
 }
@@ -185,7 +188,7 @@ void MenuIcons::Ask(const std::string& key, desk::Urgency how, bool mayWait) {
     const std::size_t next = entry.Next;
     const Lookup question = entry.Questions[next];
     // Only an answer that has come since it was asked for is as good as a new one.
-    const std::int64_t now = program_.Windows.Now();
+    const std::int64_t now = from_.Windows.Now();
     if (entry.Is != State::Waiting) entry.AskedAt = now;
     desk::Request request{.Question = question,
                           .How = how,
@@ -200,11 +203,11 @@ void MenuIcons::Ask(const std::string& key, desk::Urgency how, bool mayWait) {
         if (fetching_.contains(key)) slow_.insert(key);
         GoOnFetching();
       };
-      program_.Answers.Ask(std::move(request), std::move(later));
+      from_.Answers.Ask(std::move(request), std::move(later));
       return;
     }
     const int wait = mayWait ? MayWait(question) : 0;
-    const auto reply = program_.Answers.AskAtOnce(std::move(request), std::move(later), wait);
+    const auto reply = from_.Answers.AskAtOnce(std::move(request), std::move(later), wait);
     if (!reply) {
       if (wait > 0) late_.insert(PlaceAskedOf(question));
       return;
@@ -259,7 +262,7 @@ void MenuIcons::TakeLate(const std::string& key, std::size_t question, const des
 
 void MenuIcons::PostArrived() {
   if (std::exchange(posted_, true)) return;
-  program_.Windows.Post([this, watch = alive_.MakeWatch(), resets = resets_] {
+  from_.Windows.Post([this, watch = alive_.MakeWatch(), resets = resets_] {
     if (watch.Gone()) return;
     posted_ = false;
     // What is forgotten is asked for when it is drawn again.
@@ -276,7 +279,7 @@ void MenuIcons::PutAside() {
     asked.push_back(key);
   }
   for (const std::string& key : asked) Ask(key, desk::Urgency::Ahead, false);
-  program_.Answers.Drop(shown_);
+  from_.Answers.Drop(shown_);
 }
 
 // ---- beforehand ----
@@ -290,7 +293,7 @@ void MenuIcons::Fetch(std::string_view iconText) {
 }
 
 void MenuIcons::FetchButtonIcon(std::string_view iconText) {
-  if (IconListOf(program_.Icons.IconSize) != IconList::Large) return;
+  if (IconListOf(from_.Icons.IconSize) != IconList::Large) return;
   const std::string text = Trim(iconText);
   const IconForm form = Classify(text, IconCaller::Toolbar);
   if (form.Kind != IconKind::File || !fetched_.insert(LowerCase(text)).second) return;
@@ -305,7 +308,7 @@ void MenuIcons::GoOnFetching() {
     if (key.front() == kLargeMark) {
       fetching_.insert(key);
       // The desk keeps it; a file that is gone has no icon.
-      program_.Answers.Ask(
+      from_.Answers.Ask(
           {.Question = {.Kind = LookupKind::FileIcon,
                         .Path = key.substr(1),
                         .List = IconList::Large},
@@ -334,8 +337,7 @@ int MenuIcons::LoadSystemIcon(int index) {
   const auto known = colIconIndex_.find(key);
   if (known != colIconIndex_.end()) return known->second;
   const int cell = AddCell([&](Canvas& strip, PixelPoint at) {
-    return program_.Services.Icons.DrawSystemIcon(strip, IconList::Small, index, at,
-                                                  IconStyle::Normal);
+    return from_.Shell.DrawSystemIcon(strip, IconList::Small, index, at, IconStyle::Normal);
   });
   colIconIndex_.emplace(key, cell);
   return cell;
@@ -354,7 +356,7 @@ int MenuIcons::AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw) {
   MakeRoom();
   const PixelPoint at{cells_ * kCell, 0};
   picIcons_->FillBox(RectAt(at, {kCell, kCell}),
-                     forms::Resolve(program_.Windows, forms::color::ButtonFace));
+                     forms::Resolve(from_.Windows, forms::color::ButtonFace));
   // What has no icon at all keeps its empty cell, and is not asked for again.
   draw(*picIcons_, at);
   return cells_++;
@@ -363,7 +365,7 @@ int MenuIcons::AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw) {
 void MenuIcons::MakeRoom() {
   if (cells_ < room_) return;
   const int room = std::max(kFirstRoom, 2 * room_);
-  std::unique_ptr<Canvas> wider = program_.Windows.CreateCanvas({room * kCell, kCell});
+  std::unique_ptr<Canvas> wider = from_.Windows.CreateCanvas({room * kCell, kCell});
   if (picIcons_) wider->DrawCanvas(*picIcons_, {0, 0, cells_ * kCell, kCell}, {0, 0});
   picIcons_ = std::move(wider);
   room_ = room;

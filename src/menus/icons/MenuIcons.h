@@ -21,7 +21,16 @@
 
 namespace corvelle {
 
-class Program;
+class ShellIcons;
+struct IconState;
+struct ProgramPaths;
+
+namespace desk {
+class AnswerDesk;
+}
+namespace forms {
+class WindowSystem;
+}
 
 /// What is drawn in the icon cell of an item.
 struct IconPicture {
@@ -29,17 +38,26 @@ struct IconPicture {
 
   int Cell = kNoCell;  // of the strip of icons
   std::string Glyph;   // key of a picture of the program, where there is no cell
-  bool Final = true;   // false while it only stands for the icon
+  bool Final = true;   // false for a stand-in
 
   [[nodiscard]] bool LooksLike(const IconPicture& other) const noexcept {
     return Cell == other.Cell && Glyph == other.Glyph;
   }
 };
 
+/// What the icons of menus come from. All of it outlives them.
+struct MenuIconSources {
+  forms::WindowSystem& Windows;
+  desk::AnswerDesk& Answers;
+  ShellIcons& Shell;
+  const ProgramPaths& Paths;
+  const IconState& Icons;
+};
+
 /// The small icons of menus: each text is asked for once, of the desk, and then copied from a strip
-/// of icons that stand side by side. An icon that is not known yet is stood for by the one that was
-/// known last, by that of its kind, or by a picture of the program. Nothing here fails visibly:
-/// what has no icon keeps an empty cell.
+/// of icons that lie side by side. In the place of an icon that is not known yet is the one that
+/// was known last, that of its kind, or a picture of the program. Nothing here fails visibly: what
+/// has no icon keeps an empty cell.
 class MenuIcons {
  public:
   /// Width and height of a cell, pixels.
@@ -47,7 +65,7 @@ class MenuIcons {
   /// Milliseconds for which all that is asked for one opening may hold up the menu.
   static constexpr int kAtOnce = 80;
 
-  explicit MenuIcons(Program& program);
+  explicit MenuIcons(const MenuIconSources& from);
   ~MenuIcons();
   MenuIcons(const MenuIcons&) = delete;
   MenuIcons& operator=(const MenuIcons&) = delete;
@@ -118,7 +136,7 @@ class MenuIcons {
   int AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw);
   void MakeRoom();
 
-  Program& program_;
+  MenuIconSources from_;
   // Of questions to the desk.
   std::uint64_t shown_ = 0;
   std::uint64_t ahead_ = 0;

@@ -45,7 +45,11 @@ frmQMenu::frmQMenu(Program& program)
       KeysTimer(program.Windows),
       UpdateTimer(program.Windows),
       program_(program),
-      icons_(program),
+      icons_({.Windows = program.Windows,
+              .Answers = program.Answers,
+              .Shell = program.Services.Icons,
+              .Paths = program.Paths,
+              .Icons = program.Icons}),
       items_(program.Services.Ansi),
       drops_(program, items_),
       prefetch_(program, icons_) {
