@@ -40,7 +40,11 @@ class StripDrops {
   /// Drops the carried entry on a button: appended to its menu, and taken away from where it came
   /// unless `released` is the right button, which copies.
   void DoButtonDrag(int button, forms::MouseButton released);
-  /// Notices when the release of what is carried went to another program.
+  /// Gives up a carry when no button has been down for a moment (AbandonWatch): its release went to
+  /// another program. The loss of the mouse does not tell that. An entry of a menu is picked up
+  /// with the menu's press, and the menu hides and comes up again on the way: each time it loses
+  /// the mouse, though the button is still down. From then on a release over another program is
+  /// told to nobody. A carry from the row of single buttons needs no such look (CaptureLost).
   void WatchCarry();
   /// Tells the user, once the current event is over, that these files were not taken.
   void TellRefused(std::vector<std::string> files);
