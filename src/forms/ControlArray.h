@@ -8,7 +8,7 @@
 
 namespace corvelle::forms {
 
-/// A run of controls of one kind under one name. Element 0 is the template that stands from the
+/// A run of controls of one kind under one name. Element 0 is the template, there from the
 /// start; the others are loaded and unloaded while the program runs.
 template <class T>
 class ControlArray {
@@ -23,7 +23,7 @@ class ControlArray {
   T& operator[](int index) { return *elements_[static_cast<std::size_t>(index)]; }
   const T& operator[](int index) const { return *elements_[static_cast<std::size_t>(index)]; }
 
-  /// The highest index that is loaded; 0 when only the template stands.
+  /// The highest index that is loaded; 0 when only the template is there.
   int Last() const noexcept { return static_cast<int>(elements_.size()) - 1; }
 
   /// True for an index that can be used.

@@ -21,7 +21,7 @@ struct Accelerator {
 /// is no tab, or no key of that name.
 [[nodiscard]] std::optional<Accelerator> AcceleratorOf(std::string_view caption);
 
-/// The number of the line of a menu that a key stands for: all lines are counted from 0, each
+/// The number of the line of a menu that a key chooses: all lines are counted from 0, each
 /// before the lines of its own menu. popup::kNothing when no line that can be chosen has the key.
 [[nodiscard]] int LineOf(const std::vector<PopupItem>& items, const Accelerator& pressed);
 

@@ -7,7 +7,7 @@ namespace corvelle::forms {
 /// How the user moves a scroll bar.
 enum class ScrollStep { LineBack, LineOn, PageBack, PageOn, First, Last, Drag, DragEnd };
 
-/// What a scroll bar stands for. The value goes from Least to Most, both included.
+/// The range of a scroll bar. The value goes from Least to Most, both included.
 struct ScrollRange {
   int Least = 0;
   int Most = 32767;

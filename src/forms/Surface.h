@@ -34,7 +34,7 @@ class Surface : public Window {
   void DrawLine(float x1, float y1, float x2, float y2, OleColor colour, int drawWidth = 1);
   /// A filled box, both corners included.
   void FillBox(float x1, float y1, float x2, float y2, OleColor colour);
-  /// One line of text in the surface's font, "&" as it stands.
+  /// One line of text in the surface's font; "&" is a character like any other.
   void Print(float x, float y, std::string_view text, OleColor colour);
   void PaintPicture(const Picture& picture, float x, float y);
   /// The part of `picture` that is `width` by `height` from its upper left corner.

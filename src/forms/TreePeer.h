@@ -10,7 +10,7 @@
 
 namespace corvelle::forms {
 
-/// A node of a tree, for as long as the tree stands: never the system's handle, never used again.
+/// A node of a tree, for as long as the tree exists: never the system's handle, never used again.
 using NodeId = std::int64_t;
 inline constexpr NodeId kNoNode = 0;
 

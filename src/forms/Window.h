@@ -127,7 +127,7 @@ class Window : public Control, protected WindowEvents {
   [[nodiscard]] virtual KeyFacts Keys() const { return {}; }
   /// The Tab key stops here now. All around it can be seen and is enabled.
   [[nodiscard]] virtual bool StopsTab() const noexcept { return tabStop_; }
-  /// Enter, Esc or the access key stands for this window, which has the focus if it takes it.
+  /// Enter, Esc or the access key presses this window, which has the focus if it takes it.
   virtual void PressByKey() {}
   /// An arrow goes on or back in the group of this window.
   virtual void MoveInGroup(int /*step*/) {}

@@ -107,7 +107,7 @@ std::vector<std::string> ShellFolderLines(const std::vector<ShellFolderEntry>& e
 }
 
 ShellFolderLine ParseShellFolderLine(std::string_view line) {
-  // The index stands last; a bar before it belongs to the name.
+  // The index comes last; a bar before it belongs to the name.
   const std::size_t bar = line.rfind('|');
   if (bar == std::string_view::npos) return {Trim(line), {}};
   return {Trim(line.substr(0, bar)), StripAtNull(line.substr(bar + 1))};

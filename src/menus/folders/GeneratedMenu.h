@@ -22,7 +22,7 @@ class GeneratedMenu {
 
   /// Copies the source's records that have not been taken yet, up to number `last`.
   void CopySource(int last);
-  /// Copies what stands before folder item `record` and takes the item itself away.
+  /// Copies what comes before folder item `record` and takes the item itself away.
   void BeginItem(int record);
 
   /// Adds an entry of the folder item at `record`, and a rule between two folders of one. Its title

@@ -8,7 +8,7 @@ namespace corvelle {
 /// One folder item of a built menu.
 struct clsFolder {
   std::string FolderName;     // the command with its options
-  std::string FileTitle;      // the menu file that the item stands in
+  std::string FileTitle;      // the menu file that holds the item
   int RecStart = 0;           // the first record that it produced in the generated file
   int RecEnd = 0;             // how many records the generated file had after it
   int RecTotal = 0;           // how many entries it produced

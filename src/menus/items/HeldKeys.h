@@ -18,7 +18,7 @@ struct HeldKey {
 /// Keys in their order until the menu is up and they can act on it. No window.
 class HeldKeys {
  public:
-  /// More than a hand types ahead; what comes after these is dropped.
+  /// More than anyone types ahead; what comes after these is dropped.
   static constexpr std::size_t kMost = 32;
 
   void Hold(const HeldKey& key) {

@@ -90,7 +90,7 @@ void Builder::AddItem(MenuItem item) {
 }
 
 void Builder::StartPage() {
-  // The picture of a page ends right below its last item, and with it a rule that stands there.
+  // The picture of a page ends right below its last item, and with it a rule that lies there.
   const ItemBox last{out_.Items.back().Top, scene_.LineHeight};
   std::vector<float>& rules = out_.Pages.back().Rules;
   if (!rules.empty() && rules.back() > last.Bottom()) rules.pop_back();

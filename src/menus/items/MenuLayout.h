@@ -44,7 +44,7 @@ struct MenuMetrics {
 
 /// Where the strip leaves room for a menu.
 struct MenuRoomScene {
-  bool Vertical = false;  // the strip stands at the left or right edge
+  bool Vertical = false;  // the strip is at the left or right edge
   Edge At = Edge::Top;
   float ScreenHeight = 0;
   float MenuTop = 0;   // of the menu window as placed so far

@@ -6,7 +6,7 @@
 namespace corvelle {
 
 // The program's own menu: which of its items are marked and which can be chosen. Its labels are
-// numbered from 1 as they stand, lines between them not counted.
+// numbered from 1 in their order, lines between them not counted.
 
 inline constexpr int kLargeIconsLabel = 3;
 inline constexpr int kAutoHideLabel = 4;
@@ -27,7 +27,7 @@ struct MainMenuFacts {
 
 /// True for an item that shows an option that is on.
 [[nodiscard]] bool IsMarked(int label, const MainMenuFacts& facts) noexcept;
-/// False for an item that has no use where the strip stands.
+/// False for an item that has no use at the place of the strip.
 [[nodiscard]] bool IsChoosable(int label, const MainMenuFacts& facts) noexcept;
 /// The icon text of an item with a mark, or of one without.
 [[nodiscard]] std::string_view MarkIcon(bool marked) noexcept;

@@ -307,7 +307,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   [[nodiscard]] bool IsOver(float x, float y) const;
   /// True while events at that place are to be ignored.
   [[nodiscard]] bool StillAway(float x, float y);
-  /// Selects what a pointer that stands still over a rebuilt menu is on.
+  /// Selects the item under a pointer that rests over a rebuilt menu.
   void FollowPointer();
   void TakeFocus();
   void ChooseItem(float x, float y);

@@ -138,7 +138,7 @@ PixelRect frmQMenu::IconCell(int index) const {
   return RectAt(at, {MenuIcons::kCell, MenuIcons::kCell});
 }
 
-// A page on which an icon is stood for is drawn again when it is shown again.
+// A page with a stand-in for an icon is drawn again when it is shown again.
 bool frmQMenu::IconsAreFinal() const {
   return std::all_of(pageIcons_.begin(), pageIcons_.end(),
                      [](const IconPicture& icon) { return icon.Final; });

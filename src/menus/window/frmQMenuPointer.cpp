@@ -83,7 +83,7 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, f
   PointerBelowItems = false;
 }
 
-// Not every system tells a window of a move when it comes up under a pointer that stands still.
+// Not every system tells a window of a move when it comes up under a pointer that rests.
 void frmQMenu::FollowPointer() {
   if (!std::exchange(rebuilt_, false)) return;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
@@ -106,7 +106,7 @@ void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float
   if (program_.Guards.MenuBuilding) return;
   const bool pressedHere = std::exchange(pressed_, false);
   if (button == MouseButton::Left && !StillAway(x, y)) {
-    // A click says itself where the hand was, though the selection may have gone since.
+    // The item at the place of the click counts, though the selection may have gone since.
     if (pressedHere && program_.Menu.SelectedItem == 0) Form_MouseMove(button, shift, x, y);
     ChooseItem(x, y);
   }

@@ -10,7 +10,7 @@ namespace corvelle {
 
 /// All that decides which lines of the popup are enabled.
 struct PopupFacts {
-  std::string_view Tag;      // where the entry stands, as EntryEdit::CurMenuTag says it
+  std::string_view Tag;      // of the entry's menu, as EntryEdit::CurMenuTag
   int Record = 0;            // 0 for none, above kGeneratedBase for a generated entry
   std::string_view Command;  // of the entry
   bool FollowsSeparator = false;

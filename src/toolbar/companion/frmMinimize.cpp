@@ -40,7 +40,7 @@ frmMinimize::frmMinimize(Program& program)
 void frmMinimize::Form_Load() {
   SetVisible(false);
   SetCaption("Corvelle");
-  // The task bar's animation starts and ends where the strip stands.
+  // The task bar's animation starts and ends at the place of the strip.
   if (program_.Ports.Toolbar != nullptr) {
     const TwipRect strip = program_.Ports.Toolbar->WindowBounds();
     Move(strip.Left, strip.Top, strip.Width, strip.Height);

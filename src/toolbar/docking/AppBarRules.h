@@ -63,7 +63,7 @@ struct BarPlace {
 [[nodiscard]] TwipSize StretchedSingles(Edge at, const TwipRect& window, const TwipRect& singles,
                                         float twipsX) noexcept;
 
-/// Where the strip would stand at an edge, by its template button: for the outline that follows a
+/// Where the strip would go at an edge, by its template button: for the outline that follows a
 /// pull. Twips, with the whole length of the screen's edge.
 [[nodiscard]] TwipRect OutlineAt(Edge at, TwipSize button, TwipSize screen,
                                  TwipSize twips) noexcept;

@@ -12,7 +12,7 @@ namespace corvelle {
 
 class Program;
 
-/// The strip as the hand on its frame sees it.
+/// What a pull of the frame needs of the strip.
 class PulledStrip : public virtual StripWindow {
  public:
   /// Size of the box of menu buttons.
@@ -32,7 +32,7 @@ class PulledStrip : public virtual StripWindow {
   virtual void SetPointerWatch(bool enabled) = 0;
 };
 
-/// The hand on the strip's frame and grip: it slides a strip along the top or pulls it to an edge.
+/// A pull of the strip's frame or grip: slides a strip along the top, or takes it to an edge.
 /// Points are twips of the strip's window.
 class StripPull {
  public:
@@ -43,7 +43,7 @@ class StripPull {
   void MouseDown(forms::MouseButton button, float x, float y);
   void MouseMove(forms::MouseButton down, float x, float y);
   void MouseUp(forms::MouseButton button);
-  /// Follows a hand that holds the frame, unless the strip is being placed.
+  /// Follows the pointer while the frame is held, unless the strip is being placed.
   void Follow(forms::MouseButton down, float x, float y);
 
   /// True for the other button beside a pull with the left one: it does nothing.
@@ -54,10 +54,10 @@ class StripPull {
   void AbandonPull();
   /// The same; a strip that was slid stays where the screen and the options let it.
   void EndLostPull();
-  /// A message, a menu or another window has taken the mouse from the hand on the frame.
+  /// A message, a menu or another window took the mouse while the frame was held.
   void LosePress();
-  /// Notices when the hand on the frame has let go and nobody has told so: a strip that is rebuilt
-  /// under the hand, or a button that goes up beside another, leaves the frame held.
+  /// Ends a pull when no button has been down for a moment and no event has told so: a strip that
+  /// is rebuilt during the pull, or one of two buttons that goes up, leaves the frame held.
   void WatchPull();
   /// Forgets a move of before, as the pointer comes to something else.
   void ForgetMove() noexcept { FrameMoved = false; }

@@ -17,9 +17,9 @@ class Program;
 
 /// The strip as an application desktop toolbar: it is registered with the shell, keeps a screen
 /// edge for itself or hides there behind a line of one pixel, and follows the shell's notices.
-/// Screen rectangles are pixels, the strip's own measures twips. What the shell answers is used as
-/// it stands: it has no failures that a user could do something about, but for a side at which
-/// another window hides already.
+/// Screen rectangles are pixels, the strip's own measures twips. What the shell answers is used
+/// unchanged: the only failure that is told to the user is an edge at which another window hides
+/// already.
 class mAppBar final : public DockingPort {
  public:
   mAppBar(Program& program, DockedStrip& strip)
@@ -38,9 +38,9 @@ class mAppBar final : public DockingPort {
   void ShowAutoHideTaken() override;
   void ResizeToEdge() override;
 
-  /// Keeps room at the edge and stands the strip there, on top of all windows.
+  /// Keeps room at the edge and puts the strip there, on top of all windows.
   void DockAppBar(Edge edge);
-  /// Stands the strip at the edge and keeps no room, so that other windows may cover it.
+  /// Puts the strip at the edge and keeps no room, so that other windows may cover it.
   void DockNotOnTop(Edge edge);
   /// Shrinks the strip to a line at the edge and claims the edge for hiding. False when another
   /// window hides there: the user was told, and the strip is docked in full sight.

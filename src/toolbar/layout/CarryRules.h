@@ -26,7 +26,7 @@ class AbandonWatch {
   std::int64_t upSince_ = kDown;
 };
 
-/// Over which window the pointer of a carry stands.
+/// The window under the pointer of a carry.
 enum class CarryOver { Menu, Buttons, SingleButtons, Elsewhere };
 
 /// What decides whether the carried entry may be put down at the pointer.

@@ -10,7 +10,7 @@
 namespace corvelle {
 
 // The shell may let messages in while it is asked for an icon, and they may draw in the box: the
-// icon is drawn aside, on what it will stand on.
+// icon is drawn aside, on a copy of its ground.
 void DrawIconIn(forms::WindowSystem& windows, const forms::Form& window, forms::PictureBox& box,
                 const PixelRect& place, const unsigned& rounds,
                 const std::function<void(Canvas&)>& draw) {

@@ -78,7 +78,7 @@ ButtonRect PlaceButton(std::span<const ButtonRect> buttons,
     button.Width = buttons.front().Width;
     button.Left = scale.TwipsX;
     button.Top = isFirst ? 0 : last.Bottom();
-    // Only a separator that was added since the last button stands exactly here.
+    // Only a separator that was added since the last button lies exactly here.
     if (!isFirst && separator && button.Top == separator->Top) button.Top = separator->Bottom();
     return button;
   }

@@ -12,7 +12,7 @@
 
 namespace corvelle {
 
-// Sizes and places of what stands on the strip: pure rules. All measures are twips unless told
+// Sizes and places of what is on the strip: pure rules. All measures are twips unless told
 // otherwise.
 
 /// A button of the strip. Entry 0 of an array of them is the template that every size derives from.
@@ -33,7 +33,7 @@ struct ButtonRect {
 /// Path of the button that opens the program's own menu.
 inline constexpr std::string_view kMainMenuPath = "QMenu";
 
-/// Where the strip stands: at the top of the screen by its saved position, or along an edge.
+/// Where the strip is: at the top of the screen by its saved position, or along an edge.
 enum class Placement { TopHugging, AtEdge };
 
 /// The strip's direction and the twips of a pixel.
@@ -128,7 +128,7 @@ struct ControlsScene {
   TwipRect LastButton;        // in the box of buttons
   int SingleCount = 0;        // single buttons
   float LastSingleRight = 0;  // Left + Width of the last of them
-  // As they stand now; what the rule does not set stays.
+  // Before the change; what the rule does not set stays.
   TwipRect Buttons;  // picToolbar
   TwipRect Singles;  // picSingleButton
   TwipRect Window;

@@ -66,7 +66,7 @@ struct BorderScene {
   TwipRect Window;
   float ScreenWidth = 0;
   int SingleCount = 0;
-  TwipRect Singles;  // picSingleButton as it stands
+  TwipRect Singles;  // picSingleButton before the change
 };
 
 /// A line of the window's border.

@@ -7,7 +7,7 @@
 
 namespace corvelle {
 
-// Where the strip and its menu stand on the screen: pure rules. Measures are twips unless told
+// Where the strip and its menu go on the screen: pure rules. Measures are twips unless told
 // otherwise.
 
 /// Room that stays free for the caption buttons of a maximized window, by the width of one of them

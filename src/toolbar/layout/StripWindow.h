@@ -10,7 +10,7 @@ namespace forms {
 class Form;
 }
 
-/// How the strip stands and how large its buttons are.
+/// Where the strip is and how large its buttons are.
 struct StripShape {
   Placement Where = Placement::TopHugging;
   Edge At = Edge::Top;

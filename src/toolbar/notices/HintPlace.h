@@ -15,7 +15,7 @@ struct HintScene {
   float ScreenHeight = 11520;
 };
 
-/// Where the hint's window goes, and where its label stands in it. Twips.
+/// Where the hint's window goes, and its label in it. Twips.
 struct HintPlace {
   TwipRect Window;
   float LabelTop = 0;

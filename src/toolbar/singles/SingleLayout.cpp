@@ -22,7 +22,7 @@ struct Rows {
   float Second = 0;
 };
 
-// The rows stand in the halves of the strip, and those at a border move a pixel towards the middle:
+// The rows lie in the halves of the strip, and those at a border move a pixel towards the middle:
 // lying, both; upright, the one at the screen's side or at the window's border.
 Rows RowsOf(const SingleScene& s) noexcept {
   const auto icon = static_cast<float>(s.IconSize);

@@ -51,7 +51,7 @@ struct SingleScene {
 [[nodiscard]] TwipRect PlaceSingle(const SingleScene& scene, const SingleRect& previous,
                                    SingleKind kind) noexcept;
 
-/// Where the first line of a separator goes that stands in that place: along the row.
+/// Where the first line of a separator in that place goes: along the row.
 [[nodiscard]] float SeparatorPosition(const StripScale& scale, const TwipRect& place) noexcept;
 
 /// Two lines side by side: of a separator, or around a button.

@@ -20,7 +20,7 @@ namespace corvelle {
 class Program;
 class StripPull;
 
-/// The single buttons of the strip: what stands in its second box, and what the mouse does there.
+/// The single buttons of the strip: what is in its second box, and what the mouse does there.
 /// Each button is a file of its own; every change rewrites files, and the row is read again.
 /// Measures are twips of the box. The strip outlives it.
 class SingleRow final : public SingleButtonsPort {

@@ -46,7 +46,7 @@ int MenuTracking::MenuOwner() const {
   return owner <= buttons_.ButtonCount ? owner : 0;
 }
 
-// An active window that hides hands the activation to whatever window Windows finds next, of
+// When an active window hides, Windows activates whatever window it finds next, of
 // another program too.
 void MenuTracking::TakeOverFromMenu() {
   if (program_.Services.Desktop.ActiveWindow() == program_.Ports.QMenu->WindowHandle()) {

@@ -94,7 +94,7 @@ class MenuTracking {
   /// The next move over the buttons begins to hover again.
   void EndHovering() noexcept { WasHovering = false; }
 
-  /// The next hover changes the menu: one was opened by hand.
+  /// The next hover changes the menu: one was opened by a press.
   bool MenuOpening = false;
   /// A press has just closed the menu of this button.
   bool LastOpenFlag = false;
@@ -141,7 +141,7 @@ class MenuTracking {
   std::string lastTag_;         // of the menu that was opened last
   TwipPoint menuAt_;            // where the menu window was placed
   PixelPoint pressedPlace_;     // where the buttons' box was pressed last, on the screen
-  std::int64_t pressedAt_ = 0;  // when the menu was last changed by hand, milliseconds
+  std::int64_t pressedAt_ = 0;  // when a press or a hover last opened a menu, ms
 };
 
 }  // namespace corvelle

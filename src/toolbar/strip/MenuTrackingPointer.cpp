@@ -90,7 +90,7 @@ void MenuTracking::PressCurButton() {
   SetButtonBorders();
   MenuOpening = true;
   ShowMenu(program_.Menu.CurButton);
-  // From now on the hand can choose: how long the menu took to come up does not count.
+  // The time in which a release chooses begins now: that of building the menu does not count.
   pressedAt_ = program_.Windows.Now();
 }
 
@@ -185,8 +185,8 @@ bool MenuTracking::ReleaseInMenu(forms::MouseButton button, forms::ShiftState sh
   if (!IsOverMenu(WindowUnder(at))) return false;
   if (program_.Windows.Now() - pressedAt_ >= kClickDelay) return true;
   const TwipPoint inside = InMenu(at);
-  // A release says once more where the hand is: the selection may have gone since it came there.
-  // A menu that came up under a hand that rests has none.
+  // The selection may have gone since the pointer came there, so the release selects once more.
+  // A menu that came up under a pointer that did not move since the press has no selection.
   if (at != pressedPlace_) program_.Ports.QMenu->xMouseMove(inside.Y);
   program_.Ports.QMenu->xMouseUp(button, shift, inside.X, inside.Y);
   return true;

@@ -138,7 +138,7 @@ void frmToolbar::FollowDisplay() {
   CacheDisplayMetrics();
   if (BaseWidth != before.width || BaseBits != bits) ResetCollections();
   if (!IsLoaded() || before == PixelSize{BaseWidth, BaseHeight}) return;
-  // A menu that is up would stand where the strip was.
+  // A menu that is up would stay where the strip was.
   ResetMenu();
   if (!IsLoaded()) return;
   // Not every shell tells its bars of another screen size.
