@@ -63,30 +63,28 @@ int EntryLedger::CountOf(const std::string& record) const {
   return found == entries_.end() ? 0 : found->second;
 }
 
-void EntryLedger::Cover(const EntryLedger& other) {
-  for (const auto& [record, count] : other.entries_) {
-    int& here = entries_[record];
-    size_ += std::max(count - here, 0);
-    here = std::max(here, count);
+EntryLedger EntryLedger::Without(const EntryLedger& other) const {
+  EntryLedger rest;
+  for (const auto& [record, count] : entries_) {
+    const int more = count - other.CountOf(record);
+    if (more <= 0) continue;
+    rest.entries_[record] = more;
+    rest.size_ += more;
   }
+  return rest;
 }
 
-int EntryLedger::LostOf(const EntryLedger& before, const EntryLedger& wanted) const {
-  int lost = 0;
-  for (const auto& [record, count] : before.entries_) {
-    lost += std::max(std::min(count, wanted.CountOf(record)) - CountOf(record), 0);
-  }
-  return lost;
+void EntryLedger::Add(const EntryLedger& other) {
+  for (const auto& [record, count] : other.entries_) entries_[record] += count;
+  size_ += other.size_;
 }
 
-int EntryLedger::LostBeyond(const EntryLedger& known, const EntryLedger& before,
-                            const EntryLedger& wanted) const {
-  int lost = 0;
-  for (const auto& [record, count] : wanted.entries_) {
-    const int gone = std::max(known.CountOf(record) - before.CountOf(record), 0);
-    lost += std::max(count - CountOf(record) - gone, 0);
-  }
-  return lost;
+void EntryLedger::Take(const EntryLedger& other) {
+  const int damaged = damaged_;
+  *this = Without(other);
+  damaged_ = damaged;
 }
+
+std::string EntryLedger::First() const { return entries_.empty() ? "" : entries_.begin()->first; }
 
 }  // namespace corvelle::fuzz
