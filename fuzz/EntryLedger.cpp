@@ -13,6 +13,14 @@ bool HoldsEntries(std::string_view name) {
   return capitals.ends_with(".MNU") || capitals.ends_with(".BTN");
 }
 
+namespace {
+
+bool IsBlank(const MenuRecord& record) {
+  return Trim(record.FTitle + record.FIcon + record.FName).empty();
+}
+
+}  // namespace
+
 EntryLedger::EntryLedger(const sim::SimFiles& files, std::string_view folder) {
   if (!files.Has(folder)) return;
   const Windows1252 ansi;
@@ -20,8 +28,11 @@ EntryLedger::EntryLedger(const sim::SimFiles& files, std::string_view folder) {
     if (!HoldsEntries(name)) continue;
     const auto bytes = files.Get(std::string(folder) + name);
     if (!bytes) continue;
+    const bool menu = UpperCase(name).ends_with(".MNU");
     for (std::size_t at = 0; at + kRecordLength <= bytes->size(); at += kRecordLength) {
-      Add(ParseRecord(std::string_view(*bytes).substr(at, kRecordLength), ansi));
+      const MenuRecord record =
+          ParseRecord(std::string_view(*bytes).substr(at, kRecordLength), ansi);
+      if (at > 0 || !menu || !IsBlank(record)) Add(record);
     }
   }
 }
@@ -31,7 +42,7 @@ EntryLedger::EntryLedger(const MenuSet& set, const CodePage& ansi) {
     Add(ParseRecord(FormatRecord(record, ansi), ansi));
   };
   for (const Menu& menu : set.Menus) {
-    add(menu.Head);
+    if (!IsBlank(menu.Head)) add(menu.Head);
     for (const MenuRecord& item : menu.Items) add(item);
   }
   for (const MenuRecord& single : set.Singles) add(single);

@@ -16,7 +16,8 @@ namespace corvelle::fuzz {
 inline constexpr std::string_view kDamage = "broken by a monkey";
 
 /// The entries that stand in the menu files and single buttons of a folder: the three texts of
-/// each, as often as it stands there.
+/// each, as often as it stands there. The button of a menu that has no text at all is none of them:
+/// the tree shows an empty file as such a button, and a save writes it.
 class EntryLedger {
  public:
   EntryLedger() = default;

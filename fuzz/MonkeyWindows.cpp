@@ -121,14 +121,22 @@ void MonkeyLife::DragInWindow(const forms::Form& form) {
 
 void MonkeyLife::ChooseFromBar(const forms::Form& form) {
   const sim::SimWindow* const window = world_->Desktop.Look(form.hWnd());
-  std::vector<std::string> lines;
-  if (window != nullptr) CollectLines(window->MenuBar, {}, lines);
-  if (lines.empty()) return TypeInWindow();
-  const std::string& line = lines[static_cast<std::size_t>(Number(static_cast<int>(lines.size())))];
-  Tell("menu bar: " + line);
-  tally_.Note(form.Name() + ": " + line);
-  // A line that the opening of its menu disables is not chosen.
-  world_->Desktop.ChooseFromMenuBar(form.hWnd(), line);
+  if (window == nullptr || window->MenuBar.empty()) return TypeInWindow();
+  const std::vector<forms::PopupItem> bar = window->MenuBar;
+  const std::string menu =
+      bar[static_cast<std::size_t>(Number(static_cast<int>(bar.size())))].Caption;
+  const std::string name = form.Name();
+  // What the menu offers is known when it is open.
+  world_->Desktop.ChooseFromMenuBar(form.hWnd(), menu, [&](const sim::Popup& open) -> std::string {
+    std::vector<std::string> lines;
+    CollectLines(open.Items, {}, lines);
+    std::erase_if(lines, [&](const std::string& line) { return !line.starts_with(menu + ">"); });
+    if (lines.empty()) return {};
+    std::string line = lines[static_cast<std::size_t>(Number(static_cast<int>(lines.size())))];
+    Tell("menu bar: " + line);
+    tally_.Note(name + ": " + line);
+    return line;
+  });
 }
 
 void MonkeyLife::CloseInFront(forms::Form& form) {
