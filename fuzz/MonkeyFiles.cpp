@@ -8,6 +8,11 @@
 #include "core/FileTransaction.h"
 
 namespace corvelle::fuzz {
+namespace {
+
+constexpr long kUnknownRevision = -1;
+
+}  // namespace
 
 void MonkeyLife::TakeStock() {
   entries_ = EntryLedger(world_->Files, kMenus);
@@ -59,6 +64,7 @@ void MonkeyLife::SettleSave() {
 
 void MonkeyLife::NoteSave(const EntryLedger& filesBefore, const EntryLedger& saved) {
   const TreeLedger::SaveLoss loss = treeLedger_.Save(filesBefore, saved);
+  treeNoted_ = kUnknownRevision;
   const auto tell = [this](const EntryLedger& lost, const char* where) {
     // The user may have typed over one of them, or given up what others have made of the files.
     if (lost.Size() <= 1 || !wrongSave_.empty()) return;

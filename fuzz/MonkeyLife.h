@@ -236,6 +236,7 @@ class MonkeyLife {
   int moreEntries_ = 0;    // likewise
   int moreRecords_ = 0;    // likewise, with damaged ones
   std::string wrongSave_;
+  long treeNoted_ = 0;     // the revision that the next one knows
   TreeLedger treeLedger_;  // of Customize
   /// A change of the menu files that has begun while Customize is up: what was there before it.
   struct Change {

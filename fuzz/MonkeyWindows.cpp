@@ -281,16 +281,20 @@ bool MonkeyLife::TreeIsAtHand() const {
 void MonkeyLife::NoteTree() {
   if (!parts_->Customize.IsLoaded()) {
     treeLedger_.Close();
-  } else if (treeLedger_.IsOpen()) {
-    static_cast<void>(treeLedger_.ChangeTree(TreeEntries(), true));
-  } else {
+  } else if (!treeLedger_.IsOpen()) {
     treeLedger_.Open(TreeEntries());
+    treeNoted_ = parts_->Customize.Editor.Tree.Revision();
+  } else if (treeNoted_ != parts_->Customize.Editor.Tree.Revision()) {
+    static_cast<void>(treeLedger_.ChangeTree(TreeEntries(), true));
+    treeNoted_ = parts_->Customize.Editor.Tree.Revision();
   }
 }
 
 // The tree changes by what the user does in the window; else only by what became of the files.
 std::string MonkeyLife::WrongTree() {
   if (!parts_->Customize.IsLoaded()) return {};
+  const long revision = parts_->Customize.Editor.Tree.Revision();
+  if (treeLedger_.IsOpen() && treeNoted_ == revision) return {};
   const EntryLedger now = TreeEntries();
   if (!treeLedger_.IsOpen()) {
     const EntryLedger missing = entries_.Without(now);
@@ -298,6 +302,7 @@ std::string MonkeyLife::WrongTree() {
     return std::to_string(missing.Size()) + " entries of the files are not in the tree, one is\n" +
            missing.First();
   }
+  treeNoted_ = revision;
   const EntryLedger lost = treeLedger_.ChangeTree(now, windowUsed_);
   if (lost.Size() == 0 || disk_ == Disk::Failing) return {};
   return std::to_string(lost.Size()) + " entries are lost from the tree, one is\n" + lost.First();
