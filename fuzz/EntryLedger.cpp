@@ -13,6 +13,14 @@ bool HoldsEntries(std::string_view name) {
   return capitals.ends_with(".MNU") || capitals.ends_with(".BTN");
 }
 
+namespace {
+
+bool IsBlank(const MenuRecord& record) {
+  return Trim(record.FTitle + record.FIcon + record.FName).empty();
+}
+
+}  // namespace
+
 EntryLedger::EntryLedger(const sim::SimFiles& files, std::string_view folder) {
   if (!files.Has(folder)) return;
   const Windows1252 ansi;
@@ -20,8 +28,11 @@ EntryLedger::EntryLedger(const sim::SimFiles& files, std::string_view folder) {
     if (!HoldsEntries(name)) continue;
     const auto bytes = files.Get(std::string(folder) + name);
     if (!bytes) continue;
+    const bool menu = UpperCase(name).ends_with(".MNU");
     for (std::size_t at = 0; at + kRecordLength <= bytes->size(); at += kRecordLength) {
-      Add(ParseRecord(std::string_view(*bytes).substr(at, kRecordLength), ansi));
+      const MenuRecord record =
+          ParseRecord(std::string_view(*bytes).substr(at, kRecordLength), ansi);
+      if (at > 0 || !menu || !IsBlank(record)) Add(record);
     }
   }
 }
@@ -31,7 +42,7 @@ EntryLedger::EntryLedger(const MenuSet& set, const CodePage& ansi) {
     Add(ParseRecord(FormatRecord(record, ansi), ansi));
   };
   for (const Menu& menu : set.Menus) {
-    add(menu.Head);
+    if (!IsBlank(menu.Head)) add(menu.Head);
     for (const MenuRecord& item : menu.Items) add(item);
   }
   for (const MenuRecord& single : set.Singles) add(single);
@@ -63,30 +74,28 @@ int EntryLedger::CountOf(const std::string& record) const {
   return found == entries_.end() ? 0 : found->second;
 }
 
-void EntryLedger::Cover(const EntryLedger& other) {
-  for (const auto& [record, count] : other.entries_) {
-    int& here = entries_[record];
-    size_ += std::max(count - here, 0);
-    here = std::max(here, count);
+EntryLedger EntryLedger::Without(const EntryLedger& other) const {
+  EntryLedger rest;
+  for (const auto& [record, count] : entries_) {
+    const int more = count - other.CountOf(record);
+    if (more <= 0) continue;
+    rest.entries_[record] = more;
+    rest.size_ += more;
   }
+  return rest;
 }
 
-int EntryLedger::LostOf(const EntryLedger& before, const EntryLedger& wanted) const {
-  int lost = 0;
-  for (const auto& [record, count] : before.entries_) {
-    lost += std::max(std::min(count, wanted.CountOf(record)) - CountOf(record), 0);
-  }
-  return lost;
+void EntryLedger::Add(const EntryLedger& other) {
+  for (const auto& [record, count] : other.entries_) entries_[record] += count;
+  size_ += other.size_;
 }
 
-int EntryLedger::LostBeyond(const EntryLedger& known, const EntryLedger& before,
-                            const EntryLedger& wanted) const {
-  int lost = 0;
-  for (const auto& [record, count] : wanted.entries_) {
-    const int gone = std::max(known.CountOf(record) - before.CountOf(record), 0);
-    lost += std::max(count - CountOf(record) - gone, 0);
-  }
-  return lost;
+void EntryLedger::Take(const EntryLedger& other) {
+  const int damaged = damaged_;
+  *this = Without(other);
+  damaged_ = damaged;
 }
+
+std::string EntryLedger::First() const { return entries_.empty() ? "" : entries_.begin()->first; }
 
 }  // namespace corvelle::fuzz

@@ -16,7 +16,8 @@ namespace corvelle::fuzz {
 inline constexpr std::string_view kDamage = "broken by a monkey";
 
 /// The entries that stand in the menu files and single buttons of a folder: the three texts of
-/// each, as often as it stands there.
+/// each, as often as it stands there. The button of a menu that has no text at all is none of them:
+/// the tree shows an empty file as such a button, and a save writes it.
 class EntryLedger {
  public:
   EntryLedger() = default;
@@ -27,23 +28,27 @@ class EntryLedger {
 
   /// How many entries of `before` are not here any more; `first` becomes the texts of one of them.
   [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
-  /// How many entries of `before` are missing here that `wanted` has too.
-  [[nodiscard]] int LostOf(const EntryLedger& before, const EntryLedger& wanted) const;
-  /// How many entries of `wanted` are missing here besides those that had gone before: `known` has
-  /// them, `before` does not.
-  [[nodiscard]] int LostBeyond(const EntryLedger& known, const EntryLedger& before,
-                               const EntryLedger& wanted) const;
-  /// Has all that `other` has from now on, each as often at least.
-  void Cover(const EntryLedger& other);
+  /// What is here and not in `other`, each as often as it stands here more often.
+  [[nodiscard]] EntryLedger Without(const EntryLedger& other) const;
+  void Add(const EntryLedger& other);
+  /// Of what is not here nothing is taken.
+  void Take(const EntryLedger& other);
   [[nodiscard]] int Size() const noexcept { return size_; }
+  /// The texts of one entry; empty when there is none.
+  [[nodiscard]] std::string First() const;
   /// With the records that bear the monkey's damage.
   [[nodiscard]] int Records() const noexcept { return size_ + damaged_; }
+
+  /// The same entries, whatever the monkey has damaged.
+  [[nodiscard]] bool HasTheSame(const EntryLedger& other) const {
+    return entries_ == other.entries_;
+  }
 
  private:
   [[nodiscard]] int CountOf(const std::string& record) const;
   void Add(const MenuRecord& record);
 
-  std::map<std::string, int> entries_;
+  std::map<std::string, int> entries_;  // each more than 0 times
   int size_ = 0;
   int damaged_ = 0;
 };

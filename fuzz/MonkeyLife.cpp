@@ -151,9 +151,11 @@ void MonkeyLife::Furnish() {
   for (int number = Number(kSingles); number > 0; --number) WriteSingle(number);
   const int kind = Number(10);
   disk_ = kind < 4 ? Disk::Well : kind < 8 ? Disk::Stumbling : Disk::Failing;
+  world_->Files.BeforeEachCall([this](const sim::SimFiles::Call& call) { BeforeDiskCall(call); });
   world_->Desktop.WhilePopupIsUp([this](const sim::Popup& popup) { ChooseFrom(popup); });
   world_->Desktop.WhileBoxIsUp([this](const sim::MessageBox& box) {
     tally_.Note("box: " + box.Text);
+    if (box.Text.find("changed outside of this window") != std::string::npos) conflictAsked_ = true;
     if (Chance(30)) WhileUp("box");
   });
   world_->Desktop.AnswerAnyDialog(
@@ -227,6 +229,9 @@ std::string MonkeyLife::Live(int events) {
     deleting_.clear();
     windowUsed_ = false;
     filesChangedInside_ = false;
+    conflictAsked_ = false;
+    lost_ = new_ = {};
+    moreEntries_ = moreRecords_ = 0;
     NoteTree();
     NoteMenu();
     propertiesUp_ = parts_->Properties.IsLoaded();

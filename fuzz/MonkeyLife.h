@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <random>
 #include <set>
 #include <string>
@@ -14,6 +15,7 @@
 
 #include "EntryLedger.h"
 #include "MonkeyTally.h"
+#include "TreeLedger.h"
 #include "program/Parts.h"
 #include "sim/Complain.h"
 #include "sim/World.h"
@@ -143,8 +145,7 @@ class MonkeyLife {
   [[nodiscard]] bool TreeIsAtHand() const;
   /// What the tree holds before an event.
   void NoteTree();
-  [[nodiscard]] bool LostByASave(const EntryLedger& before, const EntryLedger& files) const;
-  [[nodiscard]] bool LostByProperties(const EntryLedger& before, int lost) const;
+  void NoteSave(const EntryLedger& filesBefore, const EntryLedger& saved);
 
   // ---- what happens without the user (MonkeyWorld.cpp) ----
 
@@ -185,8 +186,18 @@ class MonkeyLife {
   [[nodiscard]] std::string DiskCalls() const;
   [[nodiscard]] std::string WrongQuiet() const;
   [[nodiscard]] std::string WrongEnd();
-  /// What the monkey changes on the disk itself is no loss.
+  [[nodiscard]] bool LostByProperties(int lost) const;
+  // What becomes of the files (MonkeyFiles.cpp).
+  /// Reads what the files hold now. What the monkey changes on the disk itself is no loss.
   void TakeStock();
+  void NoteMonkeysChange();
+  /// The program is about to do this with the disk.
+  void BeforeDiskCall(const sim::SimFiles::Call& call);
+  /// Notes a save of Customize that is done.
+  void SettleSave();
+  /// Notes what the program has changed since the stock was taken.
+  void SettleFiles();
+  void NoteProgramsChange(const EntryLedger& before, const EntryLedger& after);
   void NotePlace();
 
   [[nodiscard]] int Number(int below);
@@ -218,13 +229,24 @@ class MonkeyLife {
   bool quiet_ = false;  // everything was let go a while ago
   bool insideUp_ = false;
   EntryLedger entries_;
-  int stockTaken_ = -1;       // SimFiles::Changes when entries_ was read
-  int lossesAllowed_ = 0;     // in this event
-  EntryLedger tree_;          // of Customize, before this event
-  EntryLedger filesOfTree_;   // the files when the tree took them up last
-  EntryLedger filesSeen_;     // all that the files held since Customize is up
-  bool customizeUp_ = false;  // before this event, as the next one
-  bool propertiesUp_ = false;
+  int stockTaken_ = -1;    // SimFiles::Changes when entries_ was read
+  int lossesAllowed_ = 0;  // in this event
+  EntryLedger lost_;       // in this event by anything but a save of Customize
+  EntryLedger new_;        // likewise
+  int moreEntries_ = 0;    // likewise
+  int moreRecords_ = 0;    // likewise, with damaged ones
+  std::string wrongSave_;
+  long treeNoted_ = 0;     // the revision that the next one knows
+  TreeLedger treeLedger_;  // of Customize
+  /// A change of the menu files that has begun while Customize is up: what was there before it.
+  struct Change {
+    EntryLedger Files;
+    EntryLedger Tree;
+    int Changes = 0;  // SimFiles::Changes
+  };
+  std::optional<Change> change_;
+  bool conflictAsked_ = false;       // in this event
+  bool propertiesUp_ = false;        // before this event
   bool windowUsed_ = false;          // in this event
   bool filesChangedInside_ = false;  // while something asked, in this event
   std::string deleting_;             // the file that goes with its button in this event

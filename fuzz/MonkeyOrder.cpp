@@ -19,11 +19,6 @@ constexpr int kMostThickness = 150;  // pixels
 
 }  // namespace
 
-void MonkeyLife::TakeStock() {
-  entries_ = EntryLedger(world_->Files, kMenus);
-  stockTaken_ = world_->Files.Changes();
-}
-
 std::string MonkeyLife::WrongState() const {
   const Program& program = parts_->TheProgram;
   if (program.Guards.StartingUp) return "the start has not ended";
@@ -269,17 +264,13 @@ std::string MonkeyLife::DiskCalls() const {
 }
 
 std::string MonkeyLife::WrongFiles() {
-  if (world_->Files.Changes() == stockTaken_) return {};
-  const EntryLedger before = entries_;
-  TakeStock();
-  std::string first;
-  const int lost = entries_.Lost(before, first);
-  const bool told = LostByProperties(before, lost) || (lost > 0 && LostByASave(before, entries_));
-  if (disk_ != Disk::Failing && lost > lossesAllowed_ && !told) {
-    std::string added;
-    const int more = before.Lost(entries_, added);
-    return std::to_string(lost) + " entries are lost, one is\n" + first + "\n" +
-           std::to_string(more) + " are new, one is\n" + added + DiskCalls();
+  SettleFiles();
+  if (disk_ != Disk::Failing && !wrongSave_.empty()) return wrongSave_ + DiskCalls();
+  const EntryLedger lost = lost_.Without(new_);
+  if (disk_ != Disk::Failing && lost.Size() > lossesAllowed_ && !LostByProperties(lost.Size())) {
+    const EntryLedger added = new_.Without(lost_);
+    return std::to_string(lost.Size()) + " entries are lost, one is\n" + lost.First() + "\n" +
+           std::to_string(added.Size()) + " are new, one is\n" + added.First() + DiskCalls();
   }
   if (!world_->Files.Has(kMenus) || disk_ == Disk::Failing) return {};
   for (const std::string& name : world_->Files.Names(kMenus)) {
@@ -362,6 +353,7 @@ std::string MonkeyLife::WhatIsWrong() {
 
 std::string MonkeyLife::WrongEnd() {
   HealPlaces();
+  if (std::string wrong = WrongFiles(); !wrong.empty()) return wrong;
   // The windows may save what the last event did in them.
   NoteTree();
   if (parts_->Companion.WindowLoaded()) parts_->Companion.UnloadWindow();

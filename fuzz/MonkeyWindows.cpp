@@ -121,14 +121,22 @@ void MonkeyLife::DragInWindow(const forms::Form& form) {
 
 void MonkeyLife::ChooseFromBar(const forms::Form& form) {
   const sim::SimWindow* const window = world_->Desktop.Look(form.hWnd());
-  std::vector<std::string> lines;
-  if (window != nullptr) CollectLines(window->MenuBar, {}, lines);
-  if (lines.empty()) return TypeInWindow();
-  const std::string& line = lines[static_cast<std::size_t>(Number(static_cast<int>(lines.size())))];
-  Tell("menu bar: " + line);
-  tally_.Note(form.Name() + ": " + line);
-  // A line that the opening of its menu disables is not chosen.
-  world_->Desktop.ChooseFromMenuBar(form.hWnd(), line);
+  if (window == nullptr || window->MenuBar.empty()) return TypeInWindow();
+  const std::vector<forms::PopupItem> bar = window->MenuBar;
+  const std::string menu =
+      bar[static_cast<std::size_t>(Number(static_cast<int>(bar.size())))].Caption;
+  const std::string name = form.Name();
+  // What the menu offers is known when it is open.
+  world_->Desktop.ChooseFromMenuBar(form.hWnd(), menu, [&](const sim::Popup& open) -> std::string {
+    std::vector<std::string> lines;
+    CollectLines(open.Items, {}, lines);
+    std::erase_if(lines, [&](const std::string& line) { return !line.starts_with(menu + ">"); });
+    if (lines.empty()) return {};
+    std::string line = lines[static_cast<std::size_t>(Number(static_cast<int>(lines.size())))];
+    Tell("menu bar: " + line);
+    tally_.Note(name + ": " + line);
+    return line;
+  });
 }
 
 void MonkeyLife::CloseInFront(forms::Form& form) {
@@ -271,60 +279,33 @@ bool MonkeyLife::TreeIsAtHand() const {
 }
 
 void MonkeyLife::NoteTree() {
-  customizeUp_ = parts_->Customize.IsLoaded();
-  if (!customizeUp_) {
-    filesSeen_ = {};
-    return;
+  if (!parts_->Customize.IsLoaded()) {
+    treeLedger_.Close();
+  } else if (!treeLedger_.IsOpen()) {
+    treeLedger_.Open(TreeEntries());
+    treeNoted_ = parts_->Customize.Editor.Tree.Revision();
+  } else if (treeNoted_ != parts_->Customize.Editor.Tree.Revision()) {
+    static_cast<void>(treeLedger_.ChangeTree(TreeEntries(), true));
+    treeNoted_ = parts_->Customize.Editor.Tree.Revision();
   }
-  tree_ = TreeEntries();
-  filesSeen_.Cover(entries_);
-}
-
-// A save replaces the files by the tree: what is lost with it the user has taken out of the tree.
-// What was typed last may have come into the tree with the save.
-bool MonkeyLife::LostByASave(const EntryLedger& before, const EntryLedger& files) const {
-  if (!customizeUp_) return false;
-  std::string first;
-  if (parts_->Customize.IsLoaded()) return files.Lost(TreeEntries(), first) == 0;
-  // Of a file that changed while the window asked, the tree of before says nothing.
-  if (filesChangedInside_ || files.Lost(tree_, first) <= 1) return true;
-  // What was taken away elsewhere may be in the tree until the save. What the files had and the
-  // tree has does not go with it, and neither does what is in the tree alone.
-  return files.LostOf(before, tree_) <= 1 && files.LostBeyond(filesSeen_, before, tree_) <= 1;
-}
-
-// Properties change an entry in its place, or the records of the buttons: none comes or goes.
-bool MonkeyLife::LostByProperties(const EntryLedger& before, int lost) const {
-  // One that bears the monkey's damage may be edited too, and get its old title back.
-  const bool asMany = entries_.Size() == before.Size() || entries_.Records() == before.Records();
-  return propertiesUp_ && asMany && lost <= kMenuFiles + kSingles;
 }
 
 // The tree changes by what the user does in the window; else only by what became of the files.
 std::string MonkeyLife::WrongTree() {
-  if (!parts_->Customize.IsLoaded()) {
-    filesOfTree_ = {};
-    return {};
-  }
+  if (!parts_->Customize.IsLoaded()) return {};
+  const long revision = parts_->Customize.Editor.Tree.Revision();
+  if (treeLedger_.IsOpen() && treeNoted_ == revision) return {};
   const EntryLedger now = TreeEntries();
-  const EntryLedger files(world_->Files, kMenus);
-  std::string first;
-  if (!customizeUp_) {
-    filesOfTree_ = files;
-    const int missing = now.Lost(files, first);
-    if (missing > 0 && disk_ == Disk::Well && !windowUsed_)
-      return std::to_string(missing) + " entries of the files are not in the tree, one is\n" +
-             first;
-    return {};
+  if (!treeLedger_.IsOpen()) {
+    const EntryLedger missing = entries_.Without(now);
+    if (missing.Size() == 0 || disk_ != Disk::Well || filesChangedInside_) return {};
+    return std::to_string(missing.Size()) + " entries of the files are not in the tree, one is\n" +
+           missing.First();
   }
-  if (windowUsed_) return {};
-  const int lost = now.Lost(tree_, first);
-  std::string gone;
-  const int lostInFiles = files.Lost(filesOfTree_, gone);
-  if (lost > lostInFiles && disk_ != Disk::Failing)
-    return std::to_string(lost) + " entries are lost from the tree, one is\n" + first;
-  if (lost > 0) filesOfTree_ = files;
-  return {};
+  treeNoted_ = revision;
+  const EntryLedger lost = treeLedger_.ChangeTree(now, windowUsed_);
+  if (lost.Size() == 0 || disk_ == Disk::Failing) return {};
+  return std::to_string(lost.Size()) + " entries are lost from the tree, one is\n" + lost.First();
 }
 
 }  // namespace corvelle::fuzz

@@ -17,6 +17,7 @@ Edge AnyEdge(int number) { return static_cast<Edge>(number % 4); }
 // ---- the disk ----
 
 void MonkeyLife::ChangeMenuFile() {
+  SettleFiles();
   filesChangedInside_ = filesChangedInside_ || insideUp_;
   const int number = 1 + Number(kMenuFiles);
   const std::string path = MenuPath(number);
@@ -46,7 +47,7 @@ void MonkeyLife::ChangeMenuFile() {
         world_->Files.Vanish(SinglePath(1));
       }
   }
-  TakeStock();
+  NoteMonkeysChange();
   // The button that is about to be deleted may be this one.
   if (const auto bytes = world_->Files.Get(path); bytes && EqualNoCase(path, deleting_))
     lossesAllowed_ += static_cast<int>(bytes->size() / kRecordLength);
@@ -102,8 +103,9 @@ void MonkeyLife::ChangeFolders() {
       if (!Chance(15)) break;
       Tell("the folder of the menus goes");
       tally_.Note("the folder of the menus went");
+      SettleFiles();
       world_->Files.Vanish("C:\\Corvelle\\Menus");
-      TakeStock();
+      NoteMonkeysChange();
       break;
     case 3:
       Tell("the folder of the menus is back");

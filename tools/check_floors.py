@@ -28,7 +28,7 @@ FLOORS = {
     "launch": ["base", "platform", "forms", "desk", "core"],
     "icons": ["base", "platform", "forms", "desk", "core"],
     "shell": ["base", "platform", "forms", "desk", "core"],
-    "toolbar/layout": ["base", "platform", "forms", "desk", "core"],
+    "toolbar/layout": ["base", "platform", "forms", "desk", "core", "icons"],
     "toolbar/notices": ["base", "platform", "forms", "desk", "core"],
     "toolbar/companion": ["base", "platform", "forms", "desk", "core", "launch", "icons", "shell", "toolbar/layout"],
     "toolbar/docking": ["base", "platform", "forms", "desk", "core", "toolbar/layout"],

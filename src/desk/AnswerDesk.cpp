@@ -59,7 +59,7 @@ std::optional<Reply> AnswerDesk::AskAtOnce(Request request, Asker later, int mil
       return reply;
     }
     const std::int64_t left = end - windows_.Now();
-    if (left > 0 && questions_.Collect(static_cast<int>(left))) continue;
+    if (left >= 0 && questions_.Collect(static_cast<int>(left))) continue;
     noteWait();
     return std::nullopt;
   }

@@ -69,7 +69,7 @@ class AnswerDesk {
   /// Asks, and waits up to `milliseconds` for the answer without running events. Gives the reply
   /// when it came in that time, and then `later` is not called; nothing when it did not, and
   /// `later` is told. What comes for others meanwhile is told later. All calls in one turn of the
-  /// message loop wait for kAtOnce together.
+  /// message loop wait for kAtOnce together; with 0 only what is there already is taken.
   [[nodiscard]] std::optional<Reply> AskAtOnce(Request request, Asker later,
                                                int milliseconds = kAtOnce);
 

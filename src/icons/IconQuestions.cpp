@@ -32,24 +32,28 @@ std::string ExtensionOf(std::string_view path) {
   return dot == std::string_view::npos ? std::string() : UpperCase(name.substr(dot));
 }
 
-Lookup InFile(std::string_view file, int index) {
-  return {.Kind = LookupKind::IconInFile, .Path = std::string(file), .Number = index};
+Lookup InFile(std::string_view file, int index, int size) {
+  return {.Kind = LookupKind::IconInFile, .Path = std::string(file), .Number = index, .Size = size};
 }
 
-Lookup AsShown(std::string_view file) {
-  return {.Kind = LookupKind::FileIcon, .Path = std::string(file)};
+Lookup AsShown(std::string_view file, int size) {
+  return {.Kind = LookupKind::FileIcon, .Path = std::string(file), .List = IconListOf(size)};
 }
 
 /// Of a file that may lie in the program's own folder of icons.
-std::vector<Lookup> FileQuestions(std::string_view file, bool own, bool shellDrawsIcons) {
+std::vector<Lookup> FileQuestions(std::string_view file, bool own, bool shellDrawsIcons, int size) {
   // The shell would show one picture for all icon files.
-  if (own && !shellDrawsIcons) return {InFile(file, 0), AsShown(file)};
-  return {AsShown(file)};
+  if (own && !shellDrawsIcons) return {InFile(file, 0, size), AsShown(file, size)};
+  return {AsShown(file, size)};
 }
 
 }  // namespace
 
-std::vector<Lookup> SmallIconQuestions(const IconForm& form, bool shellDrawsIcons) {
+IconList IconListOf(int size) noexcept {
+  return size == kSmallIconSize ? IconList::Small : IconList::Large;
+}
+
+std::vector<Lookup> IconQuestions(const IconForm& form, bool shellDrawsIcons, int size) {
   switch (form.Kind) {
     case IconKind::Empty:
     case IconKind::BuiltIn:
@@ -58,20 +62,22 @@ std::vector<Lookup> SmallIconQuestions(const IconForm& form, bool shellDrawsIcon
     case IconKind::SpecialFolder:
       return {{.Kind = LookupKind::ShellIcon,
                .Path = {},
-               .Number = CsidlValue(ParseSpecialFolder(form.Text, {}).Name)}};
+               .Number = CsidlValue(ParseSpecialFolder(form.Text, {}).Name),
+               .List = IconListOf(size)}};
     case IconKind::FileIndex: {
-      std::vector<Lookup> questions = FileQuestions(form.Text, form.OwnIcon, shellDrawsIcons);
-      questions.insert(questions.begin(), InFile(form.File, form.Index));
+      std::vector<Lookup> questions = FileQuestions(form.Text, form.OwnIcon, shellDrawsIcons, size);
+      questions.insert(questions.begin(), InFile(form.File, form.Index, size));
       return questions;
     }
     case IconKind::File:
-      return FileQuestions(form.Text, form.OwnIcon, shellDrawsIcons);
+      return FileQuestions(form.Text, form.OwnIcon, shellDrawsIcons, size);
   }
   return {};
 }
 
-std::vector<Lookup> BlankIconQuestions(std::string_view iconsPath, bool shellDrawsIcons) {
-  return FileQuestions(std::string(iconsPath) + std::string(kBlankFile), true, shellDrawsIcons);
+std::vector<Lookup> BlankIconQuestions(std::string_view iconsPath, bool shellDrawsIcons, int size) {
+  return FileQuestions(std::string(iconsPath) + std::string(kBlankFile), true, shellDrawsIcons,
+                       size);
 }
 
 std::string SharedIconExtension(const IconForm& form) {

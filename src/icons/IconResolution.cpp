@@ -6,15 +6,16 @@
 
 #include "base/Text.h"
 #include "core/Program.h"
+#include "icons/IconQuestions.h"
 #include "platform/Canvas.h"
 #include "platform/FileSystem.h"
+#include "platform/ShellIcons.h"
 
 namespace corvelle {
 
 namespace {
 
 constexpr std::string_view kFallbackFile = "W95MBX02.ICO";
-constexpr int kSmallSize = 16;
 
 bool DrawSystemIcon(Program& program, Canvas& canvas, int index, PixelPoint at, int size) {
   return program.Services.Icons.DrawSystemIcon(canvas, IconListOf(size), index, at,
@@ -60,39 +61,7 @@ bool DrawForm(Program& program, Canvas& canvas, const IconForm& form, PixelPoint
   return false;
 }
 
-/// Paths of the first two icon files of the program; fewer when there are fewer.
-std::vector<std::string> TwoIconFiles(Program& program, const std::string& folder) {
-  std::vector<std::string> paths;
-  const auto entries = program.Services.Files.List(folder, "*.ico");
-  // A folder that cannot be listed shows no icon files to look at.
-  if (!entries) return paths;
-  for (const FileEntry& entry : *entries) {
-    if (!entry.IsFolder && paths.size() < 2) paths.push_back(folder + entry.Name);
-  }
-  return paths;
-}
-
-/// True if the shell gives two icon files different icons.
-bool ShellTellsApart(Program& program, const std::vector<std::string>& paths) {
-  if (paths.size() < 2) return false;
-  ShellIcons& icons = program.Services.Icons;
-  const auto first = icons.FileInfo(paths[0], IconList::Small);
-  const auto second = icons.FileInfo(paths[1], IconList::Small);
-  return first && second && first->SystemIndex != second->SystemIndex;
-}
-
 }  // namespace
-
-void DetectShellIcons(Program& program) {
-  // The registry's "icofile" says nothing: the user may have given icon files to another program,
-  // and the shell then shows that program's picture for all of them.
-  program.Icons.ShellDrawsIcons =
-      ShellTellsApart(program, TwoIconFiles(program, program.Paths.AppPath + "Icons\\"));
-}
-
-IconList IconListOf(int size) noexcept {
-  return size == kSmallSize ? IconList::Small : IconList::Large;
-}
 
 bool ResolveAndDraw(Program& program, Canvas& canvas, std::string_view text, PixelPoint at,
                     int size, IconCaller caller) {

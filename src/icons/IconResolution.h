@@ -4,7 +4,6 @@
 
 #include "base/Geometry.h"
 #include "icons/IconForm.h"
-#include "platform/ShellIcons.h"
 
 namespace corvelle {
 
@@ -13,13 +12,6 @@ class Program;
 
 // Drawing of icons. Points and sizes are pixels. Nothing here shows a message or keeps an icon:
 // each draw asks the shell again, and what cannot be drawn is left as it was.
-
-/// Looks once how the shell shows icon files and sets Program::Icons: true when each
-/// shows its own picture, false when all of them show the same one.
-void DetectShellIcons(Program& program);
-
-/// The shell's list for icons of this size: small ones at 16, large ones otherwise.
-[[nodiscard]] IconList IconListOf(int size) noexcept;
 
 /// Draws what an icon text means, or the icon of a blank document when it means nothing that can be
 /// drawn. Words that the caller has a picture for draw nothing. False when nothing was drawn.

@@ -2,11 +2,7 @@
 
 #include <initializer_list>
 
-#include "icons/IconResolution.h"
-
 namespace corvelle {
-
-void IconRule::DetectShellIcons() { corvelle::DetectShellIcons(program_); }
 
 Parts::Parts(const Platform& services, forms::WindowSystem& windows)
     : TheProgram(services, windows) {

@@ -5,6 +5,7 @@
 #include "core/Program.h"
 #include "customize/frmCust.h"
 #include "icons/IconLibrary.h"
+#include "icons/ShellIconRule.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
 #include "launch/HelpViewer.h"
@@ -30,16 +31,6 @@
 
 namespace corvelle {
 
-/// Looks at the machine once, by the rules of icons.
-class IconRule final : public IconRulePort {
- public:
-  explicit IconRule(Program& program) : program_(program) {}
-  void DetectShellIcons() override;
-
- private:
-  Program& program_;
-};
-
 /// One whole program: its state, its windows and what serves them, wired to each other. The
 /// services and the window system outlive it. Nothing is shown or loaded until Main runs.
 class Parts {
@@ -62,7 +53,7 @@ class Parts {
   frmTip Tip{TheProgram};
   MainMenu TheMainMenu{TheProgram, Menu};
   DefaultEntries TheDefaultEntries{TheProgram};
-  IconRule TheIconRule{TheProgram};
+  ShellIconRule TheIconRule{TheProgram};
   IconLibrary TheIconLibrary{TheProgram};
   BuiltInCommands TheBuiltIns{TheProgram};
   Browser TheBrowser{TheProgram};

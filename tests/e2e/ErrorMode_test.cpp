@@ -14,8 +14,8 @@
 namespace corvelle::e2e {
 namespace {
 
-// Of the error mode in the block of a thread of 64 bits.
-constexpr std::size_t kModePlace = 0x16B0;
+// Of the error mode in the block of a thread.
+constexpr std::size_t kModePlace = sizeof(void*) == 8 ? 0x16B0 : 0xF28;
 // What the system calls the same thing in there: boxes about drives are off.
 constexpr ULONG kThreadModeNoBoxes = 0x10;
 
@@ -41,7 +41,10 @@ std::optional<DWORD> ErrorModeOf(DWORD process) {
 struct ThreadFacts {
   NTSTATUS ExitStatus;
   void* Block;
-  void* Rest[6];
+  void* Ids[2];
+  ULONG_PTR Processors;
+  LONG Priority;
+  LONG BasePriority;
 };
 
 /// The error mode of one thread of another process, as the system keeps it.
@@ -55,7 +58,7 @@ std::optional<ULONG> ThreadModeOf(DWORD process, DWORD threadId) {
   ThreadFacts facts = {};
   ULONG length = 0;
   ULONG read = 0;
-  if (query != nullptr && query(thread, 0, &facts, 48, &length) == 0 &&
+  if (query != nullptr && query(thread, 0, &facts, sizeof(facts), &length) == 0 &&
       ReadProcessMemory(other, static_cast<const char*>(facts.Block) + kModePlace, &read,
                         sizeof(read), nullptr) != FALSE) {
     mode = read;

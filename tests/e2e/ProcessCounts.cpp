@@ -24,7 +24,8 @@ struct GdiEntry {
 };
 
 constexpr std::size_t kGdiEntries = 0x4000;
-constexpr std::size_t kTablePlace = 0xF8;  // of its address in the environment block of a process
+// Of its address in the environment block of a process.
+constexpr std::size_t kTablePlace = sizeof(void*) == 8 ? 0xF8 : 0x94;
 
 using QueryProcess = NTSTATUS(WINAPI*)(HANDLE, PROCESSINFOCLASS, PVOID, ULONG, PULONG);
 

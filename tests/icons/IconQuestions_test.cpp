@@ -61,13 +61,26 @@ TEST(IconQuestions, EachFormOfATextLeadsToItsIcon) {
       {"a folder of the shell", "csidl_drives/x", "of folder 17", "of folder 17"},
   };
   for (const Row& row : rows) {
-    EXPECT_EQ(Told(SmallIconQuestions(FormOf(row.text), true)), row.expected) << row.name;
-    EXPECT_EQ(Told(SmallIconQuestions(FormOf(row.text), false)), row.shellDrawsNone) << row.name;
+    EXPECT_EQ(Told(IconQuestions(FormOf(row.text), true)), row.expected) << row.name;
+    EXPECT_EQ(Told(IconQuestions(FormOf(row.text), false)), row.shellDrawsNone) << row.name;
   }
   EXPECT_EQ(Told(BlankIconQuestions(kFolders.IconsPath, true)),
             "of C:\\Corvelle\\Icons\\W95MBX02.ICO");
   EXPECT_EQ(Told(BlankIconQuestions(kFolders.IconsPath, false)),
             "0 in C:\\Corvelle\\Icons\\W95MBX02.ICO, of C:\\Corvelle\\Icons\\W95MBX02.ICO");
+}
+
+TEST(IconQuestions, LargeIconsComeFromTheListOfLargeOnes) {
+  for (const char* text : {"C:\\a.exe|3", "\\icons\\x.ico", "CSIDL_DRIVES"}) {
+    for (const Lookup& question : IconQuestions(FormOf(text), false, 32)) {
+      if (question.Kind == LookupKind::IconInFile) {
+        EXPECT_EQ(question.Size, 32) << text;
+      } else {
+        EXPECT_EQ(question.List, IconList::Large) << text;
+      }
+    }
+  }
+  EXPECT_EQ(BlankIconQuestions(kFolders.IconsPath, false, 48)[0].Size, 48);
 }
 
 TEST(IconQuestions, UntilTheAnswerComesTheKindOfTheThingIsShown) {

@@ -6,6 +6,8 @@
 #include <string_view>
 
 #include "core/Program.h"
+#include "icons/IconQuestions.h"
+#include "icons/ShellIconRule.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -68,7 +70,10 @@ class IconDesk : public ::testing::Test {
 };
 
 using ResolveAndDrawTest = IconDesk;
-using DetectShellIconsTest = IconDesk;
+class DetectShellIconsTest : public IconDesk {
+ protected:
+  ShellIconRule rule{program};
+};
 
 Rgb System(int index) { return sim::SimShellIcons::ColourOf(index); }
 Rgb InFile(std::string_view file, int index) { return sim::SimShellIcons::ColourOf(file, index); }
@@ -256,17 +261,42 @@ TEST_F(DetectShellIconsTest, TwoIconFilesTellWhateverTheRegistrySays) {
       world.Keys.Set(RegistryRoot::ClassesRoot, "icofile\\DefaultIcon", "", value);
       Put("C:\\Corvelle\\Icons\\two.ico", row.second, 1);
       program.Icons.ShellDrawsIcons = !row.expected;
-      DetectShellIcons(program);
+      rule.DetectShellIcons();
       EXPECT_EQ(program.Icons.ShellDrawsIcons, row.expected) << row.name << ", " << value;
     }
   }
+}
+
+TEST_F(DetectShellIconsTest, AShellThatTakesItsTimeIsNotWaitedFor) {
+  Put("C:\\Corvelle\\Icons\\two.ico", 42, 1);
+  world.SlowAnswers.Delay("C:", 50);
+  world.SlowAnswers.Delay("C:*", 50);
+  program.Icons.ShellDrawsIcons = true;
+  const std::int64_t began = world.Desktop.Now();
+  rule.DetectShellIcons();
+  EXPECT_EQ(world.Desktop.Now(), began);
+  EXPECT_FALSE(program.Icons.ShellDrawsIcons);
+  world.Desktop.Advance(500);
+  EXPECT_TRUE(program.Icons.ShellDrawsIcons);
+}
+
+TEST_F(DetectShellIconsTest, OneThatTellsNothingOfAFileMeansThatItDoesNot) {
+  Put("C:\\Corvelle\\Icons\\a.ico", 42, 1);
+  Put("C:\\Corvelle\\Icons\\b.ico", 43, 1);
+  world.SlowAnswers.Delay("C:", 50);
+  rule.DetectShellIcons();
+  world.Desktop.Advance(49);
+  world.Files.Vanish("C:\\Corvelle\\Icons\\b.ico");
+  world.SlowAnswers.HangForGood("C:*");
+  world.Desktop.Advance(20'000);
+  EXPECT_FALSE(program.Icons.ShellDrawsIcons);
 }
 
 TEST_F(DetectShellIconsTest, NeedsNoMoreThanTheProgramsFolder) {
   // The start looks before the strip has set the other folders.
   program.Paths.IconsPath.clear();
   Put("C:\\Corvelle\\Icons\\two.ico", 42, 1);
-  DetectShellIcons(program);
+  rule.DetectShellIcons();
   EXPECT_TRUE(program.Icons.ShellDrawsIcons);
 }
 
@@ -275,23 +305,23 @@ TEST_F(DetectShellIconsTest, LooksAtTwoFilesAndNoMore) {
     Put(std::string("C:\\Corvelle\\Icons\\") + name, 77, 1);
   }
   world.Files.MakeFolders("C:\\Corvelle\\Icons\\folder.ico");
-  DetectShellIcons(program);
+  rule.DetectShellIcons();
   EXPECT_EQ(world.Icons.Lookups(), 2);
 }
 
 TEST_F(DetectShellIconsTest, AFolderIsNoIconFileWhateverItsName) {
   world.Files.MakeFolders("C:\\Corvelle\\Icons\\a.ico");
-  DetectShellIcons(program);
+  rule.DetectShellIcons();
   EXPECT_FALSE(program.Icons.ShellDrawsIcons);
 }
 
 TEST_F(DetectShellIconsTest, NeitherFolderNorTwoFilesMeansThatItDoesNot) {
   program.Icons.ShellDrawsIcons = true;
-  DetectShellIcons(program);
+  rule.DetectShellIcons();
   EXPECT_FALSE(program.Icons.ShellDrawsIcons) << "one icon file only";
   program.Icons.ShellDrawsIcons = true;
   world.Files.Vanish("C:\\Corvelle\\Icons");
-  DetectShellIcons(program);
+  rule.DetectShellIcons();
   EXPECT_FALSE(program.Icons.ShellDrawsIcons) << "no folder";
 }
 
@@ -299,7 +329,7 @@ TEST_F(DetectShellIconsTest, AFolderThatCannotBeListedMeansThatItDoesNot) {
   Put("C:\\Corvelle\\Icons\\two.ico", 42, 1);
   program.Icons.ShellDrawsIcons = true;
   world.Files.FailCall(1);
-  DetectShellIcons(program);
+  rule.DetectShellIcons();
   EXPECT_FALSE(program.Icons.ShellDrawsIcons);
 }
 

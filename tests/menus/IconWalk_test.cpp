@@ -30,7 +30,6 @@ class Fetched : public ::testing::Test {
     desk_.OpenAgain();
   }
   const Strings& Small() { return desk_.World.Icons.Asked(IconList::Small); }
-  Strings Large() { return desk_.World.Icons.Asked(IconList::Large); }
   /// How often the shell was asked for the small icon of a path, case apart.
   int Times(const std::string& path) {
     return static_cast<int>(std::count_if(Small().begin(), Small().end(), [&](const auto& asked) {
@@ -149,26 +148,6 @@ TEST_F(Fetched, AnIconMarkedBehindItsNulIsSkippedAndAnotherIsCutThere) {
   Fetch();
   EXPECT_EQ(Times("C:\\Tools\\tool.exe"), 0);
   EXPECT_EQ(Times("C:\\Tools\\other.exe"), 1);
-}
-
-TEST_F(Fetched, LargeOnesAreThoseOfTheButtonsAndEachIsAskedForOnce) {
-  const auto put = [&](int number, const std::string& icon) {
-    desk_.World.Files.Put("C:\\Corvelle\\Menus\\" + MenuFileName(number),
-                          FormatRecord(Item("B", icon), desk_.World.Ansi) +
-                              FormatRecord(Item("Docs", "", "C:\\Docs\\*.*"), desk_.World.Ansi));
-  };
-  put(1, "C:\\Tools\\tool.exe");
-  put(2, "c:\\tools\\TOOL.exe");
-  put(3, "Button");
-  desk_.TheProgram.Icons.IconSize = 16;
-  Fetch();
-  EXPECT_EQ(Large(), Strings{});
-  desk_.TheProgram.Icons.IconSize = 32;
-  Fetch();
-  ASSERT_EQ(Large().size(), 1U);
-  EXPECT_TRUE(EqualNoCase(Large()[0], "C:\\Tools\\tool.exe"));
-  Fetch();
-  EXPECT_EQ(Large(), Strings{});
 }
 
 TEST_F(Fetched, AMenuThatIsOpenedMeanwhileOvertakesThem) {

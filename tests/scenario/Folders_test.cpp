@@ -100,6 +100,8 @@ TEST_F(Folders, OneThatFollowsTheDiskShowsANewFileAtTheNextOpening) {
 TEST_F(Folders, OneThatDoesNotFollowTheDiskStaysAsItWasBuilt) {
   StartWith({{.FTitle = "Work", .FIcon = "", .FName = "C:\\Corvelle\\Work\\*.*"}});
   ASSERT_TRUE(OpenMenu(*desk_, 2));
+  // A busy disk may answer a moment after the menu has come up.
+  desk_->Pause(600);
   const int before = desk_->BoundsOf("frmQMenu").Height();
   CloseMenu();
   PutFile("Work\\beta");

@@ -200,6 +200,10 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   /// The user chooses a line of a form's menu bar: the captions on the way to it with ">" between
   /// them. The running test fails when it cannot be chosen.
   void ChooseFromMenuBar(WindowId window, std::string_view path);
+  /// The user opens one menu of the bar and chooses among the lines that the bar has by then, in
+  /// the same way; with an empty text nothing.
+  void ChooseFromMenuBar(WindowId window, std::string_view menu,
+                         const std::function<std::string(const Popup& bar)>& choose);
 
   // Asking.
   /// The first window of ours with this class, which is the name of its form or box; none if there

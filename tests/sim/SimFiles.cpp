@@ -286,6 +286,7 @@ std::optional<FileError> SimFiles::Enter(std::string_view operation, std::string
                                          std::string_view other) {
   log_.push_back({std::string(operation), std::string(path), std::string(other)});
   TellCall(operation, path);
+  if (beforeCall_) beforeCall_({std::string(operation), std::string(path), std::string(other)});
   if (failOn_ && hit_) return failWith_;
   if (failIn_ == 0 || --failIn_ > 0) return std::nullopt;
   hit_ = true;

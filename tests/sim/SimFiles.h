@@ -2,11 +2,13 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/FileSystem.h"
@@ -86,6 +88,9 @@ class SimFiles final : public FileSystem, public Priced {
   /// Leaves this many bytes free; deleting gives back what it frees.
   void FillDisk(std::uint64_t bytesLeft);
   void FreeDisk() { bytesLeft_.reset(); }
+
+  /// Runs before each operation of the program, which the disk then carries out or not.
+  void BeforeEachCall(std::function<void(const Call&)> action) { beforeCall_ = std::move(action); }
 
   // The log.
   [[nodiscard]] const std::vector<Call>& Log() const { return log_; }
@@ -173,6 +178,7 @@ class SimFiles final : public FileSystem, public Priced {
   bool hit_ = false;
   FileError failWith_ = FileError::Failed;
   std::vector<Call> log_;
+  std::function<void(const Call&)> beforeCall_;
   int changes_ = 0;
 };
 

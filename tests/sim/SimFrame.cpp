@@ -32,7 +32,13 @@ void SimDesktop::SetMenuBar(WindowId window, const std::vector<forms::PopupItem>
 }
 
 void SimDesktop::ChooseFromMenuBar(WindowId window, std::string_view path) {
-  UserEvent([this, window, wanted = std::string(path)] {
+  ChooseFromMenuBar(window, path.substr(0, path.find('>')),
+                    [wanted = std::string(path)](const Popup&) { return wanted; });
+}
+
+void SimDesktop::ChooseFromMenuBar(WindowId window, std::string_view menu,
+                                   const std::function<std::string(const Popup& bar)>& choose) {
+  UserEvent([this, window, choose, opened = std::string(menu)] {
     const SimWindow* form = Look(window);
     if (form == nullptr || form->Events == nullptr || !form->Enabled) {
       return Complain("no form with a menu bar that takes input");
@@ -40,11 +46,13 @@ void SimDesktop::ChooseFromMenuBar(WindowId window, std::string_view path) {
     Activate(window);
     // The menu comes up, and may be changed by that.
     const Popup before{.Items = form->MenuBar};
-    const int top = before.NumberOf(std::string_view(wanted).substr(0, wanted.find('>')));
+    const int top = before.NumberOf(opened);
     if (top >= 0) form->Events->OnMenuOpening(top);
     form = Look(window);
     if (form == nullptr || form->Events == nullptr) return;
     const Popup bar{.Items = form->MenuBar};
+    const std::string wanted = choose(bar);
+    if (wanted.empty()) return;
     if (!bar.Offers(wanted)) return Complain("the menu bar does not offer \"" + wanted + "\"");
     form->Events->OnMenuChosen(bar.NumberOf(wanted));
   });

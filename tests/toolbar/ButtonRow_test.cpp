@@ -179,22 +179,5 @@ TEST(ButtonRow, IconsAreDrawnOnceAndARepaintIsACopy) {
   EXPECT_EQ(desk.World.Icons.Draws(), 0);
 }
 
-TEST(ButtonRow, ARowThatIsMadeAgainWhileItsIconsAreDrawnEndsTheOlderRound) {
-  RowDesk desk;
-  desk.World.Files.Put("C:\\Tools\\a.exe", "x");
-  desk.PutMenu(1, Entry("One", "C:\\Tools\\a.exe"));
-  desk.PutMenu(2, Entry("Two", "C:\\Tools\\a.exe"));
-  bool again = true;
-  desk.World.Icons.WhileAsked([&] {
-    if (!std::exchange(again, false)) return;
-    EXPECT_TRUE(desk.World.Files.Remove("C:\\Corvelle\\Menus\\BMENU002.MNU"));
-    desk.Row.DoToolbarButtons();
-  });
-  desk.Row.DoToolbarButtons();
-  desk.World.Icons.WhileAsked(nullptr);
-  EXPECT_EQ(desk.Row.ButtonCount, 2);
-  EXPECT_EQ(desk.Row.ToolbarButtons.size(), 3U);
-}
-
 }  // namespace
 }  // namespace corvelle

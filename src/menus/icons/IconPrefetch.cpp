@@ -101,7 +101,6 @@ bool IconPrefetch::LoadIconsOf(const std::string& menuFile) {
       });
   if (!known) return false;
   icons_.Fetch(texts.Button);
-  icons_.FetchButtonIcon(texts.Button);
   for (const std::string& text : texts.Items) icons_.Fetch(text);
   return true;
 }

@@ -14,7 +14,6 @@
 #include "forms/WindowSystem.h"
 #include "icons/Glyphs.h"
 #include "icons/IconQuestions.h"
-#include "icons/IconResolution.h"
 #include "platform/ShellIcons.h"
 
 namespace corvelle {
@@ -24,8 +23,6 @@ namespace {
 constexpr int kFirstRoom = 16;
 /// Under which the blank document is kept; no icon text is like it.
 const std::string kBlankKey(1, '\0');
-/// With what the key of a large icon begins.
-constexpr char kLargeMark = '\1';
 /// How long one place is waited for while the icons of a page are asked for. Milliseconds.
 constexpr int kMostOfOnePlace = 40;
 /// Of the icons that are fetched beforehand, so many that do not answer may be under way.
@@ -70,7 +67,6 @@ void MenuIcons::ResetPicIcons() {
   colIconIndex_.clear();
   cellsByPixels_.clear();
   cellsByExtension_.clear();
-  fetched_.clear();
   picIcons_.reset();
   cells_ = 0;
   room_ = 0;
@@ -81,12 +77,12 @@ void MenuIcons::WaitUntil(std::int64_t moment) {
   late_.clear();
 }
 
-IconForm MenuIcons::Classify(std::string_view text, IconCaller caller) const {
+IconForm MenuIcons::Classify(std::string_view text) const {
   return ClassifyIcon(text,
                       {.AppPath = from_.Paths.AppPath,
                        .IconsPath = from_.Paths.IconsPath,
                        .WebLinkIcon = from_.Icons.WebLinkIcon},
-                      caller);
+                      IconCaller::Menu);
 }
 
 IconPicture MenuIcons::Find(std::string_view iconText) {
@@ -156,7 +152,7 @@ void MenuIcons::Draw(Canvas& canvas, PixelPoint at, const IconPicture& picture) 
 
 std::string MenuIcons::Enter(std::string_view text, const IconForm& form) {
   if (IsSeparatorIcon(text)) return {};
-  std::vector<Lookup> questions = SmallIconQuestions(form, from_.Icons.ShellDrawsIcons);
+  std::vector<Lookup> questions = IconQuestions(form, from_.Icons.ShellDrawsIcons);
   if (questions.empty()) return {};
   std::string key = LowerCase(text);
   colIconFile_.try_emplace(key, Entry{.Form = form, .Questions = std::move(questions)});
@@ -292,31 +288,10 @@ void MenuIcons::Fetch(std::string_view iconText) {
   GoOnFetching();
 }
 
-void MenuIcons::FetchButtonIcon(std::string_view iconText) {
-  if (IconListOf(from_.Icons.IconSize) != IconList::Large) return;
-  const std::string text = Trim(iconText);
-  const IconForm form = Classify(text, IconCaller::Toolbar);
-  if (form.Kind != IconKind::File || !fetched_.insert(LowerCase(text)).second) return;
-  toFetch_.push_back(kLargeMark + form.Text);
-  GoOnFetching();
-}
-
 void MenuIcons::GoOnFetching() {
   while (!toFetch_.empty() && fetching_.size() == slow_.size() && slow_.size() < kMostSlow) {
     const std::string key = std::move(toFetch_.front());
     toFetch_.pop_front();
-    if (key.front() == kLargeMark) {
-      fetching_.insert(key);
-      // The desk keeps it; a file that is gone has no icon.
-      from_.Answers.Ask(
-          {.Question = {.Kind = LookupKind::FileIcon,
-                        .Path = key.substr(1),
-                        .List = IconList::Large},
-           .How = desk::Urgency::Ahead,
-           .Owner = ahead_},
-          {.Ended = [this, key](const desk::Reply&) { Fetched(key); }, .TakesLonger = {}});
-      continue;
-    }
     const auto found = colIconFile_.find(key);
     // A menu may have asked for it meanwhile.
     if (found == colIconFile_.end() || found->second.Is != State::New) continue;

@@ -8,7 +8,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -85,10 +84,8 @@ class MenuIcons {
   /// Nobody looks at what Find asked for any more: it is still asked for, after what is looked at.
   void PutAside();
 
-  /// Asks for an icon, and for the large one of a button of the strip (while that shows large
-  /// ones), when nothing more urgent is asked.
+  /// Asks for an icon when nothing more urgent is asked.
   void Fetch(std::string_view iconText);
-  void FetchButtonIcon(std::string_view iconText);
 
   /// Forgets all icons, so that each is asked for again.
   void ResetPicIcons();
@@ -110,8 +107,7 @@ class MenuIcons {
     bool OnShow = false;  // Find has asked for it
   };
 
-  [[nodiscard]] IconForm Classify(std::string_view text,
-                                  IconCaller caller = IconCaller::Menu) const;
+  [[nodiscard]] IconForm Classify(std::string_view text) const;
   /// The entry of an icon text that is asked for, by its key; an empty key for other texts.
   std::string Enter(std::string_view text, const IconForm& form);
   std::string EnterBlank();
@@ -154,7 +150,6 @@ class MenuIcons {
   std::unordered_map<std::string, int> colIconIndex_;   // by "i" and the index in the system's list
   std::unordered_map<std::uint64_t, int> cellsByPixels_;
   std::unordered_map<std::string, int> cellsByExtension_;
-  std::unordered_set<std::string> fetched_;  // large icons, by the text in lower case
   forms::Alive alive_;
 };
 

@@ -8,10 +8,8 @@
 #include "core/Program.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
-#include "icons/IconResolution.h"
 #include "platform/FileSystem.h"
 #include "platform/ShellIcons.h"
-#include "toolbar/layout/IconDrawing.h"
 #include "toolbar/layout/StripLook.h"
 
 namespace corvelle {
@@ -45,6 +43,7 @@ SingleRow::SingleRow(Program& program, RowHost& strip, StripPull& pull, const Ro
       window_(strip.AsForm()),
       pull_(pull),
       controls_(controls),
+      icons_(program, controls.Box),
       hover1_(controls.Box, "Line1"),
       hover2_(controls.Box, "Line2"),
       watch_(program.Windows) {
@@ -77,6 +76,7 @@ void SingleRow::Unload() {
   if (program_.Menu.CurSingle != MenuState::kDateArea) program_.Menu.CurSingle = 0;
   ShowHover(0);
   press_ = {.On = press_.On == PressOn::Nothing ? PressOn::Nothing : PressOn::Spent};
+  icons_.Stop();
   controls_.Line1.UnloadAbove(0);
   controls_.Line2.UnloadAbove(0);
   SingleButtons.assign(1, SingleTemplate(strip_.Shape().Scale));
@@ -189,31 +189,19 @@ void SingleRow::DrawSepLine(float position) {
   LineCount = controls_.Line1.Last();
 }
 
-void SingleRow::DrawIcon(const SingleRect& single) {
-  if (single.Kind != SingleKind::Button) return;
-  const SingleScene scene = Scene();
-  const PixelPoint at =
-      SingleIconPlace(scene, PlaceOf(single), strip_.Shape().Where, strip_.Shape().TopCut);
-  const PixelRect touched = RectAt(at, {scene.IconSize, scene.IconSize});
-  DrawIconIn(program_.Windows, window_, controls_.Box, touched, iconRounds_, [&](Canvas& canvas) {
-    if (ResolveAndDraw(program_, canvas, single.Icon, {0, 0}, scene.IconSize)) return;
-    // A button without any face could not be found. Without the blank document it has none.
-    static_cast<void>(DrawFallbackIcon(program_, canvas, {0, 0}, scene.IconSize));
-  });
-}
-
 void SingleRow::DrawIcons() {
-  forms::PictureBox& box = controls_.Box;
-  const unsigned round = ++iconRounds_;
-  box.SetBackground({});
-  for (std::size_t i = 0; i < SingleButtons.size(); ++i) {
-    DrawIcon(SingleRect(SingleButtons[i]));
-    // Messages that came in meanwhile have had all of them drawn again, perhaps other ones.
-    if (round != iconRounds_ || !window_.IsLoaded()) return;
+  const SingleScene scene = Scene();
+  const StripShape shape = strip_.Shape();
+  icons_.Begin();
+  for (const SingleRect& single : SingleButtons) {
+    if (single.Kind != SingleKind::Button) continue;
+    const PixelPoint at = SingleIconPlace(scene, PlaceOf(single), shape.Where, shape.TopCut);
+    // A button without any face could not be found: also one whose icon is a word of the program.
+    const bool isWord = EqualNoCase(single.Icon, kNewButtonIcon);
+    icons_.Draw(isWord ? std::string_view() : single.Icon,
+                RectAt(at, {scene.IconSize, scene.IconSize}));
   }
-  box.Refresh();
-  // From here on a repaint is a copy of this picture.
-  box.SetBackground(box.Image());
+  icons_.End();
 }
 
 void SingleRow::RefreshSingleButtons() {

@@ -11,6 +11,7 @@
 #include "forms/Graphic.h"
 #include "forms/Timer.h"
 #include "forms/Types.h"
+#include "toolbar/layout/StripIcons.h"
 #include "toolbar/singles/DateLabel.h"
 #include "toolbar/singles/RowHost.h"
 #include "toolbar/singles/SingleLayout.h"
@@ -113,7 +114,6 @@ class SingleRow final : public SingleButtonsPort {
                         const std::string& title);
   void DrawSepLine(float position);
   void AddSeparator();
-  void DrawIcon(const SingleRect& single);
   void DrawIcons();
   void SizeBox();
 
@@ -152,13 +152,13 @@ class SingleRow final : public SingleButtonsPort {
   forms::Form& window_;
   StripPull& pull_;
   RowControls controls_;
+  StripIcons icons_;
   /// The two lines at the sides of the button under the pointer.
   forms::Line hover1_;
   forms::Line hover2_;
   /// Runs while the pointer is over a button or the date: nobody tells that it left.
   forms::Timer watch_;
   int hovered_ = 0;
-  unsigned iconRounds_ = 0;  // times that the row's icons were drawn
   Press press_;
   bool carrying_ = false;  // the entry that is carried began here
   bool running_ = false;

@@ -5,15 +5,18 @@
 #include "core/MenuFolder.h"
 #include "core/Program.h"
 #include "forms/Form.h"
-#include "icons/IconResolution.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
-#include "toolbar/layout/IconDrawing.h"
 
 namespace corvelle {
 
 ButtonRow::ButtonRow(Program& program, StripWindow& strip, const ButtonControls& controls)
-    : ToolbarButtons(1), program_(program), strip_(strip), controls_(controls), records_(1) {}
+    : ToolbarButtons(1),
+      program_(program),
+      strip_(strip),
+      controls_(controls),
+      icons_(program, controls.picToolbar),
+      records_(1) {}
 
 void ButtonRow::MakeTemplates() {
   const StripScale scale = strip_.Shape().Scale;
@@ -69,6 +72,7 @@ void ButtonRow::ForgetMenus() {
 
 void ButtonRow::Unload() {
   ForgetMenus();
+  icons_.Stop();
   controls_.LinTB1.UnloadAbove(0);
   controls_.LinTB2.UnloadAbove(0);
   controls_.lblSep.UnloadAbove(0);
@@ -117,18 +121,10 @@ void ButtonRow::AddButton(const ButtonRect& button) {
 }
 
 void ButtonRow::DrawIcons() {
-  forms::PictureBox& box = controls_.picToolbar;
-  const unsigned round = ++iconRounds_;
-  box.SetBackground({});
-  for (int i = 1; i <= ButtonCount; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    DrawButtonIcon(std::string(records_[at].FIcon), ButtonRect(ToolbarButtons[at]));
-    // Messages that came in meanwhile have had all of them drawn again, perhaps other ones.
-    if (round != iconRounds_ || !strip_.AsForm().IsLoaded()) return;
-  }
-  box.Refresh();
-  // From here on a repaint is a copy of this picture.
-  box.SetBackground(box.Image());
+  icons_.Begin();
+  for (std::size_t i = 1; i < ToolbarButtons.size(); ++i)
+    DrawButtonIcon(records_[i].FIcon, ToolbarButtons[i]);
+  icons_.End();
 }
 
 void ButtonRow::DrawButtonIcon(const std::string& iconText, const ButtonRect& button) {
@@ -142,11 +138,7 @@ void ButtonRow::DrawButtonIcon(const std::string& iconText, const ButtonRect& bu
                                    .Where = shape.Where,
                                    .Vertical = shape.Scale.Vertical,
                                    .TopCut = TopCut});
-  DrawIconIn(program_.Windows, strip_.AsForm(), controls_.picToolbar, RectAt(at, {size, size}),
-             iconRounds_, [&](Canvas& canvas) {
-               // What has no icon at all keeps an empty face.
-               static_cast<void>(ResolveAndDraw(program_, canvas, iconText, {0, 0}, size));
-             });
+  icons_.Draw(iconText, RectAt(at, {size, size}));
 }
 
 void ButtonRow::DoToolbarButtons() {

@@ -9,6 +9,7 @@
 #include "forms/ControlArray.h"
 #include "forms/Graphic.h"
 #include "forms/PictureBox.h"
+#include "toolbar/layout/StripIcons.h"
 #include "toolbar/layout/StripLook.h"
 #include "toolbar/layout/StripPointer.h"
 #include "toolbar/layout/StripWindow.h"
@@ -101,8 +102,8 @@ class ButtonRow {
   Program& program_;
   StripWindow& strip_;
   ButtonControls controls_;
+  StripIcons icons_;
   std::vector<MenuRecord> records_;  // of the buttons, by their index
-  unsigned iconRounds_ = 0;          // times that the buttons' icons were drawn
 };
 
 }  // namespace corvelle

@@ -4,6 +4,10 @@
    breaks it off. The server of Wine, which serves all processes, never waits. */
 
 #define _GNU_SOURCE
+#ifdef __i386__ /* as Wine is made there */
+#define _FILE_OFFSET_BITS 64
+#define _TIME_BITS 64
+#endif
 #include <dirent.h>
 #include <dlfcn.h>
 #include <errno.h>
@@ -43,9 +47,22 @@ static void wait_if_hanging(const char *path) {
   errno = error;
 }
 
+/* With such times and offsets a 32-bit library has these functions under other names: the headers give them to what is
+   defined here, dlsym has to be told. */
+#ifdef __i386__
+#define NAME_OF_stat "__stat64_time64"
+#define NAME_OF_lstat "__lstat64_time64"
+#define NAME_OF_open "open64"
+#else
+#define NAME_OF_stat "stat"
+#define NAME_OF_lstat "lstat"
+#define NAME_OF_open "open"
+#endif
+#define NAME_OF_opendir "opendir"
+
 #define NEXT(function) \
   static __typeof__(&function) next = NULL; \
-  if (next == NULL) next = (__typeof__(&function))dlsym(RTLD_NEXT, #function)
+  if (next == NULL) next = (__typeof__(&function))dlsym(RTLD_NEXT, NAME_OF_##function)
 
 int stat(const char *path, struct stat *buffer) {
   NEXT(stat);

@@ -1,0 +1,100 @@
+#include "icons/AskedIcons.h"
+
+#include <algorithm>
+#include <utility>
+#include <variant>
+
+#include "core/Program.h"
+#include "icons/Glyphs.h"
+#include "icons/IconQuestions.h"
+#include "icons/IconResolution.h"
+#include "platform/Canvas.h"
+#include "platform/ShellIcons.h"
+
+namespace corvelle {
+
+AskedIcons::AskedIcons(Program& program) : program_(program), owner_(program.Answers.NewOwner()) {}
+
+void AskedIcons::Drop() { program_.Answers.Drop(owner_); }
+
+IconLook AskedIcons::Ask(std::string_view text, int size, int milliseconds, Known known) {
+  const IconForm form = ClassifyIcon(text,
+                                     {.AppPath = program_.Paths.AppPath,
+                                      .IconsPath = program_.Paths.IconsPath,
+                                      .WebLinkIcon = program_.Icons.WebLinkIcon},
+                                     IconCaller::Toolbar);
+  if (form.Kind == IconKind::BuiltIn) return {};
+  if (form.Kind == IconKind::SystemIndex && HasSystemIcon(form.Index, size))
+    return {.SystemIndex = form.Index};
+  const bool shellDraws = program_.Icons.ShellDrawsIcons;
+  const auto icon = std::make_shared<Asked>();
+  icon->Questions = IconQuestions(form, shellDraws, size);
+  for (Lookup& question : BlankIconQuestions(program_.Paths.IconsPath, shellDraws, size))
+    icon->Questions.push_back(std::move(question));
+  icon->Look = StandIn(*icon, form);
+  icon->Tell = std::move(known);
+  GoOn(icon, icon->Look.Pixels.IsEmpty() ? milliseconds : 0);
+  return icon->Look;
+}
+
+bool AskedIcons::HasSystemIcon(int index, int size) const {
+  return program_.Services.Icons.DrawSystemIcon(*program_.Windows.CreateCanvas({size, size}),
+                                                IconListOf(size), index, {0, 0}, IconStyle::Normal);
+}
+
+IconLook AskedIcons::StandIn(const Asked& icon, const IconForm& form) const {
+  for (const Lookup& question : icon.Questions) {
+    const LookupValue* const last = program_.Answers.LastKnown(question);
+    const auto* const pixels = last != nullptr ? std::get_if<IconPixels>(last) : nullptr;
+    if (pixels != nullptr && !pixels->IsEmpty() && pixels->IsWhole()) return {.Pixels = *pixels};
+  }
+  return {.Glyph = std::string(NeutralGlyph(form))};
+}
+
+bool AskedIcons::GoOn(const std::shared_ptr<Asked>& icon, int milliseconds) {
+  while (icon->Next < icon->Questions.size()) {
+    const auto later = [this, icon](const desk::Reply& reply) {
+      const IconLook before = icon->Look;
+      if (!Take(*icon, reply) && !GoOn(icon, 0)) return;
+      if (icon->Look == before) return;
+      // It may end this.
+      const Known tell = std::move(icon->Tell);
+      tell(icon->Look);
+    };
+    const auto reply = program_.Answers.AskAtOnce(
+        {.Question = icon->Questions[icon->Next], .How = desk::Urgency::OnShow, .Owner = owner_},
+        {.Ended = later, .TakesLonger = {}}, milliseconds);
+    if (!reply) return false;
+    if (Take(*icon, *reply)) return true;
+  }
+  icon->Look = {};
+  return true;
+}
+
+bool AskedIcons::Take(Asked& icon, const desk::Reply& reply) {
+  // What stands for it stays.
+  if (reply.How == desk::End::NotAvailable) return true;
+  const auto* const pixels = std::get_if<IconPixels>(&reply.Value);
+  if (reply.How != desk::End::Answered || pixels == nullptr || pixels->IsEmpty() ||
+      !pixels->IsWhole()) {
+    ++icon.Next;
+    return false;
+  }
+  icon.Look = {.Pixels = *pixels};
+  return true;
+}
+
+void AskedIcons::Draw(Canvas& canvas, const IconLook& look, int size) const {
+  if (look.SystemIndex) {
+    static_cast<void>(program_.Services.Icons.DrawSystemIcon(
+        canvas, IconListOf(size), *look.SystemIndex, {0, 0}, IconStyle::Normal));
+  } else if (!look.Pixels.IsEmpty()) {
+    canvas.DrawPixels(look.Pixels, {0, 0});
+  } else if (!look.Glyph.empty()) {
+    const int scale = std::max(size / kSmallIconSize, 1);
+    const int margin = (size - scale * kSmallIconSize) / 2;
+    DrawGlyph(canvas, program_.Windows, look.Glyph, {margin, margin}, scale);
+  }
+}
+
+}  // namespace corvelle

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "desk/DeskRule.h"
+#include "icons/IconForm.h"
+#include "platform/IconPixels.h"
+#include "platform/Lookups.h"
+
+namespace corvelle {
+
+class Canvas;
+class Program;
+
+/// What is drawn in the place of an icon: one of these, or nothing at all.
+struct IconLook {
+  IconPixels Pixels;               // the icon
+  std::optional<int> SystemIndex;  // an icon of the shell's list
+  std::string Glyph;               // key of a picture of the program, while it stands for the icon
+
+  friend bool operator==(const IconLook&, const IconLook&) = default;
+};
+
+/// The icons that one part of a window shows, each asked of the desk by its text. An icon that is
+/// not known at once is stood for by the one that was known last, or by a picture of its kind. What
+/// has no icon gets that of a blank document. Sizes are pixels: 16, or the shell's large size.
+class AskedIcons {
+ public:
+  using Known = std::function<void(const IconLook&)>;
+
+  explicit AskedIcons(Program& program);
+  ~AskedIcons() { Drop(); }
+  AskedIcons(const AskedIcons&) = delete;
+  AskedIcons& operator=(const AskedIcons&) = delete;
+
+  /// What is to be drawn now, after a wait of at most so many milliseconds for what nothing is
+  /// known of. When that changes, `known` is called, by a turn of its own and at most once. Words
+  /// that the strip has a picture for are drawn as nothing.
+  [[nodiscard]] IconLook Ask(std::string_view text, int size, int milliseconds, Known known);
+  /// Nothing of what was asked is told any more.
+  void Drop();
+
+  /// Draws a look of that size with its upper left corner at the canvas's.
+  void Draw(Canvas& canvas, const IconLook& look, int size) const;
+
+ private:
+  struct Asked {
+    std::vector<Lookup> Questions;
+    std::size_t Next = 0;  // of them, the one that is being asked
+    IconLook Look;
+    Known Tell;
+  };
+
+  [[nodiscard]] bool HasSystemIcon(int index, int size) const;
+  [[nodiscard]] IconLook StandIn(const Asked& icon, const IconForm& form) const;
+  /// Asks what is still to be asked. True when it is known what is to be drawn.
+  bool GoOn(const std::shared_ptr<Asked>& icon, int milliseconds);
+  /// The same, for an answer.
+  static bool Take(Asked& icon, const desk::Reply& reply);
+
+  Program& program_;
+  std::uint64_t owner_;
+};
+
+}  // namespace corvelle
