@@ -40,12 +40,11 @@ struct TrackDesk : PlainDesk {
     const PixelPoint at = Row.Middle(button);
     World.Desktop.MovePointer(at.x, at.y);
   }
-  /// A press of the left button where the pointer would be on that button, told as the box tells.
-  void Press(int button) {
+  /// A press where the pointer would be on that button, told as the box tells.
+  void Press(int button, MouseButton pressed = MouseButton::Left) {
     PointAtButton(button);
     const ButtonRect& rect = Row.ToolbarButtons[static_cast<std::size_t>(button)];
-    Menus.picToolbar_MouseDown(MouseButton::Left, rect.Left + rect.Width / 2,
-                               rect.Top + rect.Height / 2);
+    Menus.picToolbar_MouseDown(pressed, rect.Left + rect.Width / 2, rect.Top + rect.Height / 2);
   }
   void Move(int button, MouseButton down = MouseButton::None) {
     PointAtButton(button);
@@ -74,9 +73,9 @@ TEST(MenuTracking, APressOpensTheMenuOfItsButtonAndASecondOneClosesIt) {
 
 TEST(MenuTracking, OnlyTheLeftButtonPresses) {
   TrackDesk desk;
-  desk.PointAtButton(2);
-  desk.Menus.picToolbar_MouseDown(MouseButton::Right, 0, 0);
+  desk.Press(2, MouseButton::Right);
   EXPECT_FALSE(desk.Menus.MenuUp());
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 0);
 }
 
 TEST(MenuTracking, TheProgramsOwnButtonOpensAMenuOnlyWhereThereIsOne) {

@@ -261,6 +261,8 @@ TEST(StripDrops, TheProgramsOwnMenuTakesNothing) {
   desk.Carry();
   desk.Drops.DoButtonDrag(1, MouseButton::Left);
   EXPECT_EQ(desk.Titles(9), (Texts{"Elsewhere", "Item"}));
+  EXPECT_EQ(desk.Menu.Asked, Texts{}) << "no menu is built again";
+  EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging) << "the end of the carry is the caller's";
 }
 
 TEST(StripDrops, KnowsTheButtonUnderACarry) {

@@ -108,8 +108,8 @@ void StripDrops::AbandonDrag() {
 void StripDrops::DoButtonDrag(int button, forms::MouseButton released) {
   timer2_.SetEnabled(false);
   if (!buttons_.IsItemButton(button) || program_.Guards.ItemActionBusy) return;
+  if (program_.Entry.CurFile.empty()) return;
   const std::string path = buttons_.PathOf(button);
-  if (path == kMainMenuPath || program_.Entry.CurFile.empty()) return;
   const forms::FlagScope dropping(program_.Drag.ItemDropping);
   const std::string tag = "F" + std::to_string(button);
   // What the disk refuses stays where it was, and the menu shows that.
