@@ -13,7 +13,8 @@
 
 namespace corvelle {
 
-AskedIcons::AskedIcons(Program& program) : program_(program), owner_(program.Answers.NewOwner()) {}
+AskedIcons::AskedIcons(Program& program, IconCaller caller)
+    : program_(program), caller_(caller), owner_(program.Answers.NewOwner()) {}
 
 void AskedIcons::Drop() { program_.Answers.Drop(owner_); }
 
@@ -22,7 +23,7 @@ IconLook AskedIcons::Ask(std::string_view text, int size, int milliseconds, Know
                                      {.AppPath = program_.Paths.AppPath,
                                       .IconsPath = program_.Paths.IconsPath,
                                       .WebLinkIcon = program_.Icons.WebLinkIcon},
-                                     IconCaller::Toolbar);
+                                     caller_);
   if (form.Kind == IconKind::BuiltIn) return {};
   if (form.Kind == IconKind::SystemIndex && HasSystemIcon(form.Index, size))
     return {.SystemIndex = form.Index};
@@ -84,17 +85,19 @@ bool AskedIcons::Take(Asked& icon, const desk::Reply& reply) {
   return true;
 }
 
-void AskedIcons::Draw(Canvas& canvas, const IconLook& look, int size) const {
+bool AskedIcons::Draw(Canvas& canvas, const IconLook& look, int size) const {
   if (look.SystemIndex) {
-    static_cast<void>(program_.Services.Icons.DrawSystemIcon(
-        canvas, IconListOf(size), *look.SystemIndex, {0, 0}, IconStyle::Normal));
-  } else if (!look.Pixels.IsEmpty()) {
-    canvas.DrawPixels(look.Pixels, {0, 0});
-  } else if (!look.Glyph.empty()) {
-    const int scale = std::max(size / kSmallIconSize, 1);
-    const int margin = (size - scale * kSmallIconSize) / 2;
-    DrawGlyph(canvas, program_.Windows, look.Glyph, {margin, margin}, scale);
+    return program_.Services.Icons.DrawSystemIcon(canvas, IconListOf(size), *look.SystemIndex,
+                                                  {0, 0}, IconStyle::Normal);
   }
+  if (!look.Pixels.IsEmpty()) {
+    canvas.DrawPixels(look.Pixels, {0, 0});
+    return true;
+  }
+  const int scale = std::max(size / kSmallIconSize, 1);
+  const int margin = (size - scale * kSmallIconSize) / 2;
+  return !look.Glyph.empty() &&
+         DrawGlyph(canvas, program_.Windows, look.Glyph, {margin, margin}, scale);
 }
 
 }  // namespace corvelle

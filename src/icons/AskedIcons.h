@@ -35,20 +35,21 @@ class AskedIcons {
  public:
   using Known = std::function<void(const IconLook&)>;
 
-  explicit AskedIcons(Program& program);
+  explicit AskedIcons(Program& program, IconCaller caller = IconCaller::Toolbar);
   ~AskedIcons() { Drop(); }
   AskedIcons(const AskedIcons&) = delete;
   AskedIcons& operator=(const AskedIcons&) = delete;
 
   /// What is to be drawn now, after a wait of at most so many milliseconds for what nothing is
   /// known of. When that changes, `known` is called, by a turn of its own and at most once. Words
-  /// that the strip has a picture for are drawn as nothing.
+  /// that the caller has a picture for are drawn as nothing.
   [[nodiscard]] IconLook Ask(std::string_view text, int size, int milliseconds, Known known);
   /// Nothing of what was asked is told any more.
   void Drop();
 
-  /// Draws a look of that size with its upper left corner at the canvas's.
-  void Draw(Canvas& canvas, const IconLook& look, int size) const;
+  /// Draws a look of that size with its upper left corner at the canvas's. False when nothing was
+  /// drawn.
+  bool Draw(Canvas& canvas, const IconLook& look, int size) const;
 
  private:
   struct Asked {
@@ -66,6 +67,7 @@ class AskedIcons {
   static bool Take(Asked& icon, const desk::Reply& reply);
 
   Program& program_;
+  IconCaller caller_;
   std::uint64_t owner_;
 };
 

@@ -109,6 +109,36 @@ TEST(DragImage, EveryIconTextGivesAPicture) {
   }
 }
 
+TEST(DragImage, UntilTheIconIsKnownItIsAHand) {
+  CarryDesk desk;
+  desk.World.Icons.SetIndex("C:\\Tools\\tool.exe", 9);
+  desk.World.SlowAnswers.Delay("C:*", 200);
+  const std::int64_t began = desk.World.Desktop.Now();
+  desk.TheProgram.Entry.ItemDragging = true;
+  desk.Picture.SetDragImage("C:\\Tools\\tool.exe");
+  EXPECT_EQ(desk.World.Desktop.Now(), began);
+  const corvelle::Picture hand = MakeGlyph(desk.World.Windows(), "hand", 2);
+  corvelle::Picture shown = desk.World.Desktop.MouseIcon();
+  ASSERT_NE(shown, nullptr);
+  for (int i = 0; i < 32; ++i) EXPECT_EQ(shown->PixelAt({i, i}), hand->PixelAt({i, i})) << i;
+  EXPECT_EQ(desk.Pointer(), MousePointer::Custom);
+  desk.World.Desktop.Advance(300);
+  shown = desk.World.Desktop.MouseIcon();
+  EXPECT_EQ(shown->PixelAt({16, 16}), sim::SimShellIcons::ColourOf(9));
+}
+
+TEST(DragImage, AnIconThatComesAfterTheDropIsShownNowhere) {
+  CarryDesk desk;
+  desk.World.SlowAnswers.Delay("C:*", 200);
+  desk.TheProgram.Entry.ItemDragging = true;
+  desk.Picture.SetDragImage("C:\\Tools\\tool.exe");
+  desk.Picture.RemoveDragImage();
+  desk.TheProgram.Entry.ItemDragging = false;
+  desk.World.Desktop.Advance(1000);
+  EXPECT_EQ(desk.World.Desktop.MouseIcon(), nullptr);
+  EXPECT_EQ(desk.Pointer(), MousePointer::Default);
+}
+
 TEST(DragImage, WhereNoIconCanBeDrawnItIsAHand) {
   CarryDesk desk;
   desk.Start();

@@ -9,7 +9,6 @@
 #include "forms/Graphic.h"
 #include "icons/Glyphs.h"
 #include "icons/IconForm.h"
-#include "icons/IconResolution.h"
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
 #include "platform/ShellIcons.h"
@@ -20,28 +19,34 @@ namespace {
 constexpr int kFollowMilliseconds = 100;
 constexpr int kLeastSize = 32;  // pixels
 constexpr int kGlyphSize = 16;
+constexpr int kAtOnce = 40;  // milliseconds for which a carry waits for its picture
 constexpr Rgb kBlack = 0x00000000;
 constexpr Rgb kWhite = 0x00FFFFFF;
 
 }  // namespace
 
-DragImage::DragImage(Program& program) : Timer1(program.Windows), program_(program) {
+DragImage::DragImage(Program& program)
+    : Timer1(program.Windows), program_(program), icons_(program) {
   Timer1.SetInterval(kFollowMilliseconds);
   Timer1.SetEnabled(false);
   Timer1.Tick = [this] { Timer1_Timer(); };
 }
 
 void DragImage::SetDragImage(std::string_view icon) {
-  forms::WindowSystem& windows = program_.Windows;
-  const Picture picture = MakePicture(Trim(icon));
-  const PixelSize size = picture ? picture->Size() : PixelSize{};
-  windows.SetMouseIcon(picture, {size.width / 2, size.height / 2});
-  windows.SetMousePointer(forms::MousePointer::Custom);
+  icons_.Drop();
+  Carry(MakePicture(Trim(icon)));
+  program_.Windows.SetMousePointer(forms::MousePointer::Custom);
   DragCursorOk = true;
   Timer1.SetEnabled(true);
 }
 
+void DragImage::Carry(const Picture& picture) {
+  const PixelSize size = picture ? picture->Size() : PixelSize{};
+  program_.Windows.SetMouseIcon(picture, {size.width / 2, size.height / 2});
+}
+
 void DragImage::RemoveDragImage() {
+  icons_.Drop();
   Timer1.SetEnabled(false);
   DragCursorOk = false;
   program_.Windows.SetMousePointer(forms::MousePointer::Default);
@@ -59,13 +64,24 @@ Picture DragImage::MakePicture(std::string_view icon) {
                                       .IconsPath = program_.Paths.IconsPath,
                                       .WebLinkIcon = program_.Icons.WebLinkIcon},
                                      IconCaller::Menu);
-  Picture picture = form.Kind == IconKind::BuiltIn ? MakeGlyph(program_.Windows, form.Text, scale)
-                                                   : CutOutIcon(icon);
-  return picture ? picture : MakeGlyph(program_.Windows, "hand", scale);
+  const Picture hand = MakeGlyph(program_.Windows, "hand", scale);
+  if (form.Kind == IconKind::BuiltIn) {
+    const Picture own = MakeGlyph(program_.Windows, form.Text, scale);
+    return own ? own : hand;
+  }
+  const Picture cut =
+      CutOut(icons_.Ask(icon, PictureSize(), kAtOnce, [this, hand](const IconLook& look) {
+        const Picture late = CutOut(look);
+        Carry(late ? late : hand);
+        ShowPointer();
+      }));
+  return cut ? cut : hand;
 }
 
-// Icons have soft edges, and a pointer has none: each pixel is shown whole or not at all.
-Picture DragImage::CutOutIcon(std::string_view icon) {
+// Icons have soft edges, and a pointer has none: each pixel is shown whole or not at all. Null for
+// what is no icon.
+Picture DragImage::CutOut(const IconLook& look) const {
+  if (!look.Glyph.empty()) return nullptr;
   forms::WindowSystem& windows = program_.Windows;
   const int side = PictureSize();
   const PixelRect whole{0, 0, side, side};
@@ -73,15 +89,12 @@ Picture DragImage::CutOutIcon(std::string_view icon) {
   const std::unique_ptr<Canvas> onWhite = windows.CreateCanvas(whole.Size());
   onBlack->FillBox(whole, kBlack);
   onWhite->FillBox(whole, kWhite);
-  if (!ResolveAndDraw(program_, *onBlack, icon, {0, 0}, side) ||
-      !ResolveAndDraw(program_, *onWhite, icon, {0, 0}, side)) {
-    return nullptr;
-  }
+  if (!icons_.Draw(*onBlack, look, side) || !icons_.Draw(*onWhite, look, side)) return nullptr;
   std::shared_ptr<Canvas> picture = windows.CreateCanvas(whole.Size());
   for (int y = 0; y < side; ++y) {
     for (int x = 0; x < side; ++x) {
       const Rgb pixel =
-          CutOut(onBlack->PixelAt({x, y}), onWhite->PixelAt({x, y}), forms::Image::kMask);
+          corvelle::CutOut(onBlack->PixelAt({x, y}), onWhite->PixelAt({x, y}), forms::Image::kMask);
       picture->FillBox({x, y, x + 1, y + 1}, pixel);
     }
   }

@@ -4,6 +4,7 @@
 
 #include "core/WindowPorts.h"
 #include "forms/Timer.h"
+#include "icons/AskedIcons.h"
 #include "platform/Canvas.h"
 #include "toolbar/layout/CarryRules.h"
 
@@ -31,11 +32,13 @@ class DragImage final : public DragImagePort {
   void ShowPointer();
   /// The side of the picture in pixels: that of the shell's large icons, which follows the scale.
   [[nodiscard]] int PictureSize() const;
-  /// The icon cut out of its ground; a hand where the icon cannot be drawn.
+  /// The icon cut out of its ground; a hand where there is none, and until it is known.
   [[nodiscard]] Picture MakePicture(std::string_view icon);
-  [[nodiscard]] Picture CutOutIcon(std::string_view icon);
+  [[nodiscard]] Picture CutOut(const IconLook& look) const;
+  void Carry(const Picture& picture);
 
   Program& program_;
+  AskedIcons icons_;
 };
 
 }  // namespace corvelle

@@ -39,7 +39,8 @@ void StripIcons::Paint(const PixelRect& place, const IconLook& look) {
   const std::unique_ptr<Canvas> icon = program_.Windows.CreateCanvas(place.Size());
   const PixelRect whole{0, 0, place.Width(), place.Height()};
   icon->FillBox(whole, forms::Resolve(program_.Windows, box_.BackColor()));
-  icons_.Draw(*icon, look, place.Width());
+  // What has no icon at all keeps an empty face.
+  static_cast<void>(icons_.Draw(*icon, look, place.Width()));
   box_.DrawPixels(place, [&](Canvas& canvas) { canvas.DrawCanvas(*icon, whole, place.TopLeft()); });
 }
 
