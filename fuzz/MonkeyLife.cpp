@@ -225,6 +225,7 @@ std::string MonkeyLife::Live(int events) {
   strip_ = parts_->Toolbar.WindowHandle();
   std::string wrong = started ? WhatIsWrong() : std::string();
   for (lived_ = 0; started && lived_ < events && wrong.empty(); ++lived_) {
+    NoteTree();
     lossesAllowed_ = 0;
     deleting_.clear();
     windowUsed_ = false;
@@ -232,7 +233,6 @@ std::string MonkeyLife::Live(int events) {
     conflictAsked_ = false;
     lost_ = new_ = {};
     moreEntries_ = moreRecords_ = 0;
-    NoteTree();
     NoteMenu();
     propertiesUp_ = parts_->Properties.IsLoaded();
     const bool before = TreeIsAtHand();

@@ -272,6 +272,8 @@ std::string MonkeyLife::WrongFiles() {
     return std::to_string(lost.Size()) + " entries are lost, one is\n" + lost.First() + "\n" +
            std::to_string(added.Size()) + " are new, one is\n" + added.First() + DiskCalls();
   }
+  if (world_->Files.Changes() == filesLookedAt_) return {};
+  filesLookedAt_ = world_->Files.Changes();
   if (!world_->Files.Has(kMenus) || disk_ == Disk::Failing) return {};
   for (const std::string& name : world_->Files.Names(kMenus)) {
     const std::string path = std::string(kMenus) + name;
