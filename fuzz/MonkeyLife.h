@@ -180,6 +180,7 @@ class MonkeyLife {
   [[nodiscard]] bool IsOffScreen() const;
   [[nodiscard]] std::string WrongDrag();
   [[nodiscard]] std::string WrongWindows() const;
+  [[nodiscard]] std::string WrongPicture() const;
   [[nodiscard]] std::string WrongForeground() const;
   [[nodiscard]] std::string WrongPlace() const;
   [[nodiscard]] std::string WrongBars() const;

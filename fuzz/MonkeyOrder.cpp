@@ -159,11 +159,20 @@ std::string MonkeyLife::WrongWindows() const {
     if (!seen.contains(std::string(name))) return std::string(name) + " is gone";
   }
   if (seen.contains("frmStartup")) return "the window of the start stays";
-  const bool pulled = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
-  // The menu under a dropped address is covered until the address is dealt with.
-  const bool waits = parts_->WebLink.WebLinkPending;
-  if (parts_->StillPicture.IsLoaded() && !pulled && !waits) return "a still picture stays";
-  return {};
+  return WrongPicture();
+}
+
+// A still picture is that of a menu under a dropped address, until the address is dealt with, or
+// the outline of a strip that is being pulled.
+std::string MonkeyLife::WrongPicture() const {
+  const frmImage& picture = parts_->StillPicture;
+  if (picture.MenuCaptured()) {
+    if (!picture.IsLoaded()) return "a menu is covered by no picture";
+    if (!parts_->WebLink.WebLinkPending) return "a still picture of the menu stays";
+    return MenuUp() ? "" : "a still picture covers a menu that is gone";
+  }
+  const bool held = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
+  return picture.IsLoaded() && !held ? "a still picture stays" : "";
 }
 
 // Somebody has the foreground and can take what the user does, and the keyboard is there. A window
