@@ -48,8 +48,9 @@ class MonkeyLife {
   using Step = std::function<void()>;
 
   static constexpr std::string_view kMenus = "C:\\Corvelle\\Menus\\";
-  static constexpr int kMenuFiles = 6;  // that the monkey writes
-  static constexpr int kSingles = 7;    // that stand in the row at most when a life begins
+  static constexpr int kMenuFiles = 6;         // that the monkey writes
+  static constexpr int kSingles = 7;           // that stand in the row at most when a life begins
+  static constexpr int kAllAnswered = 10'000;  // milliseconds, more than any answer takes
   static constexpr std::string_view kFarFolder = "D:\\Docs\\";
 
   // ---- the world before the start, and the choice of events (MonkeyLife.cpp) ----

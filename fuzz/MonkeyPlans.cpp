@@ -15,9 +15,8 @@ constexpr int kMainMenuButton = 1;
 constexpr int kMainMenuItems = 11;
 constexpr int kCustomizeItem = 1;
 constexpr int kExitItem = 11;
-constexpr int kRest = 3000;           // milliseconds
-constexpr int kAllAnswered = 10'000;  // likewise, longer than any answer takes
-constexpr int kReveal = 600;          // milliseconds in which a hidden strip has come out
+constexpr int kRest = 3000;   // milliseconds
+constexpr int kReveal = 600;  // milliseconds in which a hidden strip has come out
 
 const std::array<std::string, 7> kDragged = {"C:\\Docs\\letter.txt",
                                              "C:\\Tools\\tool.exe",
