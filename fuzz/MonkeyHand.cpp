@@ -38,12 +38,14 @@ bool MonkeyLife::IsDown(MouseButton button) const {
 
 void MonkeyLife::Press(MouseButton button) {
   if (IsDown(button)) return;
+  FollowTree();
   Tell("press " + std::string(NameOf(button)));
   world_->Desktop.Press(button);
 }
 
 void MonkeyLife::Release(MouseButton button) {
   if (!IsDown(button)) return;
+  FollowTree();
   Tell("release " + std::string(NameOf(button)));
   sim::SimDesktop& desktop = world_->Desktop;
   const bool dragged = desktop.Dragging();

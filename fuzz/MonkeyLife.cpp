@@ -225,19 +225,18 @@ std::string MonkeyLife::Live(int events) {
   strip_ = parts_->Toolbar.WindowHandle();
   std::string wrong = started ? WhatIsWrong() : std::string();
   for (lived_ = 0; started && lived_ < events && wrong.empty(); ++lived_) {
+    NoteTree();
     lossesAllowed_ = 0;
     deleting_.clear();
-    windowUsed_ = false;
+    windowUsed_ = TreeIsAtHand();
     filesChangedInside_ = false;
     conflictAsked_ = false;
     lost_ = new_ = {};
     moreEntries_ = moreRecords_ = 0;
-    NoteTree();
     NoteMenu();
     propertiesUp_ = parts_->Properties.IsLoaded();
-    const bool before = TreeIsAtHand();
     Act();
-    windowUsed_ = windowUsed_ || before || TreeIsAtHand();
+    windowUsed_ = windowUsed_ || TreeIsAtHand();
     if (world_->Desktop.QuitCalled() || !parts_->Companion.WindowLoaded()) break;
     wrong = WhatIsWrong();
     if (!wrong.empty()) wrong += " (event " + std::to_string(lived_) + ")";

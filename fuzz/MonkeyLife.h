@@ -48,8 +48,9 @@ class MonkeyLife {
   using Step = std::function<void()>;
 
   static constexpr std::string_view kMenus = "C:\\Corvelle\\Menus\\";
-  static constexpr int kMenuFiles = 6;  // that the monkey writes
-  static constexpr int kSingles = 7;    // that stand in the row at most when a life begins
+  static constexpr int kMenuFiles = 6;         // that the monkey writes
+  static constexpr int kSingles = 7;           // that stand in the row at most when a life begins
+  static constexpr int kAllAnswered = 10'000;  // milliseconds, more than any answer takes
   static constexpr std::string_view kFarFolder = "D:\\Docs\\";
 
   // ---- the world before the start, and the choice of events (MonkeyLife.cpp) ----
@@ -145,6 +146,8 @@ class MonkeyLife {
   [[nodiscard]] bool TreeIsAtHand() const;
   /// What the tree holds before an event.
   void NoteTree();
+  /// Notes that the tree has changed, and by whom.
+  void FollowTree();
   void NoteSave(const EntryLedger& filesBefore, const EntryLedger& saved);
 
   // ---- what happens without the user (MonkeyWorld.cpp) ----
@@ -178,6 +181,7 @@ class MonkeyLife {
   [[nodiscard]] bool IsOffScreen() const;
   [[nodiscard]] std::string WrongDrag();
   [[nodiscard]] std::string WrongWindows() const;
+  [[nodiscard]] std::string WrongPicture() const;
   [[nodiscard]] std::string WrongForeground() const;
   [[nodiscard]] std::string WrongPlace() const;
   [[nodiscard]] std::string WrongBars() const;
@@ -229,13 +233,15 @@ class MonkeyLife {
   bool quiet_ = false;  // everything was let go a while ago
   bool insideUp_ = false;
   EntryLedger entries_;
-  int stockTaken_ = -1;    // SimFiles::Changes when entries_ was read
-  int lossesAllowed_ = 0;  // in this event
-  EntryLedger lost_;       // in this event by anything but a save of Customize
-  EntryLedger new_;        // likewise
-  int moreEntries_ = 0;    // likewise
-  int moreRecords_ = 0;    // likewise, with damaged ones
+  int stockTaken_ = -1;     // SimFiles::Changes when entries_ was read
+  int filesLookedAt_ = -1;  // likewise when their bytes were looked at
+  int lossesAllowed_ = 0;   // in this event
+  EntryLedger lost_;        // in this event by anything but a save of Customize
+  EntryLedger new_;         // likewise
+  int moreEntries_ = 0;     // likewise
+  int moreRecords_ = 0;     // likewise, with damaged ones
   std::string wrongSave_;
+  std::string wrongTree_;
   long treeNoted_ = 0;     // the revision that the next one knows
   TreeLedger treeLedger_;  // of Customize
   /// A change of the menu files that has begun while Customize is up: what was there before it.

@@ -159,11 +159,20 @@ std::string MonkeyLife::WrongWindows() const {
     if (!seen.contains(std::string(name))) return std::string(name) + " is gone";
   }
   if (seen.contains("frmStartup")) return "the window of the start stays";
-  const bool pulled = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
-  // The menu under a dropped address is covered until the address is dealt with.
-  const bool waits = parts_->WebLink.WebLinkPending;
-  if (parts_->StillPicture.IsLoaded() && !pulled && !waits) return "a still picture stays";
-  return {};
+  return WrongPicture();
+}
+
+// A still picture is that of a menu under a dropped address, until the address is dealt with, or
+// the outline of a strip that is being pulled.
+std::string MonkeyLife::WrongPicture() const {
+  const frmImage& picture = parts_->StillPicture;
+  if (picture.MenuCaptured()) {
+    if (!picture.IsLoaded()) return "a menu is covered by no picture";
+    if (!parts_->WebLink.WebLinkPending) return "a still picture of the menu stays";
+    return MenuUp() ? "" : "a still picture covers a menu that is gone";
+  }
+  const bool held = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
+  return picture.IsLoaded() && !held ? "a still picture stays" : "";
 }
 
 // Somebody has the foreground and can take what the user does, and the keyboard is there. A window
@@ -272,6 +281,8 @@ std::string MonkeyLife::WrongFiles() {
     return std::to_string(lost.Size()) + " entries are lost, one is\n" + lost.First() + "\n" +
            std::to_string(added.Size()) + " are new, one is\n" + added.First() + DiskCalls();
   }
+  if (world_->Files.Changes() == filesLookedAt_) return {};
+  filesLookedAt_ = world_->Files.Changes();
   if (!world_->Files.Has(kMenus) || disk_ == Disk::Failing) return {};
   for (const std::string& name : world_->Files.Names(kMenus)) {
     const std::string path = std::string(kMenus) + name;
@@ -353,6 +364,8 @@ std::string MonkeyLife::WhatIsWrong() {
 
 std::string MonkeyLife::WrongEnd() {
   HealPlaces();
+  // An answer that comes after the end is told to nobody, and the desk would wait for it.
+  if (slowPlaces_) LetPass(kAllAnswered);
   if (std::string wrong = WrongFiles(); !wrong.empty()) return wrong;
   // The windows may save what the last event did in them.
   NoteTree();
@@ -375,8 +388,7 @@ std::string MonkeyLife::WrongEnd() {
   for (const auto& [name, timer] : timers) {
     if (timer->Enabled()) return std::string(name) + " outlives the end";
   }
-  const int slow = world_->SlowAnswers.UnderWay();  // each of them may have a timer of the system's
-  if (world_->Desktop.Clock().Running() > slow + (world_->Desktop.Dragging() ? 1 : 0))
+  if (world_->Desktop.Clock().Running() > (world_->Desktop.Dragging() ? 1 : 0))
     return "a timer outlives the end";
   return WrongFiles();
 }

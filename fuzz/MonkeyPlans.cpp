@@ -15,6 +15,7 @@ constexpr int kMainMenuButton = 1;
 constexpr int kMainMenuItems = 11;
 constexpr int kCustomizeItem = 1;
 constexpr int kExitItem = 11;
+constexpr int kRest = 3000;   // milliseconds
 constexpr int kReveal = 600;  // milliseconds in which a hidden strip has come out
 
 const std::array<std::string, 7> kDragged = {"C:\\Docs\\letter.txt",
@@ -355,7 +356,8 @@ void MonkeyLife::Rest() {
   HealPlaces();
   Tell("the user turns to another program");
   world_->Desktop.TakeForeground(others_.front());
-  LetPass(3000);
+  // What a slow place was asked before is answered or given up by then.
+  LetPass(slowPlaces_ ? kAllAnswered : kRest);
   quiet_ = true;
   tally_.Note("rest");
 }

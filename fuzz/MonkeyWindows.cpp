@@ -98,6 +98,7 @@ PixelPoint MonkeyLife::PointInControl(const forms::Form& form) {
 void MonkeyLife::PressWith(int held, int key) {
   Tell("key " + std::to_string(held) + "+" + std::to_string(key));
   world_->Desktop.KeyDown(held);
+  FollowTree();
   world_->Desktop.PressKey(key);
   world_->Desktop.KeyUp(held);
 }
@@ -128,6 +129,7 @@ void MonkeyLife::ChooseFromBar(const forms::Form& form) {
   const std::string name = form.Name();
   // What the menu offers is known when it is open.
   world_->Desktop.ChooseFromMenuBar(form.hWnd(), menu, [&](const sim::Popup& open) -> std::string {
+    FollowTree();
     std::vector<std::string> lines;
     CollectLines(open.Items, {}, lines);
     std::erase_if(lines, [&](const std::string& line) { return !line.starts_with(menu + ">"); });
@@ -172,6 +174,7 @@ void MonkeyLife::UseWindow(forms::Form& form) {
     world_->Desktop.TakeForeground(form.hWnd());
     world_->Desktop.Pump();
     if (!form.IsLoaded()) return;
+    FollowTree();
   }
   const int what = Number(100);
   if (what < 32) {
@@ -227,6 +230,7 @@ forms::FolderChoice MonkeyLife::ChooseFolder() {
 }
 
 void MonkeyLife::ChooseInWindow(const sim::Popup& popup) {
+  FollowTree();
   std::vector<std::string> lines;
   CollectLines(popup.Items, {}, lines);
   if (lines.empty() || Chance(15)) return;
@@ -279,33 +283,37 @@ bool MonkeyLife::TreeIsAtHand() const {
 }
 
 void MonkeyLife::NoteTree() {
+  FollowTree();
   if (!parts_->Customize.IsLoaded()) {
     treeLedger_.Close();
   } else if (!treeLedger_.IsOpen()) {
     treeLedger_.Open(TreeEntries());
     treeNoted_ = parts_->Customize.Editor.Tree.Revision();
-  } else if (treeNoted_ != parts_->Customize.Editor.Tree.Revision()) {
-    static_cast<void>(treeLedger_.ChangeTree(TreeEntries(), true));
-    treeNoted_ = parts_->Customize.Editor.Tree.Revision();
   }
+}
+
+// What comes in from elsewhere when a gesture begins may be taken out by its end, and both are told
+// apart.
+void MonkeyLife::FollowTree() {
+  if (!parts_->Customize.IsLoaded() || !treeLedger_.IsOpen()) return;
+  const long revision = parts_->Customize.Editor.Tree.Revision();
+  if (treeNoted_ == revision) return;
+  treeNoted_ = revision;
+  SettleFiles();
+  const EntryLedger lost = treeLedger_.ChangeTree(TreeEntries(), windowUsed_ || TreeIsAtHand());
+  if (lost.Size() == 0 || disk_ == Disk::Failing || !wrongTree_.empty()) return;
+  wrongTree_ =
+      std::to_string(lost.Size()) + " entries are lost from the tree, one is\n" + lost.First();
 }
 
 // The tree changes by what the user does in the window; else only by what became of the files.
 std::string MonkeyLife::WrongTree() {
-  if (!parts_->Customize.IsLoaded()) return {};
-  const long revision = parts_->Customize.Editor.Tree.Revision();
-  if (treeLedger_.IsOpen() && treeNoted_ == revision) return {};
-  const EntryLedger now = TreeEntries();
-  if (!treeLedger_.IsOpen()) {
-    const EntryLedger missing = entries_.Without(now);
-    if (missing.Size() == 0 || disk_ != Disk::Well || filesChangedInside_) return {};
-    return std::to_string(missing.Size()) + " entries of the files are not in the tree, one is\n" +
-           missing.First();
-  }
-  treeNoted_ = revision;
-  const EntryLedger lost = treeLedger_.ChangeTree(now, windowUsed_);
-  if (lost.Size() == 0 || disk_ == Disk::Failing) return {};
-  return std::to_string(lost.Size()) + " entries are lost from the tree, one is\n" + lost.First();
+  FollowTree();
+  if (!parts_->Customize.IsLoaded() || treeLedger_.IsOpen()) return wrongTree_;
+  const EntryLedger missing = entries_.Without(TreeEntries());
+  if (missing.Size() == 0 || disk_ != Disk::Well || filesChangedInside_) return {};
+  return std::to_string(missing.Size()) + " entries of the files are not in the tree, one is\n" +
+         missing.First();
 }
 
 }  // namespace corvelle::fuzz
