@@ -7,7 +7,8 @@ contract: windows_contract_tests.exe as a whole, in one session, beside the firs
 e2e: each test of e2e_tests.exe in a fresh session, beside a fresh copy of the program's folder
      (BUILD/package). Tests whose suite ends in AtEachScale run at 96 and at 120 dpi. Logs and pictures
      go below --out (build/e2e), one folder for each test. --times 10 lets the tests that repeat an act
-     (QuickMenus, Choices, DamagedMenus, WindowCost) go on ten times as long.
+     (QuickMenus, Choices, DamagedMenus, WindowCost) go on ten times as long, and lets MenuFigures measure
+     all menus. --tell prints the tables of the roads that measure.
 
 A session in which the test program did not come to its first line tells nothing of Corvelle: another one
 takes its place, and the run says so.
@@ -262,6 +263,8 @@ def walk(arguments, road, mark=""):
     good = passed(outcome)
     with printing:
         print(f"  {'ok    ' if good else 'FAILED'} {road} ({time.monotonic() - began:.1f} s)", flush=True)
+        if arguments.tell:
+            print("\n".join(line for line in outcome.text.splitlines() if line.startswith("|")), flush=True)
         if not good:
             print(f"  pictures in {folder}; {outcome.tell(3000)}", flush=True)
     return good
@@ -313,6 +316,7 @@ def main():
     parser.add_argument("--filter", default="*", help="as GoogleTest has it")
     parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("--times", type=int, default=1, help="how often tests repeat what they repeat")
+    parser.add_argument("--tell", action="store_true", help="print the tables of what was measured")
     parser.add_argument("which", nargs="*", choices=["contract", "e2e", []], default=[])
     arguments = parser.parse_args()
     for sign in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):

@@ -3,13 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdio>
 #include <limits>
 #include <string>
 #include <vector>
 
 #include "core/MenuRecord.h"
+#include "e2e/Heartbeat.h"
+#include "e2e/MenuLook.h"
 #include "e2e/ProcessCounts.h"
 #include "e2e/WineDesk.h"
 #include "scenario/Strip.h"
@@ -29,64 +30,6 @@ using scenario::WriteMenu;
 constexpr int kRows = 24;
 constexpr double kNever = std::numeric_limits<double>::max();
 
-double Milliseconds() {
-  LARGE_INTEGER now = {};
-  LARGE_INTEGER frequency = {};
-  QueryPerformanceCounter(&now);
-  QueryPerformanceFrequency(&frequency);
-  return static_cast<double>(now.QuadPart) * 1000 / static_cast<double>(frequency.QuadPart);
-}
-
-/// The left part of a window, read as a whole.
-class Look {
- public:
-  explicit Look(HWND window) {
-    RECT bounds = {};
-    GetWindowRect(window, &bounds);
-    height_ = static_cast<int>(bounds.bottom - bounds.top);
-    BITMAPINFO form = {};
-    form.bmiHeader.biSize = sizeof(form.bmiHeader);
-    form.bmiHeader.biWidth = kWidth;
-    form.bmiHeader.biHeight = -height_;
-    form.bmiHeader.biPlanes = 1;
-    form.bmiHeader.biBitCount = 32;
-    HDC source = GetDCEx(window, nullptr, DCX_WINDOW | DCX_CACHE);
-    HDC memory = CreateCompatibleDC(source);
-    void* bits = nullptr;
-    HBITMAP bitmap = CreateDIBSection(memory, &form, DIB_RGB_COLORS, &bits, nullptr, 0);
-    if (bitmap != nullptr) {
-      HGDIOBJ before = SelectObject(memory, bitmap);
-      BitBlt(memory, 0, 0, kWidth, height_, source, 0, 0, SRCCOPY);
-      GdiFlush();
-      const auto* const pixels = static_cast<const std::uint32_t*>(bits);
-      pixels_.assign(pixels, pixels + static_cast<std::size_t>(kWidth) * height_);
-      SelectObject(memory, before);
-      DeleteObject(bitmap);
-    }
-    DeleteDC(memory);
-    ReleaseDC(window, source);
-  }
-
-  /// How many different colours there are around a row's middle between two columns.
-  [[nodiscard]] int Colours(int middle, int left, int right) const {
-    std::vector<std::uint32_t> seen;
-    for (int y = std::max(0, middle - 5); y < std::min(height_, middle + 5); ++y) {
-      for (int x = left; x < right; ++x) {
-        const std::uint32_t colour = pixels_[static_cast<std::size_t>(y * kWidth + x)] & 0xFFFFFFU;
-        if (std::find(seen.begin(), seen.end(), colour) == seen.end()) seen.push_back(colour);
-      }
-    }
-    return static_cast<int>(seen.size());
-  }
-  [[nodiscard]] bool IsRead() const { return !pixels_.empty(); }
-  [[nodiscard]] int Height() const { return height_; }
-
- private:
-  static constexpr int kWidth = 80;
-  int height_ = 0;
-  std::vector<std::uint32_t> pixels_;
-};
-
 /// When what was first seen, in milliseconds after the press.
 struct Opening {
   double Captions = kNever;  // of the last row: all of them stand then
@@ -102,17 +45,17 @@ Opening OpenAndWatch(WineDesk& desk, int button) {
   desk.Pause(50);
   HWND menu = desk.Handle("frmQMenu");
   const int gap = desk.TwipsPerPixel() < 14 ? 6 : 7;
-  const double pressed = Milliseconds();
+  const double pressed = NowInMilliseconds();
   desk.Press(scenario::Button::Left);
   desk.Release(scenario::Button::Left);
-  while (Milliseconds() < pressed + 8000 && opening.LastIcon == kNever) {
+  while (NowInMilliseconds() < pressed + 8000 && opening.LastIcon == kNever) {
     if (menu == nullptr) menu = desk.Handle("frmQMenu");
     if (menu == nullptr || IsWindowVisible(menu) == FALSE) {
       Sleep(1);
       continue;
     }
-    const Look look(menu);
-    const double now = Milliseconds() - pressed;
+    const MenuLook look(menu);
+    const double now = NowInMilliseconds() - pressed;
     // The first label stands 6 pixels below the border; 13 are left below the last with the
     // borders.
     const int line = (look.Height() - 19 - (kRows - 1) * gap) / kRows;
@@ -238,16 +181,16 @@ TEST(MenuCost, OpeningsAndRebuildsLeaveNothingBehind) {
   const Opener opener(desk);
   int opened = 0;
   int missed = 0;
-  const double began = Milliseconds();
+  const double began = NowInMilliseconds();
   const auto openUpTo = [&](int count) {
     // Each press is on another button than the one before, which would close the menu.
     while (opened < count && missed < 100) {
-      if (opened >= 500 && Milliseconds() > began + kLongest) break;
+      if (opened >= 500 && NowInMilliseconds() > began + kLongest) break;
       ++(opener.Open(2 + (opened + missed + 1) % kMenus) ? opened : missed);
       if (opened % kRebuiltEach == 0) opener.Rebuild();
     }
     std::printf("%.1f ms for each of %d openings, %d times no menu came\n",
-                (Milliseconds() - began) / (opened + missed), opened, missed);
+                (NowInMilliseconds() - began) / (opened + missed), opened, missed);
   };
   // What F5 does is seen by a file with more items.
   const int height = desk.BoundsOf("frmQMenu").Height();
