@@ -51,7 +51,7 @@ class Canvas {
   /// A straight line; its last point is not drawn, as in all drawing of Windows. `width` >= 1.
   virtual void DrawLine(PixelPoint from, PixelPoint to, Rgb colour, int width) = 0;
 
-  /// One line of text with its upper left corner at `at`, no background, "&" as it stands.
+  /// One line of text with its upper left corner at `at`, no background; "&" is a plain character.
   virtual void DrawString(PixelPoint at, std::string_view text, const ScaledFont& font,
                           Rgb colour) = 0;
 

@@ -30,7 +30,7 @@ class Fetched : public ::testing::Test {
     desk_.OpenAgain();
   }
   const Strings& Small() { return desk_.World.Icons.Asked(IconList::Small); }
-  /// How often the shell was asked for the small icon of a path, case apart.
+  /// How often the shell was asked for the small icon of a path, ignoring case.
   int Times(const std::string& path) {
     return static_cast<int>(std::count_if(Small().begin(), Small().end(), [&](const auto& asked) {
       return EqualNoCase(asked, path);

@@ -25,7 +25,7 @@ class StandInStrip final : public forms::Form, public ToolbarPort {
   std::vector<std::string> Refused;
   /// Each time the watch on the pointer was switched, and how.
   std::vector<bool> Watches;
-  /// What happens while all buttons are made anew.
+  /// What happens while all buttons are made again.
   std::function<void()> WhileRebuilding;
   /// Where the menu goes, twips.
   float MenuLeft = 3000;

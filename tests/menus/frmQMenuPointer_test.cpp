@@ -338,7 +338,7 @@ TEST(frmQMenuRightClick, WithoutAnItemOrOnADisabledOneDoesNothing) {
   EXPECT_EQ(popup.Shown, 0);
 }
 
-/// A menu that was read anew, as after an edit, while the pointer stands on its second item.
+/// A menu that was read again, as after an edit, while the pointer rests on its second item.
 class Rebuilt : public ::testing::Test {
  protected:
   void SetUp() override {

@@ -223,7 +223,7 @@ TEST(AppBarNews, AHiddenStripStaysABareLineWhenTheColoursChange) {
   }
 }
 
-// The shell ends and comes up anew.
+// The shell ends and is started again.
 
 struct NewShellDesk : NewsDesk {
   void ComeUpAnew() {

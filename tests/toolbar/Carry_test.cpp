@@ -284,7 +284,7 @@ TEST(Carry, OpensTheMenusOnItsWayAlongTheStrip) {
   EXPECT_EQ(desk.ItemsOf(2), (Titles{"X", "B", "Y"}));
   EXPECT_EQ(desk.MenuUp(), 3);
   EXPECT_EQ(desk.Menu.Items().Count(), 3);
-  // The menu that it came from is read anew as well.
+  // The menu that it came from is read again as well.
   desk.Open(2);
   EXPECT_EQ(desk.Menu.Items().Count(), 3);
   EXPECT_EQ(desk.Menu.Lbl[2].Caption(), "C");
