@@ -6,8 +6,6 @@
 
 #include "base/Text.h"
 #include "base/Wildcard.h"
-#include "core/DroppedFiles.h"
-#include "core/Program.h"
 #include "menus/folders/GeneratedMenu.h"
 
 namespace corvelle {
@@ -69,8 +67,8 @@ FoundFiles ListFolderItem(const FolderLister& list, const FolderItem& item) {
   return found;
 }
 
-clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
-                           const FoundFiles& found, std::vector<std::string>& paths) {
+clsFolder ExpandFolderItem(GeneratedMenu& menu, int record, const FoundFiles& found,
+                           std::vector<std::string>& paths) {
   clsFolder folder;
   folder.FolderName = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
   const FolderItem item = ParseFolderItem(folder.FolderName);
@@ -87,8 +85,7 @@ clsFolder ExpandFolderItem(Program& program, GeneratedMenu& menu, int record,
     if (!item.Merged && last != found.Folders.size() && last != file.Folder) menu.AddRule();
     last = file.Folder;
     // What no record can hold starts from the menu all the same.
-    const std::string stored =
-        PathForRecord(program.Services.Files, program.Services.Ansi, path).value_or(path);
+    const std::string& stored = file.Short.empty() ? path : file.Short;
     menu.AddEntry(record,
                   {FileTitleOf(file.Shown, file.Name, item.WithoutExtension), stored, stored});
   }
