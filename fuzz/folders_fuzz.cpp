@@ -28,7 +28,9 @@ constexpr std::string_view kStarts[] = {
     "CSIDL_MNU",   "C:\\Docs\\*.*/s-eu", "*",      ""};
 
 struct Home {
-  Home() : program(world.Services(), world.Windows()), folders(program) {
+  Home()
+      : program(world.Services(), world.Windows()),
+        folders(program.Services, program.Windows, program.Answers, program.Icons) {
     program.Paths.MenusPath = kMenus;
     world.Files.Put("C:\\Docs\\a.txt", "x");
     world.Files.Put("C:\\Docs\\inner\\b.lnk", "x");

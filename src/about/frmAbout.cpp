@@ -135,7 +135,7 @@ void frmAbout::Form_KeyDown(int keyCode, forms::ShiftState shift) {
 // ---- the look ----
 
 float frmAbout::WidthOf(std::string_view text) const {
-  return static_cast<float>(MeasureText(text).width) * Screen().TwipsPerPixelX;
+  return static_cast<float>(MeasureText(text).width) * Scale().TwipsPerPixelX;
 }
 
 AboutScene frmAbout::Scene() const {

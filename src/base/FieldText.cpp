@@ -1,5 +1,6 @@
 #include "base/FieldText.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "base/CodePage.h"
@@ -9,6 +10,12 @@
 namespace corvelle {
 
 namespace {
+
+/// True for text that all code pages of the system hold as it is: most of all titles and paths.
+bool IsPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
 
 /// The first characters of `text` in the code page, `width` bytes at most; nothing when the code
 /// page cannot hold them or when they would be read as something else.
@@ -35,6 +42,7 @@ std::string DecodeText(std::string_view bytes, const CodePage& ansi) {
 }
 
 std::string EncodeText(std::string_view text, const CodePage& ansi) {
+  if (IsPlain(text)) return std::string(text);
   std::string valid = RepairUtf8(text);
   std::optional<std::string> bytes = ansi.Encode(valid);
   if (bytes && DecodeText(*bytes, ansi) == valid) return *std::move(bytes);
@@ -46,9 +54,14 @@ std::string DecodeField(std::string_view bytes, const CodePage& ansi) {
 }
 
 std::string EncodeField(std::string_view text, std::size_t width, const CodePage& ansi) {
-  const std::string valid = RepairUtf8(text);
-  std::optional<std::string> bytes = AnsiField(valid, width, ansi);
-  std::string field = bytes ? *std::move(bytes) : CutUtf8(valid, width);
+  std::string field;
+  if (IsPlain(text)) {
+    field = text.substr(0, width);
+  } else {
+    const std::string valid = RepairUtf8(text);
+    std::optional<std::string> bytes = AnsiField(valid, width, ansi);
+    field = bytes ? *std::move(bytes) : CutUtf8(valid, width);
+  }
   field.resize(width, ' ');
   return field;
 }

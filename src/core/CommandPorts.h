@@ -42,9 +42,10 @@ class BrowserPort {
 
   /// Back to the system's browser.
   virtual void UseDefaultBrowser() = 0;
-  /// From now on the browser with that path, which may be a shell link. False, and a message, for
-  /// one that is not supported.
-  virtual bool UseBrowser(std::string_view path) = 0;
+  /// From now on the browser with that path. `then` is told true when it was taken, inside the
+  /// call; false, after a message, for one that is not supported. Where a shell link leads is asked
+  /// beside the windows: then it is told later, and not at all when another choice came first.
+  virtual void UseBrowser(std::string_view path, std::function<void(bool)> then) = 0;
 };
 
 /// The pages that explain the program, one for each matter. What the user asks for opens or is told

@@ -47,26 +47,25 @@ bool IsOfUse(const forms::DragData& data) noexcept {
   return data.Files.has_value() || data.Text.has_value();
 }
 
+bool FitsRecord(const CodePage& ansi, std::string_view path) {
+  return EncodeText(path, ansi).size() <= kNameWidth;
+}
+
 std::optional<std::string> PathForRecord(FileSystem& files, const CodePage& ansi,
                                          std::string_view path) {
-  const auto fits = [&ansi](std::string_view text) {
-    return EncodeText(text, ansi).size() <= kNameWidth;
-  };
-  if (fits(path)) return std::string(path);
+  if (FitsRecord(ansi, path)) return std::string(path);
   std::string shorter = files.ShortPath(path);
-  if (shorter.empty() || !fits(shorter)) return std::nullopt;
+  if (shorter.empty() || !FitsRecord(ansi, shorter)) return std::nullopt;
   return shorter;
 }
 
-DroppedEntries DroppedRecords(FileSystem& files, const CodePage& ansi,
-                              std::vector<std::string> names, const TitlesOf& titlesOf) {
+DroppedEntries DroppedRecords(std::vector<std::string> names, const NamesOfDropped& namesOf) {
   SortTexts(names);
-  const std::vector<std::string> titles = titlesOf(names);
+  const std::vector<DroppedName> known = namesOf(names);
   DroppedEntries dropped;
   for (std::size_t i = 0; i < names.size(); ++i) {
-    const std::optional<std::string> path = PathForRecord(files, ansi, names[i]);
-    if (path) {
-      dropped.Records.push_back({.FTitle = titles[i], .FIcon = *path, .FName = *path});
+    if (const auto& path = known[i].Stored) {
+      dropped.Records.push_back({.FTitle = known[i].Title, .FIcon = *path, .FName = *path});
     } else {
       dropped.Refused.push_back(std::move(names[i]));
     }

@@ -23,8 +23,11 @@ inline constexpr std::string_view kDropFileName = "tFile.tmp";
 /// True if there is anything in the data that a button or a menu can take.
 [[nodiscard]] bool IsOfUse(const forms::DragData& data) noexcept;
 
+/// True if a record can hold the path.
+[[nodiscard]] bool FitsRecord(const CodePage& ansi, std::string_view path);
+
 /// The path of a file as a record can hold it: itself, or with the short names of the disk where it
-/// is too long. Nothing when neither fits.
+/// is too long. Nothing when neither fits. Asks the disk for a path that is too long.
 [[nodiscard]] std::optional<std::string> PathForRecord(FileSystem& files, const CodePage& ansi,
                                                        std::string_view path);
 
@@ -34,12 +37,17 @@ struct DroppedEntries {
   std::vector<std::string> Refused;  // full paths that no record can hold
 };
 
-/// One record for each file, in ascending order of the names: its title by `titlesOf`, which gets
-/// them in that order, its icon and its command the full path.
-using TitlesOf = std::function<std::vector<std::string>(const std::vector<std::string>&)>;
-[[nodiscard]] DroppedEntries DroppedRecords(FileSystem& files, const CodePage& ansi,
-                                            std::vector<std::string> names,
-                                            const TitlesOf& titlesOf);
+/// What the disk and the shell know of a dropped file.
+struct DroppedName {
+  std::string Title;
+  std::optional<std::string> Stored;  // see PathForRecord
+};
+
+/// One record for each file, in ascending order of the names: its title and its path, which is its
+/// icon and its command, by `namesOf`, which gets them in that order.
+using NamesOfDropped = std::function<std::vector<DroppedName>(const std::vector<std::string>&)>;
+[[nodiscard]] DroppedEntries DroppedRecords(std::vector<std::string> names,
+                                            const NamesOfDropped& namesOf);
 
 /// What the user is told of the files that were refused; there is one at least. Names the first
 /// ten.

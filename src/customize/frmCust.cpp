@@ -236,7 +236,7 @@ void frmCust::PlaceControls() {
   const forms::FlagScope arranging(arranging_);
   const CustLayout at = ArrangeCustomize({.Width = ScaleWidth(),
                                           .Height = ScaleHeight(),
-                                          .TwipsPerPixel = Screen().TwipsPerPixelX,
+                                          .TwipsPerPixel = Scale().TwipsPerPixelX,
                                           .Finding = finding_,
                                           .Offering = Offers() > 0});
   Place(lblMenuTree, at.MenuTree);

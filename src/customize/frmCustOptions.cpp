@@ -128,11 +128,14 @@ void frmCust::ChooseBrowser(bool own) {
   if (browser == nullptr) return;
   if (own) {
     const std::string path = AskOneFile("Select one file.", Editor.LastFolder);
-    if (!path.empty()) browser->UseBrowser(path);
+    if (path.empty()) return;
+    browser->UseBrowser(path, [this, watch = MakeWatch()](bool) {
+      if (!watch.Gone()) LookForBrowser();
+    });
   } else {
     browser->UseDefaultBrowser();
+    LookForBrowser();
   }
-  LookForBrowser();
 }
 
 void frmCust::SetLargeIcons() {

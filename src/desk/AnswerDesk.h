@@ -55,7 +55,7 @@ class AnswerDesk {
  public:
   /// How long AskAtOnce waits for a disk, in milliseconds: with what follows it stays under a tenth
   /// of a second.
-  static constexpr int kAtOnce = 80;
+  static constexpr int kAtOnce = 60;
 
   AnswerDesk(SlowQuestions& questions, const SystemInfo& system, forms::WindowSystem& windows);
   AnswerDesk(const AnswerDesk&) = delete;

@@ -35,6 +35,7 @@ std::string LaneOfLookup(const Lookup& question) {
     case LookupKind::Drive:
     case LookupKind::DriveAtHand:
     case LookupKind::LinkTarget:
+    case LookupKind::ShortPaths:
       return PlaceOfPath(question.Path);
     case LookupKind::ShellFolder:
     case LookupKind::ShellEntries:
@@ -72,6 +73,7 @@ std::string KeyOfLookup(const Lookup& question) {
   switch (question.Kind) {
     case LookupKind::FolderEntries:
     case LookupKind::FileNames:
+    case LookupKind::ShortPaths:
       key += '\n' + UpperCase(question.Pattern);
       break;
     case LookupKind::FileIcon:

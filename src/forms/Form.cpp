@@ -52,7 +52,7 @@ void Form::SetLeastSize(float width, float height) {
   leastWidth_ = width;
   leastHeight_ = height;
   if (Peer() == nullptr || Frame() != FrameStyle::Sizable) return;
-  Peer()->SetLeastSize(ToPixels(0, 0, width, height, Screen()).Size());
+  Peer()->SetLeastSize(ToPixels(0, 0, width, height, Scale()).Size());
 }
 
 void Form::Center(float width, float height) {

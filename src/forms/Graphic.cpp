@@ -23,7 +23,7 @@ void Graphic::ZOrder(ZPlace place) {
 }
 
 PixelRect Graphic::PaintBounds() const {
-  return ToPixels(Left(), Top(), Width(), Height(), container_->Screen());
+  return ToPixels(Left(), Top(), Width(), Height(), container_->Scale());
 }
 
 void Graphic::Changed() {
@@ -42,7 +42,7 @@ void Graphic::EnabledChanged() {
 
 void Graphic::BoundsChanged(float oldLeft, float oldTop, float oldWidth, float oldHeight) {
   if (!Visible()) return;
-  const PixelRect before = ToPixels(oldLeft, oldTop, oldWidth, oldHeight, container_->Screen());
+  const PixelRect before = ToPixels(oldLeft, oldTop, oldWidth, oldHeight, container_->Scale());
   if (before == PaintBounds()) return;
   container_->Invalidate(before);
   container_->Invalidate(PaintBounds());

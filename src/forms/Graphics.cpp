@@ -67,9 +67,9 @@ void Label::SetAutoSize(bool autoSize) {
 void Label::Fit() {
   if (!autoSize_) return;
   const PixelSize text = Container().MeasureText(Unescape(caption_), font_);
-  const ScreenInfo screen = Container().Screen();
-  Move(Left(), Top(), static_cast<float>(text.width) * screen.TwipsPerPixelX,
-       static_cast<float>(text.height) * screen.TwipsPerPixelY);
+  const PixelScale scale = Container().Scale();
+  Move(Left(), Top(), static_cast<float>(text.width) * scale.TwipsPerPixelX,
+       static_cast<float>(text.height) * scale.TwipsPerPixelY);
 }
 
 void Label::Paint(Canvas& canvas) const {
@@ -118,9 +118,9 @@ void Line::SetBorderWidth(int pixels) {
 }
 
 PixelRect Line::PaintBounds() const {
-  const ScreenInfo screen = Container().Screen();
-  const PixelPoint from = ToPixels(x1_, y1_, screen);
-  const PixelPoint to = ToPixels(x2_, y2_, screen);
+  const PixelScale scale = Container().Scale();
+  const PixelPoint from = ToPixels(x1_, y1_, scale);
+  const PixelPoint to = ToPixels(x2_, y2_, scale);
   const int reach = drawWidth_ / 2;
   return {std::min(from.x, to.x) - reach, std::min(from.y, to.y) - reach,
           std::max(from.x, to.x) + reach + 1, std::max(from.y, to.y) + reach + 1};
@@ -128,8 +128,8 @@ PixelRect Line::PaintBounds() const {
 
 void Line::Paint(Canvas& canvas) const {
   WindowSystem& windows = Container().Windows();
-  const ScreenInfo screen = Container().Screen();
-  canvas.DrawLine(ToPixels(x1_, y1_, screen), ToPixels(x2_, y2_, screen), Resolve(windows, colour_),
+  const PixelScale scale = Container().Scale();
+  canvas.DrawLine(ToPixels(x1_, y1_, scale), ToPixels(x2_, y2_, scale), Resolve(windows, colour_),
                   drawWidth_);
 }
 
@@ -161,9 +161,9 @@ void Image::SetPicture(corvelle::Picture picture) {
 
 void Image::Fit() {
   if (!picture_) return;
-  const ScreenInfo screen = Container().Screen();
-  Move(Left(), Top(), static_cast<float>(picture_->Size().width) * screen.TwipsPerPixelX,
-       static_cast<float>(picture_->Size().height) * screen.TwipsPerPixelY);
+  const PixelScale scale = Container().Scale();
+  Move(Left(), Top(), static_cast<float>(picture_->Size().width) * scale.TwipsPerPixelX,
+       static_cast<float>(picture_->Size().height) * scale.TwipsPerPixelY);
 }
 
 void Image::FindParts() {

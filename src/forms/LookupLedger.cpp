@@ -17,18 +17,24 @@ LookupAnswer AnswerOf(std::optional<T> value) {
   return {.Value = *std::move(value)};
 }
 
+/// What `answer` gives for each line, as a list of entries.
+template <class Answer>
+std::vector<ShellFolderEntry> OfEachLine(std::string_view lines, Answer answer) {
+  std::vector<ShellFolderEntry> answers;
+  while (!lines.empty()) {
+    const std::size_t end = std::min(lines.find('\n'), lines.size());
+    answers.push_back({.Name = answer(std::string(lines.substr(0, end)))});
+    lines.remove_prefix(std::min(end + 1, lines.size()));
+  }
+  return answers;
+}
+
 /// A name that the shell does not know is shown as it is.
 std::vector<ShellFolderEntry> NamesOf(ShellIcons& icons, const std::string& folder,
                                       std::string_view lines) {
-  std::vector<ShellFolderEntry> names;
-  while (!lines.empty()) {
-    const std::size_t end = std::min(lines.find('\n'), lines.size());
-    std::string name(lines.substr(0, end));
-    lines.remove_prefix(std::min(end + 1, lines.size()));
-    auto shown = icons.DisplayName(folder + name);
-    names.push_back({.Name = shown ? *std::move(shown) : std::move(name)});
-  }
-  return names;
+  return OfEachLine(lines, [&](const std::string& name) {
+    return icons.DisplayName(folder + name).value_or(name);
+  });
 }
 
 }  // namespace
@@ -118,6 +124,10 @@ LookupAnswer AnswerLookup(const LookupServices& services, const Lookup& question
       return AnswerOf(services.Folders.List(question.Number));
     case LookupKind::ShellIcon:
       return AnswerOf(services.Folders.PixelsOf(question.Number, path, question.List));
+    case LookupKind::ShortPaths:
+      return {.Value = OfEachLine(question.Pattern, [&](const std::string& name) {
+                return services.Files.ShortPath(path + name);
+              })};
   }
   return {.End = LookupEnd::Failed};
 }

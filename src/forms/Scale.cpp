@@ -13,14 +13,14 @@ int ToPixels(float twips, float twipsPerPixel) noexcept {
   return RoundToInt(static_cast<double>(twips) / static_cast<double>(twipsPerPixel));
 }
 
-PixelPoint ToPixels(float x, float y, const ScreenInfo& screen) noexcept {
-  return {ToPixels(x, screen.TwipsPerPixelX), ToPixels(y, screen.TwipsPerPixelY)};
+PixelPoint ToPixels(float x, float y, const PixelScale& scale) noexcept {
+  return {ToPixels(x, scale.TwipsPerPixelX), ToPixels(y, scale.TwipsPerPixelY)};
 }
 
 PixelRect ToPixels(float left, float top, float width, float height,
-                   const ScreenInfo& screen) noexcept {
-  const PixelPoint topLeft = ToPixels(left, top, screen);
-  const PixelPoint bottomRight = ToPixels(left + width, top + height, screen);
+                   const PixelScale& scale) noexcept {
+  const PixelPoint topLeft = ToPixels(left, top, scale);
+  const PixelPoint bottomRight = ToPixels(left + width, top + height, scale);
   return {topLeft.x, topLeft.y, bottomRight.x, bottomRight.y};
 }
 

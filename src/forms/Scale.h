@@ -11,10 +11,10 @@ namespace corvelle::forms {
 /// Twips to the nearest pixel, halves to the even one.
 [[nodiscard]] int ToPixels(float twips, float twipsPerPixel) noexcept;
 
-[[nodiscard]] PixelPoint ToPixels(float x, float y, const ScreenInfo& screen) noexcept;
+[[nodiscard]] PixelPoint ToPixels(float x, float y, const PixelScale& scale) noexcept;
 
 /// The rectangle whose sides are each rounded, so that neighbours in twips stay neighbours.
 [[nodiscard]] PixelRect ToPixels(float left, float top, float width, float height,
-                                 const ScreenInfo& screen) noexcept;
+                                 const PixelScale& scale) noexcept;
 
 }  // namespace corvelle::forms

@@ -45,14 +45,14 @@ PixelSize Surface::InsideSize() const {
 float Surface::ScaleWidth() const noexcept {
   const FrameMargins margins = Margins();
   const float border = static_cast<float>(2 * BorderPixels() + margins.Left + margins.Right) *
-                       Screen().TwipsPerPixelX;
+                       Scale().TwipsPerPixelX;
   return std::max(Width() - border, 0.0F);
 }
 
 float Surface::ScaleHeight() const noexcept {
   const FrameMargins margins = Margins();
   const float border = static_cast<float>(2 * BorderPixels() + margins.Top + margins.Bottom) *
-                       Screen().TwipsPerPixelY;
+                       Scale().TwipsPerPixelY;
   return std::max(Height() - border, 0.0F);
 }
 
@@ -148,16 +148,16 @@ void Surface::DrawOn(const PixelRect& touched, const std::function<void(Canvas&)
 }
 
 void Surface::DrawLine(float x1, float y1, float x2, float y2, OleColor colour, int drawWidth) {
-  const PixelPoint from = ToPixels(x1, y1, Screen());
-  const PixelPoint to = ToPixels(x2, y2, Screen());
+  const PixelPoint from = ToPixels(x1, y1, Scale());
+  const PixelPoint to = ToPixels(x2, y2, Scale());
   const Rgb rgb = Resolve(Windows(), colour);
   DrawOn(AroundLine(from, to, drawWidth),
          [&](Canvas& canvas) { canvas.DrawLine(from, to, rgb, drawWidth); });
 }
 
 void Surface::FillBox(float x1, float y1, float x2, float y2, OleColor colour) {
-  const PixelPoint a = ToPixels(x1, y1, Screen());
-  const PixelPoint b = ToPixels(x2, y2, Screen());
+  const PixelPoint a = ToPixels(x1, y1, Scale());
+  const PixelPoint b = ToPixels(x2, y2, Scale());
   const PixelRect box{std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x) + 1,
                       std::max(a.y, b.y) + 1};
   const Rgb rgb = Resolve(Windows(), colour);
@@ -165,7 +165,7 @@ void Surface::FillBox(float x1, float y1, float x2, float y2, OleColor colour) {
 }
 
 void Surface::Print(float x, float y, std::string_view text, OleColor colour) {
-  const PixelPoint at = ToPixels(x, y, Screen());
+  const PixelPoint at = ToPixels(x, y, Scale());
   const Rgb rgb = Resolve(Windows(), colour);
   const ScaledFont font = Scaled(font_);
   DrawOn(RectAt(at, Windows().MeasureText(text, font)),
@@ -174,15 +174,15 @@ void Surface::Print(float x, float y, std::string_view text, OleColor colour) {
 
 void Surface::PaintPicture(const Picture& picture, float x, float y) {
   if (!picture) return;
-  const PixelPoint at = ToPixels(x, y, Screen());
+  const PixelPoint at = ToPixels(x, y, Scale());
   const PixelRect part = Whole(picture->Size());
   DrawOn(RectAt(at, part.Size()), [&](Canvas& canvas) { canvas.DrawCanvas(*picture, part, at); });
 }
 
 void Surface::PaintPicture(const Picture& picture, float x, float y, float width, float height) {
   if (!picture) return;
-  const PixelPoint at = ToPixels(x, y, Screen());
-  const PixelRect wanted = ToPixels(0, 0, width, height, Screen());
+  const PixelPoint at = ToPixels(x, y, Scale());
+  const PixelRect wanted = ToPixels(0, 0, width, height, Scale());
   const PixelRect part = Intersect(wanted, Whole(picture->Size()));
   if (part.IsEmpty()) return;
   DrawOn(RectAt(at, part.Size()), [&](Canvas& canvas) { canvas.DrawCanvas(*picture, part, at); });

@@ -6,10 +6,10 @@ namespace corvelle::forms {
 
 DropEffect Surface::CallDrag(DragHandler Graphic::*ofGraphic, const DragHandler& ofSurface,
                              DragData& data, DropEffect allowed, const DragPoint& where) {
-  const ScreenInfo screen = Screen();
+  const PixelScale scale = Scale();
   const PixelPoint inside{where.At.x - BorderPixels(), where.At.y - BorderPixels()};
-  float x = static_cast<float>(inside.x) * screen.TwipsPerPixelX;
-  float y = static_cast<float>(inside.y) * screen.TwipsPerPixelY;
+  float x = static_cast<float>(inside.x) * scale.TwipsPerPixelX;
+  float y = static_cast<float>(inside.y) * scale.TwipsPerPixelY;
   const Graphic* const target = GraphicAt(inside);
   const bool own = target != nullptr && target->*ofGraphic;
   if (own) {

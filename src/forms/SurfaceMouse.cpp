@@ -52,10 +52,10 @@ void Surface::StartPress(MouseButton button, Graphic* target) noexcept {
 }
 
 TwipPoint Surface::InsideTwips(PixelPoint at) const {
-  const ScreenInfo screen = Screen();
+  const PixelScale scale = Scale();
   const int border = BorderPixels();
-  return {static_cast<float>(at.x - border) * screen.TwipsPerPixelX,
-          static_cast<float>(at.y - border) * screen.TwipsPerPixelY};
+  return {static_cast<float>(at.x - border) * scale.TwipsPerPixelX,
+          static_cast<float>(at.y - border) * scale.TwipsPerPixelY};
 }
 
 TwipPoint Surface::PressPlace() const { return InsideTwips(pressedAt_); }

@@ -18,9 +18,9 @@ bool SystemControl::MenuAsked(PixelPoint at, bool byKey) {
   // A copy, since the handler may destroy the control.
   const auto handler = ContextMenu;
   if (!handler) return false;
-  const ScreenInfo screen = Screen();
-  handler(static_cast<float>(at.x) * screen.TwipsPerPixelX,
-          static_cast<float>(at.y) * screen.TwipsPerPixelY, byKey);
+  const PixelScale scale = Scale();
+  handler(static_cast<float>(at.x) * scale.TwipsPerPixelX,
+          static_cast<float>(at.y) * scale.TwipsPerPixelY, byKey);
   return true;
 }
 

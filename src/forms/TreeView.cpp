@@ -231,9 +231,9 @@ bool TreeView::MenuAsked(PixelPoint at, bool byKey) {
   } else {
     node = HitTest(at).Node;
   }
-  const ScreenInfo screen = Screen();
-  handler(node, static_cast<float>(where.x) * screen.TwipsPerPixelX,
-          static_cast<float>(where.y) * screen.TwipsPerPixelY, byKey);
+  const PixelScale scale = Scale();
+  handler(node, static_cast<float>(where.x) * scale.TwipsPerPixelX,
+          static_cast<float>(where.y) * scale.TwipsPerPixelY, byKey);
   return true;
 }
 

@@ -104,6 +104,12 @@ enum class ShowKind { Hidden, Normal, NoActivate, Minimized, Restored };
 /// Dots of an inch at the scale of 100 %.
 inline constexpr int kPlainDpi = 96;
 
+/// The twips of one pixel: 15 at 96 dpi, 12 at 120 dpi.
+struct PixelScale {
+  float TwipsPerPixelX = 15;
+  float TwipsPerPixelY = 15;
+};
+
 /// The screen as a window sees it by its own scale: the twips of one pixel (15 at 96 dpi, 12 at 120
 /// dpi), and the size of the primary screen in such twips.
 struct ScreenInfo {
@@ -111,6 +117,9 @@ struct ScreenInfo {
   float TwipsPerPixelY = 15;
   float Width = 0;
   float Height = 0;
+
+  // So that what asks for a scale alone takes a screen too.
+  operator PixelScale() const noexcept { return {TwipsPerPixelX, TwipsPerPixelY}; }
 
   friend bool operator==(const ScreenInfo&, const ScreenInfo&) = default;
 };

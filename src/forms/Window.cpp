@@ -48,13 +48,18 @@ int Window::Dpi() const noexcept {
   return top->dpi_;
 }
 
-ScreenInfo Window::Screen() const {
+PixelScale Window::Scale() const noexcept {
   const float twips = TwipsOfPixel(Dpi());
+  return {.TwipsPerPixelX = twips, .TwipsPerPixelY = twips};
+}
+
+ScreenInfo Window::Screen() const {
+  const PixelScale scale = Scale();
   const PixelSize pixels = windows_.ScreenSize();
-  return {.TwipsPerPixelX = twips,
-          .TwipsPerPixelY = twips,
-          .Width = static_cast<float>(pixels.width) * twips,
-          .Height = static_cast<float>(pixels.height) * twips};
+  return {.TwipsPerPixelX = scale.TwipsPerPixelX,
+          .TwipsPerPixelY = scale.TwipsPerPixelY,
+          .Width = static_cast<float>(pixels.width) * scale.TwipsPerPixelX,
+          .Height = static_cast<float>(pixels.height) * scale.TwipsPerPixelY};
 }
 
 PixelSize Window::MeasureText(std::string_view text, const FontSpec& font) const {
@@ -80,7 +85,7 @@ void Window::ScaleChanged() {
 }
 
 PixelRect Window::PixelBounds() const {
-  const PixelRect bounds = ToPixels(Left(), Top(), Width(), Height(), Screen());
+  const PixelRect bounds = ToPixels(Left(), Top(), Width(), Height(), Scale());
   const PixelPoint origin = container_ != nullptr ? container_->InsideOrigin() : PixelPoint{};
   return RectAt({bounds.left + origin.x, bounds.top + origin.y}, bounds.Size());
 }
@@ -174,12 +179,12 @@ void Window::OnMoved(const PixelRect& bounds) {
   shownBounds_ = bounds;
   // Twips finer than a pixel survive the report of what was asked for.
   if (bounds != PixelBounds()) {
-    const ScreenInfo screen = Screen();
+    const PixelScale scale = Scale();
     const PixelPoint origin = (container_ != nullptr ? container_->InsideOrigin() : PixelPoint{});
-    AdoptBounds(static_cast<float>(bounds.left - origin.x) * screen.TwipsPerPixelX,
-                static_cast<float>(bounds.top - origin.y) * screen.TwipsPerPixelY,
-                static_cast<float>(bounds.Width()) * screen.TwipsPerPixelX,
-                static_cast<float>(bounds.Height()) * screen.TwipsPerPixelY);
+    AdoptBounds(static_cast<float>(bounds.left - origin.x) * scale.TwipsPerPixelX,
+                static_cast<float>(bounds.top - origin.y) * scale.TwipsPerPixelY,
+                static_cast<float>(bounds.Width()) * scale.TwipsPerPixelX,
+                static_cast<float>(bounds.Height()) * scale.TwipsPerPixelY);
   }
   if (bounds.Size() != oldSize) Resized();
 }

@@ -37,7 +37,10 @@ class Window : public Control, protected WindowEvents {
 
   /// The scale that this window is laid out for, in dots of an inch: that of its form.
   [[nodiscard]] int Dpi() const noexcept;
-  /// The screen by that scale.
+  /// The same in twips.
+  [[nodiscard]] PixelScale Scale() const noexcept;
+  /// The screen by that scale. Asks the system for its size: whoever wants only the scale asks for
+  /// that.
   [[nodiscard]] ScreenInfo Screen() const;
   /// A font as large as it is in this window.
   [[nodiscard]] ScaledFont Scaled(const FontSpec& font = {}) const { return {font, Dpi()}; }

@@ -1,6 +1,7 @@
 #include "launch/Browser.h"
 
 #include <utility>
+#include <variant>
 
 #include "base/Text.h"
 #include "core/Program.h"
@@ -28,6 +29,10 @@ constexpr std::string_view kUnsupportedBrowser =
 constexpr std::string_view kLook = "\"\"browser";
 
 }  // namespace
+
+Browser::~Browser() {
+  if (linkOwner_ != 0) program_.Answers.Drop(linkOwner_);
+}
 
 const ProbeFiles& Browser::Probe() {
   probe_.Folder = program_.Paths.AppPath;
@@ -81,11 +86,32 @@ void Browser::UseDefaultBrowser() {
   ForgetBrowser();
 }
 
-bool Browser::UseBrowser(std::string_view path) {
-  std::string command(path);
-  if (EndsWithNoCase(path, ".lnk") && program_.Ports.ShellLinks != nullptr) {
-    command = program_.Ports.ShellLinks->TargetOf(path);
+void Browser::UseBrowser(std::string_view path, std::function<void(bool)> then) {
+  if (!EndsWithNoCase(path, ".lnk") || program_.Ports.ShellLinks == nullptr) {
+    const bool taken = TakeBrowser(std::string(path));
+    if (then) then(taken);
+    return;
   }
+  if (linkOwner_ == 0) linkOwner_ = program_.Answers.NewOwner();
+  // The link that was chosen last counts.
+  program_.Answers.Drop(linkOwner_);
+  program_.Answers.Ask(
+      {.Question = {.Kind = LookupKind::LinkTarget, .Path = std::string(path)},
+       .How = desk::Urgency::OnShow,
+       .Owner = linkOwner_},
+      {.Ended =
+           [this, choices = choices_, then = std::move(then)](const desk::Reply& reply) {
+             if (choices != choices_) return;
+             const auto* const target = std::get_if<std::string>(&reply.Value);
+             const bool known = reply.How == desk::End::Answered && target != nullptr;
+             // A link that cannot be read leads to no browser.
+             const bool taken = TakeBrowser(known ? StripAtNull(*target) : std::string());
+             if (then) then(taken);
+           },
+       .TakesLonger = {}});
+}
+
+bool Browser::TakeBrowser(const std::string& command) {
   const std::optional<std::string> service = BrowserServiceName(command);
   if (!service) {
     program_.Say(program_.ToolbarWindow(), kUnsupportedBrowser, msgbox::OnTop);

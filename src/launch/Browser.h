@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -20,6 +21,9 @@ class Program;
 class Browser final : public BrowserPort, public BrowserState {
  public:
   explicit Browser(Program& program) : program_(program) {}
+  Browser(const Browser&) = delete;
+  Browser& operator=(const Browser&) = delete;
+  ~Browser() override;
 
   /// Folder of the bookmark file, with a trailing backslash, or empty while it is not known.
   std::string BookmarkDir;
@@ -36,7 +40,7 @@ class Browser final : public BrowserPort, public BrowserState {
   std::string WindowTitle(std::string_view url) override;
   void NoteDropSource(WindowId window) override;
   void UseDefaultBrowser() override;
-  bool UseBrowser(std::string_view path) override;
+  void UseBrowser(std::string_view path, std::function<void(bool)> then) override;
 
   /// The title of the address in the user's bookmark file; empty without one, or when the disk does
   /// not answer at once.
@@ -50,6 +54,8 @@ class Browser final : public BrowserPort, public BrowserState {
   /// Takes over what was found out, unless the user has chosen a browser since `choices`.
   void Learn(const BrowserState& found, int choices);
   void ShowBrowserError();
+  /// False, and a message, for a program that is not supported.
+  bool TakeBrowser(const std::string& command);
   /// Back to the state in which the next address looks for the browser.
   void ForgetBrowser();
   /// Where the files for a moment go; the folder is known when the program has started.
@@ -62,6 +68,7 @@ class Browser final : public BrowserPort, public BrowserState {
   Program& program_;
   ProbeFiles probe_;
   int choices_ = 0;
+  std::uint64_t linkOwner_ = 0;  // of the question where a chosen link leads
   std::optional<bool> netscapeKnown_;
   WindowId notedNetscape_ = kNoWindow;
   forms::Alive alive_;

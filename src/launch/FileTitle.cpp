@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "base/Text.h"
 #include "base/Utf8.h"
@@ -37,6 +38,7 @@ bool IsUsualExtension(std::string_view extension) noexcept {
 struct ShownFile {
   std::optional<std::string> Name;
   bool IsFolder = false;
+  std::optional<std::string> Stored;
 };
 
 std::vector<ShownFile> LookAtFiles(const StartServices& services,
@@ -44,8 +46,18 @@ std::vector<ShownFile> LookAtFiles(const StartServices& services,
   std::vector<ShownFile> found;
   found.reserve(paths.size());
   for (const std::string& path : paths)
-    found.push_back({services.Icons.DisplayName(path), services.Files.FolderExists(path)});
+    found.push_back({services.Icons.DisplayName(path), services.Files.FolderExists(path),
+                     PathForRecord(services.Files, services.Ansi, path)});
   return found;
+}
+
+/// While nothing is known but the paths.
+std::vector<ShownFile> NotKnown(const CodePage& ansi, const std::vector<std::string>& paths) {
+  std::vector<ShownFile> files(paths.size());
+  for (std::size_t i = 0; i < paths.size(); ++i) {
+    if (FitsRecord(ansi, paths[i])) files[i].Stored = paths[i];
+  }
+  return files;
 }
 
 }  // namespace
@@ -67,32 +79,33 @@ std::string FileTitle(const FileTitleFacts& facts) {
 }
 
 std::string GetFileTitle(Program& program, std::string_view path) {
-  return GetFileTitles(program, {std::string(path)}).front();
+  return GetDroppedNames(program, {std::string(path)}).front().Title;
 }
 
-std::vector<std::string> GetFileTitles(Program& program, const std::vector<std::string>& paths) {
+std::vector<DroppedName> GetDroppedNames(Program& program, const std::vector<std::string>& paths) {
   // Each place by itself: one that hangs takes no name from the files of another.
   const std::string place = paths.empty() ? std::string() : desk::PlaceOfPath(paths.front());
   auto found = AtOnce<std::vector<ShownFile>>(
       program, "\"\"titles " + place,
       [paths](const StartServices& services) { return LookAtFiles(services, paths); });
-  if (!found) found.emplace(paths.size());
+  if (!found) found = NotKnown(program.Services.Ansi, paths);
   const bool keep = program.OptionFlags.Is(Option::KeepExtension);
-  std::vector<std::string> titles;
+  std::vector<DroppedName> names;
   for (std::size_t i = 0; i < paths.size(); ++i) {
-    const ShownFile& file = (*found)[i];
-    titles.push_back(FileTitle({.Path = paths[i],
-                                .DisplayName = file.Name,
-                                .IsFolder = file.IsFolder,
-                                .KeepExtension = keep}));
+    ShownFile& file = (*found)[i];
+    names.push_back({.Title = FileTitle({.Path = paths[i],
+                                         .DisplayName = file.Name,
+                                         .IsFolder = file.IsFolder,
+                                         .KeepExtension = keep}),
+                     .Stored = std::move(file.Stored)});
   }
-  return titles;
+  return names;
 }
 
-std::vector<std::string> GetTrimmedTitles(Program& program, const std::vector<std::string>& paths) {
-  std::vector<std::string> titles = GetFileTitles(program, paths);
-  for (std::string& title : titles) title = Trim(title);
-  return titles;
+std::vector<DroppedName> GetTrimmedNames(Program& program, const std::vector<std::string>& paths) {
+  std::vector<DroppedName> names = GetDroppedNames(program, paths);
+  for (DroppedName& name : names) name.Title = Trim(name.Title);
+  return names;
 }
 
 }  // namespace corvelle

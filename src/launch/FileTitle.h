@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/DroppedFiles.h"
+
 namespace corvelle {
 
 class Program;
@@ -25,12 +27,13 @@ struct FileTitleFacts {
 /// not answer at once has its title by its path alone.
 [[nodiscard]] std::string GetFileTitle(Program& program, std::string_view path);
 
-/// The same for several files, which are asked for together: however many do not answer, they are
-/// waited for once.
-[[nodiscard]] std::vector<std::string> GetFileTitles(Program& program,
-                                                     const std::vector<std::string>& paths);
-/// The same without blanks at their ends.
-[[nodiscard]] std::vector<std::string> GetTrimmedTitles(Program& program,
-                                                        const std::vector<std::string>& paths);
+/// The titles of several files, and their paths as records can hold them. They are asked for
+/// together: however many do not answer, they are waited for once. A path that is too long and does
+/// not answer at once has none that a record can hold.
+[[nodiscard]] std::vector<DroppedName> GetDroppedNames(Program& program,
+                                                       const std::vector<std::string>& paths);
+/// The same without blanks at the ends of the titles.
+[[nodiscard]] std::vector<DroppedName> GetTrimmedNames(Program& program,
+                                                       const std::vector<std::string>& paths);
 
 }  // namespace corvelle

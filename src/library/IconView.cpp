@@ -121,7 +121,7 @@ void IconView::Mark(int place) {
 }
 
 void IconView::Press(float x, float y) {
-  const int place = grid_.IndexAt(forms::ToPixels(x, y, sheet_.Screen()));
+  const int place = grid_.IndexAt(forms::ToPixels(x, y, sheet_.Scale()));
   pressedCell_ = place >= 0;
   if (pressedCell_) Mark(place);
 }

@@ -32,13 +32,15 @@ enum class LookupKind {
   ShellEntries,   // what folder `Number` of the shell holds: std::vector<ShellFolderEntry>
   ShellIcon,      // icon of the entry `Path` of folder `Number`, of the folder itself when it is
                   // empty: IconPixels
+  ShortPaths,     // what FileSystem::ShortPath gives for files of the folder Path, named as for
+                  // FileNames: a list of entries in that order, empty for what it refuses
 };
 
 /// A question whose answer may be slow.
 struct Lookup {
   LookupKind Kind = LookupKind::IsThere;
   std::string Path;
-  std::string Pattern = "*";  // of FolderEntries
+  std::string Pattern = "*";  // of FolderEntries, FileNames and ShortPaths
   int Number = 0;             // of IconInFile, and the folders of the shell by their CSIDL number
   IconList List = IconList::Small;  // of FileIcon and ShellIcon
   int Size = kSmallIconSize;        // of IconInFile, pixels

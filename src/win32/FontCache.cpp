@@ -34,7 +34,7 @@ HFONT FontCache::Get(const ScaledFont& wanted) {
     std::rotate(at, at + 1, fonts_.end());
   } else {
     if (fonts_.size() == kMostFonts) fonts_.erase(fonts_.begin());
-    fonts_.push_back({wanted, Make(wanted)});
+    fonts_.push_back({wanted, Make(wanted), 0});
   }
   const UniqueFont& font = fonts_.back().Font;
   return font ? font.Get() : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
@@ -42,12 +42,17 @@ HFONT FontCache::Get(const ScaledFont& wanted) {
 
 PixelSize FontCache::Measure(std::string_view text, const ScaledFont& wanted) {
   const SelectedObject font(dc_.Get(), Get(wanted));
-  TEXTMETRICW metrics{};
-  GetTextMetricsW(dc_.Get(), &metrics);
+  // What Get gave stands at the end.
+  int& height = fonts_.back().LineHeight;
+  if (height == 0) {
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc_.Get(), &metrics);
+    height = static_cast<int>(metrics.tmHeight);
+  }
   const std::wstring wide = Wide(text);
   SIZE size{};
   GetTextExtentPoint32W(dc_.Get(), wide.data(), static_cast<int>(wide.size()), &size);
-  return {static_cast<int>(size.cx), static_cast<int>(metrics.tmHeight)};
+  return {static_cast<int>(size.cx), height};
 }
 
 }  // namespace corvelle::win32

@@ -29,6 +29,7 @@ class FontCache {
   struct Entry {
     ScaledFont Wanted;
     UniqueFont Font;
+    int LineHeight = 0;  // pixels; 0 until it is asked for
   };
 
   UniqueMemoryDc dc_{CreateCompatibleDC(nullptr)};  // to measure with

@@ -47,6 +47,36 @@ class DoubleByte final : public CodePage {
 
 const Windows1252 kAnsi;
 
+/// Notes what it is asked for.
+class CountingCodePage final : public CodePage {
+ public:
+  mutable int Asked = 0;
+
+  std::string Decode(std::string_view bytes) const override {
+    ++Asked;
+    return ansi_.Decode(bytes);
+  }
+  std::optional<std::string> Encode(std::string_view text) const override {
+    ++Asked;
+    return ansi_.Encode(text);
+  }
+
+ private:
+  Windows1252 ansi_;
+};
+
+// A menu over a folder of 10,000 files writes each title and path.
+TEST(FieldText, OfPlainLettersAsksTheCodePageNothing) {
+  const CountingCodePage ansi;
+  EXPECT_EQ(EncodeText("C:\\Docs\\a.txt", ansi), "C:\\Docs\\a.txt");
+  EXPECT_EQ(EncodeField("title", 7, ansi), "title  ");
+  EXPECT_EQ(EncodeField("a longer title", 7, ansi), "a longe");
+  EXPECT_EQ(EncodeField("", 2, ansi), "  ");
+  EXPECT_EQ(ansi.Asked, 0);
+  EXPECT_EQ(EncodeText("\xC3\xA4", ansi), "\xE4");
+  EXPECT_GT(ansi.Asked, 0);
+}
+
 TEST(DecodeField, ReadsAnsiAndUtf8AndTrimsBlanks) {
   struct Row {
     const char* name;

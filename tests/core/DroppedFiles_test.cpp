@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "core/CoreTexts.h"
 #include "core/MenuFile.h"
@@ -16,10 +17,14 @@ using Names = std::vector<std::string>;
 
 std::string PlainTitle(std::string_view path) { return "title of " + std::string(path); }
 
-Names PlainTitles(const Names& paths) {
-  Names titles;
-  for (const std::string& path : paths) titles.push_back(PlainTitle(path));
-  return titles;
+/// What is dropped from that disk.
+DroppedEntries DroppedFrom(SimFiles& disk, Names names) {
+  return DroppedRecords(std::move(names), [&disk](const Names& paths) {
+    std::vector<DroppedName> known;
+    for (const std::string& path : paths)
+      known.push_back({PlainTitle(path), PathForRecord(disk, kAnsi, path)});
+    return known;
+  });
 }
 
 Names TitlesIn(SimFiles& disk) {
@@ -38,8 +43,7 @@ TEST(EffectOfDrag, TheRightButtonLinksAndTheOthersCopy) {
 
 TEST(DroppedRecords, StandInAscendingOrderOfTheNamesWithTheirExtensions) {
   SimFiles disk;
-  const auto records =
-      DroppedRecords(disk, kAnsi, {"C:\\b.txt", "c:\\C.doc", "C:\\a.exe"}, PlainTitles).Records;
+  const auto records = DroppedFrom(disk, {"C:\\b.txt", "c:\\C.doc", "C:\\a.exe"}).Records;
   ASSERT_EQ(records.size(), 3U);
   EXPECT_EQ(records[0], (MenuRecord{"title of C:\\a.exe", "C:\\a.exe", "C:\\a.exe"}));
   EXPECT_EQ(records[1], (MenuRecord{"title of C:\\b.txt", "C:\\b.txt", "C:\\b.txt"}));
@@ -79,12 +83,12 @@ TEST(DroppedRecords, RefuseWhatNoRecordHoldsAndTakeTheOthers) {
   disk.Put(WideFolder() + "b.txt", "x");
   disk.Put("C:\\a.txt", "x");
   const std::string refused = WideFolder() + "b.txt";
-  DroppedEntries dropped = DroppedRecords(disk, kAnsi, {refused, "C:\\a.txt"}, PlainTitles);
+  DroppedEntries dropped = DroppedFrom(disk, {refused, "C:\\a.txt"});
   ASSERT_EQ(dropped.Records.size(), 1U);
   EXPECT_EQ(dropped.Records[0].FName, "C:\\a.txt");
   EXPECT_EQ(dropped.Refused, Names{refused});
   disk.GiveShortName(WideFolder(), "6A2F~1");
-  dropped = DroppedRecords(disk, kAnsi, {refused}, PlainTitles);
+  dropped = DroppedFrom(disk, {refused});
   EXPECT_TRUE(dropped.Refused.empty());
   EXPECT_EQ(
       dropped.Records,
@@ -222,8 +226,7 @@ TEST(Dropped, NamesOfAnyScriptSurvive) {
   SimFiles disk;
   disk.Put(kFile, kFour);
   const std::string name = "C:\\\xD0\xBF\xD0\xB8\xD1\x81\xD1\x8C\xD0\xBC\xD0\xBE.txt";
-  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 0,
-                          DroppedRecords(disk, kAnsi, {name}, PlainTitles).Records),
+  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 0, DroppedFrom(disk, {name}).Records),
             EditOutcome::Edited);
   EXPECT_EQ(ReadRecord(disk, kAnsi, kFile, 5).ValueOr({}).FName, name);
 }
@@ -233,9 +236,8 @@ TEST(Dropped, AThousandFilesComeAtOnce) {
   disk.Put(kFile, kFour);
   Names names;
   for (int i = 1000; i >= 1; --i) names.push_back("C:\\f" + std::to_string(10000 + i));
-  EXPECT_EQ(
-      InsertDropped(disk, kAnsi, kFile, 3, DroppedRecords(disk, kAnsi, names, PlainTitles).Records),
-      EditOutcome::Edited);
+  EXPECT_EQ(InsertDropped(disk, kAnsi, kFile, 3, DroppedFrom(disk, names).Records),
+            EditOutcome::Edited);
   const auto all = ReadAllRecords(disk, kAnsi, kFile).ValueOr({});
   ASSERT_EQ(all.size(), 1004U);
   EXPECT_EQ(all[2].FName, "C:\\f10001");

@@ -50,6 +50,7 @@ class BrowserDesk : public testing::Test {
  protected:
   BrowserDesk() {
     world.Files.MakeFolders("C:\\Corvelle");
+    world.Files.AddDrive('D');
     for (const char* path : {kExplorer, kNetscape, kOther}) world.Files.Put(path, "x");
     program.Paths.AppPath = "C:\\Corvelle\\";
   }
@@ -71,6 +72,18 @@ class BrowserDesk : public testing::Test {
     if (*service != '\0') world.Dde.AddServer(service, kTopic);
   }
   void OpenUrl(std::string_view url) { browser.OpenUrl(url, {}); }
+  /// The choice of a browser in the menu; how it ended comes to Chosen.
+  void Choose(std::string_view path) {
+    browser.UseBrowser(path, [this](bool taken) { Chosen.push_back(taken); });
+  }
+  bool IsTaken(std::string_view path) {
+    Choose(path);
+    return Chosen.back();
+  }
+  void PutLink(const std::string& link, const std::string& target) {
+    world.Links.Put(link, {.Path = target});
+    program.Ports.ShellLinks = &links_;
+  }
   void ExpectNoTempFiles() {
     EXPECT_FALSE(world.Files.Has(kPageFile));
     EXPECT_FALSE(world.Files.Has(kUrlFile));
@@ -78,7 +91,11 @@ class BrowserDesk : public testing::Test {
 
   sim::World world;
   Program program{world.Services(), world.Windows()};
+  std::vector<bool> Chosen;
   Browser browser{program};
+
+ private:
+  KnownLinks links_;
 };
 
 // ---- finding the browser ----
@@ -428,7 +445,7 @@ TEST_F(OpenUrlTest, ABrowserChosenInThisProgramIsTheUsersChoice) {
   world.Dde.AddServer("IExplore", kTopic);
   OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().size(), 1U);
-  ASSERT_TRUE(browser.UseBrowser(kNetscape));
+  ASSERT_TRUE(IsTaken(kNetscape));
   world.Dde.AddServer("NSShell", kTopic);
   OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told().size(), 2U);
@@ -515,7 +532,7 @@ TEST_F(SlowBrowserTest, ABrowserThatIsChosenMeanwhileStaysChosen) {
   HaveBrowser(kExplorer);
   world.Starts.Hang();
   OpenUrl(kUrl);
-  EXPECT_TRUE(browser.UseBrowser(kNetscape));
+  EXPECT_TRUE(IsTaken(kNetscape));
   world.Starts.Resume();
   EXPECT_EQ(browser.BrowserCommand, kNetscape);
   EXPECT_EQ(browser.BrowserApplication, "NSShell");
@@ -553,7 +570,7 @@ TEST_F(BrowserChoiceTest, TheDefaultBrowserIsLookedForWithTheNextAddress) {
 
 TEST_F(BrowserChoiceTest, AChosenBrowserIsNotedAndUsedFromThenOn) {
   world.Dde.AddServer("NSShell", kTopic);
-  EXPECT_TRUE(browser.UseBrowser(kNetscape));
+  EXPECT_TRUE(IsTaken(kNetscape));
   EXPECT_EQ(world.Files.Get(kIniFile),
             "Command=" + std::string(kNetscape) + "\r\nApplication=NSShell\r\n");
   OpenUrl(kUrl);
@@ -561,19 +578,78 @@ TEST_F(BrowserChoiceTest, AChosenBrowserIsNotedAndUsedFromThenOn) {
 }
 
 TEST_F(BrowserChoiceTest, AChosenLinkStandsForItsTarget) {
-  KnownLinks links;
-  links.Set("C:\\browser.lnk", kExplorer);
-  program.Ports.ShellLinks = &links;
-  EXPECT_TRUE(browser.UseBrowser("C:\\browser.LNK"));
+  PutLink("C:\\browser.lnk", kExplorer);
+  Choose("C:\\browser.LNK");
+  world.Desktop.Pump();
+  EXPECT_EQ(Chosen, std::vector<bool>{true});
   EXPECT_EQ(browser.BrowserCommand, kExplorer);
   EXPECT_EQ(browser.BrowserApplication, "IExplore");
+}
+
+TEST_F(BrowserChoiceTest, WhereAChosenLinkLeadsIsAskedBesideTheWindows) {
+  PutLink("D:\\browser.lnk", kExplorer);
+  world.Costs.SetPrice(
+      [](std::string_view, std::string_view about) { return about.starts_with("D:") ? 1000 : 0; });
+  world.SlowAnswers.Delay("D:", 1500);
+  Choose("D:\\browser.lnk");
+  world.Desktop.Pump();
+  EXPECT_TRUE(Chosen.empty());
+  EXPECT_FALSE(world.Files.Has(kIniFile));
+  world.Desktop.Advance(1500);
+  EXPECT_EQ(Chosen, std::vector<bool>{true});
+  EXPECT_EQ(browser.BrowserCommand, kExplorer);
+  EXPECT_EQ(world.Costs.Charged(), std::vector<std::string>{});
+}
+
+TEST_F(BrowserChoiceTest, ALinkOnADeadDriveIsRefusedWhenItIsGivenUp) {
+  PutLink("D:\\browser.lnk", kExplorer);
+  world.Costs.SetPrice(
+      [](std::string_view, std::string_view about) { return about.starts_with("D:") ? 1000 : 0; });
+  world.SlowAnswers.HangForGood("D:");
+  world.Desktop.Answer(kUnsupported, forms::msgbox::AnswerOk);
+  Choose("D:\\browser.lnk");
+  world.Desktop.Advance(4900);
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+  world.Desktop.Advance(200);
+  EXPECT_EQ(Chosen, std::vector<bool>{false});
+  EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
+  EXPECT_FALSE(world.Files.Has(kIniFile));
+  EXPECT_EQ(world.Costs.Charged(), std::vector<std::string>{});
+}
+
+TEST_F(BrowserChoiceTest, AnotherChoiceMeanwhileIsTheLast) {
+  PutLink("D:\\browser.lnk", kExplorer);
+  for (const bool toDefault : {false, true}) {
+    world.SlowAnswers.Delay("D:", 1500);
+    Chosen.clear();
+    Choose("D:\\browser.lnk");
+    if (toDefault) {
+      browser.UseDefaultBrowser();
+    } else {
+      EXPECT_TRUE(IsTaken(kNetscape));
+    }
+    world.Desktop.Advance(3000);
+    EXPECT_EQ(Chosen.size(), toDefault ? 0U : 1U);
+    EXPECT_EQ(browser.BrowserCommand, toDefault ? "" : kNetscape);
+  }
+}
+
+TEST_F(BrowserChoiceTest, AProgramThatEndsMeanwhileIsToldNothing) {
+  PutLink("D:\\browser.lnk", kExplorer);
+  world.SlowAnswers.Delay("D:", 1500);
+  {
+    Browser ending(program);
+    ending.UseBrowser("D:\\browser.lnk", [this](bool taken) { Chosen.push_back(taken); });
+  }
+  world.Desktop.Advance(3000);
+  EXPECT_TRUE(Chosen.empty());
 }
 
 TEST_F(BrowserChoiceTest, AnUnknownBrowserIsRefusedAndNothingIsWritten) {
   HaveBrowser(kExplorer, "IExplore");
   browser.InitBrowser();
   world.Desktop.Answer(kUnsupported, forms::msgbox::AnswerOk);
-  EXPECT_FALSE(browser.UseBrowser(kOther));
+  EXPECT_FALSE(IsTaken(kOther));
   EXPECT_FALSE(world.Files.Has(kIniFile));
   EXPECT_EQ(browser.BrowserCommand, kExplorer);
 }
@@ -581,7 +657,7 @@ TEST_F(BrowserChoiceTest, AnUnknownBrowserIsRefusedAndNothingIsWritten) {
 TEST_F(BrowserChoiceTest, AChoiceThatCannotBeSavedLeavesTheOldBrowserInForce) {
   HaveBrowser(kExplorer, "IExplore");
   world.Files.FailFrom(1, FileError::DiskFull);
-  EXPECT_FALSE(browser.UseBrowser(kNetscape));
+  EXPECT_FALSE(IsTaken(kNetscape));
   world.Files.StopFailing();
   OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"IExplore", kTopic, kItem}}));

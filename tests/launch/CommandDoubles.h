@@ -50,9 +50,9 @@ class LoggingBrowser final : public BrowserPort {
     log_.push_back("NoteDropSource " + std::to_string(window));
   }
   void UseDefaultBrowser() override { log_.emplace_back("UseDefaultBrowser"); }
-  bool UseBrowser(std::string_view path) override {
+  void UseBrowser(std::string_view path, std::function<void(bool)> then) override {
     log_.push_back("UseBrowser " + std::string(path));
-    return true;
+    if (then) then(true);
   }
 
  private:

@@ -101,8 +101,11 @@ TEST(GetFileTitle, OfADiskThatDoesNotAnswerIsThatOfThePath) {
   world.Files.AddDrive('D');
   world.Files.MakeFolders("D:\\Docs\\Old.txt");
   world.Starts.Hang();
-  EXPECT_EQ(GetFileTitles(program, {"D:\\Docs\\Plan.txt", "D:\\Docs\\Old.txt"}),
-            (std::vector<std::string>{"Plan", "Old"}));
+  const auto names = GetDroppedNames(program, {"D:\\Docs\\Plan.txt", "D:\\Docs\\Old.txt"});
+  ASSERT_EQ(names.size(), 2U);
+  EXPECT_EQ(names[0].Title, "Plan");
+  EXPECT_EQ(names[0].Stored, "D:\\Docs\\Plan.txt");
+  EXPECT_EQ(names[1].Title, "Old");
   EXPECT_EQ(GetFileTitle(program, "D:\\Docs\\Plan.txt"), "Plan");
   EXPECT_EQ(world.Starts.UnderWay(), 1) << "while it hangs it is not asked again";
   EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Plan.txt"), "Plan");

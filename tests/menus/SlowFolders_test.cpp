@@ -2,11 +2,38 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+
 #include "menus/FolderDesk.h"
+#include "menus/folders/FolderQuestions.h"
 #include "menus/items/UpdateRules.h"
 
 namespace corvelle {
 namespace {
+
+// The captions are there without the names that the shell gives.
+TEST(FolderQuestions, AboutTheFilesOfAFolderHoldTheMenuUpForAShorterTimeThanTheFolder) {
+  struct Row {
+    LookupKind kind;
+    int longest;
+  };
+  const Row rows[] = {{LookupKind::FolderEntries, FolderQuestions::kAtOnce},
+                      {LookupKind::FileNames, FolderQuestions::kNamesAtOnce},
+                      {LookupKind::ShortPaths, FolderQuestions::kNamesAtOnce}};
+  for (const Row& row : rows) {
+    sim::World world;
+    Program program(world.Services(), world.Windows());
+    world.Costs.SetPrice([](std::string_view, std::string_view) { return 0; });
+    world.Costs.WhenCharged([&](int milliseconds) { world.Desktop.Jump(milliseconds); });
+    for (const char* lane : {"D:", "D:*"}) world.SlowAnswers.Hang(lane);
+    FolderQuestions questions(program.Answers, program.Windows, [] {});
+    for (const char* folder : {"D:\\One\\", "D:\\Two\\"}) {
+      const auto& known = questions.Get({.Kind = row.kind, .Path = folder, .Pattern = "a\n"});
+      EXPECT_EQ(known.State, FolderState::Reading) << row.longest;
+    }
+    EXPECT_EQ(world.Costs.LongestTurn(), row.longest);
+  }
+}
 
 TEST(UpdateRules, AMenuChangesWhenThePointerLetsIt) {
   struct Row {

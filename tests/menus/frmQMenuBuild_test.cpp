@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <vector>
 
 #include "base/Text.h"
 #include "menus/MenuDesk.h"
@@ -45,6 +46,27 @@ TEST(frmQMenuLoad, MeasuresFollowTheScale) {
     EXPECT_EQ(desk.Menu.ItemGap, row.gap) << row.name;
     EXPECT_FALSE(desk.Menu.Lbl[0].Visible()) << row.name;
   }
+}
+
+// Wine takes a fifth of a millisecond for each answer.
+TEST(frmQMenuShowMenu, AsksForTheSizeOfTheScreenAsOftenForManyItemsAsForFew) {
+  std::vector<int> built;
+  std::vector<int> fromCache;
+  for (const int items : {2, 30}) {
+    MenuDesk desk;
+    const int before = desk.World.Desktop.ScreenSizesAsked();
+    desk.Open(1, Items(items));
+    built.push_back(desk.World.Desktop.ScreenSizesAsked() - before);
+    desk.Menu.HideMenu();
+    const int hidden = desk.World.Desktop.ScreenSizesAsked();
+    desk.Reopen(1);
+    EXPECT_TRUE(desk.Menu.MenuVisible());
+    fromCache.push_back(desk.World.Desktop.ScreenSizesAsked() - hidden);
+  }
+  EXPECT_EQ(built[0], built[1]);
+  EXPECT_EQ(fromCache[0], fromCache[1]);
+  EXPECT_LE(built[1], 10);
+  EXPECT_LE(fromCache[1], 5);
 }
 
 TEST(frmQMenuShowMenu, ShowsTheItemsOfTheFileBesideTheStripInFront) {

@@ -11,6 +11,7 @@
 
 #include "base/Text.h"
 #include "core/Main.h"
+#include "core/MenuFile.h"
 #include "core/MenuRecord.h"
 #include "program/ProgramDesk.h"
 
@@ -194,6 +195,43 @@ TEST_F(MessageThread, ADropMakesNone) {
             }),
             Calls());
   EXPECT_EQ(World().Files.Get(kMenus + MenuFileName(1)).value_or("").size(), 7 * kRecordLength);
+}
+
+/// A path that no record holds: its folder's name takes 255 bytes, three a character.
+std::string WideFolder() {
+  std::string folder = "D:\\Wide\\";
+  for (int i = 0; i < 85; ++i) folder += "\xE6\x97\xA5";
+  return folder + "\\";
+}
+
+TEST_F(MessageThread, AFolderOfPathsThatAreTooLongMakesNone) {
+  World().Files.Put(WideFolder() + "letter.txt", "x");
+  World().Files.GiveShortName(WideFolder(), "6A2F~1");
+  PutMenu(1, {{"Wide", "", "D:\\Wide\\*.*/s"}});
+  EXPECT_EQ(CostsOf([&] {
+              Press(2);
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+  const auto stored =
+      ReadAllRecords(World().Files, World().Ansi, std::string(kMenus) + "BMENU001.mfd");
+  ASSERT_TRUE(stored);
+  EXPECT_EQ(stored->back().FName, "D:\\Wide\\6A2F~1\\letter.txt");
+}
+
+TEST_F(MessageThread, ADropOfPathsThatAreTooLongMakesNone) {
+  World().Files.Put(WideFolder() + "letter.txt", "x");
+  World().Files.GiveShortName(WideFolder(), "6A2F~1");
+  World().Desktop.DragFilesOver({WideFolder() + "letter.txt"}, desk_.MenuButton(2));
+  World().Desktop.Advance(500);
+  EXPECT_EQ(CostsOf([&] {
+              World().Desktop.Release();
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+  const auto stored = ReadAllRecords(World().Files, World().Ansi, kMenus + MenuFileName(1));
+  ASSERT_TRUE(stored);
+  EXPECT_EQ(stored->back().FName, "D:\\Wide\\6A2F~1\\letter.txt");
 }
 
 /// A question that is not answered is waited for once in a turn, however many there are.

@@ -249,7 +249,12 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   Rgb SystemColor(int index) const override;
   int DpiAt(const PixelRect& bounds) const override;
   std::vector<PixelRect> Monitors() const override;
-  PixelSize ScreenSize() const override { return options_.Screen; }
+  PixelSize ScreenSize() const override {
+    ++screenSizesAsked_;
+    return options_.Screen;
+  }
+  /// How often the program has asked for it: a call of the system that may take long.
+  [[nodiscard]] int ScreenSizesAsked() const noexcept { return screenSizesAsked_; }
   /// The primary screen by its own scale, for a test that reckons with pixels.
   [[nodiscard]] forms::ScreenInfo Screen() const;
   [[nodiscard]] int PrimaryDpi() const noexcept;
@@ -482,6 +487,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   std::vector<SentMessage> sent_;
   std::string clipboard_;
   int paints_ = 0;
+  mutable int screenSizesAsked_ = 0;
   int beeps_ = 0;
   std::optional<SimDrag> drag_;
   forms::DropEffect dragEffect_ = forms::DropEffect::None;

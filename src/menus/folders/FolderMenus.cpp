@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "base/Text.h"
+#include "core/DroppedFiles.h"
 #include "core/IconState.h"
 #include "core/MenuFile.h"
 #include "core/MenuRecord.h"
@@ -122,26 +123,43 @@ const FoundFiles& FolderMenus::FilesOf(std::string_view folderName) {
 }
 
 void FolderMenus::NameFiles(FoundFiles& found) {
-  std::vector<std::string> names(found.Folders.size());
+  const CodePage& ansi = services_.Ansi;
+  AskOfFiles(
+      LookupKind::FileNames, found, [](const FoundFiles::File&) { return true; },
+      [](FoundFiles::File& file, const std::string& name) { file.Shown = name; });
+  AskOfFiles(
+      LookupKind::ShortPaths, found,
+      [&](const FoundFiles::File& file) { return !FitsRecord(ansi, found.PathOf(file)); },
+      [&](FoundFiles::File& file, const std::string& path) {
+        // What no record can hold starts from the menu all the same.
+        if (FitsRecord(ansi, path)) file.Short = path;
+      });
+}
+
+void FolderMenus::AskOfFiles(
+    LookupKind kind, FoundFiles& found, const std::function<bool(const FoundFiles::File&)>& asks,
+    const std::function<void(FoundFiles::File&, const std::string&)>& take) {
   // No menu shows more.
   const std::size_t most = std::min(found.Files.size(), static_cast<std::size_t>(kMaxRecords));
-  for (std::size_t i = 0; i < most; ++i) names[found.Files[i].Folder] += found.Files[i].Name + '\n';
-  std::vector<const std::vector<ShellFolderEntry>*> shown(names.size());
+  std::vector<std::string> names(found.Folders.size());
+  std::vector<std::vector<FoundFiles::File*>> asked(found.Folders.size());
+  for (std::size_t i = 0; i < most; ++i) {
+    FoundFiles::File& file = found.Files[i];
+    if (!asks(file)) continue;
+    names[file.Folder] += file.Name + '\n';
+    asked[file.Folder].push_back(&file);
+  }
   for (std::size_t folder = 0; folder < names.size(); ++folder) {
-    if (names[folder].empty()) continue;
+    if (asked[folder].empty()) continue;
     const FolderQuestions::Known& answer = reading_.Questions->Get(
-        {.Kind = LookupKind::FileNames, .Path = found.Folders[folder], .Pattern = names[folder]});
+        {.Kind = kind, .Path = found.Folders[folder], .Pattern = std::move(names[folder])});
     const bool waits =
         answer.State == FolderState::Reading || answer.State == FolderState::BeingRead;
     if (waits) found.Named = false;
-    shown[folder] = std::get_if<std::vector<ShellFolderEntry>>(&answer.Value);
-  }
-  std::vector<std::size_t> next(names.size());
-  for (std::size_t i = 0; i < most; ++i) {
-    FoundFiles::File& file = found.Files[i];
-    const auto* const list = shown[file.Folder];
-    const std::size_t at = next[file.Folder]++;
-    if (list != nullptr && at < list->size()) file.Shown = (*list)[at].Name;
+    const auto* const list = std::get_if<std::vector<ShellFolderEntry>>(&answer.Value);
+    if (list == nullptr) continue;
+    const std::size_t known = std::min(list->size(), asked[folder].size());
+    for (std::size_t i = 0; i < known; ++i) take(*asked[folder][i], (*list)[i].Name);
   }
 }
 
@@ -184,7 +202,7 @@ void FolderMenus::ExpandOne(GeneratedMenu& menu, int record, std::string_view me
     state = found.State;
     NameFiles(found);
     built.Whole = built.Whole && found.Named;
-    folder = ExpandFolderItem(services_.Files, services_.Ansi, menu, record, found, paths);
+    folder = ExpandFolderItem(menu, record, found, paths);
   } else {
     const SpecialFolderLines lines = LinesOf(name);
     state = lines.State;

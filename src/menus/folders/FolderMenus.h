@@ -67,7 +67,12 @@ class FolderMenus final : public FolderMenusPort {
   /// Shows what the menu had before in the place of folder item `record`, or the item itself.
   void ShowKept(GeneratedMenu& menu, int record, std::string_view menuFile, FolderState state);
   const FoundFiles& FilesOf(std::string_view folderName);
+  /// Fills in what is asked of the files themselves: their names, and short paths where the long
+  /// ones fit no record.
   void NameFiles(FoundFiles& found);
+  void AskOfFiles(LookupKind kind, FoundFiles& found,
+                  const std::function<bool(const FoundFiles::File&)>& asks,
+                  const std::function<void(FoundFiles::File&, const std::string&)>& take);
   [[nodiscard]] SpecialFolderLines LinesOf(std::string_view folderName);
   [[nodiscard]] bool AnyChanged(const Built& built);
   [[nodiscard]] bool HasChanged(const Built& built, std::size_t index);

@@ -13,7 +13,8 @@ FolderQuestions::FolderQuestions(desk::AnswerDesk& desk, forms::WindowSystem& wi
       changed_(std::move(changed)),
       how_(how),
       owner_(desk.NewOwner()),
-      until_(how == desk::Urgency::OnShow ? windows.Now() + kAtOnce : 0) {}
+      began_(windows.Now()),
+      mayWait_(how == desk::Urgency::OnShow) {}
 
 FolderQuestions::~FolderQuestions() { desk_.Drop(owner_); }
 
@@ -30,7 +31,7 @@ void FolderQuestions::Ask(Asked& asked) {
   desk::Asker later{.Ended = [this, key](const desk::Reply& reply) { Take(key, reply); },
                     .TakesLonger = [this, key](desk::Stage stage) { TakeStage(key, stage); }};
   desk::Request request{.Question = asked.Question, .How = how_, .Owner = owner_};
-  const std::int64_t left = until_ - windows_.Now();
+  const std::int64_t left = MayWait(asked.Question.Kind);
   if (left <= 0) {
     desk_.Ask(std::move(request), std::move(later));
     return;
@@ -40,6 +41,12 @@ void FolderQuestions::Ask(Asked& asked) {
   asked.Answer = {
       reply->How == desk::End::NotAvailable ? FolderState::NotAvailable : FolderState::Here,
       reply->Value};
+}
+
+std::int64_t FolderQuestions::MayWait(LookupKind kind) const {
+  if (!mayWait_) return 0;
+  const bool ofFiles = kind == LookupKind::FileNames || kind == LookupKind::ShortPaths;
+  return began_ + (ofFiles ? kNamesAtOnce : kAtOnce) - windows_.Now();
 }
 
 void FolderQuestions::Take(const std::string& key, const desk::Reply& reply) {
@@ -63,7 +70,7 @@ void FolderQuestions::TakeStage(const std::string& key, desk::Stage stage) {
 }
 
 void FolderQuestions::TryAgain() {
-  until_ = 0;
+  mayWait_ = false;
   for (auto& [key, asked] : asked_) {
     if (asked.Answer.State != FolderState::NotAvailable) continue;
     desk_.TryAgain(asked.Question);

@@ -25,7 +25,10 @@ class FolderQuestions {
   };
 
   /// Milliseconds for which all questions together may hold up the menu.
-  static constexpr int kAtOnce = 80;
+  static constexpr int kAtOnce = 60;
+  /// The same of questions about the files of a folder that is known: without their answers the
+  /// captions are the names that the disk gives. The first captions are to be there within 50 ms.
+  static constexpr int kNamesAtOnce = 25;
 
   /// `changed` is called, never inside a call of this, whenever more is known. It may end this.
   /// What is not asked for a menu on show holds nothing up.
@@ -48,6 +51,7 @@ class FolderQuestions {
   };
 
   void Ask(Asked& asked);
+  [[nodiscard]] std::int64_t MayWait(LookupKind kind) const;
   void Take(const std::string& key, const desk::Reply& reply);
   void TakeStage(const std::string& key, desk::Stage stage);
 
@@ -56,7 +60,8 @@ class FolderQuestions {
   std::function<void()> changed_;
   desk::Urgency how_;
   std::uint64_t owner_ = 0;
-  std::int64_t until_ = 0;  // questions may wait for their answers until then
+  std::int64_t began_ = 0;
+  bool mayWait_ = false;
   std::map<std::string, Asked> asked_;
 };
 

@@ -6,7 +6,6 @@
 
 #include "base/Text.h"
 #include "base/Wildcard.h"
-#include "core/DroppedFiles.h"
 #include "menus/folders/GeneratedMenu.h"
 
 namespace corvelle {
@@ -68,8 +67,8 @@ FoundFiles ListFolderItem(const FolderLister& list, const FolderItem& item) {
   return found;
 }
 
-clsFolder ExpandFolderItem(FileSystem& files, const CodePage& ansi, GeneratedMenu& menu, int record,
-                           const FoundFiles& found, std::vector<std::string>& paths) {
+clsFolder ExpandFolderItem(GeneratedMenu& menu, int record, const FoundFiles& found,
+                           std::vector<std::string>& paths) {
   clsFolder folder;
   folder.FolderName = menu.Source()[static_cast<std::size_t>(record) - 1].FName;
   const FolderItem item = ParseFolderItem(folder.FolderName);
@@ -86,7 +85,7 @@ clsFolder ExpandFolderItem(FileSystem& files, const CodePage& ansi, GeneratedMen
     if (!item.Merged && last != found.Folders.size() && last != file.Folder) menu.AddRule();
     last = file.Folder;
     // What no record can hold starts from the menu all the same.
-    const std::string stored = PathForRecord(files, ansi, path).value_or(path);
+    const std::string& stored = file.Short.empty() ? path : file.Short;
     menu.AddEntry(record,
                   {FileTitleOf(file.Shown, file.Name, item.WithoutExtension), stored, stored});
   }

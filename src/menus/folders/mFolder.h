@@ -12,7 +12,6 @@
 
 namespace corvelle {
 
-class CodePage;
 class GeneratedMenu;
 
 // Folder items of the disk.
@@ -24,6 +23,7 @@ struct FoundFiles {
     std::string Name;
     std::string SortKey;
     std::string Shown;  // the name that the shell shows; empty while it is not known
+    std::string Short;  // the path that a record can hold, where the file's own is too long for it
   };
 
   std::vector<std::string> Folders;  // each with its trailing backslash
@@ -52,8 +52,7 @@ using FolderLister =
 /// Adds the entries of the folder item at record `record` of the source, behind the records before
 /// it. `found`: what it holds. `paths` gets the full paths of its files when the item is to be
 /// compared later.
-[[nodiscard]] clsFolder ExpandFolderItem(FileSystem& files, const CodePage& ansi,
-                                         GeneratedMenu& menu, int record, const FoundFiles& found,
+[[nodiscard]] clsFolder ExpandFolderItem(GeneratedMenu& menu, int record, const FoundFiles& found,
                                          std::vector<std::string>& paths);
 
 /// How many files there are now; -1 when there are as many as `paths` but others, so that the

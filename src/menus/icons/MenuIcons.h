@@ -62,7 +62,7 @@ class MenuIcons {
   /// Width and height of a cell, pixels.
   static constexpr int kCell = 16;
   /// Milliseconds for which all that is asked for one opening may hold up the menu.
-  static constexpr int kAtOnce = 80;
+  static constexpr int kAtOnce = 60;
 
   explicit MenuIcons(const MenuIconSources& from);
   ~MenuIcons();

@@ -58,8 +58,8 @@ void MenuDrops::InsertFiles(const std::vector<std::string>& names, const Target&
     const forms::FlagScope busy(program_.Guards.ItemActionBusy);
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
-    dropped = DroppedRecords(files, ansi, names, [this](const std::vector<std::string>& paths) {
-      return GetTrimmedTitles(program_, paths);
+    dropped = DroppedRecords(names, [this](const std::vector<std::string>& paths) {
+      return GetTrimmedNames(program_, paths);
     });
     outcome = InsertDropped(files, ansi, file, position, dropped.Records);
     if (outcome == EditOutcome::Edited) program_.TellMenusEdited();

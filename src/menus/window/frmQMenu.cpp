@@ -178,9 +178,9 @@ void frmQMenu::InitElements() {
 void frmQMenu::TakeScale() {
   // A menu belongs to the strip, and comes up on its monitor.
   if (program_.Ports.Toolbar != nullptr) SetDpi(program_.Ports.Toolbar->WindowDpi());
-  const forms::ScreenInfo screen = Screen();
-  TwipsX = std::trunc(screen.TwipsPerPixelX);
-  TwipsY = std::trunc(screen.TwipsPerPixelY);
+  const forms::PixelScale scale = Scale();
+  TwipsX = std::trunc(scale.TwipsPerPixelX);
+  TwipsY = std::trunc(scale.TwipsPerPixelY);
   const MenuMetrics metrics = MetricsFor(TwipsX, TwipsY);
   SmallIconW = metrics.SmallIconW;
   SmallIconH = metrics.SmallIconH;

@@ -76,7 +76,7 @@ MenuLayout frmQMenu::LayOut(std::span<const MenuItem> items, float room) const {
                      .WindowHeight = room,
                      .TextWidth = [this](std::string_view text) {
                        const PixelSize size = MeasureText(text, Lbl[0].Font());
-                       return static_cast<float>(size.width) * Screen().TwipsPerPixelX;
+                       return static_cast<float>(size.width) * Scale().TwipsPerPixelX;
                      }});
 }
 

@@ -28,7 +28,7 @@ void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, flo
 }
 
 PixelPoint frmQMenu::OnScreen(float x, float y) const {
-  const PixelPoint at = forms::ToPixels(Left() + x, Top() + y, Screen());
+  const PixelPoint at = forms::ToPixels(Left() + x, Top() + y, Scale());
   return {at.x + BorderPixels(), at.y + BorderPixels()};
 }
 

@@ -134,7 +134,7 @@ void frmQMenu::DrawItemIcon(int index) {
 
 PixelRect frmQMenu::IconCell(int index) const {
   const PixelPoint at =
-      forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH), Screen());
+      forms::ToPixels(IconLeft(TwipsX), IconTop(BoxOf(index), SmallIconH), Scale());
   return RectAt(at, {MenuIcons::kCell, MenuIcons::kCell});
 }
 

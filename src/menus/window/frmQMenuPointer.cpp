@@ -87,7 +87,7 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, f
 void frmQMenu::FollowPointer() {
   if (!std::exchange(rebuilt_, false)) return;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
-  const PixelPoint corner = forms::ToPixels(Left(), Top(), Screen());
+  const PixelPoint corner = forms::ToPixels(Left(), Top(), Scale());
   OnMouseMove(MouseButton::None, {}, {pointer.x - corner.x, pointer.y - corner.y});
 }
 

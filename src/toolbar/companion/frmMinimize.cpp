@@ -159,7 +159,7 @@ void frmMinimize::LeaveEdge(float top) {
 // ---- back ----
 
 void frmMinimize::Form_MouseMove(float x) {
-  const int message = RoundToInt(x / Screen().TwipsPerPixelX);
+  const int message = RoundToInt(x / Scale().TwipsPerPixelX);
   if (message != kLeftButtonUp && message != kLeftButtonDoubleClick) return;
   if (program_.Strip.ToolbarMinimized) {
     RestoreWindow();

@@ -47,7 +47,7 @@ bool StripHiding::MustReveal(PixelPoint pointer, WindowId under) const {
 PixelRect StripHiding::WindowPixels() const {
   const forms::Form& window = strip_.AsForm();
   return forms::ToPixels(window.Left(), window.Top(), window.Width(), window.Height(),
-                         window.Screen());
+                         window.Scale());
 }
 
 PixelSize StripHiding::ScreenPixels() const { return program_.Windows.ScreenSize(); }

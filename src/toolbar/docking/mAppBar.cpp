@@ -68,8 +68,8 @@ void mAppBar::ShowAutoHideTaken() {
 Edge mAppBar::CurrentEdge() const { return program_.Strip.ToolbarEdge; }
 
 TwipSize mAppBar::Twips() const {
-  const forms::ScreenInfo screen = window_.Screen();
-  return {screen.TwipsPerPixelX, screen.TwipsPerPixelY};
+  const forms::PixelScale scale = window_.Scale();
+  return {scale.TwipsPerPixelX, scale.TwipsPerPixelY};
 }
 
 PixelSize mAppBar::ScreenPixels() const { return program_.Windows.ScreenSize(); }

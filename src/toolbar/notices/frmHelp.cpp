@@ -64,7 +64,7 @@ void frmHelp::CloseHint() {
 
 void frmHelp::ShowHint(std::string_view text) {
   if (program_.Ports.Toolbar != nullptr) SetDpi(program_.Ports.Toolbar->WindowDpi());
-  Label1.SetLeft(Screen().TwipsPerPixelX);
+  Label1.SetLeft(Scale().TwipsPerPixelX);
   Label1.SetCaption("");
   Label1.SetCaption(" " + std::string(text) + " ");
   const forms::ScreenInfo screen = Screen();

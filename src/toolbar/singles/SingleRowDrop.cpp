@@ -149,8 +149,8 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
     return;
   }
   DroppedEntries dropped = DroppedRecords(
-      program_.Services.Files, program_.Services.Ansi, std::move(names),
-      [this](const std::vector<std::string>& paths) { return GetFileTitles(program_, paths); });
+      std::move(names),
+      [this](const std::vector<std::string>& paths) { return GetDroppedNames(program_, paths); });
   AddDropped(dropped.Records, target.File);
   // Last, so that nothing here lets its timer through.
   if (window_.IsLoaded()) strip_.TellRefused(std::move(dropped.Refused));

@@ -54,7 +54,7 @@ TwipPoint MenuTracking::InMenu(PixelPoint pointer) const {
 
 PixelPoint MenuTracking::InBox(float x, float y) const {
   return forms::ToPixels(window_.Left() + picToolbar_.Left() + x,
-                         window_.Top() + picToolbar_.Top() + y, window_.Screen());
+                         window_.Top() + picToolbar_.Top() + y, window_.Scale());
 }
 
 void MenuTracking::SetButtonBorders() {

@@ -176,10 +176,9 @@ void StripDrops::DropFiles(std::vector<std::string> names, int button) {
     const forms::FlagScope busy(program_.Guards.ItemActionBusy);
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
-    dropped = DroppedRecords(files, ansi, std::move(names),
-                             [this](const std::vector<std::string>& paths) {
-                               return GetTrimmedTitles(program_, paths);
-                             });
+    dropped = DroppedRecords(std::move(names), [this](const std::vector<std::string>& paths) {
+      return GetTrimmedNames(program_, paths);
+    });
     outcome = AppendDropped(files, ansi, path, dropped.Records);
     if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
   }

@@ -280,9 +280,9 @@ void frmToolbar::StopTimers() {
 }
 
 void frmToolbar::ReadTwips() {
-  const forms::ScreenInfo screen = Screen();
-  TwipsX = screen.TwipsPerPixelX;
-  TwipsY = screen.TwipsPerPixelY;
+  const forms::PixelScale scale = Scale();
+  TwipsX = scale.TwipsPerPixelX;
+  TwipsY = scale.TwipsPerPixelY;
 }
 
 void frmToolbar::ChooseIconSize() {
