@@ -174,6 +174,9 @@ void MenuTracking::ResetMenu() {
     strip_.CheckToolbarMove();
     menu->SetOwnerTag("0");
   }
+  // One that covers the menu while it is asked where an address goes has nothing to cover any more.
+  CapturePort* const capture = program_.Ports.Capture;
+  if (capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
   // What the menu covered is seen again, but the next press waits until this one is dealt with.
   program_.Windows.PaintWaiting();
 }
