@@ -136,9 +136,12 @@ bool Main(Program& program) {
   Upgrade(program);
   program.Icons.WebLinkIcon = LoadWebLinkIcon(program.Services.Files, program.Services.Ansi,
                                               program.Paths.AppPath, program.OptionFlags);
+  // The strip comes first: threads and processes that look for icons would delay it.
+  program.Answers.Hold();
   if (program.Ports.IconRule != nullptr) program.Ports.IconRule->DetectShellIcons();
   program.Strip.NotOnTop = program.OptionFlags.Is(Option::NotOnTop);
   LoadWindows(program);
+  program.Answers.GoOn();
   CloseStartupWindow(program);
   // Events ran: the companion may have been closed, and the program with it.
   if (HasEnded(program)) return false;

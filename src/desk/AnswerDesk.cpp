@@ -37,6 +37,10 @@ Ticket AnswerDesk::Ask(Request request, Asker asker) {
   NoteLocalPlaces();
   const Ticket ticket = ++lastTicket_;
   askers_.emplace(ticket, std::move(asker));
+  if (held_) {
+    heldBack_.push_back({ticket, std::move(request)});
+    return ticket;
+  }
   Take(Asked{ticket, std::move(request)});
   PostTelling();
   return ticket;
@@ -58,7 +62,7 @@ std::optional<Reply> AnswerDesk::AskAtOnce(Request request, Asker later, int mil
       noteWait();
       return reply;
     }
-    const std::int64_t left = end - windows_.Now();
+    const std::int64_t left = held_ ? -1 : end - windows_.Now();
     if (left >= 0 && questions_.Collect(static_cast<int>(left))) continue;
     noteWait();
     return std::nullopt;
@@ -80,7 +84,12 @@ const LookupValue* AnswerDesk::LastKnown(const Lookup& question) {
   return kept != nullptr ? &kept->Value : nullptr;
 }
 
-void AnswerDesk::Drop(std::uint64_t owner) { Take(OwnerLeft{owner}); }
+void AnswerDesk::Drop(std::uint64_t owner) {
+  std::erase_if(heldBack_, [&](const Asked& asked) {
+    return asked.What.Owner == owner && askers_.erase(asked.Number) > 0;
+  });
+  Take(OwnerLeft{owner});
+}
 
 void AnswerDesk::SetUrgency(Ticket ticket, Urgency how) { Take(UrgencyChanged{ticket, how}); }
 
@@ -113,6 +122,12 @@ void AnswerDesk::Carry(const std::vector<Command>& commands) {
       std::erase_if(told_, [ticket](const Told& told) { return TicketOf(told) == ticket; });
     }
   }
+}
+
+void AnswerDesk::GoOn() {
+  held_ = false;
+  for (const Asked& asked : std::exchange(heldBack_, {})) Take(asked);
+  PostTelling();
 }
 
 void AnswerDesk::Begin(const BeginOperation& begun) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "desk/DeskRule.h"
 #include "desk/SlowQuestions.h"
@@ -73,6 +74,11 @@ class AnswerDesk {
   [[nodiscard]] std::optional<Reply> AskAtOnce(Request request, Asker later,
                                                int milliseconds = kAtOnce);
 
+  /// From now on questions wait until GoOn is called: something more urgent is to be done first,
+  /// and the system is to be left alone. AskAtOnce does not wait for them.
+  void Hold() { held_ = true; }
+  void GoOn();
+
   /// The answer to a question that came last, however old; null when none is kept. Good until the
   /// next call.
   [[nodiscard]] const LookupValue* LastKnown(const Lookup& question);
@@ -109,6 +115,8 @@ class AnswerDesk {
   forms::Alive alive_;
   std::uint64_t lastOwner_ = 0;
   Ticket lastTicket_ = 0;
+  bool held_ = false;
+  std::vector<Asked> heldBack_;
   bool telling_ = false;
   bool posted_ = false;
   std::int64_t waited_ = 0;  // in this turn of the message loop, milliseconds

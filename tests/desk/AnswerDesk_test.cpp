@@ -54,6 +54,35 @@ class AnswerDeskTest : public testing::Test {
   std::function<void()> then_;
 };
 
+TEST_F(AnswerDeskTest, WhatIsHeldBackIsAskedWhenItGoesOnAndNotWaitedFor) {
+  World.Costs.SetPrice([](std::string_view, std::string_view) { return 1; });
+  World.Costs.WhenCharged([this](int milliseconds) { World.Desktop.Jump(milliseconds); });
+  const std::int64_t began = World.Desktop.Now();
+  Desk->Hold();
+  Desk->Ask(IsThere("C:\\here\\a.txt"), Noted("one"));
+  EXPECT_FALSE(Desk->AskAtOnce(IsThere("D:\\nowhere.txt"), Noted("two")));
+  World.Desktop.Pump();
+  EXPECT_EQ(World.Desktop.Now(), began);
+  // However long that takes, the disk is not taken for a dead one.
+  World.Desktop.Advance(60'000);
+  EXPECT_EQ(World.SlowAnswers.Asked(), 0);
+  EXPECT_EQ(told_, Lines{});
+  Desk->GoOn();
+  World.Desktop.Pump();
+  EXPECT_EQ(told_, (Lines{"one yes", "two no"}));
+  EXPECT_TRUE(Desk->AskAtOnce(IsThere("D:\\here\\a.txt"), Noted("three")));
+}
+
+TEST_F(AnswerDeskTest, WhatIsDroppedWhileItIsHeldBackIsToldToNobody) {
+  Desk->Hold();
+  Desk->Ask(IsThere("C:\\here\\a.txt"), Noted("one"));
+  Desk->Drop(owner_);
+  Desk->GoOn();
+  World.Desktop.Pump();
+  EXPECT_EQ(told_, Lines{});
+  EXPECT_EQ(World.SlowAnswers.Asked(), 0);
+}
+
 TEST_F(AnswerDeskTest, AllThatIsWaitedForInOneTurnIsWaitedForOnce) {
   for (const char* lane : {"D:", "E:"}) World.SlowAnswers.Hang(lane);
   World.Costs.SetPrice([](std::string_view, std::string_view) { return 1; });
