@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/GuardFlags.h"
+#include "core/ProgramPaths.h"
 #include "menus/icons/IconWalk.h"
 #include "menus/icons/MenuIcons.h"
 #include "platform/FileSystem.h"
@@ -20,15 +21,15 @@ constexpr int kPause = 10;  // milliseconds
 
 }  // namespace
 
-IconPrefetch::IconPrefetch(Program& program, MenuIcons& icons)
-    : program_(program), icons_(icons), timer_(program.Windows) {
+IconPrefetch::IconPrefetch(const PrefetchSources& from, MenuIcons& icons)
+    : from_(from), icons_(icons), timer_(from.Windows) {
   timer_.Tick = [this] { Step(); };
 }
 
 void IconPrefetch::InitIcons() {
   Stop();
   folders_ = std::make_unique<FolderQuestions>(
-      program_.Answers, program_.Windows,
+      from_.Answers, from_.Windows,
       [this] {
         waiting_ = 0;
         GoOn(kPause);
@@ -52,7 +53,7 @@ void IconPrefetch::GoOn(int milliseconds) {
 
 void IconPrefetch::Step() {
   timer_.SetEnabled(false);
-  if (program_.Guards.MenuBuilding) {
+  if (from_.Guards.MenuBuilding) {
     GoOn(kPause);
     return;
   }
@@ -69,17 +70,16 @@ void IconPrefetch::Step() {
 }
 
 void IconPrefetch::ListFiles() {
-  FileSystem& files = program_.Services.Files;
-  icons_.Fetch(program_.Paths.ShippedFile("corvelle.exe"));
+  FileSystem& files = from_.Files;
+  icons_.Fetch(from_.Paths.ShippedFile("corvelle.exe"));
   // A folder that cannot be listed has no icons to fetch.
-  const auto menus = files.List(program_.Paths.MenusPath, "*.mnu");
+  const auto menus = files.List(from_.Paths.MenusPath, "*.mnu");
   if (menus) {
-    for (const FileEntry& entry : *menus) files_.push_back(program_.Paths.MenusPath + entry.Name);
+    for (const FileEntry& entry : *menus) files_.push_back(from_.Paths.MenusPath + entry.Name);
   }
-  const auto links = files.List(program_.Paths.ShellLinkPath, "*.lnk");
+  const auto links = files.List(from_.Paths.ShellLinkPath, "*.lnk");
   if (links) {
-    for (const FileEntry& entry : *links)
-      files_.push_back(program_.Paths.ShellLinkPath + entry.Name);
+    for (const FileEntry& entry : *links) files_.push_back(from_.Paths.ShellLinkPath + entry.Name);
   }
 }
 
@@ -90,7 +90,7 @@ bool IconPrefetch::LoadIconsOf(const std::string& menuFile) {
   }
   bool known = true;
   const IconTexts texts = IconTextsOf(
-      program_.Services.Files, program_.Services.Ansi, menuFile,
+      from_.Files, from_.Ansi, menuFile,
       [&](const std::string& folder, const std::string& pattern) {
         const FolderQuestions::Known& answer =
             folders_->Get({.Kind = LookupKind::FolderEntries, .Path = folder, .Pattern = pattern});

@@ -10,8 +10,21 @@
 
 namespace corvelle {
 
+class CodePage;
+class FileSystem;
 class MenuIcons;
-class Program;
+struct GuardFlags;
+struct ProgramPaths;
+
+/// What fetching icons beforehand works with. All of it outlives the fetching.
+struct PrefetchSources {
+  forms::WindowSystem& Windows;
+  desk::AnswerDesk& Answers;
+  FileSystem& Files;
+  const CodePage& Ansi;
+  const ProgramPaths& Paths;
+  const GuardFlags& Guards;  // nothing is fetched while a menu is built
+};
 
 /// Fetches icons before a menu asks for them, in moments when nothing else is to be done: one menu
 /// file at a time, from a timer. No window.
@@ -20,7 +33,7 @@ class IconPrefetch {
   /// Milliseconds from InitIcons to the first file.
   static constexpr int kFirstPause = 200;
 
-  IconPrefetch(Program& program, MenuIcons& icons);
+  IconPrefetch(const PrefetchSources& from, MenuIcons& icons);
 
   /// Those of all menu files, of the files of their folder items, and of the links, each when
   /// nothing more urgent is asked. Begins again when it has not come to its end yet.
@@ -35,7 +48,7 @@ class IconPrefetch {
   [[nodiscard]] bool LoadIconsOf(const std::string& menuFile);
   void GoOn(int milliseconds);
 
-  Program& program_;
+  PrefetchSources from_;
   MenuIcons& icons_;
   forms::Timer timer_;
   std::unique_ptr<FolderQuestions> folders_;

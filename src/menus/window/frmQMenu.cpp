@@ -52,7 +52,13 @@ frmQMenu::frmQMenu(Program& program)
               .Icons = program.Icons}),
       items_(program.Services.Ansi),
       drops_(program, items_),
-      prefetch_(program, icons_) {
+      prefetch_({.Windows = program.Windows,
+                 .Answers = program.Answers,
+                 .Files = program.Services.Files,
+                 .Ansi = program.Services.Ansi,
+                 .Paths = program.Paths,
+                 .Guards = program.Guards},
+                icons_) {
   LblButton.Load();
   imgButton.Load();
   WireEvents();
