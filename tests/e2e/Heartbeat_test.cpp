@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/CodePage.h"
 #include "core/MenuRecord.h"
 #include "e2e/Hanging.h"
 #include "e2e/WineDesk.h"
@@ -131,6 +132,27 @@ TEST_F(StripHeartbeat, GoesOnAtAStartWithTwentyDeadEntries) {
   ASSERT_TRUE(WaitForNoMenu(desk_));
   UseTheQuickMenu();
   Judge("a start with twenty dead entries");
+  folder.Answer();
+}
+
+TEST_F(StripHeartbeat, GoesOnAfterAStartWithDeadIconsOfSingleButtons) {
+  constexpr int kSingles = 8;
+  WriteMenu(desk_, 1, "Near", {Witness(desk_, "near")});
+  HangingFolder folder(kSingles);
+  for (int i = 0; i < kSingles; ++i) {
+    const std::string file = HangingFolder::File(i);
+    desk_.WriteFile("Menus\\" + SingleFileName(i + 1),
+                    FormatRecord({.FTitle = "Far", .FIcon = file, .FName = file}, Windows1252()));
+  }
+  ASSERT_TRUE(folder.Hang());
+  const double began = NowInMilliseconds();
+  ASSERT_TRUE(StartAndWait(desk_));
+  std::printf("the strip stood after %.0f ms\n", NowInMilliseconds() - began);
+  Forget();
+  desk_.Pause(6500);  // they are being looked for, cancelled, given up
+  desk_.Picture("dead-icons");
+  UseTheQuickMenu();
+  Judge("dead icons of single buttons");
   folder.Answer();
 }
 
