@@ -169,7 +169,7 @@ std::string MonkeyLife::WrongPicture() const {
   if (picture.MenuCaptured()) {
     if (!picture.IsLoaded()) return "a menu is covered by no picture";
     if (!parts_->WebLink.WebLinkPending) return "a still picture of the menu stays";
-    return {};
+    return MenuUp() ? "" : "a still picture covers a menu that is gone";
   }
   const bool held = IsDown(forms::MouseButton::Left) || IsDown(forms::MouseButton::Right);
   return picture.IsLoaded() && !held ? "a still picture stays" : "";
