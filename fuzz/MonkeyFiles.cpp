@@ -66,8 +66,9 @@ void MonkeyLife::NoteSave(const EntryLedger& filesBefore, const EntryLedger& sav
   const TreeLedger::SaveLoss loss = treeLedger_.Save(filesBefore, saved);
   treeNoted_ = kUnknownRevision;
   const auto tell = [this](const EntryLedger& lost, const char* where) {
-    // The user may have typed over one of them, or given up what others have made of the files.
-    if (lost.Size() <= 1 || !wrongSave_.empty()) return;
+    // The user may have typed over one of them, or given up what others have made of the files. A
+    // button that is deleted from the strip may leave the files as the tree is.
+    if (lost.Size() <= std::max(lossesAllowed_, 1) || !wrongSave_.empty()) return;
     wrongSave_ = "a save has lost " + std::to_string(lost.Size()) + " entries of the " + where +
                  ", one is\n" + lost.First();
   };

@@ -84,7 +84,8 @@ void MonkeyLife::DoubleClickAt(PixelPoint at) {
   MoveTo(at);
   Release(MouseButton::Left);
   Tell("double click");
-  world_->Desktop.DoubleClick();
+  FollowTree();
+  world_->Desktop.DoubleClick([this] { FollowTree(); });
 }
 
 void MonkeyLife::ClickSomewhere() {

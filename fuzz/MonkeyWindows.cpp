@@ -295,15 +295,17 @@ void MonkeyLife::NoteTree() {
 // What comes in from elsewhere when a gesture begins may be taken out by its end, and both are told
 // apart.
 void MonkeyLife::FollowTree() {
+  // The first click of two may take a window away that was over it.
+  windowUsed_ = windowUsed_ || TreeIsAtHand();
   if (!parts_->Customize.IsLoaded() || !treeLedger_.IsOpen()) return;
   const long revision = parts_->Customize.Editor.Tree.Revision();
   if (treeNoted_ == revision) return;
   treeNoted_ = revision;
   SettleFiles();
-  const EntryLedger lost = treeLedger_.ChangeTree(TreeEntries(), windowUsed_ || TreeIsAtHand());
+  const EntryLedger lost = treeLedger_.ChangeTree(TreeEntries(), windowUsed_);
   if (lost.Size() == 0 || disk_ == Disk::Failing || !wrongTree_.empty()) return;
-  wrongTree_ =
-      std::to_string(lost.Size()) + " entries are lost from the tree, one is\n" + lost.First();
+  wrongTree_ = std::to_string(lost.Size()) + " entries are lost from the tree, one is\n" +
+               lost.First() + DiskCalls();
 }
 
 // The tree changes by what the user does in the window; else only by what became of the files.

@@ -77,7 +77,7 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void ClickAt(int x, int y, forms::MouseButton button = forms::MouseButton::Left);
   /// Another window takes the mouse from the one that was pressed, which is told so.
   void TakeCapture();
-  void DoubleClick();
+  void DoubleClick(const std::function<void()>& between = {});
   /// A key goes down, or up again. Enter and Esc bring their characters with them.
   void KeyDown(int virtualKey);
   void KeyUp(int virtualKey);

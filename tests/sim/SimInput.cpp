@@ -77,8 +77,9 @@ void SimDesktop::TakeCapture() {
   UserEvent([this] { LoseCapture(); });
 }
 
-void SimDesktop::DoubleClick() {
+void SimDesktop::DoubleClick(const std::function<void()>& between) {
   Click();
+  if (between) between();
   keys_.insert(KeyOf(forms::MouseButton::Left));
   UserEvent([this, mouse = MouseNow()] { DeliverPress(mouse, forms::MouseButton::Left, true); });
   Release();
