@@ -8,7 +8,7 @@ namespace corvelle {
 
 class CodePage;
 
-/// Stored bytes as text: valid UTF-8 as it stands, anything else by the code page.
+/// Stored bytes as text: valid UTF-8 unchanged, anything else by the code page.
 [[nodiscard]] std::string DecodeText(std::string_view bytes, const CodePage& ansi);
 
 /// The bytes that store a text: in the code page where that reads back as the same text, else in

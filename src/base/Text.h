@@ -40,7 +40,8 @@ namespace corvelle {
 [[nodiscard]] bool StartsWithNoCase(std::string_view text, std::string_view start) noexcept;
 [[nodiscard]] bool EndsWithNoCase(std::string_view text, std::string_view end) noexcept;
 
-/// The byte at which `what` first stands in `text` at or after byte `from`; npos when it does not.
+/// The byte at which `what` is first found in `text`, at or after byte `from`; npos when it does
+/// not.
 [[nodiscard]] std::size_t FindNoCase(std::string_view text, std::string_view what,
                                      std::size_t from = 0) noexcept;
 [[nodiscard]] bool ContainsNoCase(std::string_view text, std::string_view what) noexcept;

@@ -25,7 +25,7 @@ std::string TemporaryBeside(std::string_view path) {
   return std::string(path.substr(0, folder)) + std::string(kDropFileName);
 }
 
-/// How the number of records stands in the way of `more`; nothing when it does not.
+/// How the number of records keeps `more` out; nothing when it does not.
 std::optional<EditOutcome> Obstacle(FileSystem& files, std::string_view path, std::size_t more) {
   if (more == 0) return EditOutcome::NothingToDo;
   // To ask a missing file for its records would create it.

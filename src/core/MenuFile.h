@@ -75,7 +75,7 @@ using RecordsEdit = std::function<std::string(std::string records)>;
                                                std::string_view record);
 
 /// Record `from` taken out and put before record `before`, which may be the place behind the last
-/// one. Nothing changes when there is no such record or place, or when it stands there already.
+/// one. Nothing changes when there is no such record or place, or when it is there already.
 [[nodiscard]] std::string MoveRecord(std::string records, int from, int before);
 
 /// Rewrites a menu file: its old content stays in kRewriteFileName in `menusPath` (with its

@@ -100,8 +100,8 @@ void ApplyEdgeCode(char atEdge, std::string_view code, EdgePlacement& placement)
 /// Sets the placement by Option::AtEdge and the edge code.
 void ReadEdgeFlags(const OptionFlags& flags, EdgePlacement& placement);
 
-/// Sets Option::AtEdge by whether the strip stands at an edge, be it docked or out of it for the
-/// moment only, and, if it does, the edge code by the edge.
+/// Sets Option::AtEdge by whether the strip is at an edge, be it docked or out of it for the
+/// moment only, and, if it is, the edge code by the edge.
 void SaveEdgeFlags(OptionFlags& flags, bool atEdge, Edge edge);
 
 }  // namespace corvelle

@@ -290,7 +290,7 @@ EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryE
   if (place < 2) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, place);
   if (!record) return EditOutcome::Refused(record.Error());
-  // The rule above a generated entry can be a generated one too, and what stands in the file before
+  // The rule above a generated entry can be a generated one too, and what is in the file before
   // its folder item is then no separator.
   if (!IsSeparatorIcon(record->FIcon)) return EditOutcome::RecordMismatch;
   edit.CurRecord = place;

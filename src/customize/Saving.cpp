@@ -92,7 +92,7 @@ void Save::EmptyBackup() {
 }
 
 // The copy is a second safety beside the change's own journal: the save goes on without it. One
-// that fills the disk up would only stand in the way of what is to be saved.
+// that fills the disk up would leave no room for what is to be saved.
 void Save::BackUp(const std::vector<std::string>& names) {
   if (!files_.FolderExists(Backup())) static_cast<void>(files_.MakeFolder(Backup()));
   ClearMarks();

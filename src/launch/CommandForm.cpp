@@ -33,7 +33,7 @@ constexpr BuiltInWord kBuiltIns[] = {
     {"filefind", CommandKind::FileFind},
 };
 
-/// True if what stands at `at` of a line is a part of an address of another kind: the value before
+/// True if what is at `at` of a line is a part of an address of another kind: the value before
 /// it, back to a blank or a quote, is not empty.
 bool IsInsideAddress(std::string_view line, std::size_t at) noexcept {
   const std::size_t equals = line.find('=');

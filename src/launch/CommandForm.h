@@ -63,7 +63,7 @@ struct CommandLineParts {
 };
 
 /// The program of a command line and what follows it. Without quotes each blank may end the
-/// program's name, tried from the left: it is the first that `exists`, as it stands or with ".exe";
+/// program's name, tried from the left: it is the first that `exists`, unchanged or with ".exe";
 /// when none does, the first word.
 [[nodiscard]] CommandLineParts SplitCommandLine(
     std::string_view line, const std::function<bool(const std::string&)>& exists);

@@ -17,7 +17,7 @@ namespace corvelle {
 
 class ShellIcons;
 
-/// The cells of one tab of the library: what stands in them, which of them is marked and which are
+/// The cells of one tab of the library: what they show, which of them is marked and which are
 /// seen. Their icons are drawn a few at a time, those in view first, so that the user can scroll
 /// and pick meanwhile. The sheet and its bar outlive it.
 class IconView {

@@ -42,7 +42,7 @@ HFONT FontCache::Get(const ScaledFont& wanted) {
 
 PixelSize FontCache::Measure(std::string_view text, const ScaledFont& wanted) {
   const SelectedObject font(dc_.Get(), Get(wanted));
-  // What Get gave stands at the end.
+  // What Get gave is the last one.
   int& height = fonts_.back().LineHeight;
   if (height == 0) {
     TEXTMETRICW metrics{};

@@ -11,7 +11,7 @@ struct ItemTraits : NullHandleTraits<ITEMIDLIST*> {
   static void Close(ITEMIDLIST* item) noexcept { CoTaskMemFree(item); }
 };
 
-/// Owns the shell's name of an item: where it stands in the tree of all folders, or in its folder.
+/// Owns the shell's name of an item: its place in the tree of all folders, or in its folder.
 using UniqueItem = UniqueHandle<ItemTraits>;
 
 }  // namespace corvelle::win32

@@ -16,7 +16,7 @@ namespace {
 // What stands above are flags of the call.
 constexpr int kLastFolder = 0xFF;
 
-/// Where a folder stands in the tree of all folders.
+/// Where a folder is in the tree of all folders.
 UniqueItem LocationOf(int folder) {
   UniqueItem item;
   if (folder < 0 || folder > kLastFolder) return item;
@@ -65,7 +65,7 @@ std::optional<std::string> NameOf(IShellFolder& folder, const ITEMIDLIST* child)
   return Narrow(TakeText(name, child));
 }
 
-/// As it stands in the tree.
+/// Its place in the tree.
 ShellFolderEntry EntryAt(const ITEMIDLIST* item, std::string name) {
   SHFILEINFOW info{};
   SHGetFileInfoW(reinterpret_cast<LPCWSTR>(item), 0, &info, sizeof(info),
