@@ -5,8 +5,12 @@
 namespace corvelle::fuzz {
 
 void TreeLedger::ChangeFiles(const EntryLedger& before, const EntryLedger& after) {
-  gone_.Take(after.Without(before));
-  gone_.Add(before.Without(after));
+  const EntryLedger more = after.Without(before);
+  const EntryLedger less = before.Without(after);
+  gone_.Take(more);
+  gone_.Add(less);
+  came_.Take(less);
+  came_.Add(more);
 }
 
 void TreeLedger::Open(EntryLedger tree) {
@@ -18,7 +22,10 @@ EntryLedger TreeLedger::ChangeTree(const EntryLedger& tree, bool byUser) {
   const EntryLedger lost = tree_.Without(tree);
   EntryLedger unknown = lost.Without(gone_);
   gone_.Take(lost);
-  takenOut_.Take(tree.Without(tree_));
+  // What comes in from the files is not what the user took out, though it be equal.
+  const EntryLedger added = tree.Without(tree_);
+  takenOut_.Take(added.Without(came_));
+  came_.Take(added);
   tree_ = tree;
   if (!byUser) return unknown;
   takenOut_.Add(unknown);
@@ -29,6 +36,7 @@ TreeLedger::SaveLoss TreeLedger::Save(const EntryLedger& files, const EntryLedge
   SaveLoss loss{tree_.Without(tree).Without(gone_), files.Without(tree).Without(takenOut_)};
   tree_ = tree;
   gone_ = {};
+  came_ = {};
   takenOut_ = {};
   return loss;
 }

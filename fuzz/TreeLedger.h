@@ -35,6 +35,7 @@ class TreeLedger {
   bool open_ = false;
   EntryLedger tree_;
   EntryLedger gone_;      // from the files, and perhaps not yet from the tree
+  EntryLedger came_;      // into the files, and perhaps not yet into the tree
   EntryLedger takenOut_;  // of the tree, and perhaps still in the files
 };
 
