@@ -226,6 +226,28 @@ TEST(CompanionTray, IsLeftAtTheEnd) {
   EXPECT_TRUE(desk.World.Tray.Shown.empty());
 }
 
+/// A window that asks something when it is closed, while the task bar is started again.
+struct AskingWindow final : LoadedWindow {
+  explicit AskingWindow(sim::World& world) : World(world) {}
+  void LoadWindow() override {}
+  bool WindowLoaded() const override { return true; }
+  void UnloadWindow() override {
+    World.Tray.Shown.clear();
+    World.Desktop.Broadcast(World.Tray.TaskbarCreatedMessage());
+    World.Desktop.Pump();
+  }
+  sim::World& World;
+};
+
+TEST(CompanionTray, IsLeftAtTheEndThoughTheTaskBarIsStartedAgainOnTheWay) {
+  Started desk;
+  desk.Companion.ActivateSysTray();
+  AskingWindow search(desk.World);
+  desk.TheProgram.Ports.NetSearch = &search;
+  desk.Exit();
+  EXPECT_TRUE(desk.World.Tray.Shown.empty());
+}
+
 TEST(CompanionTray, ComesBackWithANewTaskBar) {
   Started desk;
   desk.Companion.ActivateSysTray();

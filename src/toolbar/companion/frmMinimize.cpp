@@ -60,6 +60,8 @@ void frmMinimize::Form_Unload() {
   if (ports.WebLink != nullptr) ports.WebLink->EndWebLink();
   EndWindow(ports.About);
   if (ports.Hint != nullptr) ports.Hint->ReleaseHint();
+  // A task bar that came up while a window asked something has it again.
+  RemoveFromSysTray();
   program_.Windows.Quit();
 }
 
