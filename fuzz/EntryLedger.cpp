@@ -32,7 +32,11 @@ EntryLedger::EntryLedger(const sim::SimFiles& files, std::string_view folder) {
     for (std::size_t at = 0; at + kRecordLength <= bytes->size(); at += kRecordLength) {
       const MenuRecord record =
           ParseRecord(std::string_view(*bytes).substr(at, kRecordLength), ansi);
-      if (at > 0 || !menu || !IsBlank(record)) Add(record);
+      if (at == 0 && menu && IsBlank(record)) {
+        ++others_;
+      } else {
+        Add(record);
+      }
     }
   }
 }
@@ -50,7 +54,7 @@ EntryLedger::EntryLedger(const MenuSet& set, const CodePage& ansi) {
 
 void EntryLedger::Add(const MenuRecord& record) {
   if (record.FTitle.starts_with(kDamage)) {
-    ++damaged_;
+    ++others_;
     return;
   }
   // Blanks at the ends are lost on the way through the windows, which is no loss.
@@ -91,9 +95,9 @@ void EntryLedger::Add(const EntryLedger& other) {
 }
 
 void EntryLedger::Take(const EntryLedger& other) {
-  const int damaged = damaged_;
+  const int others = others_;
   *this = Without(other);
-  damaged_ = damaged;
+  others_ = others;
 }
 
 std::string EntryLedger::First() const { return entries_.empty() ? "" : entries_.begin()->first; }

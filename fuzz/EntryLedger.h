@@ -36,8 +36,8 @@ class EntryLedger {
   [[nodiscard]] int Size() const noexcept { return size_; }
   /// The texts of one entry; empty when there is none.
   [[nodiscard]] std::string First() const;
-  /// With the records that bear the monkey's damage.
-  [[nodiscard]] int Records() const noexcept { return size_ + damaged_; }
+  /// With the records that bear the monkey's damage, and the buttons without a text.
+  [[nodiscard]] int Records() const noexcept { return size_ + others_; }
 
   /// The same entries, whatever the monkey has damaged.
   [[nodiscard]] bool HasTheSame(const EntryLedger& other) const {
@@ -50,7 +50,7 @@ class EntryLedger {
 
   std::map<std::string, int> entries_;  // each more than 0 times
   int size_ = 0;
-  int damaged_ = 0;
+  int others_ = 0;
 };
 
 /// True for the files that hold entries of the user, by the end of their name.

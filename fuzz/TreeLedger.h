@@ -34,9 +34,10 @@ class TreeLedger {
  private:
   bool open_ = false;
   EntryLedger tree_;
-  EntryLedger gone_;      // from the files, and perhaps not yet from the tree
-  EntryLedger came_;      // into the files, and perhaps not yet into the tree
-  EntryLedger takenOut_;  // of the tree, and perhaps still in the files
+  EntryLedger gone_;       // from the files, and perhaps not yet from the tree
+  EntryLedger goneTaken_;  // of those, what the user has taken out of the tree as well
+  EntryLedger came_;       // into the files, and perhaps not yet into the tree
+  EntryLedger takenOut_;   // of the tree, and perhaps still in the files
 };
 
 }  // namespace corvelle::fuzz
