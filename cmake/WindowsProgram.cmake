@@ -13,7 +13,7 @@ if(EXISTS ${PROJECT_SOURCE_DIR}/src/main.cpp)
   # The names and lines of the code go to a file of their own, beside the program.
   string(REGEX REPLACE "gcc(-posix)?$" "objcopy" objcopy ${CMAKE_C_COMPILER})
   add_custom_command(TARGET corvelle POST_BUILD
-    COMMAND ${objcopy} --only-keep-debug $<TARGET_FILE:corvelle> ${CMAKE_BINARY_DIR}/corvelle.debug
+    COMMAND ${objcopy} --preserve-dates --only-keep-debug $<TARGET_FILE:corvelle> ${CMAKE_BINARY_DIR}/corvelle.debug
     COMMAND ${objcopy} --preserve-dates --strip-all $<TARGET_FILE:corvelle>
     BYPRODUCTS ${CMAKE_BINARY_DIR}/corvelle.debug VERBATIM)
 endif()

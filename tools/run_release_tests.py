@@ -40,6 +40,8 @@ HEADERS = ("windows.h", "commdlg.h", "ddeml.h", "imm.h", "ole2.h", "oleauto.h", 
 PRIVATE_C = re.compile(r"^(_|__)\w+$")
 # What the check of the stack says when it fails.
 GUARD = b"stack smashing detected"
+# As objdump shows it.
+NO_TIME = "Thu Jan  1 00:00:00 1970"
 INSTALLED_FLAGS = "11000000100000000010000101000001"
 
 
@@ -99,6 +101,9 @@ def check_headers(checks, build, width):
         check_program(checks, build, width, name, most[width], words)
     checks.check(f"{width}: the functions of the program, and not only of its libraries, guard the stack",
                  guards_stack(build, width))
+    symbols = subprocess.run([TOOLS[width] + "objdump", "-p", build / "corvelle.debug"], text=True, check=True,
+                             stdout=subprocess.PIPE).stdout
+    checks.check(f"{width}: the symbols have no time of the build", NO_TIME in symbols)
 
 
 def check_program(checks, build, width, name, most, words):
@@ -111,7 +116,7 @@ def check_program(checks, build, width, name, most, words):
     checks.check(f"{what}: protected against common attacks", FLAGS[width] <= flags, FLAGS[width] - flags)
     if width == "x86":
         checks.check(f"{what}: may use all of its addresses", "large address aware" in text)
-    checks.check(f"{what}: no debug information, no time of the build", "Thu Jan  1 00:00:00 1970" in text)
+    checks.check(f"{what}: no debug information, no time of the build", NO_TIME in text)
     others = set(imports) - KNOWN_LIBRARIES
     checks.check(f"{what}: only known libraries of the system are loaded at once", imports and not others, others)
     unknown = unknown_functions(imports, words)
