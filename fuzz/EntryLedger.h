@@ -11,12 +11,12 @@
 
 namespace corvelle::fuzz {
 
-/// What stands at the end of a file that the monkey has broken. An edit of that file may make a
+/// What is at the end of a file that the monkey has broken. An edit of that file may make a
 /// whole record of it, which is no entry of the user.
 inline constexpr std::string_view kDamage = "broken by a monkey";
 
-/// The entries that stand in the menu files and single buttons of a folder: the three texts of
-/// each, as often as it stands there. The button of a menu that has no text at all is none of them:
+/// The entries in the menu files and single buttons of a folder: the three texts of
+/// each, as often as it occurs. The button of a menu is left out when it has no text at all:
 /// the tree shows an empty file as such a button, and a save writes it.
 class EntryLedger {
  public:
@@ -28,13 +28,13 @@ class EntryLedger {
 
   /// How many entries of `before` are not here any more; `first` becomes the texts of one of them.
   [[nodiscard]] int Lost(const EntryLedger& before, std::string& first) const;
-  /// What is here and not in `other`, each as often as it stands here more often.
+  /// What is here and not in `other`, each as often as it occurs here more often.
   [[nodiscard]] EntryLedger Without(const EntryLedger& other) const;
   void Add(const EntryLedger& other);
   /// Of what is not here nothing is taken.
   void Take(const EntryLedger& other);
   [[nodiscard]] int Size() const noexcept { return size_; }
-  /// The texts of one entry; empty when there is none.
+  /// The texts of one entry; empty when the ledger has no entry.
   [[nodiscard]] std::string First() const;
   /// With the records that bear the monkey's damage, and the buttons without a text.
   [[nodiscard]] int Records() const noexcept { return size_ + others_; }

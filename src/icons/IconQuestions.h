@@ -10,7 +10,7 @@
 
 namespace corvelle {
 
-// What the system is asked for an icon, and what stands in its place until the answer comes.
+// What the system is asked for an icon, and what is shown until the answer comes.
 // Functions of the text alone.
 
 /// The shell's list for icons of this size: small ones at 16, large ones otherwise. Pixels.

@@ -32,7 +32,8 @@ class DragImage final : public DragImagePort {
   void ShowPointer();
   /// The side of the picture in pixels: that of the shell's large icons, which follows the scale.
   [[nodiscard]] int PictureSize() const;
-  /// The icon cut out of its ground; a hand where there is none, and until it is known.
+  /// The icon without its background. A hand while the icon is being fetched, or if the entry has
+  /// no icon.
   [[nodiscard]] Picture MakePicture(std::string_view icon);
   [[nodiscard]] Picture CutOut(const IconLook& look) const;
   void Carry(const Picture& picture);
