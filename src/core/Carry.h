@@ -2,27 +2,55 @@
 
 #include "base/Geometry.h"
 #include "forms/Types.h"
+#include "platform/WindowId.h"
 
 namespace corvelle {
 
 class CapturePort;
-class Program;
+class DesktopWindows;
+struct DragState;
+struct EntryEdit;
+struct GuardFlags;
+struct WindowPorts;
+namespace forms {
+class WindowSystem;
+}
 
-// An entry in the hand: picked up in a menu or in the row of single buttons with the left button,
-// and put down in a menu, on a button or in the row. The entry carried is the current one
-// (Program::Entry); no key does anything meanwhile.
+/// What carrying an entry works with. All of it outlives it.
+struct CarryParts {
+  forms::WindowSystem& Windows;
+  const DesktopWindows& Desktop;
+  const WindowPorts& Ports;
+  const GuardFlags& Guards;
+  EntryEdit& Entry;
+  DragState& Drag;
+};
 
-/// Picks the current entry up: from now on the pointer carries its picture.
-void StartCarry(Program& program);
+/// An entry in the hand: picked up in a menu or in the row of single buttons with the left button,
+/// and put down in a menu, on a button or in the row. The entry carried is the current one
+/// (EntryEdit); no key does anything meanwhile.
+class EntryCarry {
+ public:
+  explicit EntryCarry(const CarryParts& with) : with_(with) {}
 
-/// A mouse button was released at `at`, in pixels of the screen. False when nothing is carried, and
-/// the release is like any other. The left button puts down what is carried, wherever it is; the
-/// right one puts a copy down on a button or in the row and leaves a carry alone elsewhere.
-bool EndCarry(Program& program, PixelPoint at, forms::MouseButton released,
-              forms::ShiftState shift);
+  /// Picks the current entry up: from now on the pointer carries its picture.
+  void StartCarry();
 
-/// Nothing is carried any more, and nothing was put down.
-void AbandonCarry(Program& program);
+  /// A mouse button was released at `at`, in pixels of the screen. False when nothing is carried,
+  /// and the release is like any other. The left button puts down what is carried, wherever it is;
+  /// the right one puts a copy down on a button or in the row and leaves a carry alone elsewhere.
+  bool EndCarry(PixelPoint at, forms::MouseButton released, forms::ShiftState shift);
+
+  /// Nothing is carried any more, and nothing was put down.
+  void AbandonCarry();
+
+ private:
+  void Drop(WindowId under, forms::MouseButton released, forms::ShiftState shift);
+  void DropOnSingles(forms::MouseButton released);
+  [[nodiscard]] bool TakesCopies(WindowId under) const;
+
+  CarryParts with_;
+};
 
 /// Covers the menu that is up with its still picture until the scope ends, where the program has
 /// such pictures.

@@ -117,13 +117,13 @@ TEST(QuickHand, AYieldInWhatAYieldLetsRunPaintsAndRunsNothing) {
     desk.Strip.Refresh();
     const int before = desk.World.Desktop.PaintCount();
     desk.Strip.picToolbar.Invalidate({0, 0, 9000, 900});
-    desk.TheProgram.DoEvents();
+    desk.TheProgram.Events.DoEvents();
     EXPECT_GT(desk.World.Desktop.PaintCount(), before);
     order.emplace_back("outer is over");
   });
   const forms::TimerId inner = windows.StartTimer(1, [&] { order.emplace_back("inner"); });
   desk.World.Desktop.Jump(1);
-  desk.TheProgram.DoEvents();
+  desk.TheProgram.Events.DoEvents();
   windows.StopTimer(outer);
   windows.StopTimer(inner);
   EXPECT_EQ(order, (std::vector<std::string>{"outer", "outer is over", "inner"}));

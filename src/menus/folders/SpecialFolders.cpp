@@ -108,11 +108,11 @@ void SpecialFolders::OpenSpecialFolder(std::string_view name, std::string_view a
   const bool file = IsQuoted(argument);
   const SpecialFolderText text = ParseSpecialFolder(name, file ? std::string_view() : argument);
   StartBeside<std::string>(
-      program_, std::string(name) + "\n" + std::string(argument),
+      program_.Starts, std::string(name) + "\n" + std::string(argument),
       [text, parameters = file ? std::string(argument) : std::string()](
           const StartServices& services) { return OpenApart(services.Folders, text, parameters); },
       [&program = program_](const std::string& command) {
-        if (!command.empty()) LaunchItem(program, command);
+        if (!command.empty()) LaunchItem(program.Launch, command);
       });
 }
 

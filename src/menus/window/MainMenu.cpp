@@ -77,7 +77,7 @@ void MainMenu::xMainMenu(int index, std::string_view text) {
     wanted = menu_.Items()[index].Title;
   }
   menu_.HideMenu();
-  program_.DoEvents();
+  program_.Events.DoEvents();
   Run(wanted);
   EndChoice();
 }
@@ -140,7 +140,7 @@ void MainMenu::LargeIcons() {
   } else {
     ToggleLargeIcons();
   }
-  program_.SaveOptionFlags();
+  program_.Options.SaveOptionFlags();
   Forget();
 }
 
@@ -172,7 +172,7 @@ void MainMenu::AutoHide() {
     } else if (!StartAutoHide()) {
       return;
     }
-    program_.SaveOptionFlags();
+    program_.Options.SaveOptionFlags();
     Forget();
   }
   if (strip.WindowLoaded()) strip.SetPointerWatch(true);
@@ -211,7 +211,7 @@ void MainMenu::NotOnTop() {
   } else {
     companion->ActivateSysTray();
   }
-  program_.SaveOptionFlags();
+  program_.Options.SaveOptionFlags();
   // What was built meanwhile shows the mark of before.
   Forget();
 }
@@ -249,12 +249,13 @@ void MainMenu::HelpTopics() {
   if (!program_.Services.Files.FileExists(help)) {
     HelpPort* const pages = program_.Ports.Help;
     if (pages != nullptr && pages->ShowPage(HelpPage::Contents)) return;
-    program_.Say(program_.ToolbarWindow(),
-                 "Corvelle help file could not be found in Corvelle folder.",
-                 forms::msgbox::IconStop | forms::msgbox::OnTop);
+    program_.Messages.Say(program_.Ports.ToolbarWindow(),
+                          "Corvelle help file could not be found in Corvelle folder.",
+                          forms::msgbox::IconStop | forms::msgbox::OnTop);
     return;
   }
-  if (!ActivatePrevInstance(program_.Services.Desktop, "Corvelle Help")) LaunchItem(program_, help);
+  if (!ActivatePrevInstance(program_.Services.Desktop, "Corvelle Help"))
+    LaunchItem(program_.Launch, help);
 }
 
 // The companion's end is the program's end; what the strip has to save it saves before.

@@ -42,7 +42,7 @@ void MenuDrops::Drop(const DragData& data, const Target& target,
   }
   close();
   // An entry without a command has nothing that could open a file.
-  if (!command.empty()) OpenWithItem(program_, data.Files->front(), command);
+  if (!command.empty()) OpenWithItem(program_.Launch, data.Files->front(), command);
 }
 
 void MenuDrops::InsertFiles(const std::vector<std::string>& names, const Target& target) {
@@ -59,10 +59,11 @@ void MenuDrops::InsertFiles(const std::vector<std::string>& names, const Target&
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
     dropped = DroppedRecords(names, [this](const std::vector<std::string>& paths) {
-      return GetTrimmedNames(program_, paths);
+      return FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
+          .GetTrimmedNames(paths);
     });
     outcome = InsertDropped(files, ansi, file, position, dropped.Records);
-    if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
+    if (outcome == EditOutcome::Edited) program_.Ports.TellMenusEdited();
   }
   // After a failure the menu shows what the file still holds.
   if (outcome == EditOutcome::Edited && program_.Ports.Toolbar != nullptr) {

@@ -194,7 +194,7 @@ void frmQMenu::TakeScale() {
 }
 
 void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   // A build lets nothing else into the window.
   if (program_.Guards.MenuBuilding) return;
   if (!Load()) return;
@@ -265,7 +265,7 @@ void frmQMenu::BringUp() {
   if (Visible()) return;
   ShowNoActivate();
   // Another program's drag keeps the foreground.
-  if (program_.DragHolds()) return;
+  if (program_.Drag.DragHolds(program_.Services.Pointer)) return;
   // A menu that was rebuilt behind its still picture has the keyboard again, if the program still
   // has it.
   if (IsCaptured()) {

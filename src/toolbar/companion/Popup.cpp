@@ -44,15 +44,15 @@ void Popup::DoButtonMenu() {
 
 void Popup::ShowToolbarPopup(EntryEdit entry) {
   // A right click that arrives meanwhile leaves the entry that the popup is for.
-  if (busy_ || program_.ToolbarWindow() == kNoWindow) return;
+  if (busy_ || program_.Ports.ToolbarWindow() == kNoWindow) return;
   const forms::FlagScope busy(busy_);
   entry.CurFile = SourceMenuFile(entry.CurFile);
   SetCurrentEntry(program_.Entry, entry);
   DoButtonMenu();
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   const int chosen = LetChoose();
   // Anything can have happened meanwhile, the end of the program too.
-  if (chosen > 0 && program_.ToolbarWindow() != kNoWindow) {
+  if (chosen > 0 && program_.Ports.ToolbarWindow() != kNoWindow) {
     SetCurrentEntry(program_.Entry, entry);
     mnuItem_Click(chosen);
   }
@@ -70,7 +70,7 @@ int Popup::LetChoose() {
                      .Visible = element.Visible});
   }
   const forms::CountScope asking(program_.Guards.OpenQuestions);
-  return program_.Windows.ShowPopup(program_.WindowInUse(), lines,
+  return program_.Windows.ShowPopup(program_.Ports.WindowInUse(), lines,
                                     program_.Services.Pointer.PointerPosition(),
                                     forms::popup::RightButton);
 }

@@ -11,7 +11,7 @@ namespace corvelle {
 
 class Program;
 
-/// The popup menu of right clicks. Its commands act on the entry that is current (Program::Entry)
+/// The popup menu of right clicks. Its commands act on the entry that is current (EntryEdit)
 /// when they begin.
 class Popup final : public PopupPort {
  public:

@@ -41,8 +41,9 @@ void Popup::mnuItem_Click(int index) {
 }
 
 void Popup::ShowError(std::string_view path, FileError error) {
-  program_.Say(program_.WindowInUse(), NumberedFileError(program_.Services.Files, path, error),
-               forms::msgbox::IconInformation | forms::msgbox::OnTop);
+  program_.Messages.Say(program_.Ports.WindowInUse(),
+                        NumberedFileError(program_.Services.Files, path, error),
+                        forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
 // A disk that refused has left the file as it was; the user learns that nothing was done.
@@ -59,7 +60,7 @@ void Popup::OpenEntry() {
   if (IsButtonTag(entry.CurMenuTag)) {
     program_.Ports.Toolbar->OpenMenu(entry.CurMenuTag);
   } else {
-    LaunchItem(program_, entry.CurCommand);
+    LaunchItem(program_.Launch, entry.CurCommand);
   }
 }
 
@@ -80,17 +81,17 @@ void Popup::CutEntry() {
   const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const std::string file = program_.Entry.CurFile;
   CopyEntry(program_.Entry);
-  Settle(DeleteItem(program_, true), file);
+  Settle(program_.Commands.DeleteItem(true), file);
 }
 
 void Popup::CopyCurrentEntry() {
-  if (MayBeCopied(program_, program_.ToolbarWindow())) CopyEntry(program_.Entry);
+  if (program_.Commands.MayBeCopied(program_.Ports.ToolbarWindow())) CopyEntry(program_.Entry);
 }
 
 void Popup::PasteEntry() {
   const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const std::string file = program_.Entry.CurFile;
-  Settle(PasteItem(program_), file);
+  Settle(program_.Commands.PasteItem(), file);
 }
 
 // ---- deleting ----
@@ -102,7 +103,7 @@ void Popup::DeleteEntry() {
   if (!IsSinglesTag(tag) && !IsButtonTag(tag) && !IsMenuTag(tag)) return;
   const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   RememberForUndo(program_.Entry);
-  const EditOutcome outcome = DeleteItem(program_, false);
+  const EditOutcome outcome = program_.Commands.DeleteItem(false);
   if (outcome != EditOutcome::Edited) RestoreUndo(program_.Entry, before);
   Settle(outcome, before.CurFile);
 }
@@ -112,9 +113,9 @@ void Popup::DeleteSeparator() {
   const EntryEdit before = program_.Entry;
   EditOutcome outcome =
       SelectSeparatorAbove(program_.Services.Files, program_.Services.Ansi, program_.Entry);
-  if (outcome == EditOutcome::RecordMismatch) SayRecordMismatch(program_);
+  if (outcome == EditOutcome::RecordMismatch) program_.Commands.SayRecordMismatch();
   if (outcome == EditOutcome::Edited) {
-    outcome = DeleteItem(program_, false);
+    outcome = program_.Commands.DeleteItem(false);
     if (outcome != EditOutcome::Edited) RestoreUndo(program_.Entry, before);
   }
   Settle(outcome, before.CurFile);
@@ -123,7 +124,7 @@ void Popup::DeleteSeparator() {
 void Popup::UndoDelete() {
   const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const std::string file = program_.Entry.CurFile;
-  Settle(UndoDeleteItem(program_), file);
+  Settle(program_.Commands.UndoDeleteItem(), file);
 }
 
 // ---- new entries ----
@@ -137,7 +138,7 @@ void Popup::Insert(const MenuRecord& record) {
   const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
   const std::string file = program_.Entry.CurFile;
   SetClipboard(program_.Entry, record);
-  Settle(PasteItem(program_), file);
+  Settle(program_.Commands.PasteItem(), file);
   SetClipboard(program_.Entry);
 }
 
@@ -148,7 +149,7 @@ void Popup::InsertSeparator() { Insert(NewSeparatorRecord()); }
 // ---- folder items ----
 
 void Popup::AfterFolderEdit(EditOutcome outcome, const EntryEdit& entry) {
-  if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
+  if (outcome == EditOutcome::Edited) program_.Ports.TellMenusEdited();
   // A file that no longer holds the item is not what the menu shows.
   if (outcome != EditOutcome::Failed) program_.Ports.Toolbar->RefreshMenu(entry.CurMenuTag);
   Settle(outcome, entry.CurFile);
@@ -172,7 +173,7 @@ void Popup::ShowProperties() {
   const EntryEdit entry = program_.Entry;
   program_.Ports.Toolbar->ResetMenu();
   PropertiesPort* const properties = program_.Ports.Properties;
-  if (properties == nullptr || program_.ToolbarWindow() == kNoWindow) return;
+  if (properties == nullptr || program_.Ports.ToolbarWindow() == kNoWindow) return;
   // Events ran while the menu closed, and the window reads the current entry.
   SetCurrentEntry(program_.Entry, entry);
   if (IsSinglesTag(entry.CurMenuTag) && entry.CurRecord == 0) {
@@ -189,7 +190,7 @@ void Popup::ShowFolderProperties() {
   EntryEdit entry = program_.Entry;
   program_.Ports.Toolbar->ResetMenu();
   PropertiesPort* const properties = program_.Ports.Properties;
-  if (properties == nullptr || program_.ToolbarWindow() == kNoWindow) return;
+  if (properties == nullptr || program_.Ports.ToolbarWindow() == kNoWindow) return;
   const int number = RealRecord(entry.CurRecord);
   const FileResult<MenuRecord> record =
       ReadRecord(program_.Services.Files, program_.Services.Ansi, entry.CurFile, number);

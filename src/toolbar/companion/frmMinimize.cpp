@@ -97,7 +97,7 @@ void frmMinimize::ActivateSysTray() {
   // The menu is over everything even so.
   SetMenuLevel();
   ShowInSysTray();
-  program_.SaveOptionFlags();
+  program_.Options.SaveOptionFlags();
   subShowToolbar();
   if (program_.OptionFlags.Is(Option::NotOnTopTipDone) || program_.Ports.Tip == nullptr) return;
   program_.Ports.Tip->ShowTip("Not On Top", kNotOnTopText, Option::NotOnTopTipDone);
@@ -113,7 +113,7 @@ void frmMinimize::DeActivateSysTray() {
   strip->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
   SetMenuLevel();
   RemoveFromSysTray();
-  program_.SaveOptionFlags();
+  program_.Options.SaveOptionFlags();
 }
 
 // Whether the edge's room is reserved for the strip has changed.
@@ -200,7 +200,7 @@ void frmMinimize::Form_Resize() {
   if (program_.Strip.ToolbarMinimized) WakeToolbar();
   if (!IsLoaded()) return;
   SetVisible(false);
-  program_.DoEvents();
+  program_.Events.DoEvents();
   if (!IsLoaded()) return;
   if (program_.Strip.AutoHide && program_.Ports.Docking != nullptr) {
     program_.Ports.Docking->RevealToolbar();

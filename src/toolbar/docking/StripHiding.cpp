@@ -61,7 +61,7 @@ void StripHiding::RevealFromLine() {
 
 void StripHiding::EnsureToolbarVisible() {
   if (!program_.Strip.FullScreenApp || program_.OptionFlags.Is(Option::AboveFullScreen)) return;
-  program_.DoEvents();
+  program_.Events.DoEvents();
   forms::Form& window = strip_.AsForm();
   if (!window.IsLoaded()) return;
   window.SetWindowPos(forms::InsertAfter::Topmost, forms::swp::KeepActivation);

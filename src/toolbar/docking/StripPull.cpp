@@ -26,7 +26,7 @@ void StripPull::MouseDown(forms::MouseButton button, float x, float y) {
   if (program_.Entry.ItemDragging || IsBesidePull(button)) return;
   const forms::Form& window = strip_.AsForm();
   EndLostPull();
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   if (!window.IsLoaded()) return;
   strip_.ResetMenu();
   if (!window.IsLoaded()) return;

@@ -86,7 +86,7 @@ void frmImage::ReleaseMenu() {
       menu->ActivateKeyDown(kNoKey);
     }
     Hide();
-    program_.DoEvents();
+    program_.Events.DoEvents();
     program_.Windows.SetMousePointer(forms::MousePointer::Default);
     if (menu != nullptr && menu->MenuVisible()) {
       menu->SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
@@ -106,7 +106,7 @@ void frmImage::SetPicture1() {
 }
 
 void frmImage::ResetPicture1() {
-  program_.DoEvents();
+  program_.Events.DoEvents();
   Hide();
   Unload();
 }
@@ -122,7 +122,7 @@ void frmImage::SetPosition(Edge edge) {
   for (std::optional<Edge> shown; IsLoaded() && outline_ && shown != outline_;) {
     shown = outline_;
     ShowOutline(*shown);
-    program_.DoEvents();
+    program_.Events.DoEvents();
   }
 }
 

@@ -57,10 +57,10 @@ bool mAppBar::AutoHideFree(Edge edge) {
 }
 
 void mAppBar::ShowAutoHideTaken() {
-  program_.Say(program_.WindowInUse(),
-               "A toolbar is already hidden on this side of your screen.\r\n"
-               "You can have only one auto-hide toolbar per side.",
-               forms::msgbox::IconStop | forms::msgbox::OnTop);
+  program_.Messages.Say(program_.Ports.WindowInUse(),
+                        "A toolbar is already hidden on this side of your screen.\r\n"
+                        "You can have only one auto-hide toolbar per side.",
+                        forms::msgbox::IconStop | forms::msgbox::OnTop);
 }
 
 // Measures.
@@ -238,16 +238,16 @@ void mAppBar::StandAt(Edge at, bool keepsRoom) {
     CapturePort* const capture = program_.Ports.Capture;
     if (capture != nullptr && image != nullptr && image->WindowLoaded()) capture->ClearBg();
     place = KeepPlace(at, bar, true);
-    program_.DoEvents();
+    program_.Events.DoEvents();
     if (!window_.IsLoaded()) return;
   }
   const PixelRect window = BarWindow(at, place, bar);
   MoveWindow(window);
   window_.ShowNoActivate();
-  program_.DoEvents();
+  program_.Events.DoEvents();
   if (!window_.IsLoaded()) return;
   MoveWindow(window);
-  program_.DoEvents();
+  program_.Events.DoEvents();
   if (!window_.IsLoaded()) return;
   program_.Strip.AppBarDocked = true;
   PinHere();
@@ -273,7 +273,7 @@ bool mAppBar::AppBarPosChanged() {
     if (keepsRoom) place = KeepPlace(at, bar, lifts);
     MoveWindow(BarWindow(at, place, bar));
     StretchSingles(at);
-    program_.DoEvents();
+    program_.Events.DoEvents();
     if (!window_.IsLoaded()) return true;
   }
   if (program_.Strip.AutoHide) {

@@ -114,7 +114,7 @@ void frmTip::DrawPicture() {
 void frmTip::cmdOK_Click() {
   if (TipField) {
     program_.OptionFlags.Set(*TipField, Check1.Value() == 1);
-    program_.SaveOptionFlags();
+    program_.Options.SaveOptionFlags();
   }
   Unload();
 }

@@ -103,7 +103,7 @@ void DateLabel::UpdateLabelDate() {
 void DateLabel::lblDate_MouseDown() {
   const QMenuPort* const menu = program_.Ports.QMenu;
   if (program_.Menu.MenuOpen || (menu != nullptr && menu->MenuVisible())) strip_.ResetMenu();
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   program_.Menu.CurSingle = MenuState::kDateArea;
 }
 
@@ -115,14 +115,14 @@ void DateLabel::lblDate_MouseMove(forms::MouseButton down) {
   if (hintUp && program_.Menu.CurSingle == MenuState::kDateArea) return;
   program_.Menu.CurSingle = MenuState::kDateArea;
   const SystemInfo& system = program_.Services.System;
-  program_.SetHint(system.TimeOfDay() + ", " + system.LongDate());
+  program_.Ports.SetHint(system.TimeOfDay() + ", " + system.LongDate());
   UpdateLabelDate();
   row_.EnterDate();
 }
 
 void DateLabel::lblDate_DblClick() {
   if (program_.Entry.ItemDragging) return;
-  LaunchItem(program_, kDatePanel);
+  LaunchItem(program_.Launch, kDatePanel);
 }
 
 }  // namespace corvelle

@@ -157,7 +157,7 @@ std::vector<SingleRect> SingleRow::ReadSingles() {
         ReadButtonRecord(program_.Services.Files, program_.Services.Ansi, path);
     // A button that cannot be read is left out, and the others come all the same.
     if (!record) continue;
-    program_.ShowStartupProgress();
+    program_.Progress.ShowStartupProgress();
     read.push_back(EntryOf(*record, path));
   }
   return read;

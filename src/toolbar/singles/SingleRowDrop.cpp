@@ -72,7 +72,7 @@ void SingleRow::DoItemDrag(forms::MouseButton released) {
 
 // True if the files were changed.
 bool SingleRow::Told(const FileStatus& edited) const {
-  if (edited) program_.TellMenusEdited();
+  if (edited) program_.Ports.TellMenusEdited();
   return edited.HasValue();
 }
 
@@ -85,7 +85,7 @@ bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried
   if (moved == EditOutcome::Failed) return false;
   if (moved == EditOutcome::Edited) {
     // The menu is built again when it opens.
-    program_.TellMenusEdited();
+    program_.Ports.TellMenusEdited();
     strip_.RemoveQMenu(carried.CurMenuTag);
     return true;
   }
@@ -140,17 +140,19 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
   // Events run from here on: the pointer may go on, and the row may be another one.
   const SingleRect target = Under();
   const bool onButton = !target.File.empty() && target.Kind == SingleKind::Button;
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   CloseMenus();
   if (!window_.IsLoaded()) return;
   SortTexts(names);
   if (button == forms::MouseButton::Right && onButton) {
-    OpenWithItem(program_, names.front(), target.Command);
+    OpenWithItem(program_.Launch, names.front(), target.Command);
     return;
   }
-  DroppedEntries dropped = DroppedRecords(
-      std::move(names),
-      [this](const std::vector<std::string>& paths) { return GetDroppedNames(program_, paths); });
+  DroppedEntries dropped =
+      DroppedRecords(std::move(names), [this](const std::vector<std::string>& paths) {
+        return FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
+            .GetDroppedNames(paths);
+      });
   AddDropped(dropped.Records, target.File);
   // Last, so that nothing here lets its timer through.
   if (window_.IsLoaded()) strip_.TellRefused(std::move(dropped.Refused));

@@ -84,9 +84,9 @@ void SingleRow::sMouseMove() {
   // Back on a menu button, its own hint is due again.
   strip_.EndHovering();
   if (!program_.Menu.MenuOpen) program_.Menu.CurButton = 0;
-  program_.SetHint(IsButton(now)
-                       ? DoubleAmpersands(SingleButtons[static_cast<std::size_t>(now)].Title)
-                       : std::string());
+  program_.Ports.SetHint(IsButton(now)
+                             ? DoubleAmpersands(SingleButtons[static_cast<std::size_t>(now)].Title)
+                             : std::string());
 }
 
 // Ends the look and the hint of a button, or of the date, that the pointer has left.
@@ -98,7 +98,8 @@ void SingleRow::LookAround() {
   ShowHover(0);
   watch_.SetEnabled(false);
   // Over the menu buttons the hint is theirs by now.
-  if (!program_.Entry.ItemDragging && under != strip_.ButtonsBox().hWnd()) program_.SetHint("");
+  if (!program_.Entry.ItemDragging && under != strip_.ButtonsBox().hWnd())
+    program_.Ports.SetHint("");
 }
 
 // ---- presses ----
@@ -130,7 +131,7 @@ void SingleRow::picSingleButton_MouseDown(forms::MouseButton button, forms::Shif
     BeginCarry(index);
   }
   // Last, since a hint that goes lets events through, and the release may be among them.
-  program_.SetHint("");
+  program_.Ports.SetHint("");
 }
 
 void SingleRow::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x,
@@ -153,7 +154,7 @@ void SingleRow::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftS
 
 void SingleRow::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift,
                                         float /*x*/, float /*y*/) {
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   if (IsBesidePull(button)) return;
   const Press press = std::exchange(press_, {});
   // Wherever on the row the press ends, it was the frame's; a pull is ended by the frame itself.
@@ -234,13 +235,14 @@ void SingleRow::RunSingleButton() {
   const std::string command =
       runs ? SingleButtons[static_cast<std::size_t>(index)].Command : std::string();
   CloseMenus();
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   if (!runs || !window_.IsLoaded()) return;
   const forms::HourglassScope hourglass(program_.Windows);
   if (command.empty()) {
-    program_.Say(window_.hWnd(), kNoCommandText, forms::msgbox::IconStop | forms::msgbox::OnTop);
+    program_.Messages.Say(window_.hWnd(), kNoCommandText,
+                          forms::msgbox::IconStop | forms::msgbox::OnTop);
   } else {
-    LaunchItem(program_, command);
+    LaunchItem(program_.Launch, command);
   }
 }
 
@@ -322,7 +324,7 @@ void SingleRow::DropCarried(forms::MouseButton released, forms::ShiftState shift
 
 void SingleRow::StopCarry() {
   carrying_ = false;
-  AbandonCarry(program_);
+  program_.Carry.AbandonCarry();
 }
 
 // ---- right clicks ----

@@ -51,7 +51,7 @@ std::vector<ButtonRow::ButtonFile> ButtonRow::ReadButtonFiles() const {
   const auto names = OrderedMenuFiles(program_.Services.Files, program_.Paths.MenusPath);
   if (!names) return buttons;
   for (const std::string& name : *names) {
-    program_.ShowStartupProgress();
+    program_.Progress.ShowStartupProgress();
     const std::string path = program_.Paths.MenusPath + name;
     const std::optional<MenuRecord> record =
         ReadButtonRecord(program_.Services.Files, program_.Services.Ansi, path);

@@ -69,7 +69,7 @@ void MenuTracking::ShowMenu(int button) {
     ResetMenu();
     LastOpenFlag = true;
     LastOpenButton = button;
-    program_.SetHint("");
+    program_.Ports.SetHint("");
     if (window_.IsLoaded()) AnnounceHint();
     return;
   }
@@ -82,7 +82,7 @@ void MenuTracking::ShowMenuOf(int button) {
   LastOpenFlag = false;
   TakeHintDown();
   // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.
-  if (MenuUp() && !program_.DragHolds()) window_.SetFocus();
+  if (MenuUp() && !program_.Drag.DragHolds(program_.Services.Pointer)) window_.SetFocus();
   HideMenuWindow();
 
   std::string file = buttons_.PathOf(button);

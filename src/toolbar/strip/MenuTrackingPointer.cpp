@@ -110,11 +110,11 @@ void MenuTracking::picToolbar_MouseMove(forms::MouseButton down, float x, float 
       LastOpenButton = 0;
     } else if (!program_.Menu.MenuOpen && !program_.Entry.ItemDragging) {
       Hint.Forget();
-      program_.SetHint(buttons_.HintOf(current));
+      program_.Ports.SetHint(buttons_.HintOf(current));
     }
   }
   if ((program_.Menu.MenuOpen || program_.Entry.ItemDragging) && buttons_.LooksAtRest(current) &&
-      (IsOursActive() || program_.DragHolds())) {
+      (IsOursActive() || program_.Drag.DragHolds(program_.Services.Pointer))) {
     HoverButton(current);
   } else if (forms::Has(down, forms::MouseButton::Left) && IsOverMenu(WindowUnder(InBox(x, y)))) {
     // What was passed over is selected, wherever the pointer is by now.
@@ -123,7 +123,7 @@ void MenuTracking::picToolbar_MouseMove(forms::MouseButton down, float x, float 
 }
 
 void MenuTracking::StartHovering() {
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   program_.Guards.RestoreBusy = false;
   pull_.ForgetMove();
   WasHovering = true;
@@ -161,7 +161,7 @@ void MenuTracking::picToolbar_MouseUp(forms::MouseButton button, forms::ShiftSta
                                       float y) {
   WasHovering = false;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
-  if (EndCarry(program_, pointer, button, shift)) return;
+  if (program_.Carry.EndCarry(pointer, button, shift)) return;
   const WindowId under = WindowUnder(pointer);
   if (button == forms::MouseButton::Right) {
     if (under == window_.hWnd()) return pull_.MouseUp(button);
@@ -215,19 +215,19 @@ void MenuTracking::AnnounceHint() {
 
 void MenuTracking::TakeHintDown() {
   Hint.Forget();
-  program_.SetHint("");
+  program_.Ports.SetHint("");
 }
 
 void MenuTracking::KeepHintTimes(WindowId under) {
   const std::int64_t now = program_.Windows.Now();
   if (Hint.TakeEnd(now)) {
-    program_.SetHint("");
+    program_.Ports.SetHint("");
     if (!window_.IsLoaded()) return;
   }
   if (!Hint.TakeDue(now)) return;
   if (under != picToolbar_.hWnd() || program_.Menu.CurButton == 0) return;
   Hint.Shown(now);
-  program_.SetHint(buttons_.HintOf(program_.Menu.CurButton));
+  program_.Ports.SetHint(buttons_.HintOf(program_.Menu.CurButton));
 }
 
 // ---- following ----
@@ -238,7 +238,7 @@ void MenuTracking::Timer2_Timer() {
       program_.Guards.MenuBuilding)
     return;
   // What another program drags changes and closes the menu by its own events.
-  if (program_.DragHolds()) return;
+  if (program_.Drag.DragHolds(program_.Services.Pointer)) return;
   const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
   FindCurButton(pointer);
   const WindowId under = WindowUnder(pointer);

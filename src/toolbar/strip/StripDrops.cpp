@@ -102,7 +102,7 @@ void StripDrops::WatchCarry() {
 // The release of a carried item went to another program.
 void StripDrops::AbandonDrag() {
   carryWatch_.Reset();
-  AbandonCarry(program_);
+  program_.Carry.AbandonCarry();
 }
 
 void StripDrops::DoButtonDrag(int button, forms::MouseButton released) {
@@ -113,7 +113,8 @@ void StripDrops::DoButtonDrag(int button, forms::MouseButton released) {
   const forms::FlagScope dropping(program_.Drag.ItemDropping);
   const std::string tag = "F" + std::to_string(button);
   // What the disk refuses stays where it was, and the menu shows that.
-  static_cast<void>(DropItem(program_, tag, {.File = path}, released == forms::MouseButton::Right));
+  static_cast<void>(
+      program_.Commands.DropItem(tag, {.File = path}, released == forms::MouseButton::Right));
   if (window_.IsLoaded()) menus_.RefreshMenu(tag);
   program_.Entry.ItemDragging = false;
   ForgetCurrentEntry(program_.Entry);
@@ -144,8 +145,8 @@ void StripDrops::tmrRefused_Timer() {
   tmrRefused_.SetEnabled(false);
   const std::vector<std::string> files = std::exchange(refused_, {});
   if (files.empty() || !window_.IsLoaded()) return;
-  program_.Say(window_.hWnd(), RefusedFilesText(files),
-               forms::msgbox::IconInformation | forms::msgbox::OnTop);
+  program_.Messages.Say(window_.hWnd(), RefusedFilesText(files),
+                        forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
 }  // namespace corvelle

@@ -71,7 +71,7 @@ void StripDrops::picToolbar_OLEDragOver(DragData& data, DropEffect& effect, Mous
 void StripDrops::EnterDrag() {
   program_.Drag.DragOverButton = true;
   if (std::exchange(program_.Drag.DragEntered, true)) return;
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   const DesktopWindows& desktop = program_.Services.Desktop;
   SavedForeground = desktop.ForegroundWindow();
   if (!program_.Strip.NotOnTop && desktop.ActiveWindow() != window_.hWnd()) {
@@ -81,7 +81,7 @@ void StripDrops::EnterDrag() {
 
 void StripDrops::NoteDrag(const DragData& data, MouseButton down) {
   program_.Drag.DragButtons = down;
-  if (program_.Entry.ItemDragging) AbandonCarry(program_);
+  if (program_.Entry.ItemDragging) program_.Carry.AbandonCarry();
   if (program_.Drag.DragIsUrl || !data.Text || !DroppedAddress(*data.Text)) return;
   program_.Drag.DragIsUrl = true;
   if (program_.Ports.Browser != nullptr) {
@@ -98,7 +98,7 @@ void StripDrops::tmrDragDrop_Timer() {
   }
   const Input& input = program_.Services.Pointer;
   const WindowId under = program_.Services.Desktop.WindowAt(input.PointerPosition());
-  const bool held = program_.DragHolds();
+  const bool held = program_.Drag.DragHolds(program_.Services.Pointer);
   const bool over = under == picToolbar_.hWnd() || menus_.IsOverMenu(under);
   // On the way from the strip into the menu lies the strip's own frame.
   if (held && under == window_.hWnd()) return;
@@ -151,7 +151,7 @@ void StripDrops::picToolbar_OLEDragDrop(DragData& data, DropEffect& effect) {
   StopDrag();
   timer2_.SetEnabled(false);
   if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->SetPoll(false);
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   if (program_.Drag.DragButtons == MouseButton::Right) menus_.ResetMenu();
   if (!window_.IsLoaded()) return;
   CapturePort* const capture = program_.Ports.Capture;
@@ -177,10 +177,11 @@ void StripDrops::DropFiles(std::vector<std::string> names, int button) {
     FileSystem& files = program_.Services.Files;
     const CodePage& ansi = program_.Services.Ansi;
     dropped = DroppedRecords(std::move(names), [this](const std::vector<std::string>& paths) {
-      return GetTrimmedNames(program_, paths);
+      return FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
+          .GetTrimmedNames(paths);
     });
     outcome = AppendDropped(files, ansi, path, dropped.Records);
-    if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
+    if (outcome == EditOutcome::Edited) program_.Ports.TellMenusEdited();
   }
   if (!window_.IsLoaded()) return;
   if (outcome == EditOutcome::Edited) {
@@ -220,7 +221,7 @@ void StripDrops::picSingleButton_OLEDragOver(DragData& data, DropEffect& effect,
                                  : data.Text && program_.Ports.WebLink != nullptr;
   effect = wanted && TakesDrag(data) ? effect & EffectOfDrag(down) : DropEffect::None;
   if (!IsOfUse(data) || program_.Guards.OpenQuestions > 0) return;
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   NoteDrag(data, down);
   menus_.ResetMenu();
 }
@@ -237,7 +238,7 @@ void StripDrops::picSingleButton_OLEDragDrop(DragData& data, DropEffect& effect)
   }
   // Events run from here on: the pointer may go on, and the row may be another one.
   const std::string target = singles_.FileUnderPointer();
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   menus_.ResetMenu();
   if (takes && window_.IsLoaded() && data.Text) OfferAddress(data, kSinglesTag, target);
 }
