@@ -54,6 +54,12 @@ MenuStill::~MenuStill() {
   if (capture_ != nullptr) capture_->ReleaseMenu();
 }
 
+bool EntryCarry::IsCarrying() const { return with_.Entry.ItemDragging; }
+
+bool EntryCarry::IsOverButtons() const { return with_.Drag.ButtonDragging; }
+
+bool EntryCarry::IsDropping() const { return with_.Drag.ItemDropping; }
+
 void EntryCarry::StartCarry() {
   with_.Entry.ItemDragging = true;
   if (with_.Ports.DragImage != nullptr) with_.Ports.DragImage->SetDragImage(with_.Entry.CurIcon);
@@ -74,6 +80,8 @@ bool EntryCarry::EndCarry(PixelPoint at, forms::MouseButton released, forms::Shi
   AbandonCarry();
   return true;
 }
+
+forms::FlagScope EntryCarry::Dropping() { return forms::FlagScope(with_.Drag.ItemDropping); }
 
 void EntryCarry::AbandonCarry() {
   with_.Entry.ItemDragging = false;

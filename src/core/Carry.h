@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "forms/Scopes.h"
 #include "forms/Types.h"
 #include "platform/WindowId.h"
 
@@ -33,6 +34,13 @@ class EntryCarry {
  public:
   explicit EntryCarry(const CarryParts& with) : with_(with) {}
 
+  /// An entry is in the hand.
+  [[nodiscard]] bool IsCarrying() const;
+  /// It is over the strip's buttons.
+  [[nodiscard]] bool IsOverButtons() const;
+  /// It is being put down.
+  [[nodiscard]] bool IsDropping() const;
+
   /// Picks the current entry up: from now on the pointer carries its picture.
   void StartCarry();
 
@@ -40,6 +48,9 @@ class EntryCarry {
   /// and the release is like any other. The left button puts down what is carried, wherever it is;
   /// the right one puts a copy down on a button or in the row and leaves a carry alone elsewhere.
   bool EndCarry(PixelPoint at, forms::MouseButton released, forms::ShiftState shift);
+
+  /// What is in the hand is being put down as long as the answer lives.
+  [[nodiscard]] forms::FlagScope Dropping();
 
   /// Nothing is carried any more, and nothing was put down.
   void AbandonCarry();

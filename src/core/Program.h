@@ -6,6 +6,7 @@
 #include "core/DragState.h"
 #include "core/EntryCommands.h"
 #include "core/GuardFlags.h"
+#include "core/IconSources.h"
 #include "core/IconState.h"
 #include "core/LaunchParts.h"
 #include "core/MenuState.h"
@@ -86,6 +87,11 @@ class Program {
                     .Guards = Guards,
                     .Entry = Entry,
                     .Drag = Drag}};
+  corvelle::IconSources IconSources{.Windows = Windows,
+                                    .Answers = Answers,
+                                    .Shell = Services.Icons,
+                                    .Paths = Paths,
+                                    .Icons = Icons};
   LaunchParts Launch{.Windows = Windows, .Ports = Ports, .Messages = Messages, .Starts = Starts};
 };
 

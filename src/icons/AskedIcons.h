@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/IconSources.h"
 #include "desk/DeskRule.h"
 #include "icons/IconForm.h"
 #include "platform/IconPixels.h"
@@ -17,7 +18,6 @@
 namespace corvelle {
 
 class Canvas;
-class Program;
 
 /// What is drawn in the place of an icon: one of these, or nothing at all.
 struct IconLook {
@@ -35,7 +35,7 @@ class AskedIcons {
  public:
   using Known = std::function<void(const IconLook&)>;
 
-  explicit AskedIcons(Program& program, IconCaller caller = IconCaller::Toolbar);
+  explicit AskedIcons(const IconSources& from, IconCaller caller = IconCaller::Toolbar);
   ~AskedIcons() { Drop(); }
   AskedIcons(const AskedIcons&) = delete;
   AskedIcons& operator=(const AskedIcons&) = delete;
@@ -66,7 +66,7 @@ class AskedIcons {
   /// The same, for an answer.
   static bool Take(Asked& icon, const desk::Reply& reply);
 
-  Program& program_;
+  IconSources from_;
   IconCaller caller_;
   std::uint64_t owner_;
 };

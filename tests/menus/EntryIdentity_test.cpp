@@ -170,7 +170,7 @@ class LongNames : public ::testing::TestWithParam<Script> {
   }
 
   FolderDesk desk_;
-  SpecialFolders folders_{desk_.TheProgram};
+  SpecialFolders folders_{desk_.TheProgram.Services.Folders, desk_.TheProgram.Launch};
   NotedEntry popup_;
 };
 

@@ -45,7 +45,7 @@ struct FoldersDesk : MenuDesk {
             .Owner = kNoWindow};
   }
 
-  SpecialFolders Folders{TheProgram};
+  SpecialFolders Folders{TheProgram.Services.Folders, TheProgram.Launch};
 };
 
 // ---- names and icons ----

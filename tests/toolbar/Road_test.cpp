@@ -12,6 +12,7 @@
 #include "toolbar/StripDesk.h"
 #include "toolbar/docking/frmImage.h"
 #include "toolbar/notices/frmHelp.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -52,8 +53,8 @@ struct RoadDesk : StripDesk {
   frmQMenu RealMenu;
   // Windows that a test wires when it wants them. They outlive the end of the program, which a test
   // that fails leaves to the desk.
-  frmHelp Hint{TheProgram};
-  frmImage Picture{TheProgram, Strip};
+  frmHelp Hint{HintPartsOf(TheProgram)};
+  frmImage Picture{StillPicturePartsOf(TheProgram), Strip};
 };
 
 TEST(StripAndMenu, AChoiceClosesTheMenuAndStartsItsProgram) {

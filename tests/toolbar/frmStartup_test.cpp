@@ -7,6 +7,7 @@
 #include "core/Program.h"
 #include "sim/World.h"
 #include "toolbar/notices/frmStartup.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -19,7 +20,7 @@ struct StartupDesk {
   }
   sim::World World;
   Program TheProgram{World.Services(), World.Windows()};
-  frmStartup Window{TheProgram};
+  frmStartup Window{StartupPartsOf(TheProgram)};
 };
 
 TEST(StartupWindow, ComesWithTheFirstDotAndTakesNoFocus) {

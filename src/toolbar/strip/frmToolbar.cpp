@@ -14,6 +14,7 @@
 #include "platform/ShellIcons.h"
 #include "platform/SystemInfo.h"
 #include "toolbar/docking/ForegroundScope.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -60,13 +61,14 @@ frmToolbar::frmToolbar(Program& program)
       bLine2(*this, "bLine2"),
       bLine3(*this, "bLine3"),
       bLine1(*this, "bLine1"),
-      Buttons(program, *this, {picToolbar, lblSep, LinTB1, LinTB2}),
-      Pull(program, *this),
-      Hiding(program, *this),
-      Menus(program, *this, Buttons, Pull, picToolbar, Timer2),
-      Singles(program, *this, Pull, {picSingleButton, Line1, Line2, LineLeft, lblDate}),
-      Drops(program, *this, Buttons, Menus, Singles, picToolbar, picSingleButton, Timer2,
-            tmrDragDrop, tmrRefused),
+      Buttons(ButtonRowPartsOf(program), *this, {picToolbar, lblSep, LinTB1, LinTB2}),
+      Pull(PullPartsOf(program), *this),
+      Hiding(HidingPartsOf(program), *this),
+      Menus(TrackingPartsOf(program), *this, Buttons, Pull, picToolbar, Timer2),
+      Singles(SingleRowPartsOf(program), DatePartsOf(program), *this, Pull,
+              {picSingleButton, Line1, Line2, LineLeft, lblDate}),
+      Drops(StripDropPartsOf(program), *this, Buttons, Menus, Singles, picToolbar, picSingleButton,
+            Timer2, tmrDragDrop, tmrRefused),
       program_(program) {
   WireEvents();
 }
@@ -337,7 +339,7 @@ void frmToolbar::InitNewButtons() {
   const forms::HourglassScope hourglass(program_.Windows);
   program_.Events.DoEvents();
   if (!IsLoaded()) return;
-  const ForegroundScope foreground(program_, *this);
+  const ForegroundScope foreground(*this, program_.Services.Desktop, program_.Ports);
   corvelle::SaveEdgeFlags(program_.OptionFlags, program_.Strip);
   program_.Options.SaveOptionFlags();
   UpdateToolbarPosition();
