@@ -122,6 +122,7 @@ void MainMenu::About() {
 void MainMenu::RefreshAll() {
   const StripPicture picture(program_);
   const forms::HourglassScope hourglass(program_.Windows);
+  program_.Answers.TryAllAgain();
   menu_.InitIcons();
   program_.Ports.Toolbar->InitNewButtons();
 }
