@@ -70,14 +70,20 @@ class StripHeartbeat : public testing::Test {
   void Judge(const char* what) {
     strip_.Stop();
     idle_.Stop();
-    std::printf("%s: longest gap %.0f ms in %d knocks; of a window that does nothing %.0f ms\n",
-                what, strip_.Longest(), strip_.Answers(), idle_.Longest());
+    work_.Stop();
+    std::printf(
+        "%s: longest gap %.0f ms in %d knocks; of a window that does nothing %.0f ms; %d ms of "
+        "work "
+        "took %.0f ms at most\n",
+        what, strip_.Longest(), strip_.Answers(), idle_.Longest(), SameWork::kAlone,
+        work_.Longest());
     EXPECT_GT(strip_.Answers(), 20);
     EXPECT_LT(strip_.Longest(), kLongestGap + 2 * idle_.Longest());
   }
   void Forget() {
     strip_.Forget();
     idle_.Forget();
+    work_.Forget();
   }
   /// Opens the quick menu and starts its first item, as somebody who does not care for the other.
   void UseTheQuickMenu() {
@@ -92,6 +98,7 @@ class StripHeartbeat : public testing::Test {
   IdleWindow window_;
   Heartbeat strip_{L"frmToolbar"};
   Heartbeat idle_{IdleWindow::kClass};
+  SameWork work_;
 };
 
 TEST_F(StripHeartbeat, GoesOnWhileAMenuOverADeadFolderIsUp) {
