@@ -11,6 +11,7 @@ MainMenuParts MainMenuPartsOf(Program& program) {
           .Guards = program.Guards,
           .Menu = program.Menu,
           .Events = program.Events,
+          .Answers = program.Answers,
           .Help = HelpTopics({.Paths = program.Paths,
                               .Files = program.Services.Files,
                               .Desktop = program.Services.Desktop,
