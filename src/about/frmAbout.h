@@ -35,7 +35,7 @@ struct AboutParts {
   Clipboard& Copies;
   Input& Pointer;
   const ProgramPaths& Paths;
-  LaunchParts Launch;
+  const LaunchParts& Launch;
 };
 
 /// About the program, and the facts about the machine that a user reads out when asking for help.

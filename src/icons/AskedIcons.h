@@ -66,7 +66,7 @@ class AskedIcons {
   /// The same, for an answer.
   static bool Take(Asked& icon, const desk::Reply& reply);
 
-  IconSources from_;
+  const IconSources& from_;
   IconCaller caller_;
   std::uint64_t owner_;
 };

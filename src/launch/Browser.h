@@ -30,7 +30,7 @@ struct BrowserParts {
   const DesktopWindows& Desktop;
   const ProgramPaths& Paths;
   const std::string& Title;
-  LaunchParts Launch;
+  const LaunchParts& Launch;
 };
 
 /// The way to the user's browser and mail program. It talks to the browser by DDE where it can and

@@ -19,7 +19,7 @@ struct BuiltInParts {
   ShellLinks& Links;
   KeySynthesis& Keyboard;
   const ProgramPaths& Paths;
-  LaunchParts Launch;
+  const LaunchParts& Launch;
 };
 
 /// The entries that are words of the program.

@@ -27,7 +27,7 @@ class HelpViewer final : public HelpPort {
 
   const ProgramPaths& paths_;
   FileSystem& files_;
-  LaunchParts launch_;
+  const LaunchParts& launch_;
 };
 
 }  // namespace corvelle
