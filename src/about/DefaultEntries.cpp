@@ -7,7 +7,10 @@
 #include "base/Sort.h"
 #include "base/Text.h"
 #include "core/MenuFile.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
+#include "core/StartupProgress.h"
+#include "forms/EventPump.h"
 #include "launch/FileSearch.h"
 #include "launch/FileTitle.h"
 #include "launch/LaunchItem.h"
@@ -46,18 +49,18 @@ std::vector<std::string> Below(const std::vector<std::string>& folders, std::str
 }  // namespace
 
 void DefaultEntries::IncludeCommonFiles() {
-  program_.Events.DoEvents();
+  with_.Events.DoEvents();
   const FileStatus filled = Fill();
   if (filled) return;
-  program_.Messages.Say(program_.Ports.ToolbarWindow(),
-                        std::string(kFailure) + "\r\n" + FileErrorDescription(filled.Error()),
-                        forms::msgbox::OnTop);
+  with_.Messages.Say(with_.Ports.ToolbarWindow(),
+                     std::string(kFailure) + "\r\n" + FileErrorDescription(filled.Error()),
+                     forms::msgbox::OnTop);
 }
 
 FileStatus DefaultEntries::Fill() {
-  FileSystem& files = program_.Services.Files;
-  if (!files.FolderExists(program_.Paths.MenusPath)) {
-    const FileStatus made = files.MakeFolder(program_.Paths.MenusPath);
+  FileSystem& files = with_.Files;
+  if (!files.FolderExists(with_.Paths.MenusPath)) {
+    const FileStatus made = files.MakeFolder(with_.Paths.MenusPath);
     if (!made && made.Error() != FileError::AlreadyExists) return made;
   }
   const auto menus = Count("*.mnu");
@@ -74,7 +77,7 @@ FileStatus DefaultEntries::Fill() {
 }
 
 FileResult<int> DefaultEntries::Count(std::string_view pattern) {
-  const auto found = program_.Services.Files.List(program_.Paths.MenusPath, pattern);
+  const auto found = with_.Files.List(with_.Paths.MenusPath, pattern);
   if (!found) return found.Error();
   return static_cast<int>(std::count_if(found->begin(), found->end(),
                                         [](const FileEntry& entry) { return !entry.IsFolder; }));
@@ -82,10 +85,10 @@ FileResult<int> DefaultEntries::Count(std::string_view pattern) {
 
 // An installation may bring a first menu of its own.
 FileStatus DefaultEntries::CopyFirstMenu() {
-  FileSystem& files = program_.Services.Files;
-  const std::string shipped = program_.Paths.ShippedFile(kFirstMenu);
+  FileSystem& files = with_.Files;
+  const std::string shipped = with_.Paths.ShippedFile(kFirstMenu);
   if (!files.FileExists(shipped)) return Success();
-  const std::string copy = program_.Paths.MenusPath + std::string(kFirstMenu);
+  const std::string copy = with_.Paths.MenusPath + std::string(kFirstMenu);
   if (auto removed = RemoveIfThere(files, copy); !removed) return removed;
   if (auto copied = files.Copy(shipped, copy); !copied) return copied;
   MnuNum = 2;
@@ -95,32 +98,28 @@ FileStatus DefaultEntries::CopyFirstMenu() {
 // ---- single buttons ----
 
 FileStatus DefaultEntries::WriteSingles() {
-  const MachineFacts facts{.HasFileSearch = HasFileSearch(program_.Services.Keys),
-                           .HasNetSearch = program_.Ports.NetSearch != nullptr};
+  const MachineFacts facts{.HasFileSearch = HasFileSearch(with_.Keys),
+                           .HasNetSearch = with_.Ports.NetSearch != nullptr};
   for (const MenuRecord& record : FixedSingles(facts)) {
     if (auto written = WriteSingle(record); !written) return written;
   }
-  program_.Progress.ShowStartupProgress();
+  with_.Progress.ShowStartupProgress();
   if (const auto browser = FindBrowser()) {
-    const std::string title =
-        FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
-            .GetFileTitle(*browser);
+    const std::string title = with_.Titles.GetFileTitle(*browser);
     const MenuRecord record = BrowserSingle({.Path = *browser, .FileTitle = title});
     if (auto written = WriteSingle(record); !written) return written;
   }
-  program_.Progress.ShowStartupProgress();
+  with_.Progress.ShowStartupProgress();
   if (const auto mail = FindMailProgram()) {
-    const std::string title =
-        FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
-            .GetFileTitle(*mail);
+    const std::string title = with_.Titles.GetFileTitle(*mail);
     const MenuRecord record = MailSingle({.Path = *mail, .FileTitle = title});
     if (auto written = WriteSingle(record); !written) return written;
   }
   for (const std::string_view extension : ProgramExtensions()) {
-    program_.Progress.ShowStartupProgress();
+    with_.Progress.ShowStartupProgress();
     if (auto written = WriteProgramSingle(extension); !written) return written;
   }
-  program_.Progress.ShowStartupProgress();
+  with_.Progress.ShowStartupProgress();
   if (IsOdd(singles_)) {
     if (auto written = WriteProgramSingle(kEvenExtension); !written) return written;
   }
@@ -130,33 +129,32 @@ FileStatus DefaultEntries::WriteSingles() {
 FileStatus DefaultEntries::WriteProgramSingle(std::string_view extension) {
   const auto path = GetExe(extension);
   if (!path) return Success();
-  const std::string title =
-      FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags).GetFileTitle(*path);
+  const std::string title = with_.Titles.GetFileTitle(*path);
   return WriteSingle(ProgramSingle({.Path = *path, .FileTitle = title}));
 }
 
 std::optional<std::string> DefaultEntries::FindBrowser() {
-  const UserChoice choice = UserChoiceFor(program_.Services.Keys, "http");
+  const UserChoice choice = UserChoiceFor(with_.Keys, "http");
   return choice.Made ? IfOnDisk(choice.Program) : GetExe("htm");
 }
 
 std::optional<std::string> DefaultEntries::FindMailProgram() {
-  const UserChoice choice = UserChoiceFor(program_.Services.Keys, "mailto");
+  const UserChoice choice = UserChoiceFor(with_.Keys, "mailto");
   if (choice.Made) return IfOnDisk(choice.Program);
-  const auto command = program_.Services.Keys.Text(RegistryRoot::ClassesRoot, kMailKey, "");
+  const auto command = with_.Keys.Text(RegistryRoot::ClassesRoot, kMailKey, "");
   return command ? IfOnDisk(ProgramOfCommand(*command)) : std::nullopt;
 }
 
 std::optional<std::string> DefaultEntries::IfOnDisk(std::string path) {
-  if (!IsProgramAnswer(path) || !program_.Services.Files.FileExists(path)) return std::nullopt;
+  if (!IsProgramAnswer(path) || !with_.Files.FileExists(path)) return std::nullopt;
   return path;
 }
 
 FileStatus DefaultEntries::WriteSingle(const MenuRecord& record) {
-  FileSystem& files = program_.Services.Files;
-  const std::string path = program_.Paths.MenusPath + SingleFileName(BtnNum);
+  FileSystem& files = with_.Files;
+  const std::string path = with_.Paths.MenusPath + SingleFileName(BtnNum);
   if (auto removed = RemoveIfThere(files, path); !removed) return removed;
-  if (auto written = WriteRecords(files, program_.Services.Ansi, path, {record}); !written) {
+  if (auto written = WriteRecords(files, with_.Ansi, path, {record}); !written) {
     return written;
   }
   ++BtnNum;
@@ -165,13 +163,13 @@ FileStatus DefaultEntries::WriteSingle(const MenuRecord& record) {
 }
 
 std::optional<std::string> DefaultEntries::GetExe(std::string_view extension) {
-  FileSystem& files = program_.Services.Files;
-  const std::string sample = program_.Paths.AppPath + "dummy." + std::string(extension);
+  FileSystem& files = with_.Files;
+  const std::string sample = with_.Paths.AppPath + "dummy." + std::string(extension);
   // Where the sample cannot be made the question cannot be asked, and there is no answer.
   if (!RemoveIfThere(files, sample) || !files.Write(sample, "dummy string\r\n")) {
     return std::nullopt;
   }
-  std::optional<std::string> found = program_.Services.Associations.ProgramFor(sample);
+  std::optional<std::string> found = with_.Associations.ProgramFor(sample);
   // One that stays behind is used again by the next question.
   static_cast<void>(files.Remove(sample));
   if (!found) return std::nullopt;
@@ -182,26 +180,27 @@ std::optional<std::string> DefaultEntries::GetExe(std::string_view extension) {
 
 FileStatus DefaultEntries::WriteMenus() {
   const Folders programs = ProgramsFolders();
-  program_.Progress.ShowStartupProgress();
+  with_.Progress.ShowStartupProgress();
   if (auto written = WriteMenu(DesktopMenu()); !written) return written;
-  program_.Progress.ShowStartupProgress();
+  with_.Progress.ShowStartupProgress();
   if (auto written = WriteMenu(ProgramsMenu(programs)); !written) return written;
-  program_.Progress.ShowStartupProgress();
-  if (auto written = WriteMenu(DocumentsMenu(GetSpecialFolder(program_, kRecentFolder)));
+  with_.Progress.ShowStartupProgress();
+  if (auto written = WriteMenu(
+          DocumentsMenu(GetSpecialFolder(with_.Links, with_.Ports.ToolbarWindow(), kRecentFolder)));
       !written) {
     return written;
   }
-  program_.Progress.ShowStartupProgress();
+  with_.Progress.ShowStartupProgress();
   if (auto written = WriteMenu(AccessoriesMenu(programs)); !written) return written;
-  program_.Progress.ShowStartupProgress();
+  with_.Progress.ShowStartupProgress();
   return WriteMenu(SettingsMenu());
 }
 
 FileStatus DefaultEntries::WriteMenu(const std::vector<MenuRecord>& records) {
-  FileSystem& files = program_.Services.Files;
-  const std::string path = program_.Paths.MenusPath + MenuFileName(MnuNum);
+  FileSystem& files = with_.Files;
+  const std::string path = with_.Paths.MenusPath + MenuFileName(MnuNum);
   if (auto removed = RemoveIfThere(files, path); !removed) return removed;
-  if (auto written = WriteRecords(files, program_.Services.Ansi, path, records); !written) {
+  if (auto written = WriteRecords(files, with_.Ansi, path, records); !written) {
     return written;
   }
   ++MnuNum;
@@ -211,7 +210,7 @@ FileStatus DefaultEntries::WriteMenu(const std::vector<MenuRecord>& records) {
 DefaultEntries::Folders DefaultEntries::ProgramsFolders() {
   Folders folders;
   for (const int number : {kProgramsFolder, kCommonProgramsFolder}) {
-    std::string folder = GetSpecialFolder(program_, number);
+    std::string folder = GetSpecialFolder(with_.Links, with_.Ports.ToolbarWindow(), number);
     if (!folder.empty()) folders.push_back(std::move(folder));
   }
   return folders;
@@ -243,7 +242,7 @@ bool DefaultEntries::IsWorthAnItem(const Found& file) {
   if (!EndsWithNoCase(file.Name, ".lnk")) return true;
   std::string target;
   static_cast<void>(
-      GetLinkWorkDir(program_.Ports.ShellLinks, EnsureBackslash(file.Folder) + file.Name, target));
+      GetLinkWorkDir(with_.Ports.ShellLinks, EnsureBackslash(file.Folder) + file.Name, target));
   return !IsSkippedTarget(target);
 }
 
@@ -259,7 +258,7 @@ std::vector<MenuRecord> DefaultEntries::AccessoriesMenu(const Folders& programs)
 
 void DefaultEntries::AddItem(std::vector<MenuRecord>& records, const Found& file) {
   records.push_back(FileItem(file.Folder, file.Name));
-  program_.Progress.ShowStartupProgress();
+  with_.Progress.ShowStartupProgress();
 }
 
 void DefaultEntries::AddFiles(std::vector<MenuRecord>& records, const Folders& folders) {
@@ -296,7 +295,7 @@ std::vector<std::string> DefaultEntries::SubFoldersOf(const Folders& folders) {
 
 std::vector<std::string> DefaultEntries::Names(const std::string& folder, bool folders) {
   std::vector<std::string> names;
-  const auto found = program_.Services.Files.List(folder, "*.*");
+  const auto found = with_.Files.List(folder, "*.*");
   // A folder that is not there or not ours to see has nothing to offer.
   if (!found) return names;
   for (const FileEntry& entry : *found) {

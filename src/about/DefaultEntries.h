@@ -7,17 +7,42 @@
 
 #include "core/MenuRecord.h"
 #include "core/WindowPorts.h"
+#include "launch/FileTitle.h"
 #include "platform/FileSystem.h"
 
 namespace corvelle {
 
-class Program;
+class CodePage;
+class FileAssociations;
+class MessageBoxes;
+class Registry;
+class ShellLinks;
+class StartupProgress;
+struct ProgramPaths;
+namespace forms {
+class EventPump;
+}
+
+/// What the entries for a new user are made with. All of it outlives whoever makes them.
+struct DefaultEntryParts {
+  FileSystem& Files;
+  const CodePage& Ansi;
+  const Registry& Keys;
+  ShellLinks& Links;
+  FileAssociations& Associations;
+  const ProgramPaths& Paths;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+  const StartupProgress& Progress;
+  forms::EventPump& Events;
+  FileTitles Titles;
+};
 
 /// Fills the folder of the menus with buttons and menus of what the machine has, so that a new user
 /// does not meet an empty bar.
 class DefaultEntries final : public DefaultEntriesPort {
  public:
-  explicit DefaultEntries(Program& program) : program_(program) {}
+  explicit DefaultEntries(const DefaultEntryParts& with) : with_(with) {}
 
   /// Does nothing in a folder that has a menu or a single button. A failure ends it with a message;
   /// what is written by then stays.
@@ -66,7 +91,7 @@ class DefaultEntries final : public DefaultEntriesPort {
   /// Visible files or folders of a folder, sorted by name; none of one that cannot be listed.
   [[nodiscard]] std::vector<std::string> Names(const std::string& folder, bool folders);
 
-  Program& program_;
+  DefaultEntryParts with_;
   int BtnNum = 1;
   int MnuNum = 1;
   /// Single buttons written so far.

@@ -9,7 +9,8 @@
 
 #include "base/Text.h"
 #include "base/Version.h"
-#include "core/Program.h"
+#include "core/ProgramPaths.h"
+#include "desk/SlowQuestions.h"
 #include "icons/Glyphs.h"
 #include "launch/LaunchItem.h"
 #include "platform/Clipboard.h"
@@ -47,8 +48,8 @@ constexpr int kLetterC = 67;
 
 }  // namespace
 
-frmAbout::frmAbout(Program& program)
-    : Form(program.Windows, "frmAbout", forms::BorderStyle::Fixed, true),
+frmAbout::frmAbout(const AboutParts& with)
+    : Form(with.Launch.Windows, "frmAbout", forms::BorderStyle::Fixed, true),
       TabStrip1(*this, "TabStrip1"),
       pnlInfo(*this, "pnlInfo"),
       Drive1(pnlInfo, "Drive1", false),
@@ -67,7 +68,7 @@ frmAbout::frmAbout(Program& program)
       txtCopyright(Frame1, "txtCopyright", {.ManyLines = true}),
       cmdCopy(*this, "cmdCopy"),
       cmdOK(*this, "cmdOK"),
-      program_(program) {
+      with_(with) {
   SetKeyPreview(true);
   TabStrip1.Add(std::string(kCorvelleTab), "Corvelle");
   TabStrip1.Add(std::string(kDrivesTab), "Drives");
@@ -103,7 +104,7 @@ void frmAbout::Form_Load() {
   TabStrip1_Click();
 }
 
-void frmAbout::Form_Unload() { program_.Slow.Drop(asked_); }
+void frmAbout::Form_Unload() { with_.Slow.Drop(asked_); }
 
 void frmAbout::InitAbout() {
   lblVersion.SetCaption("Version " + std::string(kVersion));
@@ -205,8 +206,8 @@ void frmAbout::DrawTitle() {
   const int size = static_cast<int>(picLogo.Width() / screen.TwipsPerPixelX);
   picLogo.DrawPixels({0, 0, size, size}, [this, size](Canvas& canvas) {
     // Without the program's icon the place stays empty.
-    static_cast<void>(program_.Services.Icons.DrawFileIcon(
-        canvas, program_.Paths.ShippedFile("corvelle.exe"), 0, {0, 0}, size));
+    static_cast<void>(
+        with_.Icons.DrawFileIcon(canvas, with_.Paths.ShippedFile("corvelle.exe"), 0, {0, 0}, size));
   });
   picTitle.SetFont({.Points = kTitlePoints, .Bold = true});
   picTitle.Print(0, 0, kName, forms::color::WindowText);
@@ -214,7 +215,7 @@ void frmAbout::DrawTitle() {
   picArrow.Cls();
   const PixelSize arrow = GlyphSize("hand");
   picArrow.DrawPixels({0, 0, arrow.width, arrow.height}, [this](Canvas& canvas) {
-    DrawGlyph(canvas, program_.Windows, "hand", {0, 0});
+    DrawGlyph(canvas, Windows(), "hand", {0, 0});
   });
 }
 
@@ -224,7 +225,7 @@ void frmAbout::TabStrip1_Click() {
   const std::string tab = TabStrip1.Selected();
   const bool drives = tab == kDrivesTab;
   const bool info = drives || tab == kSystemTab;
-  program_.Slow.Drop(asked_);
+  with_.Slow.Drop(asked_);
   // In front of the tabs, whose page they fill.
   pnlCorvelle.ZOrder(forms::ZPlace::Front);
   pnlInfo.ZOrder(forms::ZPlace::Front);
@@ -243,9 +244,9 @@ void frmAbout::TabStrip1_Click() {
 
 // The drive of the program comes first, which is sure to be there.
 void frmAbout::FillDrives() {
-  const std::string own = DriveRoot(program_.Paths.ShippedFile(""));
+  const std::string own = DriveRoot(with_.Paths.ShippedFile(""));
   Drive1.Clear();
-  for (const std::string& root : program_.Services.System.LogicalDrives()) {
+  for (const std::string& root : with_.System.LogicalDrives()) {
     Drive1.Add(DropBackslash(root));
     if (EqualNoCase(root, own)) Drive1.Select(Drive1.Count() - 1);
   }
@@ -255,30 +256,30 @@ void frmAbout::FillDrives() {
 void frmAbout::Drive1_Change() { PrintDriveInfo(Drive1.Text()); }
 
 void frmAbout::PrintDriveInfo(const std::string& drive) {
-  program_.Slow.Drop(asked_);
+  with_.Slow.Drop(asked_);
   Print(EmptyDriveInfo());
   const std::string root = DriveRoot(drive);
   if (root.empty()) return;
-  asked_ = program_.Slow.NewGeneration();
-  program_.Slow.Ask({.Kind = LookupKind::Drive, .Path = root, .Lane = root, .Generation = asked_},
-                    [this, watch = MakeWatch()](const LookupAnswer& answer) {
-                      if (watch.Gone() || !IsLoaded()) return;
-                      const auto* const facts = std::get_if<DriveFacts>(&answer.Value);
-                      // A drive that says nothing leaves the lines blank.
-                      if (facts != nullptr) Print(DriveInfo(*facts));
-                    });
+  asked_ = with_.Slow.NewGeneration();
+  with_.Slow.Ask({.Kind = LookupKind::Drive, .Path = root, .Lane = root, .Generation = asked_},
+                 [this, watch = MakeWatch()](const LookupAnswer& answer) {
+                   if (watch.Gone() || !IsLoaded()) return;
+                   const auto* const facts = std::get_if<DriveFacts>(&answer.Value);
+                   // A drive that says nothing leaves the lines blank.
+                   if (facts != nullptr) Print(DriveInfo(*facts));
+                 });
 }
 
 void frmAbout::PrintSystemInfo() {
-  const SystemInfo& system = program_.Services.System;
-  Print(SystemPage({.VersionName = program_.Services.Keys.Text(RegistryRoot::LocalMachine,
-                                                               kVersionKey, kVersionValue),
-                    .Version = system.Version(),
-                    .Processor = system.Processor(),
-                    .PhysicalMemory = system.PhysicalMemory(),
-                    .Drives = system.LogicalDrives(),
-                    .WindowsFolder = system.WindowsFolder(),
-                    .TempFolder = system.TempFolder()}));
+  const SystemInfo& system = with_.System;
+  Print(SystemPage(
+      {.VersionName = with_.Keys.Text(RegistryRoot::LocalMachine, kVersionKey, kVersionValue),
+       .Version = system.Version(),
+       .Processor = system.Processor(),
+       .PhysicalMemory = system.PhysicalMemory(),
+       .Drives = system.LogicalDrives(),
+       .WindowsFolder = system.WindowsFolder(),
+       .TempFolder = system.TempFolder()}));
 }
 
 void frmAbout::Print(InfoPage page) {
@@ -316,15 +317,15 @@ std::string frmAbout::TextOfTab() const {
 }
 
 void frmAbout::cmdCopy_Click() {
-  if (!program_.Services.Copies.PutText(hWnd(), TextOfTab())) program_.Services.Pointer.Beep();
+  if (!with_.Copies.PutText(hWnd(), TextOfTab())) with_.Pointer.Beep();
 }
 
 void frmAbout::lblMail_DblClick() {
-  if (!lblMail.Caption().empty()) LaunchItem(program_.Launch, "mailto:" + lblMail.Caption());
+  if (!lblMail.Caption().empty()) LaunchItem(with_.Launch, "mailto:" + lblMail.Caption());
 }
 
 void frmAbout::LblURL_DblClick() {
-  if (!lblURL.Caption().empty()) LaunchItem(program_.Launch, lblURL.Caption());
+  if (!lblURL.Caption().empty()) LaunchItem(with_.Launch, lblURL.Caption());
 }
 
 }  // namespace corvelle

@@ -5,6 +5,7 @@
 
 #include "about/AboutLayout.h"
 #include "about/InfoPages.h"
+#include "core/LaunchParts.h"
 #include "core/WindowPorts.h"
 #include "forms/ComboBox.h"
 #include "forms/CommandButton.h"
@@ -17,12 +18,30 @@
 
 namespace corvelle {
 
-class Program;
+class Clipboard;
+class Input;
+class Registry;
+class ShellIcons;
+class SlowQuestions;
+class SystemInfo;
+struct ProgramPaths;
+
+/// What the window works with. All of it outlives it.
+struct AboutParts {
+  SlowQuestions& Slow;
+  ShellIcons& Icons;
+  const Registry& Keys;
+  const SystemInfo& System;
+  Clipboard& Copies;
+  Input& Pointer;
+  const ProgramPaths& Paths;
+  const LaunchParts& Launch;
+};
 
 /// About the program, and the facts about the machine that a user reads out when asking for help.
 class frmAbout final : public forms::Form, public LoadedWindow {
  public:
-  explicit frmAbout(Program& program);
+  explicit frmAbout(const AboutParts& with);
 
   void LoadWindow() override;
   void UnloadWindow() override { Unload(); }
@@ -80,7 +99,7 @@ class frmAbout final : public forms::Form, public LoadedWindow {
   [[nodiscard]] std::string TextOfTab() const;
   [[nodiscard]] AboutScene Scene() const;
 
-  Program& program_;
+  AboutParts with_;
   AboutPanels places_;
   InfoPage page_;
   std::uint64_t asked_ = 0;  // the generation of the question about a drive

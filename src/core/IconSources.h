@@ -12,7 +12,7 @@ namespace forms {
 class WindowSystem;
 }
 
-/// What icons come from. All of it outlives whoever shows them.
+/// What icons come from. It and all of it outlive whoever shows them.
 struct IconSources {
   forms::WindowSystem& Windows;
   desk::AnswerDesk& Answers;

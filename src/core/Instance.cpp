@@ -1,7 +1,8 @@
 #include "core/Instance.h"
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "forms/Types.h"
 #include "platform/DesktopWindows.h"
 #include "platform/SystemInfo.h"
 
@@ -40,25 +41,24 @@ bool ActivatePrevInstance(DesktopWindows& desktop, std::string_view title) {
   return false;
 }
 
-bool ClaimSession(Program& program) {
+bool ClaimSession(std::string& title, SystemInfo& system, DesktopWindows& desktop,
+                  MessageBoxes& messages) {
   // While another title stands, a search for ours cannot find this process.
-  program.Title = "xyz";
-  SystemInfo& system = program.Services.System;
+  title = "xyz";
   bool other = system.AnotherInstanceRuns();
-  bool woken = other && ActivatePrevInstance(program.Services.Desktop, kTitle);
+  bool woken = other && ActivatePrevInstance(desktop, kTitle);
   // One that is just ending has no window any more, and one that starts has none yet.
   for (int look = 1; look < kLooks && other && !woken; ++look) {
     other = system.AnotherInstanceRuns();
-    woken = other && ActivatePrevInstance(program.Services.Desktop, kTitle);
+    woken = other && ActivatePrevInstance(desktop, kTitle);
   }
-  program.Title = kTitle;
+  title = kTitle;
   if (other && !woken) {
-    program.Messages.Say(
-        kNoWindow,
-        "Corvelle is already running. If you have minimized it to the taskbar, click its "
-        "icon on the taskbar to activate it. If you have set it to Auto Hide, point your "
-        "mouse to its previous position.",
-        forms::msgbox::IconInformation | forms::msgbox::OnTop);
+    messages.Say(kNoWindow,
+                 "Corvelle is already running. If you have minimized it to the taskbar, click its "
+                 "icon on the taskbar to activate it. If you have set it to Auto Hide, point your "
+                 "mouse to its previous position.",
+                 forms::msgbox::IconInformation | forms::msgbox::OnTop);
   }
   return !other;
 }

@@ -9,8 +9,8 @@ namespace forms {
 class WindowSystem;
 }
 
-/// What carrying out the command of an entry works with (launch/LaunchItem.h). All of it lives as
-/// long as the program.
+/// What carrying out the command of an entry works with (launch/LaunchItem.h). It and all of
+/// it live as long as the program.
 struct LaunchParts {
   forms::WindowSystem& Windows;
   const WindowPorts& Ports;

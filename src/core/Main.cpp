@@ -128,7 +128,9 @@ void Upgrade(Program& program) {
 }  // namespace
 
 bool Main(Program& program) {
-  if (!ClaimSession(program)) return false;
+  if (!ClaimSession(program.Title, program.Services.System, program.Services.Desktop,
+                    program.Messages))
+    return false;
   const bool elsewhere = FindFolders(program);
   ReadOptions(program);
   program.Guards.StartingUp = true;

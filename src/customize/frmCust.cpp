@@ -188,7 +188,8 @@ void frmCust::Form_Load() {
   SetTakesDrops(true);
   Center(kCustWidth, kCustHeight);
   Timer1.SetInterval(kGuard);
-  Editor.LastFolder = GetSpecialFolder(program_, kStartMenuFolder);
+  Editor.LastFolder =
+      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kStartMenuFolder);
   LastBrowseFolder.clear();
   Browsing = PickIcon = FolderToCommandOnly = Dragging = ShiftDown = messageWaits_ = false;
   finding_ = false;
@@ -290,7 +291,8 @@ std::string frmCust::TitleOf(std::string_view path) {
 }
 
 std::string frmCust::RecentFolder() {
-  return EnsureBackslash(GetSpecialFolder(program_, kRecentFolder));
+  return EnsureBackslash(
+      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kRecentFolder));
 }
 
 }  // namespace corvelle

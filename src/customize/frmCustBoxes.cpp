@@ -136,8 +136,12 @@ void frmCust::Browse(bool files) {
 }
 
 std::string frmCust::StartFolder() const {
-  if (chkSelect0.Value() == 1) return GetSpecialFolder(program_, kMenuFilesFolder);
-  if (chkSelect1.Value() == 1) return GetSpecialFolder(program_, kDesktopFolder);
+  if (chkSelect0.Value() == 1)
+    return GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(),
+                            kMenuFilesFolder);
+  if (chkSelect1.Value() == 1)
+    return GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(),
+                            kDesktopFolder);
   return Editor.LastFolder;
 }
 

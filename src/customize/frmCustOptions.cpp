@@ -5,6 +5,7 @@
 #include "core/Program.h"
 #include "core/SettingsFiles.h"
 #include "customize/frmCust.h"
+#include "shell/ShellWiring.h"
 #include "shell/StartupLink.h"
 
 namespace corvelle {
@@ -80,10 +81,10 @@ void frmCust::ChooseOption(CustOption option) {
       flags.Set(Option::SystemPopupWithCtrl, false);
       break;
     case CustOption::SetStartup:
-      SetAsStartupProgram(program_);
+      SetAsStartupProgram(StartupLinkPartsOf(program_));
       break;
     case CustOption::RemoveStartup:
-      RemoveFromStartup(program_);
+      RemoveFromStartup(StartupLinkPartsOf(program_));
       break;
     case CustOption::ResetTips:
       ResetHelpTips(flags);

@@ -1,8 +1,9 @@
 #pragma once
 
-namespace corvelle::forms {
+#include "forms/Scopes.h"
+#include "forms/WindowSystem.h"
 
-class WindowSystem;
+namespace corvelle::forms {
 
 /// Lets events run from inside a routine, never inside itself.
 class EventPump {
@@ -14,7 +15,14 @@ class EventPump {
   /// Lets waiting events run. Whoever calls it must be ready for anything to have happened. Called
   /// from what another call of it lets run, it only shows what waits to be painted: that other call
   /// goes on with the events, and however quickly they come, there is never a third.
-  void DoEvents();
+  void DoEvents() {
+    if (running_) {
+      windows_.PaintWaiting();
+      return;
+    }
+    const FlagScope running(running_);
+    windows_.DoEvents();
+  }
 
  private:
   WindowSystem& windows_;

@@ -70,7 +70,7 @@ class AskedIcons {
   /// The same as GoOn, for an answer.
   static bool Take(Asked& icon, const desk::Reply& reply);
 
-  IconSources from_;
+  const IconSources& from_;
   IconCaller caller_;
   std::uint64_t owner_;
   std::set<std::string> late_;  // places that were waited for in vain

@@ -5,19 +5,21 @@
 #include <optional>
 
 #include "core/WindowPorts.h"
-#include "desk/DeskRule.h"
+#include "desk/AnswerDesk.h"
 #include "platform/IconPixels.h"
 #include "platform/Lookups.h"
 
 namespace corvelle {
 
-class Program;
+struct IconState;
+struct ProgramPaths;
 
-/// Looks how the shell shows icon files and sets Program::Icons: true when two of them show
-/// different pictures, false when both show the same one, or cannot be looked at.
+/// Looks how the shell shows icon files and sets IconState::ShellDrawsIcons: true when two of them
+/// show different pictures, false when both show the same one, or cannot be looked at.
 class ShellIconRule final : public IconRulePort {
  public:
-  explicit ShellIconRule(Program& program);
+  /// All of it outlives the rule.
+  ShellIconRule(desk::AnswerDesk& answers, const ProgramPaths& paths, IconState& icons);
   ~ShellIconRule() override;
   ShellIconRule(const ShellIconRule&) = delete;
   ShellIconRule& operator=(const ShellIconRule&) = delete;
@@ -31,7 +33,9 @@ class ShellIconRule final : public IconRulePort {
   void AskForTwo(const desk::Reply& listed);
   void Compare(const desk::Reply& icon);
 
-  Program& program_;
+  desk::AnswerDesk& answers_;
+  const ProgramPaths& paths_;
+  IconState& icons_;
   std::uint64_t owner_;
   std::optional<IconPixels> first_;
 };

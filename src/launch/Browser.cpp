@@ -4,8 +4,11 @@
 #include <variant>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "core/SettingsFiles.h"
+#include "core/WindowPorts.h"
+#include "desk/AnswerDesk.h"
 #include "launch/OpenMail.h"
 #include "launch/StartBeside.h"
 
@@ -31,11 +34,11 @@ constexpr std::string_view kLook = "\"\"browser";
 }  // namespace
 
 Browser::~Browser() {
-  if (linkOwner_ != 0) program_.Answers.Drop(linkOwner_);
+  if (linkOwner_ != 0) with_.Answers.Drop(linkOwner_);
 }
 
 const ProbeFiles& Browser::Probe() {
-  probe_.Folder = program_.Paths.AppPath;
+  probe_.Folder = with_.Paths.AppPath;
   return probe_;
 }
 
@@ -45,7 +48,7 @@ void Browser::Learn(const BrowserState& found, int choices) {
 
 void Browser::InitBrowser() {
   StartBeside<BrowserState>(
-      program_.Starts, std::string(kLook),
+      with_.Launch.Starts, std::string(kLook),
       [probe = Probe()](const StartServices& services) { return FindBrowser(services, probe); },
       [this, watch = alive_.MakeWatch(), choices = choices_](const BrowserState& found) {
         if (!watch.Gone()) Learn(found, choices);
@@ -54,7 +57,7 @@ void Browser::InitBrowser() {
 
 void Browser::OpenUrl(std::string_view url, std::function<void(bool)> then) {
   StartBeside<BrowserState>(
-      program_.Starts, std::string(url),
+      with_.Launch.Starts, std::string(url),
       [probe = Probe(), known = static_cast<const BrowserState&>(*this),
        address = std::string(url)](const StartServices& services) {
         return OpenAddress(services, probe, known, address);
@@ -69,11 +72,11 @@ void Browser::OpenUrl(std::string_view url, std::function<void(bool)> then) {
       });
 }
 
-void Browser::OpenMail(std::string_view address) { corvelle::OpenMail(program_.Launch, address); }
+void Browser::OpenMail(std::string_view address) { corvelle::OpenMail(with_.Launch, address); }
 
 void Browser::ShowBrowserError() {
-  program_.Messages.Say(program_.Ports.ToolbarWindow(), kBrowserError,
-                        msgbox::IconStop | msgbox::OnTop);
+  with_.Launch.Messages.Say(with_.Launch.Ports.ToolbarWindow(), kBrowserError,
+                            msgbox::IconStop | msgbox::OnTop);
 }
 
 void Browser::ForgetBrowser() {
@@ -83,20 +86,20 @@ void Browser::ForgetBrowser() {
 
 void Browser::UseDefaultBrowser() {
   // A file that cannot be removed keeps the old choice; it is read again with the next address.
-  static_cast<void>(ForgetBrowserChoice(program_.Services.Files, program_.Paths.AppPath));
+  static_cast<void>(ForgetBrowserChoice(with_.Files, with_.Paths.AppPath));
   ForgetBrowser();
 }
 
 void Browser::UseBrowser(std::string_view path, std::function<void(bool)> then) {
-  if (!EndsWithNoCase(path, ".lnk") || program_.Ports.ShellLinks == nullptr) {
+  if (!EndsWithNoCase(path, ".lnk") || with_.Launch.Ports.ShellLinks == nullptr) {
     const bool taken = TakeBrowser(std::string(path));
     if (then) then(taken);
     return;
   }
-  if (linkOwner_ == 0) linkOwner_ = program_.Answers.NewOwner();
+  if (linkOwner_ == 0) linkOwner_ = with_.Answers.NewOwner();
   // The link that was chosen last counts.
-  program_.Answers.Drop(linkOwner_);
-  program_.Answers.Ask(
+  with_.Answers.Drop(linkOwner_);
+  with_.Answers.Ask(
       {.Question = {.Kind = LookupKind::LinkTarget, .Path = std::string(path)},
        .How = desk::Urgency::OnShow,
        .Owner = linkOwner_},
@@ -115,13 +118,13 @@ void Browser::UseBrowser(std::string_view path, std::function<void(bool)> then) 
 bool Browser::TakeBrowser(const std::string& command) {
   const std::optional<std::string> service = BrowserServiceName(command);
   if (!service) {
-    program_.Messages.Say(program_.Ports.ToolbarWindow(), kUnsupportedBrowser, msgbox::OnTop);
+    with_.Launch.Messages.Say(with_.Launch.Ports.ToolbarWindow(), kUnsupportedBrowser,
+                              msgbox::OnTop);
     return false;
   }
   const BrowserChoice choice{command, *service};
   ForgetBrowser();
-  if (!SaveBrowserChoice(program_.Services.Files, program_.Services.Ansi, program_.Paths.AppPath,
-                         choice)) {
+  if (!SaveBrowserChoice(with_.Files, with_.Ansi, with_.Paths.AppPath, choice)) {
     return false;
   }
   BrowserCommand = choice.BrowserCommand;

@@ -7,20 +7,38 @@
 #include <string_view>
 
 #include "core/CommandPorts.h"
+#include "core/LaunchParts.h"
 #include "forms/Alive.h"
 #include "launch/BrowserRoad.h"
 #include "platform/WindowId.h"
 
 namespace corvelle {
 
-class Program;
+class CodePage;
+class DesktopWindows;
+class FileSystem;
+struct ProgramPaths;
+namespace desk {
+class AnswerDesk;
+}
+
+/// What the way to the browser works with. All of it outlives it.
+struct BrowserParts {
+  desk::AnswerDesk& Answers;
+  FileSystem& Files;
+  const CodePage& Ansi;
+  const DesktopWindows& Desktop;
+  const ProgramPaths& Paths;
+  const std::string& Title;
+  const LaunchParts& Launch;
+};
 
 /// The way to the user's browser and mail program. It talks to the browser by DDE where it can and
 /// falls back step by step to the shell. Every step is quiet but the last one of each routine. What
 /// may take its time (other programs, the disk) goes on beside the windows; see StartBeside.
 class Browser final : public BrowserPort, public BrowserState {
  public:
-  explicit Browser(Program& program) : program_(program) {}
+  explicit Browser(const BrowserParts& with) : with_(with) {}
   Browser(const Browser&) = delete;
   Browser& operator=(const Browser&) = delete;
   ~Browser() override;
@@ -65,7 +83,7 @@ class Browser final : public BrowserPort, public BrowserState {
   [[nodiscard]] std::optional<std::string> TitleOfDropSource(std::string_view url);
   [[nodiscard]] std::string TitleOfAnyBrowser(std::string_view url);
 
-  Program& program_;
+  BrowserParts with_;
   ProbeFiles probe_;
   int choices_ = 0;
   std::uint64_t linkOwner_ = 0;  // of the question where a chosen link leads

@@ -2,7 +2,7 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/WindowPorts.h"
 #include "launch/Browser.h"
 #include "launch/BrowserRules.h"
 #include "launch/RegistryValue.h"
@@ -104,7 +104,7 @@ std::string Browser::WindowTitle(std::string_view url) {
 }
 
 bool Browser::IsOwnWindow(WindowId window) const {
-  const ToolbarPort* strip = program_.Ports.Toolbar;
+  const ToolbarPort* strip = with_.Launch.Ports.Toolbar;
   return strip != nullptr &&
          (window == strip->WindowHandle() || window == strip->ButtonBoxHandle() ||
           window == strip->SingleBoxHandle());
@@ -112,7 +112,7 @@ bool Browser::IsOwnWindow(WindowId window) const {
 
 // Nothing when the drag tells nothing.
 std::optional<std::string> Browser::TitleOfDropSource(std::string_view url) {
-  const DesktopWindows& desktop = program_.Services.Desktop;
+  const DesktopWindows& desktop = with_.Desktop;
   if (!DropSourceKnown || desktop.HasOwner(DropSourceWindow) || IsOwnWindow(DropSourceWindow)) {
     return std::nullopt;
   }
@@ -127,13 +127,13 @@ std::optional<std::string> Browser::TitleOfDropSource(std::string_view url) {
 }
 
 std::string Browser::TitleOfAnyBrowser(std::string_view url) {
-  const DesktopWindows& desktop = program_.Services.Desktop;
+  const DesktopWindows& desktop = with_.Desktop;
   // The file says the same for every window.
   bool bookmarksAsked = false;
   for (const WindowId window : desktop.TopLevel()) {
     if (!IsShownByItself(desktop, window) || desktop.IsMinimized(window)) continue;
     const std::string caption = CaptionOf(desktop, window);
-    if (caption.empty() || caption == program_.Title) continue;
+    if (caption.empty() || caption == with_.Title) continue;
     if (IsBookmarkCaption(caption) && !bookmarksAsked) {
       bookmarksAsked = true;
       std::string title = BookmarkTitle(url);
@@ -148,14 +148,14 @@ std::string Browser::TitleOfAnyBrowser(std::string_view url) {
 bool Browser::IsNetscapeOnTop(WindowId window) {
   if (!netscapeKnown_) {
     netscapeKnown_ = AtOnce<bool>(
-        program_.Starts, std::string(kOtherBrowser),
+        with_.Launch.Starts, std::string(kOtherBrowser),
         [probe = Probe()](const StartServices& services) {
           return services.Keys.Value(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser") ||
                  ContainsNoCase(ProgramForPages(services, probe).value_or(""), "Netscape");
         });
   }
   if (!netscapeKnown_.value_or(false)) return false;
-  const DesktopWindows& desktop = program_.Services.Desktop;
+  const DesktopWindows& desktop = with_.Desktop;
   for (const WindowId other : desktop.TopLevel()) {
     if (!IsShownByItself(desktop, other)) continue;
     const std::string caption = CaptionOf(desktop, other);
@@ -171,7 +171,7 @@ bool Browser::IsNetscapeOnTop(WindowId window) {
 }
 
 std::string Browser::BookmarkTitle(std::string_view url) {
-  const auto found = AtOnce<Bookmark>(program_.Starts, std::string(kBookmarks),
+  const auto found = AtOnce<Bookmark>(with_.Launch.Starts, std::string(kBookmarks),
                                       [probe = Probe(), folder = BookmarkDir,
                                        address = std::string(url)](const StartServices& services) {
                                         return FindBookmark(services, probe, folder, address);

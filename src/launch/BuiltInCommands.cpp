@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/WindowPorts.h"
 #include "launch/BuiltInTempFiles.h"
 #include "launch/FileSearch.h"
 #include "platform/FileSystem.h"
@@ -28,9 +29,9 @@ constexpr std::string_view kFailureText =
 
 /// With its trailing backslash; nothing when the shell does not tell. Never an empty path, whose
 /// files would be those of the drive.
-std::optional<std::string> RecentFolder(Program& program) {
-  ShellLinks& shell = program.Services.Links;
-  const auto item = shell.SpecialFolderLocation(program.Ports.ToolbarWindow(), kRecentFolder);
+std::optional<std::string> RecentFolder(const BuiltInParts& with) {
+  ShellLinks& shell = with.Links;
+  const auto item = shell.SpecialFolderLocation(with.Launch.Ports.ToolbarWindow(), kRecentFolder);
   if (!item) return std::nullopt;
   const auto path = shell.PathFromIDList(*item);
   if (!path || StripAtNull(*path).empty()) return std::nullopt;
@@ -45,39 +46,44 @@ bool HoldsFile(const std::vector<FileEntry>& entries) {
 }
 
 /// False when the files, or some of them, stay.
-bool ClearRecentFolder(Program& program) {
-  const auto folder = RecentFolder(program);
+bool ClearRecentFolder(const BuiltInParts& with) {
+  const auto folder = RecentFolder(with);
   if (!folder) return false;
-  const auto entries = program.Services.Files.List(*folder, kAllFiles);
+  const auto entries = with.Files.List(*folder, kAllFiles);
   // A folder that does not exist is as clear as an empty one.
   if (!entries) return entries.Error() == FileError::NotFound;
   if (!HoldsFile(*entries)) return true;
-  const FileOperation operation{.Owner = program.Ports.ToolbarWindow(),
+  const FileOperation operation{.Owner = with.Launch.Ports.ToolbarWindow(),
                                 .Function = fileop::Delete,
                                 .From = *folder + std::string(kAllFiles),
                                 .Flags = fileop::AllowUndo | fileop::FilesOnly};
-  return program.Services.FileOps.ShFileOperation(operation) == 0;
+  return with.FileOps.ShFileOperation(operation) == 0;
 }
 
 }  // namespace
 
 void BuiltInCommands::ShowNetSearch() {
-  if (program_.Ports.NetSearch != nullptr) program_.Ports.NetSearch->LoadWindow();
+  if (with_.Launch.Ports.NetSearch != nullptr) with_.Launch.Ports.NetSearch->LoadWindow();
 }
 
 void BuiltInCommands::ClearRecentDocs() {
-  if (ClearRecentFolder(program_)) return;
-  program_.Messages.Say(program_.Ports.ToolbarWindow(), kFailureText,
-                        msgbox::IconStop | msgbox::OnTop);
+  if (ClearRecentFolder(with_)) return;
+  with_.Launch.Messages.Say(with_.Launch.Ports.ToolbarWindow(), kFailureText,
+                            msgbox::IconStop | msgbox::OnTop);
 }
 
-void BuiltInCommands::FileFind() { OpenFileSearch(program_.Launch); }
+void BuiltInCommands::FileFind() { OpenFileSearch(with_.Launch); }
 
-void BuiltInCommands::ClearTempFolder() { corvelle::ClearTempFolder(program_); }
+void BuiltInCommands::ClearTempFolder() {
+  corvelle::ClearTempFolder({.Files = with_.Files,
+                             .FileOps = with_.FileOps,
+                             .Paths = with_.Paths,
+                             .Launch = with_.Launch});
+}
 
 void BuiltInCommands::Press(ShellKeys keys) {
   for (const KeyStroke& stroke : KeySequence(keys))
-    program_.Services.Keyboard.KeybdEvent(stroke.VirtualKey, stroke.Flags);
+    with_.Keyboard.KeybdEvent(stroke.VirtualKey, stroke.Flags);
 }
 
 }  // namespace corvelle

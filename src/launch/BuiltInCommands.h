@@ -1,16 +1,31 @@
 #pragma once
 
 #include "core/CommandPorts.h"
+#include "core/LaunchParts.h"
 #include "launch/BuiltInKeys.h"
 
 namespace corvelle {
 
-class Program;
+class FileSystem;
+class KeySynthesis;
+class ShellFiles;
+class ShellLinks;
+struct ProgramPaths;
+
+/// What the words of the program work with. All of it outlives them.
+struct BuiltInParts {
+  FileSystem& Files;
+  ShellFiles& FileOps;
+  ShellLinks& Links;
+  KeySynthesis& Keyboard;
+  const ProgramPaths& Paths;
+  const LaunchParts& Launch;
+};
 
 /// The entries that are words of the program.
 class BuiltInCommands final : public BuiltInCommandsPort {
  public:
-  explicit BuiltInCommands(Program& program) : program_(program) {}
+  explicit BuiltInCommands(const BuiltInParts& with) : with_(with) {}
 
   /// Loads the search window; does nothing in a program that has none.
   void ShowNetSearch() override;
@@ -28,7 +43,7 @@ class BuiltInCommands final : public BuiltInCommandsPort {
  private:
   void Press(ShellKeys keys);
 
-  Program& program_;
+  BuiltInParts with_;
 };
 
 }  // namespace corvelle

@@ -4,7 +4,10 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/LaunchParts.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
+#include "core/WindowPorts.h"
 #include "platform/FileSystem.h"
 #include "platform/ShellFiles.h"
 
@@ -28,8 +31,8 @@ constexpr std::string_view kProgressPicture = "delfile.ico";
 constexpr std::string_view kTemporaryEnd = ".tmp";
 constexpr int kFilesPerStep = 10;
 
-int Say(Program& program, std::string_view text, unsigned flags) {
-  return program.Messages.Say(program.Ports.ToolbarWindow(), text, flags | msgbox::OnTop);
+int Say(const TempFolderParts& with, std::string_view text, unsigned flags) {
+  return with.Launch.Messages.Say(with.Launch.Ports.ToolbarWindow(), text, flags | msgbox::OnTop);
 }
 
 /// False when the file stays, for whatever reason: another program may hold it, or may have deleted
@@ -43,39 +46,39 @@ bool Delete(FileSystem& files, const std::string& path, bool readOnly) {
 /// The window that counts while files go; it comes with the first step.
 class Progress {
  public:
-  explicit Progress(Program& program) : program_(program) {}
+  explicit Progress(const TempFolderParts& with) : with_(with) {}
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
   ~Progress() {
-    if (shown_) program_.Ports.Startup->UnloadWindow();
+    if (shown_) with_.Launch.Ports.Startup->UnloadWindow();
   }
 
   void Step() {
-    StartupPort* window = program_.Ports.Startup;
+    StartupPort* window = with_.Launch.Ports.Startup;
     if (window == nullptr) return;
     if (shown_) {
       window->AddDot();
     } else {
-      window->ShowProgress(kProgressText, program_.Paths.IconsPath + std::string(kProgressPicture));
+      window->ShowProgress(kProgressText, with_.Paths.IconsPath + std::string(kProgressPicture));
     }
     shown_ = true;
   }
 
  private:
-  Program& program_;
+  const TempFolderParts& with_;
   bool shown_ = false;
 };
 
 /// How many files went.
-int DeleteTemporary(Program& program, const std::string& folder,
+int DeleteTemporary(const TempFolderParts& with, const std::string& folder,
                     const std::vector<FileEntry>& entries) {
-  Progress progress(program);
+  Progress progress(with);
   int deleted = 0;
   for (const FileEntry& entry : entries) {
     // A folder is no file to delete, nor is a link to one, behind which the files are not
     // temporary.
     if (entry.IsFolder || !IsTemporaryName(entry.Name)) continue;
-    if (!Delete(program.Services.Files, folder + entry.Name, entry.ReadOnly)) continue;
+    if (!Delete(with.Files, folder + entry.Name, entry.ReadOnly)) continue;
     ++deleted;
     if (ShowsProgress(deleted)) progress.Step();
   }
@@ -92,21 +95,21 @@ bool IsTemporaryName(std::string_view name) {
 
 bool ShowsProgress(int deleted) noexcept { return deleted > 0 && deleted % kFilesPerStep == 0; }
 
-void ClearTempFolder(Program& program) {
-  if (Say(program, kQuestion, msgbox::YesNo) != msgbox::AnswerYes) return;
-  const auto path = program.Services.FileOps.TempPath();
+void ClearTempFolder(const TempFolderParts& with) {
+  if (Say(with, kQuestion, msgbox::YesNo) != msgbox::AnswerYes) return;
+  const auto path = with.FileOps.TempPath();
   if (!path) {
-    Say(program, kNothingDeletedText, msgbox::IconStop);
+    Say(with, kNothingDeletedText, msgbox::IconStop);
     return;
   }
   const std::string folder = EnsureBackslash(*path);
-  const auto entries = program.Services.Files.List(folder, "*.*");
+  const auto entries = with.Files.List(folder, "*.*");
   if (!entries) {
-    Say(program, kNothingDeletedText, msgbox::IconStop);
+    Say(with, kNothingDeletedText, msgbox::IconStop);
     return;
   }
-  const int deleted = DeleteTemporary(program, folder, *entries);
-  Say(program, std::to_string(deleted) + std::string(kReportText), msgbox::Ok);
+  const int deleted = DeleteTemporary(with, folder, *entries);
+  Say(with, std::to_string(deleted) + std::string(kReportText), msgbox::Ok);
 }
 
 }  // namespace corvelle

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,8 +41,9 @@ class FileDrops {
   [[nodiscard]] Written Append(const std::string& file, std::vector<std::string> names) const;
 
  private:
-  [[nodiscard]] DroppedEntries EntriesOf(std::vector<std::string> names) const;
-  [[nodiscard]] Written Told(const EditOutcome& outcome, DroppedEntries entries) const;
+  /// Without a position behind the last record.
+  [[nodiscard]] Written Write(const std::string& file, std::optional<int> position,
+                              std::vector<std::string> names) const;
 
   FileDropParts with_;
 };

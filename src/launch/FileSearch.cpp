@@ -47,7 +47,7 @@ bool OpenSearchApart(const StartServices& services) {
 }  // namespace
 
 void OpenFileSearch(const LaunchParts& with) {
-  StartBeside<bool>(with.Starts, std::string(kSearch), &OpenSearchApart, [with](bool opened) {
+  StartBeside<bool>(with.Starts, std::string(kSearch), &OpenSearchApart, [&with](bool opened) {
     if (opened) return;
     with.Messages.Say(with.Ports.ToolbarWindow(), kNoSearchText,
                       forms::msgbox::IconStop | forms::msgbox::OnTop);

@@ -1,6 +1,8 @@
 #include "launch/HelpViewer.h"
 
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
+#include "core/WindowPorts.h"
 #include "launch/LaunchItem.h"
 #include "launch/StartBeside.h"
 #include "platform/FileSystem.h"
@@ -15,21 +17,21 @@ namespace msgbox = forms::msgbox;
 }  // namespace
 
 std::string HelpViewer::PathOf(HelpPage page) const {
-  return program_.Paths.ShippedFile("Help\\" + std::string(HelpFileOf(page)));
+  return paths_.ShippedFile("Help\\" + std::string(HelpFileOf(page)));
 }
 
 bool HelpViewer::ShowPage(HelpPage page) {
   std::string path = PathOf(page);
-  if (!program_.Services.Files.FileExists(path)) return false;
-  LaunchItem(program_.Launch, path);
+  if (!files_.FileExists(path)) return false;
+  LaunchItem(launch_, path);
   return true;
 }
 
 void HelpViewer::OfferPage(HelpPage page) {
   const std::string path = PathOf(page);
-  if (!program_.Services.Files.FileExists(path)) return;
+  if (!files_.FileExists(path)) return;
   StartBeside<bool>(
-      program_.Starts, path,
+      launch_.Starts, path,
       [path](const StartServices& services) {
         return IsSettled(services.Shell.Open(path, std::nullopt, std::nullopt));
       },
@@ -38,9 +40,9 @@ void HelpViewer::OfferPage(HelpPage page) {
 
 void HelpViewer::ShowPageOf(std::string_view windowName) {
   if (ShowPage(HelpPageOf(windowName))) return;
-  program_.Messages.Say(program_.Ports.ToolbarWindow(),
-                        "Corvelle help file could not be found in Corvelle folder.",
-                        msgbox::IconStop | msgbox::OnTop);
+  launch_.Messages.Say(launch_.Ports.ToolbarWindow(),
+                       "Corvelle help file could not be found in Corvelle folder.",
+                       msgbox::IconStop | msgbox::OnTop);
 }
 
 }  // namespace corvelle

@@ -4,15 +4,19 @@
 #include <string_view>
 
 #include "core/CommandPorts.h"
+#include "core/LaunchParts.h"
 
 namespace corvelle {
 
-class Program;
+class FileSystem;
+struct ProgramPaths;
 
 /// Shows the pages of the folder Help in the user's browser.
 class HelpViewer final : public HelpPort {
  public:
-  explicit HelpViewer(Program& program) : program_(program) {}
+  /// All of it lives as long as the program.
+  HelpViewer(const ProgramPaths& paths, FileSystem& files, const LaunchParts& launch)
+      : paths_(paths), files_(files), launch_(launch) {}
 
   bool ShowPage(HelpPage page) override;
   void OfferPage(HelpPage page) override;
@@ -21,7 +25,9 @@ class HelpViewer final : public HelpPort {
  private:
   [[nodiscard]] std::string PathOf(HelpPage page) const;
 
-  Program& program_;
+  const ProgramPaths& paths_;
+  FileSystem& files_;
+  const LaunchParts& launch_;
 };
 
 }  // namespace corvelle

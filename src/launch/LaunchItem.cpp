@@ -87,7 +87,7 @@ void Tell(const LaunchParts& with, StartEnd end) {
 /// started already.
 void StartApart(const LaunchParts& with, const std::string& what, Attempts attempts) {
   StartBeside<StartEnd>(with.Starts, what, std::move(attempts),
-                        [with](StartEnd end) { Tell(with, end); });
+                        [&with](StartEnd end) { Tell(with, end); });
 }
 
 /// Opens through the shell. A result when that settles it: it is started, the user has refused it,
@@ -198,7 +198,7 @@ void OpenUrlFile(const LaunchParts& with, const std::string& file) {
         // What cannot be read holds no address.
         return bytes ? ParseUrlFile(*bytes, services.Ansi).value_or(file) : file;
       },
-      [with](const std::string& address) { RunForm(with, ClassifyAddress(address), address); },
+      [&with](const std::string& address) { RunForm(with, ClassifyAddress(address), address); },
       UnderWay::UntilTold);
 }
 

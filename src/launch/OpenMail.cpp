@@ -34,7 +34,7 @@ void OpenMail(const LaunchParts& with, std::string_view address) {
       [text = std::string(address)](const StartServices& services) {
         return OpenMailApart(services, text);
       },
-      [with](bool opened) {
+      [&with](bool opened) {
         if (!opened)
           with.Messages.Say(with.Ports.ToolbarWindow(), kMailError, forms::msgbox::OnTop);
       });

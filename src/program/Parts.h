@@ -9,15 +9,18 @@
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
 #include "launch/HelpViewer.h"
+#include "launch/LaunchWiring.h"
 #include "library/frmLibrary.h"
 #include "menus/folders/FolderMenus.h"
 #include "menus/folders/SpecialFolders.h"
 #include "menus/window/MainMenu.h"
 #include "menus/window/MenuWiring.h"
 #include "menus/window/frmQMenu.h"
+#include "program/Wiring.h"
 #include "properties/frmProperties.h"
 #include "search/frmNetSearch.h"
 #include "shell/LinkFiles.h"
+#include "shell/ShellWiring.h"
 #include "shell/StartupLink.h"
 #include "toolbar/companion/DragImage.h"
 #include "toolbar/companion/Popup.h"
@@ -54,22 +57,22 @@ class Parts {
   frmHelp Hint{HintPartsOf(TheProgram)};
   frmTip Tip{TipPartsOf(TheProgram)};
   MainMenu TheMainMenu{MainMenuPartsOf(TheProgram), Menu};
-  DefaultEntries TheDefaultEntries{TheProgram};
-  ShellIconRule TheIconRule{TheProgram};
+  DefaultEntries TheDefaultEntries{DefaultEntryPartsOf(TheProgram)};
+  ShellIconRule TheIconRule{TheProgram.Answers, TheProgram.Paths, TheProgram.Icons};
   IconLibrary TheIconLibrary{TheProgram};
-  BuiltInCommands TheBuiltIns{TheProgram};
-  Browser TheBrowser{TheProgram};
+  BuiltInCommands TheBuiltIns{BuiltInPartsOf(TheProgram)};
+  Browser TheBrowser{BrowserPartsOf(TheProgram)};
   SpecialFolders TheSpecialFolders{TheProgram.Services.Folders, TheProgram.Launch};
   LinkReader Links{TheProgram.Services.Links};
-  StartupLink TheStartupLink{TheProgram};
+  StartupLink TheStartupLink{StartupLinkPartsOf(TheProgram)};
   DragImage Carried{DragImagePartsOf(TheProgram)};
-  frmURL WebLink{TheProgram};
+  frmURL WebLink{WebLinkPartsOf(TheProgram)};
   frmCust Customize{TheProgram};
   frmProperties Properties{TheProgram};
   frmLibrary Library{TheProgram};  // belongs to one of the two above
-  HelpViewer TheHelp{TheProgram};
-  frmNetSearch NetSearch{TheProgram};
-  frmAbout About{TheProgram};
+  HelpViewer TheHelp{TheProgram.Paths, TheProgram.Services.Files, TheProgram.Launch};
+  frmNetSearch NetSearch{NetSearchPartsOf(TheProgram)};
+  frmAbout About{AboutPartsOf(TheProgram)};
 
  private:
   /// F1 opens the page of each window.

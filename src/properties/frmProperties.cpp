@@ -219,7 +219,8 @@ void frmProperties::Form_Load() {
   ButtonsTabShown = ButtonsTabLoaded = PositionTabLoaded = OrderApplied = false;
   orderTouched_ = browsing_ = busy_ = false;
   lblMissing.SetVisible(false);
-  lastFolder_ = GetSpecialFolder(program_, kStartMenu);
+  lastFolder_ =
+      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kStartMenu);
   lastBrowseFolder_.clear();
   PlaceControls();
   for (forms::PictureBox* page : {&Picture1, &picButtons, &Picture2}) {

@@ -5,7 +5,8 @@
 #include <optional>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "platform/FileSystem.h"
 #include "search/EngineList.h"
 #include "search/NetSearchLayout.h"
@@ -32,8 +33,8 @@ constexpr std::string_view kClearQuestion = "Are you sure you want to clear all 
 
 }  // namespace
 
-frmNetSearch::frmNetSearch(Program& program)
-    : Form(program.Windows, "frmNetSearch", forms::BorderStyle::Fixed, true),
+frmNetSearch::frmNetSearch(const NetSearchParts& with)
+    : Form(with.Windows, "frmNetSearch", forms::BorderStyle::Fixed, true),
       Frame1(*this, "Frame1"),
       picFrame(Frame1, "picFrame"),
       Label1(picFrame, "Label1"),
@@ -42,7 +43,7 @@ frmNetSearch::frmNetSearch(Program& program)
       cmbEngine(picFrame, "cmbEngine", false),
       cmdFind(*this, "cmdFind"),
       cmdClear(*this, "cmdClear"),
-      program_(program) {
+      with_(with) {
   SetMinimizeBox(true);
   SetKeyPreview(true);
   Label1.SetCaption("Looking for:");
@@ -56,7 +57,7 @@ frmNetSearch::frmNetSearch(Program& program)
 }
 
 std::string frmNetSearch::PathOf(std::string_view name) const {
-  return program_.Paths.AppPath + std::string(name);
+  return with_.Paths.AppPath + std::string(name);
 }
 
 // ---- coming and going ----
@@ -112,33 +113,33 @@ void frmNetSearch::LayOut() {
 
 // The user's list, else the one that came with the program.
 void frmNetSearch::FetchFactoryList() {
-  FileSystem& files = program_.Services.Files;
+  FileSystem& files = with_.Files;
   if (files.FileExists(PathOf(kEngineFile))) return;
-  const std::string factory = program_.Paths.ShippedFile(kFactoryFile);
+  const std::string factory = with_.Paths.ShippedFile(kFactoryFile);
   if (files.FileExists(factory)) {
     // A folder that takes no file leaves the window without engines, which it says when one is
     // needed.
     static_cast<void>(files.Copy(factory, PathOf(kEngineFile)));
     return;
   }
-  program_.Messages.Say(program_.Ports.ToolbarWindow(), kNoEngines,
-                        msgbox::IconInformation | msgbox::OnTop);
+  with_.Messages.Say(with_.Ports.ToolbarWindow(), kNoEngines,
+                     msgbox::IconInformation | msgbox::OnTop);
 }
 
 void frmNetSearch::LoadEngines() {
   cmbEngine.Clear();
   EngineUrls.clear();
-  const auto bytes = program_.Services.Files.Read(PathOf(kEngineFile), 0, kMostBytes);
+  const auto bytes = with_.Files.Read(PathOf(kEngineFile), 0, kMostBytes);
   if (!bytes) return;
-  for (SearchEngine& engine : ParseEngines(*bytes, program_.Services.Ansi)) {
+  for (SearchEngine& engine : ParseEngines(*bytes, with_.Ansi)) {
     cmbEngine.Add(std::move(engine.Name));
     EngineUrls.push_back(std::move(engine.Url));
   }
 }
 
 void frmNetSearch::LoadHistory() {
-  const auto bytes = program_.Services.Files.Read(PathOf(kHistoryFile), 0, kMostBytes);
-  Queries = bytes ? ParseHistory(*bytes, program_.Services.Ansi) : QueryHistory();
+  const auto bytes = with_.Files.Read(PathOf(kHistoryFile), 0, kMostBytes);
+  Queries = bytes ? ParseHistory(*bytes, with_.Ansi) : QueryHistory();
   ShowHistory();
 }
 
@@ -151,11 +152,10 @@ void frmNetSearch::ShowHistory() {
 }
 
 void frmNetSearch::Form_Unload() {
-  FileSystem& files = program_.Services.Files;
+  FileSystem& files = with_.Files;
   // On a disk that refuses, the history of before stays; the window is gone and could not say so.
   if (Queries.HistoryCount > 0) {
-    static_cast<void>(
-        files.Replace(PathOf(kHistoryFile), FormatHistory(Queries, program_.Services.Ansi)));
+    static_cast<void>(files.Replace(PathOf(kHistoryFile), FormatHistory(Queries, with_.Ansi)));
   }
   // Most often the file does not exist.
   static_cast<void>(files.Remove(PathOf(kScratchPage)));
@@ -174,10 +174,10 @@ void frmNetSearch::cmdFind_Click() {
   if (query.empty()) return;
   if (Queries.Add(query)) ShowHistory();
   const std::string url = AddressOf(query);
-  if (url.empty() || program_.Ports.Browser == nullptr) return;
-  program_.Ports.SetHint("");
+  if (url.empty() || with_.Ports.Browser == nullptr) return;
+  with_.Ports.SetHint("");
   Minimize();
-  program_.Ports.Browser->OpenUrl(url, [this, watch = MakeWatch()](bool opened) {
+  with_.Ports.Browser->OpenUrl(url, [this, watch = MakeWatch()](bool opened) {
     // The user goes on here when there is no browser.
     if (!opened && !watch.Gone() && IsLoaded()) LoadWindow();
   });
@@ -190,17 +190,17 @@ std::string frmNetSearch::AddressOf(const std::string& query) {
     url = QueryUrl(EngineUrls[static_cast<std::size_t>(engine)], query);
   }
   if (url) return *url;
-  program_.Messages.Say(hWnd(), kBadTemplate, msgbox::IconStop | msgbox::OnTop);
+  with_.Messages.Say(hWnd(), kBadTemplate, msgbox::IconStop | msgbox::OnTop);
   return {};
 }
 
 void frmNetSearch::cmdClear_Click() {
   const forms::Alive::Watch watch = MakeWatch();
-  const int answer = program_.Messages.SayAs(program_.Title + " - Net Search", hWnd(),
-                                             kClearQuestion, msgbox::YesNo);
+  const int answer =
+      with_.Messages.SayAs(with_.Title + " - Net Search", hWnd(), kClearQuestion, msgbox::YesNo);
   if (answer != msgbox::AnswerYes || watch.Gone()) return;
   // A history that cannot be deleted is shown no more, and written over by the next one.
-  static_cast<void>(program_.Services.Files.Remove(PathOf(kHistoryFile)));
+  static_cast<void>(with_.Files.Remove(PathOf(kHistoryFile)));
   Queries.Clear();
   cmbText.Clear();
   if (IsLoaded()) cmbText.SetFocus();

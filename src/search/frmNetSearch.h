@@ -14,13 +14,27 @@
 
 namespace corvelle {
 
-class Program;
+class CodePage;
+class FileSystem;
+class MessageBoxes;
+struct ProgramPaths;
+
+/// What the window works with. All of it outlives it.
+struct NetSearchParts {
+  forms::WindowSystem& Windows;
+  FileSystem& Files;
+  const CodePage& Ansi;
+  const ProgramPaths& Paths;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+  const std::string& Title;
+};
 
 /// The window in which the user types a query, picks a search engine and sends the query to the
 /// browser.
 class frmNetSearch final : public forms::Form, public LoadedWindow {
  public:
-  explicit frmNetSearch(Program& program);
+  explicit frmNetSearch(const NetSearchParts& with);
 
   /// Loads the window if need be and shows it, also from the task bar.
   void LoadWindow() override;
@@ -59,7 +73,7 @@ class frmNetSearch final : public forms::Form, public LoadedWindow {
   /// has no place for it.
   [[nodiscard]] std::string AddressOf(const std::string& query);
 
-  Program& program_;
+  NetSearchParts with_;
 };
 
 }  // namespace corvelle

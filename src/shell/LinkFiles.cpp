@@ -1,15 +1,12 @@
 #include "shell/LinkFiles.h"
 
 #include "base/Text.h"
-#include "core/Program.h"
 #include "shell/cShellLink.h"
 
 namespace corvelle {
 
-std::string GetSpecialFolder(Program& program, int folder) {
-  return cShellLink(program.Services.Links)
-      .GetSystemFolderPath(program.Ports.ToolbarWindow(), folder)
-      .value_or(std::string());
+std::string GetSpecialFolder(ShellLinks& links, WindowId owner, int folder) {
+  return cShellLink(links).GetSystemFolderPath(owner, folder).value_or(std::string());
 }
 
 bool MakeLink(ShellLinks& links, std::string_view LnkFile, std::string_view ExeFile,

@@ -1,7 +1,8 @@
 #include "shell/StartupLink.h"
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
 #include "shell/FileErrorText.h"
@@ -14,59 +15,59 @@ namespace {
 constexpr int kStartupFolder = 7;  // CSIDL_STARTUP
 constexpr unsigned kNoteFlags = forms::msgbox::IconInformation;
 
-void Note(Program& program, std::string_view text) {
-  program.Messages.Say(program.Ports.ToolbarWindow(), text, kNoteFlags);
+void Note(const StartupLinkParts& with, std::string_view text) {
+  with.Messages.Say(with.Ports.ToolbarWindow(), text, kNoteFlags);
 }
 
-bool MakeStartupLink(Program& program, std::string_view executable) {
-  const std::string link = StartupLinkPath(program);
-  return !link.empty() && MakeLink(program.Services.Links, link, executable,
-                                   program.Services.System.ApplicationFolder());
+bool MakeStartupLink(const StartupLinkParts& with, std::string_view executable) {
+  const std::string link = StartupLinkPath(with);
+  return !link.empty() && MakeLink(with.Links, link, executable, with.System.ApplicationFolder());
 }
 
 }  // namespace
 
-std::string StartupLinkPath(Program& program) {
-  const std::string folder = GetSpecialFolder(program, kStartupFolder);
+std::string StartupLinkPath(const StartupLinkParts& with) {
+  const std::string folder =
+      GetSpecialFolder(with.Links, with.Ports.ToolbarWindow(), kStartupFolder);
   // Without a folder the name alone would lie in the root of some drive.
   return folder.empty() ? std::string() : EnsureBackslash(folder) + "Corvelle.lnk";
 }
 
 bool StartupLink::Exists() {
-  const std::string link = StartupLinkPath(program_);
-  return !link.empty() && program_.Services.Files.FileExists(link);
+  const std::string link = StartupLinkPath(with_);
+  return !link.empty() && with_.Files.FileExists(link);
 }
 
 void StartupLink::Remove() {
-  const std::string link = StartupLinkPath(program_);
+  const std::string link = StartupLinkPath(with_);
   if (link.empty()) return;
   // A link that stays is written over, or stays as it is.
-  static_cast<void>(program_.Services.Files.Remove(link));
+  static_cast<void>(with_.Files.Remove(link));
 }
 
 void StartupLink::Create(std::string_view executable) {
   // The user can make it later from the Options menu, which says what came of it.
-  static_cast<void>(MakeStartupLink(program_, executable));
+  static_cast<void>(MakeStartupLink(with_, executable));
 }
 
-void SetAsStartupProgram(Program& program) {
-  Note(program, MakeStartupLink(program, program.Paths.ShippedFile("corvelle.exe"))
-                    ? "Corvelle has been set as a startup program"
-                    : "Couldn't set Corvelle as a startup program.");
+void SetAsStartupProgram(const StartupLinkParts& with) {
+  Note(with, MakeStartupLink(with, with.Paths.ShippedFile("corvelle.exe"))
+                 ? "Corvelle has been set as a startup program"
+                 : "Couldn't set Corvelle as a startup program.");
 }
 
-void RemoveFromStartup(Program& program) {
-  const std::string link = StartupLinkPath(program);
-  if (link.empty() || !program.Services.Files.FileExists(link)) {
-    Note(program, "Corvelle is not in the Startup folder.");
+void RemoveFromStartup(const StartupLinkParts& with) {
+  const std::string link = StartupLinkPath(with);
+  if (link.empty() || !with.Files.FileExists(link)) {
+    Note(with, "Corvelle is not in the Startup folder.");
     return;
   }
-  const FileStatus removed = program.Services.Files.Remove(link);
+  const FileStatus removed = with.Files.Remove(link);
   if (!removed) {
-    Note(program, FileErrorText(removed.Error()));
+    Note(with, FileErrorText(removed.Error()));
     return;
   }
-  Note(program,
+  Note(with,
        "Corvelle has been removed from the Startup folder. Next time you start your computer, "
        "Corvelle will not run.");
 }

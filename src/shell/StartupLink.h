@@ -7,13 +7,27 @@
 
 namespace corvelle {
 
-class Program;
+class FileSystem;
+class MessageBoxes;
+class ShellLinks;
+class SystemInfo;
+struct ProgramPaths;
+
+/// What the entry is made and taken away with. All of it outlives whoever does.
+struct StartupLinkParts {
+  FileSystem& Files;
+  ShellLinks& Links;
+  const SystemInfo& System;
+  const ProgramPaths& Paths;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+};
 
 /// The program's entry in the user's Startup folder. When the system tells of no such folder there
 /// is no entry and none is made.
 class StartupLink final : public StartupLinkPort {
  public:
-  explicit StartupLink(Program& program) : program_(program) {}
+  explicit StartupLink(const StartupLinkParts& with) : with_(with) {}
 
   bool Exists() override;
   /// Quiet when the file cannot be deleted.
@@ -22,15 +36,15 @@ class StartupLink final : public StartupLinkPort {
   void Create(std::string_view executable) override;
 
  private:
-  Program& program_;
+  StartupLinkParts with_;
 };
 
 /// Where the entry is or would be; empty without a Startup folder.
-[[nodiscard]] std::string StartupLinkPath(Program& program);
+[[nodiscard]] std::string StartupLinkPath(const StartupLinkParts& with);
 
 /// The user's wish from the Options menu: makes the entry, or takes it away, and says what came of
 /// it.
-void SetAsStartupProgram(Program& program);
-void RemoveFromStartup(Program& program);
+void SetAsStartupProgram(const StartupLinkParts& with);
+void RemoveFromStartup(const StartupLinkParts& with);
 
 }  // namespace corvelle

@@ -5,7 +5,9 @@
 
 #include "base/Text.h"
 #include "core/DroppedFiles.h"
-#include "core/Program.h"
+#include "core/GuardFlags.h"
+#include "core/MessageBoxes.h"
+#include "core/OptionFile.h"
 #include "platform/DesktopWindows.h"
 #include "weblink/WebLinkLayout.h"
 #include "weblink/WebLinkTarget.h"
@@ -25,8 +27,8 @@ void Place(T& control, const TwipRect& at) {
 
 }  // namespace
 
-frmURL::frmURL(Program& program)
-    : Form(program.Windows, "frmURL", forms::BorderStyle::Fixed, true),
+frmURL::frmURL(const WebLinkParts& with)
+    : Form(with.Windows, "frmURL", forms::BorderStyle::Fixed, true),
       Label2(*this, "Label2"),
       txtTitle(*this, "txtTitle"),
       Label3(*this, "Label3"),
@@ -34,8 +36,8 @@ frmURL::frmURL(Program& program)
       Check1(*this, "Check1"),
       cmdOK(*this, "cmdOK"),
       cmdCancel(*this, "cmdCancel"),
-      program_(program),
-      tmrStep_(program.Windows) {
+      with_(with),
+      tmrStep_(with.Windows) {
   tmrStep_.Tick = [this] { tmrStep_Timer(); };
   cmdOK.SetDefault(true);
   cmdOK.Click = [this] { cmdOK_Click(); };
@@ -88,8 +90,8 @@ void frmURL::OfferWebLink(std::string_view url, std::string_view title, std::str
   if (step_ != Step::Idle) return;
   step_ = Step::Offered;
   WebLinkPending = true;
-  ++program_.Guards.OpenQuestions;
-  target_ = program_.Entry;
+  ++with_.Guards.OpenQuestions;
+  target_ = with_.Entry;
   if (IsSinglesTag(tag)) target_.CurFile = std::string(file);
   txtTitle.SetText(std::string(title));
   txtAddress.SetText(std::string(url));
@@ -100,13 +102,13 @@ void frmURL::OfferWebLink(std::string_view url, std::string_view title, std::str
 
 void frmURL::tmrStep_Timer() {
   // Nobody else works on a menu or waits for an answer then; this one is the one question.
-  if (program_.Guards.IsWorking() || program_.Guards.OpenQuestions > 1) return;
+  if (with_.Guards.IsWorking() || with_.Guards.OpenQuestions > 1) return;
   tmrStep_.SetEnabled(false);
   if (step_ == Step::Confirmed) return Write();
   if (step_ != Step::Offered) return;
   // An address that has to be shortened is shown in any case.
-  const bool fits = FitsRecord(Trim(txtAddress.Text()), program_.Services.Ansi);
-  if (program_.OptionFlags.Is(Option::NoWebLinkDialog) && fits) return Write();
+  const bool fits = FitsRecord(Trim(txtAddress.Text()), with_.Ansi);
+  if (with_.Options.Flags.Is(Option::NoWebLinkDialog) && fits) return Write();
   OpenDialog();
 }
 
@@ -118,7 +120,7 @@ void frmURL::OpenDialog() {
   if (!IsLoaded()) return;
   SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
   // The program that the address came from is in front.
-  program_.Services.Desktop.BringForward(hWnd());
+  with_.Desktop.BringForward(hWnd());
   if (!IsLoaded()) return;
   txtTitle.SetFocus();
   txtTitle.SelectAll();
@@ -126,8 +128,8 @@ void frmURL::OpenDialog() {
 
 void frmURL::cmdOK_Click() {
   const std::string address = Trim(txtAddress.Text());
-  if (!FitsRecord(address, program_.Services.Ansi)) {
-    program_.Messages.Say(hWnd(), kAddressTooLong, forms::msgbox::IconInformation);
+  if (!FitsRecord(address, with_.Ansi)) {
+    with_.Messages.Say(hWnd(), kAddressTooLong, forms::msgbox::IconInformation);
     if (IsLoaded()) txtAddress.SetFocus();
     return;
   }
@@ -140,13 +142,13 @@ void frmURL::cmdOK_Click() {
 }
 
 void frmURL::cmdCancel_Click() {
-  SetClipboard(program_.Entry);
+  SetClipboard(with_.Entry);
   Finish();
 }
 
 void frmURL::Check1_Click() {
-  program_.OptionFlags.Set(Option::NoWebLinkDialog, Check1.Value() == 1);
-  program_.Options.SaveOptionFlags();
+  with_.Options.Flags.Set(Option::NoWebLinkDialog, Check1.Value() == 1);
+  with_.Options.SaveOptionFlags();
 }
 
 void frmURL::Write() {
@@ -163,23 +165,23 @@ void frmURL::Finish() {
   ReleaseOthers();
   Unload();
   WebLinkPending = false;
-  --program_.Guards.OpenQuestions;
-  CapturePort* const capture = program_.Ports.Capture;
+  --with_.Guards.OpenQuestions;
+  CapturePort* const capture = with_.Ports.Capture;
   if (capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  ToolbarPort* const strip = with_.Ports.Toolbar;
   if (strip != nullptr && strip->WindowLoaded()) strip->ResetMenu();
 }
 
 void frmURL::HoldOthers() {
   holdsOthers_ = true;
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->HoldForMessage(false);
-  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->HoldForMessage(false);
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->HoldForMessage(false);
+  if (with_.Ports.QMenu != nullptr) with_.Ports.QMenu->HoldForMessage(false);
 }
 
 void frmURL::ReleaseOthers() {
   if (!std::exchange(holdsOthers_, false)) return;
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ReleaseAfterMessage();
-  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->ReleaseAfterMessage();
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->ReleaseAfterMessage();
+  if (with_.Ports.QMenu != nullptr) with_.Ports.QMenu->ReleaseAfterMessage();
 }
 
 }  // namespace corvelle

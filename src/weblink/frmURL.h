@@ -14,7 +14,28 @@
 
 namespace corvelle {
 
-class Program;
+class CodePage;
+class DesktopWindows;
+class EntryCommands;
+class MessageBoxes;
+class OptionFile;
+struct GuardFlags;
+struct ProgramPaths;
+
+/// What the dialog works with. All of it outlives it.
+struct WebLinkParts {
+  forms::WindowSystem& Windows;
+  FileSystem& Files;
+  const CodePage& Ansi;
+  DesktopWindows& Desktop;
+  const ProgramPaths& Paths;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+  OptionFile& Options;
+  GuardFlags& Guards;
+  EntryEdit& Entry;
+  EntryCommands& Commands;
+};
 
 /// The dialog in which the user corrects title and address of a dropped web address before it
 /// becomes an entry. It comes a moment after the drop, which has returned to its source by then;
@@ -26,7 +47,7 @@ class Program;
 /// Nothing waits in a loop: each step is an event of its own, so that everything else goes on.
 class frmURL final : public forms::Form, public WebLinkPort {
  public:
-  explicit frmURL(Program& program);
+  explicit frmURL(const WebLinkParts& with);
 
   void OfferWebLink(std::string_view url, std::string_view title, std::string_view tag,
                     std::string_view file) override;
@@ -78,7 +99,7 @@ class frmURL final : public forms::Form, public WebLinkPort {
   void InsertSingle(std::string_view before);
   void AppendItem(const std::string& menu, const std::string& file);
 
-  Program& program_;
+  WebLinkParts with_;
   forms::Timer tmrStep_;
   Step step_ = Step::Idle;
   /// The entry under the drop. Others may become the current one while the dialog is up.

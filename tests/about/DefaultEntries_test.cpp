@@ -6,6 +6,7 @@
 
 #include "core/MenuFile.h"
 #include "core/Program.h"
+#include "program/Wiring.h"
 #include "shell/LinkFiles.h"
 #include "sim/World.h"
 
@@ -78,7 +79,7 @@ class DefaultEntriesTest : public testing::Test {
   SearchWindow search;
   Program program{world.Services(), world.Windows()};
   LinkReader links{program.Services.Links};
-  DefaultEntries entries{program};
+  DefaultEntries entries{DefaultEntryPartsOf(program)};
 };
 
 using Texts = std::vector<std::string>;

@@ -7,6 +7,7 @@
 #include "base/Version.h"
 #include "core/Program.h"
 #include "launch/CommandDoubles.h"
+#include "program/Wiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -60,7 +61,7 @@ class AboutWindow : public testing::Test {
   sim::World world;
   Program program{world.Services(), world.Windows()};
   LoggingBrowser browser{log};
-  frmAbout window{program};
+  frmAbout window{AboutPartsOf(program)};
 };
 
 TEST_F(AboutWindow, OpensWithTheProgramsNameAndVersion) {

@@ -366,7 +366,7 @@ TEST_F(MainTest, AFirstInstanceThatIsJustEndingLetsTheNextOneStart) {
   OtherCopy other(world);
   other.EndsAfter = 3;
   Program next(world.Services(), world.Windows());
-  EXPECT_TRUE(ClaimSession(next));
+  EXPECT_TRUE(ClaimSession(next.Title, next.Services.System, next.Services.Desktop, next.Messages));
   EXPECT_EQ(other.Asked, 4);
   EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
@@ -375,7 +375,8 @@ TEST_F(MainTest, AFirstInstanceThatIsJustStartingIsWokenWhenItIsThere) {
   OtherCopy other(world);
   other.ShowsItselfAfter = 3;
   Program next(world.Services(), world.Windows());
-  EXPECT_FALSE(ClaimSession(next));
+  EXPECT_FALSE(
+      ClaimSession(next.Title, next.Services.System, next.Services.Desktop, next.Messages));
   EXPECT_EQ(world.Desktop.Sent().size(), 1U);
   EXPECT_TRUE(world.Desktop.Boxes().empty());
 }

@@ -72,7 +72,7 @@ class IconDesk : public ::testing::Test {
 using ResolveAndDrawTest = IconDesk;
 class DetectShellIconsTest : public IconDesk {
  protected:
-  ShellIconRule rule{program};
+  ShellIconRule rule{program.Answers, program.Paths, program.Icons};
 };
 
 Rgb System(int index) { return sim::SimShellIcons::ColourOf(index); }

@@ -5,6 +5,7 @@
 #include "core/Program.h"
 #include "launch/Browser.h"
 #include "launch/CommandDoubles.h"
+#include "launch/LaunchWiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -34,7 +35,7 @@ class TitleDesk : public testing::Test {
 
   sim::World world;
   Program program{world.Services(), world.Windows()};
-  Browser browser{program};
+  Browser browser{BrowserPartsOf(program)};
 };
 
 // ---- the window that the drag came from ----

@@ -10,6 +10,7 @@
 #include "core/Program.h"
 #include "launch/CommandDoubles.h"
 #include "launch/LaunchItem.h"
+#include "launch/LaunchWiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -92,7 +93,7 @@ class BrowserDesk : public testing::Test {
   sim::World world;
   Program program{world.Services(), world.Windows()};
   std::vector<bool> Chosen;
-  Browser browser{program};
+  Browser browser{BrowserPartsOf(program)};
 
  private:
   KnownLinks links_;
@@ -420,7 +421,7 @@ TEST_F(OpenUrlTest, TheUsersChoiceComesBeforeAnotherProgramForPages) {
     SetKey(kWebKey, "IExplore");
     HaveBrowser(kExplorer);
     const int tries = world.Dde.Tries();
-    Browser fresh(program);
+    Browser fresh(BrowserPartsOf(program));
     fresh.OpenUrl(kUrl, {});
     EXPECT_EQ(world.Dde.Tries() - tries, row.AsksByDde ? 1 : 0) << row.Name;
     EXPECT_EQ(world.Shell.Log(), row.Expected) << row.Name;
@@ -543,7 +544,7 @@ TEST_F(SlowBrowserTest, ABrowserThatEndedIsToldNothing) {
   world.Shell.Fail(kUrl);
   world.Starts.Hang();
   {
-    Browser ending(program);
+    Browser ending(BrowserPartsOf(program));
     ending.OpenUrl(kUrl, {});
   }
   world.Starts.Resume();
@@ -638,7 +639,7 @@ TEST_F(BrowserChoiceTest, AProgramThatEndsMeanwhileIsToldNothing) {
   PutLink("D:\\browser.lnk", kExplorer);
   world.SlowAnswers.Delay("D:", 1500);
   {
-    Browser ending(program);
+    Browser ending(BrowserPartsOf(program));
     ending.UseBrowser("D:\\browser.lnk", [this](bool taken) { Chosen.push_back(taken); });
   }
   world.Desktop.Advance(3000);

@@ -7,6 +7,7 @@
 
 #include "launch/BuiltInDesk.h"
 #include "launch/LaunchItem.h"
+#include "launch/LaunchWiring.h"
 
 namespace corvelle {
 
@@ -141,7 +142,7 @@ TEST_F(ClearRecentDocsTest, AShellWithoutThatFolderIsAFailure) {
   Program other(bare.Services(), bare.Windows());
   bare.Files.Put("C:\\boot.ini", "x");
   bare.Desktop.Answer(kFailure, kOk);
-  BuiltInCommands(other).ClearRecentDocs();
+  BuiltInCommands(BuiltInPartsOf(other)).ClearRecentDocs();
   EXPECT_TRUE(bare.FileOps.Log().empty());
 }
 

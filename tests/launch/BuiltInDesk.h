@@ -7,6 +7,7 @@
 #include "core/CoreDoubles.h"
 #include "core/Program.h"
 #include "launch/BuiltInCommands.h"
+#include "launch/LaunchWiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -37,7 +38,7 @@ class BuiltInDesk : public ::testing::Test {
   Program program{world.Services(), world.Windows()};
   LoggingToolbar toolbar{log};
   LoggingStartup startup{log};
-  BuiltInCommands words{program};
+  BuiltInCommands words{BuiltInPartsOf(program)};
 };
 
 }  // namespace corvelle

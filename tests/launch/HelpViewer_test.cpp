@@ -28,7 +28,7 @@ class Help : public testing::Test {
 
   sim::World world;
   Program program{world.Services(), world.Windows()};
-  HelpViewer help{program};
+  HelpViewer help{program.Paths, program.Services.Files, program.Launch};
 };
 
 TEST_F(Help, APageOpensInTheBrowser) {

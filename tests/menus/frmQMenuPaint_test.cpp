@@ -125,11 +125,7 @@ TEST_F(Painted, FilesOfOneShellIconShareIt) {
   EXPECT_EQ(desk_.World.Icons.Lookups(), 2);
   EXPECT_EQ(IconColour(1), IconColour(2));
   Program& program = desk_.TheProgram;
-  MenuIcons icons({.Windows = program.Windows,
-                   .Answers = program.Answers,
-                   .Shell = program.Services.Icons,
-                   .Paths = program.Paths,
-                   .Icons = program.Icons});
+  MenuIcons icons(program.IconSources);
   icons.WaitUntil(desk_.World.Desktop.Now() + 1);
   EXPECT_EQ(icons.Find("C:\\a.txt").Cell, icons.Find("C:\\b.txt").Cell);
   EXPECT_EQ(icons.Count(), 1);

@@ -11,6 +11,8 @@
 #include "launch/BuiltInCommands.h"
 #include "launch/CommandDoubles.h"
 #include "launch/LaunchItem.h"
+#include "launch/LaunchWiring.h"
+#include "program/Wiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -58,7 +60,7 @@ class NetSearch : public testing::Test {
   /// The program ends and another one begins.
   void StartAgain() {
     Close();
-    window = std::make_unique<frmNetSearch>(program);
+    window = std::make_unique<frmNetSearch>(NetSearchPartsOf(program));
     program.Ports.NetSearch = window.get();
     Open();
   }
@@ -93,8 +95,8 @@ class NetSearch : public testing::Test {
   sim::World world;
   Program program{world.Services(), world.Windows()};
   LoggingBrowser browser{log};
-  BuiltInCommands words{program};
-  std::unique_ptr<frmNetSearch> window = std::make_unique<frmNetSearch>(program);
+  BuiltInCommands words{BuiltInPartsOf(program)};
+  std::unique_ptr<frmNetSearch> window = std::make_unique<frmNetSearch>(NetSearchPartsOf(program));
 };
 
 TEST_F(NetSearch, ShowsItsCaptionsAndTheFirstEngine) {
@@ -392,7 +394,7 @@ TEST_F(NetSearch, EscClosesAnOpenListFirstAndThenTheWindow) {
 }
 
 TEST_F(NetSearch, TheRealBrowserGetsTheAddress) {
-  Browser real(program);
+  Browser real(BrowserPartsOf(program));
   program.Ports.Browser = &real;
   world.Shell.ClearLog();
   Open();

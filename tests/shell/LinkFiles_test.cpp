@@ -43,9 +43,9 @@ TEST_F(LinkFilesTest, AChosenLinkStandsForItsTargetAndAnyOtherFileForItself) {
 }
 
 TEST_F(LinkFilesTest, ASpecialFolderWithoutAPathIsEmpty) {
-  EXPECT_EQ(GetSpecialFolder(program, 7), "C:\\Start\\Startup");
-  EXPECT_EQ(GetSpecialFolder(program, 17), "");
-  EXPECT_EQ(GetSpecialFolder(program, 99), "");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 7), "C:\\Start\\Startup");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 17), "");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 99), "");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "core/Main.h"
 #include "shell/ShellDesk.h"
+#include "shell/ShellWiring.h"
 
 namespace corvelle {
 namespace {
@@ -32,11 +33,11 @@ class StartupLinkTest : public ShellDesk {
   sim::SimLink toThisCopy{.Path = "C:\\Corvelle\\corvelle.exe",
                           .WorkDir = "C:\\Corvelle",
                           .Item = sim::SimShellLinks::ItemOf("C:\\Corvelle\\corvelle.exe")};
-  StartupLink link{program};
+  StartupLink link{StartupLinkPartsOf(program)};
 };
 
 TEST_F(StartupLinkTest, StandsInTheStartupFolder) {
-  EXPECT_EQ(StartupLinkPath(program), kStartupLink);
+  EXPECT_EQ(StartupLinkPath(StartupLinkPartsOf(program)), kStartupLink);
   EXPECT_FALSE(link.Exists());
   link.Create("C:\\Corvelle\\corvelle.exe");
   EXPECT_TRUE(link.Exists());
@@ -49,7 +50,7 @@ TEST_F(StartupLinkTest, StandsInTheStartupFolder) {
 TEST_F(StartupLinkTest, WithoutAStartupFolderThereIsNoneAndNoneIsMadeElsewhere) {
   world.Links.SetVirtualFolder(7);
   const std::vector<std::string> before = world.Files.Names("C:\\");
-  EXPECT_EQ(StartupLinkPath(program), "");
+  EXPECT_EQ(StartupLinkPath(StartupLinkPartsOf(program)), "");
   EXPECT_FALSE(link.Exists());
   link.Create("C:\\Corvelle\\corvelle.exe");
   link.Remove();
@@ -117,7 +118,7 @@ TEST_F(FirstRun, ALaterRunLeavesTheLinkAlone) {
 
 TEST_F(StartupLinkTest, SettingSaysSo) {
   ExpectNote(kSet);
-  SetAsStartupProgram(program);
+  SetAsStartupProgram(StartupLinkPartsOf(program));
   CheckNote();
   EXPECT_EQ(world.Links.Get(kStartupLink), toThisCopy);
 }
@@ -125,28 +126,28 @@ TEST_F(StartupLinkTest, SettingSaysSo) {
 TEST_F(StartupLinkTest, SettingThatFailsSaysSo) {
   ExpectNote(kNotSet);
   world.Files.Protect("C:\\Start\\Startup");
-  SetAsStartupProgram(program);
+  SetAsStartupProgram(StartupLinkPartsOf(program));
   CheckNote();
 }
 
 TEST_F(StartupLinkTest, SettingWithoutAStartupFolderFails) {
   ExpectNote(kNotSet);
   world.Links.SetVirtualFolder(7);
-  SetAsStartupProgram(program);
+  SetAsStartupProgram(StartupLinkPartsOf(program));
   CheckNote();
 }
 
 TEST_F(StartupLinkTest, RemovingSaysSo) {
   world.Links.Put(kStartupLink, toThisCopy);
   ExpectNote(kRemoved);
-  RemoveFromStartup(program);
+  RemoveFromStartup(StartupLinkPartsOf(program));
   CheckNote();
   EXPECT_FALSE(world.Files.Has(kStartupLink));
 }
 
 TEST_F(StartupLinkTest, RemovingWhatIsNotThereSaysSo) {
   ExpectNote(kNotThere);
-  RemoveFromStartup(program);
+  RemoveFromStartup(StartupLinkPartsOf(program));
   CheckNote();
 }
 
@@ -168,7 +169,7 @@ TEST_F(StartupLinkTest, RemovingThatFailsGivesTheErrorsNumberAndDescription) {
   for (const Row& row : rows) {
     ExpectNote(row.Text);
     world.Files.FailCall(2, row.Error);
-    RemoveFromStartup(program);
+    RemoveFromStartup(StartupLinkPartsOf(program));
     EXPECT_EQ(world.Desktop.Boxes().back().Flags, 64U) << row.Text;
     EXPECT_TRUE(world.Files.Has(kStartupLink)) << row.Text;
   }

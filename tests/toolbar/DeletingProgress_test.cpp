@@ -28,7 +28,10 @@ struct DeletingProgress : testing::Test {
   void Clear(int files) {
     for (int i = 0; i < files; ++i) world.Files.Put("C:\\Temp\\" + std::to_string(i), "x");
     world.Desktop.AnswerAnyOther(forms::msgbox::AnswerYes);
-    ClearTempFolder(program);
+    ClearTempFolder({.Files = program.Services.Files,
+                     .FileOps = program.Services.FileOps,
+                     .Paths = program.Paths,
+                     .Launch = program.Launch});
   }
 
   static constexpr char kPicture[] = "C:\\Corvelle\\Icons\\delfile.ico";

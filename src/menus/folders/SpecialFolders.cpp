@@ -110,7 +110,7 @@ void SpecialFolders::OpenSpecialFolder(std::string_view name, std::string_view a
       launch_.Starts, std::string(name) + "\n" + std::string(argument),
       [text, parameters = file ? std::string(argument) : std::string()](
           const StartServices& services) { return OpenApart(services.Folders, text, parameters); },
-      [launch = launch_](const std::string& command) {
+      [&launch = launch_](const std::string& command) {
         if (!command.empty()) LaunchItem(launch, command);
       });
 }

@@ -41,7 +41,7 @@ class SpecialFolders final : public SpecialFoldersPort {
 
  private:
   ShellFolders& folders_;
-  LaunchParts launch_;
+  const LaunchParts& launch_;
 };
 
 }  // namespace corvelle

@@ -117,7 +117,7 @@ class MenuIcons {
   int AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw);
   void MakeRoom();
 
-  IconSources from_;
+  const IconSources& from_;
   // Of questions to the desk.
   std::uint64_t shown_ = 0;
   std::uint64_t ahead_ = 0;

@@ -13,7 +13,7 @@ struct HelpTopicParts {
   const ProgramPaths& Paths;
   FileSystem& Files;
   DesktopWindows& Desktop;
-  LaunchParts Launch;
+  const LaunchParts& Launch;
 };
 
 /// The line "Help Topics" of the main menu.

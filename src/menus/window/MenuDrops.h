@@ -18,7 +18,7 @@ struct WindowPorts;
 /// What drops on a menu work with. All of it outlives them.
 struct MenuDropParts {
   FileDrops Files;
-  LaunchParts Launch;
+  const LaunchParts& Launch;
   const WindowPorts& Ports;
   EntryEdit& Entry;
 };

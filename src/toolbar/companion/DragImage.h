@@ -16,7 +16,7 @@ class Input;
 
 /// What the carried picture works with. All of it outlives it.
 struct DragImageParts {
-  IconSources Icons;
+  const IconSources& Icons;
   const EntryCarry& Carry;
   const WindowPorts& Ports;
   const DesktopWindows& Desktop;

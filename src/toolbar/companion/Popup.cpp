@@ -1,9 +1,7 @@
 #include "toolbar/companion/Popup.h"
 
-#include "core/EntryCommands.h"
 #include "core/GuardFlags.h"
 #include "core/MenuState.h"
-#include "core/MessageBoxes.h"
 #include "forms/Scopes.h"
 #include "forms/WindowSystem.h"
 #include "platform/Input.h"

@@ -26,7 +26,7 @@ struct PopupParts {
   GuardFlags& Guards;
   const MenuState& Menu;
   const Input& Pointer;
-  LaunchParts Launch;
+  const LaunchParts& Launch;
 };
 
 /// The popup menu of right clicks. Its commands act on the entry that is current (EntryEdit)

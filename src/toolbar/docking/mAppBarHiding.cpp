@@ -1,14 +1,10 @@
 // Auto Hide: the strip as a line, and back.
 
-#include "core/Carry.h"
 #include "core/GuardFlags.h"
-#include "core/MessageBoxes.h"
 #include "core/OptionFlags.h"
 #include "core/StripPlacement.h"
-#include "forms/EventPump.h"
 #include "forms/Form.h"
 #include "forms/Scopes.h"
-#include "forms/WindowSystem.h"
 #include "toolbar/docking/mAppBar.h"
 
 namespace corvelle {

@@ -1,6 +1,7 @@
 #include "toolbar/layout/StripFiles.h"
 
 #include <optional>
+#include <utility>
 
 #include "core/MenuFile.h"
 #include "core/MenuFolder.h"
@@ -9,31 +10,27 @@
 
 namespace corvelle {
 
-std::vector<StripFiles::Button> StripFiles::MenuButtons() const {
+std::vector<StripFiles::Button> StripFiles::Read(const FileResult<std::vector<std::string>>& names,
+                                                 Dot dot) const {
   std::vector<Button> buttons;
-  const auto names = OrderedMenuFiles(with_.Files, with_.Paths.MenusPath);
   if (!names) return buttons;
   for (const std::string& name : *names) {
-    with_.Progress.ShowStartupProgress();
-    const std::string path = with_.Paths.MenusPath + name;
-    const std::optional<MenuRecord> record = ReadButtonRecord(with_.Files, with_.Ansi, path);
-    if (record) buttons.push_back({path, *record});
+    if (dot == Dot::EachFile) with_.Progress.ShowStartupProgress();
+    std::string path = with_.Paths.MenusPath + name;
+    std::optional<MenuRecord> record = ReadButtonRecord(with_.Files, with_.Ansi, path);
+    if (!record) continue;
+    if (dot == Dot::EachButton) with_.Progress.ShowStartupProgress();
+    buttons.push_back({std::move(path), std::move(*record)});
   }
   return buttons;
 }
 
+std::vector<StripFiles::Button> StripFiles::MenuButtons() const {
+  return Read(OrderedMenuFiles(with_.Files, with_.Paths.MenusPath), Dot::EachFile);
+}
+
 std::vector<StripFiles::Button> StripFiles::SingleButtons() const {
-  std::vector<Button> buttons;
-  const auto names = OrderedSingleFiles(with_.Files, with_.Paths.MenusPath);
-  if (!names) return buttons;
-  for (const std::string& name : *names) {
-    const std::string path = with_.Paths.MenusPath + name;
-    const std::optional<MenuRecord> record = ReadButtonRecord(with_.Files, with_.Ansi, path);
-    if (!record) continue;
-    with_.Progress.ShowStartupProgress();
-    buttons.push_back({path, *record});
-  }
-  return buttons;
+  return Read(OrderedSingleFiles(with_.Files, with_.Paths.MenusPath), Dot::EachButton);
 }
 
 MenuRecord StripFiles::RecordOf(std::string_view path) const {

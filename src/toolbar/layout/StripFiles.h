@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "core/MenuRecord.h"
+#include "platform/FileSystem.h"
 
 namespace corvelle {
 
 class CodePage;
-class FileSystem;
 class StartupProgress;
 struct ProgramPaths;
 
@@ -43,6 +43,11 @@ class StripFiles {
   [[nodiscard]] std::string MainMenuFile() const;
 
  private:
+  /// What counts in the startup window.
+  enum class Dot { EachFile, EachButton };
+  [[nodiscard]] std::vector<Button> Read(const FileResult<std::vector<std::string>>& names,
+                                         Dot dot) const;
+
   StripFileParts with_;
 };
 

@@ -25,7 +25,7 @@ struct DateParts {
   const WindowPorts& Ports;
   MenuState& Menu;
   const EntryCarry& Carry;
-  LaunchParts Launch;
+  const LaunchParts& Launch;
 };
 
 /// The date at the far end of the single buttons: when it is to be seen, its place and its text;

@@ -3,11 +3,9 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/GuardFlags.h"
 #include "core/IconState.h"
 #include "core/MenuState.h"
 #include "core/OptionFlags.h"
-#include "core/StripPlacement.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
 #include "toolbar/layout/StripLook.h"

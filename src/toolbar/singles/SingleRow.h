@@ -34,7 +34,7 @@ class StripPull;
 struct SingleRowParts {
   StripFiles Files;
   SingleEdits Edits;
-  IconSources Icons;
+  const IconSources& Icons;
   const OptionFlags& Options;
   const StripPlacement& Strip;
   DesktopWindows& Desktop;
@@ -44,7 +44,7 @@ struct SingleRowParts {
   MenuState& Menu;
   EntryEdit& Entry;
   EntryCarry& Carry;
-  LaunchParts Launch;
+  const LaunchParts& Launch;
 };
 
 /// The single buttons of the strip: what is in its second box, and what the mouse does there.

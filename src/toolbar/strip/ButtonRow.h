@@ -37,7 +37,7 @@ struct ButtonControls {
 /// What the row of menu buttons works with. All of it outlives it.
 struct ButtonRowParts {
   StripFiles Files;
-  IconSources Icons;
+  const IconSources& Icons;
   const OptionFlags& Options;
   const StripPlacement& Strip;
   const SystemInfo& System;

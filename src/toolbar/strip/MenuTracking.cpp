@@ -6,7 +6,6 @@
 #include "core/GuardFlags.h"
 #include "core/MenuRecord.h"
 #include "core/MenuState.h"
-#include "core/OptionFlags.h"
 #include "core/StripPlacement.h"
 #include "core/WindowPorts.h"
 #include "forms/Form.h"

@@ -5,7 +5,6 @@
 #include "core/GuardFlags.h"
 #include "core/MenuState.h"
 #include "core/OptionFlags.h"
-#include "core/StripPlacement.h"
 #include "core/WindowPorts.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"

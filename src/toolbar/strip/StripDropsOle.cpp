@@ -8,7 +8,6 @@
 #include "core/DroppedTitle.h"
 #include "core/GuardFlags.h"
 #include "core/MenuState.h"
-#include "core/MessageBoxes.h"
 #include "core/StripPlacement.h"
 #include "core/WindowPorts.h"
 #include "forms/Form.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Program.h"
 #include "toolbar/companion/DragImage.h"
 #include "toolbar/companion/Popup.h"
 #include "toolbar/companion/frmMinimize.h"
@@ -17,26 +18,186 @@
 
 namespace corvelle {
 
-class Program;
-
 // What each part of the strip, and each window beside it, gets of a program. The program outlives
 // them.
 
-[[nodiscard]] ButtonRowParts ButtonRowPartsOf(Program& program);
-[[nodiscard]] PullParts PullPartsOf(Program& program);
-[[nodiscard]] HidingParts HidingPartsOf(Program& program);
-[[nodiscard]] TrackingParts TrackingPartsOf(Program& program);
-[[nodiscard]] DateParts DatePartsOf(Program& program);
-[[nodiscard]] SingleRowParts SingleRowPartsOf(Program& program);
-[[nodiscard]] StripDropParts StripDropPartsOf(Program& program);
+[[nodiscard]] inline FileTitles TitlesOf(Program& program) noexcept {
+  return FileTitles(program.Starts, program.Services.Ansi, program.OptionFlags);
+}
 
-[[nodiscard]] AppBarParts AppBarPartsOf(Program& program);
-[[nodiscard]] StillPictureParts StillPicturePartsOf(Program& program);
-[[nodiscard]] CompanionParts CompanionPartsOf(Program& program);
-[[nodiscard]] PopupParts PopupPartsOf(Program& program);
-[[nodiscard]] DragImageParts DragImagePartsOf(Program& program);
-[[nodiscard]] HintParts HintPartsOf(Program& program);
-[[nodiscard]] StartupParts StartupPartsOf(Program& program);
-[[nodiscard]] TipParts TipPartsOf(Program& program);
+[[nodiscard]] inline StripFiles StripFilesOf(Program& program) noexcept {
+  return StripFiles({.Files = program.Services.Files,
+                     .Ansi = program.Services.Ansi,
+                     .Paths = program.Paths,
+                     .Progress = program.Progress,
+                     .Title = program.Title});
+}
+
+[[nodiscard]] inline ButtonRowParts ButtonRowPartsOf(Program& program) noexcept {
+  return {.Files = StripFilesOf(program),
+          .Icons = program.IconSources,
+          .Options = program.OptionFlags,
+          .Strip = program.Strip,
+          .System = program.Services.System,
+          .Ports = program.Ports,
+          .Guards = program.Guards,
+          .Menu = program.Menu,
+          .Entry = program.Entry};
+}
+
+[[nodiscard]] inline PullParts PullPartsOf(Program& program) noexcept {
+  return {.Ports = program.Ports,
+          .Guards = program.Guards,
+          .Strip = program.Strip,
+          .Carry = program.Carry,
+          .Pointer = program.Services.Pointer};
+}
+
+[[nodiscard]] inline HidingParts HidingPartsOf(Program& program) noexcept {
+  return {.Ports = program.Ports,
+          .Guards = program.Guards,
+          .Strip = program.Strip,
+          .Options = program.OptionFlags,
+          .Pointer = program.Services.Pointer,
+          .Desktop = program.Services.Desktop,
+          .Events = program.Events};
+}
+
+[[nodiscard]] inline TrackingParts TrackingPartsOf(Program& program) noexcept {
+  return {.Options = program.OptionFlags,
+          .Strip = program.Strip,
+          .Desktop = program.Services.Desktop,
+          .Pointer = program.Services.Pointer,
+          .Ports = program.Ports,
+          .Guards = program.Guards,
+          .Menu = program.Menu,
+          .Drag = program.Drag,
+          .Carry = program.Carry};
+}
+
+[[nodiscard]] inline DateParts DatePartsOf(Program& program) noexcept {
+  return {.Options = program.OptionFlags,
+          .Guards = program.Guards,
+          .System = program.Services.System,
+          .Desktop = program.Services.Desktop,
+          .Ports = program.Ports,
+          .Menu = program.Menu,
+          .Carry = program.Carry,
+          .Launch = program.Launch};
+}
+
+[[nodiscard]] inline SingleRowParts SingleRowPartsOf(Program& program) noexcept {
+  return {.Files = StripFilesOf(program),
+          .Edits = SingleEdits({.Files = program.Services.Files,
+                                .Ansi = program.Services.Ansi,
+                                .Paths = program.Paths,
+                                .Ports = program.Ports,
+                                .Entry = program.Entry,
+                                .Titles = TitlesOf(program)}),
+          .Icons = program.IconSources,
+          .Options = program.OptionFlags,
+          .Strip = program.Strip,
+          .Desktop = program.Services.Desktop,
+          .Pointer = program.Services.Pointer,
+          .Ports = program.Ports,
+          .Guards = program.Guards,
+          .Menu = program.Menu,
+          .Entry = program.Entry,
+          .Carry = program.Carry,
+          .Launch = program.Launch};
+}
+
+[[nodiscard]] inline StripDropParts StripDropPartsOf(Program& program) noexcept {
+  return {.Files = FileDrops({.Files = program.Services.Files,
+                              .Ansi = program.Services.Ansi,
+                              .Titles = TitlesOf(program),
+                              .Guards = program.Guards,
+                              .Ports = program.Ports}),
+          .Commands = program.Commands,
+          .Strip = program.Strip,
+          .Desktop = program.Services.Desktop,
+          .Pointer = program.Services.Pointer,
+          .Ports = program.Ports,
+          .Messages = program.Messages,
+          .Guards = program.Guards,
+          .Menu = program.Menu,
+          .Drag = program.Drag,
+          .Entry = program.Entry,
+          .Carry = program.Carry};
+}
+
+[[nodiscard]] inline AppBarParts AppBarPartsOf(Program& program) noexcept {
+  return {.Bars = program.Services.Bars,
+          .Desktop = program.Services.Desktop,
+          .Ports = program.Ports,
+          .Guards = program.Guards,
+          .Strip = program.Strip,
+          .Options = program.OptionFlags,
+          .Carry = program.Carry,
+          .Messages = program.Messages,
+          .Events = program.Events};
+}
+
+[[nodiscard]] inline StillPictureParts StillPicturePartsOf(Program& program) noexcept {
+  return {.Windows = program.Windows,
+          .Desktop = program.Services.Desktop,
+          .Ports = program.Ports,
+          .Events = program.Events,
+          .Options = program.OptionFlags,
+          .Guards = program.Guards};
+}
+
+[[nodiscard]] inline CompanionParts CompanionPartsOf(Program& program) noexcept {
+  return {.Windows = program.Windows,
+          .Tray = program.Services.Tray,
+          .Ports = program.Ports,
+          .Guards = program.Guards,
+          .Strip = program.Strip,
+          .Options = program.Options,
+          .Paths = program.Paths,
+          .Events = program.Events};
+}
+
+[[nodiscard]] inline PopupParts PopupPartsOf(Program& program) noexcept {
+  return {.Entry = program.Entry,
+          .Commands = program.Commands,
+          .Files = program.Services.Files,
+          .Ansi = program.Services.Ansi,
+          .Ports = program.Ports,
+          .Guards = program.Guards,
+          .Menu = program.Menu,
+          .Pointer = program.Services.Pointer,
+          .Launch = program.Launch};
+}
+
+[[nodiscard]] inline DragImageParts DragImagePartsOf(Program& program) noexcept {
+  return {.Icons = program.IconSources,
+          .Carry = program.Carry,
+          .Ports = program.Ports,
+          .Desktop = program.Services.Desktop,
+          .Pointer = program.Services.Pointer};
+}
+
+[[nodiscard]] inline HintParts HintPartsOf(Program& program) noexcept {
+  return {.Windows = program.Windows,
+          .Ports = program.Ports,
+          .Options = program.OptionFlags,
+          .Desktop = program.Services.Desktop,
+          .Pointer = program.Services.Pointer};
+}
+
+[[nodiscard]] inline StartupParts StartupPartsOf(Program& program) noexcept {
+  return {.Windows = program.Windows,
+          .Icons = program.Services.Icons,
+          .Paths = program.Paths,
+          .Title = program.Title};
+}
+
+[[nodiscard]] inline TipParts TipPartsOf(Program& program) noexcept {
+  return {.Windows = program.Windows,
+          .Icons = program.Services.Icons,
+          .Paths = program.Paths,
+          .Options = program.Options};
+}
 
 }  // namespace corvelle

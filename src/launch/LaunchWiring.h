@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/Program.h"
+#include "launch/Browser.h"
+#include "launch/BuiltInCommands.h"
+
+namespace corvelle {
+
+// What starts entries gets of a program, which outlives it.
+
+[[nodiscard]] inline BuiltInParts BuiltInPartsOf(Program& program) noexcept {
+  return {.Files = program.Services.Files,
+          .FileOps = program.Services.FileOps,
+          .Links = program.Services.Links,
+          .Keyboard = program.Services.Keyboard,
+          .Paths = program.Paths,
+          .Launch = program.Launch};
+}
+
+[[nodiscard]] inline BrowserParts BrowserPartsOf(Program& program) noexcept {
+  return {.Answers = program.Answers,
+          .Files = program.Services.Files,
+          .Ansi = program.Services.Ansi,
+          .Desktop = program.Services.Desktop,
+          .Paths = program.Paths,
+          .Title = program.Title,
+          .Launch = program.Launch};
+}
+
+}  // namespace corvelle
