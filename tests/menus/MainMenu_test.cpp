@@ -205,6 +205,14 @@ TEST_F(MainMenuTest, AMenuThatIsCheckedAgainEnablesWhatIsOfUseNow) {
   EXPECT_TRUE(Enabled(kMaximizeLabel));
 }
 
+TEST_F(MainMenuTest, AMenuThatIsCheckedAgainIsPaintedAtOnce) {
+  Open();
+  const int paints = desk.World.Desktop.PaintCount(desk.Menu.hWnd());
+  program.Strip.AppBarDocked = true;
+  mainMenu.CheckLabels();
+  EXPECT_GT(desk.World.Desktop.PaintCount(desk.Menu.hWnd()), paints);
+}
+
 TEST_F(MainMenuTest, TheMenuIsGoneAndEventsHaveRunBeforeAChoiceIsCarriedOut) {
   NotedWindow about;
   program.Ports.About = &about;

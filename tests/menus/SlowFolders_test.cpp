@@ -131,6 +131,19 @@ TEST_F(SlowFolder, AFolderThatIsComparedShowsFirstAndComparesAfterwards) {
   EXPECT_EQ(desk_.Captions(), (Strings{"Item 2", "one.txt", "three.txt", "two.txt"}));
 }
 
+TEST_F(SlowFolder, ARowThatIsGoneFromTheFolderIsGoneFromTheMenu) {
+  Open("/u");
+  desk_.Menu.HideMenu();
+  desk_.World.Files.Vanish("D:\\Docs\\two.txt");
+  Slow().Delay("D:", 300);
+  desk_.Reopen(1);
+  ASSERT_TRUE(desk_.Menu.Lbl[3].Visible());
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), (Strings{"Item 2", "one.txt"}));
+  EXPECT_TRUE(desk_.Menu.Lbl[2].Visible());
+  EXPECT_FALSE(desk_.Menu.Lbl[3].Visible());
+}
+
 TEST_F(SlowFolder, WhatTheKeysHadSelectedStaysSelected) {
   Open("/u");
   desk_.Menu.HideMenu();

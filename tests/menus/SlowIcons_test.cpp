@@ -260,6 +260,20 @@ TEST_F(SlowIcons, AMenuThatGoesWhileTheyComeIsLeftAlone) {
   EXPECT_FALSE(desk_.Menu.IsLoaded());
 }
 
+TEST_F(SlowIcons, TogetherTheyHoldAMenuUpForAMomentOnly) {
+  Strings icons;
+  for (const char drive : {'D', 'E', 'F'}) {
+    if (drive != 'D') desk_.World.Files.AddDrive(drive);
+    Slow().Hang(std::string(1, drive) + ":*");
+    icons.push_back(std::string(1, drive) + ":\\a.exe");
+  }
+  desk_.World.Costs.SetPrice([](std::string_view, std::string_view) { return 0; });
+  desk_.World.Costs.WhenCharged([&](int milliseconds) { desk_.World.Desktop.Jump(milliseconds); });
+  Open(icons);
+  EXPECT_EQ(desk_.World.Costs.LongestTurn(), MenuIcons::kAtOnce);
+  desk_.World.Costs.WhenCharged({});
+}
+
 TEST_F(SlowIcons, TheirLookingForTakesNoTimeOfTheWindows) {
   Slow().Delay("D:*", 50);
   const auto before = desk_.World.Desktop.Now();

@@ -231,6 +231,16 @@ TEST(TypingAhead, KeysThatTheStripGetsWhileAMenuIsBuiltAreHeldToo) {
   EXPECT_EQ(desk.BarredItem(), 2);
 }
 
+TEST(TypingAhead, AMenuThatIsHiddenWhileItIsBuiltComesUpAndActsOnThem) {
+  MenuDesk desk;
+  OpenTyping(desk, [&] {
+    desk.World.Desktop.PressKey(forms::key::Down);
+    desk.Menu.HideMenu();
+  });
+  EXPECT_TRUE(desk.Menu.MenuVisible());
+  EXPECT_EQ(desk.BarredItem(), 1);
+}
+
 TEST(TypingAhead, APageThatIsDrawnForTheFirstTimeHoldsThemAsWell) {
   MenuDesk desk;
   std::vector<MenuRecord> items = Items(100);

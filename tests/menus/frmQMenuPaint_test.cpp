@@ -37,7 +37,7 @@ class Painted : public ::testing::Test {
     return desk_.PixelInside(cell.x + 8, cell.y + 8);
   }
   Rgb Face() { return desk_.SystemColour(forms::color::ButtonFace); }
-
+  /// What icons of their own, beside the menu's, are made of.
   MenuDesk desk_;
 };
 
@@ -124,11 +124,30 @@ TEST_F(Painted, FilesOfOneShellIconShareIt) {
   desk_.Open(1, {Item("A", "C:\\a.txt"), Item("B", "C:\\b.txt")});
   EXPECT_EQ(desk_.World.Icons.Lookups(), 2);
   EXPECT_EQ(IconColour(1), IconColour(2));
-  Program& program = desk_.TheProgram;
-  MenuIcons icons(program.IconSources);
+  MenuIcons icons(desk_.TheProgram.IconSources);
   icons.WaitUntil(desk_.World.Desktop.Now() + 1);
   EXPECT_EQ(icons.Find("C:\\a.txt").Cell, icons.Find("C:\\b.txt").Cell);
   EXPECT_EQ(icons.Count(), 1);
+}
+
+TEST_F(Painted, AnIconOfTheShellsListHasOneCell) {
+  MenuIcons icons(desk_.TheProgram.IconSources);
+  const int cell = icons.Find("7").Cell;
+  EXPECT_EQ(icons.Count(), 1);
+  EXPECT_EQ(icons.Find("7").Cell, cell);
+  EXPECT_EQ(icons.Count(), 1);
+}
+
+TEST_F(Painted, IconsThatWereThereBeforeTheStripGrewAreWhole) {
+  MenuIcons icons(desk_.TheProgram.IconSources);
+  for (int i = 0; i < 40; ++i) icons.Find(std::to_string(10 + i));
+  EXPECT_EQ(icons.Count(), 40);
+  for (const int i : {0, 15, 16, 39}) {
+    sim::SimCanvas canvas({16, 16});
+    icons.Draw(canvas, {0, 0}, icons.Peek(std::to_string(10 + i)));
+    for (const PixelPoint at : {PixelPoint{0, 0}, {15, 0}, {0, 15}, {15, 15}})
+      EXPECT_EQ(canvas.PixelAt(at), ToolColour(i)) << i << ' ' << at.x << ' ' << at.y;
+  }
 }
 
 TEST_F(Painted, ForgottenIconsAreAskedForAgain) {
@@ -420,6 +439,16 @@ TEST_F(Painted, TheOldBarIsGoneWhenTheSelectionMoves) {
   desk_.PointAway();
   desk_.Poll();
   EXPECT_FALSE(barSeen(4));
+}
+
+TEST_F(Painted, ACaptionHasItsColourBackWhenTheSelectionGoes) {
+  desk_.Open(1, Items(4));
+  desk_.PointAtItem(4);
+  EXPECT_EQ(desk_.Menu.Lbl[4].ForeColor(), forms::color::HighlightText);
+  desk_.PointAway();
+  desk_.Poll();
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 0);
+  EXPECT_EQ(desk_.Menu.Lbl[4].ForeColor(), forms::color::ButtonText);
 }
 
 TEST_F(Painted, AMoveInsideOneItemPaintsNothing) {

@@ -87,6 +87,17 @@ TEST(SingleCarry, ToTheNextButtonChangesNothing) {
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
 }
 
+TEST(SingleCarry, ThatTheDiskRefusedMovesNothing) {
+  SinglesDesk desk;
+  desk.PutSingles("abc");
+  desk.StartAt(Edge::Bottom);
+  const int fitted = desk.Edge.Fitted;
+  desk.World.Files.Protect("C:\\Corvelle\\Menus");
+  desk.Carry(3, desk.MiddleOf(1));
+  EXPECT_EQ(desk.Row(), "abc");
+  EXPECT_EQ(desk.Edge.Fitted, fitted);
+}
+
 TEST(SingleCarry, ToFreeSpaceMovesItToTheEnd) {
   DropDesk desk;
   desk.Carry(2, desk.BarePlace());
@@ -441,6 +452,20 @@ TEST(SinglesEdits, AreToldOnceEachWhenTheFilesAreWritten) {
   told("files of another program");
   desk.Carry(2, desk.MiddleOf(3));
   EXPECT_EQ(edits.Seen.size(), 1U) << "told, though the row is written as it was";
+  desk.TheProgram.Ports.MenuEdits = nullptr;
+}
+
+TEST(SinglesEdits, OfFilesThatNoRecordHoldsAreNotTold) {
+  DropDesk desk("ab");
+  NotedEdits edits([] { return std::string(); });
+  desk.TheProgram.Ports.MenuEdits = &edits;
+  const std::string refused = "C:\\" + std::string(290, 'n') + ".txt";
+  desk.World.Desktop.Answer(RefusedFilesText({refused}), forms::msgbox::AnswerOk);
+  desk.PointAtSingle(1);
+  desk.Strip.Singles.DropFilesOnSingles({refused}, forms::MouseButton::Left);
+  desk.World.Desktop.Advance(100);
+  EXPECT_TRUE(edits.Seen.empty());
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   desk.TheProgram.Ports.MenuEdits = nullptr;
 }
 

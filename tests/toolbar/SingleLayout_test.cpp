@@ -193,6 +193,18 @@ TEST(SingleIconPlace, InTwoRowsNoIconTouchesTheOther) {
   }
 }
 
+TEST(SingleIconPlace, InTwoRowsUnderTheTopOfTheScreenTheIconIsTwoPixelsLower) {
+  for (const float twips : {15.0F, 12.0F}) {
+    const SingleScene scene = Scene(Edge::Top, true, twips);
+    const TwipRect place = Places(scene, "bb")[0];
+    const PixelPoint whole = SingleIconPlace(scene, place, Placement::AtEdge, 7);
+    EXPECT_EQ(SingleIconPlace(scene, place, Placement::TopHugging, 4), whole) << twips;
+    EXPECT_EQ(SingleIconPlace(scene, place, Placement::TopHugging, 7),
+              (PixelPoint{whole.x, whole.y + 2}))
+        << twips;
+  }
+}
+
 TEST(SingleAt, AnEntryHoldsItsUpperLeftSidesOnly) {
   std::vector<SingleRect> singles(3);
   singles[0] = SingleTemplate({});

@@ -192,6 +192,21 @@ TEST(SingleRow, ARefreshWithOtherFilesMakesTheRowAnew) {
   EXPECT_EQ(desk.Strip.Width(), desk.Strip.picSingleButton.Right() + 15);
 }
 
+TEST(SingleRow, ARefreshWithOtherTextsInTheSameFilesMovesNothing) {
+  SinglesDesk desk;
+  desk.PutSingles("ab");
+  desk.StartAt(Edge::Bottom);
+  const int fitted = desk.Edge.Fitted;
+  desk.PutSingle(2, "c");
+  desk.Strip.RefreshToolbar();
+  EXPECT_EQ(desk.Row(), "ac");
+  EXPECT_EQ(desk.Edge.Fitted, fitted);
+  desk.PutSingle(3, "d");
+  desk.Strip.RefreshToolbar();
+  EXPECT_EQ(desk.Row(), "acd");
+  EXPECT_EQ(desk.Edge.Fitted, fitted + 1);
+}
+
 TEST(SingleRow, ARefreshKnowsTheFilesThatWereNumberedAnew) {
   SinglesDesk desk;
   desk.PutSingles("ab");

@@ -75,6 +75,12 @@ TEST_F(Tip, StandsInTheMiddleOnTopWithItsTexts) {
   EXPECT_LE(tip.cmdOK.Bottom(), tip.ScaleHeight());
 }
 
+TEST_F(Tip, OfAShortTextIsAsWideAsTheLinesOfALongOneMayBe) {
+  tip.ShowTip("Tip", "Short.", kField);
+  desk.World.Desktop.Pump();
+  EXPECT_EQ(tip.Check1.Width(), 330 * 15.0F);
+}
+
 TEST_F(Tip, WithTheBoxTickedItDoesNotComeAgainAlsoAfterARestart) {
   Show();
   Click("Check1");

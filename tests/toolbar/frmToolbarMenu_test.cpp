@@ -219,6 +219,19 @@ TEST(ToolbarHover, WithAMenuOpenTheNextButtonsMenuComesWithoutAClick) {
   EXPECT_TRUE(desk.AtRest(2));
 }
 
+TEST(ToolbarHover, WhileTheNextMenuIsBuiltNoMenuIsPolled) {
+  ThreeMenus desk;
+  desk.Click(2);
+  ASSERT_TRUE(desk.Menu.Poll);
+  bool polled = true;
+  desk.Menu.WhileBuilding = [&] { polled = desk.Menu.Poll; };
+  desk.PointAtButton(3);
+  desk.Menu.WhileBuilding = {};
+  EXPECT_EQ(desk.MenuUp(), 3);
+  EXPECT_FALSE(polled);
+  EXPECT_TRUE(desk.Menu.Poll);
+}
+
 TEST(ToolbarHover, ThePollFindsAPointerWhoseMoveNobodyReported) {
   ThreeMenus desk;
   desk.Click(2);

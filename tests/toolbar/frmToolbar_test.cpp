@@ -7,7 +7,7 @@
 #include <string>
 
 #include "core/SettingsFiles.h"
-#include "toolbar/StripDesk.h"
+#include "toolbar/SinglesDesk.h"
 
 namespace corvelle {
 namespace {
@@ -146,6 +146,16 @@ TEST(ToolbarStart, NoEntriesAndTheAnswerNoLeaveTheMainButtonAlone) {
   EXPECT_EQ(desk.World.Desktop.Boxes()[0].Title, "Corvelle");
   EXPECT_EQ(desk.ButtonFiles(), std::vector<std::string>{"QMenu"});
   EXPECT_TRUE(desk.Strip.Visible());
+}
+
+TEST(ToolbarStart, UntilItIsPlacedTheStripIsBesideTheScreen) {
+  StripDesk desk;
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerNo);
+  float left = 0;
+  desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { left = desk.Strip.Left(); });
+  desk.Start();
+  EXPECT_EQ(left, desk.Strip.Screen().Width);
+  EXPECT_LT(desk.Strip.Left(), left);
 }
 
 TEST(ToolbarStart, NoEntriesAndTheAnswerYesBringTheDefaultEntries) {
@@ -506,6 +516,20 @@ TEST(ToolbarRebuild, TheProgramMayEndWhileTheQuestionIsUp) {
   EXPECT_FALSE(desk.Strip.IsLoaded());
   EXPECT_TRUE(desk.World.Desktop.QuitCalled());
   EXPECT_EQ(desk.World.Desktop.CurrentMousePointer(), forms::MousePointer::Default);
+}
+
+TEST(ToolbarRebuild, AStripThatEndedInsideItIsNotBroughtOutOfHiding) {
+  SinglesDesk desk;
+  desk.Start();
+  for (const char* number : {"1", "2"})
+    desk.World.Files.Vanish("C:\\Corvelle\\Menus\\BMENU00" + std::string(number) + ".MNU");
+  desk.TheProgram.Ports.Docking = &desk.Edge;
+  desk.TheProgram.Strip.AutoHide = true;
+  desk.World.Desktop.Answer(kDefaultsQuestion, AnswerYes);
+  desk.World.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { desk.Exit(); });
+  desk.Strip.InitNewButtons();
+  ASSERT_FALSE(desk.Strip.IsLoaded());
+  EXPECT_EQ(desk.Edge.Revealed, 0);
 }
 
 TEST(ToolbarRebuild, RestoreLeavesAnEdgeForTheTop) {
