@@ -312,7 +312,7 @@ std::string MonkeyLife::WrongQuiet() const {
     const WindowId active = world_->Desktop.ActiveWindow();
     return "a menu stays though the user has turned away; active is " +
            (active == kNoWindow ? "no window" : world_->Desktop.ClassName(active)) +
-           (program.DragHolds() ? ", a drag holds" : "");
+           (program.Drag.DragHolds(program.Services.Pointer) ? ", a drag holds" : "");
   }
   if (program.Menu.MenuOpen) return "a menu counts as open";
   const WindowId hint = parts_->Hint.WindowHandle();

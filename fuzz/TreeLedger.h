@@ -32,12 +32,19 @@ class TreeLedger {
   [[nodiscard]] SaveLoss Save(const EntryLedger& files, const EntryLedger& tree);
 
  private:
+  /// What either_ does not explain. What it does explain, it explains once.
+  [[nodiscard]] EntryLedger WithoutEither(const EntryLedger& lost);
+
   bool open_ = false;
   EntryLedger tree_;
   EntryLedger gone_;       // from the files, and perhaps not yet from the tree
   EntryLedger goneTaken_;  // of those, what the user has taken out of the tree as well
-  EntryLedger came_;       // into the files, and perhaps not yet into the tree
-  EntryLedger takenOut_;   // of the tree, and perhaps still in the files
+  /// Of goneTaken_, what the tree then held more of than had gone. The user took out one that had
+  /// gone, which is noted so, or else an equal one; then the one that had gone is still in the
+  /// tree.
+  EntryLedger either_;
+  EntryLedger came_;      // into the files, and perhaps not yet into the tree
+  EntryLedger takenOut_;  // of the tree, and perhaps still in the files
 };
 
 }  // namespace corvelle::fuzz

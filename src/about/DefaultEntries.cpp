@@ -46,12 +46,12 @@ std::vector<std::string> Below(const std::vector<std::string>& folders, std::str
 }  // namespace
 
 void DefaultEntries::IncludeCommonFiles() {
-  program_.DoEvents();
+  program_.Events.DoEvents();
   const FileStatus filled = Fill();
   if (filled) return;
-  program_.Say(program_.ToolbarWindow(),
-               std::string(kFailure) + "\r\n" + FileErrorDescription(filled.Error()),
-               forms::msgbox::OnTop);
+  program_.Messages.Say(program_.Ports.ToolbarWindow(),
+                        std::string(kFailure) + "\r\n" + FileErrorDescription(filled.Error()),
+                        forms::msgbox::OnTop);
 }
 
 FileStatus DefaultEntries::Fill() {
@@ -100,23 +100,27 @@ FileStatus DefaultEntries::WriteSingles() {
   for (const MenuRecord& record : FixedSingles(facts)) {
     if (auto written = WriteSingle(record); !written) return written;
   }
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
   if (const auto browser = FindBrowser()) {
-    const std::string title = GetFileTitle(program_, *browser);
+    const std::string title =
+        FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
+            .GetFileTitle(*browser);
     const MenuRecord record = BrowserSingle({.Path = *browser, .FileTitle = title});
     if (auto written = WriteSingle(record); !written) return written;
   }
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
   if (const auto mail = FindMailProgram()) {
-    const std::string title = GetFileTitle(program_, *mail);
+    const std::string title =
+        FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
+            .GetFileTitle(*mail);
     const MenuRecord record = MailSingle({.Path = *mail, .FileTitle = title});
     if (auto written = WriteSingle(record); !written) return written;
   }
   for (const std::string_view extension : ProgramExtensions()) {
-    program_.ShowStartupProgress();
+    program_.Progress.ShowStartupProgress();
     if (auto written = WriteProgramSingle(extension); !written) return written;
   }
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
   if (IsOdd(singles_)) {
     if (auto written = WriteProgramSingle(kEvenExtension); !written) return written;
   }
@@ -126,7 +130,8 @@ FileStatus DefaultEntries::WriteSingles() {
 FileStatus DefaultEntries::WriteProgramSingle(std::string_view extension) {
   const auto path = GetExe(extension);
   if (!path) return Success();
-  const std::string title = GetFileTitle(program_, *path);
+  const std::string title =
+      FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags).GetFileTitle(*path);
   return WriteSingle(ProgramSingle({.Path = *path, .FileTitle = title}));
 }
 
@@ -177,18 +182,18 @@ std::optional<std::string> DefaultEntries::GetExe(std::string_view extension) {
 
 FileStatus DefaultEntries::WriteMenus() {
   const Folders programs = ProgramsFolders();
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
   if (auto written = WriteMenu(DesktopMenu()); !written) return written;
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
   if (auto written = WriteMenu(ProgramsMenu(programs)); !written) return written;
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
   if (auto written = WriteMenu(DocumentsMenu(GetSpecialFolder(program_, kRecentFolder)));
       !written) {
     return written;
   }
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
   if (auto written = WriteMenu(AccessoriesMenu(programs)); !written) return written;
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
   return WriteMenu(SettingsMenu());
 }
 
@@ -237,7 +242,8 @@ bool DefaultEntries::IsWorthAnItem(const Found& file) {
   if (IsSkippedFile(file.Name)) return false;
   if (!EndsWithNoCase(file.Name, ".lnk")) return true;
   std::string target;
-  static_cast<void>(GetLinkWorkDir(program_, EnsureBackslash(file.Folder) + file.Name, target));
+  static_cast<void>(
+      GetLinkWorkDir(program_.Ports.ShellLinks, EnsureBackslash(file.Folder) + file.Name, target));
   return !IsSkippedTarget(target);
 }
 
@@ -253,7 +259,7 @@ std::vector<MenuRecord> DefaultEntries::AccessoriesMenu(const Folders& programs)
 
 void DefaultEntries::AddItem(std::vector<MenuRecord>& records, const Found& file) {
   records.push_back(FileItem(file.Folder, file.Name));
-  program_.ShowStartupProgress();
+  program_.Progress.ShowStartupProgress();
 }
 
 void DefaultEntries::AddFiles(std::vector<MenuRecord>& records, const Folders& folders) {

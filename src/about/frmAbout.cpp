@@ -320,11 +320,11 @@ void frmAbout::cmdCopy_Click() {
 }
 
 void frmAbout::lblMail_DblClick() {
-  if (!lblMail.Caption().empty()) LaunchItem(program_, "mailto:" + lblMail.Caption());
+  if (!lblMail.Caption().empty()) LaunchItem(program_.Launch, "mailto:" + lblMail.Caption());
 }
 
 void frmAbout::LblURL_DblClick() {
-  if (!lblURL.Caption().empty()) LaunchItem(program_, lblURL.Caption());
+  if (!lblURL.Caption().empty()) LaunchItem(program_.Launch, lblURL.Caption());
 }
 
 }  // namespace corvelle

@@ -3,49 +3,48 @@
 #include <string>
 #include <utility>
 
-#include "core/Program.h"
+#include "core/DragState.h"
+#include "core/GuardFlags.h"
 #include "core/RecordEdits.h"
+#include "core/WindowPorts.h"
 #include "forms/Scopes.h"
+#include "forms/WindowSystem.h"
 #include "platform/DesktopWindows.h"
 
 namespace corvelle {
-namespace {
-
 // The row takes what it is given from the clipboard; what the user has copied there stays his.
-void DropOnSingles(Program& program, forms::MouseButton released) {
-  if (program.Ports.SingleButtons == nullptr || program.Guards.ItemActionBusy) return;
-  EntryEdit& entry = program.Entry;
-  const MenuStill still(program.Ports.Capture);
+void EntryCarry::DropOnSingles(forms::MouseButton released) {
+  if (with_.Ports.SingleButtons == nullptr || with_.Guards.ItemActionBusy) return;
+  EntryEdit& entry = with_.Entry;
+  const MenuStill still(with_.Ports.Capture);
   if (!IsMenuTag(entry.CurMenuTag)) {
-    program.Ports.SingleButtons->DoItemDrag(released);
+    with_.Ports.SingleButtons->DoItemDrag(released);
     return;
   }
   const MenuRecord copied{entry.ClipTitle, entry.ClipIcon, entry.ClipCommand};
   CopyEntry(entry);
-  program.Ports.SingleButtons->DoItemDrag(released);
+  with_.Ports.SingleButtons->DoItemDrag(released);
   SetClipboard(entry, copied);
 }
 
-void Drop(Program& program, WindowId under, forms::MouseButton released, forms::ShiftState shift) {
-  StripCarryPort* const strip = program.Ports.Toolbar;
-  QMenuPort* const menu = program.Ports.QMenu;
+void EntryCarry::Drop(WindowId under, forms::MouseButton released, forms::ShiftState shift) {
+  StripCarryPort* const strip = with_.Ports.Toolbar;
+  QMenuPort* const menu = with_.Ports.QMenu;
   const bool left = released == forms::MouseButton::Left;
   if (strip != nullptr && under == strip->ButtonBoxHandle()) {
     strip->DoButtonDrag(strip->dragCurButton(), released);
   } else if (strip != nullptr && under == strip->SingleBoxHandle()) {
-    DropOnSingles(program, released);
+    DropOnSingles(released);
   } else if (left && menu != nullptr && menu->MenuVisible() && under == menu->WindowHandle()) {
     menu->DoItemDrag(shift);
   }
 }
 
-bool TakesCopies(const Program& program, WindowId under) {
-  const StripCarryPort* const strip = program.Ports.Toolbar;
+bool EntryCarry::TakesCopies(WindowId under) const {
+  const StripCarryPort* const strip = with_.Ports.Toolbar;
   return strip != nullptr && under != kNoWindow &&
          (under == strip->ButtonBoxHandle() || under == strip->SingleBoxHandle());
 }
-
-}  // namespace
 
 MenuStill::MenuStill(CapturePort* capture) : capture_(capture) {
   if (capture_ != nullptr) capture_->CaptureMenu();
@@ -55,38 +54,44 @@ MenuStill::~MenuStill() {
   if (capture_ != nullptr) capture_->ReleaseMenu();
 }
 
-void StartCarry(Program& program) {
-  program.Entry.ItemDragging = true;
-  if (program.Ports.DragImage != nullptr)
-    program.Ports.DragImage->SetDragImage(program.Entry.CurIcon);
+bool EntryCarry::IsCarrying() const { return with_.Entry.ItemDragging; }
+
+bool EntryCarry::IsOverButtons() const { return with_.Drag.ButtonDragging; }
+
+bool EntryCarry::IsDropping() const { return with_.Drag.ItemDropping; }
+
+void EntryCarry::StartCarry() {
+  with_.Entry.ItemDragging = true;
+  if (with_.Ports.DragImage != nullptr) with_.Ports.DragImage->SetDragImage(with_.Entry.CurIcon);
 }
 
-bool EndCarry(Program& program, PixelPoint at, forms::MouseButton released,
-              forms::ShiftState shift) {
-  if (program.Drag.ItemDropping) return true;
-  if (!program.Entry.ItemDragging) return false;
-  const WindowId under = program.Services.Desktop.WindowAt(at);
-  if (released != forms::MouseButton::Left && !TakesCopies(program, under)) return true;
+bool EntryCarry::EndCarry(PixelPoint at, forms::MouseButton released, forms::ShiftState shift) {
+  if (with_.Drag.ItemDropping) return true;
+  if (!with_.Entry.ItemDragging) return false;
+  const WindowId under = with_.Desktop.WindowAt(at);
+  if (released != forms::MouseButton::Left && !TakesCopies(under)) return true;
   // A menu that is being built is no place to put anything down.
-  if (under != kNoWindow && !program.Guards.MenuBuilding) {
-    const forms::FlagScope dropping(program.Drag.ItemDropping);
-    if (program.Ports.Toolbar != nullptr) program.Ports.Toolbar->SetPointerWatch(false);
-    program.Windows.SetMousePointer(forms::MousePointer::Hourglass);
-    Drop(program, under, released, shift);
+  if (under != kNoWindow && !with_.Guards.MenuBuilding) {
+    const forms::FlagScope dropping(with_.Drag.ItemDropping);
+    if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->SetPointerWatch(false);
+    with_.Windows.SetMousePointer(forms::MousePointer::Hourglass);
+    Drop(under, released, shift);
   }
-  AbandonCarry(program);
+  AbandonCarry();
   return true;
 }
 
-void AbandonCarry(Program& program) {
-  program.Entry.ItemDragging = false;
-  program.Drag.ButtonDragging = false;
-  ForgetCurrentEntry(program.Entry);
-  if (program.Ports.DragImage != nullptr) program.Ports.DragImage->RemoveDragImage();
-  program.Windows.SetMousePointer(forms::MousePointer::Default);
-  const QMenuPort* const menu = program.Ports.QMenu;
-  if (menu != nullptr && menu->MenuVisible() && program.Ports.Toolbar != nullptr) {
-    program.Ports.Toolbar->SetPointerWatch(true);
+forms::FlagScope EntryCarry::Dropping() { return forms::FlagScope(with_.Drag.ItemDropping); }
+
+void EntryCarry::AbandonCarry() {
+  with_.Entry.ItemDragging = false;
+  with_.Drag.ButtonDragging = false;
+  ForgetCurrentEntry(with_.Entry);
+  if (with_.Ports.DragImage != nullptr) with_.Ports.DragImage->RemoveDragImage();
+  with_.Windows.SetMousePointer(forms::MousePointer::Default);
+  const QMenuPort* const menu = with_.Ports.QMenu;
+  if (menu != nullptr && menu->MenuVisible() && with_.Ports.Toolbar != nullptr) {
+    with_.Ports.Toolbar->SetPointerWatch(true);
   }
 }
 

@@ -4,6 +4,8 @@
 
 namespace corvelle {
 
+class Input;
+
 /// A carried entry on its way, and what another program drags over the strip or its menu.
 struct DragState {
   /// A carried entry is over the strip's buttons.
@@ -19,6 +21,10 @@ struct DragState {
   bool DragIsUrl = false;
   /// The mouse buttons that it was last dragged with.
   forms::MouseButton DragButtons = forms::MouseButton::None;
+
+  /// True while another program's drag that came over the strip goes on: it decides which menu is
+  /// up, and the source keeps the foreground.
+  [[nodiscard]] bool DragHolds(const Input& input) const;
 
   /// The other program's drag is over.
   void EndDrag() noexcept {

@@ -53,11 +53,12 @@ bool ClaimSession(Program& program) {
   }
   program.Title = kTitle;
   if (other && !woken) {
-    program.Say(kNoWindow,
-                "Corvelle is already running. If you have minimized it to the taskbar, click its "
-                "icon on the taskbar to activate it. If you have set it to Auto Hide, point your "
-                "mouse to its previous position.",
-                forms::msgbox::IconInformation | forms::msgbox::OnTop);
+    program.Messages.Say(
+        kNoWindow,
+        "Corvelle is already running. If you have minimized it to the taskbar, click its "
+        "icon on the taskbar to activate it. If you have set it to Auto Hide, point your "
+        "mouse to its previous position.",
+        forms::msgbox::IconInformation | forms::msgbox::OnTop);
   }
   return !other;
 }

@@ -30,7 +30,7 @@ bool HasEnded(const Program& program) {
 void CloseStartupWindow(Program& program) {
   if (program.OptionFlags.Is(Option::NoStartupScreen) || program.Ports.Startup == nullptr) return;
   program.Ports.Startup->HideWindow();
-  program.DoEvents();
+  program.Events.DoEvents();
   program.Ports.Startup->UnloadWindow();
 }
 
@@ -42,7 +42,7 @@ void ShowWelcome(Program& program) {
   }
   SystemInfo& system = program.Services.System;
   if (!system.ShowHelpTopic(kNoWindow, help, kWelcomeTopic)) {
-    system.ShowHelpTopic(program.ToolbarWindow(), help, kWelcomeTopic);
+    system.ShowHelpTopic(program.Ports.ToolbarWindow(), help, kWelcomeTopic);
   }
 }
 
@@ -54,8 +54,8 @@ void OfferStartupLink(Program& program, StartupLinkPort& link) {
     link.Create(executable);
     return;
   }
-  const int answer = program.Say(
-      program.ToolbarWindow(),
+  const int answer = program.Messages.Say(
+      program.Ports.ToolbarWindow(),
       "Would you like to set Corvelle as a startup program?\r\n"
       "If you choose No, you can set it later from the Customize window under the Options menu.",
       forms::msgbox::YesNo | forms::msgbox::IconQuestion | forms::msgbox::OnTop);
@@ -67,12 +67,12 @@ void OfferStartupLink(Program& program, StartupLinkPort& link) {
 // start.
 void DoFirstRun(Program& program) {
   if (program.OptionFlags.Is(Option::FirstRunDone) || program.Ports.StartupLink == nullptr) return;
-  program.DoEvents();
+  program.Events.DoEvents();
   if (HasEnded(program)) return;
   if (!SaveOptionFlags(program.Services.Files, program.Paths.AppPath, program.OptionFlags)) return;
   OfferStartupLink(program, *program.Ports.StartupLink);
   program.OptionFlags.Set(Option::FirstRunDone, '1');
-  program.SaveOptionFlags();
+  program.Options.SaveOptionFlags();
   if (!HasEnded(program)) ShowWelcome(program);
 }
 
@@ -87,8 +87,8 @@ bool FindFolders(Program& program) {
 void TellOfCrash(Program& program) {
   const std::string report = program.Services.Crashes.TakeUntold();
   if (report.empty()) return;
-  program.Say(
-      program.ToolbarWindow(),
+  program.Messages.Say(
+      program.Ports.ToolbarWindow(),
       "Corvelle ended unexpectedly the last time. A report about it is on this computer:\r\n" +
           report + "\r\n\r\nNothing has been sent to anyone.",
       forms::msgbox::IconInformation | forms::msgbox::OnTop);
@@ -96,10 +96,11 @@ void TellOfCrash(Program& program) {
 
 void TellWhereDataIs(Program& program) {
   if (WasToldAbout(program.Services, program.Paths.AppPath, program.Paths.ShippedPath)) return;
-  program.Say(program.ToolbarWindow(),
-              "Corvelle cannot write to its own folder:\r\n" + program.Paths.ShippedPath +
-                  "\r\n\r\nIt keeps your menus and options here:\r\n" + program.Paths.AppPath,
-              forms::msgbox::IconInformation | forms::msgbox::OnTop);
+  program.Messages.Say(program.Ports.ToolbarWindow(),
+                       "Corvelle cannot write to its own folder:\r\n" + program.Paths.ShippedPath +
+                           "\r\n\r\nIt keeps your menus and options here:\r\n" +
+                           program.Paths.AppPath,
+                       forms::msgbox::IconInformation | forms::msgbox::OnTop);
   NoteToldAbout(program.Services, program.Paths.AppPath, program.Paths.ShippedPath);
 }
 
@@ -121,7 +122,7 @@ void Upgrade(Program& program) {
   CleanInstallation(program.Services.Files, program.Paths.AppPath,
                     program.Paths.ShippedFile("anetsrch.org"));
   program.OptionFlags = FlagsAfterUpgrade();
-  program.SaveOptionFlags();
+  program.Options.SaveOptionFlags();
 }
 
 }  // namespace
@@ -131,8 +132,8 @@ bool Main(Program& program) {
   const bool elsewhere = FindFolders(program);
   ReadOptions(program);
   program.Guards.StartingUp = true;
-  program.ShowStartupProgress();
-  program.DoEvents();
+  program.Progress.ShowStartupProgress();
+  program.Events.DoEvents();
   Upgrade(program);
   program.Icons.WebLinkIcon = LoadWebLinkIcon(program.Services.Files, program.Services.Ansi,
                                               program.Paths.AppPath, program.OptionFlags);

@@ -98,4 +98,8 @@ void SaveEdgeFlags(OptionFlags& flags, bool atEdge, Edge edge) {
   flags.Set(Option::EdgeCodeSecond, code[1]);
 }
 
+void SaveEdgeFlags(OptionFlags& flags, const StripPlacement& strip) {
+  SaveEdgeFlags(flags, strip.BelongsToEdge(), strip.ToolbarEdge);
+}
+
 }  // namespace corvelle

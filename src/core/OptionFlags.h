@@ -103,5 +103,6 @@ void ReadEdgeFlags(const OptionFlags& flags, EdgePlacement& placement);
 /// Sets Option::AtEdge by whether the strip is at an edge, be it docked or out of it for the
 /// moment only, and, if it is, the edge code by the edge.
 void SaveEdgeFlags(OptionFlags& flags, bool atEdge, Edge edge);
+void SaveEdgeFlags(OptionFlags& flags, const StripPlacement& strip);
 
 }  // namespace corvelle

@@ -1,36 +1,47 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
+#include "core/Carry.h"
 #include "core/DragState.h"
+#include "core/EntryCommands.h"
 #include "core/GuardFlags.h"
+#include "core/IconSources.h"
 #include "core/IconState.h"
+#include "core/LaunchParts.h"
 #include "core/MenuState.h"
+#include "core/MessageBoxes.h"
+#include "core/OptionFile.h"
 #include "core/OptionFlags.h"
 #include "core/ProgramPaths.h"
 #include "core/RecordEdits.h"
 #include "core/StartsUnderWay.h"
+#include "core/StartupProgress.h"
 #include "core/StripPlacement.h"
 #include "core/WindowPorts.h"
 #include "desk/AnswerDesk.h"
 #include "desk/SlowQuestions.h"
+#include "forms/EventPump.h"
 #include "forms/WindowSystem.h"
 #include "platform/Platform.h"
 
 namespace corvelle {
 
-/// One running program: the state that its windows share and the way to its windows and services.
-/// It is passed to whoever needs it; a test makes as many as it likes.
+/// One running program: the parts that its windows share, each by its owner. Whoever puts windows
+/// together hands each of them the parts that it works with; a test makes as many programs as it
+/// likes.
 class Program {
  public:
   Program(const Platform& services, forms::WindowSystem& windows)
       : Services(services),
         Windows(windows),
         Slow(services.SlowAnswers),
-        Answers(Slow, services.System, windows) {}
+        Answers(Slow, services.System, windows),
+        Starts(services.Starts) {}
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
+
+  // The system and the windows.
 
   Platform Services;
   forms::WindowSystem& Windows;
@@ -41,9 +52,10 @@ class Program {
   /// to rest.
   desk::AnswerDesk Answers;
 
+  // State.
+
   /// Title of the application, which its message boxes bear.
   std::string Title = "Corvelle";
-
   ProgramPaths Paths;
   corvelle::OptionFlags OptionFlags;
   StripPlacement Strip;
@@ -57,49 +69,30 @@ class Program {
   /// What is being started beside the windows.
   StartsUnderWay Starts;
 
-  /// Lets waiting events run. Whoever calls it must be ready for anything to have happened. Called
-  /// from what another call of it lets run, it only shows what waits to be painted: that other call
-  /// goes on with the events, and however quickly they come, there is never a third.
-  void DoEvents();
+  // What is done with them in more than one place.
 
-  /// True while another program's drag that came over the strip goes on: it decides which menu is
-  /// up, and the source keeps the foreground.
-  [[nodiscard]] bool DragHolds() const;
-  /// Shows the hint, or closes it when the text is empty.
-  void SetHint(std::string_view text);
-
-  /// One more dot in the startup window, while the program starts and unless
-  /// Option::NoStartupScreen is set.
-  void ShowStartupProgress();
-
-  /// Writes the flags to their file. A failure is quiet: the flags stay in force for this run, and
-  /// the old file stays as it was.
-  void SaveOptionFlags();
-
-  /// The flags of the edge from the placement, and back. See core/OptionFlags.h.
-  void SaveEdgeFlags();
-  void ReadEdgeFlags();
-
-  /// Message box with the application's title. `owner` may be none, for the desktop. Until it is
-  /// answered neither the strip nor the menu window takes input; events run all the same, so that
-  /// whoever asks works on copies.
-  int Say(WindowId owner, std::string_view text, unsigned flags);
-  /// The same with a title of its own.
-  int SayAs(std::string_view title, WindowId owner, std::string_view text, unsigned flags);
-
-  /// Tells Ports.MenuEdits of an edit. Whoever changes what a menu file or a single button's file
-  /// holds, other than that port's own window, calls it as soon as the file is written.
-  void TellMenusEdited() const;
-
-  /// The strip's window, none before it is loaded.
-  [[nodiscard]] WindowId ToolbarWindow() const;
-  /// The window in which the user acts, to which what is asked belongs: the menu that is up, else
-  /// the strip.
-  [[nodiscard]] WindowId WindowInUse() const;
-
- private:
-  /// A call of DoEvents runs.
-  bool eventsRunning_ = false;
+  forms::EventPump Events{Windows};
+  MessageBoxes Messages{Windows, Ports, Guards, Title};
+  OptionFile Options{Services.Files, Paths, OptionFlags};
+  StartupProgress Progress{Guards, OptionFlags, Ports};
+  EntryCommands Commands{{.Files = Services.Files,
+                          .Ansi = Services.Ansi,
+                          .Paths = Paths,
+                          .Ports = Ports,
+                          .Messages = Messages,
+                          .Entry = Entry}};
+  EntryCarry Carry{{.Windows = Windows,
+                    .Desktop = Services.Desktop,
+                    .Ports = Ports,
+                    .Guards = Guards,
+                    .Entry = Entry,
+                    .Drag = Drag}};
+  corvelle::IconSources IconSources{.Windows = Windows,
+                                    .Answers = Answers,
+                                    .Shell = Services.Icons,
+                                    .Paths = Paths,
+                                    .Icons = Icons};
+  LaunchParts Launch{.Windows = Windows, .Ports = Ports, .Messages = Messages, .Starts = Starts};
 };
 
 }  // namespace corvelle

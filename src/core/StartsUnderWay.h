@@ -9,10 +9,15 @@
 
 namespace corvelle {
 
+class Starter;
+
 /// What is being started just now, each by a text of its own: a second press on an entry that is
 /// slow to start does not start it twice.
 class StartsUnderWay {
  public:
+  /// `starter` runs what is started beside the windows, and outlives this.
+  explicit StartsUnderWay(corvelle::Starter& starter) : Starter(starter) {}
+
   /// One start until it is over. `SetOver` may be called on any thread, and after the program's
   /// end.
   class Start {
@@ -37,6 +42,8 @@ class StartsUnderWay {
 
   /// Tells what comes back later whether the program is still there.
   [[nodiscard]] forms::Alive::Watch Watch() const { return alive_.MakeWatch(); }
+
+  corvelle::Starter& Starter;
 
  private:
   std::map<std::string, std::shared_ptr<Start>> underWay_;

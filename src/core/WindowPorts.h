@@ -400,7 +400,7 @@ class MainMenuPort {
 class PopupPort {
  public:
   virtual ~PopupPort() = default;
-  /// Makes the entry the current one (Program::Entry), fills the popup for it, shows it at the
+  /// Makes the entry the current one (EntryEdit), fills the popup for it, shows it at the
   /// pointer and carries out the choice. While one is up, or its command runs, nothing is changed.
   virtual void ShowToolbarPopup(EntryEdit entry) = 0;
 };
@@ -408,7 +408,7 @@ class PopupPort {
 /// The window in which an entry is edited.
 class PropertiesPort : public LoadedWindow {
  public:
-  /// Shows it with these fields for the current entry (Program::Entry).
+  /// Shows it with these fields for the current entry (EntryEdit).
   virtual void ShowProperties(std::string_view title, std::string_view icon,
                               std::string_view command) = 0;
   /// The strip stands somewhere else by now: the picture of it at an edge goes.
@@ -503,6 +503,17 @@ struct WindowPorts {
   // The windows that the icon library answers.
   IconBoxPort* CustomizeIcon = nullptr;
   IconBoxPort* PropertiesIcon = nullptr;
+
+  /// The strip's window, none before it is loaded.
+  [[nodiscard]] WindowId ToolbarWindow() const;
+  /// The window in which the user acts, to which what is asked belongs: the menu that is up, else
+  /// the strip.
+  [[nodiscard]] WindowId WindowInUse() const;
+  /// Shows the hint, or closes it when the text is empty.
+  void SetHint(std::string_view text) const;
+  /// Tells MenuEdits of an edit. Whoever changes what a menu file or a single button's file holds,
+  /// other than that port's own window, calls it as soon as the file is written.
+  void TellMenusEdited() const;
 };
 
 }  // namespace corvelle

@@ -34,7 +34,7 @@ CustTreeControl::CustTreeControl(Program& program, CustTree& tree, forms::TreeVi
       tree_(tree),
       control_(control),
       targets_(program.Slow, program.Windows),
-      icons_(program, IconCaller::Tree),
+      icons_(program.IconSources, IconCaller::Tree),
       tmrPictures_(program.Windows) {
   targets_.Changed = [this](CustRef node) {
     if (tree_.IsInTree(node)) NodeChanged(node);

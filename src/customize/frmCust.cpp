@@ -170,9 +170,9 @@ bool frmCust::InitMenuTree() {
       ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!read) {
     // A tree that lacks a file would delete it when it is saved.
-    program_.Say(program_.WindowInUse(),
-                 FileErrorText(read.Error().Reason) + "\r\n" + read.Error().Path,
-                 forms::msgbox::IconInformation);
+    program_.Messages.Say(program_.Ports.WindowInUse(),
+                          FileErrorText(read.Error().Reason) + "\r\n" + read.Error().Path,
+                          forms::msgbox::IconInformation);
     return false;
   }
   files_ = *std::move(read);
@@ -275,7 +275,7 @@ void frmCust::PlaceControls() {
 void frmCust::Beep() { program_.Services.Pointer.Beep(); }
 
 int frmCust::Say(std::string_view text, unsigned flags) {
-  return program_.Say(hWnd(), text, flags);
+  return program_.Messages.Say(hWnd(), text, flags);
 }
 
 bool frmCust::FileExists(std::string_view path) { return program_.Services.Files.FileExists(path); }
@@ -284,7 +284,10 @@ bool frmCust::IsPlainFolder(std::string_view path) {
   return program_.Services.Files.FolderExists(path);
 }
 
-std::string frmCust::TitleOf(std::string_view path) { return GetFileTitle(program_, path); }
+std::string frmCust::TitleOf(std::string_view path) {
+  return FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
+      .GetFileTitle(path);
+}
 
 std::string frmCust::RecentFolder() {
   return EnsureBackslash(GetSpecialFolder(program_, kRecentFolder));

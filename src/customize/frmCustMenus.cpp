@@ -167,7 +167,7 @@ void frmCust::SelectFound(CustRef found) {
 void frmCust::RunEntry() {
   const std::string command = Trim(Editor.Tree.At(Editor.Selected()).Entry.FileExe);
   if (command.empty() || Editor.IsSeparator(Editor.Selected())) return Beep();
-  LaunchItem(program_, command);
+  LaunchItem(program_.Launch, command);
 }
 
 }  // namespace corvelle

@@ -29,7 +29,7 @@ void frmCust::cmdSave_Click() {
   // Disabled, it hands the focus to Exit, which the next Enter would press.
   const bool hadFocus = cmdSave.HasFocus();
   cmdSave.SetEnabled(false);
-  program_.DoEvents();
+  program_.Events.DoEvents();
   if (!IsLoaded()) return;
   SaveTree();
   if (!IsLoaded()) return;

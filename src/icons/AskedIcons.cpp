@@ -4,8 +4,11 @@
 #include <utility>
 #include <variant>
 
-#include "core/Program.h"
+#include "core/IconState.h"
+#include "core/ProgramPaths.h"
+#include "desk/AnswerDesk.h"
 #include "desk/LookupPlaces.h"
+#include "forms/WindowSystem.h"
 #include "icons/Glyphs.h"
 #include "icons/IconQuestions.h"
 #include "icons/IconResolution.h"
@@ -23,28 +26,28 @@ std::string PlaceWaitedFor(const Lookup& question) {
 
 }  // namespace
 
-AskedIcons::AskedIcons(Program& program, IconCaller caller)
-    : program_(program), caller_(caller), owner_(program.Answers.NewOwner()) {}
+AskedIcons::AskedIcons(const IconSources& from, IconCaller caller)
+    : from_(from), caller_(caller), owner_(from.Answers.NewOwner()) {}
 
 void AskedIcons::Drop() {
   late_.clear();
-  program_.Answers.Drop(owner_);
+  from_.Answers.Drop(owner_);
 }
 
 IconLook AskedIcons::Ask(std::string_view text, int size, int milliseconds, Known known) {
   const IconForm form = ClassifyIcon(text,
-                                     {.AppPath = program_.Paths.AppPath,
-                                      .IconsPath = program_.Paths.IconsPath,
-                                      .WebLinkIcon = program_.Icons.WebLinkIcon},
+                                     {.AppPath = from_.Paths.AppPath,
+                                      .IconsPath = from_.Paths.IconsPath,
+                                      .WebLinkIcon = from_.Icons.WebLinkIcon},
                                      caller_);
   if (form.Kind == IconKind::BuiltIn) return {};
   if (form.Kind == IconKind::SystemIndex && HasSystemIcon(form.Index, size))
     return {.SystemIndex = form.Index};
-  const bool shellDraws = program_.Icons.ShellDrawsIcons;
+  const bool shellDraws = from_.Icons.ShellDrawsIcons;
   const auto icon = std::make_shared<Asked>();
   icon->Questions = IconQuestions(form, shellDraws, size);
   icon->Look = StandIn(*icon, form);
-  for (Lookup& question : BlankIconQuestions(program_.Paths.IconsPath, shellDraws, size))
+  for (Lookup& question : BlankIconQuestions(from_.Paths.IconsPath, shellDraws, size))
     icon->Questions.push_back(std::move(question));
   icon->Tell = std::move(known);
   GoOn(icon, icon->Look.Pixels.IsEmpty() ? milliseconds : 0);
@@ -52,13 +55,13 @@ IconLook AskedIcons::Ask(std::string_view text, int size, int milliseconds, Know
 }
 
 bool AskedIcons::HasSystemIcon(int index, int size) const {
-  return program_.Services.Icons.DrawSystemIcon(*program_.Windows.CreateCanvas({size, size}),
-                                                IconListOf(size), index, {0, 0}, IconStyle::Normal);
+  return from_.Shell.DrawSystemIcon(*from_.Windows.CreateCanvas({size, size}), IconListOf(size),
+                                    index, {0, 0}, IconStyle::Normal);
 }
 
 IconLook AskedIcons::StandIn(const Asked& icon, const IconForm& form) const {
   for (const Lookup& question : icon.Questions) {
-    const LookupValue* const last = program_.Answers.LastKnown(question);
+    const LookupValue* const last = from_.Answers.LastKnown(question);
     const auto* const pixels = last != nullptr ? std::get_if<IconPixels>(last) : nullptr;
     if (pixels != nullptr && !pixels->IsEmpty() && pixels->IsWhole()) return {.Pixels = *pixels};
   }
@@ -77,7 +80,7 @@ bool AskedIcons::GoOn(const std::shared_ptr<Asked>& icon, int milliseconds) {
       const IconLook before = icon->Look;
       if (GoOn(icon, 0)) TellChange(*icon, before);
     };
-    const auto reply = program_.Answers.AskAtOnce(
+    const auto reply = from_.Answers.AskAtOnce(
         {.Question = icon->Questions[icon->Next], .How = desk::Urgency::OnShow, .Owner = owner_},
         {.Ended = later, .TakesLonger = {}, .Back = back},
         late_.contains(place) ? 0 : milliseconds);
@@ -113,8 +116,8 @@ bool AskedIcons::Take(Asked& icon, const desk::Reply& reply) {
 
 bool AskedIcons::Draw(Canvas& canvas, const IconLook& look, int size) const {
   if (look.SystemIndex) {
-    return program_.Services.Icons.DrawSystemIcon(canvas, IconListOf(size), *look.SystemIndex,
-                                                  {0, 0}, IconStyle::Normal);
+    return from_.Shell.DrawSystemIcon(canvas, IconListOf(size), *look.SystemIndex, {0, 0},
+                                      IconStyle::Normal);
   }
   if (!look.Pixels.IsEmpty()) {
     canvas.DrawPixels(look.Pixels, {0, 0});
@@ -123,7 +126,7 @@ bool AskedIcons::Draw(Canvas& canvas, const IconLook& look, int size) const {
   const int scale = std::max(size / kSmallIconSize, 1);
   const int margin = (size - scale * kSmallIconSize) / 2;
   return !look.Glyph.empty() &&
-         DrawGlyph(canvas, program_.Windows, look.Glyph, {margin, margin}, scale);
+         DrawGlyph(canvas, from_.Windows, look.Glyph, {margin, margin}, scale);
 }
 
 }  // namespace corvelle

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/IconSources.h"
 #include "desk/DeskRule.h"
 #include "icons/IconForm.h"
 #include "platform/IconPixels.h"
@@ -18,7 +19,6 @@
 namespace corvelle {
 
 class Canvas;
-class Program;
 
 /// What is drawn in the place of an icon: one of these, or nothing at all.
 struct IconLook {
@@ -36,7 +36,7 @@ class AskedIcons {
  public:
   using Known = std::function<void(const IconLook&)>;
 
-  explicit AskedIcons(Program& program, IconCaller caller = IconCaller::Toolbar);
+  explicit AskedIcons(const IconSources& from, IconCaller caller = IconCaller::Toolbar);
   ~AskedIcons() { Drop(); }
   AskedIcons(const AskedIcons&) = delete;
   AskedIcons& operator=(const AskedIcons&) = delete;
@@ -70,7 +70,7 @@ class AskedIcons {
   /// The same as GoOn, for an answer.
   static bool Take(Asked& icon, const desk::Reply& reply);
 
-  Program& program_;
+  IconSources from_;
   IconCaller caller_;
   std::uint64_t owner_;
   std::set<std::string> late_;  // places that were waited for in vain

@@ -92,15 +92,15 @@ void ExtractIconLibrary(Program& program, std::string_view target, std::string_v
   const std::string folder = EnsureBackslash(target);
   const std::string container = EnsureBackslash(source) + std::string(kLibraryFile);
   if (!files.FileExists(container)) {
-    program.Say(program.ToolbarWindow(), kMissing, kMissingFlags);
+    program.Messages.Say(program.Ports.ToolbarWindow(), kMissing, kMissingFlags);
     return;
   }
   const std::uint64_t end = files.Length(container).ValueOr(0);
   std::optional<std::uint64_t> offset = 0;
   std::string written;
   for (int count = 1; offset && *offset < end; ++count) {
-    program.DoEvents();
-    if (count % kEntriesPerDot == 0) program.ShowStartupProgress();
+    program.Events.DoEvents();
+    if (count % kEntriesPerDot == 0) program.Progress.ShowStartupProgress();
     offset = ExtractEntry(program, container, folder, *offset, written);
   }
   // The icons can be unpacked again, so that one wait for the disk is enough. Should even that

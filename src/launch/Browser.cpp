@@ -45,7 +45,7 @@ void Browser::Learn(const BrowserState& found, int choices) {
 
 void Browser::InitBrowser() {
   StartBeside<BrowserState>(
-      program_, std::string(kLook),
+      program_.Starts, std::string(kLook),
       [probe = Probe()](const StartServices& services) { return FindBrowser(services, probe); },
       [this, watch = alive_.MakeWatch(), choices = choices_](const BrowserState& found) {
         if (!watch.Gone()) Learn(found, choices);
@@ -54,7 +54,7 @@ void Browser::InitBrowser() {
 
 void Browser::OpenUrl(std::string_view url, std::function<void(bool)> then) {
   StartBeside<BrowserState>(
-      program_, std::string(url),
+      program_.Starts, std::string(url),
       [probe = Probe(), known = static_cast<const BrowserState&>(*this),
        address = std::string(url)](const StartServices& services) {
         return OpenAddress(services, probe, known, address);
@@ -69,10 +69,11 @@ void Browser::OpenUrl(std::string_view url, std::function<void(bool)> then) {
       });
 }
 
-void Browser::OpenMail(std::string_view address) { corvelle::OpenMail(program_, address); }
+void Browser::OpenMail(std::string_view address) { corvelle::OpenMail(program_.Launch, address); }
 
 void Browser::ShowBrowserError() {
-  program_.Say(program_.ToolbarWindow(), kBrowserError, msgbox::IconStop | msgbox::OnTop);
+  program_.Messages.Say(program_.Ports.ToolbarWindow(), kBrowserError,
+                        msgbox::IconStop | msgbox::OnTop);
 }
 
 void Browser::ForgetBrowser() {
@@ -114,7 +115,7 @@ void Browser::UseBrowser(std::string_view path, std::function<void(bool)> then) 
 bool Browser::TakeBrowser(const std::string& command) {
   const std::optional<std::string> service = BrowserServiceName(command);
   if (!service) {
-    program_.Say(program_.ToolbarWindow(), kUnsupportedBrowser, msgbox::OnTop);
+    program_.Messages.Say(program_.Ports.ToolbarWindow(), kUnsupportedBrowser, msgbox::OnTop);
     return false;
   }
   const BrowserChoice choice{command, *service};

@@ -148,7 +148,8 @@ std::string Browser::TitleOfAnyBrowser(std::string_view url) {
 bool Browser::IsNetscapeOnTop(WindowId window) {
   if (!netscapeKnown_) {
     netscapeKnown_ = AtOnce<bool>(
-        program_, std::string(kOtherBrowser), [probe = Probe()](const StartServices& services) {
+        program_.Starts, std::string(kOtherBrowser),
+        [probe = Probe()](const StartServices& services) {
           return services.Keys.Value(RegistryRoot::LocalMachine, kUsersKey, "CurrentUser") ||
                  ContainsNoCase(ProgramForPages(services, probe).value_or(""), "Netscape");
         });
@@ -170,7 +171,7 @@ bool Browser::IsNetscapeOnTop(WindowId window) {
 }
 
 std::string Browser::BookmarkTitle(std::string_view url) {
-  const auto found = AtOnce<Bookmark>(program_, std::string(kBookmarks),
+  const auto found = AtOnce<Bookmark>(program_.Starts, std::string(kBookmarks),
                                       [probe = Probe(), folder = BookmarkDir,
                                        address = std::string(url)](const StartServices& services) {
                                         return FindBookmark(services, probe, folder, address);

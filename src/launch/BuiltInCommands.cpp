@@ -30,7 +30,7 @@ constexpr std::string_view kFailureText =
 /// files would be those of the drive.
 std::optional<std::string> RecentFolder(Program& program) {
   ShellLinks& shell = program.Services.Links;
-  const auto item = shell.SpecialFolderLocation(program.ToolbarWindow(), kRecentFolder);
+  const auto item = shell.SpecialFolderLocation(program.Ports.ToolbarWindow(), kRecentFolder);
   if (!item) return std::nullopt;
   const auto path = shell.PathFromIDList(*item);
   if (!path || StripAtNull(*path).empty()) return std::nullopt;
@@ -52,7 +52,7 @@ bool ClearRecentFolder(Program& program) {
   // A folder that does not exist is as clear as an empty one.
   if (!entries) return entries.Error() == FileError::NotFound;
   if (!HoldsFile(*entries)) return true;
-  const FileOperation operation{.Owner = program.ToolbarWindow(),
+  const FileOperation operation{.Owner = program.Ports.ToolbarWindow(),
                                 .Function = fileop::Delete,
                                 .From = *folder + std::string(kAllFiles),
                                 .Flags = fileop::AllowUndo | fileop::FilesOnly};
@@ -67,10 +67,11 @@ void BuiltInCommands::ShowNetSearch() {
 
 void BuiltInCommands::ClearRecentDocs() {
   if (ClearRecentFolder(program_)) return;
-  program_.Say(program_.ToolbarWindow(), kFailureText, msgbox::IconStop | msgbox::OnTop);
+  program_.Messages.Say(program_.Ports.ToolbarWindow(), kFailureText,
+                        msgbox::IconStop | msgbox::OnTop);
 }
 
-void BuiltInCommands::FileFind() { OpenFileSearch(program_); }
+void BuiltInCommands::FileFind() { OpenFileSearch(program_.Launch); }
 
 void BuiltInCommands::ClearTempFolder() { corvelle::ClearTempFolder(program_); }
 

@@ -29,7 +29,7 @@ constexpr std::string_view kTemporaryEnd = ".tmp";
 constexpr int kFilesPerStep = 10;
 
 int Say(Program& program, std::string_view text, unsigned flags) {
-  return program.Say(program.ToolbarWindow(), text, flags | msgbox::OnTop);
+  return program.Messages.Say(program.Ports.ToolbarWindow(), text, flags | msgbox::OnTop);
 }
 
 /// False when the file stays, for whatever reason: another program may hold it, or may have deleted

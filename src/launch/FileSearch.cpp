@@ -3,7 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/Program.h"
+#include "core/LaunchParts.h"
+#include "core/MessageBoxes.h"
+#include "core/WindowPorts.h"
 #include "launch/StartBeside.h"
 #include "platform/ShellExec.h"
 
@@ -44,11 +46,11 @@ bool OpenSearchApart(const StartServices& services) {
 
 }  // namespace
 
-void OpenFileSearch(Program& program) {
-  StartBeside<bool>(program, std::string(kSearch), &OpenSearchApart, [&program](bool opened) {
+void OpenFileSearch(const LaunchParts& with) {
+  StartBeside<bool>(with.Starts, std::string(kSearch), &OpenSearchApart, [with](bool opened) {
     if (opened) return;
-    program.Say(program.ToolbarWindow(), kNoSearchText,
-                forms::msgbox::IconStop | forms::msgbox::OnTop);
+    with.Messages.Say(with.Ports.ToolbarWindow(), kNoSearchText,
+                      forms::msgbox::IconStop | forms::msgbox::OnTop);
   });
 }
 

@@ -6,7 +6,7 @@
 
 #include "base/Text.h"
 #include "base/Utf8.h"
-#include "core/Program.h"
+#include "core/OptionFlags.h"
 #include "desk/LookupPlaces.h"
 #include "launch/StartBeside.h"
 #include "platform/FileSystem.h"
@@ -78,18 +78,18 @@ std::string FileTitle(const FileTitleFacts& facts) {
   return title;
 }
 
-std::string GetFileTitle(Program& program, std::string_view path) {
-  return GetDroppedNames(program, {std::string(path)}).front().Title;
+std::string FileTitles::GetFileTitle(std::string_view path) const {
+  return GetDroppedNames({std::string(path)}).front().Title;
 }
 
-std::vector<DroppedName> GetDroppedNames(Program& program, const std::vector<std::string>& paths) {
+std::vector<DroppedName> FileTitles::GetDroppedNames(const std::vector<std::string>& paths) const {
   // Each place by itself: one that hangs takes no name from the files of another.
   const std::string place = paths.empty() ? std::string() : desk::PlaceOfPath(paths.front());
   auto found = AtOnce<std::vector<ShownFile>>(
-      program, "\"\"titles " + place,
+      starts_, "\"\"titles " + place,
       [paths](const StartServices& services) { return LookAtFiles(services, paths); });
-  if (!found) found = NotKnown(program.Services.Ansi, paths);
-  const bool keep = program.OptionFlags.Is(Option::KeepExtension);
+  if (!found) found = NotKnown(ansi_, paths);
+  const bool keep = options_.Is(Option::KeepExtension);
   std::vector<DroppedName> names;
   for (std::size_t i = 0; i < paths.size(); ++i) {
     ShownFile& file = (*found)[i];
@@ -102,8 +102,8 @@ std::vector<DroppedName> GetDroppedNames(Program& program, const std::vector<std
   return names;
 }
 
-std::vector<DroppedName> GetTrimmedNames(Program& program, const std::vector<std::string>& paths) {
-  std::vector<DroppedName> names = GetDroppedNames(program, paths);
+std::vector<DroppedName> FileTitles::GetTrimmedNames(const std::vector<std::string>& paths) const {
+  std::vector<DroppedName> names = GetDroppedNames(paths);
   for (DroppedName& name : names) name.Title = Trim(name.Title);
   return names;
 }

@@ -21,7 +21,7 @@ std::string HelpViewer::PathOf(HelpPage page) const {
 bool HelpViewer::ShowPage(HelpPage page) {
   std::string path = PathOf(page);
   if (!program_.Services.Files.FileExists(path)) return false;
-  LaunchItem(program_, path);
+  LaunchItem(program_.Launch, path);
   return true;
 }
 
@@ -29,7 +29,7 @@ void HelpViewer::OfferPage(HelpPage page) {
   const std::string path = PathOf(page);
   if (!program_.Services.Files.FileExists(path)) return;
   StartBeside<bool>(
-      program_, path,
+      program_.Starts, path,
       [path](const StartServices& services) {
         return IsSettled(services.Shell.Open(path, std::nullopt, std::nullopt));
       },
@@ -38,9 +38,9 @@ void HelpViewer::OfferPage(HelpPage page) {
 
 void HelpViewer::ShowPageOf(std::string_view windowName) {
   if (ShowPage(HelpPageOf(windowName))) return;
-  program_.Say(program_.ToolbarWindow(),
-               "Corvelle help file could not be found in Corvelle folder.",
-               msgbox::IconStop | msgbox::OnTop);
+  program_.Messages.Say(program_.Ports.ToolbarWindow(),
+                        "Corvelle help file could not be found in Corvelle folder.",
+                        msgbox::IconStop | msgbox::OnTop);
 }
 
 }  // namespace corvelle

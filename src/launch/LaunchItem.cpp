@@ -7,7 +7,10 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/LaunchParts.h"
+#include "core/MessageBoxes.h"
+#include "core/WindowPorts.h"
+#include "forms/WindowSystem.h"
 #include "launch/CommandForm.h"
 #include "launch/StartBeside.h"
 #include "platform/FileSystem.h"
@@ -49,12 +52,12 @@ std::optional<std::string_view> IfAny(const std::string& text) {
   return text;
 }
 
-void SayUnavailable(Program& program) {
-  program.Say(program.ToolbarWindow(), kUnavailableText, msgbox::IconStop | msgbox::OnTop);
+void SayUnavailable(const LaunchParts& with) {
+  with.Messages.Say(with.Ports.ToolbarWindow(), kUnavailableText, msgbox::IconStop | msgbox::OnTop);
 }
 
-void SayNoAccess(Program& program) {
-  program.Say(program.ToolbarWindow(), kNoAccessText, msgbox::IconStop | msgbox::OnTop);
+void SayNoAccess(const LaunchParts& with) {
+  with.Messages.Say(with.Ports.ToolbarWindow(), kNoAccessText, msgbox::IconStop | msgbox::OnTop);
 }
 
 /// How an attempt ended, and what the user is told.
@@ -67,24 +70,24 @@ enum class StartEnd {
 /// Tries one way after the other on the thread that starts; holds no more than values.
 using Attempts = std::function<StartEnd(const StartServices&)>;
 
-void Tell(Program& program, StartEnd end) {
+void Tell(const LaunchParts& with, StartEnd end) {
   switch (end) {
     case StartEnd::Settled:
       return;
     case StartEnd::Unavailable:
-      SayUnavailable(program);
+      SayUnavailable(with);
       return;
     case StartEnd::NoAccess:
-      SayNoAccess(program);
+      SayNoAccess(with);
       return;
   }
 }
 
 /// Starts beside the windows and tells the user how it ended. Does nothing while `what` is being
 /// started already.
-void StartApart(Program& program, const std::string& what, Attempts attempts) {
-  StartBeside<StartEnd>(program, what, std::move(attempts),
-                        [&program](StartEnd end) { Tell(program, end); });
+void StartApart(const LaunchParts& with, const std::string& what, Attempts attempts) {
+  StartBeside<StartEnd>(with.Starts, what, std::move(attempts),
+                        [with](StartEnd end) { Tell(with, end); });
 }
 
 /// Opens through the shell. A result when that settles it: it is started, the user has refused it,
@@ -131,8 +134,8 @@ StartEnd RunCommandLine(const StartServices& services, std::string_view commandL
 }
 
 /// A file or folder; failing that, a program with arguments.
-void OpenOrRun(Program& program, const std::string& text) {
-  StartApart(program, text, [text](const StartServices& services) {
+void OpenOrRun(const LaunchParts& with, const std::string& text) {
+  StartApart(with, text, [text](const StartServices& services) {
     const std::string folder = Trim(GetItemWorkDir(text));
     const auto settled = OpenSettled(services, text, std::nullopt, IfAny(folder));
     return settled ? *settled : RunCommandLine(services, text, text);
@@ -146,9 +149,9 @@ std::string TargetOf(const StartServices& services, const std::string& link) {
   return StripAtNull(object->GetPath().value_or(std::string()));
 }
 
-void OpenLink(Program& program, const std::string& link) {
-  const bool readsLinks = program.Ports.ShellLinks != nullptr;
-  StartApart(program, link, [link, readsLinks](const StartServices& services) {
+void OpenLink(const LaunchParts& with, const std::string& link) {
+  const bool readsLinks = with.Ports.ShellLinks != nullptr;
+  StartApart(with, link, [link, readsLinks](const StartServices& services) {
     const std::string folder = readsLinks ? LinkFolder(TargetOf(services, link)) : std::string();
     // The system was asked to say nothing itself.
     return OpenSettled(services, link, std::nullopt, IfAny(folder)).value_or(StartEnd::Unavailable);
@@ -156,8 +159,8 @@ void OpenLink(Program& program, const std::string& link) {
 }
 
 /// False when the command is no word of the program, or the program cannot carry it out.
-bool RunWord(Program& program, CommandKind kind) {
-  BuiltInCommandsPort* commands = program.Ports.BuiltInCommands;
+bool RunWord(const LaunchParts& with, CommandKind kind) {
+  BuiltInCommandsPort* commands = with.Ports.BuiltInCommands;
   const auto* const word =
       std::find_if(std::begin(kWordCommands), std::end(kWordCommands),
                    [kind](const WordCommand& known) { return known.Kind == kind; });
@@ -166,8 +169,8 @@ bool RunWord(Program& program, CommandKind kind) {
   return true;
 }
 
-bool OpenAddress(Program& program, CommandKind kind, const std::string& address) {
-  BrowserPort* browser = program.Ports.Browser;
+bool OpenAddress(const LaunchParts& with, CommandKind kind, const std::string& address) {
+  BrowserPort* browser = with.Ports.Browser;
   if (browser == nullptr) return false;
   if (kind == CommandKind::WebAddress) {
     browser->OpenUrl(address, {});
@@ -177,64 +180,63 @@ bool OpenAddress(Program& program, CommandKind kind, const std::string& address)
   return true;
 }
 
-bool OpenSpecialFolder(Program& program, std::string_view name, std::string_view argument) {
-  SpecialFoldersPort* folders = program.Ports.SpecialFolders;
+bool OpenSpecialFolder(const LaunchParts& with, std::string_view name, std::string_view argument) {
+  SpecialFoldersPort* folders = with.Ports.SpecialFolders;
   if (folders == nullptr) return false;
   folders->OpenSpecialFolder(name, argument);
   return true;
 }
 
-void RunForm(Program& program, CommandKind kind, const std::string& text);
+void RunForm(const LaunchParts& with, CommandKind kind, const std::string& text);
 
 /// The file is read beside the windows; what it holds is then carried out as a command is.
-void OpenUrlFile(Program& program, const std::string& file) {
+void OpenUrlFile(const LaunchParts& with, const std::string& file) {
   StartBeside<std::string>(
-      program, file,
+      with.Starts, file,
       [file](const StartServices& services) {
         const auto bytes = services.Files.Read(file, 0, kUrlFileLimit);
         // What cannot be read holds no address.
         return bytes ? ParseUrlFile(*bytes, services.Ansi).value_or(file) : file;
       },
-      [&program](const std::string& address) {
-        RunForm(program, ClassifyAddress(address), address);
-      },
+      [with](const std::string& address) { RunForm(with, ClassifyAddress(address), address); },
       UnderWay::UntilTold);
 }
 
-void RunForm(Program& program, CommandKind kind, const std::string& text) {
+void RunForm(const LaunchParts& with, CommandKind kind, const std::string& text) {
   bool done = false;
   switch (kind) {
     case CommandKind::Empty:
-      program.Say(program.ToolbarWindow(), kEmptyText, msgbox::IconInformation | msgbox::OnTop);
+      with.Messages.Say(with.Ports.ToolbarWindow(), kEmptyText,
+                        msgbox::IconInformation | msgbox::OnTop);
       return;
     case CommandKind::UrlFile:
-      OpenUrlFile(program, text);
+      OpenUrlFile(with, text);
       return;
     case CommandKind::ShellLink:
-      OpenLink(program, text);
+      OpenLink(with, text);
       return;
     case CommandKind::SpecialFolder:
-      done = OpenSpecialFolder(program, text, {});
+      done = OpenSpecialFolder(with, text, {});
       break;
     case CommandKind::WebAddress:
     case CommandKind::MailAddress:
-      done = OpenAddress(program, kind, text);
+      done = OpenAddress(with, kind, text);
       break;
     default:
-      done = RunWord(program, kind);
+      done = RunWord(with, kind);
       break;
   }
   // What the program cannot carry out itself, the system may know.
-  if (!done) OpenOrRun(program, text);
+  if (!done) OpenOrRun(with, text);
 }
 
-void OpenDropped(Program& program, const std::string& dropped, const std::string& target) {
+void OpenDropped(const LaunchParts& with, const std::string& dropped, const std::string& target) {
   if (ClassifyCommand(target).Kind == CommandKind::SpecialFolder &&
-      OpenSpecialFolder(program, target, dropped)) {
+      OpenSpecialFolder(with, target, dropped)) {
     return;
   }
-  const bool followsLink = EndsWithNoCase(target, ".lnk") && program.Ports.ShellLinks != nullptr;
-  StartApart(program, target + " " + dropped,
+  const bool followsLink = EndsWithNoCase(target, ".lnk") && with.Ports.ShellLinks != nullptr;
+  StartApart(with, target + " " + dropped,
              [dropped, target, followsLink](const StartServices& services) {
                const auto settled = OpenSettled(services, target, dropped, std::nullopt);
                if (settled) return *settled;
@@ -247,34 +249,34 @@ void OpenDropped(Program& program, const std::string& dropped, const std::string
 
 }  // namespace
 
-std::string LaunchItem(Program& program, std::string_view command) {
+std::string LaunchItem(const LaunchParts& with, std::string_view command) {
   // What the hint and the menu covered is seen again, but the next choice waits: it would be
   // started before this one.
-  program.SetHint({});
-  program.Windows.PaintWaiting();
+  with.Ports.SetHint({});
+  with.Windows.PaintWaiting();
   const CommandForm form = ClassifyCommand(command);
-  RunForm(program, form.Kind, form.Text);
+  RunForm(with, form.Kind, form.Text);
   return form.Text;
 }
 
-void OpenWithItem(Program& program, std::string_view droppedFile, std::string_view target) {
+void OpenWithItem(const LaunchParts& with, std::string_view droppedFile, std::string_view target) {
   const std::string dropped = Quoted(Trim(droppedFile));
   const std::string wanted = Trim(target);
-  program.Windows.PaintWaiting();
-  OpenDropped(program, dropped, wanted);
-  program.Windows.SetMousePointer(forms::MousePointer::Default);
+  with.Windows.PaintWaiting();
+  OpenDropped(with, dropped, wanted);
+  with.Windows.SetMousePointer(forms::MousePointer::Default);
 }
 
-std::string ReadUrlFile(Program& program, std::string_view path) {
-  const auto bytes = program.Services.Files.Read(path, 0, kUrlFileLimit);
+std::string ReadUrlFile(FileSystem& files, const CodePage& ansi, std::string_view path) {
+  const auto bytes = files.Read(path, 0, kUrlFileLimit);
   // What cannot be read holds no address.
   if (!bytes) return std::string(path);
-  return ParseUrlFile(*bytes, program.Services.Ansi).value_or(std::string(path));
+  return ParseUrlFile(*bytes, ansi).value_or(std::string(path));
 }
 
-std::string GetLinkWorkDir(Program& program, std::string_view linkPath, std::string& target) {
+std::string GetLinkWorkDir(ShellLinksPort* links, std::string_view linkPath, std::string& target) {
   target.clear();
-  if (program.Ports.ShellLinks != nullptr) target = program.Ports.ShellLinks->TargetOf(linkPath);
+  if (links != nullptr) target = links->TargetOf(linkPath);
   return LinkFolder(target);
 }
 

@@ -3,7 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "core/Program.h"
+#include "core/LaunchParts.h"
+#include "core/MessageBoxes.h"
+#include "core/WindowPorts.h"
 #include "launch/RegistryValue.h"
 #include "launch/StartBeside.h"
 #include "platform/Registry.h"
@@ -26,14 +28,15 @@ bool OpenMailApart(const StartServices& services, std::string_view address) {
 
 }  // namespace
 
-void OpenMail(Program& program, std::string_view address) {
+void OpenMail(const LaunchParts& with, std::string_view address) {
   StartBeside<bool>(
-      program, std::string(address),
+      with.Starts, std::string(address),
       [text = std::string(address)](const StartServices& services) {
         return OpenMailApart(services, text);
       },
-      [&program](bool opened) {
-        if (!opened) program.Say(program.ToolbarWindow(), kMailError, forms::msgbox::OnTop);
+      [with](bool opened) {
+        if (!opened)
+          with.Messages.Say(with.Ports.ToolbarWindow(), kMailError, forms::msgbox::OnTop);
       });
 }
 

@@ -4,9 +4,9 @@
 
 namespace corvelle {
 
-class Program;
+struct LaunchParts;
 
 /// Opens a "mailto:" address with the user's mail program; says so when there is none.
-void OpenMail(Program& program, std::string_view address);
+void OpenMail(const LaunchParts& with, std::string_view address);
 
 }  // namespace corvelle

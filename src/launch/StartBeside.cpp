@@ -4,6 +4,8 @@
 #include <condition_variable>
 #include <mutex>
 
+#include "core/StartsUnderWay.h"
+
 namespace corvelle {
 
 namespace {
@@ -19,16 +21,16 @@ struct WorkAtOnce {
 
 }  // namespace
 
-bool RunBeside(Program& program, const std::string& what, Starter::Work work,
+bool RunBeside(StartsUnderWay& starts, const std::string& what, Starter::Work work,
                std::function<void()> done, UnderWay until) {
-  const auto start = program.Starts.Begin(what);
+  const auto start = starts.Begin(what);
   if (start == nullptr) return false;
-  program.Services.Starts.Start(
+  starts.Starter.Start(
       [start, until, work = std::move(work)](const StartServices& services) {
         work(services);
         if (until == UnderWay::UntilDone) start->SetOver();
       },
-      [start, done = std::move(done), watch = program.Starts.Watch()] {
+      [start, done = std::move(done), watch = starts.Watch()] {
         if (watch.Gone()) return;
         start->SetOver();
         done();
@@ -36,10 +38,10 @@ bool RunBeside(Program& program, const std::string& what, Starter::Work work,
   return true;
 }
 
-bool RunAtOnce(Program& program, const std::string& what, Starter::Work work) {
+bool RunAtOnce(StartsUnderWay& starts, const std::string& what, Starter::Work work) {
   const auto shared = std::make_shared<WorkAtOnce>();
   const bool begun = RunBeside(
-      program, what,
+      starts, what,
       [shared, work = std::move(work)](const StartServices& services) {
         work(services);
         const std::scoped_lock lock(shared->Lock);

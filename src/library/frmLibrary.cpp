@@ -281,15 +281,16 @@ void frmLibrary::cmdAdd_Click() {
   if (added.Refusal.empty()) {
     FillOthers(added.Row);
   } else {
-    program_.Say(hWnd(), added.Refusal, forms::msgbox::IconInformation);
+    program_.Messages.Say(hWnd(), added.Refusal, forms::msgbox::IconInformation);
   }
 }
 
 void frmLibrary::cmdRemove_Click() {
   const int row = List1Other.Selected();
   if (row < 0) return;
-  const int answer = program_.Say(hWnd(), RemoveQuestion(List2Other[static_cast<std::size_t>(row)]),
-                                  forms::msgbox::YesNo | forms::msgbox::IconQuestion);
+  const int answer =
+      program_.Messages.Say(hWnd(), RemoveQuestion(List2Other[static_cast<std::size_t>(row)]),
+                            forms::msgbox::YesNo | forms::msgbox::IconQuestion);
   if (answer != forms::msgbox::AnswerYes || !IsLoaded()) return;
   RemoveOtherFile(program_, List2Other, row);
   FillOthers(-1);
@@ -299,7 +300,7 @@ void frmLibrary::cmdRemove_Click() {
 
 void frmLibrary::cmdRefresh_Click() {
   ResetLibrary(program_);
-  program_.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
+  program_.Messages.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
   if (!IsLoaded()) return;
   BuildLibrary();
   othersRead_ = false;

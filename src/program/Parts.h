@@ -13,6 +13,7 @@
 #include "menus/folders/FolderMenus.h"
 #include "menus/folders/SpecialFolders.h"
 #include "menus/window/MainMenu.h"
+#include "menus/window/MenuWiring.h"
 #include "menus/window/frmQMenu.h"
 #include "properties/frmProperties.h"
 #include "search/frmNetSearch.h"
@@ -26,6 +27,7 @@
 #include "toolbar/notices/frmHelp.h"
 #include "toolbar/notices/frmStartup.h"
 #include "toolbar/notices/frmTip.h"
+#include "toolbar/strip/StripWiring.h"
 #include "toolbar/strip/frmToolbar.h"
 #include "weblink/frmURL.h"
 
@@ -41,26 +43,26 @@ class Parts {
 
   Program TheProgram;
   frmToolbar Toolbar{TheProgram};
-  mAppBar Docking{TheProgram, Toolbar};
-  frmImage StillPicture{TheProgram, Toolbar};
+  mAppBar Docking{AppBarPartsOf(TheProgram), Toolbar};
+  frmImage StillPicture{StillPicturePartsOf(TheProgram), Toolbar};
   frmQMenu Menu{TheProgram};
   FolderMenus TheFolderMenus{TheProgram.Services, TheProgram.Windows, TheProgram.Answers,
                              TheProgram.Icons};
-  frmMinimize Companion{TheProgram};
-  frmStartup Startup{TheProgram};
-  Popup ThePopup{TheProgram};
-  frmHelp Hint{TheProgram};
-  frmTip Tip{TheProgram};
-  MainMenu TheMainMenu{TheProgram, Menu};
+  frmMinimize Companion{CompanionPartsOf(TheProgram)};
+  frmStartup Startup{StartupPartsOf(TheProgram)};
+  Popup ThePopup{PopupPartsOf(TheProgram)};
+  frmHelp Hint{HintPartsOf(TheProgram)};
+  frmTip Tip{TipPartsOf(TheProgram)};
+  MainMenu TheMainMenu{MainMenuPartsOf(TheProgram), Menu};
   DefaultEntries TheDefaultEntries{TheProgram};
   ShellIconRule TheIconRule{TheProgram};
   IconLibrary TheIconLibrary{TheProgram};
   BuiltInCommands TheBuiltIns{TheProgram};
   Browser TheBrowser{TheProgram};
-  SpecialFolders TheSpecialFolders{TheProgram};
+  SpecialFolders TheSpecialFolders{TheProgram.Services.Folders, TheProgram.Launch};
   LinkReader Links{TheProgram.Services.Links};
   StartupLink TheStartupLink{TheProgram};
-  DragImage Carried{TheProgram};
+  DragImage Carried{DragImagePartsOf(TheProgram)};
   frmURL WebLink{TheProgram};
   frmCust Customize{TheProgram};
   frmProperties Properties{TheProgram};

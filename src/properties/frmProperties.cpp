@@ -74,8 +74,8 @@ frmProperties::frmProperties(Program& program)
       cmdCancel(*this, "cmdCancel"),
       cmdApply(*this, "cmdApply"),
       program_(program),
-      icon_(program, IconCaller::Properties),
-      nodeIcons_(program, IconCaller::Tree),
+      icon_(program.IconSources, IconCaller::Properties),
+      nodeIcons_(program.IconSources, IconCaller::Tree),
       desktopAsked_(program.Answers.NewOwner()),
       tmrEdge_(program.Windows),
       tmrTarget_(program.Windows) {

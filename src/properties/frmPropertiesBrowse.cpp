@@ -87,7 +87,9 @@ void frmProperties::ShowLibrary() {
 void frmProperties::cmdFile_Click() {
   if (browsing_) return;
   const std::string path = ShowOpenFile();
-  if (!path.empty() && IsLoaded()) SetFileEntry(path, GetFileTitle(program_, path));
+  if (!path.empty() && IsLoaded())
+    SetFileEntry(path, FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
+                           .GetFileTitle(path));
 }
 
 void frmProperties::cmdFolder_Click() {
@@ -141,7 +143,7 @@ std::string frmProperties::LinkToFolder(const forms::FolderChoice& choice) {
   if (!files.FileExists(link) && shell.ShellLinkToObject(link, choice.Item, kNormalWindow)) {
     return link;
   }
-  program_.Say(hWnd(), kNoAccess, forms::msgbox::IconInformation);
+  program_.Messages.Say(hWnd(), kNoAccess, forms::msgbox::IconInformation);
   return {};
 }
 

@@ -179,13 +179,14 @@ bool frmProperties::ApplyOrder() {
   const std::size_t place = order_.FindPath(item_.File);
   const OrderOutcome outcome = ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi,
                                                 program_.Paths.MenusPath, order_);
-  if (outcome.Result == OrderResult::Applied) program_.TellMenusEdited();
+  if (outcome.Result == OrderResult::Applied) program_.Ports.TellMenusEdited();
   if (outcome.Result == OrderResult::Failed) {
     ShowFileError(program_.Paths.MenusPath, outcome.Reason);
     return false;
   }
   if (outcome.Result == OrderResult::Outdated) {
-    program_.Say(hWnd(), RefusalText(ItemResult::Mismatch), forms::msgbox::IconInformation);
+    program_.Messages.Say(hWnd(), RefusalText(ItemResult::Mismatch),
+                          forms::msgbox::IconInformation);
     if (!IsLoaded()) return false;
     // The buttons that there are now, to begin again with.
     ButtonsTabLoaded = false;

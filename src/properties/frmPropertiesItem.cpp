@@ -68,7 +68,7 @@ bool frmProperties::ApplyItem() {
 bool frmProperties::UpdateFileItem() {
   const ItemOutcome outcome = corvelle::UpdateFileItem(
       program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, item_, Boxes());
-  if (outcome.Result == ItemResult::Written) program_.TellMenusEdited();
+  if (outcome.Result == ItemResult::Written) program_.Ports.TellMenusEdited();
   ShowOutcome(outcome);
   if (outcome.Result != ItemResult::Written && outcome.Result != ItemResult::Same) return false;
   if (!IsLoaded()) return true;
@@ -88,7 +88,7 @@ void frmProperties::CancelFileItem() {
   ShowHidingStrip();
   const ItemOutcome outcome = corvelle::CancelFileItem(
       program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, item_);
-  if (outcome.Result == ItemResult::Written) program_.TellMenusEdited();
+  if (outcome.Result == ItemResult::Written) program_.Ports.TellMenusEdited();
   if (outcome.Result == ItemResult::Failed) ShowOutcome(outcome);
   if (outcome.Result == ItemResult::Written && IsLoaded()) ShowEdited();
   if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ShowToolbar();
@@ -122,12 +122,12 @@ void frmProperties::ShowOutcome(const ItemOutcome& outcome) {
     return;
   }
   const std::string_view text = RefusalText(outcome.Result);
-  if (!text.empty()) program_.Say(hWnd(), text, forms::msgbox::IconInformation);
+  if (!text.empty()) program_.Messages.Say(hWnd(), text, forms::msgbox::IconInformation);
 }
 
 void frmProperties::ShowFileError(std::string_view path, FileError error) {
-  program_.Say(hWnd(), NumberedFileError(program_.Services.Files, path, error),
-               forms::msgbox::IconInformation);
+  program_.Messages.Say(hWnd(), NumberedFileError(program_.Services.Files, path, error),
+                        forms::msgbox::IconInformation);
 }
 
 // ---- the mark of a command that leads nowhere ----

@@ -121,7 +121,8 @@ void frmNetSearch::FetchFactoryList() {
     static_cast<void>(files.Copy(factory, PathOf(kEngineFile)));
     return;
   }
-  program_.Say(program_.ToolbarWindow(), kNoEngines, msgbox::IconInformation | msgbox::OnTop);
+  program_.Messages.Say(program_.Ports.ToolbarWindow(), kNoEngines,
+                        msgbox::IconInformation | msgbox::OnTop);
 }
 
 void frmNetSearch::LoadEngines() {
@@ -174,7 +175,7 @@ void frmNetSearch::cmdFind_Click() {
   if (Queries.Add(query)) ShowHistory();
   const std::string url = AddressOf(query);
   if (url.empty() || program_.Ports.Browser == nullptr) return;
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   Minimize();
   program_.Ports.Browser->OpenUrl(url, [this, watch = MakeWatch()](bool opened) {
     // The user goes on here when there is no browser.
@@ -189,14 +190,14 @@ std::string frmNetSearch::AddressOf(const std::string& query) {
     url = QueryUrl(EngineUrls[static_cast<std::size_t>(engine)], query);
   }
   if (url) return *url;
-  program_.Say(hWnd(), kBadTemplate, msgbox::IconStop | msgbox::OnTop);
+  program_.Messages.Say(hWnd(), kBadTemplate, msgbox::IconStop | msgbox::OnTop);
   return {};
 }
 
 void frmNetSearch::cmdClear_Click() {
   const forms::Alive::Watch watch = MakeWatch();
-  const int answer =
-      program_.SayAs(program_.Title + " - Net Search", hWnd(), kClearQuestion, msgbox::YesNo);
+  const int answer = program_.Messages.SayAs(program_.Title + " - Net Search", hWnd(),
+                                             kClearQuestion, msgbox::YesNo);
   if (answer != msgbox::AnswerYes || watch.Gone()) return;
   // A history that cannot be deleted is shown no more, and written over by the next one.
   static_cast<void>(program_.Services.Files.Remove(PathOf(kHistoryFile)));

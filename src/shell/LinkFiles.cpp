@@ -8,7 +8,7 @@ namespace corvelle {
 
 std::string GetSpecialFolder(Program& program, int folder) {
   return cShellLink(program.Services.Links)
-      .GetSystemFolderPath(program.ToolbarWindow(), folder)
+      .GetSystemFolderPath(program.Ports.ToolbarWindow(), folder)
       .value_or(std::string());
 }
 

@@ -15,7 +15,7 @@ constexpr int kStartupFolder = 7;  // CSIDL_STARTUP
 constexpr unsigned kNoteFlags = forms::msgbox::IconInformation;
 
 void Note(Program& program, std::string_view text) {
-  program.Say(program.ToolbarWindow(), text, kNoteFlags);
+  program.Messages.Say(program.Ports.ToolbarWindow(), text, kNoteFlags);
 }
 
 bool MakeStartupLink(Program& program, std::string_view executable) {

@@ -127,7 +127,7 @@ void frmURL::OpenDialog() {
 void frmURL::cmdOK_Click() {
   const std::string address = Trim(txtAddress.Text());
   if (!FitsRecord(address, program_.Services.Ansi)) {
-    program_.Say(hWnd(), kAddressTooLong, forms::msgbox::IconInformation);
+    program_.Messages.Say(hWnd(), kAddressTooLong, forms::msgbox::IconInformation);
     if (IsLoaded()) txtAddress.SetFocus();
     return;
   }
@@ -146,7 +146,7 @@ void frmURL::cmdCancel_Click() {
 
 void frmURL::Check1_Click() {
   program_.OptionFlags.Set(Option::NoWebLinkDialog, Check1.Value() == 1);
-  program_.SaveOptionFlags();
+  program_.Options.SaveOptionFlags();
 }
 
 void frmURL::Write() {

@@ -62,7 +62,7 @@ void frmURL::InsertItem(const std::string& file) {
   SetCurrentEntry(program_.Entry, std::move(entry));
   SetClipboard(program_.Entry, RecordOf(*this));
   // A disk that refuses has left the file as it was.
-  static_cast<void>(PasteItem(program_));
+  static_cast<void>(program_.Commands.PasteItem());
   SetClipboard(program_.Entry);
 }
 
@@ -73,12 +73,12 @@ void frmURL::InsertSingle(std::string_view before) {
   entry.CurRecord = 1;
   SetCurrentEntry(program_.Entry, std::move(entry));
   SetClipboard(program_.Entry, RecordOf(*this));
-  const EditOutcome outcome = PasteItem(program_);
+  const EditOutcome outcome = program_.Commands.PasteItem();
   // The button under the drop is gone: behind the last one.
   if (outcome == EditOutcome::Failed && outcome.Reason() == FileError::NotFound &&
       !before.empty()) {
     program_.Entry.CurFile.clear();
-    static_cast<void>(PasteItem(program_));
+    static_cast<void>(program_.Commands.PasteItem());
   }
   SetClipboard(program_.Entry);
   if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->RefreshToolbar();

@@ -148,7 +148,7 @@ TEST_F(CarriedEdits, GoWhereTheyArePut) {
   for (const Row& row : rows) {
     Fresh(row.record);
     const bool changed =
-        DropItem(program, "F3", {.File = row.file, .Before = row.before}, row.copies);
+        program.Commands.DropItem("F3", {.File = row.file, .Before = row.before}, row.copies);
     EXPECT_EQ(TitlesOf(kFile), row.expected) << row.name;
     EXPECT_EQ(TitlesOf(kOther), row.expectedOther) << row.name;
     if (TitlesOf(kFile) != kOne || TitlesOf(kOther) != kTwo) {
@@ -169,33 +169,33 @@ TEST_F(CarriedEdits, AMoveWithinAFileKeepsTheBytesOfTheRecord) {
   world.Files.Put(kFile, bytes);
   program.Entry.CurTitle =
       ParseRecord(std::string_view(bytes).substr(2 * kRecordLength), world.Ansi).FTitle;
-  EXPECT_TRUE(DropItem(program, "F2", {.File = kFile, .Before = 2}, false));
+  EXPECT_TRUE(program.Commands.DropItem("F2", {.File = kFile, .Before = 2}, false));
   const std::string now = world.Files.Get(kFile).value_or("");
   EXPECT_EQ(now.substr(kRecordLength, kRecordLength),
             bytes.substr(2 * kRecordLength, kRecordLength));
 }
 
 TEST_F(CarriedEdits, TheMenuItCameFromIsForgottenToo) {
-  EXPECT_TRUE(DropItem(program, "F3", {.File = kOther}, false));
+  EXPECT_TRUE(program.Commands.DropItem("F3", {.File = kOther}, false));
   EXPECT_EQ(log, (CallLog{"RemoveQMenu F2", "RemoveQMenu F3"}));
 }
 
 TEST_F(CarriedEdits, AGeneratedEntryIsCopiedWhateverWasMeant) {
   program.Entry.CurRecord = 5003;
-  EXPECT_TRUE(DropItem(program, "F2", {.File = kFile, .Before = 5}, false));
+  EXPECT_TRUE(program.Commands.DropItem("F2", {.File = kFile, .Before = 5}, false));
   EXPECT_EQ(TitlesOf(kFile), "Button One Two Three Two Four");
   program.Entry.CurRecord = 5003;
-  EXPECT_TRUE(DropItem(program, "F3", {.File = kOther}, false));
+  EXPECT_TRUE(program.Commands.DropItem("F3", {.File = kOther}, false));
   EXPECT_EQ(TitlesOf(kFile), "Button One Two Three Two Four");
   EXPECT_EQ(TitlesOf(kOther), "Button Alpha Beta Two");
 }
 
 TEST_F(CarriedEdits, AnotherEntryAtItsPlaceStays) {
   program.Entry.CurTitle = "Gone";
-  EXPECT_TRUE(DropItem(program, "F3", {.File = kOther}, false));
+  EXPECT_TRUE(program.Commands.DropItem("F3", {.File = kOther}, false));
   EXPECT_EQ(TitlesOf(kFile), "Button One Two Three Four");
   EXPECT_EQ(TitlesOf(kOther), "Button Alpha Beta Gone");
-  EXPECT_TRUE(DropItem(program, "F2", {.File = kFile, .Before = 2}, false));
+  EXPECT_TRUE(program.Commands.DropItem("F2", {.File = kFile, .Before = 2}, false));
   EXPECT_EQ(TitlesOf(kFile), "Button Gone One Two Three Four");
 }
 
@@ -207,11 +207,11 @@ TEST_F(CarriedEdits, AnEntryOfTheRowLeavesIt) {
       program.Entry.CurFile,
       FormatRecord({program.Entry.CurTitle, program.Entry.CurIcon, program.Entry.CurCommand},
                    world.Ansi));
-  EXPECT_TRUE(DropItem(program, "F3", {.File = kOther, .Before = 2}, true));
+  EXPECT_TRUE(program.Commands.DropItem("F3", {.File = kOther, .Before = 2}, true));
   EXPECT_EQ(log, (CallLog{"RemoveQMenu F3"}));
   EXPECT_TRUE(world.Files.Has(program.Entry.CurFile));
   log.clear();
-  EXPECT_TRUE(DropItem(program, "F3", {.File = kOther, .Before = 2}, false));
+  EXPECT_TRUE(program.Commands.DropItem("F3", {.File = kOther, .Before = 2}, false));
   EXPECT_EQ(TitlesOf(kOther), "Button Two Two Alpha Beta");
   EXPECT_FALSE(world.Files.Has(program.Entry.CurFile));
   EXPECT_EQ(log, (CallLog{"DoSingleButtons", "resize, free 1230", "RemoveQMenu F3"}));
@@ -223,7 +223,7 @@ TEST_F(CarriedEdits, AnotherEntryInTheRowStaysThereAndNothingIsLost) {
   program.Entry.CurRecord = 1;
   program.Entry.ItemDragging = true;
   world.Files.Put(program.Entry.CurFile, FormatRecord({"Newer", "", "c"}, world.Ansi));
-  EXPECT_TRUE(DropItem(program, "F3", {.File = kOther, .Before = 2}, false));
+  EXPECT_TRUE(program.Commands.DropItem("F3", {.File = kOther, .Before = 2}, false));
   EXPECT_EQ(TitlesOf(kOther), "Button Two Alpha Beta");
   EXPECT_EQ(log, (CallLog{"DoSingleButtons", "resize, free 1230", "RemoveQMenu F3"}));
   EXPECT_TRUE(world.Desktop.Boxes().empty());
@@ -231,7 +231,7 @@ TEST_F(CarriedEdits, AnotherEntryInTheRowStaysThereAndNothingIsLost) {
 
 TEST_F(CarriedEdits, NothingInTheHandIsPutNowhere) {
   program.Entry.CurFile.clear();
-  EXPECT_FALSE(DropItem(program, "F3", {.File = kOther}, false));
+  EXPECT_FALSE(program.Commands.DropItem("F3", {.File = kOther}, false));
   EXPECT_TRUE(world.Files.Log().empty());
   EXPECT_TRUE(log.empty());
 }
@@ -256,7 +256,7 @@ TEST_F(CarriedEdits, NoOneFailureLosesOrDoublesAnEntry) {
     for (int n = 1;; ++n) {
       Fresh(3);
       world.Files.FailCall(n, FileError::DiskFull);
-      DropItem(program, "F3", {.File = row.file, .Before = row.before}, row.copies);
+      program.Commands.DropItem("F3", {.File = row.file, .Before = row.before}, row.copies);
       const bool hit = world.Files.Hit();
       world.Files.StopFailing();
       if (!hit) break;

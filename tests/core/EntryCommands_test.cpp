@@ -65,7 +65,7 @@ class EntryCommandsTest : public testing::Test {
 
 TEST_F(EntryCommandsTest, DeletingAnItemRewritesTheFileAndRefreshesItsMenu) {
   PointAt(3, "TWO", "I2", "C2");
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   EXPECT_EQ(Titles(), "Button One Three ");
   EXPECT_EQ(log, (CallLog{"RefreshMenu F1"}));
   EXPECT_TRUE(world.Desktop.Boxes().empty());
@@ -74,7 +74,7 @@ TEST_F(EntryCommandsTest, DeletingAnItemRewritesTheFileAndRefreshesItsMenu) {
 TEST_F(EntryCommandsTest, AnItemThatIsNoLongerThereIsRefusedAndTheFileStays) {
   PointAt(3, "Two", "i2", "other");
   world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
-  DeleteItem(program, true);
+  program.Commands.DeleteItem(true);
   EXPECT_EQ(Titles(), "Button One Two Three ");
   ASSERT_EQ(world.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 0x40040U);
@@ -84,7 +84,7 @@ TEST_F(EntryCommandsTest, AnItemThatIsNoLongerThereIsRefusedAndTheFileStays) {
 TEST_F(EntryCommandsTest, DuringADragAMismatchIsSilent) {
   PointAt(3, "Two", "i2", "other");
   program.Entry.ItemDragging = true;
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   EXPECT_EQ(Titles(), "Button One Two Three ");
   EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
@@ -92,7 +92,7 @@ TEST_F(EntryCommandsTest, DuringADragAMismatchIsSilent) {
 TEST_F(EntryCommandsTest, TheEndOfADragOnlyDropsTheBuiltMenu) {
   PointAt(2, "One", "i1", "c1");
   program.Entry.ItemDragging = true;
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   EXPECT_EQ(Titles(), "Button Two Three ");
   EXPECT_EQ(log, (CallLog{"RemoveQMenu F1"}));
 }
@@ -100,7 +100,7 @@ TEST_F(EntryCommandsTest, TheEndOfADragOnlyDropsTheBuiltMenu) {
 TEST_F(EntryCommandsTest, AGeneratedEntryCannotBeMovedAway) {
   PointAt(5001, "x", "y", "z");
   program.Entry.ItemDragging = true;
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   EXPECT_EQ(Titles(), "Button One Two Three ");
   EXPECT_TRUE(log.empty());
 }
@@ -108,7 +108,7 @@ TEST_F(EntryCommandsTest, AGeneratedEntryCannotBeMovedAway) {
 TEST_F(EntryCommandsTest, DeletingAWholeButtonAsksFirstAndNoKeepsIt) {
   PointAtWholeButton();
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerNo);
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   EXPECT_TRUE(world.Files.Has(kFile));
   EXPECT_TRUE(log.empty());
   EXPECT_EQ(world.Desktop.Boxes()[0].Flags, 4U + 0x40000U);
@@ -123,7 +123,7 @@ TEST_F(EntryCommandsTest, WhatBecomesCurrentWhileTheQuestionIsUpIsNotDeletedInst
     program.Entry.CurFile = other;
   });
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
-  EXPECT_EQ(DeleteItem(program, false), EditOutcome::Edited);
+  EXPECT_EQ(program.Commands.DeleteItem(false), EditOutcome::Edited);
   EXPECT_TRUE(world.Files.Has(other));
   EXPECT_FALSE(world.Files.Has(kFile));
 }
@@ -135,7 +135,7 @@ TEST_F(EntryCommandsTest, AButtonThatAnotherProgramPutsThereWhileTheQuestionIsUp
   });
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
   world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
-  EXPECT_EQ(DeleteItem(program, false), EditOutcome::RecordMismatch);
+  EXPECT_EQ(program.Commands.DeleteItem(false), EditOutcome::RecordMismatch);
   EXPECT_EQ(Titles(), "Newer Only ");
   EXPECT_EQ(world.Desktop.Boxes().size(), 2U);
   // The strip shows from now on what is there.
@@ -148,7 +148,7 @@ TEST_F(EntryCommandsTest, AProgramThatEndsWhileTheQuestionIsUpDeletesNothing) {
   PointAtWholeButton();
   world.Desktop.WhileBoxIsUp([&](const sim::MessageBox&) { toolbar.UnloadWindow(); });
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
-  EXPECT_EQ(DeleteItem(program, false), EditOutcome::NothingToDo);
+  EXPECT_EQ(program.Commands.DeleteItem(false), EditOutcome::NothingToDo);
   EXPECT_TRUE(world.Files.Has(kFile));
   EXPECT_TRUE(log.empty());
 }
@@ -157,11 +157,11 @@ TEST_F(EntryCommandsTest, WhatIsAskedAndToldBelongsToTheStrip) {
   toolbar.LoadWindow();
   PointAtWholeButton();
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerNo);
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   program.Entry.CurMenuTag = "F1";
   PointAt(3, "Two", "i2", "other");
   world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   ASSERT_EQ(world.Desktop.Boxes().size(), 2U);
   for (const sim::MessageBox& box : world.Desktop.Boxes()) {
     EXPECT_EQ(box.Owner, toolbar.WindowHandle()) << box.Text;
@@ -171,14 +171,14 @@ TEST_F(EntryCommandsTest, WhatIsAskedAndToldBelongsToTheStrip) {
 TEST_F(EntryCommandsTest, DeletingAWholeButtonRebuildsAndResizesTheStrip) {
   PointAtWholeButton();
   world.Desktop.Answer(kButtonQuestion, forms::msgbox::AnswerYes);
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   EXPECT_FALSE(world.Files.Has(kFile));
   EXPECT_EQ(log, (CallLog{"ResetCollections", "DoToolbarButtons", "resize, free 1230"}));
 }
 
 TEST_F(EntryCommandsTest, SkippingTheConfirmationAsksNothing) {
   PointAtWholeButton();
-  DeleteItem(program, true);
+  program.Commands.DeleteItem(true);
   EXPECT_FALSE(world.Files.Has(kFile));
 }
 
@@ -186,7 +186,7 @@ TEST_F(EntryCommandsTest, NothingIsDeletedFromTheMainMenuOrTheBareStrip) {
   for (const char* tag : {"Q1", "Toolbar", ""}) {
     program.Entry.CurMenuTag = tag;
     PointAt(2, "One", "i1", "c1");
-    DeleteItem(program, false);
+    program.Commands.DeleteItem(false);
     EXPECT_EQ(Titles(), "Button One Two Three ") << tag;
   }
   EXPECT_TRUE(log.empty());
@@ -197,7 +197,7 @@ TEST_F(EntryCommandsTest, ASingleButtonIsDeletedByItsRow) {
   program.Entry.CurFile = kSingle;
   world.Files.Put(kSingle, FormatRecord({"One", "i1", "c1"}, world.Ansi));
   PointAt(1, "One", "I1", "c1");
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   EXPECT_EQ(log, (CallLog{"delete single C:\\Corvelle\\Menus\\BMENU002.BTN", "DoSingleButtons",
                           "resize, free 1230"}));
 }
@@ -213,7 +213,7 @@ TEST_F(EntryCommandsTest, ASingleButtonThatAnotherProgramHasChangedStaysAndIsRea
       PointAt(1, "One", "i1", "c1");
       if (!dragged) world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
       log.clear();
-      EXPECT_EQ(DeleteItem(program, true), EditOutcome::RecordMismatch);
+      EXPECT_EQ(program.Commands.DeleteItem(true), EditOutcome::RecordMismatch);
       EXPECT_EQ(log, (CallLog{"DoSingleButtons", "resize, free 1230"}));
     }
   }
@@ -226,7 +226,7 @@ TEST_F(EntryCommandsTest, ASingleButtonWhoseFileIsGoneIsNoneToDelete) {
   program.Entry.CurFile = kSingle;
   PointAt(1, "One", "i1", "c1");
   world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
-  EXPECT_EQ(DeleteItem(program, true), EditOutcome::RecordMismatch);
+  EXPECT_EQ(program.Commands.DeleteItem(true), EditOutcome::RecordMismatch);
   EXPECT_EQ(log, (CallLog{"DoSingleButtons", "resize, free 1230"}));
 }
 
@@ -234,7 +234,7 @@ TEST_F(EntryCommandsTest, PastingPutsTheClipboardBeforeTheItemAndEndsTheUndo) {
   PointAt(3, "Two", "i2", "c2");
   program.Entry.ClipTitle = "New";
   program.Entry.UndoMenuTag = "F1";
-  PasteItem(program);
+  program.Commands.PasteItem();
   EXPECT_EQ(Titles(), "Button One New Two Three ");
   EXPECT_EQ(program.Entry.UndoMenuTag, "");
   EXPECT_EQ(log, (CallLog{"RefreshMenu F1"}));
@@ -243,14 +243,14 @@ TEST_F(EntryCommandsTest, PastingPutsTheClipboardBeforeTheItemAndEndsTheUndo) {
 TEST_F(EntryCommandsTest, PastingOnAGeneratedEntryGoesBeforeItsFolderItem) {
   PointAt(5003, "x", "y", "z");
   program.Entry.ClipTitle = "New";
-  PasteItem(program);
+  program.Commands.PasteItem();
   EXPECT_EQ(Titles(), "Button One New Two Three ");
 }
 
 TEST_F(EntryCommandsTest, PastingPastTheEndInsertsNothing) {
   PointAt(5, "", "", "");
   program.Entry.ClipTitle = "New";
-  PasteItem(program);
+  program.Commands.PasteItem();
   EXPECT_EQ(Titles(), "Button One Two Three ");
 }
 
@@ -258,7 +258,7 @@ TEST_F(EntryCommandsTest, PastingDuringADragLeavesTheMenuOnTheScreenAlone) {
   PointAt(2, "One", "i1", "c1");
   program.Entry.ClipTitle = "New";
   program.Entry.ItemDragging = true;
-  PasteItem(program);
+  program.Commands.PasteItem();
   EXPECT_EQ(Titles(), "Button New One Two Three ");
   EXPECT_EQ(log, (CallLog{"RemoveQMenu F1"}));
 }
@@ -266,9 +266,9 @@ TEST_F(EntryCommandsTest, PastingDuringADragLeavesTheMenuOnTheScreenAlone) {
 TEST_F(EntryCommandsTest, DeletingTheLastItemAndUndoingRestoresItAtTheEnd) {
   PointAt(4, "Three", "i3", "c3");
   RememberForUndo(program.Entry);
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   EXPECT_EQ(Titles(), "Button One Two ");
-  UndoDeleteItem(program);
+  program.Commands.UndoDeleteItem();
   EXPECT_EQ(Titles(), "Button One Two Three ");
   EXPECT_EQ(program.Entry.UndoMenuTag, "");
   EXPECT_EQ(log, (CallLog{"RefreshMenu F1", "RefreshMenu F1"}));
@@ -277,19 +277,19 @@ TEST_F(EntryCommandsTest, DeletingTheLastItemAndUndoingRestoresItAtTheEnd) {
 TEST_F(EntryCommandsTest, AnUndoThatTheDiskRefusesCanBeTriedAgain) {
   PointAt(4, "Three", "i3", "c3");
   RememberForUndo(program.Entry);
-  DeleteItem(program, false);
+  program.Commands.DeleteItem(false);
   world.Files.FillDisk(0);
-  UndoDeleteItem(program);
+  program.Commands.UndoDeleteItem();
   EXPECT_EQ(Titles(), "Button One Two ");
   world.Files.FreeDisk();
-  UndoDeleteItem(program);
+  program.Commands.UndoDeleteItem();
   EXPECT_EQ(Titles(), "Button One Two Three ");
 }
 
 TEST_F(EntryCommandsTest, UndoingASingleButtonGoesToItsRow) {
   program.Entry.UndoMenuTag = "SingleButtons";
   program.Entry.UndoFile = "C:\\Corvelle\\Menus\\BMENU004.BTN";
-  UndoDeleteItem(program);
+  program.Commands.UndoDeleteItem();
   EXPECT_EQ(log, (CallLog{"undo single C:\\Corvelle\\Menus\\BMENU004.BTN", "DoSingleButtons",
                           "resize, free 1230", "RefreshMenu SingleButtons"}));
   EXPECT_EQ(program.Entry.UndoMenuTag, "");
@@ -300,7 +300,7 @@ TEST_F(EntryCommandsTest, ARowThatTheDiskRefusesIsReadAnewAndTheUndoCanBeTriedAg
   program.Entry.UndoMenuTag = "SingleButtons";
   program.Entry.UndoFile = "two.btn";
   singles.Answer = FileError::DiskFull;
-  const EditOutcome outcome = UndoDeleteItem(program);
+  const EditOutcome outcome = program.Commands.UndoDeleteItem();
   EXPECT_EQ(outcome, EditOutcome::Failed);
   EXPECT_EQ(outcome.Reason(), FileError::DiskFull);
   EXPECT_EQ(log, (CallLog{"undo single two.btn", "DoSingleButtons", "resize, free 1230"}));
@@ -308,8 +308,8 @@ TEST_F(EntryCommandsTest, ARowThatTheDiskRefusesIsReadAnewAndTheUndoCanBeTriedAg
   program.Entry.CurFile = kSingle;
   world.Files.Put(kSingle, FormatRecord({"One", "i1", "c1"}, world.Ansi));
   PointAt(1, "One", "i1", "c1");
-  EXPECT_EQ(DeleteItem(program, false).Reason(), FileError::DiskFull);
-  EXPECT_EQ(PasteItem(program).Reason(), FileError::DiskFull);
+  EXPECT_EQ(program.Commands.DeleteItem(false).Reason(), FileError::DiskFull);
+  EXPECT_EQ(program.Commands.PasteItem().Reason(), FileError::DiskFull);
 }
 
 TEST_F(EntryCommandsTest, AnyOneFailureWhileDeletingLeavesTheOldFileOrTheNew) {
@@ -319,7 +319,7 @@ TEST_F(EntryCommandsTest, AnyOneFailureWhileDeletingLeavesTheOldFileOrTheNew) {
     PointAt(3, "Two", "i2", "c2");
     world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
     world.Files.FailCall(n, FileError::DiskFull);
-    DeleteItem(program, false);
+    program.Commands.DeleteItem(false);
     const bool hit = world.Files.Hit();
     world.Files.StopFailing();
     const std::string now = Titles();
@@ -341,24 +341,25 @@ TEST_F(EntryCommandsTest, EachEditIsToldOnceAndWhenTheFileIsWritten) {
   const std::string second = "C:\\Corvelle\\Menus\\BMENU002.MNU";
   const auto clip = [](Program& p) { SetClipboard(p.Entry, {"Clip", "i", "c"}); };
   const Command commands[] = {
-      {"delete", [](Program& p) { DeleteItem(p, true); }, "Button One Three "},
+      {"delete", [](Program& p) { p.Commands.DeleteItem(true); }, "Button One Three "},
       {"paste",
        [&](Program& p) {
          clip(p);
-         PasteItem(p);
+         p.Commands.PasteItem();
        },
        "Button One Clip Two Three "},
       {"undo",
        [](Program& p) {
          RememberForUndo(p.Entry);
-         UndoDeleteItem(p);
+         p.Commands.UndoDeleteItem();
        },
        "Button One Two Two Three "},
-      {"move within a menu", [](Program& p) { DropItem(p, "F1", {.File = kFile}, false); },
+      {"move within a menu", [](Program& p) { p.Commands.DropItem("F1", {.File = kFile}, false); },
        "Button One Three Two "},
-      {"move to another menu", [&](Program& p) { DropItem(p, "F2", {.File = second}, false); },
+      {"move to another menu",
+       [&](Program& p) { p.Commands.DropItem("F2", {.File = second}, false); },
        "Button One Three "},
-      {"copy", [](Program& p) { DropItem(p, "F1", {.File = kFile, .Before = 2}, true); },
+      {"copy", [](Program& p) { p.Commands.DropItem("F1", {.File = kFile, .Before = 2}, true); },
        "Button Two One Two Three "},
       {"delete a whole button",
        [](Program& p) {
@@ -367,7 +368,7 @@ TEST_F(EntryCommandsTest, EachEditIsToldOnceAndWhenTheFileIsWritten) {
          p.Entry.CurTitle = "Button";
          p.Entry.CurIcon.clear();
          p.Entry.CurCommand.clear();
-         DeleteItem(p, true);
+         p.Commands.DeleteItem(true);
        },
        ""},
   };
@@ -392,7 +393,7 @@ TEST_F(EntryCommandsTest, TheToldOneComesBeforeWhatIsShown) {
   PointAt(3, "Two", "i2", "c2");
   NotedEdits edits([this] { return std::to_string(log.size()); });
   program.Ports.MenuEdits = &edits;
-  DeleteItem(program, true);
+  program.Commands.DeleteItem(true);
   EXPECT_EQ(edits.Seen, CallLog{"0"});
   EXPECT_EQ(log.size(), 1U);
 }
@@ -402,13 +403,13 @@ TEST_F(EntryCommandsTest, WhatChangedNothingIsNotTold) {
   program.Ports.MenuEdits = &edits;
   PointAt(3, "Two", "i2", "other");
   world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
-  DeleteItem(program, true);
+  program.Commands.DeleteItem(true);
   PointAt(3, "Two", "i2", "c2");
-  DropItem(program, "F1", {.File = kFile, .Before = 3}, false);
+  program.Commands.DropItem("F1", {.File = kFile, .Before = 3}, false);
   world.Files.HoldOpen(kFile, sim::SimFiles::Hold::ForReading);
-  DeleteItem(program, true);
-  PasteItem(program);
-  DropItem(program, "F1", {.File = kFile}, false);
+  program.Commands.DeleteItem(true);
+  program.Commands.PasteItem();
+  program.Commands.DropItem("F1", {.File = kFile}, false);
   EXPECT_TRUE(edits.Seen.empty());
   EXPECT_EQ(Titles(), "Button One Two Three ");
 }
@@ -420,13 +421,13 @@ TEST_F(EntryCommandsTest, AnEditOfTheRowOfSingleButtonsIsToldUnlessTheDiskRefuse
   program.Entry.CurFile = kSingle;
   world.Files.Put(kSingle, FormatRecord({"One", "i1", "c1"}, world.Ansi));
   PointAt(1, "One", "i1", "c1");
-  DeleteItem(program, true);
-  PasteItem(program);
+  program.Commands.DeleteItem(true);
+  program.Commands.PasteItem();
   program.Entry.UndoMenuTag = "SingleButtons";
-  UndoDeleteItem(program);
+  program.Commands.UndoDeleteItem();
   EXPECT_EQ(edits.Seen, (CallLog{"row", "row", "row"}));
   singles.Answer = FileError::DiskFull;
-  PasteItem(program);
+  program.Commands.PasteItem();
   EXPECT_EQ(edits.Seen.size(), 3U);
 }
 

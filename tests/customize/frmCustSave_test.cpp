@@ -264,7 +264,7 @@ TEST(CustomizeDraft, ASaveOfOtherChangesBringsTheOfferedOneToTheNewFiles) {
 TEST(CustomizeDraft, AnEditElsewhereComesIntoTheOfferedOneToo) {
   TwoDraftsDesk desk;
   desk.Put(SingleFileName(2), {CustDesk::Entry("Edit")});
-  desk.parts->TheProgram.TellMenusEdited();
+  desk.parts->TheProgram.Ports.TellMenusEdited();
   desk.world.Desktop.Advance(200);
   const std::vector<std::string> both{"Letters(Alpha Beta -) Tools(Hammer) | Clock Edit",
                                       "Letters(Alpha Beta -) Tools(Hammer Anvil) | Watch Edit"};
@@ -283,7 +283,7 @@ TEST(CustomizeDraft, ARenameThatCannotComeTogetherWithAnEditElsewhereIsOfferedAl
   desk.Rename("Hammer", "Mallet");
   desk.PutMenu(2, {"Tools", "Button", ""},
                {{"Hammer", "other.ico", "other.exe"}, CustDesk::Entry("Anvil")});
-  desk.parts->TheProgram.TellMenusEdited();
+  desk.parts->TheProgram.Ports.TellMenusEdited();
   desk.world.Desktop.Advance(200);
   desk.Close();
   ASSERT_FALSE(desk.Form().IsLoaded());
@@ -386,7 +386,7 @@ TEST(CustomizeOthers, WhatIsDoneOnTheStripComesInWhenNothingIsUnsaved) {
 TEST(CustomizeOthers, AnEditOfTheProgramItselfIsSeenAtOnceWithoutALookAway) {
   CustDesk desk;
   desk.PutMenu(2, {"Tools", "Button", ""}, {CustDesk::Entry("Saw")});
-  desk.parts->TheProgram.TellMenusEdited();
+  desk.parts->TheProgram.Ports.TellMenusEdited();
   desk.world.Desktop.Advance(200);
   EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Saw) | Clock Paint");
 }
@@ -396,7 +396,7 @@ TEST(CustomizeOthers, AnEditElsewhereWaitsForTheEndOfALabelEdit) {
   desk.Form().TreeView1.BeginEdit(desk.Node("Clock"));
   ASSERT_NE(desk.Form().TreeView1.Edited(), forms::kNoNode);
   desk.PutMenu(2, {"Tools", "Button", ""}, {CustDesk::Entry("Saw")});
-  desk.parts->TheProgram.TellMenusEdited();
+  desk.parts->TheProgram.Ports.TellMenusEdited();
   desk.world.Desktop.Advance(200);
   EXPECT_NE(desk.Form().TreeView1.Edited(), forms::kNoNode);
   desk.Form().TreeView1.EndEdit(false);

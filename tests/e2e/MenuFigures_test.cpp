@@ -18,6 +18,7 @@
 
 #include "core/MenuRecord.h"
 #include "e2e/Heartbeat.h"
+#include "e2e/Median.h"
 #include "e2e/MenuLook.h"
 #include "e2e/ProcessCounts.h"
 #include "e2e/Times.h"
@@ -66,12 +67,6 @@ struct Measured {
   std::vector<double> PrivateMegabytes;
 };
 
-double Middle(std::vector<double> values) {
-  if (values.empty()) return 0;
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
 double Least(const std::vector<double>& values) {
   return values.empty() ? 0 : *std::min_element(values.begin(), values.end());
 }
@@ -90,8 +85,8 @@ void PrintHead(const char* title) {
 /// Medians, of the gaps the longest, and of the memory the most.
 void PrintRow(const std::string& name, const Measured& of) {
   std::printf("| %-28s | %10.0f ms | %9.0f ms | %11.0f ms | %8.0f ms | %7.0f ms | %4.1f MB |\n",
-              name.c_str(), Middle(of.First), Middle(of.Captions), Middle(of.Rest), Most(of.Gap),
-              Most(of.IdleGap), Most(of.PrivateMegabytes));
+              name.c_str(), MedianOf(of.First), MedianOf(of.Captions), MedianOf(of.Rest),
+              Most(of.Gap), Most(of.IdleGap), Most(of.PrivateMegabytes));
   std::fflush(stdout);
 }
 
@@ -174,7 +169,7 @@ class MenuFigures : public testing::Test {
     MeasureBareMenu();
     for (const int size : sizes) MeasureMenu(size);
     std::printf("| start until the strip answers: %.0f ms, longest gap of it %.0f ms\n",
-                Middle(starts_), Most(startGaps_));
+                MedianOf(starts_), Most(startGaps_));
   }
 
   /// Programs of their own, each with an icon to be fetched; all of them one file of the disk.

@@ -10,6 +10,8 @@
 
 #include "base/CodePage.h"
 #include "core/MenuRecord.h"
+#include "e2e/Heartbeat.h"
+#include "e2e/Median.h"
 #include "e2e/Times.h"
 #include "e2e/WineDesk.h"
 #include "scenario/Strip.h"
@@ -24,19 +26,6 @@ using scenario::WriteMenu;
 
 constexpr double kTooLong = 20'000;
 constexpr int kMenusOfStart = 8;
-
-double Now() {
-  LARGE_INTEGER now = {};
-  LARGE_INTEGER frequency = {};
-  QueryPerformanceCounter(&now);
-  QueryPerformanceFrequency(&frequency);
-  return static_cast<double>(now.QuadPart) * 1000 / static_cast<double>(frequency.QuadPart);
-}
-
-double MedianOf(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values.empty() ? 0 : values[values.size() / 2];
-}
 
 std::string Told(const std::vector<double>& values) {
   const auto [least, most] = std::minmax_element(values.begin(), values.end());
@@ -62,19 +51,19 @@ struct Start {
 Start WatchStart(const wchar_t* className, double began) {
   Start start;
   HWND window = nullptr;
-  while (Now() < began + kTooLong) {
+  while (NowInMilliseconds() < began + kTooLong) {
     if (!StandsOnScreen(window)) {
       window = FindWindowW(className, nullptr);
-      if (window != nullptr) start.Exists = std::min(start.Exists, Now() - began);
+      if (window != nullptr) start.Exists = std::min(start.Exists, NowInMilliseconds() - began);
       if (!StandsOnScreen(window)) {
         Sleep(1);
         continue;
       }
     }
-    start.Stands = Now() - began;
+    start.Stands = NowInMilliseconds() - began;
     DWORD_PTR answer = 0;
     if (SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_NORMAL, 10'000, &answer) != 0)
-      start.Answers = Now() - began;
+      start.Answers = NowInMilliseconds() - began;
     return start;
   }
   return start;
@@ -87,7 +76,7 @@ double TimeOfBare(const wchar_t* name) {
   PROCESS_INFORMATION process = {};
   const std::wstring program = std::wstring(L"C:\\e2e\\") + name + L".exe";
   std::wstring command = L"\"" + program + L"\"";
-  const double began = Now();
+  const double began = NowInMilliseconds();
   if (CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                      &info, &process) == FALSE) {
     return kTooLong;
@@ -128,10 +117,10 @@ void PutEntries(WineDesk& desk) {
 /// Presses a button of the strip and gives the time until its menu stands.
 double TimeOfPress(WineDesk& desk, int button) {
   desk.MovePointer(ButtonMiddle(desk, button));
-  const double pressed = Now();
+  const double pressed = NowInMilliseconds();
   desk.Press(scenario::Button::Left);
-  while (Now() < pressed + 5000) {
-    if (StandsOnScreen(desk.Handle("frmQMenu"))) return Now() - pressed;
+  while (NowInMilliseconds() < pressed + 5000) {
+    if (StandsOnScreen(desk.Handle("frmQMenu"))) return NowInMilliseconds() - pressed;
     Sleep(1);
   }
   return kTooLong;
@@ -153,7 +142,7 @@ TEST(StartTime, OfTheStripBesideThatOfTheBareCalls) {
   for (int round = 0; round < rounds; ++round) {
     bare.push_back(TimeOfBare(L"bare"));
     shell.push_back(TimeOfBare(L"bareshell"));
-    const double began = Now();
+    const double began = NowInMilliseconds();
     desk.StartCorvelle();
     const Start start = WatchStart(L"frmToolbar", began);
     ASSERT_LT(start.Answers, kTooLong) << round;

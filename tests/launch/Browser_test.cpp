@@ -496,7 +496,7 @@ TEST_F(SlowBrowserTest, AConversationThatIsNotAnsweredHoldsUpNothing) {
   OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Tries(), 0) << "nothing is asked by the windows themselves";
   EXPECT_TRUE(world.Files.Log().empty());
-  LaunchItem(program, kOther);
+  LaunchItem(program.Launch, kOther);
   EXPECT_EQ(world.Starts.UnderWay(), 2) << "the next choice is started beside it";
   world.Starts.Resume();
   EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"IExplore", kTopic, kItem}}));
@@ -728,14 +728,14 @@ struct LinkEntryTest : BrowserDesk {
 TEST_F(LinkEntryTest, AUrlFileLeadsToTheBrowser) {
   HaveBrowser(kExplorer, "IExplore");
   world.Files.Put("C:\\a.url", "[InternetShortcut]\r\nURL=http://a.example/\r\n");
-  LaunchItem(program, "C:\\a.url");
+  LaunchItem(program.Launch, "C:\\a.url");
   EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"IExplore", kTopic, kItem}}));
 }
 
 TEST_F(LinkEntryTest, AMailEntryWithoutAMailProgramGivesTheMailMessage) {
   world.Shell.Fail("MAILTO:x");
   world.Desktop.Answer(kMailError, forms::msgbox::AnswerOk);
-  LaunchItem(program, " MAILTO:x ");
+  LaunchItem(program.Launch, " MAILTO:x ");
   EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
 }
 

@@ -31,7 +31,7 @@ struct ClearRecentDocsTest : BuiltInDesk {
   ClearRecentDocsTest() { world.Links.SetFolder(kRecentFolder, "C:\\Users\\Ann\\Recent"); }
 
   /// The command as an entry has it.
-  void Clear() { LaunchItem(program, "ClearRecentDocs"); }
+  void Clear() { LaunchItem(program.Launch, "ClearRecentDocs"); }
   void Put(const std::string& name) { world.Files.Put(kRecent + name, "x"); }
 };
 
@@ -149,12 +149,12 @@ TEST_F(NetSearchTest, LoadsTheSearchWindowInAnyCase) {
   CountingWindow window;
   program.Ports.NetSearch = &window;
   for (const char* word : {"netsearch", "NetSearch", "NETSEARCH", "?netsearch"})
-    LaunchItem(program, word);
+    LaunchItem(program.Launch, word);
   EXPECT_EQ(window.Loads, 4);
 }
 
 TEST_F(NetSearchTest, WithoutThatWindowNothingIsStarted) {
-  LaunchItem(program, "NetSearch");
+  LaunchItem(program.Launch, "NetSearch");
   EXPECT_TRUE(world.Shell.Log().empty());
   EXPECT_EQ(BoxCount(), 0U);
 }

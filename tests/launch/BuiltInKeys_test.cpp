@@ -50,7 +50,7 @@ TEST(KeySequence, AllKeysGoDownAndThenUpInTheSameOrder) {
 TEST_F(BuiltInKeysTest, EachWordPressesItsKeys) {
   for (const WordRow& row : kWords) {
     world.Keyboard.ClearLog();
-    LaunchItem(program, row.Word);
+    LaunchItem(program.Launch, row.Word);
     EXPECT_EQ(world.Keyboard.Log(), row.Keys) << row.Word;
   }
   EXPECT_TRUE(world.Shell.Log().empty());
@@ -59,20 +59,20 @@ TEST_F(BuiltInKeysTest, EachWordPressesItsKeys) {
 TEST_F(BuiltInKeysTest, TheCaseOfAWordDoesNotCount) {
   for (const char* word : {"findcomputer", "FINDCOMPUTER", " findCOMPUTER ", "?FindComputer"}) {
     world.Keyboard.ClearLog();
-    LaunchItem(program, word);
+    LaunchItem(program.Launch, word);
     EXPECT_EQ(world.Keyboard.Log(), kWords[0].Keys) << word;
   }
 }
 
 TEST_F(BuiltInKeysTest, AWordWithMoreBehindItIsNone) {
   world.Desktop.Answer("File/Device unavailable.", kOk);
-  LaunchItem(program, "FindComputer x");
+  LaunchItem(program.Launch, "FindComputer x");
   EXPECT_TRUE(world.Keyboard.Log().empty());
 }
 
 TEST_F(BuiltInKeysTest, RunDialogIsNoWordAndEndsAsAFileThatIsNotThere) {
   world.Desktop.Answer("File/Device unavailable.", kOk);
-  LaunchItem(program, "RunDialog");
+  LaunchItem(program.Launch, "RunDialog");
   EXPECT_TRUE(world.Keyboard.Log().empty());
   EXPECT_EQ(BoxCount(), 1U);
 }
@@ -80,8 +80,8 @@ TEST_F(BuiltInKeysTest, RunDialogIsNoWordAndEndsAsAFileThatIsNotThere) {
 TEST_F(BuiltInKeysTest, AShellThatDoesNotKnowTheKeysShowsNothing) {
   const WindowId other = world.Desktop.AddOtherWindow({.Title = "Other"});
   world.Desktop.TakeForeground(other);
-  LaunchItem(program, "MinimizeAllWindows");
-  LaunchItem(program, "UndoMinimizeAll");
+  LaunchItem(program.Launch, "MinimizeAllWindows");
+  LaunchItem(program.Launch, "UndoMinimizeAll");
   EXPECT_FALSE(world.Desktop.IsMinimized(other));
   EXPECT_EQ(world.Desktop.ForegroundWindow(), other);
   EXPECT_EQ(BoxCount(), 0U);

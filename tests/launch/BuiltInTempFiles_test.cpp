@@ -61,7 +61,7 @@ struct ClearTempFolderTest : BuiltInDesk {
   void ClearExpecting(int count) {
     world.Desktop.Answer(kQuestion, kYes);
     world.Desktop.Answer(Report(count), kOk);
-    LaunchItem(program, "ClearTempFolder");
+    LaunchItem(program.Launch, "ClearTempFolder");
   }
 };
 
@@ -115,7 +115,7 @@ TEST_F(ClearTempFolderTest, AsksFirstAndReportsAtTheEndOnTopOfAllWindows) {
 TEST_F(ClearTempFolderTest, ANoDeletesNothing) {
   PutMany(3);
   world.Desktop.Answer(kQuestion, kNo);
-  LaunchItem(program, "ClearTempFolder");
+  LaunchItem(program.Launch, "ClearTempFolder");
   EXPECT_EQ(Left().size(), 3U);
   EXPECT_EQ(world.Files.Count("List"), 0);
   EXPECT_EQ(BoxCount(), 1U);
@@ -139,7 +139,7 @@ TEST_F(ClearTempFolderTest, WithoutAFolderItSaysSoAndDeletesNothing) {
   world.FileOps.SetTempPath(std::nullopt);
   world.Desktop.Answer(kQuestion, kYes);
   world.Desktop.Answer(kNoFolder, kOk);
-  LaunchItem(program, "ClearTempFolder");
+  LaunchItem(program.Launch, "ClearTempFolder");
   EXPECT_EQ(Box().Title, "Corvelle");
   EXPECT_EQ(Box().Flags, 262160U);
   EXPECT_EQ(Left().size(), 1U);
@@ -150,7 +150,7 @@ TEST_F(ClearTempFolderTest, AFolderThatWentAwayIsTold) {
   world.Files.Vanish("C:\\Users\\Ann\\Temp");
   world.Desktop.Answer(kQuestion, kYes);
   world.Desktop.Answer(kNoFolder, kOk);
-  LaunchItem(program, "ClearTempFolder");
+  LaunchItem(program.Launch, "ClearTempFolder");
 }
 
 TEST_F(ClearTempFolderTest, AFolderThatCannotBeListedIsTold) {
@@ -158,7 +158,7 @@ TEST_F(ClearTempFolderTest, AFolderThatCannotBeListedIsTold) {
   world.Files.FailCall(1, FileError::AccessDenied);
   world.Desktop.Answer(kQuestion, kYes);
   world.Desktop.Answer(kNoFolder, kOk);
-  LaunchItem(program, "ClearTempFolder");
+  LaunchItem(program.Launch, "ClearTempFolder");
   EXPECT_EQ(Left().size(), 1U);
 }
 

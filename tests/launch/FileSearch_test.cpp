@@ -28,7 +28,7 @@ struct FileSearchTest : BuiltInDesk {
 TEST_F(FileSearchTest, TheWordOpensTheSearchAndPressesNoKey) {
   for (const char* word : {"FileFind", "filefind", "?FILEFIND", " fileFind "}) {
     world.Shell.ClearLog();
-    LaunchItem(program, word);
+    LaunchItem(program.Launch, word);
     EXPECT_EQ(world.Shell.Started(), Strings{kAddress}) << word;
   }
   EXPECT_TRUE(world.Keyboard.Log().empty());
@@ -38,28 +38,28 @@ TEST_F(FileSearchTest, TheWordOpensTheSearchAndPressesNoKey) {
 TEST_F(FileSearchTest, WithoutTheProtocolItsFolderIsOpened) {
   RemoveProtocol();
   AddFolder();
-  LaunchItem(program, "FileFind");
+  LaunchItem(program.Launch, "FileFind");
   EXPECT_EQ(world.Shell.Started(), Strings{kFolder});
 }
 
 TEST_F(FileSearchTest, AProtocolThatFailsLeavesItToTheFolder) {
   AddFolder();
   world.Shell.FailToOpen(kAddress, OpenError::Other);
-  LaunchItem(program, "FileFind");
+  LaunchItem(program.Launch, "FileFind");
   EXPECT_EQ(world.Shell.Started(), Strings{kFolder});
 }
 
 TEST_F(FileSearchTest, WhatTheUserRefusesEndsThere) {
   AddFolder();
   world.Shell.FailToOpen(kAddress, OpenError::Cancelled);
-  LaunchItem(program, "FileFind");
+  LaunchItem(program.Launch, "FileFind");
   EXPECT_EQ(world.Shell.Log().size(), 1U);
   EXPECT_EQ(BoxCount(), 0U);
 }
 
 TEST_F(FileSearchTest, ASearchThatTakesItsTimeIsOpenedOnceAndHoldsUpNothing) {
   world.Starts.Hang();
-  for (int i = 0; i < 2; ++i) LaunchItem(program, "FileFind");
+  for (int i = 0; i < 2; ++i) LaunchItem(program.Launch, "FileFind");
   EXPECT_EQ(world.Starts.UnderWay(), 1);
   EXPECT_TRUE(world.Shell.Log().empty());
   world.Starts.Resume();
@@ -70,7 +70,7 @@ TEST_F(FileSearchTest, AMachineWithoutASearchSaysSo) {
   RemoveProtocol();
   EXPECT_FALSE(HasFileSearch(world.Keys));
   world.Desktop.Answer(kUnavailable, kOk);
-  LaunchItem(program, "FileFind");
+  LaunchItem(program.Launch, "FileFind");
   EXPECT_EQ(Box().Flags, 262160U);
   EXPECT_TRUE(world.Shell.Log().empty());
   AddFolder();

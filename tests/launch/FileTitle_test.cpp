@@ -86,32 +86,34 @@ TEST(FileTitles, OfAKeptExtensionLoseTheShortcutWordsAllTheSame) {
 TEST(GetFileTitle, AsksTheShellTheDiskAndTheOptions) {
   sim::World world;
   Program program(world.Services(), world.Windows());
+  const FileTitles titles(program.Starts, program.Services.Ansi, program.OptionFlags);
   world.Files.Put("C:\\Docs\\Plan.txt", "x");
   world.Files.MakeFolders("C:\\Docs\\Old.txt");
-  EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Plan.txt"), "Plan");
-  EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Old.txt"), "Old.txt");
-  EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Gone.txt"), "Gone");
+  EXPECT_EQ(titles.GetFileTitle("C:\\Docs\\Plan.txt"), "Plan");
+  EXPECT_EQ(titles.GetFileTitle("C:\\Docs\\Old.txt"), "Old.txt");
+  EXPECT_EQ(titles.GetFileTitle("C:\\Docs\\Gone.txt"), "Gone");
   program.OptionFlags.Set(Option::KeepExtension, '1');
-  EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Plan.txt"), "Plan.txt");
+  EXPECT_EQ(titles.GetFileTitle("C:\\Docs\\Plan.txt"), "Plan.txt");
 }
 
 TEST(GetFileTitle, OfADiskThatDoesNotAnswerIsThatOfThePath) {
   sim::World world;
   Program program(world.Services(), world.Windows());
+  const FileTitles titles(program.Starts, program.Services.Ansi, program.OptionFlags);
   world.Files.AddDrive('D');
   world.Files.MakeFolders("D:\\Docs\\Old.txt");
   world.Starts.Hang();
-  const auto names = GetDroppedNames(program, {"D:\\Docs\\Plan.txt", "D:\\Docs\\Old.txt"});
+  const auto names = titles.GetDroppedNames({"D:\\Docs\\Plan.txt", "D:\\Docs\\Old.txt"});
   ASSERT_EQ(names.size(), 2U);
   EXPECT_EQ(names[0].Title, "Plan");
   EXPECT_EQ(names[0].Stored, "D:\\Docs\\Plan.txt");
   EXPECT_EQ(names[1].Title, "Old");
-  EXPECT_EQ(GetFileTitle(program, "D:\\Docs\\Plan.txt"), "Plan");
+  EXPECT_EQ(titles.GetFileTitle("D:\\Docs\\Plan.txt"), "Plan");
   EXPECT_EQ(world.Starts.UnderWay(), 1) << "while it hangs it is not asked again";
-  EXPECT_EQ(GetFileTitle(program, "C:\\Docs\\Plan.txt"), "Plan");
+  EXPECT_EQ(titles.GetFileTitle("C:\\Docs\\Plan.txt"), "Plan");
   EXPECT_EQ(world.Starts.UnderWay(), 2) << "another disk is";
   world.Starts.Resume();
-  EXPECT_EQ(GetFileTitle(program, "D:\\Docs\\Old.txt"), "Old.txt");
+  EXPECT_EQ(titles.GetFileTitle("D:\\Docs\\Old.txt"), "Old.txt");
 }
 
 }  // namespace corvelle

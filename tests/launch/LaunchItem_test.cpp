@@ -87,59 +87,59 @@ using OpenWithItemTest = LaunchDesk;
 }  // namespace
 
 TEST_F(LaunchItemTest, AProgramStartsInItsOwnFolder) {
-  LaunchItem(program, "C:\\Tools\\tool.exe");
+  LaunchItem(program.Launch, "C:\\Tools\\tool.exe");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Tools\\tool.exe", "C:\\Tools\\")});
 }
 
 TEST_F(LaunchItemTest, AFileInTheDrivesRootRunsThere) {
-  LaunchItem(program, "C:\\root.exe");
+  LaunchItem(program.Launch, "C:\\root.exe");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\root.exe", "C:\\")});
 }
 
 TEST_F(LaunchItemTest, ARelativeNameRunsWithoutAFolder) {
-  LaunchItem(program, "explorer.exe");
+  LaunchItem(program.Launch, "explorer.exe");
   EXPECT_EQ(Launches(), std::vector{Opened("explorer.exe")});
 }
 
 TEST_F(LaunchItemTest, ANetworkPathRunsWithoutAFolder) {
   ExpectUnavailable();
-  LaunchItem(program, "\\\\server\\share\\tool.exe");
+  LaunchItem(program.Launch, "\\\\server\\share\\tool.exe");
   ASSERT_FALSE(Launches().empty());
   EXPECT_EQ(Launches().front(), NotOpened("\\\\server\\share\\tool.exe"));
 }
 
 TEST_F(LaunchItemTest, BlanksAtTheEndsAreNoPartOfTheCommand) {
-  EXPECT_EQ(LaunchItem(program, "   C:\\Tools\\tool.exe  "), "C:\\Tools\\tool.exe");
+  EXPECT_EQ(LaunchItem(program.Launch, "   C:\\Tools\\tool.exe  "), "C:\\Tools\\tool.exe");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Tools\\tool.exe", "C:\\Tools\\")});
 }
 
 TEST_F(LaunchItemTest, ADocumentOpensWithItsProgram) {
-  LaunchItem(program, "C:\\Docs\\plan.txt");
+  LaunchItem(program.Launch, "C:\\Docs\\plan.txt");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Docs\\plan.txt", "C:\\Docs\\")});
 }
 
 TEST_F(LaunchItemTest, ATextWithBlanksIsFirstTriedWholeAsAFile) {
   world.Files.Put("C:\\Tools\\tool.exe second.txt", "x");
-  LaunchItem(program, "C:\\Tools\\tool.exe second.txt");
+  LaunchItem(program.Launch, "C:\\Tools\\tool.exe second.txt");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Tools\\tool.exe second.txt", "C:\\Tools\\")});
 }
 
 TEST_F(LaunchItemTest, AProgramWithArgumentsRunsAsACommandLine) {
   const std::string line = "explorer.exe /e,/root,,::{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
-  LaunchItem(program, line);
+  LaunchItem(program.Launch, line);
   EXPECT_EQ(Launches(), (std::vector{NotOpened(line), Ran(line)}));
   EXPECT_EQ(Boxes(), 0U);
 }
 
 TEST_F(LaunchItemTest, TheRawMarkerIsTakenOff) {
-  EXPECT_EQ(LaunchItem(program, "? C:\\Tools\\tool.exe /x"), "C:\\Tools\\tool.exe /x");
+  EXPECT_EQ(LaunchItem(program.Launch, "? C:\\Tools\\tool.exe /x"), "C:\\Tools\\tool.exe /x");
   ASSERT_EQ(Launches().size(), 2U);
   EXPECT_EQ(Launches().back(), Ran("C:\\Tools\\tool.exe /x"));
 }
 
 TEST_F(LaunchItemTest, AMissingFileIsUnavailable) {
   ExpectUnavailable();
-  LaunchItem(program, "C:\\Tools\\gone.exe");
+  LaunchItem(program.Launch, "C:\\Tools\\gone.exe");
   EXPECT_EQ(Launches(), (std::vector{NotOpened("C:\\Tools\\gone.exe", "C:\\Tools\\"),
                                      NotRun("C:\\Tools\\gone.exe")}));
   ASSERT_EQ(Boxes(), 1U);
@@ -149,7 +149,7 @@ TEST_F(LaunchItemTest, AMissingFileIsUnavailable) {
 
 TEST_F(LaunchItemTest, ABadFileNameIsUnavailable) {
   ExpectUnavailable();
-  LaunchItem(program, "<not a name>");
+  LaunchItem(program.Launch, "<not a name>");
   EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
   EXPECT_EQ(Boxes(), 1U);
 }
@@ -157,14 +157,14 @@ TEST_F(LaunchItemTest, ABadFileNameIsUnavailable) {
 TEST_F(LaunchItemTest, AWordThatNoTestKnowsIsUnavailable) {
   AddServices();
   ExpectUnavailable();
-  LaunchItem(program, "RunDialog");
+  LaunchItem(program.Launch, "RunDialog");
   EXPECT_EQ(log, CallLog());
   EXPECT_EQ(Boxes(), 1U);
 }
 
 TEST_F(LaunchItemTest, TheMarkerAloneIsUnavailableAndNotEmpty) {
   ExpectUnavailable();
-  EXPECT_EQ(LaunchItem(program, "?"), "");
+  EXPECT_EQ(LaunchItem(program.Launch, "?"), "");
   EXPECT_EQ(Boxes(), 1U);
 }
 
@@ -173,13 +173,13 @@ TEST_F(LaunchItemTest, TheUnavailableMessageBelongsToTheStrip) {
   toolbar.LoadWindow();
   program.Ports.Toolbar = &toolbar;
   ExpectUnavailable();
-  LaunchItem(program, "C:\\gone.exe");
+  LaunchItem(program.Launch, "C:\\gone.exe");
   ASSERT_EQ(Boxes(), 1U);
   EXPECT_EQ(world.Desktop.Boxes()[0].Owner, toolbar.WindowHandle());
 }
 
 TEST_F(LaunchItemTest, ADocumentWithoutAProgramBringsTheOpenWithDialog) {
-  LaunchItem(program, "C:\\Docs\\odd.xyz");
+  LaunchItem(program.Launch, "C:\\Docs\\odd.xyz");
   EXPECT_EQ(Launches(),
             (std::vector{NotOpened("C:\\Docs\\odd.xyz", "C:\\Docs\\"), NotRun("C:\\Docs\\odd.xyz"),
                          Ran("rundll32.exe shell32.dll,OpenAs_RunDLL C:\\Docs\\odd.xyz")}));
@@ -189,7 +189,7 @@ TEST_F(LaunchItemTest, ADocumentWithoutAProgramBringsTheOpenWithDialog) {
 TEST_F(LaunchItemTest, AnotherFailureWithoutAFileIsToldOf) {
   ExpectUnavailable();
   world.Shell.Fail("C:\\Tools\\tool.exe /x", RunError::Other);
-  LaunchItem(program, "C:\\Tools\\tool.exe /x");
+  LaunchItem(program.Launch, "C:\\Tools\\tool.exe /x");
   EXPECT_EQ(Launches(), (std::vector{NotOpened("C:\\Tools\\tool.exe /x", "C:\\Tools\\"),
                                      NotRun("C:\\Tools\\tool.exe /x")}));
   EXPECT_EQ(Boxes(), 1U);
@@ -198,7 +198,7 @@ TEST_F(LaunchItemTest, AnotherFailureWithoutAFileIsToldOf) {
 TEST_F(LaunchItemTest, AnotherFailureOfAFolderIsToldOf) {
   ExpectUnavailable();
   world.Shell.Fail("C:\\Docs", RunError::Other);
-  LaunchItem(program, "C:\\Docs");
+  LaunchItem(program.Launch, "C:\\Docs");
   EXPECT_EQ(Launches(), (std::vector{NotOpened("C:\\Docs", "C:\\"), NotRun("C:\\Docs")}));
   EXPECT_EQ(Boxes(), 1U);
 }
@@ -207,7 +207,7 @@ TEST_F(LaunchItemTest, AMissingOpenWithDialogIsToldOf) {
   ExpectUnavailable();
   world.Shell.Fail("rundll32.exe shell32.dll,OpenAs_RunDLL C:\\Docs\\odd.xyz",
                    RunError::FileNotFound);
-  LaunchItem(program, "C:\\Docs\\odd.xyz");
+  LaunchItem(program.Launch, "C:\\Docs\\odd.xyz");
   EXPECT_EQ(Launches().size(), 3U);
   EXPECT_EQ(Boxes(), 1U);
 }
@@ -219,7 +219,7 @@ TEST_F(LaunchItemTest, WhatTheUserRefusesEndsThere) {
                               "C:\\Links\\tool.lnk", "ftp://a.example"}) {
     world.Shell.ClearLog();
     world.Shell.FailToOpen(command, OpenError::Cancelled);
-    LaunchItem(program, command);
+    LaunchItem(program.Launch, command);
     ASSERT_EQ(Launches().size(), 1U) << command;
     EXPECT_FALSE(Launches()[0].Started) << command;
   }
@@ -233,7 +233,7 @@ TEST_F(LaunchItemTest, WithoutAccessTheUserIsToldAndNothingElseIsTried) {
     world.Shell.ClearLog();
     world.Shell.FailToOpen(command, OpenError::AccessDenied);
     world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
-    LaunchItem(program, command);
+    LaunchItem(program.Launch, command);
     ASSERT_EQ(Launches().size(), 1U) << command;
     EXPECT_EQ(world.Desktop.Boxes().back().Flags, 262160U) << command;
   }
@@ -244,7 +244,7 @@ TEST_F(LaunchItemTest, ACommandLineWithoutAccessSaysSoAndOffersNoOtherProgram) {
   world.Shell.FailToOpen("C:\\Docs\\odd.xyz", OpenError::Other);
   world.Shell.Fail("C:\\Docs\\odd.xyz", RunError::AccessDenied);
   world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
-  LaunchItem(program, "C:\\Docs\\odd.xyz");
+  LaunchItem(program.Launch, "C:\\Docs\\odd.xyz");
   EXPECT_EQ(Launches().size(), 2U);
   EXPECT_EQ(Boxes(), 1U);
 }
@@ -252,7 +252,7 @@ TEST_F(LaunchItemTest, ACommandLineWithoutAccessSaysSoAndOffersNoOtherProgram) {
 TEST_F(LaunchItemTest, ACommandLineThatNeedsElevationIsGivenToTheShellInItsParts) {
   const std::string line = "C:\\Tools\\tool.exe /all users";
   world.Shell.Fail(line, RunError::NeedsElevation);
-  LaunchItem(program, "?" + line);
+  LaunchItem(program.Launch, "?" + line);
   Launch elevated = Opened("C:\\Tools\\tool.exe", "C:\\Tools\\");
   elevated.Parameters = "/all users";
   EXPECT_EQ(Launches(), (std::vector{NotOpened(line, "C:\\Tools\\"), NotRun(line), elevated}));
@@ -260,7 +260,7 @@ TEST_F(LaunchItemTest, ACommandLineThatNeedsElevationIsGivenToTheShellInItsParts
   // The user's "no" to it is the end.
   world.Shell.ClearLog();
   world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::Cancelled);
-  LaunchItem(program, "?" + line);
+  LaunchItem(program.Launch, "?" + line);
   EXPECT_EQ(Launches().size(), 3U);
   EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
   EXPECT_EQ(Boxes(), 0U);
@@ -268,13 +268,13 @@ TEST_F(LaunchItemTest, ACommandLineThatNeedsElevationIsGivenToTheShellInItsParts
 
 TEST_F(OpenWithItemTest, WhatTheUserRefusesOrMayNotOpenEndsThere) {
   world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::Cancelled);
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
   EXPECT_EQ(Launches().size(), 1U);
   EXPECT_EQ(Boxes(), 0U);
 
   world.Shell.FailToOpen("C:\\Tools\\tool.exe", OpenError::AccessDenied);
   world.Desktop.Answer(kNoAccess, forms::msgbox::AnswerOk);
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
   EXPECT_EQ(Launches().size(), 2U);
   EXPECT_EQ(Boxes(), 1U);
 }
@@ -282,7 +282,7 @@ TEST_F(OpenWithItemTest, WhatTheUserRefusesOrMayNotOpenEndsThere) {
 TEST_F(LaunchItemTest, NothingButBlanksGivesTheEmptyMessage) {
   for (const char* command : {"", "     "}) {
     world.Desktop.Answer(kEmpty, forms::msgbox::AnswerOk);
-    EXPECT_EQ(LaunchItem(program, command), "");
+    EXPECT_EQ(LaunchItem(program.Launch, command), "");
     const sim::MessageBox& box = world.Desktop.Boxes().back();
     EXPECT_EQ(box.Flags, 262208U);
     EXPECT_EQ(box.Title, "Corvelle");
@@ -296,7 +296,7 @@ TEST_F(LaunchItemTest, BuiltInWordsAreCarriedOut) {
   for (const char* word :
        {"NETSEARCH", "NetSearch", "?netsearch", "FindComputer", "minimizeallwindows",
         "UndoMinimizeAll", "ClearRecentDocs", "ClearTempFolder", "FileFind"}) {
-    LaunchItem(program, word);
+    LaunchItem(program.Launch, word);
   }
   EXPECT_EQ(log, (CallLog{"ShowNetSearch", "ShowNetSearch", "ShowNetSearch", "FindComputer",
                           "MinimizeAllWindows", "UndoMinimizeAll", "ClearRecentDocs",
@@ -306,21 +306,21 @@ TEST_F(LaunchItemTest, BuiltInWordsAreCarriedOut) {
 
 TEST_F(LaunchItemTest, AddressesGoToTheBrowserAndTheMailProgram) {
   AddServices();
-  LaunchItem(program, "HTTP://A.EXAMPLE");
-  LaunchItem(program, " mailto:a@b.example ");
+  LaunchItem(program.Launch, "HTTP://A.EXAMPLE");
+  LaunchItem(program.Launch, " mailto:a@b.example ");
   EXPECT_EQ(log, (CallLog{"OpenUrl HTTP://A.EXAMPLE", "OpenMail mailto:a@b.example"}));
   EXPECT_TRUE(Launches().empty());
 }
 
 TEST_F(LaunchItemTest, WithoutABrowserOfItsOwnTheSystemOpensAddresses) {
-  LaunchItem(program, "http://a.example");
-  LaunchItem(program, "mailto:a@b.example");
+  LaunchItem(program.Launch, "http://a.example");
+  LaunchItem(program.Launch, "mailto:a@b.example");
   EXPECT_EQ(Launches(), (std::vector{Opened("http://a.example"), Opened("mailto:a@b.example")}));
 }
 
 TEST_F(LaunchItemTest, ASecureAddressGoesToTheBrowserToo) {
   AddServices();
-  LaunchItem(program, "https://a.example");
+  LaunchItem(program.Launch, "https://a.example");
   EXPECT_EQ(log, CallLog{"OpenUrl https://a.example"});
   EXPECT_TRUE(Launches().empty());
 }
@@ -328,14 +328,14 @@ TEST_F(LaunchItemTest, ASecureAddressGoesToTheBrowserToo) {
 TEST_F(LaunchItemTest, AUrlFileOpensTheWholeOfAnAddressThatHoldsAnother) {
   AddServices();
   world.Files.Put("C:\\Docs\\old.url", "[InternetShortcut]\r\nURL=https://a.example/http://b\r\n");
-  LaunchItem(program, "C:\\Docs\\old.url");
+  LaunchItem(program.Launch, "C:\\Docs\\old.url");
   EXPECT_EQ(log, CallLog{"OpenUrl https://a.example/http://b"});
 }
 
 TEST_F(LaunchItemTest, AUrlFileOpensItsAddress) {
   AddServices();
   world.Files.Put("C:\\Docs\\site.URL", "[InternetShortcut]\r\nURL=http://a.example\r\n");
-  EXPECT_EQ(LaunchItem(program, "C:\\Docs\\site.URL"), "C:\\Docs\\site.URL");
+  EXPECT_EQ(LaunchItem(program.Launch, "C:\\Docs\\site.URL"), "C:\\Docs\\site.URL");
   EXPECT_EQ(log, CallLog{"OpenUrl http://a.example"});
   EXPECT_TRUE(Launches().empty());
 }
@@ -344,7 +344,7 @@ TEST_F(LaunchItemTest, AUrlFileWithoutAnAddressGoesOnAsAFile) {
   AddServices();
   world.Shell.Associate(".url", "browser.exe");
   world.Files.Put("C:\\Docs\\site.url", "[InternetShortcut]\r\nURL=ftp://a/?http://b\r\n");
-  LaunchItem(program, "C:\\Docs\\site.url");
+  LaunchItem(program.Launch, "C:\\Docs\\site.url");
   EXPECT_EQ(log, CallLog());
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Docs\\site.url", "C:\\Docs\\")});
 }
@@ -352,41 +352,41 @@ TEST_F(LaunchItemTest, AUrlFileWithoutAnAddressGoesOnAsAFile) {
 TEST_F(LaunchItemTest, AMissingUrlFileIsUnavailable) {
   AddServices();
   ExpectUnavailable();
-  LaunchItem(program, "C:\\Docs\\gone.url");
+  LaunchItem(program.Launch, "C:\\Docs\\gone.url");
   EXPECT_EQ(Boxes(), 1U);
 }
 
 TEST_F(LaunchItemTest, ALinkOpensInTheFolderOfItsTarget) {
   AddServices();
   links.Set("C:\\Links\\tool.lnk", "C:\\Tools\\tool.exe");
-  LaunchItem(program, "C:\\Links\\tool.lnk");
+  LaunchItem(program.Launch, "C:\\Links\\tool.lnk");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Links\\tool.lnk", "C:\\Tools\\")});
 }
 
 TEST_F(LaunchItemTest, ALinkWithoutATargetOpensWithoutAFolder) {
   AddServices();
   world.Links.Put("C:\\Links\\tool.lnk", {.Item = {"item"}});
-  LaunchItem(program, "C:\\Links\\tool.LNK");
+  LaunchItem(program.Launch, "C:\\Links\\tool.LNK");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Links\\tool.LNK")});
 }
 
 TEST_F(LaunchItemTest, WithoutAReaderOfLinksTheSystemOpensThem) {
-  LaunchItem(program, "C:\\Links\\tool.lnk");
+  LaunchItem(program.Launch, "C:\\Links\\tool.lnk");
   EXPECT_EQ(Launches(), std::vector{Opened("C:\\Links\\tool.lnk")});
 }
 
 TEST_F(LaunchItemTest, AFailingLinkIsNotTriedAgainButToldOf) {
   ExpectUnavailable();
   AddServices();
-  LaunchItem(program, "C:\\Links\\gone.lnk");
+  LaunchItem(program.Launch, "C:\\Links\\gone.lnk");
   EXPECT_EQ(Launches(), std::vector{NotOpened("C:\\Links\\gone.lnk")});
   EXPECT_EQ(Boxes(), 1U);
 }
 
 TEST_F(LaunchItemTest, ASpecialFolderIsHandedOnAsItIs) {
   AddServices();
-  LaunchItem(program, "csidl_Drives");
-  LaunchItem(program, "CSIDL_NOSUCHTHING");
+  LaunchItem(program.Launch, "csidl_Drives");
+  LaunchItem(program.Launch, "CSIDL_NOSUCHTHING");
   EXPECT_EQ(log, (CallLog{"OpenSpecialFolder csidl_Drives with ",
                           "OpenSpecialFolder CSIDL_NOSUCHTHING with "}));
   EXPECT_TRUE(Launches().empty());
@@ -394,7 +394,7 @@ TEST_F(LaunchItemTest, ASpecialFolderIsHandedOnAsItIs) {
 
 TEST_F(LaunchItemTest, WithoutSpecialFoldersTheirNamesAreUnavailable) {
   ExpectUnavailable();
-  LaunchItem(program, "CSIDL_DRIVES");
+  LaunchItem(program.Launch, "CSIDL_DRIVES");
   EXPECT_EQ(Boxes(), 1U);
 }
 
@@ -402,13 +402,13 @@ TEST_F(LaunchItemTest, TheHintClosesBeforeAnythingStarts) {
   AddServices();
   LoggingHint hint(log);
   program.Ports.Hint = &hint;
-  LaunchItem(program, "netsearch");
+  LaunchItem(program.Launch, "netsearch");
   EXPECT_EQ(log, (CallLog{"hint ", "ShowNetSearch"}));
 }
 
 TEST_F(LaunchItemTest, AnotherChoiceThatWaitsIsStartedAfterThisOne) {
   const forms::TimerId timer = world.Desktop.StartTimer(1, [this, once = true]() mutable {
-    if (std::exchange(once, false)) LaunchItem(program, "C:\\Tools\\second.exe");
+    if (std::exchange(once, false)) LaunchItem(program.Launch, "C:\\Tools\\second.exe");
   });
   world.Files.Put("C:\\Tools\\second.exe", "");
   for (const char* command : {"C:\\Tools\\tool.exe", "tool.exe /x"}) {
@@ -417,7 +417,7 @@ TEST_F(LaunchItemTest, AnotherChoiceThatWaitsIsStartedAfterThisOne) {
     // The shell takes its time to find out that it cannot open the second one.
     world.Shell.WhileAsked([this](const Launch&) { world.Desktop.Jump(10); });
     world.Desktop.Jump(1);
-    LaunchItem(program, command);
+    LaunchItem(program.Launch, command);
     for (const Launch& launch : Launches()) EXPECT_NE(launch.File, "C:\\Tools\\second.exe");
   }
   world.Desktop.DoEvents();
@@ -426,7 +426,7 @@ TEST_F(LaunchItemTest, AnotherChoiceThatWaitsIsStartedAfterThisOne) {
 }
 
 TEST_F(OpenWithItemTest, ADroppedFileIsTheProgramsParameter) {
-  OpenWithItem(program, " C:\\Docs\\plan.txt ", " C:\\Tools\\tool.exe ");
+  OpenWithItem(program.Launch, " C:\\Docs\\plan.txt ", " C:\\Tools\\tool.exe ");
   Launch expected = Opened("C:\\Tools\\tool.exe");
   expected.Parameters = "\"C:\\Docs\\plan.txt\"";
   EXPECT_EQ(Launches(), std::vector{expected});
@@ -434,10 +434,10 @@ TEST_F(OpenWithItemTest, ADroppedFileIsTheProgramsParameter) {
 
 TEST_F(OpenWithItemTest, AChoiceThatWaitsIsStartedAfterThisOne) {
   const forms::TimerId timer = world.Desktop.StartTimer(1, [this, once = true]() mutable {
-    if (std::exchange(once, false)) LaunchItem(program, "C:\\Tools\\tool.exe");
+    if (std::exchange(once, false)) LaunchItem(program.Launch, "C:\\Tools\\tool.exe");
   });
   world.Desktop.Jump(1);
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
   Launch expected = Opened("C:\\Tools\\tool.exe");
   expected.Parameters = "\"C:\\Docs\\plan.txt\"";
   EXPECT_EQ(Launches(), std::vector{expected});
@@ -448,13 +448,13 @@ TEST_F(OpenWithItemTest, AChoiceThatWaitsIsStartedAfterThisOne) {
 
 TEST_F(OpenWithItemTest, ASpecialFolderTakesTheDroppedFile) {
   AddServices();
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "csidl_bitbucket");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "csidl_bitbucket");
   EXPECT_EQ(log, CallLog{"OpenSpecialFolder csidl_bitbucket with \"C:\\Docs\\plan.txt\""});
   EXPECT_TRUE(Launches().empty());
 }
 
 TEST_F(OpenWithItemTest, AFailureIsTriedAsACommandLine) {
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "explorer.exe /e");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "explorer.exe /e");
   ASSERT_EQ(Launches().size(), 2U);
   EXPECT_EQ(Launches().back(), Ran("explorer.exe /e \"C:\\Docs\\plan.txt\""));
 }
@@ -463,7 +463,7 @@ TEST_F(OpenWithItemTest, AFailingLinkIsTriedByItsTarget) {
   AddServices();
   links.Set("C:\\Links\\tool.lnk", "C:\\Tools\\tool.exe");
   world.Shell.Fail("C:\\Links\\tool.lnk");
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Links\\tool.LNK");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Links\\tool.LNK");
   ASSERT_EQ(Launches().size(), 2U);
   EXPECT_EQ(Launches().back(), Ran("C:\\Tools\\tool.exe \"C:\\Docs\\plan.txt\""));
 }
@@ -473,27 +473,27 @@ TEST_F(OpenWithItemTest, ALinkThatLeadsNowhereIsUnavailableAndTheDroppedFileIsNo
   ExpectUnavailable();
   world.Links.Put("C:\\Links\\tool.lnk", {.Item = {"item"}});
   world.Shell.Fail("C:\\Links\\tool.lnk");
-  OpenWithItem(program, "C:\\Tools\\tool.exe", "C:\\Links\\tool.lnk");
+  OpenWithItem(program.Launch, "C:\\Tools\\tool.exe", "C:\\Links\\tool.lnk");
   EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
   EXPECT_EQ(Boxes(), 1U);
 }
 
 TEST_F(OpenWithItemTest, WithoutAReaderOfLinksAFailingLinkIsTriedItself) {
   world.Shell.Fail("C:\\Links\\tool.lnk");
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Links\\tool.lnk");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Links\\tool.lnk");
   ASSERT_FALSE(Launches().empty());
   EXPECT_EQ(Launches()[1].File, "C:\\Links\\tool.lnk \"C:\\Docs\\plan.txt\"");
 }
 
 TEST_F(OpenWithItemTest, AMissingProgramIsUnavailable) {
   ExpectUnavailable();
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\gone.exe");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Tools\\gone.exe");
   EXPECT_EQ(world.Shell.Started(), std::vector<std::string>());
   EXPECT_EQ(Boxes(), 1U);
 }
 
 TEST_F(OpenWithItemTest, ADocumentWithoutAProgramBringsTheOpenWithDialog) {
-  OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Docs\\odd.xyz");
+  OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Docs\\odd.xyz");
   ASSERT_EQ(Launches().size(), 3U);
   EXPECT_EQ(Launches().back(), Ran("rundll32.exe shell32.dll,OpenAs_RunDLL C:\\Docs\\odd.xyz"));
 }
@@ -505,22 +505,22 @@ TEST_F(OpenWithItemTest, ThePointerIsNormalAgainHoweverItEnds) {
   ExpectUnavailable();
   for (const char* target : targets) {
     world.Desktop.SetMousePointer(forms::MousePointer::Hourglass);
-    OpenWithItem(program, "C:\\Docs\\plan.txt", target);
+    OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", target);
     EXPECT_EQ(world.Desktop.CurrentMousePointer(), forms::MousePointer::Default) << target;
   }
 }
 
 TEST_F(LaunchItemTest, WhatIsSlowToStartLetsTheNextBeStartedAndIsNotStartedTwice) {
   world.Starts.Hang();
-  LaunchItem(program, "C:\\Tools\\tool.exe");
-  LaunchItem(program, " C:\\Tools\\tool.exe ");
-  LaunchItem(program, "C:\\Docs\\plan.txt");
+  LaunchItem(program.Launch, "C:\\Tools\\tool.exe");
+  LaunchItem(program.Launch, " C:\\Tools\\tool.exe ");
+  LaunchItem(program.Launch, "C:\\Docs\\plan.txt");
   EXPECT_EQ(Launches(), std::vector<Launch>{});
   EXPECT_EQ(world.Starts.UnderWay(), 2);
   world.Starts.Resume();
   EXPECT_EQ(Launches(), (std::vector{Opened("C:\\Tools\\tool.exe", "C:\\Tools\\"),
                                      Opened("C:\\Docs\\plan.txt", "C:\\Docs\\")}));
-  LaunchItem(program, "C:\\Tools\\tool.exe");
+  LaunchItem(program.Launch, "C:\\Tools\\tool.exe");
   EXPECT_EQ(Launches().size(), 3U) << "a press after the start is a start of its own";
 }
 
@@ -528,9 +528,10 @@ TEST_F(LaunchItemTest, WhatIsSlowToStartLetsTheNextBeStartedAndIsNotStartedTwice
 // does.
 TEST_F(LaunchItemTest, WhatIsChosenAgainAsSoonAsItHasStartedStartsAgain) {
   world.Starts.HoldEnds();
-  for (int i = 0; i < 3; ++i) LaunchItem(program, "C:\\Tools\\tool.exe");
+  for (int i = 0; i < 3; ++i) LaunchItem(program.Launch, "C:\\Tools\\tool.exe");
   EXPECT_EQ(Launches().size(), 3U);
-  for (int i = 0; i < 2; ++i) OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  for (int i = 0; i < 2; ++i)
+    OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
   EXPECT_EQ(Launches().size(), 5U);
   world.Starts.TellEnds();
   EXPECT_EQ(Boxes(), 0U);
@@ -541,17 +542,17 @@ TEST_F(LaunchItemTest, AUrlFileIsNotOpenedTwiceWhileWhatItHoldsWaits) {
   AddServices();
   world.Files.Put("C:\\Links\\site.url", "[InternetShortcut]\r\nURL=http://one.example/\r\n");
   world.Starts.HoldEnds();
-  for (int i = 0; i < 2; ++i) LaunchItem(program, "C:\\Links\\site.url");
+  for (int i = 0; i < 2; ++i) LaunchItem(program.Launch, "C:\\Links\\site.url");
   world.Starts.TellEnds();
   EXPECT_EQ(log, CallLog{"OpenUrl http://one.example/"});
-  LaunchItem(program, "C:\\Links\\site.url");
+  LaunchItem(program.Launch, "C:\\Links\\site.url");
   EXPECT_EQ(log.size(), 2U);
 }
 
 TEST_F(LaunchItemTest, ALateFailureIsToldWhenItIsKnown) {
   world.Starts.Hang();
   for (const char* command : {"C:\\Tools\\gone.exe", "C:\\Links\\gone.lnk"})
-    LaunchItem(program, command);
+    LaunchItem(program.Launch, command);
   EXPECT_EQ(Boxes(), 0U);
   ExpectUnavailable();
   ExpectUnavailable();
@@ -563,8 +564,8 @@ TEST_F(LaunchItemTest, AUrlFileThatIsSlowToReadOpensItsAddressOnce) {
   AddServices();
   world.Files.Put("C:\\Links\\site.url", "[InternetShortcut]\r\nURL=http://one.example/\r\n");
   world.Starts.Hang();
-  LaunchItem(program, "C:\\Links\\site.url");
-  LaunchItem(program, "C:\\Links\\site.url");
+  LaunchItem(program.Launch, "C:\\Links\\site.url");
+  LaunchItem(program.Launch, "C:\\Links\\site.url");
   EXPECT_TRUE(log.empty());
   world.Starts.Resume();
   EXPECT_EQ(log, CallLog{"OpenUrl http://one.example/"});
@@ -572,8 +573,9 @@ TEST_F(LaunchItemTest, AUrlFileThatIsSlowToReadOpensItsAddressOnce) {
 
 TEST_F(OpenWithItemTest, TheSameDropIsNotStartedTwiceWhileItIsSlow) {
   world.Starts.Hang();
-  for (int i = 0; i < 2; ++i) OpenWithItem(program, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
-  OpenWithItem(program, "C:\\Docs\\odd.xyz", "C:\\Tools\\tool.exe");
+  for (int i = 0; i < 2; ++i)
+    OpenWithItem(program.Launch, "C:\\Docs\\plan.txt", "C:\\Tools\\tool.exe");
+  OpenWithItem(program.Launch, "C:\\Docs\\odd.xyz", "C:\\Tools\\tool.exe");
   world.Starts.Resume();
   EXPECT_EQ(Launches().size(), 2U);
 }
@@ -582,7 +584,7 @@ TEST_F(LaunchItemTest, AProgramThatEndedIsToldNothingOfItsStarts) {
   world.Starts.Hang();
   {
     Program ending(world.Services(), world.Windows());
-    LaunchItem(ending, "C:\\Tools\\gone.exe");
+    LaunchItem(ending.Launch, "C:\\Tools\\gone.exe");
   }
   world.Starts.Resume();
   EXPECT_EQ(Boxes(), 0U);
@@ -591,27 +593,30 @@ TEST_F(LaunchItemTest, AProgramThatEndedIsToldNothingOfItsStarts) {
 TEST_F(LaunchItemTest, ReadUrlFileGivesThePathWhereThereIsNoAddress) {
   world.Files.Put("C:\\a.url", "URL=http://a.example");
   world.Files.Put("C:\\b.url", "");
-  EXPECT_EQ(ReadUrlFile(program, "C:\\a.url"), "http://a.example");
-  EXPECT_EQ(ReadUrlFile(program, "C:\\b.url"), "C:\\b.url");
-  EXPECT_EQ(ReadUrlFile(program, "C:\\gone.url"), "C:\\gone.url");
+  EXPECT_EQ(ReadUrlFile(program.Services.Files, program.Services.Ansi, "C:\\a.url"),
+            "http://a.example");
+  EXPECT_EQ(ReadUrlFile(program.Services.Files, program.Services.Ansi, "C:\\b.url"), "C:\\b.url");
+  EXPECT_EQ(ReadUrlFile(program.Services.Files, program.Services.Ansi, "C:\\gone.url"),
+            "C:\\gone.url");
   world.Files.FailCall(1);
-  EXPECT_EQ(ReadUrlFile(program, "C:\\a.url"), "C:\\a.url");
+  EXPECT_EQ(ReadUrlFile(program.Services.Files, program.Services.Ansi, "C:\\a.url"), "C:\\a.url");
 }
 
 TEST_F(LaunchItemTest, ReadUrlFileFindsTheAddressBehindAnyNumberOfOtherLines) {
   std::string content;
   for (int i = 0; i < 2000; ++i) content += "Modified=00000000000000000000\r\n";
   world.Files.Put("C:\\a.url", content + "URL=http://a.example\r\n");
-  EXPECT_EQ(ReadUrlFile(program, "C:\\a.url"), "http://a.example");
+  EXPECT_EQ(ReadUrlFile(program.Services.Files, program.Services.Ansi, "C:\\a.url"),
+            "http://a.example");
 }
 
 TEST_F(LaunchItemTest, GetLinkWorkDirGivesTargetAndFolder) {
   AddServices();
   links.Set("C:\\a.lnk", "C:\\Tools\\tool.exe");
   std::string target = "before";
-  EXPECT_EQ(GetLinkWorkDir(program, "C:\\a.lnk", target), "C:\\Tools\\");
+  EXPECT_EQ(GetLinkWorkDir(program.Ports.ShellLinks, "C:\\a.lnk", target), "C:\\Tools\\");
   EXPECT_EQ(target, "C:\\Tools\\tool.exe");
-  EXPECT_EQ(GetLinkWorkDir(program, "C:\\damaged.lnk", target), "");
+  EXPECT_EQ(GetLinkWorkDir(program.Ports.ShellLinks, "C:\\damaged.lnk", target), "");
   EXPECT_EQ(target, "");
 }
 

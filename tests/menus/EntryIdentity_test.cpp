@@ -90,19 +90,20 @@ TEST_P(StoredTitles, OfEveryLengthAreFoundInAMenuWithAnOpenFolder) {
       // What the entry is compared with later is the record itself, not what was shown of it.
       EXPECT_EQ(desk_.TheProgram.Entry.CurStored, record);
       // Cut.
-      EXPECT_EQ(DeleteItem(desk_.TheProgram, true), EditOutcome::Edited);
+      EXPECT_EQ(desk_.TheProgram.Commands.DeleteItem(true), EditOutcome::Edited);
       EXPECT_EQ(NowStored(), WithoutRecord(stored_, number));
       desk_.World.Files.Put(file_, stored_);
       // Carried to another menu.
       desk_.TheProgram.Entry.ItemDragging = true;
-      EXPECT_TRUE(DropItem(desk_.TheProgram, "F3", {.File = kOtherMenu}, false));
+      EXPECT_TRUE(desk_.TheProgram.Commands.DropItem("F3", {.File = kOtherMenu}, false));
       EXPECT_EQ(NowStored(), WithoutRecord(stored_, number));
       EXPECT_EQ(StoredRecord(*desk_.World.Files.Get(kOtherMenu), 2), record);
       desk_.World.Files.Put(file_, stored_);
       PutOther();
       // Carried within its own.
       const int before = number == 2 ? 5 : 2;
-      EXPECT_TRUE(DropItem(desk_.TheProgram, "F2", {.File = file_, .Before = before}, false));
+      EXPECT_TRUE(
+          desk_.TheProgram.Commands.DropItem("F2", {.File = file_, .Before = before}, false));
       EXPECT_EQ(NowStored(), MoveRecord(stored_, number, before));
       desk_.World.Files.Put(file_, stored_);
       desk_.TheProgram.Entry.ItemDragging = false;
@@ -126,7 +127,7 @@ TEST(StoredEntry, OneThatIsAnotherNowIsNotTakenThoughItsTitleIsTheSame) {
   const std::string file = desk.PutMenu(1, {Item("Item 2", "", "C:\\b.exe")});
   const auto before = desk.World.Files.Get(file);
   desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
-  EXPECT_EQ(DeleteItem(desk.TheProgram, true), EditOutcome::RecordMismatch);
+  EXPECT_EQ(desk.TheProgram.Commands.DeleteItem(true), EditOutcome::RecordMismatch);
   EXPECT_EQ(desk.World.Files.Get(file), before);
 }
 
@@ -169,7 +170,7 @@ class LongNames : public ::testing::TestWithParam<Script> {
   }
 
   FolderDesk desk_;
-  SpecialFolders folders_{desk_.TheProgram};
+  SpecialFolders folders_{desk_.TheProgram.Services.Folders, desk_.TheProgram.Launch};
   NotedEntry popup_;
 };
 
@@ -199,7 +200,7 @@ TEST_P(LongNames, OfEntriesOfTheShellStartTheRightOne) {
       EXPECT_EQ(copy.FName, popup_.Seen.CurCommand) << length;
       if (length > 200) continue;
       desk_.TheProgram.Entry = {};
-      LaunchItem(desk_.TheProgram, copy.FName);
+      LaunchItem(desk_.TheProgram.Launch, copy.FName);
       EXPECT_EQ(LastOpened(), name) << length;
     }
   }
@@ -214,7 +215,7 @@ TEST_P(LongNames, WhoseCopyHasNoRoomIsFoundByWhatItsCommandHolds) {
   const std::string& command = popup_.Seen.CurCommand;
   EXPECT_TRUE(command.ends_with("\\CSIDL_PROGRAMS")) << command;
   EXPECT_TRUE(command.starts_with(name.substr(0, 200)));
-  LaunchItem(desk_.TheProgram, command);
+  LaunchItem(desk_.TheProgram.Launch, command);
   EXPECT_EQ(LastOpened(), name);
 }
 

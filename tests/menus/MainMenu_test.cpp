@@ -7,6 +7,7 @@
 
 #include "core/MenuFile.h"
 #include "menus/MenuDesk.h"
+#include "menus/window/MenuWiring.h"
 
 namespace corvelle {
 namespace {
@@ -144,7 +145,7 @@ class MainMenuTest : public testing::Test {
   NotedEdge edge{program};
   NotedCompanion companion{program};
   NotedPicture still{program, desk.Strip.Asked};
-  MainMenu mainMenu{program, desk.Menu};
+  MainMenu mainMenu{MainMenuPartsOf(program), desk.Menu};
 
   /// Stands between its two still pictures, after the one and before the other.
   bool IsBehindAPicture(const std::string& call) const {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <string_view>
 
 #include "menus/FolderDesk.h"
@@ -15,11 +16,16 @@ namespace {
 TEST(FolderQuestions, AboutTheFilesOfAFolderHoldTheMenuUpForAShorterTimeThanTheFolder) {
   struct Row {
     LookupKind kind;
+    int files;
     int longest;
   };
-  const Row rows[] = {{LookupKind::FolderEntries, FolderQuestions::kAtOnce},
-                      {LookupKind::FileNames, FolderQuestions::kNamesAtOnce},
-                      {LookupKind::ShortPaths, FolderQuestions::kNamesAtOnce}};
+  constexpr int kMost = FolderQuestions::kMostWaitedFor;
+  const Row rows[] = {{LookupKind::FolderEntries, 1, FolderQuestions::kAtOnce},
+                      {LookupKind::FileNames, 1, FolderQuestions::kNamesAtOnce},
+                      {LookupKind::FileNames, kMost, FolderQuestions::kNamesAtOnce},
+                      {LookupKind::FileNames, kMost + 1, 0},
+                      {LookupKind::ShortPaths, kMost, FolderQuestions::kNamesAtOnce},
+                      {LookupKind::ShortPaths, kMost + 1, 0}};
   for (const Row& row : rows) {
     sim::World world;
     Program program(world.Services(), world.Windows());
@@ -27,8 +33,10 @@ TEST(FolderQuestions, AboutTheFilesOfAFolderHoldTheMenuUpForAShorterTimeThanTheF
     world.Costs.WhenCharged([&](int milliseconds) { world.Desktop.Jump(milliseconds); });
     for (const char* lane : {"D:", "D:*"}) world.SlowAnswers.Hang(lane);
     FolderQuestions questions(program.Answers, program.Windows, [] {});
+    std::string lines;
+    for (int i = 0; i < row.files; ++i) lines += "a\n";
     for (const char* folder : {"D:\\One\\", "D:\\Two\\"}) {
-      const auto& known = questions.Get({.Kind = row.kind, .Path = folder, .Pattern = "a\n"});
+      const auto& known = questions.Get({.Kind = row.kind, .Path = folder, .Pattern = lines});
       EXPECT_EQ(known.State, FolderState::Reading) << row.longest;
     }
     EXPECT_EQ(world.Costs.LongestTurn(), row.longest);
@@ -186,6 +194,35 @@ TEST_F(SlowFolder, NamesThatComeLateReplaceThoseOfTheFiles) {
   EXPECT_TRUE(desk_.Generated().empty());
   Advance(1000);
   EXPECT_EQ(desk_.Captions(), filled_);
+  EXPECT_EQ(desk_.Generated().size(), 4U);
+}
+
+TEST_F(SlowFolder, NamesThatCameForAMenuThatWasClosedAreNotAskedForAgain) {
+  Slow().Delay("D:*", 300);
+  Open();
+  desk_.Menu.HideMenu();
+  Advance(1000);
+  EXPECT_TRUE(desk_.Generated().empty());
+  const int asked = Slow().Asked();
+  desk_.Reopen(1);
+  // It is known as a whole, and only the folder was read again.
+  EXPECT_EQ(desk_.Generated().size(), 4U);
+  EXPECT_EQ(Slow().Asked() - asked, 1);
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), filled_);
+}
+
+TEST_F(SlowFolder, OldNamesAreShownAndAskedForAgain) {
+  Slow().Delay("D:*", 300);
+  Open();
+  desk_.Menu.HideMenu();
+  Advance(FolderQuestions::kNamesAge + 1000);
+  const int asked = Slow().Asked();
+  desk_.Reopen(1);
+  EXPECT_EQ(desk_.Captions(), filled_);
+  EXPECT_TRUE(desk_.Generated().empty());
+  EXPECT_EQ(Slow().Asked() - asked, 2);
+  Advance(1000);
   EXPECT_EQ(desk_.Generated().size(), 4U);
 }
 

@@ -45,7 +45,7 @@ struct FoldersDesk : MenuDesk {
             .Owner = kNoWindow};
   }
 
-  SpecialFolders Folders{TheProgram};
+  SpecialFolders Folders{TheProgram.Services.Folders, TheProgram.Launch};
 };
 
 // ---- names and icons ----
@@ -84,7 +84,7 @@ TEST(SpecialFolderName, IsTheShellsNameByNumberAndByPath) {
 
 TEST(OpenSpecialFolder, AFolderOfTheDiskOpensByItsPath) {
   FoldersDesk desk;
-  LaunchItem(desk.TheProgram, "CSIDL_PROGRAMS");
+  LaunchItem(desk.TheProgram.Launch, "CSIDL_PROGRAMS");
   EXPECT_EQ(desk.Started(), Strings{"C:\\Users\\Ann\\Programs"});
   EXPECT_TRUE(desk.World.Folders.Opened().empty());
 }
@@ -92,14 +92,14 @@ TEST(OpenSpecialFolder, AFolderOfTheDiskOpensByItsPath) {
 TEST(OpenSpecialFolder, TheDesktopOpensAsTheRootOfAWindow) {
   FoldersDesk desk;
   desk.World.Shell.AddToPath("explorer.exe");
-  LaunchItem(desk.TheProgram, "CSIDL_DESKTOP");
+  LaunchItem(desk.TheProgram.Launch, "CSIDL_DESKTOP");
   EXPECT_EQ(desk.Started(), Strings{"explorer.exe /root,C:\\Users\\Ann\\Desktop"});
 }
 
 TEST(OpenSpecialFolder, AnUnknownNameIsTheDesktop) {
   FoldersDesk desk;
   desk.World.Shell.AddToPath("explorer.exe");
-  LaunchItem(desk.TheProgram, "CSIDL_NOSUCHTHING");
+  LaunchItem(desk.TheProgram.Launch, "CSIDL_NOSUCHTHING");
   EXPECT_EQ(desk.Started(), Strings{"explorer.exe /root,C:\\Users\\Ann\\Desktop"});
 }
 
@@ -107,13 +107,13 @@ TEST(OpenSpecialFolder, ADesktopWithoutAPathOpensByTheShell) {
   FoldersDesk desk;
   desk.World.Folders.Remove(0);
   desk.World.Folders.SetSelf(0, {"Desktop", 30});
-  LaunchItem(desk.TheProgram, "CSIDL_DESKTOP");
+  LaunchItem(desk.TheProgram.Launch, "CSIDL_DESKTOP");
   EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(0, "")});
 }
 
 TEST(OpenSpecialFolder, AFolderOfTheShellOpensByTheShell) {
   FoldersDesk desk;
-  LaunchItem(desk.TheProgram, "csidl_Drives");
+  LaunchItem(desk.TheProgram.Launch, "csidl_Drives");
   EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kDrives, "")});
   EXPECT_TRUE(desk.Started().empty());
 }
@@ -121,23 +121,23 @@ TEST(OpenSpecialFolder, AFolderOfTheShellOpensByTheShell) {
 TEST(OpenSpecialFolder, TheControlPanelOpensWithoutALookAtTheDrives) {
   FoldersDesk desk;
   desk.World.Folders.Put(kDrives, {{"Disk (C:)", 50}, {"Control Panel", 31}});
-  LaunchItem(desk.TheProgram, "CSIDL_CONTROLS");
+  LaunchItem(desk.TheProgram.Launch, "CSIDL_CONTROLS");
   EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kControls, "")});
   EXPECT_EQ(desk.World.Folders.Listings(), 0);
 }
 
 TEST(OpenSpecialFolder, AnEntryByItsWholeNameIsOpenedWithoutAList) {
   FoldersDesk desk;
-  LaunchItem(desk.TheProgram, "Mouse\\CSIDL_CONTROLS");
+  LaunchItem(desk.TheProgram.Launch, "Mouse\\CSIDL_CONTROLS");
   EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kControls, "Mouse")});
   EXPECT_EQ(desk.World.Folders.Listings(), 0);
 }
 
 TEST(OpenSpecialFolder, AnEntryIsOpenedByItsTitleInEitherOrder) {
   FoldersDesk desk;
-  LaunchItem(desk.TheProgram, "Mouse\\CSIDL_CONTROLS");
-  LaunchItem(desk.TheProgram, "CSIDL_CONTROLS\\Mouse");
-  LaunchItem(desk.TheProgram, "\xD0\x96\xD1\x83\xD0\xBA\\CSIDL_CONTROLS");
+  LaunchItem(desk.TheProgram.Launch, "Mouse\\CSIDL_CONTROLS");
+  LaunchItem(desk.TheProgram.Launch, "CSIDL_CONTROLS\\Mouse");
+  LaunchItem(desk.TheProgram.Launch, "\xD0\x96\xD1\x83\xD0\xBA\\CSIDL_CONTROLS");
   EXPECT_EQ(desk.World.Folders.Opened(),
             (std::vector{desk.Opened(kControls, "Mouse"), desk.Opened(kControls, "Mouse"),
                          desk.Opened(kControls, "\xD0\x96\xD1\x83\xD0\xBA")}));
@@ -147,13 +147,13 @@ TEST(OpenSpecialFolder, ATitleThatARecordHasCutFindsItsEntry) {
   FoldersDesk desk;
   const std::string name(80, 'n');
   desk.World.Folders.Put(kControls, {{"Mouse", 40}, {name, 41}});
-  LaunchItem(desk.TheProgram, "CSIDL_CONTROLS\\" + name.substr(0, 50));
+  LaunchItem(desk.TheProgram.Launch, "CSIDL_CONTROLS\\" + name.substr(0, 50));
   EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kControls, name)});
 }
 
 TEST(OpenSpecialFolder, ADroppedFileGoesWithTheEntry) {
   FoldersDesk desk;
-  OpenWithItem(desk.TheProgram, "C:\\a b.txt", "CSIDL_CONTROLS\\Mouse");
+  OpenWithItem(desk.TheProgram.Launch, "C:\\a b.txt", "CSIDL_CONTROLS\\Mouse");
   EXPECT_EQ(desk.World.Folders.Opened(),
             std::vector{desk.Opened(kControls, "Mouse", "\"C:\\a b.txt\"")});
 }
@@ -163,10 +163,10 @@ TEST(OpenSpecialFolder, WhatIsGoneIsPassedOverQuietly) {
   desk.World.Folders.Refuse(kControls, "Mouse");
   for (const char* command : {"CSIDL_CONTROLS\\Gone", "CSIDL_CONTROLS\\Mouse", "CSIDL_PRINTERS",
                               "CSIDL_PRINTERS\\x", "CSIDL_FONTS"}) {
-    LaunchItem(desk.TheProgram, command);
+    LaunchItem(desk.TheProgram.Launch, command);
   }
   desk.World.Folders.Break(kControls);
-  LaunchItem(desk.TheProgram, "CSIDL_CONTROLS\\Fonts & Co");
+  LaunchItem(desk.TheProgram.Launch, "CSIDL_CONTROLS\\Fonts & Co");
   EXPECT_TRUE(desk.World.Folders.Opened().empty());
   EXPECT_TRUE(desk.Started().empty());
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
@@ -176,9 +176,9 @@ TEST(OpenSpecialFolder, WhatTakesItsTimeIsOpenedOnceAndHoldsUpNothing) {
   FoldersDesk desk;
   desk.World.Starts.Hang();
   for (int i = 0; i < 2; ++i) {
-    LaunchItem(desk.TheProgram, "CSIDL_CONTROLS\\Mouse");
-    LaunchItem(desk.TheProgram, "CSIDL_PROGRAMS");
-    LaunchItem(desk.TheProgram, "CSIDL_DRIVES");
+    LaunchItem(desk.TheProgram.Launch, "CSIDL_CONTROLS\\Mouse");
+    LaunchItem(desk.TheProgram.Launch, "CSIDL_PROGRAMS");
+    LaunchItem(desk.TheProgram.Launch, "CSIDL_DRIVES");
   }
   EXPECT_EQ(desk.World.Starts.UnderWay(), 3);
   EXPECT_TRUE(desk.World.Folders.Opened().empty());

@@ -349,7 +349,7 @@ class SlowFolders final : public FolderMenusPort {
                                      std::string_view) override {
     ++Expanded;
     if (While) While();
-    desk_.TheProgram.DoEvents();
+    desk_.TheProgram.Events.DoEvents();
     return std::nullopt;
   }
   bool WriteGenerated(const ExpandedMenu&) override { return true; }

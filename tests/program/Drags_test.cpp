@@ -24,30 +24,53 @@ TEST(DragsOverTheProgram, OneWhoseSourceDiedOverTheMenuIsForgottenWhenTheMenuGoe
   EXPECT_FALSE(desk.parts->TheProgram.Drag.DragOverButton);
 }
 
+// An address was dropped on a menu, which is covered by its picture while the dialog is up.
+struct AddressOnAMenu : ProgramDesk {
+  AddressOnAMenu() {
+    OpenMenu(2);
+    PointAt({500, 600});
+    world.Desktop.StartDrag({.Data = {.Text = "http://a.example/page"}});
+    PointAt(Item(2));
+    world.Desktop.Advance(50);
+    world.Desktop.Release();
+    world.Desktop.Advance(500);
+  }
+  [[nodiscard]] bool IsCovered() const { return parts->StillPicture.MenuCaptured(); }
+  /// The menu is gone with its picture, and the address is still written where it was dropped.
+  void ExpectDialogAlone() {
+    EXPECT_FALSE(parts->Menu.MenuVisible());
+    EXPECT_FALSE(parts->StillPicture.IsLoaded());
+    EXPECT_FALSE(IsCovered());
+    ASSERT_TRUE(parts->WebLink.IsLoaded());
+    world.Desktop.TakeForeground(parts->WebLink.hWnd());
+    world.Desktop.PressKey(forms::key::Enter);
+    world.Desktop.Advance(2000);
+    EXPECT_FALSE(parts->WebLink.IsLoaded());
+    EXPECT_NE(Files().at("BMENU001.MNU").find("http://a.example/page"), std::string::npos);
+  }
+};
+
 TEST(DragsOverTheProgram, APictureOfAMenuGoesWithItWhileItIsAskedWhereAnAddressGoes) {
-  ProgramDesk desk;
-  sim::SimDesktop& desktop = desk.world.Desktop;
-  desk.OpenMenu(2);
-  desk.PointAt({500, 600});
-  desktop.StartDrag({.Data = {.Text = "http://a.example/page"}});
-  desk.PointAt(desk.Item(2));
-  desktop.Advance(50);
-  desktop.Release();
-  desktop.Advance(500);
+  AddressOnAMenu desk;
   ASSERT_TRUE(desk.parts->WebLink.IsLoaded());
-  ASSERT_TRUE(desk.parts->StillPicture.MenuCaptured());
+  ASSERT_TRUE(desk.IsCovered());
   // Another screen takes the menu away.
-  desktop.SetScreen({1280, 1024});
-  desktop.Advance(50);
-  ASSERT_FALSE(desk.parts->Menu.MenuVisible());
-  EXPECT_FALSE(desk.parts->StillPicture.IsLoaded());
-  EXPECT_FALSE(desk.parts->StillPicture.MenuCaptured());
-  EXPECT_TRUE(desk.parts->WebLink.IsLoaded());
-  // The address is still written where it was dropped.
-  desktop.PressKey(forms::key::Enter);
-  desktop.Advance(2000);
-  EXPECT_FALSE(desk.parts->WebLink.IsLoaded());
-  EXPECT_NE(desk.Files().at("BMENU001.MNU").find("http://a.example/page"), std::string::npos);
+  desk.world.Desktop.SetScreen({1280, 1024});
+  desk.world.Desktop.Advance(50);
+  desk.ExpectDialogAlone();
+}
+
+TEST(DragsOverTheProgram, APictureOfAMenuGoesWhenAFullScreenProgramIsGone) {
+  AddressOnAMenu desk;
+  ASSERT_TRUE(desk.parts->WebLink.IsLoaded());
+  desk.world.Bars.SetFullScreen(true);
+  desk.world.Desktop.Advance(50);
+  ASSERT_TRUE(desk.IsCovered());
+  ASSERT_TRUE(desk.parts->Menu.MenuVisible());
+  // The menu is made topmost again, hidden.
+  desk.world.Bars.SetFullScreen(false);
+  desk.world.Desktop.Advance(50);
+  desk.ExpectDialogAlone();
 }
 
 }  // namespace

@@ -96,7 +96,7 @@ TEST_F(Windows, AboutOpensFromTheProgramsOwnMenu) {
 
 TEST_F(Windows, NetSearchOpensFromASingleButton) {
   desk.world.Files.Put("C:\\Corvelle\\netsrch.ini", "NAME=One\r\nURL=http://one.example/[]\r\n");
-  LaunchItem(parts().TheProgram, "NetSearch");
+  LaunchItem(parts().TheProgram.Launch, "NetSearch");
   desk.world.Desktop.Pump();
   EXPECT_TRUE(parts().NetSearch.IsLoaded());
   EXPECT_EQ(parts().NetSearch.cmbEngine.Text(), "One");
@@ -104,7 +104,7 @@ TEST_F(Windows, NetSearchOpensFromASingleButton) {
 
 TEST_F(Windows, TheEndOfTheProgramClosesThemAndKeepsTheHistory) {
   desk.world.Files.Put("C:\\Corvelle\\netsrch.ini", "NAME=One\r\nURL=http://one.example/[]\r\n");
-  LaunchItem(parts().TheProgram, "NetSearch");
+  LaunchItem(parts().TheProgram.Launch, "NetSearch");
   Choose("About...");
   ASSERT_TRUE(parts().NetSearch.Queries.Add("tea"));
   Choose("Exit");
@@ -130,7 +130,7 @@ TEST_F(Windows, HelpTopicsKeepsToTheHelpFileWhereThereIsOne) {
 TEST_F(Windows, F1OpensThePageOfTheWindowInFront) {
   desk.world.Files.Put("C:\\Corvelle\\netsrch.ini", "NAME=One\r\nURL=http://one.example/[]\r\n");
   PutHelp();
-  LaunchItem(parts().TheProgram, "NetSearch");
+  LaunchItem(parts().TheProgram.Launch, "NetSearch");
   desk.world.Desktop.Pump();
   desk.world.Shell.ClearLog();
   desk.world.Desktop.PressKey(forms::key::F1);

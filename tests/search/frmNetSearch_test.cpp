@@ -345,13 +345,13 @@ TEST_F(NetSearch, WithoutABrowserTheWindowComesBack) {
 }
 
 TEST_F(NetSearch, ItsWordInAnEntryOpensItAndBringsItBackFromTheTaskBar) {
-  LaunchItem(program, "NETSEARCH");
+  LaunchItem(program.Launch, "NETSEARCH");
   world.Desktop.Pump();
   ASSERT_TRUE(window->IsLoaded());
   Type("tea");
   Key(forms::key::Enter);
   ASSERT_TRUE(window->IsMinimized());
-  LaunchItem(program, "?netsearch");
+  LaunchItem(program.Launch, "?netsearch");
   world.Desktop.Pump();
   EXPECT_FALSE(window->IsMinimized());
   EXPECT_EQ(world.Desktop.ForegroundWindow(), window->hWnd());

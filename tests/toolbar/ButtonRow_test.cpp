@@ -7,6 +7,7 @@
 #include "core/MenuRecord.h"
 #include "sim/SimShellIcons.h"
 #include "toolbar/PlainStrip.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -16,7 +17,7 @@ using Paths = std::vector<std::string>;
 struct RowDesk : PlainDesk {
   RowDesk() { Row.MakeTemplates(); }
 
-  ButtonRow Row{TheProgram, Strip, Strip.ForButtons()};
+  ButtonRow Row{ButtonRowPartsOf(TheProgram), Strip, Strip.ForButtons()};
 
   void PutThree() {
     PutMenu(1, "One");

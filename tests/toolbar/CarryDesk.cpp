@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "core/MenuFile.h"
 #include "forms/Scale.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -16,8 +17,8 @@ CarryDesk::CarryDesk(const sim::WorldOptions& options)
       TheProgram(World.Services(), World.Windows()),
       Menu(TheProgram),
       Strip(TheProgram),
-      Companion(TheProgram),
-      Picture(TheProgram),
+      Companion(CompanionPartsOf(TheProgram)),
+      Picture(DragImagePartsOf(TheProgram)),
       Row(TheProgram) {
   World.Files.Put("C:\\Corvelle\\corvelle.exe", "program");
   World.Files.MakeFolders("C:\\Corvelle\\Menus");

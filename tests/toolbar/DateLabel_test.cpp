@@ -6,6 +6,7 @@
 
 #include "toolbar/PlainStrip.h"
 #include "toolbar/singles/SingleRow.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -21,8 +22,8 @@ struct EdgeDate : PlainDesk {
     Strip.Asked.clear();
   }
 
-  StripPull Pull{TheProgram, Strip};
-  SingleRow Row{TheProgram, Strip, Pull, Strip.ForRow()};
+  StripPull Pull{PullPartsOf(TheProgram), Strip};
+  SingleRow Row{SingleRowPartsOf(TheProgram), DatePartsOf(TheProgram), Strip, Pull, Strip.ForRow()};
 
   DateLabel& Date() { return Row.Date; }
   bool Shown() const {
@@ -36,8 +37,9 @@ struct EdgeDate : PlainDesk {
 
 TEST(DateLabel, IsHiddenUntilItIsAskedFor) {
   PlainDesk desk;
-  StripPull pull(desk.TheProgram, desk.Strip);
-  SingleRow row(desk.TheProgram, desk.Strip, pull, desk.Strip.ForRow());
+  StripPull pull(PullPartsOf(desk.TheProgram), desk.Strip);
+  SingleRow row(SingleRowPartsOf(desk.TheProgram), DatePartsOf(desk.TheProgram), desk.Strip, pull,
+                desk.Strip.ForRow());
   EXPECT_FALSE(desk.Strip.lblDate.Visible());
   EXPECT_FALSE(desk.Strip.Line1[0].Visible());
 }

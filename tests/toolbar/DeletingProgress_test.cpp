@@ -9,6 +9,7 @@
 #include "launch/BuiltInTempFiles.h"
 #include "sim/World.h"
 #include "toolbar/notices/frmStartup.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -33,7 +34,7 @@ struct DeletingProgress : testing::Test {
   static constexpr char kPicture[] = "C:\\Corvelle\\Icons\\delfile.ico";
   sim::World world;
   Program program{world.Services(), world.Windows()};
-  frmStartup window{program};
+  frmStartup window{StartupPartsOf(program)};
 };
 
 TEST_F(DeletingProgress, ShowsItsTextAndItsPictureOnTopAndTakesNoFocus) {

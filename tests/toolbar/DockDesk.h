@@ -6,6 +6,7 @@
 #include "toolbar/StripDesk.h"
 #include "toolbar/docking/frmImage.h"
 #include "toolbar/docking/mAppBar.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 
@@ -76,8 +77,8 @@ struct DockDesk : StripDesk {
     World.Desktop.Release();
   }
 
-  mAppBar Docking{TheProgram, Strip};
-  frmImage Picture{TheProgram, Strip};
+  mAppBar Docking{AppBarPartsOf(TheProgram), Strip};
+  frmImage Picture{StillPicturePartsOf(TheProgram), Strip};
 
  private:
   WindowId other_ = kNoWindow;

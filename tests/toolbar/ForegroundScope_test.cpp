@@ -111,12 +111,14 @@ TEST(Foreground, TheWindowThatHoldsItIsSeenOnNoScreen) {
   desk.StartAt(Edge::Right);
   desk.UseStrip();
   {
-    const ForegroundScope foreground(desk.TheProgram, desk.Strip);
+    const ForegroundScope foreground(desk.Strip, desk.TheProgram.Services.Desktop,
+                                     desk.TheProgram.Ports);
     const WindowId keeper = desk.World.Desktop.Find("frmKeeper");
     EXPECT_EQ(desk.World.Desktop.ActiveWindow(), keeper);
     EXPECT_LT(desk.World.Desktop.BoundsOf(keeper).right, -30000);
     // A rebuild inside of another one needs no second.
-    const ForegroundScope inner(desk.TheProgram, desk.Strip);
+    const ForegroundScope inner(desk.Strip, desk.TheProgram.Services.Desktop,
+                                desk.TheProgram.Ports);
     EXPECT_EQ(desk.World.Desktop.ActiveWindow(), keeper);
   }
   EXPECT_EQ(desk.World.Desktop.ActiveWindow(), desk.Strip.hWnd());

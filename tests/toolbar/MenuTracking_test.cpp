@@ -6,6 +6,7 @@
 
 #include "forms/Timer.h"
 #include "toolbar/PlainStrip.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -31,10 +32,10 @@ struct TrackDesk : PlainDesk {
     Strip.Asked.clear();
   }
 
-  ButtonRow Row{TheProgram, Strip, Strip.ForButtons()};
-  StripPull Pull{TheProgram, Strip};
+  ButtonRow Row{ButtonRowPartsOf(TheProgram), Strip, Strip.ForButtons()};
+  StripPull Pull{PullPartsOf(TheProgram), Strip};
   forms::Timer Watch{World.Windows()};
-  MenuTracking Menus{TheProgram, Strip, Row, Pull, Strip.picToolbar, Watch};
+  MenuTracking Menus{TrackingPartsOf(TheProgram), Strip, Row, Pull, Strip.picToolbar, Watch};
 
   void PointAtButton(int button) {
     const PixelPoint at = Row.Middle(button);

@@ -7,6 +7,7 @@
 #include "menus/window/frmQMenu.h"
 #include "toolbar/StripDesk.h"
 #include "toolbar/companion/Popup.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 
@@ -14,7 +15,7 @@ namespace corvelle {
 /// items "One", "Two" and, below a separator, "Three"; button 3 has "Other".
 struct PopupDesk : StripDesk {
   explicit PopupDesk(const sim::WorldOptions& options = {})
-      : StripDesk(options), RealMenu(TheProgram), ThePopup(TheProgram) {
+      : StripDesk(options), RealMenu(TheProgram), ThePopup(PopupPartsOf(TheProgram)) {
     TheProgram.Ports.QMenu = &RealMenu;
     TheProgram.Ports.Popup = &ThePopup;
     World.Files.Put("C:\\Tools\\tool.exe", "x");

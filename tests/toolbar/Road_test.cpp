@@ -12,6 +12,7 @@
 #include "toolbar/StripDesk.h"
 #include "toolbar/docking/frmImage.h"
 #include "toolbar/notices/frmHelp.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -52,8 +53,8 @@ struct RoadDesk : StripDesk {
   frmQMenu RealMenu;
   // Windows that a test wires when it wants them. They outlive the end of the program, which a test
   // that fails leaves to the desk.
-  frmHelp Hint{TheProgram};
-  frmImage Picture{TheProgram, Strip};
+  frmHelp Hint{HintPartsOf(TheProgram)};
+  frmImage Picture{StillPicturePartsOf(TheProgram), Strip};
 };
 
 TEST(StripAndMenu, AChoiceClosesTheMenuAndStartsItsProgram) {
@@ -117,13 +118,13 @@ TEST(QuickHand, AYieldInWhatAYieldLetsRunPaintsAndRunsNothing) {
     desk.Strip.Refresh();
     const int before = desk.World.Desktop.PaintCount();
     desk.Strip.picToolbar.Invalidate({0, 0, 9000, 900});
-    desk.TheProgram.DoEvents();
+    desk.TheProgram.Events.DoEvents();
     EXPECT_GT(desk.World.Desktop.PaintCount(), before);
     order.emplace_back("outer is over");
   });
   const forms::TimerId inner = windows.StartTimer(1, [&] { order.emplace_back("inner"); });
   desk.World.Desktop.Jump(1);
-  desk.TheProgram.DoEvents();
+  desk.TheProgram.Events.DoEvents();
   windows.StopTimer(outer);
   windows.StopTimer(inner);
   EXPECT_EQ(order, (std::vector<std::string>{"outer", "outer is over", "inner"}));

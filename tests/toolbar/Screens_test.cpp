@@ -6,6 +6,7 @@
 
 #include "toolbar/DockDesk.h"
 #include "toolbar/notices/frmHelp.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -154,7 +155,7 @@ TEST(SecondScreen, APlaceSavedThereIsBroughtBack) {
 TEST(SecondScreen, AHintStaysOnThePrimary) {
   DockDesk desk;
   desk.StartAt(Edge::Right);
-  frmHelp hint(desk.TheProgram);
+  frmHelp hint(HintPartsOf(desk.TheProgram));
   desk.TheProgram.Ports.Hint = &hint;
   desk.PointAt({1022, 766});
   hint.SetHint("A title that is longer than the room beside the pointer");

@@ -258,11 +258,11 @@ TEST(SingleCommands, DeletingTheMiddleOneAndUndoingItBringsItBack) {
   desk.ClickSingle(2, forms::MouseButton::Right);
   RememberForUndo(desk.TheProgram.Entry);
   const float right = desk.Strip.Left() + desk.Strip.Width();
-  DeleteItem(desk.TheProgram, false);
+  desk.TheProgram.Commands.DeleteItem(false);
   EXPECT_EQ(desk.OnDisk(), "1a 2c");
   EXPECT_EQ(desk.Row(), "ac");
   EXPECT_EQ(desk.Strip.Left() + desk.Strip.Width(), right);
-  UndoDeleteItem(desk.TheProgram);
+  desk.TheProgram.Commands.UndoDeleteItem();
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3c");
   EXPECT_EQ(desk.Row(), "abc");
 }
@@ -273,7 +273,7 @@ TEST(SingleCommands, WhatAnotherProgramHasPutInItsPlaceIsNotDeleted) {
   desk.PutSingle(2, "x");
   desk.World.Desktop.Answer("Cannot delete/cut this item. Record mismatch.",
                             forms::msgbox::AnswerOk);
-  DeleteItem(desk.TheProgram, false);
+  desk.TheProgram.Commands.DeleteItem(false);
   EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(desk.OnDisk(), "1a 2x 3c");
   EXPECT_EQ(desk.Row(), "axc");
@@ -283,8 +283,8 @@ TEST(SingleCommands, UndoingTheLastOnePutsItToTheEnd) {
   DropDesk desk("abc");
   desk.ClickSingle(3, forms::MouseButton::Right);
   RememberForUndo(desk.TheProgram.Entry);
-  DeleteItem(desk.TheProgram, false);
-  UndoDeleteItem(desk.TheProgram);
+  desk.TheProgram.Commands.DeleteItem(false);
+  desk.TheProgram.Commands.UndoDeleteItem();
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3c");
 }
 
@@ -292,11 +292,11 @@ TEST(SingleCommands, PasteGoesBeforeTheButtonOrBehindTheLastOnTheBareRow) {
   DropDesk desk("ab");
   desk.ClickSingle(2, forms::MouseButton::Right);
   SetClipboard(desk.TheProgram.Entry, Entry("x", "", "C:\\x.exe"));
-  PasteItem(desk.TheProgram);
+  desk.TheProgram.Commands.PasteItem();
   EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
   desk.PointAt(desk.BarePlace());
   desk.World.Desktop.Click(forms::MouseButton::Right);
-  PasteItem(desk.TheProgram);
+  desk.TheProgram.Commands.PasteItem();
   EXPECT_EQ(desk.OnDisk(), "1a 2x 3b 4x");
 }
 

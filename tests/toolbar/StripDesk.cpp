@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Numbers.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 
@@ -44,7 +45,7 @@ StripDesk::StripDesk(const sim::WorldOptions& options, ShellIcons* icons)
       TheProgram(World.Services(nullptr, icons), World.Windows()),
       Menu(TheProgram),
       Strip(TheProgram),
-      Companion(TheProgram) {
+      Companion(CompanionPartsOf(TheProgram)) {
   Install();
 }
 

@@ -10,6 +10,7 @@
 #include "forms/Timer.h"
 #include "toolbar/PlainStrip.h"
 #include "toolbar/singles/SingleRow.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -55,16 +56,17 @@ struct PlainDropDesk : PlainDesk {
   }
 
   WindowId Source = kNoWindow;
-  ButtonRow Row{TheProgram, Strip, Strip.ForButtons()};
-  StripPull Pull{TheProgram, Strip};
+  ButtonRow Row{ButtonRowPartsOf(TheProgram), Strip, Strip.ForButtons()};
+  StripPull Pull{PullPartsOf(TheProgram), Strip};
   forms::Timer Watch{World.Windows()};
   forms::Timer DragWatch{World.Windows()};
   forms::Timer Refused{World.Windows()};
-  MenuTracking Menus{TheProgram, Strip, Row, Pull, Strip.picToolbar, Watch};
-  SingleRow Singles{TheProgram, Strip, Pull, Strip.ForRow()};
+  MenuTracking Menus{TrackingPartsOf(TheProgram), Strip, Row, Pull, Strip.picToolbar, Watch};
+  SingleRow Singles{SingleRowPartsOf(TheProgram), DatePartsOf(TheProgram), Strip, Pull,
+                    Strip.ForRow()};
   StripDrops Drops{
-      TheProgram, Strip,     Row,    Menus, Singles, Strip.picToolbar, Strip.picSingleButton,
-      Watch,      DragWatch, Refused};
+      StripDropPartsOf(TheProgram), Strip, Row,       Menus,  Singles, Strip.picToolbar,
+      Strip.picSingleButton,        Watch, DragWatch, Refused};
 
   void PointAtButton(int button) {
     const PixelPoint at = Row.Middle(button);

@@ -12,6 +12,7 @@
 #include "core/Program.h"
 #include "forms/Form.h"
 #include "sim/World.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -70,7 +71,7 @@ struct HidingDesk {
   Program TheProgram{World.Services(), World.Windows()};
   FloatingStrip Strip{World.Windows()};
   HidingDocking Docking{Strip};
-  StripHiding Hiding{TheProgram, Strip};
+  StripHiding Hiding{HidingPartsOf(TheProgram), Strip};
 };
 
 TEST(StripHiding, AStripThatThePointerLeftHidesAndItsLineBringsItBack) {

@@ -10,6 +10,7 @@
 #include "core/Program.h"
 #include "forms/Form.h"
 #include "sim/World.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -78,7 +79,7 @@ struct PullDesk {
   HeldStrip Strip{World.Windows()};
   Outline Picture;
   PullDocking Docking;
-  StripPull Pull{TheProgram, Strip};
+  StripPull Pull{PullPartsOf(TheProgram), Strip};
 };
 
 TEST(StripPull, APressHoldsTheFrameAndClosesTheMenu) {

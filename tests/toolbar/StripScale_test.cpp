@@ -4,6 +4,7 @@
 
 #include "toolbar/StripDesk.h"
 #include "toolbar/notices/frmHelp.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -29,7 +30,7 @@ TEST(StripScale, AHintHasTheScaleOfTheStrip) {
   desk.PutButtons(1);
   desk.Strip.SetDpi(144);
   desk.Start();
-  frmHelp hint(desk.TheProgram);
+  frmHelp hint(HintPartsOf(desk.TheProgram));
   desk.PointAtButton(1);
   hint.SetHint("Letters");
   EXPECT_EQ(hint.Dpi(), 144);

@@ -12,6 +12,7 @@
 #include "toolbar/companion/frmMinimize.h"
 #include "toolbar/docking/mAppBar.h"
 #include "toolbar/notices/frmStartup.h"
+#include "toolbar/strip/StripWiring.h"
 #include "toolbar/strip/frmToolbar.h"
 
 namespace corvelle {
@@ -54,10 +55,10 @@ struct Installation {
 
   Program TheProgram;
   frmToolbar Strip{TheProgram};
-  mAppBar Docking{TheProgram, Strip};
+  mAppBar Docking{AppBarPartsOf(TheProgram), Strip};
   frmQMenu Menu{TheProgram};
-  frmMinimize Companion{TheProgram};
-  frmStartup Startup{TheProgram};
+  frmMinimize Companion{CompanionPartsOf(TheProgram)};
+  frmStartup Startup{StartupPartsOf(TheProgram)};
   NoStartupLink Link;
   OneDefaultMenu Entries{TheProgram};
 };

@@ -4,6 +4,7 @@
 
 #include "toolbar/StripDesk.h"
 #include "toolbar/notices/HintPlace.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -54,7 +55,7 @@ class Hint : public testing::Test {
   bool Up() const { return hint.IsLoaded() && hint.Visible(); }
 
   StripDesk desk;
-  frmHelp hint{desk.TheProgram};
+  frmHelp hint{HintPartsOf(desk.TheProgram)};
 };
 
 TEST_F(Hint, OverAButtonShowsItsTitleWithoutTakingTheForeground) {

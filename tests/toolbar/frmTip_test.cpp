@@ -5,6 +5,7 @@
 #include "core/OptionFlags.h"
 #include "toolbar/StripDesk.h"
 #include "toolbar/notices/TipLayout.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -51,7 +52,7 @@ class Tip : public testing::Test {
   }
 
   StripDesk desk;
-  frmTip tip{desk.TheProgram};
+  frmTip tip{TipPartsOf(desk.TheProgram)};
 };
 
 TEST_F(Tip, StandsInTheMiddleOnTopWithItsTexts) {

@@ -130,7 +130,7 @@ TEST(ToolbarPress, WhileAMenuIsBuiltOpensNoOther) {
   ThreeMenus desk;
   desk.Menu.WhileBuilding = [&] {
     desk.Click(3);
-    desk.TheProgram.DoEvents();
+    desk.TheProgram.Events.DoEvents();
   };
   desk.Press(2);
   EXPECT_EQ(desk.Menu.Times("ShowMenu F2"), 1);
@@ -143,7 +143,7 @@ TEST(ToolbarPress, AMenuThatWasBuiltUnderAnotherButtonsPressStandsAtItsOwnButton
   ThreeMenus desk;
   desk.Menu.WhileBuilding = [&] {
     desk.PointAtButton(4);
-    desk.TheProgram.DoEvents();
+    desk.TheProgram.Events.DoEvents();
   };
   desk.Press(2);
   EXPECT_EQ(desk.Menu.Left(), desk.Strip.Left() + 25 * 15);
@@ -153,7 +153,7 @@ TEST(ToolbarPress, AnEnterThatComesWhileTheMenuIsBuiltDoesNotCloseIt) {
   ThreeMenus desk;
   desk.Menu.WhileBuilding = [&] {
     desk.World.Desktop.PressKey(forms::key::Enter);
-    desk.TheProgram.DoEvents();
+    desk.TheProgram.Events.DoEvents();
   };
   desk.Press(2);
   EXPECT_EQ(desk.MenuUp(), 2);

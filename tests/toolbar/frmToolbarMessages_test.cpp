@@ -8,6 +8,7 @@
 #include "toolbar/StripDesk.h"
 #include "toolbar/notices/frmHelp.h"
 #include "toolbar/notices/frmTip.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -207,7 +208,7 @@ TEST(ToolbarFullScreen, TheHintIsOnTopAgainAfterwardsWhereHintsAreShown) {
   for (const bool hints : {true, false}) {
     SCOPED_TRACE(hints);
     StripOfTwo desk;
-    frmHelp hint(desk.TheProgram);
+    frmHelp hint(HintPartsOf(desk.TheProgram));
     desk.TheProgram.Ports.Hint = &hint;
     // One that was never shown is not made for this.
     desk.Send(message::AppBarCallback, 2, 0);
@@ -339,7 +340,7 @@ TEST(ToolbarForeground, ALateFocusRequestIsGrantedWhereTheFirstWasRefused) {
 
 TEST(ToolbarForeground, ALateFocusRequestTakesNothingFromANotice) {
   StripOfTwo desk;
-  frmTip tip(desk.TheProgram);
+  frmTip tip(TipPartsOf(desk.TheProgram));
   desk.Strip.BringToForeground();
   tip.ShowTip("Title", "Text", std::nullopt);
   desk.Wait(400);

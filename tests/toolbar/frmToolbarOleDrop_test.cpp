@@ -6,6 +6,7 @@
 #include "core/NotedEdits.h"
 #include "toolbar/DragDesk.h"
 #include "toolbar/docking/frmImage.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -116,7 +117,7 @@ TEST(ToolbarOLEDragDrop, BetweenTheButtonsNothingIsTaken) {
 
 TEST(ToolbarOLEDragDrop, AStillPictureOfTheMenuGoes) {
   DragDesk desk;
-  frmImage picture(desk.TheProgram, desk.Strip);
+  frmImage picture(StillPicturePartsOf(desk.TheProgram), desk.Strip);
   desk.TheProgram.Ports.Capture = &picture;
   desk.TakeText("http://example.com");
   desk.DragToButton(2);

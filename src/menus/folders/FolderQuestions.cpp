@@ -1,10 +1,20 @@
 #include "menus/folders/FolderQuestions.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "desk/LookupPlaces.h"
 
 namespace corvelle {
+
+namespace {
+
+/// True for what is asked of files whose names are known, one to a line of the pattern.
+bool IsOfFiles(const Lookup& question) {
+  return question.Kind == LookupKind::FileNames || question.Kind == LookupKind::ShortPaths;
+}
+
+}  // namespace
 
 FolderQuestions::FolderQuestions(desk::AnswerDesk& desk, forms::WindowSystem& windows,
                                  std::function<void()> changed, desk::Urgency how)
@@ -31,22 +41,26 @@ void FolderQuestions::Ask(Asked& asked) {
   desk::Asker later{.Ended = [this, key](const desk::Reply& reply) { Take(key, reply); },
                     .TakesLonger = [this, key](desk::Stage stage) { TakeStage(key, stage); }};
   desk::Request request{.Question = asked.Question, .How = how_, .Owner = owner_};
-  const std::int64_t left = MayWait(asked.Question.Kind);
-  if (left <= 0) {
+  if (!mayWait_) {
     desk_.Ask(std::move(request), std::move(later));
     return;
   }
-  const auto reply = desk_.AskAtOnce(std::move(request), std::move(later), static_cast<int>(left));
+  if (asked.Question.Kind == LookupKind::FileNames) request.MaxAge = kNamesAge;
+  const auto reply = desk_.AskAtOnce(std::move(request), std::move(later), MayWait(asked.Question));
   if (!reply) return;
   asked.Answer = {
       reply->How == desk::End::NotAvailable ? FolderState::NotAvailable : FolderState::Here,
       reply->Value};
 }
 
-std::int64_t FolderQuestions::MayWait(LookupKind kind) const {
-  if (!mayWait_) return 0;
-  const bool ofFiles = kind == LookupKind::FileNames || kind == LookupKind::ShortPaths;
-  return began_ + (ofFiles ? kNamesAtOnce : kAtOnce) - windows_.Now();
+int FolderQuestions::MayWait(const Lookup& question) const {
+  const bool ofFiles = IsOfFiles(question);
+  if (ofFiles &&
+      std::count(question.Pattern.begin(), question.Pattern.end(), '\n') > kMostWaitedFor) {
+    return 0;
+  }
+  const std::int64_t left = began_ + (ofFiles ? kNamesAtOnce : kAtOnce) - windows_.Now();
+  return static_cast<int>(std::max<std::int64_t>(left, 0));
 }
 
 void FolderQuestions::Take(const std::string& key, const desk::Reply& reply) {

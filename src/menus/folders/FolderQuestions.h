@@ -29,6 +29,11 @@ class FolderQuestions {
   /// The same of questions about the files of a folder that is known: without their answers the
   /// captions are the names that the disk gives. The first captions are to be there within 50 ms.
   static constexpr int kNamesAtOnce = 25;
+  /// More files than these are not asked about in that time, and are not waited for.
+  static constexpr int kMostWaitedFor = 100;
+  /// Names that are younger, in milliseconds, are not asked for again: they came after their menu
+  /// was closed, or the menu was laid out once more.
+  static constexpr int kNamesAge = 10'000;
 
   /// `changed` is called, never inside a call of this, whenever more is known. It may end this.
   /// What is not asked for a menu on show holds nothing up.
@@ -51,7 +56,7 @@ class FolderQuestions {
   };
 
   void Ask(Asked& asked);
-  [[nodiscard]] std::int64_t MayWait(LookupKind kind) const;
+  [[nodiscard]] int MayWait(const Lookup& question) const;
   void Take(const std::string& key, const desk::Reply& reply);
   void TakeStage(const std::string& key, desk::Stage stage);
 

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "core/Program.h"
 #include "core/SpecialFolders.h"
 #include "launch/CommandForm.h"
 #include "launch/LaunchItem.h"
@@ -99,8 +98,8 @@ std::string SpecialFolderName(ShellIcons& icons, std::string_view path, int& ico
 
 int SpecialFolders::SpecialFolderIconIndex(std::string_view name) {
   int icon = -1;
-  static_cast<void>(SpecialFolderName(program_.Services.Folders,
-                                      CsidlValue(ParseSpecialFolder(name, {}).Name), icon));
+  static_cast<void>(
+      SpecialFolderName(folders_, CsidlValue(ParseSpecialFolder(name, {}).Name), icon));
   return icon;
 }
 
@@ -108,11 +107,11 @@ void SpecialFolders::OpenSpecialFolder(std::string_view name, std::string_view a
   const bool file = IsQuoted(argument);
   const SpecialFolderText text = ParseSpecialFolder(name, file ? std::string_view() : argument);
   StartBeside<std::string>(
-      program_, std::string(name) + "\n" + std::string(argument),
+      launch_.Starts, std::string(name) + "\n" + std::string(argument),
       [text, parameters = file ? std::string(argument) : std::string()](
           const StartServices& services) { return OpenApart(services.Folders, text, parameters); },
-      [&program = program_](const std::string& command) {
-        if (!command.empty()) LaunchItem(program, command);
+      [launch = launch_](const std::string& command) {
+        if (!command.empty()) LaunchItem(launch, command);
       });
 }
 
@@ -120,14 +119,12 @@ bool SpecialFolders::ShowContextMenu(std::string_view command, std::string_view 
                                      PixelPoint at, WindowId owner) {
   if (!IsSpecial(command)) {
     // A folder that is not expanded has the menu of the folder.
-    return DoExplorerMenu(program_.Services.Folders, owner,
-                          Trim(command.substr(0, command.find('*'))), at);
+    return DoExplorerMenu(folders_, owner, Trim(command.substr(0, command.find('*'))), at);
   }
   const SpecialFolderText text = ParseSpecialFolder(command, title);
   const int folder = CsidlValue(text.Name);
-  if (text.Title.empty()) return ShowFolderMenu(program_.Services.Folders, folder, at, owner);
-  return DoSpecialFolder(program_.Services.Folders, folder, text.Title, MouseButton::Right, {}, at,
-                         owner);
+  if (text.Title.empty()) return ShowFolderMenu(folders_, folder, at, owner);
+  return DoSpecialFolder(folders_, folder, text.Title, MouseButton::Right, {}, at, owner);
 }
 
 }  // namespace corvelle

@@ -3,11 +3,11 @@
 #include <string>
 #include <string_view>
 
+#include "core/LaunchParts.h"
 #include "core/WindowPorts.h"
 
 namespace corvelle {
 
-class Program;
 class ShellFolders;
 class ShellIcons;
 
@@ -30,7 +30,9 @@ std::string SpecialFolderName(ShellIcons& icons, std::string_view path, int& ico
 /// there is passed over quietly. They open beside the windows; see StartBeside.
 class SpecialFolders final : public SpecialFoldersPort {
  public:
-  explicit SpecialFolders(Program& program) : program_(program) {}
+  /// Both live as long as the program.
+  SpecialFolders(ShellFolders& folders, const LaunchParts& launch)
+      : folders_(folders), launch_(launch) {}
 
   int SpecialFolderIconIndex(std::string_view name) override;
   void OpenSpecialFolder(std::string_view name, std::string_view argument) override;
@@ -38,7 +40,8 @@ class SpecialFolders final : public SpecialFoldersPort {
                        WindowId owner) override;
 
  private:
-  Program& program_;
+  ShellFolders& folders_;
+  LaunchParts launch_;
 };
 
 }  // namespace corvelle

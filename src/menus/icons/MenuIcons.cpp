@@ -47,7 +47,7 @@ std::string PlaceAskedOf(const Lookup& question) {
 
 }  // namespace
 
-MenuIcons::MenuIcons(const MenuIconSources& from)
+MenuIcons::MenuIcons(const IconSources& from)
     : from_(from), shown_(from.Answers.NewOwner()), ahead_(from.Answers.NewOwner()) {}
 
 MenuIcons::~MenuIcons() {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/Geometry.h"
+#include "core/IconSources.h"
 #include "desk/DeskRule.h"
 #include "forms/Alive.h"
 #include "icons/IconForm.h"
@@ -19,17 +20,6 @@
 #include "platform/Lookups.h"
 
 namespace corvelle {
-
-class ShellIcons;
-struct IconState;
-struct ProgramPaths;
-
-namespace desk {
-class AnswerDesk;
-}
-namespace forms {
-class WindowSystem;
-}
 
 /// What is drawn in the icon cell of an item.
 struct IconPicture {
@@ -44,15 +34,6 @@ struct IconPicture {
   }
 };
 
-/// What the icons of menus come from. All of it outlives them.
-struct MenuIconSources {
-  forms::WindowSystem& Windows;
-  desk::AnswerDesk& Answers;
-  ShellIcons& Shell;
-  const ProgramPaths& Paths;
-  const IconState& Icons;
-};
-
 /// The small icons of menus: each text is asked for once, of the desk, and then copied from a strip
 /// of icons that lie side by side. In the place of an icon that is not known yet is the one that
 /// was known last, that of its kind, or a picture of the program. Nothing here fails visibly: what
@@ -64,7 +45,7 @@ class MenuIcons {
   /// Milliseconds for which all that is asked for one opening may hold up the menu.
   static constexpr int kAtOnce = 60;
 
-  explicit MenuIcons(const MenuIconSources& from);
+  explicit MenuIcons(const IconSources& from);
   ~MenuIcons();
   MenuIcons(const MenuIcons&) = delete;
   MenuIcons& operator=(const MenuIcons&) = delete;
@@ -138,7 +119,7 @@ class MenuIcons {
   int AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw);
   void MakeRoom();
 
-  MenuIconSources from_;
+  IconSources from_;
   // Of questions to the desk.
   std::uint64_t shown_ = 0;
   std::uint64_t ahead_ = 0;

@@ -4,13 +4,17 @@
 #include <string>
 
 #include "base/Text.h"
-#include "core/Instance.h"
+#include "core/GuardFlags.h"
+#include "core/MenuState.h"
+#include "core/OptionFile.h"
 #include "core/OptionFlags.h"
-#include "core/Program.h"
+#include "core/StripPlacement.h"
+#include "core/WindowPorts.h"
+#include "desk/AnswerDesk.h"
+#include "forms/EventPump.h"
 #include "forms/Scopes.h"
-#include "launch/LaunchItem.h"
+#include "forms/WindowSystem.h"
 #include "menus/window/frmQMenu.h"
-#include "platform/FileSystem.h"
 
 namespace corvelle {
 namespace {
@@ -18,21 +22,21 @@ namespace {
 /// The still picture of the strip, where there is a window for it.
 class StripPicture {
  public:
-  explicit StripPicture(Program& program) : program_(program) {
-    if (CapturePort* const capture = program_.Ports.Capture) capture->SetPicture1();
+  explicit StripPicture(const WindowPorts& ports) : ports_(ports) {
+    if (CapturePort* const capture = ports_.Capture) capture->SetPicture1();
   }
   StripPicture(const StripPicture&) = delete;
   StripPicture& operator=(const StripPicture&) = delete;
   ~StripPicture() {
-    if (CapturePort* const capture = program_.Ports.Capture) capture->ResetPicture1();
+    if (CapturePort* const capture = ports_.Capture) capture->ResetPicture1();
   }
 
  private:
-  Program& program_;
+  const WindowPorts& ports_;
 };
 
-bool StripStands(const Program& program) {
-  return program.Ports.Toolbar != nullptr && program.Ports.Toolbar->WindowLoaded();
+bool StripStands(const WindowPorts& ports) {
+  return ports.Toolbar != nullptr && ports.Toolbar->WindowLoaded();
 }
 
 }  // namespace
@@ -44,10 +48,10 @@ struct MainMenu::Choice {
 };
 
 MainMenuFacts MainMenu::Facts() const {
-  return {.LargeIcons = program_.OptionFlags.Is(Option::LargeIcons),
-          .AutoHide = program_.Strip.AutoHide,
-          .NotOnTop = program_.Strip.NotOnTop,
-          .Docked = program_.Strip.AppBarDocked};
+  return {.LargeIcons = with_.Options.Flags.Is(Option::LargeIcons),
+          .AutoHide = with_.Strip.AutoHide,
+          .NotOnTop = with_.Strip.NotOnTop,
+          .Docked = with_.Strip.AppBarDocked};
 }
 
 // ---- marks ----
@@ -73,11 +77,11 @@ void MainMenu::CheckLabels() {
 void MainMenu::xMainMenu(int index, std::string_view text) {
   std::string wanted = Trim(text);
   if (wanted.empty()) {
-    if (program_.Menu.SelectedItem == 0) return;
+    if (with_.Menu.SelectedItem == 0) return;
     wanted = menu_.Items()[index].Title;
   }
   menu_.HideMenu();
-  program_.DoEvents();
+  with_.Events.DoEvents();
   Run(wanted);
   EndChoice();
 }
@@ -89,7 +93,7 @@ void MainMenu::Run(std::string_view text) {
       {"Auto Hide", &MainMenu::AutoHide},
       {"Not On Top", &MainMenu::NotOnTop},
       {"Large Icons", &MainMenu::LargeIcons},
-      {"Help Topics", &MainMenu::HelpTopics},
+      {"Help Topics", &MainMenu::ShowHelpTopics},
       {"About...", &MainMenu::About},
       {"Restore", &MainMenu::Restore, kRestoreLabel},
       {"Maximize", &MainMenu::Maximize, kMaximizeLabel},
@@ -100,80 +104,79 @@ void MainMenu::Run(std::string_view text) {
       std::find_if(std::begin(kChoices), std::end(kChoices),
                    [text](const Choice& known) { return EqualNoCase(known.Text, text); });
   // One change of the strip at a time, and none of a strip that is gone.
-  if (choice == std::end(kChoices) || program_.Guards.ChangingMode || !StripStands(program_))
+  if (choice == std::end(kChoices) || with_.Guards.ChangingMode || !StripStands(with_.Ports))
     return;
   if (IsChoosable(choice->Label, Facts())) (this->*choice->Run)();
 }
 
 void MainMenu::EndChoice() {
   if (menu_.IsLoaded()) menu_.DropSelection();
-  program_.Menu.SelectedItem = 0;
-  if (StripStands(program_)) program_.Ports.Toolbar->ResetMenu();
+  with_.Menu.SelectedItem = 0;
+  if (StripStands(with_.Ports)) with_.Ports.Toolbar->ResetMenu();
 }
 
 void MainMenu::Customize() {
-  if (program_.Ports.Customize != nullptr) program_.Ports.Customize->LoadWindow();
+  if (with_.Ports.Customize != nullptr) with_.Ports.Customize->LoadWindow();
 }
 
 void MainMenu::About() {
-  if (program_.Ports.About != nullptr) program_.Ports.About->LoadWindow();
+  if (with_.Ports.About != nullptr) with_.Ports.About->LoadWindow();
 }
 
 void MainMenu::RefreshAll() {
-  const StripPicture picture(program_);
-  const forms::HourglassScope hourglass(program_.Windows);
-  program_.Answers.TryAllAgain();
+  const StripPicture picture(with_.Ports);
+  const forms::HourglassScope hourglass(menu_.Windows());
+  with_.Answers.TryAllAgain();
   menu_.InitIcons();
-  program_.Ports.Toolbar->InitNewButtons();
+  with_.Ports.Toolbar->InitNewButtons();
 }
 
 void MainMenu::Forget() {
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->RemoveQMenu(kMainMenuKey);
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->RemoveQMenu(kMainMenuKey);
 }
 
 // ---- the look of the strip ----
 
 void MainMenu::LargeIcons() {
-  if (program_.Strip.AppBarDocked && program_.Strip.ToolbarVertical) {
-    const forms::FlagScope changing(program_.Guards.ChangingMode);
-    program_.OptionFlags.Flip(Option::LargeIcons);
-    program_.Ports.Toolbar->InitNewButtons();
+  if (with_.Strip.AppBarDocked && with_.Strip.ToolbarVertical) {
+    const forms::FlagScope changing(with_.Guards.ChangingMode);
+    with_.Options.Flags.Flip(Option::LargeIcons);
+    with_.Ports.Toolbar->InitNewButtons();
   } else {
     ToggleLargeIcons();
   }
-  program_.SaveOptionFlags();
+  with_.Options.SaveOptionFlags();
   Forget();
 }
 
 void MainMenu::ToggleLargeIcons() {
-  if (program_.Guards.ChangingMode || !StripStands(program_)) return;
-  const StripPicture picture(program_);
-  const forms::FlagScope changing(program_.Guards.ChangingMode);
-  ToolbarPort& strip = *program_.Ports.Toolbar;
-  program_.OptionFlags.Flip(Option::LargeIcons);
+  if (with_.Guards.ChangingMode || !StripStands(with_.Ports)) return;
+  const StripPicture picture(with_.Ports);
+  const forms::FlagScope changing(with_.Guards.ChangingMode);
+  ToolbarPort& strip = *with_.Ports.Toolbar;
+  with_.Options.Flags.Flip(Option::LargeIcons);
   strip.UnloadItems();
   if (!strip.WindowLoaded()) return;
   strip.InitButtons();
-  if (!strip.WindowLoaded() || !program_.Strip.AppBarDocked || program_.Ports.Docking == nullptr)
-    return;
-  program_.Ports.Docking->SetAppBar(program_.Strip.ToolbarEdge, false);
+  if (!strip.WindowLoaded() || !with_.Strip.AppBarDocked || with_.Ports.Docking == nullptr) return;
+  with_.Ports.Docking->SetAppBar(with_.Strip.ToolbarEdge, false);
 }
 
 void MainMenu::AutoHide() {
-  DockingPort* const docking = program_.Ports.Docking;
+  DockingPort* const docking = with_.Ports.Docking;
   // Only an edge of the screen hides a strip.
   if (docking == nullptr) return;
-  ToolbarPort& strip = *program_.Ports.Toolbar;
+  ToolbarPort& strip = *with_.Ports.Toolbar;
   {
-    const StripPicture picture(program_);
-    const forms::FlagScope changing(program_.Guards.ChangingMode);
+    const StripPicture picture(with_.Ports);
+    const forms::FlagScope changing(with_.Guards.ChangingMode);
     strip.SetPointerWatch(false);
-    if (program_.Strip.AutoHide) {
+    if (with_.Strip.AutoHide) {
       EndAutoHide();
     } else if (!StartAutoHide()) {
       return;
     }
-    program_.SaveOptionFlags();
+    with_.Options.SaveOptionFlags();
     Forget();
   }
   if (strip.WindowLoaded()) strip.SetPointerWatch(true);
@@ -181,38 +184,38 @@ void MainMenu::AutoHide() {
 
 // False when another window hides at that edge; nothing has changed then.
 bool MainMenu::StartAutoHide() {
-  DockingPort& docking = *program_.Ports.Docking;
-  if (!docking.AutoHideFree(program_.Strip.ToolbarEdge)) return false;
-  program_.Strip.AutoHide = true;
-  program_.OptionFlags.Set(Option::AutoHide, true);
-  docking.SetAppBar(program_.Strip.ToolbarEdge, !program_.Strip.AppBarDocked);
-  if (program_.Strip.NotOnTop) {
-    program_.OptionFlags.Set(Option::NotOnTop, false);
-    if (program_.Ports.Minimize != nullptr) program_.Ports.Minimize->DeActivateSysTray();
-    program_.Strip.NotOnTop = false;
+  DockingPort& docking = *with_.Ports.Docking;
+  if (!docking.AutoHideFree(with_.Strip.ToolbarEdge)) return false;
+  with_.Strip.AutoHide = true;
+  with_.Options.Flags.Set(Option::AutoHide, true);
+  docking.SetAppBar(with_.Strip.ToolbarEdge, !with_.Strip.AppBarDocked);
+  if (with_.Strip.NotOnTop) {
+    with_.Options.Flags.Set(Option::NotOnTop, false);
+    if (with_.Ports.Minimize != nullptr) with_.Ports.Minimize->DeActivateSysTray();
+    with_.Strip.NotOnTop = false;
   }
   return true;
 }
 
 // The edge is taken again, with its room on the screen.
 void MainMenu::EndAutoHide() {
-  program_.Strip.AutoHide = false;
-  program_.OptionFlags.Set(Option::AutoHide, false);
-  program_.Ports.Docking->SetAppBar(program_.Strip.ToolbarEdge, !program_.Strip.AppBarDocked);
+  with_.Strip.AutoHide = false;
+  with_.Options.Flags.Set(Option::AutoHide, false);
+  with_.Ports.Docking->SetAppBar(with_.Strip.ToolbarEdge, !with_.Strip.AppBarDocked);
 }
 
 void MainMenu::NotOnTop() {
-  MinimizePort* const companion = program_.Ports.Minimize;
+  MinimizePort* const companion = with_.Ports.Minimize;
   if (companion == nullptr) return;
-  const forms::FlagScope changing(program_.Guards.ChangingMode);
-  const bool now = program_.Strip.NotOnTop;
+  const forms::FlagScope changing(with_.Guards.ChangingMode);
+  const bool now = with_.Strip.NotOnTop;
   Forget();
   if (now) {
     companion->DeActivateSysTray();
   } else {
     companion->ActivateSysTray();
   }
-  program_.SaveOptionFlags();
+  with_.Options.SaveOptionFlags();
   // What was built meanwhile shows the mark of before.
   Forget();
 }
@@ -220,18 +223,18 @@ void MainMenu::NotOnTop() {
 // ---- the place of the strip ----
 
 void MainMenu::Restore() {
-  program_.OptionFlags.Set(Option::AtEdge, false);
-  if (!program_.OptionFlags.Is(Option::LargeInRestoreMode))
-    program_.OptionFlags.Set(Option::LargeIcons, false);
+  with_.Options.Flags.Set(Option::AtEdge, false);
+  if (!with_.Options.Flags.Is(Option::LargeInRestoreMode))
+    with_.Options.Flags.Set(Option::LargeIcons, false);
   Forget();
-  program_.Ports.Toolbar->RestoreToolbar();
+  with_.Ports.Toolbar->RestoreToolbar();
 }
 
 void MainMenu::Maximize() {
-  DockingPort* const docking = program_.Ports.Docking;
+  DockingPort* const docking = with_.Ports.Docking;
   if (docking == nullptr) return;
   Forget();
-  corvelle::OptionFlags stored = program_.OptionFlags;
+  OptionFlags stored = with_.Options.Flags;
   stored.Set(Option::AtEdge, true);
   EdgePlacement placement;
   ReadEdgeFlags(stored, placement);
@@ -239,32 +242,21 @@ void MainMenu::Maximize() {
 }
 
 void MainMenu::Minimize() {
-  MinimizePort* const companion = program_.Ports.Minimize;
-  if (companion != nullptr) companion->MinimizeFor(program_.Ports.Toolbar->WindowBounds());
+  MinimizePort* const companion = with_.Ports.Minimize;
+  if (companion != nullptr) companion->MinimizeFor(with_.Ports.Toolbar->WindowBounds());
 }
 
 // ---- help and the end ----
 
-void MainMenu::HelpTopics() {
-  const std::string help = program_.Paths.ShippedFile("corvelle.hlp");
-  if (!program_.Services.Files.FileExists(help)) {
-    HelpPort* const pages = program_.Ports.Help;
-    if (pages != nullptr && pages->ShowPage(HelpPage::Contents)) return;
-    program_.Say(program_.ToolbarWindow(),
-                 "Corvelle help file could not be found in Corvelle folder.",
-                 forms::msgbox::IconStop | forms::msgbox::OnTop);
-    return;
-  }
-  if (!ActivatePrevInstance(program_.Services.Desktop, "Corvelle Help")) LaunchItem(program_, help);
-}
+void MainMenu::ShowHelpTopics() { with_.Help.Show(); }
 
 // The companion's end is the program's end; what the strip has to save it saves before.
 void MainMenu::Exit() {
-  ToolbarPort& strip = *program_.Ports.Toolbar;
+  ToolbarPort& strip = *with_.Ports.Toolbar;
   strip.HideWindow();
   strip.SetPointerWatch(false);
   strip.UnloadWindow();
-  if (program_.Ports.Minimize != nullptr) program_.Ports.Minimize->UnloadWindow();
+  if (with_.Ports.Minimize != nullptr) with_.Ports.Minimize->UnloadWindow();
 }
 
 }  // namespace corvelle

@@ -3,18 +3,40 @@
 #include <string_view>
 
 #include "core/WindowPorts.h"
+#include "menus/window/HelpTopics.h"
 #include "menus/window/MainMenuRules.h"
 
 namespace corvelle {
 
-class Program;
+class OptionFile;
+struct GuardFlags;
+struct MenuState;
+struct StripPlacement;
+namespace desk {
+class AnswerDesk;
+}
+namespace forms {
+class EventPump;
+}
 class frmQMenu;
+
+/// What the main menu works with. All of it outlives it.
+struct MainMenuParts {
+  const WindowPorts& Ports;
+  StripPlacement& Strip;
+  OptionFile& Options;
+  GuardFlags& Guards;
+  MenuState& Menu;
+  forms::EventPump& Events;
+  desk::AnswerDesk& Answers;
+  HelpTopics Help;
+};
 
 /// The program's own menu: a menu like any other in look and behaviour, whose items have no
 /// commands. What each does goes by its caption.
 class MainMenu final : public MainMenuPort {
  public:
-  MainMenu(Program& program, frmQMenu& menu) : program_(program), menu_(menu) {}
+  MainMenu(const MainMenuParts& with, frmQMenu& menu) : with_(with), menu_(menu) {}
 
   /// Carries out a choice. Without a text the caption of item `index` says what it is, if an item
   /// is selected. Events run, and the program may have ended when this returns.
@@ -36,7 +58,7 @@ class MainMenu final : public MainMenuPort {
   void LargeIcons();
   void AutoHide();
   void NotOnTop();
-  void HelpTopics();
+  void ShowHelpTopics();
   void About();
   void Restore();
   void Maximize();
@@ -47,7 +69,7 @@ class MainMenu final : public MainMenuPort {
   void EndAutoHide();
   void Forget();
 
-  Program& program_;
+  MainMenuParts with_;
   frmQMenu& menu_;
 };
 

@@ -3,13 +3,11 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/DroppedFiles.h"
 #include "core/DroppedTitle.h"
+#include "core/GuardFlags.h"
 #include "core/MenuFile.h"
-#include "core/Program.h"
 #include "core/RecordEdits.h"
-#include "forms/Scopes.h"
-#include "launch/FileTitle.h"
+#include "core/WindowPorts.h"
 #include "launch/LaunchItem.h"
 #include "menus/items/ShownItems.h"
 
@@ -17,18 +15,18 @@ namespace corvelle {
 
 using forms::DragData;
 
-bool MenuDrops::Takes(const Program& program, const DragData& data) {
-  return IsOfUse(data) && program.Guards.TakesDrops();
+bool MenuDrops::Takes(const GuardFlags& guards, const DragData& data) {
+  return IsOfUse(data) && guards.TakesDrops();
 }
 
-void MenuDrops::Drop(const DragData& data, const Target& target,
+void MenuDrops::Drop(const DragData& data, forms::MouseButton buttons, const Target& target,
                      const std::function<void()>& close) {
   if (!data.Files) {
     OfferAddress(data, target);
     return;
   }
   if (data.Files->empty()) return;
-  const bool opens = program_.Drag.DragButtons == forms::MouseButton::Right && target.Item != 0;
+  const bool opens = buttons == forms::MouseButton::Right && target.Item != 0;
   if (!opens || !target.Enabled) {
     InsertFiles(*data.Files, target);
     return;
@@ -42,50 +40,39 @@ void MenuDrops::Drop(const DragData& data, const Target& target,
   }
   close();
   // An entry without a command has nothing that could open a file.
-  if (!command.empty()) OpenWithItem(program_, data.Files->front(), command);
+  if (!command.empty()) OpenWithItem(with_.Launch, data.Files->front(), command);
 }
 
 void MenuDrops::InsertFiles(const std::vector<std::string>& names, const Target& target) {
   const int position = items_[target.Item].Origin.Record;
   const std::string key = items_.Key();
   const std::string file = StoredMenuFile(target.File);
-  CapturePort* const capture = program_.Ports.Capture;
+  CapturePort* const capture = with_.Ports.Capture;
   const bool captures = capture != nullptr && !capture->MenuCaptured();
   if (captures) capture->CaptureMenu();
-  auto outcome = EditOutcome::NothingToDo;
-  DroppedEntries dropped;
-  {
-    const forms::FlagScope busy(program_.Guards.ItemActionBusy);
-    FileSystem& files = program_.Services.Files;
-    const CodePage& ansi = program_.Services.Ansi;
-    dropped = DroppedRecords(names, [this](const std::vector<std::string>& paths) {
-      return GetTrimmedNames(program_, paths);
-    });
-    outcome = InsertDropped(files, ansi, file, position, dropped.Records);
-    if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
-  }
+  FileDrops::Written written = with_.Files.Insert(file, position, names);
   // After a failure the menu shows what the file still holds.
-  if (outcome == EditOutcome::Edited && program_.Ports.Toolbar != nullptr) {
-    program_.Ports.Toolbar->RefreshMenu(key);
+  if (written.Outcome == EditOutcome::Edited && with_.Ports.Toolbar != nullptr) {
+    with_.Ports.Toolbar->RefreshMenu(key);
   }
   if (captures) capture->ReleaseMenu();
-  if (program_.Ports.Toolbar != nullptr) {
-    program_.Ports.Toolbar->TellRefused(std::move(dropped.Refused));
+  if (with_.Ports.Toolbar != nullptr) {
+    with_.Ports.Toolbar->TellRefused(std::move(written.Refused));
   }
 }
 
 // The dialog writes the entry before the item under the drop, or at the end of the button's menu.
 void MenuDrops::OfferAddress(const DragData& data, const Target& target) {
-  WebLinkPort* const links = program_.Ports.WebLink;
+  WebLinkPort* const links = with_.Ports.WebLink;
   const auto address = DroppedAddress(*data.Text);
   if (links == nullptr || !address) return;
   const std::string key = items_.Key();
   const std::string file = StoredMenuFile(target.File);
-  if (target.Item != 0) SetCurrentEntry(program_.Entry, items_.EntryOf(target.Item));
-  program_.Entry.CurFile = file;
+  if (target.Item != 0) SetCurrentEntry(with_.Entry, items_.EntryOf(target.Item));
+  with_.Entry.CurFile = file;
   const std::string tag = target.Item != 0 ? key : key.substr(1);
-  if (program_.Ports.Capture != nullptr) program_.Ports.Capture->CaptureMenu();
-  links->OfferWebLink(*address, TitleOfDrop(program_.Ports.Browser, data, *address), tag, file);
+  if (with_.Ports.Capture != nullptr) with_.Ports.Capture->CaptureMenu();
+  links->OfferWebLink(*address, TitleOfDrop(with_.Ports.Browser, data, *address), tag, file);
 }
 
 }  // namespace corvelle

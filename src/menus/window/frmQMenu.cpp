@@ -45,13 +45,18 @@ frmQMenu::frmQMenu(Program& program)
       KeysTimer(program.Windows),
       UpdateTimer(program.Windows),
       program_(program),
-      icons_({.Windows = program.Windows,
-              .Answers = program.Answers,
-              .Shell = program.Services.Icons,
-              .Paths = program.Paths,
-              .Icons = program.Icons}),
+      icons_(program.IconSources),
       items_(program.Services.Ansi),
-      drops_(program, items_),
+      drops_({.Files = FileDrops(
+                  {.Files = program.Services.Files,
+                   .Ansi = program.Services.Ansi,
+                   .Titles = FileTitles(program.Starts, program.Services.Ansi, program.OptionFlags),
+                   .Guards = program.Guards,
+                   .Ports = program.Ports}),
+              .Launch = program.Launch,
+              .Ports = program.Ports,
+              .Entry = program.Entry},
+             items_),
       prefetch_({.Windows = program.Windows,
                  .Answers = program.Answers,
                  .Files = program.Services.Files,
@@ -195,7 +200,7 @@ void frmQMenu::TakeScale() {
 }
 
 void frmQMenu::ShowMenu(std::string_view menuKey, std::string_view menuFile) {
-  program_.SetHint("");
+  program_.Ports.SetHint("");
   // A build lets nothing else into the window.
   if (program_.Guards.MenuBuilding) return;
   if (!Load()) return;
@@ -266,7 +271,7 @@ void frmQMenu::BringUp() {
   if (Visible()) return;
   ShowNoActivate();
   // Another program's drag keeps the foreground.
-  if (program_.DragHolds()) return;
+  if (program_.Drag.DragHolds(program_.Services.Pointer)) return;
   // A menu that was rebuilt behind its still picture has the keyboard again, if the program still
   // has it.
   if (IsCaptured()) {

@@ -24,7 +24,7 @@ void frmQMenu::Form_MouseDown(MouseButton button, ShiftState shift, float x, flo
   const int index = program_.Menu.SelectedItem;
   if (index == 0 || !Lbl[index].Enabled() || HitItem(Page(), y) != index) return;
   SetCurrentEntry(program_.Entry, items_.EntryOf(index));
-  if (MayBeCopied(program_, hWnd())) StartCarry(program_);
+  if (program_.Commands.MayBeCopied(hWnd())) program_.Carry.StartCarry();
 }
 
 PixelPoint frmQMenu::OnScreen(float x, float y) const {
@@ -44,7 +44,7 @@ void frmQMenu::DoItemDrag(ShiftState shift) {
   if (program_.Guards.ItemActionBusy) return;
   // Only now: the picture may take the activation, and the menu its selection back.
   const MenuStill still(program_.Ports.Capture);
-  const bool changed = DropItem(program_, key, place, shift.Ctrl);
+  const bool changed = program_.Commands.DropItem(key, place, shift.Ctrl);
   if (changed && program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->RefreshMenu(key);
 }
 

@@ -47,7 +47,8 @@ void frmQMenu::Lbl_OLEDragDrop(int index, DragData& data, DropEffect& effect, Mo
 
 // The program's own menu holds nothing of the user's.
 bool frmQMenu::TakesDrop(const DragData& data) const {
-  return MenuVisible() && !EqualNoCase(MenuKey, kMainMenuKey) && MenuDrops::Takes(program_, data);
+  return MenuVisible() && !EqualNoCase(MenuKey, kMainMenuKey) &&
+         MenuDrops::Takes(program_.Guards, data);
 }
 
 void frmQMenu::Form_OLEDragOver(DragData& data, DropEffect& effect, MouseButton down,
@@ -75,8 +76,8 @@ void frmQMenu::Form_OLEDragDrop(DragData& data, DropEffect& effect, MouseButton 
     effect = effect & EffectOfDrag(program_.Drag.DragButtons);
     const int item = program_.Menu.SelectedItem;
     const bool enabled = item != 0 && Lbl[item].Enabled();
-    drops_.Drop(data, {.Item = item, .Enabled = enabled, .File = MenuFile},
-                [this] { CloseMenu(); });
+    drops_.Drop(data, program_.Drag.DragButtons,
+                {.Item = item, .Enabled = enabled, .File = MenuFile}, [this] { CloseMenu(); });
   }
   if (MenuVisible()) Timer1.SetEnabled(true);
 }

@@ -102,7 +102,7 @@ void frmQMenu::mMouseMove(float x, float y) {
 
 void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float y) {
   program_.Menu.KeyboardOnToolbar = false;
-  if (EndCarry(program_, OnScreen(x, y), button, shift)) return;
+  if (program_.Carry.EndCarry(OnScreen(x, y), button, shift)) return;
   if (program_.Guards.MenuBuilding) return;
   const bool pressedHere = std::exchange(pressed_, false);
   if (button == MouseButton::Left && !StillAway(x, y)) {
@@ -149,9 +149,10 @@ void frmQMenu::RunItem(bool mainMenu, int index, const std::string& command,
     return;
   }
   if (command.empty()) {
-    program_.Say(program_.ToolbarWindow(),
-                 "Empty string in the File Field. Check your entries in the Customize window.",
-                 forms::msgbox::IconStop | forms::msgbox::OnTop);
+    program_.Messages.Say(
+        program_.Ports.ToolbarWindow(),
+        "Empty string in the File Field. Check your entries in the Customize window.",
+        forms::msgbox::IconStop | forms::msgbox::OnTop);
     return;
   }
   // A folder that is not expanded opens as itself.
@@ -161,7 +162,7 @@ void frmQMenu::RunItem(bool mainMenu, int index, const std::string& command,
     folders->OpenSpecialFolder(wanted, title);
     return;
   }
-  LaunchItem(program_, wanted);
+  LaunchItem(program_.Launch, wanted);
 }
 
 void frmQMenu::OfferItem(ShiftState shift) {
@@ -209,7 +210,7 @@ void frmQMenu::Timer1_Timer() {
   // A message or a popup of the menu is no going away; what a command of the shell shows is.
   if (program_.Guards.OpenQuestions > 0 && !shellMenuUp_) return;
   // A drag decides which menu is up, but one that is hidden under it has to go, to come up again.
-  if (program_.DragHolds() && Visible()) return;
+  if (program_.Drag.DragHolds(program_.Services.Pointer) && Visible()) return;
   // A still picture of the menu does not outlive the rebuild that it was made for.
   if (CapturePort* const capture = program_.Ports.Capture) {
     if (capture->MenuCaptured()) capture->ReleaseMenu();
@@ -218,7 +219,7 @@ void frmQMenu::Timer1_Timer() {
   const bool over = PointerOver();
   const bool ours =
       active != kNoWindow &&
-      (active == hWnd() || active == program_.ToolbarWindow() || active == HintWindow());
+      (active == hWnd() || active == program_.Ports.ToolbarWindow() || active == HintWindow());
   if (!ours || !Visible()) {
     // The user has gone to another program.
     if (!over) CloseMenu();

@@ -44,7 +44,8 @@ void frmQMenu::TryUpdate() {
   if (!updateSince_) return;
   const std::int64_t now = program_.Windows.Now();
   const bool busy = pressed_ || program_.Guards.MenuBuilding || program_.Guards.OpenQuestions > 0 ||
-                    program_.Entry.ItemDragging || program_.DragHolds() ||
+                    program_.Entry.ItemDragging ||
+                    program_.Drag.DragHolds(program_.Services.Pointer) ||
                     program_.Guards.ItemActionBusy;
   if (!MayUpdate({.Busy = busy,
                   .PointerOver = PointerOver(),

@@ -5,8 +5,11 @@
 #include <string>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/Carry.h"
+#include "core/IconState.h"
+#include "core/ProgramPaths.h"
 #include "forms/Graphic.h"
+#include "forms/WindowSystem.h"
 #include "icons/Glyphs.h"
 #include "icons/IconForm.h"
 #include "platform/DesktopWindows.h"
@@ -25,8 +28,8 @@ constexpr Rgb kWhite = 0x00FFFFFF;
 
 }  // namespace
 
-DragImage::DragImage(Program& program)
-    : Timer1(program.Windows), program_(program), icons_(program) {
+DragImage::DragImage(const DragImageParts& with)
+    : Timer1(with.Icons.Windows), with_(with), icons_(with.Icons) {
   Timer1.SetInterval(kFollowMilliseconds);
   Timer1.SetEnabled(false);
   Timer1.Tick = [this] { Timer1_Timer(); };
@@ -35,38 +38,38 @@ DragImage::DragImage(Program& program)
 void DragImage::SetDragImage(std::string_view icon) {
   icons_.Drop();
   Carry(MakePicture(Trim(icon)));
-  program_.Windows.SetMousePointer(forms::MousePointer::Custom);
+  with_.Icons.Windows.SetMousePointer(forms::MousePointer::Custom);
   DragCursorOk = true;
   Timer1.SetEnabled(true);
 }
 
 void DragImage::Carry(const Picture& picture) {
   const PixelSize size = picture ? picture->Size() : PixelSize{};
-  program_.Windows.SetMouseIcon(picture, {size.width / 2, size.height / 2});
+  with_.Icons.Windows.SetMouseIcon(picture, {size.width / 2, size.height / 2});
 }
 
 void DragImage::RemoveDragImage() {
   icons_.Drop();
   Timer1.SetEnabled(false);
   DragCursorOk = false;
-  program_.Windows.SetMousePointer(forms::MousePointer::Default);
-  program_.Windows.SetMouseIcon(nullptr, {});
+  with_.Icons.Windows.SetMousePointer(forms::MousePointer::Default);
+  with_.Icons.Windows.SetMouseIcon(nullptr, {});
 }
 
 int DragImage::PictureSize() const {
-  return std::max(program_.Services.Icons.IconWidth(IconList::Large), kLeastSize);
+  return std::max(with_.Icons.Shell.IconWidth(IconList::Large), kLeastSize);
 }
 
 Picture DragImage::MakePicture(std::string_view icon) {
   const int scale = PictureSize() / kGlyphSize;
   const IconForm form = ClassifyIcon(icon,
-                                     {.AppPath = program_.Paths.AppPath,
-                                      .IconsPath = program_.Paths.IconsPath,
-                                      .WebLinkIcon = program_.Icons.WebLinkIcon},
+                                     {.AppPath = with_.Icons.Paths.AppPath,
+                                      .IconsPath = with_.Icons.Paths.IconsPath,
+                                      .WebLinkIcon = with_.Icons.Icons.WebLinkIcon},
                                      IconCaller::Menu);
-  const Picture hand = MakeGlyph(program_.Windows, "hand", scale);
+  const Picture hand = MakeGlyph(with_.Icons.Windows, "hand", scale);
   if (form.Kind == IconKind::BuiltIn) {
-    const Picture own = MakeGlyph(program_.Windows, form.Text, scale);
+    const Picture own = MakeGlyph(with_.Icons.Windows, form.Text, scale);
     return own ? own : hand;
   }
   const Picture cut =
@@ -82,7 +85,7 @@ Picture DragImage::MakePicture(std::string_view icon) {
 // what is no icon.
 Picture DragImage::CutOut(const IconLook& look) const {
   if (!look.Glyph.empty()) return nullptr;
-  forms::WindowSystem& windows = program_.Windows;
+  forms::WindowSystem& windows = with_.Icons.Windows;
   const int side = PictureSize();
   const PixelRect whole{0, 0, side, side};
   const std::unique_ptr<Canvas> onBlack = windows.CreateCanvas(whole.Size());
@@ -103,11 +106,11 @@ Picture DragImage::CutOut(const IconLook& look) const {
 
 void DragImage::Timer1_Timer() {
   // What is being put down is followed no more, and whoever does it takes the picture away.
-  if (program_.Drag.ItemDropping) return;
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  if (with_.Carry.IsDropping()) return;
+  ToolbarPort* const strip = with_.Ports.Toolbar;
   // Tells of a release that went to another program, and opens the menus on the way.
-  const int button = program_.Entry.ItemDragging && strip != nullptr ? strip->dragCurButton() : 0;
-  if (!program_.Entry.ItemDragging) {
+  const int button = with_.Carry.IsCarrying() && strip != nullptr ? strip->dragCurButton() : 0;
+  if (!with_.Carry.IsCarrying()) {
     RemoveDragImage();
     return;
   }
@@ -120,12 +123,11 @@ void DragImage::Timer1_Timer() {
 }
 
 CarryScene DragImage::Scene(int button) const {
-  const WindowId under =
-      program_.Services.Desktop.WindowAt(program_.Services.Pointer.PointerPosition());
+  const WindowId under = with_.Desktop.WindowAt(with_.Pointer.PointerPosition());
   CarryScene scene{.Button = button};
   if (under == kNoWindow) return scene;
-  const StripCarryPort* const strip = program_.Ports.Toolbar;
-  const QMenuPort* const menu = program_.Ports.QMenu;
+  const StripCarryPort* const strip = with_.Ports.Toolbar;
+  const QMenuPort* const menu = with_.Ports.QMenu;
   if (menu != nullptr && menu->MenuVisible() && under == menu->WindowHandle()) {
     scene.Over = CarryOver::Menu;
     scene.MainMenu = menu->OwnerTag() == "1";
@@ -138,8 +140,8 @@ CarryScene DragImage::Scene(int button) const {
 }
 
 void DragImage::ShowPointer() {
-  program_.Windows.SetMousePointer(DragCursorOk ? forms::MousePointer::Custom
-                                                : forms::MousePointer::NoDrop);
+  with_.Icons.Windows.SetMousePointer(DragCursorOk ? forms::MousePointer::Custom
+                                                   : forms::MousePointer::NoDrop);
 }
 
 }  // namespace corvelle

@@ -10,13 +10,24 @@
 
 namespace corvelle {
 
-class Program;
+class DesktopWindows;
+class EntryCarry;
+class Input;
+
+/// What the carried picture works with. All of it outlives it.
+struct DragImageParts {
+  IconSources Icons;
+  const EntryCarry& Carry;
+  const WindowPorts& Ports;
+  const DesktopWindows& Desktop;
+  const Input& Pointer;
+};
 
 /// The picture that the pointer carries while an entry is dragged: the entry's icon where it may be
 /// put down, the "no drop" sign elsewhere.
 class DragImage final : public DragImagePort {
  public:
-  explicit DragImage(Program& program);
+  explicit DragImage(const DragImageParts& with);
 
   void SetDragImage(std::string_view icon) override;
   void RemoveDragImage() override;
@@ -38,7 +49,7 @@ class DragImage final : public DragImagePort {
   [[nodiscard]] Picture CutOut(const IconLook& look) const;
   void Carry(const Picture& picture);
 
-  Program& program_;
+  DragImageParts with_;
   AskedIcons icons_;
 };
 

@@ -1,7 +1,11 @@
 #include "toolbar/companion/Popup.h"
 
-#include "core/Program.h"
+#include "core/EntryCommands.h"
+#include "core/GuardFlags.h"
+#include "core/MenuState.h"
+#include "core/MessageBoxes.h"
 #include "forms/Scopes.h"
+#include "forms/WindowSystem.h"
 #include "platform/Input.h"
 #include "toolbar/companion/PopupRules.h"
 
@@ -9,12 +13,11 @@ namespace corvelle {
 
 namespace {
 
-PopupFacts FactsOf(const Program& program) {
-  const EntryEdit& entry = program.Entry;
+PopupFacts FactsOf(const EntryEdit& entry, const MenuState& menu) {
   return {.Tag = entry.CurMenuTag,
           .Record = entry.CurRecord,
           .Command = entry.CurCommand,
-          .FollowsSeparator = program.Menu.ItemHasSeparator,
+          .FollowsSeparator = menu.ItemHasSeparator,
           .ClipboardEmpty =
               entry.ClipTitle.empty() && entry.ClipIcon.empty() && entry.ClipCommand.empty(),
           .UndoTag = entry.UndoMenuTag};
@@ -22,7 +25,7 @@ PopupFacts FactsOf(const Program& program) {
 
 }  // namespace
 
-Popup::Popup(Program& program) : mnuItem(ItemCount + 1), program_(program) { ClearButtonMenu(); }
+Popup::Popup(const PopupParts& with) : mnuItem(ItemCount + 1), with_(with) { ClearButtonMenu(); }
 
 void Popup::ClearButtonMenu() {
   mnuItem.assign(mnuItem.size(), {});
@@ -31,7 +34,7 @@ void Popup::ClearButtonMenu() {
 
 void Popup::DoButtonMenu() {
   ClearButtonMenu();
-  const PopupFacts facts = FactsOf(program_);
+  const PopupFacts facts = FactsOf(with_.Entry, with_.Menu);
   std::size_t line = 1;
   for (const PopupRow& row : PopupRows()) {
     mnuItem[line++] = {.Caption = std::string(row.Caption),
@@ -44,16 +47,16 @@ void Popup::DoButtonMenu() {
 
 void Popup::ShowToolbarPopup(EntryEdit entry) {
   // A right click that arrives meanwhile leaves the entry that the popup is for.
-  if (busy_ || program_.ToolbarWindow() == kNoWindow) return;
+  if (busy_ || with_.Ports.ToolbarWindow() == kNoWindow) return;
   const forms::FlagScope busy(busy_);
   entry.CurFile = SourceMenuFile(entry.CurFile);
-  SetCurrentEntry(program_.Entry, entry);
+  SetCurrentEntry(with_.Entry, entry);
   DoButtonMenu();
-  program_.SetHint("");
+  with_.Ports.SetHint("");
   const int chosen = LetChoose();
   // Anything can have happened meanwhile, the end of the program too.
-  if (chosen > 0 && program_.ToolbarWindow() != kNoWindow) {
-    SetCurrentEntry(program_.Entry, entry);
+  if (chosen > 0 && with_.Ports.ToolbarWindow() != kNoWindow) {
+    SetCurrentEntry(with_.Entry, entry);
     mnuItem_Click(chosen);
   }
   ClearButtonMenu();
@@ -69,10 +72,9 @@ int Popup::LetChoose() {
                      .Checked = element.Checked,
                      .Visible = element.Visible});
   }
-  const forms::CountScope asking(program_.Guards.OpenQuestions);
-  return program_.Windows.ShowPopup(program_.WindowInUse(), lines,
-                                    program_.Services.Pointer.PointerPosition(),
-                                    forms::popup::RightButton);
+  const forms::CountScope asking(with_.Guards.OpenQuestions);
+  return with_.Launch.Windows.ShowPopup(with_.Ports.WindowInUse(), lines,
+                                        with_.Pointer.PointerPosition(), forms::popup::RightButton);
 }
 
 }  // namespace corvelle

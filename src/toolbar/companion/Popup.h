@@ -4,18 +4,36 @@
 #include <string_view>
 #include <vector>
 
+#include "core/LaunchParts.h"
 #include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 
 namespace corvelle {
 
-class Program;
+class CodePage;
+class EntryCommands;
+class Input;
+struct GuardFlags;
+struct MenuState;
 
-/// The popup menu of right clicks. Its commands act on the entry that is current (Program::Entry)
+/// What the popup works with. All of it outlives it.
+struct PopupParts {
+  EntryEdit& Entry;
+  EntryCommands& Commands;
+  FileSystem& Files;
+  const CodePage& Ansi;
+  const WindowPorts& Ports;
+  GuardFlags& Guards;
+  const MenuState& Menu;
+  const Input& Pointer;
+  LaunchParts Launch;
+};
+
+/// The popup menu of right clicks. Its commands act on the entry that is current (EntryEdit)
 /// when they begin.
 class Popup final : public PopupPort {
  public:
-  explicit Popup(Program& program);
+  explicit Popup(const PopupParts& with);
 
   void ShowToolbarPopup(EntryEdit entry) override;
 
@@ -65,7 +83,7 @@ class Popup final : public PopupPort {
   void Settle(EditOutcome outcome, const std::string& file);
   void ShowError(std::string_view path, FileError error);
 
-  Program& program_;
+  PopupParts with_;
   bool busy_ = false;
 };
 

@@ -4,9 +4,12 @@
 
 #include "base/Text.h"
 #include "core/EntryCommands.h"
+#include "core/GuardFlags.h"
 #include "core/MenuFile.h"
-#include "core/Program.h"
+#include "core/MenuState.h"
+#include "core/MessageBoxes.h"
 #include "forms/Scopes.h"
+#include "forms/WindowSystem.h"
 #include "launch/LaunchItem.h"
 #include "shell/FileErrorText.h"
 #include "toolbar/companion/Popup.h"
@@ -41,8 +44,8 @@ void Popup::mnuItem_Click(int index) {
 }
 
 void Popup::ShowError(std::string_view path, FileError error) {
-  program_.Say(program_.WindowInUse(), NumberedFileError(program_.Services.Files, path, error),
-               forms::msgbox::IconInformation | forms::msgbox::OnTop);
+  with_.Launch.Messages.Say(with_.Ports.WindowInUse(), NumberedFileError(with_.Files, path, error),
+                            forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
 // A disk that refused has left the file as it was; the user learns that nothing was done.
@@ -51,94 +54,93 @@ void Popup::Settle(EditOutcome outcome, const std::string& file) {
 }
 
 void Popup::ShowIconLibrary() {
-  if (program_.Ports.Library != nullptr) program_.Ports.Library->Show({});
+  if (with_.Ports.Library != nullptr) with_.Ports.Library->Show({});
 }
 
 void Popup::OpenEntry() {
-  const EntryEdit entry = program_.Entry;
+  const EntryEdit entry = with_.Entry;
   if (IsButtonTag(entry.CurMenuTag)) {
-    program_.Ports.Toolbar->OpenMenu(entry.CurMenuTag);
+    with_.Ports.Toolbar->OpenMenu(entry.CurMenuTag);
   } else {
-    LaunchItem(program_, entry.CurCommand);
+    LaunchItem(with_.Launch, entry.CurCommand);
   }
 }
 
 void Popup::Refresh() {
-  const std::string tag = program_.Entry.CurMenuTag;
+  const std::string tag = with_.Entry.CurMenuTag;
   if (EqualNoCase(tag, "Q1")) {
-    program_.Ports.Toolbar->ResetMenu();
+    with_.Ports.Toolbar->ResetMenu();
   } else if (IsMenuTag(tag)) {
-    if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->RefreshQMenu();
+    if (with_.Ports.QMenu != nullptr) with_.Ports.QMenu->RefreshQMenu();
   } else {
-    program_.Ports.Toolbar->RefreshToolbar();
+    with_.Ports.Toolbar->RefreshToolbar();
   }
 }
 
 // ---- the clipboard ----
 
 void Popup::CutEntry() {
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  const std::string file = program_.Entry.CurFile;
-  CopyEntry(program_.Entry);
-  Settle(DeleteItem(program_, true), file);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  const std::string file = with_.Entry.CurFile;
+  CopyEntry(with_.Entry);
+  Settle(with_.Commands.DeleteItem(true), file);
 }
 
 void Popup::CopyCurrentEntry() {
-  if (MayBeCopied(program_, program_.ToolbarWindow())) CopyEntry(program_.Entry);
+  if (with_.Commands.MayBeCopied(with_.Ports.ToolbarWindow())) CopyEntry(with_.Entry);
 }
 
 void Popup::PasteEntry() {
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  const std::string file = program_.Entry.CurFile;
-  Settle(PasteItem(program_), file);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  const std::string file = with_.Entry.CurFile;
+  Settle(with_.Commands.PasteItem(), file);
 }
 
 // ---- deleting ----
 
 // What was not deleted cannot be brought back: the undo store then keeps what it had.
 void Popup::DeleteEntry() {
-  const EntryEdit before = program_.Entry;
+  const EntryEdit before = with_.Entry;
   const std::string& tag = before.CurMenuTag;
   if (!IsSinglesTag(tag) && !IsButtonTag(tag) && !IsMenuTag(tag)) return;
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  RememberForUndo(program_.Entry);
-  const EditOutcome outcome = DeleteItem(program_, false);
-  if (outcome != EditOutcome::Edited) RestoreUndo(program_.Entry, before);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  RememberForUndo(with_.Entry);
+  const EditOutcome outcome = with_.Commands.DeleteItem(false);
+  if (outcome != EditOutcome::Edited) RestoreUndo(with_.Entry, before);
   Settle(outcome, before.CurFile);
 }
 
 void Popup::DeleteSeparator() {
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  const EntryEdit before = program_.Entry;
-  EditOutcome outcome =
-      SelectSeparatorAbove(program_.Services.Files, program_.Services.Ansi, program_.Entry);
-  if (outcome == EditOutcome::RecordMismatch) SayRecordMismatch(program_);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  const EntryEdit before = with_.Entry;
+  EditOutcome outcome = SelectSeparatorAbove(with_.Files, with_.Ansi, with_.Entry);
+  if (outcome == EditOutcome::RecordMismatch) with_.Commands.SayRecordMismatch();
   if (outcome == EditOutcome::Edited) {
-    outcome = DeleteItem(program_, false);
-    if (outcome != EditOutcome::Edited) RestoreUndo(program_.Entry, before);
+    outcome = with_.Commands.DeleteItem(false);
+    if (outcome != EditOutcome::Edited) RestoreUndo(with_.Entry, before);
   }
   Settle(outcome, before.CurFile);
 }
 
 void Popup::UndoDelete() {
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  const std::string file = program_.Entry.CurFile;
-  Settle(UndoDeleteItem(program_), file);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  const std::string file = with_.Entry.CurFile;
+  Settle(with_.Commands.UndoDeleteItem(), file);
 }
 
 // ---- new entries ----
 
 void Popup::AddButton() {
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  program_.Ports.Toolbar->AddNewButton();
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  with_.Ports.Toolbar->AddNewButton();
 }
 
 void Popup::Insert(const MenuRecord& record) {
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  const std::string file = program_.Entry.CurFile;
-  SetClipboard(program_.Entry, record);
-  Settle(PasteItem(program_), file);
-  SetClipboard(program_.Entry);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  const std::string file = with_.Entry.CurFile;
+  SetClipboard(with_.Entry, record);
+  Settle(with_.Commands.PasteItem(), file);
+  SetClipboard(with_.Entry);
 }
 
 void Popup::InsertMenuItem() { Insert(NewItemRecord()); }
@@ -148,36 +150,36 @@ void Popup::InsertSeparator() { Insert(NewSeparatorRecord()); }
 // ---- folder items ----
 
 void Popup::AfterFolderEdit(EditOutcome outcome, const EntryEdit& entry) {
-  if (outcome == EditOutcome::Edited) program_.TellMenusEdited();
+  if (outcome == EditOutcome::Edited) with_.Ports.TellMenusEdited();
   // A file that no longer holds the item is not what the menu shows.
-  if (outcome != EditOutcome::Failed) program_.Ports.Toolbar->RefreshMenu(entry.CurMenuTag);
+  if (outcome != EditOutcome::Failed) with_.Ports.Toolbar->RefreshMenu(entry.CurMenuTag);
   Settle(outcome, entry.CurFile);
 }
 
 void Popup::OpenFolder() {
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  const EntryEdit entry = program_.Entry;
-  AfterFolderEdit(OpenFolderItem(program_.Services.Files, program_.Services.Ansi, entry), entry);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  const EntryEdit entry = with_.Entry;
+  AfterFolderEdit(OpenFolderItem(with_.Files, with_.Ansi, entry), entry);
 }
 
 void Popup::CloseFolder() {
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
-  const EntryEdit entry = program_.Entry;
-  AfterFolderEdit(CloseFolderItem(program_.Services.Files, program_.Services.Ansi, entry), entry);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
+  const EntryEdit entry = with_.Entry;
+  AfterFolderEdit(CloseFolderItem(with_.Files, with_.Ansi, entry), entry);
 }
 
 // ---- properties ----
 
 void Popup::ShowProperties() {
-  const EntryEdit entry = program_.Entry;
-  program_.Ports.Toolbar->ResetMenu();
-  PropertiesPort* const properties = program_.Ports.Properties;
-  if (properties == nullptr || program_.ToolbarWindow() == kNoWindow) return;
+  const EntryEdit entry = with_.Entry;
+  with_.Ports.Toolbar->ResetMenu();
+  PropertiesPort* const properties = with_.Ports.Properties;
+  if (properties == nullptr || with_.Ports.ToolbarWindow() == kNoWindow) return;
   // Events ran while the menu closed, and the window reads the current entry.
-  SetCurrentEntry(program_.Entry, entry);
+  SetCurrentEntry(with_.Entry, entry);
   if (IsSinglesTag(entry.CurMenuTag) && entry.CurRecord == 0) {
     // The bare row has no entry of its own: the window edits the strip.
-    program_.Entry.CurMenuTag = "Toolbar";
+    with_.Entry.CurMenuTag = "Toolbar";
     properties->ShowProperties("", "", "");
     return;
   }
@@ -186,13 +188,12 @@ void Popup::ShowProperties() {
 
 // The folder item that the generated entry came from takes its place.
 void Popup::ShowFolderProperties() {
-  EntryEdit entry = program_.Entry;
-  program_.Ports.Toolbar->ResetMenu();
-  PropertiesPort* const properties = program_.Ports.Properties;
-  if (properties == nullptr || program_.ToolbarWindow() == kNoWindow) return;
+  EntryEdit entry = with_.Entry;
+  with_.Ports.Toolbar->ResetMenu();
+  PropertiesPort* const properties = with_.Ports.Properties;
+  if (properties == nullptr || with_.Ports.ToolbarWindow() == kNoWindow) return;
   const int number = RealRecord(entry.CurRecord);
-  const FileResult<MenuRecord> record =
-      ReadRecord(program_.Services.Files, program_.Services.Ansi, entry.CurFile, number);
+  const FileResult<MenuRecord> record = ReadRecord(with_.Files, with_.Ansi, entry.CurFile, number);
   if (!record) {
     ShowError(entry.CurFile, record.Error());
     return;
@@ -203,7 +204,7 @@ void Popup::ShowFolderProperties() {
   entry.CurTitle = record->FTitle;
   entry.CurIcon = record->FIcon;
   entry.CurCommand = record->FName;
-  SetCurrentEntry(program_.Entry, entry);
+  SetCurrentEntry(with_.Entry, entry);
   properties->ShowProperties(entry.CurTitle, entry.CurIcon, entry.CurCommand);
 }
 

@@ -4,8 +4,13 @@
 #include <utility>
 
 #include "base/Numbers.h"
-#include "core/Program.h"
+#include "core/GuardFlags.h"
+#include "core/OptionFile.h"
+#include "core/ProgramPaths.h"
+#include "core/StripPlacement.h"
+#include "forms/EventPump.h"
 #include "forms/Scopes.h"
+#include "forms/WindowSystem.h"
 #include "platform/TrayIcons.h"
 
 namespace corvelle {
@@ -32,8 +37,8 @@ void EndWindow(LoadedWindow* window) {
 
 }  // namespace
 
-frmMinimize::frmMinimize(Program& program)
-    : Form(program.Windows, "frmMinimize", forms::BorderStyle::None, true), program_(program) {
+frmMinimize::frmMinimize(const CompanionParts& with)
+    : Form(with.Windows, "frmMinimize", forms::BorderStyle::None, true), with_(with) {
   MouseMove = [this](forms::MouseButton, forms::ShiftState, float x, float) { Form_MouseMove(x); };
 }
 
@@ -41,15 +46,15 @@ void frmMinimize::Form_Load() {
   SetVisible(false);
   SetCaption("Corvelle");
   // The task bar's animation starts and ends at the place of the strip.
-  if (program_.Ports.Toolbar != nullptr) {
-    const TwipRect strip = program_.Ports.Toolbar->WindowBounds();
+  if (with_.Ports.Toolbar != nullptr) {
+    const TwipRect strip = with_.Ports.Toolbar->WindowBounds();
     Move(strip.Left, strip.Top, strip.Width, strip.Height);
   }
 }
 
 void frmMinimize::Form_Unload() {
   RemoveFromSysTray();
-  const WindowPorts& ports = program_.Ports;
+  const WindowPorts& ports = with_.Ports;
   EndWindow(ports.NetSearch);
   EndWindow(ports.Properties);
   EndWindow(ports.Customize);
@@ -62,7 +67,7 @@ void frmMinimize::Form_Unload() {
   if (ports.Hint != nullptr) ports.Hint->ReleaseHint();
   // A task bar that came up while a window asked something has it again.
   RemoveFromSysTray();
-  program_.Windows.Quit();
+  with_.Windows.Quit();
 }
 
 // ---- Not On Top ----
@@ -70,26 +75,26 @@ void frmMinimize::Form_Unload() {
 void frmMinimize::ShowInSysTray() {
   if (InTray || !IsLoaded()) return;
   // Without a task bar it is tried again when one comes up.
-  InTray = program_.Services.Tray.Add({.Window = hWnd(),
-                                       .Id = kTrayIcon,
-                                       .CallbackMessage = forms::message::MouseMove,
-                                       .IconFile = program_.Paths.ShippedFile("corvelle.exe"),
-                                       .Tip = "Corvelle"});
+  InTray = with_.Tray.Add({.Window = hWnd(),
+                           .Id = kTrayIcon,
+                           .CallbackMessage = forms::message::MouseMove,
+                           .IconFile = with_.Paths.ShippedFile("corvelle.exe"),
+                           .Tip = "Corvelle"});
 }
 
 void frmMinimize::RemoveFromSysTray() {
   if (!InTray) return;
-  program_.Services.Tray.Remove(hWnd(), kTrayIcon);
+  with_.Tray.Remove(hWnd(), kTrayIcon);
   InTray = false;
 }
 
 void frmMinimize::ActivateSysTray() {
-  ToolbarPort* const strip = program_.Ports.Toolbar;
-  if (program_.Strip.NotOnTop || strip == nullptr || !strip->WindowLoaded()) return;
-  program_.Strip.AutoHide = false;
-  program_.OptionFlags.Set(Option::AutoHide, false);
-  program_.Strip.NotOnTop = true;
-  program_.OptionFlags.Set(Option::NotOnTop, true);
+  ToolbarPort* const strip = with_.Ports.Toolbar;
+  if (with_.Strip.NotOnTop || strip == nullptr || !strip->WindowLoaded()) return;
+  with_.Strip.AutoHide = false;
+  with_.Options.Flags.Set(Option::AutoHide, false);
+  with_.Strip.NotOnTop = true;
+  with_.Options.Flags.Set(Option::NotOnTop, true);
   strip->MarkCollections();
   strip->SetWindowPos(forms::InsertAfter::NotTopmost, forms::swp::Show);
   DockAnew();
@@ -97,40 +102,40 @@ void frmMinimize::ActivateSysTray() {
   // The menu is over everything even so.
   SetMenuLevel();
   ShowInSysTray();
-  program_.SaveOptionFlags();
+  with_.Options.SaveOptionFlags();
   subShowToolbar();
-  if (program_.OptionFlags.Is(Option::NotOnTopTipDone) || program_.Ports.Tip == nullptr) return;
-  program_.Ports.Tip->ShowTip("Not On Top", kNotOnTopText, Option::NotOnTopTipDone);
+  if (with_.Options.Flags.Is(Option::NotOnTopTipDone) || with_.Ports.Tip == nullptr) return;
+  with_.Ports.Tip->ShowTip("Not On Top", kNotOnTopText, Option::NotOnTopTipDone);
 }
 
 void frmMinimize::DeActivateSysTray() {
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  ToolbarPort* const strip = with_.Ports.Toolbar;
   if (strip == nullptr || !strip->WindowLoaded()) return;
-  program_.Strip.NotOnTop = false;
-  program_.OptionFlags.Set(Option::NotOnTop, false);
+  with_.Strip.NotOnTop = false;
+  with_.Options.Flags.Set(Option::NotOnTop, false);
   DockAnew();
   if (!IsLoaded()) return;
   strip->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
   SetMenuLevel();
   RemoveFromSysTray();
-  program_.SaveOptionFlags();
+  with_.Options.SaveOptionFlags();
 }
 
 // Whether the edge's room is reserved for the strip has changed.
 void frmMinimize::DockAnew() {
-  DockingPort* const docking = program_.Ports.Docking;
-  if (!program_.Strip.AppBarDocked || docking == nullptr) return;
-  program_.Strip.AppBarDocked = false;
+  DockingPort* const docking = with_.Ports.Docking;
+  if (!with_.Strip.AppBarDocked || docking == nullptr) return;
+  with_.Strip.AppBarDocked = false;
   docking->RemoveAppBar();
-  docking->SetAppBar(program_.Strip.ToolbarEdge, true);
+  docking->SetAppBar(with_.Strip.ToolbarEdge, true);
   docking->RevealToolbar();
 }
 
 void frmMinimize::SetMenuLevel() {
   constexpr auto kTopmost = forms::InsertAfter::Topmost;
-  const WindowPorts& ports = program_.Ports;
+  const WindowPorts& ports = with_.Ports;
   if (ports.QMenu != nullptr) ports.QMenu->SetWindowPos(kTopmost, forms::swp::Hide);
-  if (ports.Hint != nullptr && !program_.OptionFlags.Is(Option::NoHints)) {
+  if (ports.Hint != nullptr && !with_.Options.Flags.Is(Option::NoHints)) {
     ports.Hint->SetHintLevel(kTopmost, forms::swp::Hide);
   }
 }
@@ -138,12 +143,12 @@ void frmMinimize::SetMenuLevel() {
 // ---- into the task bar ----
 
 void frmMinimize::MinimizeFor(const TwipRect& strip) {
-  ToolbarPort* const toolbar = program_.Ports.Toolbar;
+  ToolbarPort* const toolbar = with_.Ports.Toolbar;
   if (toolbar == nullptr || !toolbar->WindowLoaded()) return;
-  program_.Strip.ToolbarMinimized = true;
-  const forms::FlagScope minimizing(program_.Strip.ToolbarMinimizing);
-  program_.Guards.ToolbarReady = false;
-  if (program_.Strip.AppBarDocked) LeaveEdge(strip.Top);
+  with_.Strip.ToolbarMinimized = true;
+  const forms::FlagScope minimizing(with_.Strip.ToolbarMinimizing);
+  with_.Guards.ToolbarReady = false;
+  if (with_.Strip.AppBarDocked) LeaveEdge(strip.Top);
   Move(strip.Left, strip.Top, strip.Width, strip.Height);
   toolbar->HideWindow();
   Minimize();
@@ -151,11 +156,11 @@ void frmMinimize::MinimizeFor(const TwipRect& strip) {
 
 // The edge is free for others while the strip is in the task bar.
 void frmMinimize::LeaveEdge(float top) {
-  program_.Strip.WasDocked = true;
-  WasEdge = program_.Strip.ToolbarEdge;
+  with_.Strip.WasDocked = true;
+  WasEdge = with_.Strip.ToolbarEdge;
   WasTop = top;
-  if (program_.Ports.Docking != nullptr) program_.Ports.Docking->LeaveEdge();
-  program_.Strip.AppBarDocked = false;
+  if (with_.Ports.Docking != nullptr) with_.Ports.Docking->LeaveEdge();
+  with_.Strip.AppBarDocked = false;
 }
 
 // ---- back ----
@@ -163,7 +168,7 @@ void frmMinimize::LeaveEdge(float top) {
 void frmMinimize::Form_MouseMove(float x) {
   const int message = RoundToInt(x / Scale().TwipsPerPixelX);
   if (message != kLeftButtonUp && message != kLeftButtonDoubleClick) return;
-  if (program_.Strip.ToolbarMinimized) {
+  if (with_.Strip.ToolbarMinimized) {
     RestoreWindow();
   } else {
     subShowToolbar();
@@ -171,15 +176,15 @@ void frmMinimize::Form_MouseMove(float x) {
 }
 
 void frmMinimize::subShowToolbar() {
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->BringToForeground();
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->BringToForeground();
 }
 
 std::optional<std::intptr_t> frmMinimize::WindowProc(std::uint32_t message, std::uintptr_t wParam,
                                                      std::intptr_t lParam) {
-  if (message != 0 && message == program_.Services.Tray.TaskbarCreatedMessage()) {
+  if (message != 0 && message == with_.Tray.TaskbarCreatedMessage()) {
     // The task bar was started again, without the icons that the one before showed.
     InTray = false;
-    if (program_.Strip.NotOnTop) ShowInSysTray();
+    if (with_.Strip.NotOnTop) ShowInSysTray();
     return std::nullopt;
   }
   if (message != forms::message::Size) return std::nullopt;
@@ -193,17 +198,17 @@ std::optional<std::intptr_t> frmMinimize::WindowProc(std::uint32_t message, std:
 
 void frmMinimize::Form_Resize() {
   // On its way into the task bar it takes the strip's size, which is no return.
-  if (program_.Strip.ToolbarMinimizing) return;
-  if (program_.Guards.StartingUp || program_.Guards.AppBarBusy || IsMinimized()) return;
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  if (with_.Strip.ToolbarMinimizing) return;
+  if (with_.Guards.StartingUp || with_.Guards.AppBarBusy || IsMinimized()) return;
+  ToolbarPort* const strip = with_.Ports.Toolbar;
   if (strip == nullptr || !strip->WindowLoaded()) return;
-  if (program_.Strip.ToolbarMinimized) WakeToolbar();
+  if (with_.Strip.ToolbarMinimized) WakeToolbar();
   if (!IsLoaded()) return;
   SetVisible(false);
-  program_.DoEvents();
+  with_.Events.DoEvents();
   if (!IsLoaded()) return;
-  if (program_.Strip.AutoHide && program_.Ports.Docking != nullptr) {
-    program_.Ports.Docking->RevealToolbar();
+  if (with_.Strip.AutoHide && with_.Ports.Docking != nullptr) {
+    with_.Ports.Docking->RevealToolbar();
   }
   subShowToolbar();
 }
@@ -211,39 +216,39 @@ void frmMinimize::Form_Resize() {
 // The strip comes back out of the task bar.
 void frmMinimize::WakeToolbar() {
   SetVisible(false);
-  program_.Strip.ToolbarMinimized = false;
-  ToolbarPort& strip = *program_.Ports.Toolbar;
-  if (program_.Strip.WasDocked && program_.Ports.Docking != nullptr) {
+  with_.Strip.ToolbarMinimized = false;
+  ToolbarPort& strip = *with_.Ports.Toolbar;
+  if (with_.Strip.WasDocked && with_.Ports.Docking != nullptr) {
     ReturnToEdge();
     if (!IsLoaded()) return;
   } else {
     strip.CheckToolbarMove();
   }
   strip.ShowAndRefresh();
-  program_.Guards.ToolbarReady = true;
+  with_.Guards.ToolbarReady = true;
 }
 
 void frmMinimize::ReturnToEdge() {
-  DockingPort& docking = *program_.Ports.Docking;
-  ToolbarPort& strip = *program_.Ports.Toolbar;
-  program_.Strip.WasDocked = false;
-  if (const auto edge = std::exchange(WasEdge, std::nullopt)) program_.Strip.ToolbarEdge = *edge;
+  DockingPort& docking = *with_.Ports.Docking;
+  ToolbarPort& strip = *with_.Ports.Toolbar;
+  with_.Strip.WasDocked = false;
+  if (const auto edge = std::exchange(WasEdge, std::nullopt)) with_.Strip.ToolbarEdge = *edge;
   // Another program's bar may hide there by now.
-  if (program_.Strip.AutoHide && !docking.AutoHideFree(program_.Strip.ToolbarEdge)) {
-    program_.OptionFlags.Set(Option::AutoHide, false);
-    program_.Strip.AutoHide = false;
+  if (with_.Strip.AutoHide && !docking.AutoHideFree(with_.Strip.ToolbarEdge)) {
+    with_.Options.Flags.Set(Option::AutoHide, false);
+    with_.Strip.AutoHide = false;
     docking.ShowAutoHideTaken();
     if (!IsLoaded()) return;
   }
   docking.RegisterAppBar();
   // Whether the full-screen program from before is still there was not told meanwhile.
-  if (std::exchange(program_.Strip.FullScreenApp, false) && !program_.Strip.NotOnTop) {
+  if (std::exchange(with_.Strip.FullScreenApp, false) && !with_.Strip.NotOnTop) {
     strip.SetWindowPos(forms::InsertAfter::Topmost, forms::swp::KeepActivation);
   }
   strip.MarkCollections();
-  docking.SetAppBar(program_.Strip.ToolbarEdge, false);
+  docking.SetAppBar(with_.Strip.ToolbarEdge, false);
   if (!IsLoaded()) return;
-  if (program_.Strip.ToolbarVertical && strip.WindowBounds().Top != WasTop) {
+  if (with_.Strip.ToolbarVertical && strip.WindowBounds().Top != WasTop) {
     strip.ResetCollections();
   }
 }

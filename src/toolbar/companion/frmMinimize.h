@@ -9,13 +9,32 @@
 
 namespace corvelle {
 
-class Program;
+class OptionFile;
+class TrayIcons;
+struct GuardFlags;
+struct ProgramPaths;
+struct StripPlacement;
+namespace forms {
+class EventPump;
+}
+
+/// What the companion works with. All of it outlives it.
+struct CompanionParts {
+  forms::WindowSystem& Windows;
+  TrayIcons& Tray;
+  const WindowPorts& Ports;
+  GuardFlags& Guards;
+  StripPlacement& Strip;
+  OptionFile& Options;
+  const ProgramPaths& Paths;
+  forms::EventPump& Events;
+};
 
 /// The hidden companion of the strip. It carries the program's title, hears what the task bar, the
 /// tray and a second start have to say, and its end is the program's end.
 class frmMinimize final : public forms::Form, public MinimizePort {
  public:
-  explicit frmMinimize(Program& program);
+  explicit frmMinimize(const CompanionParts& with);
 
   void LoadWindow() override { static_cast<void>(Load()); }
   void UnloadWindow() override { Unload(); }
@@ -52,7 +71,7 @@ class frmMinimize final : public forms::Form, public MinimizePort {
   void DockAnew();
   void SetMenuLevel();
 
-  Program& program_;
+  CompanionParts with_;
   bool wasMinimized_ = false;
 };
 

@@ -1,6 +1,6 @@
 #include "toolbar/docking/ForegroundScope.h"
 
-#include "core/Program.h"
+#include "core/WindowPorts.h"
 #include "forms/Form.h"
 #include "platform/DesktopWindows.h"
 
@@ -21,19 +21,20 @@ class Keeper final : public forms::Form {
 
 }  // namespace
 
-ForegroundScope::ForegroundScope(Program& program, forms::Form& strip)
-    : program_(program), strip_(strip) {
-  const WindowId active = program_.Services.Desktop.ActiveWindow();
-  const QMenuPort* const menu = program_.Ports.QMenu;
+ForegroundScope::ForegroundScope(forms::Form& strip, const DesktopWindows& desktop,
+                                 const WindowPorts& ports)
+    : strip_(strip), desktop_(desktop) {
+  const WindowId active = desktop_.ActiveWindow();
+  const QMenuPort* const menu = ports.QMenu;
   const bool ours = active == strip_.hWnd() || (menu != nullptr && active == menu->WindowHandle());
   if (active == kNoWindow || !ours) return;
-  keeper_ = std::make_unique<Keeper>(program_.Windows);
+  keeper_ = std::make_unique<Keeper>(strip_.Windows());
   keeper_->Show();
 }
 
 ForegroundScope::~ForegroundScope() {
   if (keeper_ == nullptr) return;
-  const WindowId active = program_.Services.Desktop.ActiveWindow();
+  const WindowId active = desktop_.ActiveWindow();
   if (active != kNoWindow && active == keeper_->hWnd() && strip_.Visible()) strip_.SetFocus();
 }
 

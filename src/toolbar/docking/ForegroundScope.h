@@ -7,7 +7,8 @@ namespace corvelle {
 namespace forms {
 class Form;
 }
-class Program;
+class DesktopWindows;
+struct WindowPorts;
 
 /// Keeps the foreground with the program while the strip, or the menu, is hidden for a rebuild
 /// though it is the active window. Windows would make another program active and need not give the
@@ -16,14 +17,14 @@ class Program;
 /// Does nothing while neither of the two is active.
 class ForegroundScope {
  public:
-  ForegroundScope(Program& program, forms::Form& strip);
+  ForegroundScope(forms::Form& strip, const DesktopWindows& desktop, const WindowPorts& ports);
   ForegroundScope(const ForegroundScope&) = delete;
   ForegroundScope& operator=(const ForegroundScope&) = delete;
   ~ForegroundScope();
 
  private:
-  Program& program_;
   forms::Form& strip_;
+  const DesktopWindows& desktop_;
   std::unique_ptr<forms::Form> keeper_;
 };
 

@@ -6,7 +6,15 @@
 
 namespace corvelle {
 
-class Program;
+class DesktopWindows;
+class Input;
+class OptionFlags;
+struct GuardFlags;
+struct StripPlacement;
+struct WindowPorts;
+namespace forms {
+class EventPump;
+}
 
 /// The strip as Auto Hide sees it.
 class HidingStrip : public virtual StripWindow {
@@ -21,11 +29,22 @@ class HidingStrip : public virtual StripWindow {
   virtual void UpdateLabelDate() = 0;
 };
 
+/// What Auto Hide works with. All of it outlives it.
+struct HidingParts {
+  const WindowPorts& Ports;
+  GuardFlags& Guards;
+  const StripPlacement& Strip;
+  const OptionFlags& Options;
+  const Input& Pointer;
+  const DesktopWindows& Desktop;
+  forms::EventPump& Events;
+};
+
 /// Auto Hide: when the strip hides and when it comes back, and its level under a full-screen
 /// program.
 class StripHiding {
  public:
-  StripHiding(Program& program, HidingStrip& strip) : program_(program), strip_(strip) {}
+  StripHiding(const HidingParts& with, HidingStrip& strip) : with_(with), strip_(strip) {}
   StripHiding(const StripHiding&) = delete;
   StripHiding& operator=(const StripHiding&) = delete;
 
@@ -46,7 +65,7 @@ class StripHiding {
   [[nodiscard]] PixelRect WindowPixels() const;
   [[nodiscard]] PixelSize ScreenPixels() const;
 
-  Program& program_;
+  HidingParts with_;
   HidingStrip& strip_;
 };
 

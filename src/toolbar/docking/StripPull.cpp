@@ -3,9 +3,14 @@
 #include <optional>
 #include <string>
 
-#include "core/Program.h"
+#include "core/Carry.h"
+#include "core/GuardFlags.h"
+#include "core/RecordEdits.h"
+#include "core/StripPlacement.h"
+#include "core/WindowPorts.h"
 #include "forms/Form.h"
 #include "forms/Scale.h"
+#include "forms/WindowSystem.h"
 #include "platform/Input.h"
 #include "toolbar/layout/StripPlace.h"
 
@@ -19,14 +24,14 @@ constexpr int kRightButtonKey = 2;
 
 bool StripPull::IsBesidePull(forms::MouseButton button) const {
   return FrameMoved && button != forms::MouseButton::Left &&
-         program_.Services.Pointer.IsKeyDown(kLeftButtonKey);
+         with_.Pointer.IsKeyDown(kLeftButtonKey);
 }
 
 void StripPull::MouseDown(forms::MouseButton button, float x, float y) {
-  if (program_.Entry.ItemDragging || IsBesidePull(button)) return;
+  if (with_.Carry.IsCarrying() || IsBesidePull(button)) return;
   const forms::Form& window = strip_.AsForm();
   EndLostPull();
-  program_.SetHint("");
+  with_.Ports.SetHint("");
   if (!window.IsLoaded()) return;
   strip_.ResetMenu();
   if (!window.IsLoaded()) return;
@@ -48,7 +53,7 @@ void StripPull::MouseMove(forms::MouseButton down, float x, float y) {
     strip_.DrawBorders();
   } else if (strip_.MenuUp()) {
     FrameDragging = true;
-  } else if (!program_.Guards.IsPlacing()) {
+  } else if (!with_.Guards.IsPlacing()) {
     Follow(down, x, y);
   }
 }
@@ -77,11 +82,11 @@ void StripPull::Follow(forms::MouseButton down, float x, float y) {
 }
 
 void StripPull::FollowPull() {
-  CapturePort* const capture = program_.Ports.Capture;
-  if (program_.Ports.Docking == nullptr || capture == nullptr) return;
+  CapturePort* const capture = with_.Ports.Capture;
+  if (with_.Ports.Docking == nullptr || capture == nullptr) return;
   const Edge wanted =
-      ChooseEdge(program_.Services.Pointer.PointerPosition(), program_.Windows.ScreenSize());
-  if (wanted == program_.Strip.ToolbarEdge) {
+      ChooseEdge(with_.Pointer.PointerPosition(), strip_.AsForm().Windows().ScreenSize());
+  if (wanted == with_.Strip.ToolbarEdge) {
     ClearOutline();
     strip_.DrawDragLook();
   } else {
@@ -91,22 +96,22 @@ void StripPull::FollowPull() {
 }
 
 void StripPull::ClearOutline() {
-  CapturePort* const capture = program_.Ports.Capture;
+  CapturePort* const capture = with_.Ports.Capture;
   if (capture != nullptr && capture->OutlineEdge()) capture->ClearBg();
 }
 
 void StripPull::PutOutlineAway() {
-  if (program_.Ports.ImageWindow != nullptr) program_.Ports.ImageWindow->UnloadWindow();
+  if (with_.Ports.ImageWindow != nullptr) with_.Ports.ImageWindow->UnloadWindow();
 }
 
 bool StripPull::EndPull() {
-  CapturePort* const capture = program_.Ports.Capture;
-  DockingPort* const docking = program_.Ports.Docking;
+  CapturePort* const capture = with_.Ports.Capture;
+  DockingPort* const docking = with_.Ports.Docking;
   if (capture == nullptr || docking == nullptr) return false;
   const std::optional<Edge> edge = capture->OutlineEdge();
   capture->ClearBg();
   const bool alreadyThere =
-      edge == Edge::Top && program_.Strip.ToolbarEdge == Edge::Top && !program_.Strip.AppBarDocked;
+      edge == Edge::Top && with_.Strip.ToolbarEdge == Edge::Top && !with_.Strip.AppBarDocked;
   // A side that is taken is told of by the docking, which then docks the strip in full sight.
   PutOutlineAway();
   if (!edge || alreadyThere) return false;
@@ -114,7 +119,7 @@ bool StripPull::EndPull() {
   docking->SetAppBar(*edge, true);
   forms::Form& window = strip_.AsForm();
   if (!window.IsLoaded()) return true;
-  if (program_.Strip.AutoHide) docking->RevealToolbar();
+  if (with_.Strip.AutoHide) docking->RevealToolbar();
   window.SetFocus();
   strip_.DrawBorders();
   return true;
@@ -126,12 +131,12 @@ void StripPull::MouseUp(forms::MouseButton button) {
     // Of a pull whose release was lost the outline goes too.
     AbandonPull();
     // The popup would act on what is being carried.
-    if (!program_.Entry.ItemDragging) ShowFramePopup("Toolbar");
+    if (!with_.Carry.IsCarrying()) ShowFramePopup("Toolbar");
     return;
   }
   LetFrameGo();
   if (FrameMoved && !EndPull()) {
-    if (program_.Strip.AppBarDocked) {
+    if (with_.Strip.AppBarDocked) {
       strip_.DrawBorders();
     } else {
       strip_.EndSlide();
@@ -157,17 +162,17 @@ void StripPull::AbandonPull() {
 
 void StripPull::EndLostPull() {
   if (!FrameHeld) return;
-  const bool slid = FrameMoved && !program_.Strip.AppBarDocked;
+  const bool slid = FrameMoved && !with_.Strip.AppBarDocked;
   AbandonPull();
   if (slid) strip_.EndSlide();
 }
 
 void StripPull::WatchPull() {
-  const Input& input = program_.Services.Pointer;
+  const Input& input = with_.Pointer;
   const bool anyDown = input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey);
   if (!FrameHeld) {
     watch_.Reset();
-  } else if (watch_.Look(anyDown, program_.Windows.Now())) {
+  } else if (watch_.Look(anyDown, strip_.AsForm().Windows().Now())) {
     watch_.Reset();
     LosePress();
   }
@@ -180,7 +185,7 @@ void StripPull::LosePress() {
 }
 
 void StripPull::LetFrameGo() {
-  if (FrameHeld) program_.Guards.RestoreBusy = false;
+  if (FrameHeld) with_.Guards.RestoreBusy = false;
   FrameHeld = false;
 }
 
@@ -188,8 +193,8 @@ void StripPull::ShowFramePopup(std::string_view tag) {
   // The press that asked for the popup holds nothing any more.
   AbandonPull();
   strip_.ResetMenu();
-  if (!strip_.AsForm().IsLoaded() || program_.Ports.Popup == nullptr) return;
-  program_.Ports.Popup->ShowToolbarPopup({.CurMenuTag = std::string(tag)});
+  if (!strip_.AsForm().IsLoaded() || with_.Ports.Popup == nullptr) return;
+  with_.Ports.Popup->ShowToolbarPopup({.CurMenuTag = std::string(tag)});
 }
 
 }  // namespace corvelle

@@ -10,7 +10,11 @@
 
 namespace corvelle {
 
-class Program;
+class EntryCarry;
+class Input;
+struct GuardFlags;
+struct StripPlacement;
+struct WindowPorts;
 
 /// What a pull of the frame needs of the strip.
 class PulledStrip : public virtual StripWindow {
@@ -32,11 +36,20 @@ class PulledStrip : public virtual StripWindow {
   virtual void SetPointerWatch(bool enabled) = 0;
 };
 
+/// What a pull works with. All of it outlives it.
+struct PullParts {
+  const WindowPorts& Ports;
+  GuardFlags& Guards;
+  const StripPlacement& Strip;
+  const EntryCarry& Carry;
+  const Input& Pointer;
+};
+
 /// A pull of the strip's frame or grip: slides a strip along the top, or takes it to an edge.
 /// Points are twips of the strip's window.
 class StripPull {
  public:
-  StripPull(Program& program, PulledStrip& strip) : program_(program), strip_(strip) {}
+  StripPull(const PullParts& with, PulledStrip& strip) : with_(with), strip_(strip) {}
   StripPull(const StripPull&) = delete;
   StripPull& operator=(const StripPull&) = delete;
 
@@ -85,7 +98,7 @@ class StripPull {
   bool EndPull();
   void PutOutlineAway();
 
-  Program& program_;
+  PullParts with_;
   PulledStrip& strip_;
   AbandonWatch watch_;
 };

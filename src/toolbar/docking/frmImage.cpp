@@ -4,9 +4,11 @@
 
 #include "base/Edge.h"
 #include "base/Numbers.h"
-#include "core/Program.h"
+#include "core/GuardFlags.h"
+#include "forms/EventPump.h"
 #include "forms/Scale.h"
 #include "forms/Scopes.h"
+#include "forms/WindowSystem.h"
 #include "platform/DesktopWindows.h"
 #include "toolbar/docking/AppBarRules.h"
 #include "toolbar/layout/StripLook.h"
@@ -19,13 +21,13 @@ constexpr int kNoKey = 0;
 
 }  // namespace
 
-frmImage::frmImage(Program& program, StripWindow& strip)
-    : Form(program.Windows, "frmImage"),
+frmImage::frmImage(const StillPictureParts& with, StripWindow& strip)
+    : Form(with.Windows, "frmImage"),
       bLine1(*this, "bLine1"),
       bLine2(*this, "bLine2"),
       bLine3(*this, "bLine3"),
       bLine4(*this, "bLine4"),
-      program_(program),
+      with_(with),
       strip_(strip) {
   ShowLines(false);
 }
@@ -54,11 +56,11 @@ void frmImage::PlaceAt(const PixelRect& bounds) {
 // A still picture.
 
 bool frmImage::Cover(WindowId window) {
-  const forms::WindowPicture seen = program_.Windows.PictureOfWindow(window);
+  const forms::WindowPicture seen = with_.Windows.PictureOfWindow(window);
   if (seen.Pixels == nullptr) return false;
-  const PixelRect shown = Intersect(seen.Bounds, RectAt({0, 0}, program_.Windows.ScreenSize()));
+  const PixelRect shown = Intersect(seen.Bounds, RectAt({0, 0}, with_.Windows.ScreenSize()));
   if (shown.IsEmpty() || !Load()) return false;
-  std::unique_ptr<Canvas> picture = program_.Windows.CreateCanvas(shown.Size());
+  std::unique_ptr<Canvas> picture = with_.Windows.CreateCanvas(shown.Size());
   const PixelPoint corner{shown.left - seen.Bounds.left, shown.top - seen.Bounds.top};
   picture->DrawCanvas(*seen.Pixels, RectAt(corner, shown.Size()), {0, 0});
   PlaceAt(shown);
@@ -69,36 +71,36 @@ bool frmImage::Cover(WindowId window) {
 }
 
 void frmImage::CaptureMenu() {
-  const QMenuPort* const menu = program_.Ports.QMenu;
+  const QMenuPort* const menu = with_.Ports.QMenu;
   if (menuCaptured_ || menu == nullptr || !menu->MenuVisible()) return;
   ClearBg();
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->SetPointerWatch(false);
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->SetPointerWatch(false);
   menuCaptured_ = Cover(menu->WindowHandle());
 }
 
 void frmImage::ReleaseMenu() {
   if (menuCaptured_) {
     menuCaptured_ = false;
-    QMenuPort* const menu = program_.Ports.QMenu;
+    QMenuPort* const menu = with_.Ports.QMenu;
     // The user has pressed the picture, and meant the menu.
-    const WindowId active = program_.Services.Desktop.ActiveWindow();
+    const WindowId active = with_.Desktop.ActiveWindow();
     if (active != kNoWindow && active == hWnd() && menu != nullptr && menu->MenuVisible()) {
       menu->ActivateKeyDown(kNoKey);
     }
     Hide();
-    program_.DoEvents();
-    program_.Windows.SetMousePointer(forms::MousePointer::Default);
+    with_.Events.DoEvents();
+    with_.Windows.SetMousePointer(forms::MousePointer::Default);
     if (menu != nullptr && menu->MenuVisible()) {
       menu->SetWindowPos(forms::InsertAfter::Top, forms::swp::KeepActivation);
-      program_.Services.Desktop.PaintVisibleWindows();
-      if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->SetPointerWatch(true);
+      with_.Desktop.PaintVisibleWindows();
+      if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->SetPointerWatch(true);
     }
   }
   Unload();
 }
 
 void frmImage::SetPicture1() {
-  if (!program_.OptionFlags.Is(Option::AboveFullScreen) || program_.Guards.ChangingMode ||
+  if (!with_.Options.Is(Option::AboveFullScreen) || with_.Guards.ChangingMode ||
       !strip_.AsForm().Visible())
     return;
   ClearBg();
@@ -106,7 +108,7 @@ void frmImage::SetPicture1() {
 }
 
 void frmImage::ResetPicture1() {
-  program_.DoEvents();
+  with_.Events.DoEvents();
   Hide();
   Unload();
 }
@@ -122,7 +124,7 @@ void frmImage::SetPosition(Edge edge) {
   for (std::optional<Edge> shown; IsLoaded() && outline_ && shown != outline_;) {
     shown = outline_;
     ShowOutline(*shown);
-    program_.DoEvents();
+    with_.Events.DoEvents();
   }
 }
 
@@ -139,9 +141,9 @@ void frmImage::ShowOutline(Edge edge) {
   // What lies under the new place is seen without the outline at the old one.
   if (Visible()) {
     Hide();
-    program_.Services.Desktop.PaintVisibleWindows();
+    with_.Desktop.PaintVisibleWindows();
   }
-  SetBackground(program_.Windows.PictureOfScreen(bounds));
+  SetBackground(with_.Windows.PictureOfScreen(bounds));
   PlaceAt(bounds);
   const float w = static_cast<float>(bounds.Width()) * x;
   const float h = static_cast<float>(bounds.Height()) * y;

@@ -11,14 +11,28 @@
 
 namespace corvelle {
 
-class Program;
+class DesktopWindows;
+struct GuardFlags;
+namespace forms {
+class EventPump;
+}
+
+/// What the still picture works with. All of it outlives it.
+struct StillPictureParts {
+  forms::WindowSystem& Windows;
+  DesktopWindows& Desktop;
+  const WindowPorts& Ports;
+  forms::EventPump& Events;
+  const OptionFlags& Options;
+  const GuardFlags& Guards;
+};
 
 /// A still picture on top of all windows: of the menu or the strip while it is rebuilt behind it,
 /// or an outline of the strip at an edge to which it is being pulled. It is loaded on demand and
 /// unloaded after each use.
 class frmImage final : public forms::Form, public LoadedWindow, public CapturePort {
  public:
-  frmImage(Program& program, StripWindow& strip);
+  frmImage(const StillPictureParts& with, StripWindow& strip);
 
   void LoadWindow() override { static_cast<void>(Load()); }
   void UnloadWindow() override { Unload(); }
@@ -59,7 +73,7 @@ class frmImage final : public forms::Form, public LoadedWindow, public CapturePo
   void ShowOutline(Edge edge);
   void ShowLines(bool visible);
 
-  Program& program_;
+  StillPictureParts with_;
   StripWindow& strip_;
   bool menuCaptured_ = false;
   std::optional<Edge> outline_;

@@ -1,10 +1,16 @@
 #include "toolbar/docking/mAppBar.h"
 
 #include "base/Numbers.h"
-#include "core/Program.h"
+#include "core/Carry.h"
+#include "core/GuardFlags.h"
+#include "core/MessageBoxes.h"
+#include "core/OptionFlags.h"
+#include "core/StripPlacement.h"
+#include "forms/EventPump.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
 #include "forms/Scopes.h"
+#include "forms/WindowSystem.h"
 #include "toolbar/docking/ForegroundScope.h"
 
 namespace corvelle {
@@ -13,8 +19,8 @@ namespace corvelle {
 
 std::uintptr_t mAppBar::Send(std::uint32_t message) {
   AppBarData.hWnd = window_.hWnd();
-  const forms::FlagScope telling(program_.Guards.TellingShell);
-  return program_.Services.Bars.Message(message, AppBarData);
+  const forms::FlagScope telling(with_.Guards.TellingShell);
+  return with_.Bars.Message(message, AppBarData);
 }
 
 void mAppBar::RegisterAppBar() {
@@ -23,7 +29,7 @@ void mAppBar::RegisterAppBar() {
 }
 
 void mAppBar::RemoveAppBar() {
-  const forms::FlagScope busy(program_.Guards.AppBarBusy);
+  const forms::FlagScope busy(with_.Guards.AppBarBusy);
   GiveUpHiding();
   Remove();
   RegisterAppBar();
@@ -52,27 +58,27 @@ bool mAppBar::AutoHideFree(Edge edge) {
   AppBarRecord asked = AppBarData;
   asked.hWnd = window_.hWnd();
   asked.uEdge = ShellEdge(edge);
-  const std::uintptr_t holder = program_.Services.Bars.Message(abm::GetAutoHideBar, asked);
+  const std::uintptr_t holder = with_.Bars.Message(abm::GetAutoHideBar, asked);
   return holder == 0 || holder == window_.hWnd();
 }
 
 void mAppBar::ShowAutoHideTaken() {
-  program_.Say(program_.WindowInUse(),
-               "A toolbar is already hidden on this side of your screen.\r\n"
-               "You can have only one auto-hide toolbar per side.",
-               forms::msgbox::IconStop | forms::msgbox::OnTop);
+  with_.Messages.Say(with_.Ports.WindowInUse(),
+                     "A toolbar is already hidden on this side of your screen.\r\n"
+                     "You can have only one auto-hide toolbar per side.",
+                     forms::msgbox::IconStop | forms::msgbox::OnTop);
 }
 
 // Measures.
 
-Edge mAppBar::CurrentEdge() const { return program_.Strip.ToolbarEdge; }
+Edge mAppBar::CurrentEdge() const { return with_.Strip.ToolbarEdge; }
 
 TwipSize mAppBar::Twips() const {
   const forms::PixelScale scale = window_.Scale();
   return {scale.TwipsPerPixelX, scale.TwipsPerPixelY};
 }
 
-PixelSize mAppBar::ScreenPixels() const { return program_.Windows.ScreenSize(); }
+PixelSize mAppBar::ScreenPixels() const { return window_.Windows().ScreenSize(); }
 
 void mAppBar::MoveWindow(const PixelRect& bounds) {
   const TwipSize twips = Twips();
@@ -83,73 +89,70 @@ void mAppBar::MoveWindow(const PixelRect& bounds) {
 }
 
 void mAppBar::PinHere() {
-  program_.Strip.PinnedLeft = window_.Left();
-  program_.Strip.PinnedTop = window_.Top();
+  with_.Strip.PinnedLeft = window_.Left();
+  with_.Strip.PinnedTop = window_.Top();
 }
 
 // The one entry for every change of edge or size.
 
 bool mAppBar::Waits() const {
-  return program_.Strip.ToolbarMinimized || program_.Entry.ItemDragging ||
-         program_.Drag.ButtonDragging ||
-         (program_.Guards.PosChangeRunning && program_.Guards.IsPlacing());
+  return with_.Strip.ToolbarMinimized || with_.Carry.IsCarrying() || with_.Carry.IsOverButtons() ||
+         (with_.Guards.PosChangeRunning && with_.Guards.IsPlacing());
 }
 
 void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   if (!window_.IsLoaded()) return;
   if (Waits()) {
     // A change of bars is not told again; one in the task bar is placed again when it comes back.
-    if (program_.Guards.PosChangeRunning && !program_.Strip.ToolbarMinimized)
-      strip_.FollowBarsLater();
+    if (with_.Guards.PosChangeRunning && !with_.Strip.ToolbarMinimized) strip_.FollowBarsLater();
     return;
   }
-  program_.Guards.ToolbarReady = false;
-  if (program_.Guards.PosChangeRunning && AppBarPosChanged()) {
-    program_.Guards.ToolbarReady = window_.IsLoaded();
+  with_.Guards.ToolbarReady = false;
+  if (with_.Guards.PosChangeRunning && AppBarPosChanged()) {
+    with_.Guards.ToolbarReady = window_.IsLoaded();
     return;
   }
-  const ForegroundScope foreground(program_, window_);
-  program_.Guards.AppBarBusy = true;
-  program_.Strip.AppBarRequested = true;
-  CapturePort* const capture = program_.Ports.Capture;
+  const ForegroundScope foreground(window_, with_.Desktop, with_.Ports);
+  with_.Guards.AppBarBusy = true;
+  with_.Strip.AppBarRequested = true;
+  CapturePort* const capture = with_.Ports.Capture;
   if (window_.Visible() && capture != nullptr) capture->SetPicture1();
-  if (edge) program_.Strip.ToolbarEdge = *edge;
+  if (edge) with_.Strip.ToolbarEdge = *edge;
   const Edge at = CurrentEdge();
-  TurnTo(program_.Strip.ToolbarEdge, rebuild);
+  TurnTo(with_.Strip.ToolbarEdge, rebuild);
   if (window_.IsLoaded()) PlaceAt(at);
-  program_.Guards.AppBarBusy = false;
-  program_.Strip.AppBarRequested = false;
-  const LoadedWindow* const image = program_.Ports.ImageWindow;
+  with_.Guards.AppBarBusy = false;
+  with_.Strip.AppBarRequested = false;
+  const LoadedWindow* const image = with_.Ports.ImageWindow;
   if (capture != nullptr && image != nullptr && image->WindowLoaded()) {
     capture->ResetPicture1();
     if (window_.IsLoaded()) window_.Refresh();
   }
   if (!window_.IsLoaded()) return;
   PinHere();
-  program_.Guards.ToolbarReady = !program_.Strip.ToolbarMinimized;
+  with_.Guards.ToolbarReady = !with_.Strip.ToolbarMinimized;
 }
 
 // A strip that turns, or has not been at an edge yet, is rebuilt.
 void mAppBar::TurnTo(Edge edge, bool rebuild) {
   const bool vertical = IsVertical(edge);
-  const bool turns = program_.Strip.ToolbarVertical != vertical;
-  if (rebuild || !program_.Strip.AppBarDocked || turns) {
-    program_.Strip.ToolbarVertical = vertical;
+  const bool turns = with_.Strip.ToolbarVertical != vertical;
+  if (rebuild || !with_.Strip.AppBarDocked || turns) {
+    with_.Strip.ToolbarVertical = vertical;
     strip_.UnloadItems();
     if (window_.IsLoaded()) strip_.InitButtons();
     return;
   }
-  if (vertical && program_.OptionFlags.Is(Option::LargeIcons) &&
-      program_.OptionFlags.Is(Option::SmallSingles)) {
+  if (vertical && with_.Options.Is(Option::LargeIcons) && with_.Options.Is(Option::SmallSingles)) {
     strip_.DoSingleButtons();
     strip_.SetControls();
   }
 }
 
 void mAppBar::PlaceAt(Edge at) {
-  if (program_.Strip.NotOnTop) {
+  if (with_.Strip.NotOnTop) {
     DockNotOnTop(at);
-  } else if (!program_.Strip.AutoHide) {
+  } else if (!with_.Strip.AutoHide) {
     DockAppBar(at);
   } else if (!AutoHideAppBar(at)) {
     return;
@@ -165,16 +168,16 @@ void mAppBar::FinishPlacing(Edge at) {
   strip_.DoLabelDate();
   // The boxes have their size for the strip in full sight, and a line stays a line.
   if (hidden) window_.Move(line.Left, line.Top, line.Width, line.Height);
-  if (!program_.Strip.AutoHide) {
+  if (!with_.Strip.AutoHide) {
     strip_.DrawBorders();
     window_.ShowNoActivate();
     window_.Refresh();
   }
-  if (program_.Guards.StartingUp && program_.Strip.AutoHide) RevealToolbar();
-  if (program_.Ports.QMenu != nullptr) program_.Ports.QMenu->InitIcons();
-  program_.Windows.SetMousePointer(forms::MousePointer::Default);
+  if (with_.Guards.StartingUp && with_.Strip.AutoHide) RevealToolbar();
+  if (with_.Ports.QMenu != nullptr) with_.Ports.QMenu->InitIcons();
+  window_.Windows().SetMousePointer(forms::MousePointer::Default);
   // Who starts the program wants it in front.
-  if (program_.Guards.StartingUp) window_.SetForeground();
+  if (with_.Guards.StartingUp) window_.SetForeground();
   window_.SetFocus();
 }
 
@@ -227,29 +230,29 @@ void mAppBar::DockAppBar(Edge at) { StandAt(at, true); }
 void mAppBar::DockNotOnTop(Edge at) { StandAt(at, false); }
 
 void mAppBar::StandAt(Edge at, bool keepsRoom) {
-  const ForegroundScope foreground(program_, window_);
+  const ForegroundScope foreground(window_, with_.Desktop, with_.Ports);
   window_.SetVisible(false);
   ComeOutOfHiding();
   const PixelSize bar = WholeEdge(at);
   GiveUpHiding();
   BarPlace place = AskForPlace(at, bar, true);
   if (keepsRoom) {
-    LoadedWindow* const image = program_.Ports.ImageWindow;
-    CapturePort* const capture = program_.Ports.Capture;
+    LoadedWindow* const image = with_.Ports.ImageWindow;
+    CapturePort* const capture = with_.Ports.Capture;
     if (capture != nullptr && image != nullptr && image->WindowLoaded()) capture->ClearBg();
     place = KeepPlace(at, bar, true);
-    program_.DoEvents();
+    with_.Events.DoEvents();
     if (!window_.IsLoaded()) return;
   }
   const PixelRect window = BarWindow(at, place, bar);
   MoveWindow(window);
   window_.ShowNoActivate();
-  program_.DoEvents();
+  with_.Events.DoEvents();
   if (!window_.IsLoaded()) return;
   MoveWindow(window);
-  program_.DoEvents();
+  with_.Events.DoEvents();
   if (!window_.IsLoaded()) return;
-  program_.Strip.AppBarDocked = true;
+  with_.Strip.AppBarDocked = true;
   PinHere();
 }
 
@@ -261,28 +264,28 @@ void mAppBar::ComeOutOfHiding() {
 }
 
 bool mAppBar::AppBarPosChanged() {
-  const forms::FlagScope busy(program_.Guards.AppBarBusy);
+  const forms::FlagScope busy(with_.Guards.AppBarBusy);
   const PixelRect before = AppBarData.rc;
   const Edge at = CurrentEdge();
   const PixelSize bar = WholeEdge(at);
-  const bool lifts = !program_.Strip.AutoHide;
+  const bool lifts = !with_.Strip.AutoHide;
   BarPlace place = AskForPlace(at, bar, lifts);
   // A strip that hides keeps no room.
-  const bool keepsRoom = !program_.Strip.NotOnTop && !program_.Strip.AutoHide;
+  const bool keepsRoom = !with_.Strip.NotOnTop && !with_.Strip.AutoHide;
   if (place.Reserved != before || keepsRoom != keepsRoom_) {
     if (keepsRoom) place = KeepPlace(at, bar, lifts);
     MoveWindow(BarWindow(at, place, bar));
     StretchSingles(at);
-    program_.DoEvents();
+    with_.Events.DoEvents();
     if (!window_.IsLoaded()) return true;
   }
-  if (program_.Strip.AutoHide) {
-    if (AutoHideFree(program_.Strip.ToolbarEdge)) {
-      AutoHideAppBar(program_.Strip.ToolbarEdge);
+  if (with_.Strip.AutoHide) {
+    if (AutoHideFree(with_.Strip.ToolbarEdge)) {
+      AutoHideAppBar(with_.Strip.ToolbarEdge);
     } else {
-      program_.OptionFlags.Set(Option::AutoHide, false);
-      program_.Strip.AutoHide = false;
-      StandAt(at, !program_.Strip.NotOnTop);
+      with_.Options.Set(Option::AutoHide, false);
+      with_.Strip.AutoHide = false;
+      StandAt(at, !with_.Strip.NotOnTop);
       if (window_.IsLoaded()) ResizeToEdge();
     }
   }

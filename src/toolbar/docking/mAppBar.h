@@ -13,7 +13,27 @@
 
 namespace corvelle {
 
-class Program;
+class DesktopWindows;
+class EntryCarry;
+class MessageBoxes;
+struct GuardFlags;
+struct StripPlacement;
+namespace forms {
+class EventPump;
+}
+
+/// What docking works with. All of it outlives it.
+struct AppBarParts {
+  AppBars& Bars;
+  const DesktopWindows& Desktop;
+  const WindowPorts& Ports;
+  GuardFlags& Guards;
+  StripPlacement& Strip;
+  OptionFlags& Options;
+  const EntryCarry& Carry;
+  MessageBoxes& Messages;
+  forms::EventPump& Events;
+};
 
 /// The strip as an application desktop toolbar: it is registered with the shell, keeps a screen
 /// edge for itself or hides there behind a line of one pixel, and follows the shell's notices.
@@ -22,8 +42,8 @@ class Program;
 /// already.
 class mAppBar final : public DockingPort {
  public:
-  mAppBar(Program& program, DockedStrip& strip)
-      : program_(program), strip_(strip), window_(strip.AsForm()) {}
+  mAppBar(const AppBarParts& with, DockedStrip& strip)
+      : with_(with), strip_(strip), window_(strip.AsForm()) {}
   mAppBar(const mAppBar&) = delete;
   mAppBar& operator=(const mAppBar&) = delete;
 
@@ -71,7 +91,7 @@ class mAppBar final : public DockingPort {
   [[nodiscard]] TwipSize Twips() const;
   [[nodiscard]] PixelSize ScreenPixels() const;
 
-  Program& program_;
+  AppBarParts with_;
   DockedStrip& strip_;
   forms::Form& window_;
   /// Kept for the whole run. Its lParam remembers that the strip has claimed uEdge for hiding.

@@ -1,31 +1,37 @@
 // Auto Hide: the strip as a line, and back.
 
-#include "core/Program.h"
+#include "core/Carry.h"
+#include "core/GuardFlags.h"
+#include "core/MessageBoxes.h"
+#include "core/OptionFlags.h"
+#include "core/StripPlacement.h"
+#include "forms/EventPump.h"
 #include "forms/Form.h"
 #include "forms/Scopes.h"
+#include "forms/WindowSystem.h"
 #include "toolbar/docking/mAppBar.h"
 
 namespace corvelle {
 
 bool mAppBar::AutoHideAppBar(Edge at) {
-  program_.Strip.ToolbarEdge = at;
-  if (!AutoHideFree(program_.Strip.ToolbarEdge)) {
-    program_.OptionFlags.Set(Option::AutoHide, false);
-    program_.Strip.AutoHide = false;
-    program_.Guards.AppBarBusy = false;
+  with_.Strip.ToolbarEdge = at;
+  if (!AutoHideFree(with_.Strip.ToolbarEdge)) {
+    with_.Options.Set(Option::AutoHide, false);
+    with_.Strip.AutoHide = false;
+    with_.Guards.AppBarBusy = false;
     strip_.WatchHiding(false);
-    program_.Guards.ToolbarReady = false;
+    with_.Guards.ToolbarReady = false;
     ShowAutoHideTaken();
     // One that went into the task bar meanwhile is placed when it comes back.
-    if (!window_.IsLoaded() || program_.Strip.ToolbarMinimized) return false;
-    SetAppBar(program_.Strip.ToolbarEdge, true);
+    if (!window_.IsLoaded() || with_.Strip.ToolbarMinimized) return false;
+    SetAppBar(with_.Strip.ToolbarEdge, true);
     if (!window_.IsLoaded()) return false;
     window_.ShowNoActivate();
     strip_.ShowContents();
-    program_.Guards.ToolbarReady = true;
+    with_.Guards.ToolbarReady = true;
     return false;
   }
-  const forms::FlagScope busy(program_.Guards.AppBarBusy);
+  const forms::FlagScope busy(with_.Guards.AppBarBusy);
   // What was kept for the strip in full sight would stay kept.
   if (keepsRoom_) {
     Remove();
@@ -49,15 +55,15 @@ bool mAppBar::AutoHideAppBar(Edge at) {
   AppBarData.rc = place.Reserved;
   MoveWindow(BarWindow(at, place, bar));
   window_.ShowNoActivate();
-  program_.Strip.AppBarDocked = true;
+  with_.Strip.AppBarDocked = true;
   strip_.HideContents();
   strip_.WatchHiding(true);
   return true;
 }
 
 void mAppBar::HideToolbar() {
-  if (program_.Strip.AppBarDocked) {
-    if (!AutoHideAppBar(program_.Strip.ToolbarEdge)) return;
+  if (with_.Strip.AppBarDocked) {
+    if (!AutoHideAppBar(with_.Strip.ToolbarEdge)) return;
     strip_.SinkAgain();
     return;
   }
@@ -70,9 +76,9 @@ void mAppBar::HideToolbar() {
 
 void mAppBar::RevealToolbar() {
   // A strip in the task bar comes back by its companion only.
-  if (strip_.ContentsVisible() || program_.Strip.ToolbarMinimized) return;
+  if (strip_.ContentsVisible() || with_.Strip.ToolbarMinimized) return;
   strip_.ShowContents();
-  if (program_.Strip.AppBarDocked) {
+  if (with_.Strip.AppBarDocked) {
     // The buttons that were read again while only the line was seen get their places now.
     ResizeToEdge();
     const TwipPoint corner = RevealedCorner(CurrentEdge(), window_.Bounds(), line_, Twips());

@@ -2,9 +2,10 @@
 
 #include <memory>
 
-#include "core/Program.h"
+#include "core/GuardFlags.h"
 #include "forms/PictureBox.h"
 #include "forms/Types.h"
+#include "forms/WindowSystem.h"
 #include "platform/Canvas.h"
 
 namespace corvelle {
@@ -15,8 +16,8 @@ constexpr int kAtOnce = 40;
 
 }  // namespace
 
-StripIcons::StripIcons(Program& program, forms::PictureBox& box)
-    : program_(program), box_(box), icons_(program) {}
+StripIcons::StripIcons(const IconSources& from, const GuardFlags& guards, forms::PictureBox& box)
+    : guards_(guards), box_(box), icons_(from) {}
 
 void StripIcons::Begin() {
   icons_.Drop();
@@ -25,7 +26,7 @@ void StripIcons::Begin() {
 
 void StripIcons::Draw(std::string_view text, const PixelRect& place) {
   // The strip is to be up before its icons are: the first one takes a while to come.
-  const int wait = program_.Guards.StartingUp ? 0 : kAtOnce;
+  const int wait = guards_.StartingUp ? 0 : kAtOnce;
   Paint(place, icons_.Ask(text, place.Width(), wait,
                           [this, place](const IconLook& look) { Paint(place, look); }));
 }
@@ -36,9 +37,9 @@ void StripIcons::End() {
 }
 
 void StripIcons::Paint(const PixelRect& place, const IconLook& look) {
-  const std::unique_ptr<Canvas> icon = program_.Windows.CreateCanvas(place.Size());
+  const std::unique_ptr<Canvas> icon = box_.Windows().CreateCanvas(place.Size());
   const PixelRect whole{0, 0, place.Width(), place.Height()};
-  icon->FillBox(whole, forms::Resolve(program_.Windows, box_.BackColor()));
+  icon->FillBox(whole, forms::Resolve(box_.Windows(), box_.BackColor()));
   // What has no icon at all keeps an empty face.
   static_cast<void>(icons_.Draw(*icon, look, place.Width()));
   box_.DrawPixels(place, [&](Canvas& canvas) { canvas.DrawCanvas(*icon, whole, place.TopLeft()); });

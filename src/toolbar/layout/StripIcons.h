@@ -7,7 +7,7 @@
 
 namespace corvelle {
 
-class Program;
+struct GuardFlags;
 namespace forms {
 class PictureBox;
 }  // namespace forms
@@ -16,7 +16,7 @@ class PictureBox;
 /// is stood for by another picture, and painted alone when it comes.
 class StripIcons {
  public:
-  StripIcons(Program& program, forms::PictureBox& box);
+  StripIcons(const IconSources& from, const GuardFlags& guards, forms::PictureBox& box);
 
   /// Empties the box. Icons of an earlier round that have not come yet are given up.
   void Begin();
@@ -30,7 +30,7 @@ class StripIcons {
  private:
   void Paint(const PixelRect& place, const IconLook& look);
 
-  Program& program_;
+  const GuardFlags& guards_;
   forms::PictureBox& box_;
   AskedIcons icons_;
 };

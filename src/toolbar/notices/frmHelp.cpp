@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/Program.h"
+#include "forms/WindowSystem.h"
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
 #include "toolbar/notices/HintPlace.h"
@@ -15,11 +15,8 @@ constexpr float kFirstTop = 10;  // twips
 
 }  // namespace
 
-frmHelp::frmHelp(Program& program)
-    : Form(program.Windows, "frmHelp"),
-      Label1(*this, "Label1"),
-      Timer1(program.Windows),
-      program_(program) {
+frmHelp::frmHelp(const HintParts& with)
+    : Form(with.Windows, "frmHelp"), Label1(*this, "Label1"), Timer1(with.Windows), with_(with) {
   using forms::MouseButton;
   using forms::ShiftState;
   MouseMove = [this](MouseButton, ShiftState, float, float) { Form_MouseMove(); };
@@ -44,9 +41,9 @@ void frmHelp::SetHint(std::string_view text) {
   if (IsLoaded() && Visible()) {
     // The old hint is gone from the screen before the new one is measured.
     CloseHint();
-    program_.Windows.PaintWaiting();
+    with_.Windows.PaintWaiting();
   }
-  if (wanted.empty() || program_.OptionFlags.Is(Option::NoHints)) return;
+  if (wanted.empty() || with_.Options.Is(Option::NoHints)) return;
   if (Load()) ShowHint(wanted);
 }
 
@@ -63,12 +60,12 @@ void frmHelp::CloseHint() {
 }
 
 void frmHelp::ShowHint(std::string_view text) {
-  if (program_.Ports.Toolbar != nullptr) SetDpi(program_.Ports.Toolbar->WindowDpi());
+  if (with_.Ports.Toolbar != nullptr) SetDpi(with_.Ports.Toolbar->WindowDpi());
   Label1.SetLeft(Scale().TwipsPerPixelX);
   Label1.SetCaption("");
   Label1.SetCaption(" " + std::string(text) + " ");
   const forms::ScreenInfo screen = Screen();
-  const HintPlace place = PlaceHint({.Pointer = program_.Services.Pointer.PointerPosition(),
+  const HintPlace place = PlaceHint({.Pointer = with_.Pointer.PointerPosition(),
                                      .Label = {Label1.Width(), Label1.Height()},
                                      .TwipsX = screen.TwipsPerPixelX,
                                      .TwipsY = screen.TwipsPerPixelY,
@@ -85,9 +82,8 @@ void frmHelp::ShowHint(std::string_view text) {
 void frmHelp::Form_MouseMove() { CloseHint(); }
 
 void frmHelp::Timer1_Timer() {
-  const WindowId under =
-      program_.Services.Desktop.WindowAt(program_.Services.Pointer.PointerPosition());
-  const StripCarryPort* const strip = program_.Ports.Toolbar;
+  const WindowId under = with_.Desktop.WindowAt(with_.Pointer.PointerPosition());
+  const StripCarryPort* const strip = with_.Ports.Toolbar;
   const bool overStrip = strip != nullptr && under != kNoWindow &&
                          (under == strip->ButtonBoxHandle() || under == strip->SingleBoxHandle());
   if (!overStrip) CloseHint();

@@ -9,13 +9,23 @@
 
 namespace corvelle {
 
-class Program;
+class DesktopWindows;
+class Input;
+
+/// What the hint works with. All of it outlives it.
+struct HintParts {
+  forms::WindowSystem& Windows;
+  const WindowPorts& Ports;
+  const OptionFlags& Options;
+  const DesktopWindows& Desktop;
+  const Input& Pointer;
+};
 
 /// The hint that shows the title of a button or an item beside the pointer. It is loaded by the
 /// first hint and stays, hidden between hints.
 class frmHelp final : public forms::Form, public HintPort {
  public:
-  explicit frmHelp(Program& program);
+  explicit frmHelp(const HintParts& with);
 
   /// "&" in the text is an access key unless doubled.
   void SetHint(std::string_view text) override;
@@ -40,7 +50,7 @@ class frmHelp final : public forms::Form, public HintPort {
   void Timer1_Timer();
   void Form_Paint();
 
-  Program& program_;
+  HintParts with_;
 };
 
 }  // namespace corvelle

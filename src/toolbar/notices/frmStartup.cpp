@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "base/Version.h"
-#include "core/Program.h"
+#include "core/ProgramPaths.h"
+#include "forms/WindowSystem.h"
 #include "platform/ShellIcons.h"
 
 namespace corvelle {
@@ -21,21 +22,21 @@ constexpr float kMargin = 120;
 
 // The first icon of a file on the window's colour, as its edge may be half transparent; empty when
 // it has none to show.
-Picture FilePicture(Program& program, std::string_view file) {
-  std::unique_ptr<Canvas> canvas = program.Windows.CreateCanvas({kPictureSize, kPictureSize});
-  canvas->FillBox({0, 0, kPictureSize, kPictureSize}, program.Windows.SystemColor(kFaceColour));
-  if (!program.Services.Icons.DrawFileIcon(*canvas, file, 0, {0, 0}, kPictureSize)) return {};
+Picture FilePicture(const StartupParts& with, std::string_view file) {
+  std::unique_ptr<Canvas> canvas = with.Windows.CreateCanvas({kPictureSize, kPictureSize});
+  canvas->FillBox({0, 0, kPictureSize, kPictureSize}, with.Windows.SystemColor(kFaceColour));
+  if (!with.Icons.DrawFileIcon(*canvas, file, 0, {0, 0}, kPictureSize)) return {};
   return Picture(std::move(canvas));
 }
 
 }  // namespace
 
-frmStartup::frmStartup(Program& program)
-    : Form(program.Windows, "frmStartup", forms::BorderStyle::Raised),
+frmStartup::frmStartup(const StartupParts& with)
+    : Form(with.Windows, "frmStartup", forms::BorderStyle::Raised),
       Label2(*this, "Label2"),
       Image1(*this, "Image1"),
       Label1(*this, "Label1"),
-      program_(program) {
+      with_(with) {
   Label1.SetAutoSize(true);
   Label2.SetAutoSize(true);
 }
@@ -49,7 +50,7 @@ void frmStartup::Form_Load() {
 
   Image1.Move(kMargin, (ScaleHeight() - picture * screen.TwipsPerPixelY) / 2,
               picture * screen.TwipsPerPixelX, picture * screen.TwipsPerPixelY);
-  Image1.SetPicture(FilePicture(program_, program_.Paths.ShippedFile("corvelle.exe")));
+  Image1.SetPicture(FilePicture(with_, with_.Paths.ShippedFile("corvelle.exe")));
   Label1.SetCaption("");
   Label2.SetCaption("Initializing ");
   Label2.Move(Image1.Right() + kMargin, Image1.Bottom() - Label2.Height(), Label2.Width(),
@@ -57,7 +58,7 @@ void frmStartup::Form_Load() {
   Label1.Move(Label2.Right(), Label2.Top(), Label1.Width(), Label1.Height());
 
   SetAutoRedraw(true);
-  Print(Label2.Left(), Image1.Top(), program_.Title + " " + std::string(kVersion),
+  Print(Label2.Left(), Image1.Top(), with_.Title + " " + std::string(kVersion),
         forms::color::ButtonText);
 }
 
@@ -72,7 +73,7 @@ void frmStartup::AddDot() {
 
 void frmStartup::ShowProgress(std::string_view text, std::string_view iconFile) {
   if (!Load()) return;
-  Image1.SetPicture(FilePicture(program_, iconFile));
+  Image1.SetPicture(FilePicture(with_, iconFile));
   Label2.SetCaption(std::string(text));
   Label1.SetCaption("");
   Label1.SetLeft(Label2.Right());

@@ -6,12 +6,21 @@
 
 namespace corvelle {
 
-class Program;
+class ShellIcons;
+struct ProgramPaths;
+
+/// What the startup window works with. All of it outlives it.
+struct StartupParts {
+  forms::WindowSystem& Windows;
+  ShellIcons& Icons;
+  const ProgramPaths& Paths;
+  const std::string& Title;
+};
 
 /// The small window that counts dots while the program starts or deletes files.
 class frmStartup final : public forms::Form, public StartupPort {
  public:
-  explicit frmStartup(Program& program);
+  explicit frmStartup(const StartupParts& with);
 
   void LoadWindow() override { static_cast<void>(Load()); }
   void UnloadWindow() override { Unload(); }
@@ -28,7 +37,7 @@ class frmStartup final : public forms::Form, public StartupPort {
   void Form_Load() override;
 
  private:
-  Program& program_;
+  StartupParts with_;
 };
 
 }  // namespace corvelle

@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/OptionFile.h"
+#include "core/ProgramPaths.h"
 #include "platform/ShellIcons.h"
 #include "toolbar/notices/TipLayout.h"
 
@@ -26,13 +27,13 @@ constexpr int kBorder = 3;  // pixels of the window's own frame
 
 }  // namespace
 
-frmTip::frmTip(Program& program)
-    : Form(program.Windows, "frmTip", forms::BorderStyle::Raised),
+frmTip::frmTip(const TipParts& with)
+    : Form(with.Windows, "frmTip", forms::BorderStyle::Raised),
       Picture1(*this, "Picture1"),
       lblTitle(*this, "lblTitle"),
       Check1(*this, "Check1"),
       cmdOK(*this, "cmdOK"),
-      program_(program) {
+      with_(with) {
   // A picture takes no focus.
   Picture1.SetEnabled(false);
   lblTitle.SetAutoSize(true);
@@ -54,7 +55,7 @@ void frmTip::Form_Load() {
 }
 
 void frmTip::ShowTip(std::string_view title, std::string_view text, std::optional<Option> field) {
-  if (field && program_.OptionFlags.Is(*field)) return;
+  if (field && with_.Options.Flags.Is(*field)) return;
   // Another notice takes the place of one that is still up.
   Unload();
   lblTitle.SetCaption(DoubleAmpersands(title));
@@ -106,15 +107,15 @@ void frmTip::DrawPicture() {
   Picture1.Cls();
   Picture1.DrawPixels({0, 0, kPicture, kPicture}, [this](Canvas& canvas) {
     // Without the program's icon the place stays empty.
-    static_cast<void>(program_.Services.Icons.DrawFileIcon(
-        canvas, program_.Paths.ShippedFile("corvelle.exe"), 0, {0, 0}, kPicture));
+    static_cast<void>(with_.Icons.DrawFileIcon(canvas, with_.Paths.ShippedFile("corvelle.exe"), 0,
+                                               {0, 0}, kPicture));
   });
 }
 
 void frmTip::cmdOK_Click() {
   if (TipField) {
-    program_.OptionFlags.Set(*TipField, Check1.Value() == 1);
-    program_.SaveOptionFlags();
+    with_.Options.Flags.Set(*TipField, Check1.Value() == 1);
+    with_.Options.SaveOptionFlags();
   }
   Unload();
 }

@@ -15,12 +15,22 @@
 
 namespace corvelle {
 
-class Program;
+class OptionFile;
+class ShellIcons;
+struct ProgramPaths;
+
+/// What a notice works with. All of it outlives it.
+struct TipParts {
+  forms::WindowSystem& Windows;
+  ShellIcons& Icons;
+  const ProgramPaths& Paths;
+  OptionFile& Options;
+};
 
 /// A notice with a box that keeps it from coming again. It is loaded for each notice.
 class frmTip final : public forms::Form, public TipPort {
  public:
-  explicit frmTip(Program& program);
+  explicit frmTip(const TipParts& with);
 
   void ShowTip(std::string_view title, std::string_view text, std::optional<Option> field) override;
   /// The option that the box writes, if any.
@@ -44,7 +54,7 @@ class frmTip final : public forms::Form, public TipPort {
   void LayOut(std::string_view text);
   void DrawPicture();
 
-  Program& program_;
+  TipParts with_;
 };
 
 }  // namespace corvelle

@@ -1,6 +1,10 @@
 #include "toolbar/singles/DateLabel.h"
 
-#include "core/Program.h"
+#include "core/Carry.h"
+#include "core/GuardFlags.h"
+#include "core/MenuState.h"
+#include "core/OptionFlags.h"
+#include "core/WindowPorts.h"
 #include "forms/Form.h"
 #include "forms/Graphic.h"
 #include "forms/PictureBox.h"
@@ -18,9 +22,9 @@ constexpr std::string_view kDatePanel = "rundll32.exe shell32.dll,Control_RunDLL
 
 }  // namespace
 
-DateLabel::DateLabel(Program& program, RowHost& strip, StripPull& pull, const RowControls& controls,
-                     SingleRow& row)
-    : program_(program), strip_(strip), controls_(controls), row_(row) {
+DateLabel::DateLabel(const DateParts& with, RowHost& strip, StripPull& pull,
+                     const RowControls& controls, SingleRow& row)
+    : with_(with), strip_(strip), controls_(controls), row_(row) {
   using forms::MouseButton;
   using forms::ShiftState;
   forms::Label& label = controls_.lblDate;
@@ -50,7 +54,7 @@ void DateLabel::DoLabelDate() {
     HideDate();
     return;
   }
-  if (!program_.OptionFlags.Is(Option::ShowDate)) {
+  if (!with_.Options.Is(Option::ShowDate)) {
     if (!controls_.lblDate.Visible()) return;
     HideDate();
     forms::PictureBox& box = controls_.Box;
@@ -58,7 +62,7 @@ void DateLabel::DoLabelDate() {
                 forms::color::ButtonFace);
     return;
   }
-  if (program_.Guards.RestoreBusy) return;
+  if (with_.Guards.RestoreBusy) return;
   UpdateLabelDate();
   ShowDate();
 }
@@ -68,7 +72,7 @@ void DateLabel::ShowDate() {
   forms::Line& line1 = controls_.Line1[0];
   forms::Line& line2 = controls_.Line2[0];
   FontSpec font = label.Font();
-  font.Bold = program_.OptionFlags.Is(Option::LargeIcons);
+  font.Bold = with_.Options.Is(Option::LargeIcons);
   label.SetFont(font);
   const DateSpot spot = PlaceDate({.Box = {controls_.Box.Width(), controls_.Box.Height()},
                                    .Label = {label.Width(), label.Height()},
@@ -89,11 +93,11 @@ void DateLabel::ShowDate() {
 
 void DateLabel::UpdateLabelDate() {
   const StripShape shape = strip_.Shape();
-  if (!program_.OptionFlags.Is(Option::ShowDate) || shape.Scale.Vertical ||
-      program_.Guards.RestoreBusy || shape.Where == Placement::TopHugging) {
+  if (!with_.Options.Is(Option::ShowDate) || shape.Scale.Vertical || with_.Guards.RestoreBusy ||
+      shape.Where == Placement::TopHugging) {
     return;
   }
-  const std::string today = program_.Services.System.ShortDate();
+  const std::string today = with_.System.ShortDate();
   if (controls_.lblDate.Caption() == today) return;
   controls_.lblDate.SetCaption(today);
   // A longer date moves to the left, so that its end stays on the strip.
@@ -101,28 +105,28 @@ void DateLabel::UpdateLabelDate() {
 }
 
 void DateLabel::lblDate_MouseDown() {
-  const QMenuPort* const menu = program_.Ports.QMenu;
-  if (program_.Menu.MenuOpen || (menu != nullptr && menu->MenuVisible())) strip_.ResetMenu();
-  program_.SetHint("");
-  program_.Menu.CurSingle = MenuState::kDateArea;
+  const QMenuPort* const menu = with_.Ports.QMenu;
+  if (with_.Menu.MenuOpen || (menu != nullptr && menu->MenuVisible())) strip_.ResetMenu();
+  with_.Ports.SetHint("");
+  with_.Menu.CurSingle = MenuState::kDateArea;
 }
 
 // The strip shows the date alone; the hint over it is the clock.
 void DateLabel::lblDate_MouseMove(forms::MouseButton down) {
-  if (down != forms::MouseButton::None || program_.Entry.ItemDragging) return;
-  const HintPort* const hint = program_.Ports.Hint;
-  const bool hintUp = hint != nullptr && program_.Services.Desktop.IsVisible(hint->WindowHandle());
-  if (hintUp && program_.Menu.CurSingle == MenuState::kDateArea) return;
-  program_.Menu.CurSingle = MenuState::kDateArea;
-  const SystemInfo& system = program_.Services.System;
-  program_.SetHint(system.TimeOfDay() + ", " + system.LongDate());
+  if (down != forms::MouseButton::None || with_.Carry.IsCarrying()) return;
+  const HintPort* const hint = with_.Ports.Hint;
+  const bool hintUp = hint != nullptr && with_.Desktop.IsVisible(hint->WindowHandle());
+  if (hintUp && with_.Menu.CurSingle == MenuState::kDateArea) return;
+  with_.Menu.CurSingle = MenuState::kDateArea;
+  const SystemInfo& system = with_.System;
+  with_.Ports.SetHint(system.TimeOfDay() + ", " + system.LongDate());
   UpdateLabelDate();
   row_.EnterDate();
 }
 
 void DateLabel::lblDate_DblClick() {
-  if (program_.Entry.ItemDragging) return;
-  LaunchItem(program_, kDatePanel);
+  if (with_.Carry.IsCarrying()) return;
+  LaunchItem(with_.Launch, kDatePanel);
 }
 
 }  // namespace corvelle

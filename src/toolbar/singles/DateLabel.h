@@ -1,19 +1,38 @@
 #pragma once
 
+#include "core/LaunchParts.h"
 #include "forms/Types.h"
 #include "toolbar/singles/RowHost.h"
 
 namespace corvelle {
 
-class Program;
+class DesktopWindows;
+class EntryCarry;
+class OptionFlags;
+class SystemInfo;
+struct GuardFlags;
+struct MenuState;
+struct WindowPorts;
 class SingleRow;
 class StripPull;
+
+/// What the date works with. All of it outlives it.
+struct DateParts {
+  const OptionFlags& Options;
+  const GuardFlags& Guards;
+  const SystemInfo& System;
+  const DesktopWindows& Desktop;
+  const WindowPorts& Ports;
+  MenuState& Menu;
+  const EntryCarry& Carry;
+  LaunchParts Launch;
+};
 
 /// The date at the far end of the single buttons: when it is to be seen, its place and its text;
 /// the hint over it is the clock.
 class DateLabel {
  public:
-  DateLabel(Program& program, RowHost& strip, StripPull& pull, const RowControls& controls,
+  DateLabel(const DateParts& with, RowHost& strip, StripPull& pull, const RowControls& controls,
             SingleRow& row);
   DateLabel(const DateLabel&) = delete;
   DateLabel& operator=(const DateLabel&) = delete;
@@ -33,7 +52,7 @@ class DateLabel {
   void lblDate_MouseMove(forms::MouseButton down);
   void ShowDate();
 
-  Program& program_;
+  DateParts with_;
   RowHost& strip_;
   RowControls controls_;
   SingleRow& row_;

@@ -3,13 +3,13 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/MenuFile.h"
-#include "core/MenuFolder.h"
-#include "core/Program.h"
+#include "core/GuardFlags.h"
+#include "core/IconState.h"
+#include "core/MenuState.h"
+#include "core/OptionFlags.h"
+#include "core/StripPlacement.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
-#include "platform/FileSystem.h"
-#include "platform/ShellIcons.h"
 #include "toolbar/layout/StripLook.h"
 
 namespace corvelle {
@@ -36,17 +36,18 @@ void Show(forms::Line& line, const TwipLine& points, LineColor color) {
 
 }  // namespace
 
-SingleRow::SingleRow(Program& program, RowHost& strip, StripPull& pull, const RowControls& controls)
-    : Date(program, strip, pull, controls, *this),
-      program_(program),
+SingleRow::SingleRow(const SingleRowParts& with, const DateParts& date, RowHost& strip,
+                     StripPull& pull, const RowControls& controls)
+    : Date(date, strip, pull, controls, *this),
+      with_(with),
       strip_(strip),
       window_(strip.AsForm()),
       pull_(pull),
       controls_(controls),
-      icons_(program, controls.Box),
+      icons_(with.Icons, with.Guards, controls.Box),
       hover1_(controls.Box, "Line1"),
       hover2_(controls.Box, "Line2"),
-      watch_(program.Windows) {
+      watch_(window_.Windows()) {
   hover1_.SetVisible(false);
   hover2_.SetVisible(false);
   watch_.SetInterval(kWatchPoll);
@@ -56,24 +57,24 @@ SingleRow::SingleRow(Program& program, RowHost& strip, StripPull& pull, const Ro
 
 SingleScene SingleRow::Scene() const {
   const bool twoRows =
-      program_.OptionFlags.Is(Option::SmallSingles) && program_.OptionFlags.Is(Option::LargeIcons);
+      with_.Options.Is(Option::SmallSingles) && with_.Options.Is(Option::LargeIcons);
   const TwipSize button = strip_.Shape().Button;
   return {.Scale = strip_.Shape().Scale,
           .At = strip_.Shape().At,
           .TwoRows = twoRows,
-          .IconSize = twoRows ? kSmallIconSize : program_.Icons.IconSize,
+          .IconSize = twoRows ? kSmallIconSize : with_.Icons.Icons.IconSize,
           .Template = {button.Width, button.Height}};
 }
 
 float SingleRow::LastEnd() const {
   const SingleRect& last = SingleButtons.back();
-  return program_.Strip.ToolbarVertical ? last.Bottom() : last.Right();
+  return strip_.Shape().Scale.Vertical ? last.Bottom() : last.Right();
 }
 
 void SingleRow::Unload() {
   SingleCount = 0;
   LineCount = 0;
-  if (program_.Menu.CurSingle != MenuState::kDateArea) program_.Menu.CurSingle = 0;
+  if (with_.Menu.CurSingle != MenuState::kDateArea) with_.Menu.CurSingle = 0;
   ShowHover(0);
   press_ = {.On = press_.On == PressOn::Nothing ? PressOn::Nothing : PressOn::Spent};
   icons_.Stop();
@@ -84,7 +85,7 @@ void SingleRow::Unload() {
 
 void SingleRow::DoSingleButtons() {
   Unload();
-  program_.Menu.CurSingle = 0;
+  with_.Menu.CurSingle = 0;
   if (strip_.Shape().Where == Placement::TopHugging) Date.HideDate();
   PlaceBox();
   for (SingleRect& read : ReadSingles()) {
@@ -111,7 +112,7 @@ void SingleRow::PlaceBox() {
   forms::PictureBox& box = controls_.Box;
   const TwipSize size = strip_.Shape().Button;
   box.SetAutoRedraw(true);
-  if (program_.Strip.ToolbarVertical) {
+  if (strip_.Shape().Scale.Vertical) {
     box.Move(buttons.Left(), buttons.Bottom() + 8 * strip_.Shape().Scale.TwipsY, size.Width,
              box.Height());
   } else {
@@ -123,14 +124,14 @@ void SingleRow::PlaceBox() {
 
 void SingleRow::ShowLineLeft() {
   const TwipSize size = strip_.Shape().Button;
-  const TwipLine line = program_.Strip.ToolbarVertical ? TwipLine{0, 0, size.Width, 0}
-                                                       : TwipLine{0, 0, 0, size.Height};
+  const TwipLine line = strip_.Shape().Scale.Vertical ? TwipLine{0, 0, size.Width, 0}
+                                                      : TwipLine{0, 0, 0, size.Height};
   Show(controls_.LineLeft, line, LineColor::Highlight);
 }
 
 void SingleRow::SizeBox() {
   const float length = SinglesLength(strip_.Shape().Scale, SingleButtons.back());
-  if (program_.Strip.ToolbarVertical) {
+  if (strip_.Shape().Scale.Vertical) {
     controls_.Box.SetHeight(length);
   } else {
     controls_.Box.SetWidth(length);
@@ -148,18 +149,8 @@ SingleRect SingleRow::EntryOf(const MenuRecord& record, std::string path) {
 
 std::vector<SingleRect> SingleRow::ReadSingles() {
   std::vector<SingleRect> read;
-  // A folder that cannot be listed gives an empty row.
-  const auto names = OrderedSingleFiles(program_.Services.Files, program_.Paths.MenusPath);
-  if (!names) return read;
-  for (const std::string& name : *names) {
-    const std::string path = program_.Paths.MenusPath + name;
-    const std::optional<MenuRecord> record =
-        ReadButtonRecord(program_.Services.Files, program_.Services.Ansi, path);
-    // A button that cannot be read is left out, and the others come all the same.
-    if (!record) continue;
-    program_.ShowStartupProgress();
-    read.push_back(EntryOf(*record, path));
-  }
+  for (const StripFiles::Button& button : with_.Files.SingleButtons())
+    read.push_back(EntryOf(button.Record, button.Path));
   return read;
 }
 

@@ -5,28 +5,55 @@
 #include <vector>
 
 #include "base/Geometry.h"
+#include "core/LaunchParts.h"
 #include "core/MenuRecord.h"
 #include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 #include "forms/Graphic.h"
 #include "forms/Timer.h"
 #include "forms/Types.h"
+#include "toolbar/layout/StripFiles.h"
 #include "toolbar/layout/StripIcons.h"
 #include "toolbar/singles/DateLabel.h"
 #include "toolbar/singles/RowHost.h"
+#include "toolbar/singles/SingleEdits.h"
 #include "toolbar/singles/SingleLayout.h"
 
 namespace corvelle {
 
-class Program;
+class DesktopWindows;
+class EntryCarry;
+class Input;
+class OptionFlags;
+struct GuardFlags;
+struct MenuState;
+struct StripPlacement;
 class StripPull;
+
+/// What the row of single buttons works with. All of it outlives it.
+struct SingleRowParts {
+  StripFiles Files;
+  SingleEdits Edits;
+  IconSources Icons;
+  const OptionFlags& Options;
+  const StripPlacement& Strip;
+  DesktopWindows& Desktop;
+  Input& Pointer;
+  const WindowPorts& Ports;
+  GuardFlags& Guards;
+  MenuState& Menu;
+  EntryEdit& Entry;
+  EntryCarry& Carry;
+  LaunchParts Launch;
+};
 
 /// The single buttons of the strip: what is in its second box, and what the mouse does there.
 /// Each button is a file of its own; every change rewrites files, and the row is read again.
 /// Measures are twips of the box. The strip outlives it.
 class SingleRow final : public SingleButtonsPort {
  public:
-  SingleRow(Program& program, RowHost& strip, StripPull& pull, const RowControls& controls);
+  SingleRow(const SingleRowParts& with, const DateParts& date, RowHost& strip, StripPull& pull,
+            const RowControls& controls);
 
   // ---- the row (SingleRow.cpp) ----
 
@@ -41,7 +68,7 @@ class SingleRow final : public SingleButtonsPort {
 
   // ---- the pointer (SingleRowPointer.cpp) ----
 
-  /// Sets Program::Menu by the pointer's place on the screen, and returns it.
+  /// Sets MenuState::CurSingle by the pointer's place on the screen, and returns it.
   int GetCurIndex() noexcept;
   /// The strip ends: nobody looks after the pointer any more.
   void StopWatching() { watch_.SetEnabled(false); }
@@ -136,18 +163,14 @@ class SingleRow final : public SingleButtonsPort {
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void ToFrame(forms::MouseButton button, float x, float y);
 
-  bool Told(const FileStatus& edited) const;
   bool MoveFromMenu(const std::string& before, const EntryEdit& carried);
   /// A copy of the entry under the pointer; its File is empty when the pointer is over no entry.
   [[nodiscard]] SingleRect Under();
-  bool DropBehind(const EntryEdit& carried, forms::MouseButton released);
-  bool DropBefore(const std::string& target, const EntryEdit& carried, forms::MouseButton released);
-  [[nodiscard]] bool IsAnother(const EntryEdit& carried) const;
   void FitStrip();
   /// Puts records before the button of the file `before`, behind the last one when it is empty.
   void AddDropped(const std::vector<MenuRecord>& records, const std::string& before);
 
-  Program& program_;
+  SingleRowParts with_;
   RowHost& strip_;
   forms::Form& window_;
   StripPull& pull_;

@@ -4,7 +4,12 @@
 
 #include "base/Text.h"
 #include "core/Carry.h"
-#include "core/Program.h"
+#include "core/GuardFlags.h"
+#include "core/IconState.h"
+#include "core/MenuState.h"
+#include "core/MessageBoxes.h"
+#include "core/OptionFlags.h"
+#include "core/StripPlacement.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
 #include "forms/Scopes.h"
@@ -41,19 +46,19 @@ bool SingleRow::IsButton(int index) const {
 }
 
 bool SingleRow::MenuUp() const {
-  return program_.Ports.QMenu != nullptr && program_.Ports.QMenu->MenuVisible();
+  return with_.Ports.QMenu != nullptr && with_.Ports.QMenu->MenuVisible();
 }
 
 int SingleRow::GetCurIndex() noexcept {
-  program_.Menu.CurSingle = 0;
-  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
+  with_.Menu.CurSingle = 0;
+  const PixelPoint pointer = with_.Pointer.PointerPosition();
   const forms::PictureBox& box = controls_.Box;
-  if (program_.Services.Desktop.WindowAt(pointer) != box.hWnd()) return 0;
+  if (with_.Desktop.WindowAt(pointer) != box.hWnd()) return 0;
   const TwipPoint at{
       static_cast<float>(pointer.x) * strip_.Shape().Scale.TwipsX - window_.Left() - box.Left(),
       static_cast<float>(pointer.y) * strip_.Shape().Scale.TwipsY - window_.Top() - box.Top()};
-  program_.Menu.CurSingle = SingleAt(SingleButtons, at);
-  return program_.Menu.CurSingle;
+  with_.Menu.CurSingle = SingleAt(SingleButtons, at);
+  return with_.Menu.CurSingle;
 }
 
 // ---- hovering ----
@@ -72,33 +77,33 @@ void SingleRow::ShowHover(int index) {
   }
   hover1_.SetVisible(shown);
   hover2_.SetVisible(shown);
-  watch_.SetEnabled(shown || program_.Menu.CurSingle == MenuState::kDateArea);
+  watch_.SetEnabled(shown || with_.Menu.CurSingle == MenuState::kDateArea);
 }
 
 void SingleRow::sMouseMove() {
-  if (program_.Guards.IsSettling()) return;
-  const int before = program_.Menu.CurSingle;
+  if (with_.Guards.IsSettling()) return;
+  const int before = with_.Menu.CurSingle;
   const int now = GetCurIndex();
   if (now == before && now == hovered_) return;
   ShowHover(now);
   // Back on a menu button, its own hint is due again.
   strip_.EndHovering();
-  if (!program_.Menu.MenuOpen) program_.Menu.CurButton = 0;
-  program_.SetHint(IsButton(now)
-                       ? DoubleAmpersands(SingleButtons[static_cast<std::size_t>(now)].Title)
-                       : std::string());
+  if (!with_.Menu.MenuOpen) with_.Menu.CurButton = 0;
+  with_.Ports.SetHint(IsButton(now)
+                          ? DoubleAmpersands(SingleButtons[static_cast<std::size_t>(now)].Title)
+                          : std::string());
 }
 
 // Ends the look and the hint of a button, or of the date, that the pointer has left.
 void SingleRow::LookAround() {
-  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
-  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  const PixelPoint pointer = with_.Pointer.PointerPosition();
+  const WindowId under = with_.Desktop.WindowAt(pointer);
   if (under == controls_.Box.hWnd()) return;
-  if (!carrying_) program_.Menu.CurSingle = 0;
+  if (!carrying_) with_.Menu.CurSingle = 0;
   ShowHover(0);
   watch_.SetEnabled(false);
   // Over the menu buttons the hint is theirs by now.
-  if (!program_.Entry.ItemDragging && under != strip_.ButtonsBox().hWnd()) program_.SetHint("");
+  if (!with_.Entry.ItemDragging && under != strip_.ButtonsBox().hWnd()) with_.Ports.SetHint("");
 }
 
 // ---- presses ----
@@ -115,11 +120,11 @@ bool SingleRow::IsBesidePull(forms::MouseButton button) const {
 
 void SingleRow::picSingleButton_MouseDown(forms::MouseButton button, forms::ShiftState /*shift*/,
                                           float x, float y) {
-  if (program_.Entry.ItemDragging || IsBesidePull(button)) return;
+  if (with_.Entry.ItemDragging || IsBesidePull(button)) return;
   OnDate = Date.IsUnder(x);
   // The place of the press: by now the pointer may be elsewhere.
   const int index = OnDate ? MenuState::kDateArea : SingleAt(SingleButtons, {x, y});
-  program_.Menu.CurSingle = index;
+  with_.Menu.CurSingle = index;
   press_ = {.On = PressOn::Single, .Index = index, .X = x, .Y = y};
   if (MenuUp()) pull_.FrameDragging = true;
   // The bare parts of the box are the strip's frame, and so is a separator for the left button.
@@ -130,7 +135,7 @@ void SingleRow::picSingleButton_MouseDown(forms::MouseButton button, forms::Shif
     BeginCarry(index);
   }
   // Last, since a hint that goes lets events through, and the release may be among them.
-  program_.SetHint("");
+  with_.Ports.SetHint("");
 }
 
 void SingleRow::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftState shift, float x,
@@ -148,12 +153,12 @@ void SingleRow::picSingleButton_MouseMove(forms::MouseButton down, forms::ShiftS
   if (!anyDown || press_.On == PressOn::Frame) {
     strip_.FrameMouseMove(down, x + controls_.Box.Left(), y + controls_.Box.Top());
   }
-  if (!anyDown && window_.IsLoaded() && !program_.Entry.ItemDragging) sMouseMove();
+  if (!anyDown && window_.IsLoaded() && !with_.Entry.ItemDragging) sMouseMove();
 }
 
 void SingleRow::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftState shift,
                                         float /*x*/, float /*y*/) {
-  program_.SetHint("");
+  with_.Ports.SetHint("");
   if (IsBesidePull(button)) return;
   const Press press = std::exchange(press_, {});
   // Wherever on the row the press ends, it was the frame's; a pull is ended by the frame itself.
@@ -164,7 +169,7 @@ void SingleRow::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftS
     EndCarry(press, button, shift);
     return;
   }
-  if (program_.Entry.ItemDragging || press.On == PressOn::Spent) return;
+  if (with_.Entry.ItemDragging || press.On == PressOn::Spent) return;
   if (button == forms::MouseButton::Right && OffersPopup(press)) {
     if (const int index = GetCurIndex(); Has(index)) {
       ShowSinglePopup(index, shift.Ctrl);
@@ -182,24 +187,24 @@ void SingleRow::picSingleButton_MouseUp(forms::MouseButton button, forms::ShiftS
 
 // True if a right release is one on the row: inside its box, beside the date, and no pull.
 bool SingleRow::OffersPopup(const Press& press) const {
-  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
-  return program_.Services.Desktop.WindowAt(pointer) == controls_.Box.hWnd() &&
+  const PixelPoint pointer = with_.Pointer.PointerPosition();
+  return with_.Desktop.WindowAt(pointer) == controls_.Box.hWnd() &&
          press.Index != MenuState::kDateArea && !(press.On == PressOn::Frame && pull_.FrameMoved);
 }
 
 void SingleRow::picSingleButton_DblClick() {
   // The second press of a quick pair is no press of its own on a button.
   press_ = {.On = PressOn::Spent};
-  if (program_.Entry.ItemDragging) return;
+  if (with_.Entry.ItemDragging) return;
   if (OnDate) {
     Date.lblDate_DblClick();
     return;
   }
   // The place of the press, as with every press.
   const int index = SingleAt(SingleButtons, controls_.Box.PressPlace());
-  program_.Menu.CurSingle = index;
+  with_.Menu.CurSingle = index;
   if (!IsButton(index)) return;
-  if (!pull_.FrameMoved && !program_.OptionFlags.Is(Option::SingleClick)) RunSingleButton();
+  if (!pull_.FrameMoved && !with_.Options.Is(Option::SingleClick)) RunSingleButton();
 }
 
 // No release will come: nothing was pressed, and what is carried is put down nowhere.
@@ -216,31 +221,32 @@ void SingleRow::LoseCarry() {
 }
 
 void SingleRow::CloseMenus() {
-  program_.Menu.MenuOpen = true;
+  with_.Menu.MenuOpen = true;
   strip_.ResetMenu();
 }
 
 // ---- running ----
 
 void SingleRow::RunSingleButton() {
-  if (program_.Entry.ItemDragging || running_ || program_.Guards.StartingUp) return;
+  if (with_.Entry.ItemDragging || running_ || with_.Guards.StartingUp) return;
   const forms::FlagScope running(running_);
-  program_.Guards.RestoreBusy = false;
+  with_.Guards.RestoreBusy = false;
   pull_.FrameDragging = false;
   pull_.FrameMoved = false;
-  const int index = program_.Menu.CurSingle;
+  const int index = with_.Menu.CurSingle;
   const bool runs = IsButton(index);
   // Events run from here on, and the row may be another one after them.
   const std::string command =
       runs ? SingleButtons[static_cast<std::size_t>(index)].Command : std::string();
   CloseMenus();
-  program_.SetHint("");
+  with_.Ports.SetHint("");
   if (!runs || !window_.IsLoaded()) return;
-  const forms::HourglassScope hourglass(program_.Windows);
+  const forms::HourglassScope hourglass(window_.Windows());
   if (command.empty()) {
-    program_.Say(window_.hWnd(), kNoCommandText, forms::msgbox::IconStop | forms::msgbox::OnTop);
+    with_.Launch.Messages.Say(window_.hWnd(), kNoCommandText,
+                              forms::msgbox::IconStop | forms::msgbox::OnTop);
   } else {
-    LaunchItem(program_, command);
+    LaunchItem(with_.Launch, command);
   }
 }
 
@@ -249,10 +255,10 @@ void SingleRow::RunSingleButton() {
 void SingleRow::BeginCarry(int index) {
   const SingleRect& single = SingleButtons[static_cast<std::size_t>(index)];
   carrying_ = true;
-  EntryEdit& entry = program_.Entry;
+  EntryEdit& entry = with_.Entry;
   entry.ItemDragging = true;
   strip_.SetPointerWatch(true);
-  program_.Menu.MenuOpen = true;
+  with_.Menu.MenuOpen = true;
   entry.CurTitle = single.Title;
   entry.CurIcon = single.Icon;
   entry.CurCommand = single.Command;
@@ -262,17 +268,17 @@ void SingleRow::BeginCarry(int index) {
   entry.CurStored.clear();
   CopyEntry(entry);
   const std::string icon = CarriedIcon(single);
-  if (program_.Ports.DragImage != nullptr) program_.Ports.DragImage->SetDragImage(icon);
+  if (with_.Ports.DragImage != nullptr) with_.Ports.DragImage->SetDragImage(icon);
 }
 
 void SingleRow::FollowCarry(forms::MouseButton down, forms::ShiftState shift) {
-  if (down == forms::MouseButton::None || !program_.Entry.ItemDragging) {
+  if (down == forms::MouseButton::None || !with_.Entry.ItemDragging) {
     // The release went to another program.
     LoseCarry();
     return;
   }
-  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
-  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  const PixelPoint pointer = with_.Pointer.PointerPosition();
+  const WindowId under = with_.Desktop.WindowAt(pointer);
   const float x = static_cast<float>(pointer.x) * strip_.Shape().Scale.TwipsX;
   const float y = static_cast<float>(pointer.y) * strip_.Shape().Scale.TwipsY;
   ShowHover(GetCurIndex());
@@ -280,7 +286,7 @@ void SingleRow::FollowCarry(forms::MouseButton down, forms::ShiftState shift) {
     strip_.CarryOverButtons(down, shift, x - window_.Left() - strip_.ButtonsBox().Left(),
                             y - window_.Top() - strip_.ButtonsBox().Top());
   } else if (strip_.IsOverMenu(under)) {
-    program_.Ports.QMenu->mMouseMove(x, y);
+    with_.Ports.QMenu->mMouseMove(x, y);
   }
 }
 
@@ -289,25 +295,25 @@ void SingleRow::EndCarry(const Press& press, forms::MouseButton released, forms:
   carrying_ = false;
   strip_.SetPointerWatch(false);
   if (press.Moved) {
-    const forms::FlagScope dropping(program_.Drag.ItemDropping);
+    const forms::FlagScope dropping = with_.Carry.Dropping();
     DropCarried(released, shift);
   }
   StopCarry();
   if (!window_.IsLoaded()) return;
   const bool clicked = !press.Moved && released == forms::MouseButton::Left;
-  if (clicked && program_.OptionFlags.Is(Option::SingleClick)) {
-    program_.Menu.CurSingle = press.Index;
+  if (clicked && with_.Options.Is(Option::SingleClick)) {
+    with_.Menu.CurSingle = press.Index;
     RunSingleButton();
   } else if (!MenuUp()) {
     CloseMenus();
   }
-  program_.Menu.CurSingle = 0;
+  with_.Menu.CurSingle = 0;
   ShowHover(0);
 }
 
 void SingleRow::DropCarried(forms::MouseButton released, forms::ShiftState shift) {
-  const PixelPoint pointer = program_.Services.Pointer.PointerPosition();
-  const WindowId under = program_.Services.Desktop.WindowAt(pointer);
+  const PixelPoint pointer = with_.Pointer.PointerPosition();
+  const WindowId under = with_.Desktop.WindowAt(pointer);
   if (under == controls_.Box.hWnd()) {
     DoItemDrag(released);
   } else if (under == strip_.ButtonsBox().hWnd()) {
@@ -316,13 +322,13 @@ void SingleRow::DropCarried(forms::MouseButton released, forms::ShiftState shift
   } else if (strip_.IsOverMenu(under)) {
     // In a menu it is Ctrl that copies.
     if (released == forms::MouseButton::Right) shift.Ctrl = true;
-    program_.Ports.QMenu->DoItemDrag(shift);
+    with_.Ports.QMenu->DoItemDrag(shift);
   }
 }
 
 void SingleRow::StopCarry() {
   carrying_ = false;
-  AbandonCarry(program_);
+  with_.Carry.AbandonCarry();
 }
 
 // ---- right clicks ----
@@ -338,14 +344,14 @@ void SingleRow::ShowSinglePopup(int index, bool ctrl) {
                         .CurMenuTag = std::string(kSinglesTag),
                         .CurFile = single.File,
                         .CurRecord = 1};
-  const bool shell = program_.OptionFlags.Is(Option::SystemPopupWithCtrl) == ctrl;
+  const bool shell = with_.Options.Is(Option::SystemPopupWithCtrl) == ctrl;
   if (!shell) {
-    if (program_.Ports.Popup != nullptr) program_.Ports.Popup->ShowToolbarPopup(entry);
-  } else if (program_.Ports.SpecialFolders != nullptr && !single.Command.empty()) {
-    SetCurrentEntry(program_.Entry, entry);
-    const forms::CountScope asking(program_.Guards.OpenQuestions);
-    program_.Ports.SpecialFolders->ShowContextMenu(
-        single.Command, {}, program_.Services.Pointer.PointerPosition(), window_.hWnd());
+    if (with_.Ports.Popup != nullptr) with_.Ports.Popup->ShowToolbarPopup(entry);
+  } else if (with_.Ports.SpecialFolders != nullptr && !single.Command.empty()) {
+    SetCurrentEntry(with_.Entry, entry);
+    const forms::CountScope asking(with_.Guards.OpenQuestions);
+    with_.Ports.SpecialFolders->ShowContextMenu(single.Command, {}, with_.Pointer.PointerPosition(),
+                                                window_.hWnd());
   }
 }
 

@@ -1,31 +1,32 @@
 #include "toolbar/strip/ButtonRow.h"
 
 #include "base/Text.h"
-#include "core/MenuFile.h"
-#include "core/MenuFolder.h"
-#include "core/Program.h"
+#include "core/IconState.h"
+#include "core/MenuState.h"
+#include "core/OptionFlags.h"
+#include "core/StripPlacement.h"
+#include "core/WindowPorts.h"
 #include "forms/Form.h"
-#include "platform/FileSystem.h"
 #include "platform/SystemInfo.h"
 
 namespace corvelle {
 
-ButtonRow::ButtonRow(Program& program, StripWindow& strip, const ButtonControls& controls)
+ButtonRow::ButtonRow(const ButtonRowParts& with, StripWindow& strip, const ButtonControls& controls)
     : ToolbarButtons(1),
-      program_(program),
+      with_(with),
       strip_(strip),
       controls_(controls),
-      icons_(program, controls.picToolbar),
+      icons_(with.Icons, with.Guards, controls.picToolbar),
       records_(1) {}
 
 void ButtonRow::MakeTemplates() {
   const StripScale scale = strip_.Shape().Scale;
-  const TemplateSize size = TemplateButton(
-      {.LargeIcons = program_.OptionFlags.Is(Option::LargeIcons),
-       .IconSize = program_.Icons.IconSize,
-       .TwipsX = scale.TwipsX,
-       .TwipsY = scale.TwipsY,
-       .CaptionHeight = program_.Services.System.CaptionHeight(strip_.AsForm().Dpi())});
+  const TemplateSize size =
+      TemplateButton({.LargeIcons = with_.Options.Is(Option::LargeIcons),
+                      .IconSize = with_.Icons.Icons.IconSize,
+                      .TwipsX = scale.TwipsX,
+                      .TwipsY = scale.TwipsY,
+                      .CaptionHeight = with_.System.CaptionHeight(strip_.AsForm().Dpi())});
   TopCut = size.TopCut;
   ButtonRect& button = ToolbarButtons[0];
   button = ButtonRect{.Width = size.Width, .Height = size.Height};
@@ -45,28 +46,10 @@ void ButtonRow::MakeTemplates() {
   grip.SetCaption("");
 }
 
-std::vector<ButtonRow::ButtonFile> ButtonRow::ReadButtonFiles() const {
-  std::vector<ButtonFile> buttons;
-  // A folder that cannot be listed gives a strip with the program's own button only.
-  const auto names = OrderedMenuFiles(program_.Services.Files, program_.Paths.MenusPath);
-  if (!names) return buttons;
-  for (const std::string& name : *names) {
-    program_.ShowStartupProgress();
-    const std::string path = program_.Paths.MenusPath + name;
-    const std::optional<MenuRecord> record =
-        ReadButtonRecord(program_.Services.Files, program_.Services.Ansi, path);
-    // A button that cannot be read is left out, and the others come all the same.
-    if (!record) continue;
-    buttons.push_back(
-        {.Entry = {path, EntryKindOf(record->FIcon, record->FName)}, .Record = *record});
-  }
-  return buttons;
-}
-
 void ButtonRow::ForgetMenus() {
-  if (program_.Ports.QMenu == nullptr) return;
+  if (with_.Ports.QMenu == nullptr) return;
   for (int button = 1; button <= ButtonCount; ++button) {
-    program_.Ports.QMenu->ForgetMenu("F" + std::to_string(button));
+    with_.Ports.QMenu->ForgetMenu("F" + std::to_string(button));
   }
 }
 
@@ -80,20 +63,21 @@ void ButtonRow::Unload() {
   records_.resize(1);
   ButtonCount = 0;
   SepCount = 0;
-  program_.Menu.CurButton = 0;
+  with_.Menu.CurButton = 0;
 }
 
 TwipSize ButtonRow::Make() {
-  ForgetCurrentEntry(program_.Entry);
+  ForgetCurrentEntry(with_.Entry);
   Unload();
-  const std::vector<ButtonFile> files = ReadButtonFiles();
+  const std::vector<StripFiles::Button> files = with_.Files.MenuButtons();
   std::vector<StripEntry> entries;
   entries.reserve(files.size());
   // The program's own menu comes first.
-  records_.push_back({program_.Title, program_.Paths.ShippedFile("corvelle.exe"), ""});
-  for (const ButtonFile& file : files) {
-    entries.push_back(file.Entry);
-    if (file.Entry.Kind == EntryKind::Button) records_.push_back(file.Record);
+  records_.push_back(with_.Files.MainMenuRecord());
+  for (const StripFiles::Button& file : files) {
+    const EntryKind kind = EntryKindOf(file.Record.FIcon, file.Record.FName);
+    entries.push_back({file.Path, kind});
+    if (kind == EntryKind::Button) records_.push_back(file.Record);
   }
   const TemplateSize size{ToolbarButtons[0].Width, ToolbarButtons[0].Height, TopCut};
   const StripContents strip = LayOutStrip(size, entries, strip_.Shape().Scale);
@@ -130,7 +114,7 @@ void ButtonRow::DrawIcons() {
 void ButtonRow::DrawButtonIcon(const std::string& iconText, const ButtonRect& button) {
   if (iconText.empty() || EqualNoCase(iconText, kNewButtonIcon)) return;
   const StripShape shape = strip_.Shape();
-  const int size = program_.Icons.IconSize;
+  const int size = with_.Icons.Icons.IconSize;
   const PixelPoint at = IconPlace({.Button = {button.Left, button.Top, button.Width, button.Height},
                                    .IconSize = size,
                                    .TwipsX = shape.Scale.TwipsX,
@@ -177,6 +161,11 @@ int ButtonRow::ItemButtonOf(std::string_view path) const {
   return 0;
 }
 
+std::string ButtonRow::MenuFileOf(int button) const {
+  const std::string& path = PathOf(button);
+  return path == kMainMenuPath ? with_.Files.MainMenuFile() : path;
+}
+
 std::string ButtonRow::HintOf(int button) const {
   if (!Has(button)) return {};
   return DoubleAmpersands(records_[static_cast<std::size_t>(button)].FTitle);
@@ -187,9 +176,7 @@ EntryEdit ButtonRow::EntryOf(int button) const {
   if (button == 1) return entry;
   entry.CurFile = PathOf(button);
   // A file that cannot be read now leaves the texts empty, and no edit will find its record.
-  const MenuRecord record =
-      ReadButtonRecord(program_.Services.Files, program_.Services.Ansi, entry.CurFile)
-          .value_or(MenuRecord{});
+  const MenuRecord record = with_.Files.RecordOf(entry.CurFile);
   entry.CurRecord = 1;
   entry.CurTitle = record.FTitle;
   entry.CurIcon = record.FIcon;
@@ -218,7 +205,7 @@ void ButtonRow::ShowPressed(int button) {
   const std::vector<ButtonLook> looks = ButtonLooks({.Buttons = ToolbarButtons,
                                                      .CurButton = button,
                                                      .Vertical = scale.Vertical,
-                                                     .Docked = program_.Strip.AppBarDocked,
+                                                     .Docked = with_.Strip.AppBarDocked,
                                                      .TwipsX = scale.TwipsX,
                                                      .TwipsY = scale.TwipsY});
   for (int i = 1; i <= ButtonCount; ++i) ShowLook(i, looks[static_cast<std::size_t>(i)]);

@@ -9,6 +9,7 @@
 #include "forms/ControlArray.h"
 #include "forms/Graphic.h"
 #include "forms/PictureBox.h"
+#include "toolbar/layout/StripFiles.h"
 #include "toolbar/layout/StripIcons.h"
 #include "toolbar/layout/StripLook.h"
 #include "toolbar/layout/StripPointer.h"
@@ -16,7 +17,12 @@
 
 namespace corvelle {
 
-class Program;
+class OptionFlags;
+class SystemInfo;
+struct GuardFlags;
+struct MenuState;
+struct StripPlacement;
+struct WindowPorts;
 
 /// The strip's controls that the row of menu buttons has to itself.
 struct ButtonControls {
@@ -28,11 +34,24 @@ struct ButtonControls {
   forms::ControlArray<forms::Line>& LinTB2;
 };
 
+/// What the row of menu buttons works with. All of it outlives it.
+struct ButtonRowParts {
+  StripFiles Files;
+  IconSources Icons;
+  const OptionFlags& Options;
+  const StripPlacement& Strip;
+  const SystemInfo& System;
+  const WindowPorts& Ports;
+  const GuardFlags& Guards;
+  MenuState& Menu;
+  EntryEdit& Entry;
+};
+
 /// The row of menu buttons: from the menu files to controls, looks and icons. Measures are twips of
 /// the box of buttons.
 class ButtonRow {
  public:
-  ButtonRow(Program& program, StripWindow& strip, const ButtonControls& controls);
+  ButtonRow(const ButtonRowParts& with, StripWindow& strip, const ButtonControls& controls);
   ButtonRow(const ButtonRow&) = delete;
   ButtonRow& operator=(const ButtonRow&) = delete;
 
@@ -62,6 +81,8 @@ class ButtonRow {
   [[nodiscard]] const std::string& PathOf(int button) const {
     return ToolbarButtons[static_cast<std::size_t>(button)].Path;
   }
+  /// The file that a button's menu is built from.
+  [[nodiscard]] std::string MenuFileOf(int button) const;
   /// The title of a button in the form that a hint takes; empty for none.
   [[nodiscard]] std::string HintOf(int button) const;
   /// The button's own record as a current entry. A file that cannot be read now leaves the texts
@@ -82,13 +103,6 @@ class ButtonRow {
   int TopCut = 4;
 
  private:
-  /// A menu file in its order, and what its first record says.
-  struct ButtonFile {
-    StripEntry Entry;
-    MenuRecord Record;
-  };
-
-  [[nodiscard]] std::vector<ButtonFile> ReadButtonFiles() const;
   /// Makes the buttons of the menu files, without their icons, and gives the size of their box.
   TwipSize Make();
   void AddButton(const ButtonRect& button);
@@ -99,7 +113,7 @@ class ButtonRow {
   void ShowLook(int button, const ButtonLook& look);
   [[nodiscard]] StripPlace PlaceOnScreen() const;
 
-  Program& program_;
+  ButtonRowParts with_;
   StripWindow& strip_;
   ButtonControls controls_;
   StripIcons icons_;

@@ -16,7 +16,15 @@
 namespace corvelle {
 
 class ButtonRow;
-class Program;
+class DesktopWindows;
+class EntryCarry;
+class Input;
+class OptionFlags;
+struct DragState;
+struct GuardFlags;
+struct MenuState;
+struct StripPlacement;
+struct WindowPorts;
 class StripPull;
 namespace forms {
 class PictureBox;
@@ -39,12 +47,25 @@ class TrackedStrip : public virtual StripWindow {
   virtual void ShowToolbar() = 0;
 };
 
+/// What the tracking of menus works with. All of it outlives it.
+struct TrackingParts {
+  const OptionFlags& Options;
+  const StripPlacement& Strip;
+  DesktopWindows& Desktop;
+  const Input& Pointer;
+  const WindowPorts& Ports;
+  GuardFlags& Guards;
+  MenuState& Menu;
+  DragState& Drag;
+  EntryCarry& Carry;
+};
+
 /// The menus of the strip's buttons: opening, following the pointer, handing it to the menu window,
 /// placing and closing. It alone decides whether the pointer is the strip's or the menu's. Floats
 /// are twips, points of the screen pixels.
 class MenuTracking {
  public:
-  MenuTracking(Program& program, TrackedStrip& strip, ButtonRow& buttons, StripPull& pull,
+  MenuTracking(const TrackingParts& with, TrackedStrip& strip, ButtonRow& buttons, StripPull& pull,
                forms::PictureBox& picToolbar, forms::Timer& timer2);
   MenuTracking(const MenuTracking&) = delete;
   MenuTracking& operator=(const MenuTracking&) = delete;
@@ -131,7 +152,7 @@ class MenuTracking {
   void TakeHintDown();
   void KeepHintTimes(WindowId under);
 
-  Program& program_;
+  TrackingParts with_;
   TrackedStrip& strip_;
   forms::Form& window_;
   ButtonRow& buttons_;

@@ -8,6 +8,7 @@
 #include "forms/DragDrop.h"
 #include "forms/Timer.h"
 #include "forms/Types.h"
+#include "launch/FileDrops.h"
 #include "platform/WindowId.h"
 #include "toolbar/layout/CarryRules.h"
 #include "toolbar/layout/StripWindow.h"
@@ -16,19 +17,45 @@ namespace corvelle {
 
 class ButtonRow;
 class MenuTracking;
-class Program;
+class DesktopWindows;
+class EntryCarry;
+class EntryCommands;
+class Input;
+class MessageBoxes;
+struct DragState;
+struct GuardFlags;
+struct MenuState;
+struct StripPlacement;
+struct WindowPorts;
 class SingleRow;
 namespace forms {
 class PictureBox;
 }
 
+/// What drops on the strip work with. All of it outlives them.
+struct StripDropParts {
+  FileDrops Files;
+  EntryCommands& Commands;
+  const StripPlacement& Strip;
+  DesktopWindows& Desktop;
+  Input& Pointer;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+  GuardFlags& Guards;
+  MenuState& Menu;
+  DragState& Drag;
+  EntryEdit& Entry;
+  EntryCarry& Carry;
+};
+
 /// What is dropped on the strip: entries carried over its buttons, and what other programs drag
 /// over its two boxes.
 class StripDrops {
  public:
-  StripDrops(Program& program, StripWindow& strip, ButtonRow& buttons, MenuTracking& menus,
-             SingleRow& singles, forms::PictureBox& picToolbar, forms::PictureBox& picSingleButton,
-             forms::Timer& timer2, forms::Timer& tmrDragDrop, forms::Timer& tmrRefused);
+  StripDrops(const StripDropParts& with, StripWindow& strip, ButtonRow& buttons,
+             MenuTracking& menus, SingleRow& singles, forms::PictureBox& picToolbar,
+             forms::PictureBox& picSingleButton, forms::Timer& timer2, forms::Timer& tmrDragDrop,
+             forms::Timer& tmrRefused);
   StripDrops(const StripDrops&) = delete;
   StripDrops& operator=(const StripDrops&) = delete;
 
@@ -82,7 +109,7 @@ class StripDrops {
   void DropAddress(const forms::DragData& data, int button);
   void OfferAddress(const forms::DragData& data, std::string_view tag, const std::string& file);
 
-  Program& program_;
+  StripDropParts with_;
   forms::Form& window_;
   ButtonRow& buttons_;
   MenuTracking& menus_;

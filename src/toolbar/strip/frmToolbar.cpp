@@ -14,6 +14,7 @@
 #include "platform/ShellIcons.h"
 #include "platform/SystemInfo.h"
 #include "toolbar/docking/ForegroundScope.h"
+#include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
 namespace {
@@ -60,13 +61,14 @@ frmToolbar::frmToolbar(Program& program)
       bLine2(*this, "bLine2"),
       bLine3(*this, "bLine3"),
       bLine1(*this, "bLine1"),
-      Buttons(program, *this, {picToolbar, lblSep, LinTB1, LinTB2}),
-      Pull(program, *this),
-      Hiding(program, *this),
-      Menus(program, *this, Buttons, Pull, picToolbar, Timer2),
-      Singles(program, *this, Pull, {picSingleButton, Line1, Line2, LineLeft, lblDate}),
-      Drops(program, *this, Buttons, Menus, Singles, picToolbar, picSingleButton, Timer2,
-            tmrDragDrop, tmrRefused),
+      Buttons(ButtonRowPartsOf(program), *this, {picToolbar, lblSep, LinTB1, LinTB2}),
+      Pull(PullPartsOf(program), *this),
+      Hiding(HidingPartsOf(program), *this),
+      Menus(TrackingPartsOf(program), *this, Buttons, Pull, picToolbar, Timer2),
+      Singles(SingleRowPartsOf(program), DatePartsOf(program), *this, Pull,
+              {picSingleButton, Line1, Line2, LineLeft, lblDate}),
+      Drops(StripDropPartsOf(program), *this, Buttons, Menus, Singles, picToolbar, picSingleButton,
+            Timer2, tmrDragDrop, tmrRefused),
       program_(program) {
   WireEvents();
 }
@@ -184,7 +186,7 @@ void frmToolbar::ReadPlacement() {
   program_.Strip.ToolbarEdge = Edge::Top;
   program_.Guards.AppBarBusy = false;
   if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RegisterAppBar();
-  program_.ReadEdgeFlags();
+  corvelle::ReadEdgeFlags(program_.OptionFlags, program_.Strip);
   program_.Strip.AutoHide = program_.OptionFlags.Is(Option::AutoHide);
   if (!program_.Strip.AppBarRequested || program_.Ports.Docking != nullptr) return;
   program_.Strip.AppBarRequested = false;
@@ -209,14 +211,14 @@ void frmToolbar::Form_Unload() {
   subclassed_ = false;
   Drops.StopDrag();
   Singles.StopWatching();
-  if (program_.Entry.ItemDragging) AbandonCarry(program_);
+  if (program_.Entry.ItemDragging) program_.Carry.AbandonCarry();
   Timer1.SetEnabled(false);
-  program_.SaveEdgeFlags();
-  program_.SaveOptionFlags();
+  corvelle::SaveEdgeFlags(program_.OptionFlags, program_.Strip);
+  program_.Options.SaveOptionFlags();
   UpdateToolbarPosition();
   if (program_.Ports.Docking != nullptr) program_.Ports.Docking->EndAppBar();
   UnloadItems();
-  program_.DoEvents();
+  program_.Events.DoEvents();
   StopTimers();
   // The pointer may have moved over the row meanwhile.
   Singles.StopWatching();
@@ -304,7 +306,7 @@ void frmToolbar::OfferDefaultEntries() {
     SetVisible(false);
     entries->IncludeCommonFiles();
     program_.OptionFlags.Set(Option::DefaultEntriesOffered, true);
-    program_.SaveOptionFlags();
+    program_.Options.SaveOptionFlags();
     SetLeft(Screen().Width);
     return;
   }
@@ -312,13 +314,13 @@ void frmToolbar::OfferDefaultEntries() {
       HoldsAny(files, program_.Paths.MenusPath, "*.BTN")) {
     return;
   }
-  const int answer =
-      program_.Say(hWnd(),
-                   "Corvelle doesn't contain any entries. Would you like to add the default "
-                   "entries to Corvelle?",
-                   forms::msgbox::YesNo | forms::msgbox::IconQuestion | forms::msgbox::OnTop);
+  const int answer = program_.Messages.Say(
+      hWnd(),
+      "Corvelle doesn't contain any entries. Would you like to add the default "
+      "entries to Corvelle?",
+      forms::msgbox::YesNo | forms::msgbox::IconQuestion | forms::msgbox::OnTop);
   if (!IsLoaded() || answer != forms::msgbox::AnswerYes) return;
-  program_.DoEvents();
+  program_.Events.DoEvents();
   if (!IsLoaded()) return;
   SetVisible(false);
   if (entries != nullptr) entries->IncludeCommonFiles();
@@ -335,11 +337,11 @@ void frmToolbar::InitNewButtons() {
   }
   news_.Rebuild = false;
   const forms::HourglassScope hourglass(program_.Windows);
-  program_.DoEvents();
+  program_.Events.DoEvents();
   if (!IsLoaded()) return;
-  const ForegroundScope foreground(program_, *this);
-  program_.SaveEdgeFlags();
-  program_.SaveOptionFlags();
+  const ForegroundScope foreground(*this, program_.Services.Desktop, program_.Ports);
+  corvelle::SaveEdgeFlags(program_.OptionFlags, program_.Strip);
+  program_.Options.SaveOptionFlags();
   UpdateToolbarPosition();
   ForgetCurrentEntry(program_.Entry);
   if (program_.Strip.AppBarDocked && program_.Ports.Docking != nullptr) {
@@ -384,7 +386,7 @@ void frmToolbar::RestoreToolbar() {
   news_.Restore = false;
   program_.Guards.RestoreBusy = true;
   if (program_.Strip.AppBarDocked) {
-    program_.SaveEdgeFlags();
+    corvelle::SaveEdgeFlags(program_.OptionFlags, program_.Strip);
     if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RemoveAppBar();
   }
   program_.Strip.AppBarRequested = false;

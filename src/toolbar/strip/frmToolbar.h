@@ -296,7 +296,8 @@ class frmToolbar final : public forms::Form,
   [[nodiscard]] bool IsNewTaskBar(std::uint32_t message) const;
   /// Deals with the news that came while the strip could not.
   void CatchUp();
-  /// The place in the Z order that goes with a full-screen program, or with none.
+  /// The place in the Z order that goes with a full-screen program, or with none. A menu that is up
+  /// goes with its still picture when the program goes. Events may run.
   void TakeLevel();
   void FollowColours();
   void FollowDisplay();

@@ -38,12 +38,12 @@ void frmToolbar::AddNewButton() {
   const auto path =
       CreateButtonFile(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
   if (!path) {
-    program_.Say(hWnd(),
-                 NumberedFileError(program_.Services.Files, program_.Paths.MenusPath, path.Error()),
-                 forms::msgbox::IconInformation | forms::msgbox::OnTop);
+    program_.Messages.Say(
+        hWnd(), NumberedFileError(program_.Services.Files, program_.Paths.MenusPath, path.Error()),
+        forms::msgbox::IconInformation | forms::msgbox::OnTop);
     return;
   }
-  program_.TellMenusEdited();
+  program_.Ports.TellMenusEdited();
   program_.Guards.ToolbarReady = false;
   const bool floats = Shape().Where == Placement::TopHugging;
   // The button's width goes to the left, where the screen has room for it.

@@ -18,7 +18,7 @@ void frmToolbar::lblSep_MouseDown(int index, forms::MouseButton button, float x,
 
 void frmToolbar::lblSep_MouseMove(int index, forms::MouseButton down, float x, float y) {
   if (down == forms::MouseButton::None) {
-    program_.SetHint("");
+    program_.Ports.SetHint("");
     if (MenuUp()) Pull.FrameDragging = true;
     return;
   }

@@ -95,6 +95,7 @@ void frmToolbar::CatchUp() {
   }
   if (!IsLoaded()) return;
   if (std::exchange(news_.Level, false) && !program_.Strip.NotOnTop) TakeLevel();
+  if (!IsLoaded()) return;
   if (std::exchange(news_.NewTaskBar, false)) {
     // It knows nothing of the bars of the one before.
     news_.Bars = true;
@@ -172,12 +173,15 @@ void frmToolbar::TakeLevel() {
     SetWindowPos(forms::InsertAfter::Bottom, forms::swp::KeepActivation);
   } else {
     SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Show);
-    if (program_.Ports.QMenu != nullptr) {
-      program_.Ports.QMenu->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
-    }
+    QMenuPort* const menu = program_.Ports.QMenu;
+    const bool menuGoes = menu != nullptr && menu->MenuVisible();
+    if (menu != nullptr) menu->SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide);
     if (program_.Ports.Hint != nullptr && !program_.OptionFlags.Is(Option::NoHints)) {
       program_.Ports.Hint->SetHintLevel(forms::InsertAfter::Topmost, forms::swp::Hide);
     }
+    // While it is asked where an address goes, the menu's poll does not release its picture.
+    CapturePort* const capture = program_.Ports.Capture;
+    if (menuGoes && capture != nullptr && capture->MenuCaptured()) capture->ReleaseMenu();
   }
 }
 
