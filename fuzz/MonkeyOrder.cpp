@@ -319,7 +319,9 @@ std::string MonkeyLife::WrongQuiet() const {
   if (hint != kNoWindow && world_->Desktop.IsShown(hint)) return "a hint stays";
   const int running = world_->Desktop.Clock().Running();
   const int expected = program.Strip.AutoHide && !program.Strip.ToolbarMinimized ? 1 : 0;
-  if (running > expected && !windows) return std::to_string(running) + " timers run for nothing";
+  // A place that did not answer is asked again for the icons of the strip when it has rested.
+  const int mayRun = expected + (slowPlaces_ ? 1 : 0);
+  if (running > mayRun && !windows) return std::to_string(running) + " timers run for nothing";
   if (expected == 1 && running == 0) return "nobody watches for a strip that hides";
   return {};
 }

@@ -13,9 +13,9 @@
 namespace corvelle::fuzz {
 namespace {
 
-// Milliseconds between two turns of the message loop: a menu may wait once for its folders and once
-// for its icons, 80 ms each.
-constexpr int kLongestTurn = 165;
+// Milliseconds between two turns of the message loop: all that is asked in one turn may be waited
+// for 60 ms together.
+constexpr int kLongestTurn = 100;
 constexpr int kNeverAnswers = 5000;    // what a call costs whoever waits for it
 constexpr int kLongestRest = 310'000;  // milliseconds, after which every place is asked again
 constexpr int kSettled = 2000;         // milliseconds, in which all that answers has done so
@@ -31,13 +31,13 @@ bool IsIconCall(std::string_view call) {
 
 /// What the windows still ask themselves, each with its reason.
 bool IsStillAsked(std::string_view call) {
-  constexpr std::array<std::string_view, 10> kStillAsked = {
+  constexpr std::array<std::string_view, 6> kStillAsked = {
       // Menus of the shell, which the user has asked for, belong to a window of this process.
       "FileMenu", "FolderMenu", "EntryMenu",
-      // Icons of the strip's own buttons, when its row is built.
-      "FileInfo", "DrawFileIcon", "IconCount",
-      // Icons and paths of the shell's own folders, which it keeps in memory.
-      "Folder", "ListFolder", "PathOf", "SpecialFolderLocation"};
+      // Of files that the user adds to the library.
+      "IconCount",
+      // Paths of the shell's own folders, which it keeps in memory.
+      "PathOf", "SpecialFolderLocation"};
   return std::find(kStillAsked.begin(), kStillAsked.end(), call) != kStillAsked.end();
 }
 

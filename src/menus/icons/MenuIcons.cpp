@@ -292,6 +292,8 @@ void MenuIcons::PutAside() {
   from_.Answers.Drop(shown_);
 }
 
+void MenuIcons::Stop() { from_.Answers.Drop(shown_); }
+
 // ---- beforehand ----
 
 void MenuIcons::Fetch(std::string_view iconText) {

@@ -64,6 +64,8 @@ class MenuIcons {
   std::function<void()> Arrived;
   /// Nobody looks at what Find asked for any more: it is still asked for, after what is looked at.
   void PutAside();
+  /// Nothing is told any more of what Find asked for: the menus are unloaded.
+  void Stop();
 
   /// Asks for an icon when nothing more urgent is asked.
   void Fetch(std::string_view iconText);

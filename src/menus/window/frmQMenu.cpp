@@ -155,6 +155,7 @@ void frmQMenu::Form_Unload() {
   KeysTimer.SetEnabled(false);
   UpdateTimer.SetEnabled(false);
   prefetch_.Stop();
+  icons_.Stop();
   updateSince_.reset();
   held_.Forget();
   MenuReady = false;
