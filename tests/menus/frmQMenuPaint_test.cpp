@@ -37,7 +37,7 @@ class Painted : public ::testing::Test {
     return desk_.PixelInside(cell.x + 8, cell.y + 8);
   }
   Rgb Face() { return desk_.SystemColour(forms::color::ButtonFace); }
-  /// What icons of their own, beside the menu's, are made of.
+
   MenuDesk desk_;
 };
 
