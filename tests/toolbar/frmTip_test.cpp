@@ -67,6 +67,8 @@ TEST_F(Tip, StandsInTheMiddleOnTopWithItsTexts) {
   EXPECT_EQ(tip.Check1.Caption(), "&Don't show this message again");
   EXPECT_EQ(tip.cmdOK.Caption(), "OK");
   EXPECT_TRUE(Focused("cmdOK"));
+  EXPECT_EQ(tip.Picture1.Left(), tip.lblTitle.Top());
+  EXPECT_EQ(tip.Picture1.Top(), tip.lblTitle.Top());
   // Nothing reaches over another or over the window's side.
   EXPECT_LE(tip.lblTip.back()->Bottom(), tip.Check1.Top());
   EXPECT_EQ(tip.lblTip.back()->Caption(), "A second paragraph.");

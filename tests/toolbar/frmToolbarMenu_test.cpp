@@ -413,6 +413,8 @@ TEST(ToolbarRefresh, ATagWithoutAButtonOpensNothing) {
   for (const char* tag : {"Toolbar", "F0", "F99", "Fx", "F-1", "SingleButtons"}) {
     SCOPED_TRACE(tag);
     ThreeMenus desk;
+    MainMenuDouble own;
+    desk.TheProgram.Ports.MainMenu = &own;
     desk.Strip.RefreshMenu(tag);
     desk.Strip.OpenMenu(tag);
     EXPECT_EQ(desk.MenuUp(), 0);
@@ -455,6 +457,10 @@ TEST(ToolbarMainMenu, HasAFileOfItsOwn) {
   EXPECT_EQ(desk.Menu.CurrentKey(), "Q1");
   EXPECT_EQ(desk.Menu.LastFile, "C:\\Corvelle\\mainmenu.dat");
   EXPECT_EQ(desk.MenuUp(), 1);
+  EXPECT_FALSE(desk.AtRest(1));
+  desk.PointAtButton(2);
+  EXPECT_EQ(desk.MenuUp(), 2);
+  EXPECT_TRUE(desk.AtRest(1));
 }
 
 TEST(ToolbarKeys, LeftAndRightGoRoundTheStripWithThePointer) {
@@ -487,6 +493,17 @@ TEST(ToolbarKeys, F10StartsAtTheFirstButtonAndEnterOpensAMenu) {
   desk.World.Desktop.PressKey(forms::key::Right);
   desk.World.Desktop.PressKey(forms::key::Enter);
   EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(ToolbarKeys, F10StartsAtTheMainButtonWhereItIsAlone) {
+  StripDesk desk;
+  desk.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerNo);
+  desk.Start();
+  ASSERT_EQ(desk.Strip.Buttons.ButtonCount, 1);
+  desk.PointAway();
+  desk.World.Desktop.TakeForeground(desk.Strip.hWnd());
+  desk.World.Desktop.PressKey(forms::key::F10);
+  EXPECT_EQ(desk.TheProgram.Menu.CurButton, 1);
 }
 
 TEST(ToolbarKeys, F10StartsAnewAfterThePointerLeftTheStrip) {
