@@ -9,7 +9,7 @@
 #include "core/Program.h"
 #include "forms/Graphic.h"
 #include "icons/Glyphs.h"
-#include "icons/IconResolution.h"
+#include "icons/IconForm.h"
 
 namespace corvelle {
 
@@ -18,6 +18,7 @@ namespace {
 constexpr int kImageSize = 16;   // pixels
 constexpr int kPictureWait = 1;  // milliseconds
 constexpr int kPicturesAtOnce = 8;
+constexpr int kAtOnce = 40;  // milliseconds for which one icon may hold up the others
 /// Pictures that are drawn here, by their icon texts in small letters.
 constexpr std::pair<std::string_view, std::string_view> kOwnPictures[] = {
     {"menulineseparator", "sep"},
@@ -33,6 +34,7 @@ CustTreeControl::CustTreeControl(Program& program, CustTree& tree, forms::TreeVi
       tree_(tree),
       control_(control),
       targets_(program.Slow, program.Windows),
+      icons_(program.IconSources, IconCaller::Tree),
       tmrPictures_(program.Windows) {
   targets_.Changed = [this](CustRef node) {
     if (tree_.IsInTree(node)) NodeChanged(node);
@@ -57,7 +59,15 @@ CustRef CustTreeControl::RefOf(forms::NodeId id) const {
 void CustTreeControl::Clear() {
   tmrPictures_.SetEnabled(false);
   targets_.Clear();
+  icons_.Drop();
   TreeCleared();
+}
+
+void CustTreeControl::ForgetImages() {
+  control_.ClearImages();
+  images_.clear();
+  marked_.clear();
+  pictures_.clear();
 }
 
 void CustTreeControl::TreeCleared() {
@@ -179,24 +189,32 @@ bool CustTreeControl::IsMissing(CustRef node) const {
   return !tree_.IsRoot(node) && targets_.IsMissing(tree_.At(node).Entry.FileExe);
 }
 
-int CustTreeControl::Draw(const std::string& icon) {
+int CustTreeControl::ImageOf(const IconLook& look) {
+  if (!look.Glyph.empty()) return Glyph(look.Glyph);
   std::shared_ptr<Canvas> canvas = program_.Windows.CreateCanvas({kImageSize, kImageSize});
   canvas->FillBox({0, 0, kImageSize, kImageSize}, forms::Image::kMask);
-  if (!ResolveAndDraw(program_, *canvas, icon, {0, 0}, kImageSize, IconCaller::Tree)) {
-    return Glyph("qmark");
-  }
+  if (!icons_.Draw(*canvas, look, kImageSize)) return Glyph("qmark");
   return AddImage(std::move(canvas));
 }
 
 void CustTreeControl::LookUp(CustRef node) {
   if (!tree_.IsInTree(node)) return;
-  const NodePicture picture = tree_.At(node).Picture;
-  if (ImageOf(picture) < 0) {
-    // Asking the shell lets events in, which may close the window.
-    const int image = Draw(picture.Icon);
-    images_["icon:" + LowerCase(picture.Icon)] = image;
+  const std::string icon = tree_.At(node).Picture.Icon;
+  if (ImageOf(tree_.At(node).Picture) < 0) {
+    const IconLook look = icons_.Ask(icon, kImageSize, kAtOnce,
+                                     [this, icon](const IconLook& late) { TakeLate(icon, late); });
+    images_["icon:" + LowerCase(icon)] = ImageOf(look);
   }
-  if (tree_.IsInTree(node)) NodeChanged(node);
+  NodeChanged(node);
+}
+
+void CustTreeControl::TakeLate(const std::string& icon, const IconLook& look) {
+  images_["icon:" + LowerCase(icon)] = ImageOf(look);
+  for (const auto& [node, id] : ids_) {
+    const NodePicture& picture = tree_.At(node).Picture;
+    if (picture.Shown == NodePicture::Kind::Icon && EqualNoCase(picture.Icon, icon))
+      NodeChanged(node);
+  }
 }
 
 void CustTreeControl::ShowNext() {
@@ -206,10 +224,6 @@ void CustTreeControl::ShowNext() {
     LookUp(node);
   }
   if (waiting_.empty()) tmrPictures_.SetEnabled(false);
-}
-
-void CustTreeControl::FinishPictures() {
-  while (!waiting_.empty()) ShowNext();
 }
 
 }  // namespace corvelle

@@ -9,14 +9,15 @@
 #include "customize/MissingTargets.h"
 #include "forms/Timer.h"
 #include "forms/TreeView.h"
+#include "icons/AskedIcons.h"
 
 namespace corvelle {
 
 class Program;
 
-/// Shows a tree of menus in a tree view, with the pictures of its entries. Pictures of icons that
-/// were not shown before come one after the other, by a timer, so that the window answers
-/// meanwhile.
+/// Shows a tree of menus in a tree view, with the pictures of its entries. Icons that were not
+/// shown before are asked for one after the other, by a timer; in the place of one that takes its
+/// time is a picture of its kind.
 class CustTreeControl final : public CustTreeView {
  public:
   CustTreeControl(Program& program, CustTree& tree, forms::TreeView& control);
@@ -26,9 +27,6 @@ class CustTreeControl final : public CustTreeView {
   [[nodiscard]] forms::NodeId IdOf(CustRef node) const;
   [[nodiscard]] CustRef RefOf(forms::NodeId id) const;
 
-  /// All pictures that wait are looked up now.
-  void FinishPictures();
-  [[nodiscard]] bool PicturesWait() const noexcept { return !waiting_.empty(); }
   /// True for an entry whose target is known to be missing: it bears a mark.
   [[nodiscard]] bool IsMissing(CustRef node) const;
   /// The number of a node's image as it is without that mark.
@@ -36,6 +34,9 @@ class CustTreeControl final : public CustTreeView {
   [[nodiscard]] MissingTargets& Targets() noexcept { return targets_; }
   /// The window is closed.
   void Clear();
+  /// While the window is not loaded: its icons are asked for again, as they may have changed, or a
+  /// picture of a kind may be in the place of one.
+  void ForgetImages();
 
   void TreeCleared() override;
   void NodeAdded(CustRef node) override;
@@ -55,9 +56,11 @@ class CustTreeControl final : public CustTreeView {
   [[nodiscard]] int Marked(int image);
   [[nodiscard]] int Glyph(const std::string& key);
   int AddImage(Picture picture);
-  [[nodiscard]] int Draw(const std::string& icon);
+  [[nodiscard]] int ImageOf(const IconLook& look);
   void ShowNext();
   void LookUp(CustRef node);
+  /// Another picture for all nodes of an icon text.
+  void TakeLate(const std::string& icon, const IconLook& look);
 
   Program& program_;
   CustTree& tree_;
@@ -68,7 +71,8 @@ class CustTreeControl final : public CustTreeView {
   std::unordered_map<int, int> marked_;          // images with the mark, by those without
   std::vector<Picture> pictures_;                // of all images
   MissingTargets targets_;
-  std::deque<CustRef> waiting_;  // nodes whose picture is not drawn yet
+  std::deque<CustRef> waiting_;  // nodes whose icon is not asked for yet
+  AskedIcons icons_;
   forms::Timer tmrPictures_;
 };
 

@@ -161,6 +161,7 @@ void frmCust::LoadWindow() {
     return;
   }
   if (!InitMenuTree()) return;
+  tree_.ForgetImages();
   Load();
 }
 

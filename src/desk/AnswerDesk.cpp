@@ -10,14 +10,17 @@ namespace corvelle::desk {
 
 namespace {
 
-bool IsEndOf(const std::variant<TellStage, TellEnd>& told, Ticket ticket) {
+using Told = std::variant<TellStage, TellEnd, TellBack>;
+
+bool IsEndOf(const Told& told, Ticket ticket) {
   const auto* const end = std::get_if<TellEnd>(&told);
   return end != nullptr && end->Told.Number == ticket;
 }
 
-Ticket TicketOf(const std::variant<TellStage, TellEnd>& told) {
-  const auto* const end = std::get_if<TellEnd>(&told);
-  return end != nullptr ? end->Told.Number : std::get<TellStage>(told).Number;
+Ticket TicketOf(const Told& told) {
+  if (const auto* const end = std::get_if<TellEnd>(&told)) return end->Told.Number;
+  if (const auto* const back = std::get_if<TellBack>(&told)) return back->Number;
+  return std::get<TellStage>(told).Number;
 }
 
 }  // namespace
@@ -36,7 +39,8 @@ AnswerDesk::AnswerDesk(SlowQuestions& questions, const SystemInfo& system,
 Ticket AnswerDesk::Ask(Request request, Asker asker) {
   NoteLocalPlaces();
   const Ticket ticket = ++lastTicket_;
-  askers_.emplace(ticket, std::move(asker));
+  request.TellWhenBack = static_cast<bool>(asker.Back);
+  askers_.emplace(ticket, Open{std::move(asker), request.Owner});
   if (held_) {
     heldBack_.push_back({ticket, std::move(request)});
     return ticket;
@@ -57,8 +61,11 @@ std::optional<Reply> AnswerDesk::AskAtOnce(Request request, Asker later, int mil
                                     [ticket](const Told& told) { return IsEndOf(told, ticket); });
     if (found != told_.end()) {
       Reply reply = std::move(std::get<TellEnd>(*found).Told);
+      Watch(ticket, askers_.at(ticket), reply.How);
       askers_.erase(ticket);
-      std::erase_if(told_, [ticket](const Told& told) { return TicketOf(told) == ticket; });
+      std::erase_if(told_, [ticket](const Told& told) {
+        return TicketOf(told) == ticket && !std::holds_alternative<TellBack>(told);
+      });
       noteWait();
       return reply;
     }
@@ -88,12 +95,21 @@ void AnswerDesk::Drop(std::uint64_t owner) {
   std::erase_if(heldBack_, [&](const Asked& asked) {
     return asked.What.Owner == owner && askers_.erase(asked.Number) > 0;
   });
+  std::erase_if(watchers_, [owner](const auto& each) { return each.second.Owner == owner; });
   Take(OwnerLeft{owner});
 }
 
 void AnswerDesk::SetUrgency(Ticket ticket, Urgency how) { Take(UrgencyChanged{ticket, how}); }
 
-void AnswerDesk::TryAgain(const Lookup& question) { Take(corvelle::desk::TryAgain{question}); }
+void AnswerDesk::TryAgain(const Lookup& question) {
+  Take(corvelle::desk::TryAgain{question});
+  PostTelling();
+}
+
+void AnswerDesk::TryAllAgain() {
+  Take(corvelle::desk::TryAllAgain{});
+  PostTelling();
+}
 
 void AnswerDesk::Take(const Event& event) {
   Outcome outcome = Step(std::move(state_), event, windows_.Now());
@@ -111,6 +127,8 @@ void AnswerDesk::Carry(const std::vector<Command>& commands) {
         questions_.Cancel(found->second);
     } else if (const auto* const stage = std::get_if<TellStage>(&command)) {
       told_.emplace_back(*stage);
+    } else if (const auto* const back = std::get_if<TellBack>(&command)) {
+      told_.emplace_back(*back);
     } else if (const auto* const end = std::get_if<TellEnd>(&command)) {
       if (end->Told.How != End::Dropped) {
         told_.emplace_back(*end);
@@ -169,17 +187,29 @@ void AnswerDesk::TellWaiting() {
   if (!watch.Gone()) telling_ = false;
 }
 
+void AnswerDesk::Watch(Ticket ticket, Open& asker, End how) {
+  if (how == End::NotAvailable && asker.Who.Back)
+    watchers_.emplace(ticket, Watcher{std::move(asker.Who.Back), asker.Owner});
+}
+
 void AnswerDesk::TellOne(const Told& told) {
+  if (const auto* const back = std::get_if<TellBack>(&told)) {
+    auto watcher = watchers_.extract(back->Number);
+    if (!watcher.empty()) watcher.mapped().Back();
+    return;
+  }
   const auto found = askers_.find(TicketOf(told));
   if (found == askers_.end()) return;
   if (const auto* const stage = std::get_if<TellStage>(&told)) {
-    const auto takesLonger = found->second.TakesLonger;
+    const auto takesLonger = found->second.Who.TakesLonger;
     if (takesLonger) takesLonger(stage->What);
     return;
   }
-  const auto ended = std::move(found->second.Ended);
+  const Reply& reply = std::get<TellEnd>(told).Told;
+  Watch(reply.Number, found->second, reply.How);
+  const auto ended = std::move(found->second.Who.Ended);
   askers_.erase(found);
-  if (ended) ended(std::get<TellEnd>(told).Told);
+  if (ended) ended(reply);
 }
 
 void AnswerDesk::SetTimer() {

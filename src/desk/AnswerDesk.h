@@ -24,6 +24,9 @@ struct Asker {
   std::function<void(const Reply&)> Ended;
   /// It takes longer: first NotAtOnce after 100 ms, then BeingRead after 150 ms.
   std::function<void(Stage)> TakesLonger;
+  /// After an end of NotAvailable, once: it may be asked again, as the place has answered or has
+  /// rested, or the user wants it to be tried.
+  std::function<void()> Back = {};
 };
 
 /// Where windows ask what may be slow: folders, names, icons, links, drives. The desk keeps
@@ -89,9 +92,19 @@ class AnswerDesk {
   void SetUrgency(Ticket ticket, Urgency how);
   /// The place that the question depends on is asked again at once, though it rests.
   void TryAgain(const Lookup& question);
+  /// The same for all places: the user wants all to be looked at again.
+  void TryAllAgain();
 
  private:
-  using Told = std::variant<TellStage, TellEnd>;
+  using Told = std::variant<TellStage, TellEnd, TellBack>;
+  struct Open {
+    Asker Who;
+    std::uint64_t Owner = 0;
+  };
+  struct Watcher {
+    std::function<void()> Back;
+    std::uint64_t Owner = 0;
+  };
 
   void Take(const Event& event);
   void Carry(const std::vector<Command>& commands);
@@ -100,6 +113,8 @@ class AnswerDesk {
   void PostTelling();
   void TellWaiting();
   void TellOne(const Told& told);
+  /// Keeps what is to be called when it may be asked again.
+  void Watch(Ticket ticket, Open& asker, End how);
   void SetTimer();
   void NoteLocalPlaces();
 
@@ -109,7 +124,8 @@ class AnswerDesk {
   forms::Timer timer_;
   std::optional<std::int64_t> timerAt_;
   State state_;
-  std::map<Ticket, Asker> askers_;
+  std::map<Ticket, Open> askers_;
+  std::map<Ticket, Watcher> watchers_;
   std::map<Operation, LookupId> asked_;
   std::deque<Told> told_;
   forms::Alive alive_;

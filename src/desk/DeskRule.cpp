@@ -11,6 +11,37 @@ namespace {
 /// How old the knowledge of where a link leads may be. Milliseconds.
 constexpr std::int64_t kTargetAge = 60'000;
 
+bool IsRemote(const State& state, const std::string& lane) {
+  const std::string place = PlaceOfLane(lane);
+  return place != PlaceOfPath({}) && !state.LocalPlaces.contains(place);
+}
+
+int GivenUp(const State& state) {
+  int count = 0;
+  for (const auto& [name, lane] : state.Lanes) count += lane.GivenUp;
+  return count;
+}
+
+/// True while so many calls hang that questions of a lane are not passed on.
+bool IsFull(const State& state, const std::string& name) {
+  const auto lane = state.Lanes.find(name);
+  if (lane != state.Lanes.end() && lane->second.GivenUp >= state.Numbers.MostOwnGivenUp)
+    return true;
+  return IsRemote(state, name) && GivenUp(state) >= state.Numbers.MostGivenUp;
+}
+
+std::int64_t RestEnd(const State& state, const std::string& name) {
+  const auto lane = state.Lanes.find(name);
+  return lane != state.Lanes.end() ? lane->second.RestsUntil : 0;
+}
+
+/// When a question of that key may be asked again; for a lane that is not full.
+std::int64_t RestEnd(const State& state, const std::string& lane, const std::string& key) {
+  const auto resting = state.RestingKeys.find(key);
+  const std::int64_t own = resting != state.RestingKeys.end() ? resting->second.Until : 0;
+  return std::max({own, RestEnd(state, lane), RestEnd(state, PlaceOfLane(lane))});
+}
+
 /// One step of the rule.
 class Turn {
  public:
@@ -22,6 +53,7 @@ class Turn {
     TellStages();
     CheckDeadlines();
     BeginWhatCan();
+    TellWhatIsBack();
   }
 
   std::vector<Command> Commands;
@@ -37,11 +69,13 @@ class Turn {
     }
     if (KeyRests(key)) {
       Commands.push_back(TellEnd{{asked.Number, End::NotAvailable, {}, {}}});
+      if (what.TellWhenBack)
+        state_.Watchers[state_.RestingKeys.at(key).Lane][asked.Number] = {what.Owner, key};
       return;
     }
     const std::uint64_t job = JobFor(key, what.Question, what.How);
     state_.Jobs.at(job).Waiters.insert(asked.Number);
-    state_.Waiters[asked.Number] = {what.How, what.Owner, job, now_, 0};
+    state_.Waiters[asked.Number] = {what.How, what.Owner, job, now_, 0, what.TellWhenBack};
     state_.StagesDue.emplace(now_ + state_.Numbers.Quick, asked.Number);
     SetUrgency(job);
     const std::uint64_t leader = state_.Jobs.at(job).Leader;
@@ -95,6 +129,9 @@ class Turn {
       state_.Jobs.at(job).Waiters.erase(ticket);
       LeaveIfIdle(job);
     }
+    for (auto& [lane, watchers] : state_.Watchers)
+      std::erase_if(watchers, [&](const auto& each) { return each.second.Owner == left.Owner; });
+    std::erase_if(state_.Watchers, [](const auto& each) { return each.second.empty(); });
   }
 
   void On(const UrgencyChanged& changed) {
@@ -113,6 +150,11 @@ class Turn {
     }
     std::erase_if(state_.RestingKeys,
                   [&place](const auto& each) { return PlaceOfLane(each.second.Lane) == place; });
+  }
+
+  void On(const TryAllAgain& /*again*/) {
+    for (auto& [name, lane] : state_.Lanes) lane.RestsUntil = 0;
+    state_.RestingKeys.clear();
   }
 
   void On(const TimePassed& /*passed*/) {}
@@ -181,22 +223,13 @@ class Turn {
   }
 
   [[nodiscard]] bool IsRemote(const std::string& lane) const {
-    const std::string place = PlaceOfLane(lane);
-    return place != PlaceOfPath({}) && !state_.LocalPlaces.contains(place);
-  }
-
-  [[nodiscard]] int GivenUp() const {
-    int count = 0;
-    for (const auto& [name, lane] : state_.Lanes) count += lane.GivenUp;
-    return count;
+    return desk::IsRemote(state_, lane);
   }
 
   /// True when a question that is not under way is not passed on to the system.
   [[nodiscard]] bool IsRefused(const State::Job& job) const {
     if (job.Lane.empty() || job.Under) return false;
-    if (IsResting(state_, job.Lane, now_)) return true;
-    if (state_.Lanes.at(job.Lane).GivenUp >= state_.Numbers.MostOwnGivenUp) return true;
-    return IsRemote(job.Lane) && GivenUp() >= state_.Numbers.MostGivenUp;
+    return IsResting(state_, job.Lane, now_) || IsFull(state_, job.Lane);
   }
 
   void TellOne(Ticket ticket, End how, const LookupAnswer& answer) {
@@ -213,13 +246,20 @@ class Turn {
     return asked + (told == 0 ? state_.Numbers.Quick : state_.Numbers.Reading);
   }
 
-  void EndJob(std::uint64_t number, End how, const LookupAnswer& answer) {
+  /// `lane`: which of them is not available; empty for the job's own.
+  void EndJob(std::uint64_t number, End how, const LookupAnswer& answer, std::string lane = {}) {
     State::Job job = std::move(state_.Jobs.at(number));
     Erase(number, job);
-    for (const Ticket ticket : job.Waiters) TellOne(ticket, how, answer);
+    if (lane.empty()) lane = job.Lane;
+    for (const Ticket ticket : job.Waiters) {
+      const State::Waiter& waiter = state_.Waiters.at(ticket);
+      if (how == End::NotAvailable && waiter.TellWhenBack)
+        state_.Watchers[lane][ticket] = {waiter.Owner, job.Key};
+      TellOne(ticket, how, answer);
+    }
     for (const std::uint64_t follower : job.Following) {
       if (how == End::NotAvailable) {
-        EndJob(follower, how, {});
+        EndJob(follower, how, {}, lane);
         continue;
       }
       // A link that cannot be read leads nowhere; its icon is a matter of its own place.
@@ -322,6 +362,21 @@ class Turn {
     }
   }
 
+  void TellWhatIsBack() {
+    for (auto& [lane, watchers] : state_.Watchers) {
+      if (IsResting(state_, lane, now_) || IsFull(state_, lane)) continue;
+      for (auto at = watchers.begin(); at != watchers.end();) {
+        if (KeyRests(at->second.Key)) {
+          ++at;
+          continue;
+        }
+        Commands.push_back(TellBack{at->first});
+        at = watchers.erase(at);
+      }
+    }
+    std::erase_if(state_.Watchers, [](const auto& each) { return each.second.empty(); });
+  }
+
   void BeginWhatCan() {
     int remote = 0;
     for (const auto& [name, lane] : state_.Lanes) {
@@ -380,6 +435,15 @@ std::optional<std::int64_t> NextMoment(const State& state) {
   for (const auto& [number, under] : state.Operations) {
     if (under.Job == 0) continue;
     consider(under.Since + (under.Cancelled ? state.Numbers.GiveUp : state.Numbers.Cancel));
+  }
+  for (const auto& [lane, watchers] : state.Watchers) {
+    // A call that comes back is an event of its own.
+    if (IsFull(state, lane)) continue;
+    for (const auto& [ticket, watcher] : watchers) {
+      consider(RestEnd(state, lane, watcher.Key));
+      // Without files that rest by themselves it is the same for all.
+      if (state.RestingKeys.empty()) break;
+    }
   }
   return next;
 }

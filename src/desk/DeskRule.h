@@ -33,6 +33,8 @@ struct Request {
   std::uint64_t Owner = 0;  // see OwnerLeft
   /// An answer that was kept serves at once when it is at most so old. Milliseconds; 0: never.
   std::int64_t MaxAge = 0;
+  /// After an end of NotAvailable: TellBack, once, when it may be asked again.
+  bool TellWhenBack = false;
 };
 
 enum class End {
@@ -80,9 +82,12 @@ struct UrgencyChanged {
 struct TryAgain {
   Lookup Question;
 };
+/// The same for all places.
+struct TryAllAgain {};
 struct TimePassed {};
 
-using Event = std::variant<Asked, Returned, OwnerLeft, UrgencyChanged, TryAgain, TimePassed>;
+using Event =
+    std::variant<Asked, Returned, OwnerLeft, UrgencyChanged, TryAgain, TryAllAgain, TimePassed>;
 
 // What is to be done, in this order.
 
@@ -100,8 +105,13 @@ struct TellStage {
 struct TellEnd {
   Reply Told;
 };
+/// What was not available may be asked again: its place has answered or has rested, or the user
+/// wants it to be tried.
+struct TellBack {
+  Ticket Number = 0;
+};
 
-using Command = std::variant<BeginOperation, CancelOperation, TellStage, TellEnd>;
+using Command = std::variant<BeginOperation, CancelOperation, TellStage, TellEnd, TellBack>;
 
 /// Milliseconds, and counts.
 struct Figures {
@@ -124,6 +134,12 @@ struct State {
     std::uint64_t Job = 0;
     std::int64_t AskedAt = 0;
     int StagesTold = 0;
+    bool TellWhenBack = false;
+  };
+  /// Who was told NotAvailable, and wants to know when it may be asked again.
+  struct Watcher {
+    std::uint64_t Owner = 0;
+    std::string Key;
   };
   /// One question to the system, for all who want to know the same.
   struct Job {
@@ -170,6 +186,7 @@ struct State {
   std::map<std::string, std::uint64_t> JobOfKey;
   std::map<std::string, Lane> Lanes;
   std::map<std::string, Resting> RestingKeys;
+  std::map<std::string, std::map<Ticket, Watcher>> Watchers;  // by lane
   std::map<Operation, Under> Operations;
   std::set<std::pair<std::int64_t, Ticket>> StagesDue;
   std::uint64_t LastJob = 0;

@@ -46,6 +46,7 @@ std::string LaneOfLookup(const Lookup& question) {
     case LookupKind::FileNames:
     case LookupKind::FileIcon:
     case LookupKind::IconInFile:
+    case LookupKind::IconCount:
       break;
   }
   return IconLaneOf(question.Path);
@@ -95,6 +96,7 @@ std::string KeyOfLookup(const Lookup& question) {
     case LookupKind::DriveAtHand:
     case LookupKind::LinkTarget:
     case LookupKind::FileName:
+    case LookupKind::IconCount:
       break;
   }
   return key;

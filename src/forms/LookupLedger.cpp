@@ -115,6 +115,8 @@ LookupAnswer AnswerLookup(const LookupServices& services, const Lookup& question
       return AnswerOf(services.Icons.PixelsOfFile(path, question.List));
     case LookupKind::IconInFile:
       return AnswerOf(services.Icons.PixelsInFile(path, question.Number, question.Size));
+    case LookupKind::IconCount:
+      return {.Value = services.Icons.IconCount(path)};
     case LookupKind::ShellFolder: {
       auto self = services.Folders.Folder(question.Number);
       if (!self) return {.End = LookupEnd::Failed};

@@ -7,6 +7,7 @@
 #include "core/IconState.h"
 #include "core/ProgramPaths.h"
 #include "desk/AnswerDesk.h"
+#include "desk/LookupPlaces.h"
 #include "forms/WindowSystem.h"
 #include "icons/Glyphs.h"
 #include "icons/IconQuestions.h"
@@ -16,10 +17,22 @@
 
 namespace corvelle {
 
+namespace {
+
+/// What is waited for when the question is: a link leads to a place that is not known yet.
+std::string PlaceWaitedFor(const Lookup& question) {
+  return desk::DependsOnTarget(question) ? "links" : desk::LaneOfLookup(question);
+}
+
+}  // namespace
+
 AskedIcons::AskedIcons(const IconSources& from, IconCaller caller)
     : from_(from), caller_(caller), owner_(from.Answers.NewOwner()) {}
 
-void AskedIcons::Drop() { from_.Answers.Drop(owner_); }
+void AskedIcons::Drop() {
+  late_.clear();
+  from_.Answers.Drop(owner_);
+}
 
 IconLook AskedIcons::Ask(std::string_view text, int size, int milliseconds, Known known) {
   const IconForm form = ClassifyIcon(text,
@@ -33,9 +46,9 @@ IconLook AskedIcons::Ask(std::string_view text, int size, int milliseconds, Know
   const bool shellDraws = from_.Icons.ShellDrawsIcons;
   const auto icon = std::make_shared<Asked>();
   icon->Questions = IconQuestions(form, shellDraws, size);
+  icon->Look = StandIn(*icon, form);
   for (Lookup& question : BlankIconQuestions(from_.Paths.IconsPath, shellDraws, size))
     icon->Questions.push_back(std::move(question));
-  icon->Look = StandIn(*icon, form);
   icon->Tell = std::move(known);
   GoOn(icon, icon->Look.Pixels.IsEmpty() ? milliseconds : 0);
   return icon->Look;
@@ -57,26 +70,39 @@ IconLook AskedIcons::StandIn(const Asked& icon, const IconForm& form) const {
 
 bool AskedIcons::GoOn(const std::shared_ptr<Asked>& icon, int milliseconds) {
   while (icon->Next < icon->Questions.size()) {
-    const auto later = [this, icon](const desk::Reply& reply) {
+    const std::string place = PlaceWaitedFor(icon->Questions[icon->Next]);
+    const auto later = [this, icon, place](const desk::Reply& reply) {
+      if (reply.How != desk::End::NotAvailable) late_.erase(place);
       const IconLook before = icon->Look;
-      if (!Take(*icon, reply) && !GoOn(icon, 0)) return;
-      if (icon->Look == before) return;
-      // It may end this.
-      const Known tell = std::move(icon->Tell);
-      tell(icon->Look);
+      if (Take(*icon, reply) || GoOn(icon, 0)) TellChange(*icon, before);
+    };
+    const auto back = [this, icon] {
+      const IconLook before = icon->Look;
+      if (GoOn(icon, 0)) TellChange(*icon, before);
     };
     const auto reply = from_.Answers.AskAtOnce(
         {.Question = icon->Questions[icon->Next], .How = desk::Urgency::OnShow, .Owner = owner_},
-        {.Ended = later, .TakesLonger = {}}, milliseconds);
-    if (!reply) return false;
+        {.Ended = later, .TakesLonger = {}, .Back = back},
+        late_.contains(place) ? 0 : milliseconds);
+    if (!reply) {
+      if (milliseconds > 0) late_.insert(place);
+      return false;
+    }
     if (Take(*icon, *reply)) return true;
   }
   icon->Look = {};
   return true;
 }
 
+void AskedIcons::TellChange(Asked& icon, const IconLook& before) {
+  if (icon.Look == before) return;
+  // It may end this.
+  const Known tell = std::move(icon.Tell);
+  tell(icon.Look);
+}
+
 bool AskedIcons::Take(Asked& icon, const desk::Reply& reply) {
-  // What stands for it stays.
+  // What is in its place stays until it may be asked again.
   if (reply.How == desk::End::NotAvailable) return true;
   const auto* const pixels = std::get_if<IconPixels>(&reply.Value);
   if (reply.How != desk::End::Answered || pixels == nullptr || pixels->IsEmpty() ||

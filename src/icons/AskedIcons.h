@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,8 +42,9 @@ class AskedIcons {
   AskedIcons& operator=(const AskedIcons&) = delete;
 
   /// What is to be drawn now, after a wait of at most so many milliseconds for what nothing is
-  /// known of. When that changes, `known` is called, by a turn of its own and at most once. Words
-  /// that the caller has a picture for are drawn as nothing.
+  /// known of; a place that was waited for in vain is not waited for again. When that changes,
+  /// `known` is called, by a turn of its own and at most once; a place that does not answer is
+  /// asked again when it has rested. Words that the caller has a picture for are drawn as nothing.
   [[nodiscard]] IconLook Ask(std::string_view text, int size, int milliseconds, Known known);
   /// Nothing of what was asked is told any more.
   void Drop();
@@ -63,12 +65,15 @@ class AskedIcons {
   [[nodiscard]] IconLook StandIn(const Asked& icon, const IconForm& form) const;
   /// Asks what is still to be asked. True when it is known what is to be drawn.
   bool GoOn(const std::shared_ptr<Asked>& icon, int milliseconds);
-  /// The same, for an answer.
+  /// Tells what is to be drawn, if it is not what was drawn before.
+  static void TellChange(Asked& icon, const IconLook& before);
+  /// The same as GoOn, for an answer.
   static bool Take(Asked& icon, const desk::Reply& reply);
 
   const IconSources& from_;
   IconCaller caller_;
   std::uint64_t owner_;
+  std::set<std::string> late_;  // places that were waited for in vain
 };
 
 }  // namespace corvelle

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/WindowSystem.h"
+#include "icons/Glyphs.h"
 #include "platform/ShellIcons.h"
 
 namespace corvelle {
@@ -17,7 +18,7 @@ constexpr std::size_t kOnABitmap = kInARow * kInARow;
 void IconSheet::Start(std::size_t count, int side, Rgb ground) {
   side_ = side;
   ground_ = ground;
-  drawn_.assign(count, false);
+  cells_.assign(count, Cell::Empty);
   bitmaps_.clear();
   bitmaps_.resize((count + kOnABitmap - 1) / kOnABitmap);
 }
@@ -28,17 +29,34 @@ PixelRect IconSheet::PlaceOf(std::size_t index) const noexcept {
   return RectAt({column * side_, row * side_}, {side_, side_});
 }
 
-void IconSheet::Draw(std::size_t index, const IconCell& cell) {
+Canvas& IconSheet::Clear(std::size_t index) {
   std::unique_ptr<Canvas>& bitmap = bitmaps_[index / kOnABitmap];
   if (bitmap == nullptr) {
     const int side = side_ * static_cast<int>(kInARow);
     bitmap = windows_.CreateCanvas({side, side});
     bitmap->FillBox({0, 0, side, side}, ground_);
+  } else {
+    bitmap->FillBox(PlaceOf(index), ground_);
   }
-  drawn_[index] = true;
+  return *bitmap;
+}
+
+void IconSheet::Draw(std::size_t index, const IconPixels& icon) {
+  Canvas& bitmap = Clear(index);
+  cells_[index] = Cell::Drawn;
   // A file that cannot be read leaves its cell empty.
-  static_cast<void>(
-      icons_.DrawFileIcon(*bitmap, cell.File, cell.Index, PlaceOf(index).TopLeft(), side_));
+  if (icon.IsEmpty() || !icon.IsWhole()) return;
+  if (icon.Width <= side_ && icon.Height <= side_)
+    bitmap.DrawPixels(icon, PlaceOf(index).TopLeft());
+}
+
+void IconSheet::DrawStandIn(std::size_t index, std::string_view glyph) {
+  Canvas& bitmap = Clear(index);
+  cells_[index] = Cell::StandIn;
+  const int scale = std::max(side_ / kSmallIconSize, 1);
+  const int margin = (side_ - scale * kSmallIconSize) / 2;
+  const PixelPoint at = PlaceOf(index).TopLeft();
+  DrawGlyph(bitmap, windows_, glyph, {at.x + margin, at.y + margin}, scale);
 }
 
 void IconSheet::Show(std::size_t index, Canvas& target, PixelPoint at) const {

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <utility>
+#include <variant>
 
 #include "forms/Scale.h"
+#include "icons/IconQuestions.h"
 
 namespace corvelle {
 
@@ -12,21 +14,27 @@ using forms::ShiftState;
 
 namespace {
 
-// So long the icons may keep the user waiting at a time, and so many are drawn at most.
-constexpr int kDrawTime = 20;  // milliseconds
-constexpr int kDrawnAtOnce = 24;
+// So long the icons may keep the user waiting at a time, and so many are asked for at most.
+constexpr int kAskTime = 20;  // milliseconds
+constexpr int kAskedAtOnce = 24;
+constexpr int kMostUnderWay = 24;
 constexpr forms::OleColor kWindowText = 0x80000008;
 constexpr int kWideBorder = 2;
 constexpr int kBorder = 1;  // pixels around the marked cell
 
 }  // namespace
 
-IconView::IconView(ShellIcons& icons, forms::PictureBox& sheet, forms::ScrollBar& bar)
-    : sheet_(sheet), bar_(bar), tmrDraw_(sheet.Windows()), pictures_(sheet.Windows(), icons) {
+IconView::IconView(desk::AnswerDesk& answers, forms::PictureBox& sheet, forms::ScrollBar& bar)
+    : answers_(answers),
+      sheet_(sheet),
+      bar_(bar),
+      tmrAsk_(sheet.Windows()),
+      pictures_(sheet.Windows()),
+      asked_(answers.NewOwner()) {
   sheet_.SetTabStop(true);
   sheet_.SetWants({.Arrows = true, .Paging = true, .Typing = true});
   sheet_.SetBackColor(forms::color::WindowGround);
-  tmrDraw_.SetInterval(1);
+  tmrAsk_.SetInterval(1);
   Wire();
 }
 
@@ -46,7 +54,7 @@ void IconView::Wire() {
   sheet_.LostFocus = [this] { Repaint(marked_); };
   bar_.Change = [this] { Scrolled(); };
   bar_.Scroll = [this] { Scrolled(); };
-  tmrDraw_.Tick = [this] { DrawSome(); };
+  tmrAsk_.Tick = [this] { AskSome(); };
 }
 
 void IconView::SetMetrics(const CellMetrics& cell, PixelSize view) {
@@ -56,7 +64,11 @@ void IconView::SetMetrics(const CellMetrics& cell, PixelSize view) {
 }
 
 void IconView::SetCells(std::vector<IconCell> cells) {
+  answers_.Drop(asked_);
+  underWay_ = 0;
+  late_ = false;
   cells_ = std::move(cells);
+  isAsked_.assign(cells_.size(), false);
   pictures_.Start(cells_.size(), grid_.Cell.Icon,
                   forms::Resolve(sheet_.Windows(), forms::color::WindowGround));
   grid_.TopRow = 0;
@@ -79,13 +91,13 @@ void IconView::ShowCells(int marked) {
   grid_.TopRow = std::min(grid_.TopRow, grid_.MostTopRow());
   if (marked_ >= 0) grid_.TopRow = grid_.TopRowToShow(marked_);
   UpdateBar();
-  tmrDraw_.SetEnabled(isShown_ && grid_.Count > 0);
+  tmrAsk_.SetEnabled(isShown_ && grid_.Count > 0);
   sheet_.InvalidateAll();
 }
 
 void IconView::SetShown(bool shown) {
   isShown_ = shown;
-  tmrDraw_.SetEnabled(isShown_ && grid_.Count > 0);
+  tmrAsk_.SetEnabled(isShown_ && grid_.Count > 0);
 }
 
 void IconView::UpdateBar() {
@@ -139,18 +151,70 @@ bool IconView::OnCharacter(char32_t character) {
   return true;
 }
 
+// ---- asking ----
+
+void IconView::AskSome() {
+  const std::int64_t end = sheet_.Windows().Now() + kAskTime;
+  for (int i = 0; i < kAskedAtOnce && sheet_.Windows().Now() < end; ++i) {
+    // What is scrolled into view is asked for before the rest, so that the rest is asked for late.
+    const int place =
+        underWay_ < kMostUnderWay
+            ? NextToDraw(grid_,
+                         [this](int at) { return isAsked_[shown_[static_cast<std::size_t>(at)]]; })
+            : -1;
+    if (place < 0) return tmrAsk_.SetEnabled(false);
+    Ask(shown_[static_cast<std::size_t>(place)]);
+  }
+}
+
+void IconView::Ask(std::size_t index) {
+  isAsked_[index] = true;
+  ++underWay_;
+  const IconCell& cell = cells_[index];
+  const int wait = late_ ? 0 : kAskTime;
+  const auto reply =
+      answers_.AskAtOnce({.Question = {.Kind = LookupKind::IconInFile,
+                                       .Path = cell.File,
+                                       .Number = cell.Index,
+                                       .Size = grid_.Cell.Icon},
+                          .Owner = asked_},
+                         {.Ended =
+                              [this, index](const desk::Reply& late) {
+                                Take(index, late);
+                                tmrAsk_.SetEnabled(isShown_);
+                              },
+                          .TakesLonger = [this, index](desk::Stage) { ShowStandIn(index); },
+                          .Back =
+                              [this, index] {
+                                isAsked_[index] = false;
+                                tmrAsk_.SetEnabled(isShown_);
+                              }},
+                         wait);
+  late_ = !reply;
+  if (reply) Take(index, *reply);
+}
+
+void IconView::Take(std::size_t index, const desk::Reply& reply) {
+  --underWay_;
+  if (reply.How == desk::End::NotAvailable) return ShowStandIn(index);
+  late_ = false;
+  const auto* const icon = std::get_if<IconPixels>(&reply.Value);
+  pictures_.Draw(index, icon != nullptr ? *icon : IconPixels{});
+  RepaintCell(index);
+}
+
+void IconView::ShowStandIn(std::size_t index) {
+  if (pictures_.HasPicture(index)) return;
+  pictures_.DrawStandIn(
+      index, NeutralGlyph({.Kind = IconKind::File, .Text = cells_[index].File, .File = {}}));
+  RepaintCell(index);
+}
+
 // ---- drawing ----
 
-void IconView::DrawSome() {
-  const std::int64_t end = sheet_.Windows().Now() + kDrawTime;
-  for (int i = 0; i < kDrawnAtOnce && sheet_.Windows().Now() < end; ++i) {
-    const int place = NextToDraw(
-        grid_, [this](int at) { return pictures_.IsDrawn(shown_[static_cast<std::size_t>(at)]); });
-    if (place < 0) return tmrDraw_.SetEnabled(false);
-    const std::size_t index = shown_[static_cast<std::size_t>(place)];
-    pictures_.Draw(index, cells_[index]);
-    Repaint(place);
-  }
+void IconView::RepaintCell(std::size_t index) {
+  const auto place = std::lower_bound(shown_.begin(), shown_.end(), index);
+  if (place != shown_.end() && *place == index) Repaint(static_cast<int>(place - shown_.begin()));
 }
 
 void IconView::Repaint(int place) {
@@ -173,7 +237,7 @@ void IconView::PaintCell(Canvas& canvas, int place) const {
   const std::size_t index = shown_[static_cast<std::size_t>(place)];
   const auto colour = [this](forms::OleColor of) { return forms::Resolve(sheet_.Windows(), of); };
   const PixelRect icon = grid_.IconOf(place);
-  if (pictures_.IsDrawn(index)) pictures_.Show(index, canvas, icon.TopLeft());
+  if (pictures_.HasPicture(index)) pictures_.Show(index, canvas, icon.TopLeft());
   const PixelRect label = grid_.LabelOf(place);
   const std::string& caption = cells_[index].Caption;
   const PixelSize text = sheet_.MeasureText(caption);

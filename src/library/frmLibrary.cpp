@@ -1,6 +1,7 @@
 #include "library/frmLibrary.h"
 
 #include <utility>
+#include <variant>
 
 #include "base/Sort.h"
 #include "base/Text.h"
@@ -46,9 +47,10 @@ frmLibrary::frmLibrary(Program& program)
       cmdRemove(*this, "cmdRemove"),
       cmdOK(*this, "cmdOK"),
       cmdCancel(*this, "cmdCancel"),
-      LibraryView(program.Services.Icons, Pic2, VS1),
-      OtherView(program.Services.Icons, picOther, vsOther),
-      program_(program) {
+      LibraryView(program.Answers, Pic2, VS1),
+      OtherView(program.Answers, picOther, vsOther),
+      program_(program),
+      counted_(program.Answers.NewOwner()) {
   TabStrip1.Add(kLibraryTab, "Library");
   TabStrip1.Add(kOtherTab, "Other Files");
   txtFilter.SetCue("Filter");
@@ -115,6 +117,7 @@ void frmLibrary::Form_Load() {
 }
 
 void frmLibrary::Form_Unload() {
+  program_.Answers.Drop(counted_);
   LibraryView.SetShown(false);
   OtherView.SetShown(false);
   LibraryView.Clear();
@@ -248,11 +251,23 @@ void frmLibrary::FillOthers(int row) {
 }
 
 void frmLibrary::List1Other_Click() {
+  program_.Answers.Drop(counted_);
+  OtherView.Clear();
   const int row = List1Other.Selected();
-  if (row < 0) return OtherView.Clear();
+  if (row < 0) return;
   const forms::HourglassScope hourglass(program_.Windows);
   const std::string path = OtherFilePath(List2Other[static_cast<std::size_t>(row)]);
-  OtherView.SetCells(FileCells(path, program_.Services.Icons.IconCount(path)));
+  const auto counted = program_.Answers.AskAtOnce(
+      {.Question = {.Kind = LookupKind::IconCount, .Path = path}, .Owner = counted_},
+      {.Ended = [this, path](const desk::Reply& late) { ShowFile(path, late); },
+       .TakesLonger = {},
+       .Back = [this] { List1Other_Click(); }});
+  if (counted) ShowFile(path, *counted);
+}
+
+void frmLibrary::ShowFile(const std::string& path, const desk::Reply& counted) {
+  const int* const count = std::get_if<int>(&counted.Value);
+  OtherView.SetCells(FileCells(path, count != nullptr ? *count : 0));
 }
 
 void frmLibrary::cmdAdd_Click() {

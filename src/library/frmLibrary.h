@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -65,6 +66,8 @@ class frmLibrary final : public forms::Form, public LibraryPort {
   void ShowView(int position);
   void TabStrip1_Click();
   void List1Other_Click();
+  /// Shows the icons of a file that were counted, or could not be.
+  void ShowFile(const std::string& path, const desk::Reply& counted);
   void txtFilter_Change();
   [[nodiscard]] bool txtFilter_KeyDown(int keyCode);
   void cmdAdd_Click();
@@ -84,6 +87,7 @@ class frmLibrary final : public forms::Form, public LibraryPort {
   /// The rows of List1Other with their paths (OtherFileRow).
   std::vector<std::string> List2Other;
   bool othersRead_ = false;
+  std::uint64_t counted_ = 0;  // owner of the question
 };
 
 }  // namespace corvelle

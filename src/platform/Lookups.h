@@ -34,6 +34,7 @@ enum class LookupKind {
                   // empty: IconPixels
   ShortPaths,     // what FileSystem::ShortPath gives for files of the folder Path, named as for
                   // FileNames: a list of entries in that order, empty for what it refuses
+  IconCount,      // how many icons a file holds: int
 };
 
 /// A question whose answer may be slow.
@@ -58,7 +59,7 @@ enum class LookupEnd {
 };
 
 using LookupValue = std::variant<std::monostate, bool, std::vector<FileEntry>, std::string,
-                                 DriveFacts, IconPixels, std::vector<ShellFolderEntry>>;
+                                 DriveFacts, IconPixels, std::vector<ShellFolderEntry>, int>;
 
 struct LookupAnswer {
   LookupId Id = 0;

@@ -3,16 +3,18 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/ShellFolders.h"
+
 namespace corvelle {
 
 class FileSystem;
-class ShellFolders;
 
 /// The indices of the icons of all that lies on the desktop, in the order of a menu of it, each
-/// once; empty for a desktop that cannot be listed. The shell may let events through. Nothing is
-/// written: files that an earlier version left in the folder of the menus while it listed the
-/// desktop are removed.
-[[nodiscard]] std::vector<int> DesktopIcons(ShellFolders& folders, FileSystem& files,
-                                            std::string_view menusPath);
+/// once. `entries`: what the shell says that it holds.
+[[nodiscard]] std::vector<int> DesktopIcons(const std::vector<ShellFolderEntry>& entries);
+
+/// Removes the files that an earlier version left in the folder of the menus, which ends in a
+/// backslash, while it listed the desktop. One that stays does no harm: the next start removes it.
+void RemoveDesktopLists(FileSystem& files, std::string_view menusPath);
 
 }  // namespace corvelle

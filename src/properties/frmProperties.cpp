@@ -8,8 +8,7 @@
 #include "base/Text.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
-#include "icons/Glyphs.h"
-#include "icons/IconResolution.h"
+#include "icons/IconForm.h"
 #include "properties/PropertiesLayout.h"
 #include "shell/LinkFiles.h"
 
@@ -20,7 +19,7 @@ constexpr std::string_view kItemTab = "item";
 constexpr std::string_view kButtonsTab = "buttons";
 constexpr std::string_view kPositionTab = "position";
 constexpr int kStartMenu = 11;
-constexpr int kGlyphSide = 16;
+constexpr int kAtOnce = 40;        // milliseconds for which the window waits for its icon
 constexpr int kTargetDelay = 300;  // milliseconds without a key
 constexpr int kEdgeInterval = 100;
 
@@ -75,6 +74,9 @@ frmProperties::frmProperties(Program& program)
       cmdCancel(*this, "cmdCancel"),
       cmdApply(*this, "cmdApply"),
       program_(program),
+      icon_(program.IconSources, IconCaller::Properties),
+      nodeIcons_(program.IconSources, IconCaller::Tree),
+      desktopAsked_(program.Answers.NewOwner()),
       tmrEdge_(program.Windows),
       tmrTarget_(program.Windows) {
   SetCaption("Properties");
@@ -231,6 +233,9 @@ void frmProperties::Form_Unload() {
   tmrEdge_.SetEnabled(false);
   tmrTarget_.SetEnabled(false);
   program_.Slow.Drop(targetAsked_);
+  icon_.Drop();
+  nodeIcons_.Drop();
+  program_.Answers.Drop(desktopAsked_);
   TabStrip1.Select(std::string(kItemTab));
   if (program_.Ports.Library != nullptr && program_.Ports.Library->WindowLoaded()) {
     program_.Ports.Library->UnloadWindow();
@@ -302,17 +307,19 @@ void frmProperties::DrawIcon() {
   const forms::ScreenInfo screen = Screen();
   const PixelSize side{static_cast<int>(Pix.Width() / screen.TwipsPerPixelX),
                        static_cast<int>(Pix.Height() / screen.TwipsPerPixelY)};
-  // The shell may let messages in while it is asked for an icon.
+  icon_.Drop();
+  PaintIcon(side, icon == "button"
+                      ? IconLook{.Glyph = icon}
+                      : icon_.Ask(icon, side.width, kAtOnce,
+                                  [this, side](const IconLook& look) { PaintIcon(side, look); }));
+}
+
+void frmProperties::PaintIcon(PixelSize side, const IconLook& look) {
   const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas(side);
   drawn->FillBox({0, 0, side.width, side.height},
                  forms::Resolve(program_.Windows, forms::color::ButtonFace));
-  if (icon == "button") {
-    DrawGlyph(*drawn, program_.Windows, "button", {0, 0}, side.width / kGlyphSide);
-  } else {
-    static_cast<void>(
-        ResolveAndDraw(program_, *drawn, icon, {0, 0}, side.width, IconCaller::Properties));
-  }
-  if (!IsLoaded()) return;
+  // What has no icon at all leaves the place empty.
+  static_cast<void>(icon_.Draw(*drawn, look, side.width));
   Pix.SetAutoRedraw(true);
   Pix.Cls();
   Pix.PaintPicture(drawn, 0, 0);

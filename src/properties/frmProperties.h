@@ -9,6 +9,7 @@
 
 #include "base/Edge.h"
 #include "core/WindowPorts.h"
+#include "desk/DeskRule.h"
 #include "forms/CommandButton.h"
 #include "forms/FlatButton.h"
 #include "forms/Form.h"
@@ -19,6 +20,7 @@
 #include "forms/TextBox.h"
 #include "forms/Timer.h"
 #include "forms/TreeView.h"
+#include "icons/AskedIcons.h"
 #include "platform/Lookups.h"
 #include "properties/ButtonOrder.h"
 #include "properties/ItemEdit.h"
@@ -111,6 +113,7 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
 
   // ---- the entry (frmPropertiesItem.cpp) ----
   void EnableItem();
+  void PaintIcon(PixelSize side, const IconLook& look);
   [[nodiscard]] MenuRecord Boxes() const;
   [[nodiscard]] bool BoxesChanged() const;
   /// False when the window stays open: it has told the user why, or there is nothing to save.
@@ -143,6 +146,9 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void LoadButtonsTab();
   void FillTree();
   [[nodiscard]] int NodeImage(const std::string& icon);
+  [[nodiscard]] int AddNodeImage(const IconLook& look);
+  /// Another picture for all nodes of an icon text.
+  void TakeLateImage(const std::string& icon, const IconLook& look);
   [[nodiscard]] std::size_t IndexOf(forms::NodeId node) const;
   [[nodiscard]] forms::NodeId NodeAt(std::size_t index) const;
   void MoveButton(std::size_t to, std::size_t from);
@@ -158,6 +164,9 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   // ---- the edges (frmPropertiesPosition.cpp) ----
   void LoadPositionTab();
   void DrawPreview();
+  void ListDesktop();
+  /// The small picture of a desktop that was listed, or could not be.
+  void DrawDesktop(const desk::Reply& listed);
   void DrawStrip(std::optional<Edge> edge);
   [[nodiscard]] std::optional<Edge> EdgeInUse() const;
   void MoveToEdge(Edge edge);
@@ -174,8 +183,11 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   bool orderTouched_ = false;  // since the tab was filled or applied
   forms::NodeId dragNode_ = forms::kNoNode;
   std::map<std::string, int, std::less<>> images_;  // of the tree, by their icon texts
+  AskedIcons icon_;                                 // of the entry
+  AskedIcons nodeIcons_;
   PreviewScene scene_;
   Picture desktop_;  // the small picture without the strip
+  std::uint64_t desktopAsked_ = 0;
   std::optional<Edge> shownEdge_;
   forms::Timer tmrEdge_;
   forms::Timer tmrTarget_;

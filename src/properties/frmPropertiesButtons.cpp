@@ -8,7 +8,6 @@
 #include "forms/Scopes.h"
 #include "icons/Glyphs.h"
 #include "icons/IconForm.h"
-#include "icons/IconResolution.h"
 #include "platform/Input.h"
 #include "properties/OrderFiles.h"
 #include "properties/frmProperties.h"
@@ -17,6 +16,7 @@ namespace corvelle {
 namespace {
 
 constexpr int kImageSide = 16;
+constexpr int kAtOnce = 40;  // milliseconds for which one icon may hold up the others
 
 }  // namespace
 
@@ -47,14 +47,12 @@ void frmProperties::FillTree() {
   TreeView1.Select(NodeAt(selected < order_.Nodes().size() ? selected : 0));
   TreeView1.Refresh();
   for (std::size_t i = 0; i < order_.Nodes().size(); ++i) {
-    const int image = NodeImage(order_.Nodes()[i].Icon);
-    if (!IsLoaded() || i >= order_.Nodes().size()) return;
-    TreeView1.SetImage(NodeAt(i), image);
+    TreeView1.SetImage(NodeAt(i), NodeImage(order_.Nodes()[i].Icon));
   }
   ShowLoss();
 }
 
-// A text is drawn once for each opening of the window.
+// A text is asked for once for each opening of the window.
 int frmProperties::NodeImage(const std::string& icon) {
   const auto known = images_.find(icon);
   if (known != images_.end()) return known->second;
@@ -63,19 +61,34 @@ int frmProperties::NodeImage(const std::string& icon) {
                                       .IconsPath = program_.Paths.IconsPath,
                                       .WebLinkIcon = program_.Icons.WebLinkIcon},
                                      IconCaller::Tree);
-  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas({kImageSide, kImageSide});
-  drawn->FillBox({0, 0, kImageSide, kImageSide}, forms::Image::kMask);
-  const bool own = form.Kind == IconKind::BuiltIn || form.Kind == IconKind::Empty;
-  const std::string key = form.Kind == IconKind::BuiltIn ? form.Text : "unknown";
-  if (own) {
-    DrawGlyph(*drawn, program_.Windows, key, {0, 0});
-  } else if (!ResolveAndDraw(program_, *drawn, icon, {0, 0}, kImageSide, IconCaller::Tree)) {
-    DrawGlyph(*drawn, program_.Windows, "qmark", {0, 0});
+  IconLook look;
+  if (form.Kind == IconKind::BuiltIn) {
+    look.Glyph = form.Text;
+  } else if (form.Kind == IconKind::Empty) {
+    look.Glyph = "unknown";
+  } else {
+    look = nodeIcons_.Ask(icon, kImageSide, kAtOnce,
+                          [this, icon](const IconLook& late) { TakeLateImage(icon, late); });
   }
-  if (!IsLoaded()) return -1;
-  const int image = TreeView1.AddImage(drawn);
+  const int image = AddNodeImage(look);
   images_[icon] = image;
   return image;
+}
+
+int frmProperties::AddNodeImage(const IconLook& look) {
+  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas({kImageSide, kImageSide});
+  drawn->FillBox({0, 0, kImageSide, kImageSide}, forms::Image::kMask);
+  if (!nodeIcons_.Draw(*drawn, look, kImageSide))
+    DrawGlyph(*drawn, program_.Windows, "qmark", {0, 0});
+  return TreeView1.AddImage(drawn);
+}
+
+void frmProperties::TakeLateImage(const std::string& icon, const IconLook& look) {
+  const int image = AddNodeImage(look);
+  images_[icon] = image;
+  for (std::size_t i = 0; i < order_.Nodes().size(); ++i) {
+    if (order_.Nodes()[i].Icon == icon) TreeView1.SetImage(NodeAt(i), image);
+  }
 }
 
 std::size_t frmProperties::IndexOf(forms::NodeId node) const {

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <variant>
 
 #include "base/Text.h"
 #include "core/Program.h"
+#include "core/SpecialFolders.h"
+#include "desk/AnswerDesk.h"
 #include "forms/Scopes.h"
 #include "platform/DesktopWindows.h"
 #include "platform/Input.h"
@@ -40,6 +43,7 @@ void frmProperties::LoadPositionTab() {
 }
 
 void frmProperties::DrawPreview() {
+  shownEdge_.reset();
   const forms::ScreenInfo screen = Screen();
   scene_ = {.Box = {static_cast<int>(picScreen.Width() / screen.TwipsPerPixelX),
                     static_cast<int>(picScreen.Height() / screen.TwipsPerPixelY)},
@@ -48,9 +52,25 @@ void frmProperties::DrawPreview() {
             .ClockText = MeasureText(kClockText)};
   const int width = program_.Services.Icons.IconWidth(IconList::Large);
   if (width > 0) scene_.IconSize = width;
-  // The shell may let messages in while it lists the desktop.
-  const std::vector<int> icons =
-      DesktopIcons(program_.Services.Folders, program_.Services.Files, program_.Paths.MenusPath);
+  RemoveDesktopLists(program_.Services.Files, program_.Paths.MenusPath);
+  ListDesktop();
+}
+
+void frmProperties::ListDesktop() {
+  const auto listed = program_.Answers.AskAtOnce(
+      {.Question = {.Kind = LookupKind::ShellEntries, .Path = {}, .Number = kDesktopFolder},
+       .Owner = desktopAsked_},
+      {.Ended = [this](const desk::Reply& reply) { DrawDesktop(reply); },
+       .TakesLonger = {},
+       .Back = [this] { ListDesktop(); }});
+  // Until the shell has listed it the desktop is shown without icons.
+  DrawDesktop(listed.value_or(desk::Reply{}));
+}
+
+void frmProperties::DrawDesktop(const desk::Reply& listed) {
+  std::vector<int> icons;
+  const auto* const entries = std::get_if<std::vector<ShellFolderEntry>>(&listed.Value);
+  if (listed.How == desk::End::Answered && entries != nullptr) icons = DesktopIcons(*entries);
   const std::vector<PixelPoint> places = IconGrid(scene_, icons.size());
   const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas(scene_.Box);
   Draw(*drawn, *this, PlanPreview(scene_));
@@ -59,9 +79,8 @@ void frmProperties::DrawPreview() {
     static_cast<void>(program_.Services.Icons.DrawSystemIcon(*drawn, IconList::Large, icons[i],
                                                              places[i], IconStyle::Normal));
   }
-  if (!IsLoaded()) return;
   desktop_ = drawn;
-  DrawStrip(std::nullopt);
+  DrawStrip(shownEdge_);
 }
 
 // The strip at the edge of the button that would send it there.

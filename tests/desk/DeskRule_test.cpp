@@ -22,7 +22,7 @@ class RuleDesk {
              std::int64_t maxAge = 0) {
     const Ticket ticket = ++last_;
     asked_.insert(ticket);
-    Take(Asked{ticket, {question, how, owner, maxAge}});
+    Take(Asked{ticket, {question, how, owner, maxAge, TellWhenBack}});
     return ticket;
   }
   Ticket AskIsThere(const std::string& path, Urgency how = Urgency::OnShow,
@@ -77,7 +77,9 @@ class RuleDesk {
   std::map<Ticket, Reply> Ends;
   std::map<Ticket, std::vector<Stage>> Stages;
   std::vector<std::string> Cancelled;
+  std::set<Ticket> Back;  // of these it was told that they may be asked again
   int Begins = 0;
+  bool TellWhenBack = false;  // asked from now on
 
  private:
   void Note(const Command& command) {
@@ -91,6 +93,9 @@ class RuleDesk {
     } else if (const auto* const stage = std::get_if<TellStage>(&command)) {
       EXPECT_TRUE(IsOpen(stage->Number)) << "a stage after the end";
       Stages[stage->Number].push_back(stage->What);
+    } else if (const auto* const back = std::get_if<TellBack>(&command)) {
+      EXPECT_TRUE(Ended(back->Number, End::NotAvailable)) << "back before it was gone";
+      EXPECT_TRUE(Back.insert(back->Number).second) << "back twice";
     } else if (const auto* const end = std::get_if<TellEnd>(&command)) {
       EXPECT_TRUE(asked_.contains(end->Told.Number));
       EXPECT_TRUE(Ends.emplace(end->Told.Number, end->Told).second) << "ended twice";
@@ -265,6 +270,90 @@ TEST_F(DeskRule, ALateAnswerIsKeptAndWakesItsLaneAndIsToldToNobody) {
   desk.Return("D:\\a");
   EXPECT_EQ(desk.Desk().Kept.Count(), 1U);
   EXPECT_TRUE(desk.IsOpen(desk.AskIsThere("D:\\b")));
+}
+
+/// What was not available may be asked again...
+struct BackDeskRule : DeskRule {
+  BackDeskRule() { desk.TellWhenBack = true; }
+};
+
+TEST_F(BackDeskRule, WhenItsPlaceHasRested) {
+  const Ticket asked = desk.AskIsThere("D:\\a");
+  const Ticket behind = desk.AskIsThere("D:\\b");
+  desk.Advance(2000);
+  desk.Fail("D:\\a");
+  ASSERT_TRUE(desk.Ended(asked, End::NotAvailable));
+  const Ticket later = desk.AskIsThere("D:\\c");
+  desk.Advance(9999);
+  EXPECT_TRUE(desk.Back.empty());
+  desk.Advance(1);
+  EXPECT_EQ(desk.Back, (std::set<Ticket>{asked, behind, later}));
+  EXPECT_FALSE(NextMoment(desk.Desk()).has_value());
+  EXPECT_TRUE(desk.IsOpen(desk.AskIsThere("D:\\a")));
+}
+
+TEST_F(BackDeskRule, WhenTheCallThatHungComesBackAfterAll) {
+  const Ticket asked = desk.AskIsThere("D:\\a");
+  desk.Advance(5000);
+  ASSERT_TRUE(desk.Ended(asked, End::NotAvailable));
+  desk.Return("D:\\a");
+  EXPECT_EQ(desk.Back, std::set<Ticket>{asked});
+}
+
+TEST_F(BackDeskRule, WhenTheUserWantsItToBeTried) {
+  const Ticket asked = desk.AskIsThere("D:\\a");
+  const Ticket other = desk.AskIsThere("G:\\a");
+  desk.Advance(5000);
+  desk.Take(TryAgain{{.Path = "D:\\a"}});
+  EXPECT_EQ(desk.Back, std::set<Ticket>{asked});
+  desk.Take(TryAllAgain{});
+  EXPECT_EQ(desk.Back, (std::set<Ticket>{asked, other}));
+}
+
+TEST_F(BackDeskRule, NotWhileSoManyCallsHangThatItWouldBeRefused) {
+  std::set<Ticket> asked;
+  for (const char* path : {"D:\\a", "G:\\a", "H:\\a", "I:\\a", "J:\\a"})
+    asked.insert(desk.AskIsThere(path));
+  desk.Advance(400'000);
+  EXPECT_TRUE(desk.Back.empty());
+  EXPECT_FALSE(NextMoment(desk.Desk()).has_value()) << "nothing to wait for but the calls";
+  desk.Return("G:\\a");
+  EXPECT_TRUE(desk.Back.empty()) << "four still hang";
+  desk.Return("H:\\a");
+  EXPECT_EQ(desk.Back, asked);
+}
+
+TEST_F(BackDeskRule, WhenTheOneFileOfThisMachineHasRested) {
+  const Ticket asked = desk.Ask({.Kind = LookupKind::FileIcon, .Path = "C:\\a.exe"});
+  desk.Advance(2000);
+  desk.Fail("C:\\a.exe");
+  const Ticket later = desk.Ask({.Kind = LookupKind::FileIcon, .Path = "C:\\a.exe"});
+  ASSERT_TRUE(desk.Ended(later, End::NotAvailable));
+  desk.Ask({.Kind = LookupKind::FileIcon, .Path = "C:\\b.exe"});
+  desk.Return("C:\\b.exe");
+  EXPECT_TRUE(desk.Back.empty()) << "the others of its lane went on";
+  desk.Advance(10'000);
+  EXPECT_EQ(desk.Back, (std::set<Ticket>{asked, later}));
+}
+
+TEST_F(BackDeskRule, AnIconOfALinkWhenThePlaceOfTheLinkHasRested) {
+  const Ticket asked = desk.Ask({.Kind = LookupKind::FileIcon, .Path = "D:\\a.lnk"});
+  desk.Advance(2000);
+  desk.Fail("D:\\a.lnk");
+  ASSERT_TRUE(desk.Ended(asked, End::NotAvailable));
+  desk.Advance(10'000);
+  EXPECT_EQ(desk.Back, std::set<Ticket>{asked});
+}
+
+TEST_F(BackDeskRule, ToldToNobodyWhoHasLeftOrDidNotAsk) {
+  desk.AskIsThere("D:\\a", Urgency::OnShow, 2);
+  desk.TellWhenBack = false;
+  desk.AskIsThere("D:\\b", Urgency::OnShow, 1);
+  desk.Advance(5000);
+  desk.Take(OwnerLeft{2});
+  EXPECT_FALSE(NextMoment(desk.Desk()).has_value());
+  desk.Advance(20'000);
+  EXPECT_TRUE(desk.Back.empty());
 }
 
 TEST_F(DeskRule, AfterFourCallsThatHangRemotePlacesFailAtOnceAndLocalOnesGoOn) {
@@ -511,7 +600,11 @@ TEST(DeskRuleProperty, EachTicketEndsOnceAndADeadLaneDelaysNoOther) {
           break;
         }
         case 1:
-          desk.Take(TryAgain{AnyQuestion(chance, false)});
+          if (chance.Below(4) == 0) {
+            desk.Take(TryAllAgain{});
+          } else {
+            desk.Take(TryAgain{AnyQuestion(chance, false)});
+          }
           break;
         case 2:
           desk.Take(UrgencyChanged{static_cast<Ticket>(chance.Below(step + 1)),
@@ -519,6 +612,7 @@ TEST(DeskRuleProperty, EachTicketEndsOnceAndADeadLaneDelaysNoOther) {
           break;
         default: {
           const bool quickOnly = chance.Below(4) == 0;
+          desk.TellWhenBack = chance.Below(2) == 0;
           const Ticket ticket =
               desk.Ask(AnyQuestion(chance, quickOnly), static_cast<Urgency>(chance.Below(3)),
                        static_cast<std::uint64_t>(chance.Below(4)), chance.Below(2) * 300);

@@ -40,7 +40,7 @@ TEST(LookupPlaces, EachKindHasItsLane) {
       {LookupKind::FileName, "D:*"},       {LookupKind::FileIcon, "D:*"},
       {LookupKind::IconInFile, "D:*"},     {LookupKind::ShellFolder, "shell"},
       {LookupKind::ShellEntries, "shell"}, {LookupKind::ShellIcon, "shell*"},
-      {LookupKind::ShortPaths, "D:"},
+      {LookupKind::ShortPaths, "D:"},      {LookupKind::IconCount, "D:*"},
   };
   for (const Row& row : rows) {
     const std::string lane = LaneOfLookup({.Kind = row.kind, .Path = "d:\\x"});

@@ -53,6 +53,30 @@ class IdleWindow {
   std::thread thread_;
 };
 
+/// A thread of the test that does the same small piece of work over and over, with pauses. How long
+/// one takes at most beside other programs is what a window would be silent for that works so long.
+class SameWork {
+ public:
+  /// What one piece takes where nothing else runs. Milliseconds.
+  static constexpr int kAlone = 25;
+  SameWork();
+  SameWork(const SameWork&) = delete;
+  SameWork& operator=(const SameWork&) = delete;
+  ~SameWork() { Stop(); }
+
+  void Stop();
+  /// Of all pieces since Forget. Milliseconds.
+  [[nodiscard]] double Longest() const { return longest_; }
+  void Forget() { longest_ = 0; }
+
+ private:
+  void Work();
+
+  std::atomic<bool> over_ = false;
+  std::atomic<double> longest_ = 0;
+  std::thread thread_;
+};
+
 /// Milliseconds since some moment.
 [[nodiscard]] double NowInMilliseconds();
 

@@ -19,9 +19,11 @@ namespace {
 
 using scenario::Button;
 using scenario::ButtonMiddle;
+using scenario::ChooseInMainMenu;
 using scenario::FarAway;
 using scenario::InstalledFlags;
 using scenario::kFlagsFile;
+using scenario::MainChoice;
 using scenario::StartAndWait;
 using scenario::WaitForMenuAt;
 using scenario::WaitForNoMenu;
@@ -32,6 +34,7 @@ using scenario::WriteMenu;
 // too: as long as the window that does nothing, and some more.
 constexpr double kLongestGap = 400;
 constexpr int kEntries = 20;
+constexpr int kDeadSingles = 8;
 constexpr int kDeadMenu = 2;  // buttons
 constexpr int kQuickMenu = 3;
 
@@ -49,18 +52,38 @@ class StripHeartbeat : public testing::Test {
               {Witness(desk_, "near"),
                {.FTitle = "Far", .FIcon = "", .FName = std::string(HangingFolder::kPath) + "*.*"}});
   }
+  /// A menu whose entries are files of a folder that will not answer, with their icons, and single
+  /// buttons of some of them.
+  void WriteDeadEntries() {
+    std::vector<MenuRecord> entries;
+    for (int i = 0; i < kEntries; ++i) {
+      const std::string file = HangingFolder::File(i);
+      entries.push_back({.FTitle = "Entry " + std::to_string(i), .FIcon = file, .FName = file});
+    }
+    WriteMenu(desk_, 1, "Dead", entries);
+    for (int i = 0; i < kDeadSingles; ++i) {
+      desk_.WriteFile("Menus\\" + SingleFileName(i + 1),
+                      FormatRecord(entries[static_cast<std::size_t>(i)], Windows1252()));
+    }
+  }
   /// Says what was measured, and judges it.
   void Judge(const char* what) {
     strip_.Stop();
     idle_.Stop();
-    std::printf("%s: longest gap %.0f ms in %d knocks; of a window that does nothing %.0f ms\n",
-                what, strip_.Longest(), strip_.Answers(), idle_.Longest());
+    work_.Stop();
+    std::printf(
+        "%s: longest gap %.0f ms in %d knocks; of a window that does nothing %.0f ms; %d ms of "
+        "work "
+        "took %.0f ms at most\n",
+        what, strip_.Longest(), strip_.Answers(), idle_.Longest(), SameWork::kAlone,
+        work_.Longest());
     EXPECT_GT(strip_.Answers(), 20);
     EXPECT_LT(strip_.Longest(), kLongestGap + 2 * idle_.Longest());
   }
   void Forget() {
     strip_.Forget();
     idle_.Forget();
+    work_.Forget();
   }
   /// Opens the quick menu and starts its first item, as somebody who does not care for the other.
   void UseTheQuickMenu() {
@@ -75,6 +98,7 @@ class StripHeartbeat : public testing::Test {
   IdleWindow window_;
   Heartbeat strip_{L"frmToolbar"};
   Heartbeat idle_{IdleWindow::kClass};
+  SameWork work_;
 };
 
 TEST_F(StripHeartbeat, GoesOnWhileAMenuOverADeadFolderIsUp) {
@@ -115,12 +139,7 @@ TEST_F(StripHeartbeat, GoesOnWhileF5AsksADeadFolder) {
 
 TEST_F(StripHeartbeat, GoesOnAtAStartWithTwentyDeadEntries) {
   HangingFolder folder(kEntries);
-  std::vector<MenuRecord> entries;
-  for (int i = 0; i < kEntries; ++i) {
-    const std::string file = HangingFolder::File(i);
-    entries.push_back({.FTitle = "Entry " + std::to_string(i), .FIcon = file, .FName = file});
-  }
-  WriteMenu(desk_, 1, "Dead", entries);
+  WriteDeadEntries();
   ASSERT_TRUE(folder.Hang());
   const double began = NowInMilliseconds();
   ASSERT_TRUE(StartAndWait(desk_));
@@ -136,10 +155,9 @@ TEST_F(StripHeartbeat, GoesOnAtAStartWithTwentyDeadEntries) {
 }
 
 TEST_F(StripHeartbeat, GoesOnAfterAStartWithDeadIconsOfSingleButtons) {
-  constexpr int kSingles = 8;
   WriteMenu(desk_, 1, "Near", {Witness(desk_, "near")});
-  HangingFolder folder(kSingles);
-  for (int i = 0; i < kSingles; ++i) {
+  HangingFolder folder(kDeadSingles);
+  for (int i = 0; i < kDeadSingles; ++i) {
     const std::string file = HangingFolder::File(i);
     desk_.WriteFile("Menus\\" + SingleFileName(i + 1),
                     FormatRecord({.FTitle = "Far", .FIcon = file, .FName = file}, Windows1252()));
@@ -153,6 +171,50 @@ TEST_F(StripHeartbeat, GoesOnAfterAStartWithDeadIconsOfSingleButtons) {
   desk_.Picture("dead-icons");
   UseTheQuickMenu();
   Judge("dead icons of single buttons");
+  folder.Answer();
+}
+
+TEST_F(StripHeartbeat, GoesOnWhileAllIsRefreshedOverDeadEntries) {
+  HangingFolder folder(kEntries);
+  WriteDeadEntries();
+  ASSERT_TRUE(StartAndWait(desk_));
+  desk_.Pause(1000);  // their icons have come
+  ASSERT_TRUE(folder.Hang());
+  Forget();
+  for (int i = 0; i < 2; ++i) {
+    ASSERT_TRUE(ChooseInMainMenu(desk_, MainChoice::RefreshAll));
+    ASSERT_TRUE(WaitForNoMenu(desk_));
+    desk_.Pause(1500);
+  }
+  ASSERT_TRUE(scenario::OpenMenu(desk_, kDeadMenu));
+  desk_.Pause(3000);
+  desk_.Picture("refreshed");
+  desk_.Key(scenario::kKeyEscape);
+  ASSERT_TRUE(WaitForNoMenu(desk_));
+  UseTheQuickMenu();
+  Judge("Refresh All over dead entries");
+  folder.Answer();
+}
+
+TEST_F(StripHeartbeat, GoesOnWhileTheProgramIsStartedAgainOverDeadEntries) {
+  HangingFolder folder(kEntries);
+  WriteDeadEntries();
+  ASSERT_TRUE(StartAndWait(desk_));
+  desk_.Pause(1000);
+  ASSERT_TRUE(folder.Hang());
+  Forget();
+  for (int i = 0; i < 3; ++i) {
+    const double began = NowInMilliseconds();
+    desk_.StartCorvelle();
+    ASSERT_EQ(desk_.RunningCopies(), 2);
+    ASSERT_TRUE(desk_.Wait([&] { return desk_.RunningCopies() == 1; }));
+    std::printf("the second start had ended after %.0f ms\n", NowInMilliseconds() - began);
+    desk_.Pause(700);
+  }
+  EXPECT_TRUE(desk_.Messages().empty());
+  EXPECT_TRUE(desk_.IsVisible("frmToolbar"));
+  UseTheQuickMenu();
+  Judge("a second start over dead entries");
   folder.Answer();
 }
 

@@ -55,7 +55,7 @@ TEST(LookupWire, AnswersComeOutAsTheyWentIn) {
 TEST(LookupWire, OnlyQuestionsAboutIconsAndNamesGo) {
   for (const LookupKind kind :
        {LookupKind::IsThere, LookupKind::FolderEntries, LookupKind::Drive, LookupKind::LinkTarget,
-        LookupKind::ShellEntries, LookupKind::ShortPaths})
+        LookupKind::ShellEntries, LookupKind::ShortPaths, LookupKind::IconCount})
     EXPECT_EQ(FormatWireQuestion({1, {.Kind = kind, .Path = "C:\\"}}), "");
   std::string content = ContentOf(FormatWireQuestion(AnyQuestion()));
   for (int kind = 0; kind < 256; ++kind) {

@@ -206,6 +206,16 @@ TEST_F(SlowIcons, OneThatIsNotAvailableIsAskedForAgainAtALaterOpening) {
   EXPECT_EQ(Colour(1), SimShellIcons::ColourOf(30));
 }
 
+TEST_F(SlowIcons, OneThatWasGivenUpComesIntoTheMenuWhenItsPlaceAnswersAgain) {
+  Slow().HangForGood("D:*");
+  Open({"D:\\a.exe", "C:\\a.exe"});
+  Advance(6000);
+  ASSERT_TRUE(ShowsGlyph(1, "program"));
+  Slow().Resume("D:*");
+  Advance(100);
+  EXPECT_EQ(Colour(1), SimShellIcons::ColourOf(30));
+}
+
 TEST_F(SlowIcons, AFileWithoutAnIconIsABlankDocumentInTheEnd) {
   desk_.World.Icons.SetIndex("C:\\Corvelle\\Icons\\W95MBX02.ICO", 7);
   Slow().Delay("D:*", 200);

@@ -168,6 +168,14 @@ TEST_P(LookupsContract, AnIconInAFileComesAtItsSize) {
   EXPECT_EQ(icon->Width, 24);
 }
 
+TEST_P(LookupsContract, TheIconsOfAFileAreCounted) {
+  const LookupAnswer answer = AnswerTo({.Kind = LookupKind::IconCount, .Path = home_->IconFile()});
+  const int* const count = std::get_if<int>(&answer.Value);
+  ASSERT_NE(count, nullptr);
+  EXPECT_GE(*count, 1);
+  EXPECT_EQ(AnswerTo({.Kind = LookupKind::IconCount, .Path = there_ + "x"}).Value, LookupValue(0));
+}
+
 TEST_P(LookupsContract, AFolderOfTheShellGivesItselfItsEntriesAndTheirIcons) {
   constexpr int kDrives = 17;
   const LookupAnswer self = AnswerTo({.Kind = LookupKind::ShellFolder, .Number = kDrives});

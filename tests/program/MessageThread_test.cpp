@@ -184,6 +184,51 @@ TEST_F(MessageThread, ChoosingAnEntryMakesNone) {
   }
 }
 
+TEST_F(MessageThread, TheTreeOfCustomizeMakesNone) {
+  desk_.parts->Customize.LoadWindow();
+  World().Desktop.Advance(2000);
+  const forms::TreeView& tree = desk_.parts->Customize.TreeView1;
+  EXPECT_EQ(CostsOf([&] {
+              World().Desktop.PressKey(forms::key::Down);
+              World().Desktop.PressKey(forms::key::Right);
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+  EXPECT_EQ(tree.Nodes().Children(tree.Selected()).size(), 4U);
+}
+
+TEST_F(MessageThread, PropertiesMakesNone) {
+  PutMenu(1, {{"Near", "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe"}});
+  World().Folders.Put(0, {{"a", 5}});
+  EXPECT_EQ(CostsOf([this] {
+              desk_.parts->Properties.ShowProperties("Far", "D:\\Docs\\letter 10.txt", "x");
+              World().Desktop.Advance(2000);
+              for (const char* tab : {"buttons", "position"}) {
+                desk_.parts->Properties.TabStrip1.Select(tab);
+                desk_.parts->Properties.TabStrip1.Click();
+                World().Desktop.Advance(2000);
+              }
+            }),
+            // The start menu's folder. The shell keeps the paths of its folders in memory.
+            Calls{"SpecialFolderLocation shell"});
+  EXPECT_TRUE(desk_.parts->Properties.PositionTabLoaded);
+}
+
+TEST_F(MessageThread, TheIconsOfTheLibraryMakeNone) {
+  World().Files.MakeFolders("C:\\Corvelle\\Icons");
+  World().Files.Put("C:\\Corvelle\\Icons\\others.dat", "D:\\Docs\\far.exe\r\n");
+  World().Icons.SetIconCount("D:\\Docs\\far.exe", 3);
+  EXPECT_EQ(CostsOf([this] {
+              desk_.parts->Library.Show({});
+              World().Desktop.Advance(2000);
+              desk_.parts->Library.TabStrip1.Select("other");
+              desk_.parts->Library.TabStrip1.Click();
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+  EXPECT_EQ(desk_.parts->Library.OtherView.DrawnCount(), 3U);
+}
+
 TEST_F(MessageThread, ADropMakesNone) {
   World().Files.Put("D:\\new.txt", "x");
   const PixelPoint at = desk_.MenuButton(2);

@@ -83,6 +83,19 @@ TEST_F(IconsOfTheStrip, UntilTheyAreKnownPicturesOfTheirKindStandForThem) {
   EXPECT_TRUE(ShowsGlyph(Strip().picSingleButton.Image(), Single(2), "document"));
 }
 
+TEST_F(IconsOfTheStrip, AnIconThatIsNotKnownYetIsNoBlankDocument) {
+  const std::string blank = "C:\\Corvelle\\Icons\\W95MBX02.ICO";
+  desk_.World.Files.Put(blank, "x");
+  desk_.World.Files.Vanish("D:\\one.txt");
+  desk_.Start();  // the blank document is known from now on
+  Advance(1000);
+  desk_.World.Files.Put("D:\\c.exe", "x");
+  desk_.PutSingle(1, Entry("c", "D:\\c.exe", "D:\\c.exe"));
+  Slow().Hang("D:*");
+  Strip().DoSingleButtons();
+  EXPECT_TRUE(ShowsGlyph(Strip().picSingleButton.Image(), Single(1), "program"));
+}
+
 TEST_F(IconsOfTheStrip, TheyAreAsLargeAsTheIcons) {
   desk_.SetOption(Option::LargeIcons, true);
   Slow().Hang("D:*");
@@ -188,6 +201,41 @@ TEST_F(IconsOfTheStrip, ADiskThatDoesNotAnswerLeavesThePicturesAndThePressIsTake
   EXPECT_TRUE(ShowsGlyph(Strip().picSingleButton.Image(), Single(1), "program"));
   desk_.ClickSingle(1);
   EXPECT_EQ(desk_.Started(), std::vector<std::string>{"D:\\b.exe"});
+}
+
+TEST_F(IconsOfTheStrip, OneThatWasGivenUpComesWhenItsPlaceAnswersAgain) {
+  Slow().HangForGood("D:*");
+  desk_.Start();
+  Advance(6000);
+  ASSERT_TRUE(ShowsGlyph(Strip().picSingleButton.Image(), Single(1), "program"));
+  Slow().Resume("D:*");
+  Advance(100);
+  EXPECT_EQ(OfSingle(1), SimShellIcons::ColourOf(31));
+  EXPECT_EQ(OfSingle(2), SimShellIcons::ColourOf(32));
+  EXPECT_EQ(OfButton(2), SimShellIcons::ColourOf(30));
+}
+
+TEST_F(IconsOfTheStrip, AndWhenItIsAskedAgainAfterItsRest) {
+  Slow().Hang("D:*");  // it can be called back
+  desk_.Start();
+  Advance(3000);
+  ASSERT_TRUE(ShowsGlyph(Strip().picSingleButton.Image(), Single(1), "program"));
+  Slow().Resume("D:*");
+  Advance(8000);
+  EXPECT_TRUE(ShowsGlyph(Strip().picSingleButton.Image(), Single(1), "program"))
+      << "nothing tells that it would answer";
+  Advance(2000);
+  EXPECT_EQ(OfSingle(1), SimShellIcons::ColourOf(31));
+}
+
+TEST_F(IconsOfTheStrip, AndAtOnceWhenTheUserWantsAllToBeLookedAtAgain) {
+  Slow().Hang("D:*");
+  desk_.Start();
+  Advance(3000);
+  Slow().Resume("D:*");
+  desk_.TheProgram.Answers.TryAllAgain();
+  Advance(1);
+  EXPECT_EQ(OfSingle(1), SimShellIcons::ColourOf(31));
 }
 
 TEST_F(IconsOfTheStrip, AStripThatIsUnloadedMeanwhileTakesNone) {

@@ -202,6 +202,7 @@ void MenuIcons::Ask(const std::string& key, desk::Urgency how, bool mayWait) {
       from_.Answers.Ask(std::move(request), std::move(later));
       return;
     }
+    later.Back = [this, key] { TryAgain(key); };
     const int wait = mayWait ? MayWait(question) : 0;
     const auto reply = from_.Answers.AskAtOnce(std::move(request), std::move(later), wait);
     if (!reply) {
@@ -238,6 +239,19 @@ void MenuIcons::Take(const std::string& key, std::size_t question, const desk::R
 
 void MenuIcons::TakeLate(const std::string& key, std::size_t question, const desk::Reply& reply) {
   Take(key, question, reply);
+  GoOn(key);
+}
+
+void MenuIcons::TryAgain(const std::string& key) {
+  const auto found = colIconFile_.find(key);
+  if (found == colIconFile_.end()) return;
+  if (!found->second.OnShow || found->second.Is != State::NotAvailable) return;
+  Ask(key, desk::Urgency::OnShow, false);
+  const auto asked = colIconFile_.find(key);
+  if (asked != colIconFile_.end() && asked->second.Is != State::Waiting) GoOn(key);
+}
+
+void MenuIcons::GoOn(const std::string& key) {
   const auto found = colIconFile_.find(key);
   if (found == colIconFile_.end()) return;
   const Entry& entry = found->second;

@@ -96,6 +96,10 @@ class MenuIcons {
   void Ask(const std::string& key, desk::Urgency how, bool mayWait);
   void Take(const std::string& key, std::size_t question, const desk::Reply& reply);
   void TakeLate(const std::string& key, std::size_t question, const desk::Reply& reply);
+  /// What was not available may be asked again.
+  void TryAgain(const std::string& key);
+  /// What follows an answer, which may have been taken by others.
+  void GoOn(const std::string& key);
   [[nodiscard]] int MayWait(const Lookup& question) const;
   [[nodiscard]] IconPicture PictureOf(const std::string& key);
   [[nodiscard]] IconPicture StandIn(const Entry& entry);

@@ -10,6 +10,7 @@
 #include "core/OptionFlags.h"
 #include "core/StripPlacement.h"
 #include "core/WindowPorts.h"
+#include "desk/AnswerDesk.h"
 #include "forms/EventPump.h"
 #include "forms/Scopes.h"
 #include "forms/WindowSystem.h"
@@ -125,6 +126,7 @@ void MainMenu::About() {
 void MainMenu::RefreshAll() {
   const StripPicture picture(with_.Ports);
   const forms::HourglassScope hourglass(menu_.Windows());
+  with_.Answers.TryAllAgain();
   menu_.InitIcons();
   with_.Ports.Toolbar->InitNewButtons();
 }

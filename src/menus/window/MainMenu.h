@@ -12,6 +12,9 @@ class OptionFile;
 struct GuardFlags;
 struct MenuState;
 struct StripPlacement;
+namespace desk {
+class AnswerDesk;
+}
 namespace forms {
 class EventPump;
 }
@@ -25,6 +28,7 @@ struct MainMenuParts {
   GuardFlags& Guards;
   MenuState& Menu;
   forms::EventPump& Events;
+  desk::AnswerDesk& Answers;
   HelpTopics Help;
 };
 

@@ -14,6 +14,7 @@ namespace corvelle {
           .Guards = program.Guards,
           .Menu = program.Menu,
           .Events = program.Events,
+          .Answers = program.Answers,
           .Help = HelpTopics({.Paths = program.Paths,
                               .Files = program.Services.Files,
                               .Desktop = program.Services.Desktop,

@@ -68,6 +68,7 @@ void frmQMenu::Form_KeyDown(int keyCode, ShiftState /*shift*/) {
       CloseMenu();
       break;
     case forms::key::F5:
+      program_.Answers.TryAllAgain();
       ReloadOnScreen();
       break;
     case forms::key::Left:
