@@ -15,6 +15,11 @@ function(corvelle_floor name)
   target_include_directories(corvelle_${name} ${scope} ${PROJECT_SOURCE_DIR}/src ${CORVELLE_GENERATED})
   if(sources)
     target_link_libraries(corvelle_${name} PRIVATE corvelle_options corvelle_shipped)
+    if(WIN32 AND NOT name STREQUAL win32)
+      # The more files the compiler sees at a time, the smaller is the program. The names of the
+      # system's headers are against it where they are included.
+      set_target_properties(corvelle_${name} PROPERTIES UNITY_BUILD_BATCH_SIZE 30)
+    endif()
   endif()
   foreach(floor IN LISTS ARG_DEPENDS)
     target_link_libraries(corvelle_${name} ${scope} corvelle_${floor})

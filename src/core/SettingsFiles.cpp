@@ -19,7 +19,7 @@ constexpr std::string_view kIconPage = "httpicon.htm";
 constexpr std::string_view kBrowserFile = "openurl.ini";
 constexpr std::string_view kCommandLine = "Command=";
 constexpr std::string_view kApplicationLine = "Application=";
-constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kEndOfLine = "\r\n";
 
 // None of these files has a use for more.
 constexpr std::size_t kTextLimit = 65536;
@@ -67,7 +67,7 @@ std::string LoadWebLinkIcon(FileSystem& files, const CodePage& ansi, std::string
 FileStatus SaveWebLinkIcon(FileSystem& files, const CodePage& ansi, std::string_view appPath,
                            std::string_view iconPath) {
   return files.Replace(PathOf(appPath, kIconFile),
-                       EncodeText(iconPath, ansi) + std::string(kLineEnd));
+                       EncodeText(iconPath, ansi) + std::string(kEndOfLine));
 }
 
 FileStatus WriteEmptyHtml(FileSystem& files, std::string_view path) {
@@ -84,10 +84,10 @@ std::string FormatBrowserChoice(const BrowserChoice& choice, const CodePage& ans
   std::string content;
   content += kCommandLine;
   content += EncodeText(choice.BrowserCommand, ansi);
-  content += kLineEnd;
+  content += kEndOfLine;
   content += kApplicationLine;
   content += EncodeText(choice.BrowserApplication, ansi);
-  content += kLineEnd;
+  content += kEndOfLine;
   return content;
 }
 

@@ -17,7 +17,7 @@ int Size(const std::vector<int>& row) noexcept { return static_cast<int>(row.siz
 constexpr long kMostCells = 250'000;
 
 /// A part of the two rows between two pairs that are fixed: from, and up to but without.
-struct Gap {
+struct RowGap {
   int FromA, ToA, FromB, ToB;
 };
 
@@ -27,13 +27,13 @@ class Matching {
       : a_(a), b_(b), ofA_(a.Keys.size(), -1), ofB_(b.Keys.size(), -1) {}
 
   std::vector<int> Run(const std::function<bool(int, int)>& similar) {
-    const Gap middle = PairEnds();
+    const RowGap middle = PairEnds();
     PairUnique(middle);
-    for (const Gap& gap : Gaps()) PairEqual(gap);
-    const std::vector<Gap> gaps = Gaps();
+    for (const RowGap& gap : Gaps()) PairEqual(gap);
+    const std::vector<RowGap> gaps = Gaps();
     PairMoved(a_.Keys, b_.Keys, false);
     PairMoved(a_.Names, b_.Names, true);
-    for (const Gap& gap : gaps) PairChanged(gap, similar);
+    for (const RowGap& gap : gaps) PairChanged(gap, similar);
     return std::move(ofA_);
   }
 
@@ -44,8 +44,8 @@ class Matching {
   }
   [[nodiscard]] bool Equal(int a, int b) const { return a_.Keys[At(a)] == b_.Keys[At(b)]; }
 
-  Gap PairEnds() {
-    Gap middle{0, Size(a_.Keys), 0, Size(b_.Keys)};
+  RowGap PairEnds() {
+    RowGap middle{0, Size(a_.Keys), 0, Size(b_.Keys)};
     while (middle.FromA < middle.ToA && middle.FromB < middle.ToB &&
            Equal(middle.FromA, middle.FromB)) {
       Pair(middle.FromA++, middle.FromB++);
@@ -58,7 +58,7 @@ class Matching {
   }
 
   /// What is there once on either side, as far as it keeps its order.
-  void PairUnique(const Gap& middle) {
+  void PairUnique(const RowGap& middle) {
     struct Seen {
       int InA = 0, InB = 0, A = 0, B = 0;
     };
@@ -84,8 +84,8 @@ class Matching {
   }
 
   /// Between the pairs, which are all in ascending order as long as this is asked.
-  [[nodiscard]] std::vector<Gap> Gaps() const {
-    std::vector<Gap> gaps;
+  [[nodiscard]] std::vector<RowGap> Gaps() const {
+    std::vector<RowGap> gaps;
     int fromA = 0;
     int fromB = 0;
     for (int i = 0; i <= Size(ofA_); ++i) {
@@ -100,7 +100,7 @@ class Matching {
   }
 
   /// The longest common row of a gap.
-  void PairEqual(const Gap& gap) {
+  void PairEqual(const RowGap& gap) {
     const int rows = gap.ToA - gap.FromA;
     const int columns = gap.ToB - gap.FromB;
     if (static_cast<long>(rows) * columns > kMostCells) return;
@@ -145,7 +145,7 @@ class Matching {
     }
   }
 
-  void PairChanged(const Gap& gap, const std::function<bool(int, int)>& similar) {
+  void PairChanged(const RowGap& gap, const std::function<bool(int, int)>& similar) {
     int next = gap.FromB;
     for (int i = gap.FromA; i < gap.ToA; ++i) {
       if (ofA_[At(i)] >= 0) continue;

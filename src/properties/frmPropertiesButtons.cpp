@@ -16,7 +16,7 @@ namespace corvelle {
 namespace {
 
 constexpr int kImageSide = 16;
-constexpr int kAtOnce = 40;  // milliseconds for which one icon may hold up the others
+constexpr int kIconsAtOnce = 40;  // milliseconds for which one icon may hold up the others
 
 }  // namespace
 
@@ -67,7 +67,7 @@ int frmProperties::NodeImage(const std::string& icon) {
   } else if (form.Kind == IconKind::Empty) {
     look.Glyph = "unknown";
   } else {
-    look = nodeIcons_.Ask(icon, kImageSide, kAtOnce,
+    look = nodeIcons_.Ask(icon, kImageSide, kIconsAtOnce,
                           [this, icon](const IconLook& late) { TakeLateImage(icon, late); });
   }
   const int image = AddNodeImage(look);

@@ -22,7 +22,7 @@ namespace {
 constexpr int kFollowMilliseconds = 100;
 constexpr int kLeastSize = 32;  // pixels
 constexpr int kGlyphSize = 16;
-constexpr int kAtOnce = 40;  // milliseconds for which a carry waits for its picture
+constexpr int kPictureAtOnce = 40;  // milliseconds for which a carry waits for its picture
 constexpr Rgb kBlack = 0x00000000;
 constexpr Rgb kWhite = 0x00FFFFFF;
 
@@ -73,7 +73,7 @@ Picture DragImage::MakePicture(std::string_view icon) {
     return own ? own : hand;
   }
   const Picture cut =
-      CutOut(icons_.Ask(icon, PictureSize(), kAtOnce, [this, hand](const IconLook& look) {
+      CutOut(icons_.Ask(icon, PictureSize(), kPictureAtOnce, [this, hand](const IconLook& look) {
         const Picture late = CutOut(look);
         Carry(late ? late : hand);
         ShowPointer();

@@ -12,7 +12,7 @@ namespace corvelle {
 namespace {
 
 /// How long one icon may hold up a strip that is rebuilt. Milliseconds.
-constexpr int kAtOnce = 40;
+constexpr int kIconsAtOnce = 40;
 
 }  // namespace
 
@@ -26,7 +26,7 @@ void StripIcons::Begin() {
 
 void StripIcons::Draw(std::string_view text, const PixelRect& place) {
   // The strip is to be up before its icons are: the first one takes a while to come.
-  const int wait = guards_.StartingUp ? 0 : kAtOnce;
+  const int wait = guards_.StartingUp ? 0 : kIconsAtOnce;
   Paint(place, icons_.Ask(text, place.Width(), wait,
                           [this, place](const IconLook& look) { Paint(place, look); }));
 }
