@@ -22,7 +22,7 @@
 #include "customize/MenuSetFiles.h"
 #include "customize/Saving.h"
 #include "customize/TreeMerge.h"
-#include "icons/IconResolution.h"
+#include "icons/AskedIcons.h"
 #include "platform/ShellIcons.h"
 #include "program/Parts.h"
 #include "sim/Complain.h"
@@ -475,8 +475,11 @@ class IconGround {
   }
 
   void Resolve() {
+    constexpr int kAtOnce = 60;  // milliseconds
+    AskedIcons icons(copy_.TheProgram.IconSources);
     for (const std::string& file : files_) {
-      if (!ResolveAndDraw(copy_.TheProgram, *canvas_, file, {0, 0}, kSize)) GiveUp("no icon");
+      const IconLook look = icons.Ask(file, kSize, kAtOnce, [](const IconLook&) {});
+      if (look.Pixels.IsEmpty() || !icons.Draw(*canvas_, look, kSize)) GiveUp("no icon");
     }
   }
   /// The calls of the shell that those texts cannot do without.

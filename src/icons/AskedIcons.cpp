@@ -11,7 +11,6 @@
 #include "forms/WindowSystem.h"
 #include "icons/Glyphs.h"
 #include "icons/IconQuestions.h"
-#include "icons/IconResolution.h"
 #include "platform/Canvas.h"
 #include "platform/ShellIcons.h"
 

@@ -1,25 +1,47 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
 
-#include "core/Program.h"
 #include "e2e/UserNumbers.h"
-#include "icons/IconResolution.h"
+#include "forms/LookupLedger.h"
+#include "icons/IconForm.h"
+#include "icons/IconQuestions.h"
 #include "win32/Win32Platform.h"
 
 namespace corvelle {
 namespace {
 
-/// A special folder for each name: the first icons of the system's list.
-class FirstIcons final : public SpecialFoldersPort {
- public:
-  int SpecialFolderIconIndex(std::string_view) override { return 1; }
-  void OpenSpecialFolder(std::string_view, std::string_view) override {}
-  bool ShowContextMenu(std::string_view, std::string_view, PixelPoint, WindowId) override {
-    return false;
+constexpr IconPlaces kPlaces{.AppPath = "C:\\windows\\",
+                             .IconsPath = "C:\\windows\\icons\\",
+                             .WebLinkIcon = "C:\\windows\\notepad.exe"};
+
+/// Looks for what an icon text means and draws it, with the calls that a thread of the program
+/// makes for it. False when nothing was found.
+bool Draw(const Platform& services, Canvas& canvas, std::string_view text, int size) {
+  const IconForm form = ClassifyIcon(text, kPlaces, IconCaller::Toolbar);
+  const IconList list = IconListOf(size);
+  if (form.Kind == IconKind::SystemIndex &&
+      services.Icons.DrawSystemIcon(canvas, list, form.Index, {0, 0}, IconStyle::Normal)) {
+    return true;
   }
-};
+  std::vector<Lookup> questions = IconQuestions(form, false, size);
+  for (Lookup& blank : BlankIconQuestions(kPlaces.IconsPath, false, size))
+    questions.push_back(std::move(blank));
+  for (const Lookup& question : questions) {
+    const LookupAnswer answer = forms::AnswerLookup(
+        {services.Files, services.Links, services.System, services.Icons, services.Folders},
+        question);
+    const auto* const pixels = std::get_if<IconPixels>(&answer.Value);
+    if (pixels == nullptr || pixels->IsEmpty()) continue;
+    canvas.DrawPixels(*pixels, {0, 0});
+    return true;
+  }
+  return false;
+}
 
 struct ObjectCounts {
   DWORD Gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
@@ -29,12 +51,7 @@ struct ObjectCounts {
 TEST(ObjectCounts, TenThousandIconsOfAllKindsLeaveNothingBehind) {
   constexpr int kRounds = 1250;  // of eight icons
   win32::Win32Platform home;
-  Program program(home.Services(), home.Windows());
-  program.Paths.AppPath = "C:\\windows\\";
-  program.Paths.IconsPath = "C:\\windows\\icons\\";
-  program.Icons.WebLinkIcon = "C:\\windows\\notepad.exe";
-  FirstIcons folders;
-  program.Ports.SpecialFolders = &folders;
+  const Platform services = home.Services();
   const auto canvas = home.Windows().CreateCanvas({64, 64});
   const std::string_view texts[] = {
       "",                             // the blank document
@@ -49,7 +66,7 @@ TEST(ObjectCounts, TenThousandIconsOfAllKindsLeaveNothingBehind) {
   const auto drawAll = [&](int size) {
     int drawn = 0;
     for (const std::string_view text : texts) {
-      if (ResolveAndDraw(program, *canvas, text, {0, 0}, size)) ++drawn;
+      if (Draw(services, *canvas, text, size)) ++drawn;
     }
     return drawn;
   };
