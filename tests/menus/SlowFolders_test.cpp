@@ -97,6 +97,15 @@ TEST_F(SlowFolder, AMenuIsUpWithItsStoredRecordsWhileAFolderDoesNotAnswer) {
   EXPECT_TRUE(desk_.Generated().empty());
 }
 
+TEST_F(SlowFolder, IsSaidToBeReadWhenItHasTakenMoreThanAMoment) {
+  Slow().Hang("D:");
+  Open();
+  Advance(130);
+  EXPECT_EQ(desk_.Captions(), stored_);
+  Advance(40);
+  EXPECT_EQ(desk_.Captions(), (Strings{"Item 2", "Item 3 (reading...)"}));
+}
+
 TEST_F(SlowFolder, WhatItHoldsComesIntoTheMenuThatIsUp) {
   Slow().Delay("D:", 120);
   Open();
