@@ -8,7 +8,7 @@
 #include "customize/CustLayout.h"
 #include "forms/Scopes.h"
 #include "icons/Glyphs.h"
-#include "launch/FileTitle.h"
+#include "launch/LaunchWiring.h"
 #include "platform/FileSystem.h"
 #include "platform/Input.h"
 #include "shell/FileErrorText.h"
@@ -286,8 +286,7 @@ bool frmCust::IsPlainFolder(std::string_view path) {
 }
 
 std::string frmCust::TitleOf(std::string_view path) {
-  return FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
-      .GetFileTitle(path);
+  return TitlesOf(program_).GetFileTitle(path);
 }
 
 std::string frmCust::RecentFolder() {

@@ -3,10 +3,15 @@
 #include "core/Program.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
+#include "launch/FileTitle.h"
 
 namespace corvelle {
 
-// What starts entries gets of a program, which outlives it.
+// What starts entries and titles files gets of a program, which outlives it.
+
+[[nodiscard]] inline FileTitles TitlesOf(Program& program) noexcept {
+  return FileTitles(program.Starts, program.Services.Ansi, program.OptionFlags);
+}
 
 [[nodiscard]] inline BuiltInParts BuiltInPartsOf(Program& program) noexcept {
   return {.Files = program.Services.Files,

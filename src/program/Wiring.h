@@ -3,6 +3,7 @@
 #include "about/DefaultEntries.h"
 #include "about/frmAbout.h"
 #include "core/Program.h"
+#include "launch/LaunchWiring.h"
 #include "search/frmNetSearch.h"
 #include "weblink/frmURL.h"
 
@@ -22,7 +23,7 @@ namespace corvelle {
           .Messages = program.Messages,
           .Progress = program.Progress,
           .Events = program.Events,
-          .Titles = FileTitles(program.Starts, program.Services.Ansi, program.OptionFlags)};
+          .Titles = TitlesOf(program)};
 }
 
 [[nodiscard]] inline AboutParts AboutPartsOf(Program& program) noexcept {

@@ -3,7 +3,7 @@
 #include "base/Text.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
-#include "launch/FileTitle.h"
+#include "launch/LaunchWiring.h"
 #include "properties/BoxTips.h"
 #include "properties/frmProperties.h"
 #include "shell/cShellLink.h"
@@ -87,9 +87,7 @@ void frmProperties::ShowLibrary() {
 void frmProperties::cmdFile_Click() {
   if (browsing_) return;
   const std::string path = ShowOpenFile();
-  if (!path.empty() && IsLoaded())
-    SetFileEntry(path, FileTitles(program_.Starts, program_.Services.Ansi, program_.OptionFlags)
-                           .GetFileTitle(path));
+  if (!path.empty() && IsLoaded()) SetFileEntry(path, TitlesOf(program_).GetFileTitle(path));
 }
 
 void frmProperties::cmdFolder_Click() {

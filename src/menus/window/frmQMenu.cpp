@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
+#include "launch/LaunchWiring.h"
 
 namespace corvelle {
 
@@ -47,12 +48,11 @@ frmQMenu::frmQMenu(Program& program)
       program_(program),
       icons_(program.IconSources),
       items_(program.Services.Ansi),
-      drops_({.Files = FileDrops(
-                  {.Files = program.Services.Files,
-                   .Ansi = program.Services.Ansi,
-                   .Titles = FileTitles(program.Starts, program.Services.Ansi, program.OptionFlags),
-                   .Guards = program.Guards,
-                   .Ports = program.Ports}),
+      drops_({.Files = FileDrops({.Files = program.Services.Files,
+                                  .Ansi = program.Services.Ansi,
+                                  .Titles = TitlesOf(program),
+                                  .Guards = program.Guards,
+                                  .Ports = program.Ports}),
               .Launch = program.Launch,
               .Ports = program.Ports,
               .Entry = program.Entry},

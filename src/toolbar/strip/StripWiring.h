@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Program.h"
+#include "launch/LaunchWiring.h"
 #include "toolbar/companion/DragImage.h"
 #include "toolbar/companion/Popup.h"
 #include "toolbar/companion/frmMinimize.h"
@@ -20,10 +21,6 @@ namespace corvelle {
 
 // What each part of the strip, and each window beside it, gets of a program. The program outlives
 // them.
-
-[[nodiscard]] inline FileTitles TitlesOf(Program& program) noexcept {
-  return FileTitles(program.Starts, program.Services.Ansi, program.OptionFlags);
-}
 
 [[nodiscard]] inline StripFiles StripFilesOf(Program& program) noexcept {
   return StripFiles({.Files = program.Services.Files,
