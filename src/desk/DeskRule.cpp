@@ -63,7 +63,7 @@ class Turn {
     const Request& what = asked.What;
     const std::string key = KeyOfLookup(what.Question);
     if (const auto* const kept = what.MaxAge > 0 ? state_.Kept.Find(key) : nullptr;
-        kept != nullptr && now_ - kept->At <= what.MaxAge) {
+        kept != nullptr && now_ - kept->At <= what.MaxAge && kept->At > state_.AllLookedAtSince) {
       Commands.push_back(TellEnd{{asked.Number, End::Answered, kept->Value, {}}});
       return;
     }
@@ -155,6 +155,7 @@ class Turn {
   void On(const TryAllAgain& /*again*/) {
     for (auto& [name, lane] : state_.Lanes) lane.RestsUntil = 0;
     state_.RestingKeys.clear();
+    state_.AllLookedAtSince = now_;
   }
 
   void On(const TimePassed& /*passed*/) {}

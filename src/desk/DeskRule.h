@@ -82,7 +82,7 @@ struct UrgencyChanged {
 struct TryAgain {
   Lookup Question;
 };
-/// The same for all places.
+/// The same for all places, and no answer that is kept is young enough to do without a question.
 struct TryAllAgain {};
 struct TimePassed {};
 
@@ -186,6 +186,9 @@ struct State {
   std::map<std::string, std::uint64_t> JobOfKey;
   std::map<std::string, Lane> Lanes;
   std::map<std::string, Resting> RestingKeys;
+  /// When the user last wanted all to be looked at again: answers that came before are only good
+  /// until new ones come, however young they are.
+  std::int64_t AllLookedAtSince = -1;
   std::map<std::string, std::map<Ticket, Watcher>> Watchers;  // by lane
   std::map<Operation, Under> Operations;
   std::set<std::pair<std::int64_t, Ticket>> StagesDue;

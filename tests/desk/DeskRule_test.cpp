@@ -154,6 +154,19 @@ TEST_F(DeskRule, AKeptAnswerServesOnlyAsLongAsItMayBeOld) {
   EXPECT_EQ(desk.Begins, 2);
 }
 
+TEST_F(DeskRule, NoKeptAnswerIsYoungEnoughWhenTheUserWantsAllToBeLookedAtAgain) {
+  const Lookup question{.Path = "C:\\a"};
+  desk.Ask(question);
+  desk.Return("C:\\a");
+  desk.Now += 1;
+  desk.Take(TryAllAgain{});
+  EXPECT_EQ(desk.Desk().Kept.Count(), 1U);
+  EXPECT_TRUE(desk.IsOpen(desk.Ask(question, Urgency::OnShow, 1, 500)));
+  desk.Now += 1;
+  desk.Return("C:\\a");
+  EXPECT_TRUE(desk.Ended(desk.Ask(question, Urgency::OnShow, 1, 500), End::Answered));
+}
+
 TEST_F(DeskRule, ALaneIsAskedOneByOneTheMostUrgentFirst) {
   desk.AskIsThere("D:\\first", Urgency::Ahead);
   const Ticket ahead = desk.AskIsThere("D:\\ahead", Urgency::Ahead);
