@@ -6,8 +6,8 @@
 #include "base/Sort.h"
 #include "base/Text.h"
 #include "core/Program.h"
+#include "icons/IconsWiring.h"
 #include "icons/LibraryFile.h"
-#include "icons/OtherIcons.h"
 #include "platform/ShellIcons.h"
 #include "shell/LinkFiles.h"
 
@@ -44,7 +44,7 @@ AddedFile AddOtherFile(Program& program, std::vector<std::string>& rows, std::st
   }
   rows.push_back(row);
   SortTexts(rows);
-  SaveOthers(program, rows);
+  OtherIconsOf(program).Save(rows);
   return {.Row = PlaceOf(rows, row)};
 }
 
@@ -55,7 +55,7 @@ std::string RemoveQuestion(std::string_view row) {
 void RemoveOtherFile(Program& program, std::vector<std::string>& rows, int row) {
   if (row < 0 || static_cast<std::size_t>(row) >= rows.size()) return;
   rows.erase(rows.begin() + row);
-  SaveOthers(program, rows);
+  OtherIconsOf(program).Save(rows);
 }
 
 }  // namespace corvelle

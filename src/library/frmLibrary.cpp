@@ -7,9 +7,8 @@
 #include "base/Text.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
-#include "icons/IconLibrary.h"
+#include "icons/IconsWiring.h"
 #include "icons/LibraryFile.h"
-#include "icons/OtherIcons.h"
 #include "library/LibraryLayout.h"
 #include "library/OtherFiles.h"
 #include "platform/ShellIcons.h"
@@ -128,7 +127,7 @@ void frmLibrary::Form_Unload() {
 
 // Pictures that were made under other colours are made again.
 void frmLibrary::SetFormSize() {
-  static_cast<void>(CheckLibraryDisplay(program_));
+  static_cast<void>(LibraryListsOf(program_).CheckDisplay());
   const forms::ScreenInfo screen = Screen();
   const PixelSize caption = MeasureText(kSampleCaption);
   const auto scaled = [&](int pixels) {
@@ -175,10 +174,10 @@ void frmLibrary::SetFormSize() {
 // ---- the library ----
 
 void frmLibrary::BuildLibrary() {
-  if (!program_.Icons.LibraryBuilt) DropPreparedLists(program_);
+  if (!program_.Icons.LibraryBuilt) LibraryListsOf(program_).DropPrepared();
   List1.Clear();
   List1.Add(std::string(kAllCategories));
-  for (const std::string& category : LibraryCategories(program_)) List1.Add(category);
+  for (const std::string& category : LibraryListsOf(program_).Categories()) List1.Add(category);
   List1.Select(0);
   ShowView(0);
   program_.Icons.LibraryBuilt = true;
@@ -188,9 +187,9 @@ void frmLibrary::ShowView(int position) {
   if (position < 0) return;
   std::vector<std::string> names;
   if (position > 0) {
-    names = CategoryIcons(program_, List1.Items()[static_cast<std::size_t>(position)]);
+    names = LibraryListsOf(program_).IconsOf(List1.Items()[static_cast<std::size_t>(position)]);
   } else {
-    names = AllIcons(program_);
+    names = LibraryListsOf(program_).AllIcons();
     // Not every disk gives its names in order.
     SortTexts(names);
   }
@@ -214,7 +213,7 @@ void frmLibrary::ShowTab() {
   const bool library = ShowsLibrary();
   if (!library && !std::exchange(othersRead_, true)) {
     const forms::HourglassScope hourglass(program_.Windows);
-    List2Other = ReadOthers(program_);
+    List2Other = OtherIconsOf(program_).Read();
     FillOthers(List2Other.empty() ? -1 : 0);
   }
   List1.SetVisible(library);
@@ -299,7 +298,7 @@ void frmLibrary::cmdRemove_Click() {
 // ---- the buttons ----
 
 void frmLibrary::cmdRefresh_Click() {
-  ResetLibrary(program_);
+  LibraryListsOf(program_).Reset();
   program_.Messages.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
   if (!IsLoaded()) return;
   BuildLibrary();

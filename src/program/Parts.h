@@ -4,7 +4,7 @@
 #include "about/frmAbout.h"
 #include "core/Program.h"
 #include "customize/frmCust.h"
-#include "icons/IconLibrary.h"
+#include "icons/IconsWiring.h"
 #include "icons/ShellIconRule.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
@@ -59,7 +59,7 @@ class Parts {
   MainMenu TheMainMenu{MainMenuPartsOf(TheProgram), Menu};
   DefaultEntries TheDefaultEntries{DefaultEntryPartsOf(TheProgram)};
   ShellIconRule TheIconRule{TheProgram.Answers, TheProgram.Paths, TheProgram.Icons};
-  IconLibrary TheIconLibrary{TheProgram};
+  IconLibrary TheIconLibrary{UnpackPartsOf(TheProgram)};
   BuiltInCommands TheBuiltIns{BuiltInPartsOf(TheProgram)};
   Browser TheBrowser{BrowserPartsOf(TheProgram)};
   SpecialFolders TheSpecialFolders{TheProgram.Services.Folders, TheProgram.Launch};

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Program.h"
+#include "icons/IconsWiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -35,6 +36,7 @@ class OthersDesk : public ::testing::Test {
     world.Files.Put("C:\\Windows\\Explorer.exe", "x");
   }
 
+  OtherIcons Others() { return OtherIconsOf(program); }
   std::string Stored() { return world.Files.Get(kOthers).value_or("(missing)"); }
 
   sim::World world;
@@ -48,16 +50,16 @@ TEST_F(OthersDesk, TheFirstListIsTheShellsFilesAndTheRegisteredPrograms) {
   const Rows expected = {"Explorer.exe |C:\\Windows\\Explorer.exe",
                          "paint.exe |C:\\tools\\paint.exe",
                          "Shell32.dll |C:\\Windows\\System32\\Shell32.dll"};
-  EXPECT_EQ(InitOthers(program), expected);
+  EXPECT_EQ(Others().InitOthers(), expected);
   EXPECT_EQ(Stored(),
             "C:\\Windows\\Explorer.exe\r\nC:\\tools\\paint.exe\r\n"
             "C:\\Windows\\System32\\Shell32.dll\r\n");
-  EXPECT_EQ(ReadOthers(program), expected);
+  EXPECT_EQ(Others().Read(), expected);
 }
 
 TEST_F(OthersDesk, ShellFilesThatAreNotThereAreLeftOut) {
   world.Files.Put("C:\\Windows\\Explorer.exe", "x");
-  EXPECT_EQ(InitOthers(program), Rows{"Explorer.exe |C:\\Windows\\Explorer.exe"});
+  EXPECT_EQ(Others().InitOthers(), Rows{"Explorer.exe |C:\\Windows\\Explorer.exe"});
 }
 
 TEST_F(OthersDesk, QuotesComeOffAndAProgramIsListedOnce) {
@@ -66,48 +68,48 @@ TEST_F(OthersDesk, QuotesComeOffAndAProgramIsListedOnce) {
                  "\"C:\\Tools\\a.exe\"");
   world.Keys.Set(RegistryRoot::LocalMachine, std::string(kAppPaths) + "b.exe", "",
                  "\"C:\\TOOLS\\A.EXE\"");
-  EXPECT_EQ(InitOthers(program), Rows{"a.exe |C:\\tools\\a.exe"});
+  EXPECT_EQ(Others().InitOthers(), Rows{"a.exe |C:\\tools\\a.exe"});
 }
 
 TEST_F(OthersDesk, KeysWithoutAPathOrWithABarAreLeftOut) {
   world.Keys.Set(RegistryRoot::LocalMachine, std::string(kAppPaths) + "a.exe", "Path", "C:\\Tools");
   Register("b.exe", "", 1);
   Register("c.exe", "C:\\a|b.exe", 1);
-  EXPECT_TRUE(InitOthers(program).empty());
+  EXPECT_TRUE(Others().InitOthers().empty());
   EXPECT_EQ(Stored(), "(missing)");
 }
 
 TEST_F(OthersDesk, AStoredListIsReadAndSortedWithoutLookingForPrograms) {
   PutShellFiles();
   world.Files.Put(kOthers, "C:\\b.dll\r\n  \r\nC:\\A.exe");
-  EXPECT_EQ(ReadOthers(program), (Rows{"A.exe |C:\\A.exe", "b.dll |C:\\b.dll"}));
+  EXPECT_EQ(Others().Read(), (Rows{"A.exe |C:\\A.exe", "b.dll |C:\\b.dll"}));
   EXPECT_EQ(Stored(), "C:\\b.dll\r\n  \r\nC:\\A.exe");
 }
 
 TEST_F(OthersDesk, OnlyThePathBehindTheBarIsStored) {
-  SaveOthers(program, {"A.exe | C:\\Tools\\A.exe ", "b.dll |C:\\b.dll"});
+  Others().Save({"A.exe | C:\\Tools\\A.exe ", "b.dll |C:\\b.dll"});
   EXPECT_EQ(Stored(), "C:\\Tools\\A.exe\r\nC:\\b.dll\r\n");
 }
 
 TEST_F(OthersDesk, AnEmptyListRemovesTheFileAndTheNextReadMakesItAnew) {
   PutShellFiles();
   world.Files.Put(kOthers, "C:\\b.dll\r\n");
-  SaveOthers(program, {});
+  Others().Save({});
   EXPECT_EQ(Stored(), "(missing)");
-  EXPECT_EQ(ReadOthers(program).size(), 2U);
+  EXPECT_EQ(Others().Read().size(), 2U);
   EXPECT_NE(Stored(), "(missing)");
 }
 
 TEST_F(OthersDesk, ErrorsWithTheFileAreQuietAndTheOldListStays) {
   world.Files.Put(kOthers, "C:\\b.dll\r\n");
   world.Files.HoldOpen(kOthers);
-  EXPECT_TRUE(ReadOthers(program).empty());
-  SaveOthers(program, {"a.exe |C:\\a.exe"});
-  SaveOthers(program, {});
+  EXPECT_TRUE(Others().Read().empty());
+  Others().Save({"a.exe |C:\\a.exe"});
+  Others().Save({});
   world.Files.LetGo(kOthers);
   EXPECT_EQ(Stored(), "C:\\b.dll\r\n");
   world.Files.FillDisk(0);
-  SaveOthers(program, {"a.exe |C:\\a.exe", "c.exe |C:\\a\\long\\path\\c.exe"});
+  Others().Save({"a.exe |C:\\a.exe", "c.exe |C:\\a\\long\\path\\c.exe"});
   EXPECT_EQ(Stored(), "C:\\b.dll\r\n");
 }
 

@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Program.h"
-#include "icons/IconLibrary.h"
-#include "icons/OtherIcons.h"
+#include "icons/IconsWiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -111,8 +110,9 @@ TEST_F(OtherFilesDesk, WithoutItsLastRowTheListIsDeletedAndMadeAgain) {
   AddOtherFile(program, rows, kTool);
   RemoveOtherFile(program, rows, 0);
   EXPECT_EQ(Stored(), "(missing)");
-  EXPECT_EQ(ReadOthers(program), (Rows{"Explorer.exe |C:\\Windows\\Explorer.exe",
-                                       "Shell32.dll |C:\\Windows\\System32\\Shell32.dll"}));
+  EXPECT_EQ(OtherIconsOf(program).Read(),
+            (Rows{"Explorer.exe |C:\\Windows\\Explorer.exe",
+                  "Shell32.dll |C:\\Windows\\System32\\Shell32.dll"}));
 }
 
 TEST_F(OtherFilesDesk, ADiskThatRefusesKeepsTheOldListOnIt) {
@@ -140,7 +140,7 @@ const Rows kTwo = {"a.dll |C:\\a.dll", "z.dll |C:\\z.dll"};
 const StoredAct kStoredActs[] = {
     {"the first list is made",
      {},
-     [](Program& program, Rows&) { static_cast<void>(ReadOthers(program)); },
+     [](Program& program, Rows&) { static_cast<void>(OtherIconsOf(program).Read()); },
      kShellFiles},
     {"a file is added",
      kTwo,
@@ -155,7 +155,7 @@ const StoredAct kStoredActs[] = {
      {"a.dll |C:\\a.dll"},
      [](Program& program, Rows& rows) { RemoveOtherFile(program, rows, 0); },
      kShellFiles},
-    {"the library is reset", kTwo, [](Program& program, Rows&) { ResetLibrary(program); },
+    {"the library is reset", kTwo, [](Program& program, Rows&) { LibraryListsOf(program).Reset(); },
      kShellFiles},
 };
 
@@ -168,13 +168,13 @@ TEST_F(OtherFilesDesk, AfterAnEndAtAnyCallTheNextStartFindsTheOldListOrTheNew) {
     for (int n = 1; ended; ++n) {
       SCOPED_TRACE(std::string(act.Name) + ", ended at call " + std::to_string(n));
       world.Files.Vanish(kOthers);
-      if (!act.Before.empty()) SaveOthers(program, act.Before);
+      if (!act.Before.empty()) OtherIconsOf(program).Save(act.Before);
       rows = act.Before;
       world.Files.FailFrom(n, FileError::DiskFull);
       act.Do(program, rows);
       ended = world.Files.Hit();
       world.Files.StopFailing();
-      const Rows found = ReadOthers(program);
+      const Rows found = OtherIconsOf(program).Read();
       // Without a list there was none to keep.
       const bool old = found == (act.Before.empty() ? kShellFiles : act.Before);
       EXPECT_TRUE(old || found == act.After) << found.size() << " rows";
