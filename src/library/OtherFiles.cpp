@@ -5,8 +5,6 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
-#include "core/Program.h"
-#include "icons/IconsWiring.h"
 #include "icons/LibraryFile.h"
 #include "platform/ShellIcons.h"
 #include "shell/LinkFiles.h"
@@ -31,20 +29,21 @@ int PlaceOf(const std::vector<std::string>& rows, std::string_view row) {
 
 }  // namespace
 
-AddedFile AddOtherFile(Program& program, std::vector<std::string>& rows, std::string_view chosen) {
+AddedFile AddOtherFile(const OtherFileParts& with, std::vector<std::string>& rows,
+                       std::string_view chosen) {
   const bool shortcut = EndsWithNoCase(chosen, kShortcut);
-  const std::string path = Trim(ResolveChosenFile(program.Services.Links, chosen));
+  const std::string path = Trim(ResolveChosenFile(with.Links, chosen));
   if (path.empty()) return {.Refusal = std::string(kNoTarget)};
   const std::string row = OtherFileRow(path);
   const std::string named =
       Quoted(OtherFileName(row)) + std::string(shortcut ? kOfShortcut : std::string_view());
   if (PlaceOf(rows, row) >= 0) return {.Refusal = named + std::string(kAlreadyThere)};
-  if (program.Services.Icons.IconCount(path) <= 0) {
+  if (with.Icons.IconCount(path) <= 0) {
     return {.Refusal = named + std::string(kNoIcons)};
   }
   rows.push_back(row);
   SortTexts(rows);
-  OtherIconsOf(program).Save(rows);
+  with.Stored.Save(rows);
   return {.Row = PlaceOf(rows, row)};
 }
 
@@ -52,10 +51,10 @@ std::string RemoveQuestion(std::string_view row) {
   return "Are you sure you want to remove " + Quoted(OtherFileName(row));
 }
 
-void RemoveOtherFile(Program& program, std::vector<std::string>& rows, int row) {
+void RemoveOtherFile(const OtherIcons& stored, std::vector<std::string>& rows, int row) {
   if (row < 0 || static_cast<std::size_t>(row) >= rows.size()) return;
   rows.erase(rows.begin() + row);
-  OtherIconsOf(program).Save(rows);
+  stored.Save(rows);
 }
 
 }  // namespace corvelle

@@ -5,13 +5,12 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/IconState.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "forms/Scopes.h"
-#include "icons/IconsWiring.h"
 #include "icons/LibraryFile.h"
 #include "library/LibraryLayout.h"
-#include "library/OtherFiles.h"
-#include "platform/ShellIcons.h"
 #include "platform/SystemInfo.h"
 
 namespace corvelle {
@@ -29,8 +28,8 @@ constexpr float kTwipsOfPixel = 15;
 
 }  // namespace
 
-frmLibrary::frmLibrary(Program& program)
-    : Form(program.Windows, "frmLibrary", forms::BorderStyle::Fixed, true),
+frmLibrary::frmLibrary(const LibraryParts& with)
+    : Form(with.Windows, "frmLibrary", forms::BorderStyle::Fixed, true),
       TabStrip1(*this, "TabStrip1"),
       List1(*this, "List1"),
       List1Other(*this, "List1Other"),
@@ -46,10 +45,10 @@ frmLibrary::frmLibrary(Program& program)
       cmdRemove(*this, "cmdRemove"),
       cmdOK(*this, "cmdOK"),
       cmdCancel(*this, "cmdCancel"),
-      LibraryView(program.Answers, Pic2, VS1),
-      OtherView(program.Answers, picOther, vsOther),
-      program_(program),
-      counted_(program.Answers.NewOwner()) {
+      LibraryView(with.Answers, Pic2, VS1),
+      OtherView(with.Answers, picOther, vsOther),
+      with_(with),
+      counted_(with.Answers.NewOwner()) {
   TabStrip1.Add(kLibraryTab, "Library");
   TabStrip1.Add(kOtherTab, "Other Files");
   txtFilter.SetCue("Filter");
@@ -83,8 +82,8 @@ void frmLibrary::Wire() {
 void frmLibrary::SetFormName(std::string_view name) {
   caller_ = std::string(name);
   box_ = nullptr;
-  if (EqualNoCase(name, "frmProperties")) box_ = program_.Ports.PropertiesIcon;
-  if (EqualNoCase(name, "frmCust")) box_ = program_.Ports.CustomizeIcon;
+  if (EqualNoCase(name, "frmProperties")) box_ = with_.Ports.PropertiesIcon;
+  if (EqualNoCase(name, "frmCust")) box_ = with_.Ports.CustomizeIcon;
 }
 
 void frmLibrary::Show(std::string_view caller) {
@@ -103,7 +102,7 @@ void frmLibrary::Show(std::string_view caller) {
 }
 
 void frmLibrary::Form_Load() {
-  const forms::HourglassScope hourglass(program_.Windows);
+  const forms::HourglassScope hourglass(with_.Windows);
   SetCaption("Icon Library");
   SetBackColor(forms::color::ButtonFace);
   txtFilter.SetText({});
@@ -116,7 +115,7 @@ void frmLibrary::Form_Load() {
 }
 
 void frmLibrary::Form_Unload() {
-  program_.Answers.Drop(counted_);
+  with_.Answers.Drop(counted_);
   LibraryView.SetShown(false);
   OtherView.SetShown(false);
   LibraryView.Clear();
@@ -127,7 +126,7 @@ void frmLibrary::Form_Unload() {
 
 // Pictures that were made under other colours are made again.
 void frmLibrary::SetFormSize() {
-  static_cast<void>(LibraryListsOf(program_).CheckDisplay());
+  static_cast<void>(with_.Lists.CheckDisplay());
   const forms::ScreenInfo screen = Screen();
   const PixelSize caption = MeasureText(kSampleCaption);
   const auto scaled = [&](int pixels) {
@@ -174,26 +173,26 @@ void frmLibrary::SetFormSize() {
 // ---- the library ----
 
 void frmLibrary::BuildLibrary() {
-  if (!program_.Icons.LibraryBuilt) LibraryListsOf(program_).DropPrepared();
+  if (!with_.Icons.LibraryBuilt) with_.Lists.DropPrepared();
   List1.Clear();
   List1.Add(std::string(kAllCategories));
-  for (const std::string& category : LibraryListsOf(program_).Categories()) List1.Add(category);
+  for (const std::string& category : with_.Lists.Categories()) List1.Add(category);
   List1.Select(0);
   ShowView(0);
-  program_.Icons.LibraryBuilt = true;
+  with_.Icons.LibraryBuilt = true;
 }
 
 void frmLibrary::ShowView(int position) {
   if (position < 0) return;
   std::vector<std::string> names;
   if (position > 0) {
-    names = LibraryListsOf(program_).IconsOf(List1.Items()[static_cast<std::size_t>(position)]);
+    names = with_.Lists.IconsOf(List1.Items()[static_cast<std::size_t>(position)]);
   } else {
-    names = LibraryListsOf(program_).AllIcons();
+    names = with_.Lists.AllIcons();
     // Not every disk gives its names in order.
     SortTexts(names);
   }
-  LibraryView.SetCells(LibraryCells(names, program_.Paths.IconsPath));
+  LibraryView.SetCells(LibraryCells(names, with_.Paths.IconsPath));
 }
 
 // ---- the tabs ----
@@ -212,8 +211,8 @@ void frmLibrary::TabStrip1_Click() {
 void frmLibrary::ShowTab() {
   const bool library = ShowsLibrary();
   if (!library && !std::exchange(othersRead_, true)) {
-    const forms::HourglassScope hourglass(program_.Windows);
-    List2Other = OtherIconsOf(program_).Read();
+    const forms::HourglassScope hourglass(with_.Windows);
+    List2Other = with_.Others.Stored.Read();
     FillOthers(List2Other.empty() ? -1 : 0);
   }
   List1.SetVisible(library);
@@ -250,13 +249,13 @@ void frmLibrary::FillOthers(int row) {
 }
 
 void frmLibrary::List1Other_Click() {
-  program_.Answers.Drop(counted_);
+  with_.Answers.Drop(counted_);
   OtherView.Clear();
   const int row = List1Other.Selected();
   if (row < 0) return;
-  const forms::HourglassScope hourglass(program_.Windows);
+  const forms::HourglassScope hourglass(with_.Windows);
   const std::string path = OtherFilePath(List2Other[static_cast<std::size_t>(row)]);
-  const auto counted = program_.Answers.AskAtOnce(
+  const auto counted = with_.Answers.AskAtOnce(
       {.Question = {.Kind = LookupKind::IconCount, .Path = path}, .Owner = counted_},
       {.Ended = [this, path](const desk::Reply& late) { ShowFile(path, late); },
        .TakesLonger = {},
@@ -272,15 +271,15 @@ void frmLibrary::ShowFile(const std::string& path, const desk::Reply& counted) {
 void frmLibrary::cmdAdd_Click() {
   const forms::FileQuestion question{
       .Title = "Select one file.",
-      .StartFolder = program_.Services.System.WindowsFolder(),
+      .StartFolder = with_.System.WindowsFolder(),
       .Kinds = {{"(*.exe, *.dll, *.ico)", "*.exe;*.dll;*.ico"}, {"All Files (*.*)", "*.*"}}};
-  const forms::FileChoice choice = program_.Windows.AskFiles(hWnd(), question);
+  const forms::FileChoice choice = with_.Windows.AskFiles(hWnd(), question);
   if (choice.Paths.empty() || !IsLoaded()) return;
-  const AddedFile added = AddOtherFile(program_, List2Other, choice.Paths.front());
+  const AddedFile added = AddOtherFile(with_.Others, List2Other, choice.Paths.front());
   if (added.Refusal.empty()) {
     FillOthers(added.Row);
   } else {
-    program_.Messages.Say(hWnd(), added.Refusal, forms::msgbox::IconInformation);
+    with_.Messages.Say(hWnd(), added.Refusal, forms::msgbox::IconInformation);
   }
 }
 
@@ -288,18 +287,18 @@ void frmLibrary::cmdRemove_Click() {
   const int row = List1Other.Selected();
   if (row < 0) return;
   const int answer =
-      program_.Messages.Say(hWnd(), RemoveQuestion(List2Other[static_cast<std::size_t>(row)]),
-                            forms::msgbox::YesNo | forms::msgbox::IconQuestion);
+      with_.Messages.Say(hWnd(), RemoveQuestion(List2Other[static_cast<std::size_t>(row)]),
+                         forms::msgbox::YesNo | forms::msgbox::IconQuestion);
   if (answer != forms::msgbox::AnswerYes || !IsLoaded()) return;
-  RemoveOtherFile(program_, List2Other, row);
+  RemoveOtherFile(with_.Others.Stored, List2Other, row);
   FillOthers(-1);
 }
 
 // ---- the buttons ----
 
 void frmLibrary::cmdRefresh_Click() {
-  LibraryListsOf(program_).Reset();
-  program_.Messages.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
+  with_.Lists.Reset();
+  with_.Messages.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
   if (!IsLoaded()) return;
   BuildLibrary();
   othersRead_ = false;

@@ -13,18 +13,33 @@
 #include "forms/ScrollBar.h"
 #include "forms/TabStrip.h"
 #include "forms/TextBox.h"
+#include "icons/LibraryLists.h"
 #include "library/IconView.h"
+#include "library/OtherFiles.h"
 
 namespace corvelle {
 
-class Program;
+class MessageBoxes;
+
+/// What the window works with. All of it outlives the window.
+struct LibraryParts {
+  forms::WindowSystem& Windows;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+  desk::AnswerDesk& Answers;
+  const SystemInfo& System;
+  const ProgramPaths& Paths;
+  IconState& Icons;
+  LibraryLists Lists;
+  OtherFileParts Others;
+};
 
 /// The window in which the user picks an icon for an entry: from the program's own library by
 /// category, or from other files. The choice goes into the box of the window that opened it, which
 /// takes no input meanwhile.
 class frmLibrary final : public forms::Form, public LibraryPort {
  public:
-  explicit frmLibrary(Program& program);
+  explicit frmLibrary(const LibraryParts& with);
 
   void Show(std::string_view caller) override;
   void LoadWindow() override { Show({}); }
@@ -81,7 +96,7 @@ class frmLibrary final : public forms::Form, public LibraryPort {
   /// Fills the list of other files from List2Other and chooses a row of it; -1 for none.
   void FillOthers(int row);
 
-  Program& program_;
+  LibraryParts with_;
   std::string caller_;
   IconBoxPort* box_ = nullptr;
   /// The rows of List1Other with their paths (OtherFileRow).

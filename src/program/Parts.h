@@ -10,6 +10,7 @@
 #include "launch/BuiltInCommands.h"
 #include "launch/HelpViewer.h"
 #include "launch/LaunchWiring.h"
+#include "library/LibraryWiring.h"
 #include "library/frmLibrary.h"
 #include "menus/folders/FolderMenus.h"
 #include "menus/folders/SpecialFolders.h"
@@ -69,7 +70,7 @@ class Parts {
   frmURL WebLink{WebLinkPartsOf(TheProgram)};
   frmCust Customize{TheProgram};
   frmProperties Properties{TheProgram};
-  frmLibrary Library{TheProgram};  // belongs to one of the two above
+  frmLibrary Library{LibraryPartsOf(TheProgram)};  // belongs to one of the two above
   HelpViewer TheHelp{TheProgram.Paths, TheProgram.Services.Files, TheProgram.Launch};
   frmNetSearch NetSearch{NetSearchPartsOf(TheProgram)};
   frmAbout About{AboutPartsOf(TheProgram)};

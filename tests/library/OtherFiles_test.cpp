@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Program.h"
-#include "icons/IconsWiring.h"
+#include "library/LibraryWiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -37,7 +37,7 @@ class OtherFilesDesk : public testing::Test {
 
 TEST_F(OtherFilesDesk, AFileWithIconsIsAddedInItsOrderAndStored) {
   rows = {"a.dll |C:\\a.dll", "z.dll |C:\\z.dll"};
-  const AddedFile added = AddOtherFile(program, rows, kTool);
+  const AddedFile added = AddOtherFile(OtherFilePartsOf(program), rows, kTool);
   EXPECT_EQ(added.Refusal, "");
   EXPECT_EQ(added.Row, 1);
   EXPECT_EQ(rows, (Rows{"a.dll |C:\\a.dll", "tool.exe |C:\\Tools\\tool.exe", "z.dll |C:\\z.dll"}));
@@ -45,7 +45,7 @@ TEST_F(OtherFilesDesk, AFileWithIconsIsAddedInItsOrderAndStored) {
 }
 
 TEST_F(OtherFilesDesk, AShortcutStandsForItsTarget) {
-  EXPECT_EQ(AddOtherFile(program, rows, Shortcut(kTool)).Refusal, "");
+  EXPECT_EQ(AddOtherFile(OtherFilePartsOf(program), rows, Shortcut(kTool)).Refusal, "");
   EXPECT_EQ(rows, Rows{"tool.exe |C:\\Tools\\tool.exe"});
 }
 
@@ -64,7 +64,7 @@ TEST_F(OtherFilesDesk, WhatIsRefusedIsToldToTheLetterAndTheListsStay) {
   };
   for (const Row& row : all) {
     rows = before;
-    const AddedFile added = AddOtherFile(program, rows, row.chosen);
+    const AddedFile added = AddOtherFile(OtherFilePartsOf(program), rows, row.chosen);
     EXPECT_EQ(added.Refusal, row.expected) << row.name;
     EXPECT_EQ(added.Row, -1) << row.name;
     EXPECT_EQ(rows, before) << row.name;
@@ -75,17 +75,17 @@ TEST_F(OtherFilesDesk, WhatIsRefusedIsToldToTheLetterAndTheListsStay) {
 TEST_F(OtherFilesDesk, AShortcutHasItsOwnWording) {
   world.Files.Put("C:\\Tools\\bare.exe", "x");
   rows = {"tool.exe |C:\\Tools\\tool.exe"};
-  EXPECT_EQ(AddOtherFile(program, rows, Shortcut(kTool)).Refusal,
+  EXPECT_EQ(AddOtherFile(OtherFilePartsOf(program), rows, Shortcut(kTool)).Refusal,
             "\"tool.exe\" that the selected shortcut refers to is already in the library.");
-  EXPECT_EQ(AddOtherFile(program, rows, Shortcut("C:\\Tools\\bare.exe")).Refusal,
+  EXPECT_EQ(AddOtherFile(OtherFilePartsOf(program), rows, Shortcut("C:\\Tools\\bare.exe")).Refusal,
             "\"bare.exe\" that the selected shortcut refers to does not contain icons.");
 }
 
 TEST_F(OtherFilesDesk, AShortcutWithoutAPathIsToldSo) {
   const char* const kText = "Cannot find a path for the selected shortcut.";
-  EXPECT_EQ(AddOtherFile(program, rows, Shortcut("")).Refusal, kText);
+  EXPECT_EQ(AddOtherFile(OtherFilePartsOf(program), rows, Shortcut("")).Refusal, kText);
   world.Files.Put("C:\\Links\\damaged.LNK", "none");
-  EXPECT_EQ(AddOtherFile(program, rows, "C:\\Links\\damaged.LNK").Refusal, kText);
+  EXPECT_EQ(AddOtherFile(OtherFilePartsOf(program), rows, "C:\\Links\\damaged.LNK").Refusal, kText);
   EXPECT_EQ(rows, Rows{});
 }
 
@@ -96,10 +96,10 @@ TEST_F(OtherFilesDesk, TheQuestionBeforeARowGoesNamesTheFile) {
 
 TEST_F(OtherFilesDesk, ARowIsTakenOutAndTheRestStored) {
   rows = {"a.dll |C:\\a.dll", "z.dll |C:\\z.dll"};
-  RemoveOtherFile(program, rows, 2);
-  RemoveOtherFile(program, rows, -1);
+  RemoveOtherFile(OtherIconsOf(program), rows, 2);
+  RemoveOtherFile(OtherIconsOf(program), rows, -1);
   EXPECT_EQ(rows.size(), 2U);
-  RemoveOtherFile(program, rows, 0);
+  RemoveOtherFile(OtherIconsOf(program), rows, 0);
   EXPECT_EQ(rows, Rows{"z.dll |C:\\z.dll"});
   EXPECT_EQ(Stored(), "C:\\z.dll\r\n");
 }
@@ -107,8 +107,8 @@ TEST_F(OtherFilesDesk, ARowIsTakenOutAndTheRestStored) {
 TEST_F(OtherFilesDesk, WithoutItsLastRowTheListIsDeletedAndMadeAgain) {
   world.Files.Put("C:\\Windows\\System32\\Shell32.dll", "x");
   world.Files.Put("C:\\Windows\\Explorer.exe", "x");
-  AddOtherFile(program, rows, kTool);
-  RemoveOtherFile(program, rows, 0);
+  AddOtherFile(OtherFilePartsOf(program), rows, kTool);
+  RemoveOtherFile(OtherIconsOf(program), rows, 0);
   EXPECT_EQ(Stored(), "(missing)");
   EXPECT_EQ(OtherIconsOf(program).Read(),
             (Rows{"Explorer.exe |C:\\Windows\\Explorer.exe",
@@ -119,7 +119,7 @@ TEST_F(OtherFilesDesk, ADiskThatRefusesKeepsTheOldListOnIt) {
   world.Files.Put(kOthers, "C:\\a.dll\r\n");
   rows = {"a.dll |C:\\a.dll"};
   world.Files.FailCall(1, FileError::DiskFull);
-  EXPECT_EQ(AddOtherFile(program, rows, kTool).Refusal, "");
+  EXPECT_EQ(AddOtherFile(OtherFilePartsOf(program), rows, kTool).Refusal, "");
   EXPECT_EQ(rows.size(), 2U);
   EXPECT_EQ(Stored(), "C:\\a.dll\r\n");
 }
@@ -144,16 +144,16 @@ const StoredAct kStoredActs[] = {
      kShellFiles},
     {"a file is added",
      kTwo,
-     [](Program& program, Rows& rows) { AddOtherFile(program, rows, kTool); },
+     [](Program& program, Rows& rows) { AddOtherFile(OtherFilePartsOf(program), rows, kTool); },
      {"a.dll |C:\\a.dll", "tool.exe |C:\\Tools\\tool.exe", "z.dll |C:\\z.dll"}},
     {"a row is removed",
      kTwo,
-     [](Program& program, Rows& rows) { RemoveOtherFile(program, rows, 0); },
+     [](Program& program, Rows& rows) { RemoveOtherFile(OtherIconsOf(program), rows, 0); },
      {"z.dll |C:\\z.dll"}},
     // The next start makes the list that a new user has.
     {"the last row is removed",
      {"a.dll |C:\\a.dll"},
-     [](Program& program, Rows& rows) { RemoveOtherFile(program, rows, 0); },
+     [](Program& program, Rows& rows) { RemoveOtherFile(OtherIconsOf(program), rows, 0); },
      kShellFiles},
     {"the library is reset", kTwo, [](Program& program, Rows&) { LibraryListsOf(program).Reset(); },
      kShellFiles},
