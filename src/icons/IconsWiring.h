@@ -33,7 +33,6 @@ namespace corvelle {
                      .Ansi = program.Services.Ansi,
                      .Keys = program.Services.Keys,
                      .System = program.Services.System,
-                     .Icons = program.Services.Icons,
                      .Paths = program.Paths});
 }
 

@@ -1,7 +1,5 @@
 #include "icons/OtherIcons.h"
 
-#include <algorithm>
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -12,7 +10,6 @@
 #include "icons/LibraryFile.h"
 #include "platform/FileSystem.h"
 #include "platform/Registry.h"
-#include "platform/ShellIcons.h"
 #include "platform/SystemInfo.h"
 
 namespace corvelle {
@@ -21,40 +18,14 @@ namespace {
 
 constexpr std::string_view kAppPaths = "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths";
 
-void AddOnce(std::vector<std::string>& rows, std::string_view path) {
-  const bool known = std::any_of(rows.begin(), rows.end(), [&](const std::string& row) {
-    return EqualNoCase(OtherFilePath(row), path);
-  });
-  if (!known) rows.push_back(OtherFileRow(path));
-}
-
 }  // namespace
 
 std::string OtherIcons::OthersFile() const { return with_.Paths.IconsPath + "others.dat"; }
 
-void OtherIcons::AddShellFiles(std::vector<std::string>& rows) const {
-  for (const std::string& path : {EnsureBackslash(with_.System.SystemFolder()) + "Shell32.dll",
-                                  EnsureBackslash(with_.System.WindowsFolder()) + "Explorer.exe"}) {
-    if (with_.Files.FileExists(path)) AddOnce(rows, path);
-  }
-}
-
-void OtherIcons::AddRegisteredPrograms(std::vector<std::string>& rows) const {
-  for (const std::string& name : with_.Keys.SubKeys(RegistryRoot::LocalMachine, kAppPaths)) {
-    const auto value =
-        with_.Keys.Text(RegistryRoot::LocalMachine, std::string(kAppPaths) + "\\" + name, {});
-    if (!value) continue;
-    const std::string path = PlainCase(StripQuotes(StripAtNull(*value)));
-    // A path with a "|" could not be told from its name again.
-    if (path.empty() || path.find('|') != std::string::npos) continue;
-    if (with_.Icons.IconCount(path) > 0) AddOnce(rows, path);
-  }
-}
-
-std::vector<std::string> OtherIcons::Read() const {
+std::optional<std::vector<std::string>> OtherIcons::Read() const {
   const std::string file = OthersFile();
   const auto length = with_.Files.Length(file);
-  if (!length) return InitOthers();
+  if (!length) return std::nullopt;
   const auto bytes = with_.Files.Read(file, 0, static_cast<std::size_t>(*length));
   std::vector<std::string> rows;
   // A list that is there but cannot be read is left as it is.
@@ -79,13 +50,22 @@ void OtherIcons::Save(const std::vector<std::string>& rows) const {
   static_cast<void>(with_.Files.Replace(file, FormatLibraryLines(paths, with_.Ansi)));
 }
 
-std::vector<std::string> OtherIcons::InitOthers() const {
-  std::vector<std::string> rows;
-  AddShellFiles(rows);
-  AddRegisteredPrograms(rows);
-  SortTexts(rows);
-  Save(rows);
-  return rows;
+std::vector<Lookup> OtherIcons::FirstQuestions() const {
+  std::vector<Lookup> questions = {
+      {.Kind = LookupKind::IsThere,
+       .Path = EnsureBackslash(with_.System.SystemFolder()) + "Shell32.dll"},
+      {.Kind = LookupKind::IsThere,
+       .Path = EnsureBackslash(with_.System.WindowsFolder()) + "Explorer.exe"}};
+  for (const std::string& name : with_.Keys.SubKeys(RegistryRoot::LocalMachine, kAppPaths)) {
+    const auto value =
+        with_.Keys.Text(RegistryRoot::LocalMachine, std::string(kAppPaths) + "\\" + name, {});
+    if (!value) continue;
+    std::string path = PlainCase(StripQuotes(StripAtNull(*value)));
+    // A path with a "|" could not be told from its name again.
+    if (path.empty() || path.find('|') != std::string::npos) continue;
+    questions.push_back({.Kind = LookupKind::IconCount, .Path = std::move(path)});
+  }
+  return questions;
 }
 
 }  // namespace corvelle

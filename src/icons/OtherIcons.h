@@ -1,14 +1,16 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/Lookups.h"
 
 namespace corvelle {
 
 class CodePage;
 class FileSystem;
 class Registry;
-class ShellIcons;
 class SystemInfo;
 struct ProgramPaths;
 
@@ -18,7 +20,6 @@ struct OtherIconParts {
   const CodePage& Ansi;
   const Registry& Keys;
   const SystemInfo& System;
-  ShellIcons& Icons;
   const ProgramPaths& Paths;
 };
 
@@ -28,21 +29,18 @@ class OtherIcons {
  public:
   explicit OtherIcons(const OtherIconParts& with) : with_(with) {}
 
-  /// The rows of the list, sorted. A list that is missing is made first (see InitOthers).
-  [[nodiscard]] std::vector<std::string> Read() const;
+  /// The rows of the list, sorted; nothing when there is no list yet.
+  [[nodiscard]] std::optional<std::vector<std::string>> Read() const;
 
   /// Stores the paths of the rows; without any the file is removed.
   void Save(const std::vector<std::string>& rows) const;
 
-  /// The list to begin with: the shell's files of icons, as far as they exist, and each program
-  /// that is registered under "App Paths" and holds an icon, once. Stores it, and returns its rows,
-  /// sorted.
-  std::vector<std::string> InitOthers() const;
+  /// What is asked about the files of the list to begin with: whether the shell's files of icons
+  /// are there, and how many icons each program holds that is registered under "App Paths".
+  [[nodiscard]] std::vector<Lookup> FirstQuestions() const;
 
  private:
   [[nodiscard]] std::string OthersFile() const;
-  void AddShellFiles(std::vector<std::string>& rows) const;
-  void AddRegisteredPrograms(std::vector<std::string>& rows) const;
 
   OtherIconParts with_;
 };

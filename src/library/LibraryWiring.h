@@ -9,9 +9,7 @@ namespace corvelle {
 // What the window of the icon library gets of a program, which outlives it.
 
 [[nodiscard]] inline OtherFileParts OtherFilePartsOf(Program& program) noexcept {
-  return {.Stored = OtherIconsOf(program),
-          .Links = program.Services.Links,
-          .Icons = program.Services.Icons};
+  return {.Stored = OtherIconsOf(program), .Answers = program.Answers};
 }
 
 [[nodiscard]] inline LibraryParts LibraryPartsOf(Program& program) noexcept {

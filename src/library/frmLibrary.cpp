@@ -48,6 +48,7 @@ frmLibrary::frmLibrary(const LibraryParts& with)
       LibraryView(with.Answers, Pic2, VS1),
       OtherView(with.Answers, picOther, vsOther),
       with_(with),
+      List2Other(with.Others),
       counted_(with.Answers.NewOwner()) {
   TabStrip1.Add(kLibraryTab, "Library");
   TabStrip1.Add(kOtherTab, "Other Files");
@@ -72,6 +73,8 @@ void frmLibrary::Wire() {
   txtFilter.KeyDown = [this](int keyCode, forms::ShiftState) { return txtFilter_KeyDown(keyCode); };
   LibraryView.Chosen = [this] { cmdOK_Click(); };
   OtherView.Chosen = [this] { cmdOK_Click(); };
+  List2Other.Made = [this] { ShowMadeList(); };
+  List2Other.Added = [this](const AddedFile& added) { ShowAdded(added); };
   cmdAdd.Click = [this] { cmdAdd_Click(); };
   cmdRemove.Click = [this] { cmdRemove_Click(); };
   cmdRefresh.Click = [this] { cmdRefresh_Click(); };
@@ -120,7 +123,7 @@ void frmLibrary::Form_Unload() {
   OtherView.SetShown(false);
   LibraryView.Clear();
   OtherView.Clear();
-  List2Other.clear();
+  List2Other.Drop();
   if (box_ != nullptr) std::exchange(box_, nullptr)->SetBrowsing(false);
 }
 
@@ -211,9 +214,7 @@ void frmLibrary::TabStrip1_Click() {
 void frmLibrary::ShowTab() {
   const bool library = ShowsLibrary();
   if (!library && !std::exchange(othersRead_, true)) {
-    const forms::HourglassScope hourglass(with_.Windows);
-    List2Other = with_.Others.Stored.Read();
-    FillOthers(List2Other.empty() ? -1 : 0);
+    ReadOthers();
   }
   List1.SetVisible(library);
   Pic1.SetVisible(library);
@@ -241,11 +242,33 @@ bool frmLibrary::txtFilter_KeyDown(int keyCode) {
 
 // ---- other files ----
 
-void frmLibrary::FillOthers(int row) {
+// A list that is not whole is not to be changed: what is stored then would be all there is.
+void frmLibrary::ReadOthers() {
+  const forms::HourglassScope hourglass(with_.Windows);
+  List2Other.Read();
+  cmdAdd.SetEnabled(!List2Other.IsBeingMade());
+  cmdRemove.SetEnabled(!List2Other.IsBeingMade());
+  FillOthers(List2Other.Rows().empty() ? -1 : 0);
+}
+
+void frmLibrary::ListOthers(int row) {
   List1Other.Clear();
-  for (const std::string& other : List2Other) List1Other.Add(OtherFileName(other));
+  for (const std::string& other : List2Other.Rows()) List1Other.Add(OtherFileName(other));
   List1Other.Select(row);
+}
+
+void frmLibrary::FillOthers(int row) {
+  ListOthers(row);
   List1Other_Click();
+}
+
+// What the user has chosen and scrolled to stays.
+void frmLibrary::ShowMadeList() {
+  cmdAdd.SetEnabled(true);
+  cmdRemove.SetEnabled(true);
+  const int row = List1Other.Selected() < 0 ? -1 : List2Other.PlaceOf(shownFile_);
+  if (row >= 0) return ListOthers(row);
+  FillOthers(List2Other.Rows().empty() ? -1 : 0);
 }
 
 void frmLibrary::List1Other_Click() {
@@ -254,7 +277,8 @@ void frmLibrary::List1Other_Click() {
   const int row = List1Other.Selected();
   if (row < 0) return;
   const forms::HourglassScope hourglass(with_.Windows);
-  const std::string path = OtherFilePath(List2Other[static_cast<std::size_t>(row)]);
+  const std::string path = OtherFilePath(List2Other.Rows()[static_cast<std::size_t>(row)]);
+  shownFile_ = path;
   const auto counted = with_.Answers.AskAtOnce(
       {.Question = {.Kind = LookupKind::IconCount, .Path = path}, .Owner = counted_},
       {.Ended = [this, path](const desk::Reply& late) { ShowFile(path, late); },
@@ -275,7 +299,10 @@ void frmLibrary::cmdAdd_Click() {
       .Kinds = {{"(*.exe, *.dll, *.ico)", "*.exe;*.dll;*.ico"}, {"All Files (*.*)", "*.*"}}};
   const forms::FileChoice choice = with_.Windows.AskFiles(hWnd(), question);
   if (choice.Paths.empty() || !IsLoaded()) return;
-  const AddedFile added = AddOtherFile(with_.Others, List2Other, choice.Paths.front());
+  List2Other.Add(choice.Paths.front());
+}
+
+void frmLibrary::ShowAdded(const AddedFile& added) {
   if (added.Refusal.empty()) {
     FillOthers(added.Row);
   } else {
@@ -286,17 +313,19 @@ void frmLibrary::cmdAdd_Click() {
 void frmLibrary::cmdRemove_Click() {
   const int row = List1Other.Selected();
   if (row < 0) return;
-  const int answer =
-      with_.Messages.Say(hWnd(), RemoveQuestion(List2Other[static_cast<std::size_t>(row)]),
-                         forms::msgbox::YesNo | forms::msgbox::IconQuestion);
+  // A file that was counted meanwhile may move the others.
+  const std::string other = List2Other.Rows()[static_cast<std::size_t>(row)];
+  const int answer = with_.Messages.Say(hWnd(), RemoveQuestion(other),
+                                        forms::msgbox::YesNo | forms::msgbox::IconQuestion);
   if (answer != forms::msgbox::AnswerYes || !IsLoaded()) return;
-  RemoveOtherFile(with_.Others.Stored, List2Other, row);
+  List2Other.Remove(other);
   FillOthers(-1);
 }
 
 // ---- the buttons ----
 
 void frmLibrary::cmdRefresh_Click() {
+  List2Other.Drop();
   with_.Lists.Reset();
   with_.Messages.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
   if (!IsLoaded()) return;

@@ -1,6 +1,5 @@
 #include "shell/LinkFiles.h"
 
-#include "base/Text.h"
 #include "shell/cShellLink.h"
 
 namespace corvelle {
@@ -20,11 +19,6 @@ std::optional<LinkTarget> ReadLink(ShellLinks& links, std::string_view LnkFile) 
   if (!info) return std::nullopt;
   return LinkTarget{.ExeFile = std::move(info->Fields.ExeFile),
                     .Args = std::move(info->Fields.ExeArgs)};
-}
-
-std::string ResolveChosenFile(ShellLinks& links, std::string_view path) {
-  if (!EndsWithNoCase(path, ".lnk")) return std::string(path);
-  return ReadLink(links, path).value_or(LinkTarget{}).ExeFile;
 }
 
 std::string LinkReader::TargetOf(std::string_view linkPath) {

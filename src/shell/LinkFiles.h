@@ -31,10 +31,6 @@ struct LinkTarget {
 /// empty target.
 [[nodiscard]] std::optional<LinkTarget> ReadLink(ShellLinks& links, std::string_view LnkFile);
 
-/// A file that the user chose or dropped: a link stands for its target, anything else for itself.
-/// Empty for a link that leads to no path.
-[[nodiscard]] std::string ResolveChosenFile(ShellLinks& links, std::string_view path);
-
 /// Links for those who only want to know where they lead.
 class LinkReader final : public ShellLinksPort {
  public:
