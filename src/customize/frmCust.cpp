@@ -188,8 +188,7 @@ void frmCust::Form_Load() {
   SetTakesDrops(true);
   Center(kCustWidth, kCustHeight);
   Timer1.SetInterval(kGuard);
-  Editor.LastFolder =
-      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kStartMenuFolder);
+  Editor.LastFolder = GetSpecialFolder(program_.Services.Links, program_.Ports, kStartMenuFolder);
   LastBrowseFolder.clear();
   Browsing = PickIcon = FolderToCommandOnly = Dragging = ShiftDown = messageWaits_ = false;
   finding_ = false;
@@ -290,8 +289,7 @@ std::string frmCust::TitleOf(std::string_view path) {
 }
 
 std::string frmCust::RecentFolder() {
-  return EnsureBackslash(
-      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kRecentFolder));
+  return EnsureBackslash(GetSpecialFolder(program_.Services.Links, program_.Ports, kRecentFolder));
 }
 
 }  // namespace corvelle

@@ -137,11 +137,9 @@ void frmCust::Browse(bool files) {
 
 std::string frmCust::StartFolder() const {
   if (chkSelect0.Value() == 1)
-    return GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(),
-                            kMenuFilesFolder);
+    return GetSpecialFolder(program_.Services.Links, program_.Ports, kMenuFilesFolder);
   if (chkSelect1.Value() == 1)
-    return GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(),
-                            kDesktopFolder);
+    return GetSpecialFolder(program_.Services.Links, program_.Ports, kDesktopFolder);
   return Editor.LastFolder;
 }
 

@@ -219,8 +219,7 @@ void frmProperties::Form_Load() {
   ButtonsTabShown = ButtonsTabLoaded = PositionTabLoaded = OrderApplied = false;
   orderTouched_ = browsing_ = busy_ = false;
   lblMissing.SetVisible(false);
-  lastFolder_ =
-      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kStartMenu);
+  lastFolder_ = GetSpecialFolder(program_.Services.Links, program_.Ports, kStartMenu);
   lastBrowseFolder_.clear();
   PlaceControls();
   for (forms::PictureBox* page : {&Picture1, &picButtons, &Picture2}) {

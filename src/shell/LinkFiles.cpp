@@ -1,11 +1,14 @@
 #include "shell/LinkFiles.h"
 
+#include "core/WindowPorts.h"
 #include "shell/cShellLink.h"
 
 namespace corvelle {
 
-std::string GetSpecialFolder(ShellLinks& links, WindowId owner, int folder) {
-  return cShellLink(links).GetSystemFolderPath(owner, folder).value_or(std::string());
+std::string GetSpecialFolder(ShellLinks& links, const WindowPorts& ports, int folder) {
+  return cShellLink(links)
+      .GetSystemFolderPath(ports.ToolbarWindow(), folder)
+      .value_or(std::string());
 }
 
 bool MakeLink(ShellLinks& links, std::string_view LnkFile, std::string_view ExeFile,

@@ -9,12 +9,13 @@
 namespace corvelle {
 
 class ShellLinks;
+struct WindowPorts;
 
 // Links and special folders in one call each, for all windows of the program.
 
 /// The path of a special folder (CSIDL_*) without a trailing backslash but for a root; empty when
-/// it has none. Dialogs of the system belong to `owner`.
-[[nodiscard]] std::string GetSpecialFolder(ShellLinks& links, WindowId owner, int folder);
+/// it has none. Dialogs of the system belong to the strip.
+[[nodiscard]] std::string GetSpecialFolder(ShellLinks& links, const WindowPorts& ports, int folder);
 
 /// Writes a link to a program that starts in `WorkDir`, with a normal window. False on failure.
 bool MakeLink(ShellLinks& links, std::string_view LnkFile, std::string_view ExeFile,

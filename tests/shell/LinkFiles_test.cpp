@@ -33,9 +33,9 @@ TEST_F(LinkFilesTest, TheTargetOfALinkIsToldToWhoeverAsks) {
 }
 
 TEST_F(LinkFilesTest, ASpecialFolderWithoutAPathIsEmpty) {
-  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 7), "C:\\Start\\Startup");
-  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 17), "");
-  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 99), "");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, program.Ports, 7), "C:\\Start\\Startup");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, program.Ports, 17), "");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, program.Ports, 99), "");
 }
 
 }  // namespace
