@@ -3,13 +3,13 @@
 #include <deque>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 #include "customize/CustTree.h"
 #include "customize/MissingTargets.h"
 #include "forms/Timer.h"
 #include "forms/TreeView.h"
 #include "icons/AskedIcons.h"
+#include "icons/TreeImages.h"
 
 namespace corvelle {
 
@@ -52,11 +52,6 @@ class CustTreeControl final : public CustTreeView {
   [[nodiscard]] forms::NodeLook LookOf(CustRef node);
   /// The image of a picture; -1 for one that has to wait.
   [[nodiscard]] int ImageOf(const NodePicture& picture);
-  /// The same with the mark of a missing target.
-  [[nodiscard]] int Marked(int image);
-  [[nodiscard]] int Glyph(const std::string& key);
-  int AddImage(Picture picture);
-  [[nodiscard]] int ImageOf(const IconLook& look);
   void ShowNext();
   void LookUp(CustRef node);
   /// Another picture for all nodes of an icon text.
@@ -67,12 +62,11 @@ class CustTreeControl final : public CustTreeView {
   forms::TreeView& control_;
   std::unordered_map<CustRef, forms::NodeId> ids_;
   std::unordered_map<forms::NodeId, CustRef> refs_;
-  std::unordered_map<std::string, int> images_;  // by glyph or icon text in small letters
-  std::unordered_map<int, int> marked_;          // images with the mark, by those without
-  std::vector<Picture> pictures_;                // of all images
   MissingTargets targets_;
   std::deque<CustRef> waiting_;  // nodes whose icon is not asked for yet
   AskedIcons icons_;
+  TreeImages pictures_;
+  std::unordered_map<std::string, int> images_;  // of icons, by their texts in small letters
   forms::Timer tmrPictures_;
 };
 

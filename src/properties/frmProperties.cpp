@@ -76,6 +76,7 @@ frmProperties::frmProperties(Program& program)
       program_(program),
       icon_(program.IconSources, IconCaller::Properties),
       nodeIcons_(program.IconSources, IconCaller::Tree),
+      nodeImages_(TreeView1),
       desktopAsked_(program.Answers.NewOwner()),
       tmrEdge_(program.Windows),
       tmrTarget_(program.Windows) {
@@ -255,7 +256,7 @@ void frmProperties::ShowProperties(std::string_view title, std::string_view icon
     SetCurrentEntry(program_.Entry, entry);
   }
   if (!IsLoaded()) {
-    TreeView1.ClearImages();
+    nodeImages_.Clear();
     images_.clear();
   }
   if (!Load()) return;

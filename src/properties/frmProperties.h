@@ -21,6 +21,7 @@
 #include "forms/Timer.h"
 #include "forms/TreeView.h"
 #include "icons/AskedIcons.h"
+#include "icons/TreeImages.h"
 #include "platform/Lookups.h"
 #include "properties/ButtonOrder.h"
 #include "properties/ItemEdit.h"
@@ -146,7 +147,6 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void LoadButtonsTab();
   void FillTree();
   [[nodiscard]] int NodeImage(const std::string& icon);
-  [[nodiscard]] int AddNodeImage(const IconLook& look);
   /// Another picture for all nodes of an icon text.
   void TakeLateImage(const std::string& icon, const IconLook& look);
   [[nodiscard]] std::size_t IndexOf(forms::NodeId node) const;
@@ -182,9 +182,10 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   ButtonOrder order_;
   bool orderTouched_ = false;  // since the tab was filled or applied
   forms::NodeId dragNode_ = forms::kNoNode;
-  std::map<std::string, int, std::less<>> images_;  // of the tree, by their icon texts
-  AskedIcons icon_;                                 // of the entry
+  AskedIcons icon_;  // of the entry
   AskedIcons nodeIcons_;
+  TreeImages nodeImages_;
+  std::map<std::string, int, std::less<>> images_;  // of the tree, by their icon texts
   PreviewScene scene_;
   Picture desktop_;  // the small picture without the strip
   std::uint64_t desktopAsked_ = 0;

@@ -1,21 +1,19 @@
 // The tab of the buttons: their order, and which of them are shown.
 
 #include <algorithm>
-#include <memory>
 
 #include "base/Text.h"
 #include "core/Program.h"
 #include "forms/Scopes.h"
-#include "icons/Glyphs.h"
 #include "icons/IconForm.h"
 #include "platform/Input.h"
+#include "platform/ShellIcons.h"
 #include "properties/OrderFiles.h"
 #include "properties/frmProperties.h"
 
 namespace corvelle {
 namespace {
 
-constexpr int kImageSide = 16;
 constexpr int kIconsAtOnce = 40;  // milliseconds for which one icon may hold up the others
 
 }  // namespace
@@ -67,24 +65,16 @@ int frmProperties::NodeImage(const std::string& icon) {
   } else if (form.Kind == IconKind::Empty) {
     look.Glyph = "unknown";
   } else {
-    look = nodeIcons_.Ask(icon, kImageSide, kIconsAtOnce,
+    look = nodeIcons_.Ask(icon, kSmallIconSize, kIconsAtOnce,
                           [this, icon](const IconLook& late) { TakeLateImage(icon, late); });
   }
-  const int image = AddNodeImage(look);
+  const int image = nodeImages_.OfLook(look, nodeIcons_);
   images_[icon] = image;
   return image;
 }
 
-int frmProperties::AddNodeImage(const IconLook& look) {
-  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas({kImageSide, kImageSide});
-  drawn->FillBox({0, 0, kImageSide, kImageSide}, forms::Image::kMask);
-  if (!nodeIcons_.Draw(*drawn, look, kImageSide))
-    DrawGlyph(*drawn, program_.Windows, "qmark", {0, 0});
-  return TreeView1.AddImage(drawn);
-}
-
 void frmProperties::TakeLateImage(const std::string& icon, const IconLook& look) {
-  const int image = AddNodeImage(look);
+  const int image = nodeImages_.OfLook(look, nodeIcons_);
   images_[icon] = image;
   for (std::size_t i = 0; i < order_.Nodes().size(); ++i) {
     if (order_.Nodes()[i].Icon == icon) TreeView1.SetImage(NodeAt(i), image);
