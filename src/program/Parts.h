@@ -18,6 +18,7 @@
 #include "menus/window/MenuWiring.h"
 #include "menus/window/frmQMenu.h"
 #include "program/Wiring.h"
+#include "properties/PropertiesWiring.h"
 #include "properties/frmProperties.h"
 #include "search/frmNetSearch.h"
 #include "shell/LinkFiles.h"
@@ -69,7 +70,7 @@ class Parts {
   DragImage Carried{DragImagePartsOf(TheProgram)};
   frmURL WebLink{WebLinkPartsOf(TheProgram)};
   frmCust Customize{TheProgram};
-  frmProperties Properties{TheProgram};
+  frmProperties Properties{PropertiesPartsOf(TheProgram)};
   frmLibrary Library{LibraryPartsOf(TheProgram)};  // belongs to one of the two above
   HelpViewer TheHelp{TheProgram.Paths, TheProgram.Services.Files, TheProgram.Launch};
   frmNetSearch NetSearch{NetSearchPartsOf(TheProgram)};

@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/IconState.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "forms/Scopes.h"
 #include "icons/IconForm.h"
 #include "platform/Input.h"
@@ -21,10 +23,9 @@ constexpr int kIconsAtOnce = 40;  // milliseconds for which one icon may hold up
 void frmProperties::LoadButtonsTab() {
   if (ButtonsTabLoaded) return;
   ButtonsTabLoaded = true;
-  const FileStatus loaded = LoadButtons(program_.Services.Files, program_.Services.Ansi,
-                                        program_.Paths.MenusPath, order_);
+  const FileStatus loaded = LoadButtons(with_.Files, with_.Ansi, with_.Paths.MenusPath, order_);
   orderTouched_ = OrderApplied = false;
-  if (!loaded) ShowFileError(program_.Paths.MenusPath, loaded.Error());
+  if (!loaded) ShowFileError(with_.Paths.MenusPath, loaded.Error());
   if (IsLoaded()) FillTree();
 }
 
@@ -55,9 +56,9 @@ int frmProperties::NodeImage(const std::string& icon) {
   const auto known = images_.find(icon);
   if (known != images_.end()) return known->second;
   const IconForm form = ClassifyIcon(icon,
-                                     {.AppPath = program_.Paths.AppPath,
-                                      .IconsPath = program_.Paths.IconsPath,
-                                      .WebLinkIcon = program_.Icons.WebLinkIcon},
+                                     {.AppPath = with_.Paths.AppPath,
+                                      .IconsPath = with_.Paths.IconsPath,
+                                      .WebLinkIcon = with_.Icons.Icons.WebLinkIcon},
                                      IconCaller::Tree);
   IconLook look;
   if (form.Kind == IconKind::BuiltIn) {
@@ -96,7 +97,7 @@ forms::NodeId frmProperties::NodeAt(std::size_t index) const {
 /// `to`: the new index in the list, in which the node stands already.
 void frmProperties::MoveButton(std::size_t to, std::size_t from) {
   if (to == ButtonOrder::kNone) {
-    program_.Services.Pointer.Beep();
+    with_.Pointer.Beep();
     return;
   }
   const forms::NodeId node = NodeAt(from);
@@ -163,20 +164,19 @@ void frmProperties::ShowLoss() {
 }
 
 bool frmProperties::ApplyOrder() {
-  const forms::HourglassScope hourglass(program_.Windows);
-  StripContentsPort* const strip = program_.Ports.Toolbar;
+  const forms::HourglassScope hourglass(Windows());
+  StripContentsPort* const strip = with_.Ports.Toolbar;
   const float gap = strip != nullptr ? strip->FreeWidth() : 0;
   const std::size_t place = order_.FindPath(item_.File);
-  const OrderOutcome outcome = ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi,
-                                                program_.Paths.MenusPath, order_);
-  if (outcome.Result == OrderResult::Applied) program_.Ports.TellMenusEdited();
+  const OrderOutcome outcome =
+      ApplyButtonOrder(with_.Files, with_.Ansi, with_.Paths.MenusPath, order_);
+  if (outcome.Result == OrderResult::Applied) with_.Ports.TellMenusEdited();
   if (outcome.Result == OrderResult::Failed) {
-    ShowFileError(program_.Paths.MenusPath, outcome.Reason);
+    ShowFileError(with_.Paths.MenusPath, outcome.Reason);
     return false;
   }
   if (outcome.Result == OrderResult::Outdated) {
-    program_.Messages.Say(hWnd(), RefusalText(ItemResult::Mismatch),
-                          forms::msgbox::IconInformation);
+    with_.Messages.Say(hWnd(), RefusalText(ItemResult::Mismatch), forms::msgbox::IconInformation);
     if (!IsLoaded()) return false;
     // The buttons that there are now, to begin again with.
     ButtonsTabLoaded = false;
@@ -187,7 +187,7 @@ bool frmProperties::ApplyOrder() {
   orderTouched_ = false;
   if (place != ButtonOrder::kNone) {
     const ButtonNode& node = order_.Nodes()[place];
-    FollowOrder(item_, PathOfTag(node.Tag), node.Stored, program_.Services.Ansi);
+    FollowOrder(item_, PathOfTag(node.Tag), node.Stored, with_.Ansi);
     item_.Key = order_.KeyOnStrip(item_.Key, place);
     if (item_.Record == 1) txtCommand.SetText(item_.Current.FName);
   }
