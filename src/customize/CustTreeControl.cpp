@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/Program.h"
 #include "icons/IconForm.h"
 
 namespace corvelle {
@@ -24,14 +23,14 @@ constexpr std::pair<std::string_view, std::string_view> kOwnPictures[] = {
 
 }  // namespace
 
-CustTreeControl::CustTreeControl(Program& program, CustTree& tree, forms::TreeView& control)
-    : program_(program),
-      tree_(tree),
+CustTreeControl::CustTreeControl(const IconSources& icons, SlowQuestions& slow, CustTree& tree,
+                                 forms::TreeView& control)
+    : tree_(tree),
       control_(control),
-      targets_(program.Slow, program.Windows),
-      icons_(program.IconSources, IconCaller::Tree),
+      targets_(slow, icons.Windows),
+      icons_(icons, IconCaller::Tree),
       pictures_(control),
-      tmrPictures_(program.Windows) {
+      tmrPictures_(icons.Windows) {
   targets_.Changed = [this](CustRef node) {
     if (tree_.IsInTree(node)) NodeChanged(node);
   };

@@ -13,14 +13,16 @@
 
 namespace corvelle {
 
-class Program;
+class SlowQuestions;
 
 /// Shows a tree of menus in a tree view, with the pictures of its entries. Icons that were not
 /// shown before are asked for one after the other, by a timer; in the place of one that takes its
 /// time is a picture of its kind.
 class CustTreeControl final : public CustTreeView {
  public:
-  CustTreeControl(Program& program, CustTree& tree, forms::TreeView& control);
+  /// All of it outlives this.
+  CustTreeControl(const IconSources& icons, SlowQuestions& slow, CustTree& tree,
+                  forms::TreeView& control);
   ~CustTreeControl() override;
 
   /// The control's node for a node of the tree, and back; none for one that is not shown.
@@ -57,7 +59,6 @@ class CustTreeControl final : public CustTreeView {
   /// Another picture for all nodes of an icon text.
   void TakeLate(const std::string& icon, const IconLook& look);
 
-  Program& program_;
   CustTree& tree_;
   forms::TreeView& control_;
   std::unordered_map<CustRef, forms::NodeId> ids_;

@@ -3,6 +3,7 @@
 #include "about/DefaultEntries.h"
 #include "about/frmAbout.h"
 #include "core/Program.h"
+#include "customize/CustomizeWiring.h"
 #include "customize/frmCust.h"
 #include "icons/IconsWiring.h"
 #include "icons/ShellIconRule.h"
@@ -69,7 +70,7 @@ class Parts {
   StartupLink TheStartupLink{StartupLinkPartsOf(TheProgram)};
   DragImage Carried{DragImagePartsOf(TheProgram)};
   frmURL WebLink{WebLinkPartsOf(TheProgram)};
-  frmCust Customize{TheProgram};
+  frmCust Customize{CustPartsOf(TheProgram)};
   frmProperties Properties{PropertiesPartsOf(TheProgram)};
   frmLibrary Library{LibraryPartsOf(TheProgram)};  // belongs to one of the two above
   HelpViewer TheHelp{TheProgram.Paths, TheProgram.Services.Files, TheProgram.Launch};
