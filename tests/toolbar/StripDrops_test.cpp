@@ -1,4 +1,4 @@
-// Drops on the strip, on one that is no more than its controls.
+// What other programs drop on the strip, on one that is no more than its controls.
 
 #include "toolbar/strip/StripDrops.h"
 
@@ -6,10 +6,10 @@
 
 #include <optional>
 
-#include "core/MenuFile.h"
 #include "forms/Timer.h"
-#include "toolbar/PlainStrip.h"
+#include "toolbar/PlainRowDesk.h"
 #include "toolbar/singles/SingleRow.h"
+#include "toolbar/strip/RefusedFiles.h"
 #include "toolbar/strip/StripWiring.h"
 
 namespace corvelle {
@@ -41,37 +41,17 @@ struct OfferedLinks final : WebLinkPort {
   }
 };
 
-/// Two buttons with menus behind the program's own, and another program in front that drags.
-struct PlainDropDesk : PlainDesk {
-  PlainDropDesk() {
-    PutMenu(1, "One");
-    PutMenu(2, "Two");
-    Row.MakeTemplates();
-    Row.DoToolbarButtons();
-    TheProgram.Guards.ToolbarReady = true;
-    Source = World.Desktop.AddOtherWindow({.Title = "Page", .Bounds = {600, 500, 900, 700}});
-    World.Desktop.BringForward(Source);
-    World.Desktop.Pump();
-    Menu.Asked.clear();
-  }
-
-  WindowId Source = kNoWindow;
-  ButtonRow Row{ButtonRowPartsOf(TheProgram), Strip, Strip.ForButtons()};
-  StripPull Pull{PullPartsOf(TheProgram), Strip};
-  forms::Timer Watch{World.Windows()};
+/// The same with what other programs drag.
+struct PlainDropDesk : PlainRowDesk {
   forms::Timer DragWatch{World.Windows()};
-  forms::Timer Refused{World.Windows()};
-  MenuTracking Menus{TrackingPartsOf(TheProgram), Strip, Row, Pull, Strip.picToolbar, Watch};
+  forms::Timer RefusedSoon{World.Windows()};
   SingleRow Singles{SingleRowPartsOf(TheProgram), DatePartsOf(TheProgram), Strip, Pull,
                     Strip.ForRow()};
+  RefusedFiles Refused{TheProgram.Messages, Strip.AsForm(), RefusedSoon};
   StripDrops Drops{
       StripDropPartsOf(TheProgram), Strip, Row,       Menus,  Singles, Strip.picToolbar,
       Strip.picSingleButton,        Watch, DragWatch, Refused};
 
-  void PointAtButton(int button) {
-    const PixelPoint at = Row.Middle(button);
-    World.Desktop.MovePointer(at.x, at.y);
-  }
   /// What a drag over that button would do.
   DropEffect Over(int button, DragData data, MouseButton down = MouseButton::Left) {
     PointAtButton(button);
@@ -96,29 +76,10 @@ struct PlainDropDesk : PlainDesk {
     Strip.picSingleButton.OLEDragDrop(data, effect, MouseButton::None, {}, 0, 0);
     return effect;
   }
-  Texts Titles(int file) {
-    Texts titles;
-    const auto records =
-        ReadAllRecords(World.Files, World.Ansi, "C:\\Corvelle\\Menus\\" + MenuFileName(file));
-    for (const MenuRecord& record : records.ValueOr({})) titles.push_back(record.FTitle);
-    return titles;
-  }
-  /// An entry of another menu is in the hand.
-  void Carry() {
-    const std::string from = PutMenu(9, "Elsewhere");
-    TheProgram.Entry.CurTitle = "Item";
-    TheProgram.Entry.CurCommand = "C:\\Tools\\tool.exe";
-    TheProgram.Entry.CurMenuTag = "F9";
-    TheProgram.Entry.CurFile = from;
-    TheProgram.Entry.CurRecord = 2;
-    TheProgram.Entry.ItemDragging = true;
-  }
 };
 
 DragData FilesOf(Texts names) { return {.Files = std::move(names)}; }
 DragData PageAddress() { return {.Text = "https://example.com/page"}; }
-
-// ---- what other programs drag ----
 
 TEST(StripDrops, ADragOverAButtonCopiesOrWithTheRightButtonLinks) {
   PlainDropDesk desk;
@@ -236,76 +197,6 @@ TEST(StripDrops, TheRowTakesFilesAndAddressesWhereSomeoneTakesThem) {
   EXPECT_EQ(links.Offered, Texts{"https://example.com/page|SingleButtons|"});
   desk.TheProgram.Ports.SingleButtons = nullptr;
   desk.TheProgram.Ports.WebLink = nullptr;
-}
-
-// ---- what is carried ----
-
-TEST(StripDrops, ACarriedEntryMovesToTheEndOfTheButtonsMenu) {
-  PlainDropDesk desk;
-  desk.Carry();
-  desk.Drops.DoButtonDrag(2, MouseButton::Left);
-  EXPECT_EQ(desk.Titles(1), (Texts{"One", "Item", "Item"}));
-  EXPECT_EQ(desk.Titles(9), Texts{"Elsewhere"});
-  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
-  EXPECT_EQ(desk.TheProgram.Entry.CurFile, "");
-}
-
-TEST(StripDrops, TheRightButtonCopiesIt) {
-  PlainDropDesk desk;
-  desk.Carry();
-  desk.Drops.DoButtonDrag(2, MouseButton::Right);
-  EXPECT_EQ(desk.Titles(1), (Texts{"One", "Item", "Item"}));
-  EXPECT_EQ(desk.Titles(9), (Texts{"Elsewhere", "Item"}));
-}
-
-TEST(StripDrops, TheProgramsOwnMenuTakesNothing) {
-  PlainDropDesk desk;
-  desk.Carry();
-  desk.Drops.DoButtonDrag(1, MouseButton::Left);
-  EXPECT_EQ(desk.Titles(9), (Texts{"Elsewhere", "Item"}));
-  EXPECT_EQ(desk.Menu.Asked, Texts{}) << "no menu is built again";
-  EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging) << "the end of the carry is the caller's";
-}
-
-TEST(StripDrops, KnowsTheButtonUnderACarry) {
-  PlainDropDesk desk;
-  desk.Carry();
-  desk.PointAtButton(3);
-  EXPECT_EQ(desk.Drops.dragCurButton(), 3);
-  EXPECT_TRUE(desk.TheProgram.Drag.ButtonDragging);
-  desk.World.Desktop.MovePointer(500, 10);
-  EXPECT_EQ(desk.Drops.dragCurButton(), 0);
-  EXPECT_FALSE(desk.TheProgram.Drag.ButtonDragging);
-}
-
-TEST(StripDrops, ACarryWhoseReleaseWentElsewhereIsGivenUpAfterAMoment) {
-  PlainDropDesk desk;
-  desk.Carry();
-  desk.Drops.WatchCarry();
-  desk.World.Desktop.Advance(100);
-  desk.Drops.WatchCarry();
-  EXPECT_TRUE(desk.TheProgram.Entry.ItemDragging) << "the release may still come";
-  desk.World.Desktop.Advance(100);
-  desk.Drops.WatchCarry();
-  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
-}
-
-// ---- what was not taken ----
-
-TEST(StripDrops, WhatWasRefusedIsToldOnceTheDropHasReturned) {
-  PlainDropDesk desk;
-  desk.World.Desktop.Answer(1);
-  desk.Drops.TellRefused({"C:\\first.txt"});
-  desk.Drops.TellRefused({"C:\\second.txt"});
-  EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
-  desk.World.Desktop.Advance(10);
-  ASSERT_EQ(desk.World.Desktop.Boxes().size(), 1U);
-  const std::string text = desk.World.Desktop.Boxes()[0].Text;
-  EXPECT_NE(text.find("C:\\first.txt"), std::string::npos);
-  EXPECT_NE(text.find("C:\\second.txt"), std::string::npos);
-  EXPECT_FALSE(desk.Refused.Enabled());
-  desk.Drops.TellRefused({});
-  EXPECT_FALSE(desk.Refused.Enabled());
 }
 
 }  // namespace

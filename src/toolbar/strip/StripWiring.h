@@ -15,6 +15,7 @@
 #include "toolbar/singles/SingleRow.h"
 #include "toolbar/strip/ButtonRow.h"
 #include "toolbar/strip/MenuTracking.h"
+#include "toolbar/strip/StripCarry.h"
 #include "toolbar/strip/StripDrops.h"
 
 namespace corvelle {
@@ -104,18 +105,29 @@ namespace corvelle {
           .Launch = program.Launch};
 }
 
+[[nodiscard]] inline StripCarryParts StripCarryPartsOf(Program& program) noexcept {
+  return {.Commands = program.Commands,
+          .Strip = program.Strip,
+          .Desktop = program.Services.Desktop,
+          .Pointer = program.Services.Pointer,
+          .Ports = program.Ports,
+          .Guards = program.Guards,
+          .Menu = program.Menu,
+          .Drag = program.Drag,
+          .Entry = program.Entry,
+          .Carry = program.Carry};
+}
+
 [[nodiscard]] inline StripDropParts StripDropPartsOf(Program& program) noexcept {
   return {.Files = FileDrops({.Files = program.Services.Files,
                               .Ansi = program.Services.Ansi,
                               .Titles = TitlesOf(program),
                               .Guards = program.Guards,
                               .Ports = program.Ports}),
-          .Commands = program.Commands,
           .Strip = program.Strip,
           .Desktop = program.Services.Desktop,
           .Pointer = program.Services.Pointer,
           .Ports = program.Ports,
-          .Messages = program.Messages,
           .Guards = program.Guards,
           .Menu = program.Menu,
           .Drag = program.Drag,

@@ -67,8 +67,10 @@ frmToolbar::frmToolbar(Program& program)
       Menus(TrackingPartsOf(program), *this, Buttons, Pull, picToolbar, Timer2),
       Singles(SingleRowPartsOf(program), DatePartsOf(program), *this, Pull,
               {picSingleButton, Line1, Line2, LineLeft, lblDate}),
+      Carry(StripCarryPartsOf(program), *this, Buttons, Menus, picToolbar, Timer2),
+      Refused(program.Messages, *this, tmrRefused),
       Drops(StripDropPartsOf(program), *this, Buttons, Menus, Singles, picToolbar, picSingleButton,
-            Timer2, tmrDragDrop, tmrRefused),
+            Timer2, tmrDragDrop, Refused),
       program_(program) {
   WireEvents();
 }

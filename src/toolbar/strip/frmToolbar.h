@@ -20,6 +20,8 @@
 #include "toolbar/singles/SingleRow.h"
 #include "toolbar/strip/ButtonRow.h"
 #include "toolbar/strip/MenuTracking.h"
+#include "toolbar/strip/RefusedFiles.h"
+#include "toolbar/strip/StripCarry.h"
 #include "toolbar/strip/StripDrops.h"
 
 namespace corvelle {
@@ -141,11 +143,11 @@ class frmToolbar final : public forms::Form,
   void SetMenuPosition() override { Menus.SetMenuPosition(); }
   [[nodiscard]] float TopOfMenu() const override { return Menus.TopOfMenu(); }
   void RemoveQMenu(std::string_view tag) override { Menus.RemoveQMenu(tag); }
-  int dragCurButton() override { return Drops.dragCurButton(); }
+  int dragCurButton() override { return Carry.dragCurButton(); }
   void DoButtonDrag(int button, forms::MouseButton released) override {
-    Drops.DoButtonDrag(button, released);
+    Carry.DoButtonDrag(button, released);
   }
-  void TellRefused(std::vector<std::string> files) override { Drops.TellRefused(std::move(files)); }
+  void TellRefused(std::vector<std::string> files) override { Refused.Tell(std::move(files)); }
 
   // ---- what its parts ask of one another ----
 
@@ -165,7 +167,7 @@ class frmToolbar final : public forms::Form,
   void RowMouseUp(forms::MouseButton button, forms::ShiftState shift, float x, float y) override {
     Singles.picSingleButton_MouseUp(button, shift, x, y);
   }
-  void WatchCarry() override { Drops.WatchCarry(); }
+  void WatchCarry() override { Carry.WatchCarry(); }
   void SinkAgain() override { Hiding.SinkAgain(); }
 
   // ---- the frame and the grip (frmToolbarFrame.cpp) ----
@@ -247,6 +249,8 @@ class frmToolbar final : public forms::Form,
   MenuTracking Menus;
   /// The single buttons, in picSingleButton.
   SingleRow Singles;
+  StripCarry Carry;
+  RefusedFiles Refused;
   StripDrops Drops;
 
  protected:
