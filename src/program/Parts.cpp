@@ -11,7 +11,7 @@ Parts::Parts(const Platform& services, forms::WindowSystem& windows)
   ports.Docking = &Docking;
   ports.Capture = &StillPicture;
   ports.ImageWindow = &StillPicture;
-  ports.SingleButtons = &Toolbar.Singles;
+  ports.SingleButtons = &Toolbar.RowDrops;
   ports.QMenu = &Menu;
   ports.Minimize = &Companion;
   ports.Startup = &Startup;

@@ -93,6 +93,7 @@ struct PlainStrip final : forms::Form, TrackedStrip, PulledStrip, RowHost {
   int ButtonUnder(PixelPoint) const override { return 0; }
   void CarryOverButtons(forms::MouseButton, forms::ShiftState, float, float) override {}
   void DoButtonDrag(int, forms::MouseButton) override {}
+  void DropOnRow(forms::MouseButton) override {}
   void TellRefused(std::vector<std::string>) override {}
 };
 

@@ -230,7 +230,7 @@ TEST(DoItemDrag, AnItemOfAMenuMovesIntoTheRow) {
   desk.PointAtSingle(2);
   desk.TheProgram.Entry.ItemDragging = true;
   desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
-  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  desk.Strip.RowDrops.DoItemDrag(forms::MouseButton::Left);
   EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
   EXPECT_EQ(desk.RecordsOfMenu(), 1U);
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
@@ -240,7 +240,7 @@ TEST(DoItemDrag, WithTheRightButtonItStaysInTheMenuToo) {
   DropDesk desk("ab");
   desk.PointAt(desk.BarePlace());
   desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
-  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Right);
+  desk.Strip.RowDrops.DoItemDrag(forms::MouseButton::Right);
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
   EXPECT_EQ(desk.RecordsOfMenu(), 2U);
 }
@@ -250,7 +250,7 @@ TEST(DoItemDrag, WhatTheRowCannotTakeStaysInTheMenu) {
   desk.World.Files.SetReadOnly(desk.File(2), true);
   desk.PointAtSingle(1);
   desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
-  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  desk.Strip.RowDrops.DoItemDrag(forms::MouseButton::Left);
   EXPECT_EQ(desk.OnDisk(), "1a 2b");
   EXPECT_EQ(desk.RecordsOfMenu(), 2U);
 }
@@ -258,7 +258,7 @@ TEST(DoItemDrag, WhatTheRowCannotTakeStaysInTheMenu) {
 TEST(DoItemDrag, WithoutAnEntryDropsNothing) {
   DropDesk desk("ab");
   desk.PointAt(desk.BarePlace());
-  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  desk.Strip.RowDrops.DoItemDrag(forms::MouseButton::Left);
   EXPECT_EQ(desk.OnDisk(), "1a 2b");
 }
 
@@ -345,7 +345,7 @@ TEST(AddNewButton, OnADiskThatRefusesThereIsNone) {
 TEST(DropFilesOnSingles, PutsThemBeforeTheButtonInTheirOrder) {
   DropDesk desk("ab");
   desk.PointAtSingle(2);
-  desk.Strip.Singles.DropFilesOnSingles({"C:\\y.txt", "C:\\x.txt"}, forms::MouseButton::Left);
+  desk.Strip.RowDrops.DropFilesOnSingles({"C:\\y.txt", "C:\\x.txt"}, forms::MouseButton::Left);
   EXPECT_EQ(desk.OnDisk(), "1a 2x 3y 4b");
   EXPECT_EQ(desk.World.Files.Get(desk.File(2)), Records({Entry("x", "C:\\x.txt", "C:\\x.txt")}));
   EXPECT_EQ(desk.Row(), "axyb");
@@ -357,7 +357,7 @@ TEST(DropFilesOnSingles, APointerThatGoesOnWhileAHintClosesChangesNoPlace) {
     DropDesk desk("ab");
     desk.PointAtSingle(2);
     desk.Parts.WhileHintGoes = [&] { desk.PointAtSingle(1); };
-    desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, button);
+    desk.Strip.RowDrops.DropFilesOnSingles({"C:\\x.txt"}, button);
     desk.Parts.WhileHintGoes = {};
     if (button == forms::MouseButton::Left) {
       EXPECT_EQ(desk.OnDisk(), "1a 2x 3b");
@@ -370,7 +370,7 @@ TEST(DropFilesOnSingles, APointerThatGoesOnWhileAHintClosesChangesNoPlace) {
 TEST(DropFilesOnSingles, OnFreeSpaceTheyFollowTheLast) {
   DropDesk desk("ab");
   desk.PointAt(desk.BarePlace());
-  desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Right);
+  desk.Strip.RowDrops.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Right);
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
 }
 
@@ -378,7 +378,7 @@ TEST(DropFilesOnSingles, WhatNoRecordHoldsIsNamedAfterwardsAndTheOthersAreTaken)
   DropDesk desk("ab");
   const std::string refused = "C:\\" + std::string(290, 'n') + ".txt";
   desk.PointAt(desk.BarePlace());
-  desk.Strip.Singles.DropFilesOnSingles({refused, "C:\\x.txt"}, forms::MouseButton::Left);
+  desk.Strip.RowDrops.DropFilesOnSingles({refused, "C:\\x.txt"}, forms::MouseButton::Left);
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
   desk.World.Desktop.Answer(RefusedFilesText({refused}), forms::msgbox::AnswerOk);
@@ -387,7 +387,7 @@ TEST(DropFilesOnSingles, WhatNoRecordHoldsIsNamedAfterwardsAndTheOthersAreTaken)
   // With none that can be taken the row is not touched.
   desk.World.Files.ClearLog();
   desk.World.Desktop.Answer(RefusedFilesText({refused}), forms::msgbox::AnswerOk);
-  desk.Strip.Singles.DropFilesOnSingles({refused}, forms::MouseButton::Left);
+  desk.Strip.RowDrops.DropFilesOnSingles({refused}, forms::MouseButton::Left);
   desk.World.Desktop.Advance(100);
   EXPECT_EQ(desk.World.Files.Count("Replace") + desk.World.Files.Count("Write"), 0);
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
@@ -396,7 +396,7 @@ TEST(DropFilesOnSingles, WhatNoRecordHoldsIsNamedAfterwardsAndTheOthersAreTaken)
 TEST(DropFilesOnSingles, WithTheRightButtonTheButtonOpensTheFirst) {
   DropDesk desk("ab");
   desk.PointAtSingle(2);
-  desk.Strip.Singles.DropFilesOnSingles({"C:\\y.txt", "C:\\x.txt"}, forms::MouseButton::Right);
+  desk.Strip.RowDrops.DropFilesOnSingles({"C:\\y.txt", "C:\\x.txt"}, forms::MouseButton::Right);
   EXPECT_EQ(desk.OnDisk(), "1a 2b");
   ASSERT_EQ(desk.World.Shell.Log().size(), 1U);
   EXPECT_EQ(desk.World.Shell.Log()[0].File, "C:\\Tools\\b.exe");
@@ -410,7 +410,7 @@ TEST(DropFilesOnSingles, AtAnEdgeTheRowIsFittedAndTheStripShown) {
   desk.TheProgram.Strip.AutoHide = true;
   const int fitted = desk.Edge.Fitted;
   desk.PointAtSingle(1);
-  desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Left);
+  desk.Strip.RowDrops.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Left);
   EXPECT_EQ(desk.Edge.Fitted, fitted + 1);
   EXPECT_EQ(desk.Edge.Revealed, 1);
   desk.TheProgram.Strip.AutoHide = false;
@@ -420,7 +420,7 @@ TEST(DropFilesOnSingles, ADiskThatRefusesLeavesTheRow) {
   DropDesk desk("ab");
   desk.World.Files.SetReadOnly(desk.File(2), true);
   desk.PointAtSingle(1);
-  desk.Strip.Singles.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Left);
+  desk.Strip.RowDrops.DropFilesOnSingles({"C:\\x.txt"}, forms::MouseButton::Left);
   EXPECT_EQ(desk.OnDisk(), "1a 2b");
 }
 
@@ -444,11 +444,11 @@ TEST(SinglesEdits, AreToldOnceEachWhenTheFilesAreWritten) {
   told("copied");
   desk.CarryFromMenu(Entry("x", "", "C:\\x.exe"));
   desk.PointAt(desk.MiddleOf(1));
-  desk.Strip.Singles.DoItemDrag(forms::MouseButton::Left);
+  desk.Strip.RowDrops.DoItemDrag(forms::MouseButton::Left);
   told("moved out of a menu");
   desk.World.Files.Put("C:\\f.txt", "");
   desk.PointAt(desk.MiddleOf(1));
-  desk.Strip.Singles.DropFilesOnSingles({"C:\\f.txt"}, forms::MouseButton::Left);
+  desk.Strip.RowDrops.DropFilesOnSingles({"C:\\f.txt"}, forms::MouseButton::Left);
   told("files of another program");
   desk.Carry(2, desk.MiddleOf(3));
   EXPECT_EQ(edits.Seen.size(), 1U) << "told, though the row is written as it was";
@@ -462,7 +462,7 @@ TEST(SinglesEdits, OfFilesThatNoRecordHoldsAreNotTold) {
   const std::string refused = "C:\\" + std::string(290, 'n') + ".txt";
   desk.World.Desktop.Answer(RefusedFilesText({refused}), forms::msgbox::AnswerOk);
   desk.PointAtSingle(1);
-  desk.Strip.Singles.DropFilesOnSingles({refused}, forms::MouseButton::Left);
+  desk.Strip.RowDrops.DropFilesOnSingles({refused}, forms::MouseButton::Left);
   desk.World.Desktop.Advance(100);
   EXPECT_TRUE(edits.Seen.empty());
   EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
@@ -477,7 +477,7 @@ TEST(SinglesEdits, ThatTheDiskRefusedAreNotTold) {
   desk.Carry(3, desk.MiddleOf(1));
   desk.World.Files.Put("C:\\f.txt", "");
   desk.PointAt(desk.MiddleOf(1));
-  desk.Strip.Singles.DropFilesOnSingles({"C:\\f.txt"}, forms::MouseButton::Left);
+  desk.Strip.RowDrops.DropFilesOnSingles({"C:\\f.txt"}, forms::MouseButton::Left);
   EXPECT_TRUE(edits.Seen.empty());
   desk.TheProgram.Ports.MenuEdits = nullptr;
 }

@@ -62,7 +62,7 @@ void StripDesk::Install() {
   TheProgram.Paths.AppPath = "C:\\Corvelle\\";
   TheProgram.OptionFlags.Set(Option::DefaultEntriesOffered, true);
   TheProgram.Ports.Toolbar = &Strip;
-  TheProgram.Ports.SingleButtons = &Strip.Singles;
+  TheProgram.Ports.SingleButtons = &Strip.RowDrops;
   TheProgram.Ports.QMenu = &Menu;
   TheProgram.Ports.Minimize = &Companion;
 }

@@ -54,6 +54,8 @@ class RowHost : public virtual StripWindow {
   virtual void CarryOverButtons(forms::MouseButton down, forms::ShiftState shift, float x,
                                 float y) = 0;
   virtual void DoButtonDrag(int button, forms::MouseButton released) = 0;
+  /// The same on the row itself.
+  virtual void DropOnRow(forms::MouseButton released) = 0;
   virtual void TellRefused(std::vector<std::string> files) = 0;
 };
 

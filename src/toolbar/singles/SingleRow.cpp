@@ -210,6 +210,15 @@ void SingleRow::RefreshSingleButtons() {
   DrawIcons();
 }
 
+void SingleRow::FitStrip() {
+  DockingPort* const docking = with_.Ports.Docking;
+  if (strip_.Shape().Where == Placement::TopHugging) {
+    strip_.SetToolbar();
+  } else if (docking != nullptr) {
+    docking->ResizeToEdge();
+  }
+}
+
 bool SingleRow::FitsRow(const std::vector<SingleRect>& read) const {
   if (read.size() + 1 != SingleButtons.size()) return false;
   for (std::size_t i = 0; i < read.size(); ++i) {

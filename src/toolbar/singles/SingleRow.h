@@ -7,7 +7,6 @@
 #include "base/Geometry.h"
 #include "core/LaunchParts.h"
 #include "core/MenuRecord.h"
-#include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 #include "forms/Graphic.h"
 #include "forms/Timer.h"
@@ -16,7 +15,6 @@
 #include "toolbar/layout/StripIcons.h"
 #include "toolbar/singles/DateLabel.h"
 #include "toolbar/singles/RowHost.h"
-#include "toolbar/singles/SingleEdits.h"
 #include "toolbar/singles/SingleLayout.h"
 
 namespace corvelle {
@@ -27,16 +25,13 @@ class Input;
 class OptionFlags;
 struct GuardFlags;
 struct MenuState;
-struct StripPlacement;
 class StripPull;
 
 /// What the row of single buttons works with. All of it outlives it.
 struct SingleRowParts {
   StripFiles Files;
-  SingleEdits Edits;
   const IconSources& Icons;
   const OptionFlags& Options;
-  const StripPlacement& Strip;
   DesktopWindows& Desktop;
   Input& Pointer;
   const WindowPorts& Ports;
@@ -48,12 +43,14 @@ struct SingleRowParts {
 };
 
 /// The single buttons of the strip: what is in its second box, and what the mouse does there.
-/// Each button is a file of its own; every change rewrites files, and the row is read again.
-/// Measures are twips of the box. The strip outlives it.
-class SingleRow final : public SingleButtonsPort {
+/// Each button is a file of its own; what changes them is SingleDrops. Measures are twips of the
+/// box. The strip outlives it.
+class SingleRow {
  public:
   SingleRow(const SingleRowParts& with, const DateParts& date, RowHost& strip, StripPull& pull,
             const RowControls& controls);
+  SingleRow(const SingleRow&) = delete;
+  SingleRow& operator=(const SingleRow&) = delete;
 
   // ---- the row (SingleRow.cpp) ----
 
@@ -63,6 +60,8 @@ class SingleRow final : public SingleButtonsPort {
   void RefreshSingleButtons();
   /// Empties the row, without drawing.
   void Unload();
+  /// The strip gets the size that the row asks for.
+  void FitStrip();
   /// End of the last entry along the strip; that of the template without entries.
   [[nodiscard]] float LastEnd() const;
 
@@ -70,6 +69,12 @@ class SingleRow final : public SingleButtonsPort {
 
   /// Sets MenuState::CurSingle by the pointer's place on the screen, and returns it.
   int GetCurIndex() noexcept;
+  /// A copy of the entry under the pointer; its File is empty when the pointer is over no entry.
+  [[nodiscard]] SingleRect Under();
+  /// Full path of the button or separator under the pointer; empty when the pointer is over
+  /// neither.
+  [[nodiscard]] std::string FileUnderPointer() { return Under().File; }
+  void CloseMenus();
   /// The strip ends: nobody looks after the pointer any more.
   void StopWatching() { watch_.SetEnabled(false); }
   /// Shows which button is under the pointer, by its look and its title as a hint.
@@ -86,23 +91,6 @@ class SingleRow final : public SingleButtonsPort {
   void picSingleButton_CaptureLost();
   /// The pointer has come to the date.
   void EnterDate() { ShowHover(0); }
-
-  // ---- drops and edits (SingleRowDrop.cpp) ----
-
-  void DoItemDrag(forms::MouseButton released) override;
-  void DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) override;
-  FileStatus DeleteSingle(std::string_view file) override { return DeletePasteSB(file, kDelete); }
-  FileStatus PasteSingle(std::string_view file) override { return DeletePasteSB(file, kPaste); }
-  FileStatus UndoDeleteSB(std::string_view file) override;
-  /// Full path of the button or separator under the pointer; empty when the pointer is over
-  /// neither.
-  [[nodiscard]] std::string FileUnderPointer() { return Under().File; }
-  /// Rewrites the files without the button of `file`, or with the clipboard's entry before it.
-  /// Whoever calls it reads the row again. A disk that refuses leaves the row as it was.
-  FileStatus DeletePasteSB(std::string_view file, int action);
-
-  static constexpr int kDelete = 0;
-  static constexpr int kPaste = 1;
 
   /// Entry 0 is the template; SingleCount others are in the order of their files.
   std::vector<SingleRect> SingleButtons;
@@ -156,19 +144,11 @@ class SingleRow final : public SingleButtonsPort {
   void DropCarried(forms::MouseButton released, forms::ShiftState shift);
   void StopCarry();
   void LoseCarry();
-  void CloseMenus();
   [[nodiscard]] bool OffersPopup(const Press& press) const;
   void ShowSinglePopup(int index, bool ctrl);
   void ShowRowPopup();
   [[nodiscard]] bool IsBesidePull(forms::MouseButton button) const;
   void ToFrame(forms::MouseButton button, float x, float y);
-
-  bool MoveFromMenu(const std::string& before, const EntryEdit& carried);
-  /// A copy of the entry under the pointer; its File is empty when the pointer is over no entry.
-  [[nodiscard]] SingleRect Under();
-  void FitStrip();
-  /// Puts records before the button of the file `before`, behind the last one when it is empty.
-  void AddDropped(const std::vector<MenuRecord>& records, const std::string& before);
 
   SingleRowParts with_;
   RowHost& strip_;

@@ -8,6 +8,7 @@
 #include "core/MenuState.h"
 #include "core/MessageBoxes.h"
 #include "core/OptionFlags.h"
+#include "core/RecordEdits.h"
 #include "forms/Form.h"
 #include "forms/PictureBox.h"
 #include "forms/Scopes.h"
@@ -57,6 +58,11 @@ int SingleRow::GetCurIndex() noexcept {
       static_cast<float>(pointer.y) * strip_.Shape().Scale.TwipsY - window_.Top() - box.Top()};
   with_.Menu.CurSingle = SingleAt(SingleButtons, at);
   return with_.Menu.CurSingle;
+}
+
+SingleRect SingleRow::Under() {
+  const int index = GetCurIndex();
+  return Has(index) ? SingleButtons[static_cast<std::size_t>(index)] : SingleRect();
 }
 
 // ---- hovering ----
@@ -313,7 +319,7 @@ void SingleRow::DropCarried(forms::MouseButton released, forms::ShiftState shift
   const PixelPoint pointer = with_.Pointer.PointerPosition();
   const WindowId under = with_.Desktop.WindowAt(pointer);
   if (under == controls_.Box.hWnd()) {
-    DoItemDrag(released);
+    strip_.DropOnRow(released);
   } else if (under == strip_.ButtonsBox().hWnd()) {
     const int button = strip_.ButtonUnder(pointer);
     if (button > 0) strip_.DoButtonDrag(button, released);

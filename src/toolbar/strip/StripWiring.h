@@ -12,6 +12,7 @@
 #include "toolbar/notices/frmHelp.h"
 #include "toolbar/notices/frmStartup.h"
 #include "toolbar/notices/frmTip.h"
+#include "toolbar/singles/SingleDrops.h"
 #include "toolbar/singles/SingleRow.h"
 #include "toolbar/strip/ButtonRow.h"
 #include "toolbar/strip/MenuTracking.h"
@@ -86,15 +87,8 @@ namespace corvelle {
 
 [[nodiscard]] inline SingleRowParts SingleRowPartsOf(Program& program) noexcept {
   return {.Files = StripFilesOf(program),
-          .Edits = SingleEdits({.Files = program.Services.Files,
-                                .Ansi = program.Services.Ansi,
-                                .Paths = program.Paths,
-                                .Ports = program.Ports,
-                                .Entry = program.Entry,
-                                .Titles = TitlesOf(program)}),
           .Icons = program.IconSources,
           .Options = program.OptionFlags,
-          .Strip = program.Strip,
           .Desktop = program.Services.Desktop,
           .Pointer = program.Services.Pointer,
           .Ports = program.Ports,
@@ -102,6 +96,20 @@ namespace corvelle {
           .Menu = program.Menu,
           .Entry = program.Entry,
           .Carry = program.Carry,
+          .Launch = program.Launch};
+}
+
+[[nodiscard]] inline SingleDropParts SingleDropPartsOf(Program& program) noexcept {
+  return {.Edits = SingleEdits({.Files = program.Services.Files,
+                                .Ansi = program.Services.Ansi,
+                                .Paths = program.Paths,
+                                .Ports = program.Ports,
+                                .Entry = program.Entry,
+                                .Titles = TitlesOf(program)}),
+          .Strip = program.Strip,
+          .Ports = program.Ports,
+          .Guards = program.Guards,
+          .Entry = program.Entry,
           .Launch = program.Launch};
 }
 

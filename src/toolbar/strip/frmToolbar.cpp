@@ -67,6 +67,7 @@ frmToolbar::frmToolbar(Program& program)
       Menus(TrackingPartsOf(program), *this, Buttons, Pull, picToolbar, Timer2),
       Singles(SingleRowPartsOf(program), DatePartsOf(program), *this, Pull,
               {picSingleButton, Line1, Line2, LineLeft, lblDate}),
+      RowDrops(SingleDropPartsOf(program), *this, Singles),
       Carry(StripCarryPartsOf(program), *this, Buttons, Menus, picToolbar, Timer2),
       Refused(program.Messages, *this, tmrRefused),
       Drops(StripDropPartsOf(program), *this, Buttons, Menus, Singles, picToolbar, picSingleButton,

@@ -17,6 +17,7 @@
 #include "toolbar/docking/StripHiding.h"
 #include "toolbar/docking/StripPull.h"
 #include "toolbar/layout/StripLook.h"
+#include "toolbar/singles/SingleDrops.h"
 #include "toolbar/singles/SingleRow.h"
 #include "toolbar/strip/ButtonRow.h"
 #include "toolbar/strip/MenuTracking.h"
@@ -147,6 +148,7 @@ class frmToolbar final : public forms::Form,
   void DoButtonDrag(int button, forms::MouseButton released) override {
     Carry.DoButtonDrag(button, released);
   }
+  void DropOnRow(forms::MouseButton released) override { RowDrops.DoItemDrag(released); }
   void TellRefused(std::vector<std::string> files) override { Refused.Tell(std::move(files)); }
 
   // ---- what its parts ask of one another ----
@@ -249,6 +251,7 @@ class frmToolbar final : public forms::Form,
   MenuTracking Menus;
   /// The single buttons, in picSingleButton.
   SingleRow Singles;
+  SingleDrops RowDrops;
   StripCarry Carry;
   RefusedFiles Refused;
   StripDrops Drops;

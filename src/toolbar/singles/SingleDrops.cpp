@@ -1,4 +1,4 @@
-// What is dropped on the single buttons, and the rewriting of their files.
+#include "toolbar/singles/SingleDrops.h"
 
 #include <utility>
 
@@ -7,34 +7,32 @@
 #include "core/GuardFlags.h"
 #include "core/StripPlacement.h"
 #include "forms/Form.h"
-#include "forms/PictureBox.h"
 #include "launch/LaunchItem.h"
+#include "toolbar/singles/RowHost.h"
 #include "toolbar/singles/SingleRow.h"
 
 namespace corvelle {
 
-FileStatus SingleRow::DeletePasteSB(std::string_view file, int action) {
+SingleDrops::SingleDrops(const SingleDropParts& with, RowHost& strip, SingleRow& row)
+    : with_(with), strip_(strip), window_(strip.AsForm()), row_(row) {}
+
+FileStatus SingleDrops::DeletePasteSB(std::string_view file, int action) {
   strip_.SetPointerWatch(false);
   return action == kDelete ? with_.Edits.Delete(file) : with_.Edits.Paste(file);
 }
 
-FileStatus SingleRow::UndoDeleteSB(std::string_view file) {
+FileStatus SingleDrops::UndoDeleteSB(std::string_view file) {
   strip_.SetPointerWatch(false);
   return with_.Edits.UndoDelete(file);
 }
 
-SingleRect SingleRow::Under() {
-  const int index = GetCurIndex();
-  return Has(index) ? SingleButtons[static_cast<std::size_t>(index)] : SingleRect();
-}
-
-void SingleRow::DoItemDrag(forms::MouseButton released) {
+void SingleDrops::DoItemDrag(forms::MouseButton released) {
   if (with_.Guards.ItemActionBusy || !window_.IsLoaded()) return;
   // Events run while the menu closes, and a carry that seems over then is emptied.
   const EntryEdit carried = with_.Entry;
   if (carried.CurMenuTag.empty()) return;
-  const SingleRect target = Under();
-  CloseMenus();
+  const SingleRect target = row_.Under();
+  row_.CloseMenus();
   if (!window_.IsLoaded()) return;
   with_.Entry = carried;
   strip_.SetPointerWatch(false);
@@ -47,13 +45,13 @@ void SingleRow::DoItemDrag(forms::MouseButton released) {
   } else {
     changed = with_.Edits.DropBefore(target.File, carried, released);
   }
-  if (changed) DoSingleButtons();
+  if (changed) row_.DoSingleButtons();
   with_.Entry.ItemDragging = false;
-  if (changed && window_.IsLoaded()) FitStrip();
+  if (changed && window_.IsLoaded()) row_.FitStrip();
 }
 
 // What cannot be taken out of its menu is copied. True if the row is another one now.
-bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried) {
+bool SingleDrops::MoveFromMenu(const std::string& before, const EntryEdit& carried) {
   const EditOutcome moved = with_.Edits.TakeFromMenu(before, carried);
   if (moved == EditOutcome::Failed) return false;
   if (moved != EditOutcome::Edited) return with_.Edits.PutCopy(before, carried);
@@ -62,22 +60,13 @@ bool SingleRow::MoveFromMenu(const std::string& before, const EntryEdit& carried
   return true;
 }
 
-void SingleRow::FitStrip() {
-  DockingPort* const docking = with_.Ports.Docking;
-  if (strip_.Shape().Where == Placement::TopHugging) {
-    strip_.SetToolbar();
-  } else if (docking != nullptr) {
-    docking->ResizeToEdge();
-  }
-}
-
-void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) {
+void SingleDrops::DropFilesOnSingles(std::vector<std::string> names, forms::MouseButton button) {
   if (names.empty() || !window_.IsLoaded() || with_.Guards.ItemActionBusy) return;
   // Events run from here on: the pointer may go on, and the row may be another one.
-  const SingleRect target = Under();
+  const SingleRect target = row_.Under();
   const bool onButton = !target.File.empty() && target.Kind == SingleKind::Button;
   with_.Ports.SetHint("");
-  CloseMenus();
+  row_.CloseMenus();
   if (!window_.IsLoaded()) return;
   SortTexts(names);
   if (button == forms::MouseButton::Right && onButton) {
@@ -90,10 +79,10 @@ void SingleRow::DropFilesOnSingles(std::vector<std::string> names, forms::MouseB
   if (window_.IsLoaded()) strip_.TellRefused(std::move(dropped.Refused));
 }
 
-void SingleRow::AddDropped(const std::vector<MenuRecord>& records, const std::string& before) {
+void SingleDrops::AddDropped(const std::vector<MenuRecord>& records, const std::string& before) {
   if (!with_.Edits.Add(records, before)) return;
-  DoSingleButtons();
-  FitStrip();
+  row_.DoSingleButtons();
+  row_.FitStrip();
   if (with_.Strip.AutoHide && with_.Ports.Docking != nullptr) {
     with_.Ports.Docking->RevealToolbar();
   }
