@@ -4,9 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/Timer.h"
-#include "toolbar/PlainStrip.h"
-#include "toolbar/strip/StripWiring.h"
+#include "toolbar/PlainRowDesk.h"
 
 namespace corvelle {
 namespace {
@@ -20,11 +18,8 @@ struct TrackedMainMenu final : MainMenuPort {
 };
 
 /// Three buttons with menus behind the program's own.
-struct TrackDesk : PlainDesk {
-  TrackDesk() {
-    for (int i = 1; i <= 3; ++i) PutMenu(i, "Menu " + std::to_string(i));
-    Row.MakeTemplates();
-    Row.DoToolbarButtons();
+struct TrackDesk : PlainMenusDesk {
+  TrackDesk() : PlainMenusDesk({"Menu 1", "Menu 2", "Menu 3"}) {
     Watch.SetInterval(1);
     Watch.Tick = [this] { Menus.Timer2_Timer(); };
     World.Desktop.Pump();
@@ -32,15 +27,6 @@ struct TrackDesk : PlainDesk {
     Strip.Asked.clear();
   }
 
-  ButtonRow Row{ButtonRowPartsOf(TheProgram), Strip, Strip.ForButtons()};
-  StripPull Pull{PullPartsOf(TheProgram), Strip};
-  forms::Timer Watch{World.Windows()};
-  MenuTracking Menus{TrackingPartsOf(TheProgram), Strip, Row, Pull, Strip.picToolbar, Watch};
-
-  void PointAtButton(int button) {
-    const PixelPoint at = Row.Middle(button);
-    World.Desktop.MovePointer(at.x, at.y);
-  }
   /// A press where the pointer would be on that button, told as the box tells.
   void Press(int button, MouseButton pressed = MouseButton::Left) {
     PointAtButton(button);

@@ -10,21 +10,15 @@
 
 namespace corvelle {
 
-/// Two buttons with menus behind the program's own, and another program in front.
-struct PlainRowDesk : PlainDesk {
-  PlainRowDesk() {
-    PutMenu(1, "One");
-    PutMenu(2, "Two");
+/// Buttons with menus of these titles behind the program's own, and what tracks their menus.
+struct PlainMenusDesk : PlainDesk {
+  explicit PlainMenusDesk(const std::vector<std::string>& titles) {
+    int file = 0;
+    for (const std::string& title : titles) PutMenu(++file, title);
     Row.MakeTemplates();
     Row.DoToolbarButtons();
-    TheProgram.Guards.ToolbarReady = true;
-    Source = World.Desktop.AddOtherWindow({.Title = "Page", .Bounds = {600, 500, 900, 700}});
-    World.Desktop.BringForward(Source);
-    World.Desktop.Pump();
-    Menu.Asked.clear();
   }
 
-  WindowId Source = kNoWindow;
   ButtonRow Row{ButtonRowPartsOf(TheProgram), Strip, Strip.ForButtons()};
   StripPull Pull{PullPartsOf(TheProgram), Strip};
   forms::Timer Watch{World.Windows()};
@@ -34,6 +28,20 @@ struct PlainRowDesk : PlainDesk {
     const PixelPoint at = Row.Middle(button);
     World.Desktop.MovePointer(at.x, at.y);
   }
+};
+
+/// Two buttons on a strip that is ready, and another program in front.
+struct PlainRowDesk : PlainMenusDesk {
+  PlainRowDesk() : PlainMenusDesk({"One", "Two"}) {
+    TheProgram.Guards.ToolbarReady = true;
+    Source = World.Desktop.AddOtherWindow({.Title = "Page", .Bounds = {600, 500, 900, 700}});
+    World.Desktop.BringForward(Source);
+    World.Desktop.Pump();
+    Menu.Asked.clear();
+  }
+
+  WindowId Source = kNoWindow;
+
   std::vector<std::string> Titles(int file) {
     std::vector<std::string> titles;
     const auto records =
