@@ -199,8 +199,6 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   bool KeyboardActive = false;
   /// The pointer is off the window.
   bool PointerAway = false;
-  /// The pointer is in the menu, but below the last item.
-  bool PointerBelowItems = false;
   /// Labels that draw the engraved look of disabled items.
   int ShadowCount = 0;
   /// Key of the menu in which the last popup acted.
