@@ -84,6 +84,8 @@ TEST_F(cShellLinkTest, WhateverFailsWhileMakingGivesFalseAndReleasesTheLink) {
       EXPECT_EQ(n, 10);
       break;
     }
+    // Nothing more is asked of a link of which a part could not be set.
+    EXPECT_EQ(shell.Log().size(), static_cast<std::size_t>(n)) << "failing call " << n;
   }
 }
 
