@@ -21,6 +21,10 @@ void GeneratedMenu::BeginItem(int record) {
   nextSource_ = std::max(nextSource_, record + 1);
 }
 
+void GeneratedMenu::Expect(std::size_t entries) {
+  items_.reserve(std::min(items_.size() + entries, static_cast<std::size_t>(kMaxRecords)));
+}
+
 bool GeneratedMenu::AddEntry(int record, MenuRecord entry, std::string name) {
   if (IsFull()) return false;
   // A field holds a short plain title as it is.

@@ -76,6 +76,7 @@ clsFolder ExpandFolderItem(GeneratedMenu& menu, int record, const FoundFiles& fo
   menu.BeginItem(record);
   folder.RecStart = menu.Count() + 1;
   folder.RecTotal = static_cast<int>(found.Files.size());
+  menu.Expect(found.Files.size());
   std::size_t last = found.Folders.size();
   for (const FoundFiles::File& file : found.Files) {
     std::string path = found.PathOf(file);
