@@ -8,7 +8,7 @@
 #include "base/CodePage.h"
 #include "base/Utf8.h"
 #include "core/Program.h"
-#include "icons/IconLibrary.h"
+#include "icons/IconsWiring.h"
 #include "icons/LibraryFile.h"
 #include "sim/World.h"
 
@@ -45,7 +45,7 @@ void CheckUnpacking(const std::string& container) {
   Program program{world.Services(), world.Windows()};
   program.Paths.AppPath = "C:\\Corvelle\\";
   program.Paths.IconsPath = kIcons;
-  IconLibrary(program).ExtractIconLibrary();
+  IconLibrary(UnpackPartsOf(program)).ExtractIconLibrary();
 
   CORVELLE_CHECK(world.Files.Names("C:\\") == std::vector<std::string>{"Corvelle"});
   CORVELLE_CHECK(world.Files.Names("C:\\Corvelle") ==

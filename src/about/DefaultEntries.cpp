@@ -185,8 +185,8 @@ FileStatus DefaultEntries::WriteMenus() {
   with_.Progress.ShowStartupProgress();
   if (auto written = WriteMenu(ProgramsMenu(programs)); !written) return written;
   with_.Progress.ShowStartupProgress();
-  if (auto written = WriteMenu(
-          DocumentsMenu(GetSpecialFolder(with_.Links, with_.Ports.ToolbarWindow(), kRecentFolder)));
+  if (auto written =
+          WriteMenu(DocumentsMenu(GetSpecialFolder(with_.Links, with_.Ports, kRecentFolder)));
       !written) {
     return written;
   }
@@ -210,7 +210,7 @@ FileStatus DefaultEntries::WriteMenu(const std::vector<MenuRecord>& records) {
 DefaultEntries::Folders DefaultEntries::ProgramsFolders() {
   Folders folders;
   for (const int number : {kProgramsFolder, kCommonProgramsFolder}) {
-    std::string folder = GetSpecialFolder(with_.Links, with_.Ports.ToolbarWindow(), number);
+    std::string folder = GetSpecialFolder(with_.Links, with_.Ports, number);
     if (!folder.empty()) folders.push_back(std::move(folder));
   }
   return folders;

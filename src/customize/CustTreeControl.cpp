@@ -1,21 +1,15 @@
 #include "customize/CustTreeControl.h"
 
 #include <algorithm>
-#include <memory>
 #include <utility>
-#include <vector>
 
 #include "base/Text.h"
-#include "core/Program.h"
-#include "forms/Graphic.h"
-#include "icons/Glyphs.h"
 #include "icons/IconForm.h"
 
 namespace corvelle {
 
 namespace {
 
-constexpr int kImageSize = 16;   // pixels
 constexpr int kPictureWait = 1;  // milliseconds
 constexpr int kPicturesAtOnce = 8;
 constexpr int kAtOnce = 40;  // milliseconds for which one icon may hold up the others
@@ -29,13 +23,14 @@ constexpr std::pair<std::string_view, std::string_view> kOwnPictures[] = {
 
 }  // namespace
 
-CustTreeControl::CustTreeControl(Program& program, CustTree& tree, forms::TreeView& control)
-    : program_(program),
-      tree_(tree),
+CustTreeControl::CustTreeControl(const IconSources& icons, SlowQuestions& slow, CustTree& tree,
+                                 forms::TreeView& control)
+    : tree_(tree),
       control_(control),
-      targets_(program.Slow, program.Windows),
-      icons_(program.IconSources, IconCaller::Tree),
-      tmrPictures_(program.Windows) {
+      targets_(slow, icons.Windows),
+      icons_(icons, IconCaller::Tree),
+      pictures_(control),
+      tmrPictures_(icons.Windows) {
   targets_.Changed = [this](CustRef node) {
     if (tree_.IsInTree(node)) NodeChanged(node);
   };
@@ -64,10 +59,8 @@ void CustTreeControl::Clear() {
 }
 
 void CustTreeControl::ForgetImages() {
-  control_.ClearImages();
+  pictures_.Clear();
   images_.clear();
-  marked_.clear();
-  pictures_.clear();
 }
 
 void CustTreeControl::TreeCleared() {
@@ -139,77 +132,44 @@ forms::NodeLook CustTreeControl::LookOf(CustRef node) {
     tmrPictures_.SetEnabled(true);
   }
   if (!tree_.IsRoot(node) && targets_.Ask(node, content.Entry.FileExe)) {
-    look.Image = Marked(look.Image);
+    look.Image = pictures_.Marked(look.Image);
   }
   return look;
 }
 
 int CustTreeControl::ImageOf(const NodePicture& picture) {
-  if (picture.Shown == NodePicture::Kind::Root) return Glyph("tm");
-  if (picture.Shown == NodePicture::Kind::Unknown) return Glyph("unknown");
+  if (picture.Shown == NodePicture::Kind::Root) return pictures_.OfGlyph("tm");
+  if (picture.Shown == NodePicture::Kind::Unknown) return pictures_.OfGlyph("unknown");
   const std::string icon = LowerCase(picture.Icon);
   for (const auto& [text, glyph] : kOwnPictures) {
-    if (icon == text) return Glyph(std::string(glyph));
+    if (icon == text) return pictures_.OfGlyph(std::string(glyph));
   }
-  const auto found = images_.find("icon:" + icon);
+  const auto found = images_.find(icon);
   return found != images_.end() ? found->second : -1;
-}
-
-int CustTreeControl::Glyph(const std::string& key) {
-  const auto [place, isNew] = images_.try_emplace(key, 0);
-  if (isNew) place->second = AddImage(MakeGlyph(program_.Windows, key));
-  return place->second;
-}
-
-int CustTreeControl::AddImage(Picture picture) {
-  pictures_.push_back(picture);
-  return control_.AddImage(std::move(picture));
-}
-
-int CustTreeControl::Marked(int image) {
-  const auto found = marked_.find(image);
-  if (found != marked_.end()) return found->second;
-  std::shared_ptr<Canvas> canvas = program_.Windows.CreateCanvas({kImageSize, kImageSize});
-  canvas->FillBox({0, 0, kImageSize, kImageSize}, forms::Image::kMask);
-  if (const Picture& plain = pictures_[static_cast<std::size_t>(image)]; plain != nullptr) {
-    canvas->DrawCanvas(*plain, {0, 0, kImageSize, kImageSize}, {0, 0});
-  }
-  DrawGlyph(*canvas, program_.Windows, "missing", {0, 0});
-  const int marked = AddImage(std::move(canvas));
-  marked_[image] = marked;
-  return marked;
 }
 
 int CustTreeControl::PlainImage(CustRef node) {
   const int image = ImageOf(tree_.At(node).Picture);
-  return image < 0 ? Glyph("unknown") : image;
+  return image < 0 ? pictures_.OfGlyph("unknown") : image;
 }
 
 bool CustTreeControl::IsMissing(CustRef node) const {
   return !tree_.IsRoot(node) && targets_.IsMissing(tree_.At(node).Entry.FileExe);
 }
 
-int CustTreeControl::ImageOf(const IconLook& look) {
-  if (!look.Glyph.empty()) return Glyph(look.Glyph);
-  std::shared_ptr<Canvas> canvas = program_.Windows.CreateCanvas({kImageSize, kImageSize});
-  canvas->FillBox({0, 0, kImageSize, kImageSize}, forms::Image::kMask);
-  if (!icons_.Draw(*canvas, look, kImageSize)) return Glyph("qmark");
-  return AddImage(std::move(canvas));
-}
-
 void CustTreeControl::LookUp(CustRef node) {
   if (!tree_.IsInTree(node)) return;
   const std::string icon = tree_.At(node).Picture.Icon;
   if (ImageOf(tree_.At(node).Picture) < 0) {
-    const IconLook look = icons_.Ask(icon, kImageSize, kAtOnce,
+    const IconLook look = icons_.Ask(icon, kSmallIconSize, kAtOnce,
                                      [this, icon](const IconLook& late) { TakeLate(icon, late); });
-    images_["icon:" + LowerCase(icon)] = ImageOf(look);
+    images_[LowerCase(icon)] = pictures_.OfLook(look, icons_);
   }
   NodeChanged(node);
 }
 
 void CustTreeControl::TakeLate(const std::string& icon, const IconLook& look) {
-  images_["icon:" + LowerCase(icon)] = ImageOf(look);
+  images_[LowerCase(icon)] = pictures_.OfLook(look, icons_);
   for (const auto& [node, id] : ids_) {
     const NodePicture& picture = tree_.At(node).Picture;
     if (picture.Shown == NodePicture::Kind::Icon && EqualNoCase(picture.Icon, icon))

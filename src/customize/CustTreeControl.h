@@ -3,24 +3,26 @@
 #include <deque>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 #include "customize/CustTree.h"
 #include "customize/MissingTargets.h"
 #include "forms/Timer.h"
 #include "forms/TreeView.h"
 #include "icons/AskedIcons.h"
+#include "icons/TreeImages.h"
 
 namespace corvelle {
 
-class Program;
+class SlowQuestions;
 
 /// Shows a tree of menus in a tree view, with the pictures of its entries. Icons that were not
 /// shown before are asked for one after the other, by a timer; in the place of one that takes its
 /// time is a picture of its kind.
 class CustTreeControl final : public CustTreeView {
  public:
-  CustTreeControl(Program& program, CustTree& tree, forms::TreeView& control);
+  /// All of it outlives this.
+  CustTreeControl(const IconSources& icons, SlowQuestions& slow, CustTree& tree,
+                  forms::TreeView& control);
   ~CustTreeControl() override;
 
   /// The control's node for a node of the tree, and back; none for one that is not shown.
@@ -52,27 +54,20 @@ class CustTreeControl final : public CustTreeView {
   [[nodiscard]] forms::NodeLook LookOf(CustRef node);
   /// The image of a picture; -1 for one that has to wait.
   [[nodiscard]] int ImageOf(const NodePicture& picture);
-  /// The same with the mark of a missing target.
-  [[nodiscard]] int Marked(int image);
-  [[nodiscard]] int Glyph(const std::string& key);
-  int AddImage(Picture picture);
-  [[nodiscard]] int ImageOf(const IconLook& look);
   void ShowNext();
   void LookUp(CustRef node);
   /// Another picture for all nodes of an icon text.
   void TakeLate(const std::string& icon, const IconLook& look);
 
-  Program& program_;
   CustTree& tree_;
   forms::TreeView& control_;
   std::unordered_map<CustRef, forms::NodeId> ids_;
   std::unordered_map<forms::NodeId, CustRef> refs_;
-  std::unordered_map<std::string, int> images_;  // by glyph or icon text in small letters
-  std::unordered_map<int, int> marked_;          // images with the mark, by those without
-  std::vector<Picture> pictures_;                // of all images
   MissingTargets targets_;
   std::deque<CustRef> waiting_;  // nodes whose icon is not asked for yet
   AskedIcons icons_;
+  TreeImages pictures_;
+  std::unordered_map<std::string, int> images_;  // of icons, by their texts in small letters
   forms::Timer tmrPictures_;
 };
 

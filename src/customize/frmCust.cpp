@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "core/SpecialFolders.h"
 #include "customize/CustLayout.h"
 #include "forms/Scopes.h"
 #include "icons/Glyphs.h"
-#include "launch/LaunchWiring.h"
 #include "platform/FileSystem.h"
 #include "platform/Input.h"
 #include "shell/FileErrorText.h"
@@ -51,8 +51,8 @@ void Place(forms::Control& control, const TwipRect& at) {
 
 }  // namespace
 
-frmCust::frmCust(Program& program)
-    : Form(program.Windows, "frmCust", forms::BorderStyle::Sizable, true),
+frmCust::frmCust(const CustParts& with)
+    : Form(with.Icons.Windows, "frmCust", forms::BorderStyle::Sizable, true),
       TreeView1(*this, "TreeView1"),
       txtFind(*this, "txtFind"),
       Toolbar1(*this, "Toolbar1"),
@@ -81,12 +81,12 @@ frmCust::frmCust(Program& program)
       cmdSelectFolder(picFiles, "cmdSelectFolder"),
       cmdShowDraft(*this, "cmdShowDraft"),
       cmdForgetDraft(*this, "cmdForgetDraft"),
-      Timer1(program.Windows),
-      tmrDraft(program.Windows),
-      tmrEdits(program.Windows),
+      Timer1(with.Icons.Windows),
+      tmrDraft(with.Icons.Windows),
+      tmrEdits(with.Icons.Windows),
       Editor(*this),
-      program_(program),
-      tree_(program, Editor.Tree, TreeView1) {
+      with_(with),
+      tree_(with.Icons, with.Slow, Editor.Tree, TreeView1) {
   SetMinimizeBox(true);
   SetLeastSize(kCustLeastWidth, kCustLeastHeight);
   WireControls();
@@ -148,7 +148,7 @@ void frmCust::InitCustToolbar() {
       Toolbar1.AddGap();
       continue;
     }
-    const int image = Toolbar1.AddImage(MakeGlyph(program_.Windows, tool.Glyph));
+    const int image = Toolbar1.AddImage(MakeGlyph(Windows(), tool.Glyph));
     Toolbar1.Add({.Key = std::string(tool.Key), .Tip = std::string(tool.Tip), .Image = image});
   }
   Toolbar1.ButtonClick = [this](const std::string& key) { Toolbar1_ButtonClick(key); };
@@ -166,13 +166,12 @@ void frmCust::LoadWindow() {
 }
 
 bool frmCust::InitMenuTree() {
-  MenusResult<MenuFiles> read =
-      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
+  MenusResult<MenuFiles> read = ReadMenuFiles(with_.Files, with_.Ansi, with_.Paths.MenusPath);
   if (!read) {
     // A tree that lacks a file would delete it when it is saved.
-    program_.Messages.Say(program_.Ports.WindowInUse(),
-                          FileErrorText(read.Error().Reason) + "\r\n" + read.Error().Path,
-                          forms::msgbox::IconInformation);
+    with_.Messages.Say(with_.Ports.WindowInUse(),
+                       FileErrorText(read.Error().Reason) + "\r\n" + read.Error().Path,
+                       forms::msgbox::IconInformation);
     return false;
   }
   files_ = *std::move(read);
@@ -180,16 +179,15 @@ bool frmCust::InitMenuTree() {
 }
 
 void frmCust::Form_Load() {
-  PropertiesPort* const properties = program_.Ports.Properties;
+  PropertiesPort* const properties = with_.Ports.Properties;
   if (properties != nullptr && properties->WindowLoaded()) properties->UnloadWindow();
-  const forms::HourglassScope hourglass(program_.Windows);
-  SetCaption(program_.Title + " . Customize");
+  const forms::HourglassScope hourglass(Windows());
+  SetCaption(with_.Title + " . Customize");
   SetBackColor(forms::color::ButtonFace);
   SetTakesDrops(true);
   Center(kCustWidth, kCustHeight);
   Timer1.SetInterval(kGuard);
-  Editor.LastFolder =
-      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kStartMenuFolder);
+  Editor.LastFolder = GetSpecialFolder(with_.Links, with_.Ports, kStartMenuFolder);
   LastBrowseFolder.clear();
   Browsing = PickIcon = FolderToCommandOnly = Dragging = ShiftDown = messageWaits_ = false;
   finding_ = false;
@@ -197,11 +195,10 @@ void frmCust::Form_Load() {
   txtFind.SetText("");
   address_.clear();
   mnuPopup = {};
-  keeper_ = std::make_unique<DraftKeeper>(program_.Services.Files, program_.Paths.MenusPath);
+  keeper_ = std::make_unique<DraftKeeper>(with_.Files, with_.Paths.MenusPath);
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
-    Editor.InitMenuTree(files_.Set, program_.Paths.ShippedFile("corvelle.exe"),
-                        program_.Paths.MenusPath);
+    Editor.InitMenuTree(files_.Set, with_.Paths.ShippedFile("corvelle.exe"), with_.Paths.MenusPath);
     Editor.Select(kMenusRoot);
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());
@@ -227,7 +224,7 @@ void frmCust::Form_Unload() {
   Editor.Close();
   tree_.Clear();
   keeper_.reset();
-  LibraryPort* const library = program_.Ports.Library;
+  LibraryPort* const library = with_.Ports.Library;
   if (library != nullptr && library->WindowLoaded()) library->UnloadWindow();
 }
 
@@ -273,25 +270,20 @@ void frmCust::PlaceControls() {
   Place(chkSelect1, at.Desktop);
 }
 
-void frmCust::Beep() { program_.Services.Pointer.Beep(); }
+void frmCust::Beep() { with_.Pointer.Beep(); }
 
 int frmCust::Say(std::string_view text, unsigned flags) {
-  return program_.Messages.Say(hWnd(), text, flags);
+  return with_.Messages.Say(hWnd(), text, flags);
 }
 
-bool frmCust::FileExists(std::string_view path) { return program_.Services.Files.FileExists(path); }
+bool frmCust::FileExists(std::string_view path) { return with_.Files.FileExists(path); }
 
-bool frmCust::IsPlainFolder(std::string_view path) {
-  return program_.Services.Files.FolderExists(path);
-}
+bool frmCust::IsPlainFolder(std::string_view path) { return with_.Files.FolderExists(path); }
 
-std::string frmCust::TitleOf(std::string_view path) {
-  return TitlesOf(program_).GetFileTitle(path);
-}
+std::string frmCust::TitleOf(std::string_view path) { return with_.Titles.GetFileTitle(path); }
 
 std::string frmCust::RecentFolder() {
-  return EnsureBackslash(
-      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kRecentFolder));
+  return EnsureBackslash(GetSpecialFolder(with_.Links, with_.Ports, kRecentFolder));
 }
 
 }  // namespace corvelle

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/IconSources.h"
 #include "core/WindowPorts.h"
 #include "customize/CustEditor.h"
 #include "customize/CustOptions.h"
@@ -27,10 +28,45 @@
 #include "forms/Timer.h"
 #include "forms/ToolBar.h"
 #include "forms/TreeView.h"
+#include "launch/FileTitle.h"
+#include "shell/StartupLink.h"
 
 namespace corvelle {
 
-class Program;
+class CodePage;
+class FileSystem;
+class Input;
+class MessageBoxes;
+class OptionFlags;
+class ShellLinks;
+class SlowQuestions;
+struct LaunchParts;
+struct ProgramPaths;
+struct StripPlacement;
+namespace forms {
+class EventPump;
+}
+
+/// What the window works with. All of it outlives the window.
+struct CustParts {
+  const IconSources& Icons;
+  SlowQuestions& Slow;
+  FileSystem& Files;
+  const CodePage& Ansi;
+  ShellLinks& Links;
+  Input& Pointer;
+  const ProgramPaths& Paths;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+  forms::EventPump& Events;
+  OptionFlags& Options;
+  std::string& WebLinkIcon;  // see IconState
+  const StripPlacement& Strip;
+  const std::string& Title;  // of the program
+  const LaunchParts& Launch;
+  FileTitles Titles;
+  StartupLinkParts Startup;
+};
 
 /// The Customize window: all menu buttons and single buttons in one tree, the texts of the selected
 /// one in three boxes, and the options of the program. What is changed is on the disk only after a
@@ -41,7 +77,7 @@ class frmCust final : public forms::Form,
                       public MenuEditsPort,
                       private CustHost {
  public:
-  explicit frmCust(Program& program);
+  explicit frmCust(const CustParts& with);
 
   /// Shows it; one that is up comes to the front.
   void LoadWindow() override;
@@ -227,7 +263,7 @@ class frmCust final : public forms::Form,
   void ShowSet(const MenuSet& set);
   void ShowFiles();
 
-  Program& program_;
+  CustParts with_;
   CustTreeControl tree_;
   MenuMaker menuBar_;
   std::unique_ptr<DraftKeeper> keeper_;

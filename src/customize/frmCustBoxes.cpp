@@ -1,7 +1,7 @@
 #include <string>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/ProgramPaths.h"
 #include "core/SpecialFolders.h"
 #include "customize/frmCust.h"
 #include "forms/Scopes.h"
@@ -109,14 +109,14 @@ void frmCust::cmdOK_Click() {
 
 void frmCust::StopGuard() {
   Timer1.SetEnabled(false);
-  if (program_.Ports.Library == nullptr || !program_.Ports.Library->WindowLoaded()) {
+  if (with_.Ports.Library == nullptr || !with_.Ports.Library->WindowLoaded()) {
     Browsing = false;
   }
 }
 
 void frmCust::ShowAddFileMsg() {
-  if (program_.Ports.Tip != nullptr) {
-    program_.Ports.Tip->ShowTip("Add File/Folder", kAddText, Option::AddFileTipDone);
+  if (with_.Ports.Tip != nullptr) {
+    with_.Ports.Tip->ShowTip("Add File/Folder", kAddText, Option::AddFileTipDone);
   }
 }
 
@@ -136,18 +136,14 @@ void frmCust::Browse(bool files) {
 }
 
 std::string frmCust::StartFolder() const {
-  if (chkSelect0.Value() == 1)
-    return GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(),
-                            kMenuFilesFolder);
-  if (chkSelect1.Value() == 1)
-    return GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(),
-                            kDesktopFolder);
+  if (chkSelect0.Value() == 1) return GetSpecialFolder(with_.Links, with_.Ports, kMenuFilesFolder);
+  if (chkSelect1.Value() == 1) return GetSpecialFolder(with_.Links, with_.Ports, kDesktopFolder);
   return Editor.LastFolder;
 }
 
 void frmCust::AddFiles() {
   const bool one = Editor.Tree.Parent(Editor.Selected()) == kMenusRoot;
-  const forms::FileChoice choice = program_.Windows.AskFiles(
+  const forms::FileChoice choice = Windows().AskFiles(
       hWnd(), {.Title = std::string(one ? kOneFile : "Select one or more files."),
                .StartFolder = StartFolder(),
                .Several = !one});
@@ -163,13 +159,13 @@ std::string frmCust::FolderLink(const forms::FolderChoice& choice) {
     if (std::string_view("\\/:*?\"<>|").find(letter) == std::string_view::npos) name += letter;
   }
   if (name.empty()) name = "Folder";
-  FileSystem& files = program_.Services.Files;
-  std::string path = program_.Paths.ShellLinkPath + name + ".lnk";
+  FileSystem& files = with_.Files;
+  std::string path = with_.Paths.ShellLinkPath + name + ".lnk";
   for (int number = 2; files.FileExists(path); ++number) {
-    path = program_.Paths.ShellLinkPath + name + " " + std::to_string(number) + ".lnk";
+    path = with_.Paths.ShellLinkPath + name + " " + std::to_string(number) + ".lnk";
   }
   constexpr int kNormalWindow = 1;
-  if (cShellLink(program_.Services.Links).ShellLinkToObject(path, choice.Item, kNormalWindow)) {
+  if (cShellLink(with_.Links).ShellLinkToObject(path, choice.Item, kNormalWindow)) {
     return path;
   }
   Say("Unable to access the selected folder.", forms::msgbox::IconInformation);
@@ -178,7 +174,7 @@ std::string frmCust::FolderLink(const forms::FolderChoice& choice) {
 
 void frmCust::SelectFolder() {
   const bool commandOnly = std::exchange(FolderToCommandOnly, false);
-  const forms::FolderChoice choice = program_.Windows.AskFolder(
+  const forms::FolderChoice choice = Windows().AskFolder(
       hWnd(),
       {.Text = "To select a folder, highlight it and click OK.", .StartFolder = LastBrowseFolder});
   PickIcon = false;
@@ -205,8 +201,8 @@ void frmCust::SelectFolder() {
 
 void frmCust::SelectFile() {
   const bool icon = std::exchange(PickIcon, false);
-  const forms::FileChoice choice = program_.Windows.AskFiles(
-      hWnd(), {.Title = std::string(kOneFile), .StartFolder = StartFolder()});
+  const forms::FileChoice choice =
+      Windows().AskFiles(hWnd(), {.Title = std::string(kOneFile), .StartFolder = StartFolder()});
   if (!IsLoaded() || choice.Paths.empty()) return;
   (icon ? txtFile : txtCommand).SetText(choice.Paths.front());
   Editor.LastFolder = FolderOf(choice.Paths.front());
@@ -225,11 +221,10 @@ bool frmCust::MayFill() {
 
 void frmCust::FillBox(Field field, bool folder) {
   if (!MayFill()) return;
-  if (program_.Ports.Tip != nullptr) {
+  if (with_.Ports.Tip != nullptr) {
     field == Field::Icon
-        ? program_.Ports.Tip->ShowTip("Other Files Icons", kAllFilesText, Option::OtherFilesTipDone)
-        : program_.Ports.Tip->ShowTip("Select File/Folder", kCommandText,
-                                      Option::SelectFileTipDone);
+        ? with_.Ports.Tip->ShowTip("Other Files Icons", kAllFilesText, Option::OtherFilesTipDone)
+        : with_.Ports.Tip->ShowTip("Select File/Folder", kCommandText, Option::SelectFileTipDone);
   }
   forms::TextBox& box = field == Field::Icon ? txtFile : txtCommand;
   const std::string before = box.Text();
@@ -248,10 +243,10 @@ void frmCust::FillBox(Field field, bool folder) {
 
 void frmCust::ShowLibrary() {
   if (!MayFill()) return;
-  if (program_.Ports.Tip != nullptr) {
-    program_.Ports.Tip->ShowTip("Icon Library", kLibraryText, Option::IconLibraryTipDone);
+  if (with_.Ports.Tip != nullptr) {
+    with_.Ports.Tip->ShowTip("Icon Library", kLibraryText, Option::IconLibraryTipDone);
   }
-  if (program_.Ports.Library != nullptr) program_.Ports.Library->Show("frmCust");
+  if (with_.Ports.Library != nullptr) with_.Ports.Library->Show("frmCust");
 }
 
 void frmCust::SetBrowsing(bool browsing) {

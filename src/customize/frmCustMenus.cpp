@@ -1,7 +1,6 @@
 #include <string>
 
 #include "base/Text.h"
-#include "core/Program.h"
 #include "customize/CustModules.h"
 #include "customize/frmCust.h"
 #include "launch/LaunchItem.h"
@@ -105,14 +104,14 @@ void frmCust::ShowTreeMenu(float x, float y, bool byKey) {
   UpdatePopupMenu(Editor, mnuPopup);
   MenuMaker menu;
   AddPopupLines(menu);
-  PixelPoint at = program_.Services.Pointer.PointerPosition();
+  PixelPoint at = with_.Pointer.PointerPosition();
   if (byKey) {
     const forms::ScreenInfo screen = Screen();
     const forms::FrameMargins frame = Margins();
     at = {static_cast<int>((Left() + TreeView1.Left() + x) / screen.TwipsPerPixelX) + frame.Left,
           static_cast<int>((Top() + TreeView1.Top() + y) / screen.TwipsPerPixelY) + frame.Top};
   }
-  const int line = program_.Windows.ShowPopup(hWnd(), menu.Items(), at, 0);
+  const int line = Windows().ShowPopup(hWnd(), menu.Items(), at, 0);
   if (!IsLoaded()) return;
   if (const MenuMaker::Action action = menu.ActionOf(line)) action();
 }
@@ -167,7 +166,7 @@ void frmCust::SelectFound(CustRef found) {
 void frmCust::RunEntry() {
   const std::string command = Trim(Editor.Tree.At(Editor.Selected()).Entry.FileExe);
   if (command.empty() || Editor.IsSeparator(Editor.Selected())) return Beep();
-  LaunchItem(program_.Launch, command);
+  LaunchItem(with_.Launch, command);
 }
 
 }  // namespace corvelle

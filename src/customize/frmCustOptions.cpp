@@ -2,10 +2,11 @@
 
 #include "core/CommandPorts.h"
 #include "core/OptionFlags.h"
-#include "core/Program.h"
+#include "core/ProgramPaths.h"
 #include "core/SettingsFiles.h"
+#include "core/StripPlacement.h"
 #include "customize/frmCust.h"
-#include "shell/ShellWiring.h"
+#include "platform/FileSystem.h"
 #include "shell/StartupLink.h"
 
 namespace corvelle {
@@ -18,13 +19,13 @@ void frmCust::AddOptionLines(MenuMaker& menu) {
     }
     menu.Add(
         std::string(line.Caption), [this, option = line.Line] { ChooseOption(option); }, true,
-        IsChecked(line, program_.OptionFlags, ownBrowser_));
+        IsChecked(line, with_.Options, ownBrowser_));
   }
 }
 
 void frmCust::ChooseOption(CustOption option) {
-  OptionFlags& flags = program_.OptionFlags;
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  OptionFlags& flags = with_.Options;
+  ToolbarPort* const strip = with_.Ports.Toolbar;
   switch (option) {
     case CustOption::KeepOnTop:
       FlipOption(Option::AboveFullScreen);
@@ -81,10 +82,10 @@ void frmCust::ChooseOption(CustOption option) {
       flags.Set(Option::SystemPopupWithCtrl, false);
       break;
     case CustOption::SetStartup:
-      SetAsStartupProgram(StartupLinkPartsOf(program_));
+      SetAsStartupProgram(with_.Startup);
       break;
     case CustOption::RemoveStartup:
-      RemoveFromStartup(StartupLinkPartsOf(program_));
+      RemoveFromStartup(with_.Startup);
       break;
     case CustOption::ResetTips:
       ResetHelpTips(flags);
@@ -100,32 +101,30 @@ void frmCust::ChooseOption(CustOption option) {
 }
 
 void frmCust::LookForBrowser() {
-  ownBrowser_ = program_.Services.Files.FileExists(program_.Paths.AppPath + "openurl.ini");
+  ownBrowser_ = with_.Files.FileExists(with_.Paths.AppPath + "openurl.ini");
 }
 
-void frmCust::FlipOption(Option option) { program_.OptionFlags.Flip(option); }
+void frmCust::FlipOption(Option option) { with_.Options.Flip(option); }
 
 std::string frmCust::AskOneFile(std::string_view title, std::string_view startFolder) {
-  const forms::FileChoice choice = program_.Windows.AskFiles(
+  const forms::FileChoice choice = Windows().AskFiles(
       hWnd(), {.Title = std::string(title), .StartFolder = std::string(startFolder)});
   return choice.Paths.empty() ? std::string() : choice.Paths.front();
 }
 
 void frmCust::ChooseWebIcon(bool custom) {
-  FileSystem& files = program_.Services.Files;
+  FileSystem& files = with_.Files;
   if (custom) {
     const std::string icon = AskOneFile("Select one file.", Editor.LastFolder);
     if (icon.empty()) return;
-    if (!SaveWebLinkIcon(files, program_.Services.Ansi, program_.Paths.AppPath, icon))
-      return Beep();
+    if (!SaveWebLinkIcon(files, with_.Ansi, with_.Paths.AppPath, icon)) return Beep();
   }
-  program_.OptionFlags.Set(Option::OwnWebLinkIcon, custom);
-  program_.Icons.WebLinkIcon =
-      LoadWebLinkIcon(files, program_.Services.Ansi, program_.Paths.AppPath, program_.OptionFlags);
+  with_.Options.Set(Option::OwnWebLinkIcon, custom);
+  with_.WebLinkIcon = LoadWebLinkIcon(files, with_.Ansi, with_.Paths.AppPath, with_.Options);
 }
 
 void frmCust::ChooseBrowser(bool own) {
-  BrowserPort* const browser = program_.Ports.Browser;
+  BrowserPort* const browser = with_.Ports.Browser;
   if (browser == nullptr) return;
   if (own) {
     const std::string path = AskOneFile("Select one file.", Editor.LastFolder);
@@ -140,29 +139,29 @@ void frmCust::ChooseBrowser(bool own) {
 }
 
 void frmCust::SetLargeIcons() {
-  const bool large = !program_.OptionFlags.Is(Option::LargeInRestoreMode);
-  program_.OptionFlags.Set(Option::LargeInRestoreMode, large);
-  program_.OptionFlags.Set(Option::LargeIcons, large);
-  program_.OptionFlags.Set(Option::AtEdge, false);
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->InitNewButtons();
+  const bool large = !with_.Options.Is(Option::LargeInRestoreMode);
+  with_.Options.Set(Option::LargeInRestoreMode, large);
+  with_.Options.Set(Option::LargeIcons, large);
+  with_.Options.Set(Option::AtEdge, false);
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->InitNewButtons();
 }
 
 void frmCust::SetSmallSingles() {
-  const bool small = !program_.OptionFlags.Is(Option::SmallSingles);
-  program_.OptionFlags.Set(Option::SmallSingles, small);
-  DockingPort* const docking = program_.Ports.Docking;
+  const bool small = !with_.Options.Is(Option::SmallSingles);
+  with_.Options.Set(Option::SmallSingles, small);
+  DockingPort* const docking = with_.Ports.Docking;
   if (!small) {
-    if (!program_.Strip.AppBarDocked) {
+    if (!with_.Strip.AppBarDocked) {
       Say("The change will take effect next time you switch to large icons toolbar.",
           forms::msgbox::IconInformation);
     } else if (docking != nullptr) {
-      docking->SetAppBar(program_.Strip.ToolbarEdge, true);
+      docking->SetAppBar(with_.Strip.ToolbarEdge, true);
     }
     return;
   }
-  program_.OptionFlags.Set(Option::LargeIcons, true);
+  with_.Options.Set(Option::LargeIcons, true);
   if (docking == nullptr) return;
-  docking->SetAppBar(program_.Strip.AppBarDocked ? program_.Strip.ToolbarEdge : Edge::Right, true);
+  docking->SetAppBar(with_.Strip.AppBarDocked ? with_.Strip.ToolbarEdge : Edge::Right, true);
 }
 
 }  // namespace corvelle

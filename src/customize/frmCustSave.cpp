@@ -1,9 +1,11 @@
 #include <utility>
 
-#include "core/Program.h"
+#include "core/ProgramPaths.h"
+#include "core/StripPlacement.h"
 #include "customize/Saving.h"
 #include "customize/TreeMerge.h"
 #include "customize/frmCust.h"
+#include "forms/EventPump.h"
 #include "forms/Scopes.h"
 #include "platform/FileSystem.h"
 #include "shell/FileErrorText.h"
@@ -29,7 +31,7 @@ void frmCust::cmdSave_Click() {
   // Disabled, it hands the focus to Exit, which the next Enter would press.
   const bool hadFocus = cmdSave.HasFocus();
   cmdSave.SetEnabled(false);
-  program_.Events.DoEvents();
+  with_.Events.DoEvents();
   if (!IsLoaded()) return;
   SaveTree();
   if (!IsLoaded()) return;
@@ -44,10 +46,10 @@ bool frmCust::SaveTree() {
   SaveResult result;
   DraftsAround around;
   {
-    const forms::HourglassScope hourglass(program_.Windows);
+    const forms::HourglassScope hourglass(Windows());
     Editor.cmdOK();
-    if (program_.Strip.AutoHide && program_.Ports.Docking != nullptr) {
-      program_.Ports.Docking->RevealToolbar();
+    if (with_.Strip.AutoHide && with_.Ports.Docking != nullptr) {
+      with_.Ports.Docking->RevealToolbar();
       if (!IsLoaded()) return false;
     }
     Editor.TreeChanged = false;
@@ -66,8 +68,7 @@ bool frmCust::SaveTree() {
 SaveResult frmCust::WriteTree(DraftsAround& around) {
   const MenuSet tree = Editor.Tree.ToMenuSet();
   around = keeper_->AroundSave(tree);
-  return SaveMenus(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, tree,
-                   files_.Stamp, around);
+  return SaveMenus(with_.Files, with_.Ansi, with_.Paths.MenusPath, tree, files_.Stamp, around);
 }
 
 void frmCust::TakeSaved(SaveResult result, DraftsAround around) {
@@ -84,8 +85,7 @@ void frmCust::TakeSaved(SaveResult result, DraftsAround around) {
 bool frmCust::SettleConflict(const MenusStamp& theirs) {
   const bool mine = Say(kConflict, kConflictQuestion) == forms::msgbox::AnswerYes;
   if (!IsLoaded()) return false;
-  MenusResult<MenuFiles> read =
-      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
+  MenusResult<MenuFiles> read = ReadMenuFiles(with_.Files, with_.Ansi, with_.Paths.MenusPath);
   if (!read || (*read).Stamp != theirs) {
     // Changed once more meanwhile: the next save asks again.
     Editor.TreeChanged = true;
@@ -104,8 +104,8 @@ bool frmCust::SettleConflict(const MenusStamp& theirs) {
   const MenuSet tree = Editor.Tree.ToMenuSet();
   DraftsAround around = keeper_->AroundSave(tree);
   around.After.insert(around.After.begin(), other);
-  SaveResult result = SaveMenus(program_.Services.Files, program_.Services.Ansi,
-                                program_.Paths.MenusPath, tree, files_.Stamp, around);
+  SaveResult result =
+      SaveMenus(with_.Files, with_.Ansi, with_.Paths.MenusPath, tree, files_.Stamp, around);
   if (result.End == SaveEnd::Saved) {
     TakeSaved(std::move(result), std::move(around));
     return true;
@@ -120,17 +120,17 @@ void frmCust::Recover(const std::string& message) {
   Editor.TreeChanged = false;
   // What was to be saved is in the draft.
   keptAt_ = Editor.Tree.Revision();
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->InitNewButtons();
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->InitNewButtons();
   Unload();
 }
 
 void frmCust::RefreshStrip() {
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  ToolbarPort* const strip = with_.Ports.Toolbar;
   if (strip == nullptr || !strip->WindowLoaded()) return;
   const float gap = strip->FreeWidth();
   strip->ResetCollections();
   strip->InitNewButtons();
-  if (strip->WindowLoaded() && !program_.Strip.AppBarDocked && !program_.Strip.AutoHide) {
+  if (strip->WindowLoaded() && !with_.Strip.AppBarDocked && !with_.Strip.AutoHide) {
     strip->ResizeAfterEdit(gap);
   }
   // The rebuilt strip came to the foreground.
@@ -160,7 +160,7 @@ bool frmCust::SettleUnsaved(bool canStay) {
 
 void frmCust::Form_QueryClose() {
   if (!IsLoaded()) return;
-  if (program_.Ports.Library != nullptr && program_.Ports.Library->WindowLoaded()) return;
+  if (with_.Ports.Library != nullptr && with_.Ports.Library->WindowLoaded()) return;
   TreeView1.EndEdit(true);
   if (!SettleUnsaved(true) || !IsLoaded()) return;
   Unload();
@@ -227,7 +227,7 @@ void frmCust::ShowSet(const MenuSet& set) {
   {
     const forms::TreeView::FreezeScope freeze(TreeView1);
     const bool saving = Editor.SavingNow;
-    Editor.InitMenuTree(set, program_.Paths.ShippedFile("corvelle.exe"), program_.Paths.MenusPath);
+    Editor.InitMenuTree(set, with_.Paths.ShippedFile("corvelle.exe"), with_.Paths.MenusPath);
     Editor.SavingNow = saving;
     if (!Editor.Tree.Children(kMenusRoot).empty()) {
       ShowNode(Editor.Tree.Children(kMenusRoot).front());
@@ -244,8 +244,7 @@ void frmCust::ShowFiles() {
 }
 
 bool frmCust::Merge() {
-  MenusResult<MenuFiles> read =
-      ReadMenuFiles(program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath);
+  MenusResult<MenuFiles> read = ReadMenuFiles(with_.Files, with_.Ansi, with_.Paths.MenusPath);
   if (!read) return false;
   if ((*read).Stamp == files_.Stamp) {
     if (theirs_) {

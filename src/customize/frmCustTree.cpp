@@ -5,7 +5,6 @@
 #include "base/Text.h"
 #include "base/WebAddress.h"
 #include "core/CommandPorts.h"
-#include "core/Program.h"
 #include "customize/TreeKeys.h"
 #include "customize/frmCust.h"
 #include "forms/Scopes.h"
@@ -236,7 +235,7 @@ void frmCust::TreeView1_DragDrop(CustRef target) {
   if (Editor.Tree.IsRoot(node) || node == target) return Beep();
   Editor.CurIndex = target;
   // Ctrl at the drop copies.
-  Editor.MoveNode(false, program_.Services.Pointer.IsKeyDown(forms::key::Ctrl));
+  Editor.MoveNode(false, with_.Pointer.IsKeyDown(forms::key::Ctrl));
   ShowState();
 }
 
@@ -276,7 +275,7 @@ void frmCust::TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffe
   if (data.Files && !data.Files->empty()) {
     if (Editor.IsSeparator(Editor.Selected())) {
       // It says so, which cannot be done while the source waits.
-      program_.Windows.Post([this] {
+      Windows().Post([this] {
         if (IsLoaded()) MayFill();
       });
       return;
@@ -286,7 +285,7 @@ void frmCust::TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffe
   }
   address_ = *data.Text;
   addressTitle_ = data.Title;
-  program_.Windows.Post([this] {
+  Windows().Post([this] {
     if (IsLoaded()) TakeAddress();
   });
 }
@@ -296,8 +295,8 @@ void frmCust::TakeAddress() {
   if (lines.empty() || Editor.OnRoot()) return;
   std::string title = std::exchange(addressTitle_, {});
   if (title.empty()) {
-    const forms::HourglassScope hourglass(program_.Windows);
-    if (program_.Ports.Browser != nullptr) title = program_.Ports.Browser->WindowTitle(lines[0]);
+    const forms::HourglassScope hourglass(Windows());
+    if (with_.Ports.Browser != nullptr) title = with_.Ports.Browser->WindowTitle(lines[0]);
   }
   // Asking the browser lets events run.
   if (!IsLoaded()) return;

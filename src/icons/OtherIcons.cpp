@@ -1,17 +1,15 @@
 #include "icons/OtherIcons.h"
 
-#include <algorithm>
-#include <optional>
 #include <string_view>
 #include <utility>
 
+#include "base/CodePage.h"
 #include "base/Sort.h"
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/ProgramPaths.h"
 #include "icons/LibraryFile.h"
 #include "platform/FileSystem.h"
 #include "platform/Registry.h"
-#include "platform/ShellIcons.h"
 #include "platform/SystemInfo.h"
 
 namespace corvelle {
@@ -20,75 +18,54 @@ namespace {
 
 constexpr std::string_view kAppPaths = "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths";
 
-std::string OthersFile(const Program& program) { return program.Paths.IconsPath + "others.dat"; }
-
-void AddOnce(std::vector<std::string>& rows, std::string_view path) {
-  const bool known = std::any_of(rows.begin(), rows.end(), [&](const std::string& row) {
-    return EqualNoCase(OtherFilePath(row), path);
-  });
-  if (!known) rows.push_back(OtherFileRow(path));
-}
-
-void AddShellFiles(Program& program, std::vector<std::string>& rows) {
-  const SystemInfo& system = program.Services.System;
-  for (const std::string& path : {EnsureBackslash(system.SystemFolder()) + "Shell32.dll",
-                                  EnsureBackslash(system.WindowsFolder()) + "Explorer.exe"}) {
-    if (program.Services.Files.FileExists(path)) AddOnce(rows, path);
-  }
-}
-
-void AddRegisteredPrograms(Program& program, std::vector<std::string>& rows) {
-  const Registry& keys = program.Services.Keys;
-  for (const std::string& name : keys.SubKeys(RegistryRoot::LocalMachine, kAppPaths)) {
-    const auto value =
-        keys.Text(RegistryRoot::LocalMachine, std::string(kAppPaths) + "\\" + name, {});
-    if (!value) continue;
-    const std::string path = PlainCase(StripQuotes(StripAtNull(*value)));
-    // A path with a "|" could not be told from its name again.
-    if (path.empty() || path.find('|') != std::string::npos) continue;
-    if (program.Services.Icons.IconCount(path) > 0) AddOnce(rows, path);
-  }
-}
-
 }  // namespace
 
-std::vector<std::string> ReadOthers(Program& program) {
-  FileSystem& files = program.Services.Files;
-  const std::string file = OthersFile(program);
-  const auto length = files.Length(file);
-  if (!length) return InitOthers(program);
-  const auto bytes = files.Read(file, 0, static_cast<std::size_t>(*length));
+std::string OtherIcons::OthersFile() const { return with_.Paths.IconsPath + "others.dat"; }
+
+std::optional<std::vector<std::string>> OtherIcons::Read() const {
+  const std::string file = OthersFile();
+  const auto length = with_.Files.Length(file);
+  if (!length) return std::nullopt;
+  const auto bytes = with_.Files.Read(file, 0, static_cast<std::size_t>(*length));
   std::vector<std::string> rows;
   // A list that is there but cannot be read is left as it is.
   if (!bytes) return rows;
-  for (const std::string& path : LibraryLines(*bytes, program.Services.Ansi)) {
+  for (const std::string& path : LibraryLines(*bytes, with_.Ansi)) {
     rows.push_back(OtherFileRow(path));
   }
   SortTexts(rows);
   return rows;
 }
 
-void SaveOthers(Program& program, const std::vector<std::string>& rows) {
-  FileSystem& files = program.Services.Files;
-  const std::string file = OthersFile(program);
+void OtherIcons::Save(const std::vector<std::string>& rows) const {
+  const std::string file = OthersFile();
   if (rows.empty()) {
     // One that cannot be removed is asked for again when it is read.
-    static_cast<void>(files.Remove(file));
+    static_cast<void>(with_.Files.Remove(file));
     return;
   }
   std::vector<std::string> paths;
   for (const std::string& row : rows) paths.push_back(OtherFilePath(row));
   // The old list stays when the new one cannot be stored.
-  static_cast<void>(files.Replace(file, FormatLibraryLines(paths, program.Services.Ansi)));
+  static_cast<void>(with_.Files.Replace(file, FormatLibraryLines(paths, with_.Ansi)));
 }
 
-std::vector<std::string> InitOthers(Program& program) {
-  std::vector<std::string> rows;
-  AddShellFiles(program, rows);
-  AddRegisteredPrograms(program, rows);
-  SortTexts(rows);
-  SaveOthers(program, rows);
-  return rows;
+std::vector<Lookup> OtherIcons::FirstQuestions() const {
+  std::vector<Lookup> questions = {
+      {.Kind = LookupKind::IsThere,
+       .Path = EnsureBackslash(with_.System.SystemFolder()) + "Shell32.dll"},
+      {.Kind = LookupKind::IsThere,
+       .Path = EnsureBackslash(with_.System.WindowsFolder()) + "Explorer.exe"}};
+  for (const std::string& name : with_.Keys.SubKeys(RegistryRoot::LocalMachine, kAppPaths)) {
+    const auto value =
+        with_.Keys.Text(RegistryRoot::LocalMachine, std::string(kAppPaths) + "\\" + name, {});
+    if (!value) continue;
+    std::string path = PlainCase(StripQuotes(StripAtNull(*value)));
+    // A path with a "|" could not be told from its name again.
+    if (path.empty() || path.find('|') != std::string::npos) continue;
+    questions.push_back({.Kind = LookupKind::IconCount, .Path = std::move(path)});
+  }
+  return questions;
 }
 
 }  // namespace corvelle

@@ -5,14 +5,12 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/IconState.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "forms/Scopes.h"
-#include "icons/IconLibrary.h"
 #include "icons/LibraryFile.h"
-#include "icons/OtherIcons.h"
 #include "library/LibraryLayout.h"
-#include "library/OtherFiles.h"
-#include "platform/ShellIcons.h"
 #include "platform/SystemInfo.h"
 
 namespace corvelle {
@@ -30,8 +28,8 @@ constexpr float kTwipsOfPixel = 15;
 
 }  // namespace
 
-frmLibrary::frmLibrary(Program& program)
-    : Form(program.Windows, "frmLibrary", forms::BorderStyle::Fixed, true),
+frmLibrary::frmLibrary(const LibraryParts& with)
+    : Form(with.Windows, "frmLibrary", forms::BorderStyle::Fixed, true),
       TabStrip1(*this, "TabStrip1"),
       List1(*this, "List1"),
       List1Other(*this, "List1Other"),
@@ -47,10 +45,11 @@ frmLibrary::frmLibrary(Program& program)
       cmdRemove(*this, "cmdRemove"),
       cmdOK(*this, "cmdOK"),
       cmdCancel(*this, "cmdCancel"),
-      LibraryView(program.Answers, Pic2, VS1),
-      OtherView(program.Answers, picOther, vsOther),
-      program_(program),
-      counted_(program.Answers.NewOwner()) {
+      LibraryView(with.Answers, Pic2, VS1),
+      OtherView(with.Answers, picOther, vsOther),
+      with_(with),
+      List2Other(with.Others),
+      counted_(with.Answers.NewOwner()) {
   TabStrip1.Add(kLibraryTab, "Library");
   TabStrip1.Add(kOtherTab, "Other Files");
   txtFilter.SetCue("Filter");
@@ -74,6 +73,8 @@ void frmLibrary::Wire() {
   txtFilter.KeyDown = [this](int keyCode, forms::ShiftState) { return txtFilter_KeyDown(keyCode); };
   LibraryView.Chosen = [this] { cmdOK_Click(); };
   OtherView.Chosen = [this] { cmdOK_Click(); };
+  List2Other.Made = [this] { ShowMadeList(); };
+  List2Other.Added = [this](const AddedFile& added) { ShowAdded(added); };
   cmdAdd.Click = [this] { cmdAdd_Click(); };
   cmdRemove.Click = [this] { cmdRemove_Click(); };
   cmdRefresh.Click = [this] { cmdRefresh_Click(); };
@@ -84,8 +85,8 @@ void frmLibrary::Wire() {
 void frmLibrary::SetFormName(std::string_view name) {
   caller_ = std::string(name);
   box_ = nullptr;
-  if (EqualNoCase(name, "frmProperties")) box_ = program_.Ports.PropertiesIcon;
-  if (EqualNoCase(name, "frmCust")) box_ = program_.Ports.CustomizeIcon;
+  if (EqualNoCase(name, "frmProperties")) box_ = with_.Ports.PropertiesIcon;
+  if (EqualNoCase(name, "frmCust")) box_ = with_.Ports.CustomizeIcon;
 }
 
 void frmLibrary::Show(std::string_view caller) {
@@ -104,7 +105,7 @@ void frmLibrary::Show(std::string_view caller) {
 }
 
 void frmLibrary::Form_Load() {
-  const forms::HourglassScope hourglass(program_.Windows);
+  const forms::HourglassScope hourglass(with_.Windows);
   SetCaption("Icon Library");
   SetBackColor(forms::color::ButtonFace);
   txtFilter.SetText({});
@@ -117,18 +118,18 @@ void frmLibrary::Form_Load() {
 }
 
 void frmLibrary::Form_Unload() {
-  program_.Answers.Drop(counted_);
+  with_.Answers.Drop(counted_);
   LibraryView.SetShown(false);
   OtherView.SetShown(false);
   LibraryView.Clear();
   OtherView.Clear();
-  List2Other.clear();
+  List2Other.Drop();
   if (box_ != nullptr) std::exchange(box_, nullptr)->SetBrowsing(false);
 }
 
 // Pictures that were made under other colours are made again.
 void frmLibrary::SetFormSize() {
-  static_cast<void>(CheckLibraryDisplay(program_));
+  static_cast<void>(with_.Lists.CheckDisplay());
   const forms::ScreenInfo screen = Screen();
   const PixelSize caption = MeasureText(kSampleCaption);
   const auto scaled = [&](int pixels) {
@@ -175,26 +176,26 @@ void frmLibrary::SetFormSize() {
 // ---- the library ----
 
 void frmLibrary::BuildLibrary() {
-  if (!program_.Icons.LibraryBuilt) DropPreparedLists(program_);
+  if (!with_.Icons.LibraryBuilt) with_.Lists.DropPrepared();
   List1.Clear();
   List1.Add(std::string(kAllCategories));
-  for (const std::string& category : LibraryCategories(program_)) List1.Add(category);
+  for (const std::string& category : with_.Lists.Categories()) List1.Add(category);
   List1.Select(0);
   ShowView(0);
-  program_.Icons.LibraryBuilt = true;
+  with_.Icons.LibraryBuilt = true;
 }
 
 void frmLibrary::ShowView(int position) {
   if (position < 0) return;
   std::vector<std::string> names;
   if (position > 0) {
-    names = CategoryIcons(program_, List1.Items()[static_cast<std::size_t>(position)]);
+    names = with_.Lists.IconsOf(List1.Items()[static_cast<std::size_t>(position)]);
   } else {
-    names = AllIcons(program_);
+    names = with_.Lists.AllIcons();
     // Not every disk gives its names in order.
     SortTexts(names);
   }
-  LibraryView.SetCells(LibraryCells(names, program_.Paths.IconsPath));
+  LibraryView.SetCells(LibraryCells(names, with_.Paths.IconsPath));
 }
 
 // ---- the tabs ----
@@ -213,9 +214,7 @@ void frmLibrary::TabStrip1_Click() {
 void frmLibrary::ShowTab() {
   const bool library = ShowsLibrary();
   if (!library && !std::exchange(othersRead_, true)) {
-    const forms::HourglassScope hourglass(program_.Windows);
-    List2Other = ReadOthers(program_);
-    FillOthers(List2Other.empty() ? -1 : 0);
+    ReadOthers();
   }
   List1.SetVisible(library);
   Pic1.SetVisible(library);
@@ -243,21 +242,44 @@ bool frmLibrary::txtFilter_KeyDown(int keyCode) {
 
 // ---- other files ----
 
-void frmLibrary::FillOthers(int row) {
+// A list that is not whole is not to be changed: what is stored then would be all there is.
+void frmLibrary::ReadOthers() {
+  const forms::HourglassScope hourglass(with_.Windows);
+  List2Other.Read();
+  cmdAdd.SetEnabled(!List2Other.IsBeingMade());
+  cmdRemove.SetEnabled(!List2Other.IsBeingMade());
+  FillOthers(List2Other.Rows().empty() ? -1 : 0);
+}
+
+void frmLibrary::ListOthers(int row) {
   List1Other.Clear();
-  for (const std::string& other : List2Other) List1Other.Add(OtherFileName(other));
+  for (const std::string& other : List2Other.Rows()) List1Other.Add(OtherFileName(other));
   List1Other.Select(row);
+}
+
+void frmLibrary::FillOthers(int row) {
+  ListOthers(row);
   List1Other_Click();
 }
 
+// What the user has chosen and scrolled to stays.
+void frmLibrary::ShowMadeList() {
+  cmdAdd.SetEnabled(true);
+  cmdRemove.SetEnabled(true);
+  const int row = List1Other.Selected() < 0 ? -1 : List2Other.PlaceOf(shownFile_);
+  if (row >= 0) return ListOthers(row);
+  FillOthers(List2Other.Rows().empty() ? -1 : 0);
+}
+
 void frmLibrary::List1Other_Click() {
-  program_.Answers.Drop(counted_);
+  with_.Answers.Drop(counted_);
   OtherView.Clear();
   const int row = List1Other.Selected();
   if (row < 0) return;
-  const forms::HourglassScope hourglass(program_.Windows);
-  const std::string path = OtherFilePath(List2Other[static_cast<std::size_t>(row)]);
-  const auto counted = program_.Answers.AskAtOnce(
+  const forms::HourglassScope hourglass(with_.Windows);
+  const std::string path = OtherFilePath(List2Other.Rows()[static_cast<std::size_t>(row)]);
+  shownFile_ = path;
+  const auto counted = with_.Answers.AskAtOnce(
       {.Question = {.Kind = LookupKind::IconCount, .Path = path}, .Owner = counted_},
       {.Ended = [this, path](const desk::Reply& late) { ShowFile(path, late); },
        .TakesLonger = {},
@@ -273,34 +295,39 @@ void frmLibrary::ShowFile(const std::string& path, const desk::Reply& counted) {
 void frmLibrary::cmdAdd_Click() {
   const forms::FileQuestion question{
       .Title = "Select one file.",
-      .StartFolder = program_.Services.System.WindowsFolder(),
+      .StartFolder = with_.System.WindowsFolder(),
       .Kinds = {{"(*.exe, *.dll, *.ico)", "*.exe;*.dll;*.ico"}, {"All Files (*.*)", "*.*"}}};
-  const forms::FileChoice choice = program_.Windows.AskFiles(hWnd(), question);
+  const forms::FileChoice choice = with_.Windows.AskFiles(hWnd(), question);
   if (choice.Paths.empty() || !IsLoaded()) return;
-  const AddedFile added = AddOtherFile(program_, List2Other, choice.Paths.front());
+  List2Other.Add(choice.Paths.front());
+}
+
+void frmLibrary::ShowAdded(const AddedFile& added) {
   if (added.Refusal.empty()) {
     FillOthers(added.Row);
   } else {
-    program_.Messages.Say(hWnd(), added.Refusal, forms::msgbox::IconInformation);
+    with_.Messages.Say(hWnd(), added.Refusal, forms::msgbox::IconInformation);
   }
 }
 
 void frmLibrary::cmdRemove_Click() {
   const int row = List1Other.Selected();
   if (row < 0) return;
-  const int answer =
-      program_.Messages.Say(hWnd(), RemoveQuestion(List2Other[static_cast<std::size_t>(row)]),
-                            forms::msgbox::YesNo | forms::msgbox::IconQuestion);
+  // A file that was counted meanwhile may move the others.
+  const std::string other = List2Other.Rows()[static_cast<std::size_t>(row)];
+  const int answer = with_.Messages.Say(hWnd(), RemoveQuestion(other),
+                                        forms::msgbox::YesNo | forms::msgbox::IconQuestion);
   if (answer != forms::msgbox::AnswerYes || !IsLoaded()) return;
-  RemoveOtherFile(program_, List2Other, row);
+  List2Other.Remove(other);
   FillOthers(-1);
 }
 
 // ---- the buttons ----
 
 void frmLibrary::cmdRefresh_Click() {
-  ResetLibrary(program_);
-  program_.Messages.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
+  List2Other.Drop();
+  with_.Lists.Reset();
+  with_.Messages.Say(hWnd(), "Icon library has been reset.", forms::msgbox::IconInformation);
   if (!IsLoaded()) return;
   BuildLibrary();
   othersRead_ = false;

@@ -13,18 +13,33 @@
 #include "forms/ScrollBar.h"
 #include "forms/TabStrip.h"
 #include "forms/TextBox.h"
+#include "icons/LibraryLists.h"
 #include "library/IconView.h"
+#include "library/OtherFiles.h"
 
 namespace corvelle {
 
-class Program;
+class MessageBoxes;
+
+/// What the window works with. All of it outlives the window.
+struct LibraryParts {
+  forms::WindowSystem& Windows;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+  desk::AnswerDesk& Answers;
+  const SystemInfo& System;
+  const ProgramPaths& Paths;
+  IconState& Icons;
+  LibraryLists Lists;
+  OtherFileParts Others;
+};
 
 /// The window in which the user picks an icon for an entry: from the program's own library by
 /// category, or from other files. The choice goes into the box of the window that opened it, which
 /// takes no input meanwhile.
 class frmLibrary final : public forms::Form, public LibraryPort {
  public:
-  explicit frmLibrary(Program& program);
+  explicit frmLibrary(const LibraryParts& with);
 
   void Show(std::string_view caller) override;
   void LoadWindow() override { Show({}); }
@@ -78,16 +93,24 @@ class frmLibrary final : public forms::Form, public LibraryPort {
   [[nodiscard]] bool ShowsLibrary() const;
   [[nodiscard]] IconView& CurrentView() { return ShowsLibrary() ? LibraryView : OtherView; }
   void ShowTab();
-  /// Fills the list of other files from List2Other and chooses a row of it; -1 for none.
+  void ReadOthers();
+  /// Fills the list of other files with a row of it selected; -1 for none.
+  void ListOthers(int row);
+  /// The same, and shows the icons of that row's file.
   void FillOthers(int row);
+  /// All files of a list that was being made are known.
+  void ShowMadeList();
+  /// Shows what came of the button Add.
+  void ShowAdded(const AddedFile& added);
 
-  Program& program_;
+  LibraryParts with_;
   std::string caller_;
   IconBoxPort* box_ = nullptr;
-  /// The rows of List1Other with their paths (OtherFileRow).
-  std::vector<std::string> List2Other;
+  /// The rows of List1Other with their paths.
+  OtherFiles List2Other;
   bool othersRead_ = false;
   std::uint64_t counted_ = 0;  // owner of the question
+  std::string shownFile_;      // path of the row that was chosen last
 };
 
 }  // namespace corvelle

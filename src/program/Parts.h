@@ -3,13 +3,15 @@
 #include "about/DefaultEntries.h"
 #include "about/frmAbout.h"
 #include "core/Program.h"
+#include "customize/CustomizeWiring.h"
 #include "customize/frmCust.h"
-#include "icons/IconLibrary.h"
+#include "icons/IconsWiring.h"
 #include "icons/ShellIconRule.h"
 #include "launch/Browser.h"
 #include "launch/BuiltInCommands.h"
 #include "launch/HelpViewer.h"
 #include "launch/LaunchWiring.h"
+#include "library/LibraryWiring.h"
 #include "library/frmLibrary.h"
 #include "menus/folders/FolderMenus.h"
 #include "menus/folders/SpecialFolders.h"
@@ -17,6 +19,7 @@
 #include "menus/window/MenuWiring.h"
 #include "menus/window/frmQMenu.h"
 #include "program/Wiring.h"
+#include "properties/PropertiesWiring.h"
 #include "properties/frmProperties.h"
 #include "search/frmNetSearch.h"
 #include "shell/LinkFiles.h"
@@ -59,7 +62,7 @@ class Parts {
   MainMenu TheMainMenu{MainMenuPartsOf(TheProgram), Menu};
   DefaultEntries TheDefaultEntries{DefaultEntryPartsOf(TheProgram)};
   ShellIconRule TheIconRule{TheProgram.Answers, TheProgram.Paths, TheProgram.Icons};
-  IconLibrary TheIconLibrary{TheProgram};
+  IconLibrary TheIconLibrary{UnpackPartsOf(TheProgram)};
   BuiltInCommands TheBuiltIns{BuiltInPartsOf(TheProgram)};
   Browser TheBrowser{BrowserPartsOf(TheProgram)};
   SpecialFolders TheSpecialFolders{TheProgram.Services.Folders, TheProgram.Launch};
@@ -67,9 +70,9 @@ class Parts {
   StartupLink TheStartupLink{StartupLinkPartsOf(TheProgram)};
   DragImage Carried{DragImagePartsOf(TheProgram)};
   frmURL WebLink{WebLinkPartsOf(TheProgram)};
-  frmCust Customize{TheProgram};
-  frmProperties Properties{TheProgram};
-  frmLibrary Library{TheProgram};  // belongs to one of the two above
+  frmCust Customize{CustPartsOf(TheProgram)};
+  frmProperties Properties{PropertiesPartsOf(TheProgram)};
+  frmLibrary Library{LibraryPartsOf(TheProgram)};  // belongs to one of the two above
   HelpViewer TheHelp{TheProgram.Paths, TheProgram.Services.Files, TheProgram.Launch};
   frmNetSearch NetSearch{NetSearchPartsOf(TheProgram)};
   frmAbout About{AboutPartsOf(TheProgram)};

@@ -6,7 +6,11 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/GuardFlags.h"
+#include "core/RecordEdits.h"
+#include "core/StripPlacement.h"
+#include "desk/AnswerDesk.h"
+#include "desk/SlowQuestions.h"
 #include "forms/Scopes.h"
 #include "icons/IconForm.h"
 #include "properties/PropertiesLayout.h"
@@ -38,8 +42,8 @@ bool HasFocusInside(const forms::Window& window) {
 
 }  // namespace
 
-frmProperties::frmProperties(Program& program)
-    : Form(program.Windows, "frmProperties", forms::BorderStyle::Fixed, true),
+frmProperties::frmProperties(const PropertiesParts& with)
+    : Form(with.Icons.Windows, "frmProperties", forms::BorderStyle::Fixed, true),
       TabStrip1(*this, "TabStrip1"),
       Picture1(*this, "Picture1"),
       Pix(Picture1, "Pix"),
@@ -73,12 +77,13 @@ frmProperties::frmProperties(Program& program)
       cmdOK(*this, "cmdOK"),
       cmdCancel(*this, "cmdCancel"),
       cmdApply(*this, "cmdApply"),
-      program_(program),
-      icon_(program.IconSources, IconCaller::Properties),
-      nodeIcons_(program.IconSources, IconCaller::Tree),
-      desktopAsked_(program.Answers.NewOwner()),
-      tmrEdge_(program.Windows),
-      tmrTarget_(program.Windows) {
+      with_(with),
+      icon_(with.Icons, IconCaller::Properties),
+      nodeIcons_(with.Icons, IconCaller::Tree),
+      nodeImages_(TreeView1),
+      desktopAsked_(with.Icons.Answers.NewOwner()),
+      tmrEdge_(with.Icons.Windows),
+      tmrTarget_(with.Icons.Windows) {
   SetCaption("Properties");
   SetKeyPreview(true);
   TabStrip1.Add(std::string(kItemTab), "Item");
@@ -169,8 +174,7 @@ void frmProperties::WireEdges() {
 
 void frmProperties::PlaceControls() {
   const forms::ScreenInfo screen = Screen();
-  const PropertiesLayout at =
-      LayOutProperties({.Dpi = Dpi(), .Screen = program_.Windows.ScreenSize()});
+  const PropertiesLayout at = LayOutProperties({.Dpi = Dpi(), .Screen = Windows().ScreenSize()});
   const std::pair<forms::Control&, const PixelRect&> places[] = {
       {TabStrip1, at.TabStrip},
       {Picture1, at.Page},
@@ -219,8 +223,7 @@ void frmProperties::Form_Load() {
   ButtonsTabShown = ButtonsTabLoaded = PositionTabLoaded = OrderApplied = false;
   orderTouched_ = browsing_ = busy_ = false;
   lblMissing.SetVisible(false);
-  lastFolder_ =
-      GetSpecialFolder(program_.Services.Links, program_.Ports.ToolbarWindow(), kStartMenu);
+  lastFolder_ = GetSpecialFolder(with_.Links, with_.Ports, kStartMenu);
   lastBrowseFolder_.clear();
   PlaceControls();
   for (forms::PictureBox* page : {&Picture1, &picButtons, &Picture2}) {
@@ -232,13 +235,13 @@ void frmProperties::Form_Load() {
 void frmProperties::Form_Unload() {
   tmrEdge_.SetEnabled(false);
   tmrTarget_.SetEnabled(false);
-  program_.Slow.Drop(targetAsked_);
+  with_.Slow.Drop(targetAsked_);
   icon_.Drop();
   nodeIcons_.Drop();
-  program_.Answers.Drop(desktopAsked_);
+  with_.Icons.Answers.Drop(desktopAsked_);
   TabStrip1.Select(std::string(kItemTab));
-  if (program_.Ports.Library != nullptr && program_.Ports.Library->WindowLoaded()) {
-    program_.Ports.Library->UnloadWindow();
+  if (with_.Ports.Library != nullptr && with_.Ports.Library->WindowLoaded()) {
+    with_.Ports.Library->UnloadWindow();
   }
   TreeView1.Clear();
   order_.Clear();
@@ -247,16 +250,16 @@ void frmProperties::Form_Unload() {
 
 void frmProperties::ShowProperties(std::string_view title, std::string_view icon,
                                    std::string_view command) {
-  const EntryEdit entry = program_.Entry;
+  const EntryEdit entry = with_.Entry;
   // One of the two windows that edit is open at a time. The other one may ask, and stay.
-  LoadedWindow* const customize = program_.Ports.Customize;
+  LoadedWindow* const customize = with_.Ports.Customize;
   if (customize != nullptr && customize->WindowLoaded()) {
     customize->UnloadWindow();
     if (customize->WindowLoaded()) return;
-    SetCurrentEntry(program_.Entry, entry);
+    SetCurrentEntry(with_.Entry, entry);
   }
   if (!IsLoaded()) {
-    TreeView1.ClearImages();
+    nodeImages_.Clear();
     images_.clear();
   }
   if (!Load()) return;
@@ -315,9 +318,9 @@ void frmProperties::DrawIcon() {
 }
 
 void frmProperties::PaintIcon(PixelSize side, const IconLook& look) {
-  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas(side);
+  const std::shared_ptr<Canvas> drawn = Windows().CreateCanvas(side);
   drawn->FillBox({0, 0, side.width, side.height},
-                 forms::Resolve(program_.Windows, forms::color::ButtonFace));
+                 forms::Resolve(Windows(), forms::color::ButtonFace));
   // What has no icon at all leaves the place empty.
   static_cast<void>(icon_.Draw(*drawn, look, side.width));
   Pix.SetAutoRedraw(true);
@@ -353,23 +356,23 @@ void frmProperties::Form_KeyPress(char32_t character) {
 
 // A strip that hides comes out for the change and is put away until it is drawn again.
 void frmProperties::ShowHidingStrip() {
-  if (!program_.Strip.AutoHide) return;
-  if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RevealToolbar();
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->HideWindow();
+  if (!with_.Strip.AutoHide) return;
+  if (with_.Ports.Docking != nullptr) with_.Ports.Docking->RevealToolbar();
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->HideWindow();
 }
 
 // What was changed on a tab that is not shown is meant as well.
 bool frmProperties::Apply() {
   if (busy_) return false;
   const forms::FlagScope busy(busy_);
-  const forms::FlagScope rewriting(program_.Guards.ItemActionBusy);
+  const forms::FlagScope rewriting(with_.Guards.ItemActionBusy);
   const bool item = !ButtonsTabShown || BoxesChanged();
   const bool order = (ButtonsTabShown && !OrderApplied) || orderTouched_;
   ShowHidingStrip();
   // The order gives the entry's file another name.
   bool done = !item || ApplyItem();
   if (done && order && IsLoaded()) done = ApplyOrder();
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ShowToolbar();
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->ShowToolbar();
   return done && IsLoaded();
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Edge.h"
+#include "core/IconSources.h"
 #include "core/WindowPorts.h"
 #include "desk/DeskRule.h"
 #include "forms/CommandButton.h"
@@ -21,6 +22,8 @@
 #include "forms/Timer.h"
 #include "forms/TreeView.h"
 #include "icons/AskedIcons.h"
+#include "icons/TreeImages.h"
+#include "launch/FileTitle.h"
 #include "platform/Lookups.h"
 #include "properties/ButtonOrder.h"
 #include "properties/ItemEdit.h"
@@ -28,14 +31,42 @@
 
 namespace corvelle {
 
-class Program;
+class CodePage;
+class DesktopWindows;
+class FileSystem;
+class Input;
+class MessageBoxes;
+class ShellLinks;
+class SlowQuestions;
+struct EntryEdit;
+struct GuardFlags;
+struct ProgramPaths;
+struct StripPlacement;
+
+/// What the window works with. All of it outlives the window.
+struct PropertiesParts {
+  const IconSources& Icons;
+  FileSystem& Files;
+  const CodePage& Ansi;
+  ShellLinks& Links;
+  Input& Pointer;
+  const DesktopWindows& Desktop;
+  const ProgramPaths& Paths;
+  const WindowPorts& Ports;
+  MessageBoxes& Messages;
+  const StripPlacement& Strip;
+  GuardFlags& Guards;
+  EntryEdit& Entry;
+  SlowQuestions& Slow;
+  FileTitles Titles;
+};
 
 /// The window in which one entry is edited in place, the menu buttons are ordered and hidden, and
 /// the strip is sent to an edge of the screen. It works on the files: what is confirmed is on the
 /// disk at once.
 class frmProperties final : public forms::Form, public PropertiesPort, public IconBoxPort {
  public:
-  explicit frmProperties(Program& program);
+  explicit frmProperties(const PropertiesParts& with);
 
   void LoadWindow() override { Load(); }
   void UnloadWindow() override { Unload(); }
@@ -48,7 +79,7 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void SetBrowsing(bool browsing) override { browsing_ = browsing; }
   void TakeIcon(std::string_view icon) override;
 
-  /// Makes the current entry (Program::Entry) the one in the boxes.
+  /// Makes the current entry (EntryEdit) the one in the boxes.
   void SetFileItem(const MenuRecord& shown);
   /// Draws the icon of the box and puts the title beside it.
   void DrawIcon();
@@ -146,7 +177,6 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void LoadButtonsTab();
   void FillTree();
   [[nodiscard]] int NodeImage(const std::string& icon);
-  [[nodiscard]] int AddNodeImage(const IconLook& look);
   /// Another picture for all nodes of an icon text.
   void TakeLateImage(const std::string& icon, const IconLook& look);
   [[nodiscard]] std::size_t IndexOf(forms::NodeId node) const;
@@ -177,14 +207,15 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   bool Apply();
   void ShowHidingStrip();
 
-  Program& program_;
+  PropertiesParts with_;
   EditedItem item_;
   ButtonOrder order_;
   bool orderTouched_ = false;  // since the tab was filled or applied
   forms::NodeId dragNode_ = forms::kNoNode;
-  std::map<std::string, int, std::less<>> images_;  // of the tree, by their icon texts
-  AskedIcons icon_;                                 // of the entry
+  AskedIcons icon_;  // of the entry
   AskedIcons nodeIcons_;
+  TreeImages nodeImages_;
+  std::map<std::string, int, std::less<>> images_;  // of the tree, by their icon texts
   PreviewScene scene_;
   Picture desktop_;  // the small picture without the strip
   std::uint64_t desktopAsked_ = 0;

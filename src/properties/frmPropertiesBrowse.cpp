@@ -1,9 +1,10 @@
 // What the boxes of the entry are filled from: files, folders, the icon library.
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "forms/Scopes.h"
-#include "launch/LaunchWiring.h"
+#include "platform/FileSystem.h"
 #include "properties/BoxTips.h"
 #include "properties/frmProperties.h"
 #include "shell/cShellLink.h"
@@ -17,8 +18,8 @@ constexpr std::string_view kNoAccess = "Unable to access the selected folder.";
 constexpr int kNormalWindow = 1;
 constexpr int kMostLinks = 1000;
 
-void ShowBoxTip(Program& program, const BoxTip& tip) {
-  if (program.Ports.Tip != nullptr) program.Ports.Tip->ShowTip(tip.Title, tip.Text, tip.Field);
+void ShowBoxTip(const WindowPorts& ports, const BoxTip& tip) {
+  if (ports.Tip != nullptr) ports.Tip->ShowTip(tip.Title, tip.Text, tip.Field);
 }
 
 }  // namespace
@@ -48,7 +49,7 @@ bool frmProperties::txtCommand_KeyDown(int keyCode) {
 
 void frmProperties::SelectCommandFile() {
   if (browsing_) return;
-  ShowBoxTip(program_, kCommandTip);
+  ShowBoxTip(with_.Ports, kCommandTip);
   const std::string path = ShowOpenFile();
   if (path.empty() || !IsLoaded()) return;
   txtCommand.SetText(path);
@@ -58,7 +59,7 @@ void frmProperties::SelectCommandFile() {
 
 void frmProperties::SelectCommandFolder() {
   if (browsing_) return;
-  ShowBoxTip(program_, kCommandTip);
+  ShowBoxTip(with_.Ports, kCommandTip);
   const auto choice = ShowOpenFolder();
   if (!choice || !IsLoaded()) return;
   const std::string path = choice->Path.empty() ? LinkToFolder(*choice) : choice->Path;
@@ -70,7 +71,7 @@ void frmProperties::SelectCommandFolder() {
 
 void frmProperties::SelectIconFile() {
   if (browsing_) return;
-  ShowBoxTip(program_, kIconFileTip);
+  ShowBoxTip(with_.Ports, kIconFileTip);
   const std::string path = ShowOpenFile();
   if (path.empty() || !IsLoaded()) return;
   txtIcon.SetText(path);
@@ -79,15 +80,15 @@ void frmProperties::SelectIconFile() {
 }
 
 void frmProperties::ShowLibrary() {
-  if (browsing_ || program_.Ports.Library == nullptr) return;
-  ShowBoxTip(program_, kLibraryTip);
-  if (IsLoaded()) program_.Ports.Library->Show("frmProperties");
+  if (browsing_ || with_.Ports.Library == nullptr) return;
+  ShowBoxTip(with_.Ports, kLibraryTip);
+  if (IsLoaded()) with_.Ports.Library->Show("frmProperties");
 }
 
 void frmProperties::cmdFile_Click() {
   if (browsing_) return;
   const std::string path = ShowOpenFile();
-  if (!path.empty() && IsLoaded()) SetFileEntry(path, TitlesOf(program_).GetFileTitle(path));
+  if (!path.empty() && IsLoaded()) SetFileEntry(path, with_.Titles.GetFileTitle(path));
 }
 
 void frmProperties::cmdFolder_Click() {
@@ -112,8 +113,8 @@ void frmProperties::SetFileEntry(const std::string& path, const std::string& tit
 
 std::string frmProperties::ShowOpenFile() {
   const forms::FlagScope browsing(browsing_);
-  const forms::FileChoice choice = program_.Windows.AskFiles(
-      hWnd(), {.Title = std::string(kFileTitle), .StartFolder = lastFolder_});
+  const forms::FileChoice choice =
+      Windows().AskFiles(hWnd(), {.Title = std::string(kFileTitle), .StartFolder = lastFolder_});
   if (choice.Paths.empty()) return {};
   const std::string& path = choice.Paths.front();
   lastFolder_ = path.substr(0, path.rfind('\\'));
@@ -122,7 +123,7 @@ std::string frmProperties::ShowOpenFile() {
 
 std::optional<forms::FolderChoice> frmProperties::ShowOpenFolder() {
   const forms::FlagScope browsing(browsing_);
-  forms::FolderChoice choice = program_.Windows.AskFolder(
+  forms::FolderChoice choice = Windows().AskFolder(
       hWnd(), {.Text = std::string(kFolderText), .StartFolder = lastBrowseFolder_});
   if (!choice.Chosen) return std::nullopt;
   if (!choice.Path.empty()) lastBrowseFolder_ = choice.Path;
@@ -132,16 +133,16 @@ std::optional<forms::FolderChoice> frmProperties::ShowOpenFolder() {
 // A folder of the shell that is on no disk is reached by a link. An older link of that name can
 // belong to another entry.
 std::string frmProperties::LinkToFolder(const forms::FolderChoice& choice) {
-  FileSystem& files = program_.Services.Files;
-  std::string link = program_.Paths.ShellLinkPath + choice.Name + ".lnk";
+  FileSystem& files = with_.Files;
+  std::string link = with_.Paths.ShellLinkPath + choice.Name + ".lnk";
   for (int n = 2; files.FileExists(link) && n < kMostLinks; ++n) {
-    link = program_.Paths.ShellLinkPath + choice.Name + " " + std::to_string(n) + ".lnk";
+    link = with_.Paths.ShellLinkPath + choice.Name + " " + std::to_string(n) + ".lnk";
   }
-  cShellLink shell(program_.Services.Links);
+  cShellLink shell(with_.Links);
   if (!files.FileExists(link) && shell.ShellLinkToObject(link, choice.Item, kNormalWindow)) {
     return link;
   }
-  program_.Messages.Say(hWnd(), kNoAccess, forms::msgbox::IconInformation);
+  with_.Messages.Say(hWnd(), kNoAccess, forms::msgbox::IconInformation);
   return {};
 }
 

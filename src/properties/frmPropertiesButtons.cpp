@@ -1,21 +1,21 @@
 // The tab of the buttons: their order, and which of them are shown.
 
 #include <algorithm>
-#include <memory>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/IconState.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
 #include "forms/Scopes.h"
-#include "icons/Glyphs.h"
 #include "icons/IconForm.h"
 #include "platform/Input.h"
+#include "platform/ShellIcons.h"
 #include "properties/OrderFiles.h"
 #include "properties/frmProperties.h"
 
 namespace corvelle {
 namespace {
 
-constexpr int kImageSide = 16;
 constexpr int kIconsAtOnce = 40;  // milliseconds for which one icon may hold up the others
 
 }  // namespace
@@ -23,10 +23,9 @@ constexpr int kIconsAtOnce = 40;  // milliseconds for which one icon may hold up
 void frmProperties::LoadButtonsTab() {
   if (ButtonsTabLoaded) return;
   ButtonsTabLoaded = true;
-  const FileStatus loaded = LoadButtons(program_.Services.Files, program_.Services.Ansi,
-                                        program_.Paths.MenusPath, order_);
+  const FileStatus loaded = LoadButtons(with_.Files, with_.Ansi, with_.Paths.MenusPath, order_);
   orderTouched_ = OrderApplied = false;
-  if (!loaded) ShowFileError(program_.Paths.MenusPath, loaded.Error());
+  if (!loaded) ShowFileError(with_.Paths.MenusPath, loaded.Error());
   if (IsLoaded()) FillTree();
 }
 
@@ -57,9 +56,9 @@ int frmProperties::NodeImage(const std::string& icon) {
   const auto known = images_.find(icon);
   if (known != images_.end()) return known->second;
   const IconForm form = ClassifyIcon(icon,
-                                     {.AppPath = program_.Paths.AppPath,
-                                      .IconsPath = program_.Paths.IconsPath,
-                                      .WebLinkIcon = program_.Icons.WebLinkIcon},
+                                     {.AppPath = with_.Paths.AppPath,
+                                      .IconsPath = with_.Paths.IconsPath,
+                                      .WebLinkIcon = with_.Icons.Icons.WebLinkIcon},
                                      IconCaller::Tree);
   IconLook look;
   if (form.Kind == IconKind::BuiltIn) {
@@ -67,24 +66,16 @@ int frmProperties::NodeImage(const std::string& icon) {
   } else if (form.Kind == IconKind::Empty) {
     look.Glyph = "unknown";
   } else {
-    look = nodeIcons_.Ask(icon, kImageSide, kIconsAtOnce,
+    look = nodeIcons_.Ask(icon, kSmallIconSize, kIconsAtOnce,
                           [this, icon](const IconLook& late) { TakeLateImage(icon, late); });
   }
-  const int image = AddNodeImage(look);
+  const int image = nodeImages_.OfLook(look, nodeIcons_);
   images_[icon] = image;
   return image;
 }
 
-int frmProperties::AddNodeImage(const IconLook& look) {
-  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas({kImageSide, kImageSide});
-  drawn->FillBox({0, 0, kImageSide, kImageSide}, forms::Image::kMask);
-  if (!nodeIcons_.Draw(*drawn, look, kImageSide))
-    DrawGlyph(*drawn, program_.Windows, "qmark", {0, 0});
-  return TreeView1.AddImage(drawn);
-}
-
 void frmProperties::TakeLateImage(const std::string& icon, const IconLook& look) {
-  const int image = AddNodeImage(look);
+  const int image = nodeImages_.OfLook(look, nodeIcons_);
   images_[icon] = image;
   for (std::size_t i = 0; i < order_.Nodes().size(); ++i) {
     if (order_.Nodes()[i].Icon == icon) TreeView1.SetImage(NodeAt(i), image);
@@ -106,7 +97,7 @@ forms::NodeId frmProperties::NodeAt(std::size_t index) const {
 /// `to`: the new index in the list, in which the node stands already.
 void frmProperties::MoveButton(std::size_t to, std::size_t from) {
   if (to == ButtonOrder::kNone) {
-    program_.Services.Pointer.Beep();
+    with_.Pointer.Beep();
     return;
   }
   const forms::NodeId node = NodeAt(from);
@@ -173,20 +164,19 @@ void frmProperties::ShowLoss() {
 }
 
 bool frmProperties::ApplyOrder() {
-  const forms::HourglassScope hourglass(program_.Windows);
-  StripContentsPort* const strip = program_.Ports.Toolbar;
+  const forms::HourglassScope hourglass(Windows());
+  StripContentsPort* const strip = with_.Ports.Toolbar;
   const float gap = strip != nullptr ? strip->FreeWidth() : 0;
   const std::size_t place = order_.FindPath(item_.File);
-  const OrderOutcome outcome = ApplyButtonOrder(program_.Services.Files, program_.Services.Ansi,
-                                                program_.Paths.MenusPath, order_);
-  if (outcome.Result == OrderResult::Applied) program_.Ports.TellMenusEdited();
+  const OrderOutcome outcome =
+      ApplyButtonOrder(with_.Files, with_.Ansi, with_.Paths.MenusPath, order_);
+  if (outcome.Result == OrderResult::Applied) with_.Ports.TellMenusEdited();
   if (outcome.Result == OrderResult::Failed) {
-    ShowFileError(program_.Paths.MenusPath, outcome.Reason);
+    ShowFileError(with_.Paths.MenusPath, outcome.Reason);
     return false;
   }
   if (outcome.Result == OrderResult::Outdated) {
-    program_.Messages.Say(hWnd(), RefusalText(ItemResult::Mismatch),
-                          forms::msgbox::IconInformation);
+    with_.Messages.Say(hWnd(), RefusalText(ItemResult::Mismatch), forms::msgbox::IconInformation);
     if (!IsLoaded()) return false;
     // The buttons that there are now, to begin again with.
     ButtonsTabLoaded = false;
@@ -197,7 +187,7 @@ bool frmProperties::ApplyOrder() {
   orderTouched_ = false;
   if (place != ButtonOrder::kNone) {
     const ButtonNode& node = order_.Nodes()[place];
-    FollowOrder(item_, PathOfTag(node.Tag), node.Stored, program_.Services.Ansi);
+    FollowOrder(item_, PathOfTag(node.Tag), node.Stored, with_.Ansi);
     item_.Key = order_.KeyOnStrip(item_.Key, place);
     if (item_.Record == 1) txtCommand.SetText(item_.Current.FName);
   }

@@ -4,7 +4,10 @@
 
 #include "base/Text.h"
 #include "core/MenuFile.h"
-#include "core/Program.h"
+#include "core/MessageBoxes.h"
+#include "core/ProgramPaths.h"
+#include "core/RecordEdits.h"
+#include "desk/SlowQuestions.h"
 #include "launch/CommandForm.h"
 #include "platform/Input.h"
 #include "properties/ItemRules.h"
@@ -13,7 +16,7 @@
 
 namespace corvelle {
 void frmProperties::SetFileItem(const MenuRecord& shown) {
-  item_ = MakeFileItem(program_.Entry, shown, program_.Services.Ansi);
+  item_ = MakeFileItem(with_.Entry, shown, with_.Ansi);
   EnableItem();
   txtTitle.SetText(item_.Starting.FTitle);
   txtIcon.SetText(item_.Starting.FIcon);
@@ -58,7 +61,7 @@ bool frmProperties::ApplyItem() {
   if (Trim(txtTitle.Text()).empty()) {
     if (!BoxesChanged()) return true;
     // An entry without a title cannot be chosen; what was typed stays to be corrected.
-    program_.Services.Pointer.Beep();
+    with_.Pointer.Beep();
     return false;
   }
   DrawIcon();
@@ -66,9 +69,9 @@ bool frmProperties::ApplyItem() {
 }
 
 bool frmProperties::UpdateFileItem() {
-  const ItemOutcome outcome = corvelle::UpdateFileItem(
-      program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, item_, Boxes());
-  if (outcome.Result == ItemResult::Written) program_.Ports.TellMenusEdited();
+  const ItemOutcome outcome =
+      corvelle::UpdateFileItem(with_.Files, with_.Ansi, with_.Paths.MenusPath, item_, Boxes());
+  if (outcome.Result == ItemResult::Written) with_.Ports.TellMenusEdited();
   ShowOutcome(outcome);
   if (outcome.Result != ItemResult::Written && outcome.Result != ItemResult::Same) return false;
   if (!IsLoaded()) return true;
@@ -86,21 +89,21 @@ bool frmProperties::UpdateFileItem() {
 void frmProperties::CancelFileItem() {
   if (item_.CurrentBytes == item_.StartingBytes) return;
   ShowHidingStrip();
-  const ItemOutcome outcome = corvelle::CancelFileItem(
-      program_.Services.Files, program_.Services.Ansi, program_.Paths.MenusPath, item_);
-  if (outcome.Result == ItemResult::Written) program_.Ports.TellMenusEdited();
+  const ItemOutcome outcome =
+      corvelle::CancelFileItem(with_.Files, with_.Ansi, with_.Paths.MenusPath, item_);
+  if (outcome.Result == ItemResult::Written) with_.Ports.TellMenusEdited();
   if (outcome.Result == ItemResult::Failed) ShowOutcome(outcome);
   if (outcome.Result == ItemResult::Written && IsLoaded()) ShowEdited();
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ShowToolbar();
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->ShowToolbar();
 }
 
 void frmProperties::ShowEdited() {
   const std::size_t place = order_.FindPath(item_.File);
   if (item_.Record == 1 && place != ButtonOrder::kNone) {
-    order_.SetRecord(place, item_.CurrentBytes, program_.Services.Ansi);
+    order_.SetRecord(place, item_.CurrentBytes, with_.Ansi);
     FillTree();
   }
-  ToolbarPort* const strip = program_.Ports.Toolbar;
+  ToolbarPort* const strip = with_.Ports.Toolbar;
   if (strip == nullptr) return;
   strip->ShowToolbar();
   switch (PlaceOf(item_.Key)) {
@@ -122,12 +125,12 @@ void frmProperties::ShowOutcome(const ItemOutcome& outcome) {
     return;
   }
   const std::string_view text = RefusalText(outcome.Result);
-  if (!text.empty()) program_.Messages.Say(hWnd(), text, forms::msgbox::IconInformation);
+  if (!text.empty()) with_.Messages.Say(hWnd(), text, forms::msgbox::IconInformation);
 }
 
 void frmProperties::ShowFileError(std::string_view path, FileError error) {
-  program_.Messages.Say(hWnd(), NumberedFileError(program_.Services.Files, path, error),
-                        forms::msgbox::IconInformation);
+  with_.Messages.Say(hWnd(), NumberedFileError(with_.Files, path, error),
+                     forms::msgbox::IconInformation);
 }
 
 // ---- the mark of a command that leads nowhere ----
@@ -142,15 +145,15 @@ void frmProperties::AskTargetSoon() {
 void frmProperties::AskTarget() {
   tmrTarget_.SetEnabled(false);
   lblMissing.SetVisible(false);
-  program_.Slow.Drop(targetAsked_);
-  targetAsked_ = program_.Slow.NewGeneration();
+  with_.Slow.Drop(targetAsked_);
+  targetAsked_ = with_.Slow.NewGeneration();
   targetsLeft_ = 0;
   if (!txtCommand.Enabled()) return;
   for (std::string& path : TargetsOf(txtCommand.Text())) {
     Lookup question{.Path = std::move(path), .Generation = targetAsked_};
     question.Lane = DriveOf(question.Path);
     ++targetsLeft_;
-    program_.Slow.Ask(std::move(question), [this](const LookupAnswer& end) { HearAnswer(end); });
+    with_.Slow.Ask(std::move(question), [this](const LookupAnswer& end) { HearAnswer(end); });
   }
 }
 
@@ -158,7 +161,7 @@ void frmProperties::HearAnswer(const LookupAnswer& answer) {
   const bool* const there = std::get_if<bool>(&answer.Value);
   const bool missing = answer.End == LookupEnd::Answered && there != nullptr && !*there;
   // One that is there is enough, and so is one that cannot be told.
-  if (!missing) return program_.Slow.Drop(targetAsked_);
+  if (!missing) return with_.Slow.Drop(targetAsked_);
   if (--targetsLeft_ == 0) lblMissing.SetVisible(true);
 }
 

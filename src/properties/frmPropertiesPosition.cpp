@@ -5,8 +5,9 @@
 #include <variant>
 
 #include "base/Text.h"
-#include "core/Program.h"
+#include "core/ProgramPaths.h"
 #include "core/SpecialFolders.h"
+#include "core/StripPlacement.h"
 #include "desk/AnswerDesk.h"
 #include "forms/Scopes.h"
 #include "platform/DesktopWindows.h"
@@ -38,7 +39,7 @@ void Draw(Canvas& canvas, const forms::Window& window, const PreviewPlan& plan) 
 void frmProperties::LoadPositionTab() {
   if (PositionTabLoaded) return;
   PositionTabLoaded = true;
-  const forms::HourglassScope hourglass(program_.Windows);
+  const forms::HourglassScope hourglass(Windows());
   DrawPreview();
 }
 
@@ -50,14 +51,14 @@ void frmProperties::DrawPreview() {
             .Dpi = Dpi(),
             .StartText = MeasureText(kStartText),
             .ClockText = MeasureText(kClockText)};
-  const int width = program_.Services.Icons.IconWidth(IconList::Large);
+  const int width = with_.Icons.Shell.IconWidth(IconList::Large);
   if (width > 0) scene_.IconSize = width;
-  RemoveDesktopLists(program_.Services.Files, program_.Paths.MenusPath);
+  RemoveDesktopLists(with_.Files, with_.Paths.MenusPath);
   ListDesktop();
 }
 
 void frmProperties::ListDesktop() {
-  const auto listed = program_.Answers.AskAtOnce(
+  const auto listed = with_.Icons.Answers.AskAtOnce(
       {.Question = {.Kind = LookupKind::ShellEntries, .Path = {}, .Number = kDesktopFolder},
        .Owner = desktopAsked_},
       {.Ended = [this](const desk::Reply& reply) { DrawDesktop(reply); },
@@ -72,12 +73,12 @@ void frmProperties::DrawDesktop(const desk::Reply& listed) {
   const auto* const entries = std::get_if<std::vector<ShellFolderEntry>>(&listed.Value);
   if (listed.How == desk::End::Answered && entries != nullptr) icons = DesktopIcons(*entries);
   const std::vector<PixelPoint> places = IconGrid(scene_, icons.size());
-  const std::shared_ptr<Canvas> drawn = program_.Windows.CreateCanvas(scene_.Box);
+  const std::shared_ptr<Canvas> drawn = Windows().CreateCanvas(scene_.Box);
   Draw(*drawn, *this, PlanPreview(scene_));
   for (std::size_t i = 0; i < places.size(); ++i) {
     // One that the system does not have leaves its place empty.
-    static_cast<void>(program_.Services.Icons.DrawSystemIcon(*drawn, IconList::Large, icons[i],
-                                                             places[i], IconStyle::Normal));
+    static_cast<void>(with_.Icons.Shell.DrawSystemIcon(*drawn, IconList::Large, icons[i], places[i],
+                                                       IconStyle::Normal));
   }
   desktop_ = drawn;
   DrawStrip(shownEdge_);
@@ -92,7 +93,7 @@ void frmProperties::DrawStrip(std::optional<Edge> edge) {
   if (edge) {
     const forms::ScreenInfo screen = Screen();
     const TwipRect strip =
-        program_.Ports.Toolbar != nullptr ? program_.Ports.Toolbar->WindowBounds() : TwipRect{};
+        with_.Ports.Toolbar != nullptr ? with_.Ports.Toolbar->WindowBounds() : TwipRect{};
     const auto thickness =
         static_cast<int>(std::min(strip.Width, strip.Height) / screen.TwipsPerPixelX);
     const PixelRect at = PreviewStrip(scene_, *edge, thickness,
@@ -112,8 +113,7 @@ std::optional<Edge> frmProperties::EdgeInUse() const {
                                                                   {cmdBottom, Edge::Bottom},
                                                                   {cmdLeft, Edge::Left},
                                                                   {cmdRight, Edge::Right}};
-  const WindowId under =
-      program_.Services.Desktop.WindowAt(program_.Services.Pointer.PointerPosition());
+  const WindowId under = with_.Desktop.WindowAt(with_.Pointer.PointerPosition());
   for (const auto& [button, edge] : buttons) {
     if (button.hWnd() == under) return edge;
   }
@@ -124,15 +124,15 @@ std::optional<Edge> frmProperties::EdgeInUse() const {
 }
 
 void frmProperties::MoveToEdge(Edge edge) {
-  DockingPort* const docking = program_.Ports.Docking;
-  if (busy_ || docking == nullptr || program_.Strip.ToolbarMinimizing) return;
-  if (program_.Strip.ToolbarMinimized) return;
-  if (program_.Strip.AppBarDocked && program_.Strip.ToolbarEdge == edge) return;
+  DockingPort* const docking = with_.Ports.Docking;
+  if (busy_ || docking == nullptr || with_.Strip.ToolbarMinimizing) return;
+  if (with_.Strip.ToolbarMinimized) return;
+  if (with_.Strip.AppBarDocked && with_.Strip.ToolbarEdge == edge) return;
   const forms::FlagScope busy(busy_);
   docking->SetAppBar(edge, false);
   if (!IsLoaded()) return;
-  if (program_.Strip.AutoHide) docking->RevealToolbar();
-  if (program_.Ports.Toolbar != nullptr) program_.Ports.Toolbar->ShowToolbar();
+  if (with_.Strip.AutoHide) docking->RevealToolbar();
+  if (with_.Ports.Toolbar != nullptr) with_.Ports.Toolbar->ShowToolbar();
   if (!IsLoaded()) return;
   // The strip may have taken the foreground while it was built.
   SetForeground();

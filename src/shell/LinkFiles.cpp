@@ -1,12 +1,14 @@
 #include "shell/LinkFiles.h"
 
-#include "base/Text.h"
+#include "core/WindowPorts.h"
 #include "shell/cShellLink.h"
 
 namespace corvelle {
 
-std::string GetSpecialFolder(ShellLinks& links, WindowId owner, int folder) {
-  return cShellLink(links).GetSystemFolderPath(owner, folder).value_or(std::string());
+std::string GetSpecialFolder(ShellLinks& links, const WindowPorts& ports, int folder) {
+  return cShellLink(links)
+      .GetSystemFolderPath(ports.ToolbarWindow(), folder)
+      .value_or(std::string());
 }
 
 bool MakeLink(ShellLinks& links, std::string_view LnkFile, std::string_view ExeFile,
@@ -20,11 +22,6 @@ std::optional<LinkTarget> ReadLink(ShellLinks& links, std::string_view LnkFile) 
   if (!info) return std::nullopt;
   return LinkTarget{.ExeFile = std::move(info->Fields.ExeFile),
                     .Args = std::move(info->Fields.ExeArgs)};
-}
-
-std::string ResolveChosenFile(ShellLinks& links, std::string_view path) {
-  if (!EndsWithNoCase(path, ".lnk")) return std::string(path);
-  return ReadLink(links, path).value_or(LinkTarget{}).ExeFile;
 }
 
 std::string LinkReader::TargetOf(std::string_view linkPath) {

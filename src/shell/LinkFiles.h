@@ -9,12 +9,13 @@
 namespace corvelle {
 
 class ShellLinks;
+struct WindowPorts;
 
 // Links and special folders in one call each, for all windows of the program.
 
 /// The path of a special folder (CSIDL_*) without a trailing backslash but for a root; empty when
-/// it has none. Dialogs of the system belong to `owner`.
-[[nodiscard]] std::string GetSpecialFolder(ShellLinks& links, WindowId owner, int folder);
+/// it has none. Dialogs of the system belong to the strip.
+[[nodiscard]] std::string GetSpecialFolder(ShellLinks& links, const WindowPorts& ports, int folder);
 
 /// Writes a link to a program that starts in `WorkDir`, with a normal window. False on failure.
 bool MakeLink(ShellLinks& links, std::string_view LnkFile, std::string_view ExeFile,
@@ -30,10 +31,6 @@ struct LinkTarget {
 /// What a link starts; nothing when it cannot be read. A link to an item without a path has an
 /// empty target.
 [[nodiscard]] std::optional<LinkTarget> ReadLink(ShellLinks& links, std::string_view LnkFile);
-
-/// A file that the user chose or dropped: a link stands for its target, anything else for itself.
-/// Empty for a link that leads to no path.
-[[nodiscard]] std::string ResolveChosenFile(ShellLinks& links, std::string_view path);
 
 /// Links for those who only want to know where they lead.
 class LinkReader final : public ShellLinksPort {

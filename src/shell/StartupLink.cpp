@@ -27,8 +27,7 @@ bool MakeStartupLink(const StartupLinkParts& with, std::string_view executable) 
 }  // namespace
 
 std::string StartupLinkPath(const StartupLinkParts& with) {
-  const std::string folder =
-      GetSpecialFolder(with.Links, with.Ports.ToolbarWindow(), kStartupFolder);
+  const std::string folder = GetSpecialFolder(with.Links, with.Ports, kStartupFolder);
   // Without a folder the name alone would lie in the root of some drive.
   return folder.empty() ? std::string() : EnsureBackslash(folder) + "Corvelle.lnk";
 }

@@ -7,6 +7,7 @@
 
 #include "core/CoreDoubles.h"
 #include "core/Program.h"
+#include "icons/IconsWiring.h"
 #include "icons/LibraryBytes.h"
 #include "sim/World.h"
 
@@ -29,7 +30,7 @@ class LibraryDesk : public ::testing::Test {
   }
 
   void Pack(const std::string& bytes) { world.Files.Put(kContainer, bytes); }
-  void Unpack() { IconLibrary(program).ExtractIconLibrary(); }
+  void Unpack() { IconLibrary(UnpackPartsOf(program)).ExtractIconLibrary(); }
 
   std::vector<std::string> Unpacked() { return world.Files.Names(program.Paths.IconsPath); }
   std::string Content(const std::string& name) {
@@ -76,7 +77,7 @@ TEST_F(LibraryDesk, TheContainerIsTheOneThatThePackerWrites) {
 TEST_F(LibraryDesk, FoldersAreTakenWithAndWithoutTheirBackslash) {
   Pack(Entry("a.ico", "first"));
   world.Files.MakeFolders("C:\\Elsewhere");
-  ExtractIconLibrary(program, "C:\\Elsewhere", "C:\\Corvelle");
+  ExtractIconLibrary(UnpackPartsOf(program), "C:\\Elsewhere", "C:\\Corvelle");
   EXPECT_EQ(world.Files.Get("C:\\Elsewhere\\a.ico"), "first");
 }
 
@@ -250,101 +251,6 @@ TEST_F(LibraryDesk, AnyOneFailureLeavesEachFileOldOrNew) {
     if (!hit) break;
   }
   EXPECT_EQ(Content("a.ico"), "new a");
-}
-
-// Categories and derived files.
-
-TEST_F(LibraryDesk, CategoriesAreTheListsInOrder) {
-  for (const char* name : {"tools.INI", "Arrows.ini", "people.ini", "x.ico", "note.txt"}) {
-    world.Files.Put(program.Paths.IconsPath + name, "a.ico\r\n");
-  }
-  world.Files.MakeFolders(program.Paths.IconsPath + "folder.ini");
-  EXPECT_EQ(LibraryCategories(program), (std::vector<std::string>{"Arrows", "people", "tools"}));
-}
-
-TEST_F(LibraryDesk, ACategoryHoldsTheLinesOfItsListThatAreNotBlank) {
-  world.Files.Put(program.Paths.IconsPath + "Tools.ini", "saw.ico\r\n\r\n  \r\nhammer.ico");
-  EXPECT_EQ(CategoryIcons(program, "tools"), (std::vector<std::string>{"saw.ico", "hammer.ico"}));
-}
-
-TEST_F(LibraryDesk, ADeletedListTakesItsCategoryAtOnceAndTheIconsStay) {
-  world.Files.Put(program.Paths.IconsPath + "Tools.ini", "saw.ico\r\n");
-  world.Files.Put(program.Paths.IconsPath + "saw.ico", "x");
-  world.Files.Vanish(program.Paths.IconsPath + "Tools.ini");
-  EXPECT_TRUE(LibraryCategories(program).empty());
-  EXPECT_TRUE(CategoryIcons(program, "Tools").empty());
-  EXPECT_EQ(AllIcons(program), std::vector<std::string>{"saw.ico"});
-}
-
-TEST_F(LibraryDesk, AllIconsComeFromThePreparedListOnceItIsMade) {
-  world.Files.Put(program.Paths.IconsPath + "a.ico", "x");
-  EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
-  EXPECT_EQ(Content("CAT0.ics"), "a.ico\r\n");
-  world.Files.Put(program.Paths.IconsPath + "b.ico", "x");
-  EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
-  ResetLibrary(program);
-  EXPECT_EQ(AllIcons(program).size(), 2U);
-}
-
-TEST_F(LibraryDesk, AllIconsAreFoundWithoutRoomForTheirList) {
-  world.Files.Put(program.Paths.IconsPath + "a.ico", "x");
-  world.Files.FillDisk(0);
-  EXPECT_EQ(AllIcons(program), std::vector<std::string>{"a.ico"});
-  EXPECT_EQ(Unpacked(), std::vector<std::string>{"a.ico"});
-}
-
-TEST_F(LibraryDesk, AResetDropsTheDerivedFilesAndNothingElse) {
-  program.Icons.LibraryBuilt = true;
-  for (const char* name : {"CAT0.ics", "CAT0.dat", "others.dat", "a.ico", "Tools.ini"}) {
-    world.Files.Put(program.Paths.IconsPath + name, "x");
-  }
-  world.Files.Put("C:\\Corvelle\\clrlib.dat", "x");
-  ResetLibrary(program);
-  EXPECT_EQ(Unpacked(), (std::vector<std::string>{"Tools.ini", "a.ico"}));
-  EXPECT_TRUE(world.Files.Has("C:\\Corvelle\\clrlib.dat"));
-  EXPECT_FALSE(program.Icons.LibraryBuilt);
-}
-
-TEST_F(LibraryDesk, WithoutBeingAskedTheUsersOwnFilesStayInTheirList) {
-  program.Icons.LibraryBuilt = true;
-  for (const char* name : {"CAT0.ics", "CAT0.dat", "others.dat", "a.ico"}) {
-    world.Files.Put(program.Paths.IconsPath + name, "x");
-  }
-  DropPreparedLists(program);
-  EXPECT_EQ(Unpacked(), (std::vector<std::string>{"a.ico", "others.dat"}));
-  EXPECT_FALSE(program.Icons.LibraryBuilt);
-  world.System.Depth = 8;
-  EXPECT_TRUE(CheckLibraryDisplay(program));
-  EXPECT_TRUE(world.Files.Has(program.Paths.IconsPath + "others.dat"));
-}
-
-TEST_F(LibraryDesk, AResetPassesOverWhatIsHeldOpen) {
-  world.Files.Put(program.Paths.IconsPath + "a.dat", "x");
-  world.Files.HoldOpen(program.Paths.IconsPath + "a.dat");
-  world.Files.Put(program.Paths.IconsPath + "b.ics", "x");
-  ResetLibrary(program);
-  EXPECT_EQ(Unpacked(), std::vector<std::string>{"a.dat"});
-}
-
-TEST_F(LibraryDesk, AnotherDepthOrColourDropsTheDerivedFiles) {
-  EXPECT_TRUE(CheckLibraryDisplay(program));
-  EXPECT_EQ(world.Files.Get("C:\\Corvelle\\clrlib.dat")->size(), 16U);
-  world.Files.Put(program.Paths.IconsPath + "CAT0.ics", "x");
-  program.Icons.LibraryBuilt = true;
-  EXPECT_FALSE(CheckLibraryDisplay(program));
-  EXPECT_TRUE(program.Icons.LibraryBuilt);
-  EXPECT_TRUE(world.Files.Has(program.Paths.IconsPath + "CAT0.ics"));
-  world.System.Depth = 8;
-  EXPECT_TRUE(CheckLibraryDisplay(program));
-  EXPECT_FALSE(program.Icons.LibraryBuilt);
-  EXPECT_FALSE(world.Files.Has(program.Paths.IconsPath + "CAT0.ics"));
-  EXPECT_FALSE(CheckLibraryDisplay(program));
-}
-
-TEST_F(LibraryDesk, ADisplayRecordOfNoLengthCountsAsAnotherDisplay) {
-  world.Files.Put("C:\\Corvelle\\clrlib.dat", "");
-  EXPECT_TRUE(CheckLibraryDisplay(program));
-  EXPECT_FALSE(CheckLibraryDisplay(program));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Program.h"
+#include "icons/IconsWiring.h"
 #include "sim/World.h"
 
 namespace corvelle {
@@ -24,90 +25,71 @@ class OthersDesk : public ::testing::Test {
     world.Files.MakeFolders(program.Paths.IconsPath);
   }
 
-  /// A program that is registered with this path, and holds so many icons.
-  void Register(const std::string& name, const std::string& path, int icons) {
+  /// A program that is registered with this path.
+  void Register(const std::string& name, const std::string& path) {
     world.Keys.Set(RegistryRoot::LocalMachine, kAppPaths + name, "", path);
-    world.Icons.SetIconCount(path, icons);
+  }
+  /// What is asked about the files of the first list.
+  Rows Asked() {
+    Rows asked;
+    for (const Lookup& question : Others().FirstQuestions()) {
+      asked.push_back((question.Kind == LookupKind::IconCount ? "count " : "there ") +
+                      question.Path);
+    }
+    return asked;
   }
 
-  void PutShellFiles() {
-    world.Files.Put("C:\\Windows\\System32\\Shell32.dll", "x");
-    world.Files.Put("C:\\Windows\\Explorer.exe", "x");
-  }
-
+  OtherIcons Others() { return OtherIconsOf(program); }
   std::string Stored() { return world.Files.Get(kOthers).value_or("(missing)"); }
 
   sim::World world;
   Program program{world.Services(), world.Windows()};
 };
 
-TEST_F(OthersDesk, TheFirstListIsTheShellsFilesAndTheRegisteredPrograms) {
-  PutShellFiles();
-  Register("paint.exe", "C:\\TOOLS\\PAINT.EXE", 3);
-  Register("bare.exe", "C:\\Tools\\bare.exe", 0);
-  const Rows expected = {"Explorer.exe |C:\\Windows\\Explorer.exe",
-                         "paint.exe |C:\\tools\\paint.exe",
-                         "Shell32.dll |C:\\Windows\\System32\\Shell32.dll"};
-  EXPECT_EQ(InitOthers(program), expected);
-  EXPECT_EQ(Stored(),
-            "C:\\Windows\\Explorer.exe\r\nC:\\tools\\paint.exe\r\n"
-            "C:\\Windows\\System32\\Shell32.dll\r\n");
-  EXPECT_EQ(ReadOthers(program), expected);
-}
-
-TEST_F(OthersDesk, ShellFilesThatAreNotThereAreLeftOut) {
-  world.Files.Put("C:\\Windows\\Explorer.exe", "x");
-  EXPECT_EQ(InitOthers(program), Rows{"Explorer.exe |C:\\Windows\\Explorer.exe"});
-}
-
-TEST_F(OthersDesk, QuotesComeOffAndAProgramIsListedOnce) {
-  Register("a.exe", "C:\\Tools\\a.exe", 1);
-  world.Keys.Set(RegistryRoot::LocalMachine, std::string(kAppPaths) + "a.exe", "",
-                 "\"C:\\Tools\\a.exe\"");
-  world.Keys.Set(RegistryRoot::LocalMachine, std::string(kAppPaths) + "b.exe", "",
-                 "\"C:\\TOOLS\\A.EXE\"");
-  EXPECT_EQ(InitOthers(program), Rows{"a.exe |C:\\tools\\a.exe"});
+TEST_F(OthersDesk, WithoutAListTheShellsFilesAndTheRegisteredProgramsAreAskedAbout) {
+  Register("paint.exe", "C:\\TOOLS\\PAINT.EXE");
+  Register("quoted.exe", "\"C:\\Tools\\Quoted.exe\"");
+  EXPECT_FALSE(Others().Read().has_value());
+  EXPECT_EQ(Asked(),
+            (Rows{"there C:\\Windows\\System32\\Shell32.dll", "there C:\\Windows\\Explorer.exe",
+                  "count C:\\tools\\paint.exe", "count C:\\tools\\quoted.exe"}));
 }
 
 TEST_F(OthersDesk, KeysWithoutAPathOrWithABarAreLeftOut) {
   world.Keys.Set(RegistryRoot::LocalMachine, std::string(kAppPaths) + "a.exe", "Path", "C:\\Tools");
-  Register("b.exe", "", 1);
-  Register("c.exe", "C:\\a|b.exe", 1);
-  EXPECT_TRUE(InitOthers(program).empty());
-  EXPECT_EQ(Stored(), "(missing)");
+  Register("b.exe", "");
+  Register("c.exe", "C:\\a|b.exe");
+  EXPECT_EQ(Asked().size(), 2U);
 }
 
-TEST_F(OthersDesk, AStoredListIsReadAndSortedWithoutLookingForPrograms) {
-  PutShellFiles();
+TEST_F(OthersDesk, AStoredListIsReadAndSorted) {
   world.Files.Put(kOthers, "C:\\b.dll\r\n  \r\nC:\\A.exe");
-  EXPECT_EQ(ReadOthers(program), (Rows{"A.exe |C:\\A.exe", "b.dll |C:\\b.dll"}));
+  EXPECT_EQ(Others().Read(), (Rows{"A.exe |C:\\A.exe", "b.dll |C:\\b.dll"}));
   EXPECT_EQ(Stored(), "C:\\b.dll\r\n  \r\nC:\\A.exe");
 }
 
 TEST_F(OthersDesk, OnlyThePathBehindTheBarIsStored) {
-  SaveOthers(program, {"A.exe | C:\\Tools\\A.exe ", "b.dll |C:\\b.dll"});
+  Others().Save({"A.exe | C:\\Tools\\A.exe ", "b.dll |C:\\b.dll"});
   EXPECT_EQ(Stored(), "C:\\Tools\\A.exe\r\nC:\\b.dll\r\n");
 }
 
-TEST_F(OthersDesk, AnEmptyListRemovesTheFileAndTheNextReadMakesItAnew) {
-  PutShellFiles();
+TEST_F(OthersDesk, AnEmptyListRemovesTheFile) {
   world.Files.Put(kOthers, "C:\\b.dll\r\n");
-  SaveOthers(program, {});
+  Others().Save({});
   EXPECT_EQ(Stored(), "(missing)");
-  EXPECT_EQ(ReadOthers(program).size(), 2U);
-  EXPECT_NE(Stored(), "(missing)");
+  EXPECT_FALSE(Others().Read().has_value());
 }
 
 TEST_F(OthersDesk, ErrorsWithTheFileAreQuietAndTheOldListStays) {
   world.Files.Put(kOthers, "C:\\b.dll\r\n");
   world.Files.HoldOpen(kOthers);
-  EXPECT_TRUE(ReadOthers(program).empty());
-  SaveOthers(program, {"a.exe |C:\\a.exe"});
-  SaveOthers(program, {});
+  EXPECT_EQ(Others().Read(), Rows());
+  Others().Save({"a.exe |C:\\a.exe"});
+  Others().Save({});
   world.Files.LetGo(kOthers);
   EXPECT_EQ(Stored(), "C:\\b.dll\r\n");
   world.Files.FillDisk(0);
-  SaveOthers(program, {"a.exe |C:\\a.exe", "c.exe |C:\\a\\long\\path\\c.exe"});
+  Others().Save({"a.exe |C:\\a.exe", "c.exe |C:\\a\\long\\path\\c.exe"});
   EXPECT_EQ(Stored(), "C:\\b.dll\r\n");
 }
 

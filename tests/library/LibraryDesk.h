@@ -10,6 +10,7 @@
 #include "core/Program.h"
 #include "forms/Form.h"
 #include "forms/TextBox.h"
+#include "library/LibraryWiring.h"
 #include "library/frmLibrary.h"
 #include "sim/World.h"
 
@@ -144,7 +145,7 @@ class LibraryDesk : public testing::Test {
   sim::World world;
   Program program{world.Services(), world.Windows()};
   BoxForm box{program};
-  frmLibrary library{program};
+  frmLibrary library{LibraryPartsOf(program)};
 };
 
 }  // namespace corvelle

@@ -181,5 +181,128 @@ TEST_F(LibraryIcons, ADeadFileLeavesTheOthersToBeChosenAndItsCountIsNotTaken) {
   EXPECT_EQ(OfOther(2), SimShellIcons::ColourOf(kTool, 2));
 }
 
+TEST_F(LibraryIcons, AnAddedFileIsChosenWhenItIsCountedAndTheWindowGoesOnMeanwhile) {
+  PutOthers({kTool, "C:\\z.dll"});
+  Slow().Delay("D:*", 1000);
+  Open();
+  OpenOthers();
+  world.Desktop.ChooseFiles({kFar});
+  world.Costs.Clear();
+  Click(library.cmdAdd);
+  EXPECT_EQ(library.List1Other.Items().size(), 2U);
+  ChooseRow(library.List1Other, 1);
+  EXPECT_TRUE(library.cmdAdd.Enabled());
+  Advance(1100);
+  EXPECT_LT(world.Costs.LongestTurn(), 100);
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+  EXPECT_EQ(library.List1Other.Items(), (std::vector<std::string>{"far.exe", "tool.exe", "z.dll"}));
+  EXPECT_EQ(library.List1Other.Selected(), 0);
+  Advance(1100);
+  EXPECT_EQ(library.OtherView.Captions().size(), 5U);
+}
+
+TEST_F(LibraryIcons, AnAddedFileThatNeverAnswersIsRefusedWhenItWasGivenUp) {
+  PutOthers({kTool});
+  Slow().HangForGood("D:*");
+  Open();
+  OpenOthers();
+  world.Desktop.ChooseFiles({kFar});
+  world.Desktop.Answer(forms::msgbox::AnswerOk);
+  world.Costs.Clear();
+  Click(library.cmdAdd);
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+  Advance(6000);
+  EXPECT_LT(world.Costs.LongestTurn(), 100);
+  EXPECT_EQ(LastBox(), "\"far.exe\" does not contain icons.");
+  EXPECT_EQ(world.Desktop.Boxes().back().Flags, 64U);
+  EXPECT_EQ(library.List1Other.Items().size(), 1U);
+}
+
+TEST_F(LibraryIcons, TheWindowMayCloseBeforeAnAddedFileIsCounted) {
+  PutOthers({kTool});
+  Slow().Delay("D:*", 1000);
+  Open();
+  OpenOthers();
+  world.Desktop.ChooseFiles({kFar});
+  Click(library.cmdAdd);
+  PressKey(forms::key::Escape);
+  ASSERT_FALSE(library.IsLoaded());
+  Advance(5000);
+  EXPECT_EQ(world.Files.Get(kOthers).value_or(""), std::string(kTool) + "\r\n");
+  EXPECT_EQ(world.Desktop.Clock().Running(), 0);
+}
+
+TEST_F(LibraryIcons, AFileThatIsCountedWhileTheUserIsAskedDoesNotChangeWhatIsRemoved) {
+  PutOthers({kTool, "C:\\z.dll"});
+  Slow().Delay("D:*", 1000);
+  Open();
+  OpenOthers();
+  world.Desktop.ChooseFiles({kFar});
+  Click(library.cmdAdd);
+  ASSERT_EQ(library.List1Other.Selected(), 0);
+  world.Desktop.WhileBoxIsUp([this](const auto&) { Advance(1100); });
+  world.Desktop.Answer(forms::msgbox::AnswerYes);
+  Click(library.cmdRemove);
+  EXPECT_EQ(LastBox(), "Are you sure you want to remove \"tool.exe\"");
+  EXPECT_EQ(library.List1Other.Items(), (std::vector<std::string>{"far.exe", "z.dll"}));
+  EXPECT_EQ(world.Files.Get(kOthers).value_or(""), std::string(kFar) + "\r\nC:\\z.dll\r\n");
+}
+
+TEST_F(LibraryIcons, AResetLeavesNothingToBeAdded) {
+  world.Files.Put("C:\\Windows\\Explorer.exe", "x");
+  PutOthers({kTool});
+  Slow().Delay("D:*", 1000);
+  Open();
+  OpenOthers();
+  world.Desktop.ChooseFiles({kFar});
+  Click(library.cmdAdd);
+  world.Desktop.WhileBoxIsUp([this](const auto&) { Advance(1100); });
+  world.Desktop.Answer(forms::msgbox::AnswerOk);
+  Click(library.cmdRefresh);
+  Advance(2000);
+  EXPECT_EQ(library.List1Other.Items(), std::vector<std::string>{"Explorer.exe"});
+  EXPECT_EQ(world.Files.Get(kOthers).value_or(""), "C:\\Windows\\Explorer.exe\r\n");
+}
+
+TEST_F(LibraryIcons, AFirstListGrowsWhenItsProgramsAreCountedAndWhatIsChosenStays) {
+  world.Files.Put("C:\\Windows\\Explorer.exe", "x");
+  world.Files.Put("C:\\Windows\\System32\\Shell32.dll", "x");
+  world.Icons.SetIconCount("C:\\Windows\\System32\\Shell32.dll", 4);
+  world.Keys.Set(RegistryRoot::LocalMachine,
+                 "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\far.exe", "", kFar);
+  Slow().Delay("D:*", 1000);
+  Open();
+  world.Costs.Clear();
+  OpenOthers();
+  EXPECT_LT(world.Costs.LongestTurn(), 100);
+  EXPECT_EQ(library.List1Other.Items(), (std::vector<std::string>{"Explorer.exe", "Shell32.dll"}));
+  EXPECT_FALSE(library.cmdAdd.Enabled());
+  EXPECT_FALSE(library.cmdRemove.Enabled());
+  ChooseRow(library.List1Other, 1);
+  library.picOther.SetFocus();
+  PressKey(forms::key::End);
+  const std::string marked = Marked(library.OtherView);
+  ASSERT_NE(marked, "");
+  Advance(1100);
+  EXPECT_EQ(library.List1Other.Items(),
+            (std::vector<std::string>{"Explorer.exe", "far.exe", "Shell32.dll"}));
+  EXPECT_EQ(library.List1Other.Selected(), 2);
+  EXPECT_EQ(Marked(library.OtherView), marked);
+  EXPECT_TRUE(library.cmdAdd.Enabled());
+  EXPECT_TRUE(library.cmdRemove.Enabled());
+}
+
+TEST_F(LibraryIcons, AFirstListThatWasEmptyChoosesItsFirstRowWhenItIsMade) {
+  world.Keys.Set(RegistryRoot::LocalMachine,
+                 "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\far.exe", "", kFar);
+  Slow().Delay("D:*", 100);
+  Open();
+  OpenOthers();
+  ASSERT_EQ(library.List1Other.Items().size(), 0U);
+  Advance(1000);
+  EXPECT_EQ(library.List1Other.Selected(), 0);
+  EXPECT_EQ(library.OtherView.Captions().size(), 5U);
+}
+
 }  // namespace
 }  // namespace corvelle

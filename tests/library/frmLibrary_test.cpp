@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "icons/IconLibrary.h"
+#include "icons/IconsWiring.h"
 #include "icons/LibraryFile.h"
 #include "library/LibraryDesk.h"
 
@@ -543,7 +543,7 @@ TEST_F(LibraryDesk, AfterAnEndAtAnyCallOfAResetTheNextStartShowsTheWholeLibrary)
     EXPECT_EQ(world.Files.Get(kOthers).value_or("(missing)"), std::string(kTool) + "\r\n");
     library.Unload();
     // And what it noted of the display is right: the opening after it resets nothing.
-    EXPECT_FALSE(CheckLibraryDisplay(program));
+    EXPECT_FALSE(LibraryListsOf(program).CheckDisplay());
     EXPECT_LT(n, 60);
   }
 }
@@ -557,10 +557,10 @@ TEST_F(LibraryDesk, ADisplayRecordThatWasCutShortCountsAsAnotherDisplay) {
   constexpr std::size_t kTold = 5;  // bytes; those behind them are zeros, as missing ones are
   for (std::size_t length = 0; length < kTold; ++length) {
     world.Files.Put(display, whole.substr(0, length));
-    EXPECT_TRUE(CheckLibraryDisplay(program)) << length;
+    EXPECT_TRUE(LibraryListsOf(program).CheckDisplay()) << length;
     EXPECT_EQ(world.Files.Get(display).value_or(""), whole) << length;
   }
-  EXPECT_FALSE(CheckLibraryDisplay(program));
+  EXPECT_FALSE(LibraryListsOf(program).CheckDisplay());
 }
 
 TEST_F(LibraryDesk, TheWindowMayGoWhileAMessageOrDialogIsUp) {

@@ -229,6 +229,40 @@ TEST_F(MessageThread, TheIconsOfTheLibraryMakeNone) {
   EXPECT_EQ(desk_.parts->Library.OtherView.DrawnCount(), 3U);
 }
 
+TEST_F(MessageThread, TheFirstListOfOtherFilesMakesNone) {
+  World().Files.MakeFolders("C:\\Corvelle\\Icons");
+  World().Keys.Set(RegistryRoot::LocalMachine,
+                   "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\far.exe", "",
+                   "D:\\docs\\far.exe");
+  World().Icons.SetIconCount("D:\\docs\\far.exe", 3);
+  EXPECT_EQ(CostsOf([this] {
+              desk_.parts->Library.Show({});
+              desk_.parts->Library.TabStrip1.Select("other");
+              desk_.parts->Library.TabStrip1.Click();
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+  EXPECT_EQ(desk_.parts->Library.List1Other.Items(), std::vector<std::string>{"far.exe"});
+}
+
+TEST_F(MessageThread, AFileThatIsAddedToTheLibraryMakesNone) {
+  World().Files.MakeFolders("C:\\Corvelle\\Icons");
+  World().Files.Put("C:\\Corvelle\\Icons\\others.dat", "C:\\a.dll\r\n");
+  World().Links.Put("D:\\Docs\\far.lnk", {.Path = "D:\\Docs\\far.exe"});
+  World().Icons.SetIconCount("D:\\Docs\\far.exe", 3);
+  desk_.parts->Library.Show({});
+  desk_.parts->Library.TabStrip1.Select("other");
+  desk_.parts->Library.TabStrip1.Click();
+  World().Desktop.ChooseFiles({"D:\\Docs\\far.lnk"});
+  EXPECT_EQ(CostsOf([this] {
+              desk_.parts->Library.cmdAdd.Click();
+              World().Desktop.Advance(2000);
+            }),
+            Calls());
+  EXPECT_EQ(desk_.parts->Library.List1Other.Items(),
+            (std::vector<std::string>{"a.dll", "far.exe"}));
+}
+
 TEST_F(MessageThread, ADropMakesNone) {
   World().Files.Put("D:\\new.txt", "x");
   const PixelPoint at = desk_.MenuButton(2);

@@ -157,6 +157,26 @@ TEST_F(PropertiesIcons, ALateOneFollowsItsNodeToAnotherPlace) {
   EXPECT_EQ(NodeIcon(2), SimShellIcons::ColourOf(31));
 }
 
+TEST_F(PropertiesIcons, LateOnesLeaveNoPicturesOfTheirKindBehind) {
+  constexpr std::size_t kDocuments = 10;
+  for (std::size_t i = 0; i < kDocuments; ++i) {
+    const std::string path = "D:\\letter " + std::to_string(i) + ".txt";
+    world.Files.Put(path, "x");
+    world.Icons.SetIndex(path, 40 + static_cast<int>(i));
+    PutHead(3 + static_cast<int>(i), "Letter", path);
+  }
+  OpenSingle(1);
+  Slow().Hang("D:*");
+  OpenTab("buttons");
+  // Of what is not known at all, of a program and of a document, and the icon that is near.
+  EXPECT_EQ(Window().TreeView1.ImageCount(), 4U);
+  Slow().Resume("D:*");
+  Desktop().Advance(1000);
+  EXPECT_EQ(NodeIcon(0), SimShellIcons::ColourOf(30));
+  EXPECT_EQ(NodeIcon(2), SimShellIcons::ColourOf(40));
+  EXPECT_EQ(Window().TreeView1.ImageCount(), 4U + 1 + kDocuments);
+}
+
 // ---- the small picture ----
 
 TEST_F(PropertiesIcons, TheSmallDesktopIsShownWithoutIconsUntilTheShellHasListedIt) {

@@ -32,20 +32,10 @@ TEST_F(LinkFilesTest, TheTargetOfALinkIsToldToWhoeverAsks) {
   EXPECT_EQ(LinkReader(program.Services.Links).TargetOf(kLink), kTool);
 }
 
-TEST_F(LinkFilesTest, AChosenLinkStandsForItsTargetAndAnyOtherFileForItself) {
-  world.Links.Put("C:\\Links\\TOOL.LNK", {.Path = kTool});
-  world.Links.Put("C:\\Links\\drives.lnk", {.Item = {"folder:17"}});
-  EXPECT_EQ(ResolveChosenFile(program.Services.Links, "C:\\Links\\TOOL.LNK"), kTool);
-  EXPECT_EQ(ResolveChosenFile(program.Services.Links, kTool), kTool);
-  EXPECT_EQ(ResolveChosenFile(program.Services.Links, "C:\\Links\\drives.lnk"), "");
-  EXPECT_EQ(ResolveChosenFile(program.Services.Links, "C:\\Links\\gone.lnk"), "");
-  EXPECT_EQ(ResolveChosenFile(program.Services.Links, ""), "");
-}
-
 TEST_F(LinkFilesTest, ASpecialFolderWithoutAPathIsEmpty) {
-  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 7), "C:\\Start\\Startup");
-  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 17), "");
-  EXPECT_EQ(GetSpecialFolder(program.Services.Links, kNoWindow, 99), "");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, program.Ports, 7), "C:\\Start\\Startup");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, program.Ports, 17), "");
+  EXPECT_EQ(GetSpecialFolder(program.Services.Links, program.Ports, 99), "");
 }
 
 }  // namespace

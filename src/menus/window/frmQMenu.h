@@ -263,6 +263,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void ForgetUpdate();
   /// Builds the menu on show again without closing it.
   void UpdateInPlace();
+  /// What is to be kept of a menu that looks like the one on show.
+  void TakeUnchanged(BuiltMenu& menu);
   /// After an update: the item that keys had selected, or what the pointer is on.
   void SelectAgain(const MenuItem& selected);
 
