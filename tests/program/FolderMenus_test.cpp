@@ -36,7 +36,46 @@ struct OpenFolderDesk : ProgramDesk {
                     FormatRecord({"Menu", "Button", ""}, world.Ansi) +
                         FormatRecord({"Docs", "", "C:\\Docs\\*.*/u"}, world.Ansi));
   }
+  [[nodiscard]] std::string FirstCaption() const { return parts->Menu.Lbl[1].Caption(); }
+  /// Opens the menu, closes it again, and has the shell show its file by another name from now on.
+  void ShowByAnotherName() {
+    OpenMenu(2);
+    EXPECT_EQ(FirstCaption(), "old.txt");
+    world.Desktop.PressKey(forms::key::Escape);
+    world.Icons.SetDisplayName("C:\\Docs\\old.txt", "Letter");
+    world.Desktop.Advance(1000);
+  }
 };
+
+TEST(OpenFolders, NamesThatWereAskedForSecondsAgoAreShownAsTheyWere) {
+  OpenFolderDesk desk;
+  desk.ShowByAnotherName();
+  desk.parts->Menu.ForgetMenu("F2");
+  desk.OpenMenu(2);
+  EXPECT_EQ(desk.FirstCaption(), "old.txt");
+}
+
+TEST(OpenFolders, F5AsksForTheNamesThoughTheyAreYoung) {
+  OpenFolderDesk desk;
+  desk.ShowByAnotherName();
+  desk.OpenMenu(2);
+  desk.world.Desktop.PressKey(forms::key::F5);
+  desk.world.Desktop.Advance(500);
+  ASSERT_TRUE(desk.parts->Menu.MenuVisible());
+  EXPECT_EQ(desk.FirstCaption(), "Letter");
+}
+
+TEST(OpenFolders, RefreshAllAsksForTheNamesThoughTheyAreYoung) {
+  OpenFolderDesk desk;
+  desk.ShowByAnotherName();
+  desk.OpenMenu(1);
+  ASSERT_EQ(desk.parts->Menu.Lbl[2].Caption(), "Refresh All");
+  desk.PointAt(desk.Item(2));
+  desk.world.Desktop.Click();
+  desk.world.Desktop.Advance(500);
+  desk.OpenMenu(2);
+  EXPECT_EQ(desk.FirstCaption(), "Letter");
+}
 
 TEST(OpenFolders, TheMenuIsItsButtonsAlsoWhenTheUserHasClickedAndCarriedWhileTheyWereCompared) {
   OpenFolderDesk desk;
