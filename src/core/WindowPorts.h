@@ -373,8 +373,6 @@ class SpecialFoldersPort {
  public:
   virtual ~SpecialFoldersPort() = default;
 
-  /// Index of the folder's icon in the system's list; negative when the name is not known.
-  virtual int SpecialFolderIconIndex(std::string_view name) = 0;
   /// Opens the folder, or an entry of it that the name tells ("Mouse\CSIDL_CONTROLS"). `argument`
   /// may be empty; in double quotes it is a file for the entry to open, else the title of the
   /// entry.

@@ -59,6 +59,7 @@ TEST(IconQuestions, EachFormOfATextLeadsToItsIcon) {
        "0 in C:\\Corvelle\\icons\\x.ico, of C:\\Corvelle\\icons\\x.ico"},
       {"a web link", "http", "of C:\\Corvelle\\httpicon.htm", "of C:\\Corvelle\\httpicon.htm"},
       {"a folder of the shell", "csidl_drives/x", "of folder 17", "of folder 17"},
+      {"an unknown one, which is the desktop", "CSIDL_NOSUCHTHING", "of folder 0", "of folder 0"},
   };
   for (const Row& row : rows) {
     EXPECT_EQ(Told(IconQuestions(FormOf(row.text), true)), row.expected) << row.name;

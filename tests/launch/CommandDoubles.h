@@ -78,7 +78,6 @@ class LoggingFolders final : public SpecialFoldersPort {
  public:
   explicit LoggingFolders(CallLog& log) : log_(log) {}
 
-  int SpecialFolderIconIndex(std::string_view) override { return -1; }
   void OpenSpecialFolder(std::string_view name, std::string_view argument) override {
     log_.push_back("OpenSpecialFolder " + std::string(name) + " with " + std::string(argument));
   }

@@ -1,4 +1,4 @@
-// Folders of the shell: opened, shown by their icons, and with the menus of the shell.
+// Folders of the shell: opened, and with the menus of the shell.
 
 #include "menus/folders/SpecialFolders.h"
 
@@ -47,38 +47,6 @@ struct FoldersDesk : MenuDesk {
 
   SpecialFolders Folders{TheProgram.Services.Folders, TheProgram.Launch};
 };
-
-// ---- names and icons ----
-
-TEST(SpecialFolderIconIndex, IsThatOfTheFolderInAnyCase) {
-  FoldersDesk desk;
-  EXPECT_EQ(desk.Folders.SpecialFolderIconIndex("CSIDL_DRIVES"), 32);
-  EXPECT_EQ(desk.Folders.SpecialFolderIconIndex("csidl_drives/U"), 32);
-}
-
-TEST(SpecialFolderIconIndex, OfAnUnknownNameIsTheDesktops) {
-  FoldersDesk desk;
-  EXPECT_EQ(desk.Folders.SpecialFolderIconIndex("CSIDL_NOSUCHTHING"), 30);
-}
-
-TEST(SpecialFolderIconIndex, OfAFolderThatTheSystemLacksIsNone) {
-  FoldersDesk desk;
-  EXPECT_LT(desk.Folders.SpecialFolderIconIndex("CSIDL_PRINTERS"), 0);
-}
-
-TEST(SpecialFolderName, IsTheShellsNameByNumberAndByPath) {
-  FoldersDesk desk;
-  int icon = 0;
-  EXPECT_EQ(SpecialFolderName(desk.World.Folders, kDrives, icon), "My Computer");
-  EXPECT_EQ(icon, 32);
-  EXPECT_EQ(SpecialFolderName(desk.World.Folders, 99, icon), "");
-  EXPECT_EQ(icon, -1);
-  desk.World.Icons.SetIndex("C:\\Tools\\tool.exe", 77);
-  EXPECT_NE(SpecialFolderName(desk.World.Icons, "C:\\Tools\\tool.exe", icon), "");
-  EXPECT_EQ(icon, 77);
-  EXPECT_EQ(SpecialFolderName(desk.World.Icons, "C:\\gone.exe", icon), "");
-  EXPECT_EQ(icon, -1);
-}
 
 // ---- opening ----
 

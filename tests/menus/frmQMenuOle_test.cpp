@@ -47,7 +47,6 @@ struct NotedCapture final : CapturePort {
 
 struct NotedFolders final : SpecialFoldersPort {
   Names Opened;
-  int SpecialFolderIconIndex(std::string_view) override { return 0; }
   void OpenSpecialFolder(std::string_view name, std::string_view argument) override {
     Opened.push_back(std::string(name) + "|" + std::string(argument));
   }

@@ -232,7 +232,6 @@ TEST(WhileThePopupIsUp, AHintThatGoesBeforeItCannotChangeItsEntry) {
 /// Menus of the shell, with something that happens while one is up or its command runs.
 struct ShellMenus final : SpecialFoldersPort {
   explicit ShellMenus(forms::WindowSystem& windows) : windows_(windows) {}
-  int SpecialFolderIconIndex(std::string_view) override { return -1; }
   void OpenSpecialFolder(std::string_view, std::string_view) override {}
   bool ShowContextMenu(std::string_view, std::string_view, PixelPoint at, WindowId owner) override {
     ++Shown;

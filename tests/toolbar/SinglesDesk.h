@@ -32,7 +32,6 @@ struct NotedParts final : HintPort, DragImagePort, PopupPort, SpecialFoldersPort
   }
   /// Takes the entry of each popup.
   EntryEdit* Current = nullptr;
-  int SpecialFolderIconIndex(std::string_view) override { return -1; }
   void OpenSpecialFolder(std::string_view, std::string_view) override {}
   bool ShowContextMenu(std::string_view command, std::string_view title, PixelPoint,
                        WindowId) override {

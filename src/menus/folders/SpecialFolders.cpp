@@ -9,7 +9,6 @@
 #include "launch/LaunchItem.h"
 #include "launch/StartBeside.h"
 #include "platform/ShellFolders.h"
-#include "platform/ShellIcons.h"
 
 namespace corvelle {
 
@@ -82,25 +81,6 @@ bool DoSpecialFolder(ShellFolders& folders, int folder, std::string_view title, 
 
 bool DoExplorerMenu(ShellFolders& folders, WindowId owner, std::string_view path, PixelPoint at) {
   return folders.FileMenu(path, at, owner);
-}
-
-std::string SpecialFolderName(ShellFolders& folders, int folder, int& iconOut) {
-  const auto self = folders.Folder(folder);
-  iconOut = self ? self->IconIndex : -1;
-  return self ? self->Name : std::string();
-}
-
-std::string SpecialFolderName(ShellIcons& icons, std::string_view path, int& iconOut) {
-  const auto info = icons.FileInfo(path, IconList::Small);
-  iconOut = info ? info->SystemIndex : -1;
-  return info ? info->DisplayName : std::string();
-}
-
-int SpecialFolders::SpecialFolderIconIndex(std::string_view name) {
-  int icon = -1;
-  static_cast<void>(
-      SpecialFolderName(folders_, CsidlValue(ParseSpecialFolder(name, {}).Name), icon));
-  return icon;
 }
 
 void SpecialFolders::OpenSpecialFolder(std::string_view name, std::string_view argument) {
