@@ -1,6 +1,5 @@
 #include "base/FieldText.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "base/CodePage.h"
@@ -10,12 +9,6 @@
 namespace corvelle {
 
 namespace {
-
-/// True for text that all code pages of the system hold as it is: most of all titles and paths.
-bool IsPlain(std::string_view text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
 
 /// The first characters of `text` in the code page, `width` bytes at most; nothing when the code
 /// page cannot hold them or when they would be read as something else.
@@ -42,6 +35,7 @@ std::string DecodeText(std::string_view bytes, const CodePage& ansi) {
 }
 
 std::string EncodeText(std::string_view text, const CodePage& ansi) {
+  // All code pages of the system hold plain text as it is.
   if (IsPlain(text)) return std::string(text);
   std::string valid = RepairUtf8(text);
   std::optional<std::string> bytes = ansi.Encode(valid);

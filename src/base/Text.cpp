@@ -10,17 +10,6 @@ namespace corvelle {
 
 namespace {
 
-std::string_view TrimView(std::string_view text) noexcept {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  text.remove_prefix(first);
-  // A field of a record is mostly blanks: several at a time.
-  constexpr std::string_view kBlanks = "                ";
-  while (text.ends_with(kBlanks)) text.remove_suffix(kBlanks.size());
-  while (text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
 /// What a character weighs when case does not count.
 char32_t Weight(const Utf8Step& step, std::string_view text, std::size_t at) noexcept {
   if (step.Valid) return UpperCharacter(step.Character);
@@ -46,7 +35,9 @@ std::string MapCharacters(std::string_view text, char32_t (*map)(char32_t) noexc
   mapped.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
     const Utf8Step step = NextCharacter(text, at);
-    if (step.Valid) {
+    if (step.Character < 0x80) {
+      mapped.push_back(static_cast<char>(map(step.Character)));
+    } else if (step.Valid) {
       AppendUtf8(mapped, map(step.Character));
     } else {
       mapped.push_back(text[at]);
@@ -57,6 +48,17 @@ std::string MapCharacters(std::string_view text, char32_t (*map)(char32_t) noexc
 }
 
 }  // namespace
+
+std::string_view TrimView(std::string_view text) noexcept {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  text.remove_prefix(first);
+  // A field of a record is mostly blanks: several at a time.
+  constexpr std::string_view kBlanks = "                ";
+  while (text.ends_with(kBlanks)) text.remove_suffix(kBlanks.size());
+  while (text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
 
 std::string Trim(std::string_view text) { return std::string(TrimView(text)); }
 
@@ -132,6 +134,10 @@ bool StartsWithNoCase(std::string_view text, std::string_view start) noexcept {
 }
 
 bool EndsWithNoCase(std::string_view text, std::string_view end) noexcept {
+  // Capitals may be longer or shorter than their small letters, but for plain ones.
+  if (IsPlain(text) && IsPlain(end)) {
+    return text.size() >= end.size() && EqualNoCase(text.substr(text.size() - end.size()), end);
+  }
   for (std::size_t at = 0; at < text.size(); at += NextCharacter(text, at).Length) {
     const std::size_t length = MatchAt(text, at, end);
     if (length != std::string_view::npos && at + length == text.size()) return true;

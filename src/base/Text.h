@@ -10,6 +10,7 @@ namespace corvelle {
 
 /// The text without the blanks (0x20, nothing else) at both ends.
 [[nodiscard]] std::string Trim(std::string_view text);
+[[nodiscard]] std::string_view TrimView(std::string_view text) noexcept;
 
 /// The text without any blank.
 [[nodiscard]] std::string RemoveBlanks(std::string_view text);

@@ -31,9 +31,20 @@ constexpr bool IsSurrogate(char32_t character) noexcept {
   return character >= 0xD800 && character <= 0xDFFF;
 }
 
+/// How many plain bytes there are from byte `at`, most of them looked at eight at a time.
+std::size_t PlainBytes(std::string_view text, std::size_t at) noexcept {
+  const std::size_t from = at;
+  for (std::uint64_t word = 0; text.size() - at >= sizeof word; at += sizeof word) {
+    std::memcpy(&word, text.data() + at, sizeof word);
+    if ((word & 0x8080808080808080U) != 0) break;
+  }
+  while (at < text.size() && IsPlainByte(text[at])) ++at;
+  return at - from;
+}
+
 }  // namespace
 
-Utf8Step NextCharacter(std::string_view text, std::size_t at) noexcept {
+Utf8Step NextLongCharacter(std::string_view text, std::size_t at) noexcept {
   if (at >= text.size()) return {};
   constexpr Utf8Step kInvalid{kReplacement, 1, false};
   const LeadByte lead = Lead(ByteAt(text, at));
@@ -48,17 +59,10 @@ Utf8Step NextCharacter(std::string_view text, std::size_t at) noexcept {
   return {character, lead.Length, true};
 }
 
+bool IsPlain(std::string_view text) noexcept { return PlainBytes(text, 0) == text.size(); }
+
 bool IsValidUtf8(std::string_view text) noexcept {
-  for (std::size_t at = 0; at < text.size();) {
-    // Most texts are plain, eight bytes at a time.
-    std::uint64_t word = 0;
-    if (text.size() - at >= sizeof word) {
-      std::memcpy(&word, text.data() + at, sizeof word);
-      if ((word & 0x8080808080808080U) == 0) {
-        at += sizeof word;
-        continue;
-      }
-    }
+  for (std::size_t at = PlainBytes(text, 0); at < text.size(); at += PlainBytes(text, at)) {
     const Utf8Step step = NextCharacter(text, at);
     if (!step.Valid) return false;
     at += step.Length;
@@ -108,6 +112,10 @@ std::string FromWide(std::u16string_view text) {
   narrow.reserve(text.size());
   for (std::size_t at = 0; at < text.size(); ++at) {
     const char32_t unit = text[at];
+    if (unit < 0x80) {
+      narrow.push_back(static_cast<char>(unit));
+      continue;
+    }
     const bool high = unit >= 0xD800 && unit <= 0xDBFF;
     if (high && at + 1 < text.size() && text[at + 1] >= 0xDC00 && text[at + 1] <= 0xDFFF) {
       ++at;

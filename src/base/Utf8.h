@@ -13,8 +13,24 @@ struct Utf8Step {
   bool Valid = false;
 };
 
+/// True for a byte that is a character by itself: one of ASCII.
+[[nodiscard]] constexpr bool IsPlainByte(char byte) noexcept {
+  return static_cast<unsigned char>(byte) < 0x80;
+}
+
+/// True for text of such bytes only, as most names and paths are.
+[[nodiscard]] bool IsPlain(std::string_view text) noexcept;
+
+/// The character at byte `at`, when that is no plain byte.
+[[nodiscard]] Utf8Step NextLongCharacter(std::string_view text, std::size_t at) noexcept;
+
 /// The character at byte `at`.
-[[nodiscard]] Utf8Step NextCharacter(std::string_view text, std::size_t at) noexcept;
+[[nodiscard]] inline Utf8Step NextCharacter(std::string_view text, std::size_t at) noexcept {
+  if (at < text.size() && IsPlainByte(text[at])) {
+    return {static_cast<unsigned char>(text[at]), 1, true};
+  }
+  return NextLongCharacter(text, at);
+}
 
 /// True for well-formed UTF-8: shortest forms only, no surrogates, nothing above U+10FFFF.
 [[nodiscard]] bool IsValidUtf8(std::string_view text) noexcept;

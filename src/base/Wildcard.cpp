@@ -53,7 +53,7 @@ bool Fits(std::u16string_view name, std::u16string_view pattern) {
 }  // namespace
 
 bool FitsPattern(std::string_view name, std::string_view pattern) {
-  if (pattern == "*.*") return true;
+  if (pattern == "*.*" || pattern == "*") return true;
   if (pattern.ends_with('.')) {
     if (name.find('.') != std::string_view::npos) return false;
     pattern.remove_suffix(1);

@@ -7,6 +7,7 @@
 #include "base/FieldText.h"
 #include "base/Sort.h"
 #include "base/Text.h"
+#include "base/Utf8.h"
 #include "base/WebAddress.h"
 #include "core/MenuFile.h"
 
@@ -48,7 +49,8 @@ bool IsOfUse(const forms::DragData& data) noexcept {
 }
 
 bool FitsRecord(const CodePage& ansi, std::string_view path) {
-  return EncodeText(path, ansi).size() <= kNameWidth;
+  const std::size_t length = IsPlain(path) ? path.size() : EncodeText(path, ansi).size();
+  return length <= kNameWidth;
 }
 
 std::optional<std::string> PathForRecord(FileSystem& files, const CodePage& ansi,

@@ -41,18 +41,25 @@ HFONT FontCache::Get(const ScaledFont& wanted) {
 }
 
 PixelSize FontCache::Measure(std::string_view text, const ScaledFont& wanted) {
-  const SelectedObject font(dc_.Get(), Get(wanted));
+  const HFONT font = Get(wanted);
   // What Get gave is the last one.
-  int& height = fonts_.back().LineHeight;
-  if (height == 0) {
+  Entry& entry = fonts_.back();
+  if (const auto width = entry.Widths.WidthOf(text)) return {*width, entry.LineHeight};
+  const SelectedObject selected(dc_.Get(), font);
+  if (entry.LineHeight == 0) {
     TEXTMETRICW metrics{};
     GetTextMetricsW(dc_.Get(), &metrics);
-    height = static_cast<int>(metrics.tmHeight);
+    entry.LineHeight = static_cast<int>(metrics.tmHeight);
+    entry.Widths = PlainWidths([this](std::string_view of) { return WidthOf(of); });
   }
+  return {WidthOf(text), entry.LineHeight};
+}
+
+int FontCache::WidthOf(std::string_view text) const {
   const std::wstring wide = Wide(text);
   SIZE size{};
   GetTextExtentPoint32W(dc_.Get(), wide.data(), static_cast<int>(wide.size()), &size);
-  return {static_cast<int>(size.cx), height};
+  return static_cast<int>(size.cx);
 }
 
 }  // namespace corvelle::win32

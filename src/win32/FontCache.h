@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/PlainWidths.h"
 #include "platform/Canvas.h"
 #include "win32/UniqueHandle.h"
 
@@ -30,7 +31,11 @@ class FontCache {
     ScaledFont Wanted;
     UniqueFont Font;
     int LineHeight = 0;  // pixels; 0 until it is asked for
+    PlainWidths Widths;  // known with the height
   };
+
+  /// In the font that is selected.
+  [[nodiscard]] int WidthOf(std::string_view text) const;
 
   UniqueMemoryDc dc_{CreateCompatibleDC(nullptr)};  // to measure with
   std::vector<Entry> fonts_;                        // the one used last at the end

@@ -102,5 +102,19 @@ TEST(SkipCharacters, CountsCharactersAndNotBytes) {
   EXPECT_EQ(SkipCharacters("abc", 9), "");
 }
 
+// Looked at eight bytes at a time.
+TEST(Utf8, TextIsPlainWhenEachByteIs) {
+  EXPECT_TRUE(IsPlain(""));
+  for (const std::size_t length : {1U, 7U, 8U, 9U, 16U, 23U}) {
+    std::string text(length, '\x7F');
+    EXPECT_TRUE(IsPlain(text)) << length;
+    for (std::size_t at = 0; at < length; ++at) {
+      text[at] = '\x80';
+      EXPECT_FALSE(IsPlain(text)) << length << " " << at;
+      text[at] = 'a';
+    }
+  }
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -219,6 +219,41 @@ TEST_F(SlowFolder, NamesThatComeLateReplaceThoseOfTheFiles) {
   EXPECT_EQ(desk_.Generated().size(), 4U);
 }
 
+TEST_F(SlowFolder, NamesThatTakeLongerLeaveTheMenuAlone) {
+  Slow().Delay("D:*", 300);
+  Open();
+  int told = 0;
+  desk_.Items.SetListener([&](const std::string&) { ++told; });
+  Advance(250);
+  EXPECT_EQ(told, 0);
+  Advance(100);
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(SlowFolder, NamesThatAreThoseOfTheFilesPaintNothing) {
+  Slow().Delay("D:*", 300);
+  Open();
+  Advance(200);
+  const WindowId menu = desk_.World.Desktop.Find("frmQMenu");
+  const int painted = desk_.World.Desktop.PaintCount(menu);
+  const auto picture = desk_.Menu.PagePicture;
+  Advance(200);
+  EXPECT_EQ(desk_.Generated().size(), 4U) << "they have come, and no icon yet";
+  EXPECT_EQ(desk_.World.Desktop.PaintCount(menu), painted);
+  EXPECT_EQ(desk_.Menu.PagePicture, picture);
+}
+
+TEST_F(SlowFolder, NamesThatAreOthersArePainted) {
+  Slow().Delay("D:*", 300);
+  desk_.World.Icons.SetDisplayName("D:\\Docs\\two.txt", "Second");
+  Open();
+  EXPECT_EQ(desk_.Captions(), filled_);
+  const auto picture = desk_.Menu.PagePicture;
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), (Strings{"Item 2", "one.txt", "Second"}));
+  EXPECT_NE(desk_.Menu.PagePicture, picture);
+}
+
 TEST_F(SlowFolder, NamesThatCameForAMenuThatWasClosedAreNotAskedForAgain) {
   Slow().Delay("D:*", 300);
   Open();

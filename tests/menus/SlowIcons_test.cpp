@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "base/Text.h"
 #include "icons/Glyphs.h"
 #include "menus/FolderDesk.h"
 
@@ -272,6 +273,54 @@ TEST_F(SlowIcons, TogetherTheyHoldAMenuUpForAMomentOnly) {
   Open(icons);
   EXPECT_EQ(desk_.World.Costs.LongestTurn(), MenuIcons::kAtOnce);
   desk_.World.Costs.WhenCharged({});
+}
+
+/// The files of menus take so long that there is no time left for icons.
+class IconsOfALongBuild : public SlowIcons {
+ protected:
+  IconsOfALongBuild() {
+    desk_.World.Costs.SetPrice([](std::string_view, std::string_view path) {
+      return EndsWithNoCase(path, ".MNU") ? MenuIcons::kAtOnce + 10 : 0;
+    });
+    desk_.World.Costs.WhenCharged(
+        [&](int milliseconds) { desk_.World.Desktop.Jump(milliseconds); });
+  }
+  ~IconsOfALongBuild() override { desk_.World.Costs.WhenCharged({}); }
+
+  /// Opens a menu of two programs, and lets no event run.
+  void Build() {
+    desk_.PutMenu(1, {Item("One", "C:\\a.exe", "C:\\a.exe"), Item("Two", "C:\\b.exe", "C:\\b.exe"),
+                      Item("Three", "C:\\a.exe", "C:\\a.exe")});
+    desk_.Menu.SetOwnerTag("2");
+    desk_.Menu.ShowMenu("F2", desk_.TheProgram.Paths.MenusPath + MenuFileName(1));
+    EXPECT_TRUE(desk_.Menu.MenuVisible());
+    EXPECT_EQ(Asked("C:\\a.exe"), 0);
+  }
+};
+
+TEST_F(IconsOfALongBuild, AreAskedForByALaterTurn) {
+  Build();
+  Advance(1);
+  EXPECT_EQ(Asked("C:\\a.exe"), 1);
+  for (const int item : {1, 3}) EXPECT_EQ(Colour(item), SimShellIcons::ColourOf(20));
+  EXPECT_EQ(Colour(2), SimShellIcons::ColourOf(21));
+}
+
+TEST_F(IconsOfALongBuild, AreAskedForAlthoughTheMenuIsClosedBefore) {
+  Build();
+  desk_.Menu.HideMenu();
+  Advance(1000);
+  EXPECT_EQ(Asked("C:\\a.exe"), 1);
+  desk_.Reopen(1);
+  EXPECT_EQ(Colour(1), SimShellIcons::ColourOf(20));
+  EXPECT_EQ(Asked("C:\\a.exe"), 1);
+}
+
+TEST_F(IconsOfALongBuild, AreNotAskedForWhenTheMenuIsUnloadedBefore) {
+  Build();
+  desk_.Menu.UnloadWindow();
+  Advance(1000);
+  EXPECT_EQ(Asked("C:\\a.exe"), 0);
 }
 
 TEST_F(SlowIcons, TheirLookingForTakesNoTimeOfTheWindows) {

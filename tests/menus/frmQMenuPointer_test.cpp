@@ -80,9 +80,8 @@ TEST(frmQMenuPointer, BelowTheLastItemNothingIsSelected) {
   desk.PointAt(desk.OnScreen(600, desk.Menu.Lbl[3].Bottom() + 60));
   EXPECT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
   EXPECT_EQ(desk.BarredItem(), 0);
-  EXPECT_TRUE(desk.Menu.PointerBelowItems);
   desk.PointAtItem(2);
-  EXPECT_FALSE(desk.Menu.PointerBelowItems);
+  EXPECT_EQ(desk.BarredItem(), 2);
 }
 
 TEST(frmQMenuPointer, AMoveGivesTheMenuTheFocus) {

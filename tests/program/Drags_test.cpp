@@ -73,5 +73,27 @@ TEST(DragsOverTheProgram, APictureOfAMenuGoesWhenAFullScreenProgramIsGone) {
   desk.ExpectDialogAlone();
 }
 
+TEST(CarriesOverTheProgram, ASingleButtonThatIsPutIntoAMenuIsACopyWithTheRightButton) {
+  for (const forms::MouseButton button : {forms::MouseButton::Left, forms::MouseButton::Right}) {
+    const bool copies = button == forms::MouseButton::Right;
+    SCOPED_TRACE(copies ? "right" : "left");
+    ProgramDesk desk;
+    desk.PickUpSingle(2);
+    desk.CarryOver(3);
+    desk.PointAt(desk.Item(1));
+    desk.world.Desktop.Advance(50);
+    if (copies) desk.world.Desktop.Press(button);
+    desk.world.Desktop.Release(button);
+    desk.world.Desktop.Release();
+    desk.world.Desktop.Advance(50);
+    EXPECT_NE(desk.Files().at("BMENU002.MNU").find("tool.exe two"), std::string::npos);
+    std::string singles;
+    for (const auto& [name, bytes] : desk.Files()) {
+      if (name.ends_with(".BTN")) singles += bytes;
+    }
+    EXPECT_EQ(singles.find("tool.exe two") != std::string::npos, copies);
+  }
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -185,8 +185,14 @@ TEST_F(MessageThread, ChoosingAnEntryMakesNone) {
 }
 
 TEST_F(MessageThread, TheTreeOfCustomizeMakesNone) {
-  desk_.parts->Customize.LoadWindow();
-  World().Desktop.Advance(2000);
+  World().Files.Put(kMenus + MenuFileName(2),
+                    FormatRecord({"Menu", "D:\\Docs\\letter 11.txt", ""}, World().Ansi));
+  EXPECT_EQ(CostsOf([this] {
+              desk_.parts->Customize.LoadWindow();
+              World().Desktop.Advance(2000);
+            }),
+            // The start menu's folder. The shell keeps the paths of its folders in memory.
+            Calls{"SpecialFolderLocation shell"});
   const forms::TreeView& tree = desk_.parts->Customize.TreeView1;
   EXPECT_EQ(CostsOf([&] {
               World().Desktop.PressKey(forms::key::Down);
@@ -200,6 +206,8 @@ TEST_F(MessageThread, TheTreeOfCustomizeMakesNone) {
 TEST_F(MessageThread, PropertiesMakesNone) {
   PutMenu(1, {{"Near", "C:\\Tools\\tool.exe", "C:\\Tools\\tool.exe"}});
   World().Folders.Put(0, {{"a", 5}});
+  World().Files.Put(kMenus + MenuFileName(2),
+                    FormatRecord({"Menu", "D:\\Docs\\letter 11.txt", ""}, World().Ansi));
   EXPECT_EQ(CostsOf([this] {
               desk_.parts->Properties.ShowProperties("Far", "D:\\Docs\\letter 10.txt", "x");
               World().Desktop.Advance(2000);
@@ -211,6 +219,7 @@ TEST_F(MessageThread, PropertiesMakesNone) {
             }),
             // The start menu's folder. The shell keeps the paths of its folders in memory.
             Calls{"SpecialFolderLocation shell"});
+  EXPECT_TRUE(desk_.parts->Properties.ButtonsTabLoaded);
   EXPECT_TRUE(desk_.parts->Properties.PositionTabLoaded);
 }
 

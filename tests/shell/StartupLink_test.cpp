@@ -53,7 +53,9 @@ TEST_F(StartupLinkTest, WithoutAStartupFolderThereIsNoneAndNoneIsMadeElsewhere) 
   EXPECT_EQ(StartupLinkPath(StartupLinkPartsOf(program)), "");
   EXPECT_FALSE(link.Exists());
   link.Create("C:\\Corvelle\\corvelle.exe");
+  world.Files.ClearLog();
   link.Remove();
+  EXPECT_EQ(world.Files.Count("Remove"), 0);
   EXPECT_EQ(world.Files.Names("C:\\"), before);
 }
 

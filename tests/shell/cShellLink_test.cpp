@@ -1,5 +1,9 @@
 #include "shell/cShellLink.h"
 
+#include <memory>
+#include <optional>
+#include <string>
+
 #include "shell/ShellDesk.h"
 
 namespace corvelle {
@@ -84,6 +88,8 @@ TEST_F(cShellLinkTest, WhateverFailsWhileMakingGivesFalseAndReleasesTheLink) {
       EXPECT_EQ(n, 10);
       break;
     }
+    // Nothing more is asked of a link of which a part could not be set.
+    EXPECT_EQ(shell.Log().size(), static_cast<std::size_t>(n)) << "failing call " << n;
   }
 }
 
@@ -211,6 +217,19 @@ TEST_F(cShellLinkTest, WhateverFailsWhileReadingGivesNothingAndReleasesTheLink) 
 
 TEST_F(cShellLinkTest, ASpecialFolderIsFoundByItsNumber) {
   EXPECT_EQ(link.GetSystemFolderPath(kNoWindow, 7), "C:\\Start\\Startup");
+}
+
+TEST_F(cShellLinkTest, AFolderWhosePathIsEmptyIsNothing) {
+  struct EmptyPaths final : ShellLinks {
+    std::unique_ptr<ShellLinkObject> CreateLinkObject() override { return nullptr; }
+    std::optional<ItemIdList> SpecialFolderLocation(WindowId, int) override {
+      return ItemIdList{"item"};
+    }
+    std::optional<std::string> PathFromIDList(const ItemIdList&) override {
+      return std::string(" \0 left over", 12);
+    }
+  } shell;
+  EXPECT_EQ(cShellLink(shell).GetSystemFolderPath(kNoWindow, 7), std::nullopt);
 }
 
 TEST_F(cShellLinkTest, AFolderWithoutAPathOrAnUnknownOneIsNothing) {

@@ -92,10 +92,15 @@ std::optional<ShellFileInfo> SimShellIcons::Look(std::string_view path) {
   return info;
 }
 
+void SimShellIcons::SetDisplayName(std::string_view path, std::string_view name) {
+  displayNames_[UpperCase(path)] = name;
+}
+
 std::optional<std::string> SimShellIcons::DisplayName(std::string_view path) {
   TellCall("DisplayName", path);
   if (!Shows(path)) return std::nullopt;
-  return NameOf(path);
+  const auto given = displayNames_.find(UpperCase(path));
+  return given != displayNames_.end() ? given->second : NameOf(path);
 }
 
 std::optional<IconPixels> SimShellIcons::PixelsOfFile(std::string_view path, IconList list) {

@@ -31,6 +31,9 @@ class SimShellIcons final : public ShellIcons, public Priced {
   /// The shell's large size, 32 at first; 0: it does not tell.
   void SetLargeSize(int pixels) noexcept { large_ = pixels; }
 
+  /// The name by which a file is shown; without it that of the disk.
+  void SetDisplayName(std::string_view path, std::string_view name);
+
   /// The colour of system icon `index`, and of icon `index` of a file. Never that of the ground.
   [[nodiscard]] static Rgb ColourOf(int index) noexcept;
   [[nodiscard]] static Rgb ColourOf(std::string_view file, int index);
@@ -71,6 +74,7 @@ class SimShellIcons final : public ShellIcons, public Priced {
   SimFiles& files_;
   std::map<std::string, int> indexes_;
   std::map<std::string, std::string> typeNames_;
+  std::map<std::string, std::string> displayNames_;  // by path in capitals
   std::map<std::string, int> iconCounts_;
   std::set<std::pair<std::string, int>> resources_;
   std::map<IconList, std::vector<std::string>> asked_;

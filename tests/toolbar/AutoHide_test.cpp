@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "base/Numbers.h"
 #include "toolbar/DockDesk.h"
@@ -470,6 +472,49 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
   // The same tick outside of the reveal hides the strip again.
   desk.Strip.Timer1_Timer();
   EXPECT_TRUE(desk.IsLine());
+}
+
+TEST(AutoHide, ColoursThatChangeInsideAHidingAreFollowed) {
+  /// A shell in whose answers other programs' messages come through.
+  struct BusyShell final : AppBars {
+    BusyShell(AppBars& shell, const GuardFlags& guards) : Shell(shell), Guards(guards) {}
+    std::uintptr_t Message(std::uint32_t message, AppBarRecord& data) override {
+      if (Guards.AppBarBusy) {
+        if (const auto action = std::exchange(WhilePlacing, nullptr)) action();
+      }
+      return Shell.Message(message, data);
+    }
+    AppBars& Shell;
+    const GuardFlags& Guards;
+    std::function<void()> WhilePlacing;
+  };
+  HidingDesk desk;
+  BusyShell shell(desk.World.Bars, desk.TheProgram.Guards);
+  const AppBarParts parts = AppBarPartsOf(desk.TheProgram);
+  mAppBar docking({.Bars = shell,
+                   .Desktop = parts.Desktop,
+                   .Ports = parts.Ports,
+                   .Guards = parts.Guards,
+                   .Strip = parts.Strip,
+                   .Options = parts.Options,
+                   .Carry = parts.Carry,
+                   .Messages = parts.Messages,
+                   .Events = parts.Events},
+                  desk.Strip);
+  desk.TheProgram.Ports.Docking = &docking;
+  desk.StartAt(Edge::Right);
+  desk.GoElsewhere();
+  bool inside = false;
+  shell.WhilePlacing = [&] {
+    inside = true;
+    desk.World.Desktop.SetSystemColor(15, 0x00123456);
+  };
+  desk.Poll();
+  EXPECT_TRUE(inside);
+  ASSERT_TRUE(desk.IsLine());
+  EXPECT_EQ(desk.Menu.Times("ResetPicIcons"), 1);
+  EXPECT_EQ(desk.Strip.BaseColor, 0x00123456U);
+  desk.TheProgram.Ports.Docking = &desk.Docking;
 }
 
 TEST(AutoHide, ATickInsideTheTickThatRevealsStartsNoOther) {

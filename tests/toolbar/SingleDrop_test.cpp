@@ -4,6 +4,7 @@
 
 #include "core/DroppedFiles.h"
 #include "core/EntryCommands.h"
+#include "core/MenuFile.h"
 #include "core/NotedEdits.h"
 #include "toolbar/SinglesDesk.h"
 
@@ -166,6 +167,38 @@ TEST(SingleCarry, OverAMenuButtonItsMenuOpensAndTheDropGoesThere) {
   EXPECT_EQ(desk.Menu.Times("DoItemDrag"), 1);
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
   EXPECT_TRUE(desk.Started().empty());
+}
+
+TEST(SingleCarry, PutDownOnAMenuButtonItGoesToTheEndOfItsMenu) {
+  DropDesk desk;
+  desk.Carry(2, desk.Middle(2));
+  EXPECT_EQ(desk.OnDisk(), "1a 2c 3d");
+  ASSERT_EQ(desk.RecordsOfMenu(), 3U);
+  const auto records =
+      ReadAllRecords(desk.World.Files, desk.World.Ansi, std::string(kMenus) + MenuFileName(1));
+  EXPECT_EQ(records.ValueOr({})[2].FTitle, "b");
+  EXPECT_EQ(desk.MenuUp(), 2);
+}
+
+TEST(SingleCarry, PutDownBetweenTheMenuButtonsChangesNothingAndTheMenuStillGivesWayToTheRow) {
+  DropDesk desk;
+  desk.PutButton(3, "Separator", "MenuLineSeparator");
+  desk.PutButton(4, "Menu 4");
+  desk.Strip.InitNewButtons();
+  ASSERT_EQ(desk.Strip.Buttons.SepCount, 1);
+  const forms::Label& gap = desk.Strip.lblSep[1];
+  const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd());
+  const float middle = gap.Left() + gap.Width() / 2;
+  desk.CarryTo(2, desk.Middle(3));
+  desk.PointAt({box.left + static_cast<int>(middle / desk.Strip.TwipsX), box.top + 10});
+  desk.World.Desktop.Release();
+  EXPECT_EQ(desk.OnDisk(), "1a 2b 3c 4d");
+  EXPECT_EQ(desk.RecordsOfMenu(), 2U);
+  EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
+  ASSERT_EQ(desk.MenuUp(), 3);
+  desk.PointAtSingle(1);
+  desk.Wait(10);
+  EXPECT_EQ(desk.MenuUp(), 0);
 }
 
 TEST(SingleCarry, ThatIsLostEndsWithTheNextMove) {

@@ -313,6 +313,36 @@ TEST(SingleClick, ADoubleClickRunsTheOneThatWasPressedWhereverThePointerIsByThen
   EXPECT_EQ(desk.Started(), (std::vector<std::string>{"C:\\Tools\\b.exe", "C:\\Tools\\b.exe"}));
 }
 
+TEST(SingleClick, AHintThatComesBetweenTheTwoPressesIsGoneBeforeTheUserIsToldAnything) {
+  SinglesDesk desk;
+  desk.SetOption(Option::SingleClick, false);
+  desk.PutSingle(1, "a");
+  desk.PutSingle(2, Entry("b", "", ""));
+  desk.Start();
+  desk.ClickSingle(2);
+  const PixelPoint at = desk.MiddleOf(2);
+  desk.PointAt({at.x + 1, at.y});
+  ASSERT_EQ(desk.Parts.Hint, "b");
+  desk.World.Desktop.Answer(kNoCommand, forms::msgbox::AnswerOk);
+  // The button is still down.
+  desk.Strip.picSingleButton.DblClick();
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(desk.Parts.Hint, "");
+}
+
+TEST(SingleClick, AHintThatComesBetweenTheTwoPressesIsGoneAfterTheRelease) {
+  SinglesDesk desk;
+  desk.PutSingles("ab");
+  desk.Start();
+  desk.PointAtSingle(2);
+  desk.World.Desktop.DoubleClick([&desk] {
+    const PixelPoint at = desk.MiddleOf(2);
+    desk.PointAt({at.x + 1, at.y});
+    EXPECT_EQ(desk.Parts.Hint, "b");
+  });
+  EXPECT_EQ(desk.Parts.Hint, "");
+}
+
 TEST(SingleClick, WithOption11ADoubleClickRunsItOnceToo) {
   SinglesDesk desk;
   desk.PutSingles("a");

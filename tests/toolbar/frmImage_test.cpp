@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "toolbar/DockDesk.h"
 
@@ -110,6 +111,32 @@ TEST(StillPicture, OfAStripAtTheTopIsThePartThatIsOnTheScreen) {
       ASSERT_EQ(after.PixelAt({x, y}), before.PixelAt({x, y})) << x << ',' << y;
     }
   }
+  desk.Picture.ResetPicture1();
+}
+
+TEST(StillPicture, OfTheStripShowsNothingOfAnOutlineThatWasPulledBefore) {
+  DockDesk desk;
+  desk.StartAt(Edge::Top);
+  desk.SetOption(Option::AboveFullScreen, true);
+  const auto strip = [&desk] {
+    const sim::SimCanvas screen = desk.World.Desktop.Picture();
+    std::vector<Rgb> pixels;
+    for (int y = 0; y < 38; ++y) {
+      for (int x = 0; x < 1024; ++x) pixels.push_back(screen.PixelAt({x, y}));
+    }
+    return pixels;
+  };
+  const std::vector<Rgb> before = strip();
+  desk.Pull(QuarterOf(Edge::Left));
+  ASSERT_EQ(desk.Picture.OutlineEdge(), Edge::Left);
+  EXPECT_NE(strip(), before);
+  // Back to its own edge: the strip stays.
+  desk.PointAt(QuarterOf(Edge::Top));
+  desk.World.Desktop.Release();
+  desk.PointAway();
+  desk.Picture.SetPicture1();
+  ASSERT_TRUE(desk.Picture.WindowLoaded());
+  EXPECT_EQ(strip(), before);
   desk.Picture.ResetPicture1();
 }
 

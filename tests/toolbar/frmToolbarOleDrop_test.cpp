@@ -61,6 +61,23 @@ TEST(ToolbarOLEDragDrop, TheRightButtonStoresLikewise) {
   EXPECT_EQ(desk.MenuUp(), 2);
 }
 
+TEST(ToolbarOLEDragDrop, TheMenuStaysWhileTheFileIsWrittenUnlessTheRightButtonDropped) {
+  for (const MouseButton button : {MouseButton::Left, MouseButton::Right}) {
+    const bool left = button == MouseButton::Left;
+    SCOPED_TRACE(left ? "left" : "right");
+    BusyIcons icons;
+    DragDesk desk({}, &icons);
+    desk.TakeFiles({"C:\\c.txt"}, button);
+    desk.DragToButton(2);
+    ASSERT_EQ(desk.MenuUp(), 2);
+    int upThen = -1;
+    icons.WhileAsked = [&] { upThen = desk.MenuUp(); };
+    desk.Drop(button);
+    EXPECT_EQ(upThen, left ? 2 : 0);
+    EXPECT_EQ(desk.MenuUp(), 2);
+  }
+}
+
 TEST(ToolbarOLEDragDrop, AThousandFilesComeAndOneThatNoRecordHoldsIsNamedAfterwards) {
   DragDesk desk;
   Names files;
@@ -94,6 +111,20 @@ TEST(ToolbarOLEDragDrop, MeansTheButtonThatIsUnderThePointerByThen) {
   desk.Strip.picToolbar.OLEDragDrop(data, effect, MouseButton::None, {}, 0, 0);
   EXPECT_TRUE(desk.FileUnchanged(1));
   EXPECT_EQ(desk.RecordsOf(2).size(), 3U);
+}
+
+TEST(ToolbarOLEDragDrop, OnTheMainMenuButtonByThenTakesNothingAndClosesTheMenu) {
+  DragDesk desk;
+  desk.TakeFiles({"C:\\c.txt"});
+  desk.DragToButton(2);
+  ASSERT_EQ(desk.MenuUp(), 2);
+  desk.World.Desktop.SetPointerPosition(desk.Middle(1));
+  forms::DragData data{.Files = Names{"C:\\c.txt"}};
+  DropEffect effect = DropEffect::Copy;
+  desk.Strip.picToolbar.OLEDragDrop(data, effect, MouseButton::None, {}, 0, 0);
+  EXPECT_EQ(effect, DropEffect::None);
+  EXPECT_TRUE(desk.FileUnchanged(1));
+  EXPECT_EQ(desk.MenuUp(), 0);
 }
 
 TEST(ToolbarOLEDragDrop, BetweenTheButtonsNothingIsTaken) {

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <limits>
 #include <string>
+#include <vector>
 
 #include "core/SettingsFiles.h"
 #include "toolbar/SinglesDesk.h"
@@ -479,6 +480,58 @@ TEST(ToolbarRebuild, ReadsTheFilesAnewAndKeepsThePlace) {
   EXPECT_TRUE(desk.Strip.Visible());
   EXPECT_TRUE(desk.TheProgram.Guards.ToolbarReady);
   EXPECT_FALSE(desk.TheProgram.Guards.AppBarBusy);
+}
+
+TEST(ToolbarRebuild, LooksLikeAStripThatNeverHadOtherButtons) {
+  const auto pixels = [](const StripDesk& desk) {
+    const sim::SimCanvas screen = desk.World.Desktop.Picture();
+    const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd());
+    std::vector<Rgb> all;
+    for (int y = box.top; y < box.bottom; ++y) {
+      for (int x = box.left; x < box.right; ++x) all.push_back(screen.PixelAt({x, y}));
+    }
+    return all;
+  };
+  const auto put = [](StripDesk& desk, bool separator) {
+    int number = 0;
+    desk.PutButton(++number, "First");
+    if (separator) desk.PutButton(++number, "Separator", "MenuLineSeparator");
+    desk.PutButton(++number, "Last");
+    if (!separator) desk.World.Files.Vanish("C:\\Corvelle\\Menus\\" + MenuFileName(3));
+  };
+  for (const bool separator : {false, true}) {
+    SCOPED_TRACE(separator ? "a separator has come" : "a separator has gone");
+    StripDesk fresh;
+    put(fresh, separator);
+    fresh.Start();
+    StripDesk rebuilt;
+    put(rebuilt, !separator);
+    rebuilt.Start();
+    EXPECT_NE(pixels(rebuilt), pixels(fresh));
+    put(rebuilt, separator);
+    rebuilt.Strip.InitNewButtons();
+    rebuilt.World.Desktop.Pump();
+    EXPECT_EQ(pixels(rebuilt), pixels(fresh));
+  }
+}
+
+TEST(ToolbarRebuild, WhereASeparatorWasAButtonTakesThePress) {
+  StripDesk desk;
+  desk.PutButton(1, "First");
+  desk.PutButton(2, "Separator", "MenuLineSeparator");
+  desk.PutButton(3, "Last");
+  desk.Start();
+  const forms::Label& separator = desk.Strip.lblSep[1];
+  const PixelRect box = desk.World.Desktop.BoundsOf(desk.Strip.picToolbar.hWnd());
+  const float middle = separator.Left() + separator.Width() / 2;
+  const PixelPoint at{box.left + static_cast<int>(middle / desk.Strip.TwipsX), box.top + 10};
+  desk.PutButton(2, "Last");
+  desk.World.Files.Vanish("C:\\Corvelle\\Menus\\" + MenuFileName(3));
+  desk.World.Desktop.MovePointer(20, 700);
+  desk.Strip.InitNewButtons();
+  desk.PointAt(at);
+  desk.World.Desktop.Click();
+  EXPECT_EQ(desk.MenuUp(), 3);
 }
 
 TEST(ToolbarRebuild, ForgetsTheMenusThatWereBuilt) {

@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "base/Text.h"
+#include "base/Utf8.h"
 #include "core/DroppedFiles.h"
 #include "core/IconState.h"
 #include "core/MenuFile.h"
@@ -40,6 +41,12 @@ bool HasOpenFolder(std::string_view stored, const CodePage& ansi) {
     if (MayBeFolder(record) && IsOpenFolder(ParseRecord(record, ansi))) return true;
   }
   return false;
+}
+
+/// True for a path that fits a record, told without putting it together: thousands are asked.
+bool HasPlainPath(const FoundFiles& found, const FoundFiles::File& file) {
+  const std::string& folder = found.Folders[file.Folder];
+  return folder.size() + file.Name.size() <= kNameWidth && IsPlain(folder) && IsPlain(file.Name);
 }
 
 }  // namespace
@@ -129,7 +136,9 @@ void FolderMenus::NameFiles(FoundFiles& found) {
       [](FoundFiles::File& file, const std::string& name) { file.Shown = name; });
   AskOfFiles(
       LookupKind::ShortPaths, found,
-      [&](const FoundFiles::File& file) { return !FitsRecord(ansi, found.PathOf(file)); },
+      [&](const FoundFiles::File& file) {
+        return !HasPlainPath(found, file) && !FitsRecord(ansi, found.PathOf(file));
+      },
       [&](FoundFiles::File& file, const std::string& path) {
         // What no record can hold starts from the menu all the same.
         if (FitsRecord(ansi, path)) file.Short = path;
@@ -146,7 +155,8 @@ void FolderMenus::AskOfFiles(
   for (std::size_t i = 0; i < most; ++i) {
     FoundFiles::File& file = found.Files[i];
     if (!asks(file)) continue;
-    names[file.Folder] += file.Name + '\n';
+    names[file.Folder] += file.Name;
+    names[file.Folder] += '\n';
     asked[file.Folder].push_back(&file);
   }
   for (std::size_t folder = 0; folder < names.size(); ++folder) {

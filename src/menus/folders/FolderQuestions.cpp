@@ -77,7 +77,10 @@ void FolderQuestions::Take(const std::string& key, const desk::Reply& reply) {
 
 void FolderQuestions::TakeStage(const std::string& key, desk::Stage stage) {
   if (stage != desk::Stage::BeingRead) return;
-  asked_.at(key).Answer.State = FolderState::BeingRead;
+  Asked& asked = asked_.at(key);
+  asked.Answer.State = FolderState::BeingRead;
+  // A menu says so of its folders only; of files it shows what it knows.
+  if (IsOfFiles(asked.Question)) return;
   // It may end this.
   const auto changed = changed_;
   changed();

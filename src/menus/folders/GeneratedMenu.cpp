@@ -1,9 +1,11 @@
 #include "menus/folders/GeneratedMenu.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/FieldText.h"
 #include "base/Text.h"
+#include "base/Utf8.h"
 #include "core/MenuFile.h"
 
 namespace corvelle {
@@ -19,10 +21,17 @@ void GeneratedMenu::BeginItem(int record) {
   nextSource_ = std::max(nextSource_, record + 1);
 }
 
+void GeneratedMenu::Expect(std::size_t entries) {
+  items_.reserve(std::min(items_.size() + entries, static_cast<std::size_t>(kMaxRecords)));
+}
+
 bool GeneratedMenu::AddEntry(int record, MenuRecord entry, std::string name) {
   if (IsFull()) return false;
-  entry.FTitle = DecodeField(EncodeField(entry.FTitle, kTitleWidth, ansi_), ansi_);
-  MenuItem item = ItemOf(entry, kGeneratedBase + record);
+  // A field holds a short plain title as it is.
+  if (entry.FTitle.size() > kTitleWidth || !IsPlain(entry.FTitle)) {
+    entry.FTitle = DecodeField(EncodeField(entry.FTitle, kTitleWidth, ansi_), ansi_);
+  }
+  MenuItem item = ItemOf(std::move(entry), kGeneratedBase + record);
   item.Origin.Name = std::move(name);
   Add(std::move(item));
   return true;

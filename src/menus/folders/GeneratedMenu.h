@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,6 +26,8 @@ class GeneratedMenu {
   /// Copies what comes before folder item `record` and takes the item itself away.
   void BeginItem(int record);
 
+  /// So many entries are to come.
+  void Expect(std::size_t entries);
   /// Adds an entry of the folder item at `record`, and a rule between two folders of one. Its title
   /// is cut as its field in a file would; `name`: see EntryOrigin. False when record numbers end.
   bool AddEntry(int record, MenuRecord entry, std::string name = {});

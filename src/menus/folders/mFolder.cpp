@@ -76,18 +76,20 @@ clsFolder ExpandFolderItem(GeneratedMenu& menu, int record, const FoundFiles& fo
   menu.BeginItem(record);
   folder.RecStart = menu.Count() + 1;
   folder.RecTotal = static_cast<int>(found.Files.size());
+  menu.Expect(found.Files.size());
   std::size_t last = found.Folders.size();
   for (const FoundFiles::File& file : found.Files) {
-    const std::string path = found.PathOf(file);
+    std::string path = found.PathOf(file);
     if (item.UpdateFolder) paths.push_back(path);
     // The shell is not asked for what no menu can show.
     if (menu.IsFull()) break;
     if (!item.Merged && last != found.Folders.size() && last != file.Folder) menu.AddRule();
     last = file.Folder;
     // What no record can hold starts from the menu all the same.
-    const std::string& stored = file.Short.empty() ? path : file.Short;
-    menu.AddEntry(record,
-                  {FileTitleOf(file.Shown, file.Name, item.WithoutExtension), stored, stored});
+    std::string stored = file.Short.empty() ? std::move(path) : file.Short;
+    std::string icon = stored;
+    menu.AddEntry(record, {FileTitleOf(file.Shown, file.Name, item.WithoutExtension),
+                           std::move(icon), std::move(stored)});
   }
   folder.RecEnd = menu.Count();
   return folder;

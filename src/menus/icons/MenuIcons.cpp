@@ -58,6 +58,7 @@ MenuIcons::~MenuIcons() {
 void MenuIcons::ResetPicIcons() {
   ++resets_;
   late_.clear();
+  left_.clear();
   from_.Answers.Drop(shown_);
   from_.Answers.Drop(ahead_);
   toFetch_.clear();
@@ -90,7 +91,14 @@ IconPicture MenuIcons::Find(std::string_view iconText) {
   const IconForm form = Classify(text);
   const std::string key = Enter(text, form);
   if (key.empty()) return Peek(iconText);
-  colIconFile_.at(key).OnShow = true;
+  Entry& found = colIconFile_.at(key);
+  found.OnShow = true;
+  // Each question takes a little of the system's time, and a page has dozens of icons.
+  if (found.Is == State::New && from_.Windows.Now() >= waitUntil_) {
+    left_.push_back(key);
+    PostAsking();
+    return Peek(iconText);
+  }
   Ask(key, desk::Urgency::OnShow, true);
   const auto entry = colIconFile_.find(key);
   if (entry != colIconFile_.end() && entry->second.Is == State::Missing) {
@@ -281,18 +289,38 @@ void MenuIcons::PostArrived() {
   });
 }
 
+void MenuIcons::PostAsking() {
+  if (left_.size() > 1) return;
+  from_.Windows.Post([this, watch = alive_.MakeWatch()] {
+    if (!watch.Gone()) AskWhatIsLeft();
+  });
+}
+
+void MenuIcons::AskWhatIsLeft() {
+  for (const std::string& key : std::exchange(left_, {})) {
+    const auto found = colIconFile_.find(key);
+    if (found == colIconFile_.end() || found->second.Is != State::New) continue;
+    Ask(key, desk::Urgency::OnShow, false);
+    const auto asked = colIconFile_.find(key);
+    if (asked != colIconFile_.end() && asked->second.Is != State::Waiting) GoOn(key);
+  }
+}
+
 void MenuIcons::PutAside() {
   waitUntil_ = 0;
   std::vector<std::string> asked;
   for (auto& [key, entry] : colIconFile_) {
-    if (!std::exchange(entry.OnShow, false) || entry.Is != State::Waiting) continue;
-    asked.push_back(key);
+    if (!std::exchange(entry.OnShow, false)) continue;
+    if (entry.Is == State::Waiting || entry.Is == State::New) asked.push_back(key);
   }
   for (const std::string& key : asked) Ask(key, desk::Urgency::Ahead, false);
   from_.Answers.Drop(shown_);
 }
 
-void MenuIcons::Stop() { from_.Answers.Drop(shown_); }
+void MenuIcons::Stop() {
+  left_.clear();
+  from_.Answers.Drop(shown_);
+}
 
 // ---- beforehand ----
 

@@ -53,7 +53,8 @@ class MenuIcons {
   /// Up to that moment (as WindowSystem::Now) Find may wait for answers, without running events.
   void WaitUntil(std::int64_t moment);
 
-  /// What is to be drawn now for an icon text, which is asked for if it is not known.
+  /// What is to be drawn now for an icon text, which is asked for if it is not known: at once, or,
+  /// after the moment of WaitUntil, by the next turn of the message loop.
   IconPicture Find(std::string_view iconText);
   /// The same without asking.
   [[nodiscard]] IconPicture Peek(std::string_view iconText);
@@ -106,6 +107,9 @@ class MenuIcons {
   [[nodiscard]] IconPicture PictureOf(const std::string& key);
   [[nodiscard]] IconPicture StandIn(const Entry& entry);
   void PostArrived();
+  /// Asks in a turn of its own for what Find had no time to ask for.
+  void PostAsking();
+  void AskWhatIsLeft();
 
   /// Asks for what is fetched beforehand, one after the other.
   void GoOnFetching();
@@ -129,6 +133,7 @@ class MenuIcons {
   std::set<std::string> fetching_;
   std::set<std::string> slow_;  // of these, those that hold up the others no longer
   bool posted_ = false;
+  std::vector<std::string> left_;  // keys that Find had no time for
   std::unique_ptr<Canvas> picIcons_;
   int cells_ = 0;
   int room_ = 0;

@@ -36,7 +36,7 @@ struct MenuItem {
 
 /// The item of record `place` of a menu file. Texts are cut at a NUL, which only a damaged file
 /// has.
-[[nodiscard]] MenuItem ItemOf(const MenuRecord& record, int place);
+[[nodiscard]] MenuItem ItemOf(MenuRecord record, int place);
 
 /// The items of a menu file; the first one is the menu's button.
 [[nodiscard]] std::vector<MenuItem> ItemsOf(const std::vector<MenuRecord>& records);

@@ -125,6 +125,7 @@ MenuLayout Builder::Build() {
   out_.MenuHeight =
       paged_ ? scene_.WindowHeight - kArrowRow * metrics_.TwipsY : scene_.WindowHeight;
   pageEnd_ = out_.MenuHeight - reserve;
+  out_.Items.reserve(Items().size());
   for (const MenuItem& item : Items()) {
     if (item.Hidden) continue;
     if (item.Separator) {

@@ -89,7 +89,6 @@ std::unique_ptr<forms::Label> frmQMenu::MakeItemLabel(int index) {
     const float left = x + Lbl[index].Left();
     const float top = y + Lbl[index].Top();
     if (StillAway(left, top)) return;
-    PointerBelowItems = false;
     Form_MouseMove(down, shift, left, top);
   };
   label->MouseUp = [this, index](MouseButton button, ShiftState shift, float x, float y) {

@@ -199,8 +199,6 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   bool KeyboardActive = false;
   /// The pointer is off the window.
   bool PointerAway = false;
-  /// The pointer is in the menu, but below the last item.
-  bool PointerBelowItems = false;
   /// Labels that draw the engraved look of disabled items.
   int ShadowCount = 0;
   /// Key of the menu in which the last popup acted.
@@ -265,6 +263,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void ForgetUpdate();
   /// Builds the menu on show again without closing it.
   void UpdateInPlace();
+  /// What is to be kept of a menu that looks like the one on show.
+  void TakeUnchanged(BuiltMenu& menu);
   /// After an update: the item that keys had selected, or what the pointer is on.
   void SelectAgain(const MenuItem& selected);
 

@@ -71,7 +71,6 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, f
   if (IsBelowItems(Page(), y)) {
     DropSelection();
     CurItem = 0;
-    PointerBelowItems = true;
     return;
   }
   const int hit = ItemUnder(Page(), y, dragging);
@@ -80,7 +79,6 @@ void frmQMenu::Form_MouseMove(MouseButton down, ShiftState /*shift*/, float x, f
     return;
   }
   if (hit != program_.Menu.SelectedItem) SelectItem(hit);
-  PointerBelowItems = false;
 }
 
 // Not every system tells a window of a move when it comes up under a pointer that rests.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "base/Text.h"
 #include "core/Program.h"
@@ -18,6 +19,13 @@ constexpr int kUpdateMilliseconds = 50;
 bool IsSameEntry(const MenuItem& a, const MenuItem& b) {
   return a.Command == b.Command && a.Origin == b.Origin &&
          (a.Title == b.Title || !b.Command.empty());
+}
+
+/// True for two menus of which each item is the same and in the same place.
+bool LooksLike(const BuiltMenu& a, const BuiltMenu& b) {
+  return a.Items == b.Items && a.MenuInfo.Slides == b.MenuInfo.Slides &&
+         a.MenuInfo.Width == b.MenuInfo.Width && a.MenuInfo.Height == b.MenuInfo.Height &&
+         a.Dpi == b.Dpi;
 }
 
 }  // namespace
@@ -76,6 +84,11 @@ void frmQMenu::UpdateInPlace() {
     const forms::FlagScope building(program_.Guards.MenuBuilding);
     const std::shared_ptr<BuiltMenu> menu = Build(menu_->Source, expanded);
     if (!menu) return;
+    if (LooksLike(*menu, *menu_)) {
+      TakeUnchanged(*menu);
+      if (expanded && expanded->Whole) KeepGenerated(*expanded);
+      return;
+    }
     menu->MenuInfo.CurMenu = std::min(page, menu->MenuInfo.Slides);
     DropSelection();
     for (int i = 1; i <= LoadedLabels(); ++i) Lbl[i].SetVisible(false);
@@ -90,6 +103,14 @@ void frmQMenu::UpdateInPlace() {
   if (expanded && expanded->Whole) KeepGenerated(*expanded);
   SelectAgain(selected);
   AwaitHeldKeys();
+}
+
+// More is known, and nothing of it is seen: the names of the files are those that the shell shows.
+void frmQMenu::TakeUnchanged(BuiltMenu& menu) {
+  menu_->Stored = std::move(menu.Stored);
+  menu_->Whole = menu.Whole;
+  menu_->MenuInfo.File = std::move(menu.MenuInfo.File);
+  cache_.Add(menu_);
 }
 
 void frmQMenu::SelectAgain(const MenuItem& selected) {

@@ -28,16 +28,13 @@ frmImage::frmImage(const StillPictureParts& with, StripWindow& strip)
       bLine3(*this, "bLine3"),
       bLine4(*this, "bLine4"),
       with_(with),
-      strip_(strip) {
-  ShowLines(false);
-}
+      strip_(strip) {}
 
 void frmImage::Form_Load() { SetWindowPos(forms::InsertAfter::Topmost, forms::swp::Hide); }
 
 void frmImage::Form_Unload() {
   menuCaptured_ = false;
   outline_.reset();
-  ShowLines(false);
   SetBackground(nullptr);
 }
 
@@ -163,9 +160,10 @@ void frmImage::ShowOutline(Edge edge) {
 
 void frmImage::ClearBg() {
   outline_.reset();
+  // Also where no window is up: the next one may be a still picture, and has no lines.
+  ShowLines(false);
   if (!IsLoaded()) return;
   Hide();
-  ShowLines(false);
   SetBackground(nullptr);
 }
 

@@ -52,8 +52,8 @@ int MenuTracking::MenuOwner() const {
   return owner <= buttons_.ButtonCount ? owner : 0;
 }
 
-// When an active window hides, Windows activates whatever window it finds next, of
-// another program too.
+// The program keeps the foreground from one menu to the next: when an active window hides, Windows
+// activates whatever window it finds next, of another program too.
 void MenuTracking::TakeOverFromMenu() {
   if (with_.Desktop.ActiveWindow() == with_.Ports.QMenu->WindowHandle()) {
     window_.SetFocus();
@@ -87,8 +87,6 @@ void MenuTracking::ShowMenuOf(int button) {
   timer2_.SetEnabled(false);
   LastOpenFlag = false;
   TakeHintDown();
-  // The program keeps the foreground from one menu to the next, but leaves it to a drag's source.
-  if (MenuUp() && !with_.Drag.DragHolds(with_.Pointer)) window_.SetFocus();
   HideMenuWindow();
 
   const bool isMainMenu = buttons_.PathOf(button) == kMainMenuPath;

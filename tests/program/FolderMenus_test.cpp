@@ -1,0 +1,111 @@
+// Menus with open folders in the whole program.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "program/ProgramDesk.h"
+
+namespace corvelle {
+namespace {
+
+/// Folder items whose comparison lets events through.
+struct BusyFolders final : FolderMenusPort {
+  explicit BusyFolders(FolderMenusPort& folders) : Folders(folders) {}
+  std::optional<ExpandedMenu> Expand(std::string_view key, std::string_view file,
+                                     std::string_view stored) override {
+    return Folders.Expand(key, file, stored);
+  }
+  bool WriteGenerated(const ExpandedMenu& menu) override { return Folders.WriteGenerated(menu); }
+  bool UpdateMenu(std::string_view key) override {
+    if (const auto action = std::exchange(WhileCompared, nullptr)) action();
+    return Folders.UpdateMenu(key);
+  }
+  FolderMenusPort& Folders;
+  std::function<void()> WhileCompared;
+};
+
+/// A menu of button 2 with an open folder.
+struct OpenFolderDesk : ProgramDesk {
+  OpenFolderDesk() {
+    world.Files.Put("C:\\Docs\\old.txt", "x");
+    world.Files.Put(kMenus + MenuFileName(1),
+                    FormatRecord({"Menu", "Button", ""}, world.Ansi) +
+                        FormatRecord({"Docs", "", "C:\\Docs\\*.*/u"}, world.Ansi));
+  }
+  [[nodiscard]] std::string FirstCaption() const { return parts->Menu.Lbl[1].Caption(); }
+  /// Opens the menu, closes it again, and has the shell show its file by another name from now on.
+  void ShowByAnotherName() {
+    OpenMenu(2);
+    EXPECT_EQ(FirstCaption(), "old.txt");
+    world.Desktop.PressKey(forms::key::Escape);
+    world.Icons.SetDisplayName("C:\\Docs\\old.txt", "Letter");
+    world.Desktop.Advance(1000);
+  }
+};
+
+TEST(OpenFolders, NamesThatWereAskedForSecondsAgoAreShownAsTheyWere) {
+  OpenFolderDesk desk;
+  desk.ShowByAnotherName();
+  desk.parts->Menu.ForgetMenu("F2");
+  desk.OpenMenu(2);
+  EXPECT_EQ(desk.FirstCaption(), "old.txt");
+}
+
+TEST(OpenFolders, F5AsksForTheNamesThoughTheyAreYoung) {
+  OpenFolderDesk desk;
+  desk.ShowByAnotherName();
+  desk.OpenMenu(2);
+  desk.world.Desktop.PressKey(forms::key::F5);
+  desk.world.Desktop.Advance(500);
+  ASSERT_TRUE(desk.parts->Menu.MenuVisible());
+  EXPECT_EQ(desk.FirstCaption(), "Letter");
+}
+
+TEST(OpenFolders, RefreshAllAsksForTheNamesThoughTheyAreYoung) {
+  OpenFolderDesk desk;
+  desk.ShowByAnotherName();
+  desk.OpenMenu(1);
+  ASSERT_EQ(desk.parts->Menu.Lbl[2].Caption(), "Refresh All");
+  desk.PointAt(desk.Item(2));
+  desk.world.Desktop.Click();
+  desk.world.Desktop.Advance(500);
+  desk.OpenMenu(2);
+  EXPECT_EQ(desk.FirstCaption(), "Letter");
+}
+
+TEST(OpenFolders, TheMenuIsItsButtonsAlsoWhenTheUserHasClickedAndCarriedWhileTheyWereCompared) {
+  OpenFolderDesk desk;
+  sim::SimDesktop& desktop = desk.world.Desktop;
+  Program& program = desk.parts->TheProgram;
+  desk.OpenMenu(2);
+  const float left = desk.parts->Menu.Left();
+  desktop.Click();
+  ASSERT_FALSE(desk.parts->Menu.MenuVisible());
+  desk.world.Files.Put("C:\\Docs\\new.txt", "x");
+  BusyFolders folders(*program.Ports.FolderMenus);
+  program.Ports.FolderMenus = &folders;
+  folders.WhileCompared = [&] {
+    desktop.Release();
+    desk.PointAt(desk.Single(1));
+    desktop.Click();
+    program.Events.DoEvents();
+    EXPECT_EQ(desk.parts->Menu.OwnerTag(), "0");
+    desktop.Press();
+    program.Events.DoEvents();
+    EXPECT_TRUE(program.Entry.ItemDragging);
+  };
+  desk.PointAt(desk.MenuButton(2));
+  desktop.Press();
+  ASSERT_TRUE(desk.parts->Menu.MenuVisible());
+  EXPECT_EQ(desk.parts->Menu.OwnerTag(), "2");
+  EXPECT_EQ(desk.parts->Menu.Left(), left);
+  desktop.Release();
+  program.Ports.FolderMenus = &folders.Folders;
+}
+
+}  // namespace
+}  // namespace corvelle
