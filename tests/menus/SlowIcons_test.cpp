@@ -295,6 +295,8 @@ class IconsOfALongBuild : public SlowIcons {
     desk_.Menu.ShowMenu("F2", desk_.TheProgram.Paths.MenusPath + MenuFileName(1));
     EXPECT_TRUE(desk_.Menu.MenuVisible());
     EXPECT_EQ(Asked("C:\\a.exe"), 0);
+    // With its captions, and not once more for each icon that is not there.
+    EXPECT_EQ(desk_.World.Desktop.PaintCount(desk_.Menu.hWnd()), 1);
   }
 };
 

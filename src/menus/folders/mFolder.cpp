@@ -30,10 +30,12 @@ std::vector<std::string> FoldersBelow(const FolderItem& item,
 }
 
 void Sort(std::vector<FoundFiles::File>& files, std::size_t from) {
-  std::sort(files.begin() + static_cast<std::ptrdiff_t>(from), files.end(),
-            [](const FoundFiles::File& a, const FoundFiles::File& b) {
-              return std::tie(a.SortKey, a.Name, a.Folder) < std::tie(b.SortKey, b.Name, b.Folder);
-            });
+  const auto first = files.begin() + static_cast<std::ptrdiff_t>(from);
+  const auto before = [](const FoundFiles::File& a, const FoundFiles::File& b) {
+    return std::tie(a.SortKey, a.Name, a.Folder) < std::tie(b.SortKey, b.Name, b.Folder);
+  };
+  // Most disks give the names in order.
+  if (!std::is_sorted(first, files.end(), before)) std::sort(first, files.end(), before);
 }
 
 }  // namespace

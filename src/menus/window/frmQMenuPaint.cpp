@@ -91,7 +91,8 @@ void frmQMenu::DrawPageOnce(bool watched) {
   for (int i = pages_.FirstLabel(); i <= pages_.LastLabel(); ++i) {
     DrawItemIcon(i);
     if (!IsLoaded()) return;
-    if (watched) Refresh();
+    // Stand-ins come up with the page.
+    if (watched && pageIcons_.back().Final) Refresh();
   }
   if (watched) WipeCaptions();
   ShowPage();
