@@ -7,7 +7,8 @@
 The targets are built by `cmake --preset libfuzzer && cmake --build --preset libfuzzer`. They begin with the inputs of
 fuzz/corpus/TARGET and with what an earlier run left. Everything a run makes is below build/fuzz: TARGET/
 (inputs), TARGET.log, and TARGET.found/ (inputs that break a property; run the target on such a file to see the fault).
-A target that finds a fault stops there. The processes run at the lowest priority.
+A target that finds a fault stops there. The processes run at the lowest priority. Several targets write files
+below $TMPDIR: with that on a disk in memory they do not wait for it.
 """
 
 import argparse
