@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -63,23 +64,22 @@ EditOutcome RunOne(SimFiles& disk, EntryEdit& edit, int which) {
   }
 }
 
-/// How many records of `before` are not, byte for byte and in their order, in `after`.
+/// How many records of `before` are not, byte for byte and in their order, in `after`: the fewest
+/// that can be, as some may be equal.
 std::size_t Missing(const std::string& before, const std::string& after) {
-  std::size_t missing = 0;
-  std::size_t at = 0;
-  for (std::size_t i = 0; i + kRecordLength <= before.size(); i += kRecordLength) {
-    std::size_t found = at;
-    while (found < after.size() &&
-           after.compare(found, kRecordLength, before, i, kRecordLength) != 0) {
-      found += kRecordLength;
-    }
-    if (found < after.size()) {
-      at = found + kRecordLength;
-    } else {
-      ++missing;
+  const std::size_t rows = before.size() / kRecordLength;
+  const std::size_t columns = after.size() / kRecordLength;
+  // How many of the first records of both are the same ones.
+  std::vector<std::vector<std::size_t>> same(rows + 1, std::vector<std::size_t>(columns + 1));
+  for (std::size_t row = 0; row < rows; ++row) {
+    for (std::size_t column = 0; column < columns; ++column) {
+      const bool equal = before.compare(row * kRecordLength, kRecordLength, after,
+                                        column * kRecordLength, kRecordLength) == 0;
+      same[row + 1][column + 1] =
+          equal ? same[row][column] + 1 : std::max(same[row][column + 1], same[row + 1][column]);
     }
   }
-  return missing;
+  return rows - same[rows][columns];
 }
 
 }  // namespace
