@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "menus/FolderDesk.h"
 #include "menus/folders/FolderQuestions.h"
@@ -241,6 +244,43 @@ TEST_F(SlowFolder, NamesThatAreThoseOfTheFilesPaintNothing) {
   EXPECT_EQ(desk_.Generated().size(), 4U) << "they have come, and no icon yet";
   EXPECT_EQ(desk_.World.Desktop.PaintCount(menu), painted);
   EXPECT_EQ(desk_.Menu.PagePicture, picture);
+}
+
+/// Folder items that let events through while a menu is built.
+struct FoldersWithEvents final : FolderMenusPort {
+  explicit FoldersWithEvents(FolderMenusPort& folders) : Folders(folders) {}
+  std::optional<ExpandedMenu> Expand(std::string_view key, std::string_view file,
+                                     std::string_view stored) override {
+    if (const auto action = std::exchange(WhileBuilt, nullptr)) action();
+    return Folders.Expand(key, file, stored);
+  }
+  bool WriteGenerated(const ExpandedMenu& menu) override { return Folders.WriteGenerated(menu); }
+  bool UpdateMenu(std::string_view key) override { return Folders.UpdateMenu(key); }
+  void SetListener(std::function<void(const std::string&)> listener) override {
+    Folders.SetListener(std::move(listener));
+  }
+  void Leave() override { Folders.Leave(); }
+  void TryAgain() override { Folders.TryAgain(); }
+  FolderMenusPort& Folders;
+  std::function<void()> WhileBuilt;
+};
+
+TEST_F(SlowFolder, AKeyThatIsPressedWhileNamesThatChangeNothingComeActsAfterThem) {
+  Slow().Delay("D:*", 300);
+  FoldersWithEvents folders(desk_.Items);
+  desk_.TheProgram.Ports.FolderMenus = &folders;
+  Open();
+  bool pressed = false;
+  folders.WhileBuilt = [&] {
+    pressed = true;
+    desk_.World.Desktop.PressKey(forms::key::Down);
+    desk_.TheProgram.Events.DoEvents();
+    EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 0);
+  };
+  Advance(400);
+  EXPECT_TRUE(pressed);
+  EXPECT_EQ(desk_.TheProgram.Menu.SelectedItem, 1);
+  desk_.TheProgram.Ports.FolderMenus = &desk_.Items;
 }
 
 TEST_F(SlowFolder, NamesThatAreOthersArePainted) {

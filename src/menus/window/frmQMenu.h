@@ -263,6 +263,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void ForgetUpdate();
   /// Builds the menu on show again without closing it.
   void UpdateInPlace();
+  /// Shows another menu in the place of the one that is up.
+  void ShowInstead(const std::shared_ptr<BuiltMenu>& menu);
   /// What is to be kept of a menu that looks like the one on show.
   void TakeUnchanged(BuiltMenu& menu);
   /// After an update: the item that keys had selected, or what the pointer is on.

@@ -80,29 +80,30 @@ void frmQMenu::UpdateInPlace() {
   const MenuItem selected = items_[program_.Menu.SelectedItem];
   const int page = pages_.CurMenu();
   std::optional<ExpandedMenu> expanded;
+  bool same = false;
   {
     const forms::FlagScope building(program_.Guards.MenuBuilding);
     const std::shared_ptr<BuiltMenu> menu = Build(menu_->Source, expanded);
     if (!menu) return;
-    if (LooksLike(*menu, *menu_)) {
-      TakeUnchanged(*menu);
-      if (expanded && expanded->Whole) KeepGenerated(*expanded);
-      return;
-    }
+    same = LooksLike(*menu, *menu_);
     menu->MenuInfo.CurMenu = std::min(page, menu->MenuInfo.Slides);
-    DropSelection();
-    for (int i = 1; i <= LoadedLabels(); ++i) Lbl[i].SetVisible(false);
-    HideArrows();
-    Take(menu);
-    PlaceMenu();
-    UpDownArrows();
-    DrawPage(false);
+    same ? TakeUnchanged(*menu) : ShowInstead(menu);
   }
   if (!IsLoaded()) return;
   cache_.Add(menu_);
   if (expanded && expanded->Whole) KeepGenerated(*expanded);
-  SelectAgain(selected);
+  if (!same) SelectAgain(selected);
   AwaitHeldKeys();
+}
+
+void frmQMenu::ShowInstead(const std::shared_ptr<BuiltMenu>& menu) {
+  DropSelection();
+  for (int i = 1; i <= LoadedLabels(); ++i) Lbl[i].SetVisible(false);
+  HideArrows();
+  Take(menu);
+  PlaceMenu();
+  UpDownArrows();
+  DrawPage(false);
 }
 
 // More is known, and nothing of it is seen: the names of the files are those that the shell shows.
@@ -110,7 +111,6 @@ void frmQMenu::TakeUnchanged(BuiltMenu& menu) {
   menu_->Stored = std::move(menu.Stored);
   menu_->Whole = menu.Whole;
   menu_->MenuInfo.File = std::move(menu.MenuInfo.File);
-  cache_.Add(menu_);
 }
 
 void frmQMenu::SelectAgain(const MenuItem& selected) {
