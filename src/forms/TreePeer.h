@@ -94,7 +94,7 @@ class TreePeer : public WindowPeer {
   /// The whole row, in pixels of the window; empty when it cannot be seen.
   [[nodiscard]] virtual PixelRect RowRect(NodeId node) const = 0;
   virtual void BeginEdit(NodeId node) = 0;
-  /// Nothing when no label is edited.
+  /// Nothing when no label is edited. An edit that is taken is told before this returns.
   virtual void EndEdit(bool commit) = 0;
   /// kNoNode takes the mark away.
   virtual void SetDropTarget(NodeId node) = 0;

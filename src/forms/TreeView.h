@@ -59,6 +59,7 @@ class TreeView final : public SystemControl, private TreeEvents {
   [[nodiscard]] TreeHit HitTest(PixelPoint at) const;
   [[nodiscard]] PixelRect RowRect(NodeId node) const;
   void BeginEdit(NodeId node);
+  /// `commit`: what was typed is taken, and Renamed has run when this returns.
   void EndEdit(bool commit);
   [[nodiscard]] NodeId Edited() const noexcept { return edited_; }
   void SetDropTarget(NodeId node);

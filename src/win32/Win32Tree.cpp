@@ -230,11 +230,17 @@ LRESULT Win32Tree::TellNotification(const NMHDR& header, LPARAM lParam) {
 LRESULT Win32Tree::TellEdited(const NMTVDISPINFOW& info) {
   const NodeId node = std::exchange(edited_, kNoNode);
   if (node == kNoNode) return FALSE;
-  std::optional<std::string> text;
-  if (info.item.pszText != nullptr) text = Narrow(info.item.pszText);
-  Later([this, node, text = std::move(text)] { treeEvents_.OnEdited(node, text); });
+  ended_.emplace(EndedEdit{node, std::nullopt});
+  if (info.item.pszText != nullptr) ended_->Text = Narrow(info.item.pszText);
+  Later([this] { TellEnded(); });
   // The program sets the text, if it takes it.
   return FALSE;
+}
+
+void Win32Tree::TellEnded() {
+  if (!ended_) return;
+  const EndedEdit edit = *std::exchange(ended_, std::nullopt);
+  treeEvents_.OnEdited(edit.Node, edit.Text);
 }
 
 bool Win32Tree::IsChecked(HTREEITEM item) const {
@@ -375,12 +381,14 @@ void Win32Tree::BeginEdit(NodeId node) {
 // The system's own call would take the text of an edit that is given up.
 void Win32Tree::EndEdit(bool commit) {
   const HWND edit = EditOf(handle_);
-  if (edited_ == kNoNode || edit == nullptr) return;
-  if (commit) {
-    SendMessageW(handle_, TVM_ENDEDITLABELNOW, FALSE, 0);
-  } else {
-    SendMessageW(edit, WM_KEYDOWN, VK_ESCAPE, 1);
+  if (edited_ != kNoNode && edit != nullptr) {
+    if (commit) {
+      SendMessageW(handle_, TVM_ENDEDITLABELNOW, FALSE, 0);
+    } else {
+      SendMessageW(edit, WM_KEYDOWN, VK_ESCAPE, 1);
+    }
   }
+  if (commit) TellEnded();
 }
 
 // Drags.

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -55,6 +56,7 @@ class Win32Tree final : public Win32Control {
   LRESULT Press(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT TellNotification(const NMHDR& header, LPARAM lParam);
   LRESULT TellEdited(const NMTVDISPINFOW& info);
+  void TellEnded();
   void CheckLater(forms::NodeId node);
   /// The user asks for the context menu with the right button.
   void AskForMenu(LPARAM lParam);
@@ -80,6 +82,12 @@ class Win32Tree final : public Win32Control {
   int presses_ = 0;  // of the system, that are under way
   bool destroyLater_ = false;
   forms::NodeId edited_ = forms::kNoNode;
+  /// An edit that has ended and was not told yet; without a text it was given up.
+  struct EndedEdit {
+    forms::NodeId Node;
+    std::optional<std::string> Text;
+  };
+  std::optional<EndedEdit> ended_;
   forms::NodeId dragged_ = forms::kNoNode;
   bool dragPicture_ = false;
   PixelPoint dragPoint_;

@@ -205,6 +205,8 @@ TEST_P(TreeContract, TheProgramEndsAnEditEitherWay) {
   Settle();
   home_->Type("kept");
   Tree.EndEdit(true);
+  EXPECT_EQ(Tree.Look(One).Text, "kept") << "whoever saves next saves it";
+  EXPECT_EQ(Tree.Edited(), kNoNode);
   Settle();
   EXPECT_EQ(Tree.Look(One).Text, "kept");
   Tree.BeginEdit(One);

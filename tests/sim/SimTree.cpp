@@ -359,15 +359,24 @@ void SimTree::BeginEdit(NodeId node) {
   Repaint();
 }
 
-void SimTree::EndEdit(bool commit) { FinishEdit(commit); }
+void SimTree::EndEdit(bool commit) {
+  FinishEdit(commit);
+  if (commit) TellEnded();
+}
 
 void SimTree::FinishEdit(bool commit) {
   const NodeId node = std::exchange(edited_, kNoNode);
   if (node == kNoNode) return;
   Repaint();
-  std::optional<std::string> text;
-  if (commit) text = edit_.Text();
-  Later([this, node, text = std::move(text)] { events_.OnEdited(node, text); });
+  ended_.emplace(EndedEdit{node, std::nullopt});
+  if (commit) ended_->Text = edit_.Text();
+  Later([this] { TellEnded(); });
+}
+
+void SimTree::TellEnded() {
+  if (!ended_) return;
+  const EndedEdit edit = *std::exchange(ended_, std::nullopt);
+  events_.OnEdited(edit.Node, edit.Text);
 }
 
 void SimTree::EditKey(int keyCode, forms::ShiftState shift) {

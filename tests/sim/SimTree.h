@@ -82,6 +82,7 @@ class SimTree final : public SimPeerOf<forms::TreePeer>, public SimControl {
   void TurnBox(forms::NodeId node);
   void EditKey(int keyCode, forms::ShiftState shift);
   void FinishEdit(bool commit);
+  void TellEnded();
   void EndDrag(PixelPoint at, bool dropped);
   void Repaint();
   /// Tells an event after the user's action, if the tree is still there.
@@ -95,6 +96,12 @@ class SimTree final : public SimPeerOf<forms::TreePeer>, public SimControl {
   std::vector<std::shared_ptr<SimCanvas>> images_;
   forms::NodeId selected_ = forms::kNoNode;
   forms::NodeId edited_ = forms::kNoNode;
+  /// An edit that has ended and was not told yet; without a text it was given up.
+  struct EndedEdit {
+    forms::NodeId Node;
+    std::optional<std::string> Text;
+  };
+  std::optional<EndedEdit> ended_;
   forms::NodeId dropTarget_ = forms::kNoNode;
   forms::NodeId insertMark_ = forms::kNoNode;
   bool insertAfter_ = false;
