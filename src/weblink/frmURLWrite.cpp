@@ -89,7 +89,9 @@ void frmURL::AppendItem(const std::string& menu, const std::string& file) {
   FileSystem& files = with_.Files;
   const EditOutcome outcome = AppendDropped(files, with_.Ansi, file, {RecordOf(*this)});
   StripMenusPort* const strip = with_.Ports.Toolbar;
-  if (outcome != EditOutcome::Edited || strip == nullptr) return;
+  if (outcome != EditOutcome::Edited) return;
+  with_.Ports.TellMenusEdited();
+  if (strip == nullptr) return;
   QMenuPort* const shown = with_.Ports.QMenu;
   const bool up =
       shown != nullptr && shown->MenuVisible() && EqualNoCase(shown->CurrentKey(), menu);

@@ -204,6 +204,27 @@ TEST(WebLinkTarget, AButtonWhoseMenuIsClosedGetsItAtTheEndOfItsFile) {
   EXPECT_EQ(desk.parts->Menu.Lbl[5].Caption(), "A page");
 }
 
+// The Customize window may be open beside the browser.
+TEST(WebLinkTarget, WhatIsAppendedToAMenuIsToldToWhoeverShowsTheMenus) {
+  struct NotedEdits : MenuEditsPort {
+    int Told = 0;
+    void MenusEdited() override { ++Told; }
+  };
+  LinkDesk desk;
+  NotedEdits edits;
+  desk.parts->TheProgram.Ports.MenuEdits = &edits;
+  desk.NoDialog();
+  desk.DropOnButton(2);
+  desk.WaitForDialog();
+  EXPECT_EQ(edits.Told, 1);
+  // A menu that cannot be written has not changed.
+  desk.world.Files.HoldOpen(kMenus + MenuFileName(1));
+  desk.DropOnButton(2);
+  desk.WaitForDialog();
+  EXPECT_EQ(edits.Told, 1);
+  desk.parts->TheProgram.Ports.MenuEdits = &desk.parts->Customize;
+}
+
 TEST(WebLinkTarget, BelowTheLastItemItGoesToTheEnd) {
   LinkDesk desk;
   desk.NoDialog();
