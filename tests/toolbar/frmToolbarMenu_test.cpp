@@ -232,6 +232,21 @@ TEST(ToolbarHover, WhileTheNextMenuIsBuiltNoMenuIsPolled) {
   EXPECT_TRUE(desk.Menu.Poll);
 }
 
+// Until the next menu is up there is nothing that a pointer could leave: 1 ms ticks would only take
+// time from the building.
+TEST(ToolbarHover, WhileTheNextMenuIsBuiltThePointerIsNotWatched) {
+  ThreeMenus desk;
+  desk.Click(2);
+  ASSERT_TRUE(desk.Strip.Timer2.Enabled());
+  bool watched = true;
+  desk.Menu.WhileBuilding = [&] { watched = desk.Strip.Timer2.Enabled(); };
+  desk.PointAtButton(3);
+  desk.Menu.WhileBuilding = {};
+  EXPECT_EQ(desk.MenuUp(), 3);
+  EXPECT_FALSE(watched);
+  EXPECT_TRUE(desk.Strip.Timer2.Enabled());
+}
+
 TEST(ToolbarHover, ThePollFindsAPointerWhoseMoveNobodyReported) {
   ThreeMenus desk;
   desk.Click(2);
