@@ -37,6 +37,13 @@ class LoadedWindow {
   [[nodiscard]] virtual bool WindowLoaded() const = 0;
 };
 
+/// A window with work that is not saved yet.
+class EditingWindow : public LoadedWindow {
+ public:
+  /// As its user closes it: it may ask, and stay. False when it stays.
+  [[nodiscard]] virtual bool CloseWindow() = 0;
+};
+
 /// A window that takes no input while a message of the program is up. A side without a window has
 /// nothing to do.
 class AskingWindow : public LoadedWindow {
@@ -493,7 +500,7 @@ struct WindowPorts {
   // Windows that are loaded on demand and closed at the end.
   LoadedWindow* NetSearch = nullptr;
   PropertiesPort* Properties = nullptr;
-  LoadedWindow* Customize = nullptr;
+  EditingWindow* Customize = nullptr;
   MenuEditsPort* MenuEdits = nullptr;
   LoadedWindow* ImageWindow = nullptr;
   LibraryPort* Library = nullptr;

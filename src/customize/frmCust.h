@@ -72,7 +72,7 @@ struct CustParts {
 /// one in three boxes, and the options of the program. What is changed is on the disk only after a
 /// save; what was not saved when the window closed is kept as a draft.
 class frmCust final : public forms::Form,
-                      public LoadedWindow,
+                      public EditingWindow,
                       public IconBoxPort,
                       public MenuEditsPort,
                       private CustHost {
@@ -83,6 +83,7 @@ class frmCust final : public forms::Form,
   void LoadWindow() override;
   /// Closes it, after asking about what is not saved; it cannot be kept open.
   void UnloadWindow() override;
+  [[nodiscard]] bool CloseWindow() override;
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   /// Takes what the strip or another window of the program changed in, as soon as that is done.
   void MenusEdited() override;

@@ -159,15 +159,21 @@ bool frmCust::SettleUnsaved(bool canStay) {
 }
 
 void frmCust::Form_QueryClose() {
-  if (!IsLoaded()) return;
   if (with_.Ports.Library != nullptr && with_.Ports.Library->WindowLoaded()) return;
+  static_cast<void>(CloseWindow());
+}
+
+bool frmCust::CloseWindow() {
+  if (!IsLoaded()) return true;
   TreeView1.EndEdit(true);
-  if (!SettleUnsaved(true) || !IsLoaded()) return;
-  Unload();
+  if (!SettleUnsaved(true)) return false;
+  if (IsLoaded()) Unload();
+  return true;
 }
 
 void frmCust::UnloadWindow() {
   if (!IsLoaded()) return;
+  TreeView1.EndEdit(true);
   SettleUnsaved(false);
   if (!IsLoaded()) return;
   Unload();

@@ -252,10 +252,9 @@ void frmProperties::ShowProperties(std::string_view title, std::string_view icon
                                    std::string_view command) {
   const EntryEdit entry = with_.Entry;
   // One of the two windows that edit is open at a time. The other one may ask, and stay.
-  LoadedWindow* const customize = with_.Ports.Customize;
+  EditingWindow* const customize = with_.Ports.Customize;
   if (customize != nullptr && customize->WindowLoaded()) {
-    customize->UnloadWindow();
-    if (customize->WindowLoaded()) return;
+    if (!customize->CloseWindow()) return;
     SetCurrentEntry(with_.Entry, entry);
   }
   if (!IsLoaded()) {

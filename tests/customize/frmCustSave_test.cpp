@@ -454,6 +454,26 @@ TEST(CustomizeWindow, DoesNotOpenOverMenusThatCannotBeRead) {
   EXPECT_FALSE(desk.world.Desktop.Boxes().empty());
 }
 
+TEST(CustomizeWindow, ACancelKeepsItOpenThoughPropertiesWereAskedFor) {
+  for (const int answer : {kYes, kNo, kCancel}) {
+    ChangedDesk desk;
+    desk.world.Desktop.Answer(kQuestion, answer);
+    desk.world.Desktop.ChooseFromPopup("Properties");
+    const SingleRect& button = desk.parts->Toolbar.Singles.SingleButtons[1];
+    const PixelRect row = desk.world.Desktop.BoundsOf(desk.parts->Toolbar.picSingleButton.hWnd());
+    const float twips = desk.world.Desktop.Screen().TwipsPerPixelX;
+    desk.ClickAt({row.left + static_cast<int>((button.Left + button.Width / 2) / twips),
+                  row.top + static_cast<int>((button.Top + button.Height / 2) / twips)},
+                 forms::MouseButton::Right);
+    EXPECT_EQ(desk.Form().IsLoaded(), answer == kCancel);
+    EXPECT_EQ(desk.parts->Properties.IsLoaded(), answer != kCancel);
+    EXPECT_EQ(desk.Stored(), answer == kYes ? kWithoutAnvil : kAtFirst);
+    if (answer != kCancel) continue;
+    EXPECT_TRUE(desk.Editor().TreeChanged);
+    EXPECT_EQ(desk.Shown(), kWithoutAnvil);
+  }
+}
+
 TEST(CustomizeWindow, AProgramThatEndsAsksAndGoesEvenIfTheUserCancels) {
   for (const int answer : {kYes, kNo, kCancel}) {
     ChangedDesk desk;

@@ -66,7 +66,7 @@ class NotedCompanion final : public MinimizePort {
   Program& program_;
 };
 
-class NotedWindow final : public LoadedWindow {
+class NotedWindow final : public EditingWindow {
  public:
   int Loads = 0;
   std::function<void()> WhileLoading;
@@ -75,6 +75,7 @@ class NotedWindow final : public LoadedWindow {
     if (WhileLoading) WhileLoading();
   }
   void UnloadWindow() override {}
+  bool CloseWindow() override { return false; }
   bool WindowLoaded() const override { return Loads > 0; }
 };
 

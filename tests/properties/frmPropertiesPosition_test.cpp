@@ -178,11 +178,15 @@ TEST_F(PropertiesPosition, AStripInTheTaskBarStaysThere) {
 class PropertiesWindow : public PropertiesDesk {};
 
 /// Another window that edits; it may refuse to go.
-struct NotedCustomize final : LoadedWindow {
+struct NotedCustomize final : EditingWindow {
   bool Loaded = true;
   bool Stays = false;
   void LoadWindow() override { Loaded = true; }
-  void UnloadWindow() override { Loaded = Stays; }
+  void UnloadWindow() override { Loaded = false; }
+  bool CloseWindow() override {
+    Loaded = Stays;
+    return !Loaded;
+  }
   bool WindowLoaded() const override { return Loaded; }
 };
 

@@ -11,13 +11,17 @@ namespace corvelle {
 namespace {
 
 /// A window that notes when it is unloaded.
-struct NotedWindow final : LoadedWindow {
+struct NotedWindow final : EditingWindow {
   NotedWindow(std::string name, std::vector<std::string>& order, bool loaded = true)
       : Name(std::move(name)), Order(order), Loaded(loaded) {}
   void LoadWindow() override { Loaded = true; }
   void UnloadWindow() override {
     Order.push_back(Name);
     Loaded = false;
+  }
+  bool CloseWindow() override {
+    ADD_FAILURE() << Name << " was asked whether it goes";
+    return false;
   }
   bool WindowLoaded() const override { return Loaded; }
   std::string Name;
