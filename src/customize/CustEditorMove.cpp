@@ -102,7 +102,7 @@ void CustEditor::AddFiles(const std::vector<std::string>& paths) {
   InsertAfter = true;
   FillWithFiles(paths);
   InsertAfter = false;
-  if (paths.size() > 1) TreeChanged = true;
+  TreeChanged = true;
 }
 
 void CustEditor::DropFiles(std::vector<std::string> names) {

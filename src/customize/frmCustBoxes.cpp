@@ -71,6 +71,10 @@ void frmCust::WireBoxes() {
   txtTitle.KeyDown = keys(false, false);
   txtFile.KeyDown = keys(true, false);
   txtCommand.KeyDown = keys(false, true);
+  // Whatever shows the boxes again shows what the user has typed so far.
+  for (forms::TextBox* box : {&txtTitle, &txtFile, &txtCommand}) {
+    box->Change = [this] { TakeBoxes(); };
+  }
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdBrowseFiles.Click = [this] { Browse(true); };
   cmdBrowseFolders.Click = [this] { Browse(false); };
@@ -123,7 +127,6 @@ void frmCust::ShowAddFileMsg() {
 void frmCust::Browse(bool files) {
   ShowAddFileMsg();
   if (Editor.OnRoot()) return TreeView1.SetFocus();
-  TakeBoxes();
   Editor.AddingEntry = true;
   Timer1.SetEnabled(false);
   Browsing = true;
@@ -197,6 +200,7 @@ void frmCust::SelectFolder() {
   Editor.Boxes.txtCommand = path;
   Editor.cmdOK();
   Editor.TreeChanged = true;
+  Browsing = false;
 }
 
 void frmCust::SelectFile() {

@@ -128,7 +128,6 @@ void frmCust::RunPopupLine(PopupLine line) {
 }
 
 void frmCust::Toolbar1_ButtonClick(const std::string& key) {
-  if (Browsing) return;
   Editor.CurIndex = Editor.Selected();
   for (const ToolCommand& command : kToolCommands) {
     if (command.Key == key) return Run(command.Run);

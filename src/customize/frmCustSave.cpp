@@ -42,7 +42,6 @@ void frmCust::cmdSave_Click() {
 bool frmCust::SaveTree() {
   TreeView1.EndEdit(true);
   Editor.SavingNow = true;
-  TakeBoxes();
   SaveResult result;
   DraftsAround around;
   {
@@ -181,6 +180,7 @@ void frmCust::UnloadWindow() {
 
 void frmCust::Form_SessionEnd() {
   if (!IsLoaded()) return;
+  TreeView1.EndEdit(true);
   KeepDraft();
   Unload();
 }

@@ -135,7 +135,7 @@ void frmCust::TakeBoxes() {
 }
 
 void frmCust::Run(Command command) {
-  TakeBoxes();
+  TreeView1.EndEdit(true);
   (Editor.*command)();
   if (!IsLoaded()) return;
   EndDrag();
@@ -153,7 +153,8 @@ void frmCust::Timer1_Timer() {
   Timer1.SetEnabled(false);
   Browsing = false;
   EndDrag();
-  ShowState();
+  // To select what is selected already would scroll the tree to it.
+  if (TreeView1.Selected() != tree_.IdOf(Editor.Selected())) ShowState();
   if (!messageWaits_) return;
   messageWaits_ = false;
   Say(kDropMessage, forms::msgbox::IconInformation);
@@ -168,6 +169,7 @@ void frmCust::TreeView1_NodeClick(CustRef node) {
   Editor.Select(node);
   Editor.UpdateEntryBoxes();
   ShowBoxes();
+  if (!TreeHeld()) UpdatePopupMenu(Editor, mnuPopup);
 }
 
 void frmCust::TreeView1_Expand(CustRef node) {
@@ -271,7 +273,6 @@ void frmCust::TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffe
     Timer1.SetEnabled(true);
     return;
   }
-  TakeBoxes();
   if (data.Files && !data.Files->empty()) {
     if (Editor.IsSeparator(Editor.Selected())) {
       // It says so, which cannot be done while the source waits.

@@ -37,6 +37,50 @@ TEST(CustomizeBoxes, EnterTakesThemIntoTheTree) {
   EXPECT_TRUE(desk.Form().txtTitle.HasFocus()) << "the user goes on typing";
 }
 
+// A second after a menu was opened the tree listens again.
+TEST(CustomizeBoxes, WhatIsTypedOutlivesTheTickAfterAMenuWasOpened) {
+  BoxDesk desk;
+  desk.ClickAt(desk.Expander("Letters"));
+  desk.Fill(desk.Form().txtTitle, "Mal");
+  desk.world.Desktop.Advance(1100);
+  desk.world.Desktop.Type("let");
+  EXPECT_EQ(desk.Form().txtTitle.Text(), "Mallet");
+  desk.world.Desktop.PressKey(key::Enter);
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Mallet Anvil) | Clock Paint");
+}
+
+TEST(CustomizeBoxes, AnotherTitleCanBeTypedAtOnceBehindAChosenFile) {
+  BoxDesk desk;
+  desk.world.Desktop.ChooseFiles({"C:\\Tools\\Edit.exe"});
+  desk.ClickControl(desk.Form().cmdBrowseFiles);
+  ASSERT_TRUE(desk.Form().txtTitle.HasFocus());
+  desk.Form().txtTitle.SelectAll();
+  desk.world.Desktop.Type("Wri");
+  desk.world.Desktop.Advance(1100);
+  desk.world.Desktop.Type("te");
+  EXPECT_EQ(desk.Boxes(), "Write;C:\\Tools\\Edit.exe;C:\\Tools\\Edit.exe");
+}
+
+TEST(CustomizeBoxes, WhatIsTypedOutlivesAnEditMadeElsewhere) {
+  BoxDesk desk;
+  desk.Fill(desk.Form().txtCommand, "C:\\Tools\\other.exe");
+  desk.Put(SingleFileName(2), {CustDesk::Entry("Edit")});
+  desk.parts->TheProgram.Ports.TellMenusEdited();
+  desk.world.Desktop.Advance(200);
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Hammer Anvil) | Clock Edit");
+  EXPECT_EQ(desk.Boxes(), "Hammer;C:\\Tools\\Hammer.exe;C:\\Tools\\other.exe");
+}
+
+TEST(CustomizeBoxes, ARenameInTheTreeLeavesWhatIsTypedInTheOthers) {
+  BoxDesk desk;
+  desk.Fill(desk.Form().txtCommand, "C:\\Tools\\other.exe");
+  desk.Form().TreeView1.SetFocus();
+  desk.world.Desktop.PressKey(key::F2);
+  desk.world.Desktop.Type("Mallet");
+  desk.world.Desktop.PressKey(key::Enter);
+  EXPECT_EQ(desk.Boxes(), "Mallet;C:\\Tools\\Hammer.exe;C:\\Tools\\other.exe");
+}
+
 TEST(CustomizeBoxes, AnAddressGetsItsSchemeAndTheIconOfWebLinks) {
   BoxDesk desk;
   desk.Fill(desk.Form().txtFile, "C:\\gone.ico");
@@ -109,6 +153,28 @@ TEST(CustomizeBoxes, WhileADialogIsUpTheTreeDoesNothing) {
   EXPECT_FALSE(desk.Form().Browsing);
   desk.ClickNode("Anvil");
   EXPECT_EQ(desk.Selected(), "Anvil");
+}
+
+TEST(CustomizeBoxes, TheToolBarAnswersRightBehindADialog) {
+  for (const bool folder : {false, true}) {
+    BoxDesk desk;
+    desk.world.Files.MakeFolders("C:\\Work");
+    desk.world.Desktop.ChooseFiles({"C:\\Tools\\Edit.exe"});
+    desk.world.Desktop.ChooseFolder({.Chosen = true, .Path = "C:\\Work"});
+    desk.ClickControl(folder ? desk.Form().cmdBrowseFolders : desk.Form().cmdBrowseFiles);
+    desk.Tool("new");
+    EXPECT_EQ(desk.Selected(), "New Menu Item") << folder;
+  }
+}
+
+TEST(CustomizeBoxes, TheTreeSelectsRightBehindAFolder) {
+  BoxDesk desk;
+  desk.world.Files.MakeFolders("C:\\Work");
+  desk.world.Desktop.ChooseFolder({.Chosen = true, .Path = "C:\\Work"});
+  desk.ClickControl(desk.Form().cmdBrowseFolders);
+  desk.ClickNode("Anvil");
+  EXPECT_EQ(desk.Selected(), "Anvil");
+  EXPECT_EQ(desk.Form().txtTitle.Text(), "Anvil");
 }
 
 TEST(CustomizeBoxes, TheWindowMayCloseWhileADialogIsUp) {

@@ -86,6 +86,28 @@ TEST(CustomizePopup, ItsChoicesAreCarriedOut) {
             "Clock Paint");
 }
 
+// What the table of a selection leaves alone is as the selection before left it, whichever way that
+// one was made.
+TEST(CustomizePopup, TheFolderModulesOfAnItemAreAsTheSelectionBeforeLeftThem) {
+  CustDesk desk;
+  desk.Expand("Tools");
+  const auto offers = [&desk] {
+    desk.ClickAt(desk.Label("Hammer"), forms::MouseButton::Right);
+    const forms::PopupItem& modules = desk.world.Desktop.Popups().back().Items.front();
+    for (const forms::PopupItem& line : modules.Items) {
+      if (line.Caption.find("Printers") != std::string::npos) return line.Enabled;
+    }
+    ADD_FAILURE() << "no line for the printers";
+    return false;
+  };
+  desk.ClickNode("Letters");
+  EXPECT_TRUE(offers());
+  desk.ClickNode("Single Buttons");
+  EXPECT_FALSE(offers());
+  desk.ClickNode("Letters");
+  EXPECT_TRUE(offers());
+}
+
 TEST(CustomizePopup, HideIsCheckedOnceTheButtonIsHidden) {
   CustDesk desk;
   desk.Popup("Tools", "Hide Button");

@@ -67,6 +67,29 @@ TEST(CustomizeSave, TakesWhatStandsInTheBoxes) {
   EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Hammer Block) | Clock Paint");
 }
 
+// A menu bar takes no focus, so that the label is still being typed.
+TEST(CustomizeSave, TakesALabelThatIsBeingTyped) {
+  CustDesk desk;
+  desk.Expand("Tools");
+  desk.ClickNode("Anvil");
+  desk.world.Desktop.PressKey(key::F2);
+  desk.world.Desktop.Type("Block");
+  desk.MenuBar("File", "Update Toolbar");
+  EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Hammer Block) | Clock Paint");
+}
+
+TEST(CustomizeSave, AfterTheFirstOneAFileThatIsAddedIsAskedAboutAsAFolderIs) {
+  ChangedDesk desk;
+  desk.ClickControl(desk.Form().cmdSave);
+  desk.ClickNode("Hammer");
+  desk.world.Desktop.ChooseFiles({"C:\\Tools\\Edit.exe"});
+  desk.ClickControl(desk.Form().cmdBrowseFiles);
+  desk.world.Desktop.Answer(kQuestion, kNo);
+  desk.Close();
+  EXPECT_FALSE(desk.Form().IsLoaded());
+  ASSERT_EQ(desk.world.Desktop.Boxes().size(), 1U);
+}
+
 TEST(CustomizeSave, KeepsTheGapAtTheRightOfAFloatingStrip) {
   ChangedDesk desk;
   ASSERT_FALSE(desk.parts->TheProgram.Strip.AppBarDocked);
@@ -94,8 +117,13 @@ TEST(CustomizeSave, AFailureTellsClosesTheWindowAndLeavesTheOldMenus) {
   ChangedDesk desk;
   desk.world.Files.HoldOpen(CustDesk::kMenus + MenuFileName(2), sim::SimFiles::Hold::ForReading);
   desk.world.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk.world.Desktop.WhileBoxIsUp(
+      [&desk](const sim::MessageBox&) { desk.Put(SingleFileName(3), {CustDesk::Entry("Edit")}); });
   desk.ClickControl(desk.Form().cmdSave);
+  desk.world.Desktop.WhileBoxIsUp({});
   EXPECT_FALSE(desk.Form().IsLoaded());
+  EXPECT_EQ(desk.parts->Toolbar.Singles.SingleCount, 3) << "the strip reads its files again";
+  EXPECT_TRUE(desk.world.Files.Remove(CustDesk::kMenus + SingleFileName(3)));
   EXPECT_EQ(desk.Stored(), kAtFirst);
   ASSERT_FALSE(desk.world.Desktop.Boxes().empty());
   const std::string text = desk.world.Desktop.Boxes().back().Text;
@@ -154,6 +182,35 @@ TEST(CustomizeDraft, ARenameAloneAsksNothingAndIsOfferedTheNextTime) {
   desk.Close();
   desk.Open();
   EXPECT_FALSE(desk.Form().cmdShowDraft.Visible());
+}
+
+// However the window closes.
+TEST(CustomizeDraft, ALabelThatIsBeingTypedIsInIt) {
+  using Closing = void (*)(CustDesk&);
+  const Closing closings[] = {
+      [](CustDesk& desk) {
+        const PixelRect at = desk.world.Desktop.BoundsOf(desk.Form().hWnd());
+        desk.ClickAt({at.right - 16, at.top + 14});
+      },
+      [](CustDesk& desk) { desk.Form().UnloadWindow(); },
+      [](CustDesk& desk) { desk.world.Desktop.EndSession(); },
+  };
+  for (const Closing& close : closings) {
+    SCOPED_TRACE(&close - closings);
+    CustDesk desk;
+    desk.Expand("Tools");
+    desk.ClickNode("Anvil");
+    desk.world.Desktop.PressKey(key::F2);
+    desk.world.Desktop.Type("Block");
+    close(desk);
+    EXPECT_FALSE(desk.Form().IsLoaded());
+    EXPECT_EQ(desk.Stored(), kAtFirst);
+    const auto files = ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus);
+    ASSERT_TRUE(files);
+    const auto draft = OfferDraft(desk.world.Files, CustDesk::kMenus, *files);
+    ASSERT_TRUE(draft.has_value());
+    EXPECT_EQ((*draft).Menus.at(1).Items.back().FTitle, "Block");
+  }
 }
 
 TEST(CustomizeDraft, ForgetDropsIt) {

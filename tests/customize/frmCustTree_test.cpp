@@ -152,6 +152,36 @@ TEST(CustomizeTree, RenamesByF2AndByAClickOnTheSelectedLabel) {
   EXPECT_FALSE(desk.Editor().TreeChanged);
 }
 
+// A tool bar takes no focus, so that the label is still being typed.
+TEST(CustomizeTree, ALabelThatIsBeingTypedIsTakenBeforeACommandOfTheToolBar) {
+  CustDesk desk;
+  desk.Expand("Tools");
+  desk.ClickNode("Anvil");
+  desk.world.Desktop.PressKey(key::F2);
+  desk.world.Desktop.Type("Block");
+  desk.Tool("up");
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Block Hammer) | Clock Paint");
+  EXPECT_EQ(desk.Form().txtTitle.Text(), "Block");
+}
+
+TEST(CustomizeTree, TheTickAfterAMenuWasOpenedDoesNotScroll) {
+  CustDesk desk;
+  for (int i = 3; i <= 60; ++i) {
+    desk.PutMenu(i, {"Menu" + std::to_string(i), "Button", ""}, {CustDesk::Entry("Saw")});
+  }
+  desk.Form().Unload();
+  desk.Open();
+  ASSERT_EQ(desk.Selected(), "Menu Buttons");
+  forms::TreeView& tree = desk.Form().TreeView1;
+  tree.SetFirstVisible(desk.Node("Menu40"));
+  desk.ClickAt(desk.Expander("Menu42"));
+  ASSERT_TRUE(tree.IsExpanded(desk.Node("Menu42")));
+  const forms::NodeId first = tree.FirstVisible();
+  desk.world.Desktop.Advance(1100);
+  EXPECT_EQ(tree.FirstVisible(), first);
+  EXPECT_NE(first, desk.Node("Menu Buttons"));
+}
+
 TEST(CustomizeTree, ASeparatorRefusesARenameAndARootHasNone) {
   CustDesk desk;
   desk.Expand("Letters");
