@@ -355,6 +355,21 @@ TEST_F(Painted, IconsThatAreForgottenWhileOneIsFetchedAreFetchedAgain) {
   EXPECT_GE(asked, 3);
 }
 
+// The shell loads its list of icons when it is first drawn from.
+TEST_F(Painted, IconsThatAreForgottenWhileOneOfTheShellsListIsDrawnAreDrawnAgain) {
+  int drawn = 0;
+  desk_.World.Icons.WhileDrawn([&] {
+    if (drawn++ < 3) desk_.Menu.ResetPicIcons();
+  });
+  std::vector<MenuRecord> items = Tools(2);
+  for (int i = 0; i < 3; ++i) items.push_back(Item("Of the shell", std::to_string(20 + i)));
+  desk_.Open(1, items);
+  desk_.World.Desktop.Advance(200);
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(IconColour(i + 1), ToolColour(i)) << i;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(IconColour(i + 3), SimShellIcons::ColourOf(20 + i)) << i;
+  EXPECT_GE(drawn, 3);
+}
+
 TEST_F(Painted, AnotherMenuThatIsAskedForWhileAPageIsDrawnFromTheCacheComesAfterwards) {
   desk_.Open(1, Tools(3));
   desk_.Open(2, {Item("Other", Tool(9))});

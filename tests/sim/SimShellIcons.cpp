@@ -133,6 +133,7 @@ int SimShellIcons::IconWidth(IconList list) { return list == IconList::Small ? 1
 bool SimShellIcons::DrawSystemIcon(Canvas& canvas, IconList list, int index, PixelPoint at,
                                    IconStyle style) {
   ++draws_;
+  if (const auto action = drawAction_) action();
   if (index < 0) return false;
   const int size = SizeOf(list);
   const Rgb colour = ColourOf(index);

@@ -51,6 +51,8 @@ class SimShellIcons final : public ShellIcons, public Priced {
   [[nodiscard]] const std::vector<std::string>& Asked(IconList list) { return asked_[list]; }
   /// Runs at the beginning of each lookup.
   void WhileAsked(std::function<void()> action) { action_ = std::move(action); }
+  /// Runs at the beginning of each drawing from the system's list.
+  void WhileDrawn(std::function<void()> action) { drawAction_ = std::move(action); }
 
   std::optional<ShellFileInfo> FileInfo(std::string_view path, IconList list) override;
   std::optional<std::string> DisplayName(std::string_view path) override;
@@ -79,6 +81,7 @@ class SimShellIcons final : public ShellIcons, public Priced {
   std::set<std::pair<std::string, int>> resources_;
   std::map<IconList, std::vector<std::string>> asked_;
   std::function<void()> action_;
+  std::function<void()> drawAction_;
   int nextIndex_ = 100;
   int large_ = 32;
   int lookups_ = 0;

@@ -355,8 +355,14 @@ int MenuIcons::LoadSystemIcon(int index) {
   const std::string key = "i" + std::to_string(index);
   const auto known = colIconIndex_.find(key);
   if (known != colIconIndex_.end()) return known->second;
-  const int cell = AddCell([&](Canvas& strip, PixelPoint at) {
-    return from_.Shell.DrawSystemIcon(strip, IconList::Small, index, at, IconStyle::Normal);
+  // The shell loads its list when it is first drawn from, and may let messages in that empty the
+  // strip.
+  const std::unique_ptr<Canvas> icon = from_.Windows.CreateCanvas({kCell, kCell});
+  icon->FillBox({0, 0, kCell, kCell}, forms::Resolve(from_.Windows, forms::color::ButtonFace));
+  // A number without an icon keeps its empty cell, and is not asked for again.
+  from_.Shell.DrawSystemIcon(*icon, IconList::Small, index, {0, 0}, IconStyle::Normal);
+  const int cell = AddCell([&icon](Canvas& strip, PixelPoint at) {
+    strip.DrawCanvas(*icon, {0, 0, kCell, kCell}, at);
   });
   colIconIndex_.emplace(key, cell);
   return cell;
@@ -365,18 +371,14 @@ int MenuIcons::LoadSystemIcon(int index) {
 int MenuIcons::CellOf(const IconPixels& pixels) {
   const auto [known, isNew] = cellsByPixels_.try_emplace(DigestOf(pixels), cells_);
   if (!isNew) return known->second;
-  return AddCell([&](Canvas& strip, PixelPoint at) {
-    strip.DrawPixels(pixels, at);
-    return true;
-  });
+  return AddCell([&](Canvas& strip, PixelPoint at) { strip.DrawPixels(pixels, at); });
 }
 
-int MenuIcons::AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw) {
+int MenuIcons::AddCell(const std::function<void(Canvas&, PixelPoint)>& draw) {
   MakeRoom();
   const PixelPoint at{cells_ * kCell, 0};
   picIcons_->FillBox(RectAt(at, {kCell, kCell}),
                      forms::Resolve(from_.Windows, forms::color::ButtonFace));
-  // What has no icon at all keeps its empty cell, and is not asked for again.
   draw(*picIcons_, at);
   return cells_++;
 }

@@ -120,7 +120,7 @@ class MenuIcons {
   /// The cell of a picture, which all texts that mean the same share.
   int CellOf(const IconPixels& pixels);
   /// Draws on a cell of the menu's ground and appends it to the strip.
-  int AddCell(const std::function<bool(Canvas&, PixelPoint)>& draw);
+  int AddCell(const std::function<void(Canvas&, PixelPoint)>& draw);
   void MakeRoom();
 
   const IconSources& from_;
