@@ -45,14 +45,38 @@ build_windows() {
 }
 build_windows32() { configure windows32 && build windows32 corvelle_package; }
 
+# The system lays programs out at random addresses, and where it does so over 32 bits the address sanitizer of this
+# compiler dies at its start now and then.
+at_fixed_addresses() {
+  if setarch "$(uname -m)" -R true 2>/dev/null; then
+    setarch "$(uname -m)" -R "$@"
+  else
+    "$@"
+  fi
+}
+
+# Where tests write their files: in memory where it has a gigabyte to spare, since a disk is waited for.
+memory_or_disk() {
+  local free
+  free=$(df --output=avail -k /dev/shm 2>/dev/null | tail -n 1)
+  if [ -w /dev/shm ] && [ "${free:-0}" -gt 1000000 ]; then
+    echo /dev/shm
+  else
+    echo "${TMPDIR:-/tmp}"
+  fi
+}
+
 run_native() {
   # Beside the fixed ones, two monkeys of each run have seeds of their own: this number and 1 or 2.
   export CORVELLE_MONKEY_SEED="${CORVELLE_MONKEY_SEED:-$(date +%s)}"
   say "the monkeys' own seeds: $((CORVELLE_MONKEY_SEED + 1)) and $((CORVELLE_MONKEY_SEED + 2))"
   rm -rf build/asan/results build/asan/ctest.xml
-  GTEST_OUTPUT="xml:$PWD/build/asan/results/" ctest --test-dir build/asan -j "$CMAKE_BUILD_PARALLEL_LEVEL" \
-    --output-on-failure --no-tests=error --output-junit "$PWD/build/asan/ctest.xml" >build/asan-tests.log 2>&1 ||
-    cat build/asan-tests.log
+  local files
+  files=$(mktemp -d "$(memory_or_disk)/corvelle-tests.XXXXXX") || return 1
+  TMPDIR=$files GTEST_OUTPUT="xml:$PWD/build/asan/results/" at_fixed_addresses ctest --test-dir build/asan \
+    -j "$CMAKE_BUILD_PARALLEL_LEVEL" --output-on-failure --no-tests=error \
+    --output-junit "$PWD/build/asan/ctest.xml" >build/asan-tests.log 2>&1 || cat build/asan-tests.log
+  rm -rf "$files"
   python3 tools/totals.py build/asan/ctest.xml build/asan/results | tee build/native-totals.txt
   add "$(tail -n 1 build/native-totals.txt)"
 }
