@@ -125,8 +125,8 @@ class StripContentsPort {
   virtual void MarkCollections() = 0;
   /// Room between the strip's right end and the screen's, twips.
   [[nodiscard]] virtual float FreeWidth() const = 0;
-  /// Sizes the strip after its buttons changed in number; a floating strip keeps its right end, so
-  /// that `freeWidth` (as it was before) stays free.
+  /// Sizes the strip after its buttons changed in number, and brings back one that is a line; a
+  /// floating strip keeps its right end, so that `freeWidth` (as it was before) stays free.
   virtual void ResizeAfterEdit(float freeWidth) = 0;
   /// The date at the far end of the single buttons: shown, hidden and placed; its text.
   virtual void DoLabelDate() = 0;

@@ -127,11 +127,13 @@ void ButtonRow::DrawButtonIcon(const std::string& iconText, const ButtonRect& bu
 
 void ButtonRow::DoToolbarButtons() {
   forms::PictureBox& box = controls_.picToolbar;
+  const bool visible = box.Visible();
   box.SetVisible(false);
   const TwipSize size = Make();
   box.Move(box.Left(), box.Top(), size.Width, size.Height);
   DrawIcons();
-  box.SetVisible(true);
+  // A strip that is a line shows nothing.
+  box.SetVisible(visible);
 }
 
 void ButtonRow::Refresh() {

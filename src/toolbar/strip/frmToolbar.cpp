@@ -258,6 +258,7 @@ void frmToolbar::InitButtons() {
   Buttons.MakeTemplates();
   OfferDefaultEntries();
   if (!IsLoaded()) return;
+  ShowContents();
   DoToolbarButtons();
   DoSingleButtons();
   SetToolbar();

@@ -18,7 +18,6 @@ void frmToolbar::RefreshToolbar() {
   // Other buttons than those there were: they need other places.
   const bool others = Buttons.ButtonCount != buttons || Buttons.SepCount != separators;
   if (others) DoToolbarButtons();
-  picToolbar.SetVisible(visible);
   picToolbar.Refresh();
   Singles.RefreshSingleButtons();
   picSingleButton.Refresh();

@@ -127,6 +127,8 @@ void frmToolbar::DrawBorders() {
 float frmToolbar::FreeWidth() const { return Screen().Width - (Left() + Width()); }
 
 void frmToolbar::ResizeAfterEdit(float freeWidth) {
+  // One that hid while the user was asked has a line's bounds.
+  if (program_.Ports.Docking != nullptr) program_.Ports.Docking->RevealToolbar();
   SetControls();
   if (Shape().Where == Placement::TopHugging) {
     SavedLeft = std::max(Screen().Width - freeWidth - Width(), 0.0F);

@@ -1,0 +1,98 @@
+// Auto Hide: what the user changes on a strip that has become a line meanwhile.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "toolbar/DockDesk.h"
+#include "toolbar/companion/Popup.h"
+
+namespace corvelle {
+namespace {
+
+constexpr char kDeletesAButton[] =
+    "If you delete a button, you cannot Undo Delete. Do you want to continue ?";
+
+struct EditRow {
+  const char* name;
+  Edge at;
+  PixelRect line;
+  PixelRect revealed;
+  PixelPoint touch;
+};
+
+const EditRow kEditRows[] = {
+    {"top", Edge::Top, {0, 0, 1024, 1}, {0, -3, 1024, 38}, {500, 0}},
+    {"bottom", Edge::Bottom, {0, 767, 1024, 768}, {0, 726, 1024, 768}, {500, 767}},
+    {"left", Edge::Left, {0, 0, 1, 768}, {0, 0, 41, 768}, {0, 400}},
+    {"right", Edge::Right, {1023, 0, 1024, 768}, {982, 0, 1024, 768}, {1023, 400}}};
+
+/// A strip that hides, with the popup of right clicks.
+struct EditDesk : DockDesk {
+  EditDesk() {
+    TheProgram.Ports.Popup = &ThePopup;
+    SetOption(Option::AutoHide, true);
+  }
+  /// Chooses "Delete Item" for a button, and answers Yes when the strip has gone.
+  void DeleteWhenHidden(int button) {
+    World.Desktop.WhileBoxIsUp([this](const sim::MessageBox&) {
+      PointAt({500, 400});
+      Poll();
+      EXPECT_TRUE(IsLine());
+    });
+    World.Desktop.Answer(kDeletesAButton, forms::msgbox::AnswerYes);
+    World.Desktop.ChooseFromPopup("Delete Item");
+    PointAtButton(button);
+    Wait();
+    World.Desktop.Click(forms::MouseButton::Right);
+  }
+
+  Popup ThePopup{PopupPartsOf(TheProgram)};
+};
+
+TEST(AutoHideEdits, AButtonThatIsDeletedWhenTheStripHasGoneLeavesAWholeStrip) {
+  for (const EditRow& row : kEditRows) {
+    SCOPED_TRACE(row.name);
+    EditDesk desk;
+    desk.StartAt(row.at);
+    desk.DeleteWhenHidden(3);
+    EXPECT_EQ(desk.Strip.Buttons.ButtonCount, 5);
+    EXPECT_EQ(desk.Bounds(), row.revealed);
+    EXPECT_TRUE(desk.Strip.picSingleButton.Visible());
+    // It has the keyboard again.
+    desk.Poll();
+    EXPECT_EQ(desk.Bounds(), row.revealed);
+    desk.GoElsewhere();
+    desk.Poll();
+    EXPECT_TRUE(desk.IsLine());
+    EXPECT_EQ(desk.Bounds(), row.line);
+    desk.PointAt(row.touch);
+    desk.Poll();
+    EXPECT_EQ(desk.Bounds(), row.revealed);
+    EXPECT_TRUE(desk.Strip.picToolbar.Visible());
+    EXPECT_TRUE(desk.Strip.picSingleButton.Visible());
+  }
+}
+
+TEST(AutoHideEdits, AFloatingStripKeepsItsRightEndWhenAButtonIsDeleted) {
+  EditDesk desk;
+  desk.Start();
+  const PixelRect before = desk.Bounds();
+  desk.DeleteWhenHidden(3);
+  const PixelRect after = desk.Bounds();
+  EXPECT_EQ(after.right, before.right);
+  EXPECT_EQ(after.top, before.top);
+  EXPECT_EQ(after.bottom, before.bottom);
+  EXPECT_GT(after.left, before.left);
+  EXPECT_TRUE(desk.Strip.picSingleButton.Visible());
+  desk.GoElsewhere();
+  desk.Poll();
+  EXPECT_TRUE(desk.IsLine());
+  EXPECT_EQ(desk.Bounds(), (PixelRect{after.left, 0, after.right, 1}));
+  desk.PointAt({after.left + 20, 0});
+  desk.Poll();
+  EXPECT_EQ(desk.Bounds(), after);
+}
+
+}  // namespace
+}  // namespace corvelle
