@@ -94,5 +94,38 @@ TEST(AutoHideEdits, AFloatingStripKeepsItsRightEndWhenAButtonIsDeleted) {
   EXPECT_EQ(desk.Bounds(), after);
 }
 
+TEST(AutoHideEdits, FilesAndOptionsThatChangeLeaveALineBare) {
+  for (const bool floats : {true, false}) {
+    SCOPED_TRACE(floats);
+    EditDesk desk;
+    const std::string menus = "C:\\Corvelle\\Menus\\";
+    for (int i = 1; i <= 3; ++i) {
+      desk.World.Files.Put(menus + SingleFileName(i), Records({Entry("s", "", "C:\\s.exe")}));
+    }
+    if (floats) {
+      desk.Start();
+    } else {
+      desk.StartAt(Edge::Bottom);
+    }
+    desk.GoElsewhere();
+    desk.Poll();
+    ASSERT_TRUE(desk.IsLine());
+    desk.World.Files.Vanish(menus + SingleFileName(2));
+    desk.World.Desktop.SetSystemColor(15, 0x00123456);
+    desk.World.Desktop.Pump();
+    EXPECT_EQ(desk.Strip.Singles.SingleCount, 2);
+    EXPECT_TRUE(desk.IsLine());
+    EXPECT_EQ(desk.Bounds().Height(), 1);
+    // As "Auto Adjust" in the options of Customize.
+    desk.Strip.AdjustToolbarPosition();
+    EXPECT_TRUE(desk.IsLine());
+    EXPECT_EQ(desk.Bounds().Height(), 1);
+    desk.PointAt({desk.Bounds().left + 20, desk.Bounds().top});
+    desk.Poll();
+    EXPECT_TRUE(desk.Strip.bLine1.Visible());
+    EXPECT_TRUE(desk.Strip.picSingleButton.Visible());
+  }
+}
+
 }  // namespace
 }  // namespace corvelle

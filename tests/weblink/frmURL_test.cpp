@@ -1,5 +1,8 @@
 #include "weblink/frmURL.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "weblink/LinkDesk.h"
 
 namespace corvelle {
@@ -178,6 +181,53 @@ TEST(WebLinkTarget, ASingleButtonUnderTheDropGetsANeighbourBeforeIt) {
   desk.Click("cmdOK");
   EXPECT_EQ(desk.Singles(), (Names{"one", "A page", "two", "three", "four"}));
   EXPECT_EQ(desk.parts->Toolbar.Singles.SingleCount, 5);
+}
+
+TEST(WebLinkTarget, AStripThatHidMeanwhileComesBackWithTheNewButtonInItsPlace) {
+  struct Row {
+    const char* name;
+    std::optional<Edge> at;
+    PixelPoint touch;
+  };
+  for (const Row& row : {Row{"floating", std::nullopt, {}}, Row{"top", Edge::Top, {500, 0}},
+                         Row{"bottom", Edge::Bottom, {500, 767}}, Row{"left", Edge::Left, {0, 400}},
+                         Row{"right", Edge::Right, {1023, 400}}}) {
+    SCOPED_TRACE(row.name);
+    LinkDesk desk;
+    frmToolbar& strip = desk.parts->Toolbar;
+    const auto bounds = [&] { return desk.world.Desktop.BoundsOf(strip.hWnd()); };
+    desk.parts->TheProgram.OptionFlags.Set(Option::AutoHide, true);
+    desk.parts->TheProgram.Strip.AutoHide = true;
+    if (row.at) desk.parts->Docking.SetAppBar(*row.at, true);
+    desk.parts->Docking.RevealToolbar();
+    strip.WatchHiding(true);
+    PixelRect whole = bounds();
+    desk.DropOnSingle(2);
+    desk.WaitForDialog();
+    desk.PointAt({500, 600});
+    desk.world.Desktop.Advance(300);
+    ASSERT_FALSE(strip.picToolbar.Visible());
+    desk.PressKey(forms::key::Enter);
+    EXPECT_EQ(desk.Singles(), (Names{"one", "A page", "two", "three", "four"}));
+    if (!row.at) whole.left -= 18;
+    EXPECT_EQ(bounds(), whole);
+    EXPECT_TRUE(strip.picToolbar.Visible());
+    EXPECT_TRUE(strip.picSingleButton.Visible());
+    const SingleRect& last = strip.Singles.SingleButtons.back();
+    EXPECT_LE(last.Right(), strip.picSingleButton.Width());
+    EXPECT_LE(last.Bottom(), strip.picSingleButton.Height());
+    // The pointer is elsewhere: the line is bare, and gives way to the same strip.
+    desk.world.Desktop.TakeForeground(
+        desk.world.Desktop.AddOtherWindow({.Title = "Work", .Bounds = {300, 200, 700, 650}}));
+    desk.world.Desktop.Advance(300);
+    EXPECT_FALSE(strip.picToolbar.Visible());
+    EXPECT_FALSE(strip.bLine1.Visible());
+    EXPECT_EQ(std::min(bounds().Width(), bounds().Height()), 1);
+    desk.PointAt(row.at ? row.touch : PixelPoint{whole.left + 20, 0});
+    desk.world.Desktop.Advance(300);
+    EXPECT_EQ(bounds(), whole);
+    EXPECT_TRUE(strip.picSingleButton.Visible());
+  }
 }
 
 TEST(WebLinkTarget, BehindTheSingleButtonsItBecomesANewOne) {

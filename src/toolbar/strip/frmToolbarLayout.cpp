@@ -101,6 +101,8 @@ void frmToolbar::ShowBorder(forms::Line& line, const BorderLine& border) {
 }
 
 void frmToolbar::DrawBorders() {
+  // A strip that is a line shows nothing.
+  if (!ContentsVisible()) return;
   ReadTwips();
   if (LinTB1.Has(1)) {
     LinTB1[1].SetBorderColor(forms::color::Highlight3D);
