@@ -275,7 +275,7 @@ bool mAppBar::AppBarPosChanged() {
   if (place.Reserved != before || keepsRoom != keepsRoom_) {
     if (keepsRoom) place = KeepPlace(at, bar, lifts);
     MoveWindow(BarWindow(at, place, bar));
-    StretchSingles(at);
+    ResizeToEdge();
     with_.Events.DoEvents();
     if (!window_.IsLoaded()) return true;
   }
