@@ -145,8 +145,9 @@ void mAppBar::TurnTo(Edge edge, bool rebuild) {
   }
   if (vertical && with_.Options.Is(Option::LargeIcons) && with_.Options.Is(Option::SmallSingles)) {
     strip_.DoSingleButtons();
-    strip_.SetControls();
   }
+  // The room is asked for by the thickness that the strip has at that edge.
+  if (strip_.ContentsVisible()) strip_.SetControls();
 }
 
 void mAppBar::PlaceAt(Edge at) {
