@@ -100,6 +100,28 @@ TEST(CustomizeSave, KeepsTheGapAtTheRightOfAFloatingStrip) {
   EXPECT_FLOAT_EQ(desk.parts->Toolbar.FreeWidth(), gap);
 }
 
+TEST(CustomizeSave, WhileADockedStripIsInTheTaskBarLeavesItsFloatingPlace) {
+  ChangedDesk desk;
+  frmToolbar& strip = desk.parts->Toolbar;
+  strip.SetLeft(3000);
+  strip.AdjustToolbarPosition();
+  desk.parts->Docking.SetAppBar(Edge::Right, true);
+  const TwipRect docked = strip.Bounds();
+  const int before = strip.Buttons.ButtonCount;
+  desk.parts->Companion.MinimizeFor(docked);
+  desk.world.Desktop.Advance(300);
+  desk.ClickNode("Letters");
+  desk.Tool("button");
+  desk.ClickControl(desk.Form().cmdSave);
+  EXPECT_FALSE(strip.Visible());
+  desk.parts->Companion.RestoreWindow();
+  desk.world.Desktop.Advance(600);
+  EXPECT_EQ(strip.Bounds(), docked);
+  EXPECT_EQ(strip.Buttons.ButtonCount, before + 1);
+  strip.RestoreToolbar();
+  EXPECT_EQ(strip.Left(), 3000);
+}
+
 TEST(CustomizeSave, AfterTheFirstOneAConfirmedBoxAsksNothing) {
   ChangedDesk desk;
   desk.ClickControl(desk.Form().cmdSave);

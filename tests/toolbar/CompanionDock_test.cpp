@@ -87,6 +87,72 @@ TEST(CompanionDock, ASecondStartWhileTheMessageOfATakenSideIsUpChangesNothingOfT
   EXPECT_EQ(desk.WakeUps(2000), 0);
 }
 
+TEST(CompanionDock, WhatHappensToADockedStripInTheTaskBarLeavesItsFloatingPlace) {
+  struct Row {
+    const char* name;
+    std::function<void(CompanionDesk&)> before;
+    std::function<void(CompanionDesk&)> meanwhile;
+  };
+  const Row rows[] = {
+      {"an edit", [](CompanionDesk&) {},
+       [](CompanionDesk& d) {
+         const float gap = d.Strip.FreeWidth();
+         d.World.Files.Put("C:\\Corvelle\\Menus\\" + SingleFileName(1),
+                           Records({Entry("s", "", "C:\\s.exe")}));
+         d.Strip.DoSingleButtons();
+         d.Strip.ResizeAfterEdit(gap);
+       }},
+      {"an option", [](CompanionDesk&) {},
+       [](CompanionDesk& d) { d.Strip.AdjustToolbarPosition(); }},
+      {"the end of a pull",
+       [](CompanionDesk& d) { d.Pull(QuarterOf(d.TheProgram.Strip.ToolbarEdge)); },
+       [](CompanionDesk& d) { d.World.Desktop.Release(); }},
+  };
+  for (const Row& row : rows) {
+    for (const Edge at : {Edge::Top, Edge::Bottom, Edge::Left, Edge::Right}) {
+      SCOPED_TRACE(std::string(row.name) + " " + std::string(EdgeText(at)));
+      CompanionDesk desk;
+      desk.World.Files.Put(kPositionFile, PositionBytes(3000));
+      desk.Start();
+      const PixelRect floating = desk.Bounds();
+      desk.Docking.SetAppBar(at, true);
+      desk.World.Desktop.Pump();
+      const PixelRect docked = desk.Bounds();
+      row.before(desk);
+      desk.GoIntoTheTaskBar();
+      row.meanwhile(desk);
+      EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000));
+      EXPECT_FALSE(desk.Strip.Visible());
+      desk.ComeBack();
+      EXPECT_EQ(desk.Bounds(), docked);
+      const forms::PictureBox& box = desk.Strip.picSingleButton;
+      EXPECT_EQ(IsVertical(at) ? box.Bottom() : box.Right(),
+                (IsVertical(at) ? desk.Strip.Height() : desk.Strip.Width()) - 30);
+      desk.Strip.RestoreToolbar();
+      EXPECT_EQ(desk.Bounds().TopLeft(), floating.TopLeft());
+      EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(3000));
+    }
+  }
+}
+
+TEST(CompanionDock, AnEditOfAFloatingStripInTheTaskBarKeepsItsRightEnd) {
+  CompanionDesk desk;
+  desk.Start();
+  const PixelRect before = desk.Bounds();
+  desk.GoIntoTheTaskBar();
+  const float gap = desk.Strip.FreeWidth();
+  for (int i = 1; i <= 3; ++i) {
+    desk.World.Files.Put("C:\\Corvelle\\Menus\\" + SingleFileName(i),
+                         Records({Entry("s", "", "C:\\s.exe")}));
+  }
+  desk.Strip.DoSingleButtons();
+  desk.Strip.ResizeAfterEdit(gap);
+  desk.ComeBack();
+  EXPECT_LT(desk.Bounds().left, before.left);
+  EXPECT_EQ(desk.Bounds().right, before.right);
+  EXPECT_EQ(desk.Bounds().top, before.top);
+}
+
 TEST(CompanionDock, TheEndInTheMidstOfAChangeLeavesNoBarNoIconAndNoFlag) {
   struct Row {
     const char* name;

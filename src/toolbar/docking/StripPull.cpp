@@ -136,7 +136,7 @@ void StripPull::MouseUp(forms::MouseButton button) {
   }
   LetFrameGo();
   if (FrameMoved && !EndPull()) {
-    if (with_.Strip.AppBarDocked) {
+    if (with_.Strip.BelongsToEdge()) {
       strip_.DrawBorders();
     } else {
       strip_.EndSlide();
@@ -162,7 +162,7 @@ void StripPull::AbandonPull() {
 
 void StripPull::EndLostPull() {
   if (!FrameHeld) return;
-  const bool slid = FrameMoved && !with_.Strip.AppBarDocked;
+  const bool slid = FrameMoved && !with_.Strip.BelongsToEdge();
   AbandonPull();
   if (slid) strip_.EndSlide();
 }

@@ -20,7 +20,8 @@ void Place(forms::Control& control, const TwipRect& bounds) {
 }  // namespace
 
 StripShape frmToolbar::Shape() const {
-  const bool atEdge = program_.Strip.AppBarDocked || program_.Strip.AppBarRequested;
+  // One that left its edge for the task bar has no place at the top meanwhile.
+  const bool atEdge = program_.Strip.BelongsToEdge() || program_.Strip.AppBarRequested;
   const ButtonRect& button = Buttons.ToolbarButtons[0];
   return {.Where = atEdge ? Placement::AtEdge : Placement::TopHugging,
           .At = program_.Strip.ToolbarEdge,
