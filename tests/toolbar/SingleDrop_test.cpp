@@ -426,14 +426,14 @@ TEST(DropFilesOnSingles, WhatNoRecordHoldsIsNamedAfterwardsAndTheOthersAreTaken)
   EXPECT_EQ(desk.OnDisk(), "1a 2b 3x");
 }
 
-TEST(DropFilesOnSingles, WithTheRightButtonTheButtonOpensTheFirst) {
+TEST(DropFilesOnSingles, WithTheRightButtonTheButtonOpensTheFirstOfTheDrag) {
   DropDesk desk("ab");
   desk.PointAtSingle(2);
   desk.Strip.RowDrops.DropFilesOnSingles({"C:\\y.txt", "C:\\x.txt"}, forms::MouseButton::Right);
   EXPECT_EQ(desk.OnDisk(), "1a 2b");
   ASSERT_EQ(desk.World.Shell.Log().size(), 1U);
   EXPECT_EQ(desk.World.Shell.Log()[0].File, "C:\\Tools\\b.exe");
-  EXPECT_EQ(desk.World.Shell.Log()[0].Parameters, "\"C:\\x.txt\"");
+  EXPECT_EQ(desk.World.Shell.Log()[0].Parameters, "\"C:\\y.txt\"");
 }
 
 TEST(DropFilesOnSingles, AtAnEdgeTheRowIsFittedAndTheStripShown) {

@@ -68,11 +68,11 @@ void SingleDrops::DropFilesOnSingles(std::vector<std::string> names, forms::Mous
   with_.Ports.SetHint("");
   row_.CloseMenus();
   if (!window_.IsLoaded()) return;
-  SortTexts(names);
   if (button == forms::MouseButton::Right && onButton) {
     OpenWithItem(with_.Launch, names.front(), target.Command);
     return;
   }
+  SortTexts(names);
   DroppedEntries dropped = with_.Edits.EntriesOf(std::move(names));
   AddDropped(dropped.Records, target.File);
   // Last, so that nothing here lets its timer through.
