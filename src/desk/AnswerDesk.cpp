@@ -92,10 +92,11 @@ const LookupValue* AnswerDesk::LastKnown(const Lookup& question) {
 }
 
 void AnswerDesk::Drop(std::uint64_t owner) {
-  std::erase_if(heldBack_, [&](const Asked& asked) {
-    return asked.What.Owner == owner && askers_.erase(asked.Number) > 0;
-  });
-  std::erase_if(watchers_, [owner](const auto& each) { return each.second.Owner == owner; });
+  const auto isOfOwner = [owner](const auto& each) { return each.second.Owner == owner; };
+  std::erase_if(heldBack_, [owner](const Asked& asked) { return asked.What.Owner == owner; });
+  // With its askers gone, what has come and waits to be told is passed over.
+  std::erase_if(askers_, isOfOwner);
+  std::erase_if(watchers_, isOfOwner);
   Take(OwnerLeft{owner});
 }
 
@@ -130,14 +131,8 @@ void AnswerDesk::Carry(const std::vector<Command>& commands) {
     } else if (const auto* const back = std::get_if<TellBack>(&command)) {
       told_.emplace_back(*back);
     } else if (const auto* const end = std::get_if<TellEnd>(&command)) {
-      if (end->Told.How != End::Dropped) {
-        told_.emplace_back(*end);
-        continue;
-      }
-      // Its stages may be waiting to be told.
-      const Ticket ticket = end->Told.Number;
-      askers_.erase(ticket);
-      std::erase_if(told_, [ticket](const Told& told) { return TicketOf(told) == ticket; });
+      // Drop has removed the asker already.
+      if (end->Told.How != End::Dropped) told_.emplace_back(*end);
     }
   }
 }

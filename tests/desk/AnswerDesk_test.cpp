@@ -172,6 +172,69 @@ TEST_F(AnswerDeskTest, WhatIsDroppedIsNotTold) {
   EXPECT_EQ(told_, Lines{});
 }
 
+// What is dropped may already wait to be told; there are several ways to come to that.
+
+TEST_F(AnswerDeskTest, WhatCameWhileAnotherWasWaitedForIsNotToldOnceItIsDropped) {
+  const std::uint64_t other = Desk->NewOwner();
+  Desk->Ask(IsThere("E:\\here\\a.txt"), Noted("e"));
+  Desk->Ask({.Question = {.Path = "D:\\here\\a.txt"}, .Owner = other}, Noted("other"));
+  EXPECT_TRUE(Desk->AskAtOnce({.Question = {.Path = "C:\\here\\a.txt"}}, Noted("c")).has_value());
+  Desk->Drop(owner_);
+  World.Desktop.Advance(1000);
+  EXPECT_EQ(told_, Lines{"other yes"});
+}
+
+TEST_F(AnswerDeskTest, AKeptAnswerIsNotToldOnceItIsDropped) {
+  Desk->Ask(IsThere("C:\\here\\a.txt"), {});
+  World.Desktop.Pump();
+  Request again = IsThere("C:\\here\\a.txt");
+  again.MaxAge = 1000;
+  Desk->Ask(again, Noted("again"));
+  Desk->Drop(owner_);
+  World.Desktop.Advance(1000);
+  EXPECT_EQ(told_, Lines{});
+}
+
+TEST_F(AnswerDeskTest, ThatAPlaceRestsIsNotToldOnceItIsDropped) {
+  World.SlowAnswers.HangForGood("D:");
+  Desk->Ask(IsThere("D:\\here\\a.txt"), {});
+  World.Desktop.Advance(5000);
+  int back = 0;
+  Asker asker = Noted("d");
+  asker.Back = [&back] { ++back; };
+  Desk->Ask(IsThere("D:\\here\\a.txt"), asker);
+  Desk->Drop(owner_);
+  World.Desktop.Pump();
+  World.SlowAnswers.Resume("D:");
+  Desk->TryAllAgain();
+  World.Desktop.Advance(600'000);
+  EXPECT_EQ(told_, Lines{});
+  EXPECT_EQ(back, 0);
+}
+
+TEST_F(AnswerDeskTest, WhatCameWhileAnAskerLetEventsRunIsNotToldOnceItIsDropped) {
+  World.SlowAnswers.HangForGood("D:");
+  Desk->Ask({.Question = {.Path = "D:\\here\\a.txt"}, .Owner = Desk->NewOwner()}, Noted("first"));
+  World.Desktop.Advance(4999);
+  then_ = [this] {
+    Desk->Ask(IsThere("E:\\here\\a.txt"), Noted("second"));
+    World.Desktop.Pump();
+    EXPECT_NE(Desk->LastKnown({.Path = "E:\\here\\a.txt"}), nullptr);
+    Desk->Drop(owner_);
+  };
+  World.Desktop.Advance(1000);
+  EXPECT_EQ(told_.back(), "first not available");
+}
+
+TEST_F(AnswerDeskTest, AnAskerMayDropWhatIsToldTogetherWithIt) {
+  for (const char* path : {"C:\\here\\a.txt", "D:\\here\\a.txt", "E:\\here\\a.txt"})
+    Desk->Ask(IsThere(path), Noted(path));
+  EXPECT_TRUE(Desk->AskAtOnce({.Question = {.Path = "C:\\here\\b.txt"}}, {}).has_value());
+  then_ = [this] { Desk->Drop(owner_); };
+  World.Desktop.Advance(1000);
+  EXPECT_EQ(told_.size(), 1U);
+}
+
 TEST_F(AnswerDeskTest, AnAskerMayDropWhatIsToldNextAndMayAskAgain) {
   const std::uint64_t other = Desk->NewOwner();
   Desk->Ask(IsThere("C:\\here\\a.txt"), Noted("first"));
