@@ -98,9 +98,13 @@ void AnswerDesk::Drop(std::uint64_t owner) {
   std::erase_if(askers_, isOfOwner);
   std::erase_if(watchers_, isOfOwner);
   Take(OwnerLeft{owner});
+  PostTelling();
 }
 
-void AnswerDesk::SetUrgency(Ticket ticket, Urgency how) { Take(UrgencyChanged{ticket, how}); }
+void AnswerDesk::SetUrgency(Ticket ticket, Urgency how) {
+  Take(UrgencyChanged{ticket, how});
+  PostTelling();
+}
 
 void AnswerDesk::TryAgain(const Lookup& question) {
   Take(corvelle::desk::TryAgain{question});

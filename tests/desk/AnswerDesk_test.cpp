@@ -235,6 +235,16 @@ TEST_F(AnswerDeskTest, AnAskerMayDropWhatIsToldTogetherWithIt) {
   EXPECT_EQ(told_.size(), 1U);
 }
 
+TEST_F(AnswerDeskTest, WhatFallsDueWhenSomethingElseIsDroppedIsToldAllTheSame) {
+  World.SlowAnswers.HangForGood("D:");
+  Desk->Ask(IsThere("D:\\here\\a.txt"), Noted("d"));
+  World.Desktop.Advance(4999);
+  World.Desktop.Jump(1);
+  Desk->Drop(Desk->NewOwner());
+  World.Desktop.Pump();
+  EXPECT_EQ(told_.back(), "d not available");
+}
+
 TEST_F(AnswerDeskTest, AnAskerMayDropWhatIsToldNextAndMayAskAgain) {
   const std::uint64_t other = Desk->NewOwner();
   Desk->Ask(IsThere("C:\\here\\a.txt"), Noted("first"));
