@@ -250,6 +250,7 @@ void frmProperties::Form_Unload() {
 
 void frmProperties::ShowProperties(std::string_view title, std::string_view icon,
                                    std::string_view command) {
+  if (browsing_ && IsLoaded()) return ShowWhatIsOpen();
   const EntryEdit entry = with_.Entry;
   // One of the two windows that edit is open at a time. The other one may ask, and stay.
   EditingWindow* const customize = with_.Ports.Customize;
@@ -267,6 +268,14 @@ void frmProperties::ShowProperties(std::string_view title, std::string_view icon
   Show();
   SetForeground();
   if (IsLoaded()) FocusPage(std::string(kItemTab));
+}
+
+// What is chosen there belongs to the entry that is in the boxes now.
+void frmProperties::ShowWhatIsOpen() {
+  LibraryPort* const library = with_.Ports.Library;
+  if (library != nullptr && library->WindowLoaded()) return library->Show("frmProperties");
+  // A dialog comes up with the window that it belongs to.
+  SetForeground();
 }
 
 // ---- tabs ----

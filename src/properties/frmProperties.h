@@ -134,6 +134,8 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void Form_KeyPress(char32_t character) override;
 
  private:
+  /// Brings the library or the dialog to the front that the user is to choose in.
+  void ShowWhatIsOpen();
   void PlaceControls();
   void WireItem();
   void WireButtons();
@@ -226,8 +228,8 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   std::uint64_t targetAsked_ = 0;
   std::string lastFolder_;
   std::string lastBrowseFolder_;
-  bool browsing_ = false;
-  bool busy_ = false;  // a change is carried out
+  bool browsing_ = false;  // the user chooses in a dialog or the library
+  bool busy_ = false;      // a change is carried out
 };
 
 }  // namespace corvelle

@@ -420,6 +420,42 @@ TEST_F(PropertiesBrowse, AProgramThatEndsBehindADialogIsNoHarm) {
   EXPECT_FALSE(Window().IsLoaded());
 }
 
+// ---- another entry is chosen meanwhile ----
+
+TEST_F(PropertiesBrowse, WhileTheLibraryIsOpenAnotherEntryDoesNotTakeTheBoxesOver) {
+  OpenItem(2);
+  TypeInto(Window().txtTitle, "Typed");
+  ClickOn(Window().cmdLibrary);
+  ASSERT_TRUE(parts->Library.Visible());
+  RightClick(Single(1), "Properties");
+  EXPECT_EQ(Window().txtTitle.Text(), "Typed");
+  EXPECT_EQ(Desktop().ForegroundWindow(), parts->Library.hWnd());
+  TheProgram().Ports.PropertiesIcon->TakeIcon("\\icons\\x.ico");
+  parts->Library.Unload();
+  ClickOn(Window().cmdOK);
+  EXPECT_EQ(RecordAt("BMENU001.MNU", 3),
+            (MenuRecord{"Typed", "\\icons\\x.ico", std::string(kTool) + " B"}));
+  EXPECT_EQ(RecordAt("BMENU001.BTN", 1).FTitle, "one");
+  OpenSingle(1);
+  EXPECT_EQ(Window().txtTitle.Text(), "one") << "the library is closed";
+}
+
+TEST_F(PropertiesBrowse, WhileADialogIsOpenAnotherEntryDoesNotTakeTheBoxesOver) {
+  OpenItem(2);
+  TypeInto(Window().txtTitle, "Typed");
+  Desktop().WhileDialogIsUp([this] {
+    RightClick(Single(1), "Properties");
+    EXPECT_EQ(Window().txtTitle.Text(), "Typed");
+    EXPECT_EQ(Desktop().ForegroundWindow(), Window().hWnd()) << "whose dialog it is";
+  });
+  Desktop().ChooseFiles({"C:\\Docs\\letter.doc"});
+  ClickOn(Window().cmdSelectFile);
+  Desktop().ChooseFolder("C:\\Docs");
+  ClickOn(Window().cmdSelectFolder);
+  EXPECT_EQ(Window().txtTitle.Text(), "Typed");
+  EXPECT_EQ(Window().txtCommand.Text(), "C:\\Docs");
+}
+
 /// A library that only notes who calls it.
 struct NotedLibrary final : LibraryPort {
   std::vector<std::string> Callers;
