@@ -121,6 +121,7 @@ CommandLineParts SplitCommandLine(std::string_view line,
 std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 std::vector<std::string> TargetsOf(std::string_view command) {
+  if (Trim(command).starts_with(kRawMarker)) return {};
   const CommandForm form = ClassifyCommand(command);
   const bool isFile = form.Kind == CommandKind::Other || form.Kind == CommandKind::ShellLink ||
                       form.Kind == CommandKind::UrlFile;

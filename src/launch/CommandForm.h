@@ -73,8 +73,8 @@ struct CommandLineParts {
 
 /// The file or folder of the disk that a command leads to, to be looked for, in the order of
 /// trying: without quotes one of several may be the program, and what follows it its arguments.
-/// None for what is not on a disk by its own path: web addresses, folders of the shell, built-in
-/// words, programs that the system finds by their name.
+/// None for what is not on a disk by its own path (web addresses, folders of the shell, built-in
+/// words, programs that the system finds by their name), and for raw text, which is not checked.
 [[nodiscard]] std::vector<std::string> TargetsOf(std::string_view command);
 
 /// The drive or the server of a full path, in capital letters: "C:" or "\\\\SERVER". What the

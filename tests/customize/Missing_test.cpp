@@ -87,8 +87,8 @@ TEST(CustomizeMissing, BeepsWhereNothingIsMissing) {
 TEST(CustomizeMissing, WhatIsNoFileOfADiskIsNotMissing) {
   MissingDesk desk;
   desk.Expand("Tools");
-  for (const char* command :
-       {"", "notepad.exe", "http://www.example.com/none", "CSIDL_CONTROLS", "RunDialog", "/h"}) {
+  for (const char* command : {"", "notepad.exe", "http://www.example.com/none", "CSIDL_CONTROLS",
+                              "RunDialog", "/h", "?C:\\Gone.exe /x"}) {
     desk.SetCommand("Hammer", command);
     EXPECT_FALSE(desk.Marked("Hammer")) << command;
   }

@@ -44,7 +44,9 @@ TEST(Targets, ArePathsOfTheDiskOnly) {
       {"\"tool\" /x", {}},
       {"C:\\Tools\\*.exe /SU", {"C:\\Tools\\"}},
       {"\\\\server\\share\\x.doc", {"\\\\server\\share\\x.doc", "\\\\server\\share\\x.doc.exe"}},
-      {"?C:\\x", {"C:\\x", "C:\\x.exe"}},
+      {"?C:\\x", {}},
+      {" ? C:\\x /y", {}},
+      {"?C:\\Tools\\*.exe /SU", {}},
   };
   for (const Row& row : rows) EXPECT_EQ(TargetsOf(row.command), row.expected) << row.command;
 }

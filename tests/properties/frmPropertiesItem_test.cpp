@@ -253,6 +253,7 @@ TEST_F(PropertiesItem, ACommandThatLeadsNowhereIsMarkedAtItsBox) {
                       {"http://www.example.org", false},
                       {"C:\\Gone\\*.*", true},
                       {"C:\\Tools\\*.*", false},
+                      {" ?C:\\Tools\\gone.exe /x", false},
                       {"notepad", false}};
   for (const Row& row : rows) {
     TypeInto(Window().txtCommand, row.command);
