@@ -307,7 +307,9 @@ void frmAbout::Print(InfoPage page) {
 // ---- the buttons and the addresses ----
 
 std::string frmAbout::TextOfTab() const {
-  if (TabStrip1.Selected() != kCorvelleTab) return PageText(page_);
+  const std::string tab = TabStrip1.Selected();
+  if (tab == kSystemTab) return PageText(page_);
+  if (tab == kDrivesTab) return Drive1.Text() + "\r\n" + PageText(page_);
   std::string text(kName);
   for (const forms::Label* const label :
        {&lblVersion, &lblCompany, &lblCopyright, &lblMail, &lblURL}) {

@@ -206,7 +206,12 @@ TEST_F(AboutWindow, AFailureIsPrintedBelowWhatWasRead) {
 TEST_F(AboutWindow, TheButtonCopiesThePageAndCtrlCDoesTheSame) {
   ChooseTab(1);
   ClickOn("cmdCopy");
-  EXPECT_EQ(world.Copies.Text, PageText(window.Page()));
+  EXPECT_EQ(world.Copies.Text, "C:\r\n" + PageText(window.Page()));
+  window.Drive1.SetFocus();
+  world.Desktop.PressKey(forms::key::Down);
+  world.Desktop.Pump();
+  PressWith(kControlKey, 'C');
+  EXPECT_EQ(world.Copies.Text, "D:\r\n" + PageText(window.Page()));
   ChooseTab(2);
   PressWith(kControlKey, 'C');
   EXPECT_EQ(world.Copies.Text, PageText(window.Page()));
