@@ -169,10 +169,14 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void ShowLibrary();
   void cmdFile_Click();
   void cmdFolder_Click();
-  void SetFileEntry(const std::string& path, const std::string& title);
-  /// Empty when nothing was chosen.
-  [[nodiscard]] std::string ShowOpenFile();
-  [[nodiscard]] std::optional<forms::FolderChoice> ShowOpenFolder();
+  void SetCommand(const std::optional<DroppedName>& chosen);
+  void SetFileEntry(const std::optional<DroppedName>& chosen);
+  /// The title and the path of what the user chooses; nothing when there is none to take, of which
+  /// he has been told.
+  [[nodiscard]] std::optional<DroppedName> ShowOpenFile();
+  [[nodiscard]] std::optional<DroppedName> ShowOpenFolder();
+  /// Nothing, and a message, for a path that no record can hold.
+  [[nodiscard]] std::optional<DroppedName> NameToStore(const std::string& path);
   [[nodiscard]] std::string LinkToFolder(const forms::FolderChoice& choice);
 
   // ---- the order of the buttons (frmPropertiesButtons.cpp) ----

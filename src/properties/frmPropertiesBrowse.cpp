@@ -1,6 +1,7 @@
 // What the boxes of the entry are filled from: files, folders, the icon library.
 
 #include "base/Text.h"
+#include "core/DroppedFiles.h"
 #include "core/MessageBoxes.h"
 #include "core/ProgramPaths.h"
 #include "forms/Scopes.h"
@@ -50,21 +51,18 @@ bool frmProperties::txtCommand_KeyDown(int keyCode) {
 void frmProperties::SelectCommandFile() {
   if (browsing_) return;
   ShowBoxTip(with_.Ports, kCommandTip);
-  const std::string path = ShowOpenFile();
-  if (path.empty() || !IsLoaded()) return;
-  txtCommand.SetText(path);
-  AskTarget();
-  txtCommand.SetFocus();
+  SetCommand(ShowOpenFile());
 }
 
 void frmProperties::SelectCommandFolder() {
   if (browsing_) return;
   ShowBoxTip(with_.Ports, kCommandTip);
-  const auto choice = ShowOpenFolder();
-  if (!choice || !IsLoaded()) return;
-  const std::string path = choice->Path.empty() ? LinkToFolder(*choice) : choice->Path;
-  if (path.empty() || !IsLoaded()) return;
-  txtCommand.SetText(path);
+  SetCommand(ShowOpenFolder());
+}
+
+void frmProperties::SetCommand(const std::optional<DroppedName>& chosen) {
+  if (!chosen || !IsLoaded()) return;
+  txtCommand.SetText(*chosen->Stored);
   AskTarget();
   txtCommand.SetFocus();
 }
@@ -72,9 +70,9 @@ void frmProperties::SelectCommandFolder() {
 void frmProperties::SelectIconFile() {
   if (browsing_) return;
   ShowBoxTip(with_.Ports, kIconFileTip);
-  const std::string path = ShowOpenFile();
-  if (path.empty() || !IsLoaded()) return;
-  txtIcon.SetText(path);
+  const auto file = ShowOpenFile();
+  if (!file || !IsLoaded()) return;
+  txtIcon.SetText(*file->Stored);
   DrawIcon();
   if (IsLoaded()) txtIcon.SetFocus();
 }
@@ -86,48 +84,54 @@ void frmProperties::ShowLibrary() {
 }
 
 void frmProperties::cmdFile_Click() {
-  if (browsing_) return;
-  const std::string path = ShowOpenFile();
-  if (!path.empty() && IsLoaded()) SetFileEntry(path, with_.Titles.GetFileTitle(path));
+  if (!browsing_) SetFileEntry(ShowOpenFile());
 }
 
 void frmProperties::cmdFolder_Click() {
-  if (browsing_) return;
-  const auto choice = ShowOpenFolder();
-  if (!choice || !IsLoaded()) return;
-  const std::string path = choice->Path.empty() ? LinkToFolder(*choice) : choice->Path;
-  if (!path.empty() && IsLoaded()) SetFileEntry(path, choice->Name);
+  if (!browsing_) SetFileEntry(ShowOpenFolder());
 }
 
 // A menu button runs nothing: what its third field says stays.
-void frmProperties::SetFileEntry(const std::string& path, const std::string& title) {
-  txtTitle.SetText(title);
-  txtIcon.SetText(path);
+void frmProperties::SetFileEntry(const std::optional<DroppedName>& chosen) {
+  if (!chosen || !IsLoaded()) return;
+  txtTitle.SetText(chosen->Title);
+  txtIcon.SetText(*chosen->Stored);
   if (txtCommand.Enabled()) {
-    txtCommand.SetText(path);
+    txtCommand.SetText(*chosen->Stored);
     AskTarget();
   }
   DrawIcon();
   if (IsLoaded()) txtTitle.SetFocus();
 }
 
-std::string frmProperties::ShowOpenFile() {
+std::optional<DroppedName> frmProperties::ShowOpenFile() {
   const forms::FlagScope browsing(browsing_);
   const forms::FileChoice choice =
       Windows().AskFiles(hWnd(), {.Title = std::string(kFileTitle), .StartFolder = lastFolder_});
-  if (choice.Paths.empty()) return {};
+  if (choice.Paths.empty() || !IsLoaded()) return std::nullopt;
   const std::string& path = choice.Paths.front();
   lastFolder_ = path.substr(0, path.rfind('\\'));
-  return path;
+  return NameToStore(path);
 }
 
-std::optional<forms::FolderChoice> frmProperties::ShowOpenFolder() {
+std::optional<DroppedName> frmProperties::ShowOpenFolder() {
   const forms::FlagScope browsing(browsing_);
-  forms::FolderChoice choice = Windows().AskFolder(
+  const forms::FolderChoice choice = Windows().AskFolder(
       hWnd(), {.Text = std::string(kFolderText), .StartFolder = lastBrowseFolder_});
-  if (!choice.Chosen) return std::nullopt;
+  if (!choice.Chosen || !IsLoaded()) return std::nullopt;
   if (!choice.Path.empty()) lastBrowseFolder_ = choice.Path;
-  return choice;
+  const std::string path = choice.Path.empty() ? LinkToFolder(choice) : choice.Path;
+  if (path.empty() || !IsLoaded()) return std::nullopt;
+  auto folder = NameToStore(path);
+  if (folder) folder->Title = choice.Name;
+  return folder;
+}
+
+std::optional<DroppedName> frmProperties::NameToStore(const std::string& path) {
+  DroppedName name = with_.Titles.GetDroppedNames({path}).front();
+  if (name.Stored) return name;
+  with_.Messages.Say(hWnd(), RefusedFilesText({path}), forms::msgbox::IconInformation);
+  return std::nullopt;
 }
 
 // A folder of the shell that is on no disk is reached by a link. An older link of that name can

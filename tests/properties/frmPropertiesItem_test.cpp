@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/DroppedFiles.h"
 #include "core/NotedEdits.h"
 #include "properties/PropertiesDesk.h"
 
@@ -419,6 +420,68 @@ TEST_F(PropertiesBrowse, AProgramThatEndsBehindADialogIsNoHarm) {
   Desktop().WhileDialogIsUp([this] { parts->Companion.UnloadWindow(); });
   ClickOn(Window().cmdFile);
   EXPECT_FALSE(Window().IsLoaded());
+}
+
+// ---- paths that are too long for a record ----
+
+/// So many letters, of which each takes three bytes in a record.
+std::string Letters(int count) {
+  std::string letters;
+  for (int i = 0; i < count; ++i) letters += "\xE6\x97\xA5";
+  return letters;
+}
+
+class PropertiesLongPaths : public PropertiesBrowse {
+ protected:
+  PropertiesLongPaths() {
+    world.Files.Put(file, "x");
+    world.Files.MakeFolders(folder);
+  }
+
+  const std::string folder = "C:\\" + Letters(50) + "\\" + Letters(50);
+  const std::string file = folder + ".exe";
+};
+
+TEST_F(PropertiesLongPaths, AreTakenWithTheShortNamesOfTheVolume) {
+  world.Files.GiveShortName("C:\\" + Letters(50), "65E5~1");
+  OpenItem(2);
+  Desktop().ChooseFiles({file});
+  ClickOn(Window().cmdSelectFile);
+  EXPECT_EQ(Window().txtCommand.Text(), "C:\\65E5~1\\" + Letters(50) + ".exe");
+  Desktop().ChooseFiles({file});
+  ClickOn(Window().cmdAllFiles);
+  EXPECT_EQ(Window().txtIcon.Text(), "C:\\65E5~1\\" + Letters(50) + ".exe");
+  Desktop().ChooseFolder(folder);
+  ClickOn(Window().cmdSelectFolder);
+  EXPECT_EQ(Window().txtCommand.Text(), "C:\\65E5~1\\" + Letters(50));
+  Desktop().ChooseFiles({file});
+  ClickOn(Window().cmdFile);
+  EXPECT_EQ(Window().txtTitle.Text(), Letters(50)) << "as the shell shows it";
+  EXPECT_EQ(Window().txtIcon.Text(), "C:\\65E5~1\\" + Letters(50) + ".exe");
+  ClickOn(Window().cmdOK);
+  EXPECT_EQ(RecordAt("BMENU001.MNU", 3).FIcon, "C:\\65E5~1\\" + Letters(50) + ".exe");
+  EXPECT_EQ(RecordAt("BMENU001.MNU", 3).FName, "C:\\65E5~1\\" + Letters(50) + ".exe");
+  EXPECT_EQ(BoxTexts(), Texts{});
+}
+
+TEST_F(PropertiesLongPaths, AreRefusedByNameWhereTheVolumeHasNoShortOnes) {
+  OpenItem(2);
+  Desktop().ChooseFiles({file});
+  ClickOn(Window().cmdSelectFile);
+  Desktop().ChooseFiles({file});
+  ClickOn(Window().cmdAllFiles);
+  Desktop().ChooseFiles({file});
+  ClickOn(Window().cmdFile);
+  Desktop().ChooseFolder(folder);
+  ClickOn(Window().cmdSelectFolder);
+  Desktop().ChooseFolder(forms::FolderChoice{.Chosen = true, .Path = folder, .Name = "Long"});
+  ClickOn(Window().cmdFolder);
+  const std::string aboutFile = RefusedFilesText({file});
+  const std::string aboutFolder = RefusedFilesText({folder});
+  EXPECT_EQ(BoxTexts(), (Texts{aboutFile, aboutFile, aboutFile, aboutFolder, aboutFolder}));
+  EXPECT_EQ(Window().txtTitle.Text(), "B");
+  EXPECT_EQ(Window().txtIcon.Text(), kTool);
+  EXPECT_EQ(Window().txtCommand.Text(), std::string(kTool) + " B");
 }
 
 // ---- another entry is chosen meanwhile ----
