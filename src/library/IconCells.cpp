@@ -43,13 +43,17 @@ std::vector<IconCell> LibraryCells(const std::vector<std::string>& fileNames,
   return cells;
 }
 
+std::string FileIconText(std::string_view path, int index) {
+  return std::string(path) + " |" + std::to_string(index);
+}
+
 std::vector<IconCell> FileCells(std::string_view path, int count) {
   std::vector<IconCell> cells;
   for (int index = 0; index < count; ++index) {
     const std::string caption = IconNumber(index);
     cells.push_back({.Caption = caption,
                      .Name = caption,
-                     .Text = std::string(path) + " |" + std::to_string(index),
+                     .Text = FileIconText(path, index),
                      .File = std::string(path),
                      .Index = index});
   }

@@ -31,6 +31,9 @@ struct IconCell {
 [[nodiscard]] std::vector<IconCell> LibraryCells(const std::vector<std::string>& fileNames,
                                                  std::string_view iconsPath);
 
+/// The icon text of one of the icons in a file: its path, " |" and the number.
+[[nodiscard]] std::string FileIconText(std::string_view path, int index);
+
 /// The cells of all icons in one file; "Icon: 000" is the first one.
 [[nodiscard]] std::vector<IconCell> FileCells(std::string_view path, int count);
 

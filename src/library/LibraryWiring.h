@@ -17,6 +17,7 @@ namespace corvelle {
           .Ports = program.Ports,
           .Messages = program.Messages,
           .Answers = program.Answers,
+          .Ansi = program.Services.Ansi,
           .System = program.Services.System,
           .Paths = program.Paths,
           .Icons = program.Icons,

@@ -5,6 +5,7 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
+#include "core/DroppedFiles.h"
 #include "core/IconState.h"
 #include "core/MessageBoxes.h"
 #include "core/ProgramPaths.h"
@@ -337,9 +338,29 @@ void frmLibrary::cmdRefresh_Click() {
 void frmLibrary::cmdOK_Click() {
   const IconCell* const marked = CurrentView().Marked();
   if (marked == nullptr) return;
-  const std::string text = marked->Text;
-  if (box_ != nullptr) box_->TakeIcon(text);
+  const std::optional<std::string> text = TextToStore(*marked);
+  if (!text) {
+    with_.Messages.Say(hWnd(), RefusedFilesText({marked->File}), forms::msgbox::IconInformation);
+    return;
+  }
+  if (box_ != nullptr) box_->TakeIcon(*text);
   Unload();
+}
+
+std::optional<std::string> frmLibrary::TextToStore(const IconCell& cell) {
+  if (FitsRecord(with_.Ansi, cell.Text)) return cell.Text;
+  const std::size_t name = cell.File.rfind('\\') + 1;
+  const auto reply =
+      with_.Answers.AskAtOnce({.Question = {.Kind = LookupKind::ShortPaths,
+                                            .Path = cell.File.substr(0, name),
+                                            .Pattern = cell.File.substr(name) + "\n"}},
+                              {});
+  const auto* const paths =
+      reply ? std::get_if<std::vector<ShellFolderEntry>>(&reply->Value) : nullptr;
+  if (paths == nullptr || paths->empty() || paths->front().Name.empty()) return std::nullopt;
+  std::string text = FileIconText(paths->front().Name, cell.Index);
+  if (!FitsRecord(with_.Ansi, text)) return std::nullopt;
+  return text;
 }
 
 }  // namespace corvelle

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,7 @@
 
 namespace corvelle {
 
+class CodePage;
 class MessageBoxes;
 
 /// What the window works with. All of it outlives the window.
@@ -27,6 +29,7 @@ struct LibraryParts {
   const WindowPorts& Ports;
   MessageBoxes& Messages;
   desk::AnswerDesk& Answers;
+  const CodePage& Ansi;
   const SystemInfo& System;
   const ProgramPaths& Paths;
   IconState& Icons;
@@ -89,6 +92,9 @@ class frmLibrary final : public forms::Form, public LibraryPort {
   void cmdRemove_Click();
   void cmdRefresh_Click();
   void cmdOK_Click();
+  /// The cell's icon text as a record holds it: with the short names of the disk where it is too
+  /// long. Nothing when neither fits, or when the disk does not answer at once.
+  [[nodiscard]] std::optional<std::string> TextToStore(const IconCell& cell);
 
   [[nodiscard]] bool ShowsLibrary() const;
   [[nodiscard]] IconView& CurrentView() { return ShowsLibrary() ? LibraryView : OtherView; }

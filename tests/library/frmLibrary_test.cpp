@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/DroppedFiles.h"
 #include "icons/IconsWiring.h"
 #include "icons/LibraryFile.h"
 #include "library/LibraryDesk.h"
@@ -404,6 +405,68 @@ TEST_F(LibraryDesk, AddAsksForAFileAndChoosesItsRow) {
   EXPECT_EQ(library.List1Other.Items(), (Names{"a.dll", "tool.exe", "z.dll"}));
   EXPECT_EQ(library.List1Other.Selected(), 1);
   EXPECT_EQ(library.OtherView.Captions().size(), 3U);
+}
+
+// ---- icon texts that are too long for a record ----
+
+/// So many letters, of which each takes three bytes in a record.
+std::string Letters(int count) {
+  std::string letters;
+  for (int i = 0; i < count; ++i) letters += "\xE6\x97\xA5";
+  return letters;
+}
+
+class LibraryLongPaths : public LibraryDesk {
+ protected:
+  /// Marks the last one of a file's 13 icons.
+  void OpenAt(const std::string& path) {
+    world.Files.Put(path, "x");
+    world.Icons.SetIconCount(path, 13);
+    PutOthers({path});
+    Open();
+    OpenOthers();
+    library.picOther.SetFocus();
+    PressKey(End);
+  }
+};
+
+TEST_F(LibraryLongPaths, AreTakenWithTheShortNamesOfTheVolume) {
+  OpenAt("C:\\" + Letters(50) + "\\" + Letters(50) + ".exe");
+  world.Files.GiveShortName("C:\\" + Letters(50), "65E5~1");
+  PressKey(Enter);
+  EXPECT_FALSE(library.IsLoaded());
+  EXPECT_EQ(box.txtFile.Text(), "C:\\65E5~1\\" + Letters(50) + ".exe |12");
+}
+
+TEST_F(LibraryLongPaths, AreShortenedWhenOnlyTheNumberHasNoRoom) {
+  const std::string path = "C:\\" + Letters(50) + "\\" + Letters(33) + "1234.e";
+  ASSERT_EQ(path.size(), 259U);
+  OpenAt(path);
+  world.Files.GiveShortName("C:\\" + Letters(50), "65E5~1");
+  PressKey(Enter);
+  EXPECT_EQ(box.txtFile.Text(), "C:\\65E5~1\\" + Letters(33) + "1234.e |12");
+}
+
+TEST_F(LibraryLongPaths, AreRefusedByNameWhereTheVolumeHasNoShortOnes) {
+  const std::string path = "C:\\" + Letters(50) + "\\" + Letters(50) + ".exe";
+  OpenAt(path);
+  world.Desktop.Answer(RefusedFilesText({path}), forms::msgbox::AnswerOk);
+  PressKey(Enter);
+  EXPECT_EQ(LastBox(), RefusedFilesText({path}));
+  EXPECT_TRUE(library.IsLoaded()) << "to choose another one";
+  EXPECT_EQ(box.Told, Names{"browsing"});
+}
+
+TEST_F(LibraryLongPaths, OfTheLibraryItselfAreShortenedToo) {
+  for (const char* name : {"anchor.ico", "bell.ico", "CLOCK.ICO"}) {
+    ASSERT_TRUE(world.Files.Remove(std::string(kIcons) + name));
+  }
+  PutIcon(Letters(83) + "x.ico");
+  world.Files.GiveShortName(kIcons + Letters(83) + "x.ico", "65E5~1.ICO");
+  Open();
+  ClickCell(0);
+  PressKey(Enter);
+  EXPECT_EQ(box.txtFile.Text(), "C:\\Corvelle\\Icons\\65E5~1.ICO |0");
 }
 
 TEST_F(LibraryDesk, ACancelledAddChangesNothing) {
