@@ -541,7 +541,7 @@ class NobodyHost final : public CustHost {
   int Say(std::string_view, unsigned) override { return 0; }
   bool FileExists(std::string_view) override { return false; }
   bool IsPlainFolder(std::string_view) override { return false; }
-  std::string TitleOf(std::string_view) override { return {}; }
+  std::vector<DroppedName> NamesOf(const std::vector<std::string>&) override { return {}; }
   std::string RecentFolder() override { return {}; }
 };
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/DroppedFiles.h"
 #include "customize/CustHistory.h"
 #include "customize/CustModules.h"
 #include "customize/CustTree.h"
@@ -26,8 +27,8 @@ class CustHost {
   /// True for a file; a folder is not a file.
   [[nodiscard]] virtual bool FileExists(std::string_view path) = 0;
   [[nodiscard]] virtual bool IsPlainFolder(std::string_view path) = 0;
-  /// The title of a new entry for a file.
-  [[nodiscard]] virtual std::string TitleOf(std::string_view path) = 0;
+  /// The titles of new entries for files, and their paths as records can hold them, in that order.
+  [[nodiscard]] virtual std::vector<DroppedName> NamesOf(const std::vector<std::string>& paths) = 0;
   /// The folder of recent documents, with a backslash at its end.
   [[nodiscard]] virtual std::string RecentFolder() = 0;
 };
@@ -129,13 +130,12 @@ class CustEditor {
   /// Where DragNode would come; nothing where it cannot go.
   [[nodiscard]] std::optional<CustPlace> PlaceAt(CustRef node, CustRef target, bool after) const;
 
-  /// The entry boxes get a file, and the selected node with them.
-  void SetFileEntry(std::string_view path);
   /// Files chosen in a dialog: the first replaces the selected entry, the others come behind it.
-  void AddFiles(const std::vector<std::string>& paths);
+  /// Gives those that no record can hold, which are left out.
+  std::vector<std::string> AddFiles(const std::vector<std::string>& paths);
   /// Files dropped by another program: they replace the selected entry and come before it, sorted.
-  /// A menu button takes the first one only. Not for a root.
-  void DropFiles(std::vector<std::string> names);
+  /// A menu button takes the first one only. Not for a root. Gives those that are left out.
+  std::vector<std::string> DropFiles(std::vector<std::string> names);
   /// A web address dropped by another program.
   void DropAddress(std::string_view address, std::string_view title);
 
@@ -176,7 +176,9 @@ class CustEditor {
   /// Where the deleted node goes back to; nothing when the node that tells it is gone.
   [[nodiscard]] std::optional<CustPlace> UndoPlace() const;
   CustRef CopyOf(CustRef node, CustPlace place, std::string key);
-  void FillWithFiles(const std::vector<std::string>& paths);
+  /// The entry boxes get a file, and the selected node with them.
+  void SetFileEntry(std::string_view path, const DroppedName& name);
+  std::vector<std::string> FillWithFiles(const std::vector<std::string>& paths);
   /// The end of a command that changed the tree: the node is selected and in the boxes.
   bool Settle(CustRef node);
 

@@ -80,33 +80,43 @@ bool CustEditor::MoveMenuNode(bool after, bool copy) {
   return Settle(node);
 }
 
-void CustEditor::SetFileEntry(std::string_view path) {
-  Boxes.txtFile = path;
+void CustEditor::SetFileEntry(std::string_view path, const DroppedName& name) {
   const std::size_t slash = path.rfind('\\');
   if (slash != std::string_view::npos) LastFolder = path.substr(0, slash);
-  Boxes.txtTitle = host_.TitleOf(path);
+  Boxes.txtTitle = name.Title;
+  Boxes.txtFile = *name.Stored;
   Boxes.txtCommand = Trim(Boxes.txtFile);
   cmdOK();
 }
 
-void CustEditor::FillWithFiles(const std::vector<std::string>& paths) {
+std::vector<std::string> CustEditor::FillWithFiles(const std::vector<std::string>& paths) {
+  const std::vector<DroppedName> names = host_.NamesOf(paths);
+  std::vector<std::string> refused;
+  bool filled = false;
   for (std::size_t i = 0; i < paths.size(); ++i) {
-    if (i > 0 && !(IsSingle(selected_) ? InsertButton() : InsertMenuItem())) return;
-    SetFileEntry(paths[i]);
+    if (!names[i].Stored) {
+      refused.push_back(paths[i]);
+      continue;
+    }
+    if (filled && !(IsSingle(selected_) ? InsertButton() : InsertMenuItem())) break;
+    SetFileEntry(paths[i], names[i]);
+    filled = true;
   }
+  return refused;
 }
 
-void CustEditor::AddFiles(const std::vector<std::string>& paths) {
-  if (OnRoot() || paths.empty()) return;
+std::vector<std::string> CustEditor::AddFiles(const std::vector<std::string>& paths) {
+  if (OnRoot() || paths.empty()) return {};
   const CustHistory::Step step(History, paths.size() > 1 ? "Add Files" : Name("Edit"), selected_);
   InsertAfter = true;
-  FillWithFiles(paths);
+  std::vector<std::string> refused = FillWithFiles(paths);
   InsertAfter = false;
-  TreeChanged = true;
+  if (refused.size() < paths.size()) TreeChanged = true;
+  return refused;
 }
 
-void CustEditor::DropFiles(std::vector<std::string> names) {
-  if (OnRoot() || names.empty()) return;
+std::vector<std::string> CustEditor::DropFiles(std::vector<std::string> names) {
+  if (OnRoot() || names.empty()) return {};
   if (IsMenuKey(KeyOf(selected_))) names.resize(1);
   const CustHistory::Step step(History, names.size() > 1 ? "Drop Files" : Name("Edit"), selected_);
   if (names.size() > 1) {
@@ -119,7 +129,7 @@ void CustEditor::DropFiles(std::vector<std::string> names) {
     // Each comes before the one filled last, so that they stand sorted in the end.
     std::reverse(names.begin(), names.end());
   }
-  FillWithFiles(names);
+  return FillWithFiles(names);
 }
 
 void CustEditor::DropAddress(std::string_view address, std::string_view title) {

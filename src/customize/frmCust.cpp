@@ -280,7 +280,9 @@ bool frmCust::FileExists(std::string_view path) { return with_.Files.FileExists(
 
 bool frmCust::IsPlainFolder(std::string_view path) { return with_.Files.FolderExists(path); }
 
-std::string frmCust::TitleOf(std::string_view path) { return with_.Titles.GetFileTitle(path); }
+std::vector<DroppedName> frmCust::NamesOf(const std::vector<std::string>& paths) {
+  return with_.Titles.GetDroppedNames(paths);
+}
 
 std::string frmCust::RecentFolder() {
   return EnsureBackslash(GetSpecialFolder(with_.Links, with_.Ports, kRecentFolder));

@@ -162,7 +162,7 @@ class frmCust final : public forms::Form,
   int Say(std::string_view text, unsigned flags) override;
   bool FileExists(std::string_view path) override;
   bool IsPlainFolder(std::string_view path) override;
-  std::string TitleOf(std::string_view path) override;
+  std::vector<DroppedName> NamesOf(const std::vector<std::string>& paths) override;
   std::string RecentFolder() override;
 
   // Loading and layout (frmCust.cpp).
@@ -202,6 +202,10 @@ class frmCust final : public forms::Form,
   void Browse(bool files);
   void ShowAddFileMsg();
   void AddFiles();
+  /// Tells the user, once the current event is over, that these files were not taken.
+  void TellRefused(const std::vector<std::string>& files);
+  /// The path as a record can hold it; empty when none can, of which the user is told.
+  [[nodiscard]] std::string PathToStore(const std::string& path);
   void SelectFolder();
   void SelectFile();
   [[nodiscard]] std::string StartFolder() const;

@@ -1,6 +1,7 @@
 #include <string>
 
 #include "base/Text.h"
+#include "core/DroppedFiles.h"
 #include "core/ProgramPaths.h"
 #include "core/SpecialFolders.h"
 #include "customize/frmCust.h"
@@ -153,7 +154,21 @@ void frmCust::AddFiles() {
   if (!IsLoaded() || choice.Paths.empty()) return;
   chkSelect0.SetValue(0);
   chkSelect1.SetValue(0);
-  Editor.AddFiles(choice.Paths);
+  TellRefused(Editor.AddFiles(choice.Paths));
+}
+
+// Where files are dropped the source waits, and would be held up by a message.
+void frmCust::TellRefused(const std::vector<std::string>& files) {
+  if (files.empty()) return;
+  Windows().Post([this, files] {
+    if (IsLoaded()) Say(RefusedFilesText(files), forms::msgbox::IconInformation);
+  });
+}
+
+std::string frmCust::PathToStore(const std::string& path) {
+  const std::optional<std::string> stored = NamesOf({path}).front().Stored;
+  if (!stored) TellRefused({path});
+  return stored.value_or(std::string());
 }
 
 std::string frmCust::FolderLink(const forms::FolderChoice& choice) {
@@ -191,6 +206,8 @@ void frmCust::SelectFolder() {
     LastBrowseFolder = path;
     if (title.empty()) title = path.substr(path.rfind('\\') + 1);
   }
+  path = PathToStore(path);
+  if (path.empty()) return;
   if (commandOnly) {
     txtCommand.SetText(path);
     return;
@@ -208,7 +225,8 @@ void frmCust::SelectFile() {
   const forms::FileChoice choice =
       Windows().AskFiles(hWnd(), {.Title = std::string(kOneFile), .StartFolder = StartFolder()});
   if (!IsLoaded() || choice.Paths.empty()) return;
-  (icon ? txtFile : txtCommand).SetText(choice.Paths.front());
+  const std::string path = PathToStore(choice.Paths.front());
+  if (!path.empty()) (icon ? txtFile : txtCommand).SetText(path);
   Editor.LastFolder = FolderOf(choice.Paths.front());
   chkSelect0.SetValue(0);
   chkSelect1.SetValue(0);

@@ -281,7 +281,7 @@ void frmCust::TreeView1_OLEDragDrop(const forms::DragData& data, forms::DropEffe
       });
       return;
     }
-    Editor.DropFiles(*data.Files);
+    TellRefused(Editor.DropFiles(*data.Files));
     return ShowState();
   }
   address_ = *data.Text;

@@ -254,7 +254,7 @@ TEST(Delete, DoesNotGoOnWhenTheWindowWasClosedOverItsQuestion) {
     }
     bool FileExists(std::string_view) override { return false; }
     bool IsPlainFolder(std::string_view) override { return false; }
-    std::string TitleOf(std::string_view) override { return {}; }
+    std::vector<DroppedName> NamesOf(const std::vector<std::string>&) override { return {}; }
     std::string RecentFolder() override { return {}; }
   } host;
   CustEditor editor(host);

@@ -56,6 +56,47 @@ TEST(DropFiles, AMenuButtonTakesTheFirstOnly) {
             "Letters(Alpha Beta - Gamma) Tools(Hammer Anvil) - y(Only) Bare | Clock - Paint");
 }
 
+TEST(AddFiles, LeavesOutAndGivesWhatNoRecordHolds) {
+  EditorBench bench;
+  bench.Host.TooLong = {"C:\\c.exe"};
+  bench.Pick("Beta");
+  EXPECT_EQ(bench.Editor.AddFiles({"C:\\c.exe", "C:\\a.exe", "C:\\b.exe"}),
+            std::vector<std::string>{"C:\\c.exe"});
+  EXPECT_EQ(bench.Shape(),
+            "Letters(Alpha a b - Gamma) Tools(Hammer Anvil) - One(Only) Bare | Clock - Paint");
+  EXPECT_EQ(bench.SelectedText(), "b");
+}
+
+TEST(DropFiles, LeaveOutAndGiveWhatNoRecordHolds) {
+  struct Row {
+    const char* tooLong;
+    const char* letters;
+  };
+  const Row rows[] = {{"C:\\a.exe", "Letters(Alpha b c - Gamma)"},
+                      {"C:\\b.exe", "Letters(Alpha a c - Gamma)"},
+                      {"C:\\c.exe", "Letters(Alpha a b - Gamma)"}};
+  for (const Row& row : rows) {
+    EditorBench bench;
+    bench.Host.TooLong = {row.tooLong};
+    bench.Pick("Beta");
+    EXPECT_EQ(bench.Editor.DropFiles({"C:\\c.exe", "C:\\a.exe", "C:\\b.exe"}), bench.Host.TooLong);
+    EXPECT_EQ(bench.Shape(),
+              row.letters + std::string(" Tools(Hammer Anvil) - One(Only) Bare | Clock - Paint"));
+  }
+}
+
+TEST(DropFiles, OfWhichNoRecordHoldsAnyChangeNothing) {
+  EditorBench bench;
+  bench.Host.TooLong = {"C:\\x.exe", "C:\\y.exe"};
+  bench.Pick("Beta");
+  const std::string before = bench.Shape();
+  EXPECT_EQ(bench.Editor.DropFiles({"C:\\y.exe", "C:\\x.exe"}).size(), 2U);
+  EXPECT_EQ(bench.Editor.AddFiles({"C:\\x.exe"}).size(), 1U);
+  EXPECT_EQ(bench.Shape(), before);
+  EXPECT_FALSE(bench.Editor.TreeChanged);
+  EXPECT_FALSE(bench.Editor.History.CanUndo());
+}
+
 TEST(DropFiles, OnARootChangeNothing) {
   EditorBench bench;
   bench.Editor.DropFiles({"C:\\y.exe"});

@@ -16,6 +16,7 @@ struct FakeHost final : CustHost {
   int Answer = 6;  // to each question: Yes
   std::vector<std::string> Files;
   std::vector<std::string> Folders;
+  std::vector<std::string> TooLong;  // for a record
 
   void Beep() override { ++Beeps; }
   int Say(std::string_view text, unsigned flags) override {
@@ -24,9 +25,14 @@ struct FakeHost final : CustHost {
   }
   bool FileExists(std::string_view path) override { return Has(Files, path); }
   bool IsPlainFolder(std::string_view path) override { return Has(Folders, path); }
-  std::string TitleOf(std::string_view path) override {
-    const std::string name(path.substr(path.rfind('\\') + 1));
-    return name.substr(0, name.rfind('.'));
+  std::vector<DroppedName> NamesOf(const std::vector<std::string>& paths) override {
+    std::vector<DroppedName> names;
+    for (const std::string& path : paths) {
+      const std::string name = path.substr(path.rfind('\\') + 1);
+      names.push_back({.Title = name.substr(0, name.rfind('.'))});
+      if (!Has(TooLong, path)) names.back().Stored = path;
+    }
+    return names;
   }
   std::string RecentFolder() override { return "C:\\Recent\\"; }
 

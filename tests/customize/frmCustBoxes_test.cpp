@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/DroppedFiles.h"
 #include "customize/CustDesk.h"
 
 namespace corvelle {
@@ -114,6 +115,89 @@ TEST(CustomizeBoxes, SeveralFilesStandBehindTheFirst) {
   const forms::FileQuestion& asked = desk.world.Desktop.FileQuestions().front();
   EXPECT_EQ(asked.Title, "Select one or more files.");
   EXPECT_TRUE(asked.Several);
+}
+
+// ---- paths that are too long for a record ----
+
+/// So many letters, of which each takes three bytes in a record.
+std::string Letters(int count) {
+  std::string letters;
+  for (int i = 0; i < count; ++i) letters += "\xE6\x97\xA5";
+  return letters;
+}
+
+/// With a folder and a file whose paths no record can hold.
+struct LongPathDesk : BoxDesk {
+  explicit LongPathDesk(std::string_view node = "Hammer") : BoxDesk(node) {
+    world.Files.Put(File, "x");
+    world.Files.MakeFolders(Folder);
+  }
+  void GiveShortNames() { world.Files.GiveShortName("C:\\" + Letters(50), "65E5~1"); }
+  void Refuses(const std::string& path) {
+    world.Desktop.Answer(RefusedFilesText({path}), forms::msgbox::AnswerOk);
+  }
+  const std::string Folder = "C:\\" + Letters(50) + "\\" + Letters(50);
+  const std::string File = Folder + ".exe";
+  const std::string ShortFolder = "C:\\65E5~1\\" + Letters(50);
+  const std::string ShortFile = ShortFolder + ".exe";
+};
+
+TEST(CustomizeLongPaths, OfAChosenFileAreShortened) {
+  LongPathDesk desk;
+  desk.GiveShortNames();
+  desk.world.Desktop.ChooseFiles({desk.File});
+  desk.ClickControl(desk.Form().cmdBrowseFiles);
+  EXPECT_EQ(desk.Stored(Letters(50)), (MenuRecord{Letters(50), desk.ShortFile, desk.ShortFile}));
+  EXPECT_TRUE(desk.world.Desktop.Boxes().empty());
+}
+
+TEST(CustomizeLongPaths, OfAChosenFolderAreShortened) {
+  LongPathDesk desk;
+  desk.GiveShortNames();
+  desk.world.Desktop.ChooseFolder({.Chosen = true, .Path = desk.Folder});
+  desk.ClickControl(desk.Form().cmdBrowseFolders);
+  EXPECT_EQ(desk.Stored(Letters(50)),
+            (MenuRecord{Letters(50), desk.ShortFolder, desk.ShortFolder}));
+}
+
+TEST(CustomizeLongPaths, OfWhatFillsOneBoxAreShortened) {
+  LongPathDesk desk;
+  desk.GiveShortNames();
+  desk.world.Desktop.ChooseFiles({desk.File});
+  desk.ClickFlat(desk.Form().cmdAllFiles, desk.Form().picFiles);
+  desk.world.Desktop.ChooseFolder({.Chosen = true, .Path = desk.Folder});
+  desk.ClickFlat(desk.Form().cmdSelectFolder, desk.Form().picFiles);
+  EXPECT_EQ(desk.Stored("Hammer"), (MenuRecord{"Hammer", desk.ShortFile, desk.ShortFolder}));
+}
+
+TEST(CustomizeLongPaths, AreRefusedByNameWhereTheVolumeHasNoShortOnes) {
+  LongPathDesk desk;
+  const MenuRecord before = desk.Stored("Hammer");
+  desk.Refuses(desk.File);
+  desk.world.Desktop.ChooseFiles({desk.File});
+  desk.ClickControl(desk.Form().cmdBrowseFiles);
+  desk.Refuses(desk.Folder);
+  desk.world.Desktop.ChooseFolder({.Chosen = true, .Path = desk.Folder});
+  desk.ClickControl(desk.Form().cmdBrowseFolders);
+  desk.Refuses(desk.File);
+  desk.world.Desktop.ChooseFiles({desk.File});
+  desk.ClickFlat(desk.Form().cmdAllFiles, desk.Form().picFiles);
+  desk.Refuses(desk.Folder);
+  desk.world.Desktop.ChooseFolder({.Chosen = true, .Path = desk.Folder});
+  desk.ClickFlat(desk.Form().cmdSelectFolder, desk.Form().picFiles);
+  EXPECT_EQ(desk.world.Desktop.AnswersLeft(), 0);
+  EXPECT_EQ(desk.Stored("Hammer"), before);
+  EXPECT_FALSE(desk.Editor().TreeChanged);
+  EXPECT_FALSE(desk.Editor().History.CanUndo());
+}
+
+TEST(CustomizeLongPaths, OfOneOfThreeDroppedFilesLeaveTheOthersTheirPlaces) {
+  LongPathDesk desk("Anvil");
+  desk.Refuses(desk.File);
+  desk.Drop({.Files = std::vector<std::string>{"C:\\Tools\\Paint.exe", desk.File,
+                                               "C:\\Tools\\Edit.exe"}});
+  EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Hammer Edit Paint) | Clock Paint");
+  EXPECT_EQ(desk.world.Desktop.AnswersLeft(), 0);
 }
 
 TEST(CustomizeBoxes, AMenuButtonTakesOneFileAndTheNextDialogStartsInItsFolder) {
