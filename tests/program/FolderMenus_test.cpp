@@ -107,5 +107,83 @@ TEST(OpenFolders, TheMenuIsItsButtonsAlsoWhenTheUserHasClickedAndCarriedWhileThe
   program.Ports.FolderMenus = &folders.Folders;
 }
 
+/// A menu of button 2 whose second item is a folder on a drive that never answers. Its row says so.
+class WaitingRow : public ::testing::Test {
+ protected:
+  struct Row {
+    int Milliseconds;  // after the opening
+    const char* Caption;
+  };
+  static constexpr Row kRows[] = {{200, "Docs (reading...)"}, {7000, "Docs (not available)"}};
+
+  struct Desk : ProgramDesk {
+    explicit Desk(const Row& row) {
+      world.Files.AddDrive('D');
+      world.SlowAnswers.Hang("D:");
+      Records = FormatRecord({"Menu", "Button", ""}, world.Ansi) +
+                FormatRecord({"A", "", "C:\\Tools\\tool.exe"}, world.Ansi);
+      Folder = FormatRecord({"Docs", "", "D:\\Docs\\*.*"}, world.Ansi);
+      world.Files.Put(kMenus + MenuFileName(1), Records + Folder);
+      OpenMenu(2);
+      world.Desktop.Advance(row.Milliseconds);
+      EXPECT_EQ(parts->Menu.Lbl[2].Caption(), row.Caption);
+    }
+    [[nodiscard]] std::string Menu() const { return Files().at("BMENU001.MNU"); }
+
+    std::string Records;  // before the folder's
+    std::string Folder;
+  };
+};
+
+TEST_F(WaitingRow, ThatIsDeletedComesBackAsItWas) {
+  for (const Row& row : kRows) {
+    Desk desk(row);
+    desk.RightClick(desk.Item(2), "Delete Item");
+    ASSERT_EQ(desk.Menu(), desk.Records);
+    desk.RightClick(desk.Item(1), "Undo Delete");
+    EXPECT_EQ(desk.Menu(), desk.Records + desk.Folder) << row.Caption;
+  }
+}
+
+TEST_F(WaitingRow, IsPastedAsItIsInTheFile) {
+  for (const Row& row : kRows) {
+    for (const char* taken : {"Copy Item", "Cut Item"}) {
+      Desk desk(row);
+      desk.RightClick(desk.Item(2), taken);
+      desk.RightClick(desk.Item(1), "Paste Item");
+      const std::string bytes = desk.Menu();
+      EXPECT_EQ(bytes.substr(kRecordLength, kRecordLength), desk.Folder) << taken << row.Caption;
+    }
+  }
+}
+
+TEST_F(WaitingRow, IsCopiedToTheSingleButtonsAsItIsInTheFile) {
+  for (const Row& row : kRows) {
+    Desk desk(row);
+    desk.PointAt(desk.Item(2));
+    desk.world.Desktop.KeyDown(kCtrl);
+    desk.world.Desktop.Press();
+    desk.world.Desktop.KeyUp(kCtrl);
+    ASSERT_TRUE(desk.parts->TheProgram.Entry.ItemDragging);
+    desk.PointAt(desk.Single(1));
+    desk.world.Desktop.Advance(50);
+    desk.world.Desktop.Press(forms::MouseButton::Right);
+    desk.world.Desktop.Release(forms::MouseButton::Right);
+    desk.world.Desktop.Release();
+    desk.world.Desktop.Advance(50);
+    EXPECT_EQ(desk.Files().at("BMENU001.BTN"), desk.Folder) << row.Caption;
+    EXPECT_EQ(desk.Menu(), desk.Records + desk.Folder);
+  }
+}
+
+TEST_F(WaitingRow, HasThePropertiesOfItsRecord) {
+  for (const Row& row : kRows) {
+    Desk desk(row);
+    desk.RightClick(desk.Item(2), "Properties");
+    ASSERT_TRUE(desk.parts->Properties.IsLoaded());
+    EXPECT_EQ(desk.parts->Properties.txtTitle.Text(), "Docs") << row.Caption;
+  }
+}
+
 }  // namespace
 }  // namespace corvelle

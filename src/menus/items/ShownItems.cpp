@@ -1,5 +1,6 @@
 #include "menus/items/ShownItems.h"
 
+#include "base/Text.h"
 #include "core/MenuFile.h"
 #include "core/SpecialFolders.h"
 
@@ -18,14 +19,18 @@ const std::string& ShownItems::NameOf(int index) const {
 EntryEdit ShownItems::EntryOf(int index) const {
   const MenuItem& item = (*this)[index];
   EntryEdit entry;
+  entry.CurRecord = item.Origin.Record;
+  entry.CurStored = StoredRecord(menu_->Stored, RealRecord(entry.CurRecord));
   entry.CurIcon = item.Icon;
   entry.CurTitle = item.Title;
+  // The title of a folder that waits says so, which is not part of the entry.
+  if (item.Folder != FolderState::Here) {
+    entry.CurTitle = StripAtNull(ParseRecord(entry.CurStored, ansi_).FTitle);
+  }
   entry.CurCommand = item.Command;
-  entry.CurRecord = item.Origin.Record;
   // Edits go to the menu file itself, by the numbers of its own records.
   entry.CurFile = Source();
   entry.CurMenuTag = Key();
-  entry.CurStored = StoredRecord(menu_->Stored, RealRecord(entry.CurRecord));
   // An entry that a folder of the shell was expanded to is told by its name in that folder.
   if (!item.Origin.Name.empty()) {
     entry.CurCommand = SpecialFolderEntryCommand(NameOf(index), entry.CurCommand, ansi_);
