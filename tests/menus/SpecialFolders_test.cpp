@@ -9,6 +9,7 @@
 
 #include "launch/LaunchItem.h"
 #include "menus/MenuDesk.h"
+#include "menus/folders/FolderMenus.h"
 
 namespace corvelle {
 namespace {
@@ -174,6 +175,65 @@ TEST(SpecialFolderInAMenu, AnItemThatIsNotExpandedOpensTheFolder) {
   desk.Open(1, {Item("Mouse", "", "CSIDL_CONTROLS/X")});
   desk.ClickItem(1);
   EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kControls, "")});
+}
+
+/// The menu of a folder of the shell that has not answered yet; see FolderState. Its title is also
+/// that of an entry in it.
+struct WaitingFolderDesk : FoldersDesk {
+  explicit WaitingFolderDesk(int milliseconds) {
+    TheProgram.Ports.FolderMenus = &Items;
+    World.SlowAnswers.Hang("shell");
+    Open(1, {Item("Mouse", "", "CSIDL_CONTROLS/u")});
+    World.Desktop.Advance(milliseconds);
+  }
+  [[nodiscard]] std::string Caption() { return Menu.Lbl[1].Caption(); }
+
+  FolderMenus Items{TheProgram.Services, TheProgram.Windows, TheProgram.Answers, TheProgram.Icons};
+};
+
+struct WaitingRow {
+  int Milliseconds;  // after the opening
+  const char* Caption;
+};
+constexpr WaitingRow kReading[] = {{0, "Mouse"}, {200, "Mouse (reading...)"}};
+constexpr WaitingRow kNotAvailable{7000, "Mouse (not available)"};
+
+TEST(SpecialFolderThatWaits, OpensAsItselfByAClick) {
+  for (const WaitingRow& row : kReading) {
+    WaitingFolderDesk desk(row.Milliseconds);
+    ASSERT_EQ(desk.Caption(), row.Caption);
+    desk.ClickItem(1);
+    EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kControls, "")}) << row.Caption;
+    EXPECT_FALSE(desk.Menu.MenuVisible());
+  }
+}
+
+TEST(SpecialFolderThatWaits, HasTheMenuOfTheFolder) {
+  for (const WaitingRow& row : {kReading[0], kReading[1], kNotAvailable}) {
+    WaitingFolderDesk desk(row.Milliseconds);
+    ASSERT_EQ(desk.Caption(), row.Caption);
+    desk.World.Folders.Dismiss();
+    desk.PointAtItem(1);
+    desk.World.Desktop.Click(MouseButton::Right);
+    EXPECT_EQ(desk.World.Folders.Menus(), std::vector{(ShownMenu{.Folder = kControls,
+                                                                 .Name = "",
+                                                                 .At = desk.ItemPoint(1),
+                                                                 .Owner = desk.Menu.hWnd(),
+                                                                 .Chosen = ""})})
+        << row.Caption;
+  }
+}
+
+TEST(SpecialFolderThatWaits, OpensAsItselfForAFileThatIsDroppedOnIt) {
+  for (const WaitingRow& row : {kReading[0], kReading[1], kNotAvailable}) {
+    WaitingFolderDesk desk(row.Milliseconds);
+    ASSERT_EQ(desk.Caption(), row.Caption);
+    desk.World.Desktop.StartDrag(
+        {.Data = {.Files = Strings{"C:\\Tools\\tool.exe"}}, .Button = MouseButton::Right});
+    desk.PointAtItem(1);
+    desk.World.Desktop.Release(MouseButton::Right);
+    EXPECT_EQ(desk.World.Folders.Opened(), std::vector{desk.Opened(kControls, "")}) << row.Caption;
+  }
 }
 
 TEST(SpecialFolderInAMenu, WithoutFoldersOfTheShellItIsUnavailable) {

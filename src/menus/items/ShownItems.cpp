@@ -13,7 +13,8 @@ const MenuItem& ShownItems::operator[](int index) const {
 
 const std::string& ShownItems::NameOf(int index) const {
   const MenuItem& item = (*this)[index];
-  return item.Origin.Name.empty() ? item.Title : item.Origin.Name;
+  const bool titled = item.Origin.Name.empty() && item.Folder == FolderState::Here;
+  return titled ? item.Title : item.Origin.Name;
 }
 
 EntryEdit ShownItems::EntryOf(int index) const {

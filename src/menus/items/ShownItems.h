@@ -25,7 +25,8 @@ class ShownItems {
   [[nodiscard]] bool Has(int index) const noexcept { return index >= 1 && index <= Count(); }
   [[nodiscard]] const MenuItem& operator[](int index) const;
 
-  /// What an item is called: its title, or its whole name in a folder of the shell.
+  /// What an item is called: its title, or its whole name in a folder of the shell; empty for a
+  /// folder that waits, which stands for itself.
   [[nodiscard]] const std::string& NameOf(int index) const;
   /// The entry that an item stands for, as popups and edits take it.
   [[nodiscard]] EntryEdit EntryOf(int index) const;
