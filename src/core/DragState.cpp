@@ -1,13 +1,9 @@
 #include "core/DragState.h"
 
-#include "platform/Input.h"
+#include "core/HeldButton.h"
 
 namespace corvelle {
 
-bool DragState::DragHolds(const Input& input) const {
-  constexpr int kLeftButtonKey = 1;
-  constexpr int kRightButtonKey = 2;
-  return DragEntered && (input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey));
-}
+bool DragState::DragHolds(const Input& input) const { return DragEntered && AnyButtonDown(input); }
 
 }  // namespace corvelle

@@ -18,7 +18,6 @@ namespace corvelle {
 namespace {
 
 constexpr int kLeftButtonKey = 1;
-constexpr int kRightButtonKey = 2;
 
 }  // namespace
 
@@ -168,11 +167,9 @@ void StripPull::EndLostPull() {
 }
 
 void StripPull::WatchPull() {
-  const Input& input = with_.Pointer;
-  const bool anyDown = input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey);
   if (!FrameHeld) {
     watch_.Reset();
-  } else if (watch_.Look(anyDown, strip_.AsForm().Windows().Now())) {
+  } else if (watch_.Look(AnyButtonDown(with_.Pointer), strip_.AsForm().Windows().Now())) {
     watch_.Reset();
     LosePress();
   }

@@ -4,8 +4,8 @@
 
 #include "base/Edge.h"
 #include "base/Geometry.h"
+#include "core/HeldButton.h"
 #include "forms/Types.h"
-#include "toolbar/layout/CarryRules.h"
 #include "toolbar/layout/StripWindow.h"
 
 namespace corvelle {

@@ -14,15 +14,6 @@ int Channel(Rgb colour, unsigned shift) noexcept {
 
 }  // namespace
 
-bool AbandonWatch::Look(bool anyButtonDown, std::int64_t now) noexcept {
-  if (anyButtonDown) {
-    Reset();
-    return false;
-  }
-  if (upSince_ == kDown) upSince_ = now;
-  return now - upSince_ >= kGrace;
-}
-
 bool MayDrop(const CarryScene& scene) noexcept {
   switch (scene.Over) {
     case CarryOver::Menu:

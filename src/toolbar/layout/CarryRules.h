@@ -1,30 +1,10 @@
 #pragma once
 
-#include <cstdint>
-
 #include "platform/Canvas.h"
 
 namespace corvelle {
 
 // Rules of carrying an entry with the mouse: no toolkit, no platform.
-
-/// Tells when the release of a carried entry went to another program. The system may show a button
-/// as up some time before the release arrives here, so that one look is not enough.
-class AbandonWatch {
- public:
-  /// For how long no button must be down, milliseconds.
-  static constexpr std::int64_t kGrace = 150;
-
-  /// One look: true if no button has been down since the grace began. `now` in milliseconds.
-  [[nodiscard]] bool Look(bool anyButtonDown, std::int64_t now) noexcept;
-  /// Forgets what was seen, for another carry.
-  void Reset() noexcept { upSince_ = kDown; }
-
- private:
-  static constexpr std::int64_t kDown = -1;
-
-  std::int64_t upSince_ = kDown;
-};
 
 /// The window under the pointer of a carry.
 enum class CarryOver { Menu, Buttons, SingleButtons, Elsewhere };

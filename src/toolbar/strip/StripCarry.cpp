@@ -21,8 +21,6 @@
 namespace corvelle {
 namespace {
 
-constexpr int kLeftButtonKey = 1;
-constexpr int kRightButtonKey = 2;
 constexpr int kNoKey = 0;
 
 }  // namespace
@@ -59,9 +57,7 @@ void StripCarry::WatchCarry() {
     carryWatch_.Reset();
     return;
   }
-  const Input& input = with_.Pointer;
-  const bool anyDown = input.IsKeyDown(kLeftButtonKey) || input.IsKeyDown(kRightButtonKey);
-  if (carryWatch_.Look(anyDown, window_.Windows().Now())) {
+  if (carryWatch_.Look(AnyButtonDown(with_.Pointer), window_.Windows().Now())) {
     carryWatch_.Reset();
     // The release of a carried item went to another program.
     with_.Carry.AbandonCarry();

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "core/HeldButton.h"
 #include "forms/Timer.h"
 #include "forms/Types.h"
-#include "toolbar/layout/CarryRules.h"
 #include "toolbar/layout/StripWindow.h"
 
 namespace corvelle {
