@@ -78,6 +78,9 @@ class StripMenusPort {
   virtual void ActivateKeyDown(int keyCode) = 0;
   /// The timer that follows the pointer over the strip.
   virtual void SetPointerWatch(bool enabled) = 0;
+  /// True while a press on the buttons waits for its release, which the menu gets where it comes
+  /// over it.
+  [[nodiscard]] virtual bool ButtonsPressed() const { return false; }
 };
 
 /// The strip under something that is carried or dropped.

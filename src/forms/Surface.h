@@ -66,6 +66,8 @@ class Surface : public Window {
   /// Where the last press was, the second one of a double click too. When its event is dealt with,
   /// the pointer may be elsewhere.
   [[nodiscard]] TwipPoint PressPlace() const;
+  /// True from a press on it, or on a graphic of it, to the release or the loss of the mouse.
+  [[nodiscard]] bool IsPressed() const noexcept { return down_ != MouseButton::None; }
   /// The press on the surface itself ended without a release: a message box came up, another window
   /// took the mouse, or this one was hidden. A graphic that was pressed is told instead.
   std::function<void()> CaptureLost;

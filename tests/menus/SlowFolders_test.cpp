@@ -15,6 +15,10 @@
 namespace corvelle {
 namespace {
 
+using forms::MouseButton;
+
+constexpr int kLeftButtonKey = 1;
+
 // The captions are there without the names that the shell gives.
 TEST(FolderQuestions, AboutTheFilesOfAFolderHoldTheMenuUpForAShorterTimeThanTheFolder) {
   struct Row {
@@ -179,6 +183,134 @@ TEST_F(SlowFolder, NothingMovesBetweenPressAndRelease) {
   EXPECT_EQ(desk_.Captions(), stored_);
   desk_.World.Desktop.Release();
   EXPECT_EQ(desk_.Started(), Strings{"C:\\Tools\\tool.exe"});
+}
+
+TEST_F(SlowFolder, NothingMovesWhileTheRightButtonIsHeld) {
+  Slow().Delay("D:", 120);
+  Open();
+  desk_.PointAtItem(1);
+  desk_.World.Desktop.Press(MouseButton::Right);
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), stored_);
+  desk_.World.Desktop.Release(MouseButton::Right);
+  Advance(200);
+  EXPECT_EQ(desk_.Captions(), filled_);
+}
+
+// The button is up, and what falls due comes before the event that tells so.
+TEST_F(SlowFolder, NothingMovesBeforeAReleaseThatIsOnItsWay) {
+  Slow().Delay("D:", 120);
+  Open();
+  desk_.PointAtItem(2);
+  desk_.World.Desktop.Press(MouseButton::Right);
+  Advance(1000);
+  ASSERT_TRUE(desk_.Menu.UpdateTimer.Enabled());
+  const forms::TimerId timer = desk_.World.Desktop.StartTimer(1, [&] {
+    desk_.World.Desktop.Release(MouseButton::Right);
+    desk_.Menu.UpdateTimer.Tick();
+    EXPECT_EQ(desk_.Captions(), stored_);
+  });
+  Advance(1);
+  desk_.World.Desktop.StopTimer(timer);
+  Advance(200);
+  EXPECT_EQ(desk_.Captions(), filled_);
+}
+
+// The pointer has rested long enough, and the button is down.
+TEST_F(SlowFolder, NothingMovesBeforeAPressThatIsOnItsWay) {
+  Slow().Delay("D:", 120);
+  Open();
+  Advance(50);
+  desk_.PointAtItem(2);
+  Advance(90);
+  ASSERT_TRUE(desk_.Menu.UpdateTimer.Enabled());
+  const forms::TimerId timer = desk_.World.Desktop.StartTimer(20, [&] {
+    desk_.World.Desktop.Press();
+    desk_.Menu.UpdateTimer.Tick();
+    EXPECT_EQ(desk_.Captions(), stored_);
+  });
+  Advance(20);
+  desk_.World.Desktop.StopTimer(timer);
+  desk_.World.Desktop.Release();
+  EXPECT_EQ(desk_.Started(), Strings{"D:\\Docs\\"});
+}
+
+TEST_F(SlowFolder, NothingMovesWhileAnArrowIsHeld) {
+  Slow().Delay("D:", 120);
+  Strings commands(60, "C:\\Tools\\tool.exe");
+  commands.emplace_back("D:\\Docs\\*.*");
+  desk_.OpenCommands(commands);
+  ASSERT_GT(desk_.Menu.Pages().Slides(), 0);
+  desk_.PointAt(desk_.ArrowPoint(1));
+  desk_.World.Desktop.Press();
+  Advance(1000);
+  EXPECT_EQ(desk_.Menu.Items().Count(), 61);
+  desk_.World.Desktop.Release();
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
+  Advance(200);
+  EXPECT_EQ(desk_.Menu.Items().Count(), 62);
+  EXPECT_EQ(desk_.Menu.Pages().CurMenu(), 1);
+}
+
+// The first click asks again, and the answer comes under the second one.
+TEST_F(SlowFolder, NothingMovesUnderTheSecondPressOfAQuickPair) {
+  const Strings waiting{"Item 2", "Item 3 (not available)"};
+  Slow().Hang("D:");
+  Open();
+  Advance(6000);
+  ASSERT_EQ(desk_.Captions(), waiting);
+  Slow().Resume("D:");
+  desk_.PointAtItem(2);
+  desk_.World.Desktop.DoubleClick({}, [&] {
+    Advance(1000);
+    EXPECT_EQ(desk_.Captions(), waiting);
+  });
+  EXPECT_TRUE(desk_.Started().empty());
+  Advance(200);
+  EXPECT_EQ(desk_.Captions(), filled_);
+}
+
+TEST_F(SlowFolder, NothingMovesUnderADragThatComesStraightIntoTheMenu) {
+  Slow().Delay("D:", 120);
+  Open();
+  desk_.World.Desktop.StartDrag({.Data = {.Files = Strings{"C:\\Tools\\tool.exe"}}});
+  desk_.PointAtItem(2);
+  Advance(1000);
+  ASSERT_FALSE(desk_.TheProgram.Drag.DragEntered);
+  EXPECT_EQ(desk_.Captions(), stored_);
+  desk_.PointAway();
+  Advance(200);
+  EXPECT_EQ(desk_.Captions(), filled_);
+  desk_.World.Desktop.Release();
+}
+
+TEST_F(SlowFolder, NothingMovesBeforeADropThatIsOnItsWay) {
+  Slow().Delay("D:", 120);
+  Open();
+  desk_.World.Desktop.StartDrag({.Data = {.Files = Strings{"C:\\Tools\\tool.exe"}}});
+  desk_.PointAtItem(2);
+  Advance(1000);
+  const forms::TimerId timer = desk_.World.Desktop.StartTimer(1, [&] {
+    desk_.World.Desktop.Release();
+    desk_.Menu.UpdateTimer.Tick();
+    EXPECT_EQ(desk_.Captions(), stored_);
+  });
+  Advance(1);
+  desk_.World.Desktop.StopTimer(timer);
+  EXPECT_EQ(desk_.Strip.Times("RefreshMenu F2"), 1) << "it was dropped";
+}
+
+TEST_F(SlowFolder, ADragWhoseSourceDiedHoldsNothingUp) {
+  Slow().Delay("D:", 120);
+  Open();
+  desk_.World.Desktop.StartDrag({.Data = {.Files = Strings{"C:\\Tools\\tool.exe"}}});
+  desk_.PointAtItem(2);
+  Advance(50);
+  desk_.World.Desktop.KillDragSource();
+  desk_.World.Desktop.KeyUp(kLeftButtonKey);
+  ASSERT_TRUE(desk_.TheProgram.Drag.DragOverButton);
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), filled_);
 }
 
 TEST_F(SlowFolder, AfterARestartTheGeneratedFileIsShownFirst) {

@@ -185,5 +185,62 @@ TEST_F(WaitingRow, HasThePropertiesOfItsRecord) {
   }
 }
 
+/// A menu of button 2 with a tool and a folder that takes its time, over which the strip's button
+/// is held.
+class HeldOverTheMenu : public ::testing::Test {
+ protected:
+  HeldOverTheMenu() {
+    desk_.world.Files.Put("D:\\Docs\\one.txt", "x");
+    desk_.world.Files.Put("D:\\Docs\\two.txt", "x");
+    desk_.world.Files.Put(kMenus + MenuFileName(1),
+                          FormatRecord({"Menu", "Button", ""}, desk_.world.Ansi) +
+                              FormatRecord({"Docs", "", "D:\\Docs\\*.*"}, desk_.world.Ansi) +
+                              FormatRecord({"A", "", "C:\\Tools\\tool.exe"}, desk_.world.Ansi));
+    desk_.world.SlowAnswers.Delay("D:", 200);
+    desk_.PointAt(desk_.MenuButton(2));
+    desk_.world.Desktop.Press();
+  }
+  [[nodiscard]] int Count() const { return desk_.parts->Menu.Items().Count(); }
+  void Advance(int milliseconds) { desk_.world.Desktop.Advance(milliseconds); }
+
+  struct Desk : ProgramDesk {
+    Desk() { world.Files.AddDrive('D'); }
+  };
+  Desk desk_;
+};
+
+TEST_F(HeldOverTheMenu, NothingMovesBeforeTheRelease) {
+  Advance(20);
+  ASSERT_EQ(Count(), 2);
+  desk_.PointAt(desk_.Item(2));
+  Advance(1000);
+  EXPECT_EQ(Count(), 2);
+  desk_.world.Desktop.Release();
+  EXPECT_EQ(desk_.world.Shell.Started(), std::vector<std::string>{"C:\\Tools\\tool.exe"});
+}
+
+TEST_F(HeldOverTheMenu, ThePointerThatIsStillOnTheButtonHoldsNothingUp) {
+  Advance(20);
+  ASSERT_EQ(Count(), 2);
+  Advance(1000);
+  EXPECT_EQ(Count(), 3);
+}
+
+// The button is up, and what falls due comes before the event that tells so.
+TEST_F(HeldOverTheMenu, NothingMovesBeforeAReleaseThatIsOnItsWay) {
+  Advance(20);
+  ASSERT_EQ(Count(), 2);
+  desk_.PointAt(desk_.Item(2));
+  Advance(1000);
+  const forms::TimerId timer = desk_.world.Desktop.StartTimer(1, [&] {
+    desk_.world.Desktop.Release();
+    desk_.parts->Menu.UpdateTimer.Tick();
+    EXPECT_EQ(Count(), 2);
+  });
+  Advance(1);
+  desk_.world.Desktop.StopTimer(timer);
+  EXPECT_EQ(desk_.world.Shell.Started(), std::vector<std::string>{"C:\\Tools\\tool.exe"});
+}
+
 }  // namespace
 }  // namespace corvelle

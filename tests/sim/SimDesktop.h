@@ -77,7 +77,9 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void ClickAt(int x, int y, forms::MouseButton button = forms::MouseButton::Left);
   /// Another window takes the mouse from the one that was pressed, which is told so.
   void TakeCapture();
-  void DoubleClick(const std::function<void()>& between = {});
+  /// `between` runs between the two, `held` while the second press is held.
+  void DoubleClick(const std::function<void()>& between = {},
+                   const std::function<void()>& held = {});
   /// A key goes down, or up again. Enter and Esc bring their characters with them.
   void KeyDown(int virtualKey);
   void KeyUp(int virtualKey);

@@ -77,11 +77,13 @@ void SimDesktop::TakeCapture() {
   UserEvent([this] { LoseCapture(); });
 }
 
-void SimDesktop::DoubleClick(const std::function<void()>& between) {
+void SimDesktop::DoubleClick(const std::function<void()>& between,
+                             const std::function<void()>& held) {
   Click();
   if (between) between();
   keys_.insert(KeyOf(forms::MouseButton::Left));
   UserEvent([this, mouse = MouseNow()] { DeliverPress(mouse, forms::MouseButton::Left, true); });
+  if (held) held();
   Release();
 }
 

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/HeldButton.h"
 #include "core/RecordEdits.h"
 #include "core/WindowPorts.h"
 #include "forms/ControlArray.h"
@@ -259,6 +260,8 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   void FoldersArrived(const std::string& key);
   /// Updates the menu on show, now or as soon as the pointer lets it.
   void TryUpdate();
+  /// True while the release of a button that is held over the menu, or of a drag, is to come.
+  [[nodiscard]] bool IsHeld();
   /// The menu closes, or another one comes.
   void ForgetUpdate();
   /// Builds the menu on show again without closing it.
@@ -372,6 +375,7 @@ class frmQMenu final : public forms::Form, public QMenuPort {
   bool pressed_ = false;
   /// Since when there is something new to show of the menu that is up.
   std::optional<std::int64_t> updateSince_;
+  AbandonWatch releaseWatch_;
   /// When the pointer moved over the menu last, and to where.
   std::int64_t movedAt_ = 0;
   TwipPoint movedTo_;

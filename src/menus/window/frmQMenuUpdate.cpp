@@ -43,7 +43,10 @@ void frmQMenu::FoldersArrived(const std::string& key) {
     cache_.Remove(key);
     return;
   }
-  if (!updateSince_) updateSince_ = program_.Windows.Now();
+  if (!updateSince_) {
+    updateSince_ = program_.Windows.Now();
+    releaseWatch_.Reset();
+  }
   TryUpdate();
 }
 
@@ -51,8 +54,8 @@ void frmQMenu::TryUpdate() {
   UpdateTimer.SetEnabled(false);
   if (!updateSince_) return;
   const std::int64_t now = program_.Windows.Now();
-  const bool busy = pressed_ || program_.Guards.MenuBuilding || program_.Guards.OpenQuestions > 0 ||
-                    program_.Entry.ItemDragging ||
+  const bool busy = pressed_ || IsHeld() || program_.Guards.MenuBuilding ||
+                    program_.Guards.OpenQuestions > 0 || program_.Entry.ItemDragging ||
                     program_.Drag.DragHolds(program_.Services.Pointer) ||
                     program_.Guards.ItemActionBusy;
   if (!MayUpdate({.Busy = busy,
@@ -65,6 +68,20 @@ void frmQMenu::TryUpdate() {
   }
   updateSince_.reset();
   if (MenuVisible()) UpdateInPlace();
+}
+
+bool frmQMenu::IsHeld() {
+  const bool over = PointerOver();
+  const bool down = AnyButtonDown(program_.Services.Pointer);
+  const ToolbarPort* const strip = program_.Ports.Toolbar;
+  // Until the event of the release comes: by then the button has been up for a moment.
+  const bool waits = IsPressed() || program_.Drag.DragOverButton ||
+                     (over && strip != nullptr && strip->ButtonsPressed());
+  if (!waits) {
+    releaseWatch_.Reset();
+    return over && down;
+  }
+  return !releaseWatch_.Look(down, program_.Windows.Now());
 }
 
 void frmQMenu::ForgetUpdate() {

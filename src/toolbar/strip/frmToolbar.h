@@ -80,6 +80,7 @@ class frmToolbar final : public forms::Form,
   [[nodiscard]] WindowId WindowHandle() const override { return hWnd(); }
   void HoldForMessage(bool owns) override { owns ? HoldInputOfOwner() : HoldInput(); }
   void ReleaseAfterMessage() override { ReleaseInput(); }
+  [[nodiscard]] bool ButtonsPressed() const override { return picToolbar.IsPressed(); }
   [[nodiscard]] WindowId ButtonBoxHandle() const override { return picToolbar.hWnd(); }
   [[nodiscard]] WindowId SingleBoxHandle() const override { return picSingleButton.hWnd(); }
   [[nodiscard]] TwipRect WindowBounds() const override { return Bounds(); }
