@@ -313,6 +313,58 @@ TEST_F(SlowFolder, ADragWhoseSourceDiedHoldsNothingUp) {
   EXPECT_EQ(desk_.Captions(), filled_);
 }
 
+TEST_F(SlowFolder, APressThatEndsWithoutAReleaseHoldsNothingUp) {
+  Slow().Delay("D:", 400);
+  Open();
+  desk_.PointAtItem(1);
+  desk_.World.Desktop.Press();
+  Advance(200);
+  desk_.World.Desktop.TakeCapture();
+  desk_.PointAway();
+  desk_.World.Desktop.Release();
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), filled_);
+}
+
+TEST_F(SlowFolder, ThatAnswersAfterACarryThatWasPutDownInVainComesIntoTheMenu) {
+  constexpr int kCtrl = 17;
+  Slow().Delay("D:", 400);
+  Open();
+  desk_.PointAtItem(1);
+  desk_.World.Desktop.KeyDown(kCtrl);
+  desk_.World.Desktop.Press();
+  desk_.World.Desktop.KeyUp(kCtrl);
+  ASSERT_TRUE(desk_.TheProgram.Entry.ItemDragging);
+  Advance(200);
+  desk_.PointAway();
+  desk_.World.Desktop.Release();
+  ASSERT_FALSE(desk_.TheProgram.Entry.ItemDragging);
+  Advance(1000);
+  EXPECT_EQ(desk_.Captions(), filled_);
+}
+
+// A press with Ctrl that a message ends: no record can hold a copy of the entry.
+TEST_F(SlowFolder, ThatAnswersAfterAMessageUnderThePressComesIntoTheMenu) {
+  constexpr int kCtrl = 17;
+  const std::string folder = "C:\\" + std::string(60, 'f') + "\\";
+  std::string name;
+  for (int i = 0; i < 70; ++i) name += "\xE6\x97\xA5";
+  desk_.World.Files.Put(folder + name + ".txt", "x");
+  Slow().Delay("D:", 400);
+  desk_.OpenCommands({folder + "*.*", "D:\\Docs\\*.*"});
+  desk_.World.Desktop.AnswerAnyOther(forms::msgbox::AnswerOk);
+  desk_.PointAtItem(1);
+  desk_.World.Desktop.KeyDown(kCtrl);
+  desk_.World.Desktop.Press();
+  desk_.World.Desktop.KeyUp(kCtrl);
+  ASSERT_EQ(desk_.World.Desktop.Boxes().size(), 1U);
+  desk_.PointAway();
+  desk_.World.Desktop.Release();
+  ASSERT_EQ(desk_.Menu.Items().Count(), 2);
+  Advance(1000);
+  EXPECT_EQ(desk_.Menu.Items().Count(), 3);
+}
+
 TEST_F(SlowFolder, AfterARestartTheGeneratedFileIsShownFirst) {
   Open();
   const std::string name = "C:\\Corvelle\\Menus\\BMENU001.mfd";

@@ -253,6 +253,23 @@ TEST(frmQMenuChoice, AReleaseHandedOnByTheStripChoosesTheItem) {
   EXPECT_FALSE(desk.TheProgram.Menu.KeyboardOnToolbar);
 }
 
+TEST(frmQMenuChoice, AReleaseHandedOnByTheStripIsNotThatOfAPressThatHasEndedInACarry) {
+  constexpr int kCtrl = 17;
+  MenuDesk desk;
+  desk.Open(1, Items(3));
+  desk.PointAtItem(2);
+  desk.World.Desktop.KeyDown(kCtrl);
+  desk.World.Desktop.Press();
+  desk.World.Desktop.KeyUp(kCtrl);
+  ASSERT_TRUE(desk.TheProgram.Entry.ItemDragging);
+  desk.PointAway();
+  desk.World.Desktop.Release();
+  ASSERT_EQ(desk.TheProgram.Menu.SelectedItem, 0);
+  desk.Menu.xMouseUp(MouseButton::Left, {}, 600, desk.Menu.Lbl[2].Top());
+  EXPECT_TRUE(desk.Started().empty());
+  EXPECT_TRUE(desk.Menu.MenuVisible());
+}
+
 TEST(frmQMenuChoice, AMenuOpenedWhileTheOldOneClosesKeepsItsOwnSelection) {
   MenuDesk desk;
   desk.PutMenu(2, Items(4));

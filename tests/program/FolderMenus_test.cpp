@@ -242,5 +242,25 @@ TEST_F(HeldOverTheMenu, NothingMovesBeforeAReleaseThatIsOnItsWay) {
   EXPECT_EQ(desk_.world.Shell.Started(), std::vector<std::string>{"C:\\Tools\\tool.exe"});
 }
 
+/// A carry whose release another program got.
+TEST(CarriesOverTheMenu, OneThatWasGivenUpHoldsUpNoUpdate) {
+  ProgramDesk desk;
+  desk.world.Files.AddDrive('D');
+  desk.world.Files.Put("D:\\Docs\\one.txt", "x");
+  desk.world.Files.Put("D:\\Docs\\two.txt", "x");
+  desk.world.Files.Put(kMenus + MenuFileName(1),
+                       FormatRecord({"Menu", "Button", ""}, desk.world.Ansi) +
+                           FormatRecord({"A", "", "C:\\Tools\\tool.exe"}, desk.world.Ansi) +
+                           FormatRecord({"Docs", "", "D:\\Docs\\*.*"}, desk.world.Ansi));
+  desk.world.SlowAnswers.Delay("D:", 1500);
+  desk.PickUpItem(1);
+  desk.world.Desktop.KeyUp(1);
+  desk.world.Desktop.Advance(1000);
+  ASSERT_FALSE(desk.parts->TheProgram.Entry.ItemDragging);
+  ASSERT_TRUE(desk.parts->Menu.MenuVisible());
+  desk.world.Desktop.Advance(2000);
+  EXPECT_EQ(desk.parts->Menu.Items().Count(), 3);
+}
+
 }  // namespace
 }  // namespace corvelle

@@ -100,9 +100,9 @@ void frmQMenu::mMouseMove(float x, float y) {
 
 void frmQMenu::Form_MouseUp(MouseButton button, ShiftState shift, float x, float y) {
   program_.Menu.KeyboardOnToolbar = false;
+  const bool pressedHere = std::exchange(pressed_, false);
   if (program_.Carry.EndCarry(OnScreen(x, y), button, shift)) return;
   if (program_.Guards.MenuBuilding) return;
-  const bool pressedHere = std::exchange(pressed_, false);
   if (button == MouseButton::Left && !StillAway(x, y)) {
     // The item at the place of the click counts, though the selection may have gone since.
     if (pressedHere && program_.Menu.SelectedItem == 0) Form_MouseMove(button, shift, x, y);

@@ -54,8 +54,8 @@ void frmQMenu::TryUpdate() {
   UpdateTimer.SetEnabled(false);
   if (!updateSince_) return;
   const std::int64_t now = program_.Windows.Now();
-  const bool busy = pressed_ || IsHeld() || program_.Guards.MenuBuilding ||
-                    program_.Guards.OpenQuestions > 0 || program_.Entry.ItemDragging ||
+  const bool busy = IsHeld() || program_.Guards.MenuBuilding || program_.Guards.OpenQuestions > 0 ||
+                    program_.Entry.ItemDragging ||
                     program_.Drag.DragHolds(program_.Services.Pointer) ||
                     program_.Guards.ItemActionBusy;
   if (!MayUpdate({.Busy = busy,
