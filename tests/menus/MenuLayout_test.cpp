@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "menus/items/MenuRules.h"
+
 namespace corvelle {
 namespace {
 
@@ -234,6 +236,33 @@ TEST(MenuSeparators, DrawOneRuleAndAddTheirGapOnce) {
     EXPECT_FALSE(menu.Items[0].AfterSeparator) << pattern;
     EXPECT_TRUE(menu.Items[1].AfterSeparator) << pattern;
     EXPECT_FLOAT_EQ(menu.Height, 960) << pattern;
+  }
+}
+
+// Tops are sums of floats, and the twips of a pixel are no whole number at most scales.
+TEST(MenuSeparators, HaveTheirRulesAndNoOtherAppearsAtAnyScale) {
+  for (int dpi = 96; dpi <= 336; dpi += 24) {
+    const float twips = 1440.0F / static_cast<float>(dpi);
+    for (int line = 10; line <= 60; ++line) {
+      for (int separators = 0; separators <= 6; ++separators) {
+        std::string pattern;
+        for (int item = 1; item <= 20; ++item) pattern += item <= separators ? "is" : "i";
+        const std::vector<MenuItem> items = ItemsOf(File(pattern));
+        const float height = static_cast<float>(line) * twips;
+        const MenuLayout menu = LayOutMenu({.Items = items,
+                                            .TwipsX = twips,
+                                            .TwipsY = twips,
+                                            .LineHeight = height,
+                                            .WindowHeight = 40000});
+        ASSERT_EQ(menu.Slides, 0);
+        for (std::size_t i = 1; i < menu.Items.size(); ++i) {
+          const ItemBox above{menu.Items[i - 1].Top, height};
+          const ItemBox below{menu.Items[i].Top, height};
+          EXPECT_EQ(HasRuleBetween(above, below, menu.ItemGap), menu.Items[i].AfterSeparator)
+              << dpi << " dots, lines of " << line << ", " << pattern << ", below item " << i;
+        }
+      }
+    }
   }
 }
 

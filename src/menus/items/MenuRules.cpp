@@ -48,7 +48,8 @@ bool IsOutsideItems(const PageScene& page, float y) noexcept {
 }
 
 bool HasRuleBetween(const ItemBox& above, const ItemBox& below, float itemGap) noexcept {
-  return below.Top - above.Bottom() > itemGap;
+  // A gap may come out a little wider than it is meant; a separator adds twelve pixels to it.
+  return below.Top - above.Bottom() > itemGap * 1.5F;
 }
 
 float RuleBelow(const ItemBox& above, float itemGap, float twipsY) noexcept {

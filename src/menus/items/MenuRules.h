@@ -38,7 +38,7 @@ struct PageScene {
 /// True above the first label of the page or below its last one: a click there chooses nothing.
 [[nodiscard]] bool IsOutsideItems(const PageScene& page, float y) noexcept;
 
-/// A wider gap than that of two neighbours holds a separator.
+/// A gap that is clearly wider than that of two neighbours holds a separator.
 [[nodiscard]] bool HasRuleBetween(const ItemBox& above, const ItemBox& below,
                                   float itemGap) noexcept;
 
