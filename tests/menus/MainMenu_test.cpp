@@ -270,20 +270,24 @@ TEST_F(MainMenuTest, CustomizeAndAboutAreQuietWhereThereAreNone) {
 }
 
 TEST_F(MainMenuTest, LargeIconsOnAVerticalStripRebuildsTheButtonsAtOnce) {
-  program.Strip.AppBarDocked = true;
-  program.Strip.ToolbarVertical = true;
-  program.Strip.ToolbarEdge = Edge::Left;
-  Choose("Large Icons");
-  EXPECT_TRUE(program.OptionFlags.Is(Option::LargeIcons));
-  EXPECT_EQ(SavedFlags()[25], '1');
-  EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 1);
-  EXPECT_EQ(desk.Strip.Times("UnloadItems"), 0);
-  EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
-  desk.Strip.WhileRebuilding = [this] { EXPECT_TRUE(program.Guards.ChangingMode); };
-  Choose("Large Icons");
-  EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 2);
-  EXPECT_EQ(SavedFlags()[25], '0');
-  EXPECT_FALSE(program.Guards.ChangingMode);
+  for (const Edge at : {Edge::Left, Edge::Right}) {
+    SCOPED_TRACE(at == Edge::Left ? "left" : "right");
+    program.Strip.AppBarDocked = true;
+    program.Strip.ToolbarVertical = true;
+    program.Strip.ToolbarEdge = at;
+    desk.Strip.Asked.clear();
+    Choose("Large Icons");
+    EXPECT_TRUE(program.OptionFlags.Is(Option::LargeIcons));
+    EXPECT_EQ(SavedFlags()[25], '1');
+    EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 1);
+    EXPECT_EQ(desk.Strip.Times("UnloadItems"), 0);
+    EXPECT_EQ(desk.Strip.Times("RemoveQMenu Q1"), 1);
+    desk.Strip.WhileRebuilding = [this] { EXPECT_TRUE(program.Guards.ChangingMode); };
+    Choose("Large Icons");
+    EXPECT_EQ(desk.Strip.Times("InitNewButtons"), 2);
+    EXPECT_EQ(SavedFlags()[25], '0');
+    EXPECT_FALSE(program.Guards.ChangingMode);
+  }
 }
 
 TEST_F(MainMenuTest, LargeIconsElsewhereUnloadsAndBuildsAnewAndTakesTheEdgeAgain) {
