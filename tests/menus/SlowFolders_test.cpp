@@ -365,7 +365,7 @@ TEST_F(SlowFolder, ThatAnswersAfterAMessageUnderThePressComesIntoTheMenu) {
   EXPECT_EQ(desk_.Menu.Items().Count(), 3);
 }
 
-TEST_F(SlowFolder, AfterARestartTheGeneratedFileIsShownFirst) {
+TEST_F(SlowFolder, TheGeneratedFileIsShownWhereNoAnswerIsKept) {
   Open();
   const std::string name = "C:\\Corvelle\\Menus\\BMENU001.mfd";
   const std::string kept = desk_.World.Files.Get(name).value_or("");

@@ -107,6 +107,32 @@ TEST(OpenFolders, TheMenuIsItsButtonsAlsoWhenTheUserHasClickedAndCarriedWhileThe
   program.Ports.FolderMenus = &folders.Folders;
 }
 
+// The desk says of a drive that rests only that it does not answer.
+TEST(OpenFolders, AMenuThatIsBuiltAgainWhileADriveRestsShowsWhatItHeldBefore) {
+  ProgramDesk desk;
+  desk.world.Files.AddDrive('D');
+  desk.world.Files.Put("D:\\Docs\\one.txt", "x");
+  desk.world.Files.Put(kMenus + MenuFileName(1),
+                       FormatRecord({"Menu", "Button", ""}, desk.world.Ansi) +
+                           FormatRecord({"Docs", "", "D:\\Docs\\*.*/u"}, desk.world.Ansi) +
+                           FormatRecord({"A", "", "C:\\Tools\\tool.exe"}, desk.world.Ansi));
+  const auto captions = [&desk] {
+    std::vector<std::string> titles;
+    for (int i = 1; i <= desk.parts->Menu.Items().Count(); ++i)
+      titles.push_back(desk.parts->Menu.Lbl[i].Caption());
+    return titles;
+  };
+  desk.OpenMenu(2);
+  ASSERT_EQ(captions(), (std::vector<std::string>{"one.txt", "A"}));
+  desk.world.Desktop.PressKey(forms::key::Escape);
+  desk.world.SlowAnswers.Hang("D:");
+  desk.OpenMenu(2);
+  desk.world.Desktop.Advance(7000);
+  desk.RightClick(desk.Item(2), "Copy Item");
+  desk.RightClick(desk.Item(2), "Paste Item");
+  EXPECT_EQ(captions(), (std::vector<std::string>{"one.txt", "A", "A"}));
+}
+
 /// A menu of button 2 whose second item is a folder on a drive that never answers. Its row says so.
 class WaitingRow : public ::testing::Test {
  protected:

@@ -64,7 +64,8 @@ class FolderMenus final : public FolderMenusPort {
   void BeginReading(const std::string& key);
   void ExpandItems(GeneratedMenu& menu, std::string_view menuFile, Built& built);
   void ExpandOne(GeneratedMenu& menu, int record, std::string_view menuFile, Built& built);
-  /// Shows what the menu had before in the place of folder item `record`, or the item itself.
+  /// Shows what the generated file holds of folder item `record`, for which there is no answer, or
+  /// else the item itself.
   void ShowKept(GeneratedMenu& menu, int record, std::string_view menuFile, FolderState state);
   const FoundFiles& FilesOf(std::string_view folderName);
   /// Fills in what is asked of the files themselves: their names, and short paths where the long

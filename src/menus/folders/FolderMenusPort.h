@@ -28,8 +28,8 @@ class FolderMenusPort {
   [[nodiscard]] virtual std::optional<ExpandedMenu> Expand(std::string_view menuKey,
                                                            std::string_view menuFile,
                                                            std::string_view stored) = 0;
-  /// Writes the generated file, for other programs; the menu itself does not need it. False, and
-  /// nothing is told, when it cannot be written.
+  /// Writes the generated file, for other programs and for a later build of the menu in which a
+  /// folder does not answer. False, and nothing is told, when it cannot be written.
   virtual bool WriteGenerated(const ExpandedMenu& menu) = 0;
   /// True if the folders of a built menu changed since.
   virtual bool UpdateMenu(std::string_view menuKey) = 0;
