@@ -29,7 +29,6 @@ std::string TemporaryBeside(std::string_view path) {
 /// How the number of records keeps `more` out; nothing when it does not.
 std::optional<EditOutcome> Obstacle(FileSystem& files, std::string_view path, std::size_t more) {
   if (more == 0) return EditOutcome::NothingToDo;
-  // To ask a missing file for its records would create it.
   if (!files.FileExists(path)) return EditOutcome::NothingToDo;
   const FileResult<int> count = CountRecords(files, path);
   if (!count) return EditOutcome::Refused(count.Error());

@@ -25,16 +25,6 @@ std::size_t OffsetOf(int number) noexcept {
   return (static_cast<std::size_t>(number) - 1) * kRecordLength;
 }
 
-/// Reads, and creates a missing file empty.
-FileResult<std::string> ReadOrCreate(FileSystem& files, std::string_view path, std::uint64_t offset,
-                                     std::size_t count) {
-  FileResult<std::string> bytes = files.Read(path, offset, count);
-  if (bytes || bytes.Error() != FileError::NotFound) return bytes;
-  const FileStatus created = files.WriteAt(path, 0, {});
-  if (!created) return created.Error();
-  return std::string();
-}
-
 FileResult<std::uint64_t> LengthOrCreate(FileSystem& files, std::string_view path) {
   FileResult<std::uint64_t> length = files.Length(path);
   if (length || length.Error() != FileError::NotFound) return length;
@@ -68,8 +58,13 @@ FileResult<std::vector<MenuRecord>> ReadAllRecords(FileSystem& files, const Code
 }
 
 FileResult<std::string> ReadStoredRecords(FileSystem& files, std::string_view path) {
-  FileResult<std::string> bytes = ReadOrCreate(files, path, 0, kReadLimit);
-  if (!bytes) return bytes.Error();
+  FileResult<std::string> bytes = files.Read(path, 0, kReadLimit);
+  if (!bytes) {
+    if (bytes.Error() != FileError::NotFound) return bytes;
+    const FileStatus created = files.WriteAt(path, 0, {});
+    if (!created) return created.Error();
+    return std::string();
+  }
   std::string stored = WholeRecords(*std::move(bytes));
   stored.resize(std::min(stored.size(), kMaxRecords * kRecordLength));
   return stored;
@@ -92,7 +87,7 @@ std::string StoredRecord(std::string_view stored, int number) {
 FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi, std::string_view path,
                                   int number) {
   if (number < 1 || number > kMaxRecords) return FileError::Failed;
-  const FileResult<std::string> bytes = ReadOrCreate(files, path, OffsetOf(number), kRecordLength);
+  const FileResult<std::string> bytes = files.Read(path, OffsetOf(number), kRecordLength);
   if (!bytes) return bytes.Error();
   return ParseRecord(*bytes, ansi);
 }
@@ -105,7 +100,7 @@ std::optional<MenuRecord> ReadButtonRecord(FileSystem& files, const CodePage& an
 }
 
 FileResult<int> CountRecords(FileSystem& files, std::string_view path) {
-  const FileResult<std::uint64_t> length = LengthOrCreate(files, path);
+  const FileResult<std::uint64_t> length = files.Length(path);
   if (!length) return length.Error();
   return RecordCount(*length);
 }

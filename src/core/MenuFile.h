@@ -32,8 +32,8 @@ inline constexpr std::string_view kRewriteFileName = "TTTTTTTT";
 /// The bytes of record `number` among stored records; empty where there is no such record.
 [[nodiscard]] std::string StoredRecord(std::string_view stored, int number);
 
-/// Record `number` (from 1) of a file; blank past the file's end, Failed below 1. A missing file is
-/// created empty.
+/// Record `number` (from 1) of a file; blank past the file's end, Failed below 1. NotFound for a
+/// missing file, which is not created: a read on behalf of an edit must leave no empty one behind.
 [[nodiscard]] FileResult<MenuRecord> ReadRecord(FileSystem& files, const CodePage& ansi,
                                                 std::string_view path, int number);
 
@@ -42,7 +42,7 @@ inline constexpr std::string_view kRewriteFileName = "TTTTTTTT";
 [[nodiscard]] std::optional<MenuRecord> ReadButtonRecord(FileSystem& files, const CodePage& ansi,
                                                          std::string_view path);
 
-/// How many records a file has. A missing file is created empty.
+/// How many records a file has. NotFound for a missing file, which is not created.
 [[nodiscard]] FileResult<int> CountRecords(FileSystem& files, std::string_view path);
 
 /// Overwrites record `number` of a file, which grows as far as it must; no other record changes.

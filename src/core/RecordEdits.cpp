@@ -54,6 +54,14 @@ FileResult<int> PlaceInFile(FileSystem& files, const DropPlace& place) {
   return before >= 2 && before <= count ? before : kNoPlace;
 }
 
+/// What it means that the current file cannot be read: one that is gone from its folder holds the
+/// entry no more, and a folder that is gone is a failure.
+EditOutcome NotRead(FileSystem& files, const EntryEdit& edit, FileError reason) {
+  const bool gone = reason == FileError::NotFound &&
+                    files.FolderExists(edit.CurFile.substr(0, edit.CurFile.rfind('\\') + 1));
+  return gone ? EditOutcome::RecordMismatch : EditOutcome::Refused(reason);
+}
+
 bool IsFolder(std::string_view command) noexcept {
   return IsFolderItem(command) || IsSpecialFolder(command);
 }
@@ -112,11 +120,11 @@ bool IsSinglesTag(std::string_view tag) noexcept { return EqualNoCase(tag, kSing
 
 EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
   const FileResult<int> count = CountRecords(files, edit.CurFile);
-  if (!count) return EditOutcome::Refused(count.Error());
+  if (!count) return NotRead(files, edit, count.Error());
   // A place that the file does not have reads as a blank entry, which is not the one meant.
   if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
-  if (!record) return EditOutcome::Refused(record.Error());
+  if (!record) return NotRead(files, edit, record.Error());
   return IsCurrentEntry(edit, ansi, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;
 }
 
@@ -289,7 +297,7 @@ EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryE
   // Record 1 is the button's, whatever icon it has.
   if (place < 2) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, place);
-  if (!record) return EditOutcome::Refused(record.Error());
+  if (!record) return NotRead(files, edit, record.Error());
   // The rule above a generated entry can be a generated one too, and what is in the file before
   // its folder item is then no separator.
   if (!IsSeparatorIcon(record->FIcon)) return EditOutcome::RecordMismatch;

@@ -228,6 +228,7 @@ TEST_F(EntryCommandsTest, ASingleButtonWhoseFileIsGoneIsNoneToDelete) {
   world.Desktop.Answer(kMismatch, forms::msgbox::AnswerOk);
   EXPECT_EQ(program.Commands.DeleteItem(true), EditOutcome::RecordMismatch);
   EXPECT_EQ(log, (CallLog{"DoSingleButtons", "resize, free 1230"}));
+  EXPECT_FALSE(world.Files.Has(kSingle));
 }
 
 TEST_F(EntryCommandsTest, PastingPutsTheClipboardBeforeTheItemAndEndsTheUndo) {

@@ -130,22 +130,23 @@ TEST(ReadRecord, ReadsThatRecordOnly) {
   EXPECT_EQ(title(32768), "(error)");
 }
 
-TEST(ReadRecord, CreatesAMissingFileEmptyAndGivesABlankRecord) {
+TEST(ReadRecord, OfAMissingFileFindsAndMakesNothing) {
   SimFiles disk;
   Start(disk);
   const auto record = ReadRecord(disk, kAnsi, kFile, 1);
-  ASSERT_TRUE(record);
-  EXPECT_EQ(*record, MenuRecord{});
-  EXPECT_EQ(disk.Get(kFile), "");
+  ASSERT_FALSE(record);
+  EXPECT_EQ(record.Error(), FileError::NotFound);
+  EXPECT_FALSE(disk.Has(kFile));
 }
 
-TEST(CountRecords, CountsAndCreatesAMissingFile) {
+TEST(CountRecords, CountsAndMakesNoMissingFile) {
   SimFiles disk;
   disk.Put(kFile, std::string(1140 + 285, 'x'));
   EXPECT_EQ(CountRecords(disk, kFile).ValueOr(-1), 2);
-  EXPECT_EQ(CountRecords(disk, kMenus + "BMENU002.MNU").ValueOr(-1), 0);
-  EXPECT_EQ(disk.Get(kMenus + "BMENU002.MNU"), "");
-  EXPECT_FALSE(CountRecords(disk, "C:\\Nowhere\\a.mnu"));
+  const auto missing = CountRecords(disk, kMenus + "BMENU002.MNU");
+  ASSERT_FALSE(missing);
+  EXPECT_EQ(missing.Error(), FileError::NotFound);
+  EXPECT_FALSE(disk.Has(kMenus + "BMENU002.MNU"));
 }
 
 TEST(WriteRecord, ChangesNoOtherRecord) {

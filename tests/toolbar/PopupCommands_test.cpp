@@ -77,6 +77,54 @@ TEST(PopupOnAGeneratedEntry, APasteGoesBeforeItsFolderItemInTheMenusOwnFile) {
   EXPECT_EQ(desk.Titles(1), "Letters|One|Pasted|Docs|");
 }
 
+// ---- a menu whose file is gone ----
+
+struct NotedProperties final : PropertiesPort {
+  void LoadWindow() override {}
+  void UnloadWindow() override {}
+  bool WindowLoaded() const override { return false; }
+  void ShowProperties(std::string_view title, std::string_view icon,
+                      std::string_view command) override {
+    Shown.push_back(std::string(title) + "," + std::string(icon) + "," + std::string(command));
+  }
+  std::vector<std::string> Shown;
+};
+
+TEST(PopupOnAFileThatIsGone, NoCommandMakesAnEmptyOne) {
+  struct Row {
+    const char* choice;
+    int item;  // 0 for the entry of a folder item
+    const char* told;
+  };
+  constexpr char kMismatch[] = "Cannot delete/cut this item. Record mismatch.";
+  constexpr char kNotFound[] = "53 - File not found";
+  const Row rows[] = {{"Cut Item", 1, kMismatch},         {"Delete Item", 1, kMismatch},
+                      {"Delete Separator", 3, kMismatch}, {"Open Folder", 4, kNotFound},
+                      {"Close Folder", 0, kNotFound},     {"Folder Properties", 0, kNotFound}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.choice);
+    NotedProperties properties;
+    PopupDesk desk;
+    desk.TheProgram.Ports.Properties = &properties;
+    desk.PutMenu(
+        1, {Entry("Letters"), Entry("One"), Entry("Two"), Entry("Separator", "MenuLineSeparator"),
+            Entry("Three"), Entry("Docs", "", "C:\\Docs\\*.* /X")});
+    desk.OpenMenuOf(2);
+    desk.World.Desktop.Answer(row.told, forms::msgbox::AnswerOk);
+    desk.World.Desktop.WhilePopupIsUp(
+        [&](const sim::Popup&) { desk.World.Files.Vanish(PopupDesk::FileOf(1)); });
+    if (row.item == 0) {
+      desk.ChooseFor(GeneratedEntry(), row.choice);
+    } else {
+      desk.RightClickItem(row.item, row.choice);
+    }
+    EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+    EXPECT_FALSE(desk.World.Files.Has(PopupDesk::FileOf(1)));
+    EXPECT_TRUE(properties.Shown.empty());
+    EXPECT_TRUE(desk.TheProgram.Entry.UndoMenuTag.empty());
+  }
+}
+
 // ---- single buttons ----
 
 TEST(PopupOnASingleButton, EditsTheRow) {
@@ -103,17 +151,6 @@ TEST(PopupOnASingleButton, EditsTheRow) {
 }
 
 // ---- properties ----
-
-struct NotedProperties final : PropertiesPort {
-  void LoadWindow() override {}
-  void UnloadWindow() override {}
-  bool WindowLoaded() const override { return false; }
-  void ShowProperties(std::string_view title, std::string_view icon,
-                      std::string_view command) override {
-    Shown.push_back(std::string(title) + "," + std::string(icon) + "," + std::string(command));
-  }
-  std::vector<std::string> Shown;
-};
 
 TEST(PopupProperties, CloseTheMenuAndShowTheEntry) {
   NotedProperties properties;

@@ -247,6 +247,17 @@ TEST(SingleCarry, WhatAnotherProgramHasPutInItsPlaceStaysThereAndIsShown) {
   }
 }
 
+TEST(SingleCarry, ThatLosesItsFileMovesNothingAndMakesNone) {
+  for (const bool toTheEnd : {false, true}) {
+    SCOPED_TRACE(toTheEnd);
+    DropDesk desk;
+    desk.World.Files.Vanish(desk.File(2));
+    desk.Carry(2, toTheEnd ? desk.BarePlace() : desk.MiddleOf(4));
+    EXPECT_EQ(desk.OnDisk(), "1a 3c 4d");
+    EXPECT_EQ(desk.Row(), "acd");
+  }
+}
+
 TEST(SingleCarry, WhileAPopupCommandWritesADropWaits) {
   DropDesk desk;
   desk.TheProgram.Guards.ItemActionBusy = true;
@@ -321,6 +332,18 @@ TEST(SingleCommands, WhatAnotherProgramHasPutInItsPlaceIsNotDeleted) {
   EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(desk.OnDisk(), "1a 2x 3c");
   EXPECT_EQ(desk.Row(), "axc");
+}
+
+TEST(SingleCommands, OnAButtonWhoseFileIsGoneMakeNone) {
+  DropDesk desk("abc");
+  desk.ClickSingle(2, forms::MouseButton::Right);
+  desk.World.Files.Vanish(desk.File(2));
+  desk.World.Desktop.Answer("Cannot delete/cut this item. Record mismatch.",
+                            forms::msgbox::AnswerOk);
+  desk.TheProgram.Commands.DeleteItem(true);
+  EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
+  EXPECT_EQ(desk.OnDisk(), "1a 3c");
+  EXPECT_EQ(desk.Row(), "ac");
 }
 
 TEST(SingleCommands, UndoingTheLastOnePutsItToTheEnd) {
