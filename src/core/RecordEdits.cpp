@@ -1,5 +1,6 @@
 #include "core/RecordEdits.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -121,8 +122,10 @@ bool IsSinglesTag(std::string_view tag) noexcept { return EqualNoCase(tag, kSing
 EditOutcome FindCurrentEntry(FileSystem& files, const CodePage& ansi, const EntryEdit& edit) {
   const FileResult<int> count = CountRecords(files, edit.CurFile);
   if (!count) return NotRead(files, edit, count.Error());
-  // A place that the file does not have reads as a blank entry, which is not the one meant.
-  if (edit.CurRecord < 1 || edit.CurRecord > *count) return EditOutcome::RecordMismatch;
+  // A place that the file does not have reads as a blank entry, which is not the one meant. A
+  // single button is what its file holds, even of one that is empty or cut short.
+  const int last = IsSinglesTag(edit.CurMenuTag) ? std::max(*count, 1) : *count;
+  if (edit.CurRecord < 1 || edit.CurRecord > last) return EditOutcome::RecordMismatch;
   const FileResult<MenuRecord> record = ReadRecord(files, ansi, edit.CurFile, edit.CurRecord);
   if (!record) return NotRead(files, edit, record.Error());
   return IsCurrentEntry(edit, ansi, *record) ? EditOutcome::Edited : EditOutcome::RecordMismatch;

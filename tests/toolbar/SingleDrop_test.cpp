@@ -266,6 +266,34 @@ TEST(SingleCarry, WhileAPopupCommandWritesADropWaits) {
   EXPECT_FALSE(desk.TheProgram.Entry.ItemDragging);
 }
 
+/// The row "abc" whose second file was cut short.
+struct ShortFileDesk : DropDesk {
+  explicit ShortFileDesk(std::size_t length) : DropDesk("abc") {
+    World.Files.Put(File(2), World.Files.Get(File(2))->substr(0, length));
+    Strip.DoSingleButtons();
+    Title = length == 0 ? "" : "b";
+  }
+  std::string Title;
+};
+constexpr std::size_t kShortLengths[] = {0, 1, 285, 286};
+
+TEST(SingleCarry, ABlankOrShortFileGoesLikeAnyOther) {
+  for (const std::size_t length : kShortLengths) {
+    SCOPED_TRACE(length);
+    ShortFileDesk desk(length);
+    desk.Carry(2, desk.BarePlace());
+    EXPECT_EQ(desk.OnDisk(), "1a 2c 3" + desk.Title);
+    EXPECT_EQ(desk.Row(), "ac" + desk.Title);
+    desk.Carry(3, desk.MiddleOf(1));
+    EXPECT_EQ(desk.OnDisk(), "1" + desk.Title + " 2a 3c");
+    // To the end of a menu.
+    ShortFileDesk other(length);
+    other.Carry(2, other.Middle(2));
+    EXPECT_EQ(other.OnDisk(), "1a 2c");
+    EXPECT_EQ(other.RecordsOfMenu(), 3U);
+  }
+}
+
 // ---- from a menu ----
 
 TEST(DoItemDrag, AnItemOfAMenuMovesIntoTheRow) {
@@ -344,6 +372,21 @@ TEST(SingleCommands, OnAButtonWhoseFileIsGoneMakeNone) {
   EXPECT_EQ(desk.World.Desktop.Boxes().size(), 1U);
   EXPECT_EQ(desk.OnDisk(), "1a 3c");
   EXPECT_EQ(desk.Row(), "ac");
+}
+
+TEST(SingleCommands, ABlankOrShortFileIsCutOrDeleted) {
+  for (const std::size_t length : kShortLengths) {
+    for (const bool cut : {false, true}) {
+      SCOPED_TRACE(std::to_string(length) + (cut ? " cut" : " deleted"));
+      ShortFileDesk desk(length);
+      desk.ClickSingle(2, forms::MouseButton::Right);
+      if (cut) CopyEntry(desk.TheProgram.Entry);
+      EXPECT_EQ(desk.TheProgram.Commands.DeleteItem(cut), EditOutcome::Edited);
+      EXPECT_EQ(desk.OnDisk(), "1a 2c");
+      EXPECT_EQ(desk.Row(), "ac");
+      EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
+    }
+  }
 }
 
 TEST(SingleCommands, UndoingTheLastOnePutsItToTheEnd) {
