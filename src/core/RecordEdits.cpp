@@ -295,6 +295,10 @@ void RestoreUndo(EntryEdit& edit, const EntryEdit& before) {
   edit.UndoRecord = before.UndoRecord;
 }
 
+void ForgetMenuUndo(EntryEdit& edit) {
+  if (IsMenuTag(edit.UndoMenuTag)) edit.UndoMenuTag.clear();
+}
+
 EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit) {
   const int place = RealRecord(edit.CurRecord) - 1;
   // Record 1 is the button's, whatever icon it has.

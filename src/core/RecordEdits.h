@@ -164,6 +164,10 @@ void RememberForUndo(EntryEdit& edit);
 /// The undo store as it was in `before`.
 void RestoreUndo(EntryEdit& edit, const EntryEdit& before);
 
+/// Ends the chance to bring back what was deleted in a menu. Its tag is the place of a button on
+/// the strip, where another menu may be by now.
+void ForgetMenuUndo(EntryEdit& edit);
+
 /// Makes the separator above the current entry the current entry and remembers it for undoing.
 /// RecordMismatch, and nothing changed, when the file has no such record.
 EditOutcome SelectSeparatorAbove(FileSystem& files, const CodePage& ansi, EntryEdit& edit);

@@ -23,6 +23,7 @@ namespace corvelle {
           .Options = program.OptionFlags,
           .WebLinkIcon = program.Icons.WebLinkIcon,
           .Strip = program.Strip,
+          .Entry = program.Entry,
           .Title = program.Title,
           .Launch = program.Launch,
           .Titles = TitlesOf(program),

@@ -40,6 +40,7 @@ class MessageBoxes;
 class OptionFlags;
 class ShellLinks;
 class SlowQuestions;
+struct EntryEdit;
 struct LaunchParts;
 struct ProgramPaths;
 struct StripPlacement;
@@ -62,6 +63,7 @@ struct CustParts {
   OptionFlags& Options;
   std::string& WebLinkIcon;  // see IconState
   const StripPlacement& Strip;
+  EntryEdit& Entry;
   const std::string& Title;  // of the program
   const LaunchParts& Launch;
   FileTitles Titles;

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "core/ProgramPaths.h"
+#include "core/RecordEdits.h"
 #include "core/StripPlacement.h"
 #include "customize/Saving.h"
 #include "customize/TreeMerge.h"
@@ -75,6 +76,7 @@ void frmCust::TakeSaved(SaveResult result, DraftsAround around) {
   keeper_->Saved(std::move(around), files_);
   theirs_.reset();
   shownAt_ = keptAt_ = Editor.Tree.Revision();
+  ForgetMenuUndo(with_.Entry);
   RefreshStrip();
   if (!IsLoaded()) return;
   ShowOffer();

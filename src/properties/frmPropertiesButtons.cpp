@@ -6,6 +6,7 @@
 #include "core/IconState.h"
 #include "core/MessageBoxes.h"
 #include "core/ProgramPaths.h"
+#include "core/RecordEdits.h"
 #include "forms/Scopes.h"
 #include "icons/IconForm.h"
 #include "platform/Input.h"
@@ -168,6 +169,9 @@ bool frmProperties::ApplyOrder() {
   StripContentsPort* const strip = with_.Ports.Toolbar;
   const float gap = strip != nullptr ? strip->FreeWidth() : 0;
   const std::size_t place = order_.FindPath(item_.File);
+  EntryEdit& entry = with_.Entry;
+  const bool undoes = IsMenuTag(entry.UndoMenuTag);
+  const std::size_t undoPlace = undoes ? order_.FindPath(entry.UndoFile) : ButtonOrder::kNone;
   const OrderOutcome outcome =
       ApplyButtonOrder(with_.Files, with_.Ansi, with_.Paths.MenusPath, order_);
   if (outcome.Result == OrderResult::Applied) with_.Ports.TellMenusEdited();
@@ -191,10 +195,18 @@ bool frmProperties::ApplyOrder() {
     item_.Key = order_.KeyOnStrip(item_.Key, place);
     if (item_.Record == 1) txtCommand.SetText(item_.Current.FName);
   }
+  ForgetMenuUndo(entry);
+  EntryEdit moved = entry;
+  if (undoPlace != ButtonOrder::kNone) {
+    moved.UndoMenuTag = order_.KeyOnStrip("F", undoPlace);
+    moved.UndoFile = PathOfTag(order_.Nodes()[undoPlace].Tag);
+  }
   ShowLoss();
   if (strip == nullptr) return true;
   strip->InitNewButtons();
   if (!IsLoaded()) return false;
+  // What was deleted comes back in its own menu.
+  if (entry.UndoMenuTag.empty()) RestoreUndo(entry, moved);
   strip->ResizeAfterEdit(gap);
   // The strip took the focus when it was built.
   SetForeground();

@@ -90,6 +90,22 @@ TEST(CustomizeSave, AfterTheFirstOneAFileThatIsAddedIsAskedAboutAsAFolderIs) {
   ASSERT_EQ(desk.world.Desktop.Boxes().size(), 1U);
 }
 
+TEST(CustomizeSave, EndsTheChanceToUndoADeletionInAMenu) {
+  for (const bool single : {false, true}) {
+    SCOPED_TRACE(single);
+    CustDesk desk;
+    EntryEdit& entry = desk.parts->TheProgram.Entry;
+    entry.UndoTitle = "Gone";
+    entry.UndoMenuTag = single ? std::string(kSinglesTag) : "F3";
+    entry.UndoRecord = 2;
+    desk.ClickNode("Tools");
+    desk.Tool("up");
+    desk.ClickControl(desk.Form().cmdSave);
+    ASSERT_EQ(desk.Stored(), "Tools(Hammer Anvil) Letters(Alpha Beta -) | Clock Paint");
+    EXPECT_EQ(entry.UndoMenuTag, single ? kSinglesTag : "");
+  }
+}
+
 TEST(CustomizeSave, KeepsTheGapAtTheRightOfAFloatingStrip) {
   ChangedDesk desk;
   ASSERT_FALSE(desk.parts->TheProgram.Strip.AppBarDocked);

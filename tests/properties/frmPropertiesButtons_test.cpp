@@ -128,6 +128,50 @@ TEST_F(PropertiesButtons, ApplyGivesTheFilesTheirNewNamesAndTheStripItsNewOrder)
   EXPECT_FALSE(world.Files.Has(std::string(kMenus) + std::string(kJournalFileName)));
 }
 
+TEST_F(PropertiesButtons, ADeletedItemComesBackInItsOwnMenuWhereverThatWasMoved) {
+  world.Files.Put(std::string(kMenus) + "BMENU003.MNU",
+                  Bytes({{"three", "Button", ""}, {"gone", "", "x"}, {"left", "", "x"}}));
+  OpenMenu(3);
+  RightClick(Item(1), "Delete Item");
+  CloseMenu();
+  OpenButtons();
+  ClickNode(2, TreePart::Label);
+  for (int step = 1; step <= 2; ++step) {
+    // Past the hidden one, then to the front.
+    ClickOn(Window().cmdUp);
+    ClickOn(Window().cmdApply);
+  }
+  ClickOn(Window().cmdOK);
+  ASSERT_EQ(OnStrip(), (Texts{"three", "one"}));
+  OpenMenu(3);
+  RightClick(Item(1), "Refresh");
+  EXPECT_FALSE(Desktop().Popups().back().Offers("Undo Delete"));
+  CloseMenu();
+  OpenMenu(2);
+  RightClick(Item(1), "Undo Delete");
+  EXPECT_EQ(RecordAt("BMENU001.MNU", 2).FTitle, "gone");
+  EXPECT_EQ(RecordAt("BMENU001.MNU", 3).FTitle, "left");
+}
+
+TEST_F(PropertiesButtons, ADeletedItemComesBackInItsOwnMenuWhenAnotherOneIsShown) {
+  world.Files.Put(std::string(kMenus) + "BMENU003.MNU",
+                  Bytes({{"three", "Button", ""}, {"three 1", "", "x"}, {"left", "", "x"}}));
+  OpenMenu(3);
+  RightClick(Item(1), "Delete Item");
+  CloseMenu();
+  OpenButtons();
+  ClickNode(1, TreePart::Check);
+  ClickOn(Window().cmdOK);
+  ASSERT_EQ(OnStrip(), (Texts{"one", "two", "three"}));
+  OpenMenu(3);
+  RightClick(Item(1), "Refresh");
+  EXPECT_FALSE(Desktop().Popups().back().Offers("Undo Delete"));
+  CloseMenu();
+  OpenMenu(4);
+  RightClick(Item(1), "Undo Delete");
+  EXPECT_EQ(RecordAt("BMENU003.MNU", 2).FTitle, "three 1");
+}
+
 TEST_F(PropertiesButtons, AHiddenButtonLeavesTheStripAndComesBackEmpty) {
   OpenButtons();
   ClickNode(2, TreePart::Check);

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "toolbar/PopupDesk.h"
@@ -183,6 +184,89 @@ TEST(PopupOnAnItem, UndoIsOfferedInTheMenuOfTheDeletedOneAlone) {
   desk.RightClickItem(1);
   EXPECT_EQ(desk.World.Desktop.Popups().size(), 3U);
   EXPECT_TRUE(desk.LastPopup().Offers("Undo Delete"));
+}
+
+/// Three menus, of which the second had an item deleted, and where it was deleted from.
+struct DeletedDesk : PopupDesk {
+  DeletedDesk() {
+    PutMenu(2, {Entry("Others", "Button"), Entry("Other"), Entry("More")});
+    PutMenu(3, {Entry("Last", "Button"), Entry("End")});
+    Strip.RefreshToolbar();
+    OpenMenuOf(3);
+    RightClickItem(1, "Delete Item");
+    Strip.ResetMenu();
+    EXPECT_EQ(Titles(2), "Others|More|");
+  }
+  bool OffersUndoIn(int button) {
+    OpenMenuOf(button);
+    RightClickItem(1);
+    Strip.ResetMenu();
+    return LastPopup().Offers("Undo Delete");
+  }
+};
+
+TEST(PopupOnAnItem, AButtonThatComesToTheDeletedOnesPlaceOffersNoUndo) {
+  struct Row {
+    const char* name;
+    std::function<void(DeletedDesk&)> change;
+  };
+  const Row rows[] = {
+      {"the first is hidden",
+       [](DeletedDesk& desk) {
+         desk.PutMenu(1, {Entry("Letters", "Button", "/h"), Entry("One")});
+         desk.Strip.RefreshToolbarButtons();
+       }},
+      {"the menu itself is hidden",
+       [](DeletedDesk& desk) {
+         desk.PutMenu(2, {Entry("Others", "Button", "/h"), Entry("More")});
+         desk.Strip.RefreshToolbarButtons();
+       }},
+      {"another program removes the first",
+       [](DeletedDesk& desk) {
+         desk.World.Files.Vanish(PopupDesk::FileOf(1));
+         desk.Strip.RefreshToolbar();
+       }},
+      {"the first is deleted",
+       [](DeletedDesk& desk) {
+         desk.World.Desktop.Answer(kDeleteQuestion, forms::msgbox::AnswerYes);
+         desk.RightClickButton(2, "Delete Item");
+       }},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    DeletedDesk desk;
+    row.change(desk);
+    ASSERT_EQ(desk.Strip.Buttons.ButtonCount, 3);
+    EXPECT_FALSE(desk.OffersUndoIn(3));
+    EXPECT_FALSE(desk.OffersUndoIn(2));
+  }
+}
+
+TEST(PopupOnAnItem, TheUndoStaysWhereTheButtonsKeepTheirPlaces) {
+  struct Row {
+    const char* name;
+    std::function<void(DeletedDesk&)> change;
+  };
+  const Row rows[] = {
+      {"the buttons are repainted", [](DeletedDesk& desk) { desk.Strip.RefreshToolbar(); }},
+      {"the strip is rebuilt", [](DeletedDesk& desk) { desk.Strip.InitNewButtons(); }},
+      {"one more button", [](DeletedDesk& desk) { desk.Strip.AddNewButton(); }},
+      {"another title",
+       [](DeletedDesk& desk) {
+         desk.PutMenu(2, {Entry("Renamed", "Button"), Entry("More")});
+         desk.Strip.RefreshToolbarButtons();
+       }},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    DeletedDesk desk;
+    row.change(desk);
+    EXPECT_FALSE(desk.OffersUndoIn(4));
+    EXPECT_TRUE(desk.OffersUndoIn(3));
+    desk.OpenMenuOf(3);
+    desk.RightClickItem(1, "Undo Delete");
+    EXPECT_EQ(desk.Shown(), "Other|More|");
+  }
 }
 
 TEST(PopupOnAnItem, APasteEndsTheChanceToUndo) {

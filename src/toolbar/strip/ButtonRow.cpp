@@ -1,5 +1,8 @@
 #include "toolbar/strip/ButtonRow.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "base/Text.h"
 #include "core/IconState.h"
 #include "core/MenuState.h"
@@ -83,7 +86,20 @@ TwipSize ButtonRow::Make() {
   const StripContents strip = LayOutStrip(size, entries, strip_.Shape().Scale);
   for (const TwipRect& separator : strip.Separators) AddSeparator(separator);
   for (std::size_t i = 1; i < strip.Buttons.size(); ++i) AddButton(strip.Buttons[i]);
+  NotePlaces();
   return strip.Box;
+}
+
+void ButtonRow::NotePlaces() {
+  std::vector<std::string> places;
+  places.reserve(ToolbarButtons.size());
+  for (const ButtonRect& button : ToolbarButtons) places.push_back(button.Path);
+  // More buttons behind them leave the others where they are. With fewer, the files behind the gap
+  // have taken the names before them.
+  const bool kept =
+      places.size() >= places_.size() && std::equal(places_.begin(), places_.end(), places.begin());
+  if (!kept) ForgetMenuUndo(with_.Entry);
+  places_ = std::move(places);
 }
 
 void ButtonRow::AddSeparator(const TwipRect& place) {

@@ -106,6 +106,8 @@ class ButtonRow {
   /// Makes the buttons of the menu files, without their icons, and gives the size of their box.
   TwipSize Make();
   void AddButton(const ButtonRect& button);
+  /// Notes which file is where, and ends the undo of a menu's entry if one of them was elsewhere.
+  void NotePlaces();
   void AddSeparator(const TwipRect& place);
   /// Draws all icons and freezes the picture of the buttons.
   void DrawIcons();
@@ -118,6 +120,7 @@ class ButtonRow {
   ButtonControls controls_;
   StripIcons icons_;
   std::vector<MenuRecord> records_;  // of the buttons, by their index
+  std::vector<std::string> places_;  // the files of the buttons of the last strip that was made
 };
 
 }  // namespace corvelle
