@@ -56,6 +56,15 @@ TEST(ToolbarPosition, GoldenPlaces) {
   }
 }
 
+TEST(ToolbarPosition, TheLeftEndIsStoredAsAPlaceOnTheSamePixel) {
+  EXPECT_EQ(StoredLeft(3000), 3000);
+  EXPECT_EQ(StoredLeft(-500), -500);
+  EXPECT_EQ(StoredLeft(0.5F), 0.5F);
+  EXPECT_EQ(StoredLeft(0), 1);
+  EXPECT_EQ(StoredLeft(-0.0F), 1);
+  EXPECT_EQ(PlaceTopHugging(Saved(StoredLeft(0))).Window.Left, 1);
+}
+
 TEST(ToolbarPosition, PastTheLimitLeavesTheCaptionRoomFree) {
   for (float left = 0; left <= 20000; left += 45) {
     const StripPosition at = PlaceTopHugging(Saved(left));

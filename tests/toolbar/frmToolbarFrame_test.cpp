@@ -24,9 +24,9 @@ struct NotedPopup final : PopupPort {
 
 /// A strip of four buttons, 114 pixels wide, 200 pixels from the left.
 struct Floating : StripDesk {
-  Floating() {
+  explicit Floating(const std::string& position = PositionBytes(3000)) {
     PutButtons(3);
-    World.Files.Put(kPositionFile, PositionBytes(3000));
+    World.Files.Put(kPositionFile, position);
     Start();
   }
   /// A point of the grip.
@@ -170,6 +170,25 @@ TEST(ToolbarSlide, APlaceThatTheDiskRefusedIsKeptThroughARebuild) {
   desk.World.Files.FreeDisk();
   desk.Exit();
   EXPECT_EQ(desk.World.Files.Get(kPositionFile), PositionBytes(4500));
+}
+
+TEST(ToolbarSlide, TheLeftEndOfTheScreenIsAPlaceToComeBackTo) {
+  for (const bool refused : {false, true}) {
+    SCOPED_TRACE(refused ? "the disk is full" : "it is stored");
+    Floating desk;
+    if (refused) desk.World.Files.FillDisk(0);
+    desk.Pull(-250);
+    desk.World.Desktop.Release();
+    ASSERT_EQ(desk.Strip.Left(), 0);
+    for (int rebuild = 1; rebuild <= 2; ++rebuild) {
+      desk.Strip.InitNewButtons();
+      EXPECT_EQ(desk.World.Desktop.BoundsOf(desk.Strip.hWnd()).left, 0) << rebuild;
+    }
+    if (refused) desk.World.Files.FreeDisk();
+    desk.Exit();
+    Floating later(*desk.World.Files.Get(kPositionFile));
+    EXPECT_EQ(later.World.Desktop.BoundsOf(later.Strip.hWnd()).left, 0);
+  }
 }
 
 TEST(ToolbarSlide, NothingMovesWhileTheStripIsPlacedAnew) {

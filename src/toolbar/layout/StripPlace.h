@@ -14,6 +14,10 @@ namespace corvelle {
 /// (SM_CXSIZE in pixels, 0 when the system does not tell).
 [[nodiscard]] float CaptionRoom(int captionButtonWidth, float twipsX) noexcept;
 
+/// What is stored for the window's Left. 0 would read as no place, so that the left end of the
+/// screen is stored as one twip, which is the same pixel.
+[[nodiscard]] constexpr float StoredLeft(float left) noexcept { return left == 0 ? 1 : left; }
+
 struct PositionScene {
   float SavedLeft = 0;  // as read; 0 means none yet
   float ScreenWidth = 0;

@@ -83,7 +83,7 @@ void frmToolbar::SetToolbarPosition() {
 }
 
 float frmToolbar::LastPosition() const {
-  if (positionUnsaved_) return SavedLeft;
+  if (positionUnsaved_) return StoredLeft(SavedLeft);
   return LoadToolbarPosition(program_.Services.Files, program_.Paths.AppPath);
 }
 
@@ -91,7 +91,7 @@ void frmToolbar::UpdateToolbarPosition() {
   if (!positioned_ || Shape().Where != Placement::TopHugging) return;
   // On a disk that refuses it the strip keeps its place for this run only.
   positionUnsaved_ =
-      !SaveToolbarPosition(program_.Services.Files, program_.Paths.AppPath, SavedLeft);
+      !SaveToolbarPosition(program_.Services.Files, program_.Paths.AppPath, StoredLeft(SavedLeft));
 }
 
 void frmToolbar::ShowBorder(forms::Line& line, const BorderLine& border) {
