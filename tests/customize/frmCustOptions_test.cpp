@@ -188,6 +188,66 @@ TEST(CustomizeOptions, SmallSingleButtonsDockAFloatingStripAtTheRight) {
   EXPECT_EQ(program.Strip.ToolbarEdge, Edge::Right);
 }
 
+/// A strip in the task bar, and its way back by a click there.
+struct MinimizedDesk : CustDesk {
+  void Minimize() const { parts->Companion.MinimizeFor(parts->Toolbar.WindowBounds()); }
+  void ComeBack() {
+    parts->Companion.RestoreWindow();
+    world.Desktop.Send(parts->Companion.hWnd(), forms::message::Size, 0, 0);
+    world.Desktop.Advance(300);
+  }
+  void SwitchOn() { MenuBar("Options", "Always Show Single Buttons with Small Icons"); }
+  /// Where the strip and its single buttons are.
+  [[nodiscard]] std::vector<TwipRect> Places() const {
+    const frmToolbar& strip = parts->Toolbar;
+    std::vector<TwipRect> places = {strip.Bounds(), strip.picToolbar.Bounds(),
+                                    strip.picSingleButton.Bounds()};
+    for (const SingleRect& single : strip.Singles.SingleButtons) {
+      places.push_back({single.Left, single.Top, single.Width, single.Height});
+    }
+    return places;
+  }
+  void DeleteFirstSingle() const {
+    EntryEdit& entry = parts->TheProgram.Entry;
+    SetCurrentEntry(entry, {.CurTitle = "Clock",
+                            .CurIcon = "C:\\Tools\\Clock.exe",
+                            .CurCommand = "C:\\Tools\\Clock.exe",
+                            .CurMenuTag = std::string(kSinglesTag),
+                            .CurFile = kMenus + SingleFileName(1),
+                            .CurRecord = 1});
+    EXPECT_EQ(parts->TheProgram.Commands.DeleteItem(false), EditOutcome::Edited);
+  }
+};
+
+TEST(CustomizeOptions, SmallSingleButtonsOfAFloatingStripInTheTaskBarDockItWhenItComesBack) {
+  MinimizedDesk seen;
+  seen.SwitchOn();
+  MinimizedDesk desk;
+  desk.Minimize();
+  desk.SwitchOn();
+  const StripPlacement& strip = desk.parts->TheProgram.Strip;
+  EXPECT_TRUE(strip.BelongsToEdge()) << "an end of the program now is followed by a start there";
+  desk.ComeBack();
+  EXPECT_TRUE(strip.AppBarDocked);
+  EXPECT_EQ(strip.ToolbarEdge, Edge::Right);
+  EXPECT_EQ(desk.Places(), seen.Places());
+  desk.DeleteFirstSingle();
+  seen.DeleteFirstSingle();
+  EXPECT_EQ(desk.Places(), seen.Places());
+  EXPECT_EQ(desk.Stored(), "Letters(Alpha Beta -) Tools(Hammer Anvil) | Paint");
+}
+
+TEST(CustomizeOptions, SmallSingleButtonsOfADockedStripInTheTaskBarLeaveItsEdge) {
+  MinimizedDesk desk;
+  const StripPlacement& strip = desk.parts->TheProgram.Strip;
+  desk.parts->TheProgram.Ports.Docking->SetAppBar(Edge::Left, true);
+  desk.Minimize();
+  desk.SwitchOn();
+  desk.ComeBack();
+  EXPECT_TRUE(strip.AppBarDocked);
+  EXPECT_EQ(strip.ToolbarEdge, Edge::Left);
+}
+
 TEST(CustomizeOptions, LargeSingleButtonsOfAFloatingStripComeLater) {
   CustDesk desk;
   desk.parts->TheProgram.OptionFlags.Set(Option::SmallSingles, true);

@@ -105,6 +105,7 @@ void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   if (Waits()) {
     // A change of bars is not told again; one in the task bar is placed again when it comes back.
     if (with_.Guards.PosChangeRunning && !with_.Strip.ToolbarMinimized) strip_.FollowBarsLater();
+    if (with_.Strip.ToolbarMinimized && edge) ReturnTo(*edge);
     return;
   }
   with_.Guards.ToolbarReady = false;
@@ -131,6 +132,15 @@ void mAppBar::SetAppBar(std::optional<Edge> edge, bool rebuild) {
   if (!window_.IsLoaded()) return;
   PinHere();
   with_.Guards.ToolbarReady = !with_.Strip.ToolbarMinimized;
+}
+
+// A floating strip in the task bar comes back as if it had been at that edge. One that was at an
+// edge returns there.
+void mAppBar::ReturnTo(Edge edge) {
+  if (with_.Strip.BelongsToEdge()) return;
+  LeaveEdge();
+  with_.Strip.WasDocked = true;
+  with_.Strip.ToolbarEdge = edge;
 }
 
 // A strip that turns, or has not been at an edge yet, is rebuilt.

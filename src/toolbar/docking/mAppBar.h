@@ -73,6 +73,7 @@ class mAppBar final : public DockingPort {
   void GiveUpHiding();
   void Remove();
   [[nodiscard]] bool Waits() const;
+  void ReturnTo(Edge edge);
   void TurnTo(Edge edge, bool rebuild);
   void PlaceAt(Edge at);
   void FinishPlacing(Edge at);
