@@ -43,6 +43,7 @@ VIAddVersionKey LegalCopyright "Copyright (c) 2026 the Corvelle authors"
 
 !include FileFunc.nsh
 !include LogicLib.nsh
+!include x64.nsh
 
 Page license
 Page components
@@ -209,6 +210,15 @@ Section "-Restart"
 SectionEnd
 
 Function .onInit
+!if "${ARCH}" == "x86"
+  ; There a 32-bit program is shown other folders of the system than the user sees.
+  ${If} ${IsNativeAMD64}
+    MessageBox MB_YESNO|MB_ICONQUESTION "The 64-bit Corvelle fits this Windows better than this 32-bit one. Install it all the same?" /SD IDYES IDYES goesOn
+    SetErrorLevel 1
+    Quit
+    goesOn:
+  ${EndIf}
+!endif
   SetShellVarContext current
   ; A silent installation is asked for the start with Windows by a word of its own.
   ${GetParameters} $0

@@ -31,6 +31,11 @@ DllCharacteristics\t00008160
 """
 
 
+def script():
+    """The script of the installer."""
+    return (make.ROOT / "tools" / "installer" / "corvelle.nsi").read_text(encoding="utf-8")
+
+
 class Headers(unittest.TestCase):
     def test_flags_and_imports_are_read(self):
         flags, imports = tests.parse_headers(HEADERS)
@@ -93,6 +98,20 @@ class Release(unittest.TestCase):
         for line in ("InstallerType: nullsoft", "Scope: user", "  - Architecture: x64", "  - Architecture: x86",
                      "ReleaseDate: 2026-11-22"):
             self.assertIn(line, text.splitlines())
+
+    def test_a_silent_installer_has_an_answer_to_each_of_its_questions(self):
+        asked = [line for line in script().splitlines() if line.strip().startswith("MessageBox")]
+        self.assertTrue(asked)
+        for line in asked:
+            self.assertIn(" /SD ID", line)
+
+    def test_the_32_bit_installer_alone_asks_on_a_64_bit_windows_before_it_does_anything(self):
+        begins = script().split("Function .onInit\n")[1].split("FunctionEnd")[0]
+        narrow, _, rest = begins.partition("!endif\n")
+        self.assertTrue(narrow.startswith('!if "${ARCH}" == "x86"\n  ;'), narrow)
+        self.assertIn("${If} ${IsNativeAMD64}", narrow)
+        self.assertIn("/SD IDYES IDYES", narrow)
+        self.assertNotIn("MessageBox", rest)
 
 
 if __name__ == "__main__":
