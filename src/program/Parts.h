@@ -65,7 +65,8 @@ class Parts {
   IconLibrary TheIconLibrary{UnpackPartsOf(TheProgram)};
   BuiltInCommands TheBuiltIns{BuiltInPartsOf(TheProgram)};
   Browser TheBrowser{BrowserPartsOf(TheProgram)};
-  SpecialFolders TheSpecialFolders{TheProgram.Services.Folders, TheProgram.Launch};
+  SpecialFolders TheSpecialFolders{TheProgram.Services.Folders, TheProgram.Launch,
+                                   TheProgram.Answers, TheProgram.Services.Pointer};
   LinkReader Links{TheProgram.Services.Links};
   StartupLink TheStartupLink{StartupLinkPartsOf(TheProgram)};
   DragImage Carried{DragImagePartsOf(TheProgram)};

@@ -170,7 +170,8 @@ class LongNames : public ::testing::TestWithParam<Script> {
   }
 
   FolderDesk desk_;
-  SpecialFolders folders_{desk_.TheProgram.Services.Folders, desk_.TheProgram.Launch};
+  SpecialFolders folders_{desk_.TheProgram.Services.Folders, desk_.TheProgram.Launch,
+                          desk_.TheProgram.Answers, desk_.TheProgram.Services.Pointer};
   NotedEntry popup_;
 };
 

@@ -46,7 +46,8 @@ struct FoldersDesk : MenuDesk {
             .Owner = kNoWindow};
   }
 
-  SpecialFolders Folders{TheProgram.Services.Folders, TheProgram.Launch};
+  SpecialFolders Folders{TheProgram.Services.Folders, TheProgram.Launch, TheProgram.Answers,
+                         TheProgram.Services.Pointer};
 };
 
 // ---- opening ----
@@ -338,6 +339,22 @@ TEST(ShellMenu, OfWhatIsGoneDoesNotComeUp) {
   EXPECT_TRUE(desk.Menu.MenuVisible());
   EXPECT_EQ(desk.Popup.Shown, 0);
   EXPECT_TRUE(desk.World.Desktop.Boxes().empty());
+  EXPECT_EQ(desk.World.Desktop.Beeps(), 0);
+}
+
+TEST(ShellMenu, OfWhatTakesLongerThanAClickComesUpWithTheNextOne) {
+  RightClickDesk desk;
+  desk.World.SlowAnswers.Delay("C:", 300);
+  desk.RightClick(1);
+  EXPECT_TRUE(desk.World.Folders.Menus().empty());
+  EXPECT_EQ(desk.World.Desktop.Beeps(), 1);
+  EXPECT_TRUE(desk.Menu.MenuVisible());
+  desk.World.Desktop.Advance(500);
+  EXPECT_TRUE(desk.World.Folders.Menus().empty()) << "nobody waits for it any more";
+  desk.World.Folders.Dismiss();
+  desk.RightClick(1);
+  EXPECT_EQ(desk.World.Folders.Menus(), std::vector{desk.Menu1(-1, "C:\\Tools\\tool.exe", "")});
+  EXPECT_EQ(desk.World.Desktop.Beeps(), 1);
 }
 
 TEST(ShellMenu, TheOptionAndCtrlDecideWhichMenuComesUp) {

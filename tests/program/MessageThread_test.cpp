@@ -98,6 +98,33 @@ TEST_F(MessageThread, PassingOverItsItemsMakesNone) {
             Calls());
 }
 
+/// The menu of the shell needs its calls made by this thread, which must not wait for a disk.
+TEST_F(MessageThread, TheMenuOfTheShellIsMadeOnlyWhereTheDiskAnswers) {
+  Press(2);
+  World().Desktop.Advance(2000);
+  const auto rightClick = [this] {
+    desk_.PointAt(desk_.Item(3));
+    World().Desktop.KeyDown(forms::key::Ctrl);
+    World().Desktop.Click(forms::MouseButton::Right);
+    World().Desktop.KeyUp(forms::key::Ctrl);
+    World().Desktop.Advance(500);
+  };
+  World().SlowAnswers.Hang("D:");
+  EXPECT_EQ(CostsOf(rightClick), Calls{"waited for an answer"});
+  EXPECT_LT(World().Costs.LongestTurn(), 100);
+  EXPECT_EQ(World().Desktop.Beeps(), 1);
+  // Called back by now, its disk rests.
+  World().Desktop.Advance(3000);
+  EXPECT_EQ(CostsOf(rightClick), Calls());
+  EXPECT_EQ(World().Desktop.Beeps(), 2);
+  World().SlowAnswers.Resume("D:");
+  desk_.parts->TheProgram.Answers.TryAllAgain();
+  World().Folders.Dismiss();
+  EXPECT_EQ(CostsOf(rightClick), Calls{"FileMenu D:\\Docs\\letter 11.txt"});
+  EXPECT_EQ(World().Folders.Menus().size(), 1U);
+  EXPECT_EQ(World().Desktop.Beeps(), 2);
+}
+
 TEST_F(MessageThread, PagingMakesNone) {
   Press(3);
   World().Desktop.Advance(2000);

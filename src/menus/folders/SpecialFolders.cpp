@@ -1,13 +1,16 @@
 #include "menus/folders/SpecialFolders.h"
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
 #include "base/Text.h"
 #include "core/SpecialFolders.h"
+#include "desk/AnswerDesk.h"
 #include "launch/CommandForm.h"
 #include "launch/LaunchItem.h"
 #include "launch/StartBeside.h"
+#include "platform/Input.h"
 #include "platform/ShellFolders.h"
 
 namespace corvelle {
@@ -18,6 +21,9 @@ using forms::MouseButton;
 
 constexpr int kDesktop = 0;
 constexpr std::string_view kRootWindow = "? explorer.exe /root,";
+/// How old the answer may be that a path is there. Milliseconds: a disk that took longer than the
+/// click could wait has its menu with the next click.
+constexpr std::int64_t kThereAge = 10'000;
 
 /// Opens a folder; what is left to do for it as a command, else empty.
 std::string OpenFolder(ShellFolders& folders, int folder) {
@@ -42,14 +48,6 @@ std::string OpenApart(ShellFolders& folders, const SpecialFolderText& text,
   static_cast<void>(
       DoSpecialFolder(folders, folder, text.Title, MouseButton::Left, argument, {}, kNoWindow));
   return {};
-}
-
-/// The root of all folders has no menu; that of its folder on the disk stands in for it.
-bool ShowFolderMenu(ShellFolders& folders, int folder, PixelPoint at, WindowId owner) {
-  if (KindOfSpecialFolder(folder) == SpecialFolderKind::Shell)
-    return folders.FolderMenu(folder, at, owner);
-  const auto path = folders.PathOf(folder);
-  return path && DoExplorerMenu(folders, owner, *path, at);
 }
 
 bool IsQuoted(std::string_view text) noexcept {
@@ -79,10 +77,6 @@ bool DoSpecialFolder(ShellFolders& folders, int folder, std::string_view title, 
   return folders.EntryMenu(folder, name, at, owner);
 }
 
-bool DoExplorerMenu(ShellFolders& folders, WindowId owner, std::string_view path, PixelPoint at) {
-  return folders.FileMenu(path, at, owner);
-}
-
 void SpecialFolders::OpenSpecialFolder(std::string_view name, std::string_view argument) {
   const bool file = IsQuoted(argument);
   const SpecialFolderText text = ParseSpecialFolder(name, file ? std::string_view() : argument);
@@ -99,12 +93,29 @@ bool SpecialFolders::ShowContextMenu(std::string_view command, std::string_view 
                                      PixelPoint at, WindowId owner) {
   if (!IsSpecial(command)) {
     // A folder that is not expanded has the menu of the folder.
-    return DoExplorerMenu(folders_, owner, Trim(command.substr(0, command.find('*'))), at);
+    return DoExplorerMenu(owner, Trim(command.substr(0, command.find('*'))), at);
   }
   const SpecialFolderText text = ParseSpecialFolder(command, title);
   const int folder = CsidlValue(text.Name);
-  if (text.Title.empty()) return ShowFolderMenu(folders_, folder, at, owner);
+  if (text.Title.empty()) return ShowFolderMenu(folder, at, owner);
   return DoSpecialFolder(folders_, folder, text.Title, MouseButton::Right, {}, at, owner);
+}
+
+bool SpecialFolders::DoExplorerMenu(WindowId owner, const std::string& path, PixelPoint at) {
+  const auto reply =
+      answers_.AskAtOnce({.Question = {.Path = path}, .MaxAge = kThereAge}, desk::Asker());
+  if (!reply || reply->How == desk::End::NotAvailable) {
+    pointer_.Beep();
+    return false;
+  }
+  return reply->Value == LookupValue(true) && folders_.FileMenu(path, at, owner);
+}
+
+bool SpecialFolders::ShowFolderMenu(int folder, PixelPoint at, WindowId owner) {
+  if (KindOfSpecialFolder(folder) == SpecialFolderKind::Shell)
+    return folders_.FolderMenu(folder, at, owner);
+  const auto path = folders_.PathOf(folder);
+  return path && DoExplorerMenu(owner, *path, at);
 }
 
 }  // namespace corvelle
