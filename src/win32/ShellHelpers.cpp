@@ -36,8 +36,8 @@ std::optional<LookupAnswer> ShellHelpers::Answer(LookupId id, const Lookup& ques
     const auto answer = lane->Helper.Ask(id, question);
     const bool cancelled = End(id);
     if (answer) return answer;
-    ++lane->Deaths;
     if (cancelled) return LookupAnswer{.End = LookupEnd::Failed};
+    ++lane->Deaths;
   }
   return AnswerByType(question);
 }

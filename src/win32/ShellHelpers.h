@@ -13,7 +13,7 @@ namespace corvelle::win32 {
 
 /// The processes that look for icons, one for each lane that has asked, as long as there are not
 /// too many. One that dies is started again, three times; then icons come by the type of the file.
-/// Several threads may ask.
+/// One that was ended with a cancelled question has not died. Several threads may ask.
 class ShellHelpers {
  public:
   /// Path of the program that they run.

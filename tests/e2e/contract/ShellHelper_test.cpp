@@ -172,6 +172,30 @@ TEST_F(ShellHelperTest, AQuestionThatHangsThereIsCancelledWithItsProcess) {
   EXPECT_TRUE(IsIcon(next));
 }
 
+TEST_F(ShellHelperTest, AProcessThatIsEndedWithItsQuestionHasNotDied) {
+  for (int hung = 0; hung < 4; ++hung) {
+    const LookupId first = AskIcon(0);
+    ASSERT_TRUE(RunUntil([&] { return ends_.contains(first); }));
+    ASSERT_EQ(Helpers().size(), 1U) << hung;
+    ASSERT_TRUE(StopHelpers());
+    const LookupId hanging = AskIcon(1);
+    RunEvents(*windows_, 200);
+    lookups_->Cancel(hanging);
+    ASSERT_TRUE(RunUntil([&] { return ends_.contains(hanging); }));
+    ASSERT_EQ(ends_[hanging].End, LookupEnd::Failed);
+  }
+  // A file whose icon is not that of its type.
+  const std::string path = "C:\\windows\\regedit.exe";
+  win32::Win32ShellIcons icons;
+  const auto own = icons.PixelsOfFile(path, IconList::Small);
+  ASSERT_TRUE(own);
+  ASSERT_NE(win32::AnswerByType({.Kind = LookupKind::FileIcon, .Path = path}).Value,
+            LookupValue(*own));
+  const LookupId id = lookups_->Ask({.Kind = LookupKind::FileIcon, .Path = path, .Lane = "C:*"});
+  ASSERT_TRUE(RunUntil([&] { return ends_.contains(id); }));
+  EXPECT_EQ(ends_[id].Value, LookupValue(*own));
+}
+
 TEST_F(ShellHelperTest, WithoutItsFileTheThreadsLookForIcons) {
   lookups_.emplace(windows_->Posts(), temp_.Path() + "no-such.exe");
   lookups_->SetListener([this](const std::vector<LookupAnswer>& ends) {
