@@ -28,15 +28,18 @@ std::optional<LookupAnswer> ShellHelpers::Answer(LookupId id, const Lookup& ques
   const std::unique_lock asking(lane->Asking, std::try_to_lock);
   if (!asking || lane->CannotStart) return std::nullopt;
   for (int attempt = 0; attempt < 2 && lane->Deaths <= kMostRestarts; ++attempt) {
-    if (!lane->Helper.Start()) {
-      lane->CannotStart = true;
-      return std::nullopt;
-    }
-    if (!Begin(id, lane)) return std::nullopt;
-    const auto answer = lane->Helper.Ask(id, question);
+    if (!Begin(id, nullptr)) return std::nullopt;
+    // What is cancelled meanwhile may break off the start.
+    const bool started = lane->Helper.Start();
+    std::optional<LookupAnswer> answer;
+    if (started && Begin(id, lane)) answer = lane->Helper.Ask(id, question);
     const bool cancelled = End(id);
     if (answer) return answer;
     if (cancelled) return LookupAnswer{.End = LookupEnd::Failed};
+    if (!started) {
+      lane->CannotStart = true;
+      return std::nullopt;
+    }
     ++lane->Deaths;
   }
   return AnswerByType(question);
@@ -47,7 +50,7 @@ void ShellHelpers::Cancel(LookupId id) {
   const auto found = asking_.find(id);
   if (found == asking_.end()) return;
   cancelled_.insert(id);
-  found->second->Helper.Kill();
+  if (found->second != nullptr) found->second->Helper.Kill();
 }
 
 void ShellHelpers::Close() {
@@ -68,10 +71,10 @@ std::shared_ptr<ShellHelpers::Lane> ShellHelpers::LaneOf(const std::string& lane
   return lanes_.emplace(name, std::make_shared<Lane>(program_)).first->second;
 }
 
-bool ShellHelpers::Begin(LookupId id, const std::shared_ptr<Lane>& lane) {
+bool ShellHelpers::Begin(LookupId id, std::shared_ptr<Lane> lane) {
   const std::scoped_lock lock(mutex_);
-  if (closed_) return false;
-  asking_.emplace(id, lane);
+  if (closed_ || cancelled_.contains(id)) return false;
+  asking_[id] = std::move(lane);
   return true;
 }
 

@@ -38,7 +38,9 @@ class ShellHelpers {
   };
 
   [[nodiscard]] std::shared_ptr<Lane> LaneOf(const std::string& lane);
-  [[nodiscard]] bool Begin(LookupId id, const std::shared_ptr<Lane>& lane);
+  /// Null while the process of the lane starts, since nobody can kill it then. False when the
+  /// question is not to be asked.
+  [[nodiscard]] bool Begin(LookupId id, std::shared_ptr<Lane> lane);
   /// True when the question was cancelled.
   [[nodiscard]] bool End(LookupId id);
 
