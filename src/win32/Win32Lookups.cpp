@@ -7,6 +7,7 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -144,7 +145,15 @@ class Win32Lookups::Desk : public std::enable_shared_from_this<Desk> {
   void StartThread() {
     ++threads_;
     ++idle_;
-    std::thread([desk = shared_from_this()] { desk->Work(); }).detach();
+    try {
+      std::thread([desk = shared_from_this()] { desk->Work(); }).detach();
+    } catch (const std::system_error&) {
+      --idle_;
+      if (--threads_ > 0) return;  // one of them takes it
+      while (const auto begun = ledger_.Begin()) {
+        if (ledger_.End(*begun, {.End = LookupEnd::Failed})) PostTelling();
+      }
+    }
   }
 
   void Work() {
