@@ -62,6 +62,12 @@ bool LiesElsewhere(unsigned long attributes) noexcept {
          (attributes & (FILE_ATTRIBUTE_OFFLINE | kRecallOnOpen | kRecallOnDataAccess)) != 0;
 }
 
+unsigned long AttributesOfType(unsigned long attributes) noexcept {
+  const bool folder =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  return folder ? FILE_ATTRIBUTE_DIRECTORY : FILE_ATTRIBUTE_NORMAL;
+}
+
 std::optional<ShellFileInfo> Win32ShellIcons::FileInfo(std::string_view path, IconList list) {
   if (!CanNameFile(path)) return std::nullopt;
   SHFILEINFOW info{};
@@ -87,8 +93,9 @@ std::optional<IconPixels> Win32ShellIcons::PixelsOfFile(std::string_view path, I
   SHFILEINFOW info{};
   const std::wstring wide = Wide(path);
   // To look into such a file would fetch it.
-  const bool byType = LiesElsewhere(GetFileAttributesW(wide.c_str()));
-  if (SHGetFileInfoW(wide.c_str(), FILE_ATTRIBUTE_NORMAL, &info, sizeof(info),
+  const DWORD attributes = GetFileAttributesW(wide.c_str());
+  const bool byType = LiesElsewhere(attributes);
+  if (SHGetFileInfoW(wide.c_str(), AttributesOfType(attributes), &info, sizeof(info),
                      (byType ? SHGFI_USEFILEATTRIBUTES : 0U) | SHGFI_ICON | SHGFI_SHELLICONSIZE |
                          SizeFlag(list)) == 0) {
     return std::nullopt;

@@ -33,4 +33,7 @@ class Win32ShellIcons final : public ShellIcons {
 /// when it is read.
 [[nodiscard]] bool LiesElsewhere(unsigned long attributes) noexcept;
 
+/// Those by which the shell tells the icon of a type: of a folder or of a file.
+[[nodiscard]] unsigned long AttributesOfType(unsigned long attributes) noexcept;
+
 }  // namespace corvelle::win32

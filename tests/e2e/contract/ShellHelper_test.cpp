@@ -240,5 +240,23 @@ TEST(CloudFiles, AreKnownByTheirAttributes) {
   EXPECT_FALSE(win32::LiesElsewhere(INVALID_FILE_ATTRIBUTES));
 }
 
+TEST(CloudFiles, HaveTheIconOfAFolderWhereTheyAreOne) {
+  const struct {
+    unsigned long Attributes;
+    unsigned long ByType;
+  } rows[] = {
+      {FILE_ATTRIBUTE_DIRECTORY, FILE_ATTRIBUTE_DIRECTORY},
+      {FILE_ATTRIBUTE_DIRECTORY | 0x00400000U, FILE_ATTRIBUTE_DIRECTORY},
+      {FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY | 0x00040000U, FILE_ATTRIBUTE_DIRECTORY},
+      {FILE_ATTRIBUTE_ARCHIVE | 0x00400000U, FILE_ATTRIBUTE_NORMAL},
+      {FILE_ATTRIBUTE_OFFLINE, FILE_ATTRIBUTE_NORMAL},
+      {FILE_ATTRIBUTE_NORMAL, FILE_ATTRIBUTE_NORMAL},
+      // What is not there has all of them.
+      {INVALID_FILE_ATTRIBUTES, FILE_ATTRIBUTE_NORMAL},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(win32::AttributesOfType(row.Attributes), row.ByType) << row.Attributes;
+}
+
 }  // namespace
 }  // namespace corvelle
