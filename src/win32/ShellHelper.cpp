@@ -80,7 +80,8 @@ bool ShellHelper::Start() {
   if (inherited.Get() == nullptr) return false;
   STARTUPINFOEXW startup{};
   startup.StartupInfo.cb = sizeof(startup);
-  startup.StartupInfo.dwFlags = STARTF_USESTDHANDLES;
+  // No pointer tells of a program that the user has not started.
+  startup.StartupInfo.dwFlags = STARTF_USESTDHANDLES | STARTF_FORCEOFFFEEDBACK;
   startup.StartupInfo.hStdInput = questions.Child.Get();
   startup.StartupInfo.hStdOutput = answers.Child.Get();
   startup.lpAttributeList = inherited.Get();
