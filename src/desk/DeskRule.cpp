@@ -180,7 +180,7 @@ class Turn {
   /// The icon of a link waits until it is known which place it depends on.
   void FindTarget(std::uint64_t follower, Urgency how) {
     const std::string path = state_.Jobs.at(follower).Question.Path;
-    const Lookup question{.Kind = LookupKind::LinkTarget, .Path = path};
+    const Lookup question{.Kind = LookupKind::IconTarget, .Path = path};
     const std::string key = KeyOfLookup(question);
     if (const auto* const kept = state_.Kept.Find(key);
         kept != nullptr && now_ - kept->At <= kTargetAge) {

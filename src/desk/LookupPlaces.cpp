@@ -35,6 +35,7 @@ std::string LaneOfLookup(const Lookup& question) {
     case LookupKind::Drive:
     case LookupKind::DriveAtHand:
     case LookupKind::LinkTarget:
+    case LookupKind::IconTarget:
     case LookupKind::ShortPaths:
       return PlaceOfPath(question.Path);
     case LookupKind::ShellFolder:
@@ -95,6 +96,7 @@ std::string KeyOfLookup(const Lookup& question) {
     case LookupKind::Drive:
     case LookupKind::DriveAtHand:
     case LookupKind::LinkTarget:
+    case LookupKind::IconTarget:
     case LookupKind::FileName:
     case LookupKind::IconCount:
       break;

@@ -102,6 +102,9 @@ LookupAnswer AnswerLookup(const LookupServices& services, const Lookup& question
       return {.Value = services.System.FactsOfDrive(path)};
     case LookupKind::DriveAtHand:
       return {.Value = services.System.IsDriveAtHand(path)};
+    case LookupKind::IconTarget:
+      if (services.Links.LiesElsewhere(path)) return {.End = LookupEnd::Failed};
+      [[fallthrough]];
     case LookupKind::LinkTarget: {
       const auto link = services.Links.CreateLinkObject();
       if (link == nullptr || !link->Load(path)) return {.End = LookupEnd::Failed};

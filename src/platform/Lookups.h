@@ -35,6 +35,7 @@ enum class LookupKind {
   ShortPaths,     // what FileSystem::ShortPath gives for files of the folder Path, named as for
                   // FileNames: a list of entries in that order, empty for what it refuses
   IconCount,      // how many icons a file holds: int
+  IconTarget,     // LinkTarget for the icon of the link: fails where the link lies in a cloud
 };
 
 /// A question whose answer may be slow.

@@ -76,6 +76,9 @@ class ShellLinks {
   /// A new empty link; null when the system makes none.
   [[nodiscard]] virtual std::unique_ptr<ShellLinkObject> CreateLinkObject() = 0;
 
+  /// True for a link file whose content lies in a cloud or an archive, and is fetched by Load.
+  [[nodiscard]] virtual bool LiesElsewhere(std::string_view linkFile) = 0;
+
   /// The item of a special folder by its number (CSIDL_*); nothing when there is no such folder.
   [[nodiscard]] virtual std::optional<ItemIdList> SpecialFolderLocation(WindowId window,
                                                                         int folder) = 0;

@@ -3,6 +3,7 @@
 #include "win32/ComPointer.h"
 #include "win32/ItemIds.h"
 #include "win32/Wide.h"
+#include "win32/Win32ShellIcons.h"
 
 namespace corvelle::win32 {
 
@@ -135,6 +136,10 @@ std::unique_ptr<ShellLinkObject> Win32ShellLinks::CreateLinkObject() {
   auto link = std::make_unique<Win32ShellLinkObject>();
   if (!link->Create()) return nullptr;
   return link;
+}
+
+bool Win32ShellLinks::LiesElsewhere(std::string_view linkFile) {
+  return !HoldsNul(linkFile) && win32::LiesElsewhere(GetFileAttributesW(Wide(linkFile).c_str()));
 }
 
 std::optional<ItemIdList> Win32ShellLinks::SpecialFolderLocation(WindowId window, int folder) {

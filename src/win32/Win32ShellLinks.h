@@ -8,6 +8,7 @@ namespace corvelle::win32 {
 class Win32ShellLinks final : public ShellLinks {
  public:
   std::unique_ptr<ShellLinkObject> CreateLinkObject() override;
+  bool LiesElsewhere(std::string_view linkFile) override;
   std::optional<ItemIdList> SpecialFolderLocation(WindowId window, int folder) override;
   std::optional<std::string> PathFromIDList(const ItemIdList& item) override;
 };

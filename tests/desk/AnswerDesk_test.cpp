@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -53,6 +54,27 @@ class AnswerDeskTest : public testing::Test {
   Lines told_;
   std::function<void()> then_;
 };
+
+TEST_F(AnswerDeskTest, ALinkThatLiesElsewhereIsNotReadForItsIconAlone) {
+  const auto loads = [this] {
+    return std::count_if(World.Links.Log().begin(), World.Links.Log().end(),
+                         [](const std::string& call) { return call.starts_with("Load "); });
+  };
+  for (const char* path : {"C:\\here\\far.lnk", "C:\\here\\near.lnk"})
+    World.Links.Put(path, {.Path = "D:\\here\\a.txt"});
+  World.Links.PutElsewhere("C:\\here\\far.lnk");
+  const auto ask = [this](LookupKind kind, const char* path) {
+    const auto reply = Desk->AskAtOnce({.Question = {.Kind = kind, .Path = path}}, Asker());
+    return reply && reply->How == End::Answered;
+  };
+  EXPECT_TRUE(ask(LookupKind::FileIcon, "C:\\here\\far.lnk"));
+  EXPECT_EQ(loads(), 0);
+  EXPECT_TRUE(ask(LookupKind::FileIcon, "C:\\here\\near.lnk"));
+  EXPECT_EQ(loads(), 1);
+  // What the user has chosen is read.
+  EXPECT_TRUE(ask(LookupKind::LinkTarget, "C:\\here\\far.lnk"));
+  EXPECT_EQ(loads(), 2);
+}
 
 TEST_F(AnswerDeskTest, WhatIsHeldBackIsAskedWhenItGoesOnAndNotWaitedFor) {
   World.Costs.SetPrice([](std::string_view, std::string_view) { return 1; });

@@ -456,7 +456,7 @@ TEST_F(DeskRule, TheIconOfALinkIsAskedInTheLaneOfItsTarget) {
   const Lookup icon{.Kind = LookupKind::FileIcon, .Path = "C:\\a.lnk"};
   const Ticket asked = desk.Ask(icon);
   ASSERT_EQ(desk.Under.size(), 1U);
-  EXPECT_EQ(desk.Under.begin()->second.Kind, LookupKind::LinkTarget);
+  EXPECT_EQ(desk.Under.begin()->second.Kind, LookupKind::IconTarget);
   desk.Return("C:\\a.lnk", std::string("\\\\dead\\share\\a.exe"));
   ASSERT_EQ(desk.Under.size(), 1U);
   EXPECT_EQ(desk.Under.begin()->second.Kind, LookupKind::FileIcon);
@@ -568,7 +568,7 @@ Lookup AnyQuestion(Chance& chance, bool quickOnly) {
 /// What the system answers; a link of a quick place leads to a quick one.
 LookupAnswer AnyAnswer(Chance& chance, const Lookup& question) {
   if (chance.Below(8) == 0) return {.End = LookupEnd::Failed};
-  if (question.Kind == LookupKind::LinkTarget) {
+  if (question.Kind == LookupKind::LinkTarget || question.Kind == LookupKind::IconTarget) {
     const bool quick = question.Path.starts_with("C:") || question.Path.starts_with("E:");
     return {.Value = std::string(quick ? "C:\\target" : "\\\\dead\\x\\target")};
   }

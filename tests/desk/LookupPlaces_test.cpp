@@ -40,7 +40,8 @@ TEST(LookupPlaces, EachKindHasItsLane) {
       {LookupKind::FileName, "D:*"},       {LookupKind::FileIcon, "D:*"},
       {LookupKind::IconInFile, "D:*"},     {LookupKind::ShellFolder, "shell"},
       {LookupKind::ShellEntries, "shell"}, {LookupKind::ShellIcon, "shell*"},
-      {LookupKind::ShortPaths, "D:"},      {LookupKind::IconCount, "D:*"},
+      {LookupKind::ShortPaths, "D:"},      {LookupKind::IconTarget, "D:"},
+      {LookupKind::IconCount, "D:*"},
   };
   for (const Row& row : rows) {
     const std::string lane = LaneOfLookup({.Kind = row.kind, .Path = "d:\\x"});

@@ -222,6 +222,7 @@ TEST_F(cShellLinkTest, ASpecialFolderIsFoundByItsNumber) {
 TEST_F(cShellLinkTest, AFolderWhosePathIsEmptyIsNothing) {
   struct EmptyPaths final : ShellLinks {
     std::unique_ptr<ShellLinkObject> CreateLinkObject() override { return nullptr; }
+    bool LiesElsewhere(std::string_view) override { return false; }
     std::optional<ItemIdList> SpecialFolderLocation(WindowId, int) override {
       return ItemIdList{"item"};
     }

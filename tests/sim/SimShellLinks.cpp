@@ -192,6 +192,10 @@ void SimShellLinks::Put(std::string_view linkFile, const SimLink& link) {
   files_.Put(linkFile, Format(whole));
 }
 
+void SimShellLinks::PutElsewhere(std::string_view linkFile) {
+  elsewhere_.insert(UpperCase(linkFile));
+}
+
 std::optional<SimLink> SimShellLinks::Get(std::string_view linkFile) const {
   if (!files_.Has(linkFile)) return std::nullopt;
   return Parse(files_.Get(linkFile).value_or(std::string()));
@@ -211,6 +215,11 @@ bool SimShellLinks::Enter(std::string_view operation, std::string_view argument)
 std::unique_ptr<ShellLinkObject> SimShellLinks::CreateLinkObject() {
   if (!Enter("CreateLinkObject")) return nullptr;
   return std::make_unique<Object>(*this);
+}
+
+bool SimShellLinks::LiesElsewhere(std::string_view linkFile) {
+  TellCall("LiesElsewhere", linkFile);
+  return elsewhere_.contains(UpperCase(linkFile));
 }
 
 std::optional<ItemIdList> SimShellLinks::SpecialFolderLocation(WindowId, int folder) {

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,8 @@ class SimShellLinks final : public ShellLinks, public Priced {
   void SetVirtualFolder(int folder);
   /// A link file as another program would make it, without being logged; with its folders.
   void Put(std::string_view linkFile, const SimLink& link);
+  /// The content of that link file lies in a cloud from now on.
+  void PutElsewhere(std::string_view linkFile);
   /// What a link file holds; nothing for a missing or damaged one.
   [[nodiscard]] std::optional<SimLink> Get(std::string_view linkFile) const;
   /// The item of a path.
@@ -59,6 +62,7 @@ class SimShellLinks final : public ShellLinks, public Priced {
 
   // The port.
   std::unique_ptr<ShellLinkObject> CreateLinkObject() override;
+  bool LiesElsewhere(std::string_view linkFile) override;
   std::optional<ItemIdList> SpecialFolderLocation(WindowId window, int folder) override;
   std::optional<std::string> PathFromIDList(const ItemIdList& item) override;
 
@@ -70,6 +74,7 @@ class SimShellLinks final : public ShellLinks, public Priced {
 
   SimFiles& files_;
   std::map<int, ItemIdList> folders_;
+  std::set<std::string> elsewhere_;  // in capitals
   std::vector<std::string> log_;
   int failIn_ = 0;
   bool hit_ = false;
