@@ -356,6 +356,46 @@ def check_frozen(checks, machine, wanted):
     checks.check("it goes on, and ends when asked", machine.end())
 
 
+def check_refused(checks, machine, wanted):
+    """An upgrade that may not write, and one that a file stops: the program runs on, or again."""
+    machine.start()
+    before = machine.programs()
+    # Rights do not stop the user that tests run as: what is in the way is a folder of the name that is tried.
+    (machine.folder / "~setup.tmp").mkdir()
+    code = machine.install()
+    checks.check("without the right to write it refuses", code == 4, code)
+    checks.check("the program runs on", machine.programs() == before, (before, machine.programs()))
+    (machine.folder / "~setup.tmp").rmdir()
+    stop = machine.folder / "LICENSE.txt"
+    stop.unlink()
+    stop.mkdir()
+    code = machine.install()
+    checks.check("it says so when a file cannot be written", code == 4, code)
+    checks.check("the program that it ended runs again",
+                 wait_for(lambda: machine.strip_stands() and not set(machine.programs()) & set(before)),
+                 (before, machine.programs()))
+    stop.rmdir()
+    checks.check("the next one goes through", machine.install() == 0 and machine.installed() == wanted,
+                 machine.installed())
+    checks.check("it ends once more", machine.end())
+
+
+def check_frozen_removal(checks, machine):
+    """A removal while the program does not answer."""
+    machine.start()
+    time.sleep(3)
+    frozen = machine.programs()
+    for process in frozen:
+        os.kill(process, signal.SIGSTOP)
+    code = machine.uninstall()
+    checks.check("it removes itself while the program is frozen", code == 0, code)
+    checks.check("nothing of the frozen program stays in the folder", not machine.folder.exists(), machine.installed())
+    for process in frozen:
+        os.kill(process, signal.SIGCONT)
+    checks.check("the frozen one ends when asked", machine.end())
+    machine.install("/STARTUP", "/D=C:\\My Tools\\Corvelle")
+
+
 def check_removal(checks, machine):
     machine.start()
     code = machine.uninstall()
@@ -412,6 +452,8 @@ def check_installation(checks, release, work, width):
         check_start(checks, machine, wanted)
         check_upgrade(checks, machine, wanted)
         check_frozen(checks, machine, wanted)
+        check_refused(checks, machine, wanted)
+        check_frozen_removal(checks, machine)
         check_removal(checks, machine)
         check_purge(checks, machine)
         check_portable(checks, machine, archive)

@@ -116,10 +116,30 @@ Function ${un}FreeHelper
   ${LoopUntil} $Tries >= 20
 FunctionEnd
 
+; 1 in $0 if files can be made in $INSTDIR. Without the right to, the program could not be opened for writing
+; either, and would be taken for one that runs.
+Function ${un}CanWrite
+  StrCpy $0 0
+  ClearErrors
+  CreateDirectory "$INSTDIR"
+  FileOpen $1 "$INSTDIR\~setup.tmp" w
+  ${IfNot} ${Errors}
+    FileClose $1
+    Delete "$INSTDIR\~setup.tmp"
+    StrCpy $0 1
+  ${EndIf}
+FunctionEnd
+
 ; Ends the program that runs in $INSTDIR, all saved. One that does not answer keeps running, and its file
 ; gets another name, so that its place is free.
 Function ${un}EndProgram
   StrCpy $WasRunning 0
+  Call ${un}CanWrite
+  ${If} $0 == 0
+    MessageBox MB_OK|MB_ICONSTOP "Setup cannot change the files in this folder:$\r$\n$INSTDIR" /SD IDOK
+    SetErrorLevel 4
+    Quit
+  ${EndIf}
   Call ${un}ProgramRuns
   ${If} $0 == 0
     Return
@@ -204,10 +224,19 @@ Section /o "Start with Windows" StartupSection
 SectionEnd
 
 Section "-Restart"
+  Call Restart
+SectionEnd
+
+; What has failed has perhaps left the program as it was.
+Function .onInstFailed
+  Call Restart
+FunctionEnd
+
+Function Restart
   ${If} $WasRunning == 1
     Exec '"${PROGRAM}"'
   ${EndIf}
-SectionEnd
+FunctionEnd
 
 Function .onInit
 !if "${ARCH}" == "x86"
@@ -226,6 +255,27 @@ Function .onInit
   ${GetOptions} $0 "/STARTUP" $1
   ${IfNot} ${Errors}
     SectionSetFlags ${StartupSection} 1
+  ${EndIf}
+FunctionEnd
+
+; Takes what still runs under another name out of the folder.
+Function un.MoveOldPrograms
+  StrCpy $Tries 0
+  ${Do}
+    IntOp $Tries $Tries + 1
+    StrCpy $1 "$INSTDIR\corvelle-old$Tries.exe"
+    Call un.MoveToTemp
+    StrCpy $1 "$INSTDIR\corvelle-shell-old$Tries.exe"
+    Call un.MoveToTemp
+  ${LoopUntil} $Tries >= 20
+FunctionEnd
+
+; Moves the file $1, if there is one, to the folder of temporary files, under a name that is free there.
+Function un.MoveToTemp
+  ${If} ${FileExists} "$1"
+    GetTempFileName $0
+    Delete "$0"
+    Rename "$1" "$0"
   ${EndIf}
 FunctionEnd
 
@@ -253,6 +303,7 @@ Section "Uninstall"
   Call un.EndProgram
   Call un.FreeHelper
   Call un.RemoveOldPrograms
+  Call un.MoveOldPrograms
   !include "${FILES}"
   Delete "$INSTDIR\uninstall.exe"
   SetOutPath "$TEMP"
