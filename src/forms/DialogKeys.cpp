@@ -57,6 +57,10 @@ DialogAction KeyAction(int keyCode, ShiftState shift, const DialogScene& scene) 
     if (keyCode == key::Space || keyCode == key::F4) return DialogAction::Control;
     // Alt with Up or Down opens a list.
     if (IsArrow(keyCode) && wants.Arrows) return DialogAction::Control;
+    // AltGr comes as Ctrl and Alt together: it types, and chooses nothing.
+    if (shift.Ctrl) {
+      return wants.Typing && IsTyping(keyCode, {}) ? DialogAction::Control : DialogAction::Form;
+    }
     return scene.HasAccessKey ? DialogAction::PressAccessKey : DialogAction::Form;
   }
   if (ComesFirst(wants, keyCode, shift)) return DialogAction::Control;

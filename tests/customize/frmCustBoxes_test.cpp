@@ -50,6 +50,20 @@ TEST(CustomizeBoxes, WhatIsTypedOutlivesTheTickAfterAMenuWasOpened) {
   EXPECT_EQ(desk.Shown(), "Letters(Alpha Beta -) Tools(Mallet Anvil) | Clock Paint");
 }
 
+// AltGr comes as Ctrl and Alt together, also with a letter that is an access key of the window.
+TEST(CustomizeBoxes, WhatAltGrTypesComesIntoTheBox) {
+  BoxDesk desk;
+  desk.Fill(desk.Form().txtTitle, "Ham");
+  desk.world.Desktop.KeyDown(key::Ctrl);
+  desk.world.Desktop.KeyDown(key::Alt);
+  desk.world.Desktop.PressKey('X');
+  desk.world.Desktop.Type("\xC5\xBA");
+  desk.world.Desktop.KeyUp(key::Alt);
+  desk.world.Desktop.KeyUp(key::Ctrl);
+  ASSERT_TRUE(desk.Form().IsLoaded());
+  EXPECT_EQ(desk.Form().txtTitle.Text(), "Ham\xC5\xBA");
+}
+
 TEST(CustomizeBoxes, AnotherTitleCanBeTypedAtOnceBehindAChosenFile) {
   BoxDesk desk;
   desk.world.Desktop.ChooseFiles({"C:\\Tools\\Edit.exe"});

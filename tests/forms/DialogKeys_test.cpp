@@ -9,6 +9,7 @@ constexpr ShiftState kPlain;
 constexpr ShiftState kShift{.Shift = true};
 constexpr ShiftState kCtrl{.Ctrl = true};
 constexpr ShiftState kAlt{.Alt = true};
+constexpr ShiftState kAltGr{.Ctrl = true, .Alt = true};
 
 constexpr KeyFacts kButton{.Wants = {.Space = true}, .LettersPress = true, .TakesEnter = true};
 constexpr KeyFacts kCheck{.Wants = {.Space = true}, .LettersPress = true};
@@ -80,6 +81,14 @@ TEST(DialogKeys, WhoDealsWithAKey) {
       {"a letter on a check box is told as a character", 'S', kPlain, with(kCheck), Form},
       {"Alt and an access key in a text", 'S', kAlt, with(kText), PressAccessKey},
       {"Alt and another letter", 'S', kAlt, {.Focus = kText}, Form},
+      {"what AltGr types in a text", 'S', kAltGr, with(kText), Control},
+      {"a sign too", 0xBA, kAltGr, with(kText), Control},
+      {"and in a tree", 'S', kAltGr, with(kTree), Control},
+      {"with Shift too", 'S', {.Shift = true, .Ctrl = true, .Alt = true}, with(kText), Control},
+      {"AltGr and an access key on a button", 'S', kAltGr, with(kButton), Form},
+      {"AltGr and a function key", key::F5, kAltGr, with(kText), Form},
+      {"AltGr+F4 is the window's end too", key::F4, kAltGr, with(kText), Control},
+      {"AltGr+Down opens a list too", key::Down, kAltGr, with(kOpenList), Control},
       {"Alt+Space is the window's menu", key::Space, kAlt, with(kButton), Control},
       {"Alt+F4 is the window's end", key::F4, kAlt, with(kText), Control},
       {"F5 in a text", key::F5, kPlain, with(kText), Form},
