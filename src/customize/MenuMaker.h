@@ -19,6 +19,9 @@ class MenuMaker {
     actions_.push_back(std::move(action));
   }
   void AddGap() { Add("-", {}); }
+  /// Hides the line that was added last, or shows it. It is counted in any case, so that the other
+  /// lines of a menu that is up keep their numbers.
+  void ShowLast(bool visible) { Lines().back().Visible = visible; }
   /// The lines up to End are those of a menu of its own.
   void Begin(std::string caption) {
     Add(std::move(caption), {});

@@ -207,10 +207,8 @@ void frmCust::Form_Load() {
   shownAt_ = keptAt_ = Editor.Tree.Revision();
   theirs_.reset();
   keeper_->Open(files_);
-  ShowOffer();
   LookForBrowser();
-  MakeMenuBar();
-  PlaceControls();
+  ShowOffer();
   ShowState();
   tmrDraft.SetEnabled(true);
   Show();

@@ -54,6 +54,10 @@ void frmCust::MakeMenuBar() {
   menuBar_ = {};
   menuBar_.Begin("&File");
   menuBar_.Add("&Update Toolbar", [this] { cmdSave_Click(); });
+  menuBar_.Add("&Show Unsaved Changes", [this] { ShowDraft(); });
+  menuBar_.ShowLast(Offers() > 0);
+  menuBar_.Add("&Forget Unsaved Changes", [this] { ForgetTheDraft(); });
+  menuBar_.ShowLast(Offers() > 0);
   menuBar_.Add("E&xit", [this] { Form_QueryClose(); });
   menuBar_.End();
   const CustHistory& history = Editor.History;

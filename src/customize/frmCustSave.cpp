@@ -211,6 +211,7 @@ void frmCust::ShowOffer() {
   if (count == 1) caption = "Unsaved:";
   if (count > 1) caption = "Unsaved (" + std::to_string(count) + "):";
   lblMenuTree.SetCaption(caption);
+  MakeMenuBar();
   PlaceControls();
 }
 

@@ -335,6 +335,32 @@ TEST(CustomizeDraft, ForgetDropsTheOneThatShowWouldShow) {
   EXPECT_FALSE(desk.Form().cmdForgetDraft.Visible());
 }
 
+/// The lines of the menu "File" that can be chosen.
+std::string FileMenu(const CustDesk& desk) {
+  std::string lines;
+  for (const forms::PopupItem& line : desk.Form().Menu().front().Items) {
+    if (line.Visible && line.Enabled) lines += line.Caption + "|";
+  }
+  return lines;
+}
+
+// The two buttons are for the mouse alone.
+TEST(CustomizeDraft, IsShownAndForgottenByTheFileMenuToo) {
+  TwoDraftsDesk desk;
+  desk.Close();
+  desk.Open();
+  EXPECT_EQ(FileMenu(desk), "&Update Toolbar|&Show Unsaved Changes|&Forget Unsaved Changes|E&xit|");
+  desk.MenuBar("File", "Show Unsaved Changes");
+  EXPECT_EQ(desk.Shown(), TwoDraftsDesk::kWatch);
+  desk.MenuBar("File", "Forget Unsaved Changes");
+  EXPECT_EQ(desk.Form().Offers(), 0U);
+  EXPECT_EQ(FileMenu(desk), "&Update Toolbar|E&xit|");
+  desk.MenuBar("File", "Update Toolbar");
+  EXPECT_EQ(desk.Stored(), TwoDraftsDesk::kWatch);
+  desk.MenuBar("File", "Exit");
+  EXPECT_FALSE(desk.Form().IsLoaded());
+}
+
 TEST(CustomizeDraft, ANoForgetsTheTreesOwnAndNotTheOneThatIsOffered) {
   TwoDraftsDesk desk;
   desk.Expand("Single Buttons");
