@@ -161,7 +161,6 @@ void frmCust::LoadWindow() {
     return;
   }
   if (!InitMenuTree()) return;
-  tree_.ForgetImages();
   Load();
 }
 
@@ -224,6 +223,12 @@ void frmCust::Form_Unload() {
   keeper_.reset();
   LibraryPort* const library = with_.Ports.Library;
   if (library != nullptr && library->WindowLoaded()) library->UnloadWindow();
+}
+
+// The windows inside are gone by then, the tree too.
+void frmCust::PeerGoing() {
+  Form::PeerGoing();
+  tree_.ForgetImages();
 }
 
 void frmCust::Form_Resize() { PlaceControls(); }

@@ -154,6 +154,7 @@ class frmCust final : public forms::Form,
   void Form_SessionEnd() override;
   void Form_Menu(int line) override;
   void Form_MenuOpening(int line) override;
+  void PeerGoing() override;
 
  private:
   using Command = bool (CustEditor::*)();

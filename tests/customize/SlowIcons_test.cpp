@@ -185,6 +185,7 @@ TEST_F(CustomizeIcons, OpeningsLeaveNoPicturesBehind) {
     if (i == 0) images = desk_.Form().TreeView1.ImageCount();
     EXPECT_EQ(desk_.Form().TreeView1.ImageCount(), images);
     desk_.Form().Unload();
+    EXPECT_EQ(desk_.Form().TreeView1.ImageCount(), 0U) << "they go with the window";
   }
   EXPECT_GT(images, 0U);
 }
