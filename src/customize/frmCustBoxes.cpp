@@ -1,6 +1,7 @@
 #include <string>
 
 #include "base/Text.h"
+#include "core/AskFiles.h"
 #include "core/DroppedFiles.h"
 #include "core/ProgramPaths.h"
 #include "core/SpecialFolders.h"
@@ -147,10 +148,11 @@ std::string frmCust::StartFolder() const {
 
 void frmCust::AddFiles() {
   const bool one = Editor.Tree.Parent(Editor.Selected()) == kMenusRoot;
-  const forms::FileChoice choice = Windows().AskFiles(
-      hWnd(), {.Title = std::string(one ? kOneFile : "Select one or more files."),
-               .StartFolder = StartFolder(),
-               .Several = !one});
+  const forms::FileChoice choice =
+      AskFiles(*this, with_.Messages,
+               {.Title = std::string(one ? kOneFile : "Select one or more files."),
+                .StartFolder = StartFolder(),
+                .Several = !one});
   if (!IsLoaded() || choice.Paths.empty()) return;
   chkSelect0.SetValue(0);
   chkSelect1.SetValue(0);
@@ -222,8 +224,8 @@ void frmCust::SelectFolder() {
 
 void frmCust::SelectFile() {
   const bool icon = std::exchange(PickIcon, false);
-  const forms::FileChoice choice =
-      Windows().AskFiles(hWnd(), {.Title = std::string(kOneFile), .StartFolder = StartFolder()});
+  const forms::FileChoice choice = AskFiles(
+      *this, with_.Messages, {.Title = std::string(kOneFile), .StartFolder = StartFolder()});
   if (!IsLoaded() || choice.Paths.empty()) return;
   const std::string path = PathToStore(choice.Paths.front());
   if (!path.empty()) (icon ? txtFile : txtCommand).SetText(path);

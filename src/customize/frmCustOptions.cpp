@@ -1,5 +1,6 @@
 #include <string>
 
+#include "core/AskFiles.h"
 #include "core/CommandPorts.h"
 #include "core/OptionFlags.h"
 #include "core/ProgramPaths.h"
@@ -107,8 +108,9 @@ void frmCust::LookForBrowser() {
 void frmCust::FlipOption(Option option) { with_.Options.Flip(option); }
 
 std::string frmCust::AskOneFile(std::string_view title, std::string_view startFolder) {
-  const forms::FileChoice choice = Windows().AskFiles(
-      hWnd(), {.Title = std::string(title), .StartFolder = std::string(startFolder)});
+  const forms::FileChoice choice =
+      AskFiles(*this, with_.Messages,
+               {.Title = std::string(title), .StartFolder = std::string(startFolder)});
   return choice.Paths.empty() ? std::string() : choice.Paths.front();
 }
 

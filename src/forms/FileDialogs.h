@@ -27,8 +27,8 @@ struct FileQuestion {
 };
 
 struct FileChoice {
-  std::vector<std::string> Paths;  // none: cancelled, or the dialog could not be shown
-  bool Failed = false;             // it could not be shown
+  std::vector<std::string> Paths;  // none: cancelled, or the dialog failed
+  bool Failed = false;             // it could not be shown, or could not give its files
 };
 
 struct FolderQuestion {

@@ -5,6 +5,7 @@
 
 #include "base/Sort.h"
 #include "base/Text.h"
+#include "core/AskFiles.h"
 #include "core/DroppedFiles.h"
 #include "core/IconState.h"
 #include "core/MessageBoxes.h"
@@ -298,7 +299,7 @@ void frmLibrary::cmdAdd_Click() {
       .Title = "Select one file.",
       .StartFolder = with_.System.WindowsFolder(),
       .Kinds = {{"(*.exe, *.dll, *.ico)", "*.exe;*.dll;*.ico"}, {"All Files (*.*)", "*.*"}}};
-  const forms::FileChoice choice = with_.Windows.AskFiles(hWnd(), question);
+  const forms::FileChoice choice = AskFiles(*this, with_.Messages, question);
   if (choice.Paths.empty() || !IsLoaded()) return;
   List2Other.Add(choice.Paths.front());
 }

@@ -1,6 +1,7 @@
 // What the boxes of the entry are filled from: files, folders, the icon library.
 
 #include "base/Text.h"
+#include "core/AskFiles.h"
 #include "core/DroppedFiles.h"
 #include "core/MessageBoxes.h"
 #include "core/ProgramPaths.h"
@@ -106,8 +107,8 @@ void frmProperties::SetFileEntry(const std::optional<DroppedName>& chosen) {
 
 std::optional<DroppedName> frmProperties::ShowOpenFile() {
   const forms::FlagScope browsing(browsing_);
-  const forms::FileChoice choice =
-      Windows().AskFiles(hWnd(), {.Title = std::string(kFileTitle), .StartFolder = lastFolder_});
+  const forms::FileChoice choice = AskFiles(
+      *this, with_.Messages, {.Title = std::string(kFileTitle), .StartFolder = lastFolder_});
   if (choice.Paths.empty() || !IsLoaded()) return std::nullopt;
   const std::string& path = choice.Paths.front();
   lastFolder_ = path.substr(0, path.rfind('\\'));

@@ -16,6 +16,7 @@ namespace {
 
 // A smaller buffer is overrun under Wine when many files are chosen.
 constexpr std::size_t kRoomForNames = 65536;
+constexpr std::size_t kRoomForMany = 1048576;  // four thousand of the longest names
 
 std::wstring FilterOf(const std::vector<forms::FileKind>& kinds) {
   std::wstring filter;
@@ -57,7 +58,7 @@ int CALLBACK StartAt(HWND window, UINT message, LPARAM /*lParam*/, LPARAM folder
 }  // namespace
 
 forms::FileChoice Win32WindowSystem::AskFiles(WindowId owner, const forms::FileQuestion& question) {
-  std::wstring names(kRoomForNames, L'\0');
+  std::wstring names(question.Several ? kRoomForMany : kRoomForNames, L'\0');
   const std::wstring first = Wide(question.File);
   if (first.size() + 1 < names.size()) names.replace(0, first.size(), first);
   const std::wstring filter = FilterOf(question.Kinds);

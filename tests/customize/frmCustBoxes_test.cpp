@@ -304,6 +304,37 @@ TEST(CustomizeBoxes, AFolderOnNoDiskThatCannotBeLinkedIsTold) {
   EXPECT_EQ(desk.Boxes(), "Hammer;C:\\Tools\\Hammer.exe;C:\\Tools\\Hammer.exe");
 }
 
+TEST(CustomizeBoxes, AFileDialogThatFailsIsTold) {
+  BoxDesk desk;
+  const std::string before = desk.Boxes();
+  desk.world.Desktop.AnswerAnyDialog(
+      [](const forms::FileQuestion&) { return forms::FileChoice{.Failed = true}; }, nullptr);
+  const auto expect = [&desk] {
+    desk.world.Desktop.Answer("Unable to access the selected files.", forms::msgbox::AnswerOk);
+  };
+  expect();
+  desk.ClickControl(desk.Form().cmdBrowseFiles);
+  EXPECT_EQ(desk.world.Desktop.AnswersLeft(), 0) << "for the tree";
+  expect();
+  desk.ClickFlat(desk.Form().cmdSelectFile, desk.Form().picFiles);
+  EXPECT_EQ(desk.world.Desktop.AnswersLeft(), 0) << "for a box";
+  expect();
+  desk.MenuBar("Options", "Use Custom Icon for Web Links Entries");
+  EXPECT_EQ(desk.world.Desktop.AnswersLeft(), 0) << "for an option";
+  EXPECT_EQ(desk.Boxes(), before);
+  EXPECT_EQ(desk.Shown(), kAtFirst);
+}
+
+TEST(CustomizeBoxes, TheWindowMayCloseWhileADialogIsUpThatFails) {
+  BoxDesk desk;
+  desk.world.Desktop.AnswerAnyDialog(
+      [](const forms::FileQuestion&) { return forms::FileChoice{.Failed = true}; }, nullptr);
+  desk.world.Desktop.WhileDialogIsUp([&] { desk.Form().Unload(); });
+  desk.ClickControl(desk.Form().cmdBrowseFiles);
+  EXPECT_FALSE(desk.Form().IsLoaded());
+  EXPECT_TRUE(desk.world.Desktop.Boxes().empty());
+}
+
 TEST(CustomizeBoxes, F2FillsTheBoxItIsPressedIn) {
   BoxDesk desk;
   desk.Form().txtCommand.SetFocus();

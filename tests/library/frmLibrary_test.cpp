@@ -479,6 +479,18 @@ TEST_F(LibraryDesk, ACancelledAddChangesNothing) {
   EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
+TEST_F(LibraryDesk, AnAddWhoseDialogFailsIsTold) {
+  Open();
+  PutOthers({"C:\\a.dll"});
+  OpenOthers();
+  world.Desktop.AnswerAnyDialog(
+      [](const forms::FileQuestion&) { return forms::FileChoice{.Failed = true}; }, nullptr);
+  world.Desktop.Answer("Unable to access the selected files.", forms::msgbox::AnswerOk);
+  Click(library.cmdAdd);
+  EXPECT_EQ(world.Desktop.AnswersLeft(), 0);
+  EXPECT_EQ(library.List1Other.Items(), Names{"a.dll"});
+}
+
 TEST_F(LibraryDesk, ARefusedFileIsToldAboutUnderTheProgramsTitle) {
   Open();
   PutOthers({kTool});

@@ -322,6 +322,16 @@ TEST_F(PropertiesBrowse, TheFileButtonAndF2FillTheCommandOnly) {
   EXPECT_EQ(Desktop().FileQuestions()[1].StartFolder, "C:\\Docs");
 }
 
+TEST_F(PropertiesBrowse, AFileDialogThatFailsIsTold) {
+  OpenItem(2);
+  Desktop().AnswerAnyDialog(
+      [](const forms::FileQuestion&) { return forms::FileChoice{.Failed = true}; }, nullptr);
+  Desktop().Answer("Unable to access the selected files.", forms::msgbox::AnswerOk);
+  ClickOn(Window().cmdSelectFile);
+  EXPECT_EQ(Desktop().AnswersLeft(), 0);
+  EXPECT_EQ(Window().txtTitle.Text(), "B");
+}
+
 TEST_F(PropertiesBrowse, TheFolderButtonAndF3FillTheCommandOnly) {
   OpenItem(2);
   Desktop().ChooseFolder("C:\\Docs");
