@@ -159,6 +159,11 @@ std::optional<LRESULT> Win32Window::TreatFrame(UINT message, WPARAM wParam, LPAR
       return 0;
     case WM_SETCURSOR:
       if (LOWORD(lParam) != HTCLIENT) return std::nullopt;
+      // A control asks first whether there is another pointer than that of its kind.
+      if (reinterpret_cast<HWND>(wParam) != handle_ &&
+          system_.CurrentMousePointer() == forms::MousePointer::Default) {
+        return FALSE;
+      }
       system_.ShowPointer();
       return TRUE;
     case WM_ACTIVATE:

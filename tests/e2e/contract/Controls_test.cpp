@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+// After windows.h, which it builds on.
+#include <commctrl.h>
+
+#include <string>
+#include <vector>
+
+#include "RealHome.h"
+#include "forms/CommandButton.h"
+#include "forms/Form.h"
+#include "forms/Scopes.h"
+#include "forms/TextBox.h"
+#include "forms/TreeView.h"
+
+// Controls of the system inside a form: what only Windows sees of them.
+
+namespace corvelle::forms {
+namespace {
+
+class Panel final : public Form {
+ public:
+  explicit Panel(WindowSystem& windows) : Form(windows, "CorvellePanel", BorderStyle::Raised) {
+    Move(3000, 2250, 5000, 4000);
+    Text.Move(75, 75, 1500, 315);
+    Press.Move(75, 500, 1500, 375);
+    Press.SetCaption("O&K");
+    Press.Click = [this] { ++Presses; };
+    Tree.Move(1800, 75, 2900, 3500);
+    for (const char* text : {"one", "two", "three"}) {
+      Nodes.push_back(Tree.Insert(kNoNode, kNoNode, {.Text = text}));
+    }
+    Tree.DragBegin = [](NodeId) { return true; };
+  }
+
+  int Presses = 0;
+  std::vector<NodeId> Nodes;
+  TextBox Text{*this, "Text"};
+  CommandButton Press{*this, "Press"};
+  TreeView Tree{*this, "Tree"};
+};
+
+HWND HandleOf(const Window& window) { return reinterpret_cast<HWND>(window.hWnd()); }
+
+struct ControlsTest : testing::Test {
+  RealHome Home;
+  Panel Form{Home.Windows()};
+
+  void SetUp() override {
+    Home.MovePointer({700, 600});
+    ASSERT_TRUE(Form.Load());
+    Form.SetWindowPos(InsertAfter::Topmost, swp::KeepActivation);
+    Form.Show();
+    Home.Wait(200);
+  }
+  void TearDown() override {
+    Home.Release(MouseButton::Left);
+    Form.Unload();
+  }
+  /// As the system asks when the pointer is over a window.
+  static HCURSOR PointerOver(const Window& window) {
+    SetCursor(LoadCursorW(nullptr, IDC_CROSS));
+    SendMessageW(HandleOf(window), WM_SETCURSOR, reinterpret_cast<WPARAM>(HandleOf(window)),
+                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    return GetCursor();
+  }
+};
+
+TEST_F(ControlsTest, EachShowsThePointerOfItsKindUnlessTheProgramHasOneOfItsOwn) {
+  EXPECT_EQ(PointerOver(Form.Text), LoadCursorW(nullptr, IDC_IBEAM));
+  EXPECT_EQ(PointerOver(Form.Tree), LoadCursorW(nullptr, IDC_ARROW));
+  EXPECT_EQ(PointerOver(Form), LoadCursorW(nullptr, IDC_ARROW));
+  const HourglassScope hourglass(Home.Windows());
+  EXPECT_EQ(PointerOver(Form.Text), LoadCursorW(nullptr, IDC_WAIT));
+  EXPECT_EQ(PointerOver(Form), LoadCursorW(nullptr, IDC_WAIT));
+}
+
+}  // namespace
+}  // namespace corvelle::forms
