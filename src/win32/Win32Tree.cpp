@@ -90,6 +90,7 @@ void Win32Tree::Destroy() {
 // The system leaves the pictures of the boxes to whoever asked for boxes.
 void Win32Tree::Ending() {
   Win32Control::Ending();
+  EndDragPicture();
   if (!style_.CheckBoxes) return;
   boxImages_.Reset(
       reinterpret_cast<HIMAGELIST>(SendMessageW(handle_, TVM_GETIMAGELIST, TVSIL_STATE, 0)));
@@ -418,6 +419,12 @@ void Win32Tree::ShowDragPicture(bool show) {
   if (dragPicture_) ImageList_DragShowNolock(show ? TRUE : FALSE);
 }
 
+void Win32Tree::EndDragPicture() {
+  if (!std::exchange(dragPicture_, false)) return;
+  ImageList_DragLeave(nullptr);
+  ImageList_EndDrag();
+}
+
 std::optional<LRESULT> Win32Tree::TreatDrag(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_MOUSEMOVE:
@@ -466,10 +473,7 @@ void Win32Tree::ScrollAtEdge() {
 void Win32Tree::EndDrag(bool dropped) {
   dragged_ = kNoNode;
   KillTimer(handle_, kScrollTimer);
-  if (std::exchange(dragPicture_, false)) {
-    ImageList_DragLeave(nullptr);
-    ImageList_EndDrag();
-  }
+  EndDragPicture();
   if (GetCapture() == handle_) ReleaseCapture();
   Later([this, at = dragPoint_, dropped] { treeEvents_.OnDragEnd(at, dropped); });
 }

@@ -66,6 +66,7 @@ class Win32Tree final : public Win32Control {
   void EndDrag(bool dropped);
   void ScrollAtEdge();
   void ShowDragPicture(bool show);
+  void EndDragPicture();
   [[nodiscard]] bool IsChecked(HTREEITEM item) const;
   [[nodiscard]] TVITEMW ItemFor(const forms::NodeLook& look, std::wstring& text) const;
   void Forget(HTREEITEM item);

@@ -64,6 +64,21 @@ struct ControlsTest : testing::Test {
                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     return GetCursor();
   }
+  /// The middle of a node's row, in pixels of the screen.
+  PixelPoint NodePoint(NodeId node) const {
+    const PixelRect row = Form.Tree.RowRect(node);
+    POINT at{row.left + 40, (row.top + row.bottom) / 2};
+    ClientToScreen(HandleOf(Form.Tree), &at);
+    return {static_cast<int>(at.x), static_cast<int>(at.y)};
+  }
+  void BeginDrag() {
+    const PixelPoint from = NodePoint(Form.Nodes[0]);
+    Home.MovePointer(from);
+    Home.Press(MouseButton::Left);
+    Home.MovePointer({from.x + 12, from.y + 4});
+    Home.Wait(200);
+    ASSERT_EQ(Form.Tree.Dragged(), Form.Nodes[0]);
+  }
 };
 
 TEST_F(ControlsTest, EachShowsThePointerOfItsKindUnlessTheProgramHasOneOfItsOwn) {
@@ -73,6 +88,13 @@ TEST_F(ControlsTest, EachShowsThePointerOfItsKindUnlessTheProgramHasOneOfItsOwn)
   const HourglassScope hourglass(Home.Windows());
   EXPECT_EQ(PointerOver(Form.Text), LoadCursorW(nullptr, IDC_WAIT));
   EXPECT_EQ(PointerOver(Form), LoadCursorW(nullptr, IDC_WAIT));
+}
+
+TEST_F(ControlsTest, ATreeThatEndsDuringItsDragEndsTheDragOfTheSystem) {
+  BeginDrag();
+  EXPECT_NE(ImageList_GetDragImage(nullptr, nullptr), nullptr);
+  Form.Unload();
+  EXPECT_EQ(ImageList_GetDragImage(nullptr, nullptr), nullptr);
 }
 
 }  // namespace
