@@ -486,6 +486,18 @@ void Win32Tree::SetDropTarget(NodeId node) {
   ShowDragPicture(true);
 }
 
+void Win32Tree::SetInsertMark(NodeId node, bool after) {
+  if (std::exchange(marked_, node) == node && markedAfter_ == after) return;
+  markedAfter_ = after;
+  ShowDragPicture(false);
+  SendMessageW(handle_, TVM_SETINSERTMARK, after ? TRUE : FALSE,
+               reinterpret_cast<LPARAM>(ItemOf(node)));
+  // Not all versions of the system take the old line away.
+  InvalidateRect(handle_, nullptr, TRUE);
+  UpdateWindow(handle_);
+  ShowDragPicture(true);
+}
+
 // The peer.
 
 void Win32TreePeer::Insert(NodeId node, NodeId parent, NodeId before, const NodeLook& look) {
@@ -574,13 +586,6 @@ PixelRect Win32TreePeer::RowRect(NodeId node) const {
 }
 
 void Win32TreePeer::BeginEdit(NodeId node) { Window().BeginEdit(node); }
-
-void Win32TreePeer::SetInsertMark(NodeId node, bool after) {
-  SendMessageW(Handle(), TVM_SETINSERTMARK, after ? TRUE : FALSE,
-               reinterpret_cast<LPARAM>(Window().ItemOf(node)));
-  // Not all versions of the system take the old line away.
-  InvalidateRect(Handle(), nullptr, TRUE);
-}
 
 void Win32TreePeer::Thaw() {
   SendMessageW(Handle(), WM_SETREDRAW, TRUE, 0);

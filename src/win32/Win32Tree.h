@@ -39,6 +39,7 @@ class Win32Tree final : public Win32Control {
   void BeginEdit(forms::NodeId node);
   void EndEdit(bool commit);
   void SetDropTarget(forms::NodeId node);
+  void SetInsertMark(forms::NodeId node, bool after);
   void StartDrag(const Canvas& picture, PixelPoint hotSpot);
 
   /// Null when it is not there.
@@ -91,6 +92,8 @@ class Win32Tree final : public Win32Control {
   std::optional<EndedEdit> ended_;
   forms::NodeId dragged_ = forms::kNoNode;
   bool dragPicture_ = false;
+  forms::NodeId marked_ = forms::kNoNode;  // by the line of a drag
+  bool markedAfter_ = false;
   PixelPoint dragPoint_;
 };
 
@@ -115,7 +118,9 @@ class Win32TreePeer final : public Win32PeerOf<forms::TreePeer, Win32Tree> {
   void BeginEdit(forms::NodeId node) override;
   void EndEdit(bool commit) override { Window().EndEdit(commit); }
   void SetDropTarget(forms::NodeId node) override { Window().SetDropTarget(node); }
-  void SetInsertMark(forms::NodeId node, bool after) override;
+  void SetInsertMark(forms::NodeId node, bool after) override {
+    Window().SetInsertMark(node, after);
+  }
   void Freeze() override { SendMessageW(Handle(), WM_SETREDRAW, FALSE, 0); }
   void Thaw() override;
   void StartDrag(Picture picture, PixelPoint hotSpot) override {

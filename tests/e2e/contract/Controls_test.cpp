@@ -97,5 +97,40 @@ TEST_F(ControlsTest, ATreeThatEndsDuringItsDragEndsTheDragOfTheSystem) {
   EXPECT_EQ(ImageList_GetDragImage(nullptr, nullptr), nullptr);
 }
 
+TEST_F(ControlsTest, AnInsertMarkPaintsTheTreeAtOnceAndOnlyWhenItChanges) {
+  const HWND tree = HandleOf(Form.Tree);
+  // A spot that a paint would take away.
+  const PixelPoint spot{100, 150};
+  const auto paint = [&] {
+    const HDC dc = GetDC(tree);
+    SetPixel(dc, spot.x, spot.y, RGB(255, 0, 0));
+    ReleaseDC(tree, dc);
+  };
+  const auto painted = [&] {
+    EXPECT_EQ(GetUpdateRect(tree, nullptr, FALSE), FALSE) << "something waits to be painted";
+    UpdateWindow(tree);
+    const HDC dc = GetDC(tree);
+    const bool gone = GetPixel(dc, spot.x, spot.y) != RGB(255, 0, 0);
+    ReleaseDC(tree, dc);
+    return gone;
+  };
+  UpdateWindow(tree);
+  paint();
+  EXPECT_FALSE(painted());
+  Form.Tree.SetInsertMark(Form.Nodes[1], false);
+  EXPECT_TRUE(painted());
+  paint();
+  Form.Tree.SetInsertMark(Form.Nodes[1], false);
+  EXPECT_FALSE(painted()) << "the same mark";
+  Form.Tree.SetInsertMark(Form.Nodes[1], true);
+  EXPECT_TRUE(painted()) << "the other side";
+  paint();
+  Form.Tree.SetInsertMark(kNoNode, false);
+  EXPECT_TRUE(painted());
+  paint();
+  Form.Tree.SetInsertMark(kNoNode, false);
+  EXPECT_FALSE(painted());
+}
+
 }  // namespace
 }  // namespace corvelle::forms
