@@ -20,17 +20,18 @@ bool Win32TextBox::Create(const forms::PeerSpec& wanted) {
 
 void Win32TextBox::SetBackColor(forms::OleColor colour) {
   backColor_ = colour;
-  brush_.Reset(CreateSolidBrush(forms::Resolve(system_, colour)));
   InvalidateRect(handle_, nullptr, TRUE);
 }
 
 std::optional<LRESULT> Win32TextBox::Notified(UINT message, WPARAM wParam, LPARAM /*lParam*/) {
   // A read-only or disabled box asks as if it were a label.
-  if ((message == WM_CTLCOLOREDIT || message == WM_CTLCOLORSTATIC) && brush_) {
+  if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORSTATIC) {
     const HDC dc = reinterpret_cast<HDC>(wParam);
-    SetBkColor(dc, forms::Resolve(system_, backColor_));
+    const COLORREF ground = forms::Resolve(system_, backColor_);
+    SetBkColor(dc, ground);
     SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
-    return reinterpret_cast<LRESULT>(brush_.Get());
+    SetDCBrushColor(dc, ground);
+    return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
   }
   if (message != WM_COMMAND) return std::nullopt;
   if (HIWORD(wParam) == EN_CHANGE && events_ != nullptr && !Muted()) textEvents_.OnTextChanged();

@@ -22,7 +22,6 @@ class Win32TextBox final : public Win32Control {
   forms::TextBoxStyle style_;
   forms::TextBoxEvents& textEvents_;
   forms::OleColor backColor_ = forms::color::WindowGround;
-  UniqueBrush brush_;
 };
 
 class Win32TextBoxPeer final : public Win32PeerOf<forms::TextBoxPeer, Win32TextBox> {

@@ -90,6 +90,37 @@ TEST_F(ControlsTest, EachShowsThePointerOfItsKindUnlessTheProgramHasOneOfItsOwn)
   EXPECT_EQ(PointerOver(Form), LoadCursorW(nullptr, IDC_WAIT));
 }
 
+TEST_F(ControlsTest, TheGroundOfATextBoxFollowsTheColoursOfTheSystem) {
+  const auto ground = [this] {
+    const HDC screen = GetDC(nullptr);
+    const HDC dc = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 4, 4);
+    const HGDIOBJ before = SelectObject(dc, bitmap);
+    const auto brush = reinterpret_cast<HBRUSH>(
+        SendMessageW(HandleOf(Form), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc),
+                     reinterpret_cast<LPARAM>(HandleOf(Form.Text))));
+    const RECT whole{0, 0, 4, 4};
+    FillRect(dc, &whole, brush);
+    const COLORREF colour = GetPixel(dc, 1, 1);
+    EXPECT_EQ(GetBkColor(dc), colour);
+    SelectObject(dc, before);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+    ReleaseDC(nullptr, screen);
+    return colour;
+  };
+  const INT index = COLOR_WINDOW;
+  const COLORREF before = GetSysColor(index);
+  const COLORREF other = RGB(0, 0, 128);
+  EXPECT_EQ(ground(), before);
+  SetSysColors(1, &index, &other);
+  EXPECT_EQ(ground(), other);
+  SetSysColors(1, &index, &before);
+  EXPECT_EQ(ground(), before);
+  Form.Text.SetBackColor(0x00336699);
+  EXPECT_EQ(ground(), 0x00336699U);
+}
+
 TEST_F(ControlsTest, ATreeThatEndsDuringItsDragEndsTheDragOfTheSystem) {
   BeginDrag();
   EXPECT_NE(ImageList_GetDragImage(nullptr, nullptr), nullptr);
