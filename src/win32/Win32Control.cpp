@@ -115,8 +115,7 @@ std::optional<LRESULT> Win32Control::TreatMenuKey(LPARAM lParam) {
   return std::nullopt;
 }
 
-std::optional<LRESULT> Win32Control::TreatControlKeys(UINT message, WPARAM wParam,
-                                                      LPARAM /*lParam*/) {
+std::optional<LRESULT> Win32Control::TreatControlKeys(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SYSKEYDOWN:
       // Alt by itself is the system's.
@@ -126,11 +125,16 @@ std::optional<LRESULT> Win32Control::TreatControlKeys(UINT message, WPARAM wPara
       // Without a menu of the form, F10 is a key like others.
       if (wParam == VK_F10 && !IsDown(VK_SHIFT) && FormHasMenu(handle_)) return std::nullopt;
       usedUp_ = false;
+      const HWND handle = handle_;  // the key may end the control
       // What the key does may bring the next one.
       const bool used = events_->OnControlKey(static_cast<int>(wParam), ShiftNow());
       usedUp_ = used;
-      if (used) return 0;
-      return std::nullopt;
+      if (!used) return std::nullopt;
+      // Alt with a key that was used asks for no menu when it goes up, which the system must learn.
+      if (message == WM_SYSKEYDOWN && wParam != VK_F4 && wParam != VK_F10) {
+        DefWindowProcW(handle, message, wParam, lParam);
+      }
+      return 0;
     }
     case WM_KEYUP:
     case WM_SYSKEYUP:

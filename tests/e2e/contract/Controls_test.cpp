@@ -33,11 +33,20 @@ class Panel final : public Form {
     Tree.DragBegin = [](NodeId) { return true; };
   }
 
+  std::vector<std::uintptr_t> Commands;  // of the system
   int Presses = 0;
   std::vector<NodeId> Nodes;
   TextBox Text{*this, "Text"};
   CommandButton Press{*this, "Press"};
   TreeView Tree{*this, "Tree"};
+
+ private:
+  std::optional<std::intptr_t> WindowProc(std::uint32_t message, std::uintptr_t wParam,
+                                          std::intptr_t) override {
+    if (message != WM_SYSCOMMAND) return std::nullopt;
+    Commands.push_back(wParam & 0xFFF0U);
+    return 0;
+  }
 };
 
 HWND HandleOf(const Window& window) { return reinterpret_cast<HWND>(window.hWnd()); }
@@ -64,6 +73,18 @@ struct ControlsTest : testing::Test {
                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     return GetCursor();
   }
+  /// What the thread takes for the state of Alt.
+  static void SetAlt(bool down) {
+    BYTE keys[256] = {};
+    GetKeyboardState(keys);
+    keys[VK_MENU] = down ? 0x80 : 0;
+    SetKeyboardState(keys);
+  }
+  /// A key of the text box, with Alt held at the time.
+  void SendKey(UINT message, WPARAM key) const {
+    constexpr LPARAM kOnceWithAlt = 0x20000001;
+    SendMessageW(HandleOf(Form.Text), message, key, message == WM_KEYUP ? 1 : kOnceWithAlt);
+  }
   /// The middle of a node's row, in pixels of the screen.
   PixelPoint NodePoint(NodeId node) const {
     const PixelRect row = Form.Tree.RowRect(node);
@@ -88,6 +109,24 @@ TEST_F(ControlsTest, EachShowsThePointerOfItsKindUnlessTheProgramHasOneOfItsOwn)
   const HourglassScope hourglass(Home.Windows());
   EXPECT_EQ(PointerOver(Form.Text), LoadCursorW(nullptr, IDC_WAIT));
   EXPECT_EQ(PointerOver(Form), LoadCursorW(nullptr, IDC_WAIT));
+}
+
+TEST_F(ControlsTest, AltThatIsReleasedBeforeItsLetterAsksForNoMenu) {
+  SetAlt(true);
+  SendKey(WM_SYSKEYDOWN, VK_MENU);
+  SendKey(WM_SYSKEYDOWN, 'K');
+  SetAlt(false);
+  SendKey(WM_KEYUP, VK_MENU);
+  EXPECT_EQ(Form.Presses, 1);
+  EXPECT_EQ(Form.Commands, std::vector<std::uintptr_t>{});
+}
+
+TEST_F(ControlsTest, AltByItselfStillAsksForTheMenu) {
+  SetAlt(true);
+  SendKey(WM_SYSKEYDOWN, VK_MENU);
+  SetAlt(false);
+  SendKey(WM_SYSKEYUP, VK_MENU);
+  EXPECT_EQ(Form.Commands, std::vector<std::uintptr_t>{SC_KEYMENU});
 }
 
 TEST_F(ControlsTest, TheGroundOfATextBoxFollowsTheColoursOfTheSystem) {
