@@ -18,11 +18,14 @@ constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::size_t kToldLimit = std::size_t{1} << 16U;
 
 // Only a refusal counts: a disk that is full or busy at this moment is the user's folder all the
-// same.
+// same. Where Windows guards a folder against programs that it does not know, a new file is refused
+// as one that is not found; the folder itself is there, since the program runs from it.
 bool CanMakeFiles(FileSystem& files, const std::string& folder) {
   const std::string probe = folder + std::string(kProbeName);
   const FileStatus made = files.Write(probe, {});
-  if (!made) return made.Error() != FileError::AccessDenied;
+  if (!made) {
+    return made.Error() != FileError::AccessDenied && made.Error() != FileError::NotFound;
+  }
   // What stays is written over by the next start.
   static_cast<void>(files.Remove(probe));
   return true;

@@ -90,6 +90,15 @@ TEST_F(FindDataFolderTest, AFullDiskIsNoReasonToLookElsewhere) {
   EXPECT_TRUE(world.Files.Hit());
 }
 
+TEST_F(FindDataFolderTest, AGuardedFolderInWhichNewFilesAreNotFoundIsToldAbout) {
+  world.Files.MakeFolders(std::string(kProgramFolder) + "Menus");
+  world.Files.FailCall(3, FileError::NotFound);
+  const DataFolder found = Find();
+  EXPECT_TRUE(world.Files.Hit());
+  EXPECT_EQ(found.Path, kUserFolder);
+  EXPECT_TRUE(found.Tell);
+}
+
 TEST_F(FindDataFolderTest, AUsersFolderThatCannotBeMadeLeavesTheProgramsOwn) {
   world.Files.Protect("C:\\Users\\ann\\AppData");
   EXPECT_EQ(Find().Path, kProgramFolder);
