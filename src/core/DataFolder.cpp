@@ -53,17 +53,20 @@ DataFolder FindDataFolder(const Platform& system, std::string_view programFolder
   FileSystem& files = system.Files;
   const std::string beside(programFolder);
   const std::string own = UserFolder(system);
+  const std::string standIn = beside + std::string(kStandInMark);
   DataFacts facts{.HasUserFolder = !own.empty()};
   if (facts.HasUserFolder) {
     facts.Marked = files.FileExists(beside + std::string(kPortableMark));
-    facts.HoldsMenus = files.FolderExists(beside + std::string(kMenusFolder));
+    facts.HoldsMenus =
+        files.FolderExists(beside + std::string(kMenusFolder)) && !files.FileExists(standIn);
     facts.Writable = CanMakeFiles(files, beside);
   }
   const DataChoice choice = ChooseDataFolder(facts);
-  if (choice.BesideProgram) return {.Path = beside, .Tell = false};
-  const FileStatus made = files.MakeFolder(own);
-  if (!made && made.Error() != FileError::AlreadyExists) return {.Path = beside, .Tell = false};
-  return {.Path = own, .Tell = choice.Tell};
+  if (choice.BesideProgram) return {.Path = beside};
+  if (files.FolderExists(own) || files.MakeFolder(own)) return {.Path = own, .Tell = choice.Tell};
+  // Where no file can be made, no menus will lie that need a mark.
+  static_cast<void>(files.Replace(standIn, {}));
+  return {.Path = beside, .StandsIn = true};
 }
 
 bool WasToldAbout(const Platform& system, const std::string& dataFolder,

@@ -10,13 +10,17 @@ namespace corvelle {
 /// A file of this name beside the program says that its data is to lie there too.
 inline constexpr std::string_view kPortableMark = "portable";
 
+/// A file of this name beside the program says that what lies there only stands in for the user's
+/// own folder, which could not be reached at some start. It never goes.
+inline constexpr std::string_view kStandInMark = "standin";
+
 /// The folder of the menus, below that of the data.
 inline constexpr std::string_view kMenusFolder = "Menus\\";
 
 /// What decides where the menus, the options and the icons of a user lie.
 struct DataFacts {
   bool Marked = false;        // the program's folder holds the file `portable`
-  bool HoldsMenus = false;    // it holds a folder Menus
+  bool HoldsMenus = false;    // it holds a folder Menus that stands in for no other
   bool Writable = true;       // files can be made in it
   bool HasUserFolder = true;  // the system has a folder for the data of the user's programs
 };
@@ -38,10 +42,12 @@ struct DataChoice {
 struct DataFolder {
   std::string Path;
   bool Tell = false;
+  bool StandsIn = false;  // for the user's own folder, which cannot be reached
 };
 
 /// Looks at the disk and chooses. `programFolder` ends in a backslash. Makes the user's own folder
-/// when it is chosen and missing; when that cannot be made, the data lies beside the program.
+/// when it is chosen and missing. When that cannot be made, as before the server that has it is
+/// there, the program's folder stands in for it and is marked so: the next start looks again.
 [[nodiscard]] DataFolder FindDataFolder(const Platform& system, std::string_view programFolder);
 
 /// True if the user has been told about this program's folder before.

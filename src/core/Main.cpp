@@ -1,7 +1,6 @@
 #include "core/Main.h"
 
 #include <string>
-#include <utility>
 
 #include "core/AppFolder.h"
 #include "core/DataFolder.h"
@@ -76,12 +75,11 @@ void DoFirstRun(Program& program) {
   if (!HasEnded(program)) ShowWelcome(program);
 }
 
-// True if the data cannot lie where the user would look for it.
-bool FindFolders(Program& program) {
+DataFolder FindFolders(Program& program) {
   program.Paths.ShippedPath = FindAppPath(program.Services);
   DataFolder data = FindDataFolder(program.Services, program.Paths.ShippedPath);
-  program.Paths.AppPath = std::move(data.Path);
-  return data.Tell;
+  program.Paths.AppPath = data.Path;
+  return data;
 }
 
 void TellOfCrash(Program& program) {
@@ -94,7 +92,18 @@ void TellOfCrash(Program& program) {
       forms::msgbox::IconInformation | forms::msgbox::OnTop);
 }
 
-void TellWhereDataIs(Program& program) {
+// Told at each such start, as the user's own menus are missing until one finds them again.
+void TellOfStandIn(Program& program) {
+  program.Messages.Say(program.Ports.ToolbarWindow(),
+                       "Corvelle cannot reach the folder of your menus and options.\r\n\r\n"
+                       "Until a start finds it again, this folder is used instead:\r\n" +
+                           program.Paths.AppPath,
+                       forms::msgbox::IconInformation | forms::msgbox::OnTop);
+}
+
+void TellWhereDataIs(Program& program, const DataFolder& data) {
+  if (data.StandsIn) TellOfStandIn(program);
+  if (!data.Tell) return;
   if (WasToldAbout(program.Services, program.Paths.AppPath, program.Paths.ShippedPath)) return;
   program.Messages.Say(program.Ports.ToolbarWindow(),
                        "Corvelle cannot write to its own folder:\r\n" + program.Paths.ShippedPath +
@@ -131,7 +140,7 @@ bool Main(Program& program) {
   if (!ClaimSession(program.Title, program.Services.System, program.Services.Desktop,
                     program.Messages))
     return false;
-  const bool elsewhere = FindFolders(program);
+  const DataFolder data = FindFolders(program);
   ReadOptions(program);
   program.Guards.StartingUp = true;
   program.Progress.ShowStartupProgress();
@@ -150,7 +159,7 @@ bool Main(Program& program) {
   if (HasEnded(program)) return false;
   TellOfCrash(program);
   if (HasEnded(program)) return false;
-  if (elsewhere) TellWhereDataIs(program);
+  TellWhereDataIs(program, data);
   if (HasEnded(program)) return false;
   DoFirstRun(program);
   if (HasEnded(program)) return false;

@@ -84,31 +84,66 @@ TEST_F(FindDataFolderTest, AFolderThatCannotBeWrittenIsToldAbout) {
 
 TEST_F(FindDataFolderTest, AFullDiskIsNoReasonToLookElsewhere) {
   world.Files.MakeFolders(std::string(kProgramFolder) + "Menus");
-  // Questions for the mark and the menus come before.
-  world.Files.FailCall(3, FileError::DiskFull);
+  // Questions for the marks and the menus come before.
+  world.Files.FailCall(4, FileError::DiskFull);
   EXPECT_EQ(Find().Path, kProgramFolder);
   EXPECT_TRUE(world.Files.Hit());
 }
 
 TEST_F(FindDataFolderTest, AGuardedFolderInWhichNewFilesAreNotFoundIsToldAbout) {
   world.Files.MakeFolders(std::string(kProgramFolder) + "Menus");
-  world.Files.FailCall(3, FileError::NotFound);
+  world.Files.FailCall(4, FileError::NotFound);
   const DataFolder found = Find();
   EXPECT_TRUE(world.Files.Hit());
   EXPECT_EQ(found.Path, kUserFolder);
   EXPECT_TRUE(found.Tell);
 }
 
-TEST_F(FindDataFolderTest, AUsersFolderThatCannotBeMadeLeavesTheProgramsOwn) {
+TEST_F(FindDataFolderTest, ForAUsersFolderThatCannotBeMadeTheProgramsOwnStandsIn) {
   world.Files.Protect("C:\\Users\\ann\\AppData");
   EXPECT_EQ(Find().Path, kProgramFolder);
   EXPECT_FALSE(Find().Tell);
+  EXPECT_TRUE(Find().StandsIn);
 }
 
 TEST_F(FindDataFolderTest, ASystemWithoutAUsersFolderIsNotAskedToWrite) {
   world.Folders.Remove(kUserDataFolder);
   EXPECT_EQ(Find().Path, kProgramFolder);
   EXPECT_EQ(world.Files.Count("Write"), 0);
+}
+
+TEST_F(FindDataFolderTest, AStandInEndsWithTheStartThatFindsTheUsersFolder) {
+  const std::string own = std::string(kUserFolder) + "Menus\\BMENU001.MNU";
+  const std::string other = std::string(kProgramFolder) + "Menus\\BMENU001.MNU";
+  world.Files.Put(own, "own");
+  // A server that is not there yet.
+  world.Folders.SetPath(kUserDataFolder, "S:\\ann\\AppData");
+  for (int start = 1; start <= 2; ++start) {
+    EXPECT_EQ(Find().Path, kProgramFolder) << start;
+    EXPECT_TRUE(Find().StandsIn) << start;
+    world.Files.Put(other, "other");  // the strip makes the folder
+  }
+  world.Folders.SetPath(kUserDataFolder, "C:\\Users\\ann\\AppData");
+  EXPECT_EQ(Find().Path, kUserFolder);
+  EXPECT_FALSE(Find().StandsIn);
+  EXPECT_EQ(world.Files.Get(own), "own");
+  EXPECT_EQ(world.Files.Get(other), "other");
+}
+
+TEST_F(FindDataFolderTest, AUsersFolderInWhichNoFolderCanBeMadeIsUsedAllTheSame) {
+  world.Files.MakeFolders(kUserFolder);
+  world.Files.Protect("C:\\Users\\ann\\AppData");
+  EXPECT_EQ(Find().Path, kUserFolder);
+}
+
+TEST_F(FindDataFolderTest, MenusOfAPortableCopyStandInForNothing) {
+  world.Files.MakeFolders(std::string(kProgramFolder) + "Menus");
+  world.Folders.SetPath(kUserDataFolder, "S:\\ann\\AppData");
+  EXPECT_EQ(Find().Path, kProgramFolder);
+  EXPECT_FALSE(Find().StandsIn);
+  world.Folders.SetPath(kUserDataFolder, "C:\\Users\\ann\\AppData");
+  EXPECT_EQ(Find().Path, kProgramFolder);
+  EXPECT_EQ(world.Files.Names(kProgramFolder), (std::vector<std::string>{"Menus", "corvelle.exe"}));
 }
 
 TEST_F(FindDataFolderTest, EachProgramsFolderIsToldAboutByItself) {
@@ -168,6 +203,22 @@ TEST_F(StartElsewhere, TheUserIsToldOnce) {
   EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
   EXPECT_TRUE(Run(world).Started);
   EXPECT_EQ(world.Desktop.Boxes().size(), 1U);
+}
+
+TEST_F(StartElsewhere, TheUserIsToldOfEachStartWithoutTheOwnFolder) {
+  world.Folders.SetPath(kUserDataFolder, "S:\\ann\\AppData");
+  for (std::size_t start = 1; start <= 2; ++start) {
+    world.Desktop.Answer(
+        "Corvelle cannot reach the folder of your menus and options.\r\n\r\n"
+        "Until a start finds it again, this folder is used instead:\r\n"
+        "C:\\Programs\\Corvelle\\",
+        forms::msgbox::AnswerOk);
+    EXPECT_TRUE(Run(world).Started);
+    EXPECT_EQ(world.Desktop.Boxes().size(), start);
+  }
+  world.Folders.SetPath(kUserDataFolder, "C:\\Users\\ann\\AppData");
+  EXPECT_EQ(Run(world).TheProgram.Paths.AppPath, kUserFolder);
+  EXPECT_EQ(world.Desktop.Boxes().size(), 2U);
 }
 
 TEST_F(StartElsewhere, ACompanionClosedWhileTheUserIsToldEndsTheStart) {
