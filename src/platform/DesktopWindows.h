@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,9 +31,9 @@ class DesktopWindows {
   virtual void RestoreMinimized(WindowId window) = 0;
   virtual void ShowMaximized(WindowId window) = 0;
 
-  /// Sends a message and waits for its answer, 2 s at most; 0 when none came.
-  virtual std::intptr_t Send(WindowId window, std::uint32_t message, std::uintptr_t wParam,
-                             std::intptr_t lParam) = 0;
+  /// Sends a message and waits for its answer, 2 s at most; nothing when none came.
+  virtual std::optional<std::intptr_t> Send(WindowId window, std::uint32_t message,
+                                            std::uintptr_t wParam, std::intptr_t lParam) = 0;
 
   /// Makes the window of another thread active and foremost: joins the two input queues for the
   /// length of the call, as the system wants it.

@@ -87,12 +87,13 @@ void Win32Desktop::RestoreMinimized(WindowId window) { OpenIcon(ToHwnd(window));
 
 void Win32Desktop::ShowMaximized(WindowId window) { ShowWindow(ToHwnd(window), SW_SHOWMAXIMIZED); }
 
-std::intptr_t Win32Desktop::Send(WindowId window, std::uint32_t message, std::uintptr_t wParam,
-                                 std::intptr_t lParam) {
+std::optional<std::intptr_t> Win32Desktop::Send(WindowId window, std::uint32_t message,
+                                                std::uintptr_t wParam, std::intptr_t lParam) {
   const HWND handle = ToHwnd(window);
-  if (IsWindow(handle) == 0) return 0;
   DWORD_PTR answer = 0;
-  if (!SendBounded(handle, message, wParam, lParam, &answer)) return 0;
+  if (IsWindow(handle) == 0 || !SendBounded(handle, message, wParam, lParam, &answer)) {
+    return std::nullopt;
+  }
   return static_cast<std::intptr_t>(answer);
 }
 

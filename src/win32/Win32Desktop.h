@@ -16,8 +16,8 @@ class Win32Desktop final : public DesktopWindows {
   bool RestoresMaximized(WindowId window) const override;
   void RestoreMinimized(WindowId window) override;
   void ShowMaximized(WindowId window) override;
-  std::intptr_t Send(WindowId window, std::uint32_t message, std::uintptr_t wParam,
-                     std::intptr_t lParam) override;
+  std::optional<std::intptr_t> Send(WindowId window, std::uint32_t message, std::uintptr_t wParam,
+                                    std::intptr_t lParam) override;
   void BringForward(WindowId window) override;
   WindowId WindowAt(PixelPoint at) const noexcept override;
   WindowId ActiveWindow() const noexcept override;

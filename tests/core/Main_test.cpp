@@ -340,7 +340,38 @@ TEST_F(MainTest, AMinimizedFirstInstanceIsBroughtBack) {
       {.Title = "Corvelle", .ClassName = "frmMinimize", .Minimized = true});
   EXPECT_FALSE(Main(program));
   EXPECT_FALSE(world.Desktop.IsMinimized(first));
-  EXPECT_TRUE(world.Desktop.Sent().empty());
+  // It is only asked for an answer.
+  using Sent = std::vector<sim::SentMessage>;
+  EXPECT_EQ(world.Desktop.Sent(), (Sent{{first, 0, 0, 0}}));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
+}
+
+TEST_F(MainTest, AFirstInstanceThatHangsIsToldOf) {
+  world.System.OtherInstance = true;
+  for (const bool minimized : {false, true}) {
+    SCOPED_TRACE(minimized);
+    const WindowId first = world.Desktop.AddOtherWindow(
+        {.Title = "Corvelle", .ClassName = "frmMinimize", .Minimized = minimized, .Hangs = true});
+    world.Desktop.Answer(std::string(kRunning), forms::msgbox::AnswerOk);
+    EXPECT_FALSE(Main(program));
+    EXPECT_EQ(world.Desktop.Boxes().size(), minimized ? 2U : 1U);
+    EXPECT_EQ(world.Desktop.IsMinimized(first), minimized);
+    world.Desktop.CloseOther(first);
+  }
+}
+
+TEST_F(MainTest, AFirstInstanceThatGoesWhileItIsWokenLetsTheNextOneStart) {
+  PutFlags(kInstalled);
+  world.System.OtherInstance = true;
+  const WindowId first = world.Desktop.AddOtherWindow(
+      {.Title = "Corvelle", .ClassName = "frmMinimize", .Visible = false});
+  world.Desktop.SetAnswer(first, [&](std::uint32_t, std::uintptr_t, std::intptr_t) {
+    world.Desktop.CloseOther(first);
+    world.System.OtherInstance = false;
+    return std::intptr_t{0};
+  });
+  EXPECT_TRUE(Main(program));
+  EXPECT_TRUE(world.Desktop.Boxes().empty());
 }
 
 TEST_F(MainTest, AFolderWindowOfTheSameNameIsNotTheFirstInstance) {

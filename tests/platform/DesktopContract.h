@@ -96,7 +96,7 @@ TEST_P(DesktopContract, AWindowThatIsGoneHasNoTextAndNoEffect) {
   EXPECT_FALSE(Windows().IsVisible(gone));
   EXPECT_FALSE(Windows().IsMinimized(gone));
   EXPECT_FALSE(Windows().RestoresMaximized(gone));
-  EXPECT_EQ(Windows().Send(gone, 16, 0, 0), 0);
+  EXPECT_EQ(Windows().Send(gone, 16, 0, 0), std::nullopt);
   Windows().RestoreMinimized(gone);
   Windows().ShowMaximized(gone);
   Windows().BringForward(gone);
@@ -109,7 +109,7 @@ TEST_P(DesktopContract, NoWindowIsNoWindow) {
   EXPECT_EQ(Windows().Text(kNoWindow), "");
   EXPECT_EQ(Windows().ClassName(kNoWindow), "");
   EXPECT_FALSE(Windows().IsVisible(kNoWindow));
-  EXPECT_EQ(Windows().Send(kNoWindow, 16, 0, 0), 0);
+  EXPECT_EQ(Windows().Send(kNoWindow, 16, 0, 0), std::nullopt);
 }
 
 TEST_P(DesktopContract, NothingStandsOutsideTheScreen) {

@@ -176,8 +176,7 @@ class SimDesk final : public Desk {
   std::intptr_t Send(std::string_view className, std::uint32_t message, std::uintptr_t wParam,
                      std::intptr_t lParam) override {
     const WindowId window = world_.Desktop.Find(className);
-    const std::intptr_t answer =
-        window == kNoWindow ? 0 : world_.Desktop.Send(window, message, wParam, lParam);
+    const std::intptr_t answer = world_.Desktop.Send(window, message, wParam, lParam).value_or(0);
     world_.Desktop.Pump();
     return answer;
   }

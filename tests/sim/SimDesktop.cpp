@@ -197,6 +197,7 @@ bool SimDesktop::RestoresMaximized(WindowId window) const {
 void SimDesktop::RestoreMinimized(WindowId window) {
   SimWindow* at = Get(window);
   if (at == nullptr) return;
+  if (at->Hangs) Complain("a window is restored that hangs: the call does not return");
   at->Maximized = false;
   Show(window, forms::ShowKind::Restored);
 }
@@ -204,6 +205,7 @@ void SimDesktop::RestoreMinimized(WindowId window) {
 void SimDesktop::ShowMaximized(WindowId window) {
   SimWindow* at = Get(window);
   if (at == nullptr) return;
+  if (at->Hangs) Complain("a window is maximized that hangs: the call does not return");
   at->Maximized = true;
   Show(window, forms::ShowKind::Restored);
 }
@@ -252,7 +254,8 @@ WindowId SimDesktop::AddOtherWindow(const OtherWindow& window) {
               .Minimized = window.Minimized,
               .Maximized = window.Maximized,
               .RestoresMaximized = window.RestoresMaximized,
-              .HasOwner = window.HasOwner});
+              .HasOwner = window.HasOwner,
+              .Hangs = window.Hangs});
 }
 
 void SimDesktop::MoveOther(WindowId window, const PixelRect& bounds) { SetBounds(window, bounds); }

@@ -300,8 +300,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   bool RestoresMaximized(WindowId window) const override;
   void RestoreMinimized(WindowId window) override;
   void ShowMaximized(WindowId window) override;
-  std::intptr_t Send(WindowId window, std::uint32_t message, std::uintptr_t wParam,
-                     std::intptr_t lParam) override;
+  std::optional<std::intptr_t> Send(WindowId window, std::uint32_t message, std::uintptr_t wParam,
+                                    std::intptr_t lParam) override;
   void BringForward(WindowId window) override;
   WindowId WindowAt(PixelPoint at) const noexcept override;
   WindowId ActiveWindow() const noexcept override;

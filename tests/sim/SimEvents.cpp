@@ -130,14 +130,17 @@ std::intptr_t SimDesktop::Dispatch(WindowId window, std::uint32_t message, std::
   return 0;
 }
 
-std::intptr_t SimDesktop::Send(WindowId window, std::uint32_t message, std::uintptr_t wParam,
-                               std::intptr_t lParam) {
+std::optional<std::intptr_t> SimDesktop::Send(WindowId window, std::uint32_t message,
+                                              std::uintptr_t wParam, std::intptr_t lParam) {
   const SimWindow* at = Look(window);
-  if (at == nullptr) return 0;
+  if (at == nullptr || at->Hangs) return std::nullopt;
   if (at->Own) return Dispatch(window, message, wParam, lParam);
   sent_.push_back({window, message, wParam, lParam});
   const auto answer = at->Answer;
-  return answer ? answer(message, wParam, lParam) : 0;
+  const std::intptr_t said = answer ? answer(message, wParam, lParam) : 0;
+  // A program that ends meanwhile has not answered.
+  if (Look(window) == nullptr) return std::nullopt;
+  return said;
 }
 
 void SimDesktop::Post(WindowId window, std::uint32_t message, std::uintptr_t wParam,

@@ -44,6 +44,7 @@ struct SimWindow {
   bool InTaskbar = false;
   bool HasOwner = false;
   bool TakesDrops = false;
+  bool Hangs = false;              // its program answers no message
   std::vector<WindowId> Children;  // from the front to the back
   WindowId Focus = kNoWindow;      // which of its windows had the focus last
 
@@ -73,6 +74,7 @@ struct OtherWindow {
   bool RestoresMaximized = false;
   WindowId Parent = kNoWindow;  // of a child window
   bool HasOwner = false;
+  bool Hangs = false;
 };
 
 /// A message that a window of another program got.

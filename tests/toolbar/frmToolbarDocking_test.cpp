@@ -49,7 +49,7 @@ struct DockingDesk : StripDesk {
     Exit();
   }
   std::intptr_t Send(std::uint32_t what, std::uintptr_t wParam = 0, std::intptr_t lParam = 0) {
-    return World.Desktop.Send(Strip.hWnd(), what, wParam, lParam);
+    return World.Desktop.Send(Strip.hWnd(), what, wParam, lParam).value_or(0);
   }
   DockingWithEvents Docking;
 };

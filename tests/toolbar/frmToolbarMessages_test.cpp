@@ -21,7 +21,7 @@ struct StripOfTwo : StripDesk {
     Start();
   }
   std::intptr_t Send(std::uint32_t what, std::uintptr_t wParam = 0, std::intptr_t lParam = 0) {
-    return World.Desktop.Send(Strip.hWnd(), what, wParam, lParam);
+    return World.Desktop.Send(Strip.hWnd(), what, wParam, lParam).value_or(0);
   }
   /// The calls on the strip's place in the Z order since the log was cleared.
   [[nodiscard]] std::vector<std::string> OrderCalls() const {
