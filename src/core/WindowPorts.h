@@ -42,6 +42,8 @@ class EditingWindow : public LoadedWindow {
  public:
   /// As its user closes it: it may ask, and stay. False when it stays.
   [[nodiscard]] virtual bool CloseWindow() = 0;
+  /// As the end of the session closes it: keeps what is unsaved, and goes without a question.
+  virtual void EndSession() = 0;
 };
 
 /// A window that takes no input while a message of the program is up. A side without a window has

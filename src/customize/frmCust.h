@@ -86,6 +86,7 @@ class frmCust final : public forms::Form,
   /// Closes it, after asking about what is not saved; it cannot be kept open.
   void UnloadWindow() override;
   [[nodiscard]] bool CloseWindow() override;
+  void EndSession() override;
   [[nodiscard]] bool WindowLoaded() const override { return IsLoaded(); }
   /// Takes what the strip or another window of the program changed in, as soon as that is done.
   void MenusEdited() override;
@@ -151,7 +152,7 @@ class frmCust final : public forms::Form,
   void Form_Resize() override;
   void Form_Activate() override;
   void Form_QueryClose() override;
-  void Form_SessionEnd() override;
+  void Form_SessionEnd() override { EndSession(); }
   void Form_Menu(int line) override;
   void Form_MenuOpening(int line) override;
   void PeerGoing() override;

@@ -180,7 +180,7 @@ void frmCust::UnloadWindow() {
   Unload();
 }
 
-void frmCust::Form_SessionEnd() {
+void frmCust::EndSession() {
   if (!IsLoaded()) return;
   TreeView1.EndEdit(true);
   KeepDraft();

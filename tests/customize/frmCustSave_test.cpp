@@ -251,6 +251,16 @@ TEST(CustomizeDraft, ALabelThatIsBeingTypedIsInIt) {
   }
 }
 
+TEST(CustomizeDraft, IsKeptWithoutAQuestionWhenTheCompanionIsToldOfTheEndFirst) {
+  ChangedDesk desk;
+  desk.world.Desktop.EndSession(desk.parts->Companion.hWnd());
+  EXPECT_TRUE(desk.world.Desktop.Boxes().empty());
+  EXPECT_TRUE(desk.world.Desktop.QuitCalled());
+  EXPECT_EQ(desk.Stored(), kAtFirst);
+  EXPECT_TRUE(OfferDraft(desk.world.Files, CustDesk::kMenus,
+                         *ReadMenuFiles(desk.world.Files, desk.world.Ansi, CustDesk::kMenus)));
+}
+
 TEST(CustomizeDraft, ForgetDropsIt) {
   ChangedDesk desk;
   desk.world.Desktop.EndSession();

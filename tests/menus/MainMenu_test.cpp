@@ -76,6 +76,7 @@ class NotedWindow final : public EditingWindow {
   }
   void UnloadWindow() override {}
   bool CloseWindow() override { return false; }
+  void EndSession() override {}
   bool WindowLoaded() const override { return Loads > 0; }
 };
 

@@ -187,6 +187,7 @@ struct NotedCustomize final : EditingWindow {
     Loaded = Stays;
     return !Loaded;
   }
+  void EndSession() override { Loaded = false; }
   bool WindowLoaded() const override { return Loaded; }
 };
 

@@ -116,5 +116,17 @@ TEST_F(CustomizeRoad, DeletesAndTakesTheDeletionBack) {
   EXPECT_TRUE(desk_->Wait([&] { return HasMenu(1, "One", {one, one}); })) << "a second copy";
 }
 
+TEST_F(CustomizeRoad, TheEndOfTheSessionAsksNothingAndKeepsWhatIsUnsaved) {
+  const std::vector<MenuRecord> whole = {Witness(*desk_, "two"), Witness(*desk_, "three")};
+  Press(kKeyDown);
+  Press(kKeyDown);
+  With(kKeyControl, 'M');
+  EXPECT_TRUE(desk_->EndSession());
+  EXPECT_TRUE(desk_->Wait([this] { return desk_->RunningCopies() == 0; }));
+  EXPECT_TRUE(desk_->Messages().empty());
+  EXPECT_TRUE(HasMenu(2, "Two", whole));
+  EXPECT_NE(desk_->ReadFile("Menus\\" + std::string(kDraftFileName)).value_or(""), "");
+}
+
 }  // namespace
 }  // namespace corvelle::scenario

@@ -130,6 +130,8 @@ class SimDesktop final : public forms::WindowSystem, public Input, public Deskto
   void Broadcast(std::uint32_t message, std::uintptr_t wParam = 0, std::intptr_t lParam = 0);
   /// The session of Windows ends: every top-level window of ours is told.
   void EndSession();
+  /// One window of ours alone is told so, as an installer does.
+  void EndSession(WindowId window);
   /// Another resolution, or other colours; windows are told by a display change message.
   void SetScreen(PixelSize size) { SetScreen(size, options_.ScreenBits); }
   void SetScreen(PixelSize size, int bits);

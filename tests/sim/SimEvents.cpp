@@ -156,10 +156,12 @@ void SimDesktop::Broadcast(std::uint32_t message, std::uintptr_t wParam, std::in
 
 void SimDesktop::EndSession() {
   const std::vector<WindowId> all = order_;
-  for (const WindowId id : all) {
-    const SimWindow* at = Look(id);
-    if (at != nullptr && at->Events != nullptr) at->Events->OnSessionEnd();
-  }
+  for (const WindowId id : all) EndSession(id);
+}
+
+void SimDesktop::EndSession(WindowId window) {
+  const SimWindow* at = Look(window);
+  if (at != nullptr && at->Events != nullptr) at->Events->OnSessionEnd();
 }
 
 // Message boxes.

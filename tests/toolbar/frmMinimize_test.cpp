@@ -23,6 +23,10 @@ struct NotedWindow final : EditingWindow {
     ADD_FAILURE() << Name << " was asked whether it goes";
     return false;
   }
+  void EndSession() override {
+    Order.push_back(Name + " without a question");
+    Loaded = false;
+  }
   bool WindowLoaded() const override { return Loaded; }
   std::string Name;
   std::vector<std::string>& Order;
@@ -94,6 +98,16 @@ TEST(CompanionEnd, UnloadsEveryWindowInItsOrderAndQuits) {
   const std::vector<std::string> windows = {"destroy frmQMenu", "destroy frmToolbar",
                                             "destroy frmMinimize"};
   EXPECT_EQ(destroyed, windows);
+  EXPECT_TRUE(desk.World.Desktop.QuitCalled());
+}
+
+TEST(CompanionEnd, TheEndOfTheSessionAsksNothingInCustomize) {
+  Started desk;
+  std::vector<std::string> order;
+  NotedWindow customize("Customize", order);
+  desk.TheProgram.Ports.Customize = &customize;
+  desk.World.Desktop.EndSession(desk.Companion.hWnd());
+  EXPECT_EQ(order, std::vector<std::string>{"Customize without a question"});
   EXPECT_TRUE(desk.World.Desktop.QuitCalled());
 }
 

@@ -70,6 +70,14 @@ void frmMinimize::Form_Unload() {
   with_.Windows.Quit();
 }
 
+// Customize asks before it unloads, and no question may hold up the end of the session. Whether the
+// system tells it before the companion is open, and an installer tells the companion alone.
+void frmMinimize::Form_SessionEnd() {
+  EditingWindow* const customize = with_.Ports.Customize;
+  if (customize != nullptr && customize->WindowLoaded()) customize->EndSession();
+  Unload();
+}
+
 // ---- Not On Top ----
 
 void frmMinimize::ShowInSysTray() {

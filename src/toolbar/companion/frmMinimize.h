@@ -60,6 +60,7 @@ class frmMinimize final : public forms::Form, public MinimizePort {
   /// Ends the program: every other window first, in a fixed order.
   void Form_Unload() override;
   void Form_Resize() override;
+  void Form_SessionEnd() override;
   std::optional<std::intptr_t> WindowProc(std::uint32_t message, std::uintptr_t wParam,
                                           std::intptr_t lParam) override;
 
