@@ -40,8 +40,8 @@ struct FileEntry {
 /// The disk. Paths are Windows paths in UTF-8, with or without a trailing backslash for folders;
 /// case does not count. No operation leaves a file open. A missing folder on the way to a file
 /// gives NotFound, a folder in the place of a file AccessDenied, a name that no file can have (a
-/// NUL in it, "<", ">", "|"...) BadName. Read, the writers and Rename wait a fifth of a second for
-/// another program that holds the file; then it is InUse.
+/// NUL in it, "<", ">", "|"...) BadName. Read, the writers, Remove and Rename wait a fifth of a
+/// second for another program that holds the file (Remove for the first of many); then it is InUse.
 class FileSystem {
  public:
   virtual ~FileSystem() = default;

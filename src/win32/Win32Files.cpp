@@ -17,6 +17,9 @@ namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
+/// For how long no removal is waited for after one was in vain, in milliseconds.
+constexpr ULONGLONG kImpatience = 500;
+
 /// What one call reads or writes at most.
 constexpr std::size_t kMostBytesAtOnce = std::size_t{1} << 24U;
 
@@ -286,7 +289,13 @@ FileStatus Win32Files::Flush(std::string_view path) {
 FileStatus Win32Files::Remove(std::string_view path) {
   const auto wide = PathOf(path);
   if (!wide) return FileError::BadName;
-  return StatusOf(DeleteFileW(wide->c_str()) != 0);
+  const auto removed = [&] { return DeleteFileW(wide->c_str()) != 0; };
+  // A folder of temporary files holds dozens that stay in use.
+  const bool patient = GetTickCount64() >= patientFrom_;
+  if (patient ? DonePatiently(removed, false) : removed()) return Done{};
+  const FileError error = LastFileError();
+  if (error == FileError::InUse) patientFrom_ = GetTickCount64() + kImpatience;
+  return error;
 }
 
 FileStatus Win32Files::ClearAttributes(std::string_view path) {

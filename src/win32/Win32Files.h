@@ -31,6 +31,7 @@ class Win32Files final : public FileSystem {
   FileStatus ReplaceWith(std::string_view path, std::string_view bytes, bool flush);
 
   unsigned temporary_ = 0;  // how many files were replaced, for the names of their new contents
+  std::uint64_t patientFrom_ = 0;  // the time from which a removal waits again
 };
 
 }  // namespace corvelle::win32

@@ -4,7 +4,9 @@
 #include <windows.h>
 
 #include <map>
+#include <string>
 #include <thread>
+#include <vector>
 
 #include "TempFolder.h"
 #include "platform/FileSystemContract.h"
@@ -126,6 +128,34 @@ TEST_F(FilesTest, RenameWaitsForAProgramThatLooksAtTheFile) {
   ASSERT_TRUE(looker.Looks());
   EXPECT_TRUE(Files.Rename(Root + "a.dat", Root + "b.dat"));
   EXPECT_TRUE(Files.FileExists(Root + "b.dat"));
+}
+
+TEST_F(FilesTest, RemoveWaitsForAProgramThatLooksAtTheFile) {
+  ASSERT_TRUE(Files.Write(Root + "a.dat", "old"));
+  const Looker looker(Root + "a.dat", FILE_SHARE_READ);
+  ASSERT_TRUE(looker.Looks());
+  EXPECT_TRUE(Files.Remove(Root + "a.dat"));
+  EXPECT_FALSE(Files.FileExists(Root + "a.dat"));
+}
+
+TEST_F(FilesTest, OfManyThatAreHeldRemoveWaitsForTheFirst) {
+  constexpr int kHeld = 20;
+  std::vector<win32::UniqueFile> held;
+  for (int i = 0; i < kHeld; ++i) {
+    const std::string path = Root + std::to_string(i) + ".tmp";
+    ASSERT_TRUE(Files.Write(path, ""));
+    held.emplace_back(CreateFileW(Wide(path).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+    ASSERT_TRUE(held.back());
+  }
+  const ULONGLONG began = GetTickCount64();
+  for (int i = 0; i < kHeld; ++i) {
+    const FileStatus removed = Files.Remove(Root + std::to_string(i) + ".tmp");
+    ASSERT_FALSE(removed);
+    EXPECT_EQ(removed.Error(), FileError::InUse);
+  }
+  // A fifth of a second each would be four seconds.
+  EXPECT_LT(GetTickCount64() - began, 2000U);
 }
 
 TEST_F(FilesTest, ReadingAndWritingWaitForAProgramThatLooksAtTheFile) {
