@@ -42,7 +42,7 @@ class ShellFolders {
   [[nodiscard]] virtual std::optional<IconPixels> PixelsOf(int folder, std::string_view name,
                                                            IconList list) = 0;
 
-  /// Path of a folder that lies on the disk; nothing for another.
+  /// Path of a folder that lies on a disk, even if it cannot be reached; nothing for another.
   [[nodiscard]] virtual std::optional<std::string> PathOf(int folder) = 0;
 
   /// Does what a double click on the folder, or on an entry in it, does; `argument` goes with the

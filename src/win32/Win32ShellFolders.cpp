@@ -207,10 +207,14 @@ std::optional<IconPixels> Win32ShellFolders::PixelsOf(int folder, std::string_vi
   return PixelsAt(whole.Get(), list);
 }
 
+// One on a server that cannot be reached has its path all the same.
 std::optional<std::string> Win32ShellFolders::PathOf(int folder) {
-  const UniqueItem location = LocationOf(folder);
   std::wstring path(MAX_PATH, L'\0');
-  if (!location || SHGetPathFromIDListW(location.Get(), path.data()) == FALSE) return std::nullopt;
+  if (folder < 0 || folder > kLastFolder ||
+      SHGetFolderPathW(nullptr, folder | CSIDL_FLAG_DONT_VERIFY, nullptr, SHGFP_TYPE_CURRENT,
+                       path.data()) != S_OK) {
+    return std::nullopt;
+  }
   std::string text = Narrow(path.c_str());
   if (text.empty()) return std::nullopt;
   return text;

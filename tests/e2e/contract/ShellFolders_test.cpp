@@ -163,6 +163,42 @@ std::unique_ptr<ContractFolders> MakeReal() { return std::make_unique<RealFolder
 
 INSTANTIATE_TEST_SUITE_P(Windows, ShellFoldersContract, testing::Values(MakeReal));
 
+/// The user's templates lie somewhere else for a while.
+class MovedTemplates {
+ public:
+  explicit MovedTemplates(const std::wstring& folder) {
+    length_ = sizeof before_;
+    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, kKey, kName,
+                           RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND, nullptr, before_,
+                           &length_),
+              ERROR_SUCCESS);
+    Set(folder.c_str());
+  }
+  MovedTemplates(const MovedTemplates&) = delete;
+  MovedTemplates& operator=(const MovedTemplates&) = delete;
+  ~MovedTemplates() { Set(before_); }
+
+ private:
+  static constexpr const wchar_t* kKey =
+      L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+  static constexpr const wchar_t* kName = L"Templates";
+
+  static void Set(const wchar_t* folder) {
+    const auto bytes = static_cast<DWORD>((wcslen(folder) + 1) * sizeof(wchar_t));
+    EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, REG_EXPAND_SZ, folder, bytes),
+              ERROR_SUCCESS);
+  }
+
+  wchar_t before_[MAX_PATH] = {};
+  DWORD length_ = 0;
+};
+
+TEST(ShellFolders, AFolderThatCannotBeReachedHasItsPath) {
+  const MovedTemplates moved(L"Q:\\Server\\Templates");
+  win32::Win32ShellFolders folders;
+  EXPECT_EQ(folders.PathOf(CSIDL_TEMPLATES), "Q:\\Server\\Templates");
+}
+
 // Objects of COM are given back by Release and never by their bases.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
