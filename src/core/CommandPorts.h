@@ -40,11 +40,12 @@ class BrowserPort {
   /// The window where a drag of an address began; none when it is not known.
   virtual void NoteDropSource(WindowId window) = 0;
 
-  /// Back to the system's browser.
+  /// Back to the system's browser. Beeps where the disk keeps the choice.
   virtual void UseDefaultBrowser() = 0;
   /// From now on the browser with that path. `then` is told true when it was taken, inside the
-  /// call; false, after a message, for one that is not supported. Where a shell link leads is asked
-  /// beside the windows: then it is told later, and not at all when another choice came first.
+  /// call; false, after a message, for one that is not supported, and after a beep for a choice
+  /// that cannot be saved. Where a shell link leads is asked beside the windows: then it is told
+  /// later, and not at all when another choice came first.
   virtual void UseBrowser(std::string_view path, std::function<void(bool)> then) = 0;
 };
 

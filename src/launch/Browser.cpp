@@ -11,6 +11,7 @@
 #include "desk/AnswerDesk.h"
 #include "launch/OpenMail.h"
 #include "launch/StartBeside.h"
+#include "platform/Input.h"
 
 namespace corvelle {
 
@@ -86,7 +87,7 @@ void Browser::ForgetBrowser() {
 
 void Browser::UseDefaultBrowser() {
   // A file that cannot be removed keeps the old choice; it is read again with the next address.
-  static_cast<void>(ForgetBrowserChoice(with_.Files, with_.Paths.AppPath));
+  if (!ForgetBrowserChoice(with_.Files, with_.Paths.AppPath)) with_.Pointer.Beep();
   ForgetBrowser();
 }
 
@@ -125,6 +126,7 @@ bool Browser::TakeBrowser(const std::string& command) {
   const BrowserChoice choice{command, *service};
   ForgetBrowser();
   if (!SaveBrowserChoice(with_.Files, with_.Ansi, with_.Paths.AppPath, choice)) {
+    with_.Pointer.Beep();
     return false;
   }
   BrowserCommand = choice.BrowserCommand;

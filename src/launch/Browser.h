@@ -17,6 +17,7 @@ namespace corvelle {
 class CodePage;
 class DesktopWindows;
 class FileSystem;
+class Input;
 struct ProgramPaths;
 namespace desk {
 class AnswerDesk;
@@ -28,6 +29,7 @@ struct BrowserParts {
   FileSystem& Files;
   const CodePage& Ansi;
   const DesktopWindows& Desktop;
+  Input& Pointer;
   const ProgramPaths& Paths;
   const std::string& Title;
   const LaunchParts& Launch;
@@ -72,7 +74,8 @@ class Browser final : public BrowserPort, public BrowserState {
   /// Takes over what was found out, unless the user has chosen a browser since `choices`.
   void Learn(const BrowserState& found, int choices);
   void ShowBrowserError();
-  /// False, and a message, for a program that is not supported.
+  /// False, and a message, for a program that is not supported; false, and a beep, for a choice
+  /// that cannot be saved.
   bool TakeBrowser(const std::string& command);
   /// Back to the state in which the next address looks for the browser.
   void ForgetBrowser();

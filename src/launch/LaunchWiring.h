@@ -27,6 +27,7 @@ namespace corvelle {
           .Files = program.Services.Files,
           .Ansi = program.Services.Ansi,
           .Desktop = program.Services.Desktop,
+          .Pointer = program.Services.Pointer,
           .Paths = program.Paths,
           .Title = program.Title,
           .Launch = program.Launch};

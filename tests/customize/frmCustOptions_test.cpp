@@ -124,6 +124,23 @@ TEST(CustomizeOptions, AnotherBrowserIsCheckedWhileItsFileIsThere) {
   EXPECT_TRUE(desk.Checked("Use Default Internet Browser"));
 }
 
+TEST(CustomizeOptions, ABrowserChoiceThatTheDiskRefusesBeeps) {
+  CustDesk desk;
+  desk.world.Files.Put("C:\\Net\\netscape.exe", "x");
+  desk.world.Desktop.ChooseFiles({"C:\\Net\\netscape.exe"});
+  desk.world.Files.FillDisk(0);
+  desk.MenuBar("Options", "Use Alternative Internet Browser");
+  EXPECT_EQ(desk.world.Desktop.Beeps(), 1);
+  EXPECT_TRUE(desk.Checked("Use Default Internet Browser"));
+  desk.world.Files.FreeDisk();
+  desk.world.Files.Put("C:\\Corvelle\\openurl.ini", "Command=x\r\nApplication=IExplore\r\n");
+  desk.world.Files.SetReadOnly("C:\\Corvelle\\openurl.ini", true);
+  desk.MenuBar("Options", "Use Default Internet Browser");
+  EXPECT_EQ(desk.world.Desktop.Beeps(), 2);
+  EXPECT_TRUE(desk.Checked("Use Alternative Internet Browser"));
+  desk.world.Files.SetReadOnly("C:\\Corvelle\\openurl.ini", false);
+}
+
 TEST(CustomizeOptions, LargeIconsInTheRestoredStripRebuildIt) {
   CustDesk desk;
   Program& program = desk.parts->TheProgram;

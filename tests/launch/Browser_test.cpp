@@ -651,6 +651,7 @@ TEST_F(BrowserChoiceTest, AnUnknownBrowserIsRefusedAndNothingIsWritten) {
   browser.InitBrowser();
   world.Desktop.Answer(kUnsupported, forms::msgbox::AnswerOk);
   EXPECT_FALSE(IsTaken(kOther));
+  EXPECT_EQ(world.Desktop.Beeps(), 0);
   EXPECT_FALSE(world.Files.Has(kIniFile));
   EXPECT_EQ(browser.BrowserCommand, kExplorer);
 }
@@ -659,9 +660,24 @@ TEST_F(BrowserChoiceTest, AChoiceThatCannotBeSavedLeavesTheOldBrowserInForce) {
   HaveBrowser(kExplorer, "IExplore");
   world.Files.FailFrom(1, FileError::DiskFull);
   EXPECT_FALSE(IsTaken(kNetscape));
+  EXPECT_EQ(world.Desktop.Beeps(), 1);
   world.Files.StopFailing();
   OpenUrl(kUrl);
   EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"IExplore", kTopic, kItem}}));
+}
+
+TEST_F(BrowserChoiceTest, AChoiceThatCannotBeRemovedStaysInForceAndABeepSaysSo) {
+  world.Files.Put(kIniFile, "Command=c:\\ie\\iexplore.exe\r\nApplication=IExplore\r\n");
+  world.Dde.AddServer("IExplore", kTopic);
+  world.Files.SetReadOnly(kIniFile, true);
+  browser.UseDefaultBrowser();
+  EXPECT_EQ(world.Desktop.Beeps(), 1);
+  OpenUrl(kUrl);
+  EXPECT_EQ(world.Dde.Told(), (std::vector<DdeCommand>{{"iexplore", kTopic, kItem}}));
+  world.Files.SetReadOnly(kIniFile, false);
+  browser.UseDefaultBrowser();
+  EXPECT_FALSE(world.Files.Has(kIniFile));
+  EXPECT_EQ(world.Desktop.Beeps(), 1);
 }
 
 // ---- mail ----
