@@ -42,11 +42,13 @@ class BrowserPort {
 
   /// Back to the system's browser. Beeps where the disk keeps the choice.
   virtual void UseDefaultBrowser() = 0;
-  /// From now on the browser with that path. `then` is told true when it was taken, inside the
-  /// call; false, after a message, for one that is not supported, and after a beep for a choice
-  /// that cannot be saved. Where a shell link leads is asked beside the windows: then it is told
-  /// later, and not at all when another choice came first.
-  virtual void UseBrowser(std::string_view path, std::function<void(bool)> then) = 0;
+  /// From now on the browser with that path, which the user chose in the window `owner`: what there
+  /// is to say is said there, or by the strip once that window is gone. `then` is told true when it
+  /// was taken, inside the call; false, after a message, for one that is not supported, and after a
+  /// beep for a choice that cannot be saved. Where a shell link leads is asked beside the windows:
+  /// then it is told later, and not at all when another choice came first.
+  virtual void UseBrowser(std::string_view path, WindowId owner,
+                          std::function<void(bool)> then) = 0;
 };
 
 /// The pages that explain the program, one for each matter. What the user asks for opens or is told

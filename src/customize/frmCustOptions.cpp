@@ -131,7 +131,7 @@ void frmCust::ChooseBrowser(bool own) {
   if (own) {
     const std::string path = AskOneFile("Select one file.", Editor.LastFolder);
     if (path.empty()) return;
-    browser->UseBrowser(path, [this, watch = MakeWatch()](bool) {
+    browser->UseBrowser(path, hWnd(), [this, watch = MakeWatch()](bool) {
       if (!watch.Gone()) LookForBrowser();
     });
   } else {

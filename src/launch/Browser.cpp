@@ -11,6 +11,7 @@
 #include "desk/AnswerDesk.h"
 #include "launch/OpenMail.h"
 #include "launch/StartBeside.h"
+#include "platform/DesktopWindows.h"
 #include "platform/Input.h"
 
 namespace corvelle {
@@ -91,9 +92,9 @@ void Browser::UseDefaultBrowser() {
   ForgetBrowser();
 }
 
-void Browser::UseBrowser(std::string_view path, std::function<void(bool)> then) {
+void Browser::UseBrowser(std::string_view path, WindowId owner, std::function<void(bool)> then) {
   if (!EndsWithNoCase(path, ".lnk") || with_.Launch.Ports.ShellLinks == nullptr) {
-    const bool taken = TakeBrowser(std::string(path));
+    const bool taken = TakeBrowser(std::string(path), owner);
     if (then) then(taken);
     return;
   }
@@ -105,22 +106,23 @@ void Browser::UseBrowser(std::string_view path, std::function<void(bool)> then) 
        .How = desk::Urgency::OnShow,
        .Owner = linkOwner_},
       {.Ended =
-           [this, choices = choices_, then = std::move(then)](const desk::Reply& reply) {
+           [this, owner, choices = choices_, then = std::move(then)](const desk::Reply& reply) {
              if (choices != choices_) return;
              const auto* const target = std::get_if<std::string>(&reply.Value);
              const bool known = reply.How == desk::End::Answered && target != nullptr;
              // A link that cannot be read leads to no browser.
-             const bool taken = TakeBrowser(known ? StripAtNull(*target) : std::string());
+             const bool taken = TakeBrowser(known ? StripAtNull(*target) : std::string(), owner);
              if (then) then(taken);
            },
        .TakesLonger = {}});
 }
 
-bool Browser::TakeBrowser(const std::string& command) {
+bool Browser::TakeBrowser(const std::string& command, WindowId owner) {
   const std::optional<std::string> service = BrowserServiceName(command);
   if (!service) {
-    with_.Launch.Messages.Say(with_.Launch.Ports.ToolbarWindow(), kUnsupportedBrowser,
-                              msgbox::OnTop);
+    const bool there = with_.Desktop.IsVisible(owner);
+    with_.Launch.Messages.Say(there ? owner : with_.Launch.Ports.ToolbarWindow(),
+                              kUnsupportedBrowser, msgbox::OnTop);
     return false;
   }
   const BrowserChoice choice{command, *service};

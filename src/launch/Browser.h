@@ -60,7 +60,7 @@ class Browser final : public BrowserPort, public BrowserState {
   std::string WindowTitle(std::string_view url) override;
   void NoteDropSource(WindowId window) override;
   void UseDefaultBrowser() override;
-  void UseBrowser(std::string_view path, std::function<void(bool)> then) override;
+  void UseBrowser(std::string_view path, WindowId owner, std::function<void(bool)> then) override;
 
   /// The title of the address in the user's bookmark file; empty without one, or when the disk does
   /// not answer at once.
@@ -76,7 +76,7 @@ class Browser final : public BrowserPort, public BrowserState {
   void ShowBrowserError();
   /// False, and a message, for a program that is not supported; false, and a beep, for a choice
   /// that cannot be saved.
-  bool TakeBrowser(const std::string& command);
+  bool TakeBrowser(const std::string& command, WindowId owner);
   /// Back to the state in which the next address looks for the browser.
   void ForgetBrowser();
   /// Where the files for a moment go; the folder is known when the program has started.

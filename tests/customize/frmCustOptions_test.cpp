@@ -141,6 +141,43 @@ TEST(CustomizeOptions, ABrowserChoiceThatTheDiskRefusesBeeps) {
   desk.world.Files.SetReadOnly("C:\\Corvelle\\openurl.ini", false);
 }
 
+TEST(CustomizeOptions, ABrowserThatIsNotSupportedIsToldOfByTheWindow) {
+  constexpr const char* kUnsupported =
+      "Unsupported browser. Corvelle couldn't recognize the Internet browser you have selected.";
+  for (const bool link : {false, true}) {
+    SCOPED_TRACE(link ? "a link, which is followed beside the window" : "a program");
+    CustDesk desk;
+    const std::string chosen = link ? "C:\\Net\\other.lnk" : "C:\\Net\\other.exe";
+    desk.world.Files.Put(chosen, "x");
+    if (link) desk.world.Links.Put(chosen, {.Path = "C:\\Net\\other.exe"});
+    desk.world.Desktop.ChooseFiles({chosen});
+    desk.world.Desktop.Answer(kUnsupported, forms::msgbox::AnswerOk);
+    desk.MenuBar("Options", "Use Alternative Internet Browser");
+    desk.world.Desktop.Pump();
+    ASSERT_EQ(desk.world.Desktop.AnswersLeft(), 0);
+    EXPECT_EQ(desk.world.Desktop.Boxes().back().Owner, desk.Form().hWnd());
+    EXPECT_EQ(desk.world.Desktop.ForegroundWindow(), desk.Form().hWnd());
+    EXPECT_EQ(desk.world.Desktop.Beeps(), 0);
+  }
+}
+
+TEST(CustomizeOptions, ABrowserThatIsRefusedAfterTheWindowClosedIsToldOfByTheStrip) {
+  CustDesk desk;
+  desk.world.Files.AddDrive('D');
+  desk.world.Files.Put("D:\\other.lnk", "x");
+  desk.world.Links.Put("D:\\other.lnk", {.Path = "C:\\Net\\other.exe"});
+  desk.world.SlowAnswers.Delay("D:", 1500);
+  desk.world.Desktop.ChooseFiles({"D:\\other.lnk"});
+  desk.MenuBar("Options", "Use Alternative Internet Browser");
+  desk.Form().Unload();
+  desk.world.Desktop.Answer(
+      "Unsupported browser. Corvelle couldn't recognize the Internet browser you have selected.",
+      forms::msgbox::AnswerOk);
+  desk.world.Desktop.Advance(2000);
+  ASSERT_EQ(desk.world.Desktop.AnswersLeft(), 0);
+  EXPECT_EQ(desk.world.Desktop.Boxes().back().Owner, desk.parts->Toolbar.hWnd());
+}
+
 TEST(CustomizeOptions, LargeIconsInTheRestoredStripRebuildIt) {
   CustDesk desk;
   Program& program = desk.parts->TheProgram;

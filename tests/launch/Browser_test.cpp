@@ -75,7 +75,7 @@ class BrowserDesk : public testing::Test {
   void OpenUrl(std::string_view url) { browser.OpenUrl(url, {}); }
   /// The choice of a browser in the menu; how it ended comes to Chosen.
   void Choose(std::string_view path) {
-    browser.UseBrowser(path, [this](bool taken) { Chosen.push_back(taken); });
+    browser.UseBrowser(path, kNoWindow, [this](bool taken) { Chosen.push_back(taken); });
   }
   bool IsTaken(std::string_view path) {
     Choose(path);
@@ -640,7 +640,8 @@ TEST_F(BrowserChoiceTest, AProgramThatEndsMeanwhileIsToldNothing) {
   world.SlowAnswers.Delay("D:", 1500);
   {
     Browser ending(BrowserPartsOf(program));
-    ending.UseBrowser("D:\\browser.lnk", [this](bool taken) { Chosen.push_back(taken); });
+    ending.UseBrowser("D:\\browser.lnk", kNoWindow,
+                      [this](bool taken) { Chosen.push_back(taken); });
   }
   world.Desktop.Advance(3000);
   EXPECT_TRUE(Chosen.empty());

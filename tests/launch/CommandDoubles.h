@@ -50,7 +50,7 @@ class LoggingBrowser final : public BrowserPort {
     log_.push_back("NoteDropSource " + std::to_string(window));
   }
   void UseDefaultBrowser() override { log_.emplace_back("UseDefaultBrowser"); }
-  void UseBrowser(std::string_view path, std::function<void(bool)> then) override {
+  void UseBrowser(std::string_view path, WindowId, std::function<void(bool)> then) override {
     log_.push_back("UseBrowser " + std::string(path));
     if (then) then(true);
   }

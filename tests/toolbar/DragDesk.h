@@ -32,7 +32,7 @@ struct NotedBrowser final : BrowserPort {
   std::string WindowTitle(std::string_view) override { return "A page "; }
   void NoteDropSource(WindowId window) override { Sources.push_back(window); }
   void UseDefaultBrowser() override {}
-  void UseBrowser(std::string_view, std::function<void(bool)>) override {}
+  void UseBrowser(std::string_view, WindowId, std::function<void(bool)>) override {}
 };
 
 struct NotedSingles final : SingleButtonsPort {
