@@ -125,7 +125,7 @@ TEST_F(CustomizeRoad, TheEndOfTheSessionAsksNothingAndKeepsWhatIsUnsaved) {
   EXPECT_TRUE(desk_->Wait([this] { return desk_->RunningCopies() == 0; }));
   EXPECT_TRUE(desk_->Messages().empty());
   EXPECT_TRUE(HasMenu(2, "Two", whole));
-  EXPECT_NE(desk_->ReadFile("Menus\\" + std::string(kDraftFileName)).value_or(""), "");
+  EXPECT_NE(desk_->ReadFile("Menus\\unsaved.dft").value_or(""), "");
 }
 
 }  // namespace
