@@ -143,12 +143,12 @@ TEST(Strip, ShowsTheIconsOfItsButtonsAndOfTheMenu) {
              {.FTitle = "Without", .FIcon = "", .FName = desk.WitnessProgram()}});
   desk.MovePointer(scenario::FarAway(desk));
   ASSERT_TRUE(StartAndWait(desk));
-  // A button's face has one colour, and its icon many.
+  // A button's face has one colour, and its icon many. The strip is up before its icons.
   const PixelRect strip = desk.BoundsOf("picToolbar");
   const int pitch = strip.Height() + 2;
   for (int button = 0; button < 2; ++button) {
     const PixelRect inside{button * pitch + 8, 8, button * pitch + 32, 32};
-    EXPECT_GT(desk.ColoursIn("picToolbar", inside), 5) << button + 1;
+    EXPECT_TRUE(desk.Wait([&] { return desk.ColoursIn("picToolbar", inside) > 5; })) << button + 1;
   }
   ASSERT_TRUE(scenario::OpenMenu(desk, 2));
   desk.MovePointer(scenario::FarAway(desk));

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <optional>
+
 #include "OtherWindow.h"
 #include "RealHome.h"
 #include "platform/DesktopContract.h"
@@ -38,7 +40,7 @@ TEST(DesktopOnWindows, SendGivesTheAnswerAndGivesUpAfterTwoSeconds) {
   const auto window = reinterpret_cast<WindowId>(other.Handle());
   EXPECT_EQ(desktop.Send(window, kAnswered, 0, 0), 7);
   const ULONGLONG before = GetTickCount64();
-  EXPECT_EQ(desktop.Send(window, kNotAnswered, 0, 0), 0);
+  EXPECT_EQ(desktop.Send(window, kNotAnswered, 0, 0), std::nullopt);
   const ULONGLONG waited = GetTickCount64() - before;
   EXPECT_GE(waited, 1900U);
   EXPECT_LT(waited, 3500U);
