@@ -295,8 +295,8 @@ class DockingPort {
   virtual void LeaveEdge() { EndAppBar(); }
   /// True if no other window hides at that edge.
   [[nodiscard]] virtual bool AutoHideFree(Edge edge) = 0;
-  /// Puts the strip at the edge; without one, again at the edge where it belongs. A floating strip in
-  /// the task bar goes there when it comes back.
+  /// Puts the strip at the edge; without one, again at the edge where it belongs. A floating strip
+  /// in the task bar goes there when it comes back.
   virtual void SetAppBar(std::optional<Edge> edge, bool rebuild) = 0;
   /// Auto Hide: shows the strip, hides it but for its line.
   virtual void RevealToolbar() = 0;
