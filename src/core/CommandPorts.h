@@ -40,7 +40,7 @@ class BrowserPort {
   /// The window where a drag of an address began; none when it is not known.
   virtual void NoteDropSource(WindowId window) = 0;
 
-  /// Back to the system's browser. Beeps where the disk keeps the choice.
+  /// Back to the system's browser. Beeps when the choice cannot be removed.
   virtual void UseDefaultBrowser() = 0;
   /// From now on the browser with that path, which the user chose in the window `owner`: what there
   /// is to say is said there, or by the strip once that window is gone. `then` is told true when it

@@ -64,7 +64,7 @@ DataFolder FindDataFolder(const Platform& system, std::string_view programFolder
   const DataChoice choice = ChooseDataFolder(facts);
   if (choice.BesideProgram) return {.Path = beside};
   if (files.FolderExists(own) || files.MakeFolder(own)) return {.Path = own, .Tell = choice.Tell};
-  // Where no file can be made, no menus will lie that need a mark.
+  // If the mark cannot be written here, no menus can either.
   static_cast<void>(files.Replace(standIn, {}));
   return {.Path = beside, .StandsIn = true};
 }

@@ -11,7 +11,7 @@ namespace corvelle {
 inline constexpr std::string_view kPortableMark = "portable";
 
 /// A file of this name beside the program says that what lies there only stands in for the user's
-/// own folder, which could not be reached at some start. It never goes.
+/// own folder, which could not be reached at some start. Nothing removes it.
 inline constexpr std::string_view kStandInMark = "standin";
 
 /// The folder of the menus, below that of the data.

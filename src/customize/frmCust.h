@@ -208,7 +208,7 @@ class frmCust final : public forms::Form,
   void AddFiles();
   /// Tells the user, once the current event is over, that these files were not taken.
   void TellRefused(const std::vector<std::string>& files);
-  /// The path as a record can hold it; empty when none can, of which the user is told.
+  /// The path as a record can hold it; empty, after a message, when none can hold it.
   [[nodiscard]] std::string PathToStore(const std::string& path);
   void SelectFolder();
   void SelectFile();

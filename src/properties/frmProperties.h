@@ -171,8 +171,8 @@ class frmProperties final : public forms::Form, public PropertiesPort, public Ic
   void cmdFolder_Click();
   void SetCommand(const std::optional<DroppedName>& chosen);
   void SetFileEntry(const std::optional<DroppedName>& chosen);
-  /// The title and the path of what the user chooses; nothing when there is none to take, of which
-  /// he has been told.
+  /// The title and the path of what the user chooses. Nothing after Cancel, and, with a message,
+  /// for a path that no record can hold.
   [[nodiscard]] std::optional<DroppedName> ShowOpenFile();
   [[nodiscard]] std::optional<DroppedName> ShowOpenFolder();
   /// Nothing, and a message, for a path that no record can hold.

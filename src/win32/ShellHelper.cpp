@@ -80,7 +80,7 @@ bool ShellHelper::Start() {
   if (inherited.Get() == nullptr) return false;
   STARTUPINFOEXW startup{};
   startup.StartupInfo.cb = sizeof(startup);
-  // No pointer tells of a program that the user has not started.
+  // No busy pointer: the user has not started this program.
   startup.StartupInfo.dwFlags = STARTF_USESTDHANDLES | STARTF_FORCEOFFFEEDBACK;
   startup.StartupInfo.hStdInput = questions.Child.Get();
   startup.StartupInfo.hStdOutput = answers.Child.Get();

@@ -17,7 +17,7 @@ namespace {
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-/// For how long no removal is waited for after one was in vain, in milliseconds.
+/// After a removal that was waited for in vain, none waits for so long. Milliseconds.
 constexpr ULONGLONG kImpatience = 500;
 
 /// What one call reads or writes at most.

@@ -13,20 +13,6 @@ namespace {
 constexpr char kDeletesAButton[] =
     "If you delete a button, you cannot Undo Delete. Do you want to continue ?";
 
-struct EditRow {
-  const char* name;
-  Edge at;
-  PixelRect line;
-  PixelRect revealed;
-  PixelPoint touch;
-};
-
-const EditRow kEditRows[] = {
-    {"top", Edge::Top, {0, 0, 1024, 1}, {0, -3, 1024, 38}, {500, 0}},
-    {"bottom", Edge::Bottom, {0, 767, 1024, 768}, {0, 726, 1024, 768}, {500, 767}},
-    {"left", Edge::Left, {0, 0, 1, 768}, {0, 0, 41, 768}, {0, 400}},
-    {"right", Edge::Right, {1023, 0, 1024, 768}, {982, 0, 1024, 768}, {1023, 400}}};
-
 /// A strip that hides, with the popup of right clicks.
 struct EditDesk : DockDesk {
   EditDesk() {
@@ -51,7 +37,7 @@ struct EditDesk : DockDesk {
 };
 
 TEST(AutoHideEdits, AButtonThatIsDeletedWhenTheStripHasGoneLeavesAWholeStrip) {
-  for (const EditRow& row : kEditRows) {
+  for (const LineRow& row : kLineRows) {
     SCOPED_TRACE(row.name);
     EditDesk desk;
     desk.StartAt(row.at);

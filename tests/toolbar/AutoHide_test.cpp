@@ -29,20 +29,6 @@ struct HidingDesk : DockDesk {
   }
 };
 
-struct LineRow {
-  const char* name;
-  Edge at;
-  PixelRect line;
-  PixelRect revealed;
-  PixelPoint touch;
-};
-
-const LineRow kLines[] = {
-    {"top", Edge::Top, {0, 0, 1024, 1}, {0, -3, 1024, 38}, {500, 0}},
-    {"bottom", Edge::Bottom, {0, 767, 1024, 768}, {0, 726, 1024, 768}, {500, 767}},
-    {"left", Edge::Left, {0, 0, 1, 768}, {0, 0, 41, 768}, {0, 400}},
-    {"right", Edge::Right, {1023, 0, 1024, 768}, {982, 0, 1024, 768}, {1023, 400}}};
-
 TEST(AutoHide, AStartShowsTheStripAndClaimsTheSideWithoutKeepingRoom) {
   HidingDesk desk;
   desk.AskFor(Edge::Right);
@@ -53,13 +39,13 @@ TEST(AutoHide, AStartShowsTheStripAndClaimsTheSideWithoutKeepingRoom) {
                       "querypos 2", "activate"}));
   EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), desk.Strip.hWnd());
   EXPECT_EQ(desk.World.Bars.WorkArea(), (PixelRect{0, 0, 1024, 768}));
-  EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  EXPECT_EQ(desk.Bounds(), kLineRows[3].revealed);
   EXPECT_TRUE(desk.Strip.picToolbar.Visible());
 }
 
 TEST(AutoHide, WhoGoesElsewhereLeavesALineAndATouchBringsTheStripBack) {
   for (const float t : kScales) {
-    for (const LineRow& row : kLines) {
+    for (const LineRow& row : kLineRows) {
       SCOPED_TRACE(std::string(row.name) + " " + std::to_string(t));
       HidingDesk desk({.TwipsPerPixel = t});
       desk.StartAt(row.at);
@@ -88,7 +74,7 @@ TEST(AutoHide, WhoGoesElsewhereLeavesALineAndATouchBringsTheStripBack) {
 }
 
 TEST(AutoHide, ColoursAndFilesThatChangeLeaveALineALineUntilItIsTouched) {
-  for (const LineRow& row : kLines) {
+  for (const LineRow& row : kLineRows) {
     SCOPED_TRACE(row.name);
     HidingDesk desk;
     desk.SetOption(Option::ShowDate, true);
@@ -144,7 +130,7 @@ TEST(AutoHide, TheClaimIsMadeOnceAndMovesWithTheEdge) {
 TEST(AutoHide, SwitchedOnAtAnEdgeTheStripIsALineThereAtOnce) {
   for (const float t : kScales) {
     for (const bool rebuild : {false, true}) {
-      for (const LineRow& row : kLines) {
+      for (const LineRow& row : kLineRows) {
         SCOPED_TRACE(std::string(row.name) + (rebuild ? ", rebuilt " : " ") + std::to_string(t));
         DockDesk desk({.TwipsPerPixel = t});
         desk.StartAt(row.at);
@@ -175,7 +161,7 @@ TEST(AutoHide, SwitchedOffItGivesUpTheClaimAndStandsInFullSight) {
     desk.Docking.SetAppBar(std::nullopt, rebuild);
     EXPECT_EQ(desk.World.Bars.Log(),
               (Messages{"setautohide 2 0", "querypos 2", "setpos 2 982,0,1024,768"}));
-    EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+    EXPECT_EQ(desk.Bounds(), kLineRows[3].revealed);
     EXPECT_TRUE(desk.Strip.picToolbar.Visible());
     EXPECT_TRUE(desk.Strip.picSingleButton.Visible());
     EXPECT_EQ(desk.World.Bars.HiddenBar(Edge::Right), kNoWindow);
@@ -458,7 +444,7 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
     EXPECT_TRUE(desk.TheProgram.Guards.HideBusy);
     // The strip is in full sight already, and the pointer and the foreground are elsewhere: a tick
     // that did its work would hide it.
-    EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+    EXPECT_EQ(desk.Bounds(), kLineRows[3].revealed);
     desk.World.Bars.ClearLog();
     desk.Strip.Timer1_Timer();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
@@ -468,7 +454,7 @@ TEST(AutoHide, ATickInsideAHidingOrARevealStartsNoOther) {
   desk.World.Desktop.StopTimer(inside);
   EXPECT_EQ(ticks, 1);
   EXPECT_FALSE(desk.TheProgram.Guards.HideBusy);
-  EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  EXPECT_EQ(desk.Bounds(), kLineRows[3].revealed);
   // The same tick outside of the reveal hides the strip again.
   desk.Strip.Timer1_Timer();
   EXPECT_TRUE(desk.IsLine());
@@ -522,7 +508,7 @@ TEST(AutoHide, ATickInsideTheTickThatRevealsStartsNoOther) {
   desk.StartHidden(Edge::Right);
   desk.TheProgram.Strip.FullScreenApp = true;
   // No move has come to the line yet.
-  desk.World.Desktop.SetPointerPosition(kLines[3].touch);
+  desk.World.Desktop.SetPointerPosition(kLineRows[3].touch);
   ASSERT_TRUE(desk.IsLine());
   int ticks = 0;
   const forms::TimerId inside = desk.World.Desktop.StartTimer(1, [&desk, &ticks] {
@@ -532,19 +518,19 @@ TEST(AutoHide, ATickInsideTheTickThatRevealsStartsNoOther) {
     desk.World.Bars.ClearLog();
     desk.Strip.Timer1_Timer();
     EXPECT_EQ(desk.World.Bars.Log(), Messages{});
-    EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+    EXPECT_EQ(desk.Bounds(), kLineRows[3].revealed);
   });
   desk.World.Desktop.Jump(5);
   desk.Strip.Timer1_Timer();
   desk.World.Desktop.StopTimer(inside);
   EXPECT_EQ(ticks, 1);
-  EXPECT_EQ(desk.Bounds(), kLines[3].revealed);
+  EXPECT_EQ(desk.Bounds(), kLineRows[3].revealed);
   desk.Strip.Timer1_Timer();
   EXPECT_TRUE(desk.IsLine());
 }
 
 TEST(AutoHide, ARevealUnderAFullScreenProgramComesBeforeTheWindowThatCovers) {
-  for (const LineRow& row : kLines) {
+  for (const LineRow& row : kLineRows) {
     SCOPED_TRACE(row.name);
     HidingDesk desk;
     desk.StartHidden(row.at);
@@ -566,7 +552,7 @@ TEST(AutoHide, ARevealUnderAFullScreenProgramComesBeforeTheWindowThatCovers) {
 }
 
 TEST(AutoHide, RevealedUnderAFullScreenProgramTheStripIsTopmostUntilItHides) {
-  for (const LineRow& row : kLines) {
+  for (const LineRow& row : kLineRows) {
     for (const bool topmost : {false, true}) {
       SCOPED_TRACE(std::string(row.name) + (topmost ? " under a topmost one" : ""));
       HidingDesk desk;

@@ -89,6 +89,21 @@ using Messages = std::vector<std::string>;
 /// Twips of a pixel at 96, 120, 144, 168, 192, 216 and 336 dpi.
 inline constexpr float kScales[] = {15, 12, 10, 1440.0F / 168, 7.5F, 1440.0F / 216, 1440.0F / 336};
 
+/// Where a strip that hides is, for 1024 x 768: as a line, revealed, and the point that reveals it.
+struct LineRow {
+  const char* name;
+  Edge at;
+  PixelRect line;
+  PixelRect revealed;
+  PixelPoint touch;
+};
+
+inline const LineRow kLineRows[] = {
+    {"top", Edge::Top, {0, 0, 1024, 1}, {0, -3, 1024, 38}, {500, 0}},
+    {"bottom", Edge::Bottom, {0, 767, 1024, 768}, {0, 726, 1024, 768}, {500, 767}},
+    {"left", Edge::Left, {0, 0, 1, 768}, {0, 0, 41, 768}, {0, 400}},
+    {"right", Edge::Right, {1023, 0, 1024, 768}, {982, 0, 1024, 768}, {1023, 400}}};
+
 /// Points well inside of the quarters that the screen's diagonals cut, for 1024 x 768.
 inline PixelPoint QuarterOf(Edge at) {
   switch (at) {
